@@ -1,0 +1,50 @@
+# What every target of this project shares: the language, the strict flags and
+# the way public headers are published.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_compile_options(-Wall -Wextra -Wshadow -Wconversion)
+if(ORVT_WARNINGS_AS_ERRORS)
+    add_compile_options(-Werror)
+endif()
+
+add_compile_definitions(
+    QT_NO_KEYWORDS
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# Headers are written beside their sources and included by hosts as
+# <ORVTListview/Name.h>. In the build tree that name is a forwarding header.
+set(ORVT_PUBLIC_INCLUDE_DIR ${PROJECT_BINARY_DIR}/include)
+define_property(GLOBAL PROPERTY ORVT_PUBLIC_HEADERS
+    BRIEF_DOCS "Every published header" FULL_DOCS "Every published header")
+
+function(orvt_publish_headers)
+    foreach(header IN LISTS ARGN)
+        get_filename_component(name ${header} NAME)
+        get_filename_component(path ${header} ABSOLUTE)
+        set(forwarding ${ORVT_PUBLIC_INCLUDE_DIR}/ORVTListview/${name})
+        file(CONFIGURE OUTPUT ${forwarding} CONTENT "#include \"${path}\"\n")
+        install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ORVTListview)
+        set_property(GLOBAL APPEND PROPERTY ORVT_PUBLIC_HEADERS ${name})
+    endforeach()
+endfunction()

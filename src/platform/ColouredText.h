@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+namespace ORVTListview {
+
+// Plain text, lines separated by CR LF, with the colour of each piece. The runs
+// follow each other without gaps and cover the text.
+struct ColouredText
+{
+    static constexpr qint32 automatic = -1; // the box's own text colour
+
+    struct Run
+    {
+        qsizetype length = 0;      // UTF-16 units, CR LF counting two
+        qint32 colour = automatic; // 0x00BBGGRR
+
+        friend bool operator==(const Run &, const Run &) = default;
+    };
+
+    QString text;
+    QList<Run> runs;
+
+    friend bool operator==(const ColouredText &, const ColouredText &) = default;
+};
+
+} // namespace ORVTListview

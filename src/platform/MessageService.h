@@ -1,0 +1,65 @@
+#pragma once
+
+#include <ORVTListview/CoreExport.h>
+
+#include <QtCore/QString>
+
+namespace ORVTListview {
+
+struct Message
+{
+    enum class Icon { None, Exclamation };
+
+    Icon icon = Icon::None;
+    QString title; // empty: the application's name
+    QString text;
+
+    friend bool operator==(const Message &, const Message &) = default;
+};
+
+// Where every message to the user goes. The service in force is told of each
+// message and decides what is shown; one that shows boxes can use a batch to
+// show equal messages of one operation once.
+class ORVT_CORE_EXPORT MessageService
+{
+public:
+    MessageService() = default;
+    Q_DISABLE_COPY_MOVE(MessageService) // its address is what is installed
+    virtual ~MessageService();
+
+    virtual void show(const Message &message) = 0;
+    virtual void beginBatch() {}
+    virtual void endBatch() {}
+};
+
+// The service of one user-interface thread. Never null: without an installed
+// service messages go to the log.
+class ORVT_CORE_EXPORT Messages
+{
+public:
+    MessageService &service() const;
+
+    // The caller keeps the service and keeps it alive; null goes back to the
+    // default. Returns the one in force before, null for the default.
+    MessageService *install(MessageService *service);
+
+    // What install(nullptr) goes back to; the components set it to message boxes.
+    static void setDefaultService(MessageService *service);
+
+private:
+    MessageService *m_installed = nullptr;
+};
+
+// Equal messages shown while one of these lives may be merged by the service.
+class ORVT_CORE_EXPORT MessageBatch
+{
+public:
+    explicit MessageBatch(MessageService &service);
+    ~MessageBatch();
+    Q_DISABLE_COPY_MOVE(MessageBatch) // one begin, one end
+
+private:
+    MessageService &m_service;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <ORVTListview/CoreExport.h>
+
+#include <QtCore/QString>
+#include <QtCore/QStringView>
+
+namespace ORVTListview {
+
+// Character settings of a piece of rich text. What a document does not state is
+// left to whoever shows the text.
+struct RtfFormat
+{
+    static constexpr qint32 automatic = -1;
+
+    QString fontName;              // empty: not stated
+    qint32 halfPoints = 0;         // font size; 0: not stated
+    qint32 colour = automatic;     // 0x00BBGGRR
+    qint32 backColour = automatic; // 0x00BBGGRR
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool strike = false;
+
+    friend bool operator==(const RtfFormat &, const RtfFormat &) = default;
+};
+
+// Receives a document's text in order. Text never holds a line end.
+class ORVT_CORE_EXPORT RtfSink
+{
+public:
+    virtual ~RtfSink();
+    virtual void text(QStringView text, const RtfFormat &format) = 0;
+    virtual void lineEnd() = 0;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <ORVTListview/CoreExport.h>
+#include <ORVTListview/HostObject.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+#include <optional>
+
+namespace ORVTListview {
+
+// A point of the controller: its name as it is to be shown, and a value of the
+// host's own.
+struct Point
+{
+    QString Name;
+    qint32 Data = 0;
+
+    friend bool operator==(const Point &, const Point &) = default;
+};
+
+// The host's points of one kind. The library keeps a reference, never a copy,
+// and never frees it. The host may destroy a collection at any time: from then
+// on the library sees it as not set. All calls come from the user-interface
+// thread.
+class ORVT_CORE_EXPORT PointCollection : public HostObject
+{
+public:
+    ~PointCollection() override;
+
+    virtual qint32 Count() const = 0;
+
+    // Index runs from 1 to Count(); none outside it.
+    virtual std::optional<Point> Item(qint32 Index) const = 0;
+
+    // Key is the point's name in upper case (QString::toUpper); none if absent.
+    virtual std::optional<Point> Find(const QString &Key) const = 0;
+};
+
+// A ready collection: keeps the order of adding, finds by name without regard to
+// case.
+class ORVT_CORE_EXPORT PointList : public PointCollection
+{
+public:
+    PointList();
+    ~PointList() override;
+
+    // Raises Error (InvalidCall) when a point of that name, in any letter case,
+    // is present already.
+    void Add(const QString &Name, qint32 Data = 0);
+
+    // Raises Error (InvalidCall) when there is no such point. Key is a name in
+    // any letter case.
+    void Remove(const QString &Key);
+
+    void Clear();
+
+    qint32 Count() const override;
+    std::optional<Point> Item(qint32 Index) const override;
+    std::optional<Point> Find(const QString &Key) const override;
+
+private:
+    QList<Point> m_points;
+    QHash<QString, qsizetype> m_positions; // upper-case name to place in m_points
+};
+
+} // namespace ORVTListview
