@@ -1,5 +1,7 @@
 #include "project/EditorAppearance.h"
 
+#include "editor/ColourTable.h"
+
 #include <algorithm>
 #include <array>
 
@@ -27,19 +29,18 @@ struct ColourField
 {
     QLatin1StringView member;
     qint32 RichTextSettings::*field;
-    qint32 absent;
 };
 
 constexpr std::array colourFields = {
-    ColourField{"backColour"_L1, &RichTextSettings::BackColor, 0x00DFDFDF},
-    ColourField{"commentColour"_L1, &RichTextSettings::CommentColor, 0x00008000},
-    ColourField{"constantColour"_L1, &RichTextSettings::ConstantColor, 0x00000080},
-    ColourField{"inputColour"_L1, &RichTextSettings::InputColor, 0x000000FF},
-    ColourField{"outputColour"_L1, &RichTextSettings::OutputColor, 0x00FF0080},
-    ColourField{"reservedWordColour"_L1, &RichTextSettings::ReservedWordColor, 0},
-    ColourField{"variableColour"_L1, &RichTextSettings::VariableColor, 0x00FF0000},
-    ColourField{"networkInputColour"_L1, &RichTextSettings::nviFPAColor, 0x00008080},
-    ColourField{"networkOutputColour"_L1, &RichTextSettings::nvoFPAColor, 0},
+    ColourField{"backColour"_L1, &RichTextSettings::BackColor},
+    ColourField{"commentColour"_L1, &RichTextSettings::CommentColor},
+    ColourField{"constantColour"_L1, &RichTextSettings::ConstantColor},
+    ColourField{"inputColour"_L1, &RichTextSettings::InputColor},
+    ColourField{"outputColour"_L1, &RichTextSettings::OutputColor},
+    ColourField{"reservedWordColour"_L1, &RichTextSettings::ReservedWordColor},
+    ColourField{"variableColour"_L1, &RichTextSettings::VariableColor},
+    ColourField{"networkInputColour"_L1, &RichTextSettings::nviFPAColor},
+    ColourField{"networkOutputColour"_L1, &RichTextSettings::nvoFPAColor},
 };
 
 std::optional<qint32> systemColour(QStringView name)
@@ -96,12 +97,12 @@ RichTextSettings readAppearance(const JsonPlace &editor)
         members.append(field.member);
     editor.allowOnly(members);
 
-    RichTextSettings settings;
+    RichTextSettings settings = defaultColours();
     settings.FontName = editor.member(u"fontName"_s).text(u"Monospace"_s);
     settings.FontSize = readFontSize(editor.member(u"fontSize"_s));
     settings.FontStyle = editor.member(u"fontStyle"_s).text();
     for (const ColourField &field : colourFields)
-        settings.*field.field = readColour(editor.member(field.member), field.absent);
+        settings.*field.field = readColour(editor.member(field.member), settings.*field.field);
     return settings;
 }
 
