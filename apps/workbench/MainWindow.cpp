@@ -80,8 +80,8 @@ void MainWindow::showProgram()
     m_code->RTextBox()->setSelStart(0);
     m_code->setFocus();
     const qsizetype lines = m_project->program().count(u"\r\n"_s) + 1;
-    m_programInfo->setText(tr("%1, %n line(s)", nullptr, static_cast<int>(lines))
-                               .arg(QFileInfo(m_project->programFile()).fileName()));
+    m_programInfo->setText(
+        tr("%1, %2 lines").arg(QFileInfo(m_project->programFile()).fileName()).arg(lines));
 }
 
 void MainWindow::applyAppearance()
