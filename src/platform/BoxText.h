@@ -34,6 +34,7 @@ public:
     // again. Not to be asked for while the document is inside an edit block.
     const QString &text() const;
     QString range(qint32 start, qint32 length) const;
+    QString read(int from, int to) const; // between two document positions
 
     qint32 toBox(int documentPosition) const;
     int toDocument(qint32 position) const;
@@ -46,7 +47,6 @@ private:
     void refresh() const;
     QTextBlock blockAt(qint32 position) const;
     int documentLength() const;
-    QString read(int from, int to) const;
 
     QTextDocument &m_document;
     int m_length = 0; // of the document, after the last change

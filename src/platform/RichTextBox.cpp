@@ -1,12 +1,10 @@
 #include "platform/RichTextBox.h"
 
 #include "platform/BoxColours.h"
-#include "platform/BoxFormats.h"
 #include "platform/BoxMarks.h"
 #include "platform/BoxSink.h"
 #include "platform/BoxSource.h"
-#include "platform/BoxText.h"
-#include "platform/Colours.h"
+#include "platform/RichTextBoxParts.h"
 #include "platform/RtfReader.h"
 #include "platform/RtfWriter.h"
 #include "platform/TextSearch.h"
@@ -19,19 +17,6 @@
 #include <limits>
 
 namespace ORVTListview {
-
-struct RichTextBox::Parts
-{
-    explicit Parts(QTextDocument &document)
-        : text(document)
-    {
-    }
-
-    BoxText text;
-    BoxFormats formats;
-    qint32 backColor = Colours::windowBackground;
-    bool isQuiet = false; // a change of formats only is under way
-};
 
 namespace {
 
@@ -62,7 +47,7 @@ QTextCharFormat formatAt(const QTextCursor &cursor)
 
 RichTextBox::RichTextBox(QWidget *parent)
     : QPlainTextEdit(parent)
-    , m_parts(std::make_unique<Parts>(*document()))
+    , m_parts(std::make_unique<Parts>(*this))
 {
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
@@ -138,7 +123,12 @@ void RichTextBox::setSelLength(qint32 length)
 
 QString RichTextBox::SelText() const
 {
-    return m_parts->text.range(SelStart(), SelLength());
+    return textOf(textCursor());
+}
+
+QString RichTextBox::textOf(const QTextCursor &selection) const
+{
+    return m_parts->text.read(selection.selectionStart(), selection.selectionEnd());
 }
 
 void RichTextBox::setSelText(const QString &text)

@@ -8,6 +8,7 @@
 
 namespace ORVTListview {
 
+class BoxCommands;
 struct ColouredText;
 
 // A box for plain and rich text, without word wrap and without an undo of its own.
@@ -136,6 +137,20 @@ public:
     // The text and its colours. A line end belongs to the run before it.
     ColouredText coloured(qint32 start, qint32 length) const;
 
+    // While an input method composes; the text does not hold what it composes.
+    bool isComposing() const;
+
+    // What keys, shortcuts, context menu, drag and drop, middle click and input
+    // method end in. The box owns it; it is a plain editor at first and never null.
+    BoxCommands &commands() const;
+    void setCommands(std::unique_ptr<BoxCommands> commands);
+
+    // The text between a cursor's two ends.
+    QString textOf(const QTextCursor &selection) const;
+
+    // Moves the focus in the window's tab order.
+    void moveFocus(bool forwards);
+
 Q_SIGNALS:
     void Change();
 
@@ -144,23 +159,44 @@ Q_SIGNALS:
     void KeyDown(qint16 &KeyCode, qint16 Shift);
 
 protected:
+    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
+    QMimeData *createMimeDataFromSelection() const override;
 
 private:
     // The toolkit's own ways in, which know nothing of the rules above.
     using QPlainTextEdit::appendHtml;
     using QPlainTextEdit::appendPlainText;
+    using QPlainTextEdit::copy;
+    using QPlainTextEdit::createStandardContextMenu;
+    using QPlainTextEdit::cut;
     using QPlainTextEdit::insertPlainText;
+    using QPlainTextEdit::paste;
+    using QPlainTextEdit::redo;
     using QPlainTextEdit::setDocument;
     using QPlainTextEdit::setPlainText;
     using QPlainTextEdit::setUndoRedoEnabled;
     using QPlainTextEdit::toPlainText;
+    using QPlainTextEdit::undo;
 
     struct Parts;
 
     void select(int anchor, int position);
     void applyBackColor();
     void noteTextChange();
+    bool announceKey(const QKeyEvent &event);
+    bool runShortcut(const QKeyEvent &event);
+    void act(QKeyEvent *event);
+    void keepCaretWhole();
+    void startDrag(const QMouseEvent &event);
 
     std::unique_ptr<Parts> m_parts;
 };
