@@ -100,6 +100,11 @@ Error errorOf(int code, const QString &routine, const QString &description)
 
 } // namespace
 
+bool canCompress(QStringView text)
+{
+    return text.size() <= maximumLength && toWindows1252(text);
+}
+
 QString CompressString(const QString &text)
 {
     try {

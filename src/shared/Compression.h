@@ -16,6 +16,10 @@ namespace ORVTListview::ModZlib {
 // than 256 MiB, and about as much again while it is worked on.
 constexpr qint32 maximumLength = 128 * 1024 * 1024;
 
+// Whether CompressString takes this text: not too long, and all of it in the code
+// page.
+ORVT_CORE_EXPORT bool canCompress(QStringView text);
+
 // Raises Error: compressError() of zlib's return code, or InvalidCall when the
 // code page lacks a character of the text. Nothing is replaced by a similar
 // character, so what succeeds comes back unchanged.

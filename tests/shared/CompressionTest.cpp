@@ -131,6 +131,7 @@ TEST(Compression, EmptyTextIsTheStreamOfNoData)
 TEST(Compression, EveryCharacterOfTheCodePageComesBack)
 {
     const QString text = everyCharacter();
+    EXPECT_TRUE(canCompress(text));
     EXPECT_EQ(UncompressString(CompressString(text)), text);
     for (const QChar character : text) {
         EXPECT_EQ(UncompressString(CompressString(QString(character))), QString(character));
@@ -162,6 +163,7 @@ TEST(Compression, AnyTextOfTheCodePageComesBack)
 TEST(Compression, TextOutsideTheCodePageIsRefusedWhole)
 {
     for (const QString &text : {u"Ω"_s, u"Temp = 20 Ω"_s, u"😀"_s, QString(QChar(0x80))}) {
+        EXPECT_FALSE(canCompress(text));
         const auto error = raisedBy([&] { CompressString(text); });
         ASSERT_TRUE(error);
         EXPECT_EQ(error->Number(), InvalidCall);
@@ -174,6 +176,7 @@ TEST(Compression, TextOutsideTheCodePageIsRefusedWhole)
 TEST(Compression, TextBeyondTheBoundIsRefused)
 {
     const QString text(maximumLength + 1, Qt::Uninitialized);
+    EXPECT_FALSE(canCompress(text));
     const auto error = raisedBy([&] { CompressString(text); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), outOfMemory);
