@@ -34,6 +34,7 @@ public:
     // dsNvi have a collection, perhaps an empty one; null for any other type.
     PointList *points(LwType type);
     IndexedNameList *indexedNames() { return &m_indexedNames; }
+    const QList<ProjectFamily> &families() const { return m_contents.indexedNames; }
 
 private:
     QString m_fileName;
