@@ -6,7 +6,7 @@
 namespace ORVTListview {
 namespace {
 
-enum class When { Always, PopupShown, Selection, AltGrText };
+enum class When { Always, PopupShown, Selection };
 
 struct Rule
 {
@@ -93,8 +93,6 @@ constexpr std::array ctrlKeys{
 
 constexpr std::array otherStates{
     keysThatMove(KeyDecision::ReachBox),
-    // On some systems AltGr arrives as Ctrl+Alt; what it types is text.
-    Rule{lowestKey, highestKey, When::AltGrText, KeyDecision::ReachBox},
     anyOtherKey(KeyDecision::Swallow),
 };
 
@@ -107,8 +105,6 @@ bool holds(When when, const KeyState &state)
         return state.popupListShown;
     case When::Selection:
         return state.hasSelection;
-    case When::AltGrText:
-        return state.isAltGrText;
     }
     return false;
 }

@@ -61,7 +61,6 @@ struct KeyState
 {
     bool popupListShown = false;
     bool hasSelection = false;
-    bool isAltGrText = false; // Ctrl+Alt, and the key types a printable character
 };
 
 ORVT_CORE_EXPORT KeyDecision decideKey(qint16 keyCode, qint16 shift, const KeyState &state);

@@ -75,16 +75,16 @@ void LineCommands::changeSelectedLines(ChangeLine changeLine)
 
         const qsizetype added = std::max(change, 0);
         const qint32 removed = std::max(-change, 0);
-        ColouredText kept = m_box.coloured(
-            lineStart + removed, static_cast<qint32>(before.size()) - removed
-                + (i < lines.last ? 2 : 0));
+        ColouredText kept =
+            m_box.coloured(lineStart + removed,
+                           static_cast<qint32>(before.size()) - removed + (i < lines.last ? 2 : 0));
         if (added > 0)
             changed.runs.append({added, ColouredText::automatic});
         changed.text += after.first(added) + kept.text;
         changed.runs += kept.runs;
     }
-    const qint32 end
-        = m_box.lineStart(lines.last) + static_cast<qint32>(m_box.lineText(lines.last).size());
+    const qint32 end =
+        m_box.lineStart(lines.last) + static_cast<qint32>(m_box.lineText(lines.last).size());
     m_box.setSelStart(begin);
     m_box.setSelLength(end - begin);
     m_box.setSelColoured(changed);
@@ -94,7 +94,8 @@ void LineCommands::changeSelectedLines(ChangeLine changeLine)
 
 void LineCommands::indentSelectedLines()
 {
-    changeSelectedLines([this](const QString &line) { return line.isEmpty() ? line : m_unit + line; });
+    changeSelectedLines(
+        [this](const QString &line) { return line.isEmpty() ? line : m_unit + line; });
 }
 
 void LineCommands::unindentSelectedLines()
@@ -120,7 +121,7 @@ void LineCommands::breakLine()
     const qint32 line = m_box.GetLineFromChar(start);
     const QString indent = GetLineIndent(m_box.lineText(line));
     m_box.setSelText(QStringLiteral("\r\n") + indent.first(std::min<qsizetype>(
-                         indent.size(), start - m_box.lineStart(line))));
+                                                  indent.size(), start - m_box.lineStart(line))));
 }
 
 bool LineCommands::unindentBeforeCaret()
@@ -161,8 +162,8 @@ bool LineCommands::moveToSameOffset(int lines)
     const qint32 line = m_box.GetLineFromChar(caret);
     const qint32 target = line + lines;
     const qint32 offset = caret - m_box.lineStart(line);
-    if (target < 0 || target >= m_box.lineCount() || offset < 1
-        || m_box.lineText(target).size() < offset)
+    if (target < 0 || target >= m_box.lineCount() || offset < 1 ||
+        m_box.lineText(target).size() < offset)
         return false;
     m_box.setSelStart(m_box.lineStart(target) + offset);
     return true;

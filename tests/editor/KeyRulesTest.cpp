@@ -122,12 +122,6 @@ TEST(KeyRules, OtherShiftStates)
     }
 }
 
-TEST(KeyRules, TextTypedWithAltGrIsText)
-{
-    const KeyState text{.isAltGrText = true};
-    EXPECT_EQ(decideKey('E', ctrl + alt, text), KeyDecision::ReachBox);
-}
-
 TEST(KeyRules, OnlyTheLowThreeShiftBitsCount)
 {
     EXPECT_EQ(decideKey('V', static_cast<qint16>(ctrl | 8), idle), KeyDecision::Paste);
