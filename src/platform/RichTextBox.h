@@ -195,6 +195,7 @@ private:
     bool announceKey(const QKeyEvent &event);
     bool runShortcut(const QKeyEvent &event);
     void act(QKeyEvent *event);
+    void deleteBefore();
     void keepCaretWhole();
     void startDrag(const QMouseEvent &event);
 

@@ -46,6 +46,11 @@ bool isEnter(const QKeyEvent &event)
            event.matches(QKeySequence::InsertLineSeparator);
 }
 
+bool isBackspace(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Backspace && (event.modifiers() & ~Qt::ShiftModifier) == 0;
+}
+
 // The toolkit would type a letter that is held with Alt.
 bool isAltText(const QKeyEvent &event)
 {
@@ -129,12 +134,25 @@ void RichTextBox::act(QKeyEvent *event)
         commands().type(QStringLiteral("\r\n"));
     } else if (isTyping(*event)) {
         commands().type(event->text());
+    } else if (isBackspace(*event)) {
+        deleteBefore();
     } else if (isAltText(*event)) {
         event->ignore();
     } else {
         QPlainTextEdit::keyPressEvent(event);
         keepCaretWhole();
     }
+}
+
+// The toolkit would cut a pair in two whose halves differ in format.
+void RichTextBox::deleteBefore()
+{
+    QTextCursor cursor = textCursor();
+    if (!cursor.hasSelection() && !cursor.atStart())
+        cursor.setPosition(m_parts->text.whole(cursor.position() - 1), QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    setTextCursor(cursor);
+    keepCaretWhole();
 }
 
 // Removing what stood between two halves makes them a pair around the caret.
