@@ -2,6 +2,8 @@
 
 #include <QtCore/QCommandLineParser>
 
+#include <utility>
+
 namespace ORVTListview {
 namespace {
 
@@ -41,8 +43,8 @@ void declareOptions(QCommandLineParser &parser)
 
 QStringList namesOf(const QCommandLineParser &parser, const QString &option)
 {
-    const QStringList names = parser.values(option);
-    for (const QString &name : names) {
+    QStringList names = parser.values(option);
+    for (const QString &name : std::as_const(names)) {
         if (name.trimmed().isEmpty())
             throw UsageError(u"--%1 needs a name"_s.arg(option));
     }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <memory>
 
 #ifdef Q_OS_WIN
 #include <fcntl.h>
@@ -39,7 +40,7 @@ int fail(ExitStatus status, const QString &text)
     std::replace_if(
         line.begin(), line.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
         u'?');
-    std::fprintf(stderr, "orvt-colour: %s\n", line.toUtf8().constData());
+    std::fputs(("orvt-colour: " + line.toUtf8() + '\n').constData(), stderr);
     return status;
 }
 

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 struct SystemColour
 {
     QLatin1StringView name;
-    qint32 index;
+    qint32 index = 0;
 };
 
 constexpr std::array systemColours = {
@@ -28,7 +28,7 @@ constexpr std::array systemColours = {
 struct ColourField
 {
     QLatin1StringView member;
-    qint32 RichTextSettings::*field;
+    qint32 RichTextSettings::*field = nullptr;
 };
 
 constexpr std::array colourFields = {

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace ORVTListview {
 namespace {
@@ -29,10 +30,10 @@ QString lineAndColumn(const QByteArray &json, qsizetype offset)
 
 } // namespace
 
-JsonPlace::JsonPlace(const QString &file, const QString &place, const QJsonValue &value)
-    : m_file(file)
-    , m_place(place)
-    , m_value(value)
+JsonPlace::JsonPlace(QString file, QString place, QJsonValue value)
+    : m_file(std::move(file))
+    , m_place(std::move(place))
+    , m_value(std::move(value))
 {
 }
 
@@ -85,7 +86,7 @@ QList<JsonPlace> JsonPlace::items(qsizetype atMost) const
     if (array.size() > atMost)
         fail(u"holds more than %1 elements"_s.arg(atMost));
     QList<JsonPlace> result;
-    for (const QJsonValue &value : array)
+    for (const QJsonValue value : array)
         result.append({m_file, u"%1 #%2"_s.arg(m_place).arg(result.size() + 1), value});
     return result;
 }

@@ -42,7 +42,7 @@ public:
     QString place() const { return m_place; }
 
 private:
-    JsonPlace(const QString &file, const QString &place, const QJsonValue &value);
+    JsonPlace(QString file, QString place, QJsonValue value);
 
     QString m_file;
     QString m_place; // empty for the root

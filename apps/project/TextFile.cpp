@@ -4,6 +4,8 @@
 
 #include <QtCore/QFile>
 
+#include <array>
+
 namespace ORVTListview {
 namespace {
 
@@ -57,14 +59,14 @@ QByteArray readDevice(QIODevice &device, const QString &name)
 {
     // readAll() keeps quiet about a failure.
     QByteArray bytes;
-    char block[65536];
+    std::array<char, 65536> block;
     while (true) {
-        const qint64 count = device.read(block, sizeof block);
+        const qint64 count = device.read(block.data(), block.size());
         if (count < 0)
             failToRead(name, device.errorString());
         if (count == 0)
             return bytes;
-        bytes.append(block, count);
+        bytes.append(block.data(), count);
     }
 }
 

@@ -196,8 +196,9 @@ TEST(Project, ReadsTheFamiliesOfIndexedNames)
     const ProjectFolder folder;
     Project project(writeProject(folder, R"("indexedNames": [
         {"name": "Tmr", "format": "00", "lower": 1, "upper": 15},
-        {"name": "Down", "lower": 2147483647, "upper": -2147483648}])"));
-    ASSERT_EQ(project.indexedNames()->Count(), 2);
+        {"name": "Down", "lower": 2147483647, "upper": -2147483648},
+        {"name": "Most", "lower": -1, "upper": 99998}])"));
+    ASSERT_EQ(project.indexedNames()->Count(), 3);
     EXPECT_EQ(project.indexedNames()->Item(1)->Name(), u"Tmr"_s);
     EXPECT_EQ(project.indexedNames()->Item(1)->NumberFormat(), u"00"_s);
     EXPECT_EQ(project.indexedNames()->Item(1)->LowerBound(), 1);
