@@ -3,6 +3,8 @@
 #include "editor/CodeEditor.h"
 #include "platform/RichTextBox.h"
 
+#include <QtCore/QPointer>
+
 namespace ORVTListview {
 
 EditorKeys::EditorKeys(CodeEditor &editor)
@@ -17,6 +19,7 @@ KeyDecision EditorKeys::decide(qint16 keyCode, qint16 shift) const
 
 void EditorKeys::keyDown(qint16 &KeyCode, qint16 Shift)
 {
+    const QPointer<CodeEditor> editor(&m_editor); // the host may destroy it in an event
     bool reachesBox = false;
     try {
         reachesBox = carryOut(decide(KeyCode, Shift), KeyCode, Shift);
@@ -25,7 +28,8 @@ void EditorKeys::keyDown(qint16 &KeyCode, qint16 Shift)
     }
     if (!reachesBox)
         KeyCode = 0;
-    m_editor.rearmStatusTimer();
+    if (editor)
+        editor->rearmStatusTimer();
 }
 
 bool EditorKeys::carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift)
