@@ -196,16 +196,24 @@ void CodeEditor::RTextSelectAll()
     m_box->setSelLength(m_box->TextLength());
 }
 
+bool CodeEditor::bringBackKeptText()
+{
+    const bool isShown = m_undo.bringBackKeptText();
+    if (isShown)
+        m_colouring.forgetEdit();
+    return isShown;
+}
+
 void CodeEditor::Undo(QString &ErrMsg)
 {
-    m_undo.Undo(ErrMsg);
-    m_colouring.forgetEdit();
+    if (m_undo.Undo(ErrMsg))
+        m_colouring.forgetEdit();
 }
 
 void CodeEditor::Redo(QString &ErrMsg)
 {
-    m_undo.Redo(ErrMsg);
-    m_colouring.forgetEdit();
+    if (m_undo.Redo(ErrMsg))
+        m_colouring.forgetEdit();
 }
 
 QString CodeEditor::GetPositionDisplay() const
@@ -345,11 +353,17 @@ void CodeEditor::pasteChecked(const QString &data)
     if (!PasteText(*m_box, data))
         return;
     if (!isRtf(data)) { // which keeps the colours it came with
-        if (m_box->GetLineFromChar(m_box->SelStart()) != firstLine)
-            m_colouring.finishLine(firstLine);
+        finishLines(firstLine, m_box->GetLineFromChar(m_box->SelStart()));
         m_colouring.noteEdit();
     }
     m_box->ensureCursorVisible();
+}
+
+// Those before the last one, which the caret is still on.
+void CodeEditor::finishLines(qint32 first, qint32 last)
+{
+    for (qint32 line = first; line < last; ++line)
+        m_colouring.finishLine(line);
 }
 
 void CodeEditor::noteTextChange()
@@ -411,6 +425,7 @@ bool CodeEditor::rewriteKnownWord()
         colour = m_popup.words().words()[place].style.Colour;
     }
     SetWordAtCaret(*m_box, word, colour);
+    m_colouring.noteEdit();
     return true;
 }
 
