@@ -66,12 +66,15 @@ void CodeEditor::connectBox()
     m_box->installEventFilter(this);
     m_box->viewport()->installEventFilter(this);
     connect(m_box, &RichTextBox::KeyDown, this, [this](qint16 &keyCode, qint16 shift) {
+        const QPointer<CodeEditor> self(this); // the host may destroy it in an event
         m_keys.keyDown(keyCode, shift);
-        m_isKeyInBox = keyCode != 0;
+        if (self)
+            m_isKeyInBox = keyCode != 0;
     });
     connect(m_box, &RichTextBox::Change, this, &CodeEditor::noteTextChange);
     connect(m_box, &RichTextBox::cursorPositionChanged, this, [this] {
-        m_colouring.followCaret();
+        if (!threadPart<UndoStore>().IsRestoringUndo())
+            m_colouring.followCaret();
         m_popup.follow();
     });
     connect(&m_popup, &PopupWordList::picked, this, &CodeEditor::takeWord);
