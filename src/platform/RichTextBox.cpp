@@ -201,8 +201,12 @@ void RichTextBox::setBackColor(qint32 colour)
 void RichTextBox::applyBackColor()
 {
     const qint32 colour = m_parts->backColor;
+    const bool hasOwn = colour != Colours::windowBackground;
+    if (!hasOwn && !m_parts->hasOwnPalette)
+        return;
+    m_parts->hasOwnPalette = hasOwn;
     QPalette own;
-    if (colour != Colours::windowBackground) {
+    if (hasOwn) {
         const QPalette around = paletteAround(*this);
         own.setColor(QPalette::Base, Colours::toColor(colour, around));
         own.setColor(QPalette::Text, Colours::textOn(colour, around));

@@ -24,6 +24,7 @@ struct RichTextBox::Parts
     BoxText text;
     BoxFormats formats;
     qint32 backColor = Colours::windowBackground;
+    bool hasOwnPalette = false; // set for backColor
     bool isQuiet = false; // a change of formats only is under way
     std::unique_ptr<BoxCommands> commands;
     std::optional<QPoint> dragStart; // where the selection was taken hold of
