@@ -23,6 +23,7 @@ BoxText::BoxText(QTextDocument &document)
     : m_document(document)
     , m_length(documentLength())
 {
+    document.documentLayout(); // a document without one announces no changes
     connect(&document, &QTextDocument::contentsChange, this, &BoxText::noteChange);
 }
 
