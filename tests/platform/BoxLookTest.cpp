@@ -1,21 +1,18 @@
 #include "platform/ColouredText.h"
 #include "platform/RichTextBox.h"
+#include "support/WidgetTest.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtGui/QFontInfo>
-#include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-class BoxLookTest : public QObject
+class BoxLookTest : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
-
     void fontPropertiesSetTheBoxesFont();
     void badFontsChangeNothing();
     void aFontInPixelsHasASizeInPoints();

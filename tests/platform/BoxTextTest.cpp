@@ -1,23 +1,20 @@
 #include "platform/BoxText.h"
+#include "support/WidgetTest.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
-#include <QtTest/QTest>
 
 #include <random>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-class BoxTextTest : public QObject
+class BoxTextTest : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
-
     void anEmptyDocumentHasOneLine();
     void positionsGoBothWays();
     void askingTwiceGivesTheSameText();

@@ -1,18 +1,14 @@
 #include "platform/Colours.h"
-
-#include <QtCore/QRegularExpression>
-#include <QtTest/QTest>
+#include "support/WidgetTest.h"
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-class ColoursTest : public QObject
+class ColoursTest : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
-
     void redIsTheLowByte();
     void systemColoursComeFromThePalette_data();
     void systemColoursComeFromThePalette();
