@@ -57,10 +57,26 @@ RichTextBox::RichTextBox(QWidget *parent)
 
 RichTextBox::~RichTextBox() = default;
 
+// The toolkit tells of edits that changed nothing, too.
 void RichTextBox::noteTextChange()
 {
+    const quint64 changes = m_parts->text.changeCount();
+    if (changes == m_parts->announcedChanges)
+        return;
+    m_parts->announcedChanges = changes;
     if (!m_parts->isQuiet)
         Q_EMIT Change();
+}
+
+// A cleared document forgets its formats, and is faster than one emptied.
+void RichTextBox::replaceAll(const std::function<void()> &insert)
+{
+    {
+        const QScopedValueRollback quiet(m_parts->isQuiet, true);
+        document()->clear();
+        insert();
+    }
+    Q_EMIT Change();
 }
 
 void RichTextBox::select(int anchor, int position)
@@ -78,10 +94,11 @@ QString RichTextBox::Text() const
 
 void RichTextBox::setText(const QString &text)
 {
-    document()->clear();
-    QTextCursor cursor(document());
-    BoxMarks::insert(cursor, text, {});
-    setSelStart(0);
+    replaceAll([&] {
+        QTextCursor cursor(document());
+        BoxMarks::insert(cursor, text, {});
+        setSelStart(0);
+    });
 }
 
 QString RichTextBox::TextRTF() const
@@ -93,8 +110,7 @@ QString RichTextBox::TextRTF() const
 
 void RichTextBox::setTextRTF(const QString &rtf)
 {
-    document()->clear();
-    setSelRTF(rtf);
+    replaceAll([&] { setSelRTF(rtf); });
 }
 
 qint32 RichTextBox::SelStart() const
@@ -201,8 +217,12 @@ void RichTextBox::setBackColor(qint32 colour)
 void RichTextBox::applyBackColor()
 {
     const qint32 colour = m_parts->backColor;
+    const bool hasOwn = colour != Colours::windowBackground;
+    if (!hasOwn && !m_parts->hasOwnPalette)
+        return;
+    m_parts->hasOwnPalette = hasOwn;
     QPalette own;
-    if (colour != Colours::windowBackground) {
+    if (hasOwn) {
         const QPalette around = paletteAround(*this);
         own.setColor(QPalette::Base, Colours::toColor(colour, around));
         own.setColor(QPalette::Text, Colours::textOn(colour, around));
@@ -333,9 +353,10 @@ QString RichTextBox::textRange(qint32 start, qint32 length) const
 
 void RichTextBox::setColoured(const ColouredText &text)
 {
-    document()->clear();
-    setSelColoured(text);
-    setSelStart(0);
+    replaceAll([&] {
+        setSelColoured(text);
+        setSelStart(0);
+    });
 }
 
 void RichTextBox::setSelColoured(const ColouredText &text)
