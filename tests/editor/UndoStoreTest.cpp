@@ -2,6 +2,7 @@
 
 #include "editor/UndoSlot.h"
 #include "shared/ThreadState.h"
+#include "support/MemoryLimit.h"
 #include "support/QtPrinters.h"
 #include "support/Raised.h"
 
@@ -419,6 +420,19 @@ TEST(UndoStoreEncoding, SlotThatIsOverwrittenMeanwhileIsStartedAgain)
     EXPECT_TRUE(ring.isSound());
 }
 
+TEST(UndoStoreEncoding, SlotThatIsBegunIsFinishedFirst)
+{
+    UndoStore ring;
+    ring.StoreUndoSnapshot(longRecord(1000));
+    ring.encodePending(700);
+    ring.ResetUndoBase(QString(2000, u'b'));
+    EXPECT_EQ(ring.pendingBytes(), 4000);
+    EXPECT_TRUE(ring.encodePending(300)); // the rest of slot 1
+    EXPECT_TRUE(ring.encodePending(1999));
+    EXPECT_FALSE(ring.encodePending(1));
+    EXPECT_EQ(ring.UndoSlots(1), encodeUndoSlot(longRecord(1000)));
+}
+
 TEST(UndoStoreEncoding, LookingAtASlotDoesNotDisturbIt)
 {
     UndoStore ring;
@@ -471,6 +485,23 @@ TEST(UndoStoreEncoding, NewestIsNeverEncodedBeforeItsTime)
     EXPECT_EQ(ring.pendingBytes(), 0);
     EXPECT_TRUE(ring.isSound());
 }
+
+#ifdef ORVT_HAS_MEMORY_LIMIT
+
+TEST(UndoStoreEncodingDeathTest, SlotStaysPlainWhenMemoryRunsOut)
+{
+    const auto encodeWithLittleMemory = [] {
+        UndoStore ring;
+        const UndoRecord record = longRecord(20'000'000);
+        ring.StoreUndoSnapshot(record);
+        limitMemory(8'000'000);
+        const bool isPending = ring.encodePending();
+        std::exit(!isPending && ring.isSound() && ring.holdsText(1, record.text) ? 0 : 1);
+    };
+    EXPECT_EXIT(encodeWithLittleMemory(), testing::ExitedWithCode(0), "");
+}
+
+#endif
 
 TEST(UndoStoreDamage, RaisesTheErrorOfItsKind)
 {
