@@ -13,7 +13,7 @@ struct RtfFormat
 {
     static constexpr qint32 automatic = -1;
 
-    QString fontName;              // empty: not stated
+    QString fontName = {};         // empty: not stated
     qint32 halfPoints = 0;         // font size; 0: not stated
     qint32 colour = automatic;     // 0x00BBGGRR
     qint32 backColour = automatic; // 0x00BBGGRR

@@ -1,0 +1,7 @@
+#include "platform/RtfFormat.h"
+
+namespace ORVTListview {
+
+RtfSink::~RtfSink() = default;
+
+} // namespace ORVTListview

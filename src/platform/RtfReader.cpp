@@ -1,0 +1,17 @@
+#include "platform/RtfReader.h"
+
+#include "platform/RtfInterpreter.h"
+
+namespace ORVTListview {
+
+bool isRtf(QStringView text)
+{
+    return text.startsWith(QLatin1StringView("{\\rtf"), Qt::CaseInsensitive);
+}
+
+void readRtf(QStringView rtf, RtfSink &sink)
+{
+    RtfInterpreter(rtf, sink).read();
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <ORVTListview/CoreExport.h>
+
+#include <QtCore/QStringView>
+
+#include <optional>
+
+namespace ORVTListview {
+
+// The text without leading and trailing blanks (U+0020 only).
+ORVT_CORE_EXPORT QStringView trimmedBlanks(QStringView text);
+
+// Numeric, in every locale alike: blanks (spaces, tabs) around an optional sign,
+// digits with an optional decimal point on either side or between them, and an
+// optional exponent ("E", optional sign, digits).
+ORVT_CORE_EXPORT bool isNumeric(QStringView text);
+
+// "true" or "false" in any letter case, or a numeric text, where only zero is
+// false. None for anything else.
+ORVT_CORE_EXPORT std::optional<bool> toBoolean(QStringView text);
+
+// The text in a form in which texts that differ in letter case only are equal.
+// Keeps the length: no character becomes two.
+ORVT_CORE_EXPORT QString foldedCase(QStringView text);
+ORVT_CORE_EXPORT void foldCase(QStringView text, char16_t *folded);
+
+// The text with every line end (CR LF, CR or LF) written as CR LF.
+ORVT_CORE_EXPORT QString withCrLf(const QString &text);
+
+} // namespace ORVTListview

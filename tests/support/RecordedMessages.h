@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/MessageService.h"
+
+#include <QtCore/QList>
+
+// Keeps what would have been shown.
+class RecordedMessages final : public ORVTListview::MessageService
+{
+public:
+    void show(const ORVTListview::Message &message) override { messages.append(message); }
+
+    QList<ORVTListview::Message> messages;
+};
