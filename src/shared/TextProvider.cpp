@@ -6,7 +6,7 @@
 
 namespace ORVTListview {
 
-QString TextKey(const QString &English)
+QString textKey(const QString &English)
 {
     return trimmedBlanks(English).toString().toUpper();
 }

@@ -9,12 +9,12 @@
 
 namespace ORVTListview {
 
-// Translated texts by the key that TextKey gives for the English text.
+// Translated texts by the key that textKey gives for the English text.
 using TextCollection = QHash<QString, QString>;
 
 // The key of an English text: without leading and trailing blanks, in upper case
 // (QString::toUpper), so that "Label", " Label " and "LABEL" share one entry.
-ORVT_CORE_EXPORT QString TextKey(const QString &English);
+ORVT_CORE_EXPORT QString textKey(const QString &English);
 
 // A font for captions. An empty FontName is no font at all; a FontSize of 0
 // keeps the caption's own size. FontSize is in points.

@@ -45,7 +45,7 @@ void TextTable::refresh()
 
 QString TextTable::localise(const QString &text) const
 {
-    const auto found = m_texts.constFind(TextKey(text));
+    const auto found = m_texts.constFind(textKey(text));
     return found == m_texts.cend() ? text : *found;
 }
 
