@@ -384,6 +384,10 @@
         <translation>Einfügen</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>Alles auswählen</translation>
     </message>

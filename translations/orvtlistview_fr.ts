@@ -384,6 +384,10 @@
         <translation>Coller</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>Tout sélectionner</translation>
     </message>

@@ -145,6 +145,7 @@ constexpr LibraryText texts[] = {
     {QT_TRANSLATE_NOOP("ORVTListview", "Copy"), Menu},
     //: Also the title of messages
     {QT_TRANSLATE_NOOP("ORVTListview", "Paste"), Menu},
+    {QT_TRANSLATE_NOOP("ORVTListview", "Delete"), Menu},
     {QT_TRANSLATE_NOOP("ORVTListview", "Select All"), Menu},
     //: The list of known words
     {QT_TRANSLATE_NOOP("ORVTListview", "List not found!"), Message},
