@@ -8,7 +8,22 @@
 namespace ORVTListview {
 namespace {
 
-constexpr QStringView lineBreak = u"\r\n";
+// Looking for one character is several times faster than for a text of two.
+qsizetype findLineBreak(QStringView text, qsizetype from)
+{
+    qsizetype cr = text.indexOf(u'\r', from);
+    while (cr >= 0 && !(cr + 1 < text.size() && text[cr + 1] == u'\n'))
+        cr = text.indexOf(u'\r', cr + 1);
+    return cr;
+}
+
+bool hasBlankBeforeBracket(QStringView line)
+{
+    qsizetype bracket = line.indexOf(u')');
+    while (bracket >= 0 && !(bracket > 0 && line[bracket - 1] == u' '))
+        bracket = line.indexOf(u')', bracket + 1);
+    return bracket >= 0;
+}
 
 // Moves a word's offset in a normalised line back to the line as it was given.
 class OffsetShift final : public ColourSink
@@ -72,7 +87,7 @@ void ColourEngine::colourText(QStringView text, bool firstLineIsComment, ColourS
     const MessageBatch oneBox(m_messages);
     qsizetype from = 0;
     while (true) {
-        const qsizetype found = text.indexOf(lineBreak, from);
+        const qsizetype found = findLineBreak(text, from);
         const qsizetype end = found < 0 ? text.size() : found;
         const QStringView line = text.sliced(from, end - from);
         const bool isComment = (firstLineIsComment && from == 0) || IsCommentLine(line);
@@ -83,13 +98,13 @@ void ColourEngine::colourText(QStringView text, bool firstLineIsComment, ColourS
         if (found < 0)
             return;
         sink.lineEnd();
-        from = found + lineBreak.size();
+        from = found + 2;
     }
 }
 
 void ColourEngine::colourLine(QStringView line, ColourSink &sink) const
 {
-    if (!line.contains(u" )")) {
+    if (!hasBlankBeforeBracket(line)) {
         splitAtBlanks(*this, line, sink);
         return;
     }

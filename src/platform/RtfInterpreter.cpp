@@ -8,11 +8,6 @@ namespace {
 
 constexpr qint32 maximumHalfPoints = 2 * 1638;
 
-bool isBinary(const RtfToken &token)
-{
-    return token.kind == RtfToken::Word && token.text == QLatin1StringView("bin");
-}
-
 } // namespace
 
 RtfInterpreter::RtfInterpreter(QStringView rtf, RtfSink &sink)
@@ -43,8 +38,6 @@ void RtfInterpreter::interpret(RtfToken &token)
         m_isOptional = false;
         return token.kind == RtfToken::GroupStart ? m_groups.start() : endGroup();
     }
-    if (isBinary(token))
-        m_tokens.skip(token.number);
     if (m_groups.isSkipping() || isFallback(token))
         return;
     if (token.kind == RtfToken::Word)
@@ -60,9 +53,10 @@ void RtfInterpreter::interpret(RtfToken &token)
 
 void RtfInterpreter::endGroup()
 {
-    if (m_groups.current().destination == RtfDestination::FontTable)
-        m_fonts.finishEntry();
+    const bool wasFontTable = isIn(RtfDestination::FontTable);
     m_groups.end();
+    if (wasFontTable && !isIn(RtfDestination::FontTable))
+        m_fonts.finishEntry();
 }
 
 // True when nothing is left of the token behind a \u that the reader knows.
@@ -101,7 +95,7 @@ void RtfInterpreter::addCharacter(char16_t character)
         return;
     if (character == u'\r' || character == u'\n')
         endLine();
-    else if (m_groups.current().destination == RtfDestination::FontTable)
+    else if (isIn(RtfDestination::FontTable))
         m_fonts.addCharacters(QStringView(&character, 1));
     else if (isShown())
         m_pieces.addCharacter(character, m_groups.current().characters);
@@ -168,14 +162,20 @@ void RtfInterpreter::endLine()
 
 bool RtfInterpreter::isShown() const
 {
-    const RtfGroup &group = m_groups.current();
-    return group.destination == RtfDestination::Document &&
-           !(group.characters.flags & (RtfHidden | RtfDeleted));
+    const quint32 flags = m_groups.current().characters.flags;
+    return isIn(RtfDestination::Document) && !(flags & (RtfHidden | RtfDeleted));
+}
+
+bool RtfInterpreter::isIn(RtfDestination destination) const
+{
+    return m_groups.current().destination == destination;
 }
 
 qint32 RtfInterpreter::codePage() const
 {
-    const qint32 page = m_fonts.codePage(m_groups.current().characters.font);
+    const qint32 font = m_fonts.orDefault(m_groups.current().characters.font);
+    const qint32 page =
+        isIn(RtfDestination::FontTable) ? m_fonts.entryCodePage() : m_fonts.codePage(font);
     return page ? page : m_codePage;
 }
 
@@ -220,7 +220,6 @@ void RtfInterpreter::carryOutInTable(RtfAction action, qint32 number)
         m_colours.clear();
         return startTable(RtfDestination::ColourTable);
     case RtfAction::SetDefaultFont:
-        m_pieces.flush();
         return m_fonts.setDefault(number);
     case RtfAction::SetCodePage:
         m_codePage = number > 0 ? number : m_codePage;
@@ -277,7 +276,7 @@ void RtfInterpreter::startTable(RtfDestination destination)
 
 void RtfInterpreter::setFont(qint32 number)
 {
-    if (m_groups.current().destination == RtfDestination::FontTable)
+    if (isIn(RtfDestination::FontTable))
         m_fonts.start(number);
     else
         m_groups.current().characters.font = m_fonts.find(number);

@@ -30,6 +30,7 @@ private:
     void addBytes(RtfToken &behind);
     void endLine();
     bool isShown() const;
+    bool isIn(RtfDestination destination) const;
     qint32 codePage() const;
 
     void carryOut(const RtfToken &word);

@@ -92,12 +92,12 @@ constexpr RtfKeyword keywords[] = {
 
     // What is no text of the document. Paragraph numbers are not characters of
     // the text either.
-    {"bin", SkipBinary},
     {"annotation", SkipDestination},
     {"atnid", SkipDestination},
     {"bkmkend", SkipDestination},
     {"bkmkstart", SkipDestination},
     {"colorschememapping", SkipDestination},
+    {"comment", SkipDestination},
     {"datafield", SkipDestination},
     {"datastore", SkipDestination},
     {"do", SkipDestination},

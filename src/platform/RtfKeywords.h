@@ -6,32 +6,31 @@
 
 namespace ORVTListview {
 
-// What a control word asks of the reader. "N" is the number behind the word,
-// "value" the number in the keyword's own entry.
+// What a control word asks of the reader. N is the number behind the word, V the
+// value in the keyword's own entry.
 enum class RtfAction {
-    AddCharacter,    // the character "value"
-    AddUnicode,      // the UTF-16 unit N, with a fallback behind it
-    SetFallback,     // a fallback has N characters
-    EndLine,         //
-    SkipBinary,      // N characters of data follow
-    SkipDestination, // the rest of the group is no text
-    StartFontTable,  //
-    StartColourTable,
-    SetCodePage,     // of the document: N
-    FixCodePage,     // of the document: "value"
-    SetDefaultFont,  // the font N
-    SetFontCharset,  // of the font being described
-    SetFontCodePage, // of the font being described
-    SetRed,          // of the colour being described
-    SetGreen,        //
-    SetBlue,         //
-    ResetCharacters, // all character settings
-    SetFont,         // the font N
-    SetSize,         // N half-points
-    SetColour,       // the colour table's entry N
-    SetBackColour,   //
-    SetFlag,         // the flag "value": on, or off where N is 0
-    ClearFlag,       // the flag "value"
+    AddCharacter,     // the character V
+    AddUnicode,       // the UTF-16 unit N; a fallback follows
+    SetFallback,      // a fallback has N characters
+    EndLine,          // of the text
+    SkipDestination,  // the rest of the group is no text
+    StartFontTable,   // the rest of the group describes fonts
+    StartColourTable, // the rest of the group describes colours
+    SetCodePage,      // N is the document's
+    FixCodePage,      // V is the document's
+    SetDefaultFont,   // the font N
+    SetFontCharset,   // of the font being described
+    SetFontCodePage,  // of the font being described
+    SetRed,           // of the colour being described
+    SetGreen,         // of the colour being described
+    SetBlue,          // of the colour being described
+    ResetCharacters,  // all character settings
+    SetFont,          // the font N
+    SetSize,          // N half-points
+    SetColour,        // entry N of the colour table
+    SetBackColour,    // entry N of the colour table
+    SetFlag,          // the flag V: on, or off where N is 0
+    ClearFlag,        // the flag V
 };
 
 // Character settings that are on or off.
@@ -51,8 +50,7 @@ struct RtfKeyword
     quint32 value = 0;
 };
 
-// The keyword of that name, which is spelled with regard to case; null where the
-// reader does not know it.
+// The keyword of exactly that name; null where the reader does not know it.
 const RtfKeyword *findRtfKeyword(QStringView name);
 
 } // namespace ORVTListview

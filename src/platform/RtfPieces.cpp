@@ -47,11 +47,13 @@ void RtfPieces::flush()
     m_format.strike = m_characters.flags & RtfStrike;
     m_sink.text(text, m_format);
     m_stretch = {};
-    m_copy.resize(0);
+    if (!m_copy.isEmpty())
+        m_copy.resize(0); // keeps its memory
 }
 
-void RtfPieces::change(const RtfCharacters &characters)
+void RtfPieces::change(RtfCharacters characters)
 {
+    characters.font = m_fonts.orDefault(characters.font);
     if (characters == m_characters)
         return;
     flush();
@@ -60,6 +62,8 @@ void RtfPieces::change(const RtfCharacters &characters)
 
 void RtfPieces::copyStretch()
 {
+    if (m_stretch.isEmpty())
+        return;
     m_copy.append(m_stretch);
     m_stretch = {};
 }

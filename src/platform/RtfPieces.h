@@ -34,7 +34,7 @@ public:
     void flush();
 
 private:
-    void change(const RtfCharacters &characters);
+    void change(RtfCharacters characters);
     void copyStretch();
 
     RtfSink &m_sink;

@@ -66,22 +66,9 @@ qint32 RtfFontTable::find(qint32 number) const
     return m_positions.value(number, none);
 }
 
-QString RtfFontTable::name(qint32 position) const
+const RtfFontTable::Font &RtfFontTable::at(qint32 position) const
 {
-    const Font *font = at(position);
-    return font ? font->name : QString();
-}
-
-qint32 RtfFontTable::codePage(qint32 position) const
-{
-    const Font *font = at(position);
-    return font ? font->codePage : 0;
-}
-
-const RtfFontTable::Font *RtfFontTable::at(qint32 position) const
-{
-    const qint32 stated = position == none ? m_default : position;
-    return stated == none ? nullptr : &m_fonts[static_cast<std::size_t>(stated)];
+    return position == none ? m_unstated : m_fonts[static_cast<std::size_t>(position)];
 }
 
 void RtfColourTable::clear()

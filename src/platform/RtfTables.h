@@ -13,7 +13,8 @@ namespace ORVTListview {
 constexpr qsizetype rtfMaximumTableEntries = 4096;
 
 // The fonts of a document. An entry is described by its number, its properties
-// and its name, and counts from the ";" or the end of its group on.
+// and its name, and counts from the ";" on, from the next one or from the end of
+// the table.
 class RtfFontTable
 {
 public:
@@ -28,21 +29,26 @@ public:
     void addSource(QStringView text);     // of the name, where ";" ends the entry
     void finishEntry();
 
-    // A position in the table, or none.
+    qint32 entryCodePage() const { return m_entry.codePage; }
+
+    // The position of a font, or none.
     qint32 find(qint32 number) const;
 
-    // What stands at a position; for none, the default font.
-    QString name(qint32 position) const;
-    qint32 codePage(qint32 position) const; // 0: the document's
+    // The position itself; for none, that of the default font, if there is one.
+    qint32 orDefault(qint32 position) const { return position == none ? m_default : position; }
+
+    // What stands at a position; empty and 0 for none.
+    const QString &name(qint32 position) const { return at(position).name; }
+    qint32 codePage(qint32 position) const { return at(position).codePage; }
 
 private:
     struct Font
     {
         QString name;
-        qint32 codePage = 0;
+        qint32 codePage = 0; // 0: the document's
     };
 
-    const Font *at(qint32 position) const;
+    const Font &at(qint32 position) const;
 
     std::vector<Font> m_fonts;
     QHash<qint32, qint32> m_positions;
@@ -51,6 +57,7 @@ private:
     bool m_isOpen = false;
     qint32 m_number = 0;
     Font m_entry;
+    Font m_unstated;
 };
 
 // The colours of a document, each 0x00BBGGRR or automatic.

@@ -1,7 +1,8 @@
 #include "platform/RtfTokenizer.h"
 
+#include <QtCore/QLatin1StringView>
+
 #include <algorithm>
-#include <array>
 #include <limits>
 
 namespace ORVTListview {
@@ -67,15 +68,11 @@ RtfToken RtfTokenizer::next()
     }
 }
 
-void RtfTokenizer::skip(qint32 units)
-{
-    m_next += std::clamp<qsizetype>(units, 0, m_end - m_next);
-}
-
 RtfToken RtfTokenizer::text()
 {
     const char16_t *start = m_next;
-    m_next = std::find_if(m_next, m_end, endsText);
+    while (!atEnd() && !endsText(*m_next))
+        ++m_next;
     return {.kind = RtfToken::Text, .text = QStringView(start, m_next)};
 }
 
@@ -95,12 +92,15 @@ RtfToken RtfTokenizer::control()
 RtfToken RtfTokenizer::word()
 {
     const char16_t *start = m_next;
-    m_next = std::find_if_not(m_next, m_end, isLetter);
+    while (!atEnd() && isLetter(*m_next))
+        ++m_next;
     RtfToken token{.kind = RtfToken::Word};
     token.text = QStringView(start, std::min<qsizetype>(m_next - start, maximumNameLength));
     readNumber(token);
     if (!atEnd() && *m_next == u' ')
         ++m_next;
+    if (token.text == QLatin1StringView("bin"))
+        skip(token.number);
     return token;
 }
 
@@ -117,6 +117,11 @@ void RtfTokenizer::readNumber(RtfToken &token)
     token.hasNumber = true;
     token.number = static_cast<qint32>(negative ? -value : value);
     m_next = digit;
+}
+
+void RtfTokenizer::skip(qint32 units)
+{
+    m_next += std::clamp<qsizetype>(units, 0, m_end - m_next);
 }
 
 // Without two hexadecimal digits \' says nothing, and what follows is read as usual.

@@ -24,7 +24,8 @@ struct RtfToken
     char16_t symbol = u'\0'; // Symbol: the character; Byte: the value
 };
 
-// Cuts a document into tokens, in one pass. Raw CR, LF and NUL belong to no token.
+// Cuts a document into tokens, in one pass. Raw CR, LF and NUL belong to no token,
+// nor does the binary data behind \binN, which ends with the input at the latest.
 class RtfTokenizer
 {
 public:
@@ -35,9 +36,6 @@ public:
 
     RtfToken next();
 
-    // Jumps over binary data, at most to the end of the input.
-    void skip(qint32 units);
-
 private:
     bool atEnd() const { return m_next == m_end; }
     RtfToken text();
@@ -45,6 +43,7 @@ private:
     RtfToken word();
     RtfToken byte();
     void readNumber(RtfToken &token);
+    void skip(qint32 units);
 
     const char16_t *m_next;
     const char16_t *m_end;

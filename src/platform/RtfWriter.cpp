@@ -1,57 +1,15 @@
 #include "platform/RtfWriter.h"
 
+#include "platform/RtfEscapes.h"
 #include "platform/RtfTables.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace ORVTListview {
 namespace {
 
-bool isPlain(QChar c)
-{
-    return c >= u' ' && c < u'\x80' && c != u'\\' && c != u'{' && c != u'}';
-}
-
-// Every control word written here ends in a character that is not part of the
-// text, so that no blank or digit of the text is taken for its own.
-void appendEscaped(QString &out, QChar c)
-{
-    if (c == u'\0')
-        return;
-    if (c == u'\t')
-        out += "\\tab "_L1;
-    else if (c < u' ')
-        out += "\\'"_L1 + QString::number(c.unicode(), 16).rightJustified(2, u'0');
-    else if (c < u'\x80')
-        out += u'\\' + c;
-    else
-        out += "\\u"_L1 + QString::number(static_cast<qint16>(c.unicode())) + u'?';
-}
-
-void appendText(QString &out, QStringView text)
-{
-    while (!text.isEmpty()) {
-        const auto end = std::find_if_not(text.cbegin(), text.cend(), isPlain);
-        const qsizetype length = end - text.cbegin();
-        out += text.first(length);
-        if (length < text.size())
-            appendEscaped(out, *end);
-        text = text.sliced(std::min(length + 1, text.size()));
-    }
-}
-
-// A ";" of the name itself must not end the table's entry.
-void appendFontName(QString &out, const QString &name)
-{
-    for (const QChar c : name) {
-        if (c == u';')
-            out += "\\'3b"_L1;
-        else
-            appendText(out, QStringView(&c, 1));
-    }
-}
+// What follows stands on a line of its own; a blank there is text.
+constexpr QLatin1StringView lineEndWord("\\par\r\n");
 
 } // namespace
 
@@ -69,26 +27,39 @@ void RtfWriter::text(QStringView text, const RtfFormat &format)
         start(format);
     else
         change(format);
-    appendText(m_body, text);
+    appendRtfText(m_body, text);
 }
 
 void RtfWriter::lineEnd()
 {
     if (!m_isStarted)
         start(m_base);
-    m_body += "\\par\r\n"_L1;
+    m_body += lineEndWord;
 }
 
 QString RtfWriter::finish()
 {
     if (!m_isStarted)
         start(m_base);
+    showLastLineEnd();
     QString document;
     document.reserve(m_body.size() + 256);
     writeFontTable(document);
     writeColourTable(document);
-    document += "\\viewkind4\\uc1\\pard"_L1 + m_body + "}\r\n"_L1;
+    document += "\\viewkind4\\uc1\\pard"_L1;
+    document += m_body;
+    document += "}\r\n"_L1;
     return document;
+}
+
+// To most readers a \par with nothing behind it only closes the last paragraph,
+// and the empty line that it begins would be lost.
+void RtfWriter::showLastLineEnd()
+{
+    if (!m_body.endsWith(lineEndWord))
+        return;
+    m_body.chop(lineEndWord.size());
+    m_body += "\\line\r\n"_L1;
 }
 
 RtfWriter::Settings RtfWriter::settingsOf(const RtfFormat &format)
@@ -97,7 +68,7 @@ RtfWriter::Settings RtfWriter::settingsOf(const RtfFormat &format)
         return stated == RtfFormat::automatic ? base : stated;
     };
     return {.font = format.fontName.isEmpty() ? 0 : fontIndex(format.fontName),
-            .halfPoints = format.halfPoints ? format.halfPoints : m_base.halfPoints,
+            .halfPoints = format.halfPoints > 0 ? format.halfPoints : m_base.halfPoints,
             .colour = colourIndex(either(format.colour, m_base.colour)),
             .backColour = colourIndex(either(format.backColour, m_base.backColour)),
             .bold = format.bold,
@@ -180,14 +151,17 @@ void RtfWriter::writeChanges(const Settings &settings)
 
 void RtfWriter::writeWord(QLatin1StringView word, qint64 number)
 {
-    m_body += u'\\' + word + QString::number(number);
+    m_body += u'\\';
+    m_body += word;
+    appendRtfNumber(m_body, number);
 }
 
 void RtfWriter::writeFlag(QLatin1StringView word, bool before, bool now)
 {
     if (before == now)
         return;
-    m_body += u'\\' + word;
+    m_body += u'\\';
+    m_body += word;
     if (!now)
         m_body += u'0';
 }
@@ -197,7 +171,7 @@ void RtfWriter::writeFontTable(QString &document) const
     document += "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl"_L1;
     for (qsizetype i = 0; i < m_fonts.size(); ++i) {
         document += "{\\f"_L1 + QString::number(i) + "\\fnil\\fcharset0 "_L1;
-        appendFontName(document, m_fonts[i]);
+        appendRtfFontName(document, m_fonts[i]);
         document += ";}"_L1;
     }
     document += "}\r\n"_L1;
@@ -209,9 +183,9 @@ void RtfWriter::writeColourTable(QString &document) const
         return;
     document += "{\\colortbl ;"_L1;
     for (const qint32 colour : m_colours)
-        document += u"\\red%1\\green%2\\blue%3;"_s.arg(colour & 0xFF)
-                        .arg(colour >> 8 & 0xFF)
-                        .arg(colour >> 16 & 0xFF);
+        document += u"\\red%1\\green%2\\blue%3;"_s.arg(QString::number(colour & 0xFF),
+                                                       QString::number(colour >> 8 & 0xFF),
+                                                       QString::number(colour >> 16 & 0xFF));
     document += "}\r\n"_L1;
 }
 

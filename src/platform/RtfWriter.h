@@ -49,6 +49,7 @@ private:
     void writeChanges(const Settings &settings);
     void writeWord(QLatin1StringView word, qint64 number);
     void writeFlag(QLatin1StringView word, bool before, bool now);
+    void showLastLineEnd();
     void writeFontTable(QString &document) const;
     void writeColourTable(QString &document) const;
 

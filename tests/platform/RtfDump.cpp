@@ -15,7 +15,7 @@ public:
     void text(QStringView text, const RtfFormat &) override { all += text; }
     void lineEnd() override { all += u"\r\n"; }
 
-    QString all;
+    QString all = u""_s; // never null
 };
 
 QString describeColour(QLatin1StringView name, qint32 colour)

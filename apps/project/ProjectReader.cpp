@@ -1,0 +1,153 @@
+#include "project/ProjectReader.h"
+
+#include "project/EditorAppearance.h"
+#include "project/JsonPlace.h"
+#include "project/TextFile.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+#include <limits>
+
+namespace ORVTListview {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Tables count their rows with 16 bits.
+constexpr qsizetype mostRows = std::numeric_limits<qint16>::max();
+
+// The vocabulary takes no larger family.
+constexpr qint64 mostNamesOfAFamily = 100000;
+
+constexpr qint32 knownFormat = 1;
+
+bool isPrintable(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(),
+                       [](QChar c) { return c.category() != QChar::Other_Control; });
+}
+
+QString readName(const JsonPlace &place)
+{
+    const QString name = place.required().text();
+    if (name.trimmed().isEmpty() || name != name.trimmed() || !isPrintable(name))
+        place.fail(u"a name is expected, without blanks around it and control characters"_s);
+    return name;
+}
+
+QVariant readValue(const JsonPlace &place)
+{
+    if (place.isText())
+        return place.text();
+    if (!place.isNumber())
+        place.fail(u"a number or a text is expected"_s);
+    return place.number();
+}
+
+QVariant readCell(const JsonPlace &place, CellKind kind)
+{
+    if (kind == CellKind::Name)
+        return readName(place);
+    if (!place.isPresent())
+        return {};
+    switch (kind) {
+    case CellKind::Number:
+        return place.number();
+    case CellKind::Value:
+        return readValue(place);
+    case CellKind::YesNo:
+        return place.boolean();
+    default:
+        return place.text();
+    }
+}
+
+ProjectRow readRow(const JsonPlace &place, LwType type, qint32 number)
+{
+    ProjectRow row;
+    QStringList members;
+    for (const ProjectColumn &column : projectColumns(type)) {
+        members.append(column.member);
+        row.cells.append(readCell(place.member(column.member), column.kind));
+        if (column.kind == CellKind::Name)
+            row.name = row.cells.constLast().toString();
+    }
+    if (isVocabularyType(type)) {
+        members.append(u"data"_s);
+        row.data = place.member(u"data"_s).integer(number);
+    }
+    place.allowOnly(members);
+    return row;
+}
+
+QList<ProjectRow> readRows(const JsonPlace &list, LwType type)
+{
+    QList<ProjectRow> rows;
+    QHash<QString, QString> places; // upper-case name to the place that has it
+    for (const JsonPlace &item : list.items(mostRows)) {
+        rows.append(readRow(item, type, static_cast<qint32>(rows.size()) + 1));
+        const QString &name = rows.constLast().name;
+        QString &former = places[name.toUpper()];
+        if (!name.isEmpty() && !former.isEmpty())
+            item.member(u"name"_s).fail(u"\"%1\" is the name of %2 too"_s.arg(name, former));
+        former = item.place();
+    }
+    return rows;
+}
+
+ControllerInfo readController(const JsonPlace &place)
+{
+    place.allowOnly({u"model"_s, u"address"_s, u"location"_s, u"sqrt"_s, u"hoa"_s});
+    return {place.member(u"model"_s).text(), place.member(u"address"_s).text(),
+            place.member(u"location"_s).text(), place.member(u"sqrt"_s).boolean(),
+            place.member(u"hoa"_s).boolean()};
+}
+
+ProjectFamily readFamily(const JsonPlace &place)
+{
+    place.allowOnly({u"name"_s, u"format"_s, u"lower"_s, u"upper"_s});
+    const ProjectFamily family = {readName(place.member(u"name"_s)),
+                                  place.member(u"format"_s).text(),
+                                  place.member(u"lower"_s).required().integer(),
+                                  place.member(u"upper"_s).required().integer()};
+    if (qint64(family.upperBound) - family.lowerBound >= mostNamesOfAFamily)
+        place.fail(u"has more than %1 names"_s.arg(mostNamesOfAFamily));
+    return family;
+}
+
+void checkForm(const JsonPlace &root)
+{
+    const JsonPlace format = root.member(u"format"_s);
+    if (format.required().integer() != knownFormat)
+        format.fail(u"only the form %1 can be read"_s.arg(knownFormat));
+    QStringList members = {u"format"_s,       u"name"_s,   u"controller"_s,
+                           u"indexedNames"_s, u"editor"_s, u"program"_s};
+    for (const LwType type : projectTypes())
+        members.append(projectMember(type));
+    root.allowOnly(members);
+}
+
+} // namespace
+
+ProjectContents readProject(const QString &fileName)
+{
+    const JsonPlace root = JsonPlace::parse(readFile(fileName), fileName);
+    checkForm(root);
+    ProjectContents contents;
+    contents.name = readName(root.member(u"name"_s));
+    contents.controller = readController(root.member(u"controller"_s));
+    for (const LwType type : projectTypes())
+        contents.rows.insert(type, readRows(root.member(projectMember(type)), type));
+    for (const JsonPlace &item : root.member(u"indexedNames"_s).items(mostRows))
+        contents.indexedNames.append(readFamily(item));
+    contents.editor = readAppearance(root.member(u"editor"_s));
+
+    const QDir folder = QFileInfo(fileName).dir();
+    contents.programFile = folder.filePath(readName(root.member(u"program"_s)));
+    contents.program = decodeProgram(readFile(contents.programFile), contents.programFile);
+    return contents;
+}
+
+} // namespace ORVTListview

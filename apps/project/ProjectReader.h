@@ -1,0 +1,61 @@
+#pragma once
+
+#include "project/ProjectColumns.h"
+
+#include <ORVTListview/Types.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+namespace ORVTListview {
+
+struct ControllerInfo
+{
+    QString model;
+    QString address;
+    QString location;
+    bool isSqrtSupported = false;
+    bool isHOASupported = false; // outputs have hardware overrides
+
+    friend bool operator==(const ControllerInfo &, const ControllerInfo &) = default;
+};
+
+// One row of a point table.
+struct ProjectRow
+{
+    QString name;       // empty where the type's points have none
+    qint32 data = 0;    // the host's value of a point
+    QVariantList cells; // one for each of projectColumns(): QString, double, bool or invalid
+
+    friend bool operator==(const ProjectRow &, const ProjectRow &) = default;
+};
+
+// A family of indexed names.
+struct ProjectFamily
+{
+    QString name;
+    QString numberFormat;
+    qint32 lowerBound = 0;
+    qint32 upperBound = 0;
+
+    friend bool operator==(const ProjectFamily &, const ProjectFamily &) = default;
+};
+
+// All that a project file and its program say, as plain values.
+struct ProjectContents
+{
+    QString name;
+    ControllerInfo controller;
+    QHash<LwType, QList<ProjectRow>> rows;
+    QList<ProjectFamily> indexedNames;
+    RichTextSettings editor;
+    QString programFile; // as it can be opened
+    QString program;     // lines separated by CR LF
+};
+
+// The form of the file is told in docs/project-file.md. Raises Error with a
+// ProjectErrorNumber for the first thing that is wrong.
+ProjectContents readProject(const QString &fileName);
+
+} // namespace ORVTListview

@@ -1,0 +1,49 @@
+#include "editor/CheckedPaste.h"
+
+#include "editor/CodeText.h"
+#include "editor/ColourText.h"
+#include "editor/EditorState.h"
+#include "editor/ThreadColouring.h"
+#include "platform/RichTextBox.h"
+#include "platform/RtfReader.h"
+#include "platform/TextRules.h"
+#include "shared/ThreadState.h"
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void warn(const QString &text)
+{
+    threadPart<Messages>().service().show({Message::Icon::Exclamation, u"Paste"_s, text});
+}
+
+} // namespace
+
+bool PasteText(RichTextBox &box, const QString &Data)
+{
+    if (isRtf(Data)) {
+        box.setSelRTF(Data);
+        return true;
+    }
+    if (Data.contains(u'\\')) {
+        warn(u"Invalid letter: '\\' that is reserved to RTF!"_s);
+        return false;
+    }
+    const bool continuesComment = IsCommentLine(box.lineText(box.GetLineFromChar(box.SelStart())));
+    box.setSelColoured(colouredText(threadColouring(), withCrLf(Data), continuesComment,
+                                    threadPart<EditorState>().EditorSettings));
+    return true;
+}
+
+bool acceptPasteSize(const QString &data)
+{
+    if (data.size() * qsizetype{sizeof(QChar)} <= largestPaste)
+        return true;
+    warn(u"The text is too large."_s);
+    return false;
+}
+
+} // namespace ORVTListview

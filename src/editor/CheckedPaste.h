@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace ORVTListview {
+
+class RichTextBox;
+
+// Puts text in the place of the selection: RTF as it is, plain text in its colours,
+// but nothing at all, with a message, when it holds a "\". On a comment line the
+// first line pasted continues the comment. True when it was put in.
+bool PasteText(RichTextBox &box, const QString &Data);
+
+// Larger clipboard texts are refused, with a message. Bytes of UTF-16.
+constexpr qsizetype largestPaste = 64 * 1024 * 1024;
+
+// False, after the message, for a text that is too large.
+bool acceptPasteSize(const QString &data);
+
+} // namespace ORVTListview

@@ -1,0 +1,95 @@
+#include "editor/CodeCommands.h"
+
+#include "editor/CodeEditor.h"
+#include "editor/EditorKeys.h"
+#include "editor/UndoStore.h"
+#include "platform/RichTextBox.h"
+#include "shared/ThreadState.h"
+
+#include <QtCore/QMimeData>
+#include <QtGui/QAction>
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QMenu>
+
+namespace ORVTListview {
+
+CodeCommands::CodeCommands(CodeEditor &editor)
+    : BoxCommands(editor.box())
+    , m_editor(editor)
+{
+}
+
+std::optional<bool> CodeCommands::takesKey(const VirtualKey &key) const
+{
+    switch (const KeyDecision decision = m_editor.decideKey(key.keyCode, key.shift)) {
+    case KeyDecision::ReachBox:
+        return {}; // the toolkit's choice for characters and moves
+    default:
+        return isTakenFromShortcuts(decision);
+    }
+}
+
+void CodeCommands::type(const QString &text)
+{
+    m_editor.typeText(text);
+}
+
+bool CodeCommands::paste(const QMimeData &data)
+{
+    return data.hasText() && m_editor.pasteFromOutside(data.text());
+}
+
+void CodeCommands::copy()
+{
+    m_editor.RTextCopy();
+}
+
+void CodeCommands::cut()
+{
+    m_editor.cutByKey();
+}
+
+void CodeCommands::remove()
+{
+    m_editor.removeSelection();
+}
+
+void CodeCommands::selectAll()
+{
+    m_editor.RTextSelectAll();
+}
+
+void CodeCommands::undo()
+{
+    QString errMsg;
+    m_editor.Undo(errMsg);
+}
+
+void CodeCommands::redo()
+{
+    QString errMsg;
+    m_editor.Redo(errMsg);
+}
+
+void CodeCommands::leave(bool forwards)
+{
+    m_editor.giveBackTabStops();
+    box().moveFocus(forwards);
+}
+
+void CodeCommands::fillMenu(QMenu &menu)
+{
+    const auto &ring = threadPart<UndoStore>();
+    const auto add = [this, &menu](const QString &text, bool isEnabled,
+                                   void (CodeCommands::*act)()) {
+        menu.addAction(text, &menu, [this, act] { (this->*act)(); })->setEnabled(isEnabled);
+    };
+    const bool canChange = !box().isReadOnly();
+    add(RichTextBox::tr("&Undo"), canChange && ring.CanUndo(), &CodeCommands::undo);
+    add(RichTextBox::tr("&Redo"), canChange && (ring.CanRedo() || m_editor.canBringBackKeptText()),
+        &CodeCommands::redo);
+    menu.addSeparator();
+    BoxCommands::fillMenu(menu);
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/BoxCommands.h"
+
+namespace ORVTListview {
+
+class CodeEditor;
+
+// Every way into and out of the editor's box: typed text, context menu, drag and
+// drop, middle click and input method follow the same rules as the keys.
+class CodeCommands : public BoxCommands
+{
+public:
+    explicit CodeCommands(CodeEditor &editor);
+
+    std::optional<bool> takesKey(const VirtualKey &key) const override;
+    void type(const QString &text) override;
+    bool paste(const QMimeData &data) override;
+    void copy() override;
+    void cut() override;
+    void remove() override;
+    void selectAll() override;
+    void undo() override;
+    void redo() override;
+    void leave(bool forwards) override;
+    void fillMenu(QMenu &menu) override;
+
+private:
+    CodeEditor &m_editor;
+};
+
+} // namespace ORVTListview

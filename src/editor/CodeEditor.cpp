@@ -1,0 +1,462 @@
+#include "editor/CodeEditor.h"
+
+#include "editor/CheckedPaste.h"
+#include "editor/CodeCommands.h"
+#include "editor/ColourText.h"
+#include "editor/EditorState.h"
+#include "editor/RtfHead.h"
+#include "editor/ThreadColouring.h"
+#include "editor/WordInBox.h"
+#include "platform/MessageBoxes.h"
+#include "platform/MouseArguments.h"
+#include "platform/ReportList.h"
+#include "platform/RichTextBox.h"
+#include "platform/RtfReader.h"
+#include "platform/TextRules.h"
+#include "shared/HostForms.h"
+#include "shared/ThreadState.h"
+
+#include <QtCore/QScopeGuard>
+#include <QtGui/QClipboard>
+#include <QtGui/QFontMetrics>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QWidget>
+
+#include <algorithm>
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool hasMark(const QString &fontStyle, QStringView mark)
+{
+    return fontStyle.contains(mark, Qt::CaseInsensitive);
+}
+
+} // namespace
+
+CodeEditor::CodeEditor(QWidget *host, ReportList &list)
+    : QObject(host)
+    , m_box(new RichTextBox(host))
+    , m_lines(*m_box)
+    , m_colouring(*m_box)
+    , m_undo(*m_box)
+    , m_keys(*this)
+    , m_popup(list, *m_box)
+{
+    MessageBoxes::installAsDefault();
+    m_box->setObjectName(u"RichTextBox1"_s);
+    m_box->setCommands(std::make_unique<CodeCommands>(*this));
+    connectBox();
+}
+
+CodeEditor::~CodeEditor()
+{
+    if (m_box)
+        m_box->setCommands(std::make_unique<BoxCommands>(*m_box)); // ours know the editor
+}
+
+void CodeEditor::connectBox()
+{
+    m_box->installEventFilter(this);
+    m_box->viewport()->installEventFilter(this);
+    connect(m_box, &RichTextBox::KeyDown, this, [this](qint16 &keyCode, qint16 shift) {
+        m_keys.keyDown(keyCode, shift);
+        m_isKeyInBox = keyCode != 0;
+    });
+    connect(m_box, &RichTextBox::Change, this, &CodeEditor::noteTextChange);
+    connect(m_box, &RichTextBox::cursorPositionChanged, this, [this] {
+        m_colouring.followCaret();
+        m_popup.follow();
+    });
+    connect(&m_popup, &PopupWordList::picked, this, &CodeEditor::takeWord);
+    connect(&m_status, &StatusTimer::quiet, this, &CodeEditor::raiseStatus);
+}
+
+void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)
+{
+    auto &state = threadPart<EditorState>();
+    const qint32 formerNvoColour = state.EditorSettings.nvoFPAColor;
+    state.EditorSettings = Setting;
+    state.EditorSettings.nvoFPAColor = formerNvoColour; // accepted, never used
+    applyAppearance(Setting);
+    state.LineHeight = m_box->fontMetrics().height();
+    RefillListviewWithWordList();
+
+    m_isReady = false;
+    const QString kept = m_box->Text();
+    m_box->setUpdatesEnabled(false);
+    const auto finish = qScopeGuard([this] {
+        m_box->setSelStart(0);
+        m_box->setUpdatesEnabled(true);
+        m_colouring.forgetEdit();
+        m_isReady = true;
+    });
+    try {
+        const Messages &messages = threadPart<Messages>();
+        state.RtfHeader =
+            BuildRtfHeader(sampleRtf(), state.EditorSettings, messages.service()).Header;
+        m_box->setSelColoured(coloured(kept));
+    } catch (const std::exception &) {
+        m_box->setText(kept); // uncoloured is better than lost
+    }
+}
+
+void CodeEditor::applyAppearance(const RichTextSettings &setting)
+{
+    m_box->setBackColor(setting.BackColor);
+    m_box->setFontName(setting.FontName);
+    m_box->setFontSize(setting.FontSize);
+    m_box->setFontBold(hasMark(setting.FontStyle, u"b1"));
+    m_box->setFontItalic(hasMark(setting.FontStyle, u"i1"));
+    m_box->setFontUnderline(hasMark(setting.FontStyle, u"u1"));
+}
+
+// What the box writes for two lines in its font; leaves the box empty.
+QString CodeEditor::sampleRtf()
+{
+    m_box->setText(QString());
+    m_box->setSelText(u"#GetInfo#\r\n#Another word"_s);
+    RTextSelectAll();
+    const QString sample = m_box->SelRTF();
+    m_box->setText(QString());
+    return sample;
+}
+
+QString CodeEditor::CodeText() const
+{
+    return m_box->Text();
+}
+
+void CodeEditor::setCodeText(const QString &text)
+{
+    m_box->setText(text);
+    m_colouring.forgetEdit();
+    m_undo.resetBase();
+}
+
+QString CodeEditor::CodeTextRTF()
+{
+    RTextSelectAll();
+    return m_box->SelRTF();
+}
+
+void CodeEditor::setCodeTextRTF(const QString &rtf)
+{
+    RTextSelectAll();
+    m_box->setSelRTF(rtf);
+    m_colouring.forgetEdit();
+}
+
+QString CodeEditor::GetColorText(const QString &Text) const
+{
+    return ColourText(threadColouring(), withCrLf(Text), threadPart<EditorState>().RtfHeader,
+                      false);
+}
+
+ColouredText CodeEditor::coloured(const QString &text) const
+{
+    return colouredText(threadColouring(), text, false, threadPart<EditorState>().EditorSettings);
+}
+
+void CodeEditor::Clear()
+{
+    m_box->setText(QString());
+}
+
+void CodeEditor::RTextCut()
+{
+    RTextCopy();
+    m_box->setSelText(QString());
+}
+
+void CodeEditor::RTextCopy()
+{
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    const QString selected = m_box->SelText();
+    clipboard->clear();
+    if (!selected.isEmpty())
+        clipboard->setText(selected);
+}
+
+void CodeEditor::RTextPaste(const QString &Data)
+{
+    if (acceptPasteSize(Data))
+        pasteChecked(Data);
+}
+
+void CodeEditor::RTextSelectAll()
+{
+    m_box->setSelStart(0);
+    m_box->setSelLength(m_box->TextLength());
+}
+
+void CodeEditor::Undo(QString &ErrMsg)
+{
+    m_undo.Undo(ErrMsg);
+    m_colouring.forgetEdit();
+}
+
+void CodeEditor::Redo(QString &ErrMsg)
+{
+    m_undo.Redo(ErrMsg);
+    m_colouring.forgetEdit();
+}
+
+QString CodeEditor::GetPositionDisplay() const
+{
+    const qint32 caret = m_box->SelStart();
+    const qint32 line = m_box->GetLineFromChar(caret);
+    return u"Row: %1, Col: %2"_s.arg(line + 1).arg(caret - m_box->lineStart(line) + 1);
+}
+
+QString CodeEditor::GetWholeWord(qint32 StartIndex, qint32 &WordStartIndex, qint32 &Color) const
+{
+    const ColouredWord word = GetWordAndColourAt(*m_box, StartIndex);
+    WordStartIndex = word.WordStart;
+    Color = word.Colour;
+    return word.Word;
+}
+
+// The search begins one character before the line and ends one behind it, as
+// published; S is at least 1, so that it exists for the first line too.
+void CodeEditor::HighLightText(const QString &Text, qint16 LineNumber)
+{
+    if (LineNumber < 1 || LineNumber > m_box->lineCount())
+        return;
+    const qint32 line = LineNumber - 1;
+    const qint32 lineStart = m_box->lineStart(line);
+    const qint32 S = std::max(lineStart, 1);
+    const qint32 E = lineStart + static_cast<qint32>(m_box->lineText(line).size());
+    const qint32 found = m_box->Find(Text, S - 1, E + 1);
+    if (found >= 0) {
+        m_box->setSelStart(found);
+        m_box->setSelLength(static_cast<qint32>(Text.size()));
+    } else if (S < E) {
+        m_box->setSelStart(S);
+        m_box->setSelLength(E - S);
+    }
+    m_box->ensureCursorVisible();
+}
+
+void CodeEditor::typeText(const QString &text)
+{
+    if (text == u"\r\n") {
+        breakLine();
+        return;
+    }
+    const bool isOneCharacter = text.size() == 1 || (text.size() == 2 && text[0].isHighSurrogate());
+    if (!isOneCharacter) { // committed by an input method
+        m_undo.noteTyped(text, m_isReady);
+        pasteChecked(text);
+        return;
+    }
+    m_undo.noteTyped(text, m_isReady);
+    m_colouring.prepareTyping(text);
+    m_box->setSelText(text);
+    m_colouring.noteEdit();
+    if (TypedColouring::finishesWord(text))
+        m_colouring.finishCaretLine();
+}
+
+void CodeEditor::breakLine()
+{
+    PushUndoSnapshot();
+    const qint32 line = m_box->GetLineFromChar(m_box->SelStart());
+    m_lines.breakLine();
+    m_colouring.finishLine(line);
+    m_colouring.noteEdit();
+    m_box->ensureCursorVisible();
+}
+
+void CodeEditor::indentLines()
+{
+    PushUndoSnapshot();
+    m_lines.indentSelectedLines();
+}
+
+void CodeEditor::unindentLines()
+{
+    PushUndoSnapshot();
+    m_lines.unindentSelectedLines();
+}
+
+bool CodeEditor::deleteBlankBeforeCaret()
+{
+    const bool isDone = m_lines.deleteBlankBeforeCaret();
+    if (isDone)
+        m_colouring.noteEdit();
+    return isDone;
+}
+
+bool CodeEditor::unindentBeforeCaret()
+{
+    const bool isDone = m_lines.unindentBeforeCaret();
+    if (isDone)
+        m_colouring.noteEdit();
+    return isDone;
+}
+
+void CodeEditor::cutByKey()
+{
+    RTextCopy();
+    if (m_box->SelLength() == 0)
+        return;
+    removeSelection();
+}
+
+void CodeEditor::removeSelection()
+{
+    PushUndoSnapshot();
+    m_box->setSelText(QString());
+    m_colouring.noteEdit();
+}
+
+void CodeEditor::pasteClipboard()
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+    pasteFromOutside(QGuiApplication::clipboard()->text());
+}
+
+bool CodeEditor::pasteFromOutside(const QString &data)
+{
+    if (data.isEmpty() || !acceptPasteSize(data))
+        return false;
+    const QPointer<CodeEditor> self(this);
+    if (data != m_box->SelText()) {
+        PushUndoSnapshot();
+        Q_EMIT UpdateUndoMenu();
+    }
+    if (!self)
+        return false;
+    pasteChecked(data);
+    return true;
+}
+
+void CodeEditor::pasteChecked(const QString &data)
+{
+    const qint32 firstLine = m_box->GetLineFromChar(m_box->SelStart());
+    if (!PasteText(*m_box, data))
+        return;
+    if (!isRtf(data)) { // which keeps the colours it came with
+        if (m_box->GetLineFromChar(m_box->SelStart()) != firstLine)
+            m_colouring.finishLine(firstLine);
+        m_colouring.noteEdit();
+    }
+    m_box->ensureCursorVisible();
+}
+
+void CodeEditor::noteTextChange()
+{
+    // The host's own changes take no colours.
+    if (std::exchange(m_isKeyInBox, false))
+        m_colouring.noteEdit();
+    m_undo.noteEdit();
+    m_popup.follow();
+}
+
+void CodeEditor::raiseStatus()
+{
+    QString description = GetPositionDisplay();
+    Q_EMIT StatusUpdate(description);
+}
+
+void CodeEditor::RefillListviewWithWordList()
+{
+    refillThreadWordList();
+    m_popup.refill();
+}
+
+void CodeEditor::UpdateWordListItem(const QString &OldName, const QString &NewName,
+                                    qint32 TypeIndex)
+{
+    threadPart<CodeWordList>().UpdateWordListItem(OldName, NewName, TypeIndex);
+    m_popup.refill();
+}
+
+void CodeEditor::TryToPopupList(bool IsShowAbsolutely)
+{
+    if (m_popup.isShown()) {
+        m_popup.close();
+        return;
+    }
+    if (IsCommentLine(m_box->lineText(m_box->GetLineFromChar(m_box->SelStart())))) {
+        caretToLineEnd();
+        return;
+    }
+    if (IsShowAbsolutely || !rewriteKnownWord())
+        m_popup.open();
+    else
+        m_box->setFocus();
+}
+
+// A word that needs no list takes its colour as it is typed.
+bool CodeEditor::rewriteKnownWord()
+{
+    const QString word = GetWordAtCaret(*m_box).Word;
+    qint32 colour = 0;
+    if (word.isEmpty())
+        return false;
+    if (!isNumeric(word)) {
+        auto &known = threadPart<CodeWordList>();
+        const qsizetype place = m_popup.words().find(word);
+        if (!known.FindInWordList(word, true) || place < 0)
+            return false;
+        colour = m_popup.words().words()[place].style.Colour;
+    }
+    SetWordAtCaret(*m_box, word, colour);
+    return true;
+}
+
+void CodeEditor::caretToLineEnd()
+{
+    const qint32 line = m_box->GetLineFromChar(m_box->SelStart());
+    m_box->setSelStart(m_box->lineStart(line) + static_cast<qint32>(m_box->lineText(line).size()));
+}
+
+void CodeEditor::takeWord(const QString &word, qint32 colour)
+{
+    PushUndoSnapshot();
+    SetWordAtCaret(*m_box, word, colour);
+    m_colouring.noteEdit();
+    m_box->setFocus();
+}
+
+bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_box && event->type() == QEvent::FocusIn)
+        m_tabStops.takeFrom(form());
+    else if (watched == m_box && event->type() == QEvent::FocusOut)
+        leaveFocus();
+    else if (watched == m_box->viewport() && event->type() == QEvent::MouseButtonPress)
+        raiseMouseDown(static_cast<const QMouseEvent &>(*event));
+    return QObject::eventFilter(watched, event);
+}
+
+QWidget *CodeEditor::form() const
+{
+    if (auto *codeParent = qobject_cast<QWidget *>(threadPart<HostForms>().codeParent.data()))
+        return codeParent;
+    return m_form ? m_form.data() : m_box->window();
+}
+
+void CodeEditor::leaveFocus()
+{
+    m_tabStops.giveBack();
+    m_popup.close();
+    m_colouring.finishEdit();
+}
+
+void CodeEditor::raiseMouseDown(const QMouseEvent &event)
+{
+    m_colouring.finishCaretLine();
+    const MouseArguments mouse = mouseArguments(event, *m_box);
+    Q_EMIT MouseDown(mouse.Button, mouse.Shift, mouse.X, mouse.Y);
+}
+
+} // namespace ORVTListview

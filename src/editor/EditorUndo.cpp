@@ -1,0 +1,121 @@
+#include "editor/EditorUndo.h"
+
+#include "editor/ColourText.h"
+#include "editor/EditorState.h"
+#include "editor/ThreadColouring.h"
+#include "platform/Error.h"
+#include "platform/RichTextBox.h"
+#include "shared/ThreadState.h"
+
+namespace ORVTListview {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto idleAfter = 400ms; // since the last snapshot
+
+UndoStore &ring()
+{
+    return threadPart<UndoStore>();
+}
+
+} // namespace
+
+EditorUndo::EditorUndo(RichTextBox &box)
+    : m_box(box)
+{
+    m_idle.setSingleShot(true);
+    connect(&m_idle, &QTimer::timeout, this, &EditorUndo::encodeWhenIdle);
+}
+
+void EditorUndo::noteTyped(QStringView text, bool isReady)
+{
+    const bool isBlank = text == u" ";
+    if (!isBlank)
+        m_isTypedSinceSnapshot = true;
+    else if (m_isTypedSinceSnapshot)
+        PushUndoSnapshot(isReady);
+}
+
+void EditorUndo::PushUndoSnapshot(bool isReady)
+{
+    if (ring().IsRestoringUndo())
+        return;
+    m_isTypedSinceSnapshot = false;
+    if (!isReady || m_box.TextLength() == 0)
+        return;
+    ring().StoreUndoSnapshot(shown());
+    m_idle.start(idleAfter);
+}
+
+void EditorUndo::step(bool forwards, QString &ErrMsg)
+{
+    const UndoStore::Restoring restoring(ring());
+    try {
+        const bool canStep = forwards ? ring().CanRedo() : ring().CanUndo();
+        if (!canStep) {
+            if (forwards)
+                bringBackKeptText();
+            return;
+        }
+        m_kept.beforeStep(ring(), shown());
+        const std::optional<qint16> slot =
+            forwards ? ring().RedoStepForward() : ring().UndoStepBack();
+        const QString record = slot ? ring().FetchUndoSnapshot(*slot) : QString();
+        if (!record.isEmpty())
+            show(splitUndoRecord(record));
+    } catch (const Error &error) {
+        ErrMsg = error.Description();
+    }
+}
+
+bool EditorUndo::bringBackKeptText()
+{
+    const UndoStore::Restoring restoring(ring());
+    const std::optional<UndoRecord> kept = m_kept.bringBack();
+    if (kept)
+        show(*kept);
+    return kept.has_value();
+}
+
+void EditorUndo::show(const UndoRecord &record)
+{
+    m_box.setColoured(colouredText(threadColouring(), record.text, false,
+                                   threadPart<EditorState>().EditorSettings));
+    m_box.setSelStart(record.selectionStart);
+    m_box.setSelLength(record.selectionLength);
+    m_box.ensureCursorVisible();
+}
+
+UndoRecord EditorUndo::shown() const
+{
+    return {m_box.Text(), m_box.SelStart(), m_box.SelLength()};
+}
+
+void EditorUndo::resetBase()
+{
+    noteEdit();
+    ring().ResetUndoBase(m_box.Text());
+    m_idle.start(idleAfter);
+}
+
+void EditorUndo::clearHistory()
+{
+    ring().ClearUndoHistory();
+    m_kept.noteEdit();
+}
+
+void EditorUndo::noteEdit()
+{
+    if (!ring().IsRestoringUndo())
+        m_kept.noteEdit();
+}
+
+void EditorUndo::encodeWhenIdle()
+{
+    if (ring().encodePending())
+        m_idle.start(0ms);
+}
+
+} // namespace ORVTListview

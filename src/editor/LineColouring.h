@@ -1,0 +1,14 @@
+#pragma once
+
+#include "editor/ColourEngine.h"
+#include "platform/ColouredText.h"
+
+namespace ORVTListview {
+
+// A line as it looks once it is finished while typing: every word has the colour
+// that colouring the whole text would give it, and its listed letter case. Unlike
+// there no blank, tab or bracket comes or goes, so the length stays the same.
+ORVT_CORE_EXPORT ColouredText finishedLine(const ColourEngine &engine, QStringView line,
+                                           const RichTextSettings &settings);
+
+} // namespace ORVTListview

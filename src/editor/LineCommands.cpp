@@ -1,0 +1,172 @@
+#include "editor/LineCommands.h"
+
+#include "editor/CodeText.h"
+#include "platform/RichTextBox.h"
+
+#include <algorithm>
+
+namespace ORVTListview {
+namespace {
+
+constexpr bool isBlank(QChar c)
+{
+    return c == u' ' || c == u'\t';
+}
+
+bool isAllBlank(QStringView text)
+{
+    return std::all_of(text.begin(), text.end(), isBlank);
+}
+
+struct Lines
+{
+    qint32 first = 0;
+    qint32 last = 0;
+};
+
+Lines selectedLines(const RichTextBox &box)
+{
+    const qint32 start = box.SelStart();
+    const qint32 end = start + box.SelLength();
+    Lines lines{box.GetLineFromChar(start), box.GetLineFromChar(end)};
+    if (lines.last > lines.first && box.lineStart(lines.last) == end)
+        --lines.last;
+    return lines;
+}
+
+// How far a place in a line moves when the line's beginning changes by `change`.
+qint32 movedBy(qint32 offset, qint32 change)
+{
+    return offset == 0 ? 0 : std::max(change, -offset);
+}
+
+} // namespace
+
+LineCommands::LineCommands(RichTextBox &box)
+    : m_box(box)
+{
+}
+
+void LineCommands::setIndentUnit(const QString &unit)
+{
+    if (!unit.isEmpty() && isAllBlank(unit))
+        m_unit = unit;
+}
+
+// Each line is changed at its beginning only, so its colours move as they are.
+template <typename ChangeLine>
+void LineCommands::changeSelectedLines(ChangeLine changeLine)
+{
+    const Lines lines = selectedLines(m_box);
+    const qint32 selStart = m_box.SelStart();
+    const qint32 selEnd = selStart + m_box.SelLength();
+    const qint32 begin = m_box.lineStart(lines.first);
+    qint32 newStart = selStart;
+    qint32 newEnd = selEnd;
+    ColouredText changed;
+    for (qint32 i = lines.first; i <= lines.last; ++i) {
+        const qint32 lineStart = m_box.lineStart(i);
+        const QString before = m_box.lineText(i);
+        const QString after = changeLine(before);
+        const auto change = static_cast<qint32>(after.size() - before.size());
+        if (i == lines.first)
+            newStart += movedBy(selStart - lineStart, change);
+        newEnd += i == lines.last ? movedBy(selEnd - lineStart, change) : change;
+
+        const qsizetype added = std::max(change, 0);
+        const qint32 removed = std::max(-change, 0);
+        ColouredText kept =
+            m_box.coloured(lineStart + removed,
+                           static_cast<qint32>(before.size()) - removed + (i < lines.last ? 2 : 0));
+        if (added > 0)
+            changed.runs.append({added, ColouredText::automatic});
+        changed.text += after.first(added) + kept.text;
+        changed.runs += kept.runs;
+    }
+    const qint32 end =
+        m_box.lineStart(lines.last) + static_cast<qint32>(m_box.lineText(lines.last).size());
+    m_box.setSelStart(begin);
+    m_box.setSelLength(end - begin);
+    m_box.setSelColoured(changed);
+    m_box.setSelStart(newStart);
+    m_box.setSelLength(newEnd - newStart);
+}
+
+void LineCommands::indentSelectedLines()
+{
+    changeSelectedLines(
+        [this](const QString &line) { return line.isEmpty() ? line : m_unit + line; });
+}
+
+void LineCommands::unindentSelectedLines()
+{
+    changeSelectedLines([this](const QString &line) { return withoutOneUnit(line); });
+}
+
+QString LineCommands::withoutOneUnit(const QString &line) const
+{
+    if (line.startsWith(m_unit))
+        return line.sliced(m_unit.size());
+    if (line.startsWith(u'\t'))
+        return line.sliced(1);
+    qsizetype blanks = 0;
+    while (blanks < std::min(m_unit.size(), line.size()) && line[blanks] == u' ')
+        ++blanks;
+    return line.sliced(blanks);
+}
+
+void LineCommands::breakLine()
+{
+    const qint32 start = m_box.SelStart();
+    const qint32 line = m_box.GetLineFromChar(start);
+    const QString indent = GetLineIndent(m_box.lineText(line));
+    m_box.setSelText(QStringLiteral("\r\n") + indent.first(std::min<qsizetype>(
+                                                  indent.size(), start - m_box.lineStart(line))));
+}
+
+bool LineCommands::unindentBeforeCaret()
+{
+    const qint32 caret = m_box.SelStart();
+    const qint32 lineStart = m_box.lineStart(m_box.GetLineFromChar(caret));
+    const QString before = m_box.textRange(lineStart, caret - lineStart);
+    if (m_box.SelLength() > 0 || before.isEmpty() || !isAllBlank(before))
+        return false;
+    const qsizetype past = before.size() % m_unit.size();
+    const qsizetype step = past > 0 ? past : m_unit.size();
+    qsizetype removed = before.endsWith(u'\t') ? 1 : 0;
+    while (removed < std::min(step, before.size()) && before[before.size() - removed - 1] == u' ')
+        ++removed;
+    m_box.setSelStart(caret - static_cast<qint32>(removed));
+    m_box.setSelLength(static_cast<qint32>(removed));
+    m_box.setSelText(QString());
+    return true;
+}
+
+bool LineCommands::deleteBlankBeforeCaret()
+{
+    const qint32 caret = m_box.SelStart();
+    if (caret < 1 || m_box.SelLength() > 0)
+        return false;
+    const QString before = m_box.textRange(caret - 1, 1);
+    if (before != u" " && before != u"\t")
+        return false;
+    m_box.setSelStart(caret - 1);
+    m_box.setSelLength(1);
+    m_box.setSelText(QString());
+    return true;
+}
+
+bool LineCommands::moveToSameOffset(int lines)
+{
+    const qint32 caret = m_box.SelStart();
+    const qint32 line = m_box.GetLineFromChar(caret);
+    const qint32 target = line + lines;
+    const qint32 offset = caret - m_box.lineStart(line);
+    if (target < 0 || target >= m_box.lineCount() || offset < 1 ||
+        m_box.lineText(target).size() < offset)
+        return false;
+    m_box.setSelStart(m_box.lineStart(target) + offset);
+    return true;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <ORVTListview/CoreExport.h>
+
+#include <QtCore/QString>
+#include <QtCore/QStringView>
+
+namespace ORVTListview {
+
+// What one snapshot holds: the editor's plain text, and its selection in 0-based
+// positions of UTF-16 units. Line ends (CR LF) count two.
+struct UndoRecord
+{
+    QString text;
+    qint32 selectionStart = 0;
+    qint32 selectionLength = 0;
+
+    friend bool operator==(const UndoRecord &, const UndoRecord &) = default;
+};
+
+// Stands between the three fields of a record that is written as one text.
+inline constexpr QStringView UndoRecordSeparator = u"\r\n%%%%%%\r\n";
+
+// The record as one text is its text followed by this: a separator, the start, a
+// separator, the length.
+ORVT_CORE_EXPORT QString undoRecordTail(const UndoRecord &record);
+
+ORVT_CORE_EXPORT QString joinUndoRecord(const UndoRecord &record);
+
+// The joined record's length, without joining it.
+ORVT_CORE_EXPORT qsizetype undoRecordLength(const UndoRecord &record);
+
+// All three fields are checked before any is handed out. Raises Error when a
+// field is missing (SubscriptOutOfRange), when the text itself holds a separator
+// so that the fields cannot be told apart (InvalidCall), when a selection field
+// is no decimal integer (TypeMismatch) or needs more than 32 bits (Overflow).
+// Blanks around a number are passed over: a slot whose length was raised by damage
+// ends in some. Whether the selection lies within the text is not checked.
+ORVT_CORE_EXPORT UndoRecord splitUndoRecord(const QString &record);
+
+} // namespace ORVTListview

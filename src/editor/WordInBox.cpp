@@ -1,0 +1,58 @@
+#include "editor/WordInBox.h"
+
+#include "editor/ColourTable.h"
+#include "editor/EditorState.h"
+#include "editor/Vocabulary.h"
+#include "platform/ColouredText.h"
+#include "platform/RichTextBox.h"
+#include "shared/ThreadState.h"
+
+#include <algorithm>
+
+namespace ORVTListview {
+
+WordAtCaret GetWordAtCaret(const RichTextBox &box, qint32 position)
+{
+    const qint32 line = box.GetLineFromChar(position);
+    const qint32 lineStart = box.lineStart(line);
+    const QString text = box.lineText(line);
+    const qint32 offset = std::clamp(position - lineStart, 0, static_cast<qint32>(text.size()));
+    WordAtCaret word = wordAtCaret(text, offset);
+    word.WordStart += lineStart;
+    return word;
+}
+
+WordAtCaret GetWordAtCaret(const RichTextBox &box)
+{
+    return GetWordAtCaret(box, box.SelStart());
+}
+
+ColouredWord GetWordAndColourAt(const RichTextBox &box, qint32 position)
+{
+    const RichTextSettings &settings = threadPart<EditorState>().EditorSettings;
+    const WordAtCaret found = GetWordAtCaret(box, position);
+    ColouredWord word{found.Word, found.WordStart, 0};
+    QString shown;
+    if (IsCommentLine(box.lineText(box.GetLineFromChar(position))))
+        word.Colour = settings.CommentColor;
+    else if (!word.Word.isEmpty())
+        word.Colour = threadPart<Vocabulary>().ClassifyWord(word.Word, shown, settings);
+    return word;
+}
+
+void SetWordAtCaret(RichTextBox &box, const QString &word, qint32 colour)
+{
+    const WordAtCaret old = GetWordAtCaret(box);
+    const qint32 start = old.WordStart - 1;
+    const ColouredText coloured{word, {{word.size(), shownColour(colour)}}};
+    if (word == old.Word) {
+        box.recolour(start, coloured);
+        box.setSelStart(start + static_cast<qint32>(word.size()));
+        return;
+    }
+    box.setSelStart(start);
+    box.setSelLength(static_cast<qint32>(old.Word.size()));
+    box.setSelColoured(coloured);
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "editor/CodeText.h"
+
+namespace ORVTListview {
+
+class RichTextBox;
+
+// The word around a 0-based position of the box, looked for in its line alone: no
+// word goes over a line end. WordStart is 1-based, in the whole text.
+WordAtCaret GetWordAtCaret(const RichTextBox &box, qint32 position);
+WordAtCaret GetWordAtCaret(const RichTextBox &box);
+
+struct ColouredWord
+{
+    QString Word;
+    qint32 WordStart = 1; // 1-based
+    qint32 Colour = 0;    // 0x00BBGGRR; the comment colour on a comment line
+};
+ColouredWord GetWordAndColourAt(const RichTextBox &box, qint32 position);
+
+// Puts a word in the place of the one at the caret, in the colour, and the caret
+// behind it.
+void SetWordAtCaret(RichTextBox &box, const QString &word, qint32 colour);
+
+} // namespace ORVTListview

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtCore/QStringView>
+#include <QtGui/QTextCharFormat>
+#include <QtGui/QTextCursor>
+
+namespace ORVTListview {
+
+// A document takes U+FDD0 and U+FDD1 for frame marks and would turn them into
+// line ends. Text that holds them is stored with another character in their
+// place, whose format says what it stands for.
+namespace BoxMarks {
+
+// Inserts text at the cursor's position, character for character but for NUL,
+// which is dropped, and line ends, each of which starts a block. All of it gets
+// the format.
+void insert(QTextCursor &cursor, QStringView text, const QTextCharFormat &format);
+
+// True when insert() stores the text as it is, one character for each.
+bool isPlain(QStringView text);
+
+// Puts the characters stood for back into a block's text.
+void restore(const QTextBlock &block, QString &text);
+
+// As above, for text that is one fragment's, or a part of it.
+void restore(const QTextCharFormat &format, QString &text);
+
+} // namespace BoxMarks
+} // namespace ORVTListview

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <ORVTListview/Export.h>
+
+class QTextDocument;
+
+namespace ORVTListview {
+
+class BoxFormats;
+class RtfSink;
+
+// Hands a range of a document, in document positions, to a sink. Every format is
+// stated in full.
+ORVT_EXPORT void readBox(const QTextDocument &document, const BoxFormats &formats, int from, int to,
+                         RtfSink &sink);
+
+} // namespace ORVTListview

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <ORVTListview/Export.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QStringList>
+#include <QtGui/QIcon>
+
+#include <map>
+
+namespace ORVTListview {
+
+// Pictures by key and by index, for trees, tables, combos and buttons. Each is
+// drawn from an SVG file, sharp at every size and device pixel ratio; the icons
+// are cheap to copy and outlive the list. Disabled icons are grey; icons on a
+// selected row take the colour of the selected text, which is the one colour
+// sure to be seen on the selection.
+//
+// Keys are case-sensitive. Indexes are positive and need not be contiguous. All
+// calls come from the user-interface thread.
+class ORVT_EXPORT ImageList
+{
+public:
+    enum class Look {
+        Plain,
+        Pressed, // as a button that is held down: in negative, within a tile
+    };
+
+    ImageList();
+    ~ImageList();
+    Q_DISABLE_COPY_MOVE(ImageList) // handed out by address
+
+    // SvgFile is a path or a resource (":/..."); a square drawing is expected,
+    // any other is fitted and centred. Raises Error (InvalidCall) for an empty
+    // key, a key or index in use, an index below 1 or a file that is no SVG.
+    void Add(const QString &Key, qint32 Index, const QString &SvgFile, Look Drawn = Look::Plain);
+
+    qint32 Count() const;
+
+    // In the order of the indexes.
+    QStringList Keys() const;
+
+    bool Contains(const QString &Key) const;
+    bool Contains(qint32 Index) const;
+
+    // A null icon for a key or index that is not there.
+    QIcon Picture(const QString &Key) const;
+    QIcon Picture(qint32 Index) const;
+
+    // Empty for an index that is not there.
+    QString KeyOf(qint32 Index) const;
+
+    // 0 for a key that is not there.
+    qint32 IndexOf(const QString &Key) const;
+
+private:
+    struct Entry
+    {
+        QString key;
+        QIcon icon;
+    };
+
+    void refuseUnlessFree(const QString &key, qint32 index) const;
+
+    std::map<qint32, Entry> m_entries;
+    QHash<QString, qint32> m_indexes;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,38 @@
+#include "platform/MouseArguments.h"
+
+#include "platform/Twips.h"
+#include "platform/VirtualKeys.h"
+
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QWidget>
+
+namespace ORVTListview {
+namespace {
+
+int buttonBits(Qt::MouseButtons buttons)
+{
+    return (buttons.testFlag(Qt::LeftButton) ? 1 : 0) |
+           (buttons.testFlag(Qt::RightButton) ? 2 : 0) |
+           (buttons.testFlag(Qt::MiddleButton) ? 4 : 0);
+}
+
+int shiftBits(Qt::KeyboardModifiers modifiers)
+{
+    return (modifiers.testFlag(Qt::ShiftModifier) ? VirtualKey::shiftBit : 0) |
+           (modifiers.testFlag(Qt::ControlModifier) ? VirtualKey::ctrlBit : 0) |
+           (modifiers.testFlag(Qt::AltModifier) ? VirtualKey::altBit : 0);
+}
+
+} // namespace
+
+MouseArguments mouseArguments(const QMouseEvent &event, const QWidget &control)
+{
+    const bool isMove = event.type() == QEvent::MouseMove;
+    const QPointF place = control.mapFromGlobal(event.globalPosition());
+    return {static_cast<qint16>(buttonBits(isMove ? event.buttons() : event.button())),
+            static_cast<qint16>(shiftBits(event.modifiers())),
+            static_cast<float>(Twips::fromPixelsX(place.x(), control)),
+            static_cast<float>(Twips::fromPixelsY(place.y(), control))};
+}
+
+} // namespace ORVTListview

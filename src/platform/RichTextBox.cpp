@@ -1,0 +1,372 @@
+#include "platform/RichTextBox.h"
+
+#include "platform/BoxColours.h"
+#include "platform/BoxMarks.h"
+#include "platform/BoxSink.h"
+#include "platform/BoxSource.h"
+#include "platform/RichTextBoxParts.h"
+#include "platform/RtfReader.h"
+#include "platform/RtfWriter.h"
+#include "platform/TextSearch.h"
+
+#include <QtCore/QEvent>
+#include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QApplication>
+
+#include <algorithm>
+#include <limits>
+
+namespace ORVTListview {
+
+namespace {
+
+qint32 advance(qint32 position, qint32 length)
+{
+    const qint32 first = std::max(position, 0);
+    return first + std::clamp(length, 0, std::numeric_limits<qint32>::max() - first);
+}
+
+// The palette that a widget has before it sets colours of its own.
+QPalette paletteAround(const QWidget &widget)
+{
+    const QWidget *parent = widget.parentWidget();
+    return parent ? parent->palette() : QApplication::palette(&widget);
+}
+
+// What the next character gets that replaces the cursor's selection.
+QTextCharFormat formatAt(const QTextCursor &cursor)
+{
+    if (!cursor.hasSelection())
+        return cursor.charFormat();
+    QTextCursor first(cursor);
+    first.setPosition(cursor.selectionStart() + 1);
+    return first.charFormat();
+}
+
+} // namespace
+
+RichTextBox::RichTextBox(QWidget *parent)
+    : QPlainTextEdit(parent)
+    , m_parts(std::make_unique<Parts>(*this))
+{
+    setUndoRedoEnabled(false);
+    setLineWrapMode(NoWrap);
+    m_parts->formats.setFont(font());
+    connect(this, &QPlainTextEdit::textChanged, this, &RichTextBox::noteTextChange);
+}
+
+RichTextBox::~RichTextBox() = default;
+
+void RichTextBox::noteTextChange()
+{
+    if (!m_parts->isQuiet)
+        Q_EMIT Change();
+}
+
+void RichTextBox::select(int anchor, int position)
+{
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(anchor);
+    cursor.setPosition(position, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+QString RichTextBox::Text() const
+{
+    return m_parts->text.text();
+}
+
+void RichTextBox::setText(const QString &text)
+{
+    document()->clear();
+    QTextCursor cursor(document());
+    BoxMarks::insert(cursor, text, {});
+    setSelStart(0);
+}
+
+QString RichTextBox::TextRTF() const
+{
+    RtfWriter writer(m_parts->formats.base());
+    readBox(*document(), m_parts->formats, 0, document()->characterCount() - 1, writer);
+    return writer.finish();
+}
+
+void RichTextBox::setTextRTF(const QString &rtf)
+{
+    document()->clear();
+    setSelRTF(rtf);
+}
+
+qint32 RichTextBox::SelStart() const
+{
+    return m_parts->text.toBox(textCursor().selectionStart());
+}
+
+void RichTextBox::setSelStart(qint32 position)
+{
+    const int place = m_parts->text.toDocument(position);
+    select(place, place);
+}
+
+qint32 RichTextBox::SelLength() const
+{
+    const QTextCursor cursor = textCursor();
+    return m_parts->text.toBox(cursor.selectionEnd()) -
+           m_parts->text.toBox(cursor.selectionStart());
+}
+
+void RichTextBox::setSelLength(qint32 length)
+{
+    const int start = textCursor().selectionStart();
+    select(start, m_parts->text.toDocument(advance(m_parts->text.toBox(start), length)));
+}
+
+QString RichTextBox::SelText() const
+{
+    return textOf(textCursor());
+}
+
+QString RichTextBox::textOf(const QTextCursor &selection) const
+{
+    return m_parts->text.read(selection.selectionStart(), selection.selectionEnd());
+}
+
+void RichTextBox::setSelText(const QString &text)
+{
+    QTextCursor cursor = textCursor();
+    const QTextCharFormat format = formatAt(cursor);
+    cursor.beginEditBlock();
+    cursor.removeSelectedText();
+    BoxMarks::insert(cursor, text, format);
+    cursor.endEditBlock();
+    const int place = m_parts->text.whole(cursor.position());
+    select(place, place);
+}
+
+QString RichTextBox::SelRTF() const
+{
+    RtfWriter writer(m_parts->formats.base());
+    const QTextCursor cursor = textCursor();
+    readBox(*document(), m_parts->formats, cursor.selectionStart(), cursor.selectionEnd(), writer);
+    return writer.finish();
+}
+
+void RichTextBox::setSelRTF(const QString &rtf)
+{
+    if (!isRtf(rtf)) {
+        setSelText(rtf);
+        return;
+    }
+    QTextCursor cursor = textCursor();
+    {
+        BoxSink sink(cursor, m_parts->formats);
+        readRtf(rtf, sink);
+    }
+    const int place = m_parts->text.whole(cursor.position());
+    select(place, place);
+}
+
+qint32 RichTextBox::SelColor() const
+{
+    return std::max(0, BoxFormats::colour(formatAt(textCursor())));
+}
+
+void RichTextBox::setSelColor(qint32 colour)
+{
+    const QScopedValueRollback quiet(m_parts->isQuiet, true);
+    const qint32 shown = colour == ColouredText::automatic
+                             ? colour
+                             : Colours::fromColor(Colours::toColor(colour, paletteAround(*this)));
+    QTextCursor cursor = textCursor();
+    if (cursor.hasSelection()) {
+        BoxColours::paint(*document(), cursor.selectionStart(), cursor.selectionEnd(), shown);
+        return;
+    }
+    QTextCharFormat format = cursor.charFormat();
+    BoxFormats::setColour(format, shown);
+    setCurrentCharFormat(format);
+}
+
+qint32 RichTextBox::BackColor() const
+{
+    return m_parts->backColor;
+}
+
+void RichTextBox::setBackColor(qint32 colour)
+{
+    m_parts->backColor = colour;
+    applyBackColor();
+}
+
+void RichTextBox::applyBackColor()
+{
+    const qint32 colour = m_parts->backColor;
+    QPalette own;
+    if (colour != Colours::windowBackground) {
+        const QPalette around = paletteAround(*this);
+        own.setColor(QPalette::Base, Colours::toColor(colour, around));
+        own.setColor(QPalette::Text, Colours::textOn(colour, around));
+    }
+    if (own != palette() || own.resolveMask() != palette().resolveMask())
+        setPalette(own);
+}
+
+QString RichTextBox::FontName() const
+{
+    return font().family();
+}
+
+void RichTextBox::setFontName(const QString &name)
+{
+    if (name.isEmpty())
+        return;
+    QFont changed = font();
+    changed.setFamily(name);
+    setFont(changed);
+}
+
+float RichTextBox::FontSize() const
+{
+    return static_cast<float>(m_parts->formats.pointSize());
+}
+
+void RichTextBox::setFontSize(float points)
+{
+    constexpr float largest = 1638; // what RTF programs take
+    if (!(points > 0))
+        return;
+    QFont changed = font();
+    changed.setPointSizeF(static_cast<double>(std::min(points, largest)));
+    setFont(changed);
+}
+
+bool RichTextBox::FontBold() const
+{
+    return font().bold();
+}
+
+void RichTextBox::setFontBold(bool bold)
+{
+    QFont changed = font();
+    changed.setBold(bold);
+    setFont(changed);
+}
+
+bool RichTextBox::FontItalic() const
+{
+    return font().italic();
+}
+
+void RichTextBox::setFontItalic(bool italic)
+{
+    QFont changed = font();
+    changed.setItalic(italic);
+    setFont(changed);
+}
+
+bool RichTextBox::FontUnderline() const
+{
+    return font().underline();
+}
+
+void RichTextBox::setFontUnderline(bool underline)
+{
+    QFont changed = font();
+    changed.setUnderline(underline);
+    setFont(changed);
+}
+
+bool RichTextBox::FontStrikethrough() const
+{
+    return font().strikeOut();
+}
+
+void RichTextBox::setFontStrikethrough(bool strikethrough)
+{
+    QFont changed = font();
+    changed.setStrikeOut(strikethrough);
+    setFont(changed);
+}
+
+qint32 RichTextBox::GetLineFromChar(qint32 Position) const
+{
+    return m_parts->text.lineOf(Position);
+}
+
+qint32 RichTextBox::Find(const QString &Text, qint32 Start, qint32 End, qint32 Options)
+{
+    const TextSearch how{(Options & FindWholeWord) != 0, (Options & FindMatchCase) != 0};
+    const QString &text = m_parts->text.text();
+    const qsizetype end = End == -1 ? text.size() : End;
+    const auto place = static_cast<qint32>(findText(text, Text, Start, end, how));
+    if (place >= 0 && (Options & FindNoHighlight) == 0) {
+        setSelStart(place);
+        setSelLength(static_cast<qint32>(Text.size()));
+    }
+    return place;
+}
+
+qint32 RichTextBox::TextLength() const
+{
+    return m_parts->text.length();
+}
+
+qint32 RichTextBox::lineCount() const
+{
+    return m_parts->text.lineCount();
+}
+
+qint32 RichTextBox::lineStart(qint32 line) const
+{
+    return m_parts->text.lineStart(line);
+}
+
+QString RichTextBox::lineText(qint32 line) const
+{
+    return m_parts->text.lineText(line);
+}
+
+QString RichTextBox::textRange(qint32 start, qint32 length) const
+{
+    return m_parts->text.range(start, length);
+}
+
+void RichTextBox::setColoured(const ColouredText &text)
+{
+    document()->clear();
+    setSelColoured(text);
+    setSelStart(0);
+}
+
+void RichTextBox::setSelColoured(const ColouredText &text)
+{
+    QTextCursor cursor = textCursor();
+    {
+        BoxSink sink(cursor, m_parts->formats);
+        putColoured(text, m_parts->formats.base(), sink);
+    }
+    const int place = m_parts->text.whole(cursor.position());
+    select(place, place);
+}
+
+void RichTextBox::recolour(qint32 start, const ColouredText &text)
+{
+    const QScopedValueRollback quiet(m_parts->isQuiet, true);
+    BoxColours::apply(*document(), m_parts->text, start, text);
+}
+
+ColouredText RichTextBox::coloured(qint32 start, qint32 length) const
+{
+    return BoxColours::read(*document(), m_parts->text, start, length);
+}
+
+void RichTextBox::changeEvent(QEvent *event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        m_parts->formats.setFont(font());
+    else if (event->type() == QEvent::PaletteChange)
+        applyBackColor();
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,205 @@
+#pragma once
+
+#include <ORVTListview/Export.h>
+
+#include <QtWidgets/QPlainTextEdit>
+
+#include <memory>
+
+namespace ORVTListview {
+
+class BoxCommands;
+struct ColouredText;
+
+// A box for plain and rich text, without word wrap and without an undo of its own.
+//
+// Text and positions: lines are joined by CR LF. Positions and lengths count
+// UTF-16 units from 0, CR LF as two. A position or length outside the text counts
+// as the nearest one inside, a negative one as 0; a position inside a surrogate
+// pair or between CR and LF counts as the place before it. Text that goes in
+// comes out the same, character for character, but for line ends (CR LF, CR, LF
+// and U+2029 come out as CR LF) and NUL, which is dropped.
+//
+// Colours are 0x00BBGGRR, red in the low byte. A negative one is a system colour
+// (0x80000000 plus its number), taken from the palette; -1 stands for the text
+// colour that goes with the background.
+//
+// Change is raised for every change of the text, by the user or by a call, but
+// not for colours and fonts.
+class ORVT_EXPORT RichTextBox : public QPlainTextEdit
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Text READ Text WRITE setText NOTIFY Change)
+    Q_PROPERTY(QString TextRTF READ TextRTF WRITE setTextRTF STORED false)
+    Q_PROPERTY(qint32 SelStart READ SelStart WRITE setSelStart STORED false)
+    Q_PROPERTY(qint32 SelLength READ SelLength WRITE setSelLength STORED false)
+    Q_PROPERTY(QString SelText READ SelText WRITE setSelText STORED false)
+    Q_PROPERTY(QString SelRTF READ SelRTF WRITE setSelRTF STORED false)
+    Q_PROPERTY(qint32 SelColor READ SelColor WRITE setSelColor STORED false)
+    Q_PROPERTY(qint32 BackColor READ BackColor WRITE setBackColor)
+    Q_PROPERTY(QString FontName READ FontName WRITE setFontName)
+    Q_PROPERTY(float FontSize READ FontSize WRITE setFontSize)
+    Q_PROPERTY(bool FontBold READ FontBold WRITE setFontBold)
+    Q_PROPERTY(bool FontItalic READ FontItalic WRITE setFontItalic)
+    Q_PROPERTY(bool FontUnderline READ FontUnderline WRITE setFontUnderline)
+    Q_PROPERTY(bool FontStrikethrough READ FontStrikethrough WRITE setFontStrikethrough)
+
+public:
+    // The option bits of Find.
+    enum FindOption : qint32 {
+        FindWholeWord = 2, // no letter or digit stands directly before or behind
+        FindMatchCase = 4,
+        FindNoHighlight = 8, // the match is not selected
+    };
+    Q_ENUM(FindOption)
+
+    explicit RichTextBox(QWidget *parent = nullptr);
+    ~RichTextBox() override;
+
+    // The whole text. Setting it takes away every format and puts the caret at 0.
+    QString Text() const;
+    void setText(const QString &text);
+
+    // The whole text as RTF. Text that does not begin with "{\rtf" is inserted as
+    // plain text. Afterwards the caret stands behind the text.
+    QString TextRTF() const;
+    void setTextRTF(const QString &rtf);
+
+    // Setting the start leaves nothing selected.
+    qint32 SelStart() const;
+    void setSelStart(qint32 position);
+    qint32 SelLength() const;
+    void setSelLength(qint32 length);
+
+    // The selection. Setting it replaces the selection and puts the caret directly
+    // behind what was inserted, with nothing selected. Plain text takes the format
+    // at the caret; of a selection, that of its first character.
+    QString SelText() const;
+    void setSelText(const QString &text);
+    QString SelRTF() const;
+    void setSelRTF(const QString &rtf);
+
+    // The colour of the selection's first character, of the next typed one when
+    // nothing is selected; 0 for text without a colour of its own. Setting it with
+    // nothing selected colours what is typed next.
+    qint32 SelColor() const;
+    void setSelColor(qint32 colour);
+
+    // Text without a colour of its own is shown in the palette's text colour on a
+    // system colour, else in black or white by contrast. Starts as 0x80000005.
+    qint32 BackColor() const;
+    void setBackColor(qint32 colour);
+
+    // The font of all text that states none of its own. An empty name and a size
+    // that is not positive change nothing. The size is in points.
+    QString FontName() const;
+    void setFontName(const QString &name);
+    float FontSize() const;
+    void setFontSize(float points);
+    bool FontBold() const;
+    void setFontBold(bool bold);
+    bool FontItalic() const;
+    void setFontItalic(bool italic);
+    bool FontUnderline() const;
+    void setFontUnderline(bool underline);
+    bool FontStrikethrough() const;
+    void setFontStrikethrough(bool strikethrough);
+
+    // The line of a position, counted from 0.
+    Q_INVOKABLE qint32 GetLineFromChar(qint32 Position) const;
+
+    // The place of the first match that lies wholly between Start and End (End
+    // itself excluded, -1 for the end of the text), or -1; then the selection
+    // stays as it is. Options are FindOption bits. An empty text is never found; a
+    // Start inside a pair moves forward.
+    Q_INVOKABLE qint32 Find(const QString &Text, qint32 Start = 0, qint32 End = -1,
+                            qint32 Options = 0);
+
+    // What can be asked without reading the whole text. Lines count from 0; a line
+    // outside the text counts as the nearest one.
+    Q_INVOKABLE qint32 TextLength() const;
+    qint32 lineCount() const;
+    qint32 lineStart(qint32 line) const;
+    QString lineText(qint32 line) const; // without its line end
+    QString textRange(qint32 start, qint32 length) const;
+
+    // Coloured text goes in directly, as one change, in the box's font.
+    // setColoured puts the caret at 0, setSelColoured behind what was inserted.
+    void setColoured(const ColouredText &text);
+    void setSelColoured(const ColouredText &text);
+
+    // Gives the text from start on the colours and the letter case of `text`,
+    // which is as long as the text it covers. Caret, selection and scroll position
+    // stay, Change is not raised, and what is right already is not touched. Line
+    // ends, and characters that differ in more than their case, stay as they are.
+    void recolour(qint32 start, const ColouredText &text);
+
+    // The text and its colours. A line end belongs to the run before it.
+    ColouredText coloured(qint32 start, qint32 length) const;
+
+    // While an input method composes; the text does not hold what it composes.
+    bool isComposing() const;
+
+    // What keys, shortcuts, context menu, drag and drop, middle click and input
+    // method end in. The box owns it; it is a plain editor at first and never null.
+    BoxCommands &commands() const;
+    void setCommands(std::unique_ptr<BoxCommands> commands);
+
+    // The text between a cursor's two ends.
+    QString textOf(const QTextCursor &selection) const;
+
+    // Moves the focus in the window's tab order.
+    void moveFocus(bool forwards);
+
+Q_SIGNALS:
+    void Change();
+
+    // Raised before the box acts on a key. KeyCode is a virtual-key number; set to
+    // 0 it swallows the key. Shift holds 1 for Shift, 2 for Ctrl, 4 for Alt.
+    void KeyDown(qint16 &KeyCode, qint16 Shift);
+
+protected:
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
+    QMimeData *createMimeDataFromSelection() const override;
+
+private:
+    // The toolkit's own ways in, which know nothing of the rules above.
+    using QPlainTextEdit::appendHtml;
+    using QPlainTextEdit::appendPlainText;
+    using QPlainTextEdit::copy;
+    using QPlainTextEdit::createStandardContextMenu;
+    using QPlainTextEdit::cut;
+    using QPlainTextEdit::insertPlainText;
+    using QPlainTextEdit::paste;
+    using QPlainTextEdit::redo;
+    using QPlainTextEdit::setDocument;
+    using QPlainTextEdit::setPlainText;
+    using QPlainTextEdit::setUndoRedoEnabled;
+    using QPlainTextEdit::toPlainText;
+    using QPlainTextEdit::undo;
+
+    struct Parts;
+
+    void select(int anchor, int position);
+    void applyBackColor();
+    void noteTextChange();
+    bool announceKey(const QKeyEvent &event);
+    bool runShortcut(const QKeyEvent &event);
+    void act(QKeyEvent *event);
+    void deleteBefore();
+    void keepCaretWhole();
+    void startDrag(const QMouseEvent &event);
+
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,85 @@
+// Text dragged out of a box and dropped into it.
+
+#include "platform/RichTextBoxParts.h"
+
+#include <QtCore/QMimeData>
+#include <QtCore/QPointer>
+#include <QtGui/QDrag>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QApplication>
+
+namespace ORVTListview {
+
+void RichTextBox::mousePressEvent(QMouseEvent *event)
+{
+    const QTextCursor before = textCursor();
+    QPlainTextEdit::mousePressEvent(event);
+    const QTextCursor after = textCursor();
+    // The toolkit leaves a selection alone that it takes hold of.
+    const bool holds = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
+                       after.hasSelection() && after.anchor() == before.anchor() &&
+                       after.position() == before.position();
+    m_parts->dragStart = holds ? std::optional(event->pos()) : std::nullopt;
+}
+
+void RichTextBox::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_parts->dragStart || !event->buttons().testFlag(Qt::LeftButton)) {
+        QPlainTextEdit::mouseMoveEvent(event);
+        return;
+    }
+    const QPoint way = event->pos() - *m_parts->dragStart;
+    if (way.manhattanLength() >= QApplication::startDragDistance())
+        startDrag(*event);
+}
+
+void RichTextBox::startDrag(const QMouseEvent &event)
+{
+    // The toolkit's own drag would remove moved text past the commands, so its
+    // press is ended here.
+    const QTextCursor dragged = textCursor();
+    m_parts->dragStart.reset();
+    QMouseEvent release(QEvent::MouseButtonRelease, event.position(), event.globalPosition(),
+                        Qt::LeftButton, Qt::NoButton, event.modifiers());
+    QPlainTextEdit::mouseReleaseEvent(&release);
+    setTextCursor(dragged);
+
+    auto *drag = new QDrag(viewport());
+    auto *text = new QMimeData;
+    text->setText(SelText());
+    drag->setMimeData(text);
+    const Qt::DropActions actions = isReadOnly() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
+    const QPointer<RichTextBox> self(this);
+    const QPointer<QDrag> alive(drag);
+    const Qt::DropAction action =
+        drag->exec(actions, isReadOnly() ? Qt::CopyAction : Qt::MoveAction);
+    if (self && alive && action == Qt::MoveAction && alive->target() != viewport()) {
+        setTextCursor(dragged);
+        commands().remove();
+    }
+}
+
+void RichTextBox::dropEvent(QDropEvent *event)
+{
+    QDragLeaveEvent leave; // takes the toolkit's drop caret away
+    QPlainTextEdit::dragLeaveEvent(&leave);
+    event->ignore();
+    if (!canInsertFromMimeData(event->mimeData()))
+        return;
+    QTextCursor dragged = textCursor();
+    const QTextCursor place = cursorForPosition(event->position().toPoint());
+    const bool moves = event->source() == viewport() && event->dropAction() == Qt::MoveAction;
+    if (moves && place.position() >= dragged.selectionStart() &&
+        place.position() <= dragged.selectionEnd())
+        return;
+    const QPointer<RichTextBox> self(this);
+    setTextCursor(place);
+    const bool isDone = commands().paste(*event->mimeData());
+    if (!self || !isDone)
+        return;
+    if (moves)
+        dragged.removeSelectedText();
+    event->acceptProposedAction();
+}
+
+} // namespace ORVTListview

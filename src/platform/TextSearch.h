@@ -1,0 +1,23 @@
+#pragma once
+
+#include <ORVTListview/CoreExport.h>
+
+#include <QtCore/QStringView>
+
+namespace ORVTListview {
+
+// How a text is searched. Letters and digits are word characters.
+struct TextSearch
+{
+    bool wholeWord = false;
+    bool matchCase = false;
+};
+
+// The place of the first match that lies wholly in [start, end), or -1. An empty
+// text is never found. A match neither begins nor ends inside a surrogate pair or
+// a CR LF. Letter case is folded character by character, so that a match is as
+// long as what was searched for.
+ORVT_CORE_EXPORT qsizetype findText(QStringView text, QStringView wanted, qsizetype start,
+                                    qsizetype end, TextSearch how = {});
+
+} // namespace ORVTListview

@@ -1,0 +1,240 @@
+#include "project/Project.h"
+
+#include "ProjectFolder.h"
+#include "support/QtPrinters.h"
+
+#include <QtCore/QDir>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Table
+{
+    LwType type;
+    QString member;
+    QString header; // without the row number's column
+};
+
+// The headers that the tables show.
+const QList<Table> tables = {
+    {dsVariable, u"variables"_s, u"Label|Mode|Value|Units|Description"_s},
+    {dsConst, u"constants"_s, u"Label|Value|Units|Description"_s},
+    {dsInput, u"inputs"_s, u"Label|Mode|Value|Units|Description|Commissioned"_s},
+    {dsOutput, u"outputs"_s,
+     u"Label|Mode|Value|Units|Description|Commissioned|Hw Override Mode|Hw Override Value"_s},
+    {dsController, u"controllers"_s,
+     u"Mode|Value|Input|Setpoint|Proportional Band|Integral Gain|Integral Time|Derivative Gain|"
+     "Derivative Time|Dead Band|Bias|Action|Divider"_s},
+    {dsLog, u"logs"_s, u"Data|Differential|Time|Mode|Format|Unit|Description"_s},
+    {dsTimer, u"timers"_s, u"Data|Type|Value"_s},
+    {dsOs, u"optimumStarts"_s,
+     u"Mode|Value|Target Temperature|Target Setpoint|Outdoor Temperature|Schedule|"
+     "Max Starting Time|Description"_s},
+    {dsNvi, u"networkInputs"_s, u"Label|Value|Format Name|Persistent|Description"_s},
+    {dsNvo, u"networkOutputs"_s, u"Name|Data Source|Value|Format Name|Description"_s},
+    {dsInputParam, u"inputParameters"_s,
+     u"Type|Scale Min/Rising Edge|Scale Max/Falling Edge|Input Min|Input Max|Correction|Filter|"
+     "Override|Units"_s},
+    {dsOutputParam, u"outputParameters"_s, u"Type|PWM Period"_s},
+};
+
+QString header(LwType type)
+{
+    QStringList keys;
+    for (const ProjectColumn &column : projectColumns(type))
+        keys.append(column.key);
+    return keys.join(u'|');
+}
+
+// A cell of each kind and what a table shows of it.
+QByteArray cellJson(CellKind kind)
+{
+    switch (kind) {
+    case CellKind::Name:
+        return R"("Point1")";
+    case CellKind::Text:
+        return R"("some text")";
+    case CellKind::Number:
+    case CellKind::Value:
+        return "-12.5";
+    case CellKind::YesNo:
+        return "true";
+    }
+    return {};
+}
+
+QString cellShown(CellKind kind)
+{
+    switch (kind) {
+    case CellKind::Name:
+        return u"Point1"_s;
+    case CellKind::Text:
+        return u"some text"_s;
+    case CellKind::Number:
+    case CellKind::Value:
+        return u"-12.5"_s;
+    case CellKind::YesNo:
+        return u"Yes"_s;
+    }
+    return {};
+}
+
+QString writeProject(const ProjectFolder &folder, const QByteArray &members,
+                     const QByteArray &program = {})
+{
+    folder.write(u"code.txt"_s, program);
+    return folder.write(u"p.json"_s, R"({"format": 1, "name": "Test", "program": "code.txt")" +
+                                         (members.isEmpty() ? members : ", " + members) + "}");
+}
+
+} // namespace
+
+TEST(ProjectColumns, AreThoseOfTheTables)
+{
+    QList<LwType> types;
+    for (const Table &table : tables) {
+        EXPECT_EQ(header(table.type), table.header);
+        EXPECT_EQ(projectMember(table.type), table.member);
+        types.append(table.type);
+    }
+    EXPECT_EQ(projectTypes(), types);
+}
+
+TEST(ProjectColumns, AreNoneForTheCodeAndForNoType)
+{
+    for (const int type : {-1, 0, 13}) {
+        EXPECT_TRUE(projectColumns(static_cast<LwType>(type)).isEmpty());
+        EXPECT_TRUE(projectMember(static_cast<LwType>(type)).isEmpty());
+    }
+}
+
+TEST(CellText, IsFreeOfTheLocale)
+{
+    EXPECT_EQ(cellText({}), QString());
+    EXPECT_EQ(cellText(u"On"_s), u"On"_s);
+    EXPECT_EQ(cellText(21.5), u"21.5"_s);
+    EXPECT_EQ(cellText(0.1), u"0.1"_s);
+    EXPECT_EQ(cellText(1234567.0), u"1234567"_s);
+    EXPECT_EQ(cellText(-3.0), u"-3"_s);
+    EXPECT_EQ(cellText(true), u"Yes"_s);
+    EXPECT_EQ(cellText(false), u"No"_s);
+}
+
+TEST(Project, OfTheLeastIsEmptyButWhole)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(folder, {}));
+    EXPECT_EQ(project.name(), u"Test"_s);
+    EXPECT_EQ(project.controller(), ControllerInfo());
+    EXPECT_EQ(project.program(), QString());
+    EXPECT_EQ(project.indexedNames()->Count(), 0);
+    for (const Table &table : tables)
+        EXPECT_TRUE(project.rows(table.type).isEmpty());
+}
+
+TEST(Project, HandsOutTheFiveCollections)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(folder, R"(
+        "variables": [{"name": "V1", "data": -7}, {"name": "V2"}],
+        "constants": [{"name": "C1"}], "inputs": [{"name": "I1"}],
+        "outputs": [{"name": "O1"}], "networkInputs": [{"name": "N1", "data": 2147483647}],
+        "networkOutputs": [{"name": "X1"}])"));
+    ASSERT_TRUE(project.points(dsVariable));
+    EXPECT_EQ(project.points(dsVariable)->Item(1), (Point{u"V1"_s, -7}));
+    EXPECT_EQ(project.points(dsVariable)->Item(2), (Point{u"V2"_s, 2})); // its row number
+    EXPECT_TRUE(project.points(dsConst)->Find(u"C1"_s));
+    EXPECT_TRUE(project.points(dsInput)->Find(u"I1"_s));
+    EXPECT_TRUE(project.points(dsOutput)->Find(u"O1"_s));
+    EXPECT_EQ(project.points(dsNvi)->Item(1), (Point{u"N1"_s, 2147483647}));
+    for (const int type : {-1, 0, 5, 6, 7, 8, 10, 11, 12, 13})
+        EXPECT_FALSE(project.points(static_cast<LwType>(type))) << type;
+}
+
+TEST(Project, GivesEveryCellOfEveryTable)
+{
+    for (const Table &table : tables) {
+        QByteArrayList members;
+        QStringList expected;
+        for (const ProjectColumn &column : projectColumns(table.type)) {
+            members.append('"' + column.member.toUtf8() + "\": " + cellJson(column.kind));
+            expected.append(cellShown(column.kind));
+        }
+        const ProjectFolder folder;
+        const Project project(writeProject(folder, '"' + table.member.toUtf8() + "\": [{" +
+                                                       members.join(", ") + "}]"));
+        ASSERT_EQ(project.rows(table.type).size(), 1) << table.member.toStdString();
+        QStringList shown;
+        for (const QVariant &cell : project.rows(table.type).constFirst().cells)
+            shown.append(cellText(cell));
+        EXPECT_EQ(shown, expected) << table.member.toStdString();
+    }
+}
+
+TEST(Project, TakesAValueAsNumberOrText)
+{
+    const ProjectFolder folder;
+    const Project project(writeProject(
+        folder, R"("constants": [{"name": "A", "value": "On"}, {"name": "B", "value": 1e3}])"));
+    EXPECT_EQ(cellText(project.rows(dsConst).at(0).cells.at(1)), u"On"_s);
+    EXPECT_EQ(cellText(project.rows(dsConst).at(1).cells.at(1)), u"1000"_s);
+}
+
+TEST(Project, LetsKindsShareAName)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(
+        folder, R"("constants": [{"name": "Limit1"}], "variables": [{"name": "LIMIT1"}])"));
+    EXPECT_EQ(project.points(dsConst)->Item(1)->Name, u"Limit1"_s);
+    EXPECT_EQ(project.points(dsVariable)->Item(1)->Name, u"LIMIT1"_s);
+}
+
+TEST(Project, ReadsTheFamiliesOfIndexedNames)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(folder, R"("indexedNames": [
+        {"name": "Tmr", "format": "00", "lower": 1, "upper": 15},
+        {"name": "Down", "lower": 2147483647, "upper": -2147483648},
+        {"name": "Most", "lower": -1, "upper": 99998}])"));
+    ASSERT_EQ(project.indexedNames()->Count(), 3);
+    EXPECT_EQ(project.indexedNames()->Item(1)->Name(), u"Tmr"_s);
+    EXPECT_EQ(project.indexedNames()->Item(1)->NumberFormat(), u"00"_s);
+    EXPECT_EQ(project.indexedNames()->Item(1)->LowerBound(), 1);
+    EXPECT_EQ(project.indexedNames()->Item(1)->UpperBound(), 15);
+    EXPECT_EQ(project.indexedNames()->Item(2)->NumberFormat(), QString());
+    EXPECT_EQ(project.indexedNames()->Item(2)->UpperBound(), -2147483647 - 1);
+}
+
+TEST(Project, ReadsControllerAndEditor)
+{
+    const ProjectFolder folder;
+    const Project project(writeProject(folder, R"(
+        "controller": {"model": "M", "address": "A", "location": "L", "sqrt": true, "hoa": true},
+        "editor": {"fontSize": 14})"));
+    EXPECT_EQ(project.controller(), (ControllerInfo{u"M"_s, u"A"_s, u"L"_s, true, true}));
+    EXPECT_EQ(project.editor().FontSize, 14);
+}
+
+TEST(Project, FindsTheProgramBesideItself)
+{
+    const ProjectFolder folder;
+    ASSERT_TRUE(QDir().mkdir(folder.path(u"sub"_s)));
+    folder.write(u"sub/code.txt"_s, "\xEF\xBB\xBFREM \xC3\xA9\nX = 1\r\n");
+    const Project project(
+        folder.write(u"p.json"_s, R"({"format": 1, "name": "T", "program": "sub/code.txt"})"));
+    EXPECT_EQ(project.program(), u"REM \u00e9\r\nX = 1\r\n"_s);
+    EXPECT_EQ(project.programFile(), folder.path(u"sub/code.txt"_s));
+    EXPECT_EQ(project.fileName(), folder.path(u"p.json"_s));
+}
+
+TEST(Project, KeepsItsCollectionsInPlace)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(folder, R"("inputs": [{"name": "I1"}])"));
+    PointList *inputs = project.points(dsInput);
+    inputs->Add(u"I2"_s, 5);
+    EXPECT_EQ(project.points(dsInput), inputs);
+    EXPECT_EQ(project.points(dsInput)->Count(), 2);
+}

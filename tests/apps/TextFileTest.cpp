@@ -1,0 +1,94 @@
+#include "project/TextFile.h"
+
+#include "ProjectFolder.h"
+#include "project/ProjectError.h"
+#include "support/QtPrinters.h"
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString decoded(const QByteArray &bytes)
+{
+    return decodeProgram(bytes, u"p"_s);
+}
+
+QString decodingError(const QByteArray &bytes)
+{
+    try {
+        decodeProgram(bytes, u"p"_s);
+    } catch (const Error &error) {
+        EXPECT_EQ(error.Number(), TextNotUtf8);
+        return error.Description();
+    }
+    return u"no error"_s;
+}
+
+} // namespace
+
+TEST(ProgramText, EveryLineEndBecomesCrLf)
+{
+    EXPECT_EQ(decoded("A\nB"), u"A\r\nB"_s);
+    EXPECT_EQ(decoded("A\r\nB"), u"A\r\nB"_s);
+    EXPECT_EQ(decoded("A\rB"), u"A\r\nB"_s);
+    EXPECT_EQ(decoded("A\n\r\n\rB"), u"A\r\n\r\n\r\nB"_s);
+    EXPECT_EQ(decoded("A\r\r\nB"), u"A\r\n\r\nB"_s);
+}
+
+TEST(ProgramText, KeepsTheLineEndAfterTheLastLine)
+{
+    EXPECT_EQ(decoded("A\n"), u"A\r\n"_s);
+    EXPECT_EQ(decoded("A\r"), u"A\r\n"_s);
+    EXPECT_EQ(decoded("\n"), u"\r\n"_s);
+    EXPECT_EQ(decoded(""), QString());
+}
+
+TEST(ProgramText, DropsAByteOrderMark)
+{
+    EXPECT_EQ(decoded("\xEF\xBB\xBF"
+                      "A"),
+              u"A"_s);
+    EXPECT_EQ(decoded("\xEF\xBB\xBF"), QString());
+    EXPECT_EQ(decoded("A\xEF\xBB\xBF"), u"A\uFEFF"_s);
+}
+
+TEST(ProgramText, KeepsEveryOtherCharacter)
+{
+    EXPECT_EQ(decoded("\t\xC2\xA0 \xE2\x80\xA8 \xF0\x9F\x98\x80 \x01\x7F"),
+              u"\t\u00A0 \u2028 \U0001F600 \u0001\u007F"_s);
+    EXPECT_EQ(decoded(QByteArray("A\0B", 3)).size(), 3);
+}
+
+TEST(ProgramText, NamesTheLineThatIsNotUtf8)
+{
+    EXPECT_EQ(decodingError("\xE9"), u"p: line 1 is not valid UTF-8"_s);
+    EXPECT_EQ(decodingError("A\nB\r\nC\rD\xFF\nE"), u"p: line 4 is not valid UTF-8"_s);
+    EXPECT_EQ(decodingError("A\n\xC3"), u"p: line 2 is not valid UTF-8"_s);
+    EXPECT_EQ(decodingError("\xC3\n\xA9"), u"p: line 1 is not valid UTF-8"_s);
+    EXPECT_EQ(decodingError("\xC0\xAF"), u"p: line 1 is not valid UTF-8"_s);
+    EXPECT_EQ(decodingError("\xED\xA0\x80"), u"p: line 1 is not valid UTF-8"_s);
+}
+
+TEST(ReadFile, GivesTheBytes)
+{
+    const ProjectFolder folder;
+    const QByteArray bytes = QByteArray("\0\r\n\xFF", 4).repeated(50000);
+    EXPECT_EQ(readFile(folder.write(u"f"_s, bytes)), bytes);
+    EXPECT_EQ(readFile(folder.write(u"e"_s, {})), QByteArray());
+}
+
+TEST(ReadFile, SaysWhyNot)
+{
+    const ProjectFolder folder;
+    for (const QString &name : {folder.path(u"missing"_s), folder.path(u"."_s)}) {
+        try {
+            readFile(name);
+            ADD_FAILURE() << name.toStdString() << " was read";
+        } catch (const Error &error) {
+            EXPECT_EQ(error.Number(), FileNotReadable);
+            EXPECT_TRUE(error.Description().startsWith(name + u": "_s));
+            EXPECT_GT(error.Description().size(), name.size() + 5);
+        }
+    }
+}

@@ -1,0 +1,34 @@
+# Sourced by check, demo and bench: installs the Debian packages that are missing.
+
+build_packages=(
+    ca-certificates ccache cmake g++ ninja-build pkg-config
+    qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    libgl-dev zlib1g-dev fonts-dejavu-core)
+
+test_packages=(
+    libgtest-dev libgmock-dev python3
+    xvfb xauth xdotool openbox x11-utils)
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+is_installed() {
+    dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null | grep -qx installed
+}
+
+install_packages() {
+    local package missing=()
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    echo "Installing ${missing[*]}"
+    as_root apt-get -qq update
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get -qq install -y --no-install-recommends "${missing[@]}" >/dev/null
+}
