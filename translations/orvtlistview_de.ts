@@ -401,8 +401,8 @@
         <translation>Ungültiges Zeichen: &apos;\&apos; ist für RTF reserviert!</translation>
     </message>
     <message>
-        <source>The text on the clipboard is too long!</source>
-        <translation>Der Text in der Zwischenablage ist zu lang!</translation>
+        <source>The text is too large.</source>
+        <translation>Der Text ist zu groß.</translation>
     </message>
     <message>
         <source>Code Text Setting</source>
@@ -413,6 +413,26 @@
         <source>Bad %1 for Editer of Code!</source>
         <extracomment>%1 is the name of a colour setting, such as BackColor</extracomment>
         <translation>Ungültige Farbe %1 für den Programmeditor!</translation>
+    </message>
+    <message>
+        <source>The undo snapshot&apos;s selection is not a number</source>
+        <translation>Beschädigter Undo-Schritt: Die Auswahl ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>The undo snapshot&apos;s selection is too large a number</source>
+        <translation>Beschädigter Undo-Schritt: Die Auswahl ist zu groß</translation>
+    </message>
+    <message>
+        <source>The undo snapshot has fewer than three fields</source>
+        <translation>Beschädigter Undo-Schritt: weniger als drei Felder</translation>
+    </message>
+    <message>
+        <source>The undo snapshot&apos;s text holds the separator of its fields</source>
+        <translation>Beschädigter Undo-Schritt: Der Text enthält das Feldtrennzeichen</translation>
+    </message>
+    <message>
+        <source>The text holds a character that the 8-bit code page lacks</source>
+        <translation>Der Text enthält ein Zeichen, das der 8-Bit-Codepage fehlt</translation>
     </message>
     <message>
         <source>Insufficient memory to compress string</source>

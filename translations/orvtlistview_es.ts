@@ -401,8 +401,8 @@
         <translation>¡Carácter no válido: &apos;\&apos; está reservado para RTF!</translation>
     </message>
     <message>
-        <source>The text on the clipboard is too long!</source>
-        <translation>¡El texto del portapapeles es demasiado largo!</translation>
+        <source>The text is too large.</source>
+        <translation>El texto es demasiado grande.</translation>
     </message>
     <message>
         <source>Code Text Setting</source>
@@ -413,6 +413,26 @@
         <source>Bad %1 for Editer of Code!</source>
         <extracomment>%1 is the name of a colour setting, such as BackColor</extracomment>
         <translation>¡Color %1 no válido para el editor de programas!</translation>
+    </message>
+    <message>
+        <source>The undo snapshot&apos;s selection is not a number</source>
+        <translation>Paso de deshacer dañado: la selección no es un número</translation>
+    </message>
+    <message>
+        <source>The undo snapshot&apos;s selection is too large a number</source>
+        <translation>Paso de deshacer dañado: la selección es demasiado grande</translation>
+    </message>
+    <message>
+        <source>The undo snapshot has fewer than three fields</source>
+        <translation>Paso de deshacer dañado: menos de tres campos</translation>
+    </message>
+    <message>
+        <source>The undo snapshot&apos;s text holds the separator of its fields</source>
+        <translation>Paso de deshacer dañado: el texto contiene el separador de los campos</translation>
+    </message>
+    <message>
+        <source>The text holds a character that the 8-bit code page lacks</source>
+        <translation>El texto contiene un carácter que falta en la página de códigos de 8 bits</translation>
     </message>
     <message>
         <source>Insufficient memory to compress string</source>

@@ -401,8 +401,8 @@
         <translation>Caractère non valide&#xa0;: &apos;\&apos; est réservé au RTF&#xa0;!</translation>
     </message>
     <message>
-        <source>The text on the clipboard is too long!</source>
-        <translation>Le texte du presse-papiers est trop long&#xa0;!</translation>
+        <source>The text is too large.</source>
+        <translation>Le texte est trop grand.</translation>
     </message>
     <message>
         <source>Code Text Setting</source>
@@ -413,6 +413,26 @@
         <source>Bad %1 for Editer of Code!</source>
         <extracomment>%1 is the name of a colour setting, such as BackColor</extracomment>
         <translation>Couleur %1 non valide pour l’éditeur de programme&#xa0;!</translation>
+    </message>
+    <message>
+        <source>The undo snapshot&apos;s selection is not a number</source>
+        <translation>Étape d’annulation endommagée&#xa0;: la sélection n’est pas un nombre</translation>
+    </message>
+    <message>
+        <source>The undo snapshot&apos;s selection is too large a number</source>
+        <translation>Étape d’annulation endommagée&#xa0;: la sélection est trop grande</translation>
+    </message>
+    <message>
+        <source>The undo snapshot has fewer than three fields</source>
+        <translation>Étape d’annulation endommagée&#xa0;: moins de trois champs</translation>
+    </message>
+    <message>
+        <source>The undo snapshot&apos;s text holds the separator of its fields</source>
+        <translation>Étape d’annulation endommagée&#xa0;: le texte contient le séparateur des champs</translation>
+    </message>
+    <message>
+        <source>The text holds a character that the 8-bit code page lacks</source>
+        <translation>Le texte contient un caractère absent de la page de codes 8 bits</translation>
     </message>
     <message>
         <source>Insufficient memory to compress string</source>

@@ -5,6 +5,7 @@
 #include "editor/ThreadColouring.h"
 #include "platform/Error.h"
 #include "platform/RichTextBox.h"
+#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
 namespace ORVTListview {
@@ -66,7 +67,7 @@ void EditorUndo::step(bool forwards, QString &ErrMsg)
         if (!record.isEmpty())
             show(splitUndoRecord(record));
     } catch (const Error &error) {
-        ErrMsg = error.Description();
+        ErrMsg = Localise(error.Description());
     }
 }
 

@@ -150,13 +150,22 @@ constexpr LibraryText texts[] = {
     //: The list of known words
     {QT_TRANSLATE_NOOP("ORVTListview", "List not found!"), Message},
     {QT_TRANSLATE_NOOP("ORVTListview", "Invalid letter: '\\' that is reserved to RTF!"), Message},
-    {QT_TRANSLATE_NOOP("ORVTListview", "The text on the clipboard is too long!"), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "The text is too large."), Message},
     //: How the code editor looks
     {QT_TRANSLATE_NOOP("ORVTListview", "Code Text Setting"), Title},
     //: %1 is the name of a colour setting, such as BackColor
     {QT_TRANSLATE_NOOP("ORVTListview", "Bad %1 for Editer of Code!"), Message},
 
     // Failures of undo and redo
+    {QT_TRANSLATE_NOOP("ORVTListview", "The undo snapshot's selection is not a number"), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "The undo snapshot's selection is too large a number"),
+     Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "The undo snapshot has fewer than three fields"), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview",
+                       "The undo snapshot's text holds the separator of its fields"),
+     Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "The text holds a character that the 8-bit code page lacks"),
+     Message},
     {QT_TRANSLATE_NOOP("ORVTListview", "Insufficient memory to compress string"), Message},
     {QT_TRANSLATE_NOOP("ORVTListview", "Insufficient space in output buffer to compress string"),
      Message},

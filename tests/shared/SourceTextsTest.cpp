@@ -115,3 +115,13 @@ TEST(SourceTexts, EveryColumnOfAPointTableIsInTheList)
         }
     }
 }
+
+TEST(SourceTexts, EveryFailureOfUndoIsInTheList)
+{
+    for (const Source &source : sources()) {
+        if (source.path != u"editor/UndoRecord.cpp"_s && source.path != u"shared/Compression.cpp"_s)
+            continue;
+        for (const QString &text : allTexts(source.text).filter(u" "_s))
+            EXPECT_TRUE(isKnown(text)) << text.toStdString();
+    }
+}
