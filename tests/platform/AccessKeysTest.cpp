@@ -78,6 +78,7 @@ TEST(AccessKeys, ACaptionWithoutAFreeLetterMakesOthersMoveOn)
 {
     EXPECT_EQ(keysOf(u"ab|a"_s), u"a&b|&a"_s);
     EXPECT_EQ(keysOf(u"abc|ab|a"_s), u"ab&c|a&b|&a"_s);
+    EXPECT_EQ(keysOf(u"ab|bc|a"_s), u"a&b|b&c|&a"_s);
 }
 
 TEST(AccessKeys, TooManyCaptionsLeaveSomeWithout)
