@@ -29,7 +29,9 @@ protected:
 private Q_SLOTS:
     virtual void init()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+        // The off-screen platform has nobody to tell size hints to, and says so.
+        QTest::failOnWarning(
+            QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
         renewState();
     }
     virtual void cleanup() { m_state.reset(); }
