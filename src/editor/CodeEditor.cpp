@@ -14,6 +14,7 @@
 #include "platform/RtfReader.h"
 #include "platform/TextRules.h"
 #include "shared/HostForms.h"
+#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
 #include <QtCore/QScopeGuard>
@@ -223,7 +224,9 @@ QString CodeEditor::GetPositionDisplay() const
 {
     const qint32 caret = m_box->SelStart();
     const qint32 line = m_box->GetLineFromChar(caret);
-    return u"Row: %1, Col: %2"_s.arg(line + 1).arg(caret - m_box->lineStart(line) + 1);
+    const QString row = QString::number(line + 1);
+    const QString column = QString::number(caret - m_box->lineStart(line) + 1);
+    return Localise(u"Row:"_s) + u' ' + row + Localise(u", Col:"_s) + u' ' + column;
 }
 
 QString CodeEditor::GetWholeWord(qint32 StartIndex, qint32 &WordStartIndex, qint32 &Color) const

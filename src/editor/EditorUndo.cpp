@@ -6,6 +6,7 @@
 #include "editor/ThreadColouring.h"
 #include "platform/Error.h"
 #include "platform/RichTextBox.h"
+#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
 namespace ORVTListview {
@@ -72,8 +73,12 @@ bool EditorUndo::step(bool forwards, QString &ErrMsg)
         show(state, colouredText(threadColouring(), state.text, false, editorSettings()));
         return true;
     } catch (const Error &error) {
+<<<<<<< HEAD
         ErrMsg = error.Description();
         return false;
+=======
+        ErrMsg = Localise(error.Description());
+>>>>>>> refs/heads/texts
     }
 }
 
