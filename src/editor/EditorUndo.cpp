@@ -73,12 +73,8 @@ bool EditorUndo::step(bool forwards, QString &ErrMsg)
         show(state, colouredText(threadColouring(), state.text, false, editorSettings()));
         return true;
     } catch (const Error &error) {
-<<<<<<< HEAD
-        ErrMsg = error.Description();
-        return false;
-=======
         ErrMsg = Localise(error.Description());
->>>>>>> refs/heads/texts
+        return false;
     }
 }
 
