@@ -15,8 +15,8 @@ bool isPlain(QChar c)
 
 void appendDigits(QString &out, qint64 number, int base)
 {
-    std::array<char, 24> digits;
-    const auto end = std::to_chars(digits.begin(), digits.end(), number, base).ptr;
+    std::array<char, 24> digits{};
+    const char *end = std::to_chars(digits.begin(), digits.end(), number, base).ptr;
     out += QLatin1StringView(digits.begin(), end);
 }
 
