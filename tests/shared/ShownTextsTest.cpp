@@ -19,12 +19,6 @@ class ShownTextsTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override
-    {
-        WidgetTest::init();
-        setTextProvider(&m_pseudo);
-    }
-
     void everyKindOfTextIsFound()
     {
         QWidget form;
@@ -45,6 +39,8 @@ private Q_SLOTS:
 
     void onlyWordsOutsideTheBracketsAreReported()
     {
+        PseudoTexts pseudo;
+        setTextProvider(&pseudo);
         QWidget form;
         QLabel good(Localise(u"Found in"_s) + u" 3"_s + Localise(u", Col:"_s), &form);
         QLabel keyed(u"\u27e6&Close\u27e7"_s, &form);
@@ -57,9 +53,6 @@ private Q_SLOTS:
             shownWithoutLookup(form),
             QStringList({u"Unknown text"_s, PseudoTexts::inBrackets(u"Row:"_s) + u" three"_s}));
     }
-
-private:
-    PseudoTexts m_pseudo;
 };
 
 QTEST_MAIN(ShownTextsTest)
