@@ -1,6 +1,7 @@
 #include "platform/RichTextBox.h"
 
 #include "platform/BoxColours.h"
+#include "platform/BoxLayout.h"
 #include "platform/BoxMarks.h"
 #include "platform/BoxSink.h"
 #include "platform/BoxSource.h"
@@ -47,8 +48,12 @@ QTextCharFormat formatAt(const QTextCursor &cursor)
 
 RichTextBox::RichTextBox(QWidget *parent)
     : QPlainTextEdit(parent)
-    , m_parts(std::make_unique<Parts>(*this))
 {
+    auto *text = new QTextDocument(this);
+    text->setDefaultFont(font());
+    text->setDocumentLayout(new BoxLayout(*text, *viewport()));
+    setDocument(text);
+    m_parts = std::make_unique<Parts>(*this);
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
     m_parts->formats.setFont(font());
