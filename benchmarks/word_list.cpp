@@ -50,7 +50,8 @@ public:
         QCoreApplication::processEvents();
         PaintWatch watch(*list().viewport());
         return timed([&] {
-            m_editor.TryToPopupList();
+            bool isShowAbsolutely = true; // a beginning may be a name by itself
+            m_editor.TryToPopupList(isShowAbsolutely);
             if (!watch.finishPainting())
                 qFatal("the list was not painted");
         });
