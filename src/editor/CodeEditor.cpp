@@ -46,6 +46,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     , m_colouring(*m_box)
     , m_undo(*m_box)
     , m_keys(*this)
+    , m_status(new StatusTimer(this))
     , m_popup(list, *m_box)
 {
     MessageBoxes::installAsDefault();
@@ -74,7 +75,7 @@ void CodeEditor::connectBox()
         m_popup.follow();
     });
     connect(&m_popup, &PopupWordList::picked, this, &CodeEditor::takeWord);
-    connect(&m_status, &StatusTimer::quiet, this, &CodeEditor::raiseStatus);
+    connect(m_status, &StatusTimer::quiet, this, &CodeEditor::raiseStatus);
 }
 
 void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)

@@ -84,7 +84,7 @@ public:
     bool pasteFromOutside(const QString &data);
     void finishCaretLine() { m_colouring.finishCaretLine(); }
     void PushUndoSnapshot() { m_undo.PushUndoSnapshot(m_isReady); }
-    void rearmStatusTimer() { m_status.rearm(); }
+    void rearmStatusTimer() { m_status->rearm(); }
 
     void takeList() { m_popup.takeList(); }
     void giveListBack() { m_popup.giveListBack(); }
@@ -130,7 +130,7 @@ private:
     TypedColouring m_colouring;
     EditorUndo m_undo;
     EditorKeys m_keys;
-    StatusTimer m_status;
+    StatusTimer *m_status;
     TabStops m_tabStops;
     PopupWordList m_popup;
     QPointer<QWidget> m_form;

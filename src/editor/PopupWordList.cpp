@@ -5,6 +5,7 @@
 #include "editor/KeyRules.h"
 #include "editor/Vocabulary.h"
 #include "editor/WordInBox.h"
+#include "platform/ColumnHeaders.h"
 #include "platform/ListItem.h"
 #include "platform/ReportList.h"
 #include "platform/RichTextBox.h"
@@ -63,6 +64,8 @@ void PopupWordList::takeList()
     m_list.setHeaderVisible(false);
     m_list.setEditsLabels(false);
     m_list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list.ColumnHeaders()->Clear();
+    m_list.ColumnHeaders()->Add(0, QStringLiteral("#"), QStringLiteral("#"));
     refill();
 }
 
