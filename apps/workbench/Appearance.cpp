@@ -1,6 +1,7 @@
 #include "Appearance.h"
 
 #include <QtGui/QColor>
+#include <QtGui/QPalette>
 
 #include <algorithm>
 #include <cmath>
@@ -46,29 +47,6 @@ RichTextSettings legibleOn(const QPalette &palette, RichTextSettings settings)
                            &settings.CommentColor, &settings.nviFPAColor, &settings.nvoFPAColor})
         *colour = madeLight(*colour, ground);
     return settings;
-}
-
-QPalette darkPalette()
-{
-    const QColor window(0x2b, 0x2d, 0x30);
-    const QColor base(0x1e, 0x1f, 0x22);
-    const QColor text(0xdf, 0xe1, 0xe5);
-    const QColor dimmed(0x80, 0x83, 0x8a);
-    QPalette palette(text, window, window.lighter(150), base.darker(150), window.lighter(130), text,
-                     Qt::white, base, window);
-    palette.setColor(QPalette::Button, QColor(0x39, 0x3b, 0x40));
-    palette.setColor(QPalette::AlternateBase, window);
-    palette.setColor(QPalette::ToolTipBase, QColor(0x39, 0x3b, 0x40));
-    palette.setColor(QPalette::ToolTipText, text);
-    palette.setColor(QPalette::PlaceholderText, dimmed);
-    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(0x6b, 0x9b, 0xfa));
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
-        palette.setColor(QPalette::Disabled, role, dimmed);
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, window.lighter(130));
-    return palette;
 }
 
 } // namespace ORVTListview

@@ -5,6 +5,10 @@
 #include <ORVTListview/ImageList.h>
 
 #include <QtGui/QIcon>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyle>
+
+#include <algorithm>
 
 namespace ORVTListview {
 
@@ -62,10 +66,8 @@ QVariant CheckModel::data(const QModelIndex &index, int role) const
 {
     if (role == Qt::DisplayRole)
         return text(index);
-    if (role == Qt::DecorationRole && m_isListOfWords && index.column() == Class) {
-        const WordClass wordClass = m_words[index.row()].wordClass;
-        return m_pictures.Picture(styleOf(wordClass, RichTextSettings()).ImageIndex);
-    }
+    if (role == Qt::DecorationRole)
+        return picture(index);
     if (role == Qt::TextAlignmentRole && m_isListOfWords && index.column() == Line)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     return {};
@@ -84,6 +86,17 @@ QString CheckModel::text(const QModelIndex &index) const
     default:
         return classText(word);
     }
+}
+
+QVariant CheckModel::picture(const QModelIndex &index) const
+{
+    if (m_isListOfWords && index.column() == Class) {
+        const WordClass wordClass = m_words[index.row()].wordClass;
+        return m_pictures.Picture(styleOf(wordClass, RichTextSettings()).ImageIndex);
+    }
+    if (!m_findings.isEmpty())
+        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    return {};
 }
 
 QVariant CheckModel::headerData(int section, Qt::Orientation orientation, int role) const

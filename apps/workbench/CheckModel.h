@@ -40,6 +40,7 @@ public:
 
 private:
     QString text(const QModelIndex &index) const;
+    QVariant picture(const QModelIndex &index) const;
 
     const ImageList &m_pictures;
     QList<ProgramFinding> m_findings;

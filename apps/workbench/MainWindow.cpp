@@ -44,6 +44,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_code->setListviewType(dsCode);
     setCentralWidget(m_code);
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
+    resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
     buildMenus();
     buildStatusBar();

@@ -1,5 +1,5 @@
-#include "Appearance.h"
 #include "CommandLine.h"
+#include "DarkColours.h"
 #include "MainWindow.h"
 
 #include <ORVTListview/Error.h>
@@ -28,10 +28,8 @@ int writeScreenshot(QWidget &window, const QString &file)
 
 void prepareLook(const Options &options)
 {
-    if (options.isDark) {
-        QApplication::setStyle(u"Fusion"_s);
-        QApplication::setPalette(darkPalette());
-    }
+    if (options.isDark)
+        useDarkColours();
     if (!options.screenshot.isEmpty())
         QApplication::setCursorFlashTime(0); // one picture is like the other
 }
