@@ -7,7 +7,7 @@ build_packages=(
 
 test_packages=(
     libgtest-dev libgmock-dev python3
-    xvfb xauth xdotool openbox x11-utils)
+    xvfb xauth xclip xdotool openbox x11-utils)
 
 # What ./bench compares with.
 bench_packages=(

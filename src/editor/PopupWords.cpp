@@ -1,7 +1,6 @@
 #include "editor/PopupWords.h"
 
 #include "editor/Vocabulary.h"
-#include "editor/WordIndex.h"
 #include "platform/TextRules.h"
 
 #include <algorithm>
@@ -23,6 +22,8 @@ WordClass reservedClass(const QString &word, const Vocabulary &vocabulary)
     return WordClass::FanIn;
 }
 
+} // namespace
+
 WordClass classOf(const WordIndex::Entry &entry, const Vocabulary &vocabulary)
 {
     switch (entry.data) {
@@ -40,8 +41,6 @@ WordClass classOf(const WordIndex::Entry &entry, const Vocabulary &vocabulary)
         return reservedClass(entry.text, vocabulary);
     }
 }
-
-} // namespace
 
 PopupWords::PopupWords(const WordIndex &index, const Vocabulary &vocabulary,
                        const RichTextSettings &settings)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/WordClass.h"
+#include "editor/WordIndex.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -8,7 +9,9 @@
 namespace ORVTListview {
 
 class Vocabulary;
-class WordIndex;
+
+// The class of an entry of the thread's word index.
+ORVT_CORE_EXPORT WordClass classOf(const WordIndex::Entry &entry, const Vocabulary &vocabulary);
 
 // An entry of the pop-up word list.
 struct PopupWord
