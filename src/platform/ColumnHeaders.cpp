@@ -3,9 +3,6 @@
 #include "platform/Error.h"
 #include "platform/ReportListParts.h"
 
-#include <memory>
-#include <utility>
-
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
@@ -60,9 +57,8 @@ ColumnHeader *ColumnHeaders::Add(qint32 Index, const QString &Key, const QString
     if (m_parts.model.findColumn(Key))
         throw Error(InvalidCall, member, u"The key \"%1\" is in use already"_s.arg(Key));
     const int position = Index == 0 ? Count() : Index - 1;
-    auto made = std::make_unique<ReportColumn>(Key, Text, Alignment & Qt::AlignHorizontal_Mask);
-    ReportColumn &column = *made;
-    m_parts.model.addColumn(position, std::move(made));
+    ReportColumn &column =
+        m_parts.model.addColumn(position, Key, Text, Alignment & Qt::AlignHorizontal_Mask);
     m_parts.widths.setWidth(position, static_cast<double>(Width));
     return m_parts.handles.of(column);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ORVTListview/Export.h>
+
 #include <QtCore/QMimeData>
 #include <QtCore/QStringList>
 
@@ -9,7 +11,7 @@ namespace ORVTListview {
 
 // Data of a drag of ours. A promised format is there for whoever asks which
 // formats there are, and is made when its data are wanted.
-class DragData final : public QMimeData
+class ORVT_EXPORT DragData final : public QMimeData
 {
     Q_OBJECT
 

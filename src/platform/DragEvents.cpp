@@ -3,8 +3,7 @@
 #include "platform/DataObject.h"
 #include "platform/DragData.h"
 #include "platform/EventGuard.h"
-#include "platform/InputEvents.h"
-#include "platform/Twips.h"
+#include "platform/MouseArguments.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QDrag>
@@ -168,18 +167,27 @@ bool DragEvents::handle(QEvent &event)
     }
 }
 
+// Raises OLEDragOver and returns the effect that is left.
+qint32 DragEvents::raiseOver(qint32 effect, const MouseArguments &mouse, State state)
+{
+    DataObject data(m_overData, DataObject::Side::Target);
+    Q_EMIT OLEDragOver(&data, effect, mouse.Button, mouse.Shift, mouse.X, mouse.Y, state);
+    return effect;
+}
+
+MouseArguments DragEvents::mouseOf(const QDropEvent &event)
+{
+    m_overPosition = m_surface.mapTo(&m_widget, event.position());
+    return mouseArguments(m_overPosition, event.buttons(), event.modifiers(), m_widget);
+}
+
 void DragEvents::over(QDropEvent &event)
 {
     m_overData = const_cast<QMimeData *>(event.mimeData());
-    m_overPosition = m_surface.mapTo(&m_widget, event.position().toPoint());
+    const MouseArguments mouse = mouseOf(event);
     const State state = std::exchange(m_isAnnounced, true) ? Over : Enter;
-    DataObject data(m_overData, DataObject::Side::Target);
-    qint32 effect = toEffect(event.proposedAction());
-    Q_EMIT OLEDragOver(&data, effect, InputEvents::buttons(event.buttons()),
-                       InputEvents::shift(event.modifiers()),
-                       static_cast<float>(Twips::fromPixelsX(m_overPosition.x(), m_widget)),
-                       static_cast<float>(Twips::fromPixelsY(m_overPosition.y(), m_widget)), state);
-    answer(event, effect); // the event lives on even if this object does not
+    // The event lives on even if this object does not.
+    answer(event, raiseOver(toEffect(event.proposedAction()), mouse, state));
 }
 
 void DragEvents::leave()
@@ -187,25 +195,20 @@ void DragEvents::leave()
     m_isOver = false;
     if (!std::exchange(m_isAnnounced, false))
         return;
-    DataObject data(m_overData, DataObject::Side::Target);
-    qint32 effect = None;
-    Q_EMIT OLEDragOver(&data, effect, InputEvents::buttons(QGuiApplication::mouseButtons()),
-                       InputEvents::shift(QGuiApplication::keyboardModifiers()),
-                       static_cast<float>(Twips::fromPixelsX(m_overPosition.x(), m_widget)),
-                       static_cast<float>(Twips::fromPixelsY(m_overPosition.y(), m_widget)), Leave);
+    raiseOver(None,
+              mouseArguments(m_overPosition, QGuiApplication::mouseButtons(),
+                             QGuiApplication::keyboardModifiers(), m_widget),
+              Leave);
 }
 
 void DragEvents::drop(QDropEvent &event)
 {
     m_isOver = false;
     m_isAnnounced = false;
-    const QPoint position = m_surface.mapTo(&m_widget, event.position().toPoint());
     DataObject data(const_cast<QMimeData *>(event.mimeData()), DataObject::Side::Target);
+    const MouseArguments mouse = mouseOf(event);
     qint32 effect = toEffect(event.proposedAction());
-    Q_EMIT OLEDragDrop(&data, effect, InputEvents::buttons(event.buttons()),
-                       InputEvents::shift(event.modifiers()),
-                       static_cast<float>(Twips::fromPixelsX(position.x(), m_widget)),
-                       static_cast<float>(Twips::fromPixelsY(position.y(), m_widget)));
+    Q_EMIT OLEDragDrop(&data, effect, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
     answer(event, effect);
 }
 

@@ -19,6 +19,7 @@ class QWidget;
 namespace ORVTListview {
 
 class DragData;
+struct MouseArguments;
 
 // Drag and drop for a widget, by the six published events. Effects are 0 none,
 // 1 copy, 2 move, 4 link, and sums of them where several are allowed. X and Y are
@@ -77,6 +78,8 @@ private:
     void start();
     void run(std::unique_ptr<DragData> data, qint32 allowed);
     void giveFeedback(Qt::DropAction action);
+    qint32 raiseOver(qint32 effect, const MouseArguments &mouse, State state);
+    MouseArguments mouseOf(const QDropEvent &event);
     void over(QDropEvent &event);
     void leave();
     void drop(QDropEvent &event);
@@ -89,7 +92,7 @@ private:
     bool m_isOver = false;      // a drag is over the surface
     bool m_isAnnounced = false; // and its Enter was raised
     QPointer<QMimeData> m_overData;
-    QPoint m_overPosition;
+    QPointF m_overPosition;
 };
 
 } // namespace ORVTListview

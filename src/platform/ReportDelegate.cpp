@@ -2,10 +2,28 @@
 
 #include "platform/CellText.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStyle>
 
 namespace ORVTListview {
+
+void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                           const QModelIndex &index) const
+{
+    QStyleOptionViewItem unfocused = option;
+    unfocused.state &= ~QStyle::State_HasFocus;
+    QStyledItemDelegate::paint(painter, unfocused, index);
+    if (!option.state.testFlag(QStyle::State_HasFocus))
+        return;
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    const QColor colour =
+        option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+    painter->save();
+    painter->setPen(QPen(colour, 1, Qt::DotLine));
+    painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter->restore();
+}
 
 QString ReportDelegate::displayText(const QVariant &value, const QLocale &) const
 {

@@ -27,6 +27,7 @@ ReportListParts::ReportListParts(ReportList &owner)
     , items(*this)
     , headers(*this)
     , drag(owner, *owner.viewport())
+    , surface(*owner.viewport())
 {
 }
 
@@ -42,7 +43,9 @@ ReportList::ReportList(QWidget *parent)
 
 ReportList::~ReportList()
 {
-    QTableView::setModel(nullptr); // while the parts that the view calls are there
+    // While the parts that the view calls are there.
+    QTableView::setModel(nullptr);
+    d->surface.letGo();
 }
 
 void ReportList::setUpLook()

@@ -199,6 +199,8 @@ protected:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
+    friend class RowChoice;
+
     using KeySignal = void (ReportList::*)(qint16 &, qint16);
     using MouseSignal = void (ReportList::*)(qint16, qint16, float, float);
 
@@ -213,7 +215,7 @@ private:
     void followDrag(const QEvent &event);
     ListItem *itemOf(const QModelIndex &index) const;
     bool isChosenLabel(const QModelIndex &index) const;
-    bool raiseMouse(MouseSignal signal, Qt::MouseButtons buttons, const QMouseEvent &event);
+    bool raiseMouse(MouseSignal signal, const QMouseEvent &event);
     bool raiseKey(KeySignal signal, const QKeyEvent &event);
     bool raiseKeyPress(const QKeyEvent &event, QString &typed);
     void act(QKeyEvent &event);

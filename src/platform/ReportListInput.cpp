@@ -2,11 +2,10 @@
 // look whether the list still exists.
 
 #include "platform/EventGuard.h"
-#include "platform/InputEvents.h"
+#include "platform/MouseArguments.h"
 #include "platform/PlainToolTip.h"
 #include "platform/ReportListParts.h"
 #include "platform/RowCopy.h"
-#include "platform/Twips.h"
 #include "platform/VirtualKeys.h"
 
 #include <QtCore/QMimeData>
@@ -39,9 +38,11 @@ bool ReportList::event(QEvent *event)
 
 bool ReportList::viewportEvent(QEvent *event)
 {
-    return EventGuard::run([this, event] {
+    if (!d)
+        return QTableView::viewportEvent(event);
+    return d->surface.deliver([this, event] {
         const QPointer<ReportList> self(this);
-        if (d && d->drag.handle(*event)) {
+        if (d->drag.handle(*event)) {
             if (self)
                 followDrag(*event);
             return true;
@@ -221,14 +222,11 @@ void ReportList::toggleCurrent()
 
 // Mouse.
 
-bool ReportList::raiseMouse(MouseSignal signal, Qt::MouseButtons buttons, const QMouseEvent &event)
+bool ReportList::raiseMouse(MouseSignal signal, const QMouseEvent &event)
 {
-    const QPointF position = viewport()->mapTo(this, event.position());
+    const MouseArguments mouse = mouseArguments(event, *this);
     const QPointer<ReportList> self(this);
-    Q_EMIT(this->*signal)
-    (InputEvents::buttons(buttons), InputEvents::shift(event.modifiers()),
-     static_cast<float>(Twips::fromPixelsX(position.x(), *this)),
-     static_cast<float>(Twips::fromPixelsY(position.y(), *this)));
+    Q_EMIT(this->*signal)(mouse.Button, mouse.Shift, mouse.X, mouse.Y);
     return self;
 }
 
@@ -242,7 +240,7 @@ bool ReportList::isChosenLabel(const QModelIndex &index) const
 void ReportList::mousePressEvent(QMouseEvent *event)
 {
     const bool focused = std::exchange(d->focusedByMouse, false);
-    if (!raiseMouse(&ReportList::MouseDown, event->button(), *event))
+    if (!raiseMouse(&ReportList::MouseDown, *event))
         return;
     const bool left = event->button() == Qt::LeftButton;
     d->clickAwaited = left;
@@ -257,13 +255,13 @@ void ReportList::mousePressEvent(QMouseEvent *event)
 
 void ReportList::mouseMoveEvent(QMouseEvent *event)
 {
-    if (raiseMouse(&ReportList::MouseMove, event->buttons(), *event))
+    if (raiseMouse(&ReportList::MouseMove, *event))
         pick([this, event] { QTableView::mouseMoveEvent(event); });
 }
 
 void ReportList::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!raiseMouse(&ReportList::MouseUp, event->button(), *event))
+    if (!raiseMouse(&ReportList::MouseUp, *event))
         return;
     d->checkedPosition = -1;
     QTableView::mouseReleaseEvent(event);

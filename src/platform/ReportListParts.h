@@ -3,6 +3,7 @@
 #include "platform/ColumnHeaders.h"
 #include "platform/ColumnWidths.h"
 #include "platform/DragEvents.h"
+#include "platform/EventSurface.h"
 #include "platform/ListHandles.h"
 #include "platform/ListItems.h"
 #include "platform/ReportDelegate.h"
@@ -29,6 +30,7 @@ struct ReportListParts
     ColumnHeaders headers;
     ReportDelegate delegate;
     DragEvents drag;
+    EventSurface surface;
     SlowClick slowClick;
 
     bool copies = true;

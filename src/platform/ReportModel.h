@@ -67,7 +67,8 @@ public:
     }
     ReportColumn *findColumn(const QString &key) const;
     int positionOf(const ReportColumn &column) const;
-    void addColumn(int position, std::unique_ptr<ReportColumn> column);
+    ReportColumn &addColumn(int position, const QString &key, const QString &text,
+                            Qt::Alignment alignment);
     void deleteColumn(int position);
     void clearColumns();
     void setColumnText(ReportColumn &column, const QString &text);

@@ -1,7 +1,6 @@
 #include "platform/ReportModel.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace ORVTListview {
 
@@ -20,12 +19,15 @@ int ReportModel::positionOf(const ReportColumn &column) const
 }
 
 // The columns behind a new or removed one show other cells from then on.
-void ReportModel::addColumn(int position, std::unique_ptr<ReportColumn> column)
+ReportColumn &ReportModel::addColumn(int position, const QString &key, const QString &text,
+                                     Qt::Alignment alignment)
 {
     beginInsertColumns({}, position, position);
-    m_columns.insert(m_columns.begin() + position, std::move(column));
+    m_columns.insert(m_columns.begin() + position,
+                     std::make_unique<ReportColumn>(key, text, alignment));
     endInsertColumns();
     touchAll(position + 1, columns() - 1, {});
+    return column(position);
 }
 
 void ReportModel::deleteColumn(int position)

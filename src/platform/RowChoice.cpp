@@ -1,10 +1,10 @@
 #include "platform/RowChoice.h"
 
+#include "platform/ReportList.h"
 #include "platform/ReportModel.h"
 
 #include <QtCore/QItemSelectionModel>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QTableView>
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ constexpr auto wholeRow = QItemSelectionModel::Rows;
 
 } // namespace
 
-RowChoice::RowChoice(QTableView &view, ReportModel &model)
+RowChoice::RowChoice(ReportList &view, ReportModel &model)
     : m_view(view)
     , m_model(model)
 {
@@ -101,6 +101,7 @@ void RowChoice::ensureVisible(const ReportRow &row)
     const QModelIndex index = m_model.index(m_model.positionOf(row), 0);
     if (!m_view.isVisible())
         m_showLater = index;
+    m_view.executeDelayedItemsLayout(); // else the scroll bars know fewer rows
     const int horizontal = m_view.horizontalScrollBar()->value();
     m_view.scrollTo(index);
     m_view.horizontalScrollBar()->setValue(horizontal);

@@ -3,10 +3,9 @@
 #include <QtCore/QList>
 #include <QtCore/QPersistentModelIndex>
 
-class QTableView;
-
 namespace ORVTListview {
 
+class ReportList;
 class ReportModel;
 struct ReportRow;
 
@@ -15,8 +14,8 @@ struct ReportRow;
 class RowChoice
 {
 public:
-    RowChoice(QTableView &view, ReportModel &model);
-    Q_DISABLE_COPY_MOVE(RowChoice) // follows one view
+    RowChoice(ReportList &view, ReportModel &model);
+    Q_DISABLE_COPY_MOVE(RowChoice) // follows one list
 
     bool isSelected(const ReportRow &row) const;
     void setSelected(const ReportRow &row, bool selected);
@@ -40,7 +39,7 @@ public:
 private:
     void makeCurrent(const ReportRow &row);
 
-    QTableView &m_view;
+    ReportList &m_view;
     ReportModel &m_model;
     QPersistentModelIndex m_showLater;
 };
