@@ -11,6 +11,8 @@
 #include "shared/Pictures.h"
 #include "shared/ThreadState.h"
 
+#include <QtCore/QTimer>
+
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
@@ -50,6 +52,8 @@ ORVListView::ORVListView(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>(this))
 {
+    auto *timerWidth = new QTimer(this); // published, without duties
+    timerWidth->setObjectName(u"TimerWidth"_s);
     connect(d->editor, &CodeEditor::KeyDown, this, &ORVListView::KeyDown);
     connect(d->editor, &CodeEditor::MouseDown, this, &ORVListView::MouseDown);
     connect(d->editor, &CodeEditor::StatusUpdate, this, &ORVListView::StatusUpdate);

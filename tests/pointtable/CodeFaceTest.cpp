@@ -13,6 +13,8 @@
 
 #include "platform/ColouredText.h"
 
+#include <QtCore/QTimer>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -46,6 +48,14 @@ private Q_SLOTS:
         QCOMPARE(list.Key(), u"Inputs"_s);
         QVERIFY(list.RTextBox()->isHidden());
         QCOMPARE(list.RTextBox()->objectName(), u"RichTextBox1"_s);
+    }
+
+    void theWidthTimerExistsAndHasNoDuties()
+    {
+        const ORVListView list;
+        const auto *timer = list.findChild<QTimer *>(u"TimerWidth"_s);
+        QVERIFY(timer);
+        QVERIFY(!timer->isActive());
     }
 
     void aTypeOutsideTheRangeIsIgnored()
