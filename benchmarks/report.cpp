@@ -37,6 +37,8 @@ QString nameOf(Unit unit)
         return u"time each"_s;
     case Unit::CharactersPerSecond:
         return u"characters/s"_s;
+    case Unit::Bytes:
+        return u"bytes"_s;
     }
     Q_UNREACHABLE();
 }

@@ -11,8 +11,8 @@ namespace ORVTListview::bench {
 // A benchmark prints one JSON object a line on standard output; `bench` makes
 // one table of those of all benchmarks.
 
-// One side of a row. Its cost is in nanoseconds, for one unit of the work where
-// an amount of it was given.
+// One side of a row. Its cost is in nanoseconds (or bytes), for one unit of the
+// work where an amount of it was given.
 struct Side
 {
     QString what;
@@ -26,8 +26,9 @@ Side percentile99Of(const QString &what, const Times &times);
 
 enum class Unit {
     Time,
-    TimeEach,           // of one unit of the work
-    CharactersPerSecond // where the unit of the work is a character
+    TimeEach,            // of one unit of the work
+    CharactersPerSecond, // where the unit of the work is a character
+    Bytes                // of memory, in place of a time
 };
 
 struct Row

@@ -24,6 +24,8 @@ def time(nanoseconds):
 def cost(nanoseconds, unit):
     if unit == "characters/s":
         return f"{three_digits(1e3 / nanoseconds)} M/s"
+    if unit == "bytes":
+        return f"{three_digits(nanoseconds / 1e6)} MB"
     return time(nanoseconds)
 
 

@@ -117,8 +117,11 @@ void DragEvents::run(std::unique_ptr<DragData> data, qint32 allowed)
     const QPointer<DragEvents> self(this);
     data->setMaker([self, made = data.get()](const QString &mimeType) {
         DataObject object(made, DataObject::Side::Source);
-        if (self)
-            Q_EMIT self->OLESetData(&object, DataObject::FormatNumber(mimeType));
+        EventGuard::run([&] {
+            if (self)
+                Q_EMIT self->OLESetData(&object, DataObject::FormatNumber(mimeType));
+            return true;
+        });
     });
     auto *drag = new QDrag(&m_widget);
     drag->setParent(nullptr); // outlives the widget; the toolkit deletes it
@@ -138,7 +141,10 @@ void DragEvents::giveFeedback(Qt::DropAction action)
     auto *drag = qobject_cast<QDrag *>(sender());
     const QPointer<DragEvents> self(this);
     bool defaultCursors = true;
-    Q_EMIT OLEGiveFeedback(toEffect(action), defaultCursors);
+    EventGuard::run([&] {
+        Q_EMIT OLEGiveFeedback(toEffect(action), defaultCursors);
+        return true;
+    });
     if (self && drag)
         drag->setDragCursor(defaultCursors ? QPixmap() : m_widget.cursor().pixmap(), action);
 }

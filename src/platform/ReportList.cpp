@@ -122,14 +122,14 @@ void ReportList::Clear()
     d->items.Clear();
 }
 
-void ReportList::setRows(const QList<RowContent> &rows)
+void ReportList::setRows(QList<RowContent> rows)
 {
-    d->model.setRows(rows);
+    d->model.setRows(std::move(rows));
 }
 
-void ReportList::appendRows(const QList<RowContent> &rows)
+void ReportList::appendRows(QList<RowContent> rows)
 {
-    d->model.appendRows(rows);
+    d->model.appendRows(std::move(rows));
 }
 
 void ReportList::UpdateSubItems(const QString &Value, const QString &TagValue, qint16 SubIndex)

@@ -68,8 +68,8 @@ public:
 
     // Replaces all rows, or adds some at the end, as one change. A key used twice
     // raises Error (InvalidCall) and changes nothing.
-    void setRows(const QList<RowContent> &rows);
-    void appendRows(const QList<RowContent> &rows);
+    void setRows(QList<RowContent> rows);
+    void appendRows(QList<RowContent> rows);
 
     // Gives sub-item SubIndex of every row this text and tag, as one change;
     // selection and scroll position stay. SubIndex runs from 1 to the number of

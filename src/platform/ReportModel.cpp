@@ -3,6 +3,7 @@
 #include "platform/Error.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace ORVTListview {
@@ -11,14 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString noText;
-
-void grow(QStringList &list, qsizetype index, qsizetype capacity)
+[[noreturn]] void refuseKey(const QString &key)
 {
-    if (index < list.size())
-        return;
-    list.reserve(std::max(index + 1, capacity));
-    list.resize(index + 1);
+    throw Error(InvalidCall, u"ReportList"_s, u"The key \"%1\" is in use already"_s.arg(key));
 }
 
 } // namespace
@@ -38,14 +34,6 @@ int ReportModel::rowCount(const QModelIndex &parent) const
 int ReportModel::columnCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : columns();
-}
-
-const QString &ReportModel::cellText(const ReportRow &row, int column) const
-{
-    if (column == 0)
-        return row.content.text;
-    const QStringList &subItems = row.content.subItems;
-    return column <= subItems.size() ? subItems.at(column - 1) : noText;
 }
 
 QIcon ReportModel::pictureOf(const ReportRow &row) const
@@ -158,42 +146,39 @@ void ReportModel::deleteRow(int position)
     endRemoveRows();
 }
 
-void ReportModel::refuseUsedKeys(const QList<RowContent> &contents, bool besideOwn) const
+ReportModel::Rows ReportModel::rowsOf(QList<RowContent> contents)
 {
-    QSet<QString> seen;
-    seen.reserve(contents.size());
-    for (const RowContent &content : contents) {
-        if (content.key.isEmpty())
-            continue;
-        const qsizetype before = seen.size();
-        seen.insert(content.key);
-        if (seen.size() == before || (besideOwn && m_keys.contains(content.key)))
-            throw Error(InvalidCall, u"ReportList"_s,
-                        u"The key \"%1\" is in use already"_s.arg(content.key));
-    }
+    Rows rows;
+    rows.reserve(static_cast<std::size_t>(contents.size()));
+    for (RowContent &content : contents)
+        rows.push_back(std::make_unique<ReportRow>(std::move(content)));
+    return rows;
 }
 
-void ReportModel::take(QList<RowContent> &contents)
+ReportModel::Keys ReportModel::keysOf(const Rows &rows)
 {
-    const std::size_t total = m_rows.size() + static_cast<std::size_t>(contents.size());
-    m_rows.reserve(total);
-    m_keys.reserve(static_cast<qsizetype>(total));
-    for (RowContent &content : contents) {
-        m_rows.push_back(std::make_unique<ReportRow>(std::move(content)));
-        ReportRow *row = m_rows.back().get();
-        if (!row->content.key.isEmpty())
-            m_keys.insert(row->content.key, row);
+    Keys keys;
+    keys.reserve(static_cast<qsizetype>(rows.size()));
+    for (const std::unique_ptr<ReportRow> &row : rows) {
+        const QString &key = row->content.key;
+        if (key.isEmpty())
+            continue;
+        const qsizetype before = keys.size();
+        keys.insert(key, row.get());
+        if (keys.size() == before)
+            refuseKey(key);
     }
+    return keys;
 }
 
 void ReportModel::setRows(QList<RowContent> contents)
 {
-    refuseUsedKeys(contents, false);
+    Rows rows = rowsOf(std::move(contents));
+    Keys keys = keysOf(rows);
     beginResetModel();
-    m_keys.clear();
-    m_rows.clear();
+    m_rows = std::move(rows);
+    m_keys = std::move(keys);
     m_numbered = 0;
-    take(contents);
     endResetModel();
 }
 
@@ -201,95 +186,16 @@ void ReportModel::appendRows(QList<RowContent> contents)
 {
     if (contents.isEmpty())
         return;
-    refuseUsedKeys(contents, true);
-    beginInsertRows({}, rows(), rows() + static_cast<int>(contents.size()) - 1);
-    take(contents);
-    endInsertRows();
-}
-
-void ReportModel::touch(const ReportRow &row, int column, const QList<int> &roles)
-{
-    if (column >= columns())
-        return;
-    const QModelIndex changed = index(positionOf(row), column);
-    Q_EMIT dataChanged(changed, changed, roles);
-}
-
-void ReportModel::touchAll(int firstColumn, int lastColumn, const QList<int> &roles)
-{
-    if (rows() > 0 && firstColumn <= lastColumn && lastColumn < columns())
-        Q_EMIT dataChanged(index(0, firstColumn), index(rows() - 1, lastColumn), roles);
-}
-
-void ReportModel::setKey(ReportRow &row, const QString &key)
-{
-    m_keys.remove(row.content.key);
-    row.content.key = key;
-    if (!key.isEmpty())
-        m_keys.insert(key, &row);
-}
-
-void ReportModel::setText(ReportRow &row, const QString &text)
-{
-    if (row.content.text == text)
-        return;
-    row.content.text = text;
-    touch(row, 0, {Qt::DisplayRole, Qt::EditRole});
-}
-
-void ReportModel::setSubItem(ReportRow &row, int column, const QString &text)
-{
-    if (cellText(row, column) == text)
-        return;
-    grow(row.content.subItems, column - 1, columns() - 1);
-    row.content.subItems[column - 1] = text;
-    touch(row, column, {Qt::DisplayRole, Qt::EditRole});
-}
-
-void ReportModel::setSubItemTag(ReportRow &row, int column, const QString &tag)
-{
-    QStringList &tags = row.content.subItemTags;
-    if (tag.isEmpty() && column > tags.size())
-        return;
-    grow(tags, column - 1, columns() - 1);
-    tags[column - 1] = tag;
-}
-
-void ReportModel::setPicture(ReportRow &row, const QString &key)
-{
-    if (row.content.picture == key)
-        return;
-    row.content.picture = key;
-    touch(row, 0, {Qt::DecorationRole});
-}
-
-void ReportModel::setForeground(ReportRow &row, const QColor &colour)
-{
-    if (row.content.foreground == colour)
-        return;
-    row.content.foreground = colour;
-    if (columns() == 0)
-        return;
-    const int position = positionOf(row);
-    Q_EMIT dataChanged(index(position, 0), index(position, columns() - 1), {Qt::ForegroundRole});
-}
-
-void ReportModel::setChecked(ReportRow &row, bool checked)
-{
-    if (row.content.checked == checked)
-        return;
-    row.content.checked = checked;
-    touch(row, 0, {Qt::CheckStateRole});
-}
-
-void ReportModel::setSubItemOfAll(int column, const QString &text, const QString &tag)
-{
-    for (const std::unique_ptr<ReportRow> &row : m_rows) {
-        grow(row->content.subItems, column - 1, columns() - 1);
-        row->content.subItems[column - 1] = text;
-        setSubItemTag(*row, column, tag);
+    Rows added = rowsOf(std::move(contents));
+    const Keys keys = keysOf(added);
+    for (auto key = keys.keyBegin(); key != keys.keyEnd(); ++key) {
+        if (m_keys.contains(*key))
+            refuseKey(*key);
     }
-    touchAll(column, column, {Qt::DisplayRole, Qt::EditRole});
+    beginInsertRows({}, rows(), rows() + static_cast<int>(added.size()) - 1);
+    std::move(added.begin(), added.end(), std::back_inserter(m_rows));
+    m_keys.insert(keys);
+    endInsertRows();
 }
 
 void ReportModel::setCheckBoxes(bool on)

@@ -85,15 +85,16 @@ Q_SIGNALS:
 
 private:
     using Rows = std::vector<std::unique_ptr<ReportRow>>;
+    using Keys = QHash<QString, ReportRow *>;
 
-    void refuseUsedKeys(const QList<RowContent> &contents, bool besideOwn) const;
-    void take(QList<RowContent> &contents);
+    static Rows rowsOf(QList<RowContent> contents);
+    static Keys keysOf(const Rows &rows);
     void touch(const ReportRow &row, int column, const QList<int> &roles);
     void touchAll(int firstColumn, int lastColumn, const QList<int> &roles);
 
     Rows m_rows;
     mutable std::size_t m_numbered = 0; // rows before this know their position
-    QHash<QString, ReportRow *> m_keys;
+    Keys m_keys;
     std::vector<std::unique_ptr<ReportColumn>> m_columns;
     PictureProvider m_pictures;
     bool m_checkBoxes = false;

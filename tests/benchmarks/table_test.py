@@ -56,6 +56,11 @@ class TableTest(unittest.TestCase):
         status, _ = run(row(cost=float("nan"), bound=2))
         self.assertEqual(status, 1)
 
+    def test_memory_is_in_megabytes(self):
+        _, lines = run(row(cost=22.5e6, peers_cost=90e6, unit="bytes"))
+        self.assertIn("ours 22.5 MB (0.00 MB)", lines[1])
+        self.assertIn(" 0.25", lines[1])
+
     def test_rates_are_in_millions_of_characters(self):
         _, lines = run(row(cost=40, peers_cost=20, unit="characters/s"))
         self.assertIn("ours 25.0 M/s", lines[1])

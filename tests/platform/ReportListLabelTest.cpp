@@ -45,6 +45,7 @@ private Q_SLOTS:
     void dropsTheLabelOfARowThatIsGone();
     void bearsAnythingInALabelEvent_data();
     void bearsAnythingInALabelEvent();
+    void keepsErrorsFromTheEventLoop();
 };
 
 void ReportListLabelTest::editsTheLabelOfTheSelectedRow()
@@ -321,6 +322,26 @@ void ReportListLabelTest::bearsAnythingInALabelEvent()
     QTRY_COMPARE(events, 1);
     QCoreApplication::processEvents();
     QCOMPARE(shown.list.isNull(), deed == u"destroy"_s);
+}
+
+void ReportListLabelTest::keepsErrorsFromTheEventLoop()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    const auto fail = [] { throw Error(InvalidCall, u"Host"_s, u"went wrong"_s); };
+    const auto before = connect(shown.list, &ReportList::BeforeLabelEdit, this, fail);
+    QTest::ignoreMessage(QtWarningMsg, "An event handler failed: Host: went wrong");
+    shown.key(Qt::Key_F2);
+    QVERIFY(!hasEditor(shown));
+    QCOMPARE(errorOf([&] { shown->StartLabelEdit(); }), qint32{InvalidCall}); // to its caller
+    disconnect(before);
+    connect(shown.list, &ReportList::AfterLabelEdit, this, fail);
+    shown.key(Qt::Key_F2);
+    QVERIFY(hasEditor(shown));
+    QTest::ignoreMessage(QtWarningMsg, "An event handler failed: Host: went wrong");
+    shown.key(Qt::Key_Return);
+    QTRY_VERIFY(!hasEditor(shown));
+    QCoreApplication::processEvents();
 }
 
 QTEST_MAIN(ReportListLabelTest)

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void bearsAnythingInAMouseEvent();
     void bearsAnythingInAColumnClick_data();
     void bearsAnythingInAColumnClick();
+    void keepsErrorsFromTheEventLoop();
 };
 
 void ReportListMouseTest::raisesAClickInOrder()
@@ -283,6 +284,18 @@ void ReportListMouseTest::bearsAnythingInAColumnClick()
     shown.click(shown.header(1));
     QCOMPARE(clicks, 1);
     QCOMPARE(shown.list.isNull(), deed == u"destroy"_s);
+}
+
+void ReportListMouseTest::keepsErrorsFromTheEventLoop()
+{
+    const ShownList shown;
+    const auto fail = [] { throw Error(InvalidCall, u"Host"_s, u"went wrong"_s); };
+    connect(shown.list, &ReportList::MouseDown, this, fail);
+    connect(shown.list, &ReportList::ColumnClick, this, fail);
+    QTest::ignoreMessage(QtWarningMsg, "An event handler failed: Host: went wrong");
+    shown.click(shown.cell(2));
+    QTest::ignoreMessage(QtWarningMsg, "An event handler failed: Host: went wrong");
+    shown.click(shown.header(2));
 }
 
 QTEST_MAIN(ReportListMouseTest)

@@ -1,0 +1,265 @@
+// The report list beside the toolkit's own two lists, each doing the same work:
+// 32,767 rows of 14 columns. Every time runs until the list is painted.
+
+#include "painting.h"
+#include "report.h"
+
+#include "platform/ColumnHeaders.h"
+#include "platform/ListItem.h"
+#include "platform/ListItems.h"
+#include "platform/ReportList.h"
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QTableWidget>
+#include <QtWidgets/QTreeWidget>
+
+#include <malloc.h>
+
+#include <memory>
+
+using namespace ORVTListview;
+using namespace ORVTListview::bench;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int rowCount = 32767;
+constexpr int columnCount = 14;
+constexpr int updatedColumn = 3;
+constexpr int repetitions = 7;
+
+QString cellText(int row, int column)
+{
+    if (column == 0)
+        return QString::number(row + 1).rightJustified(2, u'0');
+    switch (column % 3) {
+    case 0:
+        return u"Supply Air Temp %1"_s.arg(row * column % 9973);
+    case 1:
+        return QString::number(row * column % 7919 / 7.0, 'f', 2);
+    default:
+        return u"Auto"_s;
+    }
+}
+
+// Made before anything is measured, and shared by all lists.
+const QList<QStringList> &texts()
+{
+    static const QList<QStringList> made = [] {
+        QList<QStringList> rows(rowCount);
+        for (int row = 0; row < rowCount; ++row) {
+            for (int column = 0; column < columnCount; ++column)
+                rows[row].append(cellText(row, column));
+        }
+        return rows;
+    }();
+    return made;
+}
+
+class Ours final : public ReportList
+{
+public:
+    Ours()
+    {
+        for (int column = 0; column < columnCount; ++column)
+            ColumnHeaders()->Add(0, QString::number(column), u"Column"_s);
+    }
+
+    void create()
+    {
+        QList<RowContent> contents(rowCount);
+        for (int row = 0; row < rowCount; ++row) {
+            contents[row].key = u"Inputs"_s + texts().at(row).first();
+            contents[row].text = texts().at(row).first();
+            contents[row].subItems = texts().at(row).mid(1);
+        }
+        setRows(std::move(contents));
+    }
+    void update() { UpdateSubItems(u"off"_s, u"0"_s, updatedColumn); }
+    void fit() { fitColumns(); }
+
+    QString text(int row, int column) const
+    {
+        const ListItem *item = ListItems()->Item(row + 1);
+        return column == 0 ? item->Text() : item->SubItem(column);
+    }
+    QString tag(int row) const { return ListItems()->Item(row + 1)->SubItemTag(updatedColumn); }
+};
+
+class Tree final : public QTreeWidget
+{
+public:
+    Tree()
+    {
+        setColumnCount(columnCount);
+        setRootIsDecorated(false);
+        setUniformRowHeights(true);
+        header()->setResizeContentsPrecision(-1); // every row
+    }
+
+    void create()
+    {
+        QList<QTreeWidgetItem *> items;
+        items.reserve(rowCount);
+        for (const QStringList &row : texts())
+            items.append(new QTreeWidgetItem(row));
+        addTopLevelItems(items);
+    }
+    void update()
+    {
+        const QString text = u"off"_s;
+        const QString tag = u"0"_s;
+        for (int row = 0; row < rowCount; ++row) {
+            topLevelItem(row)->setText(updatedColumn, text);
+            topLevelItem(row)->setData(updatedColumn, Qt::UserRole, tag);
+        }
+    }
+    void fit()
+    {
+        for (int column = 0; column < columnCount; ++column)
+            resizeColumnToContents(column);
+    }
+
+    QString text(int row, int column) const { return topLevelItem(row)->text(column); }
+    QString tag(int row) const
+    {
+        return topLevelItem(row)->data(updatedColumn, Qt::UserRole).toString();
+    }
+};
+
+class Table final : public QTableWidget
+{
+public:
+    Table()
+    {
+        setColumnCount(columnCount);
+        horizontalHeader()->setResizeContentsPrecision(-1); // every row
+    }
+
+    void create()
+    {
+        setRowCount(rowCount);
+        for (int row = 0; row < rowCount; ++row) {
+            for (int column = 0; column < columnCount; ++column)
+                setItem(row, column, new QTableWidgetItem(texts().at(row).at(column)));
+        }
+    }
+    void update()
+    {
+        const QString text = u"off"_s;
+        const QString tag = u"0"_s;
+        for (int row = 0; row < rowCount; ++row) {
+            item(row, updatedColumn)->setText(text);
+            item(row, updatedColumn)->setData(Qt::UserRole, tag);
+        }
+    }
+    void fit() { resizeColumnsToContents(); }
+
+    QString text(int row, int column) const { return item(row, column)->text(); }
+    QString tag(int row) const { return item(row, updatedColumn)->data(Qt::UserRole).toString(); }
+};
+
+double heap()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
+
+template <typename List>
+double timedPainted(List &list, void (List::*work)())
+{
+    PaintWatch watch(*list.viewport());
+    return timed([&] {
+        (list.*work)();
+        if (!watch.finishPainting())
+            qFatal("the list was not painted");
+    });
+}
+
+struct Costs
+{
+    Times create;
+    Times update;
+    Times fit;
+    Times memory; // bytes, really
+};
+
+// One list from the beginning to the end.
+template <typename List>
+void measureOnce(Costs &costs)
+{
+    List list;
+    showForBenchmark(list);
+    const double before = heap();
+    costs.create.add(timedPainted(list, &List::create));
+    costs.memory.add(heap() - before);
+    costs.update.add(timedPainted(list, &List::update));
+    costs.fit.add(timedPainted(list, &List::fit));
+}
+
+void printBeside(const QString &peer, const Costs &ours, const Costs &peers, double fitBound)
+{
+    const auto print = [&](const QString &name, Times Costs::*times, double bound, Unit unit) {
+        printRow({.name = name,
+                  .ours = medianOf(u"our list"_s, ours.*times),
+                  .peers = medianOf(peer, peers.*times),
+                  .bound = bound,
+                  .unit = unit});
+    };
+    print(u"32,767 rows of 14 columns are made"_s, &Costs::create, 1, Unit::Time);
+    print(u"One column of them is set"_s, &Costs::update, 1, Unit::Time);
+    print(u"All columns are fitted"_s, &Costs::fit, fitBound, Unit::Time);
+    print(u"Their memory"_s, &Costs::memory, 1, Unit::Bytes);
+}
+
+template <typename List>
+void checkList(const QString &name)
+{
+    List list;
+    showForBenchmark(list);
+    timedPainted(list, &List::create);
+    timedPainted(list, &List::update);
+    timedPainted(list, &List::fit);
+    bool right = true;
+    for (int row = 0; row < rowCount; ++row) {
+        for (int column = 0; column < columnCount; ++column)
+            right = right && list.text(row, column) ==
+                                 (column == updatedColumn ? u"off"_s : cellText(row, column));
+        right = right && list.tag(row) == u"0"_s;
+    }
+    check(u"every cell of the %1 is right"_s.arg(name), right);
+    const int widest = list.fontMetrics().horizontalAdvance(cellText(9972, 6));
+    check(u"the %1 shows its widest texts whole"_s.arg(name),
+          list.visualRect(list.model()->index(0, 6)).width() >= widest);
+}
+
+void checkWork()
+{
+    checkList<Ours>(u"report list"_s);
+    checkList<Tree>(u"tree widget"_s);
+    checkList<Table>(u"table widget"_s);
+}
+
+void measure()
+{
+    texts();
+    Costs ours;
+    Costs trees;
+    Costs tables;
+    for (int i = 0; i < repetitions; ++i) {
+        measureOnce<Ours>(ours);
+        measureOnce<Tree>(trees);
+        measureOnce<Table>(tables);
+    }
+    printBeside(u"tree widget"_s, ours, trees, 0.25);
+    printBeside(u"table widget"_s, ours, tables, 1);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    return runBenchmark(argc, argv, checkWork, measure);
+}
