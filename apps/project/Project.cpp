@@ -17,6 +17,12 @@ Project::Project(const QString &fileName)
         m_indexedNames.Add(family.name, family.numberFormat, family.lowerBound, family.upperBound);
 }
 
+void Project::saveProgram(const QString &program)
+{
+    writeFile(programFile(), encodeProgram(program, m_contents.programFormat, programFile()));
+    m_contents.program = program;
+}
+
 const QList<ProjectRow> &Project::rows(LwType type) const
 {
     static const QList<ProjectRow> none;

@@ -27,6 +27,11 @@ public:
     QString program() const { return m_contents.program; }
     QString programFile() const { return m_contents.programFile; }
 
+    // Puts the text, lines separated by CR LF, into the program's file, with the
+    // line ends and the byte order mark that the file had. Raises Error and leaves
+    // file and program() as they were.
+    void saveProgram(const QString &program);
+
     // The rows of a type's table in the order of the file; none for other types.
     const QList<ProjectRow> &rows(LwType type) const;
 

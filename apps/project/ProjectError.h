@@ -4,12 +4,13 @@
 
 namespace ORVTListview {
 
-// The numbers of the errors that reading a project raises. The description
+// The numbers of the errors that reading and saving a project raise. The description
 // names the file first, then the place in it, then what is wrong.
 enum ProjectErrorNumber : qint32 {
     FileNotReadable = ObjectErrorBase + 1,
     TextNotUtf8 = ObjectErrorBase + 2,
     ProjectNotValid = ObjectErrorBase + 3,
+    FileNotWritable = ObjectErrorBase + 4,
 };
 
 } // namespace ORVTListview

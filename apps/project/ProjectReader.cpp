@@ -2,7 +2,6 @@
 
 #include "project/EditorAppearance.h"
 #include "project/JsonPlace.h"
-#include "project/TextFile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -146,7 +145,9 @@ ProjectContents readProject(const QString &fileName)
 
     const QDir folder = QFileInfo(fileName).dir();
     contents.programFile = folder.filePath(readName(root.member(u"program"_s)));
-    contents.program = decodeProgram(readFile(contents.programFile), contents.programFile);
+    const QByteArray bytes = readFile(contents.programFile);
+    contents.programFormat = programFormat(bytes);
+    contents.program = decodeProgram(bytes, contents.programFile);
     return contents;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/ProjectColumns.h"
+#include "project/TextFile.h"
 
 #include <ORVTListview/Types.h>
 
@@ -51,7 +52,8 @@ struct ProjectContents
     QList<ProjectFamily> indexedNames;
     RichTextSettings editor;
     QString programFile; // as it can be opened
-    QString program;     // lines separated by CR LF
+    ProgramFormat programFormat;
+    QString program; // lines separated by CR LF
 };
 
 // The form of the file is told in docs/project-file.md. Raises Error with a

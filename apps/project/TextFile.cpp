@@ -1,8 +1,10 @@
 #include "project/TextFile.h"
 
+#include "platform/TextRules.h"
 #include "project/ProjectError.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QSaveFile>
 
 #include <array>
 
@@ -11,9 +13,35 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
+
 [[noreturn]] void failToRead(const QString &name, const QString &reason)
 {
     throw Error(FileNotReadable, u"readFile"_s, u"%1: %2"_s.arg(name, reason));
+}
+
+struct LineEndCounts
+{
+    qsizetype lf = 0;
+    qsizetype crLf = 0;
+    qsizetype cr = 0;
+};
+
+LineEndCounts countLineEnds(QByteArrayView bytes)
+{
+    LineEndCounts counts;
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        const bool isPair = bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n';
+        if (isPair) {
+            ++counts.crLf;
+            ++i;
+        } else if (bytes[i] == '\r') {
+            ++counts.cr;
+        } else if (bytes[i] == '\n') {
+            ++counts.lf;
+        }
+    }
+    return counts;
 }
 
 // No byte of a character of several bytes looks like a line end, so every line
@@ -36,13 +64,29 @@ qsizetype firstInvalidLine(QByteArrayView bytes)
     return line;
 }
 
-QString withCrLf(const QString &text)
+// The line that holds half of a surrogate pair.
+qsizetype firstBrokenLine(const QString &program)
 {
-    QString result = text;
-    result.replace("\r\n"_L1, "\n"_L1);
-    result.replace(u'\r', u'\n');
-    result.replace("\n"_L1, "\r\n"_L1);
-    return result;
+    qsizetype line = 1;
+    for (const QStringView text : QStringView(program).tokenize(u"\r\n")) {
+        if (!text.isValidUtf16())
+            break;
+        ++line;
+    }
+    return line;
+}
+
+QLatin1StringView lineEndText(LineEnd lineEnd)
+{
+    switch (lineEnd) {
+    case LineEnd::CrLf:
+        return "\r\n"_L1;
+    case LineEnd::Cr:
+        return "\r"_L1;
+    case LineEnd::Lf:
+        break;
+    }
+    return "\n"_L1;
 }
 
 } // namespace
@@ -70,12 +114,44 @@ QByteArray readDevice(QIODevice &device, const QString &name)
     }
 }
 
+void writeFile(const QString &fileName, const QByteArray &bytes)
+{
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw Error(FileNotWritable, u"writeFile"_s, u"%1: %2"_s.arg(fileName, file.errorString()));
+}
+
+ProgramFormat programFormat(QByteArrayView bytes)
+{
+    const LineEndCounts counts = countLineEnds(bytes);
+    ProgramFormat format;
+    format.hasByteOrderMark = bytes.startsWith(byteOrderMark);
+    if (counts.crLf > counts.lf && counts.crLf >= counts.cr)
+        format.lineEnd = LineEnd::CrLf;
+    else if (counts.cr > counts.lf)
+        format.lineEnd = LineEnd::Cr;
+    return format;
+}
+
 QString decodeProgram(const QByteArray &bytes, const QString &name)
 {
     if (!QUtf8StringView(bytes).isValidUtf8())
         throw Error(TextNotUtf8, u"decodeProgram"_s,
                     u"%1: line %2 is not valid UTF-8"_s.arg(name).arg(firstInvalidLine(bytes)));
     return withCrLf(QString::fromUtf8(bytes)); // drops the mark
+}
+
+QByteArray encodeProgram(const QString &program, ProgramFormat format, const QString &name)
+{
+    if (!program.isValidUtf16())
+        throw Error(
+            TextNotUtf8, u"encodeProgram"_s,
+            u"%1: line %2 holds half a character"_s.arg(name).arg(firstBrokenLine(program)));
+    QString text = program;
+    if (format.lineEnd != LineEnd::CrLf)
+        text.replace("\r\n"_L1, lineEndText(format.lineEnd));
+    const QByteArray bytes = text.toUtf8();
+    return format.hasByteOrderMark ? byteOrderMark.toByteArray() + bytes : bytes;
 }
 
 } // namespace ORVTListview

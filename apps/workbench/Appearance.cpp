@@ -4,17 +4,34 @@
 #include <QtGui/QPalette>
 
 #include <algorithm>
+#include <cmath>
 
 namespace ORVTListview {
 namespace {
 
-constexpr int lowestLightness = 170; // of 255, on a dark background
+constexpr double leastContrast = 6.0;
+constexpr int highestSaturation = 150; // of 255; more than that glares on dark
 
-qint32 madeLight(qint32 colour)
+// As web accessibility defines it, 0 to 1.
+double luminance(const QColor &colour)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+// The hue made so light, and no lighter, that it is read as well as any other.
+qint32 madeLight(qint32 colour, const QColor &ground)
 {
     const QColor given(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
-    const QColor light = QColor::fromHsl(given.hslHue(), std::min(given.hslSaturation(), 200),
-                                         std::max(given.lightness(), lowestLightness));
+    const int saturation = std::min(given.hslSaturation(), highestSaturation);
+    const double wanted = leastContrast * (luminance(ground) + 0.05) - 0.05;
+    QColor light = given;
+    for (int lightness = given.lightness(); lightness <= 255 && luminance(light) < wanted;
+         ++lightness)
+        light = QColor::fromHsl(given.hslHue(), saturation, lightness);
     return light.blue() << 16 | light.green() << 8 | light.red();
 }
 
@@ -22,13 +39,13 @@ qint32 madeLight(qint32 colour)
 
 RichTextSettings legibleOn(const QPalette &palette, RichTextSettings settings)
 {
-    const bool isDark = palette.color(QPalette::Base).lightness() < 128;
-    if (settings.BackColor >= 0 || !isDark)
+    const QColor ground = palette.color(QPalette::Base);
+    if (settings.BackColor >= 0 || ground.lightness() >= 128)
         return settings;
     for (qint32 *colour : {&settings.VariableColor, &settings.ConstantColor, &settings.InputColor,
                            &settings.OutputColor, &settings.ReservedWordColor,
                            &settings.CommentColor, &settings.nviFPAColor, &settings.nvoFPAColor})
-        *colour = madeLight(*colour);
+        *colour = madeLight(*colour, ground);
     return settings;
 }
 

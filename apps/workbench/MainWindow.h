@@ -11,7 +11,11 @@ class QLabel;
 
 namespace ORVTListview {
 
+class CheckResults;
+class EditMenu;
+class ProgramSaving;
 class Project;
+struct ProgramReport;
 
 // A small host: shows a project in the library's components.
 class MainWindow : public QMainWindow
@@ -22,23 +26,41 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    // Shows the project and returns true, or tells the user what is wrong with the
-    // file and keeps what is shown.
-    bool openProject(const QString &fileName);
+    // Shows the project. What is shown goes without a question. Raises Error and
+    // keeps what is shown when the file cannot be read.
+    void openProject(const QString &fileName);
 
 protected:
     void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void buildMenus();
+    void buildFileMenu();
+    void buildProgramMenu();
+    void buildStatusBar();
+    void connectEditor();
     void chooseProject();
+    void handOverVocabulary();
     void showProgram();
     void applyAppearance();
+    void followPalette();
+    ProgramReport checkShownProgram() const;
+    void analyse();
+    void compile();
+    void goTo(const QString &word, qint32 line);
+    void showPosition();
+    void showProgramInfo();
 
     std::unique_ptr<Project> m_project;
     ORVTreeview *m_vocabulary;
     ORVListView *m_code;
+    ProgramSaving *m_saving;
+    EditMenu *m_editMenu;
+    CheckResults *m_results;
     QLabel *m_programInfo;
+    QLabel *m_position;
 };
 
 } // namespace ORVTListview

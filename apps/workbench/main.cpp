@@ -1,41 +1,19 @@
+#include "CommandLine.h"
+#include "DarkColours.h"
 #include "MainWindow.h"
 
-#include <QtCore/QCommandLineParser>
+#include <ORVTListview/Error.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
 
+using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Options
-{
-    QString project;
-    QString screenshot;
-};
-
-Options parse(const QCoreApplication &application)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QCoreApplication::translate("main", "Shows a controller project."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption screenshot(
-        u"screenshot"_s,
-        QCoreApplication::translate("main", "Write a picture of the window and quit."),
-        u"file.png"_s);
-    parser.addOption(screenshot);
-    parser.addPositionalArgument(
-        u"project"_s,
-        QCoreApplication::translate("main", "The project file; the sample project without one."),
-        u"[project]"_s);
-    parser.process(application);
-    const QStringList projects = parser.positionalArguments();
-    return {projects.value(0, QStringLiteral(ORVT_SAMPLE_PROJECT)), parser.value(screenshot)};
-}
 
 int writeScreenshot(QWidget &window, const QString &file)
 {
@@ -48,22 +26,48 @@ int writeScreenshot(QWidget &window, const QString &file)
     return 0;
 }
 
+void prepareLook(const Options &options)
+{
+    if (options.isDark)
+        useDarkColours();
+    if (!options.screenshot.isEmpty())
+        QApplication::setCursorFlashTime(0); // one picture is like the other
+}
+
+// Nobody is there to close a message box while a picture is made.
+bool open(MainWindow &window, const Options &options)
+{
+    try {
+        window.openProject(options.project);
+        return true;
+    } catch (const Error &error) {
+        QTextStream(stderr) << error.Description() << Qt::endl;
+        if (options.screenshot.isEmpty())
+            QMessageBox::warning(&window, QString(), error.Description());
+        return false;
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    applyScale(argc, argv);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"workbench"_s);
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
-    const Options options = parse(application);
-
-    ORVTListview::MainWindow window;
-    window.show();
-    if (!window.openProject(options.project))
+    const std::optional<Options> options = readOptions(application);
+    if (!options)
         return 1;
-    if (!options.screenshot.isEmpty()) {
+    prepareLook(*options);
+
+    MainWindow window;
+    window.show();
+    if (!open(window, *options))
+        return 1;
+    if (!options->screenshot.isEmpty()) {
         QTimer::singleShot(0, &window, [&] {
-            QCoreApplication::exit(writeScreenshot(window, options.screenshot));
+            QCoreApplication::exit(writeScreenshot(window, options->screenshot));
         });
     }
     return QApplication::exec();

@@ -9,9 +9,12 @@
 #include "editor/WordInBox.h"
 #include "platform/MessageBoxes.h"
 #include "platform/MouseArguments.h"
+#include "platform/ReportList.h"
 #include "platform/RichTextBox.h"
 #include "platform/RtfReader.h"
 #include "platform/TextRules.h"
+#include "shared/HostForms.h"
+#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
 #include <QtCore/QScopeGuard>
@@ -37,13 +40,15 @@ bool hasMark(const QString &fontStyle, QStringView mark)
 
 } // namespace
 
-CodeEditor::CodeEditor(QWidget *host)
+CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     : QObject(host)
     , m_box(new RichTextBox(host))
     , m_lines(*m_box)
     , m_colouring(*m_box)
     , m_undo(*m_box)
     , m_keys(*this)
+    , m_status(new StatusTimer(this))
+    , m_popup(list, *m_box)
 {
     MessageBoxes::installAsDefault();
     m_box->setObjectName(u"RichTextBox1"_s);
@@ -51,21 +56,30 @@ CodeEditor::CodeEditor(QWidget *host)
     connectBox();
 }
 
-CodeEditor::~CodeEditor() = default;
+CodeEditor::~CodeEditor()
+{
+    if (m_box)
+        m_box->setCommands(std::make_unique<BoxCommands>(*m_box)); // ours know the editor
+}
 
 void CodeEditor::connectBox()
 {
     m_box->installEventFilter(this);
     m_box->viewport()->installEventFilter(this);
-    connect(m_box, &RichTextBox::KeyDown, this,
-            [this](qint16 &keyCode, qint16 shift) {
-                m_keys.keyDown(keyCode, shift);
-                m_isKeyInBox = keyCode != 0;
-            });
+    connect(m_box, &RichTextBox::KeyDown, this, [this](qint16 &keyCode, qint16 shift) {
+        const QPointer<CodeEditor> self(this); // the host may destroy it in an event
+        m_keys.keyDown(keyCode, shift);
+        if (self)
+            m_isKeyInBox = keyCode != 0;
+    });
     connect(m_box, &RichTextBox::Change, this, &CodeEditor::noteTextChange);
-    connect(m_box, &RichTextBox::cursorPositionChanged, this,
-            [this] { m_colouring.followCaret(); });
-    connect(&m_status, &StatusTimer::quiet, this, &CodeEditor::raiseStatus);
+    connect(m_box, &RichTextBox::cursorPositionChanged, this, [this] {
+        if (!threadPart<UndoStore>().IsRestoringUndo())
+            m_colouring.followCaret();
+        m_popup.follow();
+    });
+    connect(&m_popup, &PopupWordList::picked, this, &CodeEditor::takeWord);
+    connect(m_status, &StatusTimer::quiet, this, &CodeEditor::raiseStatus);
 }
 
 void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)
@@ -76,7 +90,7 @@ void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)
     state.EditorSettings.nvoFPAColor = formerNvoColour; // accepted, never used
     applyAppearance(Setting);
     state.LineHeight = m_box->fontMetrics().height();
-    refillThreadWordList();
+    RefillListviewWithWordList();
 
     m_isReady = false;
     const QString kept = m_box->Text();
@@ -186,23 +200,33 @@ void CodeEditor::RTextSelectAll()
     m_box->setSelLength(m_box->TextLength());
 }
 
+bool CodeEditor::bringBackKeptText()
+{
+    const bool isShown = m_undo.bringBackKeptText();
+    if (isShown)
+        m_colouring.forgetEdit();
+    return isShown;
+}
+
 void CodeEditor::Undo(QString &ErrMsg)
 {
-    m_undo.Undo(ErrMsg);
-    m_colouring.forgetEdit();
+    if (m_undo.Undo(ErrMsg))
+        m_colouring.forgetEdit();
 }
 
 void CodeEditor::Redo(QString &ErrMsg)
 {
-    m_undo.Redo(ErrMsg);
-    m_colouring.forgetEdit();
+    if (m_undo.Redo(ErrMsg))
+        m_colouring.forgetEdit();
 }
 
 QString CodeEditor::GetPositionDisplay() const
 {
     const qint32 caret = m_box->SelStart();
     const qint32 line = m_box->GetLineFromChar(caret);
-    return u"Row: %1, Col: %2"_s.arg(line + 1).arg(caret - m_box->lineStart(line) + 1);
+    const QString row = QString::number(line + 1);
+    const QString column = QString::number(caret - m_box->lineStart(line) + 1);
+    return Localise(u"Row:"_s) + u' ' + row + Localise(u", Col:"_s) + u' ' + column;
 }
 
 QString CodeEditor::GetWholeWord(qint32 StartIndex, qint32 &WordStartIndex, qint32 &Color) const
@@ -318,10 +342,13 @@ bool CodeEditor::pasteFromOutside(const QString &data)
 {
     if (data.isEmpty() || !acceptPasteSize(data))
         return false;
+    const QPointer<CodeEditor> self(this);
     if (data != m_box->SelText()) {
         PushUndoSnapshot();
         Q_EMIT UpdateUndoMenu();
     }
+    if (!self)
+        return false;
     pasteChecked(data);
     return true;
 }
@@ -332,11 +359,17 @@ void CodeEditor::pasteChecked(const QString &data)
     if (!PasteText(*m_box, data))
         return;
     if (!isRtf(data)) { // which keeps the colours it came with
-        if (m_box->GetLineFromChar(m_box->SelStart()) != firstLine)
-            m_colouring.finishLine(firstLine);
+        finishLines(firstLine, m_box->GetLineFromChar(m_box->SelStart()));
         m_colouring.noteEdit();
     }
     m_box->ensureCursorVisible();
+}
+
+// Those before the last one, which the caret is still on.
+void CodeEditor::finishLines(qint32 first, qint32 last)
+{
+    for (qint32 line = first; line < last; ++line)
+        m_colouring.finishLine(line);
 }
 
 void CodeEditor::noteTextChange()
@@ -345,6 +378,7 @@ void CodeEditor::noteTextChange()
     if (std::exchange(m_isKeyInBox, false))
         m_colouring.noteEdit();
     m_undo.noteEdit();
+    m_popup.follow();
 }
 
 void CodeEditor::raiseStatus()
@@ -353,22 +387,91 @@ void CodeEditor::raiseStatus()
     Q_EMIT StatusUpdate(description);
 }
 
-void CodeEditor::TryToPopupList(bool) {}
-
-bool CodeEditor::wordListKey(qint16)
+void CodeEditor::RefillListviewWithWordList()
 {
-    return false;
+    refillThreadWordList();
+    m_popup.refill();
+}
+
+void CodeEditor::UpdateWordListItem(const QString &OldName, const QString &NewName,
+                                    qint32 TypeIndex)
+{
+    threadPart<CodeWordList>().UpdateWordListItem(OldName, NewName, TypeIndex);
+    m_popup.refill();
+}
+
+void CodeEditor::TryToPopupList(bool IsShowAbsolutely)
+{
+    if (m_popup.isShown()) {
+        m_popup.close();
+        return;
+    }
+    if (IsCommentLine(m_box->lineText(m_box->GetLineFromChar(m_box->SelStart())))) {
+        caretToLineEnd();
+        return;
+    }
+    if (IsShowAbsolutely || !rewriteKnownWord())
+        m_popup.open();
+    else
+        m_box->setFocus();
+}
+
+// A word that needs no list takes its colour as it is typed.
+bool CodeEditor::rewriteKnownWord()
+{
+    const QString word = GetWordAtCaret(*m_box).Word;
+    qint32 colour = 0;
+    if (word.isEmpty())
+        return false;
+    if (!isNumeric(word)) {
+        auto &known = threadPart<CodeWordList>();
+        const qsizetype place = m_popup.words().find(word);
+        if (!known.FindInWordList(word, true) || place < 0)
+            return false;
+        colour = m_popup.words().words()[place].style.Colour;
+    }
+    SetWordAtCaret(*m_box, word, colour);
+    m_colouring.noteEdit();
+    return true;
+}
+
+void CodeEditor::caretToLineEnd()
+{
+    const qint32 line = m_box->GetLineFromChar(m_box->SelStart());
+    m_box->setSelStart(m_box->lineStart(line) + static_cast<qint32>(m_box->lineText(line).size()));
+}
+
+void CodeEditor::takeWord(const QString &word, qint32 colour)
+{
+    PushUndoSnapshot();
+    SetWordAtCaret(*m_box, word, colour);
+    m_colouring.noteEdit();
+    m_box->setFocus();
 }
 
 bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_box && event->type() == QEvent::FocusIn)
-        m_tabStops.takeFrom(m_form ? m_form.data() : m_box->window());
+        m_tabStops.takeFrom(form());
     else if (watched == m_box && event->type() == QEvent::FocusOut)
-        m_tabStops.giveBack();
+        leaveFocus();
     else if (watched == m_box->viewport() && event->type() == QEvent::MouseButtonPress)
         raiseMouseDown(static_cast<const QMouseEvent &>(*event));
     return QObject::eventFilter(watched, event);
+}
+
+QWidget *CodeEditor::form() const
+{
+    if (auto *codeParent = qobject_cast<QWidget *>(threadPart<HostForms>().codeParent.data()))
+        return codeParent;
+    return m_form ? m_form.data() : m_box->window();
+}
+
+void CodeEditor::leaveFocus()
+{
+    m_tabStops.giveBack();
+    m_popup.close();
+    m_colouring.finishEdit();
 }
 
 void CodeEditor::raiseMouseDown(const QMouseEvent &event)

@@ -3,6 +3,7 @@
 #include "editor/EditorKeys.h"
 #include "editor/EditorUndo.h"
 #include "editor/LineCommands.h"
+#include "editor/PopupWordList.h"
 #include "editor/StatusTimer.h"
 #include "editor/TypedColouring.h"
 #include "platform/ColouredText.h"
@@ -12,11 +13,13 @@
 #include <ORVTListview/Export.h>
 
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 
 class QWidget;
 
 namespace ORVTListview {
 
+class ReportList;
 class RichTextBox;
 
 // The code face: a rich-text box that holds a controller program and shows every
@@ -26,8 +29,9 @@ class ORVT_EXPORT CodeEditor : public QObject
     Q_OBJECT
 
 public:
-    // Makes the box, named RichTextBox1, as a child of the host widget.
-    explicit CodeEditor(QWidget *host);
+    // Makes the box, named RichTextBox1, as a child of the host widget. The list
+    // serves as pop-up word list while it is taken.
+    CodeEditor(QWidget *host, ReportList &list);
     ~CodeEditor() override;
 
     RichTextBox &box() const { return *m_box; }
@@ -55,7 +59,7 @@ public:
     void RTextSelectAll();
     void Undo(QString &ErrMsg);
     void Redo(QString &ErrMsg);
-    bool bringBackKeptText() { return m_undo.bringBackKeptText(); }
+    bool bringBackKeptText();
     bool canBringBackKeptText() const { return m_undo.canBringBackKeptText(); }
     void clearUndoHistory() { m_undo.clearHistory(); }
 
@@ -80,11 +84,15 @@ public:
     bool pasteFromOutside(const QString &data);
     void finishCaretLine() { m_colouring.finishCaretLine(); }
     void PushUndoSnapshot() { m_undo.PushUndoSnapshot(m_isReady); }
-    void rearmStatusTimer() { m_status.rearm(); }
+    void rearmStatusTimer() { m_status->rearm(); }
 
+    void takeList() { m_popup.takeList(); }
+    void giveListBack() { m_popup.giveListBack(); }
+    void RefillListviewWithWordList();
+    void UpdateWordListItem(const QString &OldName, const QString &NewName, qint32 TypeIndex);
     void TryToPopupList(bool IsShowAbsolutely);
-    bool isWordListShown() const { return false; }
-    bool wordListKey(qint16 keyCode);
+    bool isWordListShown() const { return m_popup.isShown(); }
+    bool wordListKey(qint16 keyCode) { return m_popup.key(keyCode); }
 
     // While the editor has the focus, Tab is typed: the controls of the form are
     // no tab stops. Null stands for the editor's window.
@@ -108,17 +116,24 @@ private:
     QString sampleRtf();
     ColouredText coloured(const QString &text) const;
     void pasteChecked(const QString &data);
+    void finishLines(qint32 first, qint32 last);
     void noteTextChange();
     void raiseStatus();
+    void takeWord(const QString &word, qint32 colour);
+    bool rewriteKnownWord();
+    void caretToLineEnd();
+    QWidget *form() const;
+    void leaveFocus();
     void raiseMouseDown(const QMouseEvent &event);
 
-    RichTextBox *m_box;
+    QPointer<RichTextBox> m_box;
     LineCommands m_lines;
     TypedColouring m_colouring;
     EditorUndo m_undo;
     EditorKeys m_keys;
-    StatusTimer m_status;
+    StatusTimer *m_status;
     TabStops m_tabStops;
+    PopupWordList m_popup;
     QPointer<QWidget> m_form;
     bool m_isReady = false;
     bool m_isKeyInBox = false; // a key is on its way through the box

@@ -40,6 +40,18 @@ void CodeWordList::FillCodeWordList(const Vocabulary &vocabulary)
     addWords(vocabulary.IndexedNameList(), m_index);
 }
 
+void CodeWordList::UpdateWordListItem(const QString &OldName, const QString &NewName,
+                                      qint32 TypeIndex)
+{
+    ClassStyle style;
+    ClassStyleForType(TypeIndex, RichTextSettings(), style);
+    if (style.ColourIndex == AutomaticColour || NewName.isEmpty())
+        return;
+    m_index.remove(OldName, style.ColourIndex);
+    m_index.add(NewName, style.ColourIndex);
+    m_current = -1;
+}
+
 bool CodeWordList::FindInWordList(QStringView Text, bool Exact)
 {
     const qsizetype found = Exact ? m_index.findExact(Text) : m_index.findPrefix(Text);

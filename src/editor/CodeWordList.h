@@ -16,6 +16,10 @@ public:
     // order, which decides between equal words.
     void FillCodeWordList(const Vocabulary &vocabulary);
 
+    // Renames a point of a type whose names are words, or adds it when the old name
+    // is not listed for that type. Other types and an empty new name change nothing.
+    void UpdateWordListItem(const QString &OldName, const QString &NewName, qint32 TypeIndex);
+
     // Makes the entry found the current one. With Exact the whole text counts,
     // else the beginning, without regard to case.
     bool FindInWordList(QStringView Text, bool Exact);

@@ -3,6 +3,8 @@
 #include "editor/CodeEditor.h"
 #include "platform/RichTextBox.h"
 
+#include <QtCore/QPointer>
+
 namespace ORVTListview {
 
 EditorKeys::EditorKeys(CodeEditor &editor)
@@ -15,8 +17,14 @@ KeyDecision EditorKeys::decide(qint16 keyCode, qint16 shift) const
     return decideKey(keyCode, shift, {m_editor.isWordListShown(), m_editor.box().SelLength() >= 1});
 }
 
+bool EditorKeys::hasSelection() const
+{
+    return m_editor.box().SelLength() >= 1;
+}
+
 void EditorKeys::keyDown(qint16 &KeyCode, qint16 Shift)
 {
+    const QPointer<CodeEditor> editor(&m_editor); // the host may destroy it in an event
     bool reachesBox = false;
     try {
         reachesBox = carryOut(decide(KeyCode, Shift), KeyCode, Shift);
@@ -25,7 +33,8 @@ void EditorKeys::keyDown(qint16 &KeyCode, qint16 Shift)
     }
     if (!reachesBox)
         KeyCode = 0;
-    m_editor.rearmStatusTimer();
+    if (editor)
+        editor->rearmStatusTimer();
 }
 
 bool EditorKeys::carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift)
@@ -40,7 +49,8 @@ bool EditorKeys::carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift)
         Q_EMIT m_editor.KeyDown(KeyCode, Shift);
         return KeyCode != 0;
     case KeyDecision::PopupKey:
-        return !m_editor.wordListKey(KeyCode) && carryOut(decide(KeyCode, Shift), KeyCode, Shift);
+        return !m_editor.wordListKey(KeyCode) &&
+               carryOut(decideKey(KeyCode, Shift, {false, hasSelection()}), KeyCode, Shift);
     case KeyDecision::EditingKey:
         return editingKey(KeyCode);
     case KeyDecision::DeleteWordAfter:

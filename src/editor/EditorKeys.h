@@ -24,6 +24,7 @@ private:
     bool carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift);
     bool runCommand(KeyDecision decision);
     bool editingKey(qint16 keyCode);
+    bool hasSelection() const;
 
     CodeEditor &m_editor;
 };

@@ -63,10 +63,16 @@ void TypedColouring::forgetEdit()
     m_edited = {};
 }
 
+void TypedColouring::finishEdit()
+{
+    if (m_edited.isValid())
+        finish(std::exchange(m_edited, {}));
+}
+
 void TypedColouring::followCaret()
 {
-    if (m_edited.isValid() && m_edited != m_box.textCursor().block())
-        finish(std::exchange(m_edited, {}));
+    if (m_edited != m_box.textCursor().block())
+        finishEdit();
 }
 
 void TypedColouring::prepareTyping(QStringView text)

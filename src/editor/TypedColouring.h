@@ -24,6 +24,8 @@ public:
     // The text was replaced by one that has its colours.
     void forgetEdit();
 
+    void finishEdit();
+
     // Finishes the edited line when the caret has left it.
     void followCaret();
 

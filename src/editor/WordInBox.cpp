@@ -1,5 +1,6 @@
 #include "editor/WordInBox.h"
 
+#include "editor/ColourTable.h"
 #include "editor/EditorState.h"
 #include "editor/Vocabulary.h"
 #include "platform/ColouredText.h"
@@ -43,9 +44,15 @@ void SetWordAtCaret(RichTextBox &box, const QString &word, qint32 colour)
 {
     const WordAtCaret old = GetWordAtCaret(box);
     const qint32 start = old.WordStart - 1;
+    const ColouredText coloured{word, {{word.size(), shownColour(colour)}}};
+    if (word == old.Word) {
+        box.recolour(start, coloured);
+        box.setSelStart(start + static_cast<qint32>(word.size()));
+        return;
+    }
     box.setSelStart(start);
     box.setSelLength(static_cast<qint32>(old.Word.size()));
-    box.setSelColoured({word, {{word.size(), colour}}});
+    box.setSelColoured(coloured);
 }
 
 } // namespace ORVTListview

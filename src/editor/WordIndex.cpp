@@ -39,6 +39,21 @@ void WordIndex::add(const QString &text, qint32 data)
     m_sorted = false;
 }
 
+bool WordIndex::remove(const QString &text, qint32 data)
+{
+    sort();
+    const QString folded = foldedCase(text);
+    const auto found =
+        std::find_if(m_entries.begin(), m_entries.end(), [&](const StoredEntry &stored) {
+            return stored.entry.data == data && stored.folded == folded;
+        });
+    if (found == m_entries.end())
+        return false;
+    m_entries.erase(found);
+    m_sorted = false;
+    return true;
+}
+
 const WordIndex::Entry &WordIndex::at(qsizetype position) const
 {
     sort();

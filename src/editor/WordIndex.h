@@ -24,6 +24,10 @@ public:
     void reserve(qsizetype count);
     void add(const QString &text, qint32 data);
 
+    // Takes the first entry with this text, letter case ignored, and number away;
+    // false if there is none.
+    bool remove(const QString &text, qint32 data);
+
     qsizetype count() const { return static_cast<qsizetype>(m_entries.size()); }
     bool isEmpty() const { return m_entries.empty(); }
 

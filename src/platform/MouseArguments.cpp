@@ -28,9 +28,14 @@ int shiftBits(Qt::KeyboardModifiers modifiers)
 MouseArguments mouseArguments(const QMouseEvent &event, const QWidget &control)
 {
     const bool isMove = event.type() == QEvent::MouseMove;
-    const QPointF place = control.mapFromGlobal(event.globalPosition());
-    return {static_cast<qint16>(buttonBits(isMove ? event.buttons() : event.button())),
-            static_cast<qint16>(shiftBits(event.modifiers())),
+    return mouseArguments(control.mapFromGlobal(event.globalPosition()),
+                          isMove ? event.buttons() : event.button(), event.modifiers(), control);
+}
+
+MouseArguments mouseArguments(QPointF place, Qt::MouseButtons buttons,
+                              Qt::KeyboardModifiers modifiers, const QWidget &control)
+{
+    return {static_cast<qint16>(buttonBits(buttons)), static_cast<qint16>(shiftBits(modifiers)),
             static_cast<float>(Twips::fromPixelsX(place.x(), control)),
             static_cast<float>(Twips::fromPixelsY(place.y(), control))};
 }

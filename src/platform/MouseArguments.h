@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QPoint>
+#include <QtCore/Qt>
 
 class QMouseEvent;
 class QWidget;
@@ -18,5 +19,9 @@ struct MouseArguments
 
 // The event's receiver is the control or lies inside it.
 MouseArguments mouseArguments(const QMouseEvent &event, const QWidget &control);
+
+// The place is the control's, in pixels.
+MouseArguments mouseArguments(QPointF place, Qt::MouseButtons buttons,
+                              Qt::KeyboardModifiers modifiers, const QWidget &control);
 
 } // namespace ORVTListview

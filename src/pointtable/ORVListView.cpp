@@ -1,22 +1,48 @@
 #include "pointtable/ORVListView.h"
 
 #include "editor/CodeEditor.h"
-#include "editor/ThreadColouring.h"
 #include "editor/Vocabulary.h"
+#include "platform/ImageList.h"
+#include "platform/PictureBox.h"
+#include "platform/ReportList.h"
 #include "platform/RichTextBox.h"
 #include "shared/DisplayNames.h"
+#include "shared/HostForms.h"
+#include "shared/Pictures.h"
 #include "shared/ThreadState.h"
 
 namespace ORVTListview {
 
+using namespace Qt::StringLiterals;
+
 struct ORVListView::Private
 {
     explicit Private(ORVListView *control)
-        : editor(new CodeEditor(control))
+        : list(new ReportList(control))
+        , read(new PictureBox(images, control))
+        , write(new PictureBox(images, control))
+        , editor(new CodeEditor(control, *list))
     {
+        Pictures::fillInto(images);
+        list->setObjectName(u"ListView1"_s);
+        read->setObjectName(u"ImgRead"_s);
+        write->setObjectName(u"ImgWrite"_s);
+        list->setPictureProvider([this](const QString &key) { return picture(key); });
     }
 
-    CodeEditor *editor; // a child of the control
+    // A row names its picture by key or by index.
+    QIcon picture(const QString &key) const
+    {
+        bool isIndex = false;
+        const int index = key.toInt(&isIndex);
+        return isIndex ? images.Picture(index) : images.Picture(key);
+    }
+
+    ImageList images;
+    ReportList *list; // these are children of the control
+    PictureBox *read;
+    PictureBox *write;
+    CodeEditor *editor;
     LwType type = dsInput;
 };
 
@@ -24,10 +50,19 @@ ORVListView::ORVListView(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>(this))
 {
+    connect(d->editor, &CodeEditor::KeyDown, this, &ORVListView::KeyDown);
+    connect(d->editor, &CodeEditor::MouseDown, this, &ORVListView::MouseDown);
+    connect(d->editor, &CodeEditor::StatusUpdate, this, &ORVListView::StatusUpdate);
+    connect(d->editor, &CodeEditor::UpdateUndoMenu, this, &ORVListView::UpdateUndoMenu);
+    connect(d->editor, &CodeEditor::QueryAnalyze, this, &ORVListView::QueryAnalyze);
+    connect(d->editor, &CodeEditor::QueryCompile, this, &ORVListView::QueryCompile);
     switchToType(d->type);
 }
 
-ORVListView::~ORVListView() = default;
+ORVListView::~ORVListView()
+{
+    delete d->editor; // before the widgets that it looks after
+}
 
 LwType ORVListView::ListviewType() const
 {
@@ -57,8 +92,14 @@ QString ORVListView::Key() const
 void ORVListView::switchToType(LwType type)
 {
     RichTextBox &box = d->editor->box();
-    box.setEnabled(type == dsCode);
-    box.setVisible(type == dsCode);
+    const bool isCode = type == dsCode;
+    box.setEnabled(isCode);
+    box.setVisible(isCode);
+    setFocusProxy(isCode ? &box : nullptr);
+    if (isCode)
+        d->editor->takeList();
+    else
+        d->editor->giveListBack();
 }
 
 void ORVListView::Init_RichTextBox(const RichTextSettings &Setting)
@@ -113,7 +154,122 @@ RichTextBox *ORVListView::RTextBox() const
 
 void ORVListView::RefillListviewWithWordList()
 {
-    refillThreadWordList();
+    d->editor->RefillListviewWithWordList();
+}
+
+void ORVListView::UpdateWordListItem(const QString &OldName, const QString &NewName,
+                                     LwType TypeIndex)
+{
+    d->editor->UpdateWordListItem(OldName, NewName, TypeIndex);
+}
+
+void ORVListView::TryToPopupList(bool &IsShowAbsolutely)
+{
+    if (d->type == dsCode)
+        d->editor->TryToPopupList(IsShowAbsolutely);
+}
+
+void ORVListView::TryToPopupList()
+{
+    bool isShowAbsolutely = false;
+    TryToPopupList(isShowAbsolutely);
+}
+
+QString ORVListView::GetWholeWord(qint32 &StartIndex, qint32 &WordStartIndex, qint32 &Color)
+{
+    return d->editor->GetWholeWord(StartIndex, WordStartIndex, Color);
+}
+
+ImageList *ORVListView::GetImage() const
+{
+    return &d->images;
+}
+
+void ORVListView::Undo(QString &ErrMsg)
+{
+    if (d->type == dsCode)
+        d->editor->Undo(ErrMsg);
+}
+
+void ORVListView::Redo(QString &ErrMsg)
+{
+    if (d->type == dsCode)
+        d->editor->Redo(ErrMsg);
+}
+
+bool ORVListView::IsUndoAvailable() const
+{
+    return d->type == dsCode && threadPart<UndoStore>().CanUndo();
+}
+
+bool ORVListView::IsRedoAvailable() const
+{
+    return d->type == dsCode && threadPart<UndoStore>().CanRedo();
+}
+
+bool ORVListView::restoreUnsavedText()
+{
+    return d->type == dsCode && d->editor->bringBackKeptText();
+}
+
+void ORVListView::ClearUndoHistory()
+{
+    d->editor->clearUndoHistory();
+}
+
+void ORVListView::RTextCut()
+{
+    d->editor->RTextCut();
+}
+
+void ORVListView::RTextCopy()
+{
+    d->editor->RTextCopy();
+}
+
+void ORVListView::RTextSelectAll()
+{
+    d->editor->RTextSelectAll();
+}
+
+void ORVListView::RTextPaste(QString &Data)
+{
+    d->editor->RTextPaste(Data);
+}
+
+QString ORVListView::GetPositionDisplay() const
+{
+    return d->editor->GetPositionDisplay();
+}
+
+void ORVListView::HighLightText(QString &Text, qint16 &LineNumber)
+{
+    d->editor->HighLightText(Text, LineNumber);
+}
+
+void ORVListView::ResetToolTipText(QString &Text, bool &IsLeftButton)
+{
+    (IsLeftButton ? d->read : d->write)->setToolTip(Text);
+}
+
+void ORVListView::SetCodeParent(QWidget *f)
+{
+    threadPart<HostForms>().codeParent = f;
+}
+
+void ORVListView::setFormParent(QWidget *Form)
+{
+    d->editor->setForm(Form);
+}
+
+QString ORVListView::indentUnit() const
+{
+    return d->editor->lines().indentUnit();
+}
+
+void ORVListView::setIndentUnit(const QString &unit)
+{
+    d->editor->lines().setIndentUnit(unit);
 }
 
 void ORVListView::Clear()

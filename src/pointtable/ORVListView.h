@@ -9,6 +9,7 @@
 
 namespace ORVTListview {
 
+class ImageList;
 class RichTextBox;
 
 // One control with two faces, chosen by its type: for dsCode an editor for
@@ -22,6 +23,7 @@ class ORVT_EXPORT ORVListView : public QWidget
     Q_PROPERTY(ORVTListview::LwType ListviewType READ ListviewType WRITE setListviewType)
     Q_PROPERTY(ORVTListview::LwType CurrentType READ CurrentType)
     Q_PROPERTY(QString Key READ Key)
+    Q_PROPERTY(QString indentUnit READ indentUnit WRITE setIndentUnit)
     Q_PROPERTY(QString CodeText READ CodeText WRITE setCodeText DESIGNABLE false STORED false)
     Q_PROPERTY(
         QString CodeTextRTF READ CodeTextRTF WRITE setCodeTextRTF DESIGNABLE false STORED false)
@@ -75,12 +77,114 @@ public:
     // The editor's box, owned by this control.
     Q_INVOKABLE ORVTListview::RichTextBox *RTextBox() const;
 
-    // Rebuilds the index of known words from the vocabulary. Text already shown
-    // keeps its colours.
+    // --- Known words ---
+
+    // Rebuilds the index of known words from the vocabulary, and in code mode the
+    // pop-up list. Text already shown keeps its colours.
     Q_INVOKABLE void RefillListviewWithWordList();
+
+    // Renames one word, or adds NewName when OldName is not known as a word of the
+    // type. Only variables, constants, inputs, outputs and network variable inputs
+    // have words; for other types, and for an empty NewName, nothing happens. The
+    // host's collections are not touched.
+    Q_INVOKABLE void UpdateWordListItem(const QString &OldName, const QString &NewName,
+                                        ORVTListview::LwType TypeIndex);
+
+    // Opens the list of known words at the caret, or closes it. A known word or a
+    // number is only coloured, unless IsShowAbsolutely. On a comment line the caret
+    // goes to the end of the line instead. In code mode only.
+    Q_INVOKABLE void TryToPopupList(bool &IsShowAbsolutely);
+    Q_INVOKABLE void TryToPopupList();
+
+    // The word around the 0-based position StartIndex. WordStartIndex receives its
+    // 1-based start, Color its colour 0x00BBGGRR: that of its class, 0 for none,
+    // the comment colour on a comment line. The selection stays as it is.
+    Q_INVOKABLE QString GetWholeWord(qint32 &StartIndex, qint32 &WordStartIndex, qint32 &Color);
+
+    // The control's pictures, by key and by the indexes 61 to 71 of the word
+    // classes. The control owns them.
+    Q_INVOKABLE ORVTListview::ImageList *GetImage() const;
+
+    // --- Undo ---
+
+    // Step through the ring of snapshots that all editors of the thread share. In
+    // code mode only. On a failure ErrMsg receives its description and the text
+    // stays; else ErrMsg is left as it is.
+    Q_INVOKABLE void Undo(QString &ErrMsg);
+    Q_INVOKABLE void Redo(QString &ErrMsg);
+    Q_INVOKABLE bool IsUndoAvailable() const;
+    Q_INVOKABLE bool IsRedoAvailable() const;
+
+    // Text typed since the last snapshot is in no snapshot. Undo and Redo keep it
+    // beside the ring; this brings it back, until the next edit. False when there is
+    // none. Redo does the same when no snapshot lies ahead.
+    Q_INVOKABLE bool restoreUnsavedText();
+
+    // Empties the ring, for all editors of the thread: to be called when another
+    // program is opened, because setCodeText alone replaces the oldest state only.
+    Q_INVOKABLE void ClearUndoHistory();
+
+    // --- Clipboard ---
+
+    // None of these takes a snapshot; the keys Ctrl+X and Ctrl+V do.
+    Q_INVOKABLE void RTextCut();
+    Q_INVOKABLE void RTextCopy();
+    Q_INVOKABLE void RTextSelectAll();
+
+    // Puts Data in place of the selection: RTF as it is, plain text in its colours.
+    // A text with a "\" is refused with a message.
+    Q_INVOKABLE void RTextPaste(QString &Data);
+
+    // --- Position ---
+
+    // "Row: 3, Col: 7", both counted from 1.
+    Q_INVOKABLE QString GetPositionDisplay() const;
+
+    // Selects Text on the line, counted from 1, or the line when Text is not on it.
+    // A line outside the program changes nothing.
+    Q_INVOKABLE void HighLightText(QString &Text, qint16 &LineNumber);
+
+    // The tool tip of the read button (IsLeftButton) or of the status picture.
+    Q_INVOKABLE void ResetToolTipText(QString &Text, bool &IsLeftButton);
+
+    // The forms that hold this control. While the editor has the focus, Tab is
+    // typed, and no control of the code parent, else of the form parent, else of
+    // the window is a tab stop; each gets back what it had when the focus leaves.
+    // Ctrl+Tab and Ctrl+Shift+Tab move the focus. The code parent counts for all
+    // editors of the thread. Forms are kept by reference and may go at any time.
+    Q_INVOKABLE void SetCodeParent(QWidget *f);
+    Q_INVOKABLE void setFormParent(QWidget *Form);
+
+    // Blanks and tabs that Tab puts before each selected line; four blanks at
+    // first. Another text is ignored.
+    QString indentUnit() const;
+    void setIndentUnit(const QString &unit);
 
     // In code mode empties the editor.
     Q_INVOKABLE void Clear();
+
+Q_SIGNALS:
+    // From the code editor: F1 only. KeyCode is a virtual-key number; set to 0 it
+    // swallows the key. Shift: 1 Shift, 2 Ctrl, 4 Alt.
+    void KeyDown(qint16 &KeyCode, qint16 &Shift);
+
+    // X and Y are twips from the corner of the table or the editor. Button: 1 left,
+    // 2 right, 4 middle.
+    void MouseDown(qint16 Button, qint16 Shift, float X, float Y);
+
+    // Published; never raised.
+    void QuerySetWord(QString &WordText);
+    void UpdateWordList(ORVTListview::LwType &TypeIndex);
+
+    // The caret's position as text, half a second after the last key.
+    void StatusUpdate(QString &Description);
+
+    // A paste has just taken a snapshot.
+    void UpdateUndoMenu();
+
+    // F6 and Ctrl+F6 in the editor.
+    void QueryAnalyze();
+    void QueryCompile();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

@@ -10,6 +10,7 @@ namespace ORVTListview {
 struct HostForms
 {
     QPointer<QObject> pointOwner; // owns the point collections
+    QPointer<QObject> codeParent; // holds the code editor
 };
 
 } // namespace ORVTListview

@@ -1,7 +1,9 @@
 #include "project/Project.h"
 
 #include "ProjectFolder.h"
+#include "project/ProjectError.h"
 #include "support/QtPrinters.h"
+#include "support/Raised.h"
 
 #include <QtCore/QDir>
 
@@ -237,4 +239,34 @@ TEST(Project, KeepsItsCollectionsInPlace)
     inputs->Add(u"I2"_s, 5);
     EXPECT_EQ(project.points(dsInput), inputs);
     EXPECT_EQ(project.points(dsInput)->Count(), 2);
+}
+
+TEST(Project, SavesItsProgramInTheFormOfItsFile)
+{
+    const ProjectFolder folder;
+    const QByteArray mark = "\xEF\xBB\xBF";
+    for (const QByteArray &lineEnd : {QByteArray("\n"), QByteArray("\r\n"), QByteArray("\r")}) {
+        Project project(writeProject(folder, {}, mark + "A" + lineEnd + "B"));
+        project.saveProgram(u"X = 1\r\n\r\nREM é"_s);
+        EXPECT_EQ(readFile(project.programFile()),
+                  mark + "X = 1" + lineEnd + lineEnd + "REM \xC3\xA9");
+        EXPECT_EQ(project.program(), u"X = 1\r\n\r\nREM é"_s);
+    }
+}
+
+TEST(Project, KeepsItsProgramWhenItCannotBeSaved)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(folder, {}, "A"));
+    const auto half = raisedBy([&] { project.saveProgram(u"\xD83D"_s); });
+    ASSERT_TRUE(half);
+    EXPECT_EQ(half->Number(), TextNotUtf8);
+    EXPECT_EQ(readFile(project.programFile()), "A");
+
+    ASSERT_TRUE(QFile::remove(project.programFile()));
+    ASSERT_TRUE(QDir().mkdir(project.programFile()));
+    const auto folderInTheWay = raisedBy([&] { project.saveProgram(u"B"_s); });
+    ASSERT_TRUE(folderInTheWay);
+    EXPECT_EQ(folderInTheWay->Number(), FileNotWritable);
+    EXPECT_EQ(project.program(), u"A"_s);
 }

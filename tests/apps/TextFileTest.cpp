@@ -3,6 +3,11 @@
 #include "ProjectFolder.h"
 #include "project/ProjectError.h"
 #include "support/QtPrinters.h"
+#include "support/Raised.h"
+
+#include <sys/resource.h>
+
+#include <csignal>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -68,6 +73,84 @@ TEST(ProgramText, NamesTheLineThatIsNotUtf8)
     EXPECT_EQ(decodingError("\xC3\n\xA9"), u"p: line 1 is not valid UTF-8"_s);
     EXPECT_EQ(decodingError("\xC0\xAF"), u"p: line 1 is not valid UTF-8"_s);
     EXPECT_EQ(decodingError("\xED\xA0\x80"), u"p: line 1 is not valid UTF-8"_s);
+}
+
+TEST(ProgramFormat, HasTheMostFrequentLineEnd)
+{
+    EXPECT_EQ(programFormat("").lineEnd, LineEnd::Lf);
+    EXPECT_EQ(programFormat("A").lineEnd, LineEnd::Lf);
+    EXPECT_EQ(programFormat("A\nB\n").lineEnd, LineEnd::Lf);
+    EXPECT_EQ(programFormat("A\r\nB").lineEnd, LineEnd::CrLf);
+    EXPECT_EQ(programFormat("A\rB\r").lineEnd, LineEnd::Cr);
+    EXPECT_EQ(programFormat("A\r\nB\r\nC\n").lineEnd, LineEnd::CrLf);
+    EXPECT_EQ(programFormat("A\nB\nC\r\n").lineEnd, LineEnd::Lf);
+    EXPECT_EQ(programFormat("A\r\nB\n").lineEnd, LineEnd::Lf);
+    EXPECT_EQ(programFormat("A\r\nB\r").lineEnd, LineEnd::CrLf);
+}
+
+TEST(ProgramFormat, KnowsAByteOrderMark)
+{
+    EXPECT_TRUE(programFormat("\xEF\xBB\xBF").hasByteOrderMark);
+    EXPECT_TRUE(programFormat("\xEF\xBB\xBF"
+                              "A\n")
+                    .hasByteOrderMark);
+    EXPECT_FALSE(programFormat("").hasByteOrderMark);
+    EXPECT_FALSE(programFormat("A\xEF\xBB\xBF").hasByteOrderMark);
+}
+
+TEST(ProgramFormat, BringsAProgramBackAsItWas)
+{
+    for (const QByteArray &bytes :
+         {QByteArray(), QByteArray("\n"), QByteArray("A\nB\n"), QByteArray("A\r\n\r\nB"),
+          QByteArray("A\r\rB\r"), QByteArray("\xEF\xBB\xBF\xC2\xB0\r\n\xF0\x9F\x98\x80")})
+        EXPECT_EQ(encodeProgram(decoded(bytes), programFormat(bytes), u"p"_s), bytes);
+}
+
+TEST(ProgramFormat, RefusesHalfACharacter)
+{
+    const auto error =
+        raisedBy([] { encodeProgram(u"A\r\nB\xD83D\r\nC"_s, ProgramFormat(), u"p"_s); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Number(), TextNotUtf8);
+    EXPECT_EQ(error->Description(), u"p: line 2 holds half a character"_s);
+}
+
+TEST(WriteFile, PutsBytesInPlaceOfTheOldOnes)
+{
+    const ProjectFolder folder;
+    const QString file = folder.write(u"f"_s, "a longer text");
+    writeFile(file, QByteArray("\0\r\n", 3));
+    EXPECT_EQ(readFile(file), QByteArray("\0\r\n", 3));
+    writeFile(folder.path(u"new"_s), {});
+    EXPECT_EQ(readFile(folder.path(u"new"_s)), QByteArray());
+}
+
+TEST(WriteFile, SaysWhyNot)
+{
+    const ProjectFolder folder;
+    const QString file = folder.path(u"missing/f"_s);
+    const auto error = raisedBy([&] { writeFile(file, "text"); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Number(), FileNotWritable);
+    EXPECT_TRUE(error->Description().startsWith(file + u": "_s));
+    EXPECT_GT(error->Description().size(), file.size() + 5);
+}
+
+// A full disk, as far as one can be had: a limit on the size of files.
+TEST(WriteFile, KeepsTheFileThatItCannotReplace)
+{
+    const ProjectFolder folder;
+    const QString file = folder.write(u"f"_s, "as it was");
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit former;
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &former), 0);
+    const rlimit small{1000, former.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const auto error = raisedBy([&] { writeFile(file, QByteArray(100'000, 'x')); });
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &former), 0);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Number(), FileNotWritable);
+    EXPECT_EQ(readFile(file), "as it was");
 }
 
 TEST(ReadFile, GivesTheBytes)

@@ -26,10 +26,12 @@ protected:
         ORVTListview::threadPart<ORVTListview::Messages>().install(&m_messages);
     }
 
-private Q_SLOTS:
+protected Q_SLOTS:
     virtual void init()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+        // The off-screen platform has nobody to tell size hints to, and says so.
+        QTest::failOnWarning(
+            QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
         renewState();
     }
     virtual void cleanup() { m_state.reset(); }

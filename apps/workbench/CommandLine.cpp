@@ -1,0 +1,70 @@
+#include "CommandLine.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTextStream>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct CommandLine
+{
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
+    CommandLine()
+    {
+        parser.setApplicationDescription(tr("Shows a controller project."));
+        parser.addHelpOption();
+        parser.addVersionOption();
+        parser.addOptions({screenshot, dark, scale});
+        parser.addPositionalArgument(
+            u"project"_s, tr("The project file; the sample project without one."), u"[project]"_s);
+    }
+
+    // A scale that is no number between a half and four counts as none.
+    std::optional<double> givenScale() const
+    {
+        bool isNumber = false;
+        const double factor = parser.value(scale).toDouble(&isNumber);
+        return isNumber && factor >= 0.5 && factor <= 4 ? std::optional(factor) : std::nullopt;
+    }
+
+    const QCommandLineOption screenshot{
+        u"screenshot"_s, tr("Write a picture of the window and quit."), u"file.png"_s};
+    const QCommandLineOption dark{u"dark"_s, tr("Show everything on a dark ground.")};
+    const QCommandLineOption scale{
+        u"scale"_s, tr("Show everything larger or smaller, 0.5 to 4 times."), u"factor"_s};
+    QCommandLineParser parser;
+};
+
+} // namespace
+
+void applyScale(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    CommandLine line;
+    line.parser.parse(arguments); // what is wrong is told later
+    if (const std::optional<double> factor = line.givenScale())
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(*factor));
+}
+
+std::optional<Options> readOptions(const QCoreApplication &application)
+{
+    CommandLine line;
+    line.parser.process(application);
+    if (line.parser.isSet(line.scale) && !line.givenScale()) {
+        QTextStream(stderr) << CommandLine::tr("The scale is a number from 0.5 to 4.") << Qt::endl;
+        return {};
+    }
+    const QStringList projects = line.parser.positionalArguments();
+    return Options{projects.value(0, QStringLiteral(ORVT_SAMPLE_PROJECT)),
+                   line.parser.value(line.screenshot), line.parser.isSet(line.dark)};
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <optional>
+
+class QCoreApplication;
+
+namespace ORVTListview {
+
+struct Options
+{
+    QString project;
+    QString screenshot; // empty for none
+    bool isDark = false;
+};
+
+// Qt reads its scale once, before there is an application.
+void applyScale(int argc, char **argv);
+
+// None when the user was told what is wrong with the options.
+std::optional<Options> readOptions(const QCoreApplication &application);
+
+} // namespace ORVTListview

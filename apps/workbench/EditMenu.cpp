@@ -1,0 +1,112 @@
+#include "EditMenu.h"
+
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtGui/QAction>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+
+namespace ORVTListview {
+
+EditMenu::EditMenu(ORVListView &code, QWidget *parent)
+    : QMenu(tr("&Edit"), parent)
+    , m_code(code)
+{
+    addHistory();
+    addSeparator();
+    addClipboard();
+    addSeparator();
+    add(tr("Select &All"), QKeySequence::SelectAll, &EditMenu::selectAll);
+    add(tr("&Known Words"), QKeySequence(Qt::CTRL | Qt::Key_Space), &EditMenu::showKnownWords);
+    connect(this, &QMenu::aboutToShow, this, &EditMenu::refresh);
+    connect(&code, &ORVListView::UpdateUndoMenu, this, &EditMenu::refresh);
+    refresh();
+}
+
+void EditMenu::addHistory()
+{
+    m_undo = add(tr("&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z), &EditMenu::undo);
+    m_redo = add(tr("&Redo"), QKeySequence(Qt::CTRL | Qt::Key_Y), &EditMenu::redo);
+    add(tr("Re&store Typed Text"), {}, &EditMenu::restoreTypedText);
+}
+
+void EditMenu::addClipboard()
+{
+    m_cut = add(tr("Cu&t"), QKeySequence(Qt::CTRL | Qt::Key_X), &EditMenu::cut);
+    m_copy = add(tr("&Copy"), QKeySequence(Qt::CTRL | Qt::Key_C), &EditMenu::copy);
+    m_paste = add(tr("&Paste"), QKeySequence(Qt::CTRL | Qt::Key_V), &EditMenu::paste);
+}
+
+// The keys are shown only: the editor acts on them itself, and where something else
+// has the focus they are not the editor's.
+QAction *EditMenu::add(const QString &text, const QKeySequence &keys, void (EditMenu::*command)())
+{
+    QAction *action = addAction(text, this, [this, command] {
+        (this->*command)();
+        Q_EMIT acted();
+    });
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    return action;
+}
+
+void EditMenu::refresh()
+{
+    const bool hasSelection = m_code.RTextBox()->SelLength() > 0;
+    m_undo->setEnabled(m_code.IsUndoAvailable());
+    m_redo->setEnabled(m_code.IsRedoAvailable());
+    m_cut->setEnabled(hasSelection);
+    m_copy->setEnabled(hasSelection);
+    m_paste->setEnabled(!QGuiApplication::clipboard()->text().isEmpty());
+}
+
+void EditMenu::undo()
+{
+    QString errMsg;
+    m_code.Undo(errMsg);
+    if (!errMsg.isEmpty())
+        Q_EMIT told(errMsg);
+}
+
+void EditMenu::redo()
+{
+    QString errMsg;
+    m_code.Redo(errMsg);
+    if (!errMsg.isEmpty())
+        Q_EMIT told(errMsg);
+}
+
+void EditMenu::restoreTypedText()
+{
+    if (!m_code.restoreUnsavedText())
+        Q_EMIT told(tr("Undo has taken no typed text away."));
+}
+
+void EditMenu::cut()
+{
+    m_code.RTextCut();
+}
+
+void EditMenu::copy()
+{
+    m_code.RTextCopy();
+}
+
+void EditMenu::paste()
+{
+    QString text = QGuiApplication::clipboard()->text();
+    m_code.RTextPaste(text);
+}
+
+void EditMenu::selectAll()
+{
+    m_code.RTextSelectAll();
+}
+
+void EditMenu::showKnownWords()
+{
+    m_code.TryToPopupList();
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtWidgets/QMenu>
+
+namespace ORVTListview {
+
+class ORVListView;
+
+// What the editor offers a host's menu. Its commands can be chosen when they have
+// something to do; the keys beside them are the editor's own.
+class EditMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    EditMenu(ORVListView &code, QWidget *parent);
+
+    void refresh();
+
+Q_SIGNALS:
+    // A command has been carried out, and the caret may have moved.
+    void acted();
+
+    // A command was without effect or went wrong.
+    void told(const QString &text);
+
+private:
+    QAction *add(const QString &text, const QKeySequence &keys, void (EditMenu::*command)());
+    void addHistory();
+    void addClipboard();
+    void undo();
+    void redo();
+    void restoreTypedText();
+    void cut();
+    void copy();
+    void paste();
+    void selectAll();
+    void showKnownWords();
+
+    ORVListView &m_code;
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
+    QAction *m_cut = nullptr;
+    QAction *m_copy = nullptr;
+    QAction *m_paste = nullptr;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,29 @@
+#include "ProgramText.h"
+
+#include "editor/CodeText.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtCore/QStringList>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+QString withWordsApart(const QString &program)
+{
+    static const QRegularExpression tabBetweenWords(u"(?<=[^ \\t])\\t(?=[^ \\t])"_s);
+    QStringList lines = program.split(u"\r\n"_s);
+    for (QString &line : lines) {
+        if (!IsCommentLine(line))
+            line.replace(tabBetweenWords, u" "_s);
+    }
+    return lines.join(u"\r\n"_s);
+}
+
+bool survivesRtf(const QString &program)
+{
+    static const QRegularExpression rtfCharacters(u"[\\\\{}]"_s);
+    return !program.contains(rtfCharacters);
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "editor/PopupWords.h"
+
+#include <QtCore/QObject>
+
+class QRect;
+
+namespace ORVTListview {
+
+class ReportList;
+class RichTextBox;
+
+// The list of known words beside the caret. The control's list view serves for it;
+// the focus stays in the box, which hands on the keys that move in the list.
+class PopupWordList : public QObject
+{
+    Q_OBJECT
+
+public:
+    PopupWordList(ReportList &list, RichTextBox &box);
+
+    // Gives the list the look of a pop-up, or takes it away again. Without the look
+    // the list is the host's table, and the words are discarded.
+    void takeList();
+    void giveListBack();
+    bool hasList() const { return m_hasList; }
+
+    // Takes the words of the thread's index.
+    void refill();
+    const PopupWords &words() const { return m_words; }
+
+    bool isShown() const { return m_isShown; }
+
+    // Opens it for the word at the caret, which chooses the first entry with that
+    // beginning; none for an empty word.
+    void open();
+    void close();
+
+    // Whether the list acts on a key that comes while it is open.
+    bool key(qint16 keyCode);
+
+    // The caret or the text has changed.
+    void follow();
+
+Q_SIGNALS:
+    void picked(const QString &word, qint32 colour);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void choose(qsizetype place);
+    void chooseForWord(const QString &word);
+    bool pickChosen();
+    void move(qint16 keyCode);
+    qsizetype chosen() const;
+    int rowsShown() const;
+    void placeAtCaret();
+
+    ReportList &m_list;
+    RichTextBox &m_box;
+    PopupWords m_words;
+    bool m_hasList = false;
+    bool m_isShown = false;
+    qint32 m_wordStart = 0; // of the word that the list is open for
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "editor/ColourTable.h"
+#include "editor/EditorState.h"
+#include "editor/UndoStore.h"
+#include "platform/ColouredText.h"
+#include "platform/ReportList.h"
+#include "shared/ThreadState.h"
+
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ORVTreeview.h>
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QVBoxLayout>
+
+// A form with a code editor between two other controls, shown and focused.
+struct EditorHost
+{
+    EditorHost()
+    {
+        using namespace ORVTListview;
+        inputs.Add(QStringLiteral("Temp1"));
+        inputs.Add(QStringLiteral("Temp2"));
+        outputs.Add(QStringLiteral("Fan1"));
+        constants.Add(QStringLiteral("Limit1"));
+        variables.Add(QStringLiteral("Var1"));
+        nvis.Add(QStringLiteral("NetTemp"));
+        tree.SetCollectionRenamable(nullptr, &variables, &constants, &inputs, &outputs, &nvis);
+
+        auto *layout = new QVBoxLayout(&form);
+        layout->addWidget(before = new QLineEdit);
+        layout->addWidget(list = new ORVListView);
+        layout->addWidget(after = new QLineEdit);
+        list->setMinimumSize(500, 300);
+        list->setListviewType(dsCode);
+        settings.FontName = QStringLiteral("DejaVu Sans Mono");
+        settings.FontSize = 10;
+        list->Init_RichTextBox(settings);
+        form.show();
+        form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        box().setFocus();
+        QVERIFY(box().hasFocus());
+    }
+
+    ORVTListview::RichTextBox &box() { return *list->RTextBox(); }
+    ORVTListview::UndoStore &ring() { return ORVTListview::threadPart<ORVTListview::UndoStore>(); }
+    ORVTListview::ReportList &wordList()
+    {
+        return *list->findChild<ORVTListview::ReportList *>(QStringLiteral("ListView1"));
+    }
+
+    // "|" in the text stands for the caret; two of them for a selection.
+    void setText(QString text)
+    {
+        const auto start = static_cast<qint32>(text.indexOf(u'|'));
+        text.remove(start, start < 0 ? 0 : 1);
+        const auto end = static_cast<qint32>(text.indexOf(u'|'));
+        text.remove(end, end < 0 ? 0 : 1);
+        list->setCodeText(text);
+        box().setSelStart(std::max(start, 0));
+        if (end >= 0)
+            box().setSelLength(end - start);
+    }
+    QString marked()
+    {
+        QString text = box().Text();
+        const qint32 start = box().SelStart();
+        const qint32 length = box().SelLength();
+        if (length > 0)
+            text.insert(start + length, u'|');
+        return text.insert(start, u'|');
+    }
+
+    void type(const QString &text)
+    {
+        for (const QChar c : text) {
+            if (c == u'\n')
+                key(Qt::Key_Return);
+            else
+                QTest::keyClick(&box(), c.toLatin1());
+        }
+    }
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(&box(), static_cast<Qt::Key>(key), modifiers);
+    }
+
+    // The colour of the character at a position, -1 for none of its own.
+    qint32 colourAt(qint32 position) { return box().coloured(position, 1).runs.value(0).colour; }
+    qint32 colourOf(const QString &word)
+    {
+        return colourAt(static_cast<qint32>(box().Text().indexOf(word)));
+    }
+
+    ORVTListview::PointList inputs, outputs, constants, variables, nvis;
+    ORVTListview::RichTextSettings settings = ORVTListview::defaultColours();
+    ORVTListview::ORVTreeview tree;
+    QWidget form;
+    QLineEdit *before = nullptr;
+    QLineEdit *after = nullptr;
+    ORVTListview::ORVListView *list = nullptr;
+};

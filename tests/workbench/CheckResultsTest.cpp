@@ -1,0 +1,146 @@
+#include "WorkbenchTest.h"
+
+#include <QtWidgets/QDockWidget>
+#include <QtWidgets/QHeaderView>
+
+using namespace Qt::StringLiterals;
+
+class CheckResultsTest : public WidgetTest
+{
+    Q_OBJECT
+
+private:
+    static void click(WorkbenchWindow &workbench, int row)
+    {
+        QTreeView &view = workbench.results();
+        const QModelIndex index = view.model()->index(row, 0);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+    }
+
+private Q_SLOTS:
+    void listsWhatAnalysisFinds()
+    {
+        WorkbenchWindow workbench("ELSE\nIF Tmep > 3\nELSE\nELSE\nENDIF\nENDIF\nIF Temp1 > 3");
+        QVERIFY(!workbench.results().isVisible());
+        workbench.key(Qt::Key_F6);
+        QVERIFY(workbench.results().isVisible());
+        QCOMPARE(workbench.resultTexts(), u"Line 1: ELSE without IF|"
+                                          "Line 2: Tmep is not known|"
+                                          "Line 4: Second ELSE of one IF|"
+                                          "Line 6: ENDIF without IF|"
+                                          "Line 7: IF without ENDIF"_s);
+        QVERIFY(workbench.box().hasFocus());
+    }
+
+    void checksWhatIsShownAndNotWhatIsSaved()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.key(Qt::Key_F6);
+        QCOMPARE(workbench.resultTexts(), u"Nothing found."_s);
+        workbench.type(u"x "_s);
+        workbench.key(Qt::Key_F6);
+        QCOMPARE(workbench.resultTexts(), u"Line 1: x is not known"_s);
+    }
+
+    void aClickHighlightsTheWord()
+    {
+        WorkbenchWindow workbench("Fan1 = ON\n\nIF tmep > 3\nENDIF\nENDIF");
+        workbench.key(Qt::Key_F6);
+        click(workbench, 0);
+        QCOMPARE(workbench.box().SelText(), u"tmep"_s);
+        QVERIFY(workbench.box().hasFocus());
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 3, Col: 4"_s));
+        click(workbench, 1);
+        QCOMPARE(workbench.box().SelStart(), workbench.box().lineStart(4));
+        QCOMPARE(workbench.box().SelText(), u"ENDIF"_s);
+    }
+
+    void enterHighlightsTheWord()
+    {
+        WorkbenchWindow workbench("Fan1 = tmep");
+        workbench.key(Qt::Key_F6);
+        QTest::keyClick(&workbench.box(), Qt::Key_Tab, Qt::ControlModifier);
+        QVERIFY(workbench.results().hasFocus());
+        QTest::keyClick(&workbench.results(), Qt::Key_Home);
+        QTest::keyClick(&workbench.results(), Qt::Key_Return);
+        QCOMPARE(workbench.box().SelText(), u"tmep"_s);
+        QVERIFY(workbench.box().hasFocus());
+    }
+
+    void aClickOnNothingFoundChangesNothing()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.key(Qt::Key_End);
+        workbench.key(Qt::Key_F6);
+        click(workbench, 0);
+        QCOMPARE(workbench.box().SelStart(), 9);
+    }
+
+    void reachesLinesThatSixteenBitsDoNotCount()
+    {
+        QByteArray program;
+        for (int i = 0; i < 32'767; ++i)
+            program += "Fan1 = ON\n";
+        WorkbenchWindow workbench(program + "tmep");
+        workbench.key(Qt::Key_F6);
+        QCOMPARE(workbench.resultTexts(), u"Line 32768: tmep is not known"_s);
+        click(workbench, 0);
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 32768, Col: 1"_s));
+    }
+
+    void compilationListsTheWordsWithTheirClasses()
+    {
+        WorkbenchWindow workbench("IF temp1 > 3\nREM no\nFan1 = FAN_IN_AV HOUR\nENDIF");
+        workbench.key(Qt::Key_F6, Qt::ControlModifier);
+        QCOMPARE(workbench.resultTexts(), u"1 IF Reserved word|1 Temp1 Input|1 > Reserved word|"
+                                          "1 3 Number|3 Fan1 Output|3 = Reserved word|"
+                                          "3 FAN_IN_AV Fan-in word|3 HOUR Time word|"
+                                          "4 ENDIF Reserved word"_s);
+        const QModelIndex inputClass = workbench.results().model()->index(1, 2);
+        QVERIFY(!inputClass.data(Qt::DecorationRole).value<QIcon>().isNull());
+        click(workbench, 4);
+        QCOMPARE(workbench.box().SelText(), u"Fan1"_s);
+    }
+
+    void compilationEndsAtTheFirstFault()
+    {
+        WorkbenchWindow workbench("Fan1 = ON\nFan1 = tmep\nENDIF");
+        workbench.key(Qt::Key_F6, Qt::ControlModifier);
+        QCOMPARE(workbench.resultTexts(), u"Line 2: tmep is not known"_s);
+    }
+
+    void theMenuDoesTheSame()
+    {
+        WorkbenchWindow workbench("ENDIF");
+        workbench.choose(u"Analyse"_s);
+        QCOMPARE(workbench.resultTexts(), u"Line 1: ENDIF without IF"_s);
+        workbench.code().setCodeText(u"Fan1"_s);
+        workbench.choose(u"Compile"_s);
+        QCOMPARE(workbench.resultTexts(), u"1 Fan1 Output"_s);
+        workbench.choose(u"Results"_s);
+        QVERIFY(!workbench.results().isVisible());
+        workbench.choose(u"Results"_s);
+        QVERIFY(workbench.results().isVisible());
+    }
+
+    void keysReachTheMenuFromTheResults()
+    {
+        WorkbenchWindow workbench("ENDIF");
+        workbench.key(Qt::Key_F6);
+        workbench.results().setFocus();
+        workbench.code().setCodeText(u"Fan1"_s);
+        QTest::keyClick(&workbench.results(), Qt::Key_F6);
+        QCOMPARE(workbench.resultTexts(), u"Nothing found."_s);
+    }
+
+    void anotherProjectTakesTheResultsAway()
+    {
+        WorkbenchWindow workbench("ENDIF");
+        workbench.key(Qt::Key_F6);
+        workbench.window.openProject(workbench.writeProject(u"two"_s, ""));
+        QVERIFY(!workbench.results().isVisible());
+    }
+};
+
+QTEST_MAIN(CheckResultsTest)
+#include "CheckResultsTest.moc"

@@ -1,0 +1,120 @@
+#include "WorkbenchTest.h"
+
+#include "platform/ReportList.h"
+
+using namespace Qt::StringLiterals;
+
+class EditMenuTest : public WidgetTest
+{
+    Q_OBJECT
+
+private:
+    // The commands that can be chosen, once the menu is shown.
+    static QString enabled(WorkbenchWindow &workbench)
+    {
+        QMenu *menu = workbench.menus().at(1);
+        Q_EMIT menu->aboutToShow();
+        QStringList captions;
+        for (const QAction *action : menu->actions()) {
+            if (action->isEnabled() && !action->isSeparator())
+                captions.append(action->text().remove(u'&'));
+        }
+        return captions.join(u", "_s);
+    }
+
+private Q_SLOTS:
+    void offersWhatCanBeDone()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        QCOMPARE(enabled(workbench), u"Restore Typed Text, Select All, Known Words"_s);
+        workbench.choose(u"Select All"_s);
+        QCOMPARE(workbench.box().SelText(), u"Fan1 = ON"_s);
+        QCOMPARE(enabled(workbench), u"Restore Typed Text, Cut, Copy, Select All, Known Words"_s);
+        workbench.choose(u"Copy"_s);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"Fan1 = ON"_s);
+        QCOMPARE(enabled(workbench),
+                 u"Restore Typed Text, Cut, Copy, Paste, Select All, Known Words"_s);
+        workbench.choose(u"Cut"_s);
+        QCOMPARE(workbench.code().CodeText(), QString());
+        QCOMPARE(enabled(workbench), u"Restore Typed Text, Paste, Select All, Known Words"_s);
+    }
+
+    void pastesInColours()
+    {
+        WorkbenchWindow workbench("");
+        QGuiApplication::clipboard()->setText(u"fan1 = on\nendif"_s);
+        QVERIFY(enabled(workbench).contains(u"Paste"_s));
+        workbench.choose(u"Paste"_s);
+        QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON\r\nENDIF"_s);
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 2, Col: 6"_s));
+    }
+
+    void refusesABackslash()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        QGuiApplication::clipboard()->setText(u"a\\b"_s);
+        QVERIFY(enabled(workbench).contains(u"Paste"_s));
+        workbench.choose(u"Paste"_s);
+        QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON"_s);
+        QCOMPARE(messages().size(), 1);
+        QCOMPARE(messages().constFirst().title, u"Paste"_s);
+    }
+
+    void undoesAndRedoes()
+    {
+        WorkbenchWindow workbench("");
+        workbench.type(u"a b c"_s);
+        QVERIFY(enabled(workbench).startsWith(u"Undo, Restore"_s));
+        workbench.choose(u"Undo"_s);
+        QCOMPARE(workbench.code().CodeText(), u"a"_s);
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 1, Col: 2"_s));
+        QVERIFY(enabled(workbench).startsWith(u"Undo, Redo, Restore"_s));
+        workbench.choose(u"Redo"_s);
+        QCOMPARE(workbench.code().CodeText(), u"a b"_s);
+        QVERIFY(enabled(workbench).startsWith(u"Undo, Restore"_s));
+        workbench.choose(u"Restore Typed Text"_s);
+        QCOMPARE(workbench.code().CodeText(), u"a b c"_s);
+    }
+
+    void saysWhenThereIsNothingToRestore()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.choose(u"Restore Typed Text"_s);
+        QVERIFY(!workbench.window.statusBar()->currentMessage().isEmpty());
+        QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON"_s);
+    }
+
+    // Without the menu being opened.
+    void undoIsOfferedAsSoonAsAPasteHasItsSnapshot()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        QGuiApplication::clipboard()->setText(u"x"_s);
+        QVERIFY(!workbench.command(u"Undo"_s)->isEnabled());
+        workbench.key(Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(workbench.command(u"Undo"_s)->isEnabled());
+    }
+
+    // The editor acts on its keys itself, and only once.
+    void keysActOnce()
+    {
+        WorkbenchWindow workbench("");
+        QGuiApplication::clipboard()->setText(u"ab "_s);
+        QVERIFY(enabled(workbench).contains(u"Paste"_s));
+        workbench.key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(workbench.code().CodeText(), u"ab "_s);
+    }
+
+    void showsTheKnownWords()
+    {
+        WorkbenchWindow workbench("Fan1 = ");
+        workbench.key(Qt::Key_End);
+        workbench.choose(u"Known Words"_s);
+        auto *list = workbench.code().findChild<ORVTListview::ReportList *>(u"ListView1"_s);
+        QVERIFY(list->isVisible());
+        workbench.choose(u"Known Words"_s);
+        QVERIFY(!list->isVisible());
+    }
+};
+
+QTEST_MAIN(EditMenuTest)
+#include "EditMenuTest.moc"

@@ -1,0 +1,105 @@
+#include "WorkbenchTest.h"
+
+#include <QtCore/QSet>
+
+using namespace Qt::StringLiterals;
+
+// The rules for menus of docs/workbench.md.
+class MenuRulesTest : public WidgetTest
+{
+    Q_OBJECT
+
+private:
+    static QChar accessKey(const QString &caption)
+    {
+        return caption.sliced(caption.indexOf(u'&') + 1).front().toUpper();
+    }
+
+    static QStringList captions(const QMenu &menu)
+    {
+        QStringList captions;
+        for (const QAction *action : menu.actions()) {
+            if (!action->isSeparator())
+                captions.append(action->text());
+        }
+        return captions;
+    }
+
+    static void checkAccessKeys(const QStringList &captions)
+    {
+        QSet<QChar> keys;
+        for (const QString &caption : captions) {
+            QVERIFY2(caption.count(u'&') == 1, qPrintable(caption));
+            QVERIFY2(!keys.contains(accessKey(caption)), qPrintable(caption));
+            QVERIFY2(accessKey(caption).isLetter(), qPrintable(caption));
+            keys.insert(accessKey(caption));
+        }
+    }
+
+private Q_SLOTS:
+    void everyCommandIsThere()
+    {
+        const WorkbenchWindow workbench;
+        QStringList all;
+        for (const QMenu *menu : workbench.menus())
+            all.append(menu->title() + u": "_s + captions(*menu).join(u", "_s));
+        QCOMPARE(all.join(u'\n').remove(u'&'),
+                 u"File: Open Project…, Save Program, Quit\n"
+                 "Edit: Undo, Redo, Restore Typed Text, Cut, Copy, Paste, Select All, Known Words\n"
+                 "Program: Analyse, Compile, Results"_s);
+    }
+
+    void accessKeysDoNotClash()
+    {
+        const WorkbenchWindow workbench;
+        QStringList titles;
+        for (const QMenu *menu : workbench.menus()) {
+            titles.append(menu->title());
+            checkAccessKeys(captions(*menu));
+        }
+        checkAccessKeys(titles);
+    }
+
+    void commandsAreInTitleCase()
+    {
+        const WorkbenchWindow workbench;
+        for (const QMenu *menu : workbench.menus()) {
+            for (const QString &caption : captions(*menu)) {
+                for (const QString &word : QString(caption).remove(u'&').split(u' '))
+                    QVERIFY2(word.front().isUpper(), qPrintable(caption));
+            }
+        }
+    }
+
+    void anEllipsisPromisesADialog()
+    {
+        const WorkbenchWindow workbench;
+        for (const QMenu *menu : workbench.menus()) {
+            for (const QString &caption : captions(*menu)) {
+                QVERIFY2(!caption.contains(u"..."_s), qPrintable(caption));
+                QCOMPARE(caption.endsWith(u'…'), caption == u"&Open Project…"_s);
+            }
+        }
+    }
+
+    void keysDoNotClash()
+    {
+        const WorkbenchWindow workbench;
+        QSet<QString> keys;
+        for (const QMenu *menu : workbench.menus()) {
+            for (const QAction *action : menu->actions()) {
+                for (const QKeySequence &sequence : action->shortcuts()) {
+                    const QString text = sequence.toString();
+                    QVERIFY2(!keys.contains(text), qPrintable(text));
+                    keys.insert(text);
+                }
+            }
+        }
+        QVERIFY(keys.contains(u"F6"_s));
+        QVERIFY(keys.contains(u"Ctrl+F6"_s));
+        QVERIFY(keys.contains(u"Ctrl+Space"_s));
+    }
+};
+
+QTEST_MAIN(MenuRulesTest)
+#include "MenuRulesTest.moc"

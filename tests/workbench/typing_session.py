@@ -1,0 +1,305 @@
+#!/usr/bin/env python3
+"""Writes a program of twenty lines in the workbench, with real keys on a virtual
+display: word list, undo and redo, block indent, a refused paste. Checks the file
+that the workbench saves, and leaves pictures of the steps to be looked at.
+
+    typing_session.py --workbench PROGRAM --sample FOLDER --pictures FOLDER
+                      [--scale N] [--dark]
+"""
+
+import argparse
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+
+from x_display import Display, Failed, require_tools, wait_until
+
+TITLE = "Air handling unit 1 — Workbench"
+CHANGED_TITLE = "Air handling unit 1* — Workbench"
+
+HEATING = """\
+REM Heating coil of the supply air
+IF SupplyTemp < SupplyMin
+    HeatingPump = ON
+    HeatingValve = HeatingValve + 5
+    IF HeatingValve > 90
+        AlarmLamp = ON
+    ENDIF
+ELSE
+    HeatingPump = OFF
+    HeatingValve = 0
+ENDIF
+
+"""
+FANS = """\
+REM Fans by the hour
+IF HOUR >= 6 AND HOUR < 18
+    SupplyFanSpeed = LIMIT ( ZoneHeatDemand , FanMinSpeed , 100 )
+    ReturnFanSpeed = SupplyFanSpeed * 0.9
+ELSE
+    SupplyFanSpeed = 0
+    ReturnFanSpeed = 0
+ENDIF"""
+
+
+class Workbench:
+    """The running program, as a user has it before the eyes and under the fingers."""
+
+    def __init__(self, display, program, folder, options):
+        self._display = display
+        self._program_file = os.path.join(folder, "air-handling-unit.prog")
+        self._process = display.start(
+            program, os.path.join(folder, "air-handling-unit.json"), *options)
+        display.do("xdotool", "mousemove", "0", "0")
+        self.wait_for_window(TITLE)
+
+    def keys(self, *names):
+        self._display.do("xdotool", "key", "--delay", "2", *names)
+
+    def type(self, text):
+        first, *others = text.split("\n")
+        self._type_line(first)
+        for line in others:
+            self.keys("Return")
+            self._type_line(line)
+
+    def _type_line(self, line):
+        if line:
+            self._display.do("xdotool", "type", "--delay", "2", line)
+
+    def put_on_clipboard(self, text):
+        # It stays to serve the clipboard, so it must not hold our pipes.
+        subprocess.run(
+            ["xclip", "-selection", "clipboard"], input=text, text=True, check=True,
+            env=self._display.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(
+            lambda: self._display.ask("xclip", "-selection", "clipboard", "-out") == text,
+            "the text on the clipboard")
+
+    def active_title(self):
+        return self._display.ask("xdotool", "getactivewindow", "getwindowname").strip()
+
+    def wait_for_window(self, title):
+        wait_until(lambda: self._lives() and self.active_title() == title,
+                   f"a window \"{title}\" active")
+
+    def _lives(self):
+        if self._process.poll() is not None:
+            raise Failed(f"the workbench ended with {self._process.returncode}")
+        return True
+
+    def wait_for_word_list(self, is_there):
+        expected = 2 if is_there else 1
+        wait_until(
+            lambda: len(self._display.ask(
+                "xdotool", "search", "--onlyvisible", "--class", "workbench").split()) == expected,
+            "the word list open" if is_there else "the word list closed")
+
+    def save(self, expected):
+        """Saves and compares the file with the program expected."""
+        self.keys("ctrl+s")
+        self.wait_for_window(TITLE)
+        with open(self._program_file, encoding="utf-8", newline="") as file:
+            saved = file.read()
+        if saved != expected:
+            raise Failed(f"saved:\n{saved}<\nexpected:\n{expected}<")
+
+    def quit(self):
+        self.keys("ctrl+q")
+        code = wait_until(lambda: self._process.poll() is not None and [self._process.poll()],
+                          "the workbench ended")[0]
+        if code != 0:
+            raise Failed(f"the workbench ended with {code}")
+
+
+class Session:
+    def __init__(self, workbench, take_picture):
+        self._workbench = workbench
+        self._picture = take_picture
+
+    def run(self):
+        self._picture("01-empty")
+        self._word_list()
+        self._block_indent()
+        self._kept_indent()
+        self._undo_and_redo()
+        self._word_list_in_brackets()
+        self._refused_paste()
+        self._accepted_paste()
+        self._analysis()
+        self._compilation()
+        self._menus()
+        self._unsaved_changes()
+        self._workbench.quit()
+
+    def _word_list(self):
+        bench = self._workbench
+        bench.type("REM Heating coil of the supply air\nif supplytemp < supply")
+        bench.keys("ctrl+space")
+        bench.wait_for_word_list(True)
+        bench.type("m")
+        bench.keys("Down")
+        self._picture("02-word-list")
+        bench.keys("Return")
+        bench.wait_for_word_list(False)
+        bench.save("REM Heating coil of the supply air\nIF SupplyTemp < SupplyMin")
+
+    def _block_indent(self):
+        bench = self._workbench
+        bench.type("\nheatingpump = on\nheatingvalve = heatingvalve + 5\n"
+                   "if heatingvalve > 90\nalarmlamp = on\nendif")
+        bench.keys("shift+Up", "shift+Up", "shift+Up", "shift+Up")
+        self._picture("03-block-selected")
+        bench.keys("Tab")
+        self._picture("04-block-indented")
+        bench.keys("Left", "Down", "Down", "Down", "shift+End", "Tab", "Tab", "shift+Tab")
+        bench.keys("Down", "End")
+        bench.save(HEATING[: HEATING.index("\nELSE")])
+
+    def _kept_indent(self):
+        bench = self._workbench
+        bench.keys("Return", "BackSpace")
+        bench.type("else\n    heatingpump = off\nheatingvalve = 0\n")
+        bench.keys("BackSpace")
+        bench.type("endif\n\n")
+        bench.save(HEATING)
+
+    def _undo_and_redo(self):
+        bench = self._workbench
+        before = HEATING + "REM Fans by the hour\nIF HOUR >= 6"
+        bench.type("REM Fans by the hour\nif hour >= 6 and hour < 18")
+        bench.keys("ctrl+z", "ctrl+z", "ctrl+z")
+        self._picture("05-undone")
+        bench.save(before)
+        bench.keys("ctrl+y", "ctrl+y")
+        bench.save(before + " AND HOUR")
+        bench.keys("ctrl+y", "ctrl+y")
+        bench.save(before + " AND HOUR < 18")
+
+    def _word_list_in_brackets(self):
+        bench = self._workbench
+        bench.type("\n    supplyfanspeed = limit ( zonehea")
+        bench.keys("ctrl+space")
+        bench.wait_for_word_list(True)
+        bench.keys("Down", "Up")
+        self._picture("06-word-list-in-brackets")
+        bench.keys("Return")
+        bench.wait_for_word_list(False)
+        bench.type(" , fanm")
+        bench.keys("ctrl+space")
+        bench.wait_for_word_list(True)
+        bench.keys("Tab")
+        bench.wait_for_word_list(False)
+        bench.type(" , 100 )\nreturnfanspeed = supplyfanspeed * 0.9\n")
+        bench.keys("BackSpace")
+        bench.type("else\n    supplyfanspead = 0\n")
+        bench.save(HEATING + FANS[: FANS.index("    SupplyFanSpeed = 0")]
+                   + "    supplyfanspead = 0\n    ")
+
+    def _refused_paste(self):
+        bench = self._workbench
+        bench.put_on_clipboard("ReturnFanSpeed\\Temp = 0")
+        bench.keys("ctrl+v")
+        bench.wait_for_window("Paste — Workbench")
+        self._picture("07-refused-paste")
+        bench.keys("Return")
+        bench.wait_for_window(TITLE)
+        bench.save(HEATING + FANS[: FANS.index("    SupplyFanSpeed = 0")]
+                   + "    supplyfanspead = 0\n    ")
+
+    def _accepted_paste(self):
+        bench = self._workbench
+        bench.put_on_clipboard("returnfanspeed = 0\nendif")
+        bench.keys("ctrl+v", "Home", "End")
+        bench.wait_for_window(CHANGED_TITLE)
+        self._picture("08-pasted")
+        bench.save(HEATING + FANS.replace("    SupplyFanSpeed = 0", "    supplyfanspead = 0"))
+
+    def _analysis(self):
+        bench = self._workbench
+        bench.keys("F6")
+        self._picture("09-analysed")
+        bench.keys("ctrl+Tab", "Home", "Return")
+        self._picture("10-finding-chosen")
+        bench.type("supplyfanspeed")
+        bench.keys("ctrl+End")
+        bench.save(HEATING + FANS)
+
+    def _compilation(self):
+        self._workbench.keys("ctrl+F6")
+        self._picture("11-compiled")
+
+    def _menus(self):
+        bench = self._workbench
+        for number, name in ((12, "file"), (13, "edit"), (14, "program")):
+            bench.keys("alt+" + name[0])
+            self._picture(f"{number}-{name}-menu")
+            bench.keys("Escape", "Escape")
+        bench.type(" ")
+        bench.keys("alt+e", "k")
+        bench.wait_for_word_list(True)
+        self._picture("15-known-words")
+        bench.keys("Escape", "BackSpace")
+        bench.wait_for_word_list(False)
+        bench.save(HEATING + FANS)
+
+    def _unsaved_changes(self):
+        bench = self._workbench
+        bench.type("x")
+        bench.wait_for_window(CHANGED_TITLE)
+        bench.keys("ctrl+q")
+        bench.wait_for_window("Unsaved Changes — Workbench")
+        self._picture("16-unsaved-changes")
+        bench.keys("Escape")
+        bench.wait_for_window(CHANGED_TITLE)
+        bench.keys("BackSpace")
+        bench.wait_for_window(TITLE)
+
+
+def empty_copy_of(sample, folder):
+    shutil.copytree(sample, folder, dirs_exist_ok=True)
+    with open(os.path.join(folder, "air-handling-unit.prog"), "w", encoding="utf-8"):
+        pass
+
+
+def run_session(arguments):
+    require_tools()
+    os.makedirs(arguments.pictures, exist_ok=True)
+    shown_failure = os.path.join(arguments.pictures, "failed.png")
+    if os.path.exists(shown_failure):
+        os.remove(shown_failure)
+    scale = arguments.scale
+    options = ["--scale", str(scale)] + (["--dark"] if arguments.dark else [])
+    with tempfile.TemporaryDirectory(prefix="project") as folder, \
+            Display(int(1040 * scale), int(780 * scale)) as display:
+        empty_copy_of(arguments.sample, folder)
+        workbench = Workbench(display, arguments.workbench, folder, options)
+
+        def take_picture(name):
+            display.write_picture(os.path.join(arguments.pictures, name + ".png"))
+
+        try:
+            Session(workbench, take_picture).run()
+        except Failed:
+            take_picture("failed")
+            raise
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    for name in ("--workbench", "--sample", "--pictures"):
+        parser.add_argument(name, required=True)
+    parser.add_argument("--scale", type=float, default=1)
+    parser.add_argument("--dark", action="store_true")
+    try:
+        run_session(parser.parse_args())
+    except Failed as failure:
+        print(failure, file=sys.stderr)
+        return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
