@@ -62,7 +62,7 @@ void BoxFormats::setFont(const QFont &font)
     m_made.clear();
 }
 
-const QTextCharFormat &BoxFormats::charFormat(const RtfFormat &format)
+QTextCharFormat BoxFormats::charFormat(const RtfFormat &format)
 {
     auto it = m_made.find(format);
     if (it == m_made.end()) {

@@ -26,8 +26,7 @@ public:
     // The font's size in points, also of a font given in pixels.
     double pointSize() const { return m_pointSize; }
 
-    // The same format gives the same object until setFont.
-    const QTextCharFormat &charFormat(const RtfFormat &format);
+    QTextCharFormat charFormat(const RtfFormat &format);
     RtfFormat rtfFormat(const QTextCharFormat &format) const;
 
     // The text colour as 0x00BBGGRR, or RtfFormat::automatic.
@@ -39,7 +38,7 @@ private:
 
     RtfFormat m_base;
     double m_pointSize = 0;
-    QHash<RtfFormat, QTextCharFormat> m_made;
+    QHash<RtfFormat, QTextCharFormat> m_made; // each format is asked for many times
 };
 
 } // namespace ORVTListview

@@ -10,9 +10,7 @@
 #include "platform/RtfWriter.h"
 #include "platform/TextSearch.h"
 
-#include <QtCore/QEvent>
 #include <QtCore/QScopedValueRollback>
-#include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <limits>
@@ -25,13 +23,6 @@ qint32 advance(qint32 position, qint32 length)
 {
     const qint32 first = std::max(position, 0);
     return first + std::clamp(length, 0, std::numeric_limits<qint32>::max() - first);
-}
-
-// The palette that a widget has before it sets colours of its own.
-QPalette paletteAround(const QWidget &widget)
-{
-    const QWidget *parent = widget.parentWidget();
-    return parent ? parent->palette() : QApplication::palette(&widget);
 }
 
 // What the next character gets that replaces the cursor's selection.
@@ -197,7 +188,7 @@ void RichTextBox::setSelColor(qint32 colour)
     const QScopedValueRollback quiet(m_parts->isQuiet, true);
     const qint32 shown = colour == ColouredText::automatic
                              ? colour
-                             : Colours::fromColor(Colours::toColor(colour, paletteAround(*this)));
+                             : Colours::fromColor(Colours::toColor(colour, paletteAround()));
     QTextCursor cursor = textCursor();
     if (cursor.hasSelection()) {
         BoxColours::paint(*document(), cursor.selectionStart(), cursor.selectionEnd(), shown);
@@ -206,111 +197,6 @@ void RichTextBox::setSelColor(qint32 colour)
     QTextCharFormat format = cursor.charFormat();
     BoxFormats::setColour(format, shown);
     setCurrentCharFormat(format);
-}
-
-qint32 RichTextBox::BackColor() const
-{
-    return m_parts->backColor;
-}
-
-void RichTextBox::setBackColor(qint32 colour)
-{
-    m_parts->backColor = colour;
-    applyBackColor();
-}
-
-void RichTextBox::applyBackColor()
-{
-    const qint32 colour = m_parts->backColor;
-    const bool hasOwn = colour != Colours::windowBackground;
-    if (!hasOwn && !m_parts->hasOwnPalette)
-        return;
-    m_parts->hasOwnPalette = hasOwn;
-    QPalette own;
-    if (hasOwn) {
-        const QPalette around = paletteAround(*this);
-        own.setColor(QPalette::Base, Colours::toColor(colour, around));
-        own.setColor(QPalette::Text, Colours::textOn(colour, around));
-    }
-    if (own != palette() || own.resolveMask() != palette().resolveMask())
-        setPalette(own);
-}
-
-QString RichTextBox::FontName() const
-{
-    return font().family();
-}
-
-void RichTextBox::setFontName(const QString &name)
-{
-    if (name.isEmpty())
-        return;
-    QFont changed = font();
-    changed.setFamily(name);
-    setFont(changed);
-}
-
-float RichTextBox::FontSize() const
-{
-    return static_cast<float>(m_parts->formats.pointSize());
-}
-
-void RichTextBox::setFontSize(float points)
-{
-    constexpr float largest = 1638; // what RTF programs take
-    if (!(points > 0))
-        return;
-    QFont changed = font();
-    changed.setPointSizeF(static_cast<double>(std::min(points, largest)));
-    setFont(changed);
-}
-
-bool RichTextBox::FontBold() const
-{
-    return font().bold();
-}
-
-void RichTextBox::setFontBold(bool bold)
-{
-    QFont changed = font();
-    changed.setBold(bold);
-    setFont(changed);
-}
-
-bool RichTextBox::FontItalic() const
-{
-    return font().italic();
-}
-
-void RichTextBox::setFontItalic(bool italic)
-{
-    QFont changed = font();
-    changed.setItalic(italic);
-    setFont(changed);
-}
-
-bool RichTextBox::FontUnderline() const
-{
-    return font().underline();
-}
-
-void RichTextBox::setFontUnderline(bool underline)
-{
-    QFont changed = font();
-    changed.setUnderline(underline);
-    setFont(changed);
-}
-
-bool RichTextBox::FontStrikethrough() const
-{
-    return font().strikeOut();
-}
-
-void RichTextBox::setFontStrikethrough(bool strikethrough)
-{
-    QFont changed = font();
-    changed.setStrikeOut(strikethrough);
-    setFont(changed);
 }
 
 qint32 RichTextBox::GetLineFromChar(qint32 Position) const
@@ -384,15 +270,6 @@ void RichTextBox::recolour(qint32 start, const ColouredText &text)
 ColouredText RichTextBox::coloured(qint32 start, qint32 length) const
 {
     return BoxColours::read(*document(), m_parts->text, start, length);
-}
-
-void RichTextBox::changeEvent(QEvent *event)
-{
-    QPlainTextEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        m_parts->formats.setFont(font());
-    else if (event->type() == QEvent::PaletteChange)
-        applyBackColor();
 }
 
 } // namespace ORVTListview

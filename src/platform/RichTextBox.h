@@ -191,6 +191,7 @@ private:
     struct Parts;
 
     void select(int anchor, int position);
+    QPalette paletteAround() const;
     void applyBackColor();
     void noteTextChange();
     void replaceAll(const std::function<void()> &insert);

@@ -2,6 +2,7 @@
 #include "platform/RichTextBox.h"
 #include "support/WidgetTest.h"
 
+#include <QtGui/QAccessible>
 #include <QtGui/QFontInfo>
 #include <QtWidgets/QApplication>
 
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void propertiesAreKnownToTheMetaObject_data();
     void propertiesAreKnownToTheMetaObject();
     void methodsAreInvokable();
+    void screenReadersSeeATextToEdit();
 
 private:
     static QColor corner(QWidget &widget)
@@ -229,6 +231,18 @@ void BoxLookTest::methodsAreInvokable()
     QVERIFY(QMetaObject::invokeMethod(&box, "Find", Q_RETURN_ARG(qint32, place),
                                       Q_ARG(QString, u"two"_s)));
     QCOMPARE(place, 5);
+}
+
+void BoxLookTest::screenReadersSeeATextToEdit()
+{
+    RichTextBox box;
+    box.setText(u"one\r\ntwo"_s);
+    box.setSelStart(5);
+    QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(&box);
+    QVERIFY(seen && seen->textInterface());
+    QCOMPARE(seen->role(), QAccessible::EditableText);
+    QCOMPARE(seen->textInterface()->text(0, 7), u"one\ntwo"_s);
+    QCOMPARE(seen->textInterface()->cursorPosition(), 4);
 }
 
 QTEST_MAIN(BoxLookTest)
