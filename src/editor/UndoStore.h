@@ -31,14 +31,14 @@ class UndoSlotEncoder;
 //   the text on the screen is most often in no slot yet (see KeptState).
 // - A step moves UndoCurrent first; what is restored is the slot it reaches.
 // - The 50th snapshot in a row comes to slot 0 again and the ring has wrapped
-//   (UndoWrapped, for good). From then on every slot but UndoNewest lies behind,
-//   so that 49 steps back can be taken. When snapshots had been dropped by one
-//   taken after an undo, the last of these steps meet the dropped ones.
+//   (UndoWrapped, until ClearUndoHistory). From then on every slot but UndoNewest
+//   lies behind, so that 49 steps back can be taken. When snapshots had been
+//   dropped by one taken after an undo, the last of these steps meet them.
 // - Setting a base later overwrites slot 0, wherever the ring stands.
 //
 // Long records are held compressed, but storing one must not hold up a key: it is
 // kept plain, sharing its text with whoever gave it, and encoded by encodePending
-// while the program is idle. No other member shows which of the two it is.
+// while the program is idle. The members for the ring show the same either way.
 class ORVT_CORE_EXPORT UndoStore
 {
 public:

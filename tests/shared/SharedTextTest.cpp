@@ -106,6 +106,39 @@ TEST(SharedText, EqualTextCostsNothing)
     EXPECT_EQ(bytesOf({before, same}), 20000);
 }
 
+TEST(SharedText, ChangeTakenBackIsOnePieceAgain)
+{
+    const SharedText before(u"0123456789"_s.repeated(1000));
+    QString changed = before.toString();
+    changed.insert(5000, u"abc"_s);
+    const SharedText between = SharedText(changed).sharedWith(before);
+    const SharedText after = SharedText(before.toString()).sharedWith(between);
+    EXPECT_EQ(between.pieceCount(), 3);
+    EXPECT_EQ(after.pieceCount(), 1);
+    EXPECT_EQ(after.toString(), before.toString());
+}
+
+TEST(SharedText, PiecesOfBothMayEndAnywhere)
+{
+    const SharedText whole(u"0123456789"_s.repeated(1000));
+    QString changed = whole.toString();
+    changed.insert(7001, u"abc"_s);
+    const SharedText inPieces = SharedText(changed).sharedWith(whole);
+    ASSERT_EQ(inPieces.pieceCount(), 3);
+
+    QString other = changed;
+    other[0] = u'x';
+    const SharedText front = inPieces.sharedWith(SharedText(other));
+    EXPECT_EQ(front.pieceCount(), 2);
+    EXPECT_EQ(front.toString(), changed);
+
+    other = changed;
+    other.back() = u'x';
+    const SharedText back = inPieces.sharedWith(SharedText(other));
+    EXPECT_EQ(back.pieceCount(), 2);
+    EXPECT_EQ(back.toString(), changed);
+}
+
 TEST(SharedText, EndsThatOverlapAreNotSharedTwice)
 {
     const SharedText before(u"aaaa"_s.repeated(1000));
@@ -158,6 +191,7 @@ TEST(SharedText, IsTheSameTextWhateverItsPieces)
         ASSERT_EQ(text.size(), string.size());
         ASSERT_EQ(text.toString(), string);
         ASSERT_EQ(former.toString(), formerString);
+        ASSERT_EQ(former.sharedWith(text).toString(), formerString);
         ASSERT_EQ(text.equals(former), string == formerString);
         ASSERT_TRUE(text.equals(SharedText(string)));
         if (round % 100 == 0) {
