@@ -4,8 +4,11 @@
 
 #include <ORVTListview/Error.h>
 #include <ORVTListview/IndexedName.h>
+#include <ORVTListview/LibraryTexts.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/PointCollection.h>
 #include <ORVTListview/RichTextBox.h>
+#include <ORVTListview/TextProvider.h>
+#include <ORVTListview/TranslatedTexts.h>
 #include <ORVTListview/Types.h>

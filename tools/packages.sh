@@ -9,6 +9,11 @@ test_packages=(
     libgtest-dev libgmock-dev python3
     xvfb xauth xclip xdotool openbox x11-utils)
 
+# What ./bench compares with.
+bench_packages=(
+    libqscintilla2-qt6-dev libkf5syntaxhighlighting-dev
+    highlight python3-pygments python3)
+
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"

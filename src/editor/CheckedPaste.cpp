@@ -7,6 +7,7 @@
 #include "platform/RichTextBox.h"
 #include "platform/RtfReader.h"
 #include "platform/TextRules.h"
+#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
 namespace ORVTListview {
@@ -17,7 +18,7 @@ namespace {
 
 void warn(const QString &text)
 {
-    threadPart<Messages>().service().show({Message::Icon::Exclamation, u"Paste"_s, text});
+    threadPart<Messages>().service().show({Message::Icon::Exclamation, Localise(u"Paste"_s), text});
 }
 
 } // namespace
@@ -29,7 +30,7 @@ bool PasteText(RichTextBox &box, const QString &Data)
         return true;
     }
     if (Data.contains(u'\\')) {
-        warn(u"Invalid letter: '\\' that is reserved to RTF!"_s);
+        warn(Localise(u"Invalid letter: '\\' that is reserved to RTF!"_s));
         return false;
     }
     const bool continuesComment = IsCommentLine(box.lineText(box.GetLineFromChar(box.SelStart())));
@@ -42,7 +43,7 @@ bool acceptPasteSize(const QString &data)
 {
     if (data.size() * qsizetype{sizeof(QChar)} <= largestPaste)
         return true;
-    warn(u"The text is too large."_s);
+    warn(Localise(u"The text is too large."_s));
     return false;
 }
 

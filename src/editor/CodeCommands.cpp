@@ -3,7 +3,9 @@
 #include "editor/CodeEditor.h"
 #include "editor/EditorKeys.h"
 #include "editor/UndoStore.h"
+#include "platform/AccessKeys.h"
 #include "platform/RichTextBox.h"
+#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
 #include <QtCore/QMimeData>
@@ -12,6 +14,24 @@
 #include <QtWidgets/QMenu>
 
 namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What the plain box puts into its menu is in English.
+void localise(QMenu &menu)
+{
+    const QList<QAction *> actions = menu.actions();
+    QStringList captions;
+    for (const QAction *action : actions)
+        captions << Localise(action->text().remove(u'&'));
+    captions = withAccessKeys(captions);
+    for (qsizetype i = 0; i < actions.size(); ++i)
+        actions[i]->setText(captions[i]);
+}
+
+} // namespace
 
 CodeCommands::CodeCommands(CodeEditor &editor)
     : BoxCommands(editor.box())
@@ -85,11 +105,12 @@ void CodeCommands::fillMenu(QMenu &menu)
         menu.addAction(text, &menu, [this, act] { (this->*act)(); })->setEnabled(isEnabled);
     };
     const bool canChange = !box().isReadOnly();
-    add(RichTextBox::tr("&Undo"), canChange && ring.CanUndo(), &CodeCommands::undo);
-    add(RichTextBox::tr("&Redo"), canChange && (ring.CanRedo() || m_editor.canBringBackKeptText()),
+    add(u"Undo"_s, canChange && ring.CanUndo(), &CodeCommands::undo);
+    add(u"Redo"_s, canChange && (ring.CanRedo() || m_editor.canBringBackKeptText()),
         &CodeCommands::redo);
     menu.addSeparator();
     BoxCommands::fillMenu(menu);
+    localise(menu);
 }
 
 } // namespace ORVTListview

@@ -14,6 +14,7 @@
 #include "platform/RtfReader.h"
 #include "platform/TextRules.h"
 #include "shared/HostForms.h"
+#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
 #include <QtCore/QScopeGuard>
@@ -66,12 +67,15 @@ void CodeEditor::connectBox()
     m_box->installEventFilter(this);
     m_box->viewport()->installEventFilter(this);
     connect(m_box, &RichTextBox::KeyDown, this, [this](qint16 &keyCode, qint16 shift) {
+        const QPointer<CodeEditor> self(this); // the host may destroy it in an event
         m_keys.keyDown(keyCode, shift);
-        m_isKeyInBox = keyCode != 0;
+        if (self)
+            m_isKeyInBox = keyCode != 0;
     });
     connect(m_box, &RichTextBox::Change, this, &CodeEditor::noteTextChange);
     connect(m_box, &RichTextBox::cursorPositionChanged, this, [this] {
-        m_colouring.followCaret();
+        if (!threadPart<UndoStore>().IsRestoringUndo())
+            m_colouring.followCaret();
         m_popup.follow();
     });
     connect(&m_popup, &PopupWordList::picked, this, &CodeEditor::takeWord);
@@ -196,23 +200,33 @@ void CodeEditor::RTextSelectAll()
     m_box->setSelLength(m_box->TextLength());
 }
 
+bool CodeEditor::bringBackKeptText()
+{
+    const bool isShown = m_undo.bringBackKeptText();
+    if (isShown)
+        m_colouring.forgetEdit();
+    return isShown;
+}
+
 void CodeEditor::Undo(QString &ErrMsg)
 {
-    m_undo.Undo(ErrMsg);
-    m_colouring.forgetEdit();
+    if (m_undo.Undo(ErrMsg))
+        m_colouring.forgetEdit();
 }
 
 void CodeEditor::Redo(QString &ErrMsg)
 {
-    m_undo.Redo(ErrMsg);
-    m_colouring.forgetEdit();
+    if (m_undo.Redo(ErrMsg))
+        m_colouring.forgetEdit();
 }
 
 QString CodeEditor::GetPositionDisplay() const
 {
     const qint32 caret = m_box->SelStart();
     const qint32 line = m_box->GetLineFromChar(caret);
-    return u"Row: %1, Col: %2"_s.arg(line + 1).arg(caret - m_box->lineStart(line) + 1);
+    const QString row = QString::number(line + 1);
+    const QString column = QString::number(caret - m_box->lineStart(line) + 1);
+    return Localise(u"Row:"_s) + u' ' + row + Localise(u", Col:"_s) + u' ' + column;
 }
 
 QString CodeEditor::GetWholeWord(qint32 StartIndex, qint32 &WordStartIndex, qint32 &Color) const
@@ -345,11 +359,17 @@ void CodeEditor::pasteChecked(const QString &data)
     if (!PasteText(*m_box, data))
         return;
     if (!isRtf(data)) { // which keeps the colours it came with
-        if (m_box->GetLineFromChar(m_box->SelStart()) != firstLine)
-            m_colouring.finishLine(firstLine);
+        finishLines(firstLine, m_box->GetLineFromChar(m_box->SelStart()));
         m_colouring.noteEdit();
     }
     m_box->ensureCursorVisible();
+}
+
+// Those before the last one, which the caret is still on.
+void CodeEditor::finishLines(qint32 first, qint32 last)
+{
+    for (qint32 line = first; line < last; ++line)
+        m_colouring.finishLine(line);
 }
 
 void CodeEditor::noteTextChange()
@@ -411,6 +431,7 @@ bool CodeEditor::rewriteKnownWord()
         colour = m_popup.words().words()[place].style.Colour;
     }
     SetWordAtCaret(*m_box, word, colour);
+    m_colouring.noteEdit();
     return true;
 }
 

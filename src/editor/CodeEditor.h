@@ -59,7 +59,7 @@ public:
     void RTextSelectAll();
     void Undo(QString &ErrMsg);
     void Redo(QString &ErrMsg);
-    bool bringBackKeptText() { return m_undo.bringBackKeptText(); }
+    bool bringBackKeptText();
     bool canBringBackKeptText() const { return m_undo.canBringBackKeptText(); }
     void clearUndoHistory() { m_undo.clearHistory(); }
 
@@ -116,6 +116,7 @@ private:
     QString sampleRtf();
     ColouredText coloured(const QString &text) const;
     void pasteChecked(const QString &data);
+    void finishLines(qint32 first, qint32 last);
     void noteTextChange();
     void raiseStatus();
     void takeWord(const QString &word, qint32 colour);

@@ -1,6 +1,7 @@
 #include "editor/ColourEngine.h"
 
 #include "editor/CodeText.h"
+#include "shared/TextTable.h"
 
 #include <QtCore/QVarLengthArray>
 
@@ -191,7 +192,8 @@ bool ColourEngine::tryListedWord(QStringView word, qsizetype offset, ColourSink 
 void ColourEngine::reportEmptyList() const
 {
     if (m_words.isEmpty())
-        m_messages.show({Message::Icon::None, QString(), QStringLiteral("List not found!")});
+        m_messages.show(
+            {Message::Icon::None, QString(), Localise(QStringLiteral("List not found!"))});
 }
 
 QString NormaliseClosingParens(QStringView Line)

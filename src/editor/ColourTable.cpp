@@ -1,6 +1,7 @@
 #include "editor/ColourTable.h"
 
 #include "editor/WordClass.h"
+#include "shared/TextTable.h"
 
 #include <algorithm>
 #include <array>
@@ -41,7 +42,8 @@ QString BuildColourTable(const RichTextSettings &Settings, QString &ErrorText,
     for (int slot = 1; slot <= colourSlots; ++slot) {
         const std::optional<SplitColours> colour = splitter(colourOfSlot(slot, Settings));
         if (!colour)
-            ErrorText += u"\r\nBad %1 for Editer of Code!"_s.arg(settingName(slot));
+            ErrorText +=
+                u"\r\n"_s + Localise(u"Bad %1 for Editer of Code!"_s).arg(settingName(slot));
         entries += tableEntry(colour.value_or(SplitColours()));
     }
     return u"{\\colortbl ;"_s + entries + u'}';

@@ -2,9 +2,11 @@
 
 #include "editor/ColourText.h"
 #include "editor/EditorState.h"
+#include "editor/LineColouring.h"
 #include "editor/ThreadColouring.h"
 #include "platform/Error.h"
 #include "platform/RichTextBox.h"
+#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
 namespace ORVTListview {
@@ -18,6 +20,11 @@ constexpr auto idleAfter = 400ms; // since the last snapshot
 UndoStore &ring()
 {
     return threadPart<UndoStore>();
+}
+
+const RichTextSettings &editorSettings()
+{
+    return threadPart<EditorState>().EditorSettings;
 }
 
 } // namespace
@@ -49,24 +56,25 @@ void EditorUndo::PushUndoSnapshot(bool isReady)
     m_idle.start(idleAfter);
 }
 
-void EditorUndo::step(bool forwards, QString &ErrMsg)
+bool EditorUndo::step(bool forwards, QString &ErrMsg)
 {
     const UndoStore::Restoring restoring(ring());
     try {
         const bool canStep = forwards ? ring().CanRedo() : ring().CanUndo();
-        if (!canStep) {
-            if (forwards)
-                bringBackKeptText();
-            return;
-        }
+        if (!canStep)
+            return forwards && bringBackKeptText();
         m_kept.beforeStep(ring(), shown());
         const std::optional<qint16> slot =
             forwards ? ring().RedoStepForward() : ring().UndoStepBack();
         const QString record = slot ? ring().FetchUndoSnapshot(*slot) : QString();
-        if (!record.isEmpty())
-            show(splitUndoRecord(record));
+        if (record.isEmpty())
+            return false;
+        const UndoRecord state = splitUndoRecord(record);
+        show(state, colouredText(threadColouring(), state.text, false, editorSettings()));
+        return true;
     } catch (const Error &error) {
-        ErrMsg = error.Description();
+        ErrMsg = Localise(error.Description());
+        return false;
     }
 }
 
@@ -74,15 +82,15 @@ bool EditorUndo::bringBackKeptText()
 {
     const UndoStore::Restoring restoring(ring());
     const std::optional<UndoRecord> kept = m_kept.bringBack();
+    // Unlike a slot it is shown exactly as it was, without the spacing of colouring.
     if (kept)
-        show(*kept);
+        show(*kept, finishedText(threadColouring(), kept->text, editorSettings()));
     return kept.has_value();
 }
 
-void EditorUndo::show(const UndoRecord &record)
+void EditorUndo::show(const UndoRecord &record, const ColouredText &text)
 {
-    m_box.setColoured(colouredText(threadColouring(), record.text, false,
-                                   threadPart<EditorState>().EditorSettings));
+    m_box.setColoured(text);
     m_box.setSelStart(record.selectionStart);
     m_box.setSelLength(record.selectionLength);
     m_box.ensureCursorVisible();

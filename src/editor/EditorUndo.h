@@ -9,6 +9,7 @@
 namespace ORVTListview {
 
 class RichTextBox;
+struct ColouredText;
 
 // One editor's use of the undo ring that all editors of its thread share.
 class EditorUndo : public QObject
@@ -29,9 +30,9 @@ public:
     void PushUndoSnapshot(bool isReady);
 
     // Show the slot that the ring steps to. ErrMsg is left as it is when nothing
-    // failed; on a failure text and selection stay.
-    void Undo(QString &ErrMsg) { step(false, ErrMsg); }
-    void Redo(QString &ErrMsg) { step(true, ErrMsg); }
+    // failed; on a failure text and selection stay. True when a state was shown.
+    bool Undo(QString &ErrMsg) { return step(false, ErrMsg); }
+    bool Redo(QString &ErrMsg) { return step(true, ErrMsg); }
 
     // Shows again what the last undo or redo took away and no slot holds; false
     // when there is nothing of the kind.
@@ -45,8 +46,8 @@ public:
     void noteEdit();
 
 private:
-    void step(bool forwards, QString &ErrMsg);
-    void show(const UndoRecord &record);
+    bool step(bool forwards, QString &ErrMsg);
+    void show(const UndoRecord &record, const ColouredText &text);
     UndoRecord shown() const;
     void encodeWhenIdle();
 

@@ -68,4 +68,22 @@ ColouredText finishedLine(const ColourEngine &engine, QStringView line,
     return colours.finish();
 }
 
+ColouredText finishedText(const ColourEngine &engine, QStringView text,
+                          const RichTextSettings &settings)
+{
+    ColouredText result;
+    result.text.reserve(text.size());
+    const QList<QStringView> lines = text.split(u"\r\n");
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        if (i > 0) {
+            result.text += QStringLiteral("\r\n");
+            result.runs.append({2, ColouredText::automatic});
+        }
+        const ColouredText line = finishedLine(engine, lines[i], settings);
+        result.text += line.text;
+        result.runs += line.runs;
+    }
+    return result;
+}
+
 } // namespace ORVTListview

@@ -11,4 +11,8 @@ namespace ORVTListview {
 ORVT_CORE_EXPORT ColouredText finishedLine(const ColourEngine &engine, QStringView line,
                                            const RichTextSettings &settings);
 
+// The same for all lines of a text, which are separated by CR LF.
+ORVT_CORE_EXPORT ColouredText finishedText(const ColourEngine &engine, QStringView text,
+                                           const RichTextSettings &settings);
+
 } // namespace ORVTListview

@@ -133,8 +133,9 @@ bool LineCommands::unindentBeforeCaret()
         return false;
     const qsizetype past = before.size() % m_unit.size();
     const qsizetype step = past > 0 ? past : m_unit.size();
-    qsizetype removed = before.endsWith(u'\t') ? 1 : 0;
-    while (removed < std::min(step, before.size()) && before[before.size() - removed - 1] == u' ')
+    qsizetype removed = 1; // a tab goes alone
+    while (before.back() == u' ' && removed < std::min(step, before.size())
+           && before[before.size() - removed - 1] == u' ')
         ++removed;
     m_box.setSelStart(caret - static_cast<qint32>(removed));
     m_box.setSelLength(static_cast<qint32>(removed));

@@ -1,5 +1,7 @@
 #include "editor/RtfHead.h"
 
+#include "shared/TextTable.h"
+
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
@@ -22,7 +24,7 @@ RtfHead BuildRtfHeader(const QString &SampleRtf, const RichTextSettings &Setting
                     colourTable + u"\r\n\\viewkind4\\uc1\\pard\\lang1033\\b\\fs17 "_s,
                 false};
     if (!errorText.isEmpty())
-        messages.show({Message::Icon::Exclamation, u"Code Text Setting"_s, errorText});
+        messages.show({Message::Icon::Exclamation, Localise(u"Code Text Setting"_s), errorText});
     return {lines[0] + u"\r\n"_s + colourTable + u"\r\n"_s + lines[1].first(mark), true};
 }
 

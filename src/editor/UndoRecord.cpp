@@ -50,11 +50,6 @@ QString joinUndoRecord(const UndoRecord &record)
     return record.text + undoRecordTail(record);
 }
 
-qsizetype undoRecordLength(const UndoRecord &record)
-{
-    return record.text.size() + undoRecordTail(record).size();
-}
-
 UndoRecord splitUndoRecord(const QString &record)
 {
     constexpr qsizetype separatorLength = UndoRecordSeparator.size();

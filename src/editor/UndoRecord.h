@@ -27,9 +27,6 @@ ORVT_CORE_EXPORT QString undoRecordTail(const UndoRecord &record);
 
 ORVT_CORE_EXPORT QString joinUndoRecord(const UndoRecord &record);
 
-// The joined record's length, without joining it.
-ORVT_CORE_EXPORT qsizetype undoRecordLength(const UndoRecord &record);
-
 // All three fields are checked before any is handed out. Raises Error when a
 // field is missing (SubscriptOutOfRange), when the text itself holds a separator
 // so that the fields cannot be told apart (InvalidCall), when a selection field

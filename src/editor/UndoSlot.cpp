@@ -11,12 +11,11 @@ constexpr QChar plainMarker = u'%';
 
 } // namespace
 
-QString encodeUndoSlot(const UndoRecord &record)
+QString encodeUndoSlot(const QString &record)
 {
-    const QString text = joinUndoRecord(record);
-    if (text.size() >= shortestCompressedRecord && ModZlib::canCompress(text))
-        return compressedMarker + ModZlib::CompressString(text);
-    return plainMarker + text;
+    if (record.size() >= shortestCompressedRecord && ModZlib::canCompress(record))
+        return compressedMarker + ModZlib::CompressString(record);
+    return plainMarker + record;
 }
 
 QString decodeUndoSlot(const QString &slot)
@@ -25,9 +24,10 @@ QString decodeUndoSlot(const QString &slot)
     return slot.startsWith(compressedMarker) ? ModZlib::UncompressString(record) : record;
 }
 
-UndoSlotEncoder::UndoSlotEncoder(const UndoRecord &record)
-    : m_record(record)
-    , m_compressor(std::make_unique<ModZlib::SlicedCompressor>(undoRecordLength(record)))
+UndoSlotEncoder::UndoSlotEncoder(const SharedText &text, const QString &tail)
+    : m_text(text)
+    , m_tail(tail)
+    , m_compressor(std::make_unique<ModZlib::SlicedCompressor>(text.size() + tail.size()))
 {
 }
 
@@ -35,13 +35,16 @@ UndoSlotEncoder::~UndoSlotEncoder() = default;
 
 UndoSlotEncoder::Progress UndoSlotEncoder::advance(qsizetype characters)
 {
-    const QStringView slice = QStringView(m_record.text).mid(m_taken, characters);
-    if (!m_compressor->add(slice))
-        return Progress::Impossible;
-    m_taken += slice.size();
-    if (m_taken < m_record.text.size())
+    while (characters > 0 && m_taken < m_text.size()) {
+        const QStringView slice = m_text.behind(m_taken, characters);
+        if (!m_compressor->add(slice))
+            return Progress::Impossible;
+        m_taken += slice.size();
+        characters -= slice.size();
+    }
+    if (m_taken < m_text.size())
         return Progress::Going;
-    m_compressor->add(undoRecordTail(m_record));
+    m_compressor->add(m_tail);
     m_slot = compressedMarker + m_compressor->finish();
     return Progress::Done;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/UndoRecord.h"
+#include "shared/SharedText.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ namespace ModZlib {
 class SlicedCompressor;
 }
 
-// A slot of the undo ring is a text: a marker and a record. "*" says that the
+// A slot of the undo ring is a text: a marker and a joined record. "*" says that the
 // record is compressed, "%" that it is as it was. Records of 400 characters and
 // more are compressed, unless the 8-bit code page lacks one of their characters
 // or they are longer than what can be compressed.
@@ -18,7 +18,7 @@ class SlicedCompressor;
 inline constexpr qsizetype shortestCompressedRecord = 400;
 
 // Raises Error when zlib fails.
-ORVT_CORE_EXPORT QString encodeUndoSlot(const UndoRecord &record);
+ORVT_CORE_EXPORT QString encodeUndoSlot(const QString &record);
 
 // The joined record; an empty slot yields an empty one. Raises Error as
 // UncompressString does.
@@ -34,19 +34,21 @@ public:
         Impossible, // to compress: the record stays as it is
     };
 
-    // Raises Error and std::bad_alloc, here and below.
-    explicit UndoSlotEncoder(const UndoRecord &record);
+    // The record's text, and what follows it in the joined record. Raises Error and
+    // std::bad_alloc, here and below.
+    UndoSlotEncoder(const SharedText &text, const QString &tail);
     ~UndoSlotEncoder();
     Q_DISABLE_COPY_MOVE(UndoSlotEncoder) // so is its compressor
 
-    // Takes up to so many more characters of the text, at least 1.
+    // Takes so many more characters of the text, at least 1.
     Progress advance(qsizetype characters);
 
     // Once, when done.
     QString slot() const { return m_slot; }
 
 private:
-    UndoRecord m_record;
+    SharedText m_text;
+    QString m_tail;
     std::unique_ptr<ModZlib::SlicedCompressor> m_compressor;
     qsizetype m_taken = 0;
     QString m_slot;

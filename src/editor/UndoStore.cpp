@@ -23,11 +23,6 @@ constexpr qint16 preceding(qint16 index)
     return static_cast<qint16>(index == 0 ? UndoStore::slotCount - 1 : index - 1);
 }
 
-qsizetype textBytes(const UndoRecord &record)
-{
-    return record.text.size() * qsizetype(sizeof(QChar));
-}
-
 } // namespace
 
 UndoStore::UndoStore(qsizetype pendingBound)
@@ -53,7 +48,7 @@ QString UndoStore::UndoSlots(qint16 index) const
 {
     const Slot &slot = slotAt(index);
     const auto *plain = std::get_if<PlainSlot>(&slot);
-    return plain ? encodeUndoSlot(plain->record) : std::get<QString>(slot);
+    return plain ? encodeUndoSlot(plain->record()) : std::get<QString>(slot);
 }
 
 void UndoStore::setUndoSlot(qint16 index, const QString &slot)
@@ -81,7 +76,7 @@ QString UndoStore::FetchUndoSnapshot(qint16 index) const
 {
     const Slot &slot = slotAt(index);
     const auto *plain = std::get_if<PlainSlot>(&slot);
-    return plain ? joinUndoRecord(plain->record) : decodeUndoSlot(std::get<QString>(slot));
+    return plain ? plain->record() : decodeUndoSlot(std::get<QString>(slot));
 }
 
 void UndoStore::ResetUndoBase(const QString &text)
@@ -127,7 +122,7 @@ bool UndoStore::holdsText(qint16 index, const QString &text) const
 {
     const Slot &slot = slotAt(index);
     if (const auto *plain = std::get_if<PlainSlot>(&slot))
-        return plain->record.text == text;
+        return plain->text.equals(SharedText(text));
     try {
         return splitUndoRecord(FetchUndoSnapshot(index)).text == text;
     } catch (const Error &) {
@@ -144,8 +139,9 @@ void UndoStore::put(qint16 index, Slot slot)
 
 void UndoStore::putPlain(qint16 index, const UndoRecord &record)
 {
-    const bool isLong = undoRecordLength(record) >= shortestCompressedRecord;
-    put(index, PlainSlot{record, isLong});
+    PlainSlot slot{SharedText(record.text), undoRecordTail(record)};
+    slot.isWaiting = slot.text.size() + slot.tail.size() >= shortestCompressedRecord;
+    put(index, std::move(slot));
     keepWithinBound();
 }
 
@@ -163,10 +159,11 @@ bool UndoStore::isEncodingPending() const
 qsizetype UndoStore::pendingBytes() const
 {
     qsizetype bytes = 0;
+    QSet<const QChar *> counted;
     for (qint16 index = 0; index < slotCount; ++index) {
         const PlainSlot *waiting = waitingAt(index);
         if (waiting && index != m_newest)
-            bytes += textBytes(waiting->record);
+            bytes += waiting->text.bytes(counted);
     }
     return bytes;
 }
@@ -179,15 +176,29 @@ bool UndoStore::encodePending(qsizetype characters)
     return isEncodingPending();
 }
 
-// What lies ahead of the newest slot is either empty or the oldest there is.
+// From the oldest, 0, to the newest slot. What lies ahead of the newest is either
+// empty or the oldest there is.
+qint16 UndoStore::slotOfAge(int age) const
+{
+    return static_cast<qint16>((m_newest + 1 + age) % slotCount);
+}
+
 std::optional<qint16> UndoStore::oldestWaiting() const
 {
-    qint16 index = m_newest;
-    do {
-        index = following(index);
-        if (waitingAt(index))
-            return index;
-    } while (index != m_newest);
+    for (int age = 0; age < slotCount; ++age) {
+        if (waitingAt(slotOfAge(age)))
+            return slotOfAge(age);
+    }
+    return std::nullopt;
+}
+
+std::optional<qint16> UndoStore::oldestNotCompared() const
+{
+    for (int age = 0; age < slotCount - 1; ++age) {
+        const PlainSlot *waiting = waitingAt(slotOfAge(age));
+        if (waiting && !waiting->isCompared)
+            return slotOfAge(age);
+    }
     return std::nullopt;
 }
 
@@ -198,7 +209,7 @@ void UndoStore::encode(qint16 index, qsizetype characters)
     Progress progress = Progress::Impossible;
     try {
         if (!isEncoding(index))
-            m_encoder = std::make_unique<UndoSlotEncoder>(slot.record);
+            m_encoder = std::make_unique<UndoSlotEncoder>(slot.text, slot.tail);
         m_encodedSlot = index;
         progress = m_encoder->advance(characters);
     } catch (const Error &) {
@@ -207,16 +218,32 @@ void UndoStore::encode(qint16 index, qsizetype characters)
     if (progress == Progress::Done) {
         put(index, m_encoder->slot());
     } else if (progress == Progress::Impossible) {
-        slot.isWaiting = false;
         m_encoder.reset();
+        slot.isWaiting = false;
+        share(index);
+    }
+}
+
+void UndoStore::share(qint16 index)
+{
+    auto &slot = std::get<PlainSlot>(slotAt(index));
+    slot.isCompared = true;
+    const auto *before = std::get_if<PlainSlot>(&slotAt(preceding(index)));
+    try {
+        if (before)
+            slot.text = slot.text.sharedWith(before->text);
+    } catch (const std::bad_alloc &) {
     }
 }
 
 void UndoStore::keepWithinBound()
 {
-    // The walk comes to the newest slot last, and its bytes are not counted.
-    while (pendingBytes() > m_pendingBound)
-        encode(*oldestWaiting(), std::numeric_limits<qsizetype>::max());
+    while (pendingBytes() > m_pendingBound) {
+        if (const std::optional<qint16> index = oldestNotCompared())
+            share(*index);
+        else // the newest slot comes last, and its bytes are not counted
+            encode(*oldestWaiting(), std::numeric_limits<qsizetype>::max());
+    }
 }
 
 } // namespace ORVTListview

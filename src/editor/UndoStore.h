@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/UndoRecord.h"
+#include "shared/SharedText.h"
 
 #include <array>
 #include <memory>
@@ -46,11 +47,12 @@ public:
     // About two milliseconds of compressing.
     static constexpr qsizetype sliceLength = 64 * 1024;
 
-    // 49 snapshots of a text of 1 MB wait without being encoded before their time.
+    // 49 snapshots of a text of 1 MB take less.
     static constexpr qsizetype defaultPendingBound = 128 * 1024 * 1024;
 
     // The bytes of text that may wait to be encoded, besides the newest snapshot.
-    // Storing one that would pass the bound first encodes the oldest that wait.
+    // At the bound, storing one looks for what those that wait have in common and
+    // holds it once; where that is not enough, it encodes the oldest on the spot.
     explicit UndoStore(qsizetype pendingBound = defaultPendingBound);
     ~UndoStore();
     Q_DISABLE_COPY_MOVE(UndoStore) // shared by address
@@ -114,7 +116,8 @@ public:
     // Whether a slot waits to be encoded. Snapshots and new bases come to wait.
     bool isEncodingPending() const;
 
-    // The bytes of text that wait, the newest snapshot left out.
+    // The bytes of text that wait, the newest snapshot left out. What several have
+    // in common counts once, if it is held once.
     qsizetype pendingBytes() const;
 
     // Takes the encoding so many characters further, the oldest slot first, and
@@ -130,8 +133,12 @@ public:
 private:
     struct PlainSlot
     {
-        UndoRecord record;
-        bool isWaiting = false; // to be compressed
+        SharedText text;
+        QString tail;            // of the joined record
+        bool isWaiting = false;  // to be compressed
+        bool isCompared = false; // with the slot before, for what they share
+
+        QString record() const { return text.toString() + tail; }
     };
     using Slot = std::variant<QString, PlainSlot>; // a text is an encoded slot
 
@@ -142,9 +149,12 @@ private:
     void put(qint16 index, Slot slot);
     void putPlain(qint16 index, const UndoRecord &record);
 
+    qint16 slotOfAge(int age) const;
     std::optional<qint16> oldestWaiting() const;
+    std::optional<qint16> oldestNotCompared() const;
     bool isEncoding(qint16 index) const { return m_encoder && m_encodedSlot == index; }
     void encode(qint16 index, qsizetype characters);
+    void share(qint16 index);
     void keepWithinBound();
 
     QString indexFault() const;

@@ -65,7 +65,7 @@ QString UndoStore::slotFault(qint16 index) const
     if (isEncoding(index) && !waitingAt(index))
         return u"is being encoded and does not wait for it"_s;
     if (const auto *plain = std::get_if<PlainSlot>(&slot)) {
-        const bool isShort = undoRecordLength(plain->record) < shortestCompressedRecord;
+        const bool isShort = plain->text.size() + plain->tail.size() < shortestCompressedRecord;
         return plain->isWaiting && isShort ? u"waits to be encoded and is too short"_s : QString();
     }
     const QString &encoded = std::get<QString>(slot);

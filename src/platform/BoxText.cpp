@@ -23,6 +23,7 @@ BoxText::BoxText(QTextDocument &document)
     : m_document(document)
     , m_length(documentLength())
 {
+    document.documentLayout(); // a document without one announces no changes
     connect(&document, &QTextDocument::contentsChange, this, &BoxText::noteChange);
 }
 
@@ -128,6 +129,7 @@ void BoxText::noteChange(int from, int removed, int added)
 {
     // The announced lengths may count the document's last, invisible separator;
     // the shorter of the two unchanged ends is right.
+    ++m_changeCount;
     const int before = m_length;
     m_length = documentLength();
     const int suffix = std::max(0, std::min(before - from - removed, m_length - from - added));

@@ -36,6 +36,9 @@ public:
     QString range(qint32 start, qint32 length) const;
     QString read(int from, int to) const; // between two document positions
 
+    // Grows with each change of the document.
+    quint64 changeCount() const { return m_changeCount; }
+
     qint32 toBox(int documentPosition) const;
     int toDocument(qint32 position) const;
 
@@ -49,6 +52,7 @@ private:
     int documentLength() const;
 
     QTextDocument &m_document;
+    quint64 m_changeCount = 0;
     int m_length = 0; // of the document, after the last change
 
     mutable QString m_text;

@@ -1,6 +1,7 @@
 #include "platform/RichTextBox.h"
 
 #include "platform/BoxColours.h"
+#include "platform/BoxLayout.h"
 #include "platform/BoxMarks.h"
 #include "platform/BoxSink.h"
 #include "platform/BoxSource.h"
@@ -47,8 +48,12 @@ QTextCharFormat formatAt(const QTextCursor &cursor)
 
 RichTextBox::RichTextBox(QWidget *parent)
     : QPlainTextEdit(parent)
-    , m_parts(std::make_unique<Parts>(*this))
 {
+    auto *text = new QTextDocument(this);
+    text->setDefaultFont(font());
+    text->setDocumentLayout(new BoxLayout(*text, *viewport()));
+    setDocument(text);
+    m_parts = std::make_unique<Parts>(*this);
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
     m_parts->formats.setFont(font());
@@ -57,10 +62,26 @@ RichTextBox::RichTextBox(QWidget *parent)
 
 RichTextBox::~RichTextBox() = default;
 
+// The toolkit tells of edits that changed nothing, too.
 void RichTextBox::noteTextChange()
 {
+    const quint64 changes = m_parts->text.changeCount();
+    if (changes == m_parts->announcedChanges)
+        return;
+    m_parts->announcedChanges = changes;
     if (!m_parts->isQuiet)
         Q_EMIT Change();
+}
+
+// A cleared document forgets its formats, and is faster than one emptied.
+void RichTextBox::replaceAll(const std::function<void()> &insert)
+{
+    {
+        const QScopedValueRollback quiet(m_parts->isQuiet, true);
+        document()->clear();
+        insert();
+    }
+    Q_EMIT Change();
 }
 
 void RichTextBox::select(int anchor, int position)
@@ -78,10 +99,11 @@ QString RichTextBox::Text() const
 
 void RichTextBox::setText(const QString &text)
 {
-    document()->clear();
-    QTextCursor cursor(document());
-    BoxMarks::insert(cursor, text, {});
-    setSelStart(0);
+    replaceAll([&] {
+        QTextCursor cursor(document());
+        BoxMarks::insert(cursor, text, {});
+        setSelStart(0);
+    });
 }
 
 QString RichTextBox::TextRTF() const
@@ -93,8 +115,7 @@ QString RichTextBox::TextRTF() const
 
 void RichTextBox::setTextRTF(const QString &rtf)
 {
-    document()->clear();
-    setSelRTF(rtf);
+    replaceAll([&] { setSelRTF(rtf); });
 }
 
 qint32 RichTextBox::SelStart() const
@@ -201,8 +222,12 @@ void RichTextBox::setBackColor(qint32 colour)
 void RichTextBox::applyBackColor()
 {
     const qint32 colour = m_parts->backColor;
+    const bool hasOwn = colour != Colours::windowBackground;
+    if (!hasOwn && !m_parts->hasOwnPalette)
+        return;
+    m_parts->hasOwnPalette = hasOwn;
     QPalette own;
-    if (colour != Colours::windowBackground) {
+    if (hasOwn) {
         const QPalette around = paletteAround(*this);
         own.setColor(QPalette::Base, Colours::toColor(colour, around));
         own.setColor(QPalette::Text, Colours::textOn(colour, around));
@@ -333,9 +358,10 @@ QString RichTextBox::textRange(qint32 start, qint32 length) const
 
 void RichTextBox::setColoured(const ColouredText &text)
 {
-    document()->clear();
-    setSelColoured(text);
-    setSelStart(0);
+    replaceAll([&] {
+        setSelColoured(text);
+        setSelStart(0);
+    });
 }
 
 void RichTextBox::setSelColoured(const ColouredText &text)

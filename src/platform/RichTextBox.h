@@ -4,6 +4,7 @@
 
 #include <QtWidgets/QPlainTextEdit>
 
+#include <functional>
 #include <memory>
 
 namespace ORVTListview {
@@ -192,11 +193,14 @@ private:
     void select(int anchor, int position);
     void applyBackColor();
     void noteTextChange();
+    void replaceAll(const std::function<void()> &insert);
     bool announceKey(const QKeyEvent &event);
     bool runShortcut(const QKeyEvent &event);
     void act(QKeyEvent *event);
     void deleteBefore();
     void keepCaretWhole();
+    void compose(QInputMethodEvent *event);
+    void selectReplaced(const QInputMethodEvent &event);
     void startDrag(const QMouseEvent &event);
 
     std::unique_ptr<Parts> m_parts;

@@ -4,6 +4,7 @@
 #include "platform/RichTextBoxParts.h"
 
 #include <QtCore/QPointer>
+#include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
@@ -165,32 +166,40 @@ void RichTextBox::keepCaretWhole()
         select(anchor, position);
 }
 
+// The toolkit reports what is being composed as a change of the line.
+void RichTextBox::compose(QInputMethodEvent *event)
+{
+    const QScopedValueRollback quiet(m_parts->isQuiet, true);
+    QPlainTextEdit::inputMethodEvent(event);
+}
+
+void RichTextBox::selectReplaced(const QInputMethodEvent &event)
+{
+    const int start = textCursor().position() + event.replacementStart();
+    const int last = document()->characterCount() - 1;
+    select(qBound(0, start, last), qBound(0, start + event.replacementLength(), last));
+}
+
 void RichTextBox::inputMethodEvent(QInputMethodEvent *event)
 {
+    event->setAccepted(!isReadOnly());
+    if (isReadOnly())
+        return;
     const QPointer<RichTextBox> self(this);
     // The toolkit would remove what a composition takes the place of.
-    if (!isReadOnly() && !event->preeditString().isEmpty() && textCursor().hasSelection())
+    if (!event->preeditString().isEmpty() && textCursor().hasSelection())
         commands().remove();
-    if (!self)
-        return;
-    const bool commits = !event->commitString().isEmpty() || event->replacementLength() > 0;
-    if (isReadOnly() || !commits) {
-        QPlainTextEdit::inputMethodEvent(event);
-        return;
+    if (self && (!event->commitString().isEmpty() || event->replacementLength() > 0)) {
+        QInputMethodEvent endOfComposition;
+        compose(&endOfComposition);
+        if (event->replacementLength() > 0)
+            selectReplaced(*event);
+        commands().type(event->commitString());
     }
-    QInputMethodEvent endOfComposition;
-    QPlainTextEdit::inputMethodEvent(&endOfComposition);
-    if (event->replacementLength() > 0) {
-        const int start = textCursor().position() + event->replacementStart();
-        const int last = document()->characterCount() - 1;
-        select(qBound(0, start, last), qBound(0, start + event->replacementLength(), last));
-    }
-    commands().type(event->commitString());
     if (!self)
         return;
     QInputMethodEvent rest(event->preeditString(), event->attributes());
-    QPlainTextEdit::inputMethodEvent(&rest);
-    event->accept();
+    compose(&rest);
 }
 
 bool RichTextBox::canInsertFromMimeData(const QMimeData *source) const

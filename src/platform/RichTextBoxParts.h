@@ -24,7 +24,9 @@ struct RichTextBox::Parts
     BoxText text;
     BoxFormats formats;
     qint32 backColor = Colours::windowBackground;
-    bool isQuiet = false; // a change of formats only is under way
+    bool hasOwnPalette = false;   // set for backColor
+    bool isQuiet = false;         // Change is not raised
+    quint64 announcedChanges = 0; // of text.changeCount()
     std::unique_ptr<BoxCommands> commands;
     std::optional<QPoint> dragStart; // where the selection was taken hold of
 };

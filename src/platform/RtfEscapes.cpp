@@ -1,6 +1,5 @@
 #include "platform/RtfEscapes.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -16,8 +15,8 @@ bool isPlain(QChar c)
 
 void appendDigits(QString &out, qint64 number, int base)
 {
-    std::array<char, 24> digits;
-    const auto end = std::to_chars(digits.begin(), digits.end(), number, base).ptr;
+    std::array<char, 24> digits{};
+    const char *end = std::to_chars(digits.begin(), digits.end(), number, base).ptr;
     out += QLatin1StringView(digits.begin(), end);
 }
 
@@ -57,16 +56,23 @@ void appendRtfNumber(QString &out, qint64 number)
     appendDigits(out, number, 10);
 }
 
+// An empty group keeps blanks in a row apart: where they stand side by side,
+// LibreOffice takes them for layout and puts other characters there.
 void appendRtfText(QString &out, QStringView text)
 {
-    while (!text.isEmpty()) {
-        const auto end = std::find_if_not(text.cbegin(), text.cend(), isPlain);
-        const qsizetype length = end - text.cbegin();
-        out += text.first(length);
-        if (length < text.size())
-            appendEscaped(out, *end);
-        text = text.sliced(std::min(length + 1, text.size()));
+    qsizetype start = 0;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const bool isBehindBlank = at > 0 && text[at] == u' ' && text[at - 1] == u' ';
+        if (isPlain(text[at]) && !isBehindBlank)
+            continue;
+        out += text.sliced(start, at - start);
+        start = isBehindBlank ? at : at + 1;
+        if (isBehindBlank)
+            out += "{}"_L1;
+        else
+            appendEscaped(out, text[at]);
     }
+    out += text.sliced(start);
 }
 
 // A ";" of the name itself must not end the table's entry.

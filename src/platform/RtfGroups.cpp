@@ -11,7 +11,7 @@ void RtfGroups::start()
 {
     ++m_depth;
     if (m_depth <= maximumKept)
-        m_kept.push_back(RtfGroup(m_kept.back()));
+        m_kept.push_back(m_kept.back());
 }
 
 void RtfGroups::end()

@@ -163,7 +163,7 @@ void RtfInterpreter::endLine()
 bool RtfInterpreter::isShown() const
 {
     const quint32 flags = m_groups.current().characters.flags;
-    return isIn(RtfDestination::Document) && !(flags & (RtfHidden | RtfDeleted));
+    return isIn(RtfDestination::Document) && (flags & (RtfHidden | RtfDeleted)) == 0;
 }
 
 bool RtfInterpreter::isIn(RtfDestination destination) const

@@ -41,10 +41,10 @@ void RtfPieces::flush()
     m_format.halfPoints = m_characters.halfPoints;
     m_format.colour = m_characters.colour;
     m_format.backColour = m_characters.backColour;
-    m_format.bold = m_characters.flags & RtfBold;
-    m_format.italic = m_characters.flags & RtfItalic;
-    m_format.underline = m_characters.flags & RtfUnderline;
-    m_format.strike = m_characters.flags & RtfStrike;
+    m_format.bold = (m_characters.flags & RtfBold) != 0;
+    m_format.italic = (m_characters.flags & RtfItalic) != 0;
+    m_format.underline = (m_characters.flags & RtfUnderline) != 0;
+    m_format.strike = (m_characters.flags & RtfStrike) != 0;
     m_sink.text(text, m_format);
     m_stretch = {};
     if (!m_copy.isEmpty())

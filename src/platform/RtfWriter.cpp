@@ -41,7 +41,7 @@ QString RtfWriter::finish()
 {
     if (!m_isStarted)
         start(m_base);
-    showLastLineEnd();
+    keepLastLineEnds();
     QString document;
     document.reserve(m_body.size() + 256);
     writeFontTable(document);
@@ -52,14 +52,13 @@ QString RtfWriter::finish()
     return document;
 }
 
-// To most readers a \par with nothing behind it only closes the last paragraph,
-// and the empty line that it begins would be lost.
-void RtfWriter::showLastLineEnd()
+void RtfWriter::keepLastLineEnds()
 {
-    if (!m_body.endsWith(lineEndWord))
-        return;
-    m_body.chop(lineEndWord.size());
-    m_body += "\\line\r\n"_L1;
+    qsizetype count = 0;
+    for (; m_body.endsWith(lineEndWord); ++count)
+        m_body.chop(lineEndWord.size());
+    for (; count > 0; --count)
+        m_body += "\\line\r\n"_L1;
 }
 
 RtfWriter::Settings RtfWriter::settingsOf(const RtfFormat &format)

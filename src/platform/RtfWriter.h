@@ -13,6 +13,9 @@ namespace ORVTListview {
 // then the paragraph and character settings and the text, a line of the file for
 // each line of the text. It is the inverse of readRtf; NUL is dropped.
 //
+// A line end is \par, at the end of the document \line: other readers take a \par
+// there for the end of the last paragraph and lose an empty line.
+//
 // A document has at most 4,096 fonts and 4,095 colours; text in a further one
 // gets the default font or the automatic colour.
 class ORVT_CORE_EXPORT RtfWriter final : public RtfSink
@@ -25,7 +28,7 @@ public:
     void text(QStringView text, const RtfFormat &format) override;
     void lineEnd() override;
 
-    // The whole document. The writer is used up.
+    // The whole document, ending in CR LF. The writer is used up.
     QString finish();
 
 private:
@@ -49,7 +52,7 @@ private:
     void writeChanges(const Settings &settings);
     void writeWord(QLatin1StringView word, qint64 number);
     void writeFlag(QLatin1StringView word, bool before, bool now);
-    void showLastLineEnd();
+    void keepLastLineEnds();
     void writeFontTable(QString &document) const;
     void writeColourTable(QString &document) const;
 

@@ -90,13 +90,13 @@ private:
         }
     }
 
-    void readPoint(Section &section)
+    static void readPoint(Section &section)
     {
         section.point = section.tokens.size();
         section.tokens.append({Token::Kind::Point, u'.'});
     }
 
-    void readText(QChar c, Section &section)
+    static void readText(QChar c, Section &section)
     {
         section.percent = section.percent || c == u'%';
         addText(c, section);

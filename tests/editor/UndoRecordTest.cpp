@@ -35,14 +35,8 @@ TEST(UndoRecord, IsTextStartAndLengthBetweenSeparators)
     EXPECT_EQ(UndoRecordSeparator, separator);
     EXPECT_EQ(joinUndoRecord({u"A = 1\r\nB = 2"_s, 3, 12}),
               u"A = 1\r\nB = 2\r\n%%%%%%\r\n3\r\n%%%%%%\r\n12"_s);
+    EXPECT_EQ(undoRecordTail({u"A"_s, -7, 200}), u"\r\n%%%%%%\r\n-7\r\n%%%%%%\r\n200"_s);
     EXPECT_EQ(joinUndoRecord({QString(), 0, 0}), u"\r\n%%%%%%\r\n0\r\n%%%%%%\r\n0"_s);
-}
-
-TEST(UndoRecord, LengthIsThatOfTheJoinedText)
-{
-    for (const UndoRecord &record :
-         {UndoRecord{}, UndoRecord{u"A\r\n"_s, 10, 200}, UndoRecord{u"😀"_s, -1, 0}})
-        EXPECT_EQ(undoRecordLength(record), joinUndoRecord(record).size());
 }
 
 TEST(UndoRecord, ComesBackFromItsText)

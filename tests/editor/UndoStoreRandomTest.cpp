@@ -146,24 +146,42 @@ private:
 
     UndoRecord anyRecord() { return {anyText(), qint32(below(5000)), qint32(below(5000))}; }
 
-    // Short, long, and often within a few characters of the length that is
-    // compressed; now and then outside the code page or with a separator in it.
+    // Often the last text with a change in it, else a new one; now and then
+    // outside the code page or with a separator in it.
     QString anyText()
+    {
+        if (m_text.isEmpty() || below(3) == 0)
+            m_text = newText();
+        else
+            change(m_text);
+        if (!m_text.isEmpty() && below(16) == 0)
+            m_text[place() % m_text.size()] = u'Ω';
+        return below(20) == 0 ? m_text + UndoRecordSeparator.toString() : m_text;
+    }
+
+    void change(QString &text)
+    {
+        const qsizetype start = place();
+        const qsizetype removed = below(30);
+        text.replace(start, removed, QString::number(m_random()));
+    }
+
+    // Short, long, and often within a few characters of the length that is
+    // compressed.
+    QString newText()
     {
         const quint32 lengths[] = {below(100), 360 + below(40), 360 + below(40), below(2500)};
         const QString line = u"IF TEMP%1 > %2 THEN FAN = ON\r\n"_s.arg(below(99)).arg(m_random());
         const auto length = qsizetype(lengths[below(4)]);
-        QString text = line.repeated(length / line.size() + 1).first(length);
-        if (!text.isEmpty() && below(8) == 0)
-            text[qsizetype(below(quint32(text.size())))] = u'Ω';
-        if (below(20) == 0)
-            text += UndoRecordSeparator;
-        return text;
+        return line.repeated(length / line.size() + 1).first(length);
     }
+
+    qsizetype place() { return qsizetype(below(quint32(m_text.size()) + 1)); }
 
     std::mt19937 m_random;
     UndoStore m_ring;
     Tape m_tape;
+    QString m_text;
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "editor/UndoSlot.h"
 #include "shared/ThreadState.h"
+#include "support/MemoryLimit.h"
 #include "support/QtPrinters.h"
 #include "support/Raised.h"
 
@@ -59,6 +60,11 @@ void encodeAll(UndoStore &ring)
 {
     while (ring.encodePending()) {
     }
+}
+
+QString encodedSlot(const UndoRecord &record)
+{
+    return encodeUndoSlot(joinUndoRecord(record));
 }
 
 QString textAt(const UndoStore &ring, std::optional<qint16> index)
@@ -229,10 +235,10 @@ TEST(UndoStore, LongBaseIsEncodedLikeAnyRecord)
     UndoStore ring;
     const QString text(1000, u'x');
     ring.ResetUndoBase(text);
-    EXPECT_EQ(ring.UndoSlots(0), encodeUndoSlot({text, 0, 0}));
+    EXPECT_EQ(ring.UndoSlots(0), encodedSlot({text, 0, 0}));
     EXPECT_TRUE(ring.UndoSlots(0).startsWith(u'*'));
     encodeAll(ring);
-    EXPECT_EQ(ring.UndoSlots(0), encodeUndoSlot({text, 0, 0}));
+    EXPECT_EQ(ring.UndoSlots(0), encodedSlot({text, 0, 0}));
 }
 
 TEST(UndoStore, ClearingBeginsAnew)
@@ -258,14 +264,14 @@ TEST(UndoStore, ClearingBeginsAnew)
 TEST(UndoStore, MarkersFollowTheLength)
 {
     UndoStore ring;
-    const qsizetype besides = undoRecordLength(longRecord(0));
+    const qsizetype besides = joinUndoRecord(longRecord(0)).size();
     ring.StoreUndoSnapshot(longRecord(399 - besides));
     ring.StoreUndoSnapshot(longRecord(400 - besides));
     ring.StoreUndoSnapshot(longRecord(400 - besides, u'Ω'));
     for (int round = 0; round < 2; ++round) {
-        EXPECT_EQ(ring.UndoSlots(1), encodeUndoSlot(longRecord(399 - besides)));
+        EXPECT_EQ(ring.UndoSlots(1), encodedSlot(longRecord(399 - besides)));
         EXPECT_TRUE(ring.UndoSlots(1).startsWith(u'%'));
-        EXPECT_EQ(ring.UndoSlots(2), encodeUndoSlot(longRecord(400 - besides)));
+        EXPECT_EQ(ring.UndoSlots(2), encodedSlot(longRecord(400 - besides)));
         EXPECT_TRUE(ring.UndoSlots(2).startsWith(u"*400:"_s));
         EXPECT_TRUE(ring.UndoSlots(3).startsWith(u'%'));
         EXPECT_EQ(ring.FetchUndoSnapshot(3), joinUndoRecord(longRecord(400 - besides, u'Ω')));
@@ -384,7 +390,7 @@ TEST(UndoStoreEncoding, GoesInSlicesTheOldestSlotFirst)
     EXPECT_EQ(ring.pendingBytes(), 0);
     EXPECT_FALSE(ring.encodePending(1000));
     for (qint16 index = 1; index <= 3; ++index)
-        EXPECT_EQ(ring.UndoSlots(index), encodeUndoSlot(longRecord(1000, QChar(u'`' + index))));
+        EXPECT_EQ(ring.UndoSlots(index), encodedSlot(longRecord(1000, QChar(u'`' + index))));
 }
 
 TEST(UndoStoreEncoding, OldestIsCountedAroundTheRing)
@@ -409,7 +415,7 @@ TEST(UndoStoreEncoding, SlotThatIsOverwrittenMeanwhileIsStartedAgain)
     ring.ResetUndoBase(QString(1000, u'b'));
     EXPECT_TRUE(ring.encodePending(500));
     EXPECT_FALSE(ring.encodePending(500));
-    EXPECT_EQ(ring.UndoSlots(0), encodeUndoSlot({QString(1000, u'b'), 0, 0}));
+    EXPECT_EQ(ring.UndoSlots(0), encodedSlot({QString(1000, u'b'), 0, 0}));
 
     ring.ResetUndoBase(QString(1000, u'c'));
     ring.encodePending(500);
@@ -419,13 +425,26 @@ TEST(UndoStoreEncoding, SlotThatIsOverwrittenMeanwhileIsStartedAgain)
     EXPECT_TRUE(ring.isSound());
 }
 
+TEST(UndoStoreEncoding, SlotThatIsBegunIsFinishedFirst)
+{
+    UndoStore ring;
+    ring.StoreUndoSnapshot(longRecord(1000));
+    ring.encodePending(700);
+    ring.ResetUndoBase(QString(2000, u'b'));
+    EXPECT_EQ(ring.pendingBytes(), 4000);
+    EXPECT_TRUE(ring.encodePending(300)); // the rest of slot 1
+    EXPECT_TRUE(ring.encodePending(1999));
+    EXPECT_FALSE(ring.encodePending(1));
+    EXPECT_EQ(ring.UndoSlots(1), encodedSlot(longRecord(1000)));
+}
+
 TEST(UndoStoreEncoding, LookingAtASlotDoesNotDisturbIt)
 {
     UndoStore ring;
     ring.StoreUndoSnapshot(longRecord(1000));
     ring.encodePending(500);
     EXPECT_EQ(ring.FetchUndoSnapshot(1), joinUndoRecord(longRecord(1000)));
-    EXPECT_EQ(ring.UndoSlots(1), encodeUndoSlot(longRecord(1000)));
+    EXPECT_EQ(ring.UndoSlots(1), encodedSlot(longRecord(1000)));
     EXPECT_FALSE(ring.encodePending(500));
     EXPECT_EQ(ring.FetchUndoSnapshot(1), joinUndoRecord(longRecord(1000)));
 }
@@ -443,20 +462,18 @@ TEST(UndoStoreEncoding, RecordOutsideTheCodePageStopsWaitingAndStays)
     EXPECT_TRUE(ring.isSound());
 }
 
-TEST(UndoStoreEncoding, BoundIsKeptByEncodingTheOldest)
+TEST(UndoStoreBound, IsKeptByEncodingTheOldest)
 {
     UndoStore ring(10000);
-    for (int step = 0; step < 5; ++step)
-        ring.StoreUndoSnapshot(longRecord(2000));
+    for (int step = 0; step < 6; ++step)
+        ring.StoreUndoSnapshot(longRecord(2000, QChar(u'a' + char16_t(step))));
     EXPECT_EQ(ring.pendingBytes(), 8000);
-    ring.StoreUndoSnapshot(longRecord(2000));
-    EXPECT_EQ(ring.pendingBytes(), 8000);
-    ring.StoreUndoSnapshot(longRecord(2000));
+    ring.StoreUndoSnapshot(longRecord(2000, u'g'));
     EXPECT_EQ(ring.pendingBytes(), 8000);
     EXPECT_TRUE(ring.isSound());
 }
 
-TEST(UndoStoreEncoding, NewestIsNeverEncodedBeforeItsTime)
+TEST(UndoStoreBound, NewestIsNeverEncodedBeforeItsTime)
 {
     UndoStore ring(0);
     const UndoRecord record = longRecord(1'000'000);
@@ -471,6 +488,77 @@ TEST(UndoStoreEncoding, NewestIsNeverEncodedBeforeItsTime)
     EXPECT_EQ(ring.pendingBytes(), 0);
     EXPECT_TRUE(ring.isSound());
 }
+
+TEST(UndoStoreBound, StatesOfOneTextAllWaitWithinAFewTimesItsSize)
+{
+    constexpr qsizetype textBytes = 200'000;
+    UndoStore ring(5 * textBytes);
+    UndoRecord record = longRecord(textBytes / 2);
+    for (int step = 0; step < 300; ++step) {
+        record.text.insert((step * 7919) % record.text.size(), u"Temp"_s);
+        ring.StoreUndoSnapshot(record);
+        ASSERT_TRUE(ring.isSound());
+    }
+    int encoded = 1;
+    while (ring.encodePending(textBytes))
+        ++encoded;
+    EXPECT_EQ(encoded, UndoStore::slotCount);
+}
+
+TEST(UndoStoreBound, StatesOfOneTextComeBackEach)
+{
+    UndoStore ring(50'000);
+    UndoRecord record = longRecord(10'000);
+    QList<UndoRecord> stored;
+    for (int step = 0; step < 49; ++step) {
+        record.text.insert((step * 7919) % record.text.size(), QString::number(step));
+        ring.StoreUndoSnapshot(record);
+        stored.append(record);
+    }
+    EXPECT_LT(ring.pendingBytes(), 50'000);
+    for (int round = 0; round < 2; ++round) {
+        for (qint16 index = 1; index <= 49; ++index) {
+            ASSERT_EQ(ring.FetchUndoSnapshot(index), joinUndoRecord(stored[index - 1]));
+            ASSERT_EQ(ring.UndoSlots(index), encodedSlot(stored[index - 1]));
+            ASSERT_TRUE(ring.holdsText(index, stored[index - 1].text));
+            ASSERT_FALSE(ring.holdsText(index, stored[index % 49].text));
+        }
+        encodeAll(ring);
+    }
+}
+
+TEST(UndoStoreBound, StatesOutsideTheCodePageShareWhatTheyHaveInCommon)
+{
+    UndoStore ring;
+    UndoRecord first = longRecord(100'000, u'Ω');
+    UndoRecord second = first;
+    second.text[50'000] = u'x';
+    const auto *memory = second.text.constData();
+    ring.StoreUndoSnapshot(first);
+    ring.StoreUndoSnapshot(second);
+    encodeAll(ring);
+    EXPECT_FALSE(first.text.isDetached());
+    EXPECT_TRUE(second.text.isDetached()); // only its own part is kept
+    EXPECT_EQ(second.text.constData(), memory);
+    EXPECT_EQ(ring.FetchUndoSnapshot(2), joinUndoRecord(second));
+}
+
+#ifdef ORVT_HAS_MEMORY_LIMIT
+
+TEST(UndoStoreEncodingDeathTest, SlotStaysPlainWhenMemoryRunsOut)
+{
+    const auto encodeWithLittleMemory = [] {
+        UndoStore ring;
+        const UndoRecord record = longRecord(20'000'000);
+        ring.StoreUndoSnapshot(record);
+        limitMemory(8'000'000);
+        const bool isPending = ring.encodePending();
+        std::exit(!isPending && ring.isSound() && ring.holdsText(1, record.text) ? 0 : 1);
+    };
+    EXPECT_EXIT(encodeWithLittleMemory(), testing::ExitedWithCode(0), "");
+}
+
+#endif
 
 TEST(UndoStoreDamage, RaisesTheErrorOfItsKind)
 {
@@ -537,6 +625,6 @@ TEST(UndoStoreSoundness, SeesASlotThatIsNone)
         ring.setUndoSlot(2, slot);
         EXPECT_EQ(ring.unsoundness(), u"Slot 2 is not well compressed"_s) << slot.toStdString();
     }
-    ring.setUndoSlot(2, encodeUndoSlot(longRecord(1000)));
+    ring.setUndoSlot(2, encodedSlot(longRecord(1000)));
     EXPECT_TRUE(ring.isSound());
 }

@@ -1,9 +1,8 @@
 #include "platform/BoxModel.h"
 #include "platform/RichTextBox.h"
+#include "support/WidgetTest.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
 
 #include <algorithm>
 #include <array>
@@ -23,13 +22,11 @@ QChar upper(QChar character)
 } // namespace
 
 // Thousands of random operations, each followed by a comparison with the model.
-class RichTextBoxRandomTest : public QObject
+class RichTextBoxRandomTest : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
-
     void behavesLikeTheModel_data();
     void behavesLikeTheModel();
 

@@ -1,22 +1,19 @@
 #include "platform/RichTextBox.h"
 #include "platform/ColouredText.h"
+#include "support/WidgetTest.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtGui/QTextBlock>
 #include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
 #include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-class RichTextBoxTest : public QObject
+class RichTextBoxTest : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
-
     void textComesOutAsItWentIn_data();
     void textComesOutAsItWentIn();
     void lineEndsComeOutAsCrLf_data();

@@ -46,9 +46,14 @@ TEST(RtfCodePages, leavesAFontWithoutCharacterSetToTheDocument)
     EXPECT_EQ(plainText(u"{\\rtf1\\ansicpg1251{\\fonttbl{\\f0\\fcharset0 A;}}\\'e0}"), u"\u00e0"_s);
 }
 
-TEST(RtfCodePages, givesTheReplacementCharacterForBytesWithoutOne)
+TEST(RtfCodePages, takesAnUndefinedByteForAControlCharacterOrNone)
 {
-    EXPECT_EQ(plainText(u"{\\rtf1\\ansi a\\'81b}"), u"a\ufffdb"_s);
+    EXPECT_EQ(plainText(u"{\\rtf1\\ansi a\\'81b\\'9d}"), u"a\u0081b\u009d"_s);
+    EXPECT_EQ(plainText(u"{\\rtf1\\ansi\\ansicpg1253 \\'98\\'aa}"), u"\u0098\ufffd"_s);
+}
+
+TEST(RtfCodePages, givesTheReplacementCharacterInAPageThatItDoesNotKnow)
+{
     EXPECT_EQ(plainText(u"{\\rtf1\\ansi\\ansicpg12345 a\\'41\\'e4\\'ffb}"), u"aA\ufffd\ufffdb"_s);
 }
 

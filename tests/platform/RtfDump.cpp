@@ -75,6 +75,27 @@ void RtfDump::lineEnd()
     m_lines += u"line end\n";
 }
 
+void RtfMerger::text(QStringView text, const RtfFormat &format)
+{
+    if (format != m_format)
+        flush();
+    m_text += text;
+    m_format = format;
+}
+
+void RtfMerger::lineEnd()
+{
+    flush();
+    m_sink.lineEnd();
+}
+
+void RtfMerger::flush()
+{
+    if (!m_text.isEmpty())
+        m_sink.text(m_text, m_format);
+    m_text.clear();
+}
+
 QString plainText(QStringView rtf)
 {
     PlainText text;

@@ -21,6 +21,25 @@ private:
     QString m_lines;
 };
 
+// Hands pieces on to a sink, those in a row of one format as one.
+class RtfMerger final : public RtfSink
+{
+public:
+    explicit RtfMerger(RtfSink &sink)
+        : m_sink(sink)
+    {
+    }
+
+    void text(QStringView text, const RtfFormat &format) override;
+    void lineEnd() override;
+    void flush(); // needed at the end
+
+private:
+    RtfSink &m_sink;
+    QString m_text;
+    RtfFormat m_format;
+};
+
 // The text of a document, lines separated by CR LF.
 QString plainText(QStringView rtf);
 

@@ -1,23 +1,20 @@
 #include "platform/ColouredText.h"
 #include "platform/RichTextBox.h"
+#include "support/WidgetTest.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtGui/QTextDocument>
 #include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
 
 #include <random>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-class RtfInBoxTest : public QObject
+class RtfInBoxTest : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
-
     void theSampleHasItsSettingsOnTheSecondLine();
     void coloursAndTextComeThrough();
     void aLineEndBeforeTheEndIsKept();

@@ -28,9 +28,9 @@ TEST(RtfReaderLimits, countsGroupsOfAnyDepth)
 
 TEST(RtfReaderLimits, keepsSettingsOfTheOuterGroups)
 {
-    const QString rtf = u"{\\rtf1 a%1\\b b%2c}"_s.arg(repeated(u"{", keptGroups - 1),
-                                                      repeated(u"}", keptGroups - 1));
-    EXPECT_EQ(dump(rtf), u"\"a\"\n\"b\"  bold\n\"c\"\n"_s);
+    const QString rtf = u"{\\rtf1 a%1{\\b b}c%2d}"_s.arg(repeated(u"{", keptGroups - 2),
+                                                         repeated(u"}", keptGroups - 2));
+    EXPECT_EQ(dump(rtf), u"\"a\"\n\"b\"  bold\n\"cd\"\n"_s);
 }
 
 TEST(RtfReaderLimits, sharesSettingsBeyondThem)

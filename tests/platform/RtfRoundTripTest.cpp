@@ -28,29 +28,17 @@ RtfFormat filled(RtfFormat format, const RtfFormat &base)
     return format;
 }
 
-// Runs of one format in a row are one piece.
 QString dumpOf(const QList<RtfPiece> &pieces, const RtfFormat &base)
 {
     RtfDump dump;
-    QString text;
-    RtfFormat format;
-    const auto flush = [&] {
-        if (!text.isEmpty())
-            dump.text(text, format);
-        text.clear();
-    };
+    RtfMerger merger(dump);
     for (const RtfPiece &piece : pieces) {
-        const RtfFormat next = filled(piece.format, base);
-        if (piece.isLineEnd || next != format)
-            flush();
-        if (piece.isLineEnd) {
-            dump.lineEnd();
-        } else {
-            text += piece.text;
-            format = next;
-        }
+        if (piece.isLineEnd)
+            merger.lineEnd();
+        else
+            merger.text(piece.text, filled(piece.format, base));
     }
-    flush();
+    merger.flush();
     return dump.lines();
 }
 

@@ -1,19 +1,16 @@
 #include "platform/VirtualKeys.h"
+#include "support/WidgetTest.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtGui/QKeyEvent>
-#include <QtTest/QTest>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-class VirtualKeysTest : public QObject
+class VirtualKeysTest : public WidgetTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
-
     void eachKeyHasItsNumber_data();
     void eachKeyHasItsNumber();
     void lettersAndDigitsAreTheirOwnCode();

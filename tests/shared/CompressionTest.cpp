@@ -1,20 +1,13 @@
 #include "shared/Compression.h"
 
 #include "platform/Windows1252.h"
+#include "support/MemoryLimit.h"
 #include "support/QtPrinters.h"
 #include "support/Raised.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
-
-#ifdef Q_OS_LINUX
-#include <sys/resource.h>
-#include <unistd.h>
-
-#include <cstdlib>
-#include <fstream>
-#endif
 
 using namespace ORVTListview;
 using namespace ORVTListview::ModZlib;
@@ -299,21 +292,14 @@ TEST(Compression, AnythingAtAllIsATextOrAnError)
     }
 }
 
-// The sanitizers' own tables do not fit under a limit on the address space.
-#if defined(Q_OS_LINUX) && !defined(__SANITIZE_ADDRESS__)
+#ifdef ORVT_HAS_MEMORY_LIMIT
 
 namespace {
 
 // Ends the process: 0 when the number is that, with this much memory left.
 [[noreturn]] void uncompressWithin(rlim_t bytes, const QString &text, qint32 expected)
 {
-    std::ifstream sizes("/proc/self/statm");
-    rlim_t pages = 0;
-    sizes >> pages;
-    const rlim_t most = pages * rlim_t(sysconf(_SC_PAGESIZE)) + bytes;
-    const rlimit limit{most, most};
-    if (setrlimit(RLIMIT_AS, &limit) != 0)
-        std::exit(2);
+    limitMemory(bytes);
     std::exit(uncompressNumber(text) == expected ? 0 : 1);
 }
 

@@ -26,7 +26,7 @@ protected:
         ORVTListview::threadPart<ORVTListview::Messages>().install(&m_messages);
     }
 
-private Q_SLOTS:
+protected Q_SLOTS:
     virtual void init()
     {
         // The off-screen platform has nobody to tell size hints to, and says so.

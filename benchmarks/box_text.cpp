@@ -1,0 +1,80 @@
+// Asking the box for its whole text: the second time beside the first, and after
+// a key beside reading all of it.
+
+#include "code_editor.h"
+#include "program.h"
+#include "report.h"
+
+#include "platform/ColouredText.h"
+
+#include <QtWidgets/QApplication>
+
+using namespace ORVTListview;
+using namespace ORVTListview::bench;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void typeInTheMiddle(RichTextBox &box)
+{
+    box.setSelStart(box.TextLength() / 2);
+    box.setSelText(u"x"_s);
+}
+
+void checkWork()
+{
+    RichTextBox box;
+    QString expected = makeProgram(usualProgram).shown;
+    box.setText(expected);
+    checkEqual(u"the text is the program"_s, box.Text(), expected);
+    checkEqual(u"and is again"_s, box.Text(), expected);
+    typeInTheMiddle(box);
+    expected.insert(box.SelStart() - 1, u'x');
+    checkEqual(u"after a key it has the key"_s, box.Text(), expected);
+}
+
+// The box forgets what it knows of its text when the whole of it is set.
+double askFor(int times, RichTextBox &box, const QString &text)
+{
+    box.setText(text);
+    return timed([&] {
+        for (int i = 0; i < times; ++i)
+            keep(box.Text());
+    });
+}
+
+double askAfterKey(RichTextBox &box)
+{
+    keep(box.Text());
+    typeInTheMiddle(box);
+    return timed([&] { keep(box.Text()); });
+}
+
+void measure()
+{
+    const QString usual = makeProgram(usualProgram).shown;
+    RichTextBox box;
+    const Sides twice = sideBySide(
+        15, [&] { return askFor(2, box, usual); }, [&] { return askFor(1, box, usual); });
+    printRow({.name = u"Text of 1 MB, asked for twice"_s,
+              .ours = medianOf(u"twice"_s, twice.ours),
+              .peers = medianOf(u"once"_s, twice.peers),
+              .bound = 1.5});
+
+    const QString large = makeProgram(largeProgram).shown;
+    RichTextBox kept;
+    kept.setText(large);
+    const Sides afterKey = sideBySide(
+        7, [&] { return askAfterKey(kept); }, [&] { return askFor(1, box, large); });
+    printRow({.name = u"Text of 10 MB after one key"_s,
+              .ours = medianOf(u"after one key"_s, afterKey.ours),
+              .peers = medianOf(u"for the first time"_s, afterKey.peers)});
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    return runBenchmark(argc, argv, checkWork, measure);
+}

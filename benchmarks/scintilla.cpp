@@ -1,0 +1,144 @@
+#include "scintilla.h"
+
+#include "points.h"
+
+#include "editor/ColourTable.h"
+#include "editor/WordClass.h"
+#include "platform/Colours.h"
+
+#include <Qsci/qscilexer.h>
+#include <Qsci/qsciscintilla.h>
+
+#include <map>
+
+namespace ORVTListview::bench {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The lexer's numbers of what it tells apart (SCE_B_…).
+enum Style : int {
+    CommentStyle = 1,
+    ReservedWordStyle = 3,
+    InputStyle = 10, // second to fourth list of words
+    OutputStyle = 11,
+    OtherNameStyle = 12,
+};
+
+class BasicLexer final : public QsciLexer
+{
+public:
+    explicit BasicLexer(QObject *parent)
+        : QsciLexer(parent)
+    {
+        m_words[1] = joined(wordsOf(ReservedWordColour));
+        m_words[2] = joined(wordsOf(InputColour));
+        m_words[3] = joined(wordsOf(OutputColour));
+        m_words[4] = joined(wordsOf(VariableColour) + wordsOf(ConstantColour) + wordsOf(NviColour));
+    }
+
+    const char *language() const override { return "Controller program"; }
+    const char *lexer() const override { return "vb"; }
+    bool caseSensitive() const override { return false; }
+    QString description(int style) const override
+    {
+        return style < 16 ? QString::number(style) : QString();
+    }
+    const char *keywords(int set) const override
+    {
+        const auto found = m_words.find(set);
+        return found == m_words.end() ? nullptr : found->second.constData();
+    }
+    QColor defaultColor(int style) const override
+    {
+        const RichTextSettings colours = defaultColours();
+        switch (style) {
+        case CommentStyle:
+            return Colours::toColor(colours.CommentColor, {});
+        case ReservedWordStyle:
+            return Colours::toColor(colours.ReservedWordColor, {});
+        case InputStyle:
+            return Colours::toColor(colours.InputColor, {});
+        case OutputStyle:
+            return Colours::toColor(colours.OutputColor, {});
+        case OtherNameStyle:
+            return Colours::toColor(colours.VariableColor, {});
+        default:
+            return Qt::black;
+        }
+    }
+
+private:
+    static QByteArray joined(const QStringList &words)
+    {
+        return words.join(u' ').toLower().toLatin1();
+    }
+
+    std::map<int, QByteArray> m_words;
+};
+
+int styleAt(const QsciScintilla &editor, qsizetype position)
+{
+    return static_cast<int>(
+        editor.SendScintilla(QsciScintilla::SCI_GETSTYLEAT, static_cast<unsigned long>(position)));
+}
+
+} // namespace
+
+struct Scintilla::Private
+{
+    QsciScintilla editor;
+    BasicLexer lexer{&editor};
+};
+
+Scintilla::Scintilla(const QString &text)
+    : d(std::make_unique<Private>())
+{
+    d->editor.setEolMode(QsciScintilla::EolWindows);
+    d->editor.setLexer(&d->lexer);
+    d->editor.setText(text);
+}
+
+Scintilla::~Scintilla() = default;
+
+QAbstractScrollArea &Scintilla::widget() const
+{
+    return d->editor;
+}
+
+QString Scintilla::text() const
+{
+    return d->editor.text();
+}
+
+void Scintilla::putCaret(qsizetype position) const
+{
+    d->editor.SendScintilla(QsciScintilla::SCI_GOTOPOS, static_cast<unsigned long>(position));
+}
+
+void Scintilla::restyle() const
+{
+    d->editor.SendScintilla(QsciScintilla::SCI_CLEARDOCUMENTSTYLE);
+    d->editor.SendScintilla(QsciScintilla::SCI_COLOURISE, 0UL, -1L);
+}
+
+Scintilla::StyledWords Scintilla::styledWords() const
+{
+    StyledWords words;
+    const QByteArray text = d->editor.text().toLatin1();
+    int before = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isLineEnd = text[i] == '\r' || text[i] == '\n';
+        const int style = isLineEnd ? 0 : styleAt(d->editor, i);
+        if (style != before) {
+            words.comments += style == CommentStyle;
+            words.reservedWords += style == ReservedWordStyle;
+            words.names += style >= InputStyle && style <= OtherNameStyle;
+        }
+        before = style;
+    }
+    return words;
+}
+
+} // namespace ORVTListview::bench

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QtWidgets/QPlainTextEdit>
+
+#include <memory>
+#include <set>
+
+namespace ORVTListview {
+
+// The layout of a box's lines, none of which wraps. The toolkit's own looks at
+// every line of the document when the longest one gets shorter, and repaints
+// everything for a change of format near a line's end; this one touches the
+// changed lines only.
+class BoxLayout final : public QPlainTextDocumentLayout
+{
+    Q_OBJECT
+
+public:
+    // The lines are aligned in the width of the viewport.
+    BoxLayout(QTextDocument &document, const QWidget &viewport);
+
+    QSizeF documentSize() const override;
+    QRectF frameBoundingRect(QTextFrame *frame) const override;
+    QRectF blockBoundingRect(const QTextBlock &block) const override;
+
+protected:
+    void documentChanged(int from, int charsRemoved, int charsAdded) override;
+
+private:
+    using Widths = std::multiset<qreal>;
+    class LineWidth;
+
+    void ensureLines(QTextBlock block) const;
+    qreal makeLines(QTextBlock &block) const;
+    bool changeLine(QTextBlock block) const;
+    bool changeLines(const QTextBlock &first, const QTextBlock &last) const;
+    void clearLines(const QTextBlock &first, const QTextBlock &last) const;
+    void announceSize() const;
+
+    const QWidget &m_viewport;
+    int m_lineCount = 1;
+    std::shared_ptr<Widths> m_widths; // of the lines laid out so far
+    mutable QSizeF m_announcedSize;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <algorithm>
+
+namespace ORVTListview {
+
+inline bool isLayoutCharacter(QChar character)
+{
+    const char16_t code = character.unicode();
+    return code < 0x20 || code == QChar::LineSeparator || code == QChar::ParagraphSeparator;
+}
+
+// What a cell shows of its text: one line, with a blank for each tab and line end.
+inline QString shownText(const QString &text)
+{
+    if (std::none_of(text.cbegin(), text.cend(), isLayoutCharacter))
+        return text;
+    QString shown = text;
+    shown.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    std::replace_if(shown.begin(), shown.end(), isLayoutCharacter, QChar(u' '));
+    return shown;
+}
+
+} // namespace ORVTListview

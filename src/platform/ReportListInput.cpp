@@ -1,0 +1,355 @@
+// What the user does to a list. Between a signal and what comes after it stands a
+// look whether the list still exists.
+
+#include "platform/EventGuard.h"
+#include "platform/InputEvents.h"
+#include "platform/PlainToolTip.h"
+#include "platform/ReportListParts.h"
+#include "platform/RowCopy.h"
+#include "platform/Twips.h"
+#include "platform/VirtualKeys.h"
+
+#include <QtCore/QMimeData>
+#include <QtCore/QPointer>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QHeaderView>
+
+#include <memory>
+#include <utility>
+
+namespace ORVTListview {
+
+bool ReportList::event(QEvent *event)
+{
+    return EventGuard::run([this, event] {
+        const QEvent::Type type = event->type();
+        const QPointer<ReportList> self(this);
+        const bool handled = QTableView::event(event);
+        if (!self)
+            return handled;
+        if (type == QEvent::FontChange || type == QEvent::StyleChange)
+            updateRowHeight();
+        else if (type == QEvent::Show)
+            d->rowChoice.viewShown();
+        return handled;
+    });
+}
+
+bool ReportList::viewportEvent(QEvent *event)
+{
+    return EventGuard::run([this, event] {
+        const QPointer<ReportList> self(this);
+        if (d && d->drag.handle(*event)) {
+            if (self)
+                followDrag(*event);
+            return true;
+        }
+        if (event->type() != QEvent::ToolTip)
+            return QTableView::viewportEvent(event);
+        showToolTip(*static_cast<QHelpEvent *>(event));
+        return true;
+    });
+}
+
+// Scrolls while a drag stays near an edge.
+void ReportList::followDrag(const QEvent &event)
+{
+    if (event.type() == QEvent::DragLeave || event.type() == QEvent::Drop) {
+        stopAutoScroll();
+    } else if (event.type() == QEvent::DragMove && hasAutoScroll()) {
+        const QPoint position = static_cast<const QDropEvent &>(event).position().toPoint();
+        const int margin = autoScrollMargin();
+        const QRect inner = viewport()->rect().adjusted(margin, margin, -margin, -margin);
+        if (!inner.contains(position))
+            startAutoScroll();
+    }
+}
+
+void ReportList::showToolTip(const QHelpEvent &event)
+{
+    const QModelIndex index = indexAt(event.pos());
+    QString text;
+    if (index.isValid()) {
+        QStyleOptionViewItem option;
+        initViewItemOption(&option);
+        option.rect = visualRect(index);
+        if (d->delegate.isElided(option, index))
+            text = index.data().toString();
+    }
+    showPlainToolTip(event, text, *viewport());
+}
+
+void ReportList::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    d->widths.viewportResized();
+}
+
+void ReportList::scrollContentsBy(int dx, int dy)
+{
+    d->slowClick.stop();
+    QTableView::scrollContentsBy(dx, dy);
+}
+
+void ReportList::focusInEvent(QFocusEvent *event)
+{
+    d->focusedByMouse = event->reason() == Qt::MouseFocusReason;
+    QTableView::focusInEvent(event);
+}
+
+void ReportList::focusOutEvent(QFocusEvent *event)
+{
+    d->slowClick.stop();
+    QTableView::focusOutEvent(event);
+}
+
+QModelIndex ReportList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (action != MoveHome && action != MoveEnd)
+        return QTableView::moveCursor(action, modifiers);
+    const int column = std::max(0, currentIndex().column());
+    const int step = action == MoveHome ? 1 : -1;
+    int position = action == MoveHome ? 0 : d->model.rows() - 1;
+    while (position >= 0 && position < d->model.rows() && isRowHidden(position))
+        position += step;
+    return d->model.index(position, column);
+}
+
+// Keys.
+
+bool ReportList::raiseKey(KeySignal signal, const QKeyEvent &event)
+{
+    VirtualKey key = virtualKey(event);
+    if (key.keyCode == 0)
+        return true;
+    const QPointer<ReportList> self(this);
+    Q_EMIT(this->*signal)(key.keyCode, key.shift);
+    return self && key.keyCode != 0;
+}
+
+bool ReportList::raiseKeyPress(const QKeyEvent &event, QString &typed)
+{
+    constexpr char16_t deleteCharacter = 0x7f; // some platforms' text of the Delete key
+    typed = event.text();
+    if (typed.size() != 1 || typed.front() == deleteCharacter)
+        return true;
+    auto code = static_cast<qint16>(typed.front().unicode());
+    const QPointer<ReportList> self(this);
+    Q_EMIT KeyPress(code);
+    typed = QChar(static_cast<char16_t>(code));
+    return self && code != 0;
+}
+
+void ReportList::keyPressEvent(QKeyEvent *event)
+{
+    d->slowClick.stop();
+    if (state() == EditingState) { // what the editor has no use for
+        QTableView::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    QString typed;
+    if (!raiseKey(&ReportList::KeyDown, *event) || !raiseKeyPress(*event, typed))
+        return;
+    if (typed == event->text()) {
+        act(*event);
+        return;
+    }
+    QKeyEvent replaced(QEvent::KeyPress, typed.front().toUpper().unicode(), event->modifiers(),
+                       typed, event->isAutoRepeat(), static_cast<quint16>(event->count()));
+    act(replaced);
+    event->setAccepted(replaced.isAccepted());
+}
+
+void ReportList::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->isAutoRepeat() || raiseKey(&ReportList::KeyUp, *event))
+        QTableView::keyReleaseEvent(event);
+}
+
+void ReportList::act(QKeyEvent &event)
+{
+    if (event.matches(QKeySequence::Copy) && !d->copies)
+        event.ignore();
+    else if (!runCommand(event))
+        pick([this, &event] { QTableView::keyPressEvent(&event); });
+}
+
+bool ReportList::runCommand(const QKeyEvent &event)
+{
+    const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == 0;
+    if (event.matches(QKeySequence::Copy))
+        copySelection();
+    else if (plain && event.key() == Qt::Key_F2 && d->editsLabels)
+        StartLabelEdit();
+    else if (plain && event.key() == Qt::Key_Space && d->model.hasCheckBoxes())
+        toggleCurrent();
+    else
+        return false;
+    return true;
+}
+
+// Tells which row the user has come to.
+void ReportList::pick(const std::function<void()> &act)
+{
+    const ReportRow *before = d->rowChoice.selected();
+    act();
+    ReportRow *after = d->rowChoice.selected();
+    if (after && after != before)
+        Q_EMIT ItemClick(d->handles.of(*after));
+}
+
+void ReportList::copySelection() const
+{
+    auto rows = std::make_unique<QMimeData>();
+    copyRows(*this, d->rowChoice.selectedPositions(), *rows);
+    if (rows->hasText())
+        QGuiApplication::clipboard()->setMimeData(rows.release());
+}
+
+void ReportList::toggleCurrent()
+{
+    const QModelIndex current = currentIndex();
+    if (!current.isValid())
+        return;
+    ReportRow &row = d->model.row(current.row());
+    d->model.setChecked(row, !row.content.checked);
+    Q_EMIT ItemCheck(d->handles.of(row));
+}
+
+// Mouse.
+
+bool ReportList::raiseMouse(MouseSignal signal, Qt::MouseButtons buttons, const QMouseEvent &event)
+{
+    const QPointF position = viewport()->mapTo(this, event.position());
+    const QPointer<ReportList> self(this);
+    Q_EMIT(this->*signal)
+    (InputEvents::buttons(buttons), InputEvents::shift(event.modifiers()),
+     static_cast<float>(Twips::fromPixelsX(position.x(), *this)),
+     static_cast<float>(Twips::fromPixelsY(position.y(), *this)));
+    return self;
+}
+
+// A label that a slow click edits: of the one row that is selected already.
+bool ReportList::isChosenLabel(const QModelIndex &index) const
+{
+    return d->editsLabels && index.isValid() && index.column() == 0 &&
+           d->rowChoice.selectedPositions() == QList<int>{index.row()};
+}
+
+void ReportList::mousePressEvent(QMouseEvent *event)
+{
+    const bool focused = std::exchange(d->focusedByMouse, false);
+    if (!raiseMouse(&ReportList::MouseDown, event->button(), *event))
+        return;
+    const bool left = event->button() == Qt::LeftButton;
+    d->clickAwaited = left;
+    d->pressed = indexAt(event->position().toPoint());
+    d->slowClick.press(left && !focused && event->modifiers() == Qt::NoModifier &&
+                       isChosenLabel(d->pressed));
+    ListItem *item = itemOf(d->pressed);
+    QTableView::mousePressEvent(event);
+    if (item && (left || event->button() == Qt::RightButton))
+        Q_EMIT ItemClick(item);
+}
+
+void ReportList::mouseMoveEvent(QMouseEvent *event)
+{
+    if (raiseMouse(&ReportList::MouseMove, event->buttons(), *event))
+        pick([this, event] { QTableView::mouseMoveEvent(event); });
+}
+
+void ReportList::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!raiseMouse(&ReportList::MouseUp, event->button(), *event))
+        return;
+    d->checkedPosition = -1;
+    QTableView::mouseReleaseEvent(event);
+    const QPoint position = event->position().toPoint();
+    const bool left = event->button() == Qt::LeftButton;
+    const bool clicked =
+        left && std::exchange(d->clickAwaited, false) && viewport()->rect().contains(position);
+    d->slowClick.release(clicked && d->checkedPosition < 0 && indexAt(position) == d->pressed);
+    const QPointer<ReportList> self(this);
+    raiseItemCheck();
+    if (self && clicked)
+        Q_EMIT Click();
+}
+
+void ReportList::raiseItemCheck()
+{
+    const int position = std::exchange(d->checkedPosition, -1);
+    if (position >= 0)
+        Q_EMIT ItemCheck(d->handles.of(d->model.row(position)));
+}
+
+void ReportList::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    d->slowClick.stop();
+    d->clickAwaited = false;
+    const QPointer<ReportList> self(this);
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT DblClick();
+    if (self)
+        QTableView::mouseDoubleClickEvent(event);
+}
+
+// The view cannot bear to be destroyed within this call, so the drag comes later.
+void ReportList::startDrag(Qt::DropActions)
+{
+    d->slowClick.stop();
+    d->drag.begin();
+}
+
+// Label editing.
+
+void ReportList::StartLabelEdit()
+{
+    ListItem *item = SelectedItem();
+    if (!item || d->announcesEdit || state() == EditingState)
+        return;
+    qint16 cancel = 0;
+    const QPointer<ReportList> self(this);
+    d->announcesEdit = true;
+    Q_EMIT BeforeLabelEdit(cancel);
+    if (!self)
+        return;
+    d->announcesEdit = false;
+    if (cancel != 0 || !item->isAlive() || d->model.columns() == 0)
+        return;
+    item->EnsureVisible();
+    const QModelIndex label = d->model.index(item->Index() - 1, 0);
+    scrollTo(label);
+    edit(label, AllEditTriggers, nullptr);
+}
+
+// The editor is being closed while this is called; the event comes later.
+void ReportList::noteLabel(int position, const QString &text)
+{
+    d->labelItem = d->handles.of(d->model.row(position));
+    d->enteredLabel = text;
+    QMetaObject::invokeMethod(this, &ReportList::finishLabelEdit, Qt::QueuedConnection);
+}
+
+void ReportList::finishLabelEdit()
+{
+    ListItem *item = d->labelItem;
+    QString label = d->enteredLabel;
+    qint16 cancel = 0;
+    const QPointer<ReportList> self(this);
+    Q_EMIT AfterLabelEdit(cancel, label);
+    if (self && cancel == 0 && item->isAlive())
+        item->setText(label);
+}
+
+void ReportList::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    // No going on to edit the next row, which would not be announced.
+    const bool next = hint == QAbstractItemDelegate::EditNextItem ||
+                      hint == QAbstractItemDelegate::EditPreviousItem;
+    QTableView::closeEditor(editor, next ? QAbstractItemDelegate::NoHint : hint);
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QPersistentModelIndex>
+
+class QTableView;
+
+namespace ORVTListview {
+
+class ReportModel;
+struct ReportRow;
+
+// Which rows of a report list are selected, and which one is in view. What the
+// program selects scrolls nothing; ensureVisible does.
+class RowChoice
+{
+public:
+    RowChoice(QTableView &view, ReportModel &model);
+    Q_DISABLE_COPY_MOVE(RowChoice) // follows one view
+
+    bool isSelected(const ReportRow &row) const;
+    void setSelected(const ReportRow &row, bool selected);
+
+    // The current row if it is selected, else the first that is, else null.
+    ReportRow *selected() const;
+
+    // The one selected row; null deselects all.
+    void select(const ReportRow *row);
+
+    // In ascending order.
+    QList<int> selectedPositions() const;
+
+    bool isMultiple() const;
+    void setMultiple(bool multiple);
+
+    // A hidden view catches up when it is shown.
+    void ensureVisible(const ReportRow &row);
+    void viewShown();
+
+private:
+    void makeCurrent(const ReportRow &row);
+
+    QTableView &m_view;
+    ReportModel &m_model;
+    QPersistentModelIndex m_showLater;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <ORVTListview/CoreExport.h>
+
+#include <QtCore/QList>
+#include <QtCore/QSet>
+#include <QtCore/QString>
+#include <QtCore/QStringView>
+
+namespace ORVTListview {
+
+// A text that never changes, held in pieces of strings that other texts may hold
+// too. Made for many states of one long text: what two of them have in common is
+// in memory once. Positions are UTF-16 units from 0; a piece may end inside a
+// surrogate pair.
+class ORVT_CORE_EXPORT SharedText
+{
+public:
+    SharedText() = default;
+    explicit SharedText(const QString &text); // shares its memory
+
+    qsizetype size() const { return m_size; }
+
+    // Shares its memory with the string that the text was made of, if it still is
+    // one piece.
+    QString toString() const;
+
+    // What lies behind or before a position in one piece, not more than so much.
+    // Empty only at the end, or at the start.
+    QStringView behind(qsizetype position, qsizetype longest) const;
+    QStringView before(qsizetype position, qsizetype longest) const;
+
+    bool equals(const SharedText &other) const;
+
+    // The same text, holding the other's pieces where both begin and end alike.
+    // As it is, when less than half would be shared or the pieces would be more
+    // than mostPieces. Takes time in the length of what is alike.
+    SharedText sharedWith(const SharedText &other) const;
+
+    static constexpr qsizetype mostPieces = 64;
+    qsizetype pieceCount() const { return m_pieces.size(); }
+
+    // The bytes of the strings it holds, without those in counted; adds them to it.
+    qsizetype bytes(QSet<const QChar *> &counted) const;
+
+private:
+    struct Piece
+    {
+        QString string;
+        qsizetype start = 0;
+        qsizetype length = 0;
+
+        QStringView view() const { return QStringView(string).sliced(start, length); }
+    };
+
+    void append(const Piece &piece);
+    void append(const SharedText &text);
+    SharedText part(qsizetype start, qsizetype length) const;
+    qsizetype alikeAtStart(const SharedText &other) const;
+    qsizetype alikeAtEnd(const SharedText &other, qsizetype most) const;
+
+    QList<Piece> m_pieces; // none empty
+    qsizetype m_size = 0;
+};
+
+} // namespace ORVTListview
