@@ -1,5 +1,7 @@
 #include "project/Project.h"
 
+#include "project/ProjectError.h"
+
 namespace ORVTListview {
 
 Project::Project(const QString &fileName)
@@ -21,6 +23,15 @@ void Project::saveProgram(const QString &program)
 {
     writeFile(programFile(), encodeProgram(program, m_contents.programFormat, programFile()));
     m_contents.program = program;
+}
+
+bool Project::isProgramChangedOutside() const
+{
+    try {
+        return decodeProgram(readFile(programFile()), programFile()) != m_contents.program;
+    } catch (const Error &error) {
+        return error.Number() != FileNotReadable;
+    }
 }
 
 const QList<ProjectRow> &Project::rows(LwType type) const

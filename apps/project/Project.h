@@ -32,6 +32,10 @@ public:
     // file and program() as they were.
     void saveProgram(const QString &program);
 
+    // Whether somebody else has changed the program's file since it was read or
+    // saved here. A file that is gone counts as unchanged.
+    bool isProgramChangedOutside() const;
+
     // The rows of a type's table in the order of the file; none for other types.
     const QList<ProjectRow> &rows(LwType type) const;
 

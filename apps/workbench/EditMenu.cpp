@@ -3,6 +3,7 @@
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtCore/QMimeData>
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
@@ -58,7 +59,8 @@ void EditMenu::refresh()
     m_redo->setEnabled(m_code.IsRedoAvailable());
     m_cut->setEnabled(hasSelection);
     m_copy->setEnabled(hasSelection);
-    m_paste->setEnabled(!QGuiApplication::clipboard()->text().isEmpty());
+    const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
+    m_paste->setEnabled(clipboard && clipboard->hasText());
 }
 
 void EditMenu::undo()

@@ -31,6 +31,8 @@ bool ProgramSaving::save()
 {
     if (!m_project)
         return true;
+    if (m_project->isProgramChangedOutside() && !mayOverwrite())
+        return false;
     const QString text = m_code.CodeText();
     try {
         m_project->saveProgram(text);
@@ -47,12 +49,26 @@ bool ProgramSaving::mayLeave()
 {
     if (!m_window.isWindowModified() || !isChanged())
         return true;
-    const QString file = QFileInfo(m_project->programFile()).fileName();
     const auto answer = QMessageBox::warning(
         &m_window, tr("Unsaved Changes"),
-        tr("The program %1 has changes that are not saved.\nSave them?").arg(file),
+        tr("The program %1 has changes that are not saved.\nSave them?").arg(fileName()),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+}
+
+bool ProgramSaving::mayOverwrite()
+{
+    const auto answer = QMessageBox::warning(
+        &m_window, tr("Save Program"),
+        tr("The file %1 has been changed elsewhere since it was opened.\nOverwrite those changes?")
+            .arg(fileName()),
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    return answer == QMessageBox::Yes;
+}
+
+QString ProgramSaving::fileName() const
+{
+    return QFileInfo(m_project->programFile()).fileName();
 }
 
 // The lengths alone mostly tell, so that a key costs the same in any program.

@@ -25,6 +25,7 @@ public:
     void setProject(Project *project);
 
     // Puts the program into its file and returns true, or tells the user why not.
+    // When somebody else has changed the file meanwhile, the user is asked.
     bool save();
 
     // Whether the program may go: when it has unsaved changes, the user is asked.
@@ -32,6 +33,8 @@ public:
 
 private:
     bool isChanged() const;
+    bool mayOverwrite();
+    QString fileName() const;
 
     ORVListView &m_code;
     QWidget &m_window;

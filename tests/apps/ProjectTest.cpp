@@ -270,3 +270,18 @@ TEST(Project, KeepsItsProgramWhenItCannotBeSaved)
     EXPECT_EQ(folderInTheWay->Number(), FileNotWritable);
     EXPECT_EQ(project.program(), u"A"_s);
 }
+
+TEST(Project, NoticesThatItsProgramWasChangedOutside)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(folder, {}, "A\nB"));
+    EXPECT_FALSE(project.isProgramChangedOutside());
+    project.saveProgram(u"C"_s);
+    EXPECT_FALSE(project.isProgramChangedOutside());
+    folder.write(u"code.txt"_s, "D");
+    EXPECT_TRUE(project.isProgramChangedOutside());
+    folder.write(u"code.txt"_s, "\xFF");
+    EXPECT_TRUE(project.isProgramChangedOutside());
+    ASSERT_TRUE(QFile::remove(project.programFile()));
+    EXPECT_FALSE(project.isProgramChangedOutside());
+}

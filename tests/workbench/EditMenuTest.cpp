@@ -104,6 +104,17 @@ private Q_SLOTS:
         QCOMPARE(workbench.code().CodeText(), u"ab "_s);
     }
 
+    void keysAreNotTheEditorsElsewhere()
+    {
+        WorkbenchWindow workbench("");
+        workbench.type(u"a b c"_s);
+        workbench.key(Qt::Key_F6);
+        workbench.results().setFocus();
+        Q_EMIT workbench.menus().at(1)->aboutToShow();
+        QTest::keyClick(&workbench.results(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(workbench.code().CodeText(), u"a b c"_s);
+    }
+
     void showsTheKnownWords()
     {
         WorkbenchWindow workbench("Fan1 = ");

@@ -106,6 +106,28 @@ private Q_SLOTS:
         QCOMPARE(workbench.code().CodeText(), u"xFan1 = ON"_s);
     }
 
+    void asksBeforeItOverwritesWhatAnotherWrote()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        ORVTListview::writeFile(workbench.folder.filePath(u"one.prog"_s), "theirs");
+        workbench.type(u"x"_s);
+        NextMessage keep(QMessageBox::No);
+        workbench.choose(u"Save Program"_s);
+        QVERIFY(keep.wasThere());
+        QVERIFY2(keep.text().contains(u"one.prog"_s), qPrintable(keep.text()));
+        QCOMPARE(workbench.saved(), "theirs");
+        QVERIFY(workbench.window.isWindowModified());
+
+        NextMessage overwrite(QMessageBox::Yes);
+        workbench.choose(u"Save Program"_s);
+        QVERIFY(overwrite.wasThere());
+        QCOMPARE(workbench.saved(), "xFan1 = ON");
+        QVERIFY(!workbench.window.isWindowModified());
+        workbench.type(u"y"_s);
+        workbench.choose(u"Save Program"_s);
+        QCOMPARE(workbench.saved(), "xyFan1 = ON");
+    }
+
     void closesWithoutAQuestionWhenNothingIsUnsaved()
     {
         WorkbenchWindow workbench("Fan1 = ON");

@@ -54,6 +54,7 @@ class Workbench:
             program, os.path.join(folder, "air-handling-unit.json"), *options)
         display.do("xdotool", "mousemove", "0", "0")
         self.wait_for_window(TITLE)
+        (self._window,) = self._visible_windows()
 
     def keys(self, *names):
         self._display.do("xdotool", "key", "--delay", "2", *names)
@@ -90,21 +91,32 @@ class Workbench:
             raise Failed(f"the workbench ended with {self._process.returncode}")
         return True
 
-    def wait_for_word_list(self, is_there):
-        expected = 2 if is_there else 1
-        wait_until(
-            lambda: len(self._display.ask(
-                "xdotool", "search", "--onlyvisible", "--class", "workbench").split()) == expected,
-            "the word list open" if is_there else "the word list closed")
+    def wait_for_popup(self, other_than=None):
+        """The number of the list or menu that is open."""
+        def popup():
+            others = self._visible_windows() - {self._window, other_than}
+            return others.pop() if len(others) == 1 else None
+        return wait_until(popup, "a list or menu open")
+
+    def wait_for_no_popup(self):
+        wait_until(lambda: self._visible_windows() == {self._window}, "all lists and menus closed")
+
+    def _visible_windows(self):
+        return set(self._display.ask(
+            "xdotool", "search", "--onlyvisible", "--class", "workbench").split())
 
     def save(self, expected):
         """Saves and compares the file with the program expected."""
         self.keys("ctrl+s")
+        try:
+            wait_until(lambda: self._lives() and self._saved() == expected, "saved")
+        except Failed as failure:
+            raise Failed(f"{failure}:\n{expected}<\nbut:\n{self._saved()}<") from None
         self.wait_for_window(TITLE)
+
+    def _saved(self):
         with open(self._program_file, encoding="utf-8", newline="") as file:
-            saved = file.read()
-        if saved != expected:
-            raise Failed(f"saved:\n{saved}<\nexpected:\n{expected}<")
+            return file.read()
 
     def quit(self):
         self.keys("ctrl+q")
@@ -138,12 +150,12 @@ class Session:
         bench = self._workbench
         bench.type("REM Heating coil of the supply air\nif supplytemp < supply")
         bench.keys("ctrl+space")
-        bench.wait_for_word_list(True)
+        bench.wait_for_popup()
         bench.type("m")
         bench.keys("Down")
         self._picture("02-word-list")
         bench.keys("Return")
-        bench.wait_for_word_list(False)
+        bench.wait_for_no_popup()
         bench.save("REM Heating coil of the supply air\nIF SupplyTemp < SupplyMin")
 
     def _block_indent(self):
@@ -182,16 +194,16 @@ class Session:
         bench = self._workbench
         bench.type("\n    supplyfanspeed = limit ( zonehea")
         bench.keys("ctrl+space")
-        bench.wait_for_word_list(True)
+        bench.wait_for_popup()
         bench.keys("Down", "Up")
         self._picture("06-word-list-in-brackets")
         bench.keys("Return")
-        bench.wait_for_word_list(False)
+        bench.wait_for_no_popup()
         bench.type(" , fanm")
         bench.keys("ctrl+space")
-        bench.wait_for_word_list(True)
+        bench.wait_for_popup()
         bench.keys("Tab")
-        bench.wait_for_word_list(False)
+        bench.wait_for_no_popup()
         bench.type(" , 100 )\nreturnfanspeed = supplyfanspeed * 0.9\n")
         bench.keys("BackSpace")
         bench.type("else\n    supplyfanspead = 0\n")
@@ -235,14 +247,20 @@ class Session:
         bench = self._workbench
         for number, name in ((12, "file"), (13, "edit"), (14, "program")):
             bench.keys("alt+" + name[0])
+            bench.wait_for_popup()
             self._picture(f"{number}-{name}-menu")
-            bench.keys("Escape", "Escape")
+            bench.keys("Escape")
+            bench.wait_for_no_popup()
+            bench.keys("Escape")
         bench.type(" ")
-        bench.keys("alt+e", "k")
-        bench.wait_for_word_list(True)
+        bench.keys("alt+e")
+        menu = bench.wait_for_popup()
+        bench.keys("k")
+        bench.wait_for_popup(other_than=menu)
         self._picture("15-known-words")
-        bench.keys("Escape", "BackSpace")
-        bench.wait_for_word_list(False)
+        bench.keys("Escape")
+        bench.wait_for_no_popup()
+        bench.keys("BackSpace")
         bench.save(HEATING + FANS)
 
     def _unsaved_changes(self):
