@@ -16,6 +16,11 @@ CodeEditorFace::CodeEditorFace(const QString &program)
     m_tree.setStringIndexCollection(&m_points.timers);
     m_editor.setListviewType(dsCode);
     m_editor.Init_RichTextBox(appearance());
+    show(program);
+}
+
+void CodeEditorFace::show(const QString &program)
+{
     m_editor.setCodeTextRTF(m_editor.GetColorText(program));
 }
 

@@ -17,6 +17,8 @@ class CodeEditorFace
 public:
     explicit CodeEditorFace(const QString &program);
 
+    void show(const QString &program);
+
     ORVListView &widget() { return m_editor; }
     RichTextBox &box() { return *m_editor.RTextBox(); }
 

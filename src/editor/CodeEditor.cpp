@@ -105,7 +105,7 @@ void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)
         const Messages &messages = threadPart<Messages>();
         state.RtfHeader =
             BuildRtfHeader(sampleRtf(), state.EditorSettings, messages.service()).Header;
-        m_box->setSelColoured(coloured(kept));
+        m_box->setColoured(coloured(kept));
     } catch (const std::exception &) {
         m_box->setText(kept); // uncoloured is better than lost
     }
@@ -152,8 +152,7 @@ QString CodeEditor::CodeTextRTF()
 
 void CodeEditor::setCodeTextRTF(const QString &rtf)
 {
-    RTextSelectAll();
-    m_box->setSelRTF(rtf);
+    m_box->setTextRTF(rtf);
     m_colouring.forgetEdit();
 }
 

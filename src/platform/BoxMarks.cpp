@@ -71,9 +71,14 @@ bool BoxMarks::isPlain(QStringView text)
     return std::none_of(text.begin(), text.end(), isHandledByInsert);
 }
 
+bool BoxMarks::mayBeIn(QStringView text)
+{
+    return text.contains(QChar(standIn));
+}
+
 void BoxMarks::restore(const QTextBlock &block, QString &text)
 {
-    if (!text.contains(QChar(standIn)))
+    if (!mayBeIn(text))
         return;
     for (auto it = block.begin(); it != block.end(); ++it) {
         const QTextFragment fragment = it.fragment();

@@ -19,6 +19,10 @@ void insert(QTextCursor &cursor, QStringView text, const QTextCharFormat &format
 // True when insert() stores the text as it is, one character for each.
 bool isPlain(QStringView text);
 
+// False when a document's text is as it was inserted, so that nothing is to be put
+// back.
+bool mayBeIn(QStringView text);
+
 // Puts the characters stood for back into a block's text.
 void restore(const QTextBlock &block, QString &text);
 

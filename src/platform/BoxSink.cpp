@@ -47,24 +47,20 @@ void BoxSink::setFormat(const RtfFormat &format)
     RtfFormat plain = format;
     plain.colour = RtfFormat::automatic;
     plain.backColour = RtfFormat::automatic;
+    if (plain == m_plain)
+        return;
+    m_plain = plain;
     m_plainFormat = m_formats.charFormat(plain);
-}
-
-void BoxSink::append(QStringView text, const QTextCharFormat &format)
-{
-    if (m_chunk.isEmpty())
-        m_chunkFormat = m_plainFormat;
-    if (format != m_chunkFormat)
-        m_spans.append({static_cast<int>(m_chunk.size()), static_cast<int>(text.size()), format});
-    m_chunk += text;
 }
 
 void BoxSink::text(QStringView text, const RtfFormat &format)
 {
-    if (format != m_current)
+    if (format != m_current) {
+        flush();
         setFormat(format);
+    }
     if (BoxMarks::isPlain(text)) {
-        append(text, m_format);
+        m_waiting += text;
     } else {
         flush();
         BoxMarks::insert(m_cursor, text, m_format);
@@ -73,24 +69,16 @@ void BoxSink::text(QStringView text, const RtfFormat &format)
 
 void BoxSink::lineEnd()
 {
-    constexpr qsizetype enough = 1024;
-    append(u"\n", m_plainFormat);
-    if (m_chunk.size() >= enough)
-        flush();
+    flush();
+    m_cursor.insertBlock(m_lineFormat, m_plainFormat);
 }
 
 void BoxSink::flush()
 {
-    const int start = m_cursor.position();
-    m_cursor.insertText(m_chunk, m_chunkFormat);
-    QTextCursor cursor = m_cursor;
-    for (const Span &span : std::as_const(m_spans)) {
-        cursor.setPosition(start + span.start);
-        cursor.setPosition(start + span.start + span.length, QTextCursor::KeepAnchor);
-        cursor.setCharFormat(span.format);
-    }
-    m_chunk.clear();
-    m_spans.clear();
+    if (m_waiting.isEmpty())
+        return;
+    m_cursor.insertText(m_waiting, m_format);
+    m_waiting.resize(0); // keeps its memory
 }
 
 void putColoured(const ColouredText &text, const RtfFormat &format, RtfSink &sink)

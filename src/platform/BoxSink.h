@@ -3,7 +3,7 @@
 #include "platform/BoxFormats.h"
 #include "platform/ColouredText.h"
 
-#include <QtCore/QList>
+#include <QtGui/QTextBlockFormat>
 #include <QtGui/QTextCursor>
 
 namespace ORVTListview {
@@ -23,28 +23,17 @@ public:
     void lineEnd() override;
 
 private:
-    struct Span
-    {
-        int start;
-        int length;
-        QTextCharFormat format;
-    };
-
     void setFormat(const RtfFormat &format);
-    void append(QStringView text, const QTextCharFormat &format);
     void flush();
 
     QTextCursor &m_cursor;
     BoxFormats &m_formats;
+    QTextBlockFormat m_lineFormat;
     RtfFormat m_current;
+    RtfFormat m_plain;             // m_current without its colours
     QTextCharFormat m_format;      // of m_current
-    QTextCharFormat m_plainFormat; // of m_current without its colours
-
-    // Text is inserted in chunks, the formats that differ from the chunk's are set
-    // afterwards; this takes two thirds of the time of an insertion for each run.
-    QString m_chunk;
-    QTextCharFormat m_chunkFormat;
-    QList<Span> m_spans;
+    QTextCharFormat m_plainFormat; // of m_plain
+    QString m_waiting;             // text of m_format, not yet inserted
 };
 
 // Hands coloured text to a sink. All of it gets the format but for the colour.

@@ -96,6 +96,28 @@ int BoxText::whole(int documentPosition) const
 
 QString BoxText::read(int from, int to) const
 {
+    if (to - from > m_length / 2)
+        return readAtOnce(from, to);
+    return readLines(from, to);
+}
+
+// A third of the time that one line after the other takes, for the whole text.
+QString BoxText::readAtOnce(int from, int to) const
+{
+    const QString all = m_document.toRawText();
+    if (BoxMarks::mayBeIn(all))
+        return readLines(from, to);
+    const QStringView raw = QStringView(all).sliced(from, to - from);
+    QString result;
+    result.reserve(raw.size() + m_document.blockCount());
+    qsizetype start = 0;
+    for (qsizetype end; (end = raw.indexOf(QChar::ParagraphSeparator, start)) >= 0; start = end + 1)
+        result.append(raw.sliced(start, end - start)).append(u"\r\n");
+    return result.append(raw.sliced(start));
+}
+
+QString BoxText::readLines(int from, int to) const
+{
     QString result;
     result.reserve(to - from);
     for (QTextBlock block = m_document.findBlock(from); block.isValid(); block = block.next()) {

@@ -50,6 +50,8 @@ private:
     void refresh() const;
     QTextBlock blockAt(qint32 position) const;
     int documentLength() const;
+    QString readAtOnce(int from, int to) const;
+    QString readLines(int from, int to) const;
 
     QTextDocument &m_document;
     quint64 m_changeCount = 0;
