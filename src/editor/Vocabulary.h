@@ -2,7 +2,7 @@
 
 #include "editor/BarList.h"
 #include "editor/WordClass.h"
-#include "shared/HostObject.h"
+#include "platform/HostObject.h"
 #include "shared/IndexedName.h"
 #include "shared/PointCollection.h"
 

@@ -1,0 +1,7 @@
+#include "platform/EventSink.h"
+
+namespace ORVTListview {
+
+EventSink::~EventSink() = default;
+
+} // namespace ORVTListview

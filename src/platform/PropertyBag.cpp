@@ -1,0 +1,7 @@
+#include "platform/PropertyBag.h"
+
+namespace ORVTListview {
+
+PropertyBag::~PropertyBag() = default;
+
+} // namespace ORVTListview
