@@ -17,10 +17,7 @@ struct FindHost : EditorHost
 {
     enum Mode { Find, Replace };
 
-    ~FindHost()
-    {
-        ORVTListview::FindDialog::shared().hide();
-    }
+    ~FindHost() { ORVTListview::FindDialog::shared().hide(); }
 
     // "|" in the program as for setText.
     void open(const QString &program, Mode mode = Find)
