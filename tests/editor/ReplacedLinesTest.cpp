@@ -132,7 +132,7 @@ TEST(TouchedLine, WordsOnBothSidesOfAPlaceAreTouched)
     touched.touch(4, 99);
     touched.keepTheRest(line, former);
     EXPECT_EQ(line.text, u"A b\tC D"_s);
-    const QList<ColouredText::Run> runs{{1, 2}, {3, 1}, {3, 2}};
+    const QList<ColouredText::Run> runs{{2, 2}, {2, 1}, {3, 2}}; // blanks with their words
     EXPECT_EQ(line.runs, runs);
 }
 

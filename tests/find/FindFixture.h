@@ -27,8 +27,10 @@ struct FindHost : EditorHost
     }
     void reopen(Mode mode = Find)
     {
+        form.activateWindow(); // from where users open it
+        QTRY_VERIFY(form.isActiveWindow());
         list->showFind(mode == Replace);
-        QVERIFY(QTest::qWaitForWindowActive(&dialog()));
+        QTRY_VERIFY(dialog().isActiveWindow());
     }
 
     ORVTListview::fFind &dialog() { return ORVTListview::FindDialog::shared(); }
