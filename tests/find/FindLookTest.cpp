@@ -9,6 +9,7 @@
 #include "support/WidgetTest.h"
 
 #include <QtCore/QSet>
+#include <QtWidgets/QStyleOption>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -37,6 +38,42 @@ QList<QWidget *> shownControls(const QWidget &dialog)
     return shown;
 }
 
+// How wide a caption is drawn where it has all the room it wants.
+int drawnWidth(const QWidget &control)
+{
+    QLabel copy;
+    QLabel buddy; // without one the mark would be drawn
+    copy.setBuddy(&buddy);
+    copy.setText(captionOf(control));
+    copy.setFont(control.font());
+    copy.resize(copy.sizeHint() * 2);
+    const QImage image = copy.grab().toImage();
+    const QRgb ground = image.pixel(image.width() - 1, 0);
+    for (int x = image.width() - 1; x >= 0; --x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (image.pixel(x, y) != ground)
+                return x + 1;
+        }
+    }
+    return 0;
+}
+
+int roomForCaption(const QWidget &control)
+{
+    const QStyle &style = *control.style();
+    if (const auto *button = qobject_cast<const QPushButton *>(&control)) {
+        QStyleOptionButton option;
+        option.initFrom(button);
+        return style.subElementRect(QStyle::SE_PushButtonContents, &option, button).width();
+    }
+    if (const auto *box = qobject_cast<const QCheckBox *>(&control)) {
+        QStyleOptionButton option;
+        option.initFrom(box);
+        return style.subElementRect(QStyle::SE_CheckBoxContents, &option, box).width();
+    }
+    return control.contentsRect().width();
+}
+
 QRect placeIn(const QWidget &dialog, const QWidget &widget)
 {
     return {widget.mapTo(&dialog, QPoint()), widget.size()};
@@ -50,6 +87,8 @@ void checkFit(const QWidget &dialog)
         const QString name = control->objectName();
         const QSize needed = isCaption(*control) ? control->sizeHint() : control->minimumSizeHint();
         QVERIFY2(control->width() >= needed.width(), qPrintable(name));
+        QVERIFY2(!isCaption(*control) || roomForCaption(*control) >= drawnWidth(*control),
+                 qPrintable(name));
         QVERIFY2(control->height() >= needed.height(), qPrintable(name));
         QVERIFY2(dialog.rect().contains(placeIn(dialog, *control)), qPrintable(name));
         for (const QWidget *other : controls) {
