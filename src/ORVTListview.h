@@ -2,14 +2,21 @@
 
 // All of the library.
 
+#include <ORVTListview/ColumnHeader.h>
+#include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/DataObject.h>
 #include <ORVTListview/Error.h>
 #include <ORVTListview/EventSink.h>
+#include <ORVTListview/ImageList.h>
 #include <ORVTListview/IndexedName.h>
 #include <ORVTListview/LibraryTexts.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/PointCollection.h>
 #include <ORVTListview/PropertyBag.h>
+#include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>
 #include <ORVTListview/TextProvider.h>
 #include <ORVTListview/TranslatedTexts.h>
