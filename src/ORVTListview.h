@@ -2,15 +2,19 @@
 
 // All of the library.
 
+#include <ORVTListview/Component.h>
 #include <ORVTListview/Error.h>
 #include <ORVTListview/EventSink.h>
 #include <ORVTListview/IndexedName.h>
+#include <ORVTListview/JsonPropertyBag.h>
 #include <ORVTListview/LibraryTexts.h>
+#include <ORVTListview/MemoryPropertyBag.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/PointCollection.h>
 #include <ORVTListview/PropertyBag.h>
 #include <ORVTListview/RichTextBox.h>
+#include <ORVTListview/SettingsPropertyBag.h>
 #include <ORVTListview/TextProvider.h>
 #include <ORVTListview/TranslatedTexts.h>
 #include <ORVTListview/Types.h>
