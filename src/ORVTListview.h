@@ -18,3 +18,4 @@
 #include <ORVTListview/TextProvider.h>
 #include <ORVTListview/TranslatedTexts.h>
 #include <ORVTListview/Types.h>
+#include <ORVTListview/Version.h>
