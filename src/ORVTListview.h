@@ -6,6 +6,8 @@
 #include <ORVTListview/EventSink.h>
 #include <ORVTListview/IndexedName.h>
 #include <ORVTListview/LibraryTexts.h>
+#include <ORVTListview/Node.h>
+#include <ORVTListview/Nodes.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/PointCollection.h>
