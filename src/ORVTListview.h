@@ -9,6 +9,8 @@
 #include <ORVTListview/JsonPropertyBag.h>
 #include <ORVTListview/LibraryTexts.h>
 #include <ORVTListview/MemoryPropertyBag.h>
+#include <ORVTListview/Node.h>
+#include <ORVTListview/Nodes.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/PointCollection.h>
