@@ -2,9 +2,9 @@
 
 // All of the library.
 
-#include <ORVTListview/Component.h>
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/Component.h>
 #include <ORVTListview/DataObject.h>
 #include <ORVTListview/Error.h>
 #include <ORVTListview/EventSink.h>
@@ -12,11 +12,11 @@
 #include <ORVTListview/IndexedName.h>
 #include <ORVTListview/JsonPropertyBag.h>
 #include <ORVTListview/LibraryTexts.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
 #include <ORVTListview/MemoryPropertyBag.h>
 #include <ORVTListview/Node.h>
 #include <ORVTListview/Nodes.h>
-#include <ORVTListview/ListItem.h>
-#include <ORVTListview/ListItems.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/PointCollection.h>
