@@ -17,7 +17,9 @@
 #include <ORVTListview/MemoryPropertyBag.h>
 #include <ORVTListview/Node.h>
 #include <ORVTListview/Nodes.h>
+#include <ORVTListview/ORVDataCombo.h>
 #include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ORVRichText.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/PointCollection.h>
 #include <ORVTListview/PropertyBag.h>
