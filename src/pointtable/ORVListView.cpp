@@ -3,6 +3,12 @@
 #include "editor/Vocabulary.h"
 #include "pointtable/ColumnLayouts.h"
 #include "pointtable/ORVListViewParts.h"
+#include "find/FindDialog.h"
+#include "find/WordReplacing.h"
+#include "platform/ImageList.h"
+#include "platform/PictureBox.h"
+#include "platform/ReportList.h"
+#include "platform/RichTextBox.h"
 #include "shared/DisplayNames.h"
 #include "shared/HostForms.h"
 #include "shared/Pictures.h"
@@ -295,6 +301,30 @@ void ORVListView::RTextSelectAll()
 void ORVListView::RTextPaste(QString &Data)
 {
     d->editor->RTextPaste(Data);
+}
+
+void ORVListView::FindInRichtext(QString &ErrMsg)
+{
+    if (d->type == dsCode)
+        FindDialog::showModally(d->editor->box(), false, ErrMsg);
+}
+
+void ORVListView::ReplaceInRichtext(QString &ErrMsg)
+{
+    if (d->type == dsCode)
+        FindDialog::showModally(d->editor->box(), true, ErrMsg);
+}
+
+void ORVListView::showFind(bool IsReplace)
+{
+    if (d->type == dsCode)
+        FindDialog::showBeside(d->editor->box(), IsReplace);
+}
+
+void ORVListView::ReplaceRichTextBox(const QString &OldWord, const QString &NewWord,
+                                     QString &ErrMsg, bool IsChangeColor)
+{
+    replaceWord(*d->editor, OldWord, NewWord, IsChangeColor, ErrMsg);
 }
 
 QString ORVListView::GetPositionDisplay() const

@@ -275,6 +275,26 @@ public:
     // A text with a "\" is refused with a message.
     Q_INVOKABLE void RTextPaste(QString &Data);
 
+    // --- Find and replace ---
+
+    // Show the find dialog on the editor, modally, and return once it is closed. In
+    // code mode only. ErrMsg receives the description of a failure, else it stays.
+    // The control may be destroyed meanwhile; the dialog then closes.
+    Q_INVOKABLE void FindInRichtext(QString &ErrMsg);
+    Q_INVOKABLE void ReplaceInRichtext(QString &ErrMsg);
+
+    // The same dialog beside the editor: returns at once, and both can be used until
+    // either is closed.
+    Q_INVOKABLE void showFind(bool IsReplace = false);
+
+    // Replaces a word wherever it stands between blanks, tabs, brackets and line
+    // ends, whatever its letter case, on comment lines too. With IsChangeColor the
+    // new text takes its colours, else those of what it replaces. Takes a snapshot
+    // if there is anything to replace; an empty OldWord is nowhere. ErrMsg receives
+    // the description of a failure, else it stays.
+    Q_INVOKABLE void ReplaceRichTextBox(const QString &OldWord, const QString &NewWord,
+                                        QString &ErrMsg, bool IsChangeColor = false);
+
     // --- Position ---
 
     // "Row: 3, Col: 7", both counted from 1.
