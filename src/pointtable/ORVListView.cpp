@@ -305,19 +305,19 @@ void ORVListView::RTextPaste(QString &Data)
 
 void ORVListView::FindInRichtext(QString &ErrMsg)
 {
-    if (d->type == dsCode)
+    if (d->isCode())
         FindDialog::showModally(d->editor->box(), false, ErrMsg);
 }
 
 void ORVListView::ReplaceInRichtext(QString &ErrMsg)
 {
-    if (d->type == dsCode)
+    if (d->isCode())
         FindDialog::showModally(d->editor->box(), true, ErrMsg);
 }
 
 void ORVListView::showFind(bool IsReplace)
 {
-    if (d->type == dsCode)
+    if (d->isCode())
         FindDialog::showBeside(d->editor->box(), IsReplace);
 }
 
