@@ -6,7 +6,9 @@
 #include <ORVTListview/EventSink.h>
 #include <ORVTListview/IndexedName.h>
 #include <ORVTListview/LibraryTexts.h>
+#include <ORVTListview/ORVDataCombo.h>
 #include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ORVRichText.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/PointCollection.h>
 #include <ORVTListview/PropertyBag.h>
