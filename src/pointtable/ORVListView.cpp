@@ -57,8 +57,10 @@ void ORVListView::Private::switchTo(LwType type)
     face.show();
     if (hadFocus)
         face.setFocus();
-    if (!showsCode)
-        box.hide();
+    if (showsCode)
+        return;
+    box.hide(); // an editor with the focus keeps tab stops from the others
+    table->enterTabOrder(box);
 }
 
 void ORVListView::Private::layOut()
