@@ -84,7 +84,11 @@ ORVListView::ORVListView(QWidget *parent)
     d->table->setCaption(QString());
 }
 
-ORVListView::~ORVListView() = default;
+ORVListView::~ORVListView()
+{
+    // The list outlives this object by a little, and a drag that runs then ends.
+    d->list->disconnect(this);
+}
 
 LwType ORVListView::ListviewType() const
 {
