@@ -34,6 +34,7 @@ private Q_SLOTS:
     void anEnteredLabelCanBeRefusedOrChanged();
     void theEditorTellsPressesAndF1Only();
     void theWordListKeepsItsKeys();
+    void theWordListBearsRowsOfTheHost();
     void neverRaisedEventsAreNotRaised();
     void callsOfTheHostRaiseNothing();
     void rowsAreCopied();
@@ -257,6 +258,27 @@ void ListViewEventsTest::theWordListKeepsItsKeys()
     QVERIFY2(!log.contains(u"KeyDown"_s) && !log.contains(u"KeyPress"_s), qPrintable(log));
     QTest::keyClick(shown->listView(), Qt::Key_Escape);
     QVERIFY(shown->listView()->isHidden());
+}
+
+void ListViewEventsTest::theWordListBearsRowsOfTheHost()
+{
+    const ShownListView shown(dsCode);
+    shown->Init_RichTextBox({});
+    shown->setCodeText(QString());
+    shown->RTextBox()->setFocus();
+    shown->Add(0, u"mine"_s, u"MyWord"_s);
+    shown->TryToPopupList();
+    shown.key(Qt::Key_End);
+    shown.key(Qt::Key_Return);
+    QCOMPARE(shown->CodeText(), u"MyWord"_s);
+    shown->listView()->Clear();
+    shown->setCodeText(u"i"_s);
+    shown->RTextBox()->setSelStart(1);
+    bool absolutely = true;
+    shown->TryToPopupList(absolutely);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_F, Qt::Key_End, Qt::Key_Tab})
+        shown.key(key);
+    QVERIFY(shown->CodeText().startsWith(u"if"_s, Qt::CaseInsensitive));
 }
 
 void ListViewEventsTest::neverRaisedEventsAreNotRaised()
