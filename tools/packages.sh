@@ -3,6 +3,7 @@
 build_packages=(
     ca-certificates ccache cmake g++ ninja-build pkg-config
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    qt6-translations-l10n
     libgl-dev zlib1g-dev fonts-dejavu-core)
 
 test_packages=(

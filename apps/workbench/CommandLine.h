@@ -13,6 +13,7 @@ struct Options
     QString project;
     QString screenshot; // empty for none
     bool isDark = false;
+    QString language; // empty for the user's own
 };
 
 // Qt reads its scale once, before there is an application.

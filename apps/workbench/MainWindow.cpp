@@ -3,6 +3,8 @@
 #include "Appearance.h"
 #include "CheckResults.h"
 #include "EditMenu.h"
+#include "LanguageMenu.h"
+#include "Languages.h"
 #include "ProgramSaving.h"
 #include "ProgramText.h"
 #include "editor/CodeWordList.h"
@@ -30,12 +32,12 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-MainWindow::MainWindow(QWidget *parent)
+MainWindow::MainWindow(Languages &languages, QWidget *parent)
     : QMainWindow(parent)
+    , m_languages(languages)
     , m_vocabulary(new ORVTreeview(this))
     , m_code(new ORVListView(this))
     , m_saving(new ProgramSaving(*m_code, *this))
-    , m_editMenu(new EditMenu(*m_code, this))
     , m_results(new CheckResults(*m_code->GetImage(), this))
     , m_programInfo(new QLabel(this))
     , m_position(new QLabel(this))
@@ -49,6 +51,8 @@ MainWindow::MainWindow(QWidget *parent)
     buildMenus();
     buildStatusBar();
     connectEditor();
+    // Queued: the menu that the language was chosen in is made anew.
+    connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
     resize(1000, 700);
 }
 
@@ -57,8 +61,9 @@ MainWindow::~MainWindow() = default;
 void MainWindow::buildMenus()
 {
     buildFileMenu();
-    menuBar()->addMenu(m_editMenu);
+    buildEditMenu();
     buildProgramMenu();
+    buildViewMenu();
 }
 
 void MainWindow::buildFileMenu()
@@ -68,6 +73,15 @@ void MainWindow::buildFileMenu()
     file->addAction(tr("&Save Program"), QKeySequence::Save, m_saving, &ProgramSaving::save);
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
+}
+
+void MainWindow::buildEditMenu()
+{
+    auto *edit = new EditMenu(*m_code, menuBar());
+    menuBar()->addMenu(edit);
+    connect(edit, &EditMenu::acted, this, &MainWindow::showPosition);
+    connect(edit, &EditMenu::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
 }
 
 // In the editor these keys raise its events; the menu has them for the rest of the
@@ -82,6 +96,12 @@ void MainWindow::buildProgramMenu()
     QAction *results = m_results->toggleViewAction();
     results->setText(tr("&Results"));
     program->addAction(results);
+}
+
+void MainWindow::buildViewMenu()
+{
+    QMenu *view = menuBar()->addMenu(tr("&View"));
+    view->addMenu(new LanguageMenu(m_languages, view));
 }
 
 void MainWindow::buildStatusBar()
@@ -99,9 +119,6 @@ void MainWindow::connectEditor()
     connect(m_code->RTextBox(), &QPlainTextEdit::blockCountChanged, this,
             &MainWindow::showProgramInfo);
     m_code->RTextBox()->viewport()->installEventFilter(this);
-    connect(m_editMenu, &EditMenu::acted, this, &MainWindow::showPosition);
-    connect(m_editMenu, &EditMenu::told, this,
-            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
     connect(m_results, &CheckResults::chosen, this, &MainWindow::goTo);
 }
 
@@ -204,7 +221,8 @@ void MainWindow::showPosition()
 void MainWindow::showProgramInfo()
 {
     const QString file = m_project ? QFileInfo(m_project->programFile()).fileName() : QString();
-    m_programInfo->setText(tr("%1, lines: %2").arg(file).arg(m_code->RTextBox()->lineCount()));
+    if (m_project)
+        m_programInfo->setText(tr("%1, lines: %2").arg(file).arg(m_code->RTextBox()->lineCount()));
 }
 
 // The appearance is applied anew, which takes the caret to the start.
@@ -217,6 +235,17 @@ void MainWindow::followPalette()
     box->setSelStart(start);
     box->setSelLength(length);
     box->ensureCursorVisible();
+}
+
+// What the menus say is made anew; what the user has done stays.
+void MainWindow::retranslate()
+{
+    m_results->retranslate();
+    qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
+    menuBar()->clear();
+    buildMenus();
+    showPosition();
+    showProgramInfo();
 }
 
 void MainWindow::changeEvent(QEvent *event)

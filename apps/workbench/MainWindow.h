@@ -13,6 +13,7 @@ namespace ORVTListview {
 
 class CheckResults;
 class EditMenu;
+class Languages;
 class ProgramSaving;
 class Project;
 struct ProgramReport;
@@ -23,7 +24,8 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    // The languages outlive the window.
+    explicit MainWindow(Languages &languages, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     // Shows the project. What is shown goes without a question. Raises Error and
@@ -38,7 +40,9 @@ protected:
 private:
     void buildMenus();
     void buildFileMenu();
+    void buildEditMenu();
     void buildProgramMenu();
+    void buildViewMenu();
     void buildStatusBar();
     void connectEditor();
     void chooseProject();
@@ -52,12 +56,13 @@ private:
     void goTo(const QString &word, qint32 line);
     void showPosition();
     void showProgramInfo();
+    void retranslate();
 
+    Languages &m_languages;
     std::unique_ptr<Project> m_project;
     ORVTreeview *m_vocabulary;
     ORVListView *m_code;
     ProgramSaving *m_saving;
-    EditMenu *m_editMenu;
     CheckResults *m_results;
     QLabel *m_programInfo;
     QLabel *m_position;

@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 #include "DarkColours.h"
+#include "Languages.h"
 #include "MainWindow.h"
 
 #include <ORVTListview/Error.h>
@@ -55,13 +56,16 @@ int main(int argc, char **argv)
     applyScale(argc, argv);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"workbench"_s);
-    QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
+    Languages languages;
     const std::optional<Options> options = readOptions(application);
     if (!options)
         return 1;
+    if (!options->language.isEmpty())
+        languages.setLanguage(QLocale(options->language));
+    QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
     prepareLook(*options);
 
-    MainWindow window;
+    MainWindow window(languages);
     window.show();
     if (!open(window, *options))
         return 1;

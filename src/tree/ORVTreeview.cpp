@@ -53,7 +53,7 @@ struct ORVTreeview::Private
 };
 
 ORVTreeview::ORVTreeview(QWidget *parent)
-    : QWidget(parent)
+    : Component(parent)
     , d(std::make_unique<Private>(this))
 {
     auto *layout = new QVBoxLayout(this);

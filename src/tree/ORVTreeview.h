@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ORVTListview/Component.h>
 #include <ORVTListview/DataObject.h>
 #include <ORVTListview/Export.h>
 #include <ORVTListview/IndexedName.h>
@@ -8,8 +9,6 @@
 #include <ORVTListview/Nodes.h>
 #include <ORVTListview/PointCollection.h>
 #include <ORVTListview/Types.h>
-
-#include <QtWidgets/QWidget>
 
 #include <memory>
 
@@ -29,7 +28,7 @@ namespace ORVTListview {
 // "Device", "Page0" and up, and the untranslated display names.
 //
 // Members raise Error and nothing else. X and Y are twips from the tree's corner.
-class ORVT_EXPORT ORVTreeview : public QWidget
+class ORVT_EXPORT ORVTreeview : public Component
 {
     Q_OBJECT
     Q_PROPERTY(ORVTListview::Node *SelectedItem READ SelectedItem WRITE setSelectedItem
@@ -40,6 +39,8 @@ public:
 
     // Saves the arrangement. No failure is reported.
     ~ORVTreeview() override;
+
+    const MemberTable &Members() const override;
 
     // A tree on a form that is being designed saves nothing.
     bool isDesignMode() const;

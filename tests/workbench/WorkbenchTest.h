@@ -2,6 +2,8 @@
 
 #include "project/TextFile.h"
 #include "support/WidgetTest.h"
+#include "workbench/LanguageMenu.h"
+#include "workbench/Languages.h"
 #include "workbench/MainWindow.h"
 
 #include <ORVTListview/RichTextBox.h>
@@ -62,6 +64,12 @@ struct WorkbenchWindow
         QTest::keyClick(&box(), key, modifiers);
     }
 
+    void speak(const QLocale &language)
+    {
+        languages.setLanguage(language);
+        QCoreApplication::processEvents();
+    }
+
     QList<QMenu *> menus() const
     {
         QList<QMenu *> menus;
@@ -105,7 +113,8 @@ struct WorkbenchWindow
     }
 
     QTemporaryDir folder;
-    ORVTListview::MainWindow window;
+    ORVTListview::Languages languages{QLocale(QLocale::English)};
+    ORVTListview::MainWindow window{languages};
 };
 
 // Answers the next dialog that is shown modally, and keeps what it said.
