@@ -62,7 +62,7 @@ void NodeTree::setUpConnections()
 {
     const auto noteFolded = [this](bool expanded) {
         return [this, expanded](const QModelIndex &index) {
-            if (d->userActs)
+            if (d->userActs && d->model.hasChildren(index))
                 d->folded.append({handleOf(index), expanded});
         };
     };
