@@ -50,8 +50,9 @@ void ComboMatches::matchAll()
 
 void ComboMatches::setFilter(const QString &filter)
 {
-    // What holds the longer text holds the shorter one too.
-    const bool narrows = filter.contains(m_filter, Qt::CaseInsensitive);
+    // What holds the longer text holds the shorter one too, unless that is half of
+    // a character.
+    const bool narrows = m_filter.isValidUtf16() && filter.contains(m_filter, Qt::CaseInsensitive);
     const QList<int> candidates = narrows ? m_rows : allRows(m_entries.size());
     QList<int> rows;
     rows.reserve(candidates.size());
