@@ -1,9 +1,8 @@
 #pragma once
 
+#include <ORVTListview/Component.h>
 #include <ORVTListview/Export.h>
 #include <ORVTListview/Types.h>
-
-#include <QtWidgets/QWidget>
 
 #include <memory>
 
@@ -29,7 +28,7 @@ class RichTextBox;
 // an event may do anything, destroying the control included.
 //
 // Rows and columns count from 1, lengths and places are twips.
-class ORVT_EXPORT ORVListView : public QWidget
+class ORVT_EXPORT ORVListView : public Component
 {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE setCaption NOTIFY captionChanged)
@@ -53,6 +52,8 @@ class ORVT_EXPORT ORVListView : public QWidget
 public:
     explicit ORVListView(QWidget *parent = nullptr);
     ~ORVListView() override;
+
+    const MemberTable &Members() const override;
 
     // The type shown; dsInput at first. Assigning it shows and enables its face and
     // builds everything anew: the caption with the type's name, the columns, and
