@@ -24,16 +24,10 @@ constexpr qint64 mostNamesOfAFamily = 100000;
 
 constexpr qint32 knownFormat = 1;
 
-bool isPrintable(const QString &text)
-{
-    return std::all_of(text.cbegin(), text.cend(),
-                       [](QChar c) { return c.category() != QChar::Other_Control; });
-}
-
 QString readName(const JsonPlace &place)
 {
     const QString name = place.required().text();
-    if (name.trimmed().isEmpty() || name != name.trimmed() || !isPrintable(name))
+    if (!isPointName(name))
         place.fail(ProjectTexts::tr(
             "a name is expected, without blanks around it and control characters"));
     return name;

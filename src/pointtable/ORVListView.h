@@ -44,6 +44,7 @@ class ORVT_EXPORT ORVListView : public Component
         qint16 NumberItems READ NumberItems WRITE setNumberItems DESIGNABLE false STORED false)
     Q_PROPERTY(bool IsHOASupported READ IsHOASupported WRITE setIsHOASupported
                    DESIGNABLE false STORED false)
+    Q_PROPERTY(qint16 labelColumn READ labelColumn WRITE setLabelColumn DESIGNABLE false STORED false)
     Q_PROPERTY(QString indentUnit READ indentUnit WRITE setIndentUnit DESIGNABLE false STORED false)
     Q_PROPERTY(QString CodeText READ CodeText WRITE setCodeText DESIGNABLE false STORED false)
     Q_PROPERTY(
@@ -94,6 +95,12 @@ public:
     Q_INVOKABLE void ReInitializeStrings();
 
     // --- The point table ---
+
+    // The column that users edit in place, with the events of label editing: 0, the
+    // number, at first. 1 makes the names of points editable. In a table without such a
+    // column it is 0.
+    qint16 labelColumn() const;
+    void setLabelColumn(qint16 Index);
 
     // How many rows a change of type creates. Setting it builds the current type anew;
     // a negative count is kept, and counts as 0.

@@ -104,6 +104,16 @@ void ORVListView::StartLabelEdit()
     d->list->StartLabelEdit();
 }
 
+qint16 ORVListView::labelColumn() const
+{
+    return d->list->labelColumn();
+}
+
+void ORVListView::setLabelColumn(qint16 Index)
+{
+    d->list->setLabelColumn(Index);
+}
+
 void ORVListView::Refresh()
 {
     d->list->Refresh();
