@@ -31,10 +31,12 @@ class RichTextBox;
 class ORVT_EXPORT ORVListView : public Component
 {
     Q_OBJECT
-    Q_PROPERTY(QString Caption READ Caption WRITE setCaption NOTIFY captionChanged)
-    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
+    // The type comes first, as forms set properties in this order and a type brings
+    // its own caption.
     Q_PROPERTY(ORVTListview::LwType ListviewType READ ListviewType WRITE setListviewType NOTIFY
                    listviewTypeChanged)
+    Q_PROPERTY(QString Caption READ Caption WRITE setCaption NOTIFY captionChanged)
+    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
     Q_PROPERTY(bool MultiSelect READ MultiSelect WRITE setMultiSelect NOTIFY multiSelectChanged)
 
     Q_PROPERTY(ORVTListview::LwType CurrentType READ CurrentType NOTIFY listviewTypeChanged

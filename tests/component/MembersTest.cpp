@@ -3,6 +3,8 @@
 #include "combo/ORVDataCombo.h"
 #include "pointtable/ORVListView.h"
 #include "richtext/ORVRichText.h"
+#include "shared/SettingsStore.h"
+#include "support/TestFolder.h"
 #include "support/WidgetTest.h"
 #include "tree/ORVTreeview.h"
 
@@ -126,6 +128,8 @@ class MembersTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() override;
+
     void agreeWithTheList_data() { components(); }
     void agreeWithTheList();
     void areInTheMetaObject_data() { components(); }
@@ -138,6 +142,8 @@ private Q_SLOTS:
     void haveEventNumbersInOrder();
 
 private:
+    TestFolder m_settings; // the tree saves its pages
+
     static void components();
     static std::unique_ptr<Component> component()
     {
@@ -145,6 +151,12 @@ private:
         return std::unique_ptr<Component>(factory());
     }
 };
+
+void MembersTest::init()
+{
+    WidgetTest::init();
+    setSettingsFile(m_settings.path(u"settings"_s));
+}
 
 void MembersTest::components()
 {
