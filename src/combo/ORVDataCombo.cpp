@@ -45,7 +45,7 @@ struct ORVDataCombo::Private
 };
 
 ORVDataCombo::ORVDataCombo(QWidget *parent)
-    : QWidget(parent)
+    : Component(parent)
 {
     d = std::make_unique<Private>(*this);
     setFocusProxy(d->combo);

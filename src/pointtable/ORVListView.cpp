@@ -1,14 +1,14 @@
 #include "pointtable/ORVListView.h"
 
 #include "editor/Vocabulary.h"
-#include "pointtable/ColumnLayouts.h"
-#include "pointtable/ORVListViewParts.h"
 #include "find/FindDialog.h"
 #include "find/WordReplacing.h"
 #include "platform/ImageList.h"
 #include "platform/PictureBox.h"
 #include "platform/ReportList.h"
 #include "platform/RichTextBox.h"
+#include "pointtable/ColumnLayouts.h"
+#include "pointtable/ORVListViewParts.h"
 #include "shared/DisplayNames.h"
 #include "shared/HostForms.h"
 #include "shared/Pictures.h"
@@ -78,7 +78,7 @@ void ORVListView::Private::layOut()
 }
 
 ORVListView::ORVListView(QWidget *parent)
-    : QWidget(parent)
+    : Component(parent)
     , d(std::make_unique<Private>(*this))
 {
     auto *timerWidth = new QTimer(this); // published, without duties
