@@ -211,6 +211,7 @@ void fFind::arrange()
     const QSize needed = layout()->totalMinimumSize();
     setFixedHeight(std::max(height, needed.height()));
     setMinimumWidth(needed.width());
+    layout()->activate();
 }
 
 void fFind::reserveWidths()
