@@ -24,8 +24,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int rowCount = 32767;
-constexpr int columnCount = 14;
+constexpr int rowTotal = 32767;
+constexpr int columnTotal = 14;
 constexpr int updatedColumn = 3;
 constexpr int repetitions = 7;
 
@@ -47,9 +47,9 @@ QString cellText(int row, int column)
 const QList<QStringList> &texts()
 {
     static const QList<QStringList> made = [] {
-        QList<QStringList> rows(rowCount);
-        for (int row = 0; row < rowCount; ++row) {
-            for (int column = 0; column < columnCount; ++column)
+        QList<QStringList> rows(rowTotal);
+        for (int row = 0; row < rowTotal; ++row) {
+            for (int column = 0; column < columnTotal; ++column)
                 rows[row].append(cellText(row, column));
         }
         return rows;
@@ -62,14 +62,14 @@ class Ours final : public ReportList
 public:
     Ours()
     {
-        for (int column = 0; column < columnCount; ++column)
+        for (int column = 0; column < columnTotal; ++column)
             ColumnHeaders()->Add(0, QString::number(column), u"Column"_s);
     }
 
     void create()
     {
-        QList<RowContent> contents(rowCount);
-        for (int row = 0; row < rowCount; ++row) {
+        QList<RowContent> contents(rowTotal);
+        for (int row = 0; row < rowTotal; ++row) {
             contents[row].key = u"Inputs"_s + texts().at(row).first();
             contents[row].text = texts().at(row).first();
             contents[row].subItems = texts().at(row).mid(1);
@@ -92,7 +92,7 @@ class Tree final : public QTreeWidget
 public:
     Tree()
     {
-        setColumnCount(columnCount);
+        setColumnCount(columnTotal);
         setRootIsDecorated(false);
         setUniformRowHeights(true);
         header()->setResizeContentsPrecision(-1); // every row
@@ -101,7 +101,7 @@ public:
     void create()
     {
         QList<QTreeWidgetItem *> items;
-        items.reserve(rowCount);
+        items.reserve(rowTotal);
         for (const QStringList &row : texts())
             items.append(new QTreeWidgetItem(row));
         addTopLevelItems(items);
@@ -110,14 +110,14 @@ public:
     {
         const QString text = u"off"_s;
         const QString tag = u"0"_s;
-        for (int row = 0; row < rowCount; ++row) {
+        for (int row = 0; row < rowTotal; ++row) {
             topLevelItem(row)->setText(updatedColumn, text);
             topLevelItem(row)->setData(updatedColumn, Qt::UserRole, tag);
         }
     }
     void fit()
     {
-        for (int column = 0; column < columnCount; ++column)
+        for (int column = 0; column < columnTotal; ++column)
             resizeColumnToContents(column);
     }
 
@@ -133,15 +133,15 @@ class Table final : public QTableWidget
 public:
     Table()
     {
-        setColumnCount(columnCount);
+        setColumnCount(columnTotal);
         horizontalHeader()->setResizeContentsPrecision(-1); // every row
     }
 
     void create()
     {
-        setRowCount(rowCount);
-        for (int row = 0; row < rowCount; ++row) {
-            for (int column = 0; column < columnCount; ++column)
+        setRowCount(rowTotal);
+        for (int row = 0; row < rowTotal; ++row) {
+            for (int column = 0; column < columnTotal; ++column)
                 setItem(row, column, new QTableWidgetItem(texts().at(row).at(column)));
         }
     }
@@ -149,7 +149,7 @@ public:
     {
         const QString text = u"off"_s;
         const QString tag = u"0"_s;
-        for (int row = 0; row < rowCount; ++row) {
+        for (int row = 0; row < rowTotal; ++row) {
             item(row, updatedColumn)->setText(text);
             item(row, updatedColumn)->setData(Qt::UserRole, tag);
         }
@@ -222,8 +222,8 @@ void checkList(const QString &name)
     timedPainted(list, &List::update);
     timedPainted(list, &List::fit);
     bool right = true;
-    for (int row = 0; row < rowCount; ++row) {
-        for (int column = 0; column < columnCount; ++column)
+    for (int row = 0; row < rowTotal; ++row) {
+        for (int column = 0; column < columnTotal; ++column)
             right = right && list.text(row, column) ==
                                  (column == updatedColumn ? u"off"_s : cellText(row, column));
         right = right && list.tag(row) == u"0"_s;

@@ -13,7 +13,10 @@ namespace ORVTListview {
 
 class CheckResults;
 class EditMenu;
+class Languages;
 class ProgramSaving;
+class PointChooser;
+class PointTables;
 class Project;
 struct ProgramReport;
 
@@ -23,12 +26,16 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    // The languages outlive the window.
+    explicit MainWindow(Languages &languages, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     // Shows the project. What is shown goes without a question. Raises Error and
     // keeps what is shown when the file cannot be read.
     void openProject(const QString &fileName);
+
+    // Shows the program, or the table of a type.
+    void showType(LwType type);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -36,13 +43,22 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void arrange();
     void buildMenus();
     void buildFileMenu();
+    void buildEditMenu();
     void buildProgramMenu();
+    void buildPointsMenu();
+    void buildViewMenu();
     void buildStatusBar();
     void connectEditor();
+    void connectPoints();
+    void followTree(const Node *node);
+    void takePoint(LwType type, const QString &name);
+    void followName(LwType type, const QString &former, const QString &name);
     void chooseProject();
     void handOverVocabulary();
+    void applyFunctionWords();
     void showProgram();
     void applyAppearance();
     void followPalette();
@@ -52,12 +68,15 @@ private:
     void goTo(const QString &word, qint32 line);
     void showPosition();
     void showProgramInfo();
+    void retranslate();
 
+    Languages &m_languages;
     std::unique_ptr<Project> m_project;
-    ORVTreeview *m_vocabulary;
+    PointChooser *m_points; // made in the order of the Tab key
+    ORVTreeview *m_tree;
     ORVListView *m_code;
+    PointTables *m_tables;
     ProgramSaving *m_saving;
-    EditMenu *m_editMenu;
     CheckResults *m_results;
     QLabel *m_programInfo;
     QLabel *m_position;

@@ -45,7 +45,7 @@ struct ORVDataCombo::Private
 };
 
 ORVDataCombo::ORVDataCombo(QWidget *parent)
-    : QWidget(parent)
+    : Component(parent)
 {
     d = std::make_unique<Private>(*this);
     setFocusProxy(d->combo);
@@ -165,7 +165,8 @@ void ORVDataCombo::ReInitializeStrings()
 
 void ORVDataCombo::ReadProperties(const PropertyBag &Bag)
 {
-    setText(Bag.ReadProperty(u"Text"_s, QString()).toString());
+    const QVariant text = Bag.ReadProperty(u"Text"_s, QString());
+    setText(text.toString());
     setEnabled(Bag.ReadProperty(u"Enabled"_s, true).toBool());
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
+#include <ORVTListview/Component.h>
 #include <ORVTListview/DataObject.h>
 #include <ORVTListview/Export.h>
 #include <ORVTListview/PointCollection.h>
 #include <ORVTListview/PropertyBag.h>
 #include <ORVTListview/Types.h>
-
-#include <QtWidgets/QWidget>
 
 #include <memory>
 
@@ -24,7 +23,7 @@ namespace ORVTListview {
 // Init_RichTextBox, from the choice on. It is the host's business that the colour
 // can be read on the theme's background; before any Init_RichTextBox on the thread
 // the text has the theme's own colour.
-class ORVT_EXPORT ORVDataCombo : public QWidget
+class ORVT_EXPORT ORVDataCombo : public Component
 {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText)
@@ -36,6 +35,8 @@ class ORVT_EXPORT ORVDataCombo : public QWidget
 public:
     explicit ORVDataCombo(QWidget *parent = nullptr);
     ~ORVDataCombo() override;
+
+    const MemberTable &Members() const override;
 
     // Shows the points of the type from the collections that were given to
     // ORVTreeview::SetCollectionRenamable: dsVariable, dsConst, dsInput or dsOutput.

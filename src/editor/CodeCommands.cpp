@@ -5,6 +5,7 @@
 #include "editor/UndoStore.h"
 #include "platform/AccessKeys.h"
 #include "platform/RichTextBox.h"
+#include "platform/TextPiece.h"
 #include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
@@ -77,6 +78,11 @@ void CodeCommands::remove()
 void CodeCommands::selectAll()
 {
     m_editor.RTextSelectAll();
+}
+
+void CodeCommands::replace(const QList<TextPiece> &pieces, const QString &text)
+{
+    m_editor.replace(pieces, text, CodeEditor::Replacing::InColours);
 }
 
 void CodeCommands::undo()

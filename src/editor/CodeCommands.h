@@ -20,6 +20,7 @@ public:
     void cut() override;
     void remove() override;
     void selectAll() override;
+    void replace(const QList<TextPiece> &pieces, const QString &text) override;
     void undo() override;
     void redo() override;
     void leave(bool forwards) override;

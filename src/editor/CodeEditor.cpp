@@ -1,7 +1,9 @@
 #include "editor/CodeEditor.h"
 
+#include "editor/CaretPosition.h"
 #include "editor/CheckedPaste.h"
 #include "editor/CodeCommands.h"
+#include "editor/CodeReplacing.h"
 #include "editor/ColourText.h"
 #include "editor/EditorState.h"
 #include "editor/RtfHead.h"
@@ -12,9 +14,9 @@
 #include "platform/ReportList.h"
 #include "platform/RichTextBox.h"
 #include "platform/RtfReader.h"
+#include "platform/TextPiece.h"
 #include "platform/TextRules.h"
 #include "shared/HostForms.h"
-#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
 
 #include <QtCore/QScopeGuard>
@@ -219,13 +221,21 @@ void CodeEditor::Redo(QString &ErrMsg)
         m_colouring.forgetEdit();
 }
 
+void CodeEditor::replace(const QList<TextPiece> &pieces, const QString &text, Replacing how)
+{
+    if (pieces.isEmpty())
+        return;
+    PushUndoSnapshot();
+    if (how == Replacing::InColours)
+        replaceInColours(*m_box, pieces, text);
+    else
+        m_box->replacePieces(pieces, text);
+    m_box->ensureCursorVisible();
+}
+
 QString CodeEditor::GetPositionDisplay() const
 {
-    const qint32 caret = m_box->SelStart();
-    const qint32 line = m_box->GetLineFromChar(caret);
-    const QString row = QString::number(line + 1);
-    const QString column = QString::number(caret - m_box->lineStart(line) + 1);
-    return Localise(u"Row:"_s) + u' ' + row + Localise(u", Col:"_s) + u' ' + column;
+    return positionDisplay(*m_box);
 }
 
 QString CodeEditor::GetWholeWord(qint32 StartIndex, qint32 &WordStartIndex, qint32 &Color) const

@@ -21,6 +21,7 @@ namespace ORVTListview {
 
 class ReportList;
 class RichTextBox;
+struct TextPiece;
 
 // The code face: a rich-text box that holds a controller program and shows every
 // word in the colour of its class. It owns the rules, its host widget the box.
@@ -62,6 +63,11 @@ public:
     bool bringBackKeptText();
     bool canBringBackKeptText() const { return m_undo.canBringBackKeptText(); }
     void clearUndoHistory() { m_undo.clearHistory(); }
+
+    // Puts a text in the place of pieces of the program, after a snapshot. Pieces as
+    // for RichTextBox::replacePieces.
+    enum class Replacing { InColours, InTheColoursThere };
+    void replace(const QList<TextPiece> &pieces, const QString &text, Replacing how);
 
     QString GetPositionDisplay() const;
     QString GetWholeWord(qint32 StartIndex, qint32 &WordStartIndex, qint32 &Color) const;

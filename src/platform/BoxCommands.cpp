@@ -1,6 +1,7 @@
 #include "platform/BoxCommands.h"
 
 #include "platform/RichTextBox.h"
+#include "platform/TextPiece.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QAction>
@@ -64,6 +65,11 @@ void BoxCommands::selectAll()
 {
     m_box.setSelStart(0);
     m_box.setSelLength(m_box.TextLength());
+}
+
+void BoxCommands::replace(const QList<TextPiece> &pieces, const QString &text)
+{
+    m_box.replacePieces(pieces, text);
 }
 
 void BoxCommands::undo() {}

@@ -4,6 +4,8 @@
 
 #include <ORVTListview/Export.h>
 
+#include <QtCore/QList>
+
 #include <optional>
 
 class QMenu;
@@ -13,6 +15,7 @@ class QString;
 namespace ORVTListview {
 
 class RichTextBox;
+struct TextPiece;
 
 // What every way into and out of a box ends in: typed keys, shortcuts, context
 // menu, drag and drop, middle click, input method. This is a plain editor; an
@@ -41,6 +44,10 @@ public:
     virtual void cut();
     virtual void remove(); // the selection
     virtual void selectAll();
+
+    // One text in the place of pieces of the text, as replacePieces of the box.
+    virtual void replace(const QList<TextPiece> &pieces, const QString &text);
+
     virtual void undo(); // does nothing here
     virtual void redo(); // does nothing here
 

@@ -101,8 +101,8 @@ public:
     bool MultiSelect() const;
     void setMultiSelect(bool MultiSelect);
 
-    // Raises BeforeLabelEdit and edits the text of the selected row in place;
-    // without one, nothing.
+    // Raises BeforeLabelEdit and edits the label of the selected row in place;
+    // without one, nothing. See labelColumn.
     void StartLabelEdit();
 
     // Paints at once.
@@ -132,6 +132,12 @@ public:
     // Whether users can begin to edit a label; StartLabelEdit always can.
     bool editsLabels() const;
     void setEditsLabels(bool on);
+
+    // The column that label editing edits, counted from 0: 0, the row's own text, at
+    // first. While the list has no such column it is 0. Raises Error
+    // (SubscriptOutOfRange) below 0.
+    qint16 labelColumn() const;
+    void setLabelColumn(qint16 Index);
 
     bool isHeaderVisible() const;
     void setHeaderVisible(bool visible);
@@ -226,6 +232,7 @@ private:
     void copySelection() const;
     void noteLabel(int position, const QString &text);
     void finishLabelEdit();
+    void setLabel(ListItem &item, const QString &label);
 
     std::unique_ptr<ReportListParts> d;
 };

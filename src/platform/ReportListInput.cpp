@@ -233,7 +233,7 @@ bool ReportList::raiseMouse(MouseSignal signal, const QMouseEvent &event)
 // A label that a slow click edits: of the one row that is selected already.
 bool ReportList::isChosenLabel(const QModelIndex &index) const
 {
-    return d->editsLabels && index.isValid() && index.column() == 0 &&
+    return d->editsLabels && index.isValid() && index.column() == labelColumn() &&
            d->rowChoice.selectedPositions() == QList<int>{index.row()};
 }
 

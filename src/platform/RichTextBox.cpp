@@ -25,16 +25,6 @@ qint32 advance(qint32 position, qint32 length)
     return first + std::clamp(length, 0, std::numeric_limits<qint32>::max() - first);
 }
 
-// What the next character gets that replaces the cursor's selection.
-QTextCharFormat formatAt(const QTextCursor &cursor)
-{
-    if (!cursor.hasSelection())
-        return cursor.charFormat();
-    QTextCursor first(cursor);
-    first.setPosition(cursor.selectionStart() + 1);
-    return first.charFormat();
-}
-
 } // namespace
 
 RichTextBox::RichTextBox(QWidget *parent)
@@ -52,6 +42,16 @@ RichTextBox::RichTextBox(QWidget *parent)
 }
 
 RichTextBox::~RichTextBox() = default;
+
+// What the next character gets that replaces the cursor's selection.
+QTextCharFormat RichTextBox::Parts::formatAt(const QTextCursor &cursor)
+{
+    if (!cursor.hasSelection())
+        return cursor.charFormat();
+    QTextCursor first(cursor);
+    first.setPosition(cursor.selectionStart() + 1);
+    return first.charFormat();
+}
 
 // The toolkit tells of edits that changed nothing, too.
 void RichTextBox::noteTextChange()
@@ -148,7 +148,7 @@ QString RichTextBox::textOf(const QTextCursor &selection) const
 void RichTextBox::setSelText(const QString &text)
 {
     QTextCursor cursor = textCursor();
-    const QTextCharFormat format = formatAt(cursor);
+    const QTextCharFormat format = Parts::formatAt(cursor);
     cursor.beginEditBlock();
     cursor.removeSelectedText();
     BoxMarks::insert(cursor, text, format);
@@ -182,7 +182,7 @@ void RichTextBox::setSelRTF(const QString &rtf)
 
 qint32 RichTextBox::SelColor() const
 {
-    return std::max(0, BoxFormats::colour(formatAt(textCursor())));
+    return std::max(0, BoxFormats::colour(Parts::formatAt(textCursor())));
 }
 
 void RichTextBox::setSelColor(qint32 colour)

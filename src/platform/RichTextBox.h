@@ -11,6 +11,7 @@ namespace ORVTListview {
 
 class BoxCommands;
 struct ColouredText;
+struct TextPiece;
 
 // A box for plain and rich text, without word wrap and without an undo of its own.
 //
@@ -129,6 +130,14 @@ public:
     void setColoured(const ColouredText &text);
     void setSelColoured(const ColouredText &text);
 
+    // Puts a text, or each piece its own, in the place of pieces of the text, which
+    // follow each other without overlapping. All of it is one change, and so is what
+    // `finish` recolours. Plain text takes the format of the first character that it
+    // replaces. The caret ends behind the last text; without pieces nothing happens.
+    void replacePieces(const QList<TextPiece> &pieces, const QString &text);
+    void replacePieces(const QList<TextPiece> &pieces, const QList<ColouredText> &texts,
+                       const std::function<void()> &finish = {});
+
     // Gives the text from start on the colours and the letter case of `text`,
     // which is as long as the text it covers. Caret, selection and scroll position
     // stay, Change is not raised, and what is right already is not touched. Line
@@ -189,12 +198,15 @@ private:
     using QPlainTextEdit::undo;
 
     struct Parts;
+    using PutPiece = std::function<void(QTextCursor &cursor, qsizetype index)>;
 
     void select(int anchor, int position);
     QPalette paletteAround() const;
     void applyBackColor();
     void noteTextChange();
     void replaceAll(const std::function<void()> &insert);
+    void replaceEach(const QList<TextPiece> &pieces, const PutPiece &put,
+                     const std::function<void()> &finish = {});
     bool announceKey(const QKeyEvent &event);
     bool runShortcut(const QKeyEvent &event);
     void act(QKeyEvent *event);

@@ -21,6 +21,8 @@ struct RichTextBox::Parts
     {
     }
 
+    static QTextCharFormat formatAt(const QTextCursor &cursor);
+
     BoxText text;
     BoxFormats formats;
     qint32 backColor = Colours::windowBackground;

@@ -138,4 +138,11 @@ QString withCrLf(const QString &text)
     return result;
 }
 
+QString asInBox(QString text)
+{
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    text.remove(QChar::Null);
+    return withCrLf(text);
+}
+
 } // namespace ORVTListview

@@ -28,4 +28,8 @@ ORVT_CORE_EXPORT void foldCase(QStringView text, char16_t *folded);
 // The text with every line end (CR LF, CR or LF) written as CR LF.
 ORVT_CORE_EXPORT QString withCrLf(const QString &text);
 
+// The text as a rich-text box gives it back: every line end, U+2029 too, as CR LF,
+// and no NUL.
+ORVT_CORE_EXPORT QString asInBox(QString text);
+
 } // namespace ORVTListview

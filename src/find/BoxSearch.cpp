@@ -1,0 +1,69 @@
+#include "find/BoxSearch.h"
+
+#include "find/ProgramSearch.h"
+#include "platform/BoxCommands.h"
+#include "platform/TextPiece.h"
+#include "platform/TextRules.h"
+
+namespace ORVTListview {
+
+void BoxSearch::begin(RichTextBox &box)
+{
+    m_box = &box;
+    m_start = box.SelStart() + 1;
+    m_options = RichTextBox::FindNoHighlight;
+}
+
+TextSearch BoxSearch::how() const
+{
+    return {m_options.testFlag(RichTextBox::FindWholeWord),
+            m_options.testFlag(RichTextBox::FindMatchCase)};
+}
+
+bool BoxSearch::findNext(const QString &wanted)
+{
+    if (!m_box || wanted.isEmpty())
+        return false;
+    const QString text = asInBox(wanted);
+    const auto place = static_cast<qint32>(findInProgram(m_box->Text(), text, m_start, how()));
+    if (place < 0) {
+        m_box->setSelLength(0);
+        m_start = 0;
+        return false;
+    }
+    const auto length = static_cast<qint32>(text.size());
+    m_box->setSelStart(place);
+    m_box->setSelLength(length);
+    m_box->ensureCursorVisible();
+    m_start = place + length;
+    return true;
+}
+
+void BoxSearch::replace(const QString &wanted, const QString &text)
+{
+    if (!m_box || wanted.isEmpty() ||
+        m_box->SelText().compare(asInBox(wanted), Qt::CaseInsensitive) != 0)
+        return;
+    m_box->commands().replace({{m_box->SelStart(), m_box->SelLength()}}, text);
+    if (m_box)
+        m_start = m_box->SelStart() + 1; // the caret stands behind the new text
+}
+
+qsizetype BoxSearch::replaceAll(const QString &wanted, const QString &text)
+{
+    if (!m_box)
+        return 0;
+    const QString searched = asInBox(wanted);
+    const QList<qsizetype> places = placesToReplace(m_box->Text(), searched, how());
+    QList<TextPiece> pieces;
+    pieces.reserve(places.size());
+    for (const qsizetype place : places)
+        pieces.append({static_cast<qint32>(place), static_cast<qint32>(searched.size())});
+    if (!pieces.isEmpty())
+        m_box->commands().replace(pieces, text);
+    if (m_box)
+        m_box->setSelLength(0);
+    return places.size();
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,97 @@
+#include "find/FindDialog.h"
+
+#include "find/fFind.h"
+#include "platform/Failure.h"
+#include "shared/TextTable.h"
+#include "shared/ThreadState.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QScopeGuard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QWindow>
+
+#include <memory>
+
+namespace ORVTListview {
+namespace {
+
+struct SharedDialog
+{
+    // A widget cannot outlive the application object, nor be destroyed after it.
+    ~SharedDialog()
+    {
+        if (!QCoreApplication::instance())
+            static_cast<void>(dialog.release());
+    }
+
+    std::unique_ptr<fFind> dialog;
+    bool isModal = false;
+};
+
+void destroyWithApplication()
+{
+    threadPart<SharedDialog>().dialog.reset();
+}
+
+void resetPointer()
+{
+    while (QGuiApplication::overrideCursor())
+        QGuiApplication::restoreOverrideCursor();
+}
+
+// Window managers keep it above the window and on its desktop.
+void putAbove(const QWidget &window, fFind &dialog)
+{
+    dialog.winId(); // makes its window
+    dialog.windowHandle()->setTransientParent(window.windowHandle());
+}
+
+void openModally(RichTextBox &box, bool isReplace)
+{
+    fFind &dialog = FindDialog::shared();
+    auto &state = threadPart<SharedDialog>();
+    dialog.Open(box, isReplace);
+    resetPointer();
+    if (state.isModal) {
+        dialog.activateWindow();
+        return;
+    }
+    dialog.hide(); // if it was shown beside an editor
+    putAbove(*box.window(), dialog);
+    state.isModal = true;
+    const auto closed = qScopeGuard([&state] { state.isModal = false; });
+    dialog.exec();
+}
+
+} // namespace
+
+fFind &FindDialog::shared()
+{
+    auto &state = threadPart<SharedDialog>();
+    if (!state.dialog) {
+        state.dialog = std::make_unique<fFind>();
+        qAddPostRoutine(destroyWithApplication);
+    }
+    return *state.dialog;
+}
+
+void FindDialog::showModally(RichTextBox &box, bool isReplace, QString &ErrMsg)
+{
+    const QString failure = failureOf([&] { openModally(box, isReplace); });
+    if (!failure.isEmpty())
+        ErrMsg = Localise(failure);
+}
+
+void FindDialog::showBeside(RichTextBox &box, bool isReplace)
+{
+    fFind &dialog = shared();
+    dialog.Open(box, isReplace);
+    if (threadPart<SharedDialog>().isModal)
+        return;
+    putAbove(*box.window(), dialog);
+    dialog.show();
+    dialog.raise();
+    dialog.activateWindow();
+}
+
+} // namespace ORVTListview

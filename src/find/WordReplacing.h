@@ -1,0 +1,14 @@
+#pragma once
+
+class QString;
+
+namespace ORVTListview {
+
+class CodeEditor;
+
+// Replaces a word of the program throughout, as one action under the wait cursor.
+// Raises nothing: ErrMsg receives the description of a failure.
+void replaceWord(CodeEditor &editor, const QString &word, const QString &text, bool inColours,
+                 QString &ErrMsg);
+
+} // namespace ORVTListview

@@ -1,0 +1,233 @@
+#include "find/fFind.h"
+
+#include "editor/CaretPosition.h"
+#include "find/SearchHistory.h"
+#include "platform/Failure.h"
+#include "platform/MessageService.h"
+#include "platform/PlainToolTip.h"
+#include "shared/TextTable.h"
+#include "shared/ThreadState.h"
+
+#include <QtCore/QScopeGuard>
+#include <QtGui/QAccessible>
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QStatusBar>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A text over several lines is no search text.
+QString searchTextOf(const RichTextBox &box)
+{
+    const QString selected = box.SelText();
+    return selected.contains(u'\n') ? QString() : selected;
+}
+
+void showText(QComboBox &combo, const QString &text)
+{
+    combo.setCurrentIndex(-1);
+    combo.setEditText(text);
+}
+
+} // namespace
+
+fFind::fFind(QWidget *parent)
+    : QDialog(parent)
+{
+    makeControls();
+    layOut();
+    connectControls();
+    InitStrings();
+    setMode(Mode::Find);
+}
+
+fFind::~fFind() = default;
+
+void fFind::connectControls()
+{
+    const std::array<Action, 4> actions{&fFind::findNext, nullptr, &fFind::replace,
+                                        &fFind::replaceAll};
+    for (std::size_t i = 0; i < actions.size(); ++i) {
+        if (actions[i])
+            connect(m_Cmd[i], &QPushButton::clicked, this, [this, act = actions[i]] { run(act); });
+    }
+    connect(m_Cmd[1], &QPushButton::clicked, this, &fFind::reject);
+    const std::array options{RichTextBox::FindWholeWord, RichTextBox::FindMatchCase};
+    for (std::size_t i = 0; i < options.size(); ++i) {
+        connect(m_Chk[i], &QCheckBox::toggled, this,
+                [this, option = options[i]](bool on) { m_search.setOption(option, on); });
+        m_Chk[i]->installEventFilter(this);
+    }
+}
+
+void fFind::Open(RichTextBox &Target, bool IsReplace)
+{
+    watch(Target);
+    m_search.begin(Target);
+    for (QCheckBox *option : m_Chk)
+        option->setChecked(false);
+    m_StatusBar1->clearMessage();
+    InitStrings();
+    setMode(IsReplace ? Mode::Replace : Mode::Find);
+    auto &histories = threadPart<SearchHistories>();
+    fill(*m_Cbo[0], histories.searched, searchTextOf(Target));
+    if (isReplaceMode())
+        fill(*m_Cbo[1], histories.replacements, {});
+    noteReadOnly();
+    m_Cbo[0]->setFocus();
+    m_Cbo[0]->lineEdit()->selectAll();
+}
+
+void fFind::watch(RichTextBox &target)
+{
+    unwatch();
+    target.installEventFilter(this);
+    connect(&target, &QObject::destroyed, this, &fFind::reject);
+}
+
+void fFind::unwatch()
+{
+    if (RichTextBox *box = m_search.box()) {
+        box->removeEventFilter(this);
+        disconnect(box, &QObject::destroyed, this, nullptr);
+    }
+    m_search.end();
+}
+
+void fFind::done(int result)
+{
+    unwatch();
+    m_isPlaced = false;
+    QDialog::done(result);
+}
+
+bool fFind::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_search.box()) {
+        if (event->type() == QEvent::Hide && !event->spontaneous())
+            reject();
+        else if (event->type() == QEvent::ReadOnlyChange)
+            noteReadOnly();
+    } else if (event->type() == QEvent::ToolTip) {
+        auto &option = *qobject_cast<QWidget *>(watched);
+        showPlainToolTip(static_cast<const QHelpEvent &>(*event), option.toolTip(), option);
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void fFind::noteReadOnly()
+{
+    const bool canChange = m_search.box() && !m_search.box()->isReadOnly();
+    m_Cmd[2]->setEnabled(canChange || !isReplaceMode());
+    m_Cmd[3]->setEnabled(canChange);
+}
+
+void fFind::setMode(Mode mode)
+{
+    if (mode == m_mode)
+        return;
+    m_mode = mode;
+    showMode();
+    noteReadOnly();
+    if (isVisible())
+        stayClear();
+}
+
+// Failures of an action go to the user; the dialog stays open.
+void fFind::run(Action action)
+{
+    const QString errMsg = failureOf([&] { (this->*action)(); });
+    if (!errMsg.isEmpty())
+        threadPart<Messages>().service().show(
+            {Message::Icon::Exclamation, Localise(u"Find - Replace"_s), Localise(errMsg)});
+}
+
+QString fFind::searched() const
+{
+    return m_Cbo[0]->currentText();
+}
+
+void fFind::findNext()
+{
+    if (searched().isEmpty() || !m_search.box())
+        return;
+    if (m_search.findNext(searched())) {
+        tell(Localise(u"Found in"_s) + u' ' + positionDisplay(*m_search.box()));
+        stayClear();
+    } else {
+        tell(Localise(u"Not found!"_s));
+    }
+    remember(*m_Cbo[0], threadPart<SearchHistories>().searched);
+}
+
+void fFind::replace()
+{
+    if (!isReplaceMode()) {
+        setMode(Mode::Replace);
+        fill(*m_Cbo[1], threadPart<SearchHistories>().replacements, {});
+        m_Cbo[1]->setFocus();
+        return;
+    }
+    if (searched().isEmpty())
+        return;
+    m_search.replace(searched(), m_Cbo[1]->currentText());
+    remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);
+    findNext();
+}
+
+void fFind::replaceAll()
+{
+    if (!m_search.box())
+        return;
+    if (searched().isEmpty()) {
+        m_search.box()->setSelLength(0);
+        return;
+    }
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+    remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);
+    const qsizetype count = m_search.replaceAll(searched(), m_Cbo[1]->currentText());
+    tell(QString::number(count) + u' ' + Localise(u"replace(s)!"_s));
+    stayClear();
+}
+
+// A screen reader is told of the same result again, too.
+void fFind::tell(const QString &result)
+{
+    const bool isRepeated = m_StatusBar1->currentMessage() == result;
+    m_StatusBar1->showMessage(result);
+    if (isRepeated) {
+        QAccessibleEvent named(m_StatusBar1, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&named);
+    }
+    QAccessibleEvent alert(m_StatusBar1, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+// Shows the text, which becomes an entry if it is none yet.
+void fFind::fill(QComboBox &combo, SearchHistory &history, const QString &text)
+{
+    combo.clear();
+    combo.addItems(history.texts());
+    showText(combo, text);
+    remember(combo, history);
+}
+
+void fFind::remember(QComboBox &combo, SearchHistory &history)
+{
+    const QString text = combo.currentText();
+    if (!history.add(text))
+        return;
+    combo.addItem(text);
+    combo.setCurrentIndex(combo.count() - 1);
+}
+
+} // namespace ORVTListview
