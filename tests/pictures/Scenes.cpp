@@ -19,6 +19,7 @@ const QList<Scene> &scenes()
 {
     static const QList<Scene> all{
         {"find", &findScene},
+        {"tree", &treeScene},
     };
     return all;
 }

@@ -35,3 +35,4 @@ struct Scene
 const QList<Scene> &scenes();
 
 void findScene(Sheet &sheet);
+void treeScene(Sheet &sheet);
