@@ -57,6 +57,11 @@ QAction *EditMenu::add(const QString &text, const QKeySequence &keys, void (Edit
 
 void EditMenu::refresh()
 {
+    const bool isCode = m_code.CurrentType() == dsCode;
+    for (QAction *action : actions())
+        action->setEnabled(isCode);
+    if (!isCode)
+        return;
     const bool hasSelection = m_code.RTextBox()->SelLength() > 0;
     m_undo->setEnabled(m_code.IsUndoAvailable());
     m_redo->setEnabled(m_code.IsRedoAvailable());

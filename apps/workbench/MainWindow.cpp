@@ -5,6 +5,8 @@
 #include "EditMenu.h"
 #include "LanguageMenu.h"
 #include "Languages.h"
+#include "PointChooser.h"
+#include "PointTables.h"
 #include "ProgramSaving.h"
 #include "ProgramText.h"
 #include "editor/CodeWordList.h"
@@ -14,6 +16,8 @@
 #include "shared/ThreadState.h"
 
 #include <ORVTListview/Error.h>
+#include <ORVTListview/Node.h>
+#include <ORVTListview/Nodes.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QEvent>
@@ -24,6 +28,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QSplitter>
 #include <QtWidgets/QStatusBar>
 
 #include <limits>
@@ -35,34 +40,52 @@ using namespace Qt::StringLiterals;
 MainWindow::MainWindow(Languages &languages, QWidget *parent)
     : QMainWindow(parent)
     , m_languages(languages)
-    , m_vocabulary(new ORVTreeview(this))
+    , m_points(new PointChooser(this))
+    , m_tree(new ORVTreeview(this))
     , m_code(new ORVListView(this))
+    , m_tables(new PointTables(*m_code))
     , m_saving(new ProgramSaving(*m_code, *this))
     , m_results(new CheckResults(*m_code->GetImage(), this))
     , m_programInfo(new QLabel(this))
     , m_position(new QLabel(this))
 {
-    m_vocabulary->hide();
     m_code->setListviewType(dsCode);
-    setCentralWidget(m_code);
+    m_points->setPictures(*m_code->GetImage());
+    addToolBar(m_points);
+    arrange();
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
     buildMenus();
     buildStatusBar();
+    m_tree->InitStrings();
+    m_code->InitStrings();
     connectEditor();
+    connectPoints();
     // Queued: the menu that the language was chosen in is made anew.
     connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
-    resize(1000, 700);
+    resize(1100, 700);
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::arrange()
+{
+    auto *sides = new QSplitter(this);
+    sides->setChildrenCollapsible(false);
+    sides->addWidget(m_tree);
+    sides->addWidget(m_code);
+    sides->setStretchFactor(1, 1);
+    sides->setSizes({fontMetrics().averageCharWidth() * 42, width()});
+    setCentralWidget(sides);
+}
 
 void MainWindow::buildMenus()
 {
     buildFileMenu();
     buildEditMenu();
     buildProgramMenu();
+    buildPointsMenu();
     buildViewMenu();
 }
 
@@ -98,6 +121,17 @@ void MainWindow::buildProgramMenu()
     program->addAction(results);
 }
 
+void MainWindow::buildPointsMenu()
+{
+    QMenu *points = menuBar()->addMenu(tr("P&oints"));
+    points->addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), this,
+                      [this] { m_tables->read(m_code->CurrentType()); });
+    QAction *rename = points->addAction(tr("Re&name"), m_tables, &PointTables::editName);
+    rename->setShortcut(QKeySequence(Qt::Key_F2));
+    rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
+    points->addAction(tr("&Fit Columns"), m_tables, &PointTables::fitColumns);
+}
+
 void MainWindow::buildViewMenu()
 {
     QMenu *view = menuBar()->addMenu(tr("&View"));
@@ -122,6 +156,72 @@ void MainWindow::connectEditor()
     connect(m_results, &CheckResults::chosen, this, &MainWindow::goTo);
 }
 
+void MainWindow::connectPoints()
+{
+    connect(m_tree, &ORVTreeview::NodeClick, this, &MainWindow::followTree);
+    connect(m_points, &PointChooser::chosen, this, &MainWindow::takePoint);
+    connect(m_points, &PointChooser::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
+    connect(m_tables, &PointTables::readingStarted, this,
+            [this] { statusBar()->showMessage(tr("Reading the values…")); });
+    connect(m_tables, &PointTables::readingFinished, this,
+            [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
+    connect(m_tables, &PointTables::renamed, this, &MainWindow::followName);
+    connect(m_tables, &PointTables::refused, this,
+            [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
+}
+
+// A category shows its table or the program; the device and the pages show nothing.
+void MainWindow::followTree(const Node *node)
+{
+    const int type = node->Tag().toInt();
+    if (type >= dsCode && type <= dsOutputParam && type != m_code->CurrentType())
+        showType(static_cast<LwType>(type));
+}
+
+void MainWindow::showType(LwType type)
+{
+    if (!m_project)
+        return;
+    m_tables->show(type);
+    if (type == dsCode)
+        applyFunctionWords(); // showing the program takes SQRT out of them
+    Node *category = m_tree->Nodes()->Item(m_tree->GetItemKey(static_cast<qint16>(type)));
+    m_tree->setSelectedItem(category);
+    category->EnsureVisible();
+    m_position->setVisible(type == dsCode);
+}
+
+// In the program its name is put at the caret, elsewhere its row is shown.
+void MainWindow::takePoint(LwType type, const QString &name)
+{
+    if (m_code->CurrentType() == dsCode) {
+        QString text = name;
+        m_code->RTextPaste(text);
+    } else {
+        showType(type);
+        m_tables->goTo(name);
+    }
+    m_code->setFocus();
+}
+
+void MainWindow::followName(LwType type, const QString &former, const QString &name)
+{
+    m_code->UpdateWordListItem(former, name, type);
+    m_points->refill();
+    m_saving->noteNewNames();
+    if (!isVocabularyType(type))
+        return;
+    const auto answer = QMessageBox::question(
+        this, tr("Rename"), tr("Rename %1 to %2 in the program, too?").arg(former, name));
+    if (answer != QMessageBox::Yes)
+        return;
+    QString errMsg;
+    m_code->ReplaceRichTextBox(former, name, errMsg, true);
+    if (!errMsg.isEmpty())
+        QMessageBox::warning(this, tr("Rename"), errMsg);
+}
+
 void MainWindow::chooseProject()
 {
     const QString folder = m_project ? QFileInfo(m_project->fileName()).path() : QString();
@@ -139,24 +239,32 @@ void MainWindow::chooseProject()
 void MainWindow::openProject(const QString &fileName)
 {
     auto former = std::exchange(m_project, std::make_unique<Project>(fileName));
+    m_tables->setProject(m_project.get());
     handOverVocabulary();
+    m_points->refill();
     setWindowTitle(m_project->name() + u"[*]"_s); // the application's name is added to it
     showProgram();
 }
 
 void MainWindow::handOverVocabulary()
 {
-    m_vocabulary->SetCollectionRenamable(this, m_project->points(dsVariable),
-                                         m_project->points(dsConst), m_project->points(dsInput),
-                                         m_project->points(dsOutput), m_project->points(dsNvi));
-    m_vocabulary->setIsSqrtSupported(m_project->controller().isSqrtSupported ? u"true"_s
-                                                                             : u"false"_s);
-    m_vocabulary->setStringIndexCollection(m_project->indexedNames());
+    m_tree->SetCollectionRenamable(this, m_project->points(dsVariable), m_project->points(dsConst),
+                                   m_project->points(dsInput), m_project->points(dsOutput),
+                                   m_project->points(dsNvi));
+    applyFunctionWords();
+    m_tree->setStringIndexCollection(m_project->indexedNames());
+}
+
+void MainWindow::applyFunctionWords()
+{
+    m_tree->setIsSqrtSupported(m_project->controller().isSqrtSupported ? u"true"_s : u"false"_s);
+    m_code->RefillListviewWithWordList();
 }
 
 void MainWindow::showProgram()
 {
     m_results->hide();
+    showType(dsCode);
     m_code->ClearUndoHistory();
     m_code->setCodeText(QString());
     applyAppearance();
@@ -201,6 +309,8 @@ void MainWindow::compile()
 // The editor's own member counts lines with 16 bits.
 void MainWindow::goTo(const QString &word, qint32 line)
 {
+    if (m_code->CurrentType() != dsCode)
+        showType(dsCode);
     if (line <= std::numeric_limits<qint16>::max()) {
         QString text = word;
         auto number = static_cast<qint16>(line);
@@ -244,6 +354,11 @@ void MainWindow::retranslate()
     qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
     menuBar()->clear();
     buildMenus();
+    m_tree->ReInitializeStrings();
+    m_code->ReInitializeStrings();
+    m_points->retranslate();
+    if (m_project && m_code->CurrentType() != dsCode)
+        m_tables->fill();
     showPosition();
     showProgramInfo();
 }

@@ -15,6 +15,8 @@ class CheckResults;
 class EditMenu;
 class Languages;
 class ProgramSaving;
+class PointChooser;
+class PointTables;
 class Project;
 struct ProgramReport;
 
@@ -32,21 +34,31 @@ public:
     // keeps what is shown when the file cannot be read.
     void openProject(const QString &fileName);
 
+    // Shows the program, or the table of a type.
+    void showType(LwType type);
+
 protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void arrange();
     void buildMenus();
     void buildFileMenu();
     void buildEditMenu();
     void buildProgramMenu();
+    void buildPointsMenu();
     void buildViewMenu();
     void buildStatusBar();
     void connectEditor();
+    void connectPoints();
+    void followTree(const Node *node);
+    void takePoint(LwType type, const QString &name);
+    void followName(LwType type, const QString &former, const QString &name);
     void chooseProject();
     void handOverVocabulary();
+    void applyFunctionWords();
     void showProgram();
     void applyAppearance();
     void followPalette();
@@ -60,8 +72,10 @@ private:
 
     Languages &m_languages;
     std::unique_ptr<Project> m_project;
-    ORVTreeview *m_vocabulary;
+    PointChooser *m_points; // made in the order of the Tab key
+    ORVTreeview *m_tree;
     ORVListView *m_code;
+    PointTables *m_tables;
     ProgramSaving *m_saving;
     CheckResults *m_results;
     QLabel *m_programInfo;

@@ -165,7 +165,8 @@ void ORVDataCombo::ReInitializeStrings()
 
 void ORVDataCombo::ReadProperties(const PropertyBag &Bag)
 {
-    setText(Bag.ReadProperty(u"Text"_s, QString()).toString());
+    const QVariant text = Bag.ReadProperty(u"Text"_s, QString());
+    setText(text.toString());
     setEnabled(Bag.ReadProperty(u"Enabled"_s, true).toBool());
 }
 

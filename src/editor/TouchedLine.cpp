@@ -83,6 +83,8 @@ void TouchedLine::keepTheRest(ColouredText &line, const ColouredText &former) co
         qsizetype end = std::clamp<qsizetype>(to, 0, text.size());
         while (end < text.size() && !isBlank(text[end]))
             ++end;
+        while (end < text.size() && isBlank(text[end]))
+            ++end;
         merge.takeUpTo(start, false);
         merge.takeUpTo(end, true);
     }

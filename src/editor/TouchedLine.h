@@ -18,7 +18,7 @@ public:
     void touch(qsizetype from, qsizetype to) { m_places.append({from, to}); }
 
     // Gives the words that were not touched the letters and colours that they have.
-    // Words stand between blanks and tabs.
+    // Words stand between blanks and tabs; those behind a word have its colour.
     void keepTheRest(ColouredText &line, const ColouredText &former) const;
 
 private:

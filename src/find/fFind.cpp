@@ -137,6 +137,8 @@ void fFind::setMode(Mode mode)
     m_mode = mode;
     showMode();
     noteReadOnly();
+    if (isVisible())
+        stayClear();
 }
 
 // Failures of an action go to the user; the dialog stays open.

@@ -37,6 +37,7 @@ constexpr ModeSizes findSizes{500, 2100};
 constexpr ModeSizes replaceSizes{1000, 2600};
 
 constexpr int margin = 6; // pixels
+constexpr int topMargin = 4;
 constexpr int gap = 6;
 constexpr int usualWidth = 400;
 
@@ -104,7 +105,7 @@ void fFind::makeControls()
 void fFind::layOut()
 {
     m_fields = new QGridLayout;
-    m_fields->setContentsMargins(0, margin, 0, 0);
+    m_fields->setContentsMargins(0, topMargin, 0, 0);
     m_fields->setSpacing(gap);
     for (int i = 0; i < 2; ++i) {
         m_fields->addWidget(m_lbl[static_cast<std::size_t>(i)], i, 0);
@@ -114,6 +115,7 @@ void fFind::layOut()
     options->setContentsMargins(2 * margin, margin, 2 * margin, margin);
     for (QCheckBox *option : m_Chk)
         options->addWidget(option);
+    options->addStretch(1);
 
     auto *left = new QVBoxLayout;
     left->setSpacing(0);
@@ -135,7 +137,7 @@ void fFind::layOut()
 QLayout *fFind::buttonColumn()
 {
     auto *column = new QVBoxLayout;
-    column->setContentsMargins(0, margin, 0, margin);
+    column->setContentsMargins(0, topMargin, 0, margin);
     column->setSpacing(gap);
     for (QPushButton *button : m_Cmd)
         column->addWidget(button);
@@ -209,6 +211,7 @@ void fFind::arrange()
     const QSize needed = layout()->totalMinimumSize();
     setFixedHeight(std::max(height, needed.height()));
     setMinimumWidth(needed.width());
+    layout()->activate();
 }
 
 void fFind::reserveWidths()

@@ -62,7 +62,7 @@ void NodeTree::setUpConnections()
 {
     const auto noteFolded = [this](bool expanded) {
         return [this, expanded](const QModelIndex &index) {
-            if (d->userActs)
+            if (d->userActs && d->model.hasChildren(index))
                 d->folded.append({handleOf(index), expanded});
         };
     };
@@ -162,9 +162,7 @@ Node *NodeTree::draggedNode() const
 
 void NodeTree::setDraggable(std::function<bool(const Node &)> test)
 {
-    d->model.setDraggable([this, test = std::move(test)](const TreeNode &node) {
-        return test(*d->handles.of(const_cast<TreeNode &>(node)));
-    });
+    d->draggable = std::move(test);
 }
 
 void NodeTree::setDragEffects(qint32 effects)

@@ -63,8 +63,10 @@ void ORVListView::Private::switchTo(LwType type)
     face.show();
     if (hadFocus)
         face.setFocus();
-    if (!showsCode)
-        box.hide();
+    if (showsCode)
+        return;
+    box.hide(); // an editor with the focus keeps tab stops from the others
+    table->enterTabOrder(box);
 }
 
 void ORVListView::Private::layOut()
@@ -88,7 +90,11 @@ ORVListView::ORVListView(QWidget *parent)
     d->table->setCaption(QString());
 }
 
-ORVListView::~ORVListView() = default;
+ORVListView::~ORVListView()
+{
+    // The list outlives this object by a little, and a drag that runs then ends.
+    d->list->disconnect(this);
+}
 
 LwType ORVListView::ListviewType() const
 {

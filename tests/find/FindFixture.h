@@ -17,10 +17,7 @@ struct FindHost : EditorHost
 {
     enum Mode { Find, Replace };
 
-    ~FindHost()
-    {
-        ORVTListview::FindDialog::shared().hide();
-    }
+    ~FindHost() { ORVTListview::FindDialog::shared().hide(); }
 
     // "|" in the program as for setText.
     void open(const QString &program, Mode mode = Find)
@@ -30,8 +27,10 @@ struct FindHost : EditorHost
     }
     void reopen(Mode mode = Find)
     {
+        form.activateWindow(); // from where users open it
+        QTRY_VERIFY(form.isActiveWindow());
         list->showFind(mode == Replace);
-        QVERIFY(QTest::qWaitForWindowActive(&dialog()));
+        QTRY_VERIFY(dialog().isActiveWindow());
     }
 
     ORVTListview::fFind &dialog() { return ORVTListview::FindDialog::shared(); }

@@ -48,6 +48,7 @@ private Q_SLOTS:
                  "Edit: Undo, Redo, Restore Typed Text, Cut, Copy, Copy with Colours, Paste, "
                  "Select All, Known Words\n"
                  "Program: Analyse, Compile, Results\n"
+                 "Points: Read Values, Rename, Fit Columns\n"
                  "View: Language"_s);
     }
 
