@@ -208,9 +208,11 @@ void fFind::arrange()
     m_StatusBar1->setFixedHeight(statusHeight);
     const int height = statusHeight + Twips::toPixelsY(sizes.heightAboveStatus, *this);
     layout()->invalidate();
+    layout()->activate(); // asks every control anew
     const QSize needed = layout()->totalMinimumSize();
     setFixedHeight(std::max(height, needed.height()));
     setMinimumWidth(needed.width());
+    layout()->activate();
 }
 
 void fFind::reserveWidths()

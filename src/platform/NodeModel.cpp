@@ -101,11 +101,10 @@ Qt::ItemFlags NodeModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable;
+    Qt::ItemFlags flags =
+        Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable | Qt::ItemIsDragEnabled;
     if (m_checkBoxes)
         flags |= Qt::ItemIsUserCheckable;
-    if (!m_draggable || m_draggable(nodeOf(index)))
-        flags |= Qt::ItemIsDragEnabled;
     return flags;
 }
 
@@ -277,11 +276,6 @@ void NodeModel::setPictureProvider(PictureProvider provider)
 {
     m_pictures = std::move(provider);
     touchAll();
-}
-
-void NodeModel::setDraggable(Test draggable)
-{
-    m_draggable = std::move(draggable);
 }
 
 void NodeModel::touch(const TreeNode &node, int role)

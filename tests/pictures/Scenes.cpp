@@ -21,6 +21,7 @@ const QList<Scene> &scenes()
         {"find", &findScene},
         {"table-states", &tableStatesScene},
         {"tables", &tablesScene},
+        {"tree", &treeScene},
     };
     return all;
 }

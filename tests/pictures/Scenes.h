@@ -42,3 +42,4 @@ const QList<Scene> &scenes();
 void findScene(Sheet &sheet);
 void tableStatesScene(Sheet &sheet);
 void tablesScene(Sheet &sheet);
+void treeScene(Sheet &sheet);

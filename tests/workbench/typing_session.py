@@ -233,7 +233,7 @@ class Session:
         bench = self._workbench
         bench.keys("F6")
         self._picture("09-analysed")
-        bench.keys("ctrl+Tab", "Home", "Return")
+        bench.keys("ctrl+Tab", "Tab", "Home", "Return")  # past the read button
         self._picture("10-finding-chosen")
         bench.type("supplyfanspeed")
         bench.keys("ctrl+End")
@@ -291,7 +291,7 @@ def run_session(arguments):
     scale = arguments.scale
     options = ["--scale", str(scale)] + (["--dark"] if arguments.dark else [])
     with tempfile.TemporaryDirectory(prefix="project") as folder, \
-            Display(int(1040 * scale), int(780 * scale)) as display:
+            Display(int(1140 * scale), int(780 * scale)) as display:
         empty_copy_of(arguments.sample, folder)
         workbench = Workbench(display, arguments.workbench, folder, options)
 
