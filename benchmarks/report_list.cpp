@@ -76,11 +76,11 @@ public:
     }
 
     void empty() { Clear(); }
-    void number() { ChangeListviewNumber(rowCount); }
+    void number() { ChangeListviewNumber(rowTotal); }
     void create()
     {
-        QList<RowContent> contents(rowCount);
-        for (int row = 0; row < rowCount; ++row) {
+        QList<RowContent> contents(rowTotal);
+        for (int row = 0; row < rowTotal; ++row) {
             contents[row].key = rowKey(typeKey, row + 1);
             contents[row].text = texts().at(row).first();
             contents[row].subItems = texts().at(row).mid(1);
@@ -119,12 +119,12 @@ public:
     void number()
     {
         QList<QTreeWidgetItem *> items;
-        items.reserve(rowCount);
-        for (int row = 1; row <= rowCount; ++row) {
+        items.reserve(rowTotal);
+        for (int row = 1; row <= rowTotal; ++row) {
             auto *item = new QTreeWidgetItem;
             item->setText(0, rowText(row));
             item->setData(0, Qt::UserRole, rowKey(typeKey, row));
-            item->setText(columnCount - 1, u" "_s);
+            item->setText(columnTotal - 1, u" "_s);
             items.append(item);
         }
         addTopLevelItems(items);
@@ -175,12 +175,12 @@ public:
     void empty() { setRowCount(0); }
     void number()
     {
-        setRowCount(rowCount);
-        for (int row = 0; row < rowCount; ++row) {
+        setRowCount(rowTotal);
+        for (int row = 0; row < rowTotal; ++row) {
             auto *item = new QTableWidgetItem(rowText(row + 1));
             item->setData(Qt::UserRole, rowKey(typeKey, row + 1));
             setItem(row, 0, item);
-            setItem(row, columnCount - 1, new QTableWidgetItem(u" "_s));
+            setItem(row, columnTotal - 1, new QTableWidgetItem(u" "_s));
         }
     }
 
@@ -277,9 +277,9 @@ void checkList(const QString &name)
     showForBenchmark(list);
     timedPainted(list, &List::number);
     bool isNumbered = true;
-    for (int row = 0; row < rowCount; ++row)
+    for (int row = 0; row < rowTotal; ++row)
         isNumbered = isNumbered && list.text(row, 0) == rowText(row + 1) &&
-                     list.text(row, 1).isEmpty() && list.text(row, columnCount - 1) == u" " &&
+                     list.text(row, 1).isEmpty() && list.text(row, columnTotal - 1) == u" " &&
                      list.key(row) == rowKey(typeKey, row + 1);
     check(u"every row of the %1 is numbered"_s.arg(name), isNumbered);
     list.empty();
