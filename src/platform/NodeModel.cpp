@@ -63,8 +63,8 @@ QVariant NodeModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         return node.text;
     case Qt::ForegroundRole:
-        if (node.foreColor == Colours::windowText)
-            return {}; // also what a disabled tree shows in grey
+        if (node.foreColor == Colours::windowText || !m_view.isEnabled())
+            return {}; // the palette knows better
         return Colours::toColor(node.foreColor, m_view.palette());
     case Qt::DecorationRole: {
         const QIcon icon = m_pictures && !node.image.isEmpty() ? m_pictures(node.image) : QIcon();

@@ -42,6 +42,9 @@ public:
 
     const MemberTable &Members() const override;
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
     // A tree on a form that is being designed saves nothing.
     bool isDesignMode() const;
     void setDesignMode(bool on);
@@ -175,6 +178,9 @@ Q_SIGNALS:
 
     // Published; never raised. GetPageSettings and the nodes tell the pages.
     void UpdatePages(QList<ORVTListview::Pages> &Pages);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void forwardEvents();

@@ -62,7 +62,7 @@ void treeScene(Sheet &sheet)
     view->setDropHighlight(tree.Nodes()->Item(u"Page3"_s));
     tree.Nodes()->Item(u"Page2"_s)->setExpanded(false);
     tree.resize(300, 360);
-    sheet.add(u"A category dragged over a page, another page collapsed"_s, tree);
+    sheet.add(u"A category dragged over a page"_s, tree);
 
     view->setDropHighlight(nullptr);
     tree.resize(150, 360);
