@@ -34,4 +34,5 @@ struct Scene
 
 const QList<Scene> &scenes();
 
+void comboScene(Sheet &sheet);
 void findScene(Sheet &sheet);
