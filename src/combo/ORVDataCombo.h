@@ -26,8 +26,8 @@ namespace ORVTListview {
 class ORVT_EXPORT ORVDataCombo : public Component
 {
     Q_OBJECT
-    Q_PROPERTY(QString Text READ Text WRITE setText)
-    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled)
+    Q_PROPERTY(QString Text READ Text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
     Q_PROPERTY(qint16 ListCount READ ListCount DESIGNABLE false STORED false)
     Q_PROPERTY(qint16 ListIndex READ ListIndex DESIGNABLE false STORED false)
     Q_PROPERTY(bool dragsEntry READ dragsEntry WRITE setDragsEntry)
@@ -125,6 +125,10 @@ Q_SIGNALS:
     void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
     void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
 
+    // Not events: a persistent property is another one now, whoever changed it.
+    void textChanged();
+    void enabledChanged();
+
 protected:
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -132,6 +136,7 @@ protected:
 private:
     void relayEvents();
     void applyColour();
+    void recordText();
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -74,8 +74,9 @@ void DataComboUseTest::hasItsEventsInOrder()
     const QMetaObject &control = ORVDataCombo::staticMetaObject;
     QByteArrayList names;
     for (int i = control.methodOffset(); i < control.methodCount(); ++i) {
-        if (control.method(i).methodType() == QMetaMethod::Signal)
-            names.append(control.method(i).name());
+        const QByteArray name = control.method(i).name();
+        if (control.method(i).methodType() == QMetaMethod::Signal && !name.endsWith("Changed"))
+            names.append(name);
     }
     QCOMPARE(names, QByteArrayList({"Change", "Click", "DblClick", "KeyDown", "KeyPress", "KeyUp",
                                     "OLECompleteDrag", "OLEDragDrop", "OLEDragOver",

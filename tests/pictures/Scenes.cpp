@@ -18,6 +18,7 @@ constexpr int captionHeight = 20;
 const QList<Scene> &scenes()
 {
     static const QList<Scene> all{
+        {"combo", &comboScene},
         {"find", &findScene},
         {"table-states", &tableStatesScene},
         {"tables", &tablesScene},
