@@ -12,7 +12,9 @@ set(CMAKE_AUTORCC ON)
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
-set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+# Installed programs and libraries find each other wherever the prefix stands.
+file(RELATIVE_PATH libraries_from_programs /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/${libraries_from_programs}")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
@@ -44,7 +46,9 @@ function(orvt_publish_headers)
         get_filename_component(path ${header} ABSOLUTE)
         set(forwarding ${ORVT_PUBLIC_INCLUDE_DIR}/ORVTListview/${name})
         file(CONFIGURE OUTPUT ${forwarding} CONTENT "#include \"${path}\"\n")
-        install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ORVTListview)
+        install(FILES ${header}
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ORVTListview
+            COMPONENT dev)
         set_property(GLOBAL APPEND PROPERTY ORVT_PUBLIC_HEADERS ${name})
     endforeach()
 endfunction()

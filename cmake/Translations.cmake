@@ -27,5 +27,7 @@ function(orvt_add_translations target name)
         PREFIX /${name}/translations
         BASE ${CMAKE_CURRENT_BINARY_DIR}
         FILES ${qm_files})
-    install(FILES ${qm_files} DESTINATION ${CMAKE_INSTALL_DATADIR}/${name}/translations)
+    install(FILES ${qm_files}
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/${name}/translations
+        COMPONENT library)
 endfunction()

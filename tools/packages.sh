@@ -3,10 +3,11 @@
 build_packages=(
     ca-certificates ccache cmake g++ ninja-build pkg-config
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    qt6-translations-l10n
     libgl-dev zlib1g-dev fonts-dejavu-core)
 
 test_packages=(
-    libgtest-dev libgmock-dev python3 qt6-base-private-dev
+    libgtest-dev libgmock-dev python3 qt6-base-private-dev libqt6opengl6-dev dpkg-dev
     xvfb xauth xclip xdotool openbox x11-utils)
 
 # What ./bench compares with.

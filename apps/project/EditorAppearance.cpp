@@ -1,5 +1,7 @@
 #include "project/EditorAppearance.h"
 
+#include "project/ProjectTexts.h"
+
 #include "editor/ColourTable.h"
 
 #include <algorithm>
@@ -63,7 +65,8 @@ qint32 readColour(const JsonPlace &place, qint32 absent)
         return absent;
     const std::optional<qint32> colour = colourFromText(place.text());
     if (!colour)
-        place.fail(u"\"%1\" is no colour (\"#rrggbb\" or a system colour)"_s.arg(place.text()));
+        place.fail(ProjectTexts::tr("\"%1\" is no colour (\"#rrggbb\" or a system colour)")
+                       .arg(place.text()));
     return *colour;
 }
 
@@ -72,7 +75,7 @@ qint16 readFontSize(const JsonPlace &place)
     constexpr qint32 largest = 400;
     const qint32 size = place.integer(10);
     if (size < 1 || size > largest)
-        place.fail(u"a size from 1 to %1 points is expected"_s.arg(largest));
+        place.fail(ProjectTexts::tr("a size from 1 to %1 points is expected").arg(largest));
     return static_cast<qint16>(size);
 }
 

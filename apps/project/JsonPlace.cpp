@@ -1,6 +1,7 @@
 #include "project/JsonPlace.h"
 
 #include "project/ProjectError.h"
+#include "project/ProjectTexts.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -25,7 +26,7 @@ QString lineAndColumn(const QByteArray &json, qsizetype offset)
 {
     const QByteArrayView before = QByteArrayView(json).first(std::min(offset, json.size()));
     const qsizetype column = before.size() - before.lastIndexOf('\n');
-    return u"line %1, column %2"_s.arg(before.count('\n') + 1).arg(column);
+    return ProjectTexts::tr("line %1, column %2").arg(before.count('\n') + 1).arg(column);
 }
 
 } // namespace
@@ -44,21 +45,21 @@ JsonPlace JsonPlace::parse(const QByteArray &json, const QString &fileName)
     if (error.error != QJsonParseError::NoError)
         failAt(fileName, lineAndColumn(json, error.offset), error.errorString());
     if (!document.isObject())
-        failAt(fileName, {}, u"an object is expected"_s);
+        failAt(fileName, {}, ProjectTexts::tr("an object is expected"));
     return {fileName, {}, document.object()};
 }
 
 const JsonPlace &JsonPlace::required() const
 {
     if (!isPresent())
-        fail(u"is missing"_s);
+        fail(ProjectTexts::tr("is missing"));
     return *this;
 }
 
 JsonPlace JsonPlace::member(const QString &name) const
 {
     if (isPresent() && !m_value.isObject())
-        fail(u"an object is expected"_s);
+        fail(ProjectTexts::tr("an object is expected"));
     const QString place = m_place.isEmpty() ? name : u"%1, %2"_s.arg(m_place, name);
     if (!isPresent())
         return {m_file, place, QJsonValue::Undefined};
@@ -68,11 +69,11 @@ JsonPlace JsonPlace::member(const QString &name) const
 void JsonPlace::allowOnly(const QStringList &members) const
 {
     if (isPresent() && !m_value.isObject())
-        fail(u"an object is expected"_s);
+        fail(ProjectTexts::tr("an object is expected"));
     const QStringList present = m_value.toObject().keys();
     for (const QString &name : present) {
         if (!members.contains(name))
-            member(name).fail(u"is not known here"_s);
+            member(name).fail(ProjectTexts::tr("is not known here"));
     }
 }
 
@@ -81,10 +82,10 @@ QList<JsonPlace> JsonPlace::items(qsizetype atMost) const
     if (!isPresent())
         return {};
     if (!m_value.isArray())
-        fail(u"an array is expected"_s);
+        fail(ProjectTexts::tr("an array is expected"));
     const QJsonArray array = m_value.toArray();
     if (array.size() > atMost)
-        fail(u"holds more than %1 elements"_s.arg(atMost));
+        fail(ProjectTexts::tr("holds more than %1 elements").arg(atMost));
     QList<JsonPlace> result;
     for (const QJsonValue value : array)
         result.append({m_file, u"%1 #%2"_s.arg(m_place).arg(result.size() + 1), value});
@@ -96,7 +97,7 @@ QString JsonPlace::text(const QString &absent) const
     if (!isPresent())
         return absent;
     if (!m_value.isString())
-        fail(u"a text is expected"_s);
+        fail(ProjectTexts::tr("a text is expected"));
     return m_value.toString();
 }
 
@@ -105,7 +106,7 @@ bool JsonPlace::boolean(bool absent) const
     if (!isPresent())
         return absent;
     if (!m_value.isBool())
-        fail(u"true or false is expected"_s);
+        fail(ProjectTexts::tr("true or false is expected"));
     return m_value.toBool();
 }
 
@@ -116,14 +117,14 @@ qint32 JsonPlace::integer(qint32 absent) const
         return absent;
     const double value = m_value.toDouble(std::nan(""));
     if (!(value >= Limits::min() && value <= Limits::max()) || value != std::floor(value))
-        fail(u"a whole number of 32 bits is expected"_s);
+        fail(ProjectTexts::tr("a whole number of 32 bits is expected"));
     return static_cast<qint32>(value);
 }
 
 double JsonPlace::number() const
 {
     if (!m_value.isDouble())
-        fail(u"a number is expected"_s);
+        fail(ProjectTexts::tr("a number is expected"));
     return m_value.toDouble();
 }
 

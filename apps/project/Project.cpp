@@ -1,22 +1,87 @@
 #include "project/Project.h"
 
+#include "project/JsonText.h"
 #include "project/ProjectError.h"
+#include "project/ProjectTexts.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
 
 Project::Project(const QString &fileName)
     : m_fileName(fileName)
     , m_contents(readProject(fileName))
 {
     for (const LwType type : projectTypes()) {
-        if (!isVocabularyType(type))
-            continue;
-        PointList &list = m_points[type];
-        for (const ProjectRow &row : rows(type))
-            list.Add(row.name, row.data);
+        if (isVocabularyType(type))
+            fillPoints(type);
     }
     for (const ProjectFamily &family : m_contents.indexedNames)
         m_indexedNames.Add(family.name, family.numberFormat, family.lowerBound, family.upperBound);
+}
+
+void Project::fillPoints(LwType type)
+{
+    PointList &list = m_points[type];
+    list.Clear();
+    for (const ProjectRow &row : rows(type))
+        list.Add(row.name, row.data);
+}
+
+void Project::rename(LwType type, qsizetype row, const QString &name)
+{
+    QList<ProjectRow> &list = m_contents.rows[type];
+    const qsizetype column = nameColumn(type);
+    if (column < 0 || row < 0 || row >= list.size() || !isPointName(name))
+        throw Error(NameNotUsable, u"Project"_s,
+                    ProjectTexts::tr("\"%1\" is not the name of a point").arg(name));
+    for (const ProjectRow &other : std::as_const(list)) {
+        if (&other != &list.at(row) && other.name.compare(name, Qt::CaseInsensitive) == 0)
+            throw Error(NameNotUsable, u"Project"_s,
+                        ProjectTexts::tr("Another point has the name \"%1\"").arg(name));
+    }
+    if (list.at(row).name == name)
+        return;
+    noteNewName(type, row, list.at(row).name);
+    list[row].name = name;
+    list[row].cells[column] = name;
+    if (isVocabularyType(type))
+        fillPoints(type);
+}
+
+void Project::noteNewName(LwType type, qsizetype row, const QString &former)
+{
+    const bool isNoted =
+        std::any_of(m_newNames.cbegin(), m_newNames.cend(),
+                    [&](const NewName &noted) { return noted.type == type && noted.row == row; });
+    if (!isNoted)
+        m_newNames.append({type, row, former});
+}
+
+void Project::saveNames()
+{
+    if (m_newNames.isEmpty())
+        return;
+    JsonText json(readFile(m_fileName));
+    const ProjectContents file = readProject(m_fileName);
+    for (const NewName &changed : std::as_const(m_newNames)) {
+        const QString &name = m_contents.rows[changed.type].at(changed.row).name;
+        if (file.rows[changed.type].value(changed.row).name != changed.former ||
+            !json.replace(projectMember(changed.type), changed.row, u"name"_s, name))
+            throw Error(FileNotWritable, u"Project"_s,
+                        ProjectTexts::tr("%1: \"%2\" is no longer where it was")
+                            .arg(m_fileName, changed.former));
+    }
+    writeFile(m_fileName, json.bytes());
+    m_newNames.clear();
+}
+
+void Project::setCell(LwType type, qsizetype row, qsizetype column, const QVariant &cell)
+{
+    m_contents.rows[type][row].cells[column] = cell;
 }
 
 void Project::saveProgram(const QString &program)

@@ -36,6 +36,21 @@ public:
     // saved here. A file that is gone counts as unchanged.
     bool isProgramChangedOutside() const;
 
+    // Gives a point another name, here and in its collection; save() takes it into
+    // the file. Raises Error (NameNotUsable) and changes nothing when the type's points
+    // have no names, the name is not one, or another point of the type has it.
+    void rename(LwType type, qsizetype row, const QString &name);
+
+    // Whether names wait for being saved.
+    bool hasNewNames() const { return !m_newNames.isEmpty(); }
+
+    // Puts the new names into the project's file, which keeps its layout. Raises Error
+    // and leaves the file when it cannot be written or is another one meanwhile.
+    void saveNames();
+
+    // Keeps what the controller answered for a cell of projectColumns(type).
+    void setCell(LwType type, qsizetype row, qsizetype column, const QVariant &cell);
+
     // The rows of a type's table in the order of the file; none for other types.
     const QList<ProjectRow> &rows(LwType type) const;
 
@@ -46,7 +61,18 @@ public:
     const QList<ProjectFamily> &families() const { return m_contents.indexedNames; }
 
 private:
+    struct NewName
+    {
+        LwType type;
+        qsizetype row;
+        QString former; // as the file has it
+    };
+
+    void fillPoints(LwType type);
+    void noteNewName(LwType type, qsizetype row, const QString &former);
+
     QString m_fileName;
+    QList<NewName> m_newNames;
     ProjectContents m_contents;
     std::map<LwType, PointList> m_points;
     IndexedNameList m_indexedNames;

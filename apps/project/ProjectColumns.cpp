@@ -129,6 +129,22 @@ const QList<ProjectColumn> &projectColumns(LwType type)
     return layout ? layout->columns : none;
 }
 
+qsizetype nameColumn(LwType type)
+{
+    const QList<ProjectColumn> &columns = projectColumns(type);
+    const auto found =
+        std::find_if(columns.cbegin(), columns.cend(),
+                     [](const ProjectColumn &column) { return column.kind == CellKind::Name; });
+    return found == columns.cend() ? -1 : found - columns.cbegin();
+}
+
+bool isPointName(const QString &name)
+{
+    return !name.trimmed().isEmpty() && name == name.trimmed() &&
+           std::all_of(name.cbegin(), name.cend(),
+                       [](QChar c) { return c.category() != QChar::Other_Control; });
+}
+
 QString projectMember(LwType type)
 {
     const Layout *layout = layoutOf(type);

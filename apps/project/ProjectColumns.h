@@ -28,6 +28,12 @@ struct ProjectColumn
 // dsCode and for what is no type.
 const QList<ProjectColumn> &projectColumns(LwType type);
 
+// The column of the points' names; -1 for a type whose points have none.
+qsizetype nameColumn(LwType type);
+
+// Whether a point can have this name: no control characters, no blanks around it.
+bool isPointName(const QString &name);
+
 // Where the project file has the points of a type; empty if it has none.
 QString projectMember(LwType type);
 

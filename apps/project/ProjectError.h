@@ -11,6 +11,7 @@ enum ProjectErrorNumber : qint32 {
     TextNotUtf8 = ObjectErrorBase + 2,
     ProjectNotValid = ObjectErrorBase + 3,
     FileNotWritable = ObjectErrorBase + 4,
+    NameNotUsable = ObjectErrorBase + 5,
 };
 
 } // namespace ORVTListview

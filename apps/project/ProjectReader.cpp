@@ -1,5 +1,7 @@
 #include "project/ProjectReader.h"
 
+#include "project/ProjectTexts.h"
+
 #include "project/EditorAppearance.h"
 #include "project/JsonPlace.h"
 
@@ -22,17 +24,12 @@ constexpr qint64 mostNamesOfAFamily = 100000;
 
 constexpr qint32 knownFormat = 1;
 
-bool isPrintable(const QString &text)
-{
-    return std::all_of(text.cbegin(), text.cend(),
-                       [](QChar c) { return c.category() != QChar::Other_Control; });
-}
-
 QString readName(const JsonPlace &place)
 {
     const QString name = place.required().text();
-    if (name.trimmed().isEmpty() || name != name.trimmed() || !isPrintable(name))
-        place.fail(u"a name is expected, without blanks around it and control characters"_s);
+    if (!isPointName(name))
+        place.fail(ProjectTexts::tr(
+            "a name is expected, without blanks around it and control characters"));
     return name;
 }
 
@@ -41,7 +38,7 @@ QVariant readValue(const JsonPlace &place)
     if (place.isText())
         return place.text();
     if (!place.isNumber())
-        place.fail(u"a number or a text is expected"_s);
+        place.fail(ProjectTexts::tr("a number or a text is expected"));
     return place.number();
 }
 
@@ -90,7 +87,8 @@ QList<ProjectRow> readRows(const JsonPlace &list, LwType type)
         const QString &name = rows.constLast().name;
         QString &former = places[name.toUpper()];
         if (!name.isEmpty() && !former.isEmpty())
-            item.member(u"name"_s).fail(u"\"%1\" is the name of %2 too"_s.arg(name, former));
+            item.member(u"name"_s).fail(
+                ProjectTexts::tr("\"%1\" is the name of %2 too").arg(name, former));
         former = item.place();
     }
     return rows;
@@ -112,7 +110,7 @@ ProjectFamily readFamily(const JsonPlace &place)
                                   place.member(u"lower"_s).required().integer(),
                                   place.member(u"upper"_s).required().integer()};
     if (qint64(family.upperBound) - family.lowerBound >= mostNamesOfAFamily)
-        place.fail(u"has more than %1 names"_s.arg(mostNamesOfAFamily));
+        place.fail(ProjectTexts::tr("has more than %1 names").arg(mostNamesOfAFamily));
     return family;
 }
 
@@ -120,7 +118,7 @@ void checkForm(const JsonPlace &root)
 {
     const JsonPlace format = root.member(u"format"_s);
     if (format.required().integer() != knownFormat)
-        format.fail(u"only the form %1 can be read"_s.arg(knownFormat));
+        format.fail(ProjectTexts::tr("only the form %1 can be read").arg(knownFormat));
     QStringList members = {u"format"_s,       u"name"_s,   u"controller"_s,
                            u"indexedNames"_s, u"editor"_s, u"program"_s};
     for (const LwType type : projectTypes())

@@ -2,6 +2,7 @@
 
 #include "platform/TextRules.h"
 #include "project/ProjectError.h"
+#include "project/ProjectTexts.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QSaveFile>
@@ -137,16 +138,19 @@ QString decodeProgram(const QByteArray &bytes, const QString &name)
 {
     if (!QUtf8StringView(bytes).isValidUtf8())
         throw Error(TextNotUtf8, u"decodeProgram"_s,
-                    u"%1: line %2 is not valid UTF-8"_s.arg(name).arg(firstInvalidLine(bytes)));
+                    ProjectTexts::tr("%1: line %2 is not valid UTF-8")
+                        .arg(name)
+                        .arg(firstInvalidLine(bytes)));
     return withCrLf(QString::fromUtf8(bytes)); // drops the mark
 }
 
 QByteArray encodeProgram(const QString &program, ProgramFormat format, const QString &name)
 {
     if (!program.isValidUtf16())
-        throw Error(
-            TextNotUtf8, u"encodeProgram"_s,
-            u"%1: line %2 holds half a character"_s.arg(name).arg(firstBrokenLine(program)));
+        throw Error(TextNotUtf8, u"encodeProgram"_s,
+                    ProjectTexts::tr("%1: line %2 holds half a character")
+                        .arg(name)
+                        .arg(firstBrokenLine(program)));
     QString text = program;
     if (format.lineEnd != LineEnd::CrLf)
         text.replace("\r\n"_L1, lineEndText(format.lineEnd));

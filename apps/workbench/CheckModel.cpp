@@ -36,6 +36,12 @@ void CheckModel::setWords(const QList<ProgramWord> &words)
     endResetModel();
 }
 
+void CheckModel::retranslate()
+{
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::DisplayRole});
+}
+
 CheckModel::Place CheckModel::place(int row) const
 {
     if (m_isListOfWords)

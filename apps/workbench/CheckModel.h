@@ -22,6 +22,8 @@ public:
 
     void setFindings(const QList<ProgramFinding> &findings);
     void setWords(const QList<ProgramWord> &words);
+    // After a change of language.
+    void retranslate();
     bool isListOfWords() const { return m_isListOfWords; }
 
     // Where a row stands in the program; line 0 for nowhere.

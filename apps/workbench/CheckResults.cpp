@@ -10,7 +10,7 @@ namespace ORVTListview {
 using namespace Qt::StringLiterals;
 
 CheckResults::CheckResults(const ImageList &pictures, QWidget *parent)
-    : QDockWidget(tr("Results"), parent)
+    : QDockWidget(parent)
     , m_model(new CheckModel(pictures, this))
     , m_view(new QTreeView(this))
 {
@@ -25,6 +25,7 @@ CheckResults::CheckResults(const ImageList &pictures, QWidget *parent)
     setWidget(m_view);
     connect(m_view, &QTreeView::clicked, this, &CheckResults::choose);
     connect(m_view, &QTreeView::activated, this, &CheckResults::choose);
+    retranslate();
 }
 
 void CheckResults::showFindings(const QList<ProgramFinding> &findings)
@@ -39,13 +40,25 @@ void CheckResults::showWords(const QList<ProgramWord> &words)
     showModel();
 }
 
+void CheckResults::retranslate()
+{
+    setWindowTitle(tr("Results"));
+    m_model->retranslate();
+    fitColumns();
+}
+
 void CheckResults::showModel()
 {
     m_view->setHeaderHidden(!m_model->isListOfWords());
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        m_view->resizeColumnToContents(column);
+    fitColumns();
     m_view->scrollToTop();
     show();
+}
+
+void CheckResults::fitColumns()
+{
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        m_view->resizeColumnToContents(column);
 }
 
 void CheckResults::choose(const QModelIndex &index)

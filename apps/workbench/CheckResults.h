@@ -22,6 +22,9 @@ public:
     void showFindings(const QList<ProgramFinding> &findings);
     void showWords(const QList<ProgramWord> &words);
 
+    // After a change of language.
+    void retranslate();
+
 Q_SIGNALS:
     // A row was clicked, or Enter pressed on it. Lines count from 1.
     void chosen(const QString &word, qint32 line);
@@ -29,6 +32,7 @@ Q_SIGNALS:
 private:
     void choose(const QModelIndex &index);
     void showModel();
+    void fitColumns();
 
     CheckModel *m_model;
     QTreeView *m_view;

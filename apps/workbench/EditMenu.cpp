@@ -1,5 +1,7 @@
 #include "EditMenu.h"
 
+#include "ColouredCopy.h"
+
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/RichTextBox.h>
 
@@ -24,6 +26,7 @@ EditMenu::EditMenu(ORVListView &code, QWidget *parent)
     add(tr("&Known Words"), QKeySequence(Qt::CTRL | Qt::Key_Space), &EditMenu::showKnownWords);
     connect(this, &QMenu::aboutToShow, this, &EditMenu::refresh);
     connect(&code, &ORVListView::UpdateUndoMenu, this, &EditMenu::refresh);
+    connect(&code, &ORVListView::listviewTypeChanged, this, &EditMenu::refresh);
     refresh();
 }
 
@@ -38,6 +41,7 @@ void EditMenu::addClipboard()
 {
     m_cut = add(tr("Cu&t"), QKeySequence(Qt::CTRL | Qt::Key_X), &EditMenu::cut);
     m_copy = add(tr("&Copy"), QKeySequence(Qt::CTRL | Qt::Key_C), &EditMenu::copy);
+    m_colouredCopy = add(tr("Copy with C&olours"), {}, &EditMenu::copyColoured);
     m_paste = add(tr("&Paste"), QKeySequence(Qt::CTRL | Qt::Key_V), &EditMenu::paste);
 }
 
@@ -63,11 +67,17 @@ QAction *EditMenu::add(const QString &text, const QKeySequence &keys, void (Edit
 
 void EditMenu::refresh()
 {
+    const bool isCode = m_code.CurrentType() == dsCode;
+    for (QAction *action : actions())
+        action->setEnabled(isCode);
+    if (!isCode)
+        return;
     const bool hasSelection = m_code.RTextBox()->SelLength() > 0;
     m_undo->setEnabled(m_code.IsUndoAvailable());
     m_redo->setEnabled(m_code.IsRedoAvailable());
     m_cut->setEnabled(hasSelection);
     m_copy->setEnabled(hasSelection);
+    m_colouredCopy->setEnabled(hasSelection);
     const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
     m_paste->setEnabled(clipboard && clipboard->hasText());
 }
@@ -102,6 +112,11 @@ void EditMenu::cut()
 void EditMenu::copy()
 {
     m_code.RTextCopy();
+}
+
+void EditMenu::copyColoured()
+{
+    copyWithColours(*m_code.RTextBox());
 }
 
 void EditMenu::paste()

@@ -34,6 +34,7 @@ private:
     void restoreTypedText();
     void cut();
     void copy();
+    void copyColoured();
     void paste();
     void selectAll();
     void showKnownWords();
@@ -45,6 +46,7 @@ private:
     QAction *m_redo = nullptr;
     QAction *m_cut = nullptr;
     QAction *m_copy = nullptr;
+    QAction *m_colouredCopy = nullptr;
     QAction *m_paste = nullptr;
 };
 

@@ -3,8 +3,13 @@
 #include "Appearance.h"
 #include "CheckResults.h"
 #include "EditMenu.h"
+#include "LanguageMenu.h"
+#include "Languages.h"
+#include "PointChooser.h"
+#include "PointTables.h"
 #include "ProgramSaving.h"
 #include "ProgramText.h"
+#include "ProjectView.h"
 #include "editor/CodeWordList.h"
 #include "editor/Vocabulary.h"
 #include "project/ProgramCheck.h"
@@ -30,26 +35,30 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-MainWindow::MainWindow(QWidget *parent)
+MainWindow::MainWindow(Languages &languages, QWidget *parent)
     : QMainWindow(parent)
-    , m_vocabulary(new ORVTreeview(this))
-    , m_code(new ORVListView(this))
+    , m_languages(languages)
+    , m_points(new PointChooser(this))
+    , m_view(new ProjectView(this))
+    , m_code(&m_view->list())
     , m_saving(new ProgramSaving(*m_code, *this))
-    , m_editMenu(new EditMenu(*m_code, this))
     , m_results(new CheckResults(*m_code->GetImage(), this))
     , m_programInfo(new QLabel(this))
     , m_position(new QLabel(this))
 {
-    m_vocabulary->hide();
-    m_code->setListviewType(dsCode);
-    setCentralWidget(m_code);
+    m_points->setPictures(*m_code->GetImage());
+    addToolBar(m_points);
+    setCentralWidget(m_view);
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
     buildMenus();
     buildStatusBar();
     connectEditor();
-    resize(1000, 700);
+    connectPoints();
+    // Queued: the menu that the language was chosen in is made anew.
+    connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
+    resize(1100, 700);
 }
 
 MainWindow::~MainWindow() = default;
@@ -57,8 +66,10 @@ MainWindow::~MainWindow() = default;
 void MainWindow::buildMenus()
 {
     buildFileMenu();
-    menuBar()->addMenu(m_editMenu);
+    buildEditMenu();
     buildProgramMenu();
+    buildPointsMenu();
+    buildViewMenu();
 }
 
 void MainWindow::buildFileMenu()
@@ -68,6 +79,15 @@ void MainWindow::buildFileMenu()
     file->addAction(tr("&Save Program"), QKeySequence::Save, m_saving, &ProgramSaving::save);
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
+}
+
+void MainWindow::buildEditMenu()
+{
+    auto *edit = new EditMenu(*m_code, menuBar());
+    menuBar()->addMenu(edit);
+    connect(edit, &EditMenu::acted, this, &MainWindow::showPosition);
+    connect(edit, &EditMenu::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
 }
 
 // In the editor these keys raise its events; the menu has them for the rest of the
@@ -82,6 +102,23 @@ void MainWindow::buildProgramMenu()
     QAction *results = m_results->toggleViewAction();
     results->setText(tr("&Results"));
     program->addAction(results);
+}
+
+void MainWindow::buildPointsMenu()
+{
+    QMenu *points = menuBar()->addMenu(tr("P&oints"));
+    points->addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), this,
+                      [this] { m_view->tables().read(m_code->CurrentType()); });
+    QAction *rename = points->addAction(tr("Re&name"), &m_view->tables(), &PointTables::editName);
+    rename->setShortcut(QKeySequence(Qt::Key_F2));
+    rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
+    points->addAction(tr("&Fit Columns"), &m_view->tables(), &PointTables::fitColumns);
+}
+
+void MainWindow::buildViewMenu()
+{
+    QMenu *view = menuBar()->addMenu(tr("&View"));
+    view->addMenu(new LanguageMenu(m_languages, view));
 }
 
 void MainWindow::buildStatusBar()
@@ -99,10 +136,40 @@ void MainWindow::connectEditor()
     connect(m_code->RTextBox(), &QPlainTextEdit::blockCountChanged, this,
             &MainWindow::showProgramInfo);
     m_code->RTextBox()->viewport()->installEventFilter(this);
-    connect(m_editMenu, &EditMenu::acted, this, &MainWindow::showPosition);
-    connect(m_editMenu, &EditMenu::told, this,
-            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
     connect(m_results, &CheckResults::chosen, this, &MainWindow::goTo);
+}
+
+void MainWindow::connectPoints()
+{
+    connect(m_view, &ProjectView::shown, this,
+            [this](LwType type) { m_position->setVisible(type == dsCode); });
+    connect(m_points, &PointChooser::chosen, m_view, &ProjectView::takePoint);
+    connect(m_points, &PointChooser::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
+    connect(&m_view->tables(), &PointTables::readingStarted, this,
+            [this] { statusBar()->showMessage(tr("Reading the values…")); });
+    connect(&m_view->tables(), &PointTables::readingFinished, this,
+            [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
+    connect(&m_view->tables(), &PointTables::renamed, this, &MainWindow::followName);
+    connect(&m_view->tables(), &PointTables::refused, this,
+            [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
+}
+
+void MainWindow::followName(LwType type, const QString &former, const QString &name)
+{
+    m_code->UpdateWordListItem(former, name, type);
+    m_points->refill();
+    m_saving->noteNewNames();
+    if (!isVocabularyType(type))
+        return;
+    const auto answer = QMessageBox::question(
+        this, tr("Rename"), tr("Rename %1 to %2 in the program, too?").arg(former, name));
+    if (answer != QMessageBox::Yes)
+        return;
+    QString errMsg;
+    m_code->ReplaceRichTextBox(former, name, errMsg, true);
+    if (!errMsg.isEmpty())
+        QMessageBox::warning(this, tr("Rename"), errMsg);
 }
 
 void MainWindow::chooseProject()
@@ -122,24 +189,21 @@ void MainWindow::chooseProject()
 void MainWindow::openProject(const QString &fileName)
 {
     auto former = std::exchange(m_project, std::make_unique<Project>(fileName));
-    handOverVocabulary();
+    m_view->setProject(*m_project);
+    m_points->refill();
     setWindowTitle(m_project->name() + u"[*]"_s); // the application's name is added to it
     showProgram();
 }
 
-void MainWindow::handOverVocabulary()
+void MainWindow::showType(LwType type)
 {
-    m_vocabulary->SetCollectionRenamable(this, m_project->points(dsVariable),
-                                         m_project->points(dsConst), m_project->points(dsInput),
-                                         m_project->points(dsOutput), m_project->points(dsNvi));
-    m_vocabulary->setIsSqrtSupported(m_project->controller().isSqrtSupported ? u"true"_s
-                                                                             : u"false"_s);
-    m_vocabulary->setStringIndexCollection(m_project->indexedNames());
+    m_view->showType(type);
 }
 
 void MainWindow::showProgram()
 {
     m_results->hide();
+    m_view->showType(dsCode);
     m_code->ClearUndoHistory();
     m_code->setCodeText(QString());
     applyAppearance();
@@ -184,6 +248,8 @@ void MainWindow::compile()
 // The editor's own member counts lines with 16 bits.
 void MainWindow::goTo(const QString &word, qint32 line)
 {
+    if (m_code->CurrentType() != dsCode)
+        m_view->showType(dsCode);
     if (line <= std::numeric_limits<qint16>::max()) {
         QString text = word;
         auto number = static_cast<qint16>(line);
@@ -204,7 +270,8 @@ void MainWindow::showPosition()
 void MainWindow::showProgramInfo()
 {
     const QString file = m_project ? QFileInfo(m_project->programFile()).fileName() : QString();
-    m_programInfo->setText(tr("%1, lines: %2").arg(file).arg(m_code->RTextBox()->lineCount()));
+    if (m_project)
+        m_programInfo->setText(tr("%1, lines: %2").arg(file).arg(m_code->RTextBox()->lineCount()));
 }
 
 // The appearance is applied anew, which takes the caret to the start.
@@ -217,6 +284,19 @@ void MainWindow::followPalette()
     box->setSelStart(start);
     box->setSelLength(length);
     box->ensureCursorVisible();
+}
+
+// What the menus say is made anew; what the user has done stays.
+void MainWindow::retranslate()
+{
+    m_results->retranslate();
+    qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
+    menuBar()->clear();
+    buildMenus();
+    m_view->retranslate();
+    m_points->retranslate();
+    showPosition();
+    showProgramInfo();
 }
 
 void MainWindow::changeEvent(QEvent *event)

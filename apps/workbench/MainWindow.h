@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ORVTListview/ORVListView.h>
-#include <ORVTListview/ORVTreeview.h>
 
 #include <QtWidgets/QMainWindow>
 
@@ -13,8 +12,11 @@ namespace ORVTListview {
 
 class CheckResults;
 class EditMenu;
+class Languages;
 class ProgramSaving;
+class PointChooser;
 class Project;
+class ProjectView;
 struct ProgramReport;
 
 // A small host: shows a project in the library's components.
@@ -23,12 +25,16 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    // The languages outlive the window.
+    explicit MainWindow(Languages &languages, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     // Shows the project. What is shown goes without a question. Raises Error and
     // keeps what is shown when the file cannot be read.
     void openProject(const QString &fileName);
+
+    // Shows the program, or the table of a type.
+    void showType(LwType type);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -38,11 +44,15 @@ protected:
 private:
     void buildMenus();
     void buildFileMenu();
+    void buildEditMenu();
     void buildProgramMenu();
+    void buildPointsMenu();
+    void buildViewMenu();
     void buildStatusBar();
     void connectEditor();
+    void connectPoints();
+    void followName(LwType type, const QString &former, const QString &name);
     void chooseProject();
-    void handOverVocabulary();
     void showProgram();
     void applyAppearance();
     void followPalette();
@@ -52,12 +62,14 @@ private:
     void goTo(const QString &word, qint32 line);
     void showPosition();
     void showProgramInfo();
+    void retranslate();
 
+    Languages &m_languages;
     std::unique_ptr<Project> m_project;
-    ORVTreeview *m_vocabulary;
-    ORVListView *m_code;
+    PointChooser *m_points; // made in the order of the Tab key
+    ProjectView *m_view;
+    ORVListView *m_code; // the view owns it
     ProgramSaving *m_saving;
-    EditMenu *m_editMenu;
     CheckResults *m_results;
     QLabel *m_programInfo;
     QLabel *m_position;

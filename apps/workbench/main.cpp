@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 #include "DarkColours.h"
+#include "Languages.h"
 #include "MainWindow.h"
 
 #include <ORVTListview/Error.h>
@@ -39,6 +40,7 @@ bool open(MainWindow &window, const Options &options)
 {
     try {
         window.openProject(options.project);
+        window.showType(options.shown);
         return true;
     } catch (const Error &error) {
         QTextStream(stderr) << error.Description() << Qt::endl;
@@ -55,13 +57,16 @@ int main(int argc, char **argv)
     applyScale(argc, argv);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"workbench"_s);
-    QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
+    Languages languages;
     const std::optional<Options> options = readOptions(application);
     if (!options)
         return 1;
+    if (!options->language.isEmpty())
+        languages.setLanguage(QLocale(options->language));
+    QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
     prepareLook(*options);
 
-    MainWindow window;
+    MainWindow window(languages);
     window.show();
     if (!open(window, *options))
         return 1;

@@ -105,7 +105,7 @@ void DragEvents::start()
     if (m_content)
         m_content(*data);
     DataObject object(data.get(), DataObject::Side::Source);
-    qint32 allowed = Copy;
+    qint32 allowed = m_allowed;
     const QPointer<DragEvents> self(this);
     Q_EMIT OLEStartDrag(&object, allowed);
     if (self && m_widget.isEnabled() && toActions(allowed) && !data->formats().isEmpty())
@@ -181,6 +181,11 @@ qint32 DragEvents::raiseOver(qint32 effect, const MouseArguments &mouse, State s
     return effect;
 }
 
+qint32 DragEvents::effectOf(const QDropEvent &event) const
+{
+    return m_target ? m_target->effectOf(event) : toEffect(event.proposedAction());
+}
+
 MouseArguments DragEvents::mouseOf(const QDropEvent &event)
 {
     m_overPosition = m_surface.mapTo(&m_widget, event.position());
@@ -192,8 +197,11 @@ void DragEvents::over(QDropEvent &event)
     m_overData = const_cast<QMimeData *>(event.mimeData());
     const MouseArguments mouse = mouseOf(event);
     const State state = std::exchange(m_isAnnounced, true) ? Over : Enter;
-    // The event lives on even if this object does not.
-    answer(event, raiseOver(toEffect(event.proposedAction()), mouse, state));
+    const QPointer<DragEvents> self(this);
+    const qint32 effect = raiseOver(effectOf(event), mouse, state);
+    answer(event, effect); // the event lives on even if this object does not
+    if (self && m_target)
+        m_target->show(event, effect);
 }
 
 void DragEvents::leave()
@@ -201,6 +209,8 @@ void DragEvents::leave()
     m_isOver = false;
     if (!std::exchange(m_isAnnounced, false))
         return;
+    if (m_target)
+        m_target->hide();
     raiseOver(None,
               mouseArguments(m_overPosition, QGuiApplication::mouseButtons(),
                              QGuiApplication::keyboardModifiers(), m_widget),
@@ -211,11 +221,16 @@ void DragEvents::drop(QDropEvent &event)
 {
     m_isOver = false;
     m_isAnnounced = false;
+    if (m_target)
+        m_target->hide();
     DataObject data(const_cast<QMimeData *>(event.mimeData()), DataObject::Side::Target);
     const MouseArguments mouse = mouseOf(event);
-    qint32 effect = toEffect(event.proposedAction());
+    qint32 effect = effectOf(event);
+    const QPointer<DragEvents> self(this);
     Q_EMIT OLEDragDrop(&data, effect, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
     answer(event, effect);
+    if (self && m_target && effect != None)
+        m_target->drop(event, effect);
 }
 
 } // namespace ORVTListview

@@ -16,8 +16,10 @@ bool run(Act &&act)
         return std::forward<Act>(act)();
     } catch (const std::exception &error) {
         qWarning("An event handler failed: %s", error.what());
-        return true;
+    } catch (...) {
+        qWarning("An event handler failed");
     }
+    return true;
 }
 
 } // namespace ORVTListview::EventGuard

@@ -34,7 +34,7 @@ void ReportDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
                                   const QModelIndex &index) const
 {
     if (const auto *line = qobject_cast<QLineEdit *>(editor))
-        Q_EMIT labelEntered(index.row(), line->text());
+        Q_EMIT labelEntered(index, line->text());
 }
 
 bool ReportDelegate::isElided(const QStyleOptionViewItem &option, const QModelIndex &index) const

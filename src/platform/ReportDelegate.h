@@ -4,8 +4,8 @@
 
 namespace ORVTListview {
 
-// Draws the cells of a report list by the style, each on one line, and hands the
-// label that a user has entered to the list instead of the model. The focus is a
+// Draws the cells of a list or a tree by the style, each on one line, and hands the
+// label that a user has entered to the view instead of the model. The focus is a
 // dotted frame in the colour of the text: the styles' own are too faint on a
 // selected row, or lie over its text.
 class ReportDelegate final : public QStyledItemDelegate
@@ -25,7 +25,7 @@ public:
     bool isElided(const QStyleOptionViewItem &option, const QModelIndex &index) const;
 
 Q_SIGNALS:
-    void labelEntered(int position, const QString &text) const;
+    void labelEntered(const QModelIndex &index, const QString &text) const;
 };
 
 } // namespace ORVTListview

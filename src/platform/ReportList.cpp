@@ -78,7 +78,9 @@ void ReportList::setUpConnections()
             [this] { d->widths.columnsChanged(); });
     connect(&d->model, &ReportModel::checkedByUser, this,
             [this](int position) { d->checkedPosition = position; });
-    connect(&d->delegate, &ReportDelegate::labelEntered, this, &ReportList::noteLabel);
+    connect(
+        &d->delegate, &ReportDelegate::labelEntered, this,
+        [this](const QModelIndex &label, const QString &text) { noteLabel(label.row(), text); });
     connect(&d->slowClick, &SlowClick::clicked, this, [this] {
         EventGuard::run([this] {
             StartLabelEdit();

@@ -101,8 +101,8 @@ public:
     bool MultiSelect() const;
     void setMultiSelect(bool MultiSelect);
 
-    // Raises BeforeLabelEdit and edits the text of the selected row in place;
-    // without one, nothing.
+    // Raises BeforeLabelEdit and edits the label of the selected row in place;
+    // without one, nothing. See labelColumn.
     void StartLabelEdit();
 
     // Paints at once.
@@ -132,6 +132,12 @@ public:
     // Whether users can begin to edit a label; StartLabelEdit always can.
     bool editsLabels() const;
     void setEditsLabels(bool on);
+
+    // The column that label editing edits, counted from 0: 0, the row's own text, at
+    // first. While the list has no such column it is 0. Raises Error
+    // (SubscriptOutOfRange) below 0.
+    qint16 labelColumn() const;
+    void setLabelColumn(qint16 Index);
 
     bool isHeaderVisible() const;
     void setHeaderVisible(bool visible);
@@ -201,7 +207,6 @@ protected:
 private:
     friend class RowChoice;
 
-    using KeySignal = void (ReportList::*)(qint16 &, qint16);
     using MouseSignal = void (ReportList::*)(qint16, qint16, float, float);
 
     // The model and the modes are the list's own affair.
@@ -216,8 +221,6 @@ private:
     ListItem *itemOf(const QModelIndex &index) const;
     bool isChosenLabel(const QModelIndex &index) const;
     bool raiseMouse(MouseSignal signal, const QMouseEvent &event);
-    bool raiseKey(KeySignal signal, const QKeyEvent &event);
-    bool raiseKeyPress(const QKeyEvent &event, QString &typed);
     void act(QKeyEvent &event);
     bool runCommand(const QKeyEvent &event);
     void pick(const std::function<void()> &act);
@@ -226,6 +229,7 @@ private:
     void copySelection() const;
     void noteLabel(int position, const QString &text);
     void finishLabelEdit();
+    void setLabel(ListItem &item, const QString &label);
 
     std::unique_ptr<ReportListParts> d;
 };

@@ -1,11 +1,14 @@
 // How the labels of a list are edited: the events around the view's own editor.
 
+#include "platform/Error.h"
 #include "platform/ReportListParts.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QScopeGuard>
 
 namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
 
 void ReportList::StartLabelEdit()
 {
@@ -25,7 +28,7 @@ void ReportList::StartLabelEdit()
     if (!self || cancel != 0 || !item->isAlive() || d->model.columns() == 0)
         return;
     item->EnsureVisible();
-    const QModelIndex label = d->model.index(item->Index() - 1, 0);
+    const QModelIndex label = d->model.index(item->Index() - 1, labelColumn());
     scrollTo(label);
     edit(label, AllEditTriggers, nullptr);
 }
@@ -46,7 +49,27 @@ void ReportList::finishLabelEdit()
     const QPointer<ReportList> self(this);
     Q_EMIT AfterLabelEdit(cancel, label);
     if (self && cancel == 0 && item->isAlive())
-        item->setText(label);
+        setLabel(*item, label);
+}
+
+void ReportList::setLabel(ListItem &item, const QString &label)
+{
+    if (labelColumn() == 0)
+        item.setText(label);
+    else
+        item.setSubItem(labelColumn(), label);
+}
+
+qint16 ReportList::labelColumn() const
+{
+    return static_cast<qint16>(d->model.labelColumn());
+}
+
+void ReportList::setLabelColumn(qint16 Index)
+{
+    if (Index < 0)
+        throw Error(SubscriptOutOfRange, u"setLabelColumn"_s, u"Columns count from 0"_s);
+    d->model.setLabelColumn(Index);
 }
 
 void ReportList::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)

@@ -102,7 +102,7 @@ Qt::ItemFlags ReportModel::flags(const QModelIndex &index) const
         return Qt::NoItemFlags;
     Qt::ItemFlags flags =
         Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
-    if (index.column() == 0)
+    if (index.column() == labelColumn())
         flags |= Qt::ItemIsEditable;
     if (index.column() == 0 && m_checkBoxes)
         flags |= Qt::ItemIsUserCheckable;

@@ -77,6 +77,10 @@ public:
     // Views.
     bool hasCheckBoxes() const { return m_checkBoxes; }
     void setCheckBoxes(bool on);
+
+    // The column whose cells can be edited; 0 while the one that was set is not there.
+    int labelColumn() const { return m_labelColumn < columns() ? m_labelColumn : 0; }
+    void setLabelColumn(int column) { m_labelColumn = column; }
     void setPictureProvider(PictureProvider provider);
     QIcon pictureOf(const ReportRow &row) const;
 
@@ -98,6 +102,7 @@ private:
     std::vector<std::unique_ptr<ReportColumn>> m_columns;
     PictureProvider m_pictures;
     bool m_checkBoxes = false;
+    int m_labelColumn = 0;
 };
 
 } // namespace ORVTListview

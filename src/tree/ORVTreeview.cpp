@@ -2,17 +2,211 @@
 
 #include "editor/ThreadColouring.h"
 #include "editor/Vocabulary.h"
+#include "platform/Error.h"
+#include "platform/ImageList.h"
+#include "platform/NodeTree.h"
+#include "platform/ShortInteger.h"
+#include "shared/DisplayNames.h"
 #include "shared/HostForms.h"
+#include "shared/Pictures.h"
+#include "shared/TextTable.h"
 #include "shared/ThreadState.h"
+#include "tree/CategoryMoves.h"
+#include "tree/PageArrangement.h"
+#include "tree/PointCounts.h"
+#include "tree/ProjectNodes.h"
+#include "tree/TypeCollections.h"
+
+#include <exception>
 
 namespace ORVTListview {
 
-ORVTreeview::ORVTreeview(QWidget *parent)
-    : QWidget(parent)
+using namespace Qt::StringLiterals;
+
+struct ORVTreeview::Private
 {
+    explicit Private(ORVTreeview *control)
+        : tree(new NodeTree(control))
+        , nodes(*tree)
+        , moves(*tree, nodes)
+    {
+        Pictures::fillInto(images);
+        tree->setObjectName(u"TreeView1"_s);
+        tree->setPictureProvider([this](const QString &key) { return images.Picture(key); });
+        tree->setDragEnabled(true);
+        tree->setDraggable(
+            [](const Node &node) { return ProjectNodes::categoryOf(node).has_value(); });
+        tree->setDragEffects(DragEvents::Copy | DragEvents::Move);
+        tree->setAcceptDrops(true);
+        tree->setDropTarget(&moves);
+        tree->setKeyCommand([this](const QKeyEvent &event) { return moves.handleKey(event); });
+    }
+
+    ImageList images;
+    NodeTree *tree; // a child of the control
+    ProjectNodes nodes;
+    CategoryMoves moves;
+    QList<Pages> pages; // as loaded
+    bool designs = false;
+};
+
+ORVTreeview::ORVTreeview(QWidget *parent)
+    : Component(parent)
+    , d(std::make_unique<Private>(this))
+{
+    setFocusProxy(d->tree);
+    forwardEvents();
+    d->pages = PageArrangement::load();
+    d->nodes.build(d->pages);
 }
 
-ORVTreeview::~ORVTreeview() = default;
+ORVTreeview::~ORVTreeview()
+{
+    if (!d->designs)
+        save();
+    delete d->tree; // before what it is set up with
+}
+
+// Nothing may leave a destructor.
+void ORVTreeview::save() const noexcept
+{
+    try {
+        PageArrangement::save(d->nodes.places());
+    } catch (const std::exception &error) {
+        qWarning("The arrangement of the pages was not saved: %s", error.what());
+    }
+}
+
+void ORVTreeview::forwardEvents()
+{
+    const NodeTree *tree = d->tree;
+    connect(tree, &NodeTree::AfterLabelEdit, this, &ORVTreeview::AfterLabelEdit);
+    connect(tree, &NodeTree::BeforeLabelEdit, this, &ORVTreeview::BeforeLabelEdit);
+    connect(tree, &NodeTree::Click, this, &ORVTreeview::Click);
+    connect(tree, &NodeTree::Collapse, this, &ORVTreeview::Collapse);
+    connect(tree, &NodeTree::DblClick, this, &ORVTreeview::DblClick);
+    connect(tree, &NodeTree::Expand, this, &ORVTreeview::Expand);
+    connect(tree, &NodeTree::KeyDown, this, &ORVTreeview::KeyDown);
+    connect(tree, &NodeTree::KeyPress, this, &ORVTreeview::KeyPress);
+    connect(tree, &NodeTree::KeyUp, this, &ORVTreeview::KeyUp);
+    connect(tree, &NodeTree::MouseDown, this, &ORVTreeview::MouseDown);
+    connect(tree, &NodeTree::MouseMove, this, &ORVTreeview::MouseMove);
+    connect(tree, &NodeTree::MouseUp, this, &ORVTreeview::MouseUp);
+    connect(tree, &NodeTree::NodeCheck, this, &ORVTreeview::NodeCheck);
+    connect(tree, &NodeTree::NodeClick, this, &ORVTreeview::NodeClick);
+    connect(tree, &NodeTree::OLECompleteDrag, this, &ORVTreeview::OLECompleteDrag);
+    connect(tree, &NodeTree::OLEDragDrop, this, &ORVTreeview::OLEDragDrop);
+    connect(tree, &NodeTree::OLEDragOver, this, &ORVTreeview::OLEDragOver);
+    connect(tree, &NodeTree::OLEGiveFeedback, this, &ORVTreeview::OLEGiveFeedback);
+    connect(tree, &NodeTree::OLESetData, this, &ORVTreeview::OLESetData);
+    connect(tree, &NodeTree::OLEStartDrag, this, &ORVTreeview::OLEStartDrag);
+}
+
+QSize ORVTreeview::sizeHint() const
+{
+    return d->tree->sizeHint();
+}
+
+QSize ORVTreeview::minimumSizeHint() const
+{
+    return d->tree->minimumSizeHint();
+}
+
+void ORVTreeview::resizeEvent(QResizeEvent *)
+{
+    d->tree->setGeometry(rect());
+}
+
+bool ORVTreeview::isDesignMode() const
+{
+    return d->designs;
+}
+
+void ORVTreeview::setDesignMode(bool on)
+{
+    d->designs = on;
+}
+
+Nodes *ORVTreeview::Nodes() const
+{
+    return d->tree->Nodes();
+}
+
+Node *ORVTreeview::SelectedItem() const
+{
+    return d->tree->SelectedItem();
+}
+
+void ORVTreeview::setSelectedItem(Node *Item)
+{
+    d->tree->setSelectedItem(Item);
+}
+
+Node *ORVTreeview::HitTest(float X, float Y) const
+{
+    return d->tree->HitTest(X, Y);
+}
+
+void ORVTreeview::SetNodeForeColor(LwType Index, qint32 Color)
+{
+    if (isType(Index))
+        Nodes()->Item(displayName(Index))->setForeColor(Color);
+}
+
+QVariant ORVTreeview::OLEDrag()
+{
+    d->tree->OLEDrag();
+    return {};
+}
+
+void ORVTreeview::InitStrings()
+{
+    d->nodes.localise();
+}
+
+void ORVTreeview::ReInitializeStrings()
+{
+    threadPart<TextTable>().refresh();
+    InitStrings();
+}
+
+QList<Pages> ORVTreeview::GetPageSettings() const
+{
+    return d->pages;
+}
+
+qint16 ORVTreeview::GetPageNumber(Node *tvNode) const
+{
+    const QString member = u"ORVTreeview.GetPageNumber"_s;
+    for (const Node *node = tvNode; node; node = node->Parent()) {
+        const qint16 tag = toShortInteger(node->Tag(), member);
+        if (tag == PageArrangement::deviceTag)
+            return tag;
+        if (!isType(tag))
+            return toShortInteger(tag - PageArrangement::pageTag, member);
+    }
+    throw Error(ObjectNotSet, member, u"There is no such node"_s);
+}
+
+qint16 ORVTreeview::GetItemsBound() const
+{
+    return highestType;
+}
+
+QString ORVTreeview::GetItemKey(qint16 Index) const
+{
+    return displayName(Index);
+}
+
+KeyedCollection<QString> ORVTreeview::GetLWTypeKeyCollection() const
+{
+    return TypeCollections::names();
+}
+
+KeyedCollection<qint32> ORVTreeview::GetLWTypeIndexCollection() const
+{
+    return TypeCollections::values();
+}
 
 void ORVTreeview::SetCollectionRenamable(QWidget *fParent, PointCollection *ColVars,
                                          PointCollection *ColConsts, PointCollection *ColInputs,
@@ -26,6 +220,14 @@ void ORVTreeview::setStringIndexCollection(IndexedNameCollection *Names)
 {
     threadPart<Vocabulary>().setIndexedNames(Names);
     refillThreadWordList();
+}
+
+void ORVTreeview::Init_Values(qint16 Inputs, qint16 Outputs, qint16 Constants, qint16 Variables,
+                              qint16 Controllers, qint16 Schedules, qint16 Timers, qint16 Oss,
+                              qint16 FPAInputs, qint16 FPAOutputs)
+{
+    threadPart<PointCounts>() = {Inputs,    Outputs, Constants, Variables, Controllers,
+                                 Schedules, Timers,  Oss,       FPAInputs, FPAOutputs};
 }
 
 void ORVTreeview::setIsSqrtSupported(const QString &Value)

@@ -285,3 +285,54 @@ TEST(Project, NoticesThatItsProgramWasChangedOutside)
     ASSERT_TRUE(QFile::remove(project.programFile()));
     EXPECT_FALSE(project.isProgramChangedOutside());
 }
+
+TEST(Project, RenamesAPointHereAndInItsFile)
+{
+    const ProjectFolder folder;
+    Project project(
+        writeProject(folder, R"("inputs": [{"name": "I1"},  {"name": "I2", "data": 7}])"));
+    const PointList *inputs = project.points(dsInput);
+    project.rename(dsInput, 1, u"Größe"_s);
+    EXPECT_EQ(inputs->Item(2)->Name, u"Größe"_s);
+    EXPECT_EQ(inputs->Item(2)->Data, 7);
+    EXPECT_EQ(project.rows(dsInput).at(1).cells.at(0), QVariant(u"Größe"_s));
+    EXPECT_TRUE(project.hasNewNames());
+    project.rename(dsInput, 1, u"Second"_s);
+
+    const QByteArray before = readFile(project.fileName());
+    project.saveNames();
+    EXPECT_FALSE(project.hasNewNames());
+    EXPECT_EQ(readFile(project.fileName()), QByteArray(before).replace("\"I2\"", "\"Second\""));
+    EXPECT_EQ(Project(project.fileName()).rows(dsInput).at(1).name, u"Second"_s);
+}
+
+TEST(Project, RefusesNamesThatCannotBeUsed)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(folder, R"("inputs": [{"name": "I1"}, {"name": "I2"}],
+                                            "timers": [{"data": "x"}])"));
+    const auto numberOf = [&](LwType type, qsizetype row, const QString &name) {
+        const auto error = raisedBy([&] { project.rename(type, row, name); });
+        return error ? error->Number() : 0;
+    };
+    for (const QString &name : {QString(), u" "_s, u" a"_s, u"a "_s, u"a\tb"_s, u"i2"_s})
+        EXPECT_EQ(numberOf(dsInput, 0, name), qint32{NameNotUsable}) << name.toStdString();
+    EXPECT_EQ(numberOf(dsInput, 2, u"x"_s), qint32{NameNotUsable});
+    EXPECT_EQ(numberOf(dsTimer, 0, u"x"_s), qint32{NameNotUsable});
+    EXPECT_FALSE(project.hasNewNames());
+    EXPECT_EQ(numberOf(dsInput, 0, u"i1"_s), 0); // another letter case of its own
+}
+
+TEST(Project, DoesNotWriteNamesIntoAFileThatIsAnotherOne)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(folder, R"("inputs": [{"name": "I1"}])"));
+    project.rename(dsInput, 0, u"I9"_s);
+    writeProject(folder, R"("inputs": [{"name": "Another"}])");
+    const QByteArray theirs = readFile(project.fileName());
+    const auto error = raisedBy([&] { project.saveNames(); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Number(), FileNotWritable);
+    EXPECT_EQ(readFile(project.fileName()), theirs);
+    EXPECT_TRUE(project.hasNewNames());
+}

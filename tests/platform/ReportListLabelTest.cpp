@@ -30,6 +30,7 @@ private Q_SLOTS:
     void initTestCase() { QApplication::setDoubleClickInterval(100); }
     void editsTheLabelOfTheSelectedRow();
     void startsWithF2();
+    void editsTheLabelsOfAnotherColumn();
     void startsWithASlowSecondClick();
     void doesNotStartWithOtherClicks_data();
     void doesNotStartWithOtherClicks();
@@ -71,6 +72,31 @@ void ReportListLabelTest::startsWithF2()
     shown->setSelectedItem(shown.item(2));
     shown.key(Qt::Key_F2);
     QVERIFY(hasEditor(shown));
+}
+
+void ReportListLabelTest::editsTheLabelsOfAnotherColumn()
+{
+    const ShownList shown;
+    shown->setLabelColumn(2);
+    shown.item(2)->setSubItem(2, u"old"_s);
+    shown->setSelectedItem(shown.item(2));
+    shown.key(Qt::Key_F2);
+    QVERIFY(hasEditor(shown));
+    QCOMPARE(editorOf(shown)->text(), u"old"_s);
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    QTest::keyClick(editorOf(shown), Qt::Key_Return);
+    QTRY_COMPARE(shown.item(2)->SubItem(2), u"new"_s);
+    QCOMPARE(shown.item(2)->Text(), u"Text 2"_s);
+
+    QTRY_VERIFY(!hasEditor(shown));
+    shown.click(shown.cell(2, 3));
+    QTest::qWait(ShownList::betweenClicks());
+    shown.click(shown.cell(2, 3));
+    QTRY_VERIFY(hasEditor(shown));
+
+    shown->setLabelColumn(99);
+    QCOMPARE(shown->labelColumn(), qint16(0)); // there is none
+    QCOMPARE(errorOf([&] { shown->setLabelColumn(-1); }), qint32{SubscriptOutOfRange});
 }
 
 void ReportListLabelTest::startsWithASlowSecondClick()

@@ -1,6 +1,6 @@
-# Fails when lupdate would change a translation: a text of the library was added,
+# Fails when lupdate would change a translation: a text was added,
 # changed or removed and the translations do not know yet. Needs LUPDATE,
-# OPTIONS, SOURCE, TS_FILES and FOLDER, where copies may be made.
+# OPTIONS, SOURCES, TS_FILES and FOLDER, where copies may be made.
 
 file(REMOVE_RECURSE ${FOLDER})
 file(MAKE_DIRECTORY ${FOLDER})
@@ -8,7 +8,7 @@ foreach(ts_file IN LISTS TS_FILES)
     get_filename_component(name ${ts_file} NAME)
     set(copy ${FOLDER}/${name})
     file(COPY ${ts_file} DESTINATION ${FOLDER})
-    execute_process(COMMAND ${LUPDATE} -silent ${OPTIONS} ${SOURCE} -ts ${copy}
+    execute_process(COMMAND ${LUPDATE} -silent ${OPTIONS} ${SOURCES} -ts ${copy}
         RESULT_VARIABLE failed)
     if(failed)
         message(FATAL_ERROR "lupdate failed on ${name}: ${failed}")

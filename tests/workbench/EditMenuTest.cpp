@@ -2,6 +2,8 @@
 
 #include "platform/ReportList.h"
 
+#include <QtCore/QMimeData>
+
 using namespace Qt::StringLiterals;
 
 class EditMenuTest : public WidgetTest
@@ -30,17 +32,33 @@ private Q_SLOTS:
                  u"Restore Typed Text, Find…, Replace…, Select All, Known Words"_s);
         workbench.choose(u"Select All"_s);
         QCOMPARE(workbench.box().SelText(), u"Fan1 = ON"_s);
-        QCOMPARE(enabled(workbench),
-                 u"Restore Typed Text, Cut, Copy, Find…, Replace…, Select All, Known Words"_s);
+        QCOMPARE(
+            enabled(workbench),
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Find…, Replace…, Select All, Known Words"_s);
         workbench.choose(u"Copy"_s);
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Fan1 = ON"_s);
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Cut, Copy, Paste, Find…, Replace…, Select All, Known Words"_s);
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Paste, Find…, Replace…, Select All, Known Words"_s);
         workbench.choose(u"Cut"_s);
         QCOMPARE(workbench.code().CodeText(), QString());
         QCOMPARE(enabled(workbench),
                  u"Restore Typed Text, Paste, Find…, Replace…, Select All, Known Words"_s);
+    }
+
+    void copiesWithColours()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.choose(u"Select All"_s);
+        QVERIFY(enabled(workbench).contains(u"Copy with Colours"_s));
+        workbench.choose(u"Copy with Colours"_s);
+        const QMimeData *data = QGuiApplication::clipboard()->mimeData();
+        QCOMPARE(data->text(), u"Fan1 = ON"_s);
+        QCOMPARE(QString::fromLatin1(data->data(u"text/rtf"_s)), workbench.box().SelRTF());
+        QVERIFY2(data->html().contains(u">Fan1 "_s), qPrintable(data->html()));
+
+        workbench.choose(u"Copy"_s); // stays plain
+        QVERIFY(!QGuiApplication::clipboard()->mimeData()->hasHtml());
     }
 
     void pastesInColours()

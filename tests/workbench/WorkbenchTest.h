@@ -2,9 +2,12 @@
 
 #include "project/TextFile.h"
 #include "support/WidgetTest.h"
+#include "workbench/LanguageMenu.h"
+#include "workbench/Languages.h"
 #include "workbench/MainWindow.h"
 
 #include <ORVTListview/RichTextBox.h>
+#include <ORVTListview/SettingsStore.h>
 
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
@@ -13,6 +16,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
@@ -50,16 +54,23 @@ struct WorkbenchWindow
         return ORVTListview::readFile(folder.filePath(name + QStringLiteral(".prog")));
     }
 
-    ORVTListview::ORVListView &code()
-    {
-        return *qobject_cast<ORVTListview::ORVListView *>(window.centralWidget());
-    }
+    ORVTListview::ORVListView &code() { return *window.findChild<ORVTListview::ORVListView *>(); }
     ORVTListview::RichTextBox &box() { return *code().RTextBox(); }
-    QTreeView &results() { return *window.findChild<QTreeView *>(); }
+    QTreeView &results()
+    {
+        return *window.findChild<QDockWidget *>(QStringLiteral("CheckResults"))
+                    ->findChild<QTreeView *>();
+    }
     void type(const QString &text) { QTest::keyClicks(&box(), text); }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::keyClick(&box(), key, modifiers);
+    }
+
+    void speak(const QLocale &language)
+    {
+        languages.setLanguage(language);
+        QCoreApplication::processEvents();
     }
 
     QList<QMenu *> menus() const
@@ -104,8 +115,15 @@ struct WorkbenchWindow
         return rows.join(u'|');
     }
 
+    struct Settings // of the tests' own; there before the window
+    {
+        explicit Settings(const QString &file) { ORVTListview::setSettingsFile(file); }
+    };
+
     QTemporaryDir folder;
-    ORVTListview::MainWindow window;
+    Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
+    ORVTListview::Languages languages{QLocale(QLocale::English)};
+    ORVTListview::MainWindow window{languages};
 };
 
 // Answers the next dialog that is shown modally, and keeps what it said.

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QtCore/QCoreApplication>
+
+namespace ORVTListview {
+
+// The context of the texts that tell what is wrong with a project.
+struct ProjectTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(ProjectTexts)
+};
+
+} // namespace ORVTListview

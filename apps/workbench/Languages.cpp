@@ -1,0 +1,55 @@
+#include "Languages.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLibraryInfo>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The locale of the translations that are shown for a language.
+QLocale shownFor(const QLocale &wanted)
+{
+    const QList<QLocale> available = Languages::available();
+    for (const QString &name : wanted.uiLanguages()) {
+        const QLocale::Language language = QLocale(name).language();
+        for (const QLocale &locale : available) {
+            if (locale.language() == language)
+                return locale;
+        }
+    }
+    return QLocale(QLocale::English);
+}
+
+} // namespace
+
+Languages::Languages(const QLocale &locale, QObject *parent)
+    : QObject(parent)
+    , m_libraryTexts(locale)
+{
+    setTextProvider(&m_libraryTexts);
+    setLanguage(locale);
+}
+
+Languages::~Languages()
+{
+    setTextProvider(nullptr);
+}
+
+void Languages::setLanguage(const QLocale &language)
+{
+    m_language = shownFor(language);
+    m_libraryTexts.setLanguage(m_language);
+    QCoreApplication::removeTranslator(&m_workbenchTexts);
+    QCoreApplication::removeTranslator(&m_toolkitTexts);
+    if (m_toolkitTexts.load(m_language, u"qtbase"_s, u"_"_s,
+                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&m_toolkitTexts);
+    if (m_workbenchTexts.load(m_language, u"workbench"_s, u"_"_s, u":/workbench/translations"_s))
+        QCoreApplication::installTranslator(&m_workbenchTexts);
+    Q_EMIT changed();
+}
+
+} // namespace ORVTListview

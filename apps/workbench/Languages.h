@@ -1,0 +1,40 @@
+#pragma once
+
+#include <ORVTListview/TranslatedTexts.h>
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QTranslator>
+
+namespace ORVTListview {
+
+// The languages of the workbench: the library's texts by its own provider, the
+// workbench's and the toolkit's by translators.
+class Languages : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Begins with the first of the locale's languages that there is.
+    explicit Languages(const QLocale &locale = QLocale(), QObject *parent = nullptr);
+    ~Languages() override;
+
+    // English and those with a translation.
+    static QList<QLocale> available() { return TranslatedTexts::availableLanguages(); }
+
+    // What is shown.
+    QLocale language() const { return m_language; }
+    void setLanguage(const QLocale &language);
+
+Q_SIGNALS:
+    // All texts are to be set anew.
+    void changed();
+
+private:
+    TranslatedTexts m_libraryTexts;
+    QTranslator m_workbenchTexts;
+    QTranslator m_toolkitTexts;
+    QLocale m_language;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,226 @@
+#include "combo/ORVDataCombo.h"
+
+#include "combo/PointEntries.h"
+#include "platform/Colours.h"
+#include "platform/Error.h"
+#include "platform/ImageCombo.h"
+#include "platform/ImageList.h"
+#include "shared/Pictures.h"
+#include "shared/TextRoutine.h"
+#include "shared/TextTable.h"
+#include "shared/ThreadState.h"
+
+#include <QtCore/QEvent>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+qint16 saturated(qint32 value)
+{
+    constexpr qint32 most = std::numeric_limits<qint16>::max();
+    return static_cast<qint16>(std::min(value, most));
+}
+
+} // namespace
+
+struct ORVDataCombo::Private
+{
+    explicit Private(ORVDataCombo &control)
+        : combo(new ImageCombo(&control))
+    {
+        Pictures::fillInto(images);
+        combo->setObjectName(u"ImageCombo1"_s);
+        combo->setImageList(&images);
+    }
+
+    ImageList images;
+    ImageCombo *combo; // a child of the control
+    qint32 formParentHandle = 0;
+    QString recordedText;
+};
+
+ORVDataCombo::ORVDataCombo(QWidget *parent)
+    : Component(parent)
+{
+    d = std::make_unique<Private>(*this);
+    setFocusProxy(d->combo);
+    setSizePolicy(d->combo->sizePolicy());
+    connect(d->combo, &ImageCombo::focusLeft, this, &ORVDataCombo::applyColour);
+    connect(d->combo, &ImageCombo::Click, this, &ORVDataCombo::applyColour);
+    connect(d->combo, &ImageCombo::Click, this, &ORVDataCombo::recordText);
+    connect(d->combo, &ImageCombo::Change, this, &ORVDataCombo::recordText);
+    relayEvents();
+}
+
+ORVDataCombo::~ORVDataCombo()
+{
+    delete d->combo; // before its pictures
+}
+
+void ORVDataCombo::relayEvents()
+{
+    const ImageCombo *combo = d->combo;
+    connect(combo, &ImageCombo::Change, this, &ORVDataCombo::Change);
+    connect(combo, &ImageCombo::Click, this, &ORVDataCombo::Click);
+    connect(combo, &ImageCombo::DblClick, this, &ORVDataCombo::DblClick);
+    connect(combo, &ImageCombo::KeyDown, this, &ORVDataCombo::KeyDown);
+    connect(combo, &ImageCombo::KeyPress, this, &ORVDataCombo::KeyPress);
+    connect(combo, &ImageCombo::KeyUp, this, &ORVDataCombo::KeyUp);
+    connect(combo, &ImageCombo::OLECompleteDrag, this, &ORVDataCombo::OLECompleteDrag);
+    connect(combo, &ImageCombo::OLEDragDrop, this, &ORVDataCombo::OLEDragDrop);
+    connect(combo, &ImageCombo::OLEDragOver, this, &ORVDataCombo::OLEDragOver);
+    connect(combo, &ImageCombo::OLEGiveFeedback, this, &ORVDataCombo::OLEGiveFeedback);
+    connect(combo, &ImageCombo::OLESetData, this, &ORVDataCombo::OLESetData);
+    connect(combo, &ImageCombo::OLEStartDrag, this, &ORVDataCombo::OLEStartDrag);
+}
+
+void ORVDataCombo::FillDataListview(LwType TypeIndex, PointCollection *, QString &ErrMsg)
+{
+    if (!hasPointEntries(TypeIndex))
+        return;
+    try {
+        d->combo->setEntries(pointEntries(TypeIndex));
+    } catch (const Error &error) {
+        ErrMsg = error.Description();
+    } catch (const std::exception &failure) {
+        ErrMsg = QString::fromUtf8(failure.what());
+    }
+    recordText();
+}
+
+void ORVDataCombo::SetListIndex(const QString &Data)
+{
+    const qint32 index = d->combo->indexOf(Data);
+    if (index == 0)
+        return;
+    d->combo->setSelectedIndex(index);
+    applyColour();
+    recordText();
+}
+
+void ORVDataCombo::recordText()
+{
+    if (std::exchange(d->recordedText, Text()) != d->recordedText)
+        Q_EMIT textChanged();
+}
+
+void ORVDataCombo::applyColour()
+{
+    const qint32 selected = d->combo->selectedIndex();
+    if (selected == 0)
+        return;
+    const std::optional<qint32> colour = pointColour(d->combo->entry(selected).selectedImage);
+    if (colour)
+        d->combo->setTextColour(Colours::toColor(*colour, palette()));
+}
+
+qint32 ORVDataCombo::ItemData(qint16 Index) const
+{
+    return Index >= 0 && Index < ListCount() ? d->combo->entry(Index + 1).tag.toInt() : 0;
+}
+
+qint16 ORVDataCombo::ListCount() const
+{
+    return saturated(d->combo->count());
+}
+
+qint16 ORVDataCombo::ListIndex() const
+{
+    return saturated(d->combo->selectedIndex() - 1);
+}
+
+QString ORVDataCombo::Text() const
+{
+    return d->combo->text();
+}
+
+void ORVDataCombo::setText(const QString &Text)
+{
+    d->combo->setText(Text);
+}
+
+bool ORVDataCombo::Enabled() const
+{
+    return !testAttribute(Qt::WA_ForceDisabled);
+}
+
+void ORVDataCombo::Clear()
+{
+    d->combo->setEntries({});
+    recordText();
+}
+
+void ORVDataCombo::ResetbackColor(qint32) {}
+
+void ORVDataCombo::UpdateListWidth() {}
+
+void ORVDataCombo::setFormParentHandle(qint32 Handle)
+{
+    d->formParentHandle = Handle;
+}
+
+void ORVDataCombo::InitStrings() {}
+
+void ORVDataCombo::ReInitializeStrings()
+{
+    runTextRoutine(TextRoutine::dataCombo, [this] {
+        threadPart<TextTable>().refresh();
+        InitStrings();
+    });
+}
+
+void ORVDataCombo::ReadProperties(const PropertyBag &Bag)
+{
+    const QVariant text = Bag.ReadProperty(u"Text"_s, QString());
+    setText(text.toString());
+    setEnabled(Bag.ReadProperty(u"Enabled"_s, true).toBool());
+}
+
+void ORVDataCombo::WriteProperties(PropertyBag &Bag) const
+{
+    Bag.WriteProperty(u"Text"_s, Text(), QString());
+    Bag.WriteProperty(u"Enabled"_s, Enabled(), true);
+}
+
+bool ORVDataCombo::dragsEntry() const
+{
+    return d->combo->dragsEntry();
+}
+
+void ORVDataCombo::setDragsEntry(bool on)
+{
+    d->combo->setDragsEntry(on);
+}
+
+QSize ORVDataCombo::sizeHint() const
+{
+    return d->combo->sizeHint();
+}
+
+QSize ORVDataCombo::minimumSizeHint() const
+{
+    return d->combo->minimumSizeHint();
+}
+
+bool ORVDataCombo::event(QEvent *event)
+{
+    if (event->type() == QEvent::AcceptDropsChange && d)
+        d->combo->setAcceptDrops(acceptDrops());
+    else if (event->type() == QEvent::EnabledChange)
+        Q_EMIT enabledChanged();
+    return QWidget::event(event);
+}
+
+void ORVDataCombo::resizeEvent(QResizeEvent *)
+{
+    d->combo->setGeometry(rect());
+}
+
+} // namespace ORVTListview

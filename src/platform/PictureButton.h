@@ -1,0 +1,47 @@
+#pragma once
+
+#include <ORVTListview/Export.h>
+
+#include <QtWidgets/QToolButton>
+
+namespace ORVTListview {
+
+class ImageList;
+
+// A button that is nothing but a picture, and another one while it is held down.
+// It answers the left mouse button, Space and Enter, each on release; a release
+// outside calls the click off. The receiver of clicked may destroy it.
+class ORVT_EXPORT PictureButton : public QToolButton
+{
+    Q_OBJECT
+    Q_PROPERTY(QString PictureKey READ PictureKey)
+    Q_PROPERTY(QString Tag READ Tag WRITE setTag)
+
+public:
+    // The list is kept by reference and outlives the button.
+    PictureButton(const ImageList &images, QWidget *parent);
+
+    // The key of the picture shown at the moment. A key that the list has no
+    // picture for shows nothing.
+    QString PictureKey() const { return isDown() ? m_pressedKey : m_key; }
+    void setPictureKeys(const QString &key, const QString &pressedKey);
+
+    QString Tag() const { return m_tag; }
+    void setTag(const QString &tag) { m_tag = tag; }
+
+    QSize sizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const ImageList &m_images;
+    QString m_key;
+    QString m_pressedKey;
+    QString m_tag;
+};
+
+} // namespace ORVTListview

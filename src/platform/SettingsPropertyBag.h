@@ -1,0 +1,32 @@
+#pragma once
+
+#include <ORVTListview/PropertyBag.h>
+
+QT_BEGIN_NAMESPACE
+class QSettings;
+QT_END_NAMESPACE
+
+namespace ORVTListview {
+
+// Keeps properties in a group of the host's settings, as "Group/Name", or "Name"
+// without a group. A value that equals its default is left out; texts are read as
+// what the default is, and a text that is no such thing reads as the default.
+class ORVT_CORE_EXPORT SettingsPropertyBag : public PropertyBag
+{
+public:
+    // Settings outlives the bag. The group is relative to the one that is current
+    // in Settings at each call.
+    explicit SettingsPropertyBag(QSettings &Settings, const QString &Group = QString());
+
+    QVariant ReadProperty(const QString &Name, const QVariant &Default) const override;
+    void WriteProperty(const QString &Name, const QVariant &Value,
+                       const QVariant &Default) override;
+
+private:
+    QString key(const QString &name) const;
+
+    QSettings &m_settings;
+    QString m_group;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <ORVTListview/Component.h>
+#include <ORVTListview/DataObject.h>
+#include <ORVTListview/Export.h>
+
+namespace ORVTListview {
+
+// The interface of a stand-alone code editor, for hosts to be built against. Every
+// member accepts its call and does nothing, and no event is ever raised. The
+// editor that works is ORVListView with the type dsCode.
+class ORVT_EXPORT ORVRichText : public Component
+{
+    Q_OBJECT
+
+public:
+    explicit ORVRichText(QWidget *parent = nullptr);
+    ~ORVRichText() override;
+
+    const MemberTable &Members() const override;
+
+    Q_INVOKABLE void InitControl(QObject *FormParent);
+    Q_INVOKABLE void RichTextCut();
+    Q_INVOKABLE void RichTextCopy();
+    Q_INVOKABLE void RichTextSelectAll();
+    Q_INVOKABLE void ReinitializeWordCollection();
+
+    // Always false.
+    Q_INVOKABLE bool IsWordFound(const QString &Name);
+
+    // Always false; IndexLine and IndexPosition stay as they are.
+    Q_INVOKABLE bool Find(const QString &Name, qint32 &IndexLine, qint32 &IndexPosition);
+
+    // Always empty.
+    Q_INVOKABLE QString ReplaceSpaceEquivalent(const QString &Data);
+
+    Q_INVOKABLE void Clear();
+
+    // Always empty.
+    Q_INVOKABLE QString GetData();
+
+    Q_INVOKABLE void ValidateTextColor();
+
+    // Always false.
+    Q_INVOKABLE bool ReloadData(const QString &Data);
+
+    Q_INVOKABLE void InitStrings();
+
+    // The one member with an effect: fetches the thread's texts when the provider's
+    // have changed.
+    Q_INVOKABLE void ReInitializeStrings();
+
+Q_SIGNALS:
+    void Change();
+    void SelChange();
+    void Click();
+    void DblClick();
+    void KeyDown(qint16 &KeyCode, qint16 &Shift);
+    void KeyPress(qint16 &KeyAscii);
+    void KeyUp(qint16 &KeyCode, qint16 &Shift);
+    void MouseDown(qint16 Button, qint16 Shift, float X, float Y);
+    void MouseMove(qint16 Button, qint16 Shift, float X, float Y);
+    void MouseUp(qint16 Button, qint16 Shift, float X, float Y);
+    void OLECompleteDrag(qint32 Effect);
+    void OLEDragDrop(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
+                     float X, float Y);
+    void OLEDragOver(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
+                     float X, float Y, qint16 State);
+    void OLEGiveFeedback(qint32 Effect, bool &DefaultCursors);
+    void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
+    void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
+    void MessageEvent(QString &MSG, qint32 &Number, QString &Routine);
+    void StatusUpdate(QString &Description);
+    void UpdateUndoMenu();
+    void QueryAnalyze();
+    void QueryCompile();
+    void MoveOutCursorEvent();
+};
+
+} // namespace ORVTListview

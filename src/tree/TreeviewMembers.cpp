@@ -1,0 +1,84 @@
+#include "tree/ORVTreeview.h"
+
+#include "platform/MemberEntries.h"
+
+namespace ORVTListview {
+
+using namespace MemberEntries;
+
+namespace {
+
+using Tree = ORVTreeview;
+
+QList<Member> treeMembers()
+{
+    return {
+        method<&Tree::SetNodeForeColor>(u"SetNodeForeColor", u"Index", u"Color"),
+        readOnly<&Tree::Nodes>(u"Nodes"),
+        readWrite<&Tree::SelectedItem, &Tree::setSelectedItem>(u"SelectedItem"),
+        method<&Tree::HitTest>(u"HitTest", u"X", u"Y"),
+        writeOnly<&Tree::setIsSqrtSupported>(u"IsSqrtSupported"),
+        method<&Tree::InitStrings>(u"InitStrings"),
+        method<&Tree::ReInitializeStrings>(u"ReInitializeStrings"),
+        method<&Tree::OLEDrag>(u"OLEDrag"),
+    };
+}
+
+QList<Member> pageMembers()
+{
+    return {
+        method<&Tree::GetPageSettings>(u"GetPageSettings"),
+        method<&Tree::GetPageNumber>(u"GetPageNumber", u"tvNode"),
+        method<&Tree::GetItemsBound>(u"GetItemsBound"),
+        method<&Tree::GetItemKey>(u"GetItemKey", u"Index"),
+        method<&Tree::GetLWTypeKeyCollection>(u"GetLWTypeKeyCollection"),
+        method<&Tree::GetLWTypeIndexCollection>(u"GetLWTypeIndexCollection"),
+        method<&Tree::SetCollectionRenamable>(u"SetCollectionRenamable", u"fParent", u"ColVars",
+                                              u"ColConsts", u"ColInputs", u"ColOutputs",
+                                              u"ColNvis"),
+        writeOnly<&Tree::setStringIndexCollection>(u"StringIndexCollection"),
+        method<&Tree::Init_Values>(u"Init_Values", u"Inputs", u"Outputs", u"Constants",
+                                   u"Variables", u"Controllers", u"Schedules", u"Timers", u"Oss",
+                                   u"FPAInputs", u"FPAOutputs"),
+    };
+}
+
+QList<Member> events()
+{
+    return {
+        raises<&Tree::AfterLabelEdit>(1, u"AfterLabelEdit", u"Cancel", u"NewString"),
+        raises<&Tree::BeforeLabelEdit>(2, u"BeforeLabelEdit", u"Cancel"),
+        raises<&Tree::Click>(3, u"Click", u"Node"),
+        raises<&Tree::Collapse>(4, u"Collapse", u"Node"),
+        raises<&Tree::DblClick>(5, u"DblClick", u"Node"),
+        raises<&Tree::Expand>(6, u"Expand", u"Node"),
+        raises<&Tree::KeyDown>(7, u"KeyDown", u"KeyCode", u"Shift"),
+        raises<&Tree::KeyPress>(8, u"KeyPress", u"KeyAscii"),
+        raises<&Tree::KeyUp>(9, u"KeyUp", u"KeyCode", u"Shift"),
+        raises<&Tree::MouseDown>(10, u"MouseDown", u"Button", u"Shift", u"X", u"Y"),
+        raises<&Tree::MouseMove>(11, u"MouseMove", u"Button", u"Shift", u"X", u"Y"),
+        raises<&Tree::MouseUp>(12, u"MouseUp", u"Button", u"Shift", u"X", u"Y"),
+        raises<&Tree::NodeCheck>(13, u"NodeCheck", u"Node"),
+        raises<&Tree::NodeClick>(14, u"NodeClick", u"Node"),
+        raises<&Tree::OLECompleteDrag>(15, u"OLECompleteDrag", u"Effect"),
+        raises<&Tree::OLEDragDrop>(16, u"OLEDragDrop", u"Data", u"Effect", u"Button", u"Shift",
+                                   u"X", u"Y"),
+        raises<&Tree::OLEDragOver>(17, u"OLEDragOver", u"Data", u"Effect", u"Button", u"Shift",
+                                   u"X", u"Y", u"State"),
+        raises<&Tree::OLEGiveFeedback>(18, u"OLEGiveFeedback", u"Effect", u"DefaultCursors"),
+        raises<&Tree::OLESetData>(19, u"OLESetData", u"Data", u"DataFormat"),
+        raises<&Tree::OLEStartDrag>(20, u"OLEStartDrag", u"Data", u"AllowedEffects"),
+        raises<&Tree::UpdatePages>(21, u"UpdatePages", u"Pages"),
+    };
+}
+
+} // namespace
+
+const MemberTable &ORVTreeview::Members() const
+{
+    static const MemberTable table(QStringLiteral("ORVTreeview"),
+                                   treeMembers() + pageMembers() + events());
+    return table;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,112 @@
+"""Makes the Debian packages, and installs and removes them in a root of their own.
+
+Ends with 77, which counts as skipped, where the tools are missing."""
+
+import argparse
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+SKIPPED = 77
+PACKAGES = {
+    "liborvtlistview1": r"usr/lib/.*/libORVTListview(Core)?\.so\.1(\.0\.0)?",
+    "liborvtlistview-dev": r"usr/include/ORVTListview/ORVTListview\.h",
+    "orvtlistview-designer": r"usr/lib/.*/qt6/plugins/designer/.*\.so",
+    "orvtlistview-tools": r"usr/bin/orvt-colour",
+    "orvtlistview-doc": r"usr/share/doc/.*",
+}
+
+
+def run(*command, **options):
+    result = subprocess.run(
+        [str(part) for part in command], capture_output=True, text=True, check=False, **options)
+    if result.returncode != 0:
+        sys.exit(f"{command}: {result.returncode}\n{result.stdout}\n{result.stderr}")
+    return result.stdout
+
+
+def skip_without_tools():
+    for tool in ("dpkg", "dpkg-deb", "dpkg-shlibdeps", "apt-get"):
+        if not shutil.which(tool):
+            print(f"Skipped: {tool} is not installed")
+            sys.exit(SKIPPED)
+    if os.geteuid() != 0:
+        print("Skipped: dpkg installs into another root for root only")
+        sys.exit(SKIPPED)
+
+
+def field(package, name):
+    return run("dpkg-deb", "--field", package, name).strip()
+
+
+def check_content(name, package):
+    files = [line.split()[5][2:] for line in run("dpkg-deb", "--contents", package).splitlines()]
+    if not any(re.fullmatch(PACKAGES[name], file) for file in files):
+        sys.exit(f"{name} lacks {PACKAGES[name]}:\n" + "\n".join(files))
+
+
+def check_dependencies(packages, version):
+    library = f"liborvtlistview1 (= {version})"
+    for name in ("liborvtlistview-dev", "orvtlistview-designer", "orvtlistview-tools"):
+        if library not in field(packages[name], "Depends"):
+            sys.exit(f"{name} does not depend on {library}")
+    needed = {
+        "liborvtlistview1": ("libqt6core6", "libqt6widgets6", "libqt6svg6", "zlib1g", "libc6"),
+        "orvtlistview-designer": ("libqt6core6",),
+        "orvtlistview-tools": ("libqt6core6",),
+        "liborvtlistview-dev": ("qt6-base-dev",),
+    }
+    for name, others in needed.items():
+        depends = re.split(r"[ ,(]+", field(packages[name], "Depends"))
+        for other in others:
+            if other not in depends:
+                sys.exit(f"{name} does not depend on {other}: {depends}")
+
+
+def installed_files(root):
+    return sorted(file for file in (root / "usr").rglob("*") if not file.is_dir())
+
+
+def check_installs_and_removes(packages, folder):
+    root = folder / "root"
+    for part in ("updates", "info", "triggers"):
+        (root / "var/lib/dpkg" / part).mkdir(parents=True)
+    (root / "var/lib/dpkg/status").touch()
+    # Without a shell of its own there; all that the scripts do is ldconfig.
+    dpkg = ("dpkg", f"--root={root}", "--force-depends", "--force-script-chrootless",
+            f"--log={folder}/dpkg.log")
+    run(*dpkg, "--install", *packages.values())
+    if not installed_files(root):
+        sys.exit("Nothing was installed")
+    run(*dpkg, "--purge", *packages)
+    left = installed_files(root)
+    if left:
+        sys.exit(f"Left after removal: {left}")
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--build", type=pathlib.Path, required=True)
+    parser.add_argument("--version", required=True)
+    arguments = parser.parse_args()
+    skip_without_tools()
+    with tempfile.TemporaryDirectory() as name:
+        folder = pathlib.Path(name)
+        run("cpack", "-G", "DEB", "-B", folder / "packages", cwd=arguments.build)
+        files = {field(file, "Package"): file for file in (folder / "packages").glob("*.deb")}
+        if set(files) != set(PACKAGES):
+            sys.exit(f"The packages are {sorted(files)}")
+        for package, file in files.items():
+            check_content(package, file)
+        check_dependencies(files, arguments.version)
+        # What this machine's sources can satisfy; nothing is installed.
+        run("apt-get", "install", "--simulate", *files.values())
+        check_installs_and_removes(files, folder)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,93 @@
+#include "WorkbenchTest.h"
+#include "support/TranslationFile.h"
+
+#include <QtCore/QRegularExpression>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+class LanguagesTest : public WidgetTest
+{
+    Q_OBJECT
+
+private:
+    static QStringList titles(const WorkbenchWindow &workbench)
+    {
+        QStringList titles;
+        for (const QMenu *menu : workbench.menus())
+            titles.append(QString(menu->title()).remove(u'&'));
+        return titles;
+    }
+
+    static void addLanguages()
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString &language : {u"de"_s, u"es"_s, u"fr"_s})
+            QTest::addRow("%s", qPrintable(language)) << language;
+    }
+
+    static QStringList placeholders(const QString &text)
+    {
+        QStringList found;
+        auto match = QRegularExpression(u"%\\d|\\*\\.json"_s).globalMatch(text);
+        while (match.hasNext())
+            found << match.next().captured();
+        found.sort();
+        return found;
+    }
+
+    // What is the same word in both languages.
+    const QHash<QString, QStringList> sameAsEnglish{
+        {u"de"_s, {u"Variable"_s}},
+        {u"es"_s, {u"Variable"_s, u"Variables"_s, u"No"_s}},
+        {u"fr"_s, {u"Variable"_s, u"Variables"_s, u"Points"_s, u"P&oints"_s}}};
+
+private Q_SLOTS:
+    void everyTextIsTranslated_data() { addLanguages(); }
+    void everyTextIsTranslated()
+    {
+        QFETCH(QString, language);
+        const QList<TranslationMessage> messages = readTranslationFile(
+            u"" ORVT_SOURCE_DIR "/translations/workbench_"_s + language + u".ts"_s);
+        QVERIFY(messages.size() > 50);
+        for (const TranslationMessage &message : messages) {
+            QVERIFY2(message.isFinished, qPrintable(message.source));
+            QVERIFY2(!message.translation.isEmpty(), qPrintable(message.source));
+            QCOMPARE(placeholders(message.translation), placeholders(message.source));
+            QVERIFY2(message.translation.count(u'&') == message.source.count(u'&'),
+                     qPrintable(message.source));
+            QCOMPARE(message.translation == message.source,
+                     sameAsEnglish[language].contains(message.source));
+        }
+    }
+
+    void theMenuChangesTheLanguage()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.type(u"x"_s);
+        QCOMPARE(titles(workbench),
+                 QStringList({u"File"_s, u"Edit"_s, u"Program"_s, u"Points"_s, u"View"_s}));
+        const QMenu *menu = workbench.window.findChild<LanguageMenu *>();
+        QVERIFY(menu);
+        const QList<QAction *> choices = menu->actions();
+        QCOMPARE(choices.size(), 4);
+        choices.at(1)->trigger();
+        QTRY_COMPARE(titles(workbench), QStringList({u"Datei"_s, u"Bearbeiten"_s, u"Programm"_s,
+                                                     u"Punkte"_s, u"Ansicht"_s}));
+        QCOMPARE(workbench.code().CodeText(), u"xFan1 = ON"_s);
+        QVERIFY(workbench.window.isWindowModified());
+        const QMenu *made = workbench.window.findChild<LanguageMenu *>();
+        QVERIFY(made->actions().at(1)->isChecked());
+        workbench.speak(QLocale(QLocale::English));
+        QCOMPARE(titles(workbench).constFirst(), u"File"_s);
+    }
+
+    void anUnknownLanguageIsEnglish()
+    {
+        Languages languages{QLocale(QLocale::Japanese)};
+        QCOMPARE(languages.language().language(), QLocale::English);
+    }
+};
+
+QTEST_MAIN(LanguagesTest)
+#include "LanguagesTest.moc"

@@ -1,0 +1,448 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CheckTexts</name>
+    <message>
+        <source>%1 is not known</source>
+        <translation>%1 ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>ELSE without IF</source>
+        <translation>ELSE ohne IF</translation>
+    </message>
+    <message>
+        <source>Second ELSE of one IF</source>
+        <translation>Zweites ELSE zu einem IF</translation>
+    </message>
+    <message>
+        <source>ENDIF without IF</source>
+        <translation>ENDIF ohne IF</translation>
+    </message>
+    <message>
+        <source>IF without ENDIF</source>
+        <translation>IF ohne ENDIF</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Konstante</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Eingang</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Network variable input</source>
+        <translation>Netzwerkvariable (Eingang)</translation>
+    </message>
+    <message>
+        <source>Reserved word</source>
+        <translation>Reserviertes Wort</translation>
+    </message>
+    <message>
+        <source>Time word</source>
+        <translation>Zeitwort</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>Fan-in word</source>
+        <translation>Fan-in-Wort</translation>
+    </message>
+    <message>
+        <source>Indexed name</source>
+        <translation>Nummerierter Name</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Zahl</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Shows a controller project.</source>
+        <translation>Zeigt ein Reglerprojekt.</translation>
+    </message>
+    <message>
+        <source>The project file; the sample project without one.</source>
+        <translation>Die Projektdatei; ohne Angabe das Beispielprojekt.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window and quit.</source>
+        <translation>Ein Bild des Fensters schreiben und beenden.</translation>
+    </message>
+    <message>
+        <source>Show everything on a dark ground.</source>
+        <translation>Alles auf dunklem Grund zeigen.</translation>
+    </message>
+    <message>
+        <source>Show everything larger or smaller, 0.5 to 4 times.</source>
+        <translation>Alles größer oder kleiner zeigen, 0.5- bis 4-fach.</translation>
+    </message>
+    <message>
+        <source>Speak this language: en, de, es or fr.</source>
+        <translation>Diese Sprache verwenden: en, de, es oder fr.</translation>
+    </message>
+    <message>
+        <source>The scale is a number from 0.5 to 4.</source>
+        <translation>Die Vergrößerung ist eine Zahl von 0.5 bis 4.</translation>
+    </message>
+    <message>
+        <source>There is no translation for the language %1.</source>
+        <translation>Für die Sprache %1 gibt es keine Übersetzung.</translation>
+    </message>
+    <message>
+        <source>Begin with this category, such as &quot;Inputs&quot;.</source>
+        <translation>Mit dieser Kategorie beginnen, etwa „Inputs“.</translation>
+    </message>
+    <message>
+        <source>There is no category %1.</source>
+        <translation>Es gibt keine Kategorie %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::CheckModel</name>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Wort</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Klasse</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::CheckResults</name>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::EditMenu</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles markieren</translation>
+    </message>
+    <message>
+        <source>&amp;Known Words</source>
+        <translation>&amp;Bekannte Wörter</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Re&amp;store Typed Text</source>
+        <translation>&amp;Getippten Text zurückholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Auss&amp;chneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy with C&amp;olours</source>
+        <translation>Mit &amp;Farben kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Undo has taken no typed text away.</source>
+        <translation>Rückgängig hat keinen getippten Text entfernt.</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>Suc&amp;hen …</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace…</source>
+        <translation>Erset&amp;zen …</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>Projekt ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Save Program</source>
+        <translation>Programm &amp;speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Analyse</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>&amp;Compile</source>
+        <translation>&amp;Übersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Ergebnisse</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>Projekte (*.json)</translation>
+    </message>
+    <message>
+        <source>%1, lines: %2</source>
+        <translation>%1, Zeilen: %2</translation>
+    </message>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;unkte</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Werte lesen</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Spalten anpassen</translation>
+    </message>
+    <message>
+        <source>Reading the values…</source>
+        <translation>Werte werden gelesen …</translation>
+    </message>
+    <message>
+        <source>The values have been read.</source>
+        <translation>Die Werte sind gelesen.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Rename %1 to %2 in the program, too?</source>
+        <translation>%1 auch im Programm in %2 umbenennen?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointChooser</name>
+    <message>
+        <source>Inputs</source>
+        <translation>Eingänge</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Ausgänge</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Konstanten</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Choose a point: its name goes into the program, or its row is shown</source>
+        <translation>Einen Punkt wählen: sein Name kommt ins Programm, oder seine Zeile wird gezeigt</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointTables</name>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramSaving</name>
+    <message>
+        <source>Save Program</source>
+        <translation>Programm speichern</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The program %1 has changes that are not saved.
+Save them?</source>
+        <translation>Das Programm %1 hat Änderungen, die nicht gespeichert sind.
+Speichern?</translation>
+    </message>
+    <message>
+        <source>The file %1 has been changed elsewhere since it was opened.
+Overwrite those changes?</source>
+        <translation>Die Datei %1 wurde seit dem Öffnen anderswo geändert.
+Diese Änderungen überschreiben?</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectTexts</name>
+    <message>
+        <source>&quot;%1&quot; is no colour (&quot;#rrggbb&quot; or a system colour)</source>
+        <translation>„%1“ ist keine Farbe („#rrggbb“ oder eine Systemfarbe)</translation>
+    </message>
+    <message>
+        <source>a size from 1 to %1 points is expected</source>
+        <translation>erwartet wird eine Größe von 1 bis %1 Punkt</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>an object is expected</source>
+        <translation>erwartet wird ein Objekt</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>is not known here</source>
+        <translation>ist hier nicht bekannt</translation>
+    </message>
+    <message>
+        <source>an array is expected</source>
+        <translation>erwartet wird eine Liste</translation>
+    </message>
+    <message>
+        <source>holds more than %1 elements</source>
+        <translation>hat mehr als %1 Elemente</translation>
+    </message>
+    <message>
+        <source>a text is expected</source>
+        <translation>erwartet wird ein Text</translation>
+    </message>
+    <message>
+        <source>true or false is expected</source>
+        <translation>erwartet wird true oder false</translation>
+    </message>
+    <message>
+        <source>a whole number of 32 bits is expected</source>
+        <translation>erwartet wird eine ganze Zahl mit 32 Bit</translation>
+    </message>
+    <message>
+        <source>a number is expected</source>
+        <translation>erwartet wird eine Zahl</translation>
+    </message>
+    <message>
+        <source>a name is expected, without blanks around it and control characters</source>
+        <translation>erwartet wird ein Name ohne umgebende Leerzeichen und Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>a number or a text is expected</source>
+        <translation>erwartet wird eine Zahl oder ein Text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the name of %2 too</source>
+        <translation>„%1“ heißt auch %2</translation>
+    </message>
+    <message>
+        <source>has more than %1 names</source>
+        <translation>hat mehr als %1 Namen</translation>
+    </message>
+    <message>
+        <source>only the form %1 can be read</source>
+        <translation>nur die Form %1 ist lesbar</translation>
+    </message>
+    <message>
+        <source>%1: line %2 is not valid UTF-8</source>
+        <translation>%1: Zeile %2 ist kein gültiges UTF-8</translation>
+    </message>
+    <message>
+        <source>%1: line %2 holds half a character</source>
+        <translation>%1: Zeile %2 enthält ein halbes Zeichen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a point</source>
+        <translation>„%1“ ist kein Name für einen Punkt</translation>
+    </message>
+    <message>
+        <source>Another point has the name &quot;%1&quot;</source>
+        <translation>Ein anderer Punkt heißt schon „%1“</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no longer where it was</source>
+        <translation>%1: „%2“ steht nicht mehr an seinem Platz</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Workbench</source>
+        <translation>Werkbank</translation>
+    </message>
+</context>
+</TS>

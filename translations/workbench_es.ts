@@ -1,0 +1,448 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>CheckTexts</name>
+    <message>
+        <source>%1 is not known</source>
+        <translation>%1 no se conoce</translation>
+    </message>
+    <message>
+        <source>ELSE without IF</source>
+        <translation>ELSE sin IF</translation>
+    </message>
+    <message>
+        <source>Second ELSE of one IF</source>
+        <translation>Segundo ELSE de un IF</translation>
+    </message>
+    <message>
+        <source>ENDIF without IF</source>
+        <translation>ENDIF sin IF</translation>
+    </message>
+    <message>
+        <source>IF without ENDIF</source>
+        <translation>IF sin ENDIF</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Línea %1: %2</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Constante</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Network variable input</source>
+        <translation>Entrada de variable de red</translation>
+    </message>
+    <message>
+        <source>Reserved word</source>
+        <translation>Palabra reservada</translation>
+    </message>
+    <message>
+        <source>Time word</source>
+        <translation>Palabra de tiempo</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Función</translation>
+    </message>
+    <message>
+        <source>Fan-in word</source>
+        <translation>Palabra fan-in</translation>
+    </message>
+    <message>
+        <source>Indexed name</source>
+        <translation>Nombre numerado</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Shows a controller project.</source>
+        <translation>Muestra un proyecto de controlador.</translation>
+    </message>
+    <message>
+        <source>The project file; the sample project without one.</source>
+        <translation>El archivo de proyecto; sin él, el proyecto de ejemplo.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window and quit.</source>
+        <translation>Guardar una imagen de la ventana y salir.</translation>
+    </message>
+    <message>
+        <source>Show everything on a dark ground.</source>
+        <translation>Mostrar todo sobre fondo oscuro.</translation>
+    </message>
+    <message>
+        <source>Show everything larger or smaller, 0.5 to 4 times.</source>
+        <translation>Mostrar todo más grande o más pequeño, de 0.5 a 4 veces.</translation>
+    </message>
+    <message>
+        <source>Speak this language: en, de, es or fr.</source>
+        <translation>Usar este idioma: en, de, es o fr.</translation>
+    </message>
+    <message>
+        <source>The scale is a number from 0.5 to 4.</source>
+        <translation>La escala es un número de 0.5 a 4.</translation>
+    </message>
+    <message>
+        <source>There is no translation for the language %1.</source>
+        <translation>No hay traducción para el idioma %1.</translation>
+    </message>
+    <message>
+        <source>Begin with this category, such as &quot;Inputs&quot;.</source>
+        <translation>Empezar con esta categoría, p. ej. «Inputs».</translation>
+    </message>
+    <message>
+        <source>There is no category %1.</source>
+        <translation>No hay ninguna categoría %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::CheckModel</name>
+    <message>
+        <source>Nothing found.</source>
+        <translation>No se ha encontrado nada.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Palabra</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Clase</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::CheckResults</name>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::EditMenu</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Known Words</source>
+        <translation>Palabras &amp;conocidas</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Re&amp;store Typed Text</source>
+        <translation>Rec&amp;uperar texto escrito</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>C&amp;opiar</translation>
+    </message>
+    <message>
+        <source>Copy with C&amp;olours</source>
+        <translation>Copiar co&amp;n colores</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Undo has taken no typed text away.</source>
+        <translation>Deshacer no ha quitado ningún texto escrito.</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Buscar…</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace…</source>
+        <translation>Ree&amp;mplazar…</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>&amp;Abrir proyecto…</translation>
+    </message>
+    <message>
+        <source>&amp;Save Program</source>
+        <translation>&amp;Guardar programa</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programa</translation>
+    </message>
+    <message>
+        <source>&amp;Analyse</source>
+        <translation>&amp;Analizar</translation>
+    </message>
+    <message>
+        <source>&amp;Compile</source>
+        <translation>&amp;Compilar</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Resultados</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>Proyectos (*.json)</translation>
+    </message>
+    <message>
+        <source>%1, lines: %2</source>
+        <translation>%1, líneas: %2</translation>
+    </message>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;untos</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Leer valores</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Ajustar columnas</translation>
+    </message>
+    <message>
+        <source>Reading the values…</source>
+        <translation>Leyendo los valores…</translation>
+    </message>
+    <message>
+        <source>The values have been read.</source>
+        <translation>Se han leído los valores.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Rename %1 to %2 in the program, too?</source>
+        <translation>¿Cambiar también %1 por %2 en el programa?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointChooser</name>
+    <message>
+        <source>Inputs</source>
+        <translation>Entradas</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Salidas</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Constantes</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>Choose a point: its name goes into the program, or its row is shown</source>
+        <translation>Elegir un punto: su nombre se inserta en el programa o se muestra su fila</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointTables</name>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramSaving</name>
+    <message>
+        <source>Save Program</source>
+        <translation>Guardar programa</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>The program %1 has changes that are not saved.
+Save them?</source>
+        <translation>El programa %1 tiene cambios sin guardar.
+¿Guardarlos?</translation>
+    </message>
+    <message>
+        <source>The file %1 has been changed elsewhere since it was opened.
+Overwrite those changes?</source>
+        <translation>El archivo %1 ha sido modificado en otro lugar desde que se abrió.
+¿Sobrescribir esos cambios?</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectTexts</name>
+    <message>
+        <source>&quot;%1&quot; is no colour (&quot;#rrggbb&quot; or a system colour)</source>
+        <translation>«%1» no es un color («#rrggbb» o un color del sistema)</translation>
+    </message>
+    <message>
+        <source>a size from 1 to %1 points is expected</source>
+        <translation>se espera un tamaño de 1 a %1 puntos</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>línea %1, columna %2</translation>
+    </message>
+    <message>
+        <source>an object is expected</source>
+        <translation>se espera un objeto</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>falta</translation>
+    </message>
+    <message>
+        <source>is not known here</source>
+        <translation>no se conoce aquí</translation>
+    </message>
+    <message>
+        <source>an array is expected</source>
+        <translation>se espera una lista</translation>
+    </message>
+    <message>
+        <source>holds more than %1 elements</source>
+        <translation>tiene más de %1 elementos</translation>
+    </message>
+    <message>
+        <source>a text is expected</source>
+        <translation>se espera un texto</translation>
+    </message>
+    <message>
+        <source>true or false is expected</source>
+        <translation>se espera true o false</translation>
+    </message>
+    <message>
+        <source>a whole number of 32 bits is expected</source>
+        <translation>se espera un número entero de 32 bits</translation>
+    </message>
+    <message>
+        <source>a number is expected</source>
+        <translation>se espera un número</translation>
+    </message>
+    <message>
+        <source>a name is expected, without blanks around it and control characters</source>
+        <translation>se espera un nombre, sin espacios alrededor ni caracteres de control</translation>
+    </message>
+    <message>
+        <source>a number or a text is expected</source>
+        <translation>se espera un número o un texto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the name of %2 too</source>
+        <translation>«%1» es también el nombre de %2</translation>
+    </message>
+    <message>
+        <source>has more than %1 names</source>
+        <translation>tiene más de %1 nombres</translation>
+    </message>
+    <message>
+        <source>only the form %1 can be read</source>
+        <translation>solo se puede leer la forma %1</translation>
+    </message>
+    <message>
+        <source>%1: line %2 is not valid UTF-8</source>
+        <translation>%1: la línea %2 no es UTF-8 válido</translation>
+    </message>
+    <message>
+        <source>%1: line %2 holds half a character</source>
+        <translation>%1: la línea %2 contiene medio carácter</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a point</source>
+        <translation>«%1» no es un nombre de punto</translation>
+    </message>
+    <message>
+        <source>Another point has the name &quot;%1&quot;</source>
+        <translation>Otro punto se llama ya «%1»</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no longer where it was</source>
+        <translation>%1: «%2» ya no está en su sitio</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Workbench</source>
+        <translation>Banco de trabajo</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,448 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>CheckTexts</name>
+    <message>
+        <source>%1 is not known</source>
+        <translation>%1 est inconnu</translation>
+    </message>
+    <message>
+        <source>ELSE without IF</source>
+        <translation>ELSE sans IF</translation>
+    </message>
+    <message>
+        <source>Second ELSE of one IF</source>
+        <translation>Deuxième ELSE pour un IF</translation>
+    </message>
+    <message>
+        <source>ENDIF without IF</source>
+        <translation>ENDIF sans IF</translation>
+    </message>
+    <message>
+        <source>IF without ENDIF</source>
+        <translation>IF sans ENDIF</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Constante</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>Network variable input</source>
+        <translation>Entrée de variable réseau</translation>
+    </message>
+    <message>
+        <source>Reserved word</source>
+        <translation>Mot réservé</translation>
+    </message>
+    <message>
+        <source>Time word</source>
+        <translation>Mot de temps</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Fonction</translation>
+    </message>
+    <message>
+        <source>Fan-in word</source>
+        <translation>Mot fan-in</translation>
+    </message>
+    <message>
+        <source>Indexed name</source>
+        <translation>Nom numéroté</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nombre</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Shows a controller project.</source>
+        <translation>Affiche un projet de régulateur.</translation>
+    </message>
+    <message>
+        <source>The project file; the sample project without one.</source>
+        <translation>Le fichier du projet ; à défaut, le projet d’exemple.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window and quit.</source>
+        <translation>Enregistrer une image de la fenêtre et quitter.</translation>
+    </message>
+    <message>
+        <source>Show everything on a dark ground.</source>
+        <translation>Tout afficher sur fond sombre.</translation>
+    </message>
+    <message>
+        <source>Show everything larger or smaller, 0.5 to 4 times.</source>
+        <translation>Tout afficher plus grand ou plus petit, de 0.5 à 4 fois.</translation>
+    </message>
+    <message>
+        <source>Speak this language: en, de, es or fr.</source>
+        <translation>Utiliser cette langue : en, de, es ou fr.</translation>
+    </message>
+    <message>
+        <source>The scale is a number from 0.5 to 4.</source>
+        <translation>L’échelle est un nombre de 0.5 à 4.</translation>
+    </message>
+    <message>
+        <source>There is no translation for the language %1.</source>
+        <translation>Il n’y a pas de traduction pour la langue %1.</translation>
+    </message>
+    <message>
+        <source>Begin with this category, such as &quot;Inputs&quot;.</source>
+        <translation>Commencer par cette catégorie, p. ex. « Inputs ».</translation>
+    </message>
+    <message>
+        <source>There is no category %1.</source>
+        <translation>Il n’y a pas de catégorie %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::CheckModel</name>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Rien trouvé.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Mot</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Classe</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::CheckResults</name>
+    <message>
+        <source>Results</source>
+        <translation>Résultats</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::EditMenu</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Known Words</source>
+        <translation>&amp;Mots connus</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Re&amp;store Typed Text</source>
+        <translation>Récupérer le te&amp;xte saisi</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copy with C&amp;olours</source>
+        <translation>Copier a&amp;vec les couleurs</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Undo has taken no typed text away.</source>
+        <translation>L’annulation n’a retiré aucun texte saisi.</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>Rec&amp;hercher…</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace…</source>
+        <translation>Remp&amp;lacer…</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Langue</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>&amp;Ouvrir un projet…</translation>
+    </message>
+    <message>
+        <source>&amp;Save Program</source>
+        <translation>&amp;Enregistrer le programme</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programme</translation>
+    </message>
+    <message>
+        <source>&amp;Analyse</source>
+        <translation>&amp;Analyser</translation>
+    </message>
+    <message>
+        <source>&amp;Compile</source>
+        <translation>&amp;Compiler</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Résultats</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>Projets (*.json)</translation>
+    </message>
+    <message>
+        <source>%1, lines: %2</source>
+        <translation>%1, lignes : %2</translation>
+    </message>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;oints</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Lire les valeurs</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Ajuster les colonnes</translation>
+    </message>
+    <message>
+        <source>Reading the values…</source>
+        <translation>Lecture des valeurs…</translation>
+    </message>
+    <message>
+        <source>The values have been read.</source>
+        <translation>Les valeurs ont été lues.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Rename %1 to %2 in the program, too?</source>
+        <translation>Renommer aussi %1 en %2 dans le programme ?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointChooser</name>
+    <message>
+        <source>Inputs</source>
+        <translation>Entrées</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Sorties</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Constantes</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Choose a point: its name goes into the program, or its row is shown</source>
+        <translation>Choisir un point : son nom va dans le programme, ou sa ligne est affichée</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointTables</name>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramSaving</name>
+    <message>
+        <source>Save Program</source>
+        <translation>Enregistrer le programme</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>The program %1 has changes that are not saved.
+Save them?</source>
+        <translation>Le programme %1 a des modifications non enregistrées.
+Les enregistrer ?</translation>
+    </message>
+    <message>
+        <source>The file %1 has been changed elsewhere since it was opened.
+Overwrite those changes?</source>
+        <translation>Le fichier %1 a été modifié ailleurs depuis son ouverture.
+Écraser ces modifications ?</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectTexts</name>
+    <message>
+        <source>&quot;%1&quot; is no colour (&quot;#rrggbb&quot; or a system colour)</source>
+        <translation>« %1 » n’est pas une couleur (« #rrggbb » ou une couleur du système)</translation>
+    </message>
+    <message>
+        <source>a size from 1 to %1 points is expected</source>
+        <translation>une taille de 1 à %1 points est attendue</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>ligne %1, colonne %2</translation>
+    </message>
+    <message>
+        <source>an object is expected</source>
+        <translation>un objet est attendu</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>manque</translation>
+    </message>
+    <message>
+        <source>is not known here</source>
+        <translation>n’est pas connu ici</translation>
+    </message>
+    <message>
+        <source>an array is expected</source>
+        <translation>une liste est attendue</translation>
+    </message>
+    <message>
+        <source>holds more than %1 elements</source>
+        <translation>contient plus de %1 éléments</translation>
+    </message>
+    <message>
+        <source>a text is expected</source>
+        <translation>un texte est attendu</translation>
+    </message>
+    <message>
+        <source>true or false is expected</source>
+        <translation>true ou false est attendu</translation>
+    </message>
+    <message>
+        <source>a whole number of 32 bits is expected</source>
+        <translation>un entier de 32 bits est attendu</translation>
+    </message>
+    <message>
+        <source>a number is expected</source>
+        <translation>un nombre est attendu</translation>
+    </message>
+    <message>
+        <source>a name is expected, without blanks around it and control characters</source>
+        <translation>un nom est attendu, sans espaces autour ni caractères de contrôle</translation>
+    </message>
+    <message>
+        <source>a number or a text is expected</source>
+        <translation>un nombre ou un texte est attendu</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the name of %2 too</source>
+        <translation>« %1 » est aussi le nom de %2</translation>
+    </message>
+    <message>
+        <source>has more than %1 names</source>
+        <translation>a plus de %1 noms</translation>
+    </message>
+    <message>
+        <source>only the form %1 can be read</source>
+        <translation>seule la forme %1 est lisible</translation>
+    </message>
+    <message>
+        <source>%1: line %2 is not valid UTF-8</source>
+        <translation>%1 : la ligne %2 n’est pas de l’UTF-8 valide</translation>
+    </message>
+    <message>
+        <source>%1: line %2 holds half a character</source>
+        <translation>%1 : la ligne %2 contient un demi-caractère</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a point</source>
+        <translation>« %1 » n’est pas un nom de point</translation>
+    </message>
+    <message>
+        <source>Another point has the name &quot;%1&quot;</source>
+        <translation>Un autre point s’appelle déjà « %1 »</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no longer where it was</source>
+        <translation>%1 : « %2 » n’est plus à sa place</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Workbench</source>
+        <translation>Atelier</translation>
+    </message>
+</context>
+</TS>
