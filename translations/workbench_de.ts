@@ -106,6 +106,14 @@
         <source>There is no translation for the language %1.</source>
         <translation>Für die Sprache %1 gibt es keine Übersetzung.</translation>
     </message>
+    <message>
+        <source>Begin with this category, such as &quot;Inputs&quot;.</source>
+        <translation>Mit dieser Kategorie beginnen, etwa „Inputs“.</translation>
+    </message>
+    <message>
+        <source>There is no category %1.</source>
+        <translation>Es gibt keine Kategorie %1.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::CheckModel</name>
@@ -237,6 +245,76 @@
         <source>%1, lines: %2</source>
         <translation>%1, Zeilen: %2</translation>
     </message>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;unkte</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Werte lesen</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Spalten anpassen</translation>
+    </message>
+    <message>
+        <source>Reading the values…</source>
+        <translation>Werte werden gelesen …</translation>
+    </message>
+    <message>
+        <source>The values have been read.</source>
+        <translation>Die Werte sind gelesen.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Rename %1 to %2 in the program, too?</source>
+        <translation>%1 auch im Programm in %2 umbenennen?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointChooser</name>
+    <message>
+        <source>Inputs</source>
+        <translation>Eingänge</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Ausgänge</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Konstanten</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Choose a point: its name goes into the program, or its row is shown</source>
+        <translation>Einen Punkt wählen: sein Name kommt ins Programm, oder seine Zeile wird gezeigt</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointTables</name>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProgramSaving</name>
@@ -338,6 +416,18 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>%1: line %2 holds half a character</source>
         <translation>%1: Zeile %2 enthält ein halbes Zeichen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a point</source>
+        <translation>„%1“ ist kein Name für einen Punkt</translation>
+    </message>
+    <message>
+        <source>Another point has the name &quot;%1&quot;</source>
+        <translation>Ein anderer Punkt heißt schon „%1“</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no longer where it was</source>
+        <translation>%1: „%2“ steht nicht mehr an seinem Platz</translation>
     </message>
 </context>
 <context>

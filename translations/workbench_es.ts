@@ -106,6 +106,14 @@
         <source>There is no translation for the language %1.</source>
         <translation>No hay traducción para el idioma %1.</translation>
     </message>
+    <message>
+        <source>Begin with this category, such as &quot;Inputs&quot;.</source>
+        <translation>Empezar con esta categoría, p. ej. «Inputs».</translation>
+    </message>
+    <message>
+        <source>There is no category %1.</source>
+        <translation>No hay ninguna categoría %1.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::CheckModel</name>
@@ -237,6 +245,76 @@
         <source>%1, lines: %2</source>
         <translation>%1, líneas: %2</translation>
     </message>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;untos</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Leer valores</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Ajustar columnas</translation>
+    </message>
+    <message>
+        <source>Reading the values…</source>
+        <translation>Leyendo los valores…</translation>
+    </message>
+    <message>
+        <source>The values have been read.</source>
+        <translation>Se han leído los valores.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Rename %1 to %2 in the program, too?</source>
+        <translation>¿Cambiar también %1 por %2 en el programa?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointChooser</name>
+    <message>
+        <source>Inputs</source>
+        <translation>Entradas</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Salidas</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Constantes</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>Choose a point: its name goes into the program, or its row is shown</source>
+        <translation>Elegir un punto: su nombre se inserta en el programa o se muestra su fila</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointTables</name>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProgramSaving</name>
@@ -338,6 +416,18 @@ Overwrite those changes?</source>
     <message>
         <source>%1: line %2 holds half a character</source>
         <translation>%1: la línea %2 contiene medio carácter</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a point</source>
+        <translation>«%1» no es un nombre de punto</translation>
+    </message>
+    <message>
+        <source>Another point has the name &quot;%1&quot;</source>
+        <translation>Otro punto se llama ya «%1»</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no longer where it was</source>
+        <translation>%1: «%2» ya no está en su sitio</translation>
     </message>
 </context>
 <context>

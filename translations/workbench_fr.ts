@@ -106,6 +106,14 @@
         <source>There is no translation for the language %1.</source>
         <translation>Il n’y a pas de traduction pour la langue %1.</translation>
     </message>
+    <message>
+        <source>Begin with this category, such as &quot;Inputs&quot;.</source>
+        <translation>Commencer par cette catégorie, p. ex. « Inputs ».</translation>
+    </message>
+    <message>
+        <source>There is no category %1.</source>
+        <translation>Il n’y a pas de catégorie %1.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::CheckModel</name>
@@ -237,6 +245,76 @@
         <source>%1, lines: %2</source>
         <translation>%1, lignes : %2</translation>
     </message>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;oints</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Lire les valeurs</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Ajuster les colonnes</translation>
+    </message>
+    <message>
+        <source>Reading the values…</source>
+        <translation>Lecture des valeurs…</translation>
+    </message>
+    <message>
+        <source>The values have been read.</source>
+        <translation>Les valeurs ont été lues.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Rename %1 to %2 in the program, too?</source>
+        <translation>Renommer aussi %1 en %2 dans le programme ?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointChooser</name>
+    <message>
+        <source>Inputs</source>
+        <translation>Entrées</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Sorties</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Constantes</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Choose a point: its name goes into the program, or its row is shown</source>
+        <translation>Choisir un point : son nom va dans le programme, ou sa ligne est affichée</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointTables</name>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProgramSaving</name>
@@ -338,6 +416,18 @@ Overwrite those changes?</source>
     <message>
         <source>%1: line %2 holds half a character</source>
         <translation>%1 : la ligne %2 contient un demi-caractère</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a point</source>
+        <translation>« %1 » n’est pas un nom de point</translation>
+    </message>
+    <message>
+        <source>Another point has the name &quot;%1&quot;</source>
+        <translation>Un autre point s’appelle déjà « %1 »</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no longer where it was</source>
+        <translation>%1 : « %2 » n’est plus à sa place</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "Languages.h"
+#include "shared/DisplayNames.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
@@ -24,7 +25,7 @@ public:
         parser.setApplicationDescription(tr("Shows a controller project."));
         parser.addHelpOption();
         parser.addVersionOption();
-        parser.addOptions({screenshot, dark, scale, language});
+        parser.addOptions({screenshot, dark, scale, language, show});
         parser.addPositionalArgument(
             u"project"_s, tr("The project file; the sample project without one."), u"[project]"_s);
     }
@@ -35,6 +36,18 @@ public:
         bool isNumber = false;
         const double factor = parser.value(scale).toDouble(&isNumber);
         return isNumber && factor >= 0.5 && factor <= 4 ? std::optional(factor) : std::nullopt;
+    }
+
+    // By its untranslated name; none for another one.
+    std::optional<LwType> shown() const
+    {
+        if (!parser.isSet(show))
+            return dsCode;
+        for (int type = dsCode; type <= dsOutputParam; ++type) {
+            if (displayName(static_cast<LwType>(type)) == parser.value(show))
+                return static_cast<LwType>(type);
+        }
+        return std::nullopt;
     }
 
     bool hasKnownLanguage() const
@@ -54,6 +67,8 @@ public:
         u"scale"_s, tr("Show everything larger or smaller, 0.5 to 4 times."), u"factor"_s};
     const QCommandLineOption language{u"language"_s, tr("Speak this language: en, de, es or fr."),
                                       u"code"_s};
+    const QCommandLineOption show{u"show"_s, tr("Begin with this category, such as \"Inputs\"."),
+                                  u"category"_s};
     QCommandLineParser parser;
 };
 
@@ -84,10 +99,16 @@ std::optional<Options> readOptions(const QCoreApplication &application)
                             << Qt::endl;
         return {};
     }
+    if (!line.shown()) {
+        QTextStream(stderr)
+            << CommandLine::tr("There is no category %1.").arg(line.parser.value(line.show))
+            << Qt::endl;
+        return {};
+    }
     const QStringList projects = line.parser.positionalArguments();
     return Options{projects.value(0, QStringLiteral(ORVT_SAMPLE_PROJECT)),
                    line.parser.value(line.screenshot), line.parser.isSet(line.dark),
-                   line.parser.value(line.language)};
+                   line.parser.value(line.language), *line.shown()};
 }
 
 } // namespace ORVTListview

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ORVTListview/Types.h>
+
 #include <QtCore/QString>
 
 #include <optional>
@@ -14,6 +16,7 @@ struct Options
     QString screenshot; // empty for none
     bool isDark = false;
     QString language; // empty for the user's own
+    LwType shown = dsCode;
 };
 
 // Qt reads its scale once, before there is an application.

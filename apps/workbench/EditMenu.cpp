@@ -20,10 +20,13 @@ EditMenu::EditMenu(ORVListView &code, QWidget *parent)
     addSeparator();
     addClipboard();
     addSeparator();
+    addFinding();
+    addSeparator();
     add(tr("Select &All"), QKeySequence::SelectAll, &EditMenu::selectAll);
     add(tr("&Known Words"), QKeySequence(Qt::CTRL | Qt::Key_Space), &EditMenu::showKnownWords);
     connect(this, &QMenu::aboutToShow, this, &EditMenu::refresh);
     connect(&code, &ORVListView::UpdateUndoMenu, this, &EditMenu::refresh);
+    connect(&code, &ORVListView::listviewTypeChanged, this, &EditMenu::refresh);
     refresh();
 }
 
@@ -42,6 +45,13 @@ void EditMenu::addClipboard()
     m_paste = add(tr("&Paste"), QKeySequence(Qt::CTRL | Qt::Key_V), &EditMenu::paste);
 }
 
+// The editor leaves these keys to its host, so they work in the whole window.
+void EditMenu::addFinding()
+{
+    addAction(tr("&Find…"), QKeySequence(Qt::CTRL | Qt::Key_F), this, &EditMenu::find);
+    addAction(tr("R&eplace…"), QKeySequence(Qt::CTRL | Qt::Key_H), this, &EditMenu::replace);
+}
+
 // The keys are shown only: the editor acts on them itself, and where something else
 // has the focus they are not the editor's.
 QAction *EditMenu::add(const QString &text, const QKeySequence &keys, void (EditMenu::*command)())
@@ -57,6 +67,11 @@ QAction *EditMenu::add(const QString &text, const QKeySequence &keys, void (Edit
 
 void EditMenu::refresh()
 {
+    const bool isCode = m_code.CurrentType() == dsCode;
+    for (QAction *action : actions())
+        action->setEnabled(isCode);
+    if (!isCode)
+        return;
     const bool hasSelection = m_code.RTextBox()->SelLength() > 0;
     m_undo->setEnabled(m_code.IsUndoAvailable());
     m_redo->setEnabled(m_code.IsRedoAvailable());
@@ -113,6 +128,16 @@ void EditMenu::paste()
 void EditMenu::selectAll()
 {
     m_code.RTextSelectAll();
+}
+
+void EditMenu::find()
+{
+    m_code.showFind();
+}
+
+void EditMenu::replace()
+{
+    m_code.showFind(true);
 }
 
 void EditMenu::showKnownWords()

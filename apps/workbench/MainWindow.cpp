@@ -5,8 +5,11 @@
 #include "EditMenu.h"
 #include "LanguageMenu.h"
 #include "Languages.h"
+#include "PointChooser.h"
+#include "PointTables.h"
 #include "ProgramSaving.h"
 #include "ProgramText.h"
+#include "ProjectView.h"
 #include "editor/CodeWordList.h"
 #include "editor/Vocabulary.h"
 #include "project/ProgramCheck.h"
@@ -35,25 +38,27 @@ using namespace Qt::StringLiterals;
 MainWindow::MainWindow(Languages &languages, QWidget *parent)
     : QMainWindow(parent)
     , m_languages(languages)
-    , m_vocabulary(new ORVTreeview(this))
-    , m_code(new ORVListView(this))
+    , m_points(new PointChooser(this))
+    , m_view(new ProjectView(this))
+    , m_code(&m_view->list())
     , m_saving(new ProgramSaving(*m_code, *this))
     , m_results(new CheckResults(*m_code->GetImage(), this))
     , m_programInfo(new QLabel(this))
     , m_position(new QLabel(this))
 {
-    m_vocabulary->hide();
-    m_code->setListviewType(dsCode);
-    setCentralWidget(m_code);
+    m_points->setPictures(*m_code->GetImage());
+    addToolBar(m_points);
+    setCentralWidget(m_view);
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
     buildMenus();
     buildStatusBar();
     connectEditor();
+    connectPoints();
     // Queued: the menu that the language was chosen in is made anew.
     connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
-    resize(1000, 700);
+    resize(1100, 700);
 }
 
 MainWindow::~MainWindow() = default;
@@ -63,6 +68,7 @@ void MainWindow::buildMenus()
     buildFileMenu();
     buildEditMenu();
     buildProgramMenu();
+    buildPointsMenu();
     buildViewMenu();
 }
 
@@ -98,6 +104,17 @@ void MainWindow::buildProgramMenu()
     program->addAction(results);
 }
 
+void MainWindow::buildPointsMenu()
+{
+    QMenu *points = menuBar()->addMenu(tr("P&oints"));
+    points->addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), this,
+                      [this] { m_view->tables().read(m_code->CurrentType()); });
+    QAction *rename = points->addAction(tr("Re&name"), &m_view->tables(), &PointTables::editName);
+    rename->setShortcut(QKeySequence(Qt::Key_F2));
+    rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
+    points->addAction(tr("&Fit Columns"), &m_view->tables(), &PointTables::fitColumns);
+}
+
 void MainWindow::buildViewMenu()
 {
     QMenu *view = menuBar()->addMenu(tr("&View"));
@@ -122,6 +139,39 @@ void MainWindow::connectEditor()
     connect(m_results, &CheckResults::chosen, this, &MainWindow::goTo);
 }
 
+void MainWindow::connectPoints()
+{
+    connect(m_view, &ProjectView::shown, this,
+            [this](LwType type) { m_position->setVisible(type == dsCode); });
+    connect(m_points, &PointChooser::chosen, m_view, &ProjectView::takePoint);
+    connect(m_points, &PointChooser::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
+    connect(&m_view->tables(), &PointTables::readingStarted, this,
+            [this] { statusBar()->showMessage(tr("Reading the values…")); });
+    connect(&m_view->tables(), &PointTables::readingFinished, this,
+            [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
+    connect(&m_view->tables(), &PointTables::renamed, this, &MainWindow::followName);
+    connect(&m_view->tables(), &PointTables::refused, this,
+            [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
+}
+
+void MainWindow::followName(LwType type, const QString &former, const QString &name)
+{
+    m_code->UpdateWordListItem(former, name, type);
+    m_points->refill();
+    m_saving->noteNewNames();
+    if (!isVocabularyType(type))
+        return;
+    const auto answer = QMessageBox::question(
+        this, tr("Rename"), tr("Rename %1 to %2 in the program, too?").arg(former, name));
+    if (answer != QMessageBox::Yes)
+        return;
+    QString errMsg;
+    m_code->ReplaceRichTextBox(former, name, errMsg, true);
+    if (!errMsg.isEmpty())
+        QMessageBox::warning(this, tr("Rename"), errMsg);
+}
+
 void MainWindow::chooseProject()
 {
     const QString folder = m_project ? QFileInfo(m_project->fileName()).path() : QString();
@@ -139,24 +189,21 @@ void MainWindow::chooseProject()
 void MainWindow::openProject(const QString &fileName)
 {
     auto former = std::exchange(m_project, std::make_unique<Project>(fileName));
-    handOverVocabulary();
+    m_view->setProject(*m_project);
+    m_points->refill();
     setWindowTitle(m_project->name() + u"[*]"_s); // the application's name is added to it
     showProgram();
 }
 
-void MainWindow::handOverVocabulary()
+void MainWindow::showType(LwType type)
 {
-    m_vocabulary->SetCollectionRenamable(this, m_project->points(dsVariable),
-                                         m_project->points(dsConst), m_project->points(dsInput),
-                                         m_project->points(dsOutput), m_project->points(dsNvi));
-    m_vocabulary->setIsSqrtSupported(m_project->controller().isSqrtSupported ? u"true"_s
-                                                                             : u"false"_s);
-    m_vocabulary->setStringIndexCollection(m_project->indexedNames());
+    m_view->showType(type);
 }
 
 void MainWindow::showProgram()
 {
     m_results->hide();
+    m_view->showType(dsCode);
     m_code->ClearUndoHistory();
     m_code->setCodeText(QString());
     applyAppearance();
@@ -201,6 +248,8 @@ void MainWindow::compile()
 // The editor's own member counts lines with 16 bits.
 void MainWindow::goTo(const QString &word, qint32 line)
 {
+    if (m_code->CurrentType() != dsCode)
+        m_view->showType(dsCode);
     if (line <= std::numeric_limits<qint16>::max()) {
         QString text = word;
         auto number = static_cast<qint16>(line);
@@ -244,6 +293,8 @@ void MainWindow::retranslate()
     qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
     menuBar()->clear();
     buildMenus();
+    m_view->retranslate();
+    m_points->retranslate();
     showPosition();
     showProgramInfo();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ORVTListview/ORVListView.h>
-#include <ORVTListview/ORVTreeview.h>
 
 #include <QtWidgets/QMainWindow>
 
@@ -15,7 +14,9 @@ class CheckResults;
 class EditMenu;
 class Languages;
 class ProgramSaving;
+class PointChooser;
 class Project;
+class ProjectView;
 struct ProgramReport;
 
 // A small host: shows a project in the library's components.
@@ -32,6 +33,9 @@ public:
     // keeps what is shown when the file cannot be read.
     void openProject(const QString &fileName);
 
+    // Shows the program, or the table of a type.
+    void showType(LwType type);
+
 protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -42,11 +46,13 @@ private:
     void buildFileMenu();
     void buildEditMenu();
     void buildProgramMenu();
+    void buildPointsMenu();
     void buildViewMenu();
     void buildStatusBar();
     void connectEditor();
+    void connectPoints();
+    void followName(LwType type, const QString &former, const QString &name);
     void chooseProject();
-    void handOverVocabulary();
     void showProgram();
     void applyAppearance();
     void followPalette();
@@ -60,8 +66,9 @@ private:
 
     Languages &m_languages;
     std::unique_ptr<Project> m_project;
-    ORVTreeview *m_vocabulary;
-    ORVListView *m_code;
+    PointChooser *m_points; // made in the order of the Tab key
+    ProjectView *m_view;
+    ORVListView *m_code; // the view owns it
     ProgramSaving *m_saving;
     CheckResults *m_results;
     QLabel *m_programInfo;

@@ -35,6 +35,7 @@ bool ProgramSaving::save()
         return false;
     const QString text = m_code.CodeText();
     try {
+        m_project->saveNames();
         m_project->saveProgram(text);
     } catch (const Error &error) {
         QMessageBox::warning(&m_window, tr("Save Program"), error.Description());
@@ -43,6 +44,11 @@ bool ProgramSaving::save()
     m_savedText = text;
     m_window.setWindowModified(false);
     return true;
+}
+
+void ProgramSaving::noteNewNames()
+{
+    m_window.setWindowModified(isChanged());
 }
 
 bool ProgramSaving::mayLeave()
@@ -74,7 +80,8 @@ QString ProgramSaving::fileName() const
 // The lengths alone mostly tell, so that a key costs the same in any program.
 bool ProgramSaving::isChanged() const
 {
-    return m_code.RTextBox()->TextLength() != m_savedText.size() ||
+    return (m_project && m_project->hasNewNames()) ||
+           m_code.RTextBox()->TextLength() != m_savedText.size() ||
            m_code.CodeText() != m_savedText;
 }
 

@@ -28,6 +28,9 @@ public:
     // When somebody else has changed the file meanwhile, the user is asked.
     bool save();
 
+    // There are new names of points to save.
+    void noteNewNames();
+
     // Whether the program may go: when it has unsaved changes, the user is asked.
     bool mayLeave();
 

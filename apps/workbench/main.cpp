@@ -40,6 +40,7 @@ bool open(MainWindow &window, const Options &options)
 {
     try {
         window.openProject(options.project);
+        window.showType(options.shown);
         return true;
     } catch (const Error &error) {
         QTextStream(stderr) << error.Description() << Qt::endl;

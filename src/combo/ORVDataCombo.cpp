@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -42,16 +43,19 @@ struct ORVDataCombo::Private
     ImageList images;
     ImageCombo *combo; // a child of the control
     qint32 formParentHandle = 0;
+    QString recordedText;
 };
 
 ORVDataCombo::ORVDataCombo(QWidget *parent)
-    : QWidget(parent)
+    : Component(parent)
 {
     d = std::make_unique<Private>(*this);
     setFocusProxy(d->combo);
     setSizePolicy(d->combo->sizePolicy());
     connect(d->combo, &ImageCombo::focusLeft, this, &ORVDataCombo::applyColour);
     connect(d->combo, &ImageCombo::Click, this, &ORVDataCombo::applyColour);
+    connect(d->combo, &ImageCombo::Click, this, &ORVDataCombo::recordText);
+    connect(d->combo, &ImageCombo::Change, this, &ORVDataCombo::recordText);
     relayEvents();
 }
 
@@ -88,6 +92,7 @@ void ORVDataCombo::FillDataListview(LwType TypeIndex, PointCollection *, QString
     } catch (const std::exception &failure) {
         ErrMsg = QString::fromUtf8(failure.what());
     }
+    recordText();
 }
 
 void ORVDataCombo::SetListIndex(const QString &Data)
@@ -97,6 +102,13 @@ void ORVDataCombo::SetListIndex(const QString &Data)
         return;
     d->combo->setSelectedIndex(index);
     applyColour();
+    recordText();
+}
+
+void ORVDataCombo::recordText()
+{
+    if (std::exchange(d->recordedText, Text()) != d->recordedText)
+        Q_EMIT textChanged();
 }
 
 void ORVDataCombo::applyColour()
@@ -142,6 +154,7 @@ bool ORVDataCombo::Enabled() const
 void ORVDataCombo::Clear()
 {
     d->combo->setEntries({});
+    recordText();
 }
 
 void ORVDataCombo::ResetbackColor(qint32) {}
@@ -200,6 +213,8 @@ bool ORVDataCombo::event(QEvent *event)
 {
     if (event->type() == QEvent::AcceptDropsChange && d)
         d->combo->setAcceptDrops(acceptDrops());
+    else if (event->type() == QEvent::EnabledChange)
+        Q_EMIT enabledChanged();
     return QWidget::event(event);
 }
 

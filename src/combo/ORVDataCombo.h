@@ -1,12 +1,11 @@
 #pragma once
 
+#include <ORVTListview/Component.h>
 #include <ORVTListview/DataObject.h>
 #include <ORVTListview/Export.h>
 #include <ORVTListview/PointCollection.h>
 #include <ORVTListview/PropertyBag.h>
 #include <ORVTListview/Types.h>
-
-#include <QtWidgets/QWidget>
 
 #include <memory>
 
@@ -24,11 +23,11 @@ namespace ORVTListview {
 // Init_RichTextBox, from the choice on. It is the host's business that the colour
 // can be read on the theme's background; before any Init_RichTextBox on the thread
 // the text has the theme's own colour.
-class ORVT_EXPORT ORVDataCombo : public QWidget
+class ORVT_EXPORT ORVDataCombo : public Component
 {
     Q_OBJECT
-    Q_PROPERTY(QString Text READ Text WRITE setText)
-    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled)
+    Q_PROPERTY(QString Text READ Text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
     Q_PROPERTY(qint16 ListCount READ ListCount DESIGNABLE false STORED false)
     Q_PROPERTY(qint16 ListIndex READ ListIndex DESIGNABLE false STORED false)
     Q_PROPERTY(bool dragsEntry READ dragsEntry WRITE setDragsEntry)
@@ -36,6 +35,8 @@ class ORVT_EXPORT ORVDataCombo : public QWidget
 public:
     explicit ORVDataCombo(QWidget *parent = nullptr);
     ~ORVDataCombo() override;
+
+    const MemberTable &Members() const override;
 
     // Shows the points of the type from the collections that were given to
     // ORVTreeview::SetCollectionRenamable: dsVariable, dsConst, dsInput or dsOutput.
@@ -124,6 +125,10 @@ Q_SIGNALS:
     void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
     void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
 
+    // Not events: a persistent property is another one now, whoever changed it.
+    void textChanged();
+    void enabledChanged();
+
 protected:
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -131,6 +136,7 @@ protected:
 private:
     void relayEvents();
     void applyColour();
+    void recordText();
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -7,6 +7,7 @@
 #include "editor/WordInBox.h"
 #include "platform/ColumnHeaders.h"
 #include "platform/ListItem.h"
+#include "platform/ListItems.h"
 #include "platform/ReportList.h"
 #include "platform/RichTextBox.h"
 #include "shared/ThreadState.h"
@@ -123,9 +124,11 @@ void PopupWordList::chooseForWord(const QString &word)
     choose(exact >= 0 || word.isEmpty() ? exact : m_words.findBeginning(word));
 }
 
+// The host may have taken rows out of the list or put its own there.
 void PopupWordList::choose(qsizetype place)
 {
-    m_list.goToRow(static_cast<qint32>(place + 1)); // 0 chooses none
+    const bool isThere = place < m_list.ListItems()->Count();
+    m_list.goToRow(isThere ? static_cast<qint32>(place + 1) : 0); // 0 chooses none
 }
 
 qsizetype PopupWordList::chosen() const
@@ -158,18 +161,17 @@ bool PopupWordList::key(qint16 keyCode)
 
 bool PopupWordList::pickChosen()
 {
-    const qsizetype place = chosen();
+    const ListItem *item = m_list.SelectedItem();
     close();
-    if (place < 0)
+    if (!item)
         return false;
-    const PopupWord &word = m_words.words()[place];
-    Q_EMIT picked(word.text, word.style.Colour);
+    Q_EMIT picked(item->Text(), item->Tag().toInt());
     return true;
 }
 
 void PopupWordList::move(qint16 keyCode)
 {
-    const qsizetype last = m_words.words().size() - 1;
+    const qsizetype last = m_list.ListItems()->Count() - 1;
     const qsizetype page = std::max(1, rowsShown() - 1);
     qsizetype place = chosen();
     switch (keyCode) {

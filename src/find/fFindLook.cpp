@@ -208,6 +208,7 @@ void fFind::arrange()
     m_StatusBar1->setFixedHeight(statusHeight);
     const int height = statusHeight + Twips::toPixelsY(sizes.heightAboveStatus, *this);
     layout()->invalidate();
+    layout()->activate(); // asks every control anew
     const QSize needed = layout()->totalMinimumSize();
     setFixedHeight(std::max(height, needed.height()));
     setMinimumWidth(needed.width());

@@ -84,6 +84,7 @@ void ComboList::open(const QString &filter, int row)
         hide();
         return;
     }
+    setLayoutDirection(m_combo.layoutDirection());
     place();
     setCurrent(row < 0 ? m_matches.bestPosition() : m_matches.positionOf(row));
     show();
@@ -104,8 +105,10 @@ void ComboList::place()
     const QRect screen = m_combo.screen()->availableGeometry();
     m_view->setIconSize(m_combo.iconSize());
     const int rowHeight = m_view->sizeHintForRow(0);
-    const int below = screen.bottom() - combo.bottom();
-    const int above = combo.top() - screen.top();
+    const int under = std::clamp(combo.bottom() + 1, screen.top(), screen.bottom() + 1);
+    const int over = std::clamp(combo.top(), screen.top(), screen.bottom() + 1);
+    const int below = screen.bottom() + 1 - under;
+    const int above = over - screen.top();
     const int rows = std::min(m_matches.size(), m_combo.maxVisibleItems());
     const int wanted = rows * rowHeight + 2 * frameWidth();
     const bool isBelow = wanted <= below || below >= above;
@@ -116,7 +119,7 @@ void ComboList::place()
             : std::clamp(contentWidth(), std::min(combo.width(), screen.width()), screen.width());
     const int nearest = m_combo.isRightToLeft() ? combo.right() + 1 - width : combo.left();
     const int left = std::clamp(nearest, screen.left(), screen.right() + 1 - width);
-    setGeometry(left, isBelow ? combo.bottom() + 1 : combo.top() - height, width, height);
+    setGeometry(left, isBelow ? under : over - height, width, height);
 }
 
 int ComboList::currentRow() const

@@ -2,8 +2,6 @@
 
 #include "platform/ComboEntries.h"
 
-#include <QtCore/QStringMatcher>
-
 #include <algorithm>
 #include <numeric>
 #include <utility>
@@ -52,14 +50,14 @@ void ComboMatches::matchAll()
 
 void ComboMatches::setFilter(const QString &filter)
 {
-    // What holds the longer text holds the shorter one too.
-    const bool narrows = filter.contains(m_filter, Qt::CaseInsensitive);
+    // What holds the longer text holds the shorter one too, unless that is half of
+    // a character.
+    const bool narrows = m_filter.isValidUtf16() && filter.contains(m_filter, Qt::CaseInsensitive);
     const QList<int> candidates = narrows ? m_rows : allRows(m_entries.size());
-    const QStringMatcher matcher(filter, Qt::CaseInsensitive);
     QList<int> rows;
     rows.reserve(candidates.size());
     for (const int row : candidates) {
-        if (matcher.indexIn(m_entries.at(row).text) >= 0)
+        if (m_entries.at(row).text.contains(filter, Qt::CaseInsensitive))
             rows.append(row);
     }
     beginResetModel();
@@ -76,6 +74,8 @@ int ComboMatches::positionOf(int row) const
 
 int ComboMatches::bestPosition() const
 {
+    if (m_filter.isEmpty())
+        return -1;
     int begins = -1;
     for (int position = 0; position < size(); ++position) {
         const QString &text = m_entries.at(rowAt(position)).text;

@@ -33,7 +33,7 @@ public:
     int positionOf(int row) const;
 
     // The one to offer first: that reads as the filter, else that begins with it,
-    // else the first of all.
+    // else the first of all. None for an empty filter.
     int bestPosition() const;
 
 private:

@@ -170,21 +170,31 @@ void ImageCombo::setText(const QString &text)
 
 QColor ImageCombo::textColour() const
 {
-    const QPalette &palette = lineEdit()->palette();
-    const bool isOwn = palette.isBrushSet(QPalette::Active, QPalette::Text) &&
-                       lineEdit()->testAttribute(Qt::WA_SetPalette);
-    return isOwn ? palette.color(QPalette::Active, QPalette::Text) : QColor();
+    return d->textColour;
 }
 
 void ImageCombo::setTextColour(const QColor &colour)
 {
+    d->textColour = colour;
+    colourField();
+}
+
+void ImageCombo::colourField()
+{
     QPalette own; // states nothing else, so that the rest follows the theme
     own.setResolveMask(0);
-    if (colour.isValid()) {
-        own.setColor(QPalette::Active, QPalette::Text, colour);
-        own.setColor(QPalette::Inactive, QPalette::Text, colour);
+    if (d->textColour.isValid()) {
+        own.setColor(QPalette::Active, QPalette::Text, d->textColour);
+        own.setColor(QPalette::Inactive, QPalette::Text, d->textColour);
     }
     lineEdit()->setPalette(own);
+}
+
+void ImageCombo::changeEvent(QEvent *event)
+{
+    QComboBox::changeEvent(event);
+    if (d && event->type() == QEvent::PaletteChange)
+        colourField(); // the base has given the field its own
 }
 
 bool ImageCombo::dragsEntry() const

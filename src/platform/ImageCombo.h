@@ -9,6 +9,7 @@
 #include <QtGui/QColor>
 #include <QtWidgets/QComboBox>
 
+#include <functional>
 #include <memory>
 
 class QListView;
@@ -119,6 +120,8 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
@@ -129,6 +132,7 @@ private:
 
     void setUpField();
     void setUpDrag();
+    void colourField();
     void select(int row);
     void endSelection();
     void remember();
@@ -140,7 +144,8 @@ private:
     void takeTypedName();
     void bringBack();
     void raiseNoted();
-    void raiseNotedSoon();
+    void raiseChangeSoon();
+    void letWork(const std::function<void()> &work);
 
     std::unique_ptr<ImageComboParts> d;
 };

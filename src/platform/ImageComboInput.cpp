@@ -35,14 +35,22 @@ bool ImageCombo::event(QEvent *event)
             return true;
         if (isTab(*event)) // moves the focus before it is seen as a key
             takeMarked();
-        const bool wasInEvent = std::exchange(d->isInEvent, true);
         const bool handled = EventGuard::run([&] { return QComboBox::event(event); });
-        if (self) {
-            d->isInEvent = wasInEvent;
+        if (self && !d->isAtWork)
             raiseNoted();
-        }
         return handled;
     });
+}
+
+// The toolkit sends the combo further events while it works on the field; it
+// cannot bear to lose the field then.
+void ImageCombo::letWork(const std::function<void()> &work)
+{
+    const QPointer<ImageCombo> self(this);
+    const bool wasAtWork = std::exchange(d->isAtWork, true);
+    work();
+    if (self)
+        d->isAtWork = wasAtWork;
 }
 
 // The field.
@@ -64,9 +72,10 @@ void ImageCombo::noteEdit(const QString &text)
     endSelection();
     if (isVisible() && (isListOpen() || !text.isEmpty()))
         d->list->open(text);
-    d->hasChanged = true;
-    if (!d->isInEvent)
-        raiseNotedSoon();
+    if (d->isAtWork)
+        d->hasChanged = true;
+    else
+        raiseChangeSoon();
 }
 
 void ImageCombo::raiseNoted()
@@ -78,12 +87,12 @@ void ImageCombo::raiseNoted()
         Q_EMIT Click();
 }
 
-// The field, or its menu, is still at work.
-void ImageCombo::raiseNotedSoon()
+// For what comes by the field's menu or the mouse.
+void ImageCombo::raiseChangeSoon()
 {
     const auto raiseGuarded = [this] {
         EventGuard::run([this] {
-            raiseNoted();
+            Q_EMIT Change();
             return true;
         });
     };
@@ -102,8 +111,10 @@ void ImageCombo::choose(int row)
 
 void ImageCombo::takeMarked()
 {
-    if (isListOpen() && d->list->currentRow() >= 0)
-        choose(d->list->currentRow());
+    const int row = isListOpen() ? d->list->currentRow() : -1;
+    hidePopup();
+    if (row >= 0)
+        choose(row);
 }
 
 void ImageCombo::takeTypedName()
@@ -157,7 +168,7 @@ void ImageCombo::act(QKeyEvent &event)
         return;
     if (isEnter)
         takeTypedName();
-    QComboBox::keyPressEvent(&event);
+    letWork([this, &event] { QComboBox::keyPressEvent(&event); });
 }
 
 bool ImageCombo::actOnList(const QKeyEvent &event)
@@ -191,6 +202,11 @@ bool ImageCombo::actOnList(const QKeyEvent &event)
         return false;
     }
     return true;
+}
+
+void ImageCombo::inputMethodEvent(QInputMethodEvent *event)
+{
+    letWork([this, event] { QComboBox::inputMethodEvent(event); });
 }
 
 // Mouse and focus.
@@ -227,7 +243,7 @@ void ImageCombo::mouseReleaseEvent(QMouseEvent *event)
 void ImageCombo::wheelEvent(QWheelEvent *event)
 {
     if (hasFocus())
-        QComboBox::wheelEvent(event);
+        letWork([this, event] { QComboBox::wheelEvent(event); });
     else
         event->ignore(); // for what scrolls the form
 }

@@ -26,8 +26,9 @@ struct ImageComboParts
     // Events that wait for the toolkit's work on the field to be over.
     bool hasChanged = false;
     bool isClicked = false;
-    bool isInEvent = false;
+    bool isAtWork = false;
 
+    QColor textColour; // invalid: the palette's
     bool dragsEntry = false;
     bool isPicturePressed = false;
     QPoint pressed;

@@ -1,9 +1,8 @@
 #pragma once
 
+#include <ORVTListview/Component.h>
 #include <ORVTListview/Export.h>
 #include <ORVTListview/Types.h>
-
-#include <QtWidgets/QWidget>
 
 #include <memory>
 
@@ -29,13 +28,15 @@ class RichTextBox;
 // an event may do anything, destroying the control included.
 //
 // Rows and columns count from 1, lengths and places are twips.
-class ORVT_EXPORT ORVListView : public QWidget
+class ORVT_EXPORT ORVListView : public Component
 {
     Q_OBJECT
-    Q_PROPERTY(QString Caption READ Caption WRITE setCaption NOTIFY captionChanged)
-    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
+    // The type comes first, as forms set properties in this order and a type brings
+    // its own caption.
     Q_PROPERTY(ORVTListview::LwType ListviewType READ ListviewType WRITE setListviewType NOTIFY
                    listviewTypeChanged)
+    Q_PROPERTY(QString Caption READ Caption WRITE setCaption NOTIFY captionChanged)
+    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
     Q_PROPERTY(bool MultiSelect READ MultiSelect WRITE setMultiSelect NOTIFY multiSelectChanged)
 
     Q_PROPERTY(ORVTListview::LwType CurrentType READ CurrentType NOTIFY listviewTypeChanged
@@ -54,6 +55,8 @@ class ORVT_EXPORT ORVListView : public QWidget
 public:
     explicit ORVListView(QWidget *parent = nullptr);
     ~ORVListView() override;
+
+    const MemberTable &Members() const override;
 
     // The type shown; dsInput at first. Assigning it shows and enables its face and
     // builds everything anew: the caption with the type's name, the columns, and

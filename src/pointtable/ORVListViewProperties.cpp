@@ -18,8 +18,9 @@ constexpr LwType defaultType = dsInput;
 LwType storedType(const QVariant &value)
 {
     bool isNumber = false;
-    const int type = value.toInt(&isNumber);
-    return isNumber && isType(type) ? static_cast<LwType>(type) : defaultType;
+    const qlonglong type = value.toLongLong(&isNumber);
+    const bool isStoredType = isNumber && type >= lowestType && type <= highestType;
+    return isStoredType ? static_cast<LwType>(type) : defaultType;
 }
 
 } // namespace

@@ -51,7 +51,6 @@ PointTable::PointTable(QWidget *host, ReportList &list, const ImageList &images)
     m_read->setObjectName(u"ImgRead"_s);
     m_write->setObjectName(u"ImgWrite"_s);
     m_caption->lower(); // the pictures lie on it
-    QWidget::setTabOrder(m_read, &m_list);
     m_caption->installEventFilter(this);
     connect(m_read, &PictureButton::clicked, this, [this] {
         LwType type = m_type;
@@ -79,6 +78,12 @@ void PointTable::switchTo(LwType type)
     if (!m_isWaiting)
         createRows(m_numberItems);
     m_host.update();
+}
+
+void PointTable::enterTabOrder(QWidget &before)
+{
+    QWidget::setTabOrder(&before, &m_list);
+    QWidget::setTabOrder(&m_list, m_read);
 }
 
 void PointTable::createColumns()

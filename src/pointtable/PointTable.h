@@ -36,6 +36,10 @@ public:
     // list to others, new columns and rows.
     void switchTo(LwType type);
 
+    // Makes list and button the tab stops after the given one; the list loses its place
+    // when it is a window of its own for a while.
+    void enterTabOrder(QWidget &before);
+
     // What the next switch goes by.
     qint16 numberItems() const { return m_numberItems; }
     void setNumberItems(qint16 count) { m_numberItems = count; }

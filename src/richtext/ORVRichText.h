@@ -1,22 +1,23 @@
 #pragma once
 
+#include <ORVTListview/Component.h>
 #include <ORVTListview/DataObject.h>
 #include <ORVTListview/Export.h>
-
-#include <QtWidgets/QWidget>
 
 namespace ORVTListview {
 
 // The interface of a stand-alone code editor, for hosts to be built against. Every
 // member accepts its call and does nothing, and no event is ever raised. The
 // editor that works is ORVListView with the type dsCode.
-class ORVT_EXPORT ORVRichText : public QWidget
+class ORVT_EXPORT ORVRichText : public Component
 {
     Q_OBJECT
 
 public:
     explicit ORVRichText(QWidget *parent = nullptr);
     ~ORVRichText() override;
+
+    const MemberTable &Members() const override;
 
     Q_INVOKABLE void InitControl(QObject *FormParent);
     Q_INVOKABLE void RichTextCut();

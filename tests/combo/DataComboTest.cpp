@@ -127,6 +127,7 @@ private Q_SLOTS:
     void enabledIsTheControlsOwn();
     void propertiesComeBack();
     void propertiesHaveTheirDefaults();
+    void changesOfPersistentPropertiesAreTold();
     void membersWithoutEffectHaveNone();
     void textsAreFetchedAgain();
     void membersAreReachedByName();
@@ -454,6 +455,31 @@ void DataComboTest::propertiesHaveTheirDefaults()
     combo.ReadProperties(bag);
     QCOMPARE(combo.Text(), QString());
     QVERIFY(combo.Enabled());
+}
+
+void DataComboTest::changesOfPersistentPropertiesAreTold()
+{
+    DataComboHost host;
+    host.fill(dsInput);
+    QSignalSpy text(host.combo, &ORVDataCombo::textChanged);
+    QSignalSpy enabled(host.combo, &ORVDataCombo::enabledChanged);
+    host.combo->setText(u"one"_s);
+    QCOMPARE(text.count(), 1);
+    host.combo->SetListIndex(u"Temp1"_s);
+    host.combo->SetListIndex(u"Temp1"_s);
+    QCOMPARE(text.count(), 2);
+    host.fill(dsOutput);
+    QCOMPARE(text.count(), 3);
+    host.combo->Clear();
+    QCOMPARE(text.count(), 3);
+    host.fill(dsInput);
+    host.showFocused();
+    host.type(u"hu"_s);
+    QCOMPARE(text.count(), 5);
+    host.key(Qt::Key_Return);
+    QCOMPARE(text.count(), 6);
+    host.combo->setEnabled(false);
+    QCOMPARE(enabled.count(), 1);
 }
 
 void DataComboTest::membersWithoutEffectHaveNone()

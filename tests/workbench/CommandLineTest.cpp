@@ -1,4 +1,5 @@
 #include <QtCore/QProcess>
+#include <QtCore/QProcessEnvironment>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
@@ -20,6 +21,9 @@ private:
     Outcome run(const QStringList &arguments)
     {
         QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"ORVT_SETTINGS_FILE"_s, m_folder.filePath(u"settings.ini"_s));
+        process.setProcessEnvironment(environment);
         process.start(QStringLiteral(ORVT_WORKBENCH), arguments);
         if (!process.waitForFinished())
             qFatal("the workbench does not end");
@@ -39,7 +43,7 @@ private Q_SLOTS:
     void drawsThePictureOfTheWindow()
     {
         const QImage light = picture({});
-        QCOMPARE(light.size(), QSize(1000, 700));
+        QCOMPARE(light.size(), QSize(1100, 700));
         QVERIFY(light.pixelColor(900, 300).lightness() > 200);
         QCOMPARE(picture({}), light);
     }
@@ -53,8 +57,28 @@ private Q_SLOTS:
 
     void drawsItLarger()
     {
-        QCOMPARE(picture({u"--scale"_s, u"2"_s}).size(), QSize(2000, 1400));
-        QCOMPARE(picture({u"--scale=1.5"_s}).size(), QSize(1500, 1050));
+        QCOMPARE(picture({u"--scale"_s, u"2"_s}).size(), QSize(2200, 1400));
+        QCOMPARE(picture({u"--scale=1.5"_s}).size(), QSize(1650, 1050));
+    }
+
+    void speaksAnotherLanguageAndShowsACategory()
+    {
+        const QImage english = picture({});
+        const QImage german = picture({u"--language"_s, u"de"_s});
+        const QImage inputs = picture({u"--show"_s, u"Inputs"_s});
+        QCOMPARE(picture({u"--language"_s, u"en"_s, u"--show"_s, u"Code"_s}), english);
+        QVERIFY(german != english);
+        QVERIFY(inputs != english);
+    }
+
+    void refusesWhatItDoesNotHave()
+    {
+        const Outcome language = run({u"--language"_s, u"xx"_s});
+        QCOMPARE(language.status, 1);
+        QVERIFY2(language.errors.contains(u" xx"_s), qPrintable(language.errors));
+        const Outcome category = run({u"--show"_s, u"Eingänge"_s});
+        QCOMPARE(category.status, 1);
+        QVERIFY2(category.errors.contains(u"Eingänge"_s), qPrintable(category.errors));
     }
 
     void refusesAScaleThatIsNone()

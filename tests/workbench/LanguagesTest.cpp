@@ -38,7 +38,9 @@ private:
 
     // What is the same word in both languages.
     const QHash<QString, QStringList> sameAsEnglish{
-        {u"de"_s, {u"Variable"_s}}, {u"es"_s, {u"Variable"_s}}, {u"fr"_s, {u"Variable"_s}}};
+        {u"de"_s, {u"Variable"_s}},
+        {u"es"_s, {u"Variable"_s, u"Variables"_s, u"No"_s}},
+        {u"fr"_s, {u"Variable"_s, u"Variables"_s, u"Points"_s, u"P&oints"_s}}};
 
 private Q_SLOTS:
     void everyTextIsTranslated_data() { addLanguages(); }
@@ -63,14 +65,15 @@ private Q_SLOTS:
     {
         WorkbenchWindow workbench("Fan1 = ON");
         workbench.type(u"x"_s);
-        QCOMPARE(titles(workbench), QStringList({u"File"_s, u"Edit"_s, u"Program"_s, u"View"_s}));
+        QCOMPARE(titles(workbench),
+                 QStringList({u"File"_s, u"Edit"_s, u"Program"_s, u"Points"_s, u"View"_s}));
         const QMenu *menu = workbench.window.findChild<LanguageMenu *>();
         QVERIFY(menu);
         const QList<QAction *> choices = menu->actions();
         QCOMPARE(choices.size(), 4);
         choices.at(1)->trigger();
-        QTRY_COMPARE(titles(workbench),
-                     QStringList({u"Datei"_s, u"Bearbeiten"_s, u"Programm"_s, u"Ansicht"_s}));
+        QTRY_COMPARE(titles(workbench), QStringList({u"Datei"_s, u"Bearbeiten"_s, u"Programm"_s,
+                                                     u"Punkte"_s, u"Ansicht"_s}));
         QCOMPARE(workbench.code().CodeText(), u"xFan1 = ON"_s);
         QVERIFY(workbench.window.isWindowModified());
         const QMenu *made = workbench.window.findChild<LanguageMenu *>();

@@ -7,6 +7,7 @@
 #include "workbench/MainWindow.h"
 
 #include <ORVTListview/RichTextBox.h>
+#include <ORVTListview/SettingsStore.h>
 
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
@@ -15,6 +16,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
@@ -52,12 +54,13 @@ struct WorkbenchWindow
         return ORVTListview::readFile(folder.filePath(name + QStringLiteral(".prog")));
     }
 
-    ORVTListview::ORVListView &code()
-    {
-        return *qobject_cast<ORVTListview::ORVListView *>(window.centralWidget());
-    }
+    ORVTListview::ORVListView &code() { return *window.findChild<ORVTListview::ORVListView *>(); }
     ORVTListview::RichTextBox &box() { return *code().RTextBox(); }
-    QTreeView &results() { return *window.findChild<QTreeView *>(); }
+    QTreeView &results()
+    {
+        return *window.findChild<QDockWidget *>(QStringLiteral("CheckResults"))
+                    ->findChild<QTreeView *>();
+    }
     void type(const QString &text) { QTest::keyClicks(&box(), text); }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
@@ -112,7 +115,13 @@ struct WorkbenchWindow
         return rows.join(u'|');
     }
 
+    struct Settings // of the tests' own; there before the window
+    {
+        explicit Settings(const QString &file) { ORVTListview::setSettingsFile(file); }
+    };
+
     QTemporaryDir folder;
+    Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
     ORVTListview::Languages languages{QLocale(QLocale::English)};
     ORVTListview::MainWindow window{languages};
 };

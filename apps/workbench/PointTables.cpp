@@ -1,0 +1,160 @@
+#include "PointTables.h"
+
+#include "project/Project.h"
+
+#include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/Error.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/ORVListView.h>
+
+#include <QtCore/QTimer>
+
+#include <algorithm>
+#include <chrono>
+
+namespace ORVTListview {
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+
+PointTables::PointTables(ORVListView &list)
+    : QObject(&list)
+    , m_list(list)
+    , m_answer(new QTimer(this))
+{
+    m_answer->setSingleShot(true);
+    connect(m_answer, &QTimer::timeout, this, &PointTables::finishReading);
+    connect(&list, &ORVListView::QueryRead, this, [this](LwType &type) { read(type); });
+    connect(&list, &ORVListView::BeforeLabelEdit, this, &PointTables::allowEditing);
+    connect(&list, &ORVListView::AfterLabelEdit, this, &PointTables::takeName);
+}
+
+void PointTables::show(LwType type)
+{
+    m_list.setIsHOASupported(m_project->controller().isHOASupported);
+    m_list.setListviewType(type);
+    m_list.SetImage(isReading());
+    if (type == dsCode)
+        return;
+    const qsizetype points = m_project->rows(type).size(); // 16 bits hold them all
+    if (points > m_list.NumberItems())
+        m_list.ChangeListviewNumber(static_cast<qint16>(points));
+    const auto names = static_cast<qint16>(nameColumn(type) + 1);
+    m_list.setLabelColumn(names);
+    fill();
+    fitColumns();
+}
+
+void PointTables::fill()
+{
+    const qsizetype points = m_project->rows(m_list.CurrentType()).size();
+    const qsizetype rows = std::min<qsizetype>(points, m_list.ListItems()->Count());
+    for (qsizetype row = 0; row < rows; ++row)
+        fillRow(*m_list.ListItems()->Item(static_cast<qint32>(row) + 1), row);
+}
+
+void PointTables::fillRow(ListItem &item, qsizetype row)
+{
+    const QVariantList &cells = m_project->rows(m_list.CurrentType()).at(row).cells;
+    const qsizetype shown = std::min<qsizetype>(cells.size(), m_list.ColumnHerders()->Count() - 1);
+    for (qsizetype column = 0; column < shown; ++column) {
+        const QVariant &cell = cells.at(column);
+        const QString text = cell.typeId() != QMetaType::Bool ? cellText(cell)
+                             : cell.toBool()                  ? tr("Yes")
+                                                              : tr("No");
+        item.setSubItem(static_cast<qint32>(column) + 1, text);
+    }
+}
+
+void PointTables::fitColumns()
+{
+    QString errMsg;
+    m_list.UpdateListViewWidth(errMsg);
+}
+
+void PointTables::goTo(const QString &name)
+{
+    ListItem *item = m_list.FindItem(name, 1);
+    if (!item)
+        return;
+    m_list.setSelectedItem(item);
+    item->EnsureVisible();
+}
+
+// Reading.
+
+bool PointTables::isReading() const
+{
+    return m_answer->isActive();
+}
+
+void PointTables::read(LwType type)
+{
+    if (isReading() || !m_project)
+        return;
+    m_readType = type;
+    m_list.SetImage(true);
+    m_answer->start(600ms);
+    Q_EMIT readingStarted();
+}
+
+void PointTables::finishReading()
+{
+    const QList<ProjectColumn> &columns = projectColumns(m_readType);
+    for (qsizetype column = 0; column < columns.size(); ++column) {
+        if (columns.at(column).key != u"Value"_s)
+            continue;
+        for (qsizetype row = 0; row < m_project->rows(m_readType).size(); ++row) {
+            const QVariant &last = m_project->rows(m_readType).at(row).cells.at(column);
+            m_project->setCell(m_readType, row, column, m_controller.reading(last));
+        }
+    }
+    if (m_list.CurrentType() == m_readType)
+        fill();
+    m_list.SetImage(false);
+    Q_EMIT readingFinished();
+}
+
+// Names.
+
+void PointTables::editName()
+{
+    m_list.StartLabelEdit();
+}
+
+// -1 for a row without a point.
+qsizetype PointTables::pointOf(const ListItem *item) const
+{
+    const bool isPoint = item && m_project && item->isAlive() &&
+                         item->Index() <= m_project->rows(m_list.CurrentType()).size();
+    return isPoint ? item->Index() - 1 : -1;
+}
+
+void PointTables::allowEditing(qint16 &cancel)
+{
+    m_edited = m_list.SelectedItem(); // another one may be when the name comes
+    if (pointOf(m_edited) < 0 || nameColumn(m_list.CurrentType()) < 0)
+        cancel = 1;
+}
+
+void PointTables::takeName(qint16 &cancel, const QString &name)
+{
+    const LwType type = m_list.CurrentType();
+    const qsizetype row = pointOf(m_edited);
+    cancel = 1;
+    if (row < 0)
+        return;
+    const QString former = m_project->rows(type).at(row).name;
+    if (name == former)
+        return;
+    try {
+        m_project->rename(type, row, name);
+        cancel = 0;
+        Q_EMIT renamed(type, former, name);
+    } catch (const Error &error) {
+        Q_EMIT refused(error.Description());
+    }
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,89 @@
+#include "ComponentWidget.h"
+
+#include "platform/ImageList.h"
+#include "shared/Pictures.h"
+
+using namespace Qt::StringLiterals;
+
+ComponentWidget::ComponentWidget(const ComponentDescription &description)
+    : m_description(description)
+{
+}
+
+QString ComponentWidget::name() const
+{
+    return u"ORVTListview::"_s + m_description.className;
+}
+
+QString ComponentWidget::group() const
+{
+    return u"ORVTListview"_s;
+}
+
+QString ComponentWidget::toolTip() const
+{
+    return m_description.toolTip;
+}
+
+QString ComponentWidget::whatsThis() const
+{
+    return m_description.whatsThis;
+}
+
+QString ComponentWidget::includeFile() const
+{
+    return u"<ORVTListview/%1.h>"_s.arg(m_description.className);
+}
+
+QIcon ComponentWidget::icon() const
+{
+    ORVTListview::ImageList images;
+    ORVTListview::Pictures::fillInto(images);
+    const QIcon picture = images.Picture(m_description.pictureKey);
+    QIcon icon; // the widget box shows icons of pixmaps only
+    for (const int size : {16, 22, 24, 32, 48, 64})
+        icon.addPixmap(picture.pixmap(size));
+    return icon;
+}
+
+bool ComponentWidget::isContainer() const
+{
+    return false;
+}
+
+QWidget *ComponentWidget::createWidget(QWidget *parent)
+{
+    return m_description.create(parent, m_isDesigning);
+}
+
+QString ComponentWidget::domXml() const
+{
+    const QString xml = uR"(<ui language="c++" displayname="%1">
+ <widget class="%2" name="%3">
+  <property name="geometry">
+   <rect><x>0</x><y>0</y><width>%4</width><height>%5</height></rect>
+  </property>
+ </widget>
+ <customwidgets>
+  <customwidget>
+   <class>%2</class>
+   <extends>QWidget</extends>
+   <propertyspecifications>%6</propertyspecifications>
+  </customwidget>
+ </customwidgets>
+</ui>)"_s;
+    return xml.arg(m_description.title, name(), m_description.objectName)
+        .arg(m_description.size.width())
+        .arg(m_description.size.height())
+        .arg(m_description.properties);
+}
+
+bool ComponentWidget::isInitialized() const
+{
+    return m_isDesigning;
+}
+
+void ComponentWidget::initialize(QDesignerFormEditorInterface *)
+{
+    m_isDesigning = true;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtGui/QIcon>
+#include <QtUiPlugin/QDesignerCustomWidgetInterface>
+
+// What the widget box, the forms and the property editor need of one component.
+struct ComponentDescription
+{
+    QString className;
+    QString title;      // in the widget box
+    QString objectName; // of the first one on a form
+    QString pictureKey;
+    QString toolTip;
+    QString whatsThis;
+    QSize size;         // on a form, in pixels
+    QString properties; // how the property editor treats them, as the form's XML
+
+    // A component on a form that is being designed has no effect outside of it.
+    QWidget *(*create)(QWidget *parent, bool isDesigning) = nullptr;
+};
+
+class ComponentWidget : public QDesignerCustomWidgetInterface
+{
+public:
+    explicit ComponentWidget(const ComponentDescription &description);
+
+    QString name() const override;
+    QString group() const override;
+    QString toolTip() const override;
+    QString whatsThis() const override;
+    QString includeFile() const override;
+    QIcon icon() const override;
+    bool isContainer() const override;
+    QWidget *createWidget(QWidget *parent) override;
+    QString domXml() const override;
+
+    // Called by Designer only, and not by those who load forms at run time.
+    bool isInitialized() const override;
+    void initialize(QDesignerFormEditorInterface *core) override;
+
+private:
+    const ComponentDescription m_description;
+    bool m_isDesigning = false;
+};

@@ -1,0 +1,92 @@
+#include "Components.h"
+
+#include "combo/ORVDataCombo.h"
+#include "pointtable/ORVListView.h"
+#include "richtext/ORVRichText.h"
+#include "tree/ORVTreeview.h"
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <typename T>
+QWidget *create(QWidget *parent, bool)
+{
+    return new T(parent);
+}
+
+QWidget *createTree(QWidget *parent, bool isDesigning)
+{
+    auto *tree = new ORVTreeview(parent);
+    tree->setDesignMode(isDesigning);
+    return tree;
+}
+
+QString singleLine(const QString &property)
+{
+    return u"<stringpropertyspecification name=\"%1\" type=\"singleline\"/>"_s.arg(property);
+}
+
+ComponentDescription listView()
+{
+    return {.className = u"ORVListView"_s,
+            .title = u"Point Table / Code Editor"_s,
+            .objectName = u"listView"_s,
+            .pictureKey = u"Inputs"_s,
+            .toolTip = u"A table of a controller's points, or the editor of its program"_s,
+            .whatsThis = u"ListviewType chooses what is shown: the points of one type, each "
+                         "type with its own columns, or for dsCode the code editor."_s,
+            .size = QSize(480, 300),
+            .properties = singleLine(u"Caption"_s),
+            .create = &create<ORVListView>};
+}
+
+ComponentDescription treeview()
+{
+    return {.className = u"ORVTreeview"_s,
+            .title = u"Project Tree"_s,
+            .objectName = u"treeview"_s,
+            .pictureKey = u"Device"_s,
+            .toolTip = u"The navigation tree of a controller project"_s,
+            .whatsThis = u"Groups the categories of points into pages. While a form is being "
+                         "designed the tree leaves the user's arrangement alone."_s,
+            .size = QSize(220, 320),
+            .properties = QString(),
+            .create = &createTree};
+}
+
+ComponentDescription dataCombo()
+{
+    return {.className = u"ORVDataCombo"_s,
+            .title = u"Point Combo"_s,
+            .objectName = u"dataCombo"_s,
+            .pictureKey = u"Variables"_s,
+            .toolTip = u"A drop-down list of the points of one type"_s,
+            .whatsThis = u"The host fills it with FillDataListview; users find a point by "
+                         "typing a part of its name."_s,
+            .size = QSize(180, 28),
+            .properties = singleLine(u"Text"_s),
+            .create = &create<ORVDataCombo>};
+}
+
+ComponentDescription richText()
+{
+    return {.className = u"ORVRichText"_s,
+            .title = u"Rich-Text Shell"_s,
+            .objectName = u"richText"_s,
+            .pictureKey = u"Code"_s,
+            .toolTip = u"The interface of a code editor, without behaviour"_s,
+            .whatsThis = u"For hosts that are built against this interface. The editor that "
+                         "works is the code editor of ORVListView."_s,
+            .size = QSize(320, 200),
+            .properties = QString(),
+            .create = &create<ORVRichText>};
+}
+
+} // namespace
+
+QList<ComponentDescription> allComponents()
+{
+    return {listView(), treeview(), dataCombo(), richText()};
+}

@@ -1,0 +1,78 @@
+#include "richtext/ORVRichText.h"
+
+#include "platform/MemberEntries.h"
+
+namespace ORVTListview {
+
+using namespace MemberEntries;
+
+namespace {
+
+using Shell = ORVRichText;
+
+QList<Member> shellMembers()
+{
+    return {
+        method<&Shell::InitControl>(u"InitControl", u"FormParent"),
+        method<&Shell::RichTextCut>(u"RichTextCut"),
+        method<&Shell::RichTextCopy>(u"RichTextCopy"),
+        method<&Shell::RichTextSelectAll>(u"RichTextSelectAll"),
+        method<&Shell::ReinitializeWordCollection>(u"ReinitializeWordCollection"),
+        method<&Shell::IsWordFound>(u"IsWordFound", u"Name"),
+        method<&Shell::Find>(u"Find", u"Name", u"IndexLine", u"IndexPosition"),
+        method<&Shell::ReplaceSpaceEquivalent>(u"ReplaceSpaceEquivalent", u"Data"),
+        method<&Shell::Clear>(u"Clear"),
+        method<&Shell::GetData>(u"GetData"),
+        method<&Shell::ValidateTextColor>(u"ValidateTextColor"),
+        method<&Shell::ReloadData>(u"ReloadData", u"Data"),
+        method<&Shell::InitStrings>(u"InitStrings"),
+        method<&Shell::ReInitializeStrings>(u"ReInitializeStrings"),
+    };
+}
+
+QList<Member> inputEvents()
+{
+    return {
+        raises<&Shell::Change>(1, u"Change"),
+        raises<&Shell::SelChange>(2, u"SelChange"),
+        raises<&Shell::Click>(3, u"Click"),
+        raises<&Shell::DblClick>(4, u"DblClick"),
+        raises<&Shell::KeyDown>(5, u"KeyDown", u"KeyCode", u"Shift"),
+        raises<&Shell::KeyPress>(6, u"KeyPress", u"KeyAscii"),
+        raises<&Shell::KeyUp>(7, u"KeyUp", u"KeyCode", u"Shift"),
+        raises<&Shell::MouseDown>(8, u"MouseDown", u"Button", u"Shift", u"X", u"Y"),
+        raises<&Shell::MouseMove>(9, u"MouseMove", u"Button", u"Shift", u"X", u"Y"),
+        raises<&Shell::MouseUp>(10, u"MouseUp", u"Button", u"Shift", u"X", u"Y"),
+        raises<&Shell::OLECompleteDrag>(11, u"OLECompleteDrag", u"Effect"),
+        raises<&Shell::OLEDragDrop>(12, u"OLEDragDrop", u"Data", u"Effect", u"Button", u"Shift",
+                                    u"X", u"Y"),
+        raises<&Shell::OLEDragOver>(13, u"OLEDragOver", u"Data", u"Effect", u"Button", u"Shift",
+                                    u"X", u"Y", u"State"),
+        raises<&Shell::OLEGiveFeedback>(14, u"OLEGiveFeedback", u"Effect", u"DefaultCursors"),
+        raises<&Shell::OLESetData>(15, u"OLESetData", u"Data", u"DataFormat"),
+        raises<&Shell::OLEStartDrag>(16, u"OLEStartDrag", u"Data", u"AllowedEffects"),
+    };
+}
+
+QList<Member> hostEvents()
+{
+    return {
+        raises<&Shell::MessageEvent>(17, u"MessageEvent", u"MSG", u"Number", u"Routine"),
+        raises<&Shell::StatusUpdate>(18, u"StatusUpdate", u"Description"),
+        raises<&Shell::UpdateUndoMenu>(19, u"UpdateUndoMenu"),
+        raises<&Shell::QueryAnalyze>(20, u"QueryAnalyze"),
+        raises<&Shell::QueryCompile>(21, u"QueryCompile"),
+        raises<&Shell::MoveOutCursorEvent>(22, u"MoveOutCursorEvent"),
+    };
+}
+
+} // namespace
+
+const MemberTable &ORVRichText::Members() const
+{
+    static const MemberTable table(QStringLiteral("ORVRichText"),
+                                   shellMembers() + inputEvents() + hostEvents());
+    return table;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,232 @@
+#include "MemberText.h"
+
+#include "combo/ORVDataCombo.h"
+#include "pointtable/ORVListView.h"
+#include "richtext/ORVRichText.h"
+#include "shared/SettingsStore.h"
+#include "support/TestFolder.h"
+#include "support/WidgetTest.h"
+#include "tree/ORVTreeview.h"
+
+#include <QtCore/QMetaMethod>
+#include <QtCore/QMetaProperty>
+#include <QtCore/QSet>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Factory = Component *(*)();
+
+template <typename T>
+Component *made()
+{
+    return new T;
+}
+
+// A type as moc writes it, a reference included.
+QString plainName(const QByteArray &type)
+{
+    QString name = QString::fromLatin1(type);
+    name.remove(u'&').remove(u"ORVTListview::"_s);
+    return name == u"short"_s ? u"qint16"_s : name == u"int"_s ? u"qint32"_s : name;
+}
+
+QString argumentList(const QMetaMethod &method)
+{
+    QStringList texts;
+    const QList<QByteArray> types = method.parameterTypes();
+    const QList<QByteArray> names = method.parameterNames();
+    for (qsizetype i = 0; i < types.size(); ++i) {
+        const bool isReference = types.at(i).endsWith('&');
+        texts.append(QString::fromLatin1(names.at(i)) + u": "_s + plainName(types.at(i)) +
+                     (isReference ? u" in/out"_s : QString()));
+    }
+    return u'(' + texts.join(u", "_s) + u')';
+}
+
+QString argumentList(const Member &member)
+{
+    Member plain = member;
+    for (MemberArgument &argument : plain.arguments)
+        argument.isOptional = false;
+    plain.type = QMetaType();
+    return MemberText::line(plain).section(member.name, 1);
+}
+
+QList<QMetaMethod> methodsNamed(const QMetaObject &meta, const QString &name)
+{
+    QList<QMetaMethod> methods;
+    for (int i = 0; i < meta.methodCount(); ++i) {
+        if (QString::fromLatin1(meta.method(i).name()) == name)
+            methods.append(meta.method(i));
+    }
+    return methods;
+}
+
+bool hasMethod(const QMetaObject &meta, const Member &member, QMetaMethod::MethodType type)
+{
+    for (const QMetaMethod &method : methodsNamed(meta, member.name)) {
+        const QString result =
+            method.returnType() == QMetaType::Void ? QString() : plainName(method.typeName());
+        const QString wanted =
+            member.type.isValid() ? MemberText::typeName(member.type) : QString();
+        if (method.methodType() == type && argumentList(method) == argumentList(member) &&
+            result == wanted)
+            return true;
+    }
+    return false;
+}
+
+// A property may be one of the meta-object or a pair of invokable functions.
+bool hasProperty(const QMetaObject &meta, const Member &member)
+{
+    const QMetaProperty property =
+        meta.property(meta.indexOfProperty(member.name.toLatin1().constData()));
+    const bool canRead = property.isReadable() || !methodsNamed(meta, member.name).isEmpty();
+    const bool canWrite =
+        property.isWritable() || !methodsNamed(meta, u"set"_s + member.name).isEmpty();
+    return (!member.call || canRead) && (!member.put || canWrite);
+}
+
+bool isInMetaObject(const QMetaObject &meta, const Member &member)
+{
+    switch (member.kind) {
+    case MemberKind::Property:
+        return hasProperty(meta, member);
+    case MemberKind::Event:
+        return meta.method(member.signalIndex).name() == member.name.toLatin1() &&
+               hasMethod(meta, member, QMetaMethod::Signal);
+    case MemberKind::Method:
+        break;
+    }
+    return hasMethod(meta, member, QMetaMethod::Method);
+}
+
+// What the class itself adds to its base, spelled as published.
+QSet<QString> publishedNames(const QMetaObject &meta)
+{
+    QSet<QString> names;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QString name = QString::fromLatin1(meta.method(i).name());
+        names.insert(name.startsWith(u"set"_s) ? name.mid(3) : name);
+    }
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
+        names.insert(QString::fromLatin1(meta.property(i).name()));
+    names.removeIf([](const QString &name) { return name.isEmpty() || name.at(0).isLower(); });
+    return names;
+}
+
+// The library's own additions in the published spelling.
+const QSet<QString> additions{u"ClearUndoHistory"_s, u"IndentUnit"_s};
+
+} // namespace
+
+class MembersTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override;
+
+    void agreeWithTheList_data() { components(); }
+    void agreeWithTheList();
+    void areInTheMetaObject_data() { components(); }
+    void areInTheMetaObject();
+    void areAllThatTheClassPublishes_data() { components(); }
+    void areAllThatTheClassPublishes();
+    void differNotInLetterCaseOnly_data() { components(); }
+    void differNotInLetterCaseOnly();
+    void haveEventNumbersInOrder_data() { components(); }
+    void haveEventNumbersInOrder();
+
+private:
+    TestFolder m_settings; // the tree saves its pages
+
+    static void components();
+    static std::unique_ptr<Component> component()
+    {
+        QFETCH(Factory, factory);
+        return std::unique_ptr<Component>(factory());
+    }
+};
+
+void MembersTest::init()
+{
+    WidgetTest::init();
+    setSettingsFile(m_settings.path(u"settings"_s));
+}
+
+void MembersTest::components()
+{
+    QTest::addColumn<Factory>("factory");
+    QTest::newRow("ORVListView") << &made<ORVListView>;
+    QTest::newRow("ORVTreeview") << &made<ORVTreeview>;
+    QTest::newRow("ORVDataCombo") << &made<ORVDataCombo>;
+    QTest::newRow("ORVRichText") << &made<ORVRichText>;
+}
+
+void MembersTest::agreeWithTheList()
+{
+    const auto control = component();
+    const QString path = QStringLiteral(ORVT_MEMBER_LISTS "/%1.members")
+                             .arg(QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(control->Members().component(), QString::fromLatin1(QTest::currentDataTag()));
+    const QStringList listed = MemberText::ofFile(path);
+    const QStringList table = MemberText::ofTable(control->Members());
+    const auto missing = [](const QStringList &all, const QStringList &some) {
+        QStringList rest = all;
+        rest.removeIf([&](const QString &line) { return some.contains(line); });
+        return rest.join(u'\n');
+    };
+    QCOMPARE(missing(listed, table), QString()); // not in the table
+    QCOMPARE(missing(table, listed), QString()); // not in the list
+    QCOMPARE(table.size(), listed.size());
+}
+
+void MembersTest::areInTheMetaObject()
+{
+    const auto control = component();
+    QStringList missing;
+    for (const Member &member : control->Members().members()) {
+        if (!isInMetaObject(*control->metaObject(), member))
+            missing.append(MemberText::line(member));
+    }
+    QCOMPARE(missing.join(u'\n'), QString());
+}
+
+void MembersTest::areAllThatTheClassPublishes()
+{
+    const auto control = component();
+    QSet<QString> rest = publishedNames(*control->metaObject()) - additions;
+    for (const Member &member : control->Members().members())
+        rest.remove(member.name);
+    QCOMPARE(QStringList(rest.cbegin(), rest.cend()).join(u'\n'), QString());
+}
+
+void MembersTest::differNotInLetterCaseOnly()
+{
+    const auto control = component();
+    QSet<QString> events;
+    QSet<QString> others;
+    for (const Member &member : control->Members().members()) {
+        QSet<QString> &names = member.kind == MemberKind::Event ? events : others;
+        QVERIFY2(!names.contains(member.name.toLower()), qPrintable(member.name));
+        names.insert(member.name.toLower());
+    }
+}
+
+void MembersTest::haveEventNumbersInOrder()
+{
+    const auto control = component();
+    qint32 last = 0;
+    for (const Member &member : control->Members().members()) {
+        if (member.kind == MemberKind::Event)
+            QCOMPARE(member.number, ++last);
+    }
+    QVERIFY(last > 0);
+}
+
+QTEST_MAIN(MembersTest)
+#include "MembersTest.moc"

@@ -1,0 +1,302 @@
+#include "combo/ORVDataCombo.h"
+#include "pointtable/ORVListView.h"
+#include "richtext/ORVRichText.h"
+#include "shared/SettingsStore.h"
+#include "support/TestFolder.h"
+#include "support/WidgetTest.h"
+#include "tree/ORVTreeview.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QPluginLoader>
+#include <QtDesigner/QDesignerComponents>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerIntegration>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QExtensionManager>
+#include <QtDesigner/QFormBuilder>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <QtUiTools/QUiLoader>
+#include <QtWidgets/QApplication>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList classNames{u"ORVTListview::ORVListView"_s, u"ORVTListview::ORVTreeview"_s,
+                             u"ORVTListview::ORVDataCombo"_s, u"ORVTListview::ORVRichText"_s};
+
+QList<QDesignerCustomWidgetInterface *> pluginWidgets()
+{
+    QPluginLoader loader(QStringLiteral(ORVT_DESIGNER_PLUGIN));
+    auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(loader.instance());
+    if (!collection)
+        qFatal("%s", qPrintable(loader.errorString()));
+    return collection->customWidgets();
+}
+
+QDesignerCustomWidgetInterface *pluginWidget(const QString &name)
+{
+    for (QDesignerCustomWidgetInterface *widget : pluginWidgets()) {
+        if (widget->name() == name)
+            return widget;
+    }
+    return nullptr;
+}
+
+// A form with all four as they come from the widget box.
+const QString plainForm = uR"(<ui version="4.0"><class>Form</class>
+<widget class="QWidget" name="Form">
+ <widget class="ORVTListview::ORVListView" name="listView"/>
+ <widget class="ORVTListview::ORVTreeview" name="treeview"/>
+ <widget class="ORVTListview::ORVDataCombo" name="dataCombo"/>
+ <widget class="ORVTListview::ORVRichText" name="richText"/>
+</widget></ui>)"_s;
+
+// Designer without its windows.
+class Designer
+{
+public:
+    Designer()
+    {
+        // Designer tries one of each of the toolkit's widgets.
+        QTest::ignoreMessage(QtWarningMsg, "QOpenGLWidget is not supported on this platform.");
+        QDesignerComponents::initializeResources();
+        m_core = QDesignerComponents::createFormEditor(&m_owner);
+        QDesignerComponents::initializePlugins(m_core);
+        m_core->setPropertyEditor(QDesignerComponents::createPropertyEditor(m_core, &m_window));
+        new QDesignerIntegration(m_core, &m_owner); // becomes the core's
+    }
+
+    std::unique_ptr<QDesignerFormWindowInterface> opened(const QString &xml)
+    {
+        std::unique_ptr<QDesignerFormWindowInterface> window(
+            m_core->formWindowManager()->createFormWindow(nullptr));
+        if (!window->setContents(xml))
+            qFatal("Designer does not open the form");
+        return window;
+    }
+
+    // As the property editor does.
+    void change(QDesignerFormWindowInterface &window, const QString &widget,
+                const QString &property, const QVariant &value)
+    {
+        auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(
+            m_core->extensionManager(), window.findChild<QWidget *>(widget));
+        const int index = sheet->indexOf(property);
+        QVERIFY2(index >= 0 && sheet->isVisible(index), qPrintable(property));
+        sheet->setProperty(index, value);
+        sheet->setChanged(index, true);
+    }
+
+    // With all that a form keeps of the four components changed.
+    QString changedForm()
+    {
+        const auto window = opened(plainForm);
+        change(*window, u"listView"_s, u"ListviewType"_s, qint32{dsOutput});
+        change(*window, u"listView"_s, u"Caption"_s, u"Valves & <pumps>"_s);
+        change(*window, u"listView"_s, u"Enabled"_s, false);
+        change(*window, u"listView"_s, u"MultiSelect"_s, true);
+        change(*window, u"dataCombo"_s, u"Text"_s, u"SupplyTemp"_s);
+        change(*window, u"richText"_s, u"geometry"_s, QRect(10, 20, 300, 200));
+        return window->contents();
+    }
+
+private:
+    QObject m_owner;
+    QWidget m_window;
+    QDesignerFormEditorInterface *m_core;
+};
+
+template <typename Loader>
+std::unique_ptr<QWidget> loadedForm(Loader &loader, const QString &xml)
+{
+    QByteArray bytes = xml.toUtf8();
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return std::unique_ptr<QWidget>(loader.load(&buffer));
+}
+
+// As far as forms keep it.
+void compareWithChangedForm(const QWidget &form)
+{
+    const auto *list = form.findChild<ORVListView *>(u"listView"_s);
+    QVERIFY(list);
+    QCOMPARE(list->ListviewType(), dsOutput);
+    QCOMPARE(list->Caption(), u"Valves & <pumps>"_s);
+    QCOMPARE(list->Enabled(), false);
+    QCOMPARE(list->MultiSelect(), true);
+    QVERIFY(form.findChild<ORVTreeview *>(u"treeview"_s));
+    const auto *combo = form.findChild<ORVDataCombo *>(u"dataCombo"_s);
+    QVERIFY(combo);
+    QCOMPARE(combo->Text(), u"SupplyTemp"_s);
+    const auto *shell = form.findChild<ORVRichText *>(u"richText"_s);
+    QVERIFY(shell);
+    QCOMPARE(shell->geometry(), QRect(10, 20, 300, 200));
+}
+
+} // namespace
+
+class DesignerPluginTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() override;
+
+    void treeOfARunningFormSavesItsPages(); // first: the plugin stays when Designer ends
+    void offersAllComponents();
+    void describesEachComponent_data();
+    void describesEachComponent();
+    void putsEachComponentOnAForm_data() { describesEachComponent_data(); }
+    void putsEachComponentOnAForm();
+    void showsTheDesignTimeProperties();
+    void namesTheTypesInAList();
+    void designerSavesAndReloadsAForm();
+    void designerNamesTheHeaders();
+    void formBuilderLoadsTheForm();
+    void uiLoaderLoadsTheForm();
+    void treeOfADesignedFormSavesNothing();
+
+private:
+    std::unique_ptr<TestFolder> m_settings;
+};
+
+void DesignerPluginTest::init()
+{
+    WidgetTest::init();
+    m_settings = std::make_unique<TestFolder>();
+    setSettingsFile(m_settings->path(u"settings"_s));
+}
+
+void DesignerPluginTest::treeOfARunningFormSavesItsPages()
+{
+    delete pluginWidget(u"ORVTListview::ORVTreeview"_s)->createWidget(nullptr);
+    QVERIFY(!m_settings->names().isEmpty());
+}
+
+void DesignerPluginTest::offersAllComponents()
+{
+    QStringList names;
+    for (const QDesignerCustomWidgetInterface *widget : pluginWidgets())
+        names.append(widget->name());
+    QCOMPARE(names, classNames);
+}
+
+void DesignerPluginTest::describesEachComponent_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name : classNames)
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void DesignerPluginTest::describesEachComponent()
+{
+    QFETCH(QString, name);
+    const QDesignerCustomWidgetInterface *widget = pluginWidget(name);
+    QVERIFY(widget);
+    QCOMPARE(widget->group(), u"ORVTListview"_s);
+    QVERIFY(!widget->toolTip().isEmpty());
+    QVERIFY(!widget->whatsThis().isEmpty());
+    QVERIFY(!widget->isContainer());
+    QCOMPARE(widget->includeFile(), u"<ORVTListview/"_s + name.section(u"::"_s, 1) + u".h>"_s);
+    const QImage icon = widget->icon().pixmap(22, 22).toImage();
+    QVERIFY(!icon.isNull());
+    QVERIFY(icon != QImage(icon.size(), icon.format())); // drawn
+}
+
+void DesignerPluginTest::putsEachComponentOnAForm()
+{
+    QFETCH(QString, name);
+    QDesignerCustomWidgetInterface *widget = pluginWidget(name);
+    QVERIFY(widget);
+    QFormBuilder builder;
+    builder.setPluginPath({QStringLiteral(ORVT_DESIGNER_FOLDER)});
+    const auto made = loadedForm(builder, widget->domXml());
+    QVERIFY(made);
+    QCOMPARE(QString::fromLatin1(made->metaObject()->className()), name);
+    QVERIFY(!made->objectName().isEmpty());
+    QVERIFY(made->width() > 100);
+}
+
+void DesignerPluginTest::showsTheDesignTimeProperties()
+{
+    const QMetaObject &meta = ORVListView::staticMetaObject;
+    QStringList designable;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+        if (meta.property(i).isDesignable() && meta.property(i).isStored())
+            designable.append(QString::fromLatin1(meta.property(i).name()));
+    }
+    designable.sort();
+    QCOMPARE(designable,
+             QStringList({u"Caption"_s, u"Enabled"_s, u"ListviewType"_s, u"MultiSelect"_s}));
+}
+
+void DesignerPluginTest::namesTheTypesInAList()
+{
+    const QMetaObject &meta = ORVListView::staticMetaObject;
+    const QMetaProperty type = meta.property(meta.indexOfProperty("ListviewType"));
+    QVERIFY(type.isEnumType());
+    QCOMPARE(type.enumerator().keyCount(), 13);
+    QCOMPARE(type.enumerator().valueToKey(dsOs), "dsOs");
+}
+
+void DesignerPluginTest::designerSavesAndReloadsAForm()
+{
+    Designer designer;
+    const QString xml = designer.changedForm();
+    QVERIFY2(xml.contains(u"<enum>ORVTListview::dsOutput</enum>"_s), qPrintable(xml));
+    const auto reloaded = designer.opened(xml);
+    compareWithChangedForm(*reloaded);
+    QCOMPARE(reloaded->contents(), xml);
+}
+
+void DesignerPluginTest::designerNamesTheHeaders()
+{
+    const QString xml = Designer().changedForm();
+    for (const QString &name : classNames) {
+        const QString header = u"<header location=\"global\">ORVTListview/%1.h</header>"_s;
+        QVERIFY2(xml.contains(header.arg(name.section(u"::"_s, 1))), qPrintable(xml));
+    }
+}
+
+void DesignerPluginTest::formBuilderLoadsTheForm()
+{
+    QFormBuilder builder;
+    builder.setPluginPath({QStringLiteral(ORVT_DESIGNER_FOLDER)});
+    const auto loaded = loadedForm(builder, Designer().changedForm());
+    QVERIFY(loaded);
+    compareWithChangedForm(*loaded);
+}
+
+void DesignerPluginTest::uiLoaderLoadsTheForm()
+{
+    QUiLoader loader;
+    loader.clearPluginPaths();
+    loader.addPluginPath(QStringLiteral(ORVT_DESIGNER_FOLDER));
+    for (const QString &name : classNames)
+        QVERIFY2(loader.availableWidgets().contains(name), qPrintable(name));
+    const auto loaded = loadedForm(loader, Designer().changedForm());
+    QVERIFY(loaded);
+    compareWithChangedForm(*loaded);
+}
+
+void DesignerPluginTest::treeOfADesignedFormSavesNothing()
+{
+    Designer().changedForm();
+    QCOMPARE(m_settings->names(), QStringList());
+}
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    // Designer and the loaders look into the folder "designer" of each.
+    QCoreApplication::setLibraryPaths(QCoreApplication::libraryPaths()
+                                      << QStringLiteral(ORVT_DESIGNER_FOLDER "/.."));
+    DesignerPluginTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "DesignerPluginTest.moc"

@@ -1,0 +1,221 @@
+#include "WorkbenchTest.h"
+#include "platform/ReportList.h"
+
+#include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/Node.h>
+#include <ORVTListview/Nodes.h>
+#include <ORVTListview/ORVDataCombo.h>
+#include <ORVTListview/ORVTreeview.h>
+
+#include <QtWidgets/QLineEdit>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Two inputs and an output, which the program uses.
+struct Points : WorkbenchWindow
+{
+    Points()
+    {
+        writeFile(folder.filePath(u"points.prog"_s), "IF Temp1 > 3\nFan1 = ON\nENDIF");
+        writeFile(folder.filePath(u"points.json"_s),
+                  R"({"format": 1, "name": "points", "program": "points.prog",
+                      "controller": {"hoa": true},
+                      "inputs": [{"name": "Temp1", "value": 20.5, "units": "°C", "commissioned": true},
+                                 {"name": "Temp2", "value": 3}],
+                      "outputs": [{"name": "Fan1", "value": "Off", "hwOverrideMode": "Hand"}],
+                      "timers": [{"data": "x"}]})");
+        window.openProject(folder.filePath(u"points.json"_s));
+    }
+
+    Node *node(const QString &key) { return tree().Nodes()->Item(key); }
+    ORVTreeview &tree() { return *window.findChild<ORVTreeview *>(); }
+    ReportList &list() { return *code().findChild<ReportList *>(u"ListView1"_s); }
+
+    // With the mouse, as a user does.
+    void open(const QString &key)
+    {
+        auto *view = tree().findChild<QTreeView *>();
+        const QModelIndexList found =
+            view->model()->match(view->model()->index(0, 0), Qt::DisplayRole, node(key)->Text(), 1,
+                                 Qt::MatchExactly | Qt::MatchRecursive);
+        QCOMPARE(found.size(), 1);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                          view->visualRect(found.constFirst()).center());
+    }
+
+    QString cell(int row, const QString &column)
+    {
+        const int index = code().ColumnHerders()->Item(column)->Index() - 1;
+        return code().ListItems()->Item(row)->SubItem(index);
+    }
+};
+
+} // namespace
+
+class PointTablesTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theTreeChoosesWhatIsShown()
+    {
+        Points points;
+        QCOMPARE(points.code().CurrentType(), dsCode);
+        QCOMPARE(points.tree().SelectedItem(), points.node(u"Code"_s));
+        points.open(u"Inputs"_s);
+        QCOMPARE(points.code().CurrentType(), dsInput);
+        QCOMPARE(points.code().ListItems()->Count(), 12);
+        QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);
+        QCOMPARE(points.cell(1, u"Value"_s), u"20.5"_s);
+        QCOMPARE(points.cell(1, u"Units"_s), u"°C"_s);
+        QCOMPARE(points.cell(1, u"Commissioned"_s), u"Yes"_s);
+        QCOMPARE(points.cell(3, u"Label"_s), QString());
+        points.open(u"Outputs"_s);
+        QCOMPARE(points.cell(1, u"Hw Override Mode"_s), u"Hand"_s);
+        points.open(u"Code"_s);
+        QCOMPARE(points.code().CodeText(), u"IF Temp1 > 3\r\nFan1 = ON\r\nENDIF"_s);
+        QVERIFY(!points.window.isWindowModified());
+    }
+
+    void theReadButtonReads()
+    {
+        Points points;
+        points.open(u"Inputs"_s);
+        auto *read = points.code().findChild<QWidget *>(u"ImgRead"_s);
+        auto *status = points.code().findChild<QWidget *>(u"ImgWrite"_s);
+        QCOMPARE(status->property("PictureKey").toString(), u"BallGreen"_s);
+        QTest::mouseClick(read, Qt::LeftButton);
+        QCOMPARE(status->property("PictureKey").toString(), u"BallRed"_s);
+        points.choose(u"Read Values"_s); // one at a time
+        points.open(u"Outputs"_s);
+        QCOMPARE(status->property("PictureKey").toString(), u"BallRed"_s);
+        points.open(u"Inputs"_s);
+        QTRY_COMPARE(status->property("PictureKey").toString(), u"BallGreen"_s);
+        QVERIFY(std::abs(points.cell(1, u"Value"_s).toDouble() - 20.5) < 1);
+        QStringList values;
+        for (int reading = 0; reading < 2; ++reading) {
+            points.choose(u"Read Values"_s);
+            QTRY_COMPARE(status->property("PictureKey").toString(), u"BallGreen"_s);
+            values << points.cell(1, u"Value"_s) + points.cell(2, u"Value"_s);
+        }
+        QVERIFY(values[0] != values[1]);
+    }
+
+    void aNameIsChangedEverywhere()
+    {
+        Points points;
+        points.open(u"Inputs"_s);
+        points.code().setSelectedItem(points.code().ListItems()->Item(1));
+        points.list().setFocus();
+        QTest::keyClick(&points.list(), Qt::Key_F2);
+        auto *editor = points.list().viewport()->findChild<QLineEdit *>();
+        QVERIFY(editor);
+        QCOMPARE(editor->text(), u"Temp1"_s);
+        QTest::keyClicks(editor, u"Room"_s);
+        NextMessage inTheProgram(QMessageBox::Yes);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_VERIFY(inTheProgram.wasThere());
+        QTRY_COMPARE(points.cell(1, u"Label"_s), u"Room"_s);
+        QCOMPARE(points.code().CodeText(), u"IF Room > 3\r\nFan1 = ON\r\nENDIF"_s);
+        QVERIFY(points.window.isWindowModified());
+        qint32 start = 4;
+        qint32 wordStart = 0;
+        qint32 colour = 0;
+        points.open(u"Code"_s);
+        QCOMPARE(points.code().GetWholeWord(start, wordStart, colour), u"Room"_s);
+        QVERIFY(colour != 0); // known as an input
+        points.choose(u"Save Program"_s);
+        QVERIFY(!points.window.isWindowModified());
+        QVERIFY(readFile(points.folder.filePath(u"points.json"_s))
+                    .contains(R"("name": "Room", "value": 20.5)"));
+        QCOMPARE(points.saved(u"points"_s), "IF Room > 3\nFan1 = ON\nENDIF");
+    }
+
+    void aNameInUseIsRefused()
+    {
+        Points points;
+        points.open(u"Inputs"_s);
+        points.code().setSelectedItem(points.code().ListItems()->Item(1));
+        points.choose(u"Rename"_s);
+        auto *editor = points.list().viewport()->findChild<QLineEdit *>();
+        QVERIFY(editor);
+        QTest::keyClicks(editor, u"temp2"_s);
+        NextMessage refused(QMessageBox::Ok);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_VERIFY(refused.wasThere());
+        QVERIFY2(refused.text().contains(u"temp2"_s), qPrintable(refused.text()));
+        QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);
+        QVERIFY(!points.window.isWindowModified());
+    }
+
+    void whatHasNoNameIsNotEdited()
+    {
+        Points points;
+        points.open(u"Inputs"_s);
+        points.code().setSelectedItem(points.code().ListItems()->Item(5));
+        points.choose(u"Rename"_s);
+        QVERIFY(!points.list().viewport()->findChild<QLineEdit *>());
+        points.open(u"Timers"_s);
+        points.code().setSelectedItem(points.code().ListItems()->Item(1));
+        points.choose(u"Rename"_s);
+        QVERIFY(!points.list().viewport()->findChild<QLineEdit *>());
+    }
+
+    void theComboPutsNamesIntoTheProgram()
+    {
+        Points points;
+        points.box().setSelStart(0);
+        auto *combo = points.window.findChild<ORVDataCombo *>();
+        QCOMPARE(combo->ListCount(), qint16(2));
+        QLineEdit *field = combo->findChild<QLineEdit *>();
+        field->setFocus(Qt::TabFocusReason);
+        QTest::keyClicks(field, u"mp2"_s);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(combo->Text(), u"Temp2"_s);
+        QVERIFY2(points.code().CodeText().startsWith(u"Temp2"_s),
+                 qPrintable(points.code().CodeText()));
+        QVERIFY(points.box().hasFocus());
+
+        points.open(u"Outputs"_s);
+        field->setFocus(Qt::TabFocusReason);
+        QTest::keyClicks(field, u"mp1"_s);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(points.code().CurrentType(), dsInput);
+        QCOMPARE(points.code().SelectedItem()->Index(), 1);
+    }
+
+    void theLanguageChangesTreeTableAndHeaders()
+    {
+        Points points;
+        points.open(u"Inputs"_s);
+        const float width = points.code().ColumnHerders()->Item(2)->Width();
+        points.speak(QLocale(QLocale::German));
+        QCOMPARE(points.node(u"Inputs"_s)->Text(), u"Eingänge"_s);
+        QCOMPARE(points.code().Caption(), u"Eingänge"_s);
+        QCOMPARE(points.code().ColumnHerders()->Item(u"Value"_s)->Text(), u"Wert"_s);
+        QCOMPARE(points.cell(1, u"Commissioned"_s), u"Ja"_s);
+        QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);
+        QCOMPARE(points.code().ColumnHerders()->Item(2)->Width(), width);
+    }
+
+    void aFindingLeadsBackToTheProgram()
+    {
+        Points points;
+        points.code().setCodeText(u"nobody = 1"_s);
+        points.open(u"Outputs"_s);
+        points.choose(u"Analyse"_s);
+        QTest::keyClick(&points.results(), Qt::Key_Down);
+        QTest::keyClick(&points.results(), Qt::Key_Return);
+        QCOMPARE(points.code().CurrentType(), dsCode);
+        QCOMPARE(points.tree().SelectedItem(), points.node(u"Code"_s));
+        QCOMPARE(points.box().SelText(), u"nobody"_s);
+    }
+};
+
+QTEST_MAIN(PointTablesTest)
+#include "PointTablesTest.moc"
