@@ -155,7 +155,8 @@ Q_SIGNALS:
     void MouseMove(qint16 Button, qint16 Shift, float X, float Y);
     void MouseUp(qint16 Button, qint16 Shift, float X, float Y);
 
-    // Never raised, because this tree has no check boxes.
+    // The user has checked or unchecked a node. There are boxes only if the host
+    // sets the property checkBoxes of the child widget TreeView1.
     void NodeCheck(ORVTListview::Node *Node);
 
     // A node was pressed, or reached by keyboard.
