@@ -84,10 +84,20 @@ void ComboList::open(const QString &filter, int row)
         hide();
         return;
     }
-    setLayoutDirection(m_combo.layoutDirection());
+    followLook();
     place();
     setCurrent(row < 0 ? m_matches.bestPosition() : m_matches.positionOf(row));
     show();
+}
+
+void ComboList::followLook()
+{
+    setLayoutDirection(m_combo.layoutDirection());
+    m_view->setIconSize(m_combo.iconSize());
+    QPalette frame; // seen on light and on dark, and louder on neither
+    frame.setResolveMask(0);
+    frame.setColor(QPalette::WindowText, m_combo.palette().color(QPalette::PlaceholderText));
+    setPalette(frame);
 }
 
 int ComboList::contentWidth() const
@@ -103,7 +113,6 @@ void ComboList::place()
 {
     const QRect combo(m_combo.mapToGlobal(QPoint()), m_combo.size());
     const QRect screen = m_combo.screen()->availableGeometry();
-    m_view->setIconSize(m_combo.iconSize());
     const int rowHeight = m_view->sizeHintForRow(0);
     const int under = std::clamp(combo.bottom() + 1, screen.top(), screen.bottom() + 1);
     const int over = std::clamp(combo.top(), screen.top(), screen.bottom() + 1);
