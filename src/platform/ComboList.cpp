@@ -33,6 +33,15 @@ public:
     }
 };
 
+// States nothing else, so that the rest follows the combo.
+QPalette withFrameColour(const QColor &colour)
+{
+    QPalette palette;
+    palette.setResolveMask(0);
+    palette.setColor(QPalette::WindowText, colour);
+    return palette;
+}
+
 } // namespace
 
 ComboList::ComboList(ImageCombo &combo, const ComboEntries &entries)
@@ -94,10 +103,10 @@ void ComboList::followLook()
 {
     setLayoutDirection(m_combo.layoutDirection());
     m_view->setIconSize(m_combo.iconSize());
-    QPalette frame; // seen on light and on dark, and louder on neither
-    frame.setResolveMask(0);
-    frame.setColor(QPalette::WindowText, m_combo.palette().color(QPalette::PlaceholderText));
-    setPalette(frame);
+    // A frame that is seen on light and on dark, and loud on neither.
+    const QPalette &look = m_combo.palette();
+    setPalette(withFrameColour(look.color(QPalette::PlaceholderText)));
+    m_view->setPalette(withFrameColour(look.color(QPalette::WindowText)));
 }
 
 int ComboList::contentWidth() const

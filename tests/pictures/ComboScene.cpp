@@ -4,6 +4,7 @@
 #include "pictures/Scenes.h"
 #include "platform/ImageCombo.h"
 #include "shared/DisplayNames.h"
+#include "workbench/Appearance.h"
 
 #include <ORVTListview/ORVDataCombo.h>
 #include <ORVTListview/ORVListView.h>
@@ -30,7 +31,9 @@ struct Points
         }
         tree.SetCollectionRenamable(nullptr, &variables, &constants, &inputs, &outputs, nullptr);
         ORVListView editor;
-        editor.Init_RichTextBox(defaultColours());
+        RichTextSettings settings = defaultColours();
+        settings.BackColor = static_cast<qint32>(0x80000005); // the window's
+        editor.Init_RichTextBox(legibleOn(QGuiApplication::palette(), settings));
     }
 
     PointList variables, constants, inputs, outputs;
