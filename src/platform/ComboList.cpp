@@ -33,6 +33,15 @@ public:
     }
 };
 
+// States nothing else, so that the rest follows the combo.
+QPalette withFrameColour(const QColor &colour)
+{
+    QPalette palette;
+    palette.setResolveMask(0);
+    palette.setColor(QPalette::WindowText, colour);
+    return palette;
+}
+
 } // namespace
 
 ComboList::ComboList(ImageCombo &combo, const ComboEntries &entries)
@@ -84,10 +93,20 @@ void ComboList::open(const QString &filter, int row)
         hide();
         return;
     }
-    setLayoutDirection(m_combo.layoutDirection());
+    followLook();
     place();
     setCurrent(row < 0 ? m_matches.bestPosition() : m_matches.positionOf(row));
     show();
+}
+
+void ComboList::followLook()
+{
+    setLayoutDirection(m_combo.layoutDirection());
+    m_view->setIconSize(m_combo.iconSize());
+    // A frame that is seen on light and on dark, and loud on neither.
+    const QPalette &look = m_combo.palette();
+    setPalette(withFrameColour(look.color(QPalette::PlaceholderText)));
+    m_view->setPalette(withFrameColour(look.color(QPalette::WindowText)));
 }
 
 int ComboList::contentWidth() const
@@ -103,7 +122,6 @@ void ComboList::place()
 {
     const QRect combo(m_combo.mapToGlobal(QPoint()), m_combo.size());
     const QRect screen = m_combo.screen()->availableGeometry();
-    m_view->setIconSize(m_combo.iconSize());
     const int rowHeight = m_view->sizeHintForRow(0);
     const int under = std::clamp(combo.bottom() + 1, screen.top(), screen.bottom() + 1);
     const int over = std::clamp(combo.top(), screen.top(), screen.bottom() + 1);

@@ -51,6 +51,7 @@ protected:
 
 private:
     void setUpView();
+    void followLook();
     void place();
     int contentWidth() const;
     void setCurrent(int position);

@@ -3,6 +3,8 @@
 #include "editor/ColourTable.h"
 #include "pictures/Scenes.h"
 #include "platform/ImageCombo.h"
+#include "shared/DisplayNames.h"
+#include "workbench/Appearance.h"
 
 #include <ORVTListview/ORVDataCombo.h>
 #include <ORVTListview/ORVListView.h>
@@ -29,7 +31,9 @@ struct Points
         }
         tree.SetCollectionRenamable(nullptr, &variables, &constants, &inputs, &outputs, nullptr);
         ORVListView editor;
-        editor.Init_RichTextBox(defaultColours());
+        RichTextSettings settings = defaultColours();
+        settings.BackColor = static_cast<qint32>(0x80000005); // the window's
+        editor.Init_RichTextBox(legibleOn(QGuiApplication::palette(), settings));
     }
 
     PointList variables, constants, inputs, outputs;
@@ -54,6 +58,8 @@ void comboScene(Sheet &sheet)
     combo.show();
     combo.activateWindow();
     auto &inner = *combo.findChild<ImageCombo *>(u"ImageCombo1"_s);
+    QApplication::processEvents();
+    inner.clearFocus(); // the focus shows the text selected
     QString error;
     sheet.add(u"Empty"_s, combo);
     const QList<std::pair<LwType, QString>> chosen{{dsVariable, u"Demand1"_s},
@@ -63,15 +69,16 @@ void comboScene(Sheet &sheet)
     for (const auto &[which, name] : chosen) {
         combo.FillDataListview(which, nullptr, error);
         combo.SetListIndex(name);
-        sheet.add(QString::number(which), combo);
+        sheet.add(displayName(which), combo);
     }
     combo.setEnabled(false);
     sheet.add(u"Disabled"_s, combo);
     combo.setEnabled(true);
 
     combo.FillDataListview(dsInput, nullptr, error);
-    combo.SetListIndex(u"SupplyTemp7"_s);
     combo.setFocus();
+    combo.SetListIndex(u"SupplyTemp7"_s);
+    sheet.add(u"With the focus"_s, combo);
     inner.showPopup();
     sheet.add(u"Opened"_s, combo);
     sheet.add(u"Its list"_s, *inner.listView()->window());

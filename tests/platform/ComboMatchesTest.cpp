@@ -94,6 +94,19 @@ private Q_SLOTS:
         QCOMPARE(matches.bestPosition(), 1);
     }
 
+    void halfACharacterDoesNotNarrow()
+    {
+        const QString capital = QString(QChar(0xd801)) + QChar(0xdc00);
+        const QString small = QString(QChar(0xd801)) + QChar(0xdc28);
+        ComboEntries entries;
+        entries.setEntries(entriesOf({small}));
+        ComboMatches matches(entries);
+        matches.setFilter(capital.last(1));
+        QCOMPARE(matches.size(), 0);
+        matches.setFilter(capital);
+        QCOMPARE(matches.size(), 1);
+    }
+
     void matchesAreThoseOfTheModel()
     {
         for (int round = 0; round < 60; ++round) {

@@ -16,6 +16,7 @@ class ImageComboKeyTest : public WidgetTest
 private Q_SLOTS:
     void findsAnEntryByAnyPartOfItsText();
     void raisesEventsInOrder();
+    void raisesChangeWhenTheFieldIsDone();
     void marksTheBestMatch();
     void ignoresLetterCase();
     void followsEveryEdit();
@@ -78,6 +79,17 @@ void ImageComboKeyTest::raisesEventsInOrder()
     QCOMPARE(events.take(), u"KeyDown 16 1, KeyDown 117 1, KeyUp 117 1, KeyUp 16 0"_s);
     shown.key(Qt::Key_Left);
     QCOMPARE(events.take(), u"KeyDown 37 0, KeyUp 37 0"_s);
+}
+
+void ImageComboKeyTest::raisesChangeWhenTheFieldIsDone()
+{
+    const ShownCombo shown;
+    QStringList order;
+    connect(&shown.field(), &QLineEdit::cursorPositionChanged, this,
+            [&] { order.append(u"caret"_s); });
+    connect(shown.combo, &ImageCombo::Change, this, [&] { order.append(u"Change"_s); });
+    shown.type(u"t"_s);
+    QCOMPARE(order, QStringList({u"caret"_s, u"Change"_s}));
 }
 
 void ImageComboKeyTest::marksTheBestMatch()
