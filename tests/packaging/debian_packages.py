@@ -76,7 +76,8 @@ def check_installs_and_removes(packages, folder):
     for part in ("updates", "info", "triggers"):
         (root / "var/lib/dpkg" / part).mkdir(parents=True)
     (root / "var/lib/dpkg/status").touch()
-    dpkg = ("dpkg", f"--root={root}", "--force-depends", f"--log={folder}/dpkg.log")
+    dpkg = ("dpkg", f"--root={root}", "--force-depends", "--force-script-chrootless",
+            f"--log={folder}/dpkg.log")
     run(*dpkg, "--install", *packages.values())
     if not installed_files(root):
         sys.exit("Nothing was installed")
