@@ -94,4 +94,10 @@ void FindDialog::showBeside(RichTextBox &box, bool isReplace)
     dialog.activateWindow();
 }
 
+void FindDialog::initStrings()
+{
+    if (const auto &dialog = threadPart<SharedDialog>().dialog)
+        dialog->InitStrings();
+}
+
 } // namespace ORVTListview

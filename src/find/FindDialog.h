@@ -22,5 +22,8 @@ void showModally(RichTextBox &box, bool isReplace, QString &ErrMsg);
 // Shows it beside the box's window, which stays usable, and returns at once.
 void showBeside(RichTextBox &box, bool isReplace);
 
+// Shows it, if there is one, in the language in force.
+void initStrings();
+
 } // namespace FindDialog
 } // namespace ORVTListview

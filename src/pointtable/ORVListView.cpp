@@ -1,6 +1,7 @@
 #include "pointtable/ORVListView.h"
 
 #include "editor/Vocabulary.h"
+#include "find/FindDialog.h"
 #include "pointtable/ColumnLayouts.h"
 #include "pointtable/ORVListViewParts.h"
 #include "shared/DisplayNames.h"
@@ -165,6 +166,7 @@ void ORVListView::ReInitializeStrings()
     threadPart<TextTable>().refresh();
     InitStrings();
     d->table->translateHeaders();
+    FindDialog::initStrings();
     Q_EMIT captionChanged();
 }
 

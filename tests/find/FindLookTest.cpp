@@ -295,13 +295,24 @@ private Q_SLOTS:
         host.enter(u"one"_s, u"two"_s);
         host.click(host.option(0));
         texts.setLanguage(QLocale(u"de"_s));
-        host.dialog().ReInitializeStrings();
+        host.list->ReInitializeStrings(); // the host knows the component only
         QCOMPARE(host.dialog().windowTitle(), u"Ersetzen"_s);
         QCOMPARE(host.button(1).text().remove(u'&'), u"Schließen"_s);
         QCOMPARE(host.combo(0).currentText(), u"one"_s);
         QCOMPARE(host.combo(1).currentText(), u"two"_s);
         QVERIFY(host.option(0).isChecked());
         checkFit(host.dialog());
+    }
+
+    void theDialogTakesAChangedLanguageByItself()
+    {
+        TranslatedTexts texts(QLocale(u"en"_s));
+        setTextProvider(&texts);
+        FindHost host;
+        host.open(u"a"_s);
+        texts.setLanguage(QLocale(u"es"_s));
+        host.dialog().ReInitializeStrings();
+        QCOMPARE(host.button(1).text().remove(u'&'), u"Cerrar"_s);
     }
 
     void theNextOpeningSpeaksTheLanguageInForce()
