@@ -1,13 +1,14 @@
-// The report list beside the toolkit's own two lists, each doing the same work:
-// 32,767 rows of 14 columns. Every time runs until the list is painted.
+// A point table of ORVListView beside the toolkit's own two lists, each doing the same
+// work: 32,767 rows of 14 columns. Every time runs until the list is painted.
 
 #include "painting.h"
 #include "report.h"
 
-#include "platform/ColumnHeaders.h"
 #include "platform/ListItem.h"
 #include "platform/ListItems.h"
 #include "platform/ReportList.h"
+#include "pointtable/ColumnLayouts.h"
+#include "pointtable/ORVListView.h"
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
@@ -32,7 +33,7 @@ constexpr int repetitions = 7;
 QString cellText(int row, int column)
 {
     if (column == 0)
-        return QString::number(row + 1).rightJustified(2, u'0');
+        return rowText(row + 1);
     switch (column % 3) {
     case 0:
         return u"Supply Air Temp %1"_s.arg(row * column % 9973);
@@ -57,34 +58,48 @@ const QList<QStringList> &texts()
     return made;
 }
 
-class Ours final : public ReportList
+const QString typeKey = u"Controllers"_s;
+
+class Ours final : public ORVListView
 {
 public:
     Ours()
     {
-        for (int column = 0; column < columnTotal; ++column)
-            ColumnHeaders()->Add(0, QString::number(column), u"Column"_s);
+        setListviewType(dsController); // the type of 14 columns
+        empty();
     }
 
+    QWidget *viewport() const { return listView()->viewport(); }
+    QRect rectOf(int row, int column) const
+    {
+        return listView()->visualRect(listView()->model()->index(row, column));
+    }
+
+    void empty() { Clear(); }
+    void number() { ChangeListviewNumber(rowTotal); }
     void create()
     {
         QList<RowContent> contents(rowTotal);
         for (int row = 0; row < rowTotal; ++row) {
-            contents[row].key = u"Inputs"_s + texts().at(row).first();
+            contents[row].key = rowKey(typeKey, row + 1);
             contents[row].text = texts().at(row).first();
             contents[row].subItems = texts().at(row).mid(1);
         }
-        setRows(std::move(contents));
+        listView()->setRows(std::move(contents));
     }
     void update() { UpdateSubItems(u"off"_s, u"0"_s, updatedColumn); }
-    void fit() { fitColumns(); }
+    void fit() { UpdateListViewWidth(m_message); }
 
     QString text(int row, int column) const
     {
         const ListItem *item = ListItems()->Item(row + 1);
         return column == 0 ? item->Text() : item->SubItem(column);
     }
+    QString key(int row) const { return ListItems()->Item(row + 1)->Key(); }
     QString tag(int row) const { return ListItems()->Item(row + 1)->SubItemTag(updatedColumn); }
+
+private:
+    QString m_message;
 };
 
 class Tree final : public QTreeWidget
@@ -96,6 +111,23 @@ public:
         setRootIsDecorated(false);
         setUniformRowHeights(true);
         header()->setResizeContentsPrecision(-1); // every row
+    }
+
+    QRect rectOf(int row, int column) const { return visualRect(model()->index(row, column)); }
+
+    void empty() { clear(); }
+    void number()
+    {
+        QList<QTreeWidgetItem *> items;
+        items.reserve(rowTotal);
+        for (int row = 1; row <= rowTotal; ++row) {
+            auto *item = new QTreeWidgetItem;
+            item->setText(0, rowText(row));
+            item->setData(0, Qt::UserRole, rowKey(typeKey, row));
+            item->setText(columnTotal - 1, u" "_s);
+            items.append(item);
+        }
+        addTopLevelItems(items);
     }
 
     void create()
@@ -122,6 +154,7 @@ public:
     }
 
     QString text(int row, int column) const { return topLevelItem(row)->text(column); }
+    QString key(int row) const { return topLevelItem(row)->data(0, Qt::UserRole).toString(); }
     QString tag(int row) const
     {
         return topLevelItem(row)->data(updatedColumn, Qt::UserRole).toString();
@@ -135,6 +168,20 @@ public:
     {
         setColumnCount(columnTotal);
         horizontalHeader()->setResizeContentsPrecision(-1); // every row
+    }
+
+    QRect rectOf(int row, int column) const { return visualRect(model()->index(row, column)); }
+
+    void empty() { setRowCount(0); }
+    void number()
+    {
+        setRowCount(rowTotal);
+        for (int row = 0; row < rowTotal; ++row) {
+            auto *item = new QTableWidgetItem(rowText(row + 1));
+            item->setData(Qt::UserRole, rowKey(typeKey, row + 1));
+            setItem(row, 0, item);
+            setItem(row, columnTotal - 1, new QTableWidgetItem(u" "_s));
+        }
     }
 
     void create()
@@ -156,7 +203,12 @@ public:
     }
     void fit() { resizeColumnsToContents(); }
 
-    QString text(int row, int column) const { return item(row, column)->text(); }
+    QString text(int row, int column) const
+    {
+        const QTableWidgetItem *held = item(row, column);
+        return held ? held->text() : QString();
+    }
+    QString key(int row) const { return item(row, 0)->data(Qt::UserRole).toString(); }
     QString tag(int row) const { return item(row, updatedColumn)->data(Qt::UserRole).toString(); }
 };
 
@@ -179,6 +231,7 @@ double timedPainted(List &list, void (List::*work)())
 
 struct Costs
 {
+    Times number;
     Times create;
     Times update;
     Times fit;
@@ -191,6 +244,9 @@ void measureOnce(Costs &costs)
 {
     List list;
     showForBenchmark(list);
+    costs.number.add(timedPainted(list, &List::number));
+    list.empty();
+    QCoreApplication::processEvents();
     const double before = heap();
     costs.create.add(timedPainted(list, &List::create));
     costs.memory.add(heap() - before);
@@ -202,15 +258,16 @@ void printBeside(const QString &peer, const Costs &ours, const Costs &peers, dou
 {
     const auto print = [&](const QString &name, Times Costs::*times, double bound, Unit unit) {
         printRow({.name = name,
-                  .ours = medianOf(u"our list"_s, ours.*times),
+                  .ours = medianOf(u"our table"_s, ours.*times),
                   .peers = medianOf(peer, peers.*times),
                   .bound = bound,
                   .unit = unit});
     };
-    print(u"32,767 rows of 14 columns are made"_s, &Costs::create, 1, Unit::Time);
-    print(u"One column of them is set"_s, &Costs::update, 1, Unit::Time);
-    print(u"All columns are fitted"_s, &Costs::fit, fitBound, Unit::Time);
-    print(u"Their memory"_s, &Costs::memory, 1, Unit::Bytes);
+    print(u"Point table: 32,767 numbered rows"_s, &Costs::number, 1, Unit::Time);
+    print(u"Point table: 32,767 rows of 14 cells"_s, &Costs::create, 1, Unit::Time);
+    print(u"Point table: UpdateSubItems on them"_s, &Costs::update, 1, Unit::Time);
+    print(u"Point table: UpdateListViewWidth on them"_s, &Costs::fit, fitBound, Unit::Time);
+    print(u"Point table: their memory"_s, &Costs::memory, 1, Unit::Bytes);
 }
 
 template <typename List>
@@ -218,6 +275,14 @@ void checkList(const QString &name)
 {
     List list;
     showForBenchmark(list);
+    timedPainted(list, &List::number);
+    bool isNumbered = true;
+    for (int row = 0; row < rowTotal; ++row)
+        isNumbered = isNumbered && list.text(row, 0) == rowText(row + 1) &&
+                     list.text(row, 1).isEmpty() && list.text(row, columnTotal - 1) == u" " &&
+                     list.key(row) == rowKey(typeKey, row + 1);
+    check(u"every row of the %1 is numbered"_s.arg(name), isNumbered);
+    list.empty();
     timedPainted(list, &List::create);
     timedPainted(list, &List::update);
     timedPainted(list, &List::fit);
@@ -230,13 +295,12 @@ void checkList(const QString &name)
     }
     check(u"every cell of the %1 is right"_s.arg(name), right);
     const int widest = list.fontMetrics().horizontalAdvance(cellText(9972, 6));
-    check(u"the %1 shows its widest texts whole"_s.arg(name),
-          list.visualRect(list.model()->index(0, 6)).width() >= widest);
+    check(u"the %1 shows its widest texts whole"_s.arg(name), list.rectOf(0, 6).width() >= widest);
 }
 
 void checkWork()
 {
-    checkList<Ours>(u"report list"_s);
+    checkList<Ours>(u"point table"_s);
     checkList<Tree>(u"tree widget"_s);
     checkList<Table>(u"table widget"_s);
 }

@@ -50,5 +50,6 @@ function(orvt_publish_headers)
             DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ORVTListview
             COMPONENT dev)
         set_property(GLOBAL APPEND PROPERTY ORVT_PUBLIC_HEADERS ${name})
+        set_property(GLOBAL APPEND PROPERTY ORVT_PUBLIC_HEADER_PATHS ${path})
     endforeach()
 endfunction()

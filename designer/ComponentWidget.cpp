@@ -39,7 +39,11 @@ QIcon ComponentWidget::icon() const
 {
     ORVTListview::ImageList images;
     ORVTListview::Pictures::fillInto(images);
-    return images.Picture(m_description.pictureKey);
+    const QIcon picture = images.Picture(m_description.pictureKey);
+    QIcon icon; // the widget box shows icons of pixmaps only
+    for (const int size : {16, 22, 24, 32, 48, 64})
+        icon.addPixmap(picture.pixmap(size));
+    return icon;
 }
 
 bool ComponentWidget::isContainer() const

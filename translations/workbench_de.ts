@@ -187,6 +187,14 @@
         <source>Undo has taken no typed text away.</source>
         <translation>Rückgängig hat keinen getippten Text entfernt.</translation>
     </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>Suc&amp;hen …</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace…</source>
+        <translation>Erset&amp;zen …</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -187,6 +187,14 @@
         <source>Undo has taken no typed text away.</source>
         <translation>Deshacer no ha quitado ningún texto escrito.</translation>
     </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Buscar…</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace…</source>
+        <translation>Ree&amp;mplazar…</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

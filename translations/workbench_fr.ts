@@ -187,6 +187,14 @@
         <source>Undo has taken no typed text away.</source>
         <translation>L’annulation n’a retiré aucun texte saisi.</translation>
     </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>Rec&amp;hercher…</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace…</source>
+        <translation>Remp&amp;lacer…</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -20,10 +20,13 @@ EditMenu::EditMenu(ORVListView &code, QWidget *parent)
     addSeparator();
     addClipboard();
     addSeparator();
+    addFinding();
+    addSeparator();
     add(tr("Select &All"), QKeySequence::SelectAll, &EditMenu::selectAll);
     add(tr("&Known Words"), QKeySequence(Qt::CTRL | Qt::Key_Space), &EditMenu::showKnownWords);
     connect(this, &QMenu::aboutToShow, this, &EditMenu::refresh);
     connect(&code, &ORVListView::UpdateUndoMenu, this, &EditMenu::refresh);
+    connect(&code, &ORVListView::listviewTypeChanged, this, &EditMenu::refresh);
     refresh();
 }
 
@@ -40,6 +43,13 @@ void EditMenu::addClipboard()
     m_copy = add(tr("&Copy"), QKeySequence(Qt::CTRL | Qt::Key_C), &EditMenu::copy);
     m_colouredCopy = add(tr("Copy with C&olours"), {}, &EditMenu::copyColoured);
     m_paste = add(tr("&Paste"), QKeySequence(Qt::CTRL | Qt::Key_V), &EditMenu::paste);
+}
+
+// The editor leaves these keys to its host, so they work in the whole window.
+void EditMenu::addFinding()
+{
+    addAction(tr("&Find…"), QKeySequence(Qt::CTRL | Qt::Key_F), this, &EditMenu::find);
+    addAction(tr("R&eplace…"), QKeySequence(Qt::CTRL | Qt::Key_H), this, &EditMenu::replace);
 }
 
 // The keys are shown only: the editor acts on them itself, and where something else
@@ -118,6 +128,16 @@ void EditMenu::paste()
 void EditMenu::selectAll()
 {
     m_code.RTextSelectAll();
+}
+
+void EditMenu::find()
+{
+    m_code.showFind();
+}
+
+void EditMenu::replace()
+{
+    m_code.showFind(true);
 }
 
 void EditMenu::showKnownWords()

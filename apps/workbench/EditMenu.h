@@ -28,6 +28,7 @@ private:
     QAction *add(const QString &text, const QKeySequence &keys, void (EditMenu::*command)());
     void addHistory();
     void addClipboard();
+    void addFinding();
     void undo();
     void redo();
     void restoreTypedText();
@@ -37,6 +38,8 @@ private:
     void paste();
     void selectAll();
     void showKnownWords();
+    void find();
+    void replace();
 
     ORVListView &m_code;
     QAction *m_undo = nullptr;

@@ -9,6 +9,7 @@
 #include "PointTables.h"
 #include "ProgramSaving.h"
 #include "ProgramText.h"
+#include "ProjectView.h"
 #include "editor/CodeWordList.h"
 #include "editor/Vocabulary.h"
 #include "project/ProgramCheck.h"
@@ -16,8 +17,6 @@
 #include "shared/ThreadState.h"
 
 #include <ORVTListview/Error.h>
-#include <ORVTListview/Node.h>
-#include <ORVTListview/Nodes.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QEvent>
@@ -28,7 +27,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
-#include <QtWidgets/QSplitter>
 #include <QtWidgets/QStatusBar>
 
 #include <limits>
@@ -41,25 +39,21 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     : QMainWindow(parent)
     , m_languages(languages)
     , m_points(new PointChooser(this))
-    , m_tree(new ORVTreeview(this))
-    , m_code(new ORVListView(this))
-    , m_tables(new PointTables(*m_code))
+    , m_view(new ProjectView(this))
+    , m_code(&m_view->list())
     , m_saving(new ProgramSaving(*m_code, *this))
     , m_results(new CheckResults(*m_code->GetImage(), this))
     , m_programInfo(new QLabel(this))
     , m_position(new QLabel(this))
 {
-    m_code->setListviewType(dsCode);
     m_points->setPictures(*m_code->GetImage());
     addToolBar(m_points);
-    arrange();
+    setCentralWidget(m_view);
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
     buildMenus();
     buildStatusBar();
-    m_tree->InitStrings();
-    m_code->InitStrings();
     connectEditor();
     connectPoints();
     // Queued: the menu that the language was chosen in is made anew.
@@ -68,17 +62,6 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
 }
 
 MainWindow::~MainWindow() = default;
-
-void MainWindow::arrange()
-{
-    auto *sides = new QSplitter(this);
-    sides->setChildrenCollapsible(false);
-    sides->addWidget(m_tree);
-    sides->addWidget(m_code);
-    sides->setStretchFactor(1, 1);
-    sides->setSizes({fontMetrics().averageCharWidth() * 42, width()});
-    setCentralWidget(sides);
-}
 
 void MainWindow::buildMenus()
 {
@@ -125,11 +108,11 @@ void MainWindow::buildPointsMenu()
 {
     QMenu *points = menuBar()->addMenu(tr("P&oints"));
     points->addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), this,
-                      [this] { m_tables->read(m_code->CurrentType()); });
-    QAction *rename = points->addAction(tr("Re&name"), m_tables, &PointTables::editName);
+                      [this] { m_view->tables().read(m_code->CurrentType()); });
+    QAction *rename = points->addAction(tr("Re&name"), &m_view->tables(), &PointTables::editName);
     rename->setShortcut(QKeySequence(Qt::Key_F2));
     rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
-    points->addAction(tr("&Fit Columns"), m_tables, &PointTables::fitColumns);
+    points->addAction(tr("&Fit Columns"), &m_view->tables(), &PointTables::fitColumns);
 }
 
 void MainWindow::buildViewMenu()
@@ -158,51 +141,18 @@ void MainWindow::connectEditor()
 
 void MainWindow::connectPoints()
 {
-    connect(m_tree, &ORVTreeview::NodeClick, this, &MainWindow::followTree);
-    connect(m_points, &PointChooser::chosen, this, &MainWindow::takePoint);
+    connect(m_view, &ProjectView::shown, this,
+            [this](LwType type) { m_position->setVisible(type == dsCode); });
+    connect(m_points, &PointChooser::chosen, m_view, &ProjectView::takePoint);
     connect(m_points, &PointChooser::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(m_tables, &PointTables::readingStarted, this,
+    connect(&m_view->tables(), &PointTables::readingStarted, this,
             [this] { statusBar()->showMessage(tr("Reading the values…")); });
-    connect(m_tables, &PointTables::readingFinished, this,
+    connect(&m_view->tables(), &PointTables::readingFinished, this,
             [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
-    connect(m_tables, &PointTables::renamed, this, &MainWindow::followName);
-    connect(m_tables, &PointTables::refused, this,
+    connect(&m_view->tables(), &PointTables::renamed, this, &MainWindow::followName);
+    connect(&m_view->tables(), &PointTables::refused, this,
             [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
-}
-
-// A category shows its table or the program; the device and the pages show nothing.
-void MainWindow::followTree(const Node *node)
-{
-    const int type = node->Tag().toInt();
-    if (type >= dsCode && type <= dsOutputParam && type != m_code->CurrentType())
-        showType(static_cast<LwType>(type));
-}
-
-void MainWindow::showType(LwType type)
-{
-    if (!m_project)
-        return;
-    m_tables->show(type);
-    if (type == dsCode)
-        applyFunctionWords(); // showing the program takes SQRT out of them
-    Node *category = m_tree->Nodes()->Item(m_tree->GetItemKey(static_cast<qint16>(type)));
-    m_tree->setSelectedItem(category);
-    category->EnsureVisible();
-    m_position->setVisible(type == dsCode);
-}
-
-// In the program its name is put at the caret, elsewhere its row is shown.
-void MainWindow::takePoint(LwType type, const QString &name)
-{
-    if (m_code->CurrentType() == dsCode) {
-        QString text = name;
-        m_code->RTextPaste(text);
-    } else {
-        showType(type);
-        m_tables->goTo(name);
-    }
-    m_code->setFocus();
 }
 
 void MainWindow::followName(LwType type, const QString &former, const QString &name)
@@ -239,32 +189,21 @@ void MainWindow::chooseProject()
 void MainWindow::openProject(const QString &fileName)
 {
     auto former = std::exchange(m_project, std::make_unique<Project>(fileName));
-    m_tables->setProject(m_project.get());
-    handOverVocabulary();
+    m_view->setProject(*m_project);
     m_points->refill();
     setWindowTitle(m_project->name() + u"[*]"_s); // the application's name is added to it
     showProgram();
 }
 
-void MainWindow::handOverVocabulary()
+void MainWindow::showType(LwType type)
 {
-    m_tree->SetCollectionRenamable(this, m_project->points(dsVariable), m_project->points(dsConst),
-                                   m_project->points(dsInput), m_project->points(dsOutput),
-                                   m_project->points(dsNvi));
-    applyFunctionWords();
-    m_tree->setStringIndexCollection(m_project->indexedNames());
-}
-
-void MainWindow::applyFunctionWords()
-{
-    m_tree->setIsSqrtSupported(m_project->controller().isSqrtSupported ? u"true"_s : u"false"_s);
-    m_code->RefillListviewWithWordList();
+    m_view->showType(type);
 }
 
 void MainWindow::showProgram()
 {
     m_results->hide();
-    showType(dsCode);
+    m_view->showType(dsCode);
     m_code->ClearUndoHistory();
     m_code->setCodeText(QString());
     applyAppearance();
@@ -310,7 +249,7 @@ void MainWindow::compile()
 void MainWindow::goTo(const QString &word, qint32 line)
 {
     if (m_code->CurrentType() != dsCode)
-        showType(dsCode);
+        m_view->showType(dsCode);
     if (line <= std::numeric_limits<qint16>::max()) {
         QString text = word;
         auto number = static_cast<qint16>(line);
@@ -354,11 +293,8 @@ void MainWindow::retranslate()
     qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
     menuBar()->clear();
     buildMenus();
-    m_tree->ReInitializeStrings();
-    m_code->ReInitializeStrings();
+    m_view->retranslate();
     m_points->retranslate();
-    if (m_project && m_code->CurrentType() != dsCode)
-        m_tables->fill();
     showPosition();
     showProgramInfo();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ORVTListview/ORVListView.h>
-#include <ORVTListview/ORVTreeview.h>
 
 #include <QtWidgets/QMainWindow>
 
@@ -16,8 +15,8 @@ class EditMenu;
 class Languages;
 class ProgramSaving;
 class PointChooser;
-class PointTables;
 class Project;
+class ProjectView;
 struct ProgramReport;
 
 // A small host: shows a project in the library's components.
@@ -43,7 +42,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void arrange();
     void buildMenus();
     void buildFileMenu();
     void buildEditMenu();
@@ -53,12 +51,8 @@ private:
     void buildStatusBar();
     void connectEditor();
     void connectPoints();
-    void followTree(const Node *node);
-    void takePoint(LwType type, const QString &name);
     void followName(LwType type, const QString &former, const QString &name);
     void chooseProject();
-    void handOverVocabulary();
-    void applyFunctionWords();
     void showProgram();
     void applyAppearance();
     void followPalette();
@@ -73,9 +67,8 @@ private:
     Languages &m_languages;
     std::unique_ptr<Project> m_project;
     PointChooser *m_points; // made in the order of the Tab key
-    ORVTreeview *m_tree;
-    ORVListView *m_code;
-    PointTables *m_tables;
+    ProjectView *m_view;
+    ORVListView *m_code; // the view owns it
     ProgramSaving *m_saving;
     CheckResults *m_results;
     QLabel *m_programInfo;

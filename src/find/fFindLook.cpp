@@ -62,6 +62,19 @@ void makeField(QComboBox &combo)
     combo.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
+// The marked letter is drawn by itself, without the kerning that the size hint has.
+int drawnWidth(const QLabel &label)
+{
+    constexpr int rounding = 3;
+    const QFontMetrics metrics = label.fontMetrics();
+    const QString caption = label.text();
+    const qsizetype letter = caption.indexOf(u'&') + 1;
+    const int apart = metrics.horizontalAdvance(caption.first(std::max<qsizetype>(letter - 1, 0))) +
+                      metrics.horizontalAdvance(caption.mid(letter, 1)) +
+                      metrics.horizontalAdvance(caption.mid(letter + 1));
+    return std::max(label.sizeHint().width(), apart + rounding);
+}
+
 // The match as it stands on the screen.
 QRect selectionOnScreen(const RichTextBox &box)
 {
@@ -208,9 +221,11 @@ void fFind::arrange()
     m_StatusBar1->setFixedHeight(statusHeight);
     const int height = statusHeight + Twips::toPixelsY(sizes.heightAboveStatus, *this);
     layout()->invalidate();
+    layout()->activate(); // asks every control anew
     const QSize needed = layout()->totalMinimumSize();
     setFixedHeight(std::max(height, needed.height()));
     setMinimumWidth(needed.width());
+    layout()->activate();
 }
 
 void fFind::reserveWidths()
@@ -222,8 +237,7 @@ void fFind::reserveWidths()
     for (QPushButton *button : m_Cmd)
         button->setMinimumWidth(buttonWidth);
     m_Cmd[2]->setText(m_replaceCaptions[isReplaceMode() ? 1 : 0]);
-    m_fields->setColumnMinimumWidth(
-        0, std::max(m_lbl[0]->sizeHint().width(), m_lbl[1]->sizeHint().width()));
+    m_fields->setColumnMinimumWidth(0, std::max(drawnWidth(*m_lbl[0]), drawnWidth(*m_lbl[1])));
     m_StatusBar1->setMinimumWidth(statusWidth());
 }
 

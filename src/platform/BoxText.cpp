@@ -42,17 +42,29 @@ qint32 BoxText::lineCount() const
     return m_document.blockCount();
 }
 
+// From where the last answer was, in steps that grow: most questions are about
+// places near each other.
 QTextBlock BoxText::blockAt(qint32 position) const
 {
-    int low = 0;
-    int high = m_document.blockCount() - 1;
-    while (low < high) {
-        const int middle = low + (high - low + 1) / 2;
-        if (startOf(m_document.findBlockByNumber(middle)) <= position)
-            low = middle;
-        else
-            high = middle - 1;
+    const auto begins = [&](int line) {
+        return startOf(m_document.findBlockByNumber(line)) <= position;
+    };
+    int low = std::min(m_nearLine, m_document.blockCount() - 1);
+    int high = low + 1;
+    for (int step = 1; low > 0 && !begins(low); step *= 2) {
+        high = low;
+        low = std::max(0, low - step);
     }
+    for (int step = 1; high < m_document.blockCount() && begins(high); step *= 2) {
+        low = high;
+        high += step;
+    }
+    high = std::min(high, m_document.blockCount());
+    while (high - low > 1) {
+        const int middle = low + (high - low) / 2;
+        (begins(middle) ? low : high) = middle;
+    }
+    m_nearLine = low;
     return m_document.findBlockByNumber(low);
 }
 

@@ -57,6 +57,8 @@ private:
     quint64 m_changeCount = 0;
     int m_length = 0; // of the document, after the last change
 
+    mutable int m_nearLine = 0; // where a place was last looked for
+
     mutable QString m_text;
     mutable int m_textLength = -1; // the document's length when m_text was read
     mutable int m_prefix = 0;      // document characters that m_text still has right,

@@ -19,12 +19,26 @@ namespace {
     throw Error(InvalidCall, u"ImageList.Add"_s, reason);
 }
 
-std::shared_ptr<QSvgRenderer> drawingOf(const QString &file)
+std::shared_ptr<QSvgRenderer> loaded(const QString &file)
 {
     auto drawing = std::make_shared<QSvgRenderer>();
     // Asked first, because Qt logs a warning for a file it cannot open.
     if (!QFileInfo(file).isFile() || !drawing->load(file))
         refuse(u"Not an SVG file: "_s + file);
+    return drawing;
+}
+
+// Resources never change, so a drawing of one that some list holds already is
+// shared: every component has a list with the same pictures.
+std::shared_ptr<QSvgRenderer> drawingOf(const QString &file)
+{
+    if (!file.startsWith(u":/"))
+        return loaded(file);
+    thread_local QHash<QString, std::weak_ptr<QSvgRenderer>> held;
+    std::weak_ptr<QSvgRenderer> &place = held[file];
+    std::shared_ptr<QSvgRenderer> drawing = place.lock();
+    if (!drawing)
+        place = drawing = loaded(file);
     return drawing;
 }
 

@@ -63,8 +63,8 @@ QVariant NodeModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         return node.text;
     case Qt::ForegroundRole:
-        if (node.foreColor == Colours::windowText)
-            return {}; // also what a disabled tree shows in grey
+        if (node.foreColor == Colours::windowText || !m_view.isEnabled())
+            return {}; // the palette knows better
         return Colours::toColor(node.foreColor, m_view.palette());
     case Qt::DecorationRole: {
         const QIcon icon = m_pictures && !node.image.isEmpty() ? m_pictures(node.image) : QIcon();
@@ -101,11 +101,10 @@ Qt::ItemFlags NodeModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable;
+    Qt::ItemFlags flags =
+        Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable | Qt::ItemIsDragEnabled;
     if (m_checkBoxes)
         flags |= Qt::ItemIsUserCheckable;
-    if (!m_draggable || m_draggable(nodeOf(index)))
-        flags |= Qt::ItemIsDragEnabled;
     return flags;
 }
 
@@ -277,11 +276,6 @@ void NodeModel::setPictureProvider(PictureProvider provider)
 {
     m_pictures = std::move(provider);
     touchAll();
-}
-
-void NodeModel::setDraggable(Test draggable)
-{
-    m_draggable = std::move(draggable);
 }
 
 void NodeModel::touch(const TreeNode &node, int role)

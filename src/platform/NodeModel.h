@@ -21,7 +21,6 @@ class NodeModel final : public QAbstractItemModel
 
 public:
     using PictureProvider = std::function<QIcon(const QString &key)>;
-    using Test = std::function<bool(const TreeNode &node)>;
 
     // System colours are looked up in the view's palette.
     explicit NodeModel(const QWidget &view);
@@ -68,7 +67,6 @@ public:
     bool hasCheckBoxes() const { return m_checkBoxes; }
     void setCheckBoxes(bool on);
     void setPictureProvider(PictureProvider provider);
-    void setDraggable(Test draggable);
 
 Q_SIGNALS:
     void checkedByUser(ORVTListview::TreeNode *node);
@@ -90,7 +88,6 @@ private:
     mutable std::size_t m_numbered = 0; // nodes before this know their position
     QHash<QString, TreeNode *> m_keys;
     PictureProvider m_pictures;
-    Test m_draggable;
     bool m_checkBoxes = false;
     bool m_filling = false;
 };

@@ -162,9 +162,7 @@ Node *NodeTree::draggedNode() const
 
 void NodeTree::setDraggable(std::function<bool(const Node &)> test)
 {
-    d->model.setDraggable([this, test = std::move(test)](const TreeNode &node) {
-        return test(*d->handles.of(const_cast<TreeNode &>(node)));
-    });
+    d->draggable = std::move(test);
 }
 
 void NodeTree::setDragEffects(qint32 effects)

@@ -2,10 +2,10 @@
 // look whether the tree still exists.
 
 #include "platform/EventGuard.h"
-#include "platform/KeyEvents.h"
 #include "platform/MouseArguments.h"
 #include "platform/NodeTreeParts.h"
 #include "platform/PlainToolTip.h"
+#include "platform/RaisedKeys.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QScopedValueRollback>
@@ -147,15 +147,16 @@ void NodeTree::keyPressEvent(QKeyEvent *event)
         return;
     }
     event->accept();
-    QString typed;
-    if (!KeyEvents::raise(*this, &NodeTree::KeyDown, *event) ||
-        !KeyEvents::raisePress(*this, *event, typed))
+    if (!raiseKey(*this, &NodeTree::KeyDown, *event))
         return;
-    if (typed == event->text()) {
+    const std::optional<QString> typed = raiseCharacter(*this, &NodeTree::KeyPress, *event);
+    if (!typed)
+        return;
+    if (*typed == event->text()) {
         act(*event);
         return;
     }
-    QKeyEvent replaced = KeyEvents::retyped(*event, typed);
+    QKeyEvent replaced = retyped(*event, *typed);
     const QPointer<NodeTree> self(this);
     act(replaced);
     event->setAccepted(!self || replaced.isAccepted());
@@ -163,7 +164,7 @@ void NodeTree::keyPressEvent(QKeyEvent *event)
 
 void NodeTree::keyReleaseEvent(QKeyEvent *event)
 {
-    if (event->isAutoRepeat() || KeyEvents::raise(*this, &NodeTree::KeyUp, *event))
+    if (event->isAutoRepeat() || raiseKey(*this, &NodeTree::KeyUp, *event))
         QTreeView::keyReleaseEvent(event);
 }
 
@@ -288,7 +289,10 @@ void NodeTree::mouseDoubleClickEvent(QMouseEvent *event)
 void NodeTree::startDrag(Qt::DropActions)
 {
     d->slowClick.stop();
-    d->dragged = handleOf(d->pressed);
+    Node *node = handleOf(d->pressed);
+    if (!node || (d->draggable && !d->draggable(*node)))
+        return;
+    d->dragged = node;
     d->drag.begin();
 }
 

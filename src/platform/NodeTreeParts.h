@@ -33,6 +33,7 @@ struct NodeTreeParts
     EventSurface surface;
     SlowClick slowClick;
     std::function<bool(const QKeyEvent &)> keyCommand;
+    std::function<bool(const Node &)> draggable;
 
     bool editsLabels = true;
     bool clickAwaited = false;     // the left button went down and has not come up

@@ -207,7 +207,6 @@ protected:
 private:
     friend class RowChoice;
 
-    using KeySignal = void (ReportList::*)(qint16 &, qint16);
     using MouseSignal = void (ReportList::*)(qint16, qint16, float, float);
 
     // The model and the modes are the list's own affair.
@@ -222,8 +221,6 @@ private:
     ListItem *itemOf(const QModelIndex &index) const;
     bool isChosenLabel(const QModelIndex &index) const;
     bool raiseMouse(MouseSignal signal, const QMouseEvent &event);
-    bool raiseKey(KeySignal signal, const QKeyEvent &event);
-    bool raiseKeyPress(const QKeyEvent &event, QString &typed);
     void act(QKeyEvent &event);
     bool runCommand(const QKeyEvent &event);
     void pick(const std::function<void()> &act);

@@ -4,9 +4,9 @@
 #include "platform/EventGuard.h"
 #include "platform/MouseArguments.h"
 #include "platform/PlainToolTip.h"
+#include "platform/RaisedKeys.h"
 #include "platform/ReportListParts.h"
 #include "platform/RowCopy.h"
-#include "platform/VirtualKeys.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
@@ -120,29 +120,6 @@ QModelIndex ReportList::moveCursor(CursorAction action, Qt::KeyboardModifiers mo
 
 // Keys.
 
-bool ReportList::raiseKey(KeySignal signal, const QKeyEvent &event)
-{
-    VirtualKey key = virtualKey(event);
-    if (key.keyCode == 0)
-        return true;
-    const QPointer<ReportList> self(this);
-    Q_EMIT(this->*signal)(key.keyCode, key.shift);
-    return self && key.keyCode != 0;
-}
-
-bool ReportList::raiseKeyPress(const QKeyEvent &event, QString &typed)
-{
-    constexpr char16_t deleteCharacter = 0x7f; // some platforms' text of the Delete key
-    typed = event.text();
-    if (typed.size() != 1 || typed.front() == deleteCharacter)
-        return true;
-    auto code = static_cast<qint16>(typed.front().unicode());
-    const QPointer<ReportList> self(this);
-    Q_EMIT KeyPress(code);
-    typed = QChar(static_cast<char16_t>(code));
-    return self && code != 0;
-}
-
 void ReportList::keyPressEvent(QKeyEvent *event)
 {
     d->slowClick.stop();
@@ -151,22 +128,23 @@ void ReportList::keyPressEvent(QKeyEvent *event)
         return;
     }
     event->accept();
-    QString typed;
-    if (!raiseKey(&ReportList::KeyDown, *event) || !raiseKeyPress(*event, typed))
+    if (!raiseKey(*this, &ReportList::KeyDown, *event))
         return;
-    if (typed == event->text()) {
+    const std::optional<QString> typed = raiseCharacter(*this, &ReportList::KeyPress, *event);
+    if (!typed)
+        return;
+    if (*typed == event->text()) {
         act(*event);
         return;
     }
-    QKeyEvent replaced(QEvent::KeyPress, typed.front().toUpper().unicode(), event->modifiers(),
-                       typed, event->isAutoRepeat(), static_cast<quint16>(event->count()));
+    QKeyEvent replaced = retyped(*event, *typed);
     act(replaced);
     event->setAccepted(replaced.isAccepted());
 }
 
 void ReportList::keyReleaseEvent(QKeyEvent *event)
 {
-    if (event->isAutoRepeat() || raiseKey(&ReportList::KeyUp, *event))
+    if (event->isAutoRepeat() || raiseKey(*this, &ReportList::KeyUp, *event))
         QTableView::keyReleaseEvent(event);
 }
 

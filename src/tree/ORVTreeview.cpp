@@ -17,8 +17,6 @@
 #include "tree/ProjectNodes.h"
 #include "tree/TypeCollections.h"
 
-#include <QtWidgets/QVBoxLayout>
-
 #include <exception>
 
 namespace ORVTListview {
@@ -56,9 +54,6 @@ ORVTreeview::ORVTreeview(QWidget *parent)
     : Component(parent)
     , d(std::make_unique<Private>(this))
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(d->tree);
     setFocusProxy(d->tree);
     forwardEvents();
     d->pages = PageArrangement::load();
@@ -105,6 +100,21 @@ void ORVTreeview::forwardEvents()
     connect(tree, &NodeTree::OLEGiveFeedback, this, &ORVTreeview::OLEGiveFeedback);
     connect(tree, &NodeTree::OLESetData, this, &ORVTreeview::OLESetData);
     connect(tree, &NodeTree::OLEStartDrag, this, &ORVTreeview::OLEStartDrag);
+}
+
+QSize ORVTreeview::sizeHint() const
+{
+    return d->tree->sizeHint();
+}
+
+QSize ORVTreeview::minimumSizeHint() const
+{
+    return d->tree->minimumSizeHint();
+}
+
+void ORVTreeview::resizeEvent(QResizeEvent *)
+{
+    d->tree->setGeometry(rect());
 }
 
 bool ORVTreeview::isDesignMode() const

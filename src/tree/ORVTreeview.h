@@ -42,6 +42,9 @@ public:
 
     const MemberTable &Members() const override;
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
     // A tree on a form that is being designed saves nothing.
     bool isDesignMode() const;
     void setDesignMode(bool on);
@@ -152,7 +155,8 @@ Q_SIGNALS:
     void MouseMove(qint16 Button, qint16 Shift, float X, float Y);
     void MouseUp(qint16 Button, qint16 Shift, float X, float Y);
 
-    // Never raised, because this tree has no check boxes.
+    // The user has checked or unchecked a node. There are boxes only if the host
+    // sets the property checkBoxes of the child widget TreeView1.
     void NodeCheck(ORVTListview::Node *Node);
 
     // A node was pressed, or reached by keyboard.
@@ -175,6 +179,9 @@ Q_SIGNALS:
 
     // Published; never raised. GetPageSettings and the nodes tell the pages.
     void UpdatePages(QList<ORVTListview::Pages> &Pages);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void forwardEvents();

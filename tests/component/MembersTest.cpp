@@ -1,12 +1,9 @@
+#include "AllComponents.h"
 #include "MemberText.h"
 
-#include "combo/ORVDataCombo.h"
-#include "pointtable/ORVListView.h"
-#include "richtext/ORVRichText.h"
 #include "shared/SettingsStore.h"
 #include "support/TestFolder.h"
 #include "support/WidgetTest.h"
-#include "tree/ORVTreeview.h"
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
@@ -16,14 +13,6 @@ using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-using Factory = Component *(*)();
-
-template <typename T>
-Component *made()
-{
-    return new T;
-}
 
 // A type as moc writes it, a reference included.
 QString plainName(const QByteArray &type)
@@ -130,26 +119,19 @@ class MembersTest : public WidgetTest
 private Q_SLOTS:
     void init() override;
 
-    void agreeWithTheList_data() { components(); }
+    void agreeWithTheList_data() { AllComponents::addRows(); }
     void agreeWithTheList();
-    void areInTheMetaObject_data() { components(); }
+    void areInTheMetaObject_data() { AllComponents::addRows(); }
     void areInTheMetaObject();
-    void areAllThatTheClassPublishes_data() { components(); }
+    void areAllThatTheClassPublishes_data() { AllComponents::addRows(); }
     void areAllThatTheClassPublishes();
-    void differNotInLetterCaseOnly_data() { components(); }
+    void differNotInLetterCaseOnly_data() { AllComponents::addRows(); }
     void differNotInLetterCaseOnly();
-    void haveEventNumbersInOrder_data() { components(); }
+    void haveEventNumbersInOrder_data() { AllComponents::addRows(); }
     void haveEventNumbersInOrder();
 
 private:
     TestFolder m_settings; // the tree saves its pages
-
-    static void components();
-    static std::unique_ptr<Component> component()
-    {
-        QFETCH(Factory, factory);
-        return std::unique_ptr<Component>(factory());
-    }
 };
 
 void MembersTest::init()
@@ -158,18 +140,9 @@ void MembersTest::init()
     setSettingsFile(m_settings.path(u"settings"_s));
 }
 
-void MembersTest::components()
-{
-    QTest::addColumn<Factory>("factory");
-    QTest::newRow("ORVListView") << &made<ORVListView>;
-    QTest::newRow("ORVTreeview") << &made<ORVTreeview>;
-    QTest::newRow("ORVDataCombo") << &made<ORVDataCombo>;
-    QTest::newRow("ORVRichText") << &made<ORVRichText>;
-}
-
 void MembersTest::agreeWithTheList()
 {
-    const auto control = component();
+    const auto control = AllComponents::component();
     const QString path = QStringLiteral(ORVT_MEMBER_LISTS "/%1.members")
                              .arg(QString::fromLatin1(QTest::currentDataTag()));
     QCOMPARE(control->Members().component(), QString::fromLatin1(QTest::currentDataTag()));
@@ -187,7 +160,7 @@ void MembersTest::agreeWithTheList()
 
 void MembersTest::areInTheMetaObject()
 {
-    const auto control = component();
+    const auto control = AllComponents::component();
     QStringList missing;
     for (const Member &member : control->Members().members()) {
         if (!isInMetaObject(*control->metaObject(), member))
@@ -198,7 +171,7 @@ void MembersTest::areInTheMetaObject()
 
 void MembersTest::areAllThatTheClassPublishes()
 {
-    const auto control = component();
+    const auto control = AllComponents::component();
     QSet<QString> rest = publishedNames(*control->metaObject()) - additions;
     for (const Member &member : control->Members().members())
         rest.remove(member.name);
@@ -207,7 +180,7 @@ void MembersTest::areAllThatTheClassPublishes()
 
 void MembersTest::differNotInLetterCaseOnly()
 {
-    const auto control = component();
+    const auto control = AllComponents::component();
     QSet<QString> events;
     QSet<QString> others;
     for (const Member &member : control->Members().members()) {
@@ -219,7 +192,7 @@ void MembersTest::differNotInLetterCaseOnly()
 
 void MembersTest::haveEventNumbersInOrder()
 {
-    const auto control = component();
+    const auto control = AllComponents::component();
     qint32 last = 0;
     for (const Member &member : control->Members().members()) {
         if (member.kind == MemberKind::Event)

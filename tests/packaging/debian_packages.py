@@ -56,7 +56,7 @@ def check_dependencies(packages, version):
             sys.exit(f"{name} does not depend on {library}")
     needed = {
         "liborvtlistview1": ("libqt6core6", "libqt6widgets6", "libqt6svg6", "zlib1g", "libc6"),
-        "orvtlistview-designer": ("libqt6widgets6",),
+        "orvtlistview-designer": ("libqt6core6",),
         "orvtlistview-tools": ("libqt6core6",),
         "liborvtlistview-dev": ("qt6-base-dev",),
     }
@@ -76,7 +76,9 @@ def check_installs_and_removes(packages, folder):
     for part in ("updates", "info", "triggers"):
         (root / "var/lib/dpkg" / part).mkdir(parents=True)
     (root / "var/lib/dpkg/status").touch()
-    dpkg = ("dpkg", f"--root={root}", "--force-depends", f"--log={folder}/dpkg.log")
+    # Without a shell of its own there; all that the scripts do is ldconfig.
+    dpkg = ("dpkg", f"--root={root}", "--force-depends", "--force-script-chrootless",
+            f"--log={folder}/dpkg.log")
     run(*dpkg, "--install", *packages.values())
     if not installed_files(root):
         sys.exit("Nothing was installed")

@@ -20,6 +20,9 @@ const QList<Scene> &scenes()
     static const QList<Scene> all{
         {"combo", &comboScene},
         {"find", &findScene},
+        {"table-states", &tableStatesScene},
+        {"tables", &tablesScene},
+        {"tree", &treeScene},
     };
     return all;
 }
@@ -30,28 +33,43 @@ void Sheet::add(const QString &caption, QWidget &shown)
     m_pictures.append({caption, shown.grab()});
 }
 
+// As wide as its column and as high as its row, the caption included.
+QSize Sheet::cellOf(qsizetype place) const
+{
+    QSize cell;
+    for (qsizetype other = 0; other < m_pictures.size(); ++other) {
+        const QSize size = m_pictures.at(other).pixmap.deviceIndependentSize().toSize();
+        if (other % m_columns == place % m_columns)
+            cell.setWidth(std::max(cell.width(), size.width()));
+        if (other / m_columns == place / m_columns)
+            cell.setHeight(std::max(cell.height(), captionHeight + size.height()));
+    }
+    return cell;
+}
+
 QImage Sheet::image() const
 {
-    QSize size(200, gap);
-    for (const Picture &picture : m_pictures) {
-        const QSize needed = picture.pixmap.deviceIndependentSize().toSize();
-        size.setWidth(std::max(size.width(), needed.width() + 2 * gap));
-        size.rheight() += captionHeight + needed.height() + gap;
+    QList<QRect> cells;
+    QRect all(0, 0, 200, gap);
+    QPoint corner(gap, gap);
+    for (qsizetype place = 0; place < m_pictures.size(); ++place) {
+        cells.append(QRect(corner, cellOf(place)));
+        all |= cells.last().adjusted(0, 0, gap, gap);
+        const bool isLastOfRow = place % m_columns == m_columns - 1;
+        corner = isLastOfRow ? QPoint(gap, all.bottom()) : cells.last().topRight() + QPoint(gap, 0);
     }
     const qreal ratio = qGuiApp->devicePixelRatio();
-    QImage image(size * ratio, QImage::Format_RGB32);
+    QImage image(all.size() * ratio, QImage::Format_RGB32);
     image.setDevicePixelRatio(ratio);
     const QPalette palette = QGuiApplication::palette();
     image.fill(palette.color(QPalette::Dark));
     QPainter painter(&image);
     painter.setPen(palette.color(QPalette::BrightText));
-    int y = gap;
-    for (const Picture &picture : m_pictures) {
-        painter.drawText(QRect(gap, y, size.width(), captionHeight), Qt::AlignVCenter,
-                         picture.caption);
-        y += captionHeight;
-        painter.drawPixmap(gap, y, picture.pixmap);
-        y += picture.pixmap.deviceIndependentSize().toSize().height() + gap;
+    for (qsizetype place = 0; place < m_pictures.size(); ++place) {
+        const QRect cell = cells.at(place);
+        painter.drawText(QRect(cell.topLeft(), QSize(cell.width(), captionHeight)),
+                         Qt::AlignVCenter, m_pictures.at(place).caption);
+        painter.drawPixmap(cell.topLeft() + QPoint(0, captionHeight), m_pictures.at(place).pixmap);
     }
     return image;
 }

@@ -6,10 +6,11 @@
 
 class QWidget;
 
-// What a scene shows, one picture below the other.
+// What a scene shows, one picture below the other, or row by row in columns.
 class Sheet
 {
 public:
+    void setColumns(int columns) { m_columns = columns; }
     void add(const QString &caption, QWidget &shown);
 
     QImage image() const;
@@ -20,7 +21,11 @@ private:
         QString caption;
         QPixmap pixmap;
     };
+
+    QSize cellOf(qsizetype place) const;
+
     QList<Picture> m_pictures;
+    int m_columns = 1;
 };
 
 // Shows some of the library's widgets in the language, colours and scale in force.
@@ -36,3 +41,6 @@ const QList<Scene> &scenes();
 
 void comboScene(Sheet &sheet);
 void findScene(Sheet &sheet);
+void tableStatesScene(Sheet &sheet);
+void tablesScene(Sheet &sheet);
+void treeScene(Sheet &sheet);

@@ -467,6 +467,8 @@ void NodesTest::showsColours()
     node->setForeColor(Colours::windowBackground);
     QCOMPARE(shown.index("a1").data(Qt::ForegroundRole).value<QColor>(),
              shown->palette().color(QPalette::Base));
+    shown->setEnabled(false); // grey, as all its texts
+    QVERIFY(!shown.index("a1").data(Qt::ForegroundRole).isValid());
 }
 
 QTEST_MAIN(NodesTest)

@@ -138,7 +138,7 @@ TEST_F(PageArrangementTest, SavesPageNumbersAsDecimalText)
     EXPECT_EQ(stored(u"Outputs"_s), QString());
 }
 
-TEST_F(PageArrangementTest, SavesInOneStep)
+TEST_F(PageArrangementTest, SavingIsPartOfAnOuterTransaction)
 {
     PageArrangement::save({{u"Inputs"_s, 1}});
     {

@@ -23,6 +23,7 @@ class TreeArrangingTest : public ProjectTreeTest
 
 private Q_SLOTS:
     void eventsReachTheHost();
+    void nodeCheckReachesTheHost();
     void changesReachTheTree();
     void updatePagesIsNeverRaised();
     void movesDownAndUp();
@@ -70,6 +71,20 @@ void TreeArrangingTest::eventsReachTheHost()
     QTRY_VERIFY(!moved.isNull());
     QCOMPARE(moved, QPointF(Twips::fromPixelsX(50, *shown.tree),
                             Twips::fromPixelsY(50, *shown.tree))); // of the tree's corner
+}
+
+void TreeArrangingTest::nodeCheckReachesTheHost()
+{
+    const ShownProject shown;
+    shown->setSelectedItem(shown.node(u"Logs"_s));
+    NodeTreeEvents<ORVTreeview> events(shown.tree);
+    shown.key(Qt::Key_Space);
+    QVERIFY(!events.take().contains(u"NodeCheck"_s));
+    QVERIFY(shown->findChild<QWidget *>(u"TreeView1"_s)->setProperty("checkBoxes", true));
+    shown.key(Qt::Key_Space);
+    QVERIFY(events.take().contains(u"NodeCheck Logs 1"_s));
+    shown.key(Qt::Key_Space);
+    QVERIFY(events.take().contains(u"NodeCheck Logs 0"_s));
 }
 
 void TreeArrangingTest::changesReachTheTree()

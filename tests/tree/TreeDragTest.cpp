@@ -67,6 +67,8 @@ private Q_SLOTS:
     void theHostRefuses();
     void theHostTakesItOver();
     void theHostChangesTheData();
+    void makesPromisedDataWhenTheyAreWanted();
+    void tellsWhereItIsDragged();
     void otherDragsAreRefused();
     void otherDragsAreTheHosts();
     void programStartsADrag();
@@ -274,6 +276,49 @@ void TreeDragTest::theHostChangesTheData()
     drag(shown, shown.place(u"Logs"_s), {shown.place(u"Page1"_s)});
     QCOMPARE(carried, QByteArray("Logs"));
     QCOMPARE(keysOn(*shown.tree, 1), QStringList{u"Inputs"_s}); // it is no category any more
+}
+
+void TreeDragTest::makesPromisedDataWhenTheyAreWanted()
+{
+    store(u"Inputs"_s, u"1"_s);
+    const ShownProject shown;
+    int asked = 0;
+    connect(shown.tree, &ORVTreeview::OLEStartDrag, this,
+            [](DataObject *data, qint32 &) { data->SetData({}, DataObject::Text); });
+    connect(shown.tree, &ORVTreeview::OLESetData, this, [&](DataObject *data, qint16 format) {
+        ++asked;
+        QCOMPARE(format, qint16{DataObject::Text});
+        data->SetData(u"made"_s, format);
+    });
+    QString text;
+    connect(shown.tree, &ORVTreeview::OLEDragDrop, this, [&](DataObject *data, qint32 &) {
+        QCOMPARE(asked, 0);
+        text = data->GetData(DataObject::Text).toString();
+    });
+    drag(shown, shown.place(u"Logs"_s), {shown.place(u"Page1"_s)});
+    QCOMPARE(text, u"made"_s);
+    QCOMPARE(asked, 1);
+    QCOMPARE(keysOn(*shown.tree, 1), QStringList({u"Inputs"_s, u"Logs"_s})); // still its key
+}
+
+void TreeDragTest::tellsWhereItIsDragged()
+{
+    store(u"Inputs"_s, u"1"_s);
+    const ShownProject shown;
+    QStringList over;
+    connect(shown.tree, &ORVTreeview::OLEDragOver, this,
+            [&](DataObject *, qint32 &, qint16, qint16, float x, float y) {
+                const Node *node = shown->HitTest(x, y);
+                over.append(node ? node->Key() : u"-"_s);
+            });
+    QString dropped;
+    connect(shown.tree, &ORVTreeview::OLEDragDrop, this,
+            [&](DataObject *, qint32 &, qint16, qint16, float x, float y) {
+                dropped = shown->HitTest(x, y)->Key();
+            });
+    drag(shown, shown.place(u"Timers"_s), {shown.place(u"Page1"_s)});
+    QVERIFY2(over.contains(u"Network Var Outputs"_s), qPrintable(over.join(u' '))); // on the way
+    QCOMPARE(dropped, u"Page1"_s);
 }
 
 void TreeDragTest::otherDragsAreRefused()

@@ -60,6 +60,8 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = tmep");
         workbench.key(Qt::Key_F6);
         QTest::keyClick(&workbench.box(), Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(QApplication::focusWidget()->objectName(), u"ImgRead"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QVERIFY(workbench.results().hasFocus());
         QTest::keyClick(&workbench.results(), Qt::Key_Home);
         QTest::keyClick(&workbench.results(), Qt::Key_Return);

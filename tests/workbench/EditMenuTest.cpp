@@ -28,19 +28,22 @@ private Q_SLOTS:
     void offersWhatCanBeDone()
     {
         WorkbenchWindow workbench("Fan1 = ON");
-        QCOMPARE(enabled(workbench), u"Restore Typed Text, Select All, Known Words"_s);
+        QCOMPARE(enabled(workbench),
+                 u"Restore Typed Text, Find…, Replace…, Select All, Known Words"_s);
         workbench.choose(u"Select All"_s);
         QCOMPARE(workbench.box().SelText(), u"Fan1 = ON"_s);
-        QCOMPARE(enabled(workbench),
-                 u"Restore Typed Text, Cut, Copy, Copy with Colours, Select All, Known Words"_s);
+        QCOMPARE(
+            enabled(workbench),
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Find…, Replace…, Select All, Known Words"_s);
         workbench.choose(u"Copy"_s);
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Fan1 = ON"_s);
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Cut, Copy, Copy with Colours, Paste, Select All, Known Words"_s);
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Paste, Find…, Replace…, Select All, Known Words"_s);
         workbench.choose(u"Cut"_s);
         QCOMPARE(workbench.code().CodeText(), QString());
-        QCOMPARE(enabled(workbench), u"Restore Typed Text, Paste, Select All, Known Words"_s);
+        QCOMPARE(enabled(workbench),
+                 u"Restore Typed Text, Paste, Find…, Replace…, Select All, Known Words"_s);
     }
 
     void copiesWithColours()
@@ -132,6 +135,31 @@ private Q_SLOTS:
         Q_EMIT workbench.menus().at(1)->aboutToShow();
         QTest::keyClick(&workbench.results(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(workbench.code().CodeText(), u"a b c"_s);
+    }
+
+    void findsBesideTheWindow_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("Find") << Qt::Key_F << u"Find"_s;
+        QTest::newRow("Replace") << Qt::Key_H << u"Replace"_s;
+    }
+    void findsBesideTheWindow()
+    {
+        QFETCH(const Qt::Key, key);
+        QFETCH(const QString, title);
+        WorkbenchWindow workbench("Fan1 = Fan1");
+        workbench.key(key, Qt::ControlModifier);
+        QWidget *dialog = nullptr;
+        QTRY_VERIFY((dialog = QApplication::activeWindow()) != &workbench.window && dialog);
+        QCOMPARE(dialog->windowTitle(), title);
+        QCOMPARE(workbench.code().CodeText(), u"Fan1 = Fan1"_s); // the key did nothing else
+        QTest::keyClicks(QApplication::focusWidget(), u"fan1"_s);
+        QTest::keyClick(dialog, Qt::Key_Return);
+        QCOMPARE(workbench.box().SelText(), u"Fan1"_s);
+        QCOMPARE(workbench.box().SelStart(), 7);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible());
     }
 
     void showsTheKnownWords()

@@ -7,6 +7,7 @@
 #include <ORVTListview/Node.h>
 #include <ORVTListview/Nodes.h>
 #include <ORVTListview/ORVDataCombo.h>
+#include <ORVTListview/ORVTreeview.h>
 
 #include <QtWidgets/QLineEdit>
 

@@ -142,6 +142,7 @@ class Session:
         self._accepted_paste()
         self._analysis()
         self._compilation()
+        self._tables()
         self._menus()
         self._unsaved_changes()
         self._workbench.quit()
@@ -233,7 +234,7 @@ class Session:
         bench = self._workbench
         bench.keys("F6")
         self._picture("09-analysed")
-        bench.keys("ctrl+Tab", "Home", "Return")
+        bench.keys("ctrl+Tab", "Tab", "Home", "Return")  # past the read button
         self._picture("10-finding-chosen")
         bench.type("supplyfanspeed")
         bench.keys("ctrl+End")
@@ -243,9 +244,28 @@ class Session:
         self._workbench.keys("ctrl+F6")
         self._picture("11-compiled")
 
+    def _tables(self):
+        """Through the tree by keyboard, to a table, a new name there, and back."""
+        bench = self._workbench
+        bench.keys("ctrl+shift+Tab", "Down", "Down", "Down")  # Inputs
+        self._picture("12-inputs")
+        bench.keys("Tab", "Down", "Up", "F2")
+        bench.type("supplyair")
+        self._picture("13-name")
+        bench.keys("Return")
+        bench.wait_for_window("Rename — Workbench")
+        bench.keys("Tab", "Return")  # not in the program
+        bench.wait_for_window(CHANGED_TITLE)
+        bench.keys("F5")
+        self._picture("14-reading")
+        bench.keys("shift+Tab", "Home", "Down", "Down")  # Code
+        bench.save(HEATING + FANS)
+        self._picture("15-program-again")
+        bench.keys("Tab")
+
     def _menus(self):
         bench = self._workbench
-        for number, name in ((12, "file"), (13, "edit"), (14, "program")):
+        for number, name in ((16, "file"), (17, "edit"), (18, "program")):
             bench.keys("alt+" + name[0])
             bench.wait_for_popup()
             self._picture(f"{number}-{name}-menu")
@@ -257,7 +277,7 @@ class Session:
         menu = bench.wait_for_popup()
         bench.keys("k")
         bench.wait_for_popup(other_than=menu)
-        self._picture("15-known-words")
+        self._picture("19-known-words")
         bench.keys("Escape")
         bench.wait_for_no_popup()
         bench.keys("BackSpace")
@@ -269,7 +289,7 @@ class Session:
         bench.wait_for_window(CHANGED_TITLE)
         bench.keys("ctrl+q")
         bench.wait_for_window("Unsaved Changes — Workbench")
-        self._picture("16-unsaved-changes")
+        self._picture("20-unsaved-changes")
         bench.keys("Escape")
         bench.wait_for_window(CHANGED_TITLE)
         bench.keys("BackSpace")
@@ -291,7 +311,7 @@ def run_session(arguments):
     scale = arguments.scale
     options = ["--scale", str(scale)] + (["--dark"] if arguments.dark else [])
     with tempfile.TemporaryDirectory(prefix="project") as folder, \
-            Display(int(1040 * scale), int(780 * scale)) as display:
+            Display(int(1140 * scale), int(780 * scale)) as display:
         empty_copy_of(arguments.sample, folder)
         workbench = Workbench(display, arguments.workbench, folder, options)
 

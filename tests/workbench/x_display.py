@@ -45,7 +45,8 @@ class Display:
             name: value for name, value in os.environ.items()
             if not name.startswith(("QT_", "XDG_", "LC_", "LANG", "WAYLAND_"))}
         self.environment.update(
-            HOME=self._folder.name, LC_ALL="C.UTF-8", XDG_RUNTIME_DIR=self._folder.name)
+            HOME=self._folder.name, LC_ALL="C.UTF-8", XDG_RUNTIME_DIR=self._folder.name,
+            ORVT_SETTINGS_FILE=os.path.join(self._folder.name, "settings.ini"))
 
     def __enter__(self):
         try:

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "combo/ORVDataCombo.h"
+#include "pointtable/ORVListView.h"
+#include "richtext/ORVRichText.h"
+#include "tree/ORVTreeview.h"
+
+#include <QtTest/QTest>
+
+#include <memory>
+
+// The rows of a test that every component goes through.
+namespace AllComponents {
+
+using Factory = ORVTListview::Component *(*)();
+
+template <typename T>
+ORVTListview::Component *made()
+{
+    return new T;
+}
+
+inline void addRows()
+{
+    using namespace ORVTListview;
+    QTest::addColumn<Factory>("factory");
+    QTest::newRow("ORVListView") << &made<ORVListView>;
+    QTest::newRow("ORVTreeview") << &made<ORVTreeview>;
+    QTest::newRow("ORVDataCombo") << &made<ORVDataCombo>;
+    QTest::newRow("ORVRichText") << &made<ORVRichText>;
+}
+
+// That of the current row.
+inline std::unique_ptr<ORVTListview::Component> component()
+{
+    QFETCH(Factory, factory);
+    return std::unique_ptr<ORVTListview::Component>(factory());
+}
+
+} // namespace AllComponents
