@@ -15,8 +15,8 @@ using Source = HostReference<PointCollection> Vocabulary::Collections::*;
 
 struct Kind
 {
-    qint32 type;
-    Source source;
+    qint32 type = 0;
+    Source source = nullptr;
 };
 
 constexpr std::array kinds{

@@ -1,10 +1,8 @@
-// Choosing by keyboard alone, and the events on the way.
+// The keys of an image combo, and the events on the way.
 
 #include "ImageComboFixture.h"
 #include "platform/Error.h"
 #include "support/WidgetTest.h"
-
-#include <QtGui/QClipboard>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -14,21 +12,8 @@ class ImageComboKeyTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void findsAnEntryByAnyPartOfItsText();
     void raisesEventsInOrder();
     void raisesChangeWhenTheFieldIsDone();
-    void marksTheBestMatch();
-    void ignoresLetterCase();
-    void followsEveryEdit();
-    void closesWhenNothingMatches();
-    void takesNothingForAnEmptyField();
-    void takesTheMarkedEntryWithTab();
-    void escapeBringsBackTheEntry();
-    void escapeBringsBackTheText();
-    void selectsATypedTextWhenTheFocusLeaves();
-    void keepsATextThatIsNoEntry();
-    void selectsATypedTextWithEnter();
-    void typingBackWhatWasSelectsItAgain();
     void goesThroughTheListAndNoFurther();
     void goesThroughTheEntriesWithTheListClosed();
     void opensAndClosesByKey();
@@ -37,30 +22,11 @@ private Q_SLOTS:
     void swallowsACharacterSetToNothing();
     void typesAnotherCharacterInstead();
     void letsUnusedKeysPass();
-    void takesWhatAnInputMethodCommits();
-    void takesWhatIsPasted();
-    void undoesTyping();
     void doesNothingWhileDisabled();
     void bearsAnythingInAKeyEvent_data();
     void bearsAnythingInAKeyEvent();
     void keepsErrorsFromTheEventLoop();
 };
-
-void ImageComboKeyTest::findsAnEntryByAnyPartOfItsText()
-{
-    QStringList texts;
-    for (int i = 1; i <= 30'000; ++i)
-        texts.append((i % 2 ? u"Valve%1"_s : u"Damper%1"_s).arg(i));
-    texts[20'000] = u"Temp1"_s;
-    const ShownCombo shown(texts);
-    shown.type(u"mp1"_s);
-    QCOMPARE(shown.listed(), QStringList{u"Temp1"_s});
-    QCOMPARE(shown->selectedIndex(), 0);
-    shown.key(Qt::Key_Return);
-    QCOMPARE(shown->selectedIndex(), 20'001);
-    QCOMPARE(shown->text(), u"Temp1"_s);
-    QVERIFY(!shown->isListOpen());
-}
 
 void ImageComboKeyTest::raisesEventsInOrder()
 {
@@ -90,190 +56,6 @@ void ImageComboKeyTest::raisesChangeWhenTheFieldIsDone()
     connect(shown.combo, &ImageCombo::Change, this, [&] { order.append(u"Change"_s); });
     shown.type(u"t"_s);
     QCOMPARE(order, QStringList({u"caret"_s, u"Change"_s}));
-}
-
-void ImageComboKeyTest::marksTheBestMatch()
-{
-    const ShownCombo shown({u"OutTemp1"_s, u"Temp10"_s, u"TEMP1"_s, u"Temp1"_s});
-    shown.type(u"mp"_s);
-    QCOMPARE(shown.marked(), u"OutTemp1"_s); // the first
-    shown.key(Qt::Key_Home);
-    shown.type(u"te"_s); // begins with it
-    QCOMPARE(shown.marked(), u"Temp10"_s);
-    shown.key(Qt::Key_End);
-    shown.type(u"1"_s); // reads so
-    QCOMPARE(shown.marked(), u"TEMP1"_s);
-}
-
-void ImageComboKeyTest::ignoresLetterCase()
-{
-    const ShownCombo shown({u"Ärger"_s, u"TEMP"_s, u"straße"_s});
-    shown.type(u"eM"_s);
-    QCOMPARE(shown.listed(), QStringList{u"TEMP"_s});
-    shown.key(Qt::Key_Escape);
-    QTest::sendKeyEvent(QTest::Click, shown.window, Qt::Key_unknown, u"ä"_s, Qt::NoModifier);
-    QCOMPARE(shown.listed(), QStringList{u"Ärger"_s});
-}
-
-void ImageComboKeyTest::followsEveryEdit()
-{
-    const ShownCombo shown;
-    shown.type(u"1"_s);
-    QCOMPARE(shown.listed(), QStringList({u"Temp1"_s, u"Temp10"_s, u"OutTemp1"_s}));
-    shown.type(u"0"_s);
-    QCOMPARE(shown.listed(), QStringList{u"Temp10"_s});
-    shown.key(Qt::Key_Backspace);
-    QCOMPARE(shown.listed(), QStringList({u"Temp1"_s, u"Temp10"_s, u"OutTemp1"_s}));
-    shown.key(Qt::Key_Home);
-    shown.type(u"tte"_s);
-    QCOMPARE(shown.listed(), QStringList{u"closed"_s});
-    shown.key(Qt::Key_Home);
-    shown.key(Qt::Key_Delete);
-    QCOMPARE(shown.listed(), QStringList{u"closed"_s}); // "te1"
-    shown.type(u"m"_s);
-    shown.key(Qt::Key_A, Qt::ControlModifier);
-    shown.type(u"u"_s);
-    QCOMPARE(shown.listed(), QStringList({u"Humidity"_s, u"OutTemp1"_s}));
-    shown.key(Qt::Key_Backspace); // open, so it shows all
-    QCOMPARE(shown.listed().size(), 4);
-}
-
-void ImageComboKeyTest::closesWhenNothingMatches()
-{
-    const ShownCombo shown;
-    shown.type(u"tx"_s);
-    QVERIFY(!shown->isListOpen());
-    QCOMPARE(shown->text(), u"tx"_s);
-    shown.key(Qt::Key_Backspace);
-    QCOMPARE(shown.listed().size(), 4);
-    shown.key(Qt::Key_Backspace);
-    shown.key(Qt::Key_Escape);
-    shown.key(Qt::Key_Backspace); // nothing to take away, so nothing opens
-    QVERIFY(!shown->isListOpen());
-}
-
-void ImageComboKeyTest::takesNothingForAnEmptyField()
-{
-    const ShownCombo shown;
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Tab}) {
-        shown->setSelectedIndex(1);
-        shown->setFocus();
-        shown.type(u"h"_s);
-        shown.key(Qt::Key_Home);
-        shown.key(Qt::Key_Delete);
-        QCOMPARE(shown.listed().size(), 4);
-        QCOMPARE(shown.marked(), QString());
-        ComboEvents events(shown.combo);
-        shown.key(key);
-        QCOMPARE(shown->selectedIndex(), 0);
-        QCOMPARE(shown->text(), QString());
-        QVERIFY(!shown->isListOpen());
-        QVERIFY(!events.take().contains(u"Click"_s));
-    }
-}
-
-void ImageComboKeyTest::takesTheMarkedEntryWithTab()
-{
-    const ShownCombo shown;
-    ComboEvents events(shown.combo);
-    shown.type(u"hum"_s);
-    events.take();
-    shown.key(Qt::Key_Tab);
-    QCOMPARE(shown->text(), u"Humidity"_s);
-    QCOMPARE(shown->selectedIndex(), 2);
-    QVERIFY(shown.after->hasFocus());
-    QCOMPARE(events.take(), u"Click 2 Humidity"_s);
-
-    shown->setFocus(Qt::TabFocusReason);
-    shown.type(u"out"_s);
-    shown.key(Qt::Key_Backtab, Qt::ShiftModifier);
-    QCOMPARE(shown->selectedIndex(), 4);
-    QVERIFY(shown.before->hasFocus());
-}
-
-void ImageComboKeyTest::escapeBringsBackTheEntry()
-{
-    const ShownCombo shown;
-    shown->setSelectedIndex(2);
-    shown.type(u"te"_s);
-    QCOMPARE(shown->selectedIndex(), 0);
-    ComboEvents events(shown.combo);
-    shown.key(Qt::Key_Escape);
-    QVERIFY(!shown->isListOpen());
-    QCOMPARE(shown->selectedIndex(), 2);
-    QCOMPARE(shown->text(), u"Humidity"_s);
-    QCOMPARE(events.take(), u"KeyDown 27 0, KeyPress 27, Change Humidity, KeyUp 27 0"_s);
-    shown.key(Qt::Key_F4);
-    shown.key(Qt::Key_Down);
-    events.take();
-    shown.key(Qt::Key_Escape); // nothing was changed
-    QCOMPARE(events.take(), u"KeyDown 27 0, KeyPress 27, KeyUp 27 0"_s);
-    QCOMPARE(shown->selectedIndex(), 2);
-}
-
-void ImageComboKeyTest::escapeBringsBackTheText()
-{
-    const ShownCombo shown;
-    shown->setText(u"of the host"_s);
-    shown.key(Qt::Key_A, Qt::ControlModifier);
-    shown.type(u"te"_s);
-    shown.key(Qt::Key_Escape);
-    QCOMPARE(shown->text(), u"of the host"_s);
-    QCOMPARE(shown->selectedIndex(), 0);
-}
-
-void ImageComboKeyTest::selectsATypedTextWhenTheFocusLeaves()
-{
-    const ShownCombo shown;
-    shown.type(u"temp10"_s);
-    shown->hidePopup();
-    ComboEvents events(shown.combo);
-    shown.after->setFocus();
-    QCOMPARE(shown->selectedIndex(), 3);
-    QCOMPARE(shown->text(), u"Temp10"_s);
-    QCOMPARE(events.take(), u"Click 3 Temp10"_s);
-    QVERIFY(!shown.field().hasSelectedText());
-}
-
-void ImageComboKeyTest::keepsATextThatIsNoEntry()
-{
-    const ShownCombo shown;
-    shown.type(u"temp"_s);
-    shown->hidePopup();
-    ComboEvents events(shown.combo);
-    shown.after->setFocus();
-    QCOMPARE(shown->selectedIndex(), 0);
-    QCOMPARE(shown->text(), u"temp"_s);
-    shown->setText(u"Temp1"_s); // by the host: is left as it is
-    events.take();
-    shown->setFocus();
-    shown.after->setFocus();
-    QCOMPARE(shown->selectedIndex(), 0);
-    QCOMPARE(events.take(), QString());
-}
-
-void ImageComboKeyTest::selectsATypedTextWithEnter()
-{
-    const ShownCombo shown;
-    shown.type(u"humidity"_s);
-    shown->hidePopup();
-    ComboEvents events(shown.combo);
-    shown.key(Qt::Key_Enter);
-    QCOMPARE(events.take(), u"KeyDown 13 0, KeyPress 13, Click 2 Humidity, KeyUp 13 0"_s);
-    shown.key(Qt::Key_Enter);
-    QVERIFY(!events.take().contains(u"Click"_s));
-}
-
-void ImageComboKeyTest::typingBackWhatWasSelectsItAgain()
-{
-    const ShownCombo shown;
-    shown->setSelectedIndex(2);
-    shown.key(Qt::Key_End);
-    shown.type(u"x"_s);
-    shown.key(Qt::Key_Backspace);
-    shown->hidePopup();
-    shown.after->setFocus();
-    QCOMPARE(shown->selectedIndex(), 2);
 }
 
 void ImageComboKeyTest::goesThroughTheListAndNoFurther()
@@ -421,45 +203,6 @@ void ImageComboKeyTest::letsUnusedKeysPass()
     key(Qt::Key_Return);
     key(Qt::Key_A);
     QCOMPARE(parent.keys, QList<int>());
-}
-
-void ImageComboKeyTest::takesWhatAnInputMethodCommits()
-{
-    const ShownCombo shown;
-    ComboEvents events(shown.combo);
-    QInputMethodEvent preedit(u"hu"_s, {});
-    QCoreApplication::sendEvent(shown.combo, &preedit);
-    QCOMPARE(events.take(), QString());
-    QInputMethodEvent commit;
-    commit.setCommitString(u"hum"_s);
-    QCoreApplication::sendEvent(shown.combo, &commit);
-    QCOMPARE(events.take(), u"Change hum"_s);
-    QCOMPARE(shown.listed(), QStringList{u"Humidity"_s});
-}
-
-void ImageComboKeyTest::takesWhatIsPasted()
-{
-    const ShownCombo shown;
-    shown->setSelectedIndex(1);
-    ComboEvents events(shown.combo);
-    QGuiApplication::clipboard()->setText(u"midi"_s);
-    shown.field().selectAll();
-    shown.field().paste(); // as the field's menu does
-    QCOMPARE(shown->selectedIndex(), 0);
-    QTRY_VERIFY(!events.isEmpty());
-    QCOMPARE(events.take(), u"Change midi"_s);
-    QCOMPARE(shown.listed(), QStringList{u"Humidity"_s});
-    shown.key(Qt::Key_Return);
-    QCOMPARE(shown->selectedIndex(), 2);
-}
-
-void ImageComboKeyTest::undoesTyping()
-{
-    const ShownCombo shown;
-    shown.type(u"hu"_s);
-    shown.key(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(shown->text(), QString());
-    QCOMPARE(shown.listed().size(), 4);
 }
 
 void ImageComboKeyTest::doesNothingWhileDisabled()
