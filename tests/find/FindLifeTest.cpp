@@ -182,6 +182,16 @@ private Q_SLOTS:
         QCOMPARE(messages().size(), 0);
     }
 
+    void itClosesWhenAnEditorThatWasNotShownIsDestroyed()
+    {
+        FindHost host;
+        auto *box = new RichTextBox;
+        host.dialog().Open(*box, false);
+        host.dialog().show();
+        delete box; // which is never hidden
+        QVERIFY(!host.dialog().isVisible());
+    }
+
     void destroyedWhileItIsModalTheCallReturns()
     {
         FindHost host;
