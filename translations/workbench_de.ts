@@ -285,6 +285,10 @@
         <source>Rename %1 to %2 in the program, too?</source>
         <translation>%1 auch im Programm in %2 umbenennen?</translation>
     </message>
+    <message>
+        <source>&amp;Hardware Overrides</source>
+        <translation>&amp;Handübersteuerungen</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::PointChooser</name>

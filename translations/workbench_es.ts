@@ -285,6 +285,10 @@
         <source>Rename %1 to %2 in the program, too?</source>
         <translation>¿Cambiar también %1 por %2 en el programa?</translation>
     </message>
+    <message>
+        <source>&amp;Hardware Overrides</source>
+        <translation>&amp;Mandos manuales</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::PointChooser</name>

@@ -285,6 +285,10 @@
         <source>Rename %1 to %2 in the program, too?</source>
         <translation>Renommer aussi %1 en %2 dans le programme ?</translation>
     </message>
+    <message>
+        <source>&amp;Hardware Overrides</source>
+        <translation>Forçages &amp;matériels</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::PointChooser</name>

@@ -113,6 +113,12 @@ void MainWindow::buildPointsMenu()
     rename->setShortcut(QKeySequence(Qt::Key_F2));
     rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
     points->addAction(tr("&Fit Columns"), &m_view->tables(), &PointTables::fitColumns);
+    points->addSeparator();
+    QAction *overrides = points->addAction(tr("&Hardware Overrides"));
+    overrides->setCheckable(true);
+    connect(overrides, &QAction::triggered, &m_view->tables(), &PointTables::setShowsOverrides);
+    connect(points, &QMenu::aboutToShow, overrides,
+            [this, overrides] { overrides->setChecked(m_view->tables().showsOverrides()); });
 }
 
 void MainWindow::buildViewMenu()

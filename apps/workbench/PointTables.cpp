@@ -30,9 +30,22 @@ PointTables::PointTables(ORVListView &list)
     connect(&list, &ORVListView::AfterLabelEdit, this, &PointTables::takeName);
 }
 
+void PointTables::setProject(Project *project)
+{
+    m_project = project;
+    m_showsOverrides = project && project->controller().isHOASupported;
+}
+
+void PointTables::setShowsOverrides(bool on)
+{
+    m_showsOverrides = on;
+    if (m_list.CurrentType() == dsOutput)
+        show(dsOutput);
+}
+
 void PointTables::show(LwType type)
 {
-    m_list.setIsHOASupported(m_project->controller().isHOASupported);
+    m_list.setIsHOASupported(m_showsOverrides);
     m_list.setListviewType(type);
     m_list.SetImage(isReading());
     if (type == dsCode)

@@ -24,7 +24,11 @@ public:
     explicit PointTables(ORVListView &list);
 
     // The project must live until the next call.
-    void setProject(Project *project) { m_project = project; }
+    void setProject(Project *project);
+
+    // Whether outputs show their hardware overrides; at first as the project says.
+    bool showsOverrides() const { return m_showsOverrides; }
+    void setShowsOverrides(bool on);
 
     // Shows the type's table; none for dsCode.
     void show(LwType type);
@@ -65,6 +69,7 @@ private:
     SimulatedController m_controller;
     QTimer *m_answer;
     LwType m_readType = dsCode;
+    bool m_showsOverrides = false;
     ListItem *m_edited = nullptr; // the list owns it
 };
 

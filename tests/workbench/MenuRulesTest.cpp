@@ -48,7 +48,7 @@ private Q_SLOTS:
                  "Edit: Undo, Redo, Restore Typed Text, Cut, Copy, Copy with Colours, Paste, "
                  "Find…, Replace…, Select All, Known Words\n"
                  "Program: Analyse, Compile, Results\n"
-                 "Points: Read Values, Rename, Fit Columns\n"
+                 "Points: Read Values, Rename, Fit Columns, Hardware Overrides\n"
                  "View: Language"_s);
     }
 

@@ -82,6 +82,21 @@ private Q_SLOTS:
         QVERIFY(!points.window.isWindowModified());
     }
 
+    void overridesCanBeSwitched()
+    {
+        Points points;
+        points.open(u"Outputs"_s);
+        QCOMPARE(points.code().ColumnHerders()->Count(), 9);
+        QMenu *menu = points.menus().at(3);
+        Q_EMIT menu->aboutToShow();
+        QVERIFY(points.command(u"Hardware Overrides"_s)->isChecked());
+        points.choose(u"Hardware Overrides"_s);
+        QCOMPARE(points.code().ColumnHerders()->Count(), 7);
+        QCOMPARE(points.cell(1, u"Label"_s), u"Fan1"_s);
+        points.choose(u"Hardware Overrides"_s);
+        QCOMPARE(points.cell(1, u"Hw Override Mode"_s), u"Hand"_s);
+    }
+
     void theReadButtonReads()
     {
         Points points;
