@@ -7,7 +7,7 @@ build_packages=(
     libgl-dev zlib1g-dev fonts-dejavu-core)
 
 test_packages=(
-    libgtest-dev libgmock-dev python3 qt6-base-private-dev libqt6opengl6-dev dpkg-dev
+    libgtest-dev libgmock-dev python3 qt6-base-private-dev libqt6opengl6-dev dpkg-dev file
     doxygen
     xvfb xauth xclip xdotool openbox x11-utils)
 
