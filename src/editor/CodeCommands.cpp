@@ -85,6 +85,11 @@ void CodeCommands::replace(const QList<TextPiece> &pieces, const QString &text)
     m_editor.replace(pieces, text, CodeEditor::Replacing::InColours);
 }
 
+void CodeCommands::edit(const std::function<void()> &change)
+{
+    m_editor.edit(change);
+}
+
 void CodeCommands::undo()
 {
     QString errMsg;

@@ -86,6 +86,7 @@ public:
     bool unindentBeforeCaret();
     void cutByKey();
     void removeSelection();
+    void edit(const std::function<void()> &change) { m_colouring.edit(change); }
     void pasteClipboard();
     bool pasteFromOutside(const QString &data);
     void finishCaretLine() { m_colouring.finishCaretLine(); }
@@ -121,7 +122,9 @@ private:
     void applyAppearance(const RichTextSettings &setting);
     QString sampleRtf();
     ColouredText coloured(const QString &text) const;
+    void changeIndent(const std::function<void()> &change);
     void pasteChecked(const QString &data);
+    void pastePlain(const ColouredText &text);
     void finishLines(qint32 first, qint32 last);
     void noteTextChange();
     void raiseStatus();
@@ -142,7 +145,6 @@ private:
     PopupWordList m_popup;
     QPointer<QWidget> m_form;
     bool m_isReady = false;
-    bool m_isKeyInBox = false; // a key is on its way through the box
 };
 
 } // namespace ORVTListview

@@ -72,6 +72,11 @@ void BoxCommands::replace(const QList<TextPiece> &pieces, const QString &text)
     m_box.replacePieces(pieces, text);
 }
 
+void BoxCommands::edit(const std::function<void()> &change)
+{
+    change();
+}
+
 void BoxCommands::undo() {}
 
 void BoxCommands::redo() {}

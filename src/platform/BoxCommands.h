@@ -6,6 +6,7 @@
 
 #include <QtCore/QList>
 
+#include <functional>
 #include <optional>
 
 class QMenu;
@@ -47,6 +48,10 @@ public:
 
     // One text in the place of pieces of the text, as replacePieces of the box.
     virtual void replace(const QList<TextPiece> &pieces, const QString &text);
+
+    // What the box itself does for the user: a key that no command is for, the end
+    // of a drag. It changes the text at most once, and may destroy the box.
+    virtual void edit(const std::function<void()> &change);
 
     virtual void undo(); // does nothing here
     virtual void redo(); // does nothing here

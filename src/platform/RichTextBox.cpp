@@ -60,7 +60,7 @@ void RichTextBox::noteTextChange()
     if (changes == m_parts->announcedChanges)
         return;
     m_parts->announcedChanges = changes;
-    if (!m_parts->isQuiet)
+    if (!m_parts->isQuiet && !m_parts->keepsText)
         Q_EMIT Change();
 }
 
@@ -187,7 +187,7 @@ qint32 RichTextBox::SelColor() const
 
 void RichTextBox::setSelColor(qint32 colour)
 {
-    const QScopedValueRollback quiet(m_parts->isQuiet, true);
+    const QScopedValueRollback keepsText(m_parts->keepsText, true);
     const qint32 shown = colour == ColouredText::automatic
                              ? colour
                              : Colours::fromColor(Colours::toColor(colour, paletteAround()));
@@ -265,8 +265,13 @@ void RichTextBox::setSelColoured(const ColouredText &text)
 
 void RichTextBox::recolour(qint32 start, const ColouredText &text)
 {
-    const QScopedValueRollback quiet(m_parts->isQuiet, true);
+    const QScopedValueRollback keepsText(m_parts->keepsText, true);
     BoxColours::apply(*document(), m_parts->text, start, text);
+}
+
+bool RichTextBox::keepsText() const
+{
+    return m_parts->keepsText;
 }
 
 ColouredText RichTextBox::coloured(qint32 start, qint32 length) const

@@ -150,6 +150,10 @@ public:
     // While an input method composes; the text does not hold what it composes.
     bool isComposing() const;
 
+    // While the document changes in colours and in what an input method composes,
+    // but not in its text.
+    bool keepsText() const;
+
     // What keys, shortcuts, context menu, drag and drop, middle click and input
     // method end in. The box owns it; it is a plain editor at first and never null.
     BoxCommands &commands() const;

@@ -29,7 +29,8 @@ void RichTextBox::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     const QPoint way = event->pos() - *m_parts->dragStart;
-    if (way.manhattanLength() >= QApplication::startDragDistance())
+    // The selection may have gone with its text since.
+    if (way.manhattanLength() >= QApplication::startDragDistance() && textCursor().hasSelection())
         startDrag(*event);
 }
 
@@ -78,7 +79,7 @@ void RichTextBox::dropEvent(QDropEvent *event)
     if (!self || !isDone)
         return;
     if (moves)
-        dragged.removeSelectedText();
+        commands().edit([&dragged] { dragged.removeSelectedText(); });
     event->acceptProposedAction();
 }
 

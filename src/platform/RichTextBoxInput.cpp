@@ -136,12 +136,14 @@ void RichTextBox::act(QKeyEvent *event)
     } else if (isTyping(*event)) {
         commands().type(event->text());
     } else if (isBackspace(*event)) {
-        deleteBefore();
+        commands().edit([this] { deleteBefore(); });
     } else if (isAltText(*event)) {
         event->ignore();
     } else {
-        QPlainTextEdit::keyPressEvent(event);
-        keepCaretWhole();
+        commands().edit([this, event] {
+            QPlainTextEdit::keyPressEvent(event);
+            keepCaretWhole();
+        });
     }
 }
 
@@ -169,7 +171,7 @@ void RichTextBox::keepCaretWhole()
 // The toolkit reports what is being composed as a change of the line.
 void RichTextBox::compose(QInputMethodEvent *event)
 {
-    const QScopedValueRollback quiet(m_parts->isQuiet, true);
+    const QScopedValueRollback keepsText(m_parts->keepsText, true);
     QPlainTextEdit::inputMethodEvent(event);
 }
 

@@ -28,6 +28,7 @@ struct RichTextBox::Parts
     qint32 backColor = Colours::windowBackground;
     bool hasOwnPalette = false;   // set for backColor
     bool isQuiet = false;         // Change is not raised
+    bool keepsText = false;       // what changes is not the text
     quint64 announcedChanges = 0; // of text.changeCount()
     std::unique_ptr<BoxCommands> commands;
     std::optional<QPoint> dragStart; // where the selection was taken hold of

@@ -71,6 +71,7 @@ private Q_SLOTS:
     void draggingToAnotherBoxMovesText();
     void aReadOnlyBoxGivesCopies();
     void aClickIntoTheSelectionDoesNotDrag();
+    void aSelectionThatIsGoneIsNotDragged();
     void aMiddleClickEndsInPaste();
 
 private:
@@ -181,6 +182,24 @@ void BoxDragTest::aClickIntoTheSelectionDoesNotDrag()
     QCOMPARE(m_box->SelLength(), 0);
     QTest::mouseMove(m_window->windowHandle(), inWindow(*m_other, 2));
     QCOMPARE(m_log, QStringList());
+}
+
+void BoxDragTest::aSelectionThatIsGoneIsNotDragged()
+{
+    QWindow *window = m_window->windowHandle();
+    m_box->setSelLength(8);
+    QTest::mousePress(window, Qt::LeftButton, {}, inWindow(*m_box, 2));
+    m_box->setText(u"another text"_s);
+    const QPoint to = inWindow(*m_other, 8);
+    QTimer::singleShot(0, window, [=] { // ends a drag's loop
+        QTest::mouseMove(window, to);
+        QTest::mouseRelease(window, Qt::LeftButton, {}, to);
+    });
+    QTest::mouseMove(window, inWindow(*m_box, 6));
+    QTest::mouseMove(window, to - QPoint(1, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_log, QStringList());
+    QCOMPARE(m_box->Text(), u"another text"_s);
 }
 
 void BoxDragTest::aMiddleClickEndsInPaste()
