@@ -21,22 +21,28 @@ void warn(const QString &text)
     threadPart<Messages>().service().show({Message::Icon::Exclamation, Localise(u"Paste"_s), text});
 }
 
-} // namespace
-
-bool PasteText(RichTextBox &box, const QString &Data)
+void put(RichTextBox &box, const QString &data)
 {
-    if (isRtf(Data)) {
-        box.setSelRTF(Data);
-        return true;
-    }
-    if (Data.contains(u'\\')) {
-        warn(Localise(u"Invalid letter: '\\' that is reserved to RTF!"_s));
-        return false;
+    if (isRtf(data)) {
+        box.setSelRTF(data);
+        return;
     }
     const bool continuesComment = IsCommentLine(box.lineText(box.GetLineFromChar(box.SelStart())));
-    box.setSelColoured(colouredText(threadColouring(), withCrLf(Data), continuesComment,
+    box.setSelColoured(colouredText(threadColouring(), withCrLf(data), continuesComment,
                                     threadPart<EditorState>().EditorSettings));
-    return true;
+}
+
+} // namespace
+
+Pasted PasteText(RichTextBox &box, const QString &Data)
+{
+    if (!isRtf(Data) && Data.contains(u'\\')) {
+        warn(Localise(u"Invalid letter: '\\' that is reserved to RTF!"_s));
+        return Pasted::Refused;
+    }
+    const qint32 rest = box.TextLength() - box.SelLength();
+    put(box, Data);
+    return box.TextLength() > rest ? Pasted::Done : Pasted::Nothing;
 }
 
 bool acceptPasteSize(const QString &data)

@@ -1,7 +1,6 @@
 #include "editor/CodeEditor.h"
 
 #include "editor/CaretPosition.h"
-#include "editor/CheckedPaste.h"
 #include "editor/CodeCommands.h"
 #include "editor/CodeReplacing.h"
 #include "editor/ColourText.h"
@@ -347,31 +346,30 @@ void CodeEditor::pasteClipboard()
     pasteFromOutside(QGuiApplication::clipboard()->text());
 }
 
-bool CodeEditor::pasteFromOutside(const QString &data)
+Pasted CodeEditor::pasteFromOutside(const QString &data)
 {
     if (data.isEmpty() || !acceptPasteSize(data))
-        return false;
+        return Pasted::Refused;
     const QPointer<CodeEditor> self(this);
     if (data != m_box->SelText()) {
         PushUndoSnapshot();
         Q_EMIT UpdateUndoMenu();
     }
-    if (!self)
-        return false;
-    pasteChecked(data);
-    return true;
+    return self ? pasteChecked(data) : Pasted::Refused;
 }
 
-void CodeEditor::pasteChecked(const QString &data)
+Pasted CodeEditor::pasteChecked(const QString &data)
 {
     const qint32 firstLine = m_box->GetLineFromChar(m_box->SelStart());
-    if (!PasteText(*m_box, data))
-        return;
+    const Pasted result = PasteText(*m_box, data);
+    if (result == Pasted::Refused)
+        return result;
     if (!isRtf(data)) { // which keeps the colours it came with
         finishLines(firstLine, m_box->GetLineFromChar(m_box->SelStart()));
         m_colouring.noteEdit();
     }
     m_box->ensureCursorVisible();
+    return result;
 }
 
 // Those before the last one, which the caret is still on.

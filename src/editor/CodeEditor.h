@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/CheckedPaste.h"
 #include "editor/EditorKeys.h"
 #include "editor/EditorUndo.h"
 #include "editor/LineCommands.h"
@@ -87,7 +88,7 @@ public:
     void cutByKey();
     void removeSelection();
     void pasteClipboard();
-    bool pasteFromOutside(const QString &data);
+    Pasted pasteFromOutside(const QString &data);
     void finishCaretLine() { m_colouring.finishCaretLine(); }
     void PushUndoSnapshot() { m_undo.PushUndoSnapshot(m_isReady); }
     void rearmStatusTimer() { m_status->rearm(); }
@@ -121,7 +122,7 @@ private:
     void applyAppearance(const RichTextSettings &setting);
     QString sampleRtf();
     ColouredText coloured(const QString &text) const;
-    void pasteChecked(const QString &data);
+    Pasted pasteChecked(const QString &data);
     void finishLines(qint32 first, qint32 last);
     void noteTextChange();
     void raiseStatus();

@@ -63,20 +63,26 @@ void RichTextBox::dropEvent(QDropEvent *event)
 {
     QDragLeaveEvent leave; // takes the toolkit's drop caret away
     QPlainTextEdit::dragLeaveEvent(&leave);
+    const bool moves = event->source() == viewport() && event->dropAction() == Qt::MoveAction;
+    event->setDropAction(Qt::IgnoreAction); // so that no source removes what did not go in
     event->ignore();
     if (!canInsertFromMimeData(event->mimeData()))
         return;
-    QTextCursor dragged = textCursor();
+    const QTextCursor before = textCursor();
+    QTextCursor dragged = before;
     const QTextCursor place = cursorForPosition(event->position().toPoint());
-    const bool moves = event->source() == viewport() && event->dropAction() == Qt::MoveAction;
     if (moves && place.position() >= dragged.selectionStart() &&
         place.position() <= dragged.selectionEnd())
         return;
     const QPointer<RichTextBox> self(this);
     setTextCursor(place);
     const bool isDone = commands().paste(*event->mimeData());
-    if (!self || !isDone)
+    if (!self)
         return;
+    if (!isDone) {
+        setTextCursor(before);
+        return;
+    }
     if (moves)
         dragged.removeSelectedText();
     event->acceptProposedAction();

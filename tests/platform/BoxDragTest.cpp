@@ -1,17 +1,16 @@
 #include "platform/BoxCommands.h"
 #include "platform/RichTextBox.h"
+#include "support/TextDrag.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
-#include <QtGui/QWindow>
-#include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
+using TextDrag::inWindow;
 
 namespace {
 
@@ -42,17 +41,6 @@ private:
     bool m_pastes;
 };
 
-QPoint inWindow(RichTextBox &box, qint32 position)
-{
-    const qint32 start = box.SelStart();
-    const qint32 length = box.SelLength();
-    box.setSelStart(position);
-    const QPoint point = box.cursorRect().center();
-    box.setSelStart(start);
-    box.setSelLength(length);
-    return box.viewport()->mapTo(box.window(), point);
-}
-
 } // namespace
 
 // Needs a display that can drag: the offscreen platform cannot.
@@ -74,7 +62,7 @@ private Q_SLOTS:
     void aMiddleClickEndsInPaste();
 
 private:
-    void drag(const QPoint &from, const QPoint &to);
+    void drag(const QPoint &from, const QPoint &to) { TextDrag::drag(*m_window, from, to); }
     void record(RichTextBox &box, bool pastes)
     {
         box.setCommands(std::make_unique<Recorder>(box, m_log, pastes));
@@ -101,20 +89,6 @@ void BoxDragTest::init()
     m_window->resize(400, 300);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-}
-
-void BoxDragTest::drag(const QPoint &from, const QPoint &to)
-{
-    QWindow *window = m_window->windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, {}, from);
-    // The drag runs a loop of its own, which the release ends.
-    QTimer::singleShot(0, window, [window, to] {
-        QTest::mouseMove(window, to - QPoint(1, 0));
-        QTest::mouseMove(window, to);
-        QTest::mouseRelease(window, Qt::LeftButton, {}, to);
-    });
-    QTest::mouseMove(window, from + QPoint(40, 0));
-    QCoreApplication::processEvents();
 }
 
 void BoxDragTest::draggingMovesText()
