@@ -51,9 +51,14 @@ void RichTextBox::startDrag(const QMouseEvent &event)
     const Qt::DropActions actions = isReadOnly() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
     const QPointer<RichTextBox> self(this);
     const QPointer<QDrag> alive(drag);
+    m_parts->dragged = dragged;
     const Qt::DropAction action =
         drag->exec(actions, isReadOnly() ? Qt::CopyAction : Qt::MoveAction);
-    if (self && alive && action == Qt::MoveAction && alive->target() != viewport()) {
+    if (!self)
+        return;
+    m_parts->dragged = {};
+    const bool isGone = alive && action == Qt::MoveAction && alive->target() != viewport();
+    if (isGone && !isReadOnly()) {
         setTextCursor(dragged);
         commands().remove();
     }
@@ -69,7 +74,7 @@ void RichTextBox::dropEvent(QDropEvent *event)
     if (!canInsertFromMimeData(event->mimeData()))
         return;
     const QTextCursor before = textCursor();
-    QTextCursor dragged = before;
+    QTextCursor dragged = m_parts->dragged;
     const QTextCursor place = cursorForPosition(event->position().toPoint());
     if (moves && place.position() >= dragged.selectionStart() &&
         place.position() <= dragged.selectionEnd())

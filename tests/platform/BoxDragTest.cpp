@@ -57,9 +57,22 @@ private Q_SLOTS:
     void draggingIntoTheSelectionDoesNothing();
     void aRefusedMoveLosesNothing();
     void draggingToAnotherBoxMovesText();
+    void aMoveRemovesWhatWasDragged();
+    void aBoxMadeReadOnlyMeanwhileKeepsItsText();
     void aReadOnlyBoxGivesCopies();
     void aClickIntoTheSelectionDoesNotDrag();
     void aMiddleClickEndsInPaste();
+
+protected:
+    // A host that selects something else while text is dragged.
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::DragMove) {
+            m_box->setSelStart(4);
+            m_box->setSelLength(3);
+        }
+        return false;
+    }
 
 private:
     void drag(const QPoint &from, const QPoint &to) { TextDrag::drag(*m_window, from, to); }
@@ -136,6 +149,23 @@ void BoxDragTest::draggingToAnotherBoxMovesText()
     QCOMPARE(m_other->Text(), u"one two one three"_s);
     QCOMPARE(m_box->Text(), u"two three"_s);
     QCOMPARE(m_log, QStringList({u"paste one "_s, u"remove one "_s}));
+}
+
+void BoxDragTest::aMoveRemovesWhatWasDragged()
+{
+    m_box->setSelLength(4);
+    m_box->viewport()->installEventFilter(this);
+    drag(inWindow(*m_box, 1), inWindow(*m_box, 13));
+    QCOMPARE(m_box->Text(), u"two threeone "_s);
+}
+
+void BoxDragTest::aBoxMadeReadOnlyMeanwhileKeepsItsText()
+{
+    connect(m_other, &RichTextBox::Change, this, [this] { m_box->setReadOnly(true); });
+    m_box->setSelLength(4);
+    drag(inWindow(*m_box, 1), inWindow(*m_other, 8));
+    QCOMPARE(m_other->Text(), u"one two one three"_s);
+    QCOMPARE(m_box->Text(), u"one two three"_s);
 }
 
 void BoxDragTest::aReadOnlyBoxGivesCopies()
