@@ -96,7 +96,9 @@ private Q_SLOTS:
         QCOMPARE(host.marked(), u"x |y| z"_s);
         commit(host, u"a\\b"_s, 0, 0);
         QCOMPARE(host.marked(), u"x |y| z"_s);
-        QCOMPARE(messages().size(), 2);
+        commit(host, u"a\\b"_s, -2, 3); // in the place of other text
+        QCOMPARE(host.marked(), u"x |y| z"_s);
+        QCOMPARE(messages().size(), 3);
     }
 
     void plainTextIsColoured()
