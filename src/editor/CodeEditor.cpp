@@ -348,7 +348,7 @@ void CodeEditor::pasteClipboard()
 
 Pasted CodeEditor::pasteFromOutside(const QString &data)
 {
-    if (data.isEmpty() || !acceptPasteSize(data))
+    if (data.isEmpty() || m_box->isReadOnly() || !acceptPasteSize(data))
         return Pasted::Refused;
     const QPointer<CodeEditor> self(this);
     if (data != m_box->SelText()) {

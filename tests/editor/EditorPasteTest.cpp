@@ -101,6 +101,20 @@ private Q_SLOTS:
         QCOMPARE(messages().size(), 3);
     }
 
+    void noKeyPastesIntoAReadOnlyEditor()
+    {
+        EditorHost host;
+        host.setText(u"x |y| z"_s);
+        host.box().setReadOnly(true);
+        QGuiApplication::clipboard()->setText(u"w"_s);
+        QSignalSpy menu(host.list, &ORVListView::UpdateUndoMenu);
+        host.key('V', Qt::ControlModifier);
+        host.key(Qt::Key_Insert, Qt::ShiftModifier);
+        QCOMPARE(host.marked(), u"x |y| z"_s);
+        QCOMPARE(menu.size(), 0);
+        QCOMPARE(host.ring().UndoNewest(), 0);
+    }
+
     void plainTextIsColoured()
     {
         EditorHost host;
