@@ -57,7 +57,7 @@ void CodeCommands::type(const QString &text)
 
 bool CodeCommands::paste(const QMimeData &data)
 {
-    return data.hasText() && m_editor.pasteFromOutside(data.text());
+    return data.hasText() && m_editor.pasteFromOutside(data.text()) == Pasted::Done;
 }
 
 void CodeCommands::copy()

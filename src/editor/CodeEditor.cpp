@@ -1,7 +1,6 @@
 #include "editor/CodeEditor.h"
 
 #include "editor/CaretPosition.h"
-#include "editor/CheckedPaste.h"
 #include "editor/CodeCommands.h"
 #include "editor/CodeReplacing.h"
 #include "editor/ColourText.h"
@@ -341,30 +340,40 @@ void CodeEditor::pasteClipboard()
     pasteFromOutside(QGuiApplication::clipboard()->text());
 }
 
-bool CodeEditor::pasteFromOutside(const QString &data)
+Pasted CodeEditor::pasteFromOutside(const QString &data)
 {
-    if (data.isEmpty() || !acceptPasteSize(data))
-        return false;
+    if (data.isEmpty() || m_box->isReadOnly() || !acceptPasteSize(data))
+        return Pasted::Refused;
     const QPointer<CodeEditor> self(this);
     if (data != m_box->SelText()) {
         PushUndoSnapshot();
         Q_EMIT UpdateUndoMenu();
     }
-    if (!self)
-        return false;
-    pasteChecked(data);
-    return true;
+    return self ? pasteChecked(data) : Pasted::Refused;
 }
 
-void CodeEditor::pasteChecked(const QString &data)
+Pasted CodeEditor::pasteChecked(const QString &data)
 {
-    if (isRtf(data)) {
-        m_colouring.finishEdit(); // RTF keeps the colours that it comes with
-        m_box->setSelRTF(data);
-        m_box->ensureCursorVisible();
-    } else if (const std::optional<ColouredText> text = textToPaste(*m_box, data)) {
+    const std::optional<ColouredText> text = isRtf(data) ? std::nullopt : textToPaste(*m_box, data);
+    if (!text && !isRtf(data))
+        return Pasted::Refused;
+    const QPointer<RichTextBox> box = m_box; // the host may destroy it
+    const qint32 rest = m_box->TextLength() - m_box->SelLength();
+    if (text)
         pastePlain(*text);
-    }
+    else
+        pasteRtf(data);
+    return box && box->TextLength() <= rest ? Pasted::Nothing : Pasted::Done;
+}
+
+// RTF keeps the colours that it comes with.
+void CodeEditor::pasteRtf(const QString &rtf)
+{
+    const QPointer<RichTextBox> box = m_box; // the host may destroy it
+    m_colouring.finishEdit();
+    box->setSelRTF(rtf);
+    if (box)
+        box->ensureCursorVisible();
 }
 
 void CodeEditor::pastePlain(const ColouredText &text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/CheckedPaste.h"
 #include "editor/EditorKeys.h"
 #include "editor/EditorUndo.h"
 #include "editor/LineCommands.h"
@@ -88,7 +89,7 @@ public:
     void removeSelection();
     void edit(const std::function<void()> &change) { m_colouring.edit(change); }
     void pasteClipboard();
-    bool pasteFromOutside(const QString &data);
+    Pasted pasteFromOutside(const QString &data);
     void finishCaretLine() { m_colouring.finishCaretLine(); }
     void PushUndoSnapshot() { m_undo.PushUndoSnapshot(m_isReady); }
     void rearmStatusTimer() { m_status->rearm(); }
@@ -123,8 +124,9 @@ private:
     QString sampleRtf();
     ColouredText coloured(const QString &text) const;
     void changeIndent(const std::function<void()> &change);
-    void pasteChecked(const QString &data);
+    Pasted pasteChecked(const QString &data);
     void pastePlain(const ColouredText &text);
+    void pasteRtf(const QString &rtf);
     void finishLines(qint32 first, qint32 last);
     void noteTextChange();
     void raiseStatus();

@@ -30,9 +30,10 @@ void BoxCommands::type(const QString &text)
 
 bool BoxCommands::paste(const QMimeData &data)
 {
-    if (!data.hasText())
+    const QString text = data.text();
+    if (text.isEmpty())
         return false;
-    m_box.setSelText(data.text());
+    m_box.setSelText(text);
     return true;
 }
 

@@ -37,8 +37,8 @@ public:
     // comes as CR LF. An input method may give any text.
     virtual void type(const QString &text);
 
-    // Puts the data in the place of the selection and returns whether it did.
-    // Only plain text is taken.
+    // Puts the data in the place of the selection and returns whether text went in:
+    // only then does a drop take it away from where it was. Only plain text is taken.
     virtual bool paste(const QMimeData &data);
 
     virtual void copy();

@@ -218,6 +218,7 @@ private:
     void keepCaretWhole();
     void compose(QInputMethodEvent *event);
     void selectReplaced(const QInputMethodEvent &event);
+    void commit(const QInputMethodEvent &event);
     void startDrag(const QMouseEvent &event);
 
     std::unique_ptr<Parts> m_parts;

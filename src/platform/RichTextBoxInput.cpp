@@ -182,6 +182,21 @@ void RichTextBox::selectReplaced(const QInputMethodEvent &event)
     select(qBound(0, start, last), qBound(0, start + event.replacementLength(), last));
 }
 
+void RichTextBox::commit(const QInputMethodEvent &event)
+{
+    QInputMethodEvent endOfComposition;
+    compose(&endOfComposition);
+    const QTextCursor before = textCursor();
+    const quint64 changes = m_parts->text.changeCount();
+    if (event.replacementLength() > 0)
+        selectReplaced(event);
+    const QPointer<RichTextBox> self(this);
+    commands().type(event.commitString());
+    // Refused text leaves nothing selected that the next key would replace.
+    if (self && event.replacementLength() > 0 && m_parts->text.changeCount() == changes)
+        setTextCursor(before);
+}
+
 void RichTextBox::inputMethodEvent(QInputMethodEvent *event)
 {
     event->setAccepted(!isReadOnly());
@@ -191,13 +206,8 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent *event)
     // The toolkit would remove what a composition takes the place of.
     if (!event->preeditString().isEmpty() && textCursor().hasSelection())
         commands().remove();
-    if (self && (!event->commitString().isEmpty() || event->replacementLength() > 0)) {
-        QInputMethodEvent endOfComposition;
-        compose(&endOfComposition);
-        if (event->replacementLength() > 0)
-            selectReplaced(*event);
-        commands().type(event->commitString());
-    }
+    if (self && (!event->commitString().isEmpty() || event->replacementLength() > 0))
+        commit(*event);
     if (!self)
         return;
     QInputMethodEvent rest(event->preeditString(), event->attributes());

@@ -7,6 +7,7 @@
 #include "platform/RichTextBox.h"
 
 #include <QtCore/QPoint>
+#include <QtGui/QTextCursor>
 
 #include <memory>
 #include <optional>
@@ -32,6 +33,7 @@ struct RichTextBox::Parts
     quint64 announcedChanges = 0; // of text.changeCount()
     std::unique_ptr<BoxCommands> commands;
     std::optional<QPoint> dragStart; // where the selection was taken hold of
+    QTextCursor dragged;             // while a drag of this box runs
 };
 
 } // namespace ORVTListview
