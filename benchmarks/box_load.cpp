@@ -6,9 +6,9 @@
 #include "program.h"
 #include "report.h"
 
-#include "editor/ColourText.h"
-#include "editor/ThreadColouring.h"
-#include "platform/ColouredText.h"
+#include "base/ColouredText.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/ThreadColouring.h"
 
 #include <QtGui/QTextBlock>
 #include <QtWidgets/QApplication>

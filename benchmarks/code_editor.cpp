@@ -1,7 +1,7 @@
 #include "code_editor.h"
 
-#include "editor/ColourTable.h"
-#include "editor/UndoStore.h"
+#include "editor/rules/colouring/ColourTable.h"
+#include "editor/rules/undo/UndoStore.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -2,7 +2,7 @@
 
 #include "points.h"
 
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
 
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>

@@ -5,8 +5,8 @@
 #include "program.h"
 #include "report.h"
 
-#include "editor/ColourText.h"
-#include "editor/ThreadColouring.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/ThreadColouring.h"
 
 using namespace ORVTListview;
 using namespace ORVTListview::bench;

@@ -9,9 +9,9 @@
 #include "scintilla.h"
 #include "syntax_definition.h"
 
-#include "editor/ColourText.h"
-#include "editor/ThreadColouring.h"
-#include "editor/WordClass.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/ThreadColouring.h"
+#include "editor/rules/language/WordClass.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QJsonDocument>

@@ -8,9 +8,9 @@
 #include "points.h"
 #include "report.h"
 
-#include "platform/ImageCombo.h"
-#include "shared/Pictures.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include "widgets/combo/ImageCombo.h"
+#include "widgets/look/Pictures.h"
 
 #include <ORVTListview/ImageList.h>
 #include <ORVTListview/ORVDataCombo.h>

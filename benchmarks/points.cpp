@@ -1,8 +1,8 @@
 #include "points.h"
 
-#include "editor/ThreadColouring.h"
-#include "editor/Vocabulary.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ThreadColouring.h"
+#include "editor/rules/language/Vocabulary.h"
 
 #include <array>
 

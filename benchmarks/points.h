@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shared/IndexedName.h"
-#include "shared/PointCollection.h"
+#include <ORVTListview/IndexedName.h>
+#include <ORVTListview/PointCollection.h>
 
 #include <QtCore/QStringList>
 

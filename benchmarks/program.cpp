@@ -2,7 +2,7 @@
 
 #include "points.h"
 
-#include "editor/Vocabulary.h"
+#include "editor/rules/language/Vocabulary.h"
 
 #include <functional>
 

@@ -4,12 +4,12 @@
 #include "painting.h"
 #include "report.h"
 
-#include "platform/ImageList.h"
-#include "platform/NodeTree.h"
-#include "shared/DisplayNames.h"
-#include "shared/Pictures.h"
-#include "shared/SettingsStore.h"
-#include "tree/PageArrangement.h"
+#include "shared/points/DisplayNames.h"
+#include "tree/rules/PageArrangement.h"
+#include "widgets/look/Pictures.h"
+#include "widgets/nodes/NodeTree.h"
+#include <ORVTListview/ImageList.h>
+#include <ORVTListview/SettingsStore.h>
 
 #include <ORVTListview/ORVTreeview.h>
 

@@ -5,10 +5,10 @@
 #include "program.h"
 #include "report.h"
 
-#include "editor/UndoStore.h"
+#include "base/ThreadState.h"
+#include "editor/rules/undo/UndoStore.h"
 #include "find/FindDialog.h"
 #include "find/fFind.h"
-#include "shared/ThreadState.h"
 
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>

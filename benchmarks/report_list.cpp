@@ -4,11 +4,11 @@
 #include "painting.h"
 #include "report.h"
 
-#include "platform/ListItem.h"
-#include "platform/ListItems.h"
-#include "platform/ReportList.h"
-#include "pointtable/ColumnLayouts.h"
-#include "pointtable/ORVListView.h"
+#include "pointtable/rules/ColumnLayouts.h"
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ReportList.h>
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>

@@ -2,9 +2,9 @@
 
 #include "points.h"
 
-#include "editor/ColourTable.h"
-#include "editor/WordClass.h"
-#include "platform/Colours.h"
+#include "editor/rules/colouring/ColourTable.h"
+#include "editor/rules/language/WordClass.h"
+#include "widgets/look/Colours.h"
 
 #include <Qsci/qscilexer.h>
 #include <Qsci/qsciscintilla.h>

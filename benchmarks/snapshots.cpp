@@ -7,8 +7,8 @@
 #include "program.h"
 #include "report.h"
 
-#include "editor/UndoStore.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include "editor/rules/undo/UndoStore.h"
 
 #include <QtWidgets/QApplication>
 

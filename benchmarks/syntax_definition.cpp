@@ -2,7 +2,7 @@
 
 #include "points.h"
 
-#include "editor/WordClass.h"
+#include "editor/rules/language/WordClass.h"
 
 #include <QtCore/QStringList>
 

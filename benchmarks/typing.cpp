@@ -9,8 +9,8 @@
 #include "report.h"
 #include "scintilla.h"
 
-#include "editor/LineColouring.h"
-#include "editor/ThreadColouring.h"
+#include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/ThreadColouring.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtWidgets/QApplication>

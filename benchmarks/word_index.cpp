@@ -4,7 +4,7 @@
 #include "program.h"
 #include "report.h"
 
-#include "editor/WordIndex.h"
+#include "editor/rules/language/WordIndex.h"
 
 #include <QtCore/QSet>
 

@@ -7,9 +7,9 @@
 #include "points.h"
 #include "report.h"
 
-#include "platform/ListItem.h"
-#include "platform/ReportList.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ReportList.h>
 
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>

@@ -1,7 +1,7 @@
 #include "ComponentWidget.h"
 
-#include "platform/ImageList.h"
-#include "shared/Pictures.h"
+#include "widgets/look/Pictures.h"
+#include <ORVTListview/ImageList.h>
 
 using namespace Qt::StringLiterals;
 

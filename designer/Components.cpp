@@ -1,9 +1,9 @@
 #include "Components.h"
 
-#include "combo/ORVDataCombo.h"
-#include "pointtable/ORVListView.h"
-#include "richtext/ORVRichText.h"
-#include "tree/ORVTreeview.h"
+#include <ORVTListview/ORVDataCombo.h>
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ORVRichText.h>
+#include <ORVTListview/ORVTreeview.h>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;

@@ -1,9 +1,9 @@
 #include "colour/ProgramColouring.h"
 
-#include "editor/ColourTable.h"
-#include "editor/ColourText.h"
-#include "editor/RtfHead.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ColourTable.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/RtfHead.h"
 
 namespace ORVTListview {
 

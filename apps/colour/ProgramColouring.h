@@ -1,7 +1,7 @@
 #pragma once
 
 #include "colour/CommandLine.h"
-#include "editor/Vocabulary.h"
+#include "editor/rules/language/Vocabulary.h"
 #include "project/Project.h"
 
 #include <map>

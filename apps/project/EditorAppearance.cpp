@@ -2,7 +2,7 @@
 
 #include "project/ProjectTexts.h"
 
-#include "editor/ColourTable.h"
+#include "editor/rules/colouring/ColourTable.h"
 
 #include <algorithm>
 #include <array>

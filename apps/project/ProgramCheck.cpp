@@ -1,9 +1,9 @@
 #include "project/ProgramCheck.h"
 
-#include "editor/CodeText.h"
-#include "editor/PopupWords.h"
-#include "editor/Vocabulary.h"
-#include "platform/TextRules.h"
+#include "base/TextRules.h"
+#include "editor/rules/language/CodeText.h"
+#include "editor/rules/language/PopupWords.h"
+#include "editor/rules/language/Vocabulary.h"
 
 #include <algorithm>
 

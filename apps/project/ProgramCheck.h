@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/WordClass.h"
+#include "editor/rules/language/WordClass.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>

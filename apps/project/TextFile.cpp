@@ -1,6 +1,6 @@
 #include "project/TextFile.h"
 
-#include "platform/TextRules.h"
+#include "base/TextRules.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
 

@@ -1,6 +1,6 @@
 #include "CheckTexts.h"
 
-#include "editor/Vocabulary.h"
+#include "editor/rules/language/Vocabulary.h"
 
 #include <QtCore/QCoreApplication>
 

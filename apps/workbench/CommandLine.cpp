@@ -1,7 +1,7 @@
 #include "CommandLine.h"
 
 #include "Languages.h"
-#include "shared/DisplayNames.h"
+#include "shared/points/DisplayNames.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>

@@ -10,11 +10,11 @@
 #include "ProgramSaving.h"
 #include "ProgramText.h"
 #include "ProjectView.h"
-#include "editor/CodeWordList.h"
-#include "editor/Vocabulary.h"
+#include "base/ThreadState.h"
+#include "editor/rules/language/CodeWordList.h"
+#include "editor/rules/language/Vocabulary.h"
 #include "project/ProgramCheck.h"
 #include "project/Project.h"
-#include "shared/ThreadState.h"
 
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>

@@ -1,6 +1,6 @@
 #include "ProgramText.h"
 
-#include "editor/CodeText.h"
+#include "editor/rules/language/CodeText.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>

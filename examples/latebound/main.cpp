@@ -16,8 +16,8 @@ QVariant call(Component &component, const char *member, QVariantList arguments =
     QVariant result;
     if (component.Invoke(QString::fromLatin1(member), arguments, result) != CallSucceeded) {
         const Error error = component.LastError();
-        std::printf("%s: %s (%d)\n", qPrintable(error.Source()),
-                    qPrintable(error.Description()), error.Number());
+        std::printf("%s: %s (%d)\n", qPrintable(error.Source()), qPrintable(error.Description()),
+                    error.Number());
     }
     return result;
 }

@@ -1,6 +1,6 @@
-#include "combo/ORVDataCombo.h"
+#include <ORVTListview/ORVDataCombo.h>
 
-#include "platform/MemberEntries.h"
+#include "members/MemberEntries.h"
 
 namespace ORVTListview {
 

@@ -1,14 +1,14 @@
-#include "combo/ORVDataCombo.h"
+#include <ORVTListview/ORVDataCombo.h>
 
+#include "base/ThreadState.h"
 #include "combo/PointEntries.h"
-#include "platform/Colours.h"
-#include "platform/Error.h"
-#include "platform/ImageCombo.h"
-#include "platform/ImageList.h"
-#include "shared/Pictures.h"
-#include "shared/TextRoutine.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "shared/texts/TextRoutine.h"
+#include "shared/texts/TextTable.h"
+#include "widgets/combo/ImageCombo.h"
+#include "widgets/look/Colours.h"
+#include "widgets/look/Pictures.h"
+#include <ORVTListview/Error.h>
+#include <ORVTListview/ImageList.h>
 
 #include <QtCore/QEvent>
 

@@ -1,9 +1,9 @@
 #include "combo/PointEntries.h"
 
-#include "editor/EditorState.h"
-#include "editor/Vocabulary.h"
-#include "editor/WordClass.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/language/Vocabulary.h"
+#include "editor/rules/language/WordClass.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/ComboEntry.h"
-#include "shared/Types.h"
+#include "widgets/combo/ComboEntry.h"
+#include <ORVTListview/Types.h>
 
 #include <QtCore/QList>
 

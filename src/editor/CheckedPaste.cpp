@@ -1,13 +1,13 @@
 #include "editor/CheckedPaste.h"
 
-#include "editor/CodeText.h"
-#include "editor/ColourText.h"
-#include "editor/EditorState.h"
-#include "editor/ThreadColouring.h"
-#include "platform/RichTextBox.h"
-#include "platform/TextRules.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "base/TextRules.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/ThreadColouring.h"
+#include "editor/rules/language/CodeText.h"
+#include "shared/texts/TextTable.h"
+#include <ORVTListview/RichTextBox.h>
 
 namespace ORVTListview {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ColouredText.h"
+#include "base/ColouredText.h"
 
 #include <QtCore/QString>
 

@@ -1,13 +1,13 @@
 #include "editor/CodeCommands.h"
 
+#include "base/TextPiece.h"
+#include "base/ThreadState.h"
 #include "editor/CodeEditor.h"
 #include "editor/EditorKeys.h"
-#include "editor/UndoStore.h"
-#include "platform/AccessKeys.h"
-#include "platform/RichTextBox.h"
-#include "platform/TextPiece.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "editor/rules/undo/UndoStore.h"
+#include "shared/texts/AccessKeys.h"
+#include "shared/texts/TextTable.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QMimeData>
 #include <QtGui/QAction>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/BoxCommands.h"
+#include "widgets/box/BoxCommands.h"
 
 namespace ORVTListview {
 

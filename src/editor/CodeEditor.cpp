@@ -1,22 +1,22 @@
 #include "editor/CodeEditor.h"
 
-#include "editor/CaretPosition.h"
+#include "base/TextPiece.h"
+#include "base/TextRules.h"
+#include "base/ThreadState.h"
 #include "editor/CodeCommands.h"
 #include "editor/CodeReplacing.h"
-#include "editor/ColourText.h"
-#include "editor/EditorState.h"
-#include "editor/RtfHead.h"
-#include "editor/ThreadColouring.h"
 #include "editor/WordInBox.h"
-#include "platform/MessageBoxes.h"
-#include "platform/MouseArguments.h"
-#include "platform/ReportList.h"
-#include "platform/RichTextBox.h"
-#include "platform/RtfReader.h"
-#include "platform/TextPiece.h"
-#include "platform/TextRules.h"
-#include "shared/HostForms.h"
-#include "shared/ThreadState.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/RtfHead.h"
+#include "editor/rules/colouring/ThreadColouring.h"
+#include "rtf/RtfReader.h"
+#include "shared/points/HostForms.h"
+#include "widgets/box/CaretPosition.h"
+#include "widgets/input/MouseArguments.h"
+#include "widgets/look/MessageBoxes.h"
+#include <ORVTListview/ReportList.h>
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QScopeGuard>
 #include <QtGui/QClipboard>
@@ -464,6 +464,7 @@ void CodeEditor::caretToLineEnd()
 void CodeEditor::takeWord(const QString &word, qint32 colour)
 {
     PushUndoSnapshot();
+    m_box->setSelStart(m_box->SelStart()); // the word's line, of those selected
     m_colouring.noteEdit();
     edit([&] { SetWordAtCaret(*m_box, word, colour); });
     m_box->setFocus();

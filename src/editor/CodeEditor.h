@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/ColouredText.h"
 #include "editor/CheckedPaste.h"
 #include "editor/EditorKeys.h"
 #include "editor/EditorUndo.h"
@@ -7,9 +8,8 @@
 #include "editor/PopupWordList.h"
 #include "editor/StatusTimer.h"
 #include "editor/TypedColouring.h"
-#include "platform/ColouredText.h"
-#include "platform/TabStops.h"
-#include "shared/Types.h"
+#include "widgets/input/TabStops.h"
+#include <ORVTListview/Types.h>
 
 #include <ORVTListview/Export.h>
 

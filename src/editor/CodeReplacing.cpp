@@ -1,15 +1,15 @@
 #include "editor/CodeReplacing.h"
 
-#include "editor/CodeText.h"
-#include "editor/ColourText.h"
-#include "editor/EditorState.h"
-#include "editor/LineColouring.h"
-#include "editor/ReplacedLines.h"
-#include "editor/ThreadColouring.h"
-#include "editor/TouchedLine.h"
-#include "platform/RichTextBox.h"
-#include "platform/TextRules.h"
-#include "shared/ThreadState.h"
+#include "base/TextRules.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/ReplacedLines.h"
+#include "editor/rules/colouring/ThreadColouring.h"
+#include "editor/rules/colouring/TouchedLine.h"
+#include "editor/rules/language/CodeText.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <array>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "editor/EditorKeys.h"
 
 #include "editor/CodeEditor.h"
-#include "platform/RichTextBox.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
 

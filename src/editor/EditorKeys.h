@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/KeyRules.h"
+#include "editor/rules/KeyRules.h"
 
 #include <QtCore/QtGlobal>
 

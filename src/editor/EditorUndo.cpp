@@ -1,13 +1,13 @@
 #include "editor/EditorUndo.h"
 
-#include "editor/ColourText.h"
-#include "editor/EditorState.h"
-#include "editor/LineColouring.h"
-#include "editor/ThreadColouring.h"
-#include "platform/Error.h"
-#include "platform/RichTextBox.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/ThreadColouring.h"
+#include "shared/texts/TextTable.h"
+#include <ORVTListview/Error.h>
+#include <ORVTListview/RichTextBox.h>
 
 namespace ORVTListview {
 

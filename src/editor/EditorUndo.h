@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editor/KeptState.h"
-#include "editor/UndoStore.h"
+#include "editor/rules/undo/KeptState.h"
+#include "editor/rules/undo/UndoStore.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QTimer>

@@ -1,7 +1,7 @@
 #include "editor/LineCommands.h"
 
-#include "editor/CodeText.h"
-#include "platform/RichTextBox.h"
+#include "editor/rules/language/CodeText.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <algorithm>
 
@@ -134,8 +134,8 @@ bool LineCommands::unindentBeforeCaret()
     const qsizetype past = before.size() % m_unit.size();
     const qsizetype step = past > 0 ? past : m_unit.size();
     qsizetype removed = 1; // a tab goes alone
-    while (before.back() == u' ' && removed < std::min(step, before.size())
-           && before[before.size() - removed - 1] == u' ')
+    while (before.back() == u' ' && removed < std::min(step, before.size()) &&
+           before[before.size() - removed - 1] == u' ')
         ++removed;
     m_box.setSelStart(caret - static_cast<qint32>(removed));
     m_box.setSelLength(static_cast<qint32>(removed));

@@ -1,16 +1,16 @@
 #include "editor/PopupWordList.h"
 
-#include "editor/CodeWordList.h"
-#include "editor/EditorState.h"
-#include "editor/KeyRules.h"
-#include "editor/Vocabulary.h"
+#include "base/ThreadState.h"
 #include "editor/WordInBox.h"
-#include "platform/ColumnHeaders.h"
-#include "platform/ListItem.h"
-#include "platform/ListItems.h"
-#include "platform/ReportList.h"
-#include "platform/RichTextBox.h"
-#include "shared/ThreadState.h"
+#include "editor/rules/KeyRules.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/language/CodeWordList.h"
+#include "editor/rules/language/Vocabulary.h"
+#include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/ReportList.h>
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QEvent>
 #include <QtGui/QMouseEvent>

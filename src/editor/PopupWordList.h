@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/PopupWords.h"
+#include "editor/rules/language/PopupWords.h"
 
 #include <QtCore/QObject>
 

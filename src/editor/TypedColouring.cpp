@@ -1,12 +1,12 @@
 #include "editor/TypedColouring.h"
 
-#include "editor/CodeText.h"
-#include "editor/ColourTable.h"
-#include "editor/EditorState.h"
-#include "editor/LineColouring.h"
-#include "editor/ThreadColouring.h"
-#include "platform/RichTextBox.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ColourTable.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/ThreadColouring.h"
+#include "editor/rules/language/CodeText.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
 #include <QtCore/QScopeGuard>

@@ -1,11 +1,11 @@
 #include "editor/WordInBox.h"
 
-#include "editor/ColourTable.h"
-#include "editor/EditorState.h"
-#include "editor/Vocabulary.h"
-#include "platform/ColouredText.h"
-#include "platform/RichTextBox.h"
-#include "shared/ThreadState.h"
+#include "base/ColouredText.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ColourTable.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/language/Vocabulary.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <algorithm>
 

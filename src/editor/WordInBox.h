@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/CodeText.h"
+#include "editor/rules/language/CodeText.h"
 
 namespace ORVTListview {
 

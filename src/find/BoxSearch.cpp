@@ -1,9 +1,9 @@
 #include "find/BoxSearch.h"
 
-#include "find/ProgramSearch.h"
-#include "platform/BoxCommands.h"
-#include "platform/TextPiece.h"
-#include "platform/TextRules.h"
+#include "base/TextPiece.h"
+#include "base/TextRules.h"
+#include "find/rules/ProgramSearch.h"
+#include "widgets/box/BoxCommands.h"
 
 namespace ORVTListview {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/RichTextBox.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
 

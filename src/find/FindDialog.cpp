@@ -1,9 +1,9 @@
 #include "find/FindDialog.h"
 
+#include "base/Failure.h"
+#include "base/ThreadState.h"
 #include "find/fFind.h"
-#include "platform/Failure.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "shared/texts/TextTable.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QScopeGuard>

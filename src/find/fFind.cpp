@@ -1,12 +1,12 @@
 #include "find/fFind.h"
 
-#include "editor/CaretPosition.h"
-#include "find/SearchHistory.h"
-#include "platform/Failure.h"
-#include "platform/MessageService.h"
-#include "platform/PlainToolTip.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "base/Failure.h"
+#include "base/MessageService.h"
+#include "base/ThreadState.h"
+#include "find/rules/SearchHistory.h"
+#include "shared/texts/TextTable.h"
+#include "widgets/box/CaretPosition.h"
+#include "widgets/look/PlainToolTip.h"
 
 #include <QtCore/QScopeGuard>
 #include <QtGui/QAccessible>

@@ -1,12 +1,12 @@
 // How the find dialog looks: its controls, texts, sizes and its place on the screen.
 
-#include "find/DialogPlace.h"
+#include "base/ThreadState.h"
 #include "find/fFind.h"
-#include "platform/AccessKeys.h"
-#include "platform/Twips.h"
-#include "shared/TextRoutine.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "find/rules/DialogPlace.h"
+#include "shared/texts/AccessKeys.h"
+#include "shared/texts/TextRoutine.h"
+#include "shared/texts/TextTable.h"
+#include "widgets/look/Twips.h"
 
 #include <QtCore/QEvent>
 #include <QtGui/QScreen>

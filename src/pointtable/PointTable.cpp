@@ -1,21 +1,21 @@
 #include "pointtable/PointTable.h"
 
-#include "platform/ColumnHeader.h"
-#include "platform/ColumnHeaders.h"
-#include "platform/ElidedLabel.h"
-#include "platform/Error.h"
-#include "platform/ListItems.h"
-#include "platform/PictureBox.h"
-#include "platform/PictureButton.h"
-#include "platform/ReportList.h"
-#include "platform/Twips.h"
-#include "pointtable/ColumnLayouts.h"
-#include "pointtable/TableLayout.h"
-#include "shared/DisplayNames.h"
-#include "shared/Pictures.h"
-#include "shared/TextRoutine.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include "pointtable/rules/ColumnLayouts.h"
+#include "pointtable/rules/TableLayout.h"
+#include "shared/points/DisplayNames.h"
+#include "shared/texts/TextRoutine.h"
+#include "shared/texts/TextTable.h"
+#include "widgets/look/ElidedLabel.h"
+#include "widgets/look/PictureBox.h"
+#include "widgets/look/PictureButton.h"
+#include "widgets/look/Pictures.h"
+#include "widgets/look/Twips.h"
+#include <ORVTListview/ColumnHeader.h>
+#include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/Error.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/ReportList.h>
 
 #include <QtCore/QEvent>
 

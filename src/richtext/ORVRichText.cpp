@@ -1,8 +1,8 @@
-#include "richtext/ORVRichText.h"
+#include <ORVTListview/ORVRichText.h>
 
-#include "shared/TextRoutine.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
+#include "shared/texts/TextRoutine.h"
+#include "shared/texts/TextTable.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QComboBox>

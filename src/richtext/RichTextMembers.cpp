@@ -1,6 +1,6 @@
-#include "richtext/ORVRichText.h"
+#include <ORVTListview/ORVRichText.h>
 
-#include "platform/MemberEntries.h"
+#include "members/MemberEntries.h"
 
 namespace ORVTListview {
 

@@ -1,7 +1,7 @@
 #include "tree/CategoryMoves.h"
 
-#include "platform/NodeTree.h"
 #include "tree/ProjectNodes.h"
+#include "widgets/nodes/NodeTree.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QDropEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DragEvents.h"
+#include "widgets/input/DragEvents.h"
 
 class QKeyEvent;
 

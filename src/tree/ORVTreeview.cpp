@@ -1,21 +1,21 @@
-#include "tree/ORVTreeview.h"
+#include <ORVTListview/ORVTreeview.h>
 
-#include "editor/ThreadColouring.h"
-#include "editor/Vocabulary.h"
-#include "platform/Error.h"
-#include "platform/ImageList.h"
-#include "platform/NodeTree.h"
-#include "platform/ShortInteger.h"
-#include "shared/DisplayNames.h"
-#include "shared/HostForms.h"
-#include "shared/Pictures.h"
-#include "shared/TextTable.h"
-#include "shared/ThreadState.h"
+#include "base/ShortInteger.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ThreadColouring.h"
+#include "editor/rules/language/Vocabulary.h"
+#include "shared/points/DisplayNames.h"
+#include "shared/points/HostForms.h"
+#include "shared/texts/TextTable.h"
 #include "tree/CategoryMoves.h"
-#include "tree/PageArrangement.h"
-#include "tree/PointCounts.h"
 #include "tree/ProjectNodes.h"
-#include "tree/TypeCollections.h"
+#include "tree/rules/PageArrangement.h"
+#include "tree/rules/PointCounts.h"
+#include "tree/rules/TypeCollections.h"
+#include "widgets/look/Pictures.h"
+#include "widgets/nodes/NodeTree.h"
+#include <ORVTListview/Error.h>
+#include <ORVTListview/ImageList.h>
 
 #include <exception>
 

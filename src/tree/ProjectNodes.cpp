@@ -1,10 +1,10 @@
 #include "tree/ProjectNodes.h"
 
-#include "platform/Error.h"
-#include "platform/NodeTree.h"
-#include "platform/Nodes.h"
-#include "platform/ShortInteger.h"
-#include "shared/TextTable.h"
+#include "base/ShortInteger.h"
+#include "shared/texts/TextTable.h"
+#include "widgets/nodes/NodeTree.h"
+#include <ORVTListview/Error.h>
+#include <ORVTListview/Nodes.h>
 
 namespace ORVTListview {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Node.h"
-#include "tree/PageArrangement.h"
+#include "tree/rules/PageArrangement.h"
+#include <ORVTListview/Node.h>
 
 #include <QtCore/QHash>
 

@@ -1,6 +1,6 @@
-#include "tree/ORVTreeview.h"
+#include <ORVTListview/ORVTreeview.h>
 
-#include "platform/MemberEntries.h"
+#include "members/MemberEntries.h"
 
 namespace ORVTListview {
 

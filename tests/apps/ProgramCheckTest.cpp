@@ -1,7 +1,7 @@
 #include "project/ProgramCheck.h"
 
-#include "editor/CodeWordList.h"
-#include "editor/Vocabulary.h"
+#include "editor/rules/language/CodeWordList.h"
+#include "editor/rules/language/Vocabulary.h"
 #include "project/Project.h"
 #include "support/QtPrinters.h"
 

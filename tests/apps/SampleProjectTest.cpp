@@ -1,8 +1,8 @@
 // The sample shows everything that a program and its tables can hold.
 
-#include "editor/CodeText.h"
-#include "editor/CodeWordList.h"
-#include "editor/Vocabulary.h"
+#include "editor/rules/language/CodeText.h"
+#include "editor/rules/language/CodeWordList.h"
+#include "editor/rules/language/Vocabulary.h"
 #include "project/Project.h"
 #include "support/QtPrinters.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editor/ColourTable.h"
-#include "platform/ImageCombo.h"
+#include "editor/rules/colouring/ColourTable.h"
+#include "widgets/combo/ImageCombo.h"
 
 #include <ORVTListview/ORVDataCombo.h>
 #include <ORVTListview/ORVListView.h>

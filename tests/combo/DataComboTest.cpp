@@ -1,10 +1,10 @@
 // What a host calls on ORVDataCombo.
 
-#include "DataComboHost.h"
-#include "editor/Vocabulary.h"
-#include "platform/Error.h"
-#include "shared/TextTable.h"
+#include "combo/DataComboHost.h"
+#include "editor/rules/language/Vocabulary.h"
+#include "shared/texts/TextTable.h"
 #include "support/WidgetTest.h"
+#include <ORVTListview/Error.h>
 
 #include <QtTest/QSignalSpy>
 

@@ -1,6 +1,6 @@
 // What the user does with ORVDataCombo, and what the host hears of it.
 
-#include "DataComboHost.h"
+#include "combo/DataComboHost.h"
 #include "support/ShownTexts.h"
 #include "support/WidgetTest.h"
 

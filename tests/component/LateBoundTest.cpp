@@ -3,11 +3,11 @@
 #include "AllComponents.h"
 #include "SampleArguments.h"
 
-#include "platform/ListItem.h"
-#include "platform/ListItems.h"
-#include "shared/SettingsStore.h"
 #include "support/TestFolder.h"
 #include "support/WidgetTest.h"
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/SettingsStore.h>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/MemberTable.h"
+#include <ORVTListview/MemberTable.h>
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>

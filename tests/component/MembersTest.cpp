@@ -1,9 +1,9 @@
 #include "AllComponents.h"
 #include "MemberText.h"
 
-#include "shared/SettingsStore.h"
 #include "support/TestFolder.h"
 #include "support/WidgetTest.h"
+#include <ORVTListview/SettingsStore.h>
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>

@@ -3,10 +3,10 @@
 #include "AllComponents.h"
 #include "SampleArguments.h"
 
-#include "platform/DataObject.h"
-#include "shared/SettingsStore.h"
 #include "support/TestFolder.h"
 #include "support/WidgetTest.h"
+#include <ORVTListview/DataObject.h>
+#include <ORVTListview/SettingsStore.h>
 
 #include <QtGui/QKeyEvent>
 

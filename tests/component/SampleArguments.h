@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/MemberTable.h"
-#include "shared/Types.h"
+#include <ORVTListview/MemberTable.h>
+#include <ORVTListview/Types.h>
 
 // Arguments that any member can be called with.
 namespace SampleArguments {

@@ -1,10 +1,10 @@
-#include "combo/ORVDataCombo.h"
-#include "pointtable/ORVListView.h"
-#include "richtext/ORVRichText.h"
-#include "shared/SettingsStore.h"
 #include "support/TestFolder.h"
 #include "support/WidgetTest.h"
-#include "tree/ORVTreeview.h"
+#include <ORVTListview/ORVDataCombo.h>
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ORVRichText.h>
+#include <ORVTListview/ORVTreeview.h>
+#include <ORVTListview/SettingsStore.h>
 
 #include <QtCore/QBuffer>
 #include <QtCore/QPluginLoader>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "editor/ColourTable.h"
-#include "editor/EditorState.h"
-#include "editor/UndoStore.h"
-#include "platform/ColouredText.h"
-#include "platform/ReportList.h"
-#include "shared/ThreadState.h"
+#include "base/ColouredText.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ColourTable.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/undo/UndoStore.h"
+#include <ORVTListview/ReportList.h>
 
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "editor/CodeText.h"
-#include "editor/ColourText.h"
-#include "editor/EditorState.h"
-#include "editor/LineColouring.h"
-#include "editor/ThreadColouring.h"
-#include "platform/TextRules.h"
-#include "shared/ThreadState.h"
+#include "base/TextRules.h"
+#include "base/ThreadState.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/ThreadColouring.h"
+#include "editor/rules/language/CodeText.h"
 
 #include <array>
 #include <optional>

@@ -4,8 +4,8 @@
 
 #include "editor/EditorHost.h"
 #include "editor/EditorModel.h"
-#include "platform/ListItem.h"
 #include "support/WidgetTest.h"
+#include <ORVTListview/ListItem.h>
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>

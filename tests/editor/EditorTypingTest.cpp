@@ -1,8 +1,8 @@
 // Colours and listed spelling while typing.
 
 #include "editor/EditorHost.h"
-#include "editor/LineColouring.h"
-#include "editor/ThreadColouring.h"
+#include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/ThreadColouring.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QInputMethodEvent>

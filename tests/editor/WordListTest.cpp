@@ -1,10 +1,10 @@
 // The pop-up list of known words.
 
-#include "editor/CodeWordList.h"
 #include "editor/EditorHost.h"
-#include "platform/ListItem.h"
-#include "platform/ListItems.h"
+#include "editor/rules/language/CodeWordList.h"
 #include "support/WidgetTest.h"
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
 
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>

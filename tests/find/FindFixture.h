@@ -2,8 +2,8 @@
 
 #include "editor/EditorHost.h"
 #include "find/FindDialog.h"
-#include "find/SearchHistory.h"
 #include "find/fFind.h"
+#include "find/rules/SearchHistory.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>

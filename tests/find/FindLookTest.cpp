@@ -1,12 +1,12 @@
 // The find dialog's sizes, and that its texts fit in every language.
 
 #include "find/FindFixture.h"
-#include "platform/Twips.h"
-#include "shared/TextTable.h"
-#include "shared/TranslatedTexts.h"
+#include "shared/texts/TextTable.h"
 #include "support/PseudoTexts.h"
 #include "support/ShownTexts.h"
 #include "support/WidgetTest.h"
+#include "widgets/look/Twips.h"
+#include <ORVTListview/TranslatedTexts.h>
 
 #include <QtCore/QSet>
 #include <QtWidgets/QStyleOption>

@@ -1,12 +1,12 @@
 // Replacing from the dialog, with its colours, its snapshot and its repaint.
 
-#include "editor/LineColouring.h"
-#include "editor/ThreadColouring.h"
+#include "base/TextPiece.h"
+#include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/ThreadColouring.h"
 #include "find/FindFixture.h"
-#include "platform/BoxCommands.h"
-#include "platform/Error.h"
-#include "platform/TextPiece.h"
 #include "support/WidgetTest.h"
+#include "widgets/box/BoxCommands.h"
+#include <ORVTListview/Error.h>
 
 #include <QtGui/QPaintEvent>
 

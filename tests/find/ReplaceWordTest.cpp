@@ -1,10 +1,10 @@
 // A host replaces a word throughout the program.
 
 #include "editor/EditorHost.h"
-#include "editor/LineColouring.h"
-#include "editor/ThreadColouring.h"
-#include "platform/Error.h"
+#include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/ThreadColouring.h"
 #include "support/WidgetTest.h"
+#include <ORVTListview/Error.h>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;

@@ -2,7 +2,7 @@
 
 // A search to compare with: it looks at each character in turn.
 
-#include "platform/TextSearch.h"
+#include "base/TextSearch.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>

@@ -1,9 +1,9 @@
 // The data combo: closed for each type, opened, and filtered by what is typed.
 
-#include "editor/ColourTable.h"
+#include "editor/rules/colouring/ColourTable.h"
 #include "pictures/Scenes.h"
-#include "platform/ImageCombo.h"
-#include "shared/DisplayNames.h"
+#include "shared/points/DisplayNames.h"
+#include "widgets/combo/ImageCombo.h"
 #include "workbench/Appearance.h"
 
 #include <ORVTListview/ORVDataCombo.h>

@@ -1,6 +1,6 @@
 // The find dialog in both modes, beside an editor.
 
-#include "editor/ColourTable.h"
+#include "editor/rules/colouring/ColourTable.h"
 #include "find/FindDialog.h"
 #include "find/fFind.h"
 #include "pictures/Scenes.h"

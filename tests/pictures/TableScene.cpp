@@ -3,7 +3,7 @@
 
 #include "pictures/Scenes.h"
 #include "project/ProjectReader.h"
-#include "shared/DisplayNames.h"
+#include "shared/points/DisplayNames.h"
 
 #include <ORVTListview/ORVTListview.h>
 

@@ -2,8 +2,8 @@
 // narrow, and disabled.
 
 #include "pictures/Scenes.h"
-#include "platform/NodeTree.h"
-#include "shared/TextTable.h"
+#include "shared/texts/TextTable.h"
+#include "widgets/nodes/NodeTree.h"
 
 #include <ORVTListview/ORVTreeview.h>
 

@@ -1,10 +1,10 @@
 // orvt-widget-pictures FOLDER: shows the library's widgets in every language, light
 // and dark, at 100 % and 200 %, one sheet for each, to be looked at.
 
+#include "base/ThreadState.h"
 #include "pictures/Scenes.h"
-#include "shared/ThreadState.h"
-#include "shared/TranslatedTexts.h"
 #include "workbench/DarkColours.h"
+#include <ORVTListview/TranslatedTexts.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QProcess>

@@ -1,12 +1,12 @@
 // The point table of ORVListView as its host drives it.
 
-#include "platform/PictureBox.h"
-#include "platform/PictureButton.h"
-#include "pointtable/ColumnLayouts.h"
-#include "shared/DisplayNames.h"
+#include "pointtable/rules/ColumnLayouts.h"
+#include "shared/points/DisplayNames.h"
 #include "support/PseudoTexts.h"
 #include "support/Raised.h"
 #include "support/WidgetTest.h"
+#include "widgets/look/PictureBox.h"
+#include "widgets/look/PictureButton.h"
 
 #include <ORVTListview/ORVTListview.h>
 

@@ -1,6 +1,6 @@
 // The shell accepts everything, answers nothing and raises no event.
 
-#include "shared/TextTable.h"
+#include "shared/texts/TextTable.h"
 #include "support/WidgetTest.h"
 
 #include <ORVTListview/ORVRichText.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shared/LibraryTexts.h"
-#include "shared/TextProvider.h"
+#include <ORVTListview/LibraryTexts.h>
+#include <ORVTListview/TextProvider.h>
 
 // A language for tests: every text of the library in white square brackets. What
 // is shown without them was not looked up or is not in the list of texts.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Error.h"
 #include "support/QtPrinters.h"
+#include <ORVTListview/Error.h>
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/MessageService.h"
+#include "base/MessageService.h"
 
 #include <QtCore/QList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shared/ThreadState.h"
+#include "base/ThreadState.h"
 #include "support/RecordedMessages.h"
 
 #include <QtCore/QRegularExpression>

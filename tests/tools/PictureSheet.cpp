@@ -1,8 +1,8 @@
 // orvt-pictures FILE.png: draws every picture of the library on a light and a
 // dark ground, beside its index and key, to be looked at.
 
-#include "platform/ImageList.h"
-#include "shared/Pictures.h"
+#include "widgets/look/Pictures.h"
+#include <ORVTListview/ImageList.h>
 
 #include <QtCore/QTextStream>
 #include <QtGui/QPainter>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/NodeTree.h"
-#include "shared/SettingsStore.h"
 #include "support/TestFolder.h"
 #include "support/WidgetTest.h"
+#include "widgets/nodes/NodeTree.h"
+#include <ORVTListview/SettingsStore.h>
 
 #include <ORVTListview/ORVTListview.h>
 

@@ -1,10 +1,10 @@
 // The user at the project tree: events, and categories that move by keyboard.
 
-#include "ProjectTree.h"
+#include "tree/ProjectTree.h"
 
-#include "platform/NodeTreeEvents.h"
-#include "platform/Twips.h"
 #include "support/PseudoTexts.h"
+#include "widgets/look/Twips.h"
+#include "widgets/nodes/NodeTreeEvents.h"
 
 #include <QtWidgets/QLineEdit>
 

@@ -1,14 +1,14 @@
 // The project tree as it is built from the settings, and what it tells of itself.
 
-#include "ProjectTree.h"
+#include "tree/ProjectTree.h"
 
-#include "platform/Colours.h"
-#include "shared/DisplayNames.h"
-#include "shared/TextTable.h"
+#include "shared/points/DisplayNames.h"
+#include "shared/texts/TextTable.h"
 #include "support/PseudoTexts.h"
 #include "support/Raised.h"
 #include "support/ShownTexts.h"
-#include "tree/PointCounts.h"
+#include "tree/rules/PointCounts.h"
+#include "widgets/look/Colours.h"
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 // Real drags in the project tree: the toolkit's drag loop runs, fed by the
 // window's mouse events.
 
-#include "ProjectTree.h"
+#include "tree/ProjectTree.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QLineEdit>

@@ -1,7 +1,7 @@
 // A process that is killed while its project tree saves leaves the arrangement of
 // before or the new one, whole.
 
-#include "ProjectTree.h"
+#include "tree/ProjectTree.h"
 
 #include "support/RandomText.h"
 

@@ -1,9 +1,9 @@
 // What the project tree leaves in the settings, with real files.
 
-#include "ProjectTree.h"
+#include "tree/ProjectTree.h"
 
-#include "platform/FileLock.h"
-#include "shared/DisplayNames.h"
+#include "base/FileLock.h"
+#include "shared/points/DisplayNames.h"
 
 #include <QtCore/QThread>
 

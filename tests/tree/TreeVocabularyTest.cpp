@@ -1,8 +1,8 @@
 // What the tree hands to the vocabulary that its thread's editors share.
 
-#include "editor/CodeWordList.h"
-#include "editor/Vocabulary.h"
-#include "shared/HostForms.h"
+#include "editor/rules/language/CodeWordList.h"
+#include "editor/rules/language/Vocabulary.h"
+#include "shared/points/HostForms.h"
 #include "support/WidgetTest.h"
 
 #include <ORVTListview/Error.h>

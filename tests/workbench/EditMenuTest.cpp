@@ -1,6 +1,6 @@
 #include "WorkbenchTest.h"
 
-#include "platform/ReportList.h"
+#include <ORVTListview/ReportList.h>
 
 #include <QtCore/QMimeData>
 

@@ -1,5 +1,5 @@
 #include "WorkbenchTest.h"
-#include "platform/ReportList.h"
+#include <ORVTListview/ReportList.h>
 
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/ListItem.h>

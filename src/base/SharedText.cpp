@@ -1,0 +1,148 @@
+#include "base/SharedText.h"
+
+#include <algorithm>
+
+namespace ORVTListview {
+namespace {
+
+// Compared at once; where two differ is then looked for in it.
+constexpr qsizetype blockLength = 4096;
+
+bool areAlike(QStringView one, QStringView other)
+{
+    return one.data() == other.data() || one == other;
+}
+
+} // namespace
+
+SharedText::SharedText(const QString &text)
+{
+    append({text, 0, text.size()});
+}
+
+void SharedText::append(const Piece &piece)
+{
+    if (piece.length == 0)
+        return;
+    m_size += piece.length;
+    if (!m_pieces.isEmpty()) {
+        Piece &last = m_pieces.last();
+        if (last.view().end() == piece.view().begin() &&
+            last.string.constData() == piece.string.constData()) {
+            last.length += piece.length;
+            return;
+        }
+    }
+    m_pieces.append(piece);
+}
+
+void SharedText::append(const SharedText &text)
+{
+    for (const Piece &piece : text.m_pieces)
+        append(piece);
+}
+
+QString SharedText::toString() const
+{
+    if (m_pieces.size() == 1 && m_pieces.first().string.size() == m_size)
+        return m_pieces.first().string;
+    QString text;
+    text.reserve(m_size);
+    for (const Piece &piece : m_pieces)
+        text += piece.view();
+    return text;
+}
+
+QStringView SharedText::behind(qsizetype position, qsizetype longest) const
+{
+    for (const Piece &piece : m_pieces) {
+        if (position < piece.length)
+            return piece.view().sliced(position).left(longest);
+        position -= piece.length;
+    }
+    return {};
+}
+
+QStringView SharedText::before(qsizetype position, qsizetype longest) const
+{
+    for (const Piece &piece : m_pieces) {
+        if (position <= piece.length)
+            return piece.view().first(position).right(longest);
+        position -= piece.length;
+    }
+    return {};
+}
+
+SharedText SharedText::part(qsizetype start, qsizetype length) const
+{
+    SharedText result;
+    for (const Piece &piece : m_pieces) {
+        const qsizetype first = std::clamp<qsizetype>(start, 0, piece.length);
+        const qsizetype last = std::clamp<qsizetype>(start + length, 0, piece.length);
+        result.append({piece.string, piece.start + first, last - first});
+        start -= piece.length;
+    }
+    return result;
+}
+
+qsizetype SharedText::alikeAtStart(const SharedText &other) const
+{
+    const qsizetype most = std::min(m_size, other.m_size);
+    qsizetype alike = 0;
+    while (alike < most) {
+        const QStringView theirs = other.behind(alike, blockLength);
+        const QStringView mine = behind(alike, theirs.size());
+        if (!areAlike(mine, theirs.first(mine.size())))
+            return alike +
+                   (std::mismatch(mine.begin(), mine.end(), theirs.begin()).first - mine.begin());
+        alike += mine.size();
+    }
+    return alike;
+}
+
+qsizetype SharedText::alikeAtEnd(const SharedText &other, qsizetype most) const
+{
+    qsizetype alike = 0;
+    while (alike < most) {
+        const qsizetype longest = std::min(blockLength, most - alike);
+        const QStringView theirs = other.before(other.m_size - alike, longest);
+        const QStringView mine = before(m_size - alike, theirs.size());
+        if (!areAlike(mine, theirs.last(mine.size())))
+            return alike + (std::mismatch(mine.rbegin(), mine.rend(), theirs.rbegin()).first -
+                            mine.rbegin());
+        alike += mine.size();
+    }
+    return alike;
+}
+
+bool SharedText::equals(const SharedText &other) const
+{
+    return m_size == other.m_size && alikeAtStart(other) == m_size;
+}
+
+SharedText SharedText::sharedWith(const SharedText &other) const
+{
+    const qsizetype atStart = alikeAtStart(other);
+    const qsizetype atEnd = alikeAtEnd(other, std::min(m_size, other.m_size) - atStart);
+    const qsizetype alike = atStart + atEnd;
+    if (alike < m_size - alike)
+        return *this;
+    SharedText result = other.part(0, atStart);
+    result.append(SharedText(part(atStart, m_size - alike).toString()));
+    result.append(other.part(other.m_size - atEnd, atEnd));
+    return result.m_pieces.size() > mostPieces ? *this : result;
+}
+
+qsizetype SharedText::bytes(QSet<const QChar *> &counted) const
+{
+    qsizetype sum = 0;
+    for (const Piece &piece : m_pieces) {
+        if (counted.contains(piece.string.constData()))
+            continue;
+        counted.insert(piece.string.constData());
+        sum += piece.string.size() * qsizetype(sizeof(QChar));
+    }
+    return sum;
+}
+
+} // namespace ORVTListview

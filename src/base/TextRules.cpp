@@ -1,0 +1,148 @@
+#include "base/TextRules.h"
+
+#include <QtCore/QString>
+
+namespace ORVTListview {
+namespace {
+
+constexpr bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+constexpr bool isBlank(QChar c)
+{
+    return c == u' ' || c == u'\t';
+}
+
+qsizetype skipDigits(QStringView text, qsizetype from)
+{
+    while (from < text.size() && isDigit(text[from]))
+        ++from;
+    return from;
+}
+
+qsizetype skipSign(QStringView text, qsizetype from)
+{
+    return from < text.size() && (text[from] == u'+' || text[from] == u'-') ? from + 1 : from;
+}
+
+QStringView withoutOuterBlanks(QStringView text)
+{
+    while (!text.isEmpty() && isBlank(text.front()))
+        text = text.sliced(1);
+    while (!text.isEmpty() && isBlank(text.back()))
+        text.chop(1);
+    return text;
+}
+
+// Where the digits and the decimal point end, or `from` when there is no digit.
+qsizetype skipMantissa(QStringView text, qsizetype from)
+{
+    const qsizetype whole = skipDigits(text, from);
+    qsizetype digits = whole - from;
+    qsizetype end = whole;
+    if (end < text.size() && text[end] == u'.') {
+        end = skipDigits(text, end + 1);
+        digits += end - whole - 1;
+    }
+    return digits > 0 ? end : from;
+}
+
+bool isExponent(QStringView text)
+{
+    if (text.isEmpty() || text.front().toUpper() != u'E')
+        return false;
+    const qsizetype digits = skipSign(text, 1);
+    return digits < text.size() && skipDigits(text, digits) == text.size();
+}
+
+} // namespace
+
+QStringView trimmedBlanks(QStringView text)
+{
+    while (!text.isEmpty() && text.front() == u' ')
+        text = text.sliced(1);
+    while (!text.isEmpty() && text.back() == u' ')
+        text.chop(1);
+    return text;
+}
+
+bool isNumeric(QStringView text)
+{
+    text = withoutOuterBlanks(text);
+    const qsizetype start = skipSign(text, 0);
+    const qsizetype end = skipMantissa(text, start);
+    if (end == start)
+        return false;
+    return end == text.size() || isExponent(text.sliced(end));
+}
+
+std::optional<bool> toBoolean(QStringView text)
+{
+    const QStringView word = withoutOuterBlanks(text);
+    if (word.compare(u"true", Qt::CaseInsensitive) == 0)
+        return true;
+    if (word.compare(u"false", Qt::CaseInsensitive) == 0)
+        return false;
+    if (!isNumeric(word))
+        return std::nullopt;
+    // The digits before the exponent tell zero from non-zero whatever the size.
+    for (const QChar c : word) {
+        if (c.toUpper() == u'E')
+            break;
+        if (c >= u'1' && c <= u'9')
+            return true;
+    }
+    return false;
+}
+
+void foldCase(QStringView text, char16_t *folded)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if (c < 0x80)
+            folded[i] = c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
+        else
+            folded[i] = QChar(c).toCaseFolded().unicode();
+    }
+}
+
+QString foldedCase(QStringView text)
+{
+    QString folded(text.size(), Qt::Uninitialized);
+    foldCase(text, reinterpret_cast<char16_t *>(folded.data()));
+    return folded;
+}
+
+QString withCrLf(const QString &text)
+{
+    QString result;
+    result.reserve(text.size() + text.size() / 16);
+    qsizetype copied = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c != u'\r' && c != u'\n')
+            continue;
+        const bool pair = c == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
+        if (!pair) {
+            result.append(QStringView(text).sliced(copied, i - copied));
+            result.append(QStringLiteral("\r\n"));
+            copied = i + 1;
+        }
+        i += pair ? 1 : 0;
+    }
+    if (copied == 0)
+        return text;
+    result.append(QStringView(text).sliced(copied));
+    return result;
+}
+
+QString asInBox(QString text)
+{
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    text.remove(QChar::Null);
+    return withCrLf(text);
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,41 @@
+#include "editor/WordReplacing.h"
+
+#include "base/Failure.h"
+#include "base/TextPiece.h"
+#include "base/TextRules.h"
+#include "editor/CodeEditor.h"
+#include "find/rules/ProgramSearch.h"
+#include "shared/texts/TextTable.h"
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtCore/QScopeGuard>
+#include <QtGui/QGuiApplication>
+
+namespace ORVTListview {
+namespace {
+
+void replaceThroughout(CodeEditor &editor, const QString &word, const QString &text,
+                       CodeEditor::Replacing how)
+{
+    const auto length = static_cast<qint32>(word.size());
+    QList<TextPiece> pieces;
+    for (const qsizetype place : placesOfWord(editor.box().Text(), word))
+        pieces.append({static_cast<qint32>(place), length});
+    editor.replace(pieces, text, how);
+}
+
+} // namespace
+
+void replaceWord(CodeEditor &editor, const QString &word, const QString &text, bool inColours,
+                 QString &ErrMsg)
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+    const auto how =
+        inColours ? CodeEditor::Replacing::InColours : CodeEditor::Replacing::InTheColoursThere;
+    const QString failure = failureOf([&] { replaceThroughout(editor, asInBox(word), text, how); });
+    if (!failure.isEmpty())
+        ErrMsg = Localise(failure);
+}
+
+} // namespace ORVTListview

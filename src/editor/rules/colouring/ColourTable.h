@@ -1,0 +1,40 @@
+#pragma once
+
+#include <ORVTListview/Types.h>
+
+#include <functional>
+#include <optional>
+
+namespace ORVTListview {
+
+struct SplitColours
+{
+    qint32 Red = 0;
+    qint32 Green = 0;
+    qint32 Blue = 0;
+
+    friend bool operator==(const SplitColours &, const SplitColours &) = default;
+};
+
+// The three parts of a colour 0x00BBGGRR. The arithmetic is signed and truncates
+// toward zero, so a negative colour (a system colour) gives negative parts. It
+// never fails; the type leaves room for a splitter that can.
+ORVT_CORE_EXPORT std::optional<SplitColours> SplitColour(qint32 Colour);
+
+using ColourSplitter = std::function<std::optional<SplitColours>(qint32)>;
+
+// The RTF colour table of the settings. A colour that cannot be split is written
+// black and adds a line to ErrorText.
+ORVT_CORE_EXPORT QString BuildColourTable(const RichTextSettings &Settings, QString &ErrorText,
+                                          const ColourSplitter &splitter = SplitColour);
+
+ORVT_CORE_EXPORT QString defaultColourTable();
+
+// The settings whose colour table is the default one.
+ORVT_CORE_EXPORT RichTextSettings defaultColours();
+
+// What a reader of the colour table makes of a colour: its parts kept within 0 to
+// 255, as 0x00BBGGRR. System colours are not resolved.
+ORVT_CORE_EXPORT qint32 shownColour(qint32 Colour);
+
+} // namespace ORVTListview

@@ -1,0 +1,138 @@
+#include "editor/rules/language/Vocabulary.h"
+
+#include "base/TextRules.h"
+#include "shared/points/NumberFormat.h"
+#include <ORVTListview/Error.h>
+
+#include <array>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 mostNamesOfAFamily = 100'000;
+
+QString baseFunctionWords()
+{
+    return u"|AVERAGE|SWITCH|HISEL|LIMIT|LOWSEL|"_s;
+}
+
+void appendFamily(const IndexedName &family, QString &text)
+{
+    const qint64 lower = family.LowerBound();
+    const qint64 upper = family.UpperBound();
+    if (upper - lower + 1 > mostNamesOfAFamily)
+        throw Error(Overflow, u"StringIndexCollection"_s,
+                    u"\"%1\" has more than %2 names"_s.arg(family.Name()).arg(mostNamesOfAFamily));
+    const QString name = family.Name();
+    const QString format = family.NumberFormat();
+    for (qint64 i = lower; i <= upper; ++i)
+        text += name + formatNumber(static_cast<qint32>(i), format) + u'|';
+}
+
+} // namespace
+
+Vocabulary::Vocabulary()
+    : m_functionWords(baseFunctionWords())
+    , m_indexedNames(u"|"_s)
+{
+}
+
+const BarList &Vocabulary::KeywordList()
+{
+    static const BarList list(u"|IF|>|<|>=|<=|==|!=|+|-|*|/|=|AND|OR|ELSE|END|ENDIF|"_s);
+    return list;
+}
+
+const BarList &Vocabulary::TimeWordList()
+{
+    static const BarList list(u"|DAY|DAYOFWEEK|HOUR|SECOND|MINUTE|MONTH|YEAR|ON|OFF|"_s);
+    return list;
+}
+
+const BarList &Vocabulary::FanInWordList()
+{
+    static const BarList list(u"|FAN_IN_AV|FAN_IN_HISEL|FAN_IN_LOWSEL|CLEAR|"_s);
+    return list;
+}
+
+void Vocabulary::setIsSqrtSupported(const QString &Value)
+{
+    const std::optional<bool> supported = toBoolean(Value);
+    if (!supported)
+        throw Error(TypeMismatch, u"IsSqrtSupported"_s, u"Type mismatch"_s);
+    m_sqrtSupported = *supported;
+    m_functionWords =
+        BarList(m_sqrtSupported ? baseFunctionWords() + u"SQRT|"_s : baseFunctionWords());
+}
+
+void Vocabulary::resetFunctionWords()
+{
+    m_functionWords = BarList(baseFunctionWords());
+}
+
+void Vocabulary::setIndexedNames(IndexedNameCollection *names)
+{
+    QString text = u"|"_s;
+    const qint32 count = names ? names->Count() : 0;
+    for (qint32 i = 1; i <= count; ++i) {
+        if (const IndexedName *family = names->Item(i))
+            appendFamily(*family, text);
+    }
+    m_indexedNames = BarList(text);
+    m_indexedNameFamilies = names;
+}
+
+ClassifiedWord Vocabulary::classify(QStringView word) const
+{
+    const QString text = trimmedBlanks(word).toString();
+    if (text.isEmpty() || isNumeric(text))
+        return {WordClass::Other, text};
+    const QString upper = text.toUpper();
+    if (KeywordList().contains(text))
+        return {WordClass::Keyword, upper};
+
+    struct Lookup
+    {
+        const HostReference<PointCollection> &points;
+        WordClass wordClass;
+    };
+    // Network variable inputs are known to the word index only.
+    const std::array lookups{Lookup{m_collections.constants, WordClass::Constant},
+                             Lookup{m_collections.inputs, WordClass::Input},
+                             Lookup{m_collections.outputs, WordClass::Output},
+                             Lookup{m_collections.variables, WordClass::Variable}};
+    for (const Lookup &lookup : lookups) {
+        const PointCollection *points = lookup.points.get();
+        if (const std::optional<Point> found = points ? points->Find(upper) : std::nullopt)
+            return {lookup.wordClass, found->Name};
+    }
+
+    if (FanInWordList().contains(text) || m_indexedNames.contains(text))
+        return {WordClass::FanIn, upper};
+    // Time words keep the letter case they were typed in.
+    if (TimeWordList().contains(text))
+        return {WordClass::TimeWord, text};
+    return {WordClass::Other, text};
+}
+
+qint32 Vocabulary::ClassifyWord(const QString &Word, QString &Shown,
+                                const RichTextSettings &settings) const
+{
+    const ClassifiedWord word = classify(Word);
+    Shown = word.shown;
+    return styleOf(word.wordClass, settings).Colour;
+}
+
+bool Vocabulary::IsFunctionCall(const QString &Text) const
+{
+    const qsizetype bracket = Text.indexOf(u'(');
+    if (bracket < 0)
+        return false;
+    const QStringView before = trimmedBlanks(QStringView(Text).first(bracket));
+    return m_functionWords.contains(before.sliced(before.lastIndexOf(u' ') + 1));
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <ORVTListview/Types.h>
+
+namespace ORVTListview {
+
+// What a word of a program is.
+enum class WordClass : qint8 {
+    Other, // numbers and unknown words
+    Variable,
+    Constant,
+    Input,
+    Output,
+    Nvi,
+    Keyword,
+    TimeWord,
+    Function,
+    FanIn, // fan-in words and indexed names
+    Comment,
+};
+
+// Indexes into the editor's RTF colour table.
+enum ColourIndex : qint16 {
+    AutomaticColour = 0,
+    BackgroundColour = 1,
+    CommentColour = 2,
+    ConstantColour = 3,
+    InputColour = 4,
+    OutputColour = 5,
+    ReservedWordColour = 6,
+    VariableColour = 7,
+    NviColour = 8,
+};
+
+constexpr int colourSlots = 8;
+
+// How a class is shown. ImageIndex 0: no picture.
+struct ClassStyle
+{
+    qint16 ColourIndex = AutomaticColour;
+    qint32 Colour = 0; // 0x00BBGGRR
+    qint16 ImageIndex = 0;
+
+    friend bool operator==(const ClassStyle &, const ClassStyle &) = default;
+};
+
+ORVT_CORE_EXPORT ClassStyle styleOf(WordClass wordClass, const RichTextSettings &settings);
+
+// The style of a point type's names. For types whose names are no class of their
+// own Style is left as it is.
+ORVT_CORE_EXPORT void ClassStyleForType(qint32 TypeIndex, const RichTextSettings &settings,
+                                        ClassStyle &Style);
+
+// The colour that a slot of the RTF colour table takes from the settings; slot
+// runs from 1 to colourSlots.
+ORVT_CORE_EXPORT qint32 colourOfSlot(int slot, const RichTextSettings &settings);
+
+} // namespace ORVTListview

@@ -1,0 +1,249 @@
+#include "editor/rules/undo/UndoStore.h"
+
+#include "editor/rules/undo/UndoSlot.h"
+#include <ORVTListview/Error.h>
+
+#include <algorithm>
+#include <limits>
+#include <new>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint16 following(qint16 index)
+{
+    return static_cast<qint16>((index + 1) % UndoStore::slotCount);
+}
+
+constexpr qint16 preceding(qint16 index)
+{
+    return static_cast<qint16>(index == 0 ? UndoStore::slotCount - 1 : index - 1);
+}
+
+} // namespace
+
+UndoStore::UndoStore(qsizetype pendingBound)
+    : m_pendingBound(pendingBound)
+{
+}
+
+UndoStore::~UndoStore() = default;
+
+const UndoStore::Slot &UndoStore::slotAt(qint16 index) const
+{
+    if (index < 0 || index >= slotCount)
+        throw Error(SubscriptOutOfRange, u"UndoSlots"_s, u"There is no such undo slot"_s);
+    return m_slots[static_cast<std::size_t>(index)];
+}
+
+UndoStore::Slot &UndoStore::slotAt(qint16 index)
+{
+    return const_cast<Slot &>(std::as_const(*this).slotAt(index));
+}
+
+QString UndoStore::UndoSlots(qint16 index) const
+{
+    const Slot &slot = slotAt(index);
+    const auto *plain = std::get_if<PlainSlot>(&slot);
+    return plain ? encodeUndoSlot(plain->record()) : std::get<QString>(slot);
+}
+
+void UndoStore::setUndoSlot(qint16 index, const QString &slot)
+{
+    put(index, slot);
+}
+
+qint16 UndoStore::NextUndoSlot()
+{
+    m_current = following(m_current);
+    if (m_current == 0)
+        m_wrapped = true;
+    m_newest = m_current;
+    if (m_wrapped)
+        m_oldest = following(m_newest);
+    return m_current;
+}
+
+void UndoStore::StoreUndoSnapshot(const UndoRecord &record)
+{
+    putPlain(NextUndoSlot(), record);
+}
+
+QString UndoStore::FetchUndoSnapshot(qint16 index) const
+{
+    const Slot &slot = slotAt(index);
+    const auto *plain = std::get_if<PlainSlot>(&slot);
+    return plain ? plain->record() : decodeUndoSlot(std::get<QString>(slot));
+}
+
+void UndoStore::ResetUndoBase(const QString &text)
+{
+    putPlain(0, {text, 0, 0});
+}
+
+void UndoStore::ClearUndoHistory()
+{
+    m_encoder.reset();
+    m_slots.fill(QString());
+    m_oldest = m_newest = m_current = 0;
+    m_wrapped = false;
+}
+
+bool UndoStore::CanUndo() const
+{
+    return m_oldest != m_newest && m_current != m_oldest;
+}
+
+bool UndoStore::CanRedo() const
+{
+    return m_oldest != m_newest && m_current != m_newest;
+}
+
+std::optional<qint16> UndoStore::UndoStepBack()
+{
+    if (!CanUndo())
+        return std::nullopt;
+    m_current = preceding(m_current);
+    return m_current;
+}
+
+std::optional<qint16> UndoStore::RedoStepForward()
+{
+    if (!CanRedo())
+        return std::nullopt;
+    m_current = following(m_current);
+    return m_current;
+}
+
+bool UndoStore::holdsText(qint16 index, const QString &text) const
+{
+    const Slot &slot = slotAt(index);
+    if (const auto *plain = std::get_if<PlainSlot>(&slot))
+        return plain->text.equals(SharedText(text));
+    try {
+        return splitUndoRecord(FetchUndoSnapshot(index)).text == text;
+    } catch (const Error &) {
+        return false;
+    }
+}
+
+void UndoStore::put(qint16 index, Slot slot)
+{
+    slotAt(index) = std::move(slot);
+    if (isEncoding(index))
+        m_encoder.reset();
+}
+
+void UndoStore::putPlain(qint16 index, const UndoRecord &record)
+{
+    PlainSlot slot{SharedText(record.text), undoRecordTail(record)};
+    slot.isWaiting = slot.text.size() + slot.tail.size() >= shortestCompressedRecord;
+    put(index, std::move(slot));
+    keepWithinBound();
+}
+
+const UndoStore::PlainSlot *UndoStore::waitingAt(qint16 index) const
+{
+    const auto *plain = std::get_if<PlainSlot>(&slotAt(index));
+    return plain && plain->isWaiting ? plain : nullptr;
+}
+
+bool UndoStore::isEncodingPending() const
+{
+    return oldestWaiting().has_value();
+}
+
+qsizetype UndoStore::pendingBytes() const
+{
+    qsizetype bytes = 0;
+    QSet<const QChar *> counted;
+    for (qint16 index = 0; index < slotCount; ++index) {
+        const PlainSlot *waiting = waitingAt(index);
+        if (waiting && index != m_newest)
+            bytes += waiting->text.bytes(counted);
+    }
+    return bytes;
+}
+
+bool UndoStore::encodePending(qsizetype characters)
+{
+    const std::optional<qint16> oldest = oldestWaiting();
+    if (oldest)
+        encode(m_encoder ? m_encodedSlot : *oldest, characters);
+    return isEncodingPending();
+}
+
+// From the oldest, 0, to the newest slot. What lies ahead of the newest is either
+// empty or the oldest there is.
+qint16 UndoStore::slotOfAge(int age) const
+{
+    return static_cast<qint16>((m_newest + 1 + age) % slotCount);
+}
+
+std::optional<qint16> UndoStore::oldestWaiting() const
+{
+    for (int age = 0; age < slotCount; ++age) {
+        if (waitingAt(slotOfAge(age)))
+            return slotOfAge(age);
+    }
+    return std::nullopt;
+}
+
+std::optional<qint16> UndoStore::oldestNotCompared() const
+{
+    for (int age = 0; age < slotCount - 1; ++age) {
+        const PlainSlot *waiting = waitingAt(slotOfAge(age));
+        if (waiting && !waiting->isCompared)
+            return slotOfAge(age);
+    }
+    return std::nullopt;
+}
+
+void UndoStore::encode(qint16 index, qsizetype characters)
+{
+    using Progress = UndoSlotEncoder::Progress;
+    auto &slot = std::get<PlainSlot>(slotAt(index));
+    Progress progress = Progress::Impossible;
+    try {
+        if (!isEncoding(index))
+            m_encoder = std::make_unique<UndoSlotEncoder>(slot.text, slot.tail);
+        m_encodedSlot = index;
+        progress = m_encoder->advance(characters);
+    } catch (const Error &) {
+    } catch (const std::bad_alloc &) {
+    }
+    if (progress == Progress::Done) {
+        put(index, m_encoder->slot());
+    } else if (progress == Progress::Impossible) {
+        m_encoder.reset();
+        slot.isWaiting = false;
+        share(index);
+    }
+}
+
+void UndoStore::share(qint16 index)
+{
+    auto &slot = std::get<PlainSlot>(slotAt(index));
+    slot.isCompared = true;
+    const auto *before = std::get_if<PlainSlot>(&slotAt(preceding(index)));
+    try {
+        if (before)
+            slot.text = slot.text.sharedWith(before->text);
+    } catch (const std::bad_alloc &) {
+    }
+}
+
+void UndoStore::keepWithinBound()
+{
+    while (pendingBytes() > m_pendingBound) {
+        if (const std::optional<qint16> index = oldestNotCompared())
+            share(*index);
+        else // the newest slot comes last, and its bytes are not counted
+            encode(*oldestWaiting(), std::numeric_limits<qsizetype>::max());
+    }
+}
+
+} // namespace ORVTListview

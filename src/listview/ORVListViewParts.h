@@ -1,0 +1,34 @@
+#pragma once
+
+#include "editor/CodeEditor.h"
+#include "pointtable/PointTable.h"
+#include <ORVTListview/ImageList.h>
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ReportList.h>
+#include <ORVTListview/RichTextBox.h>
+
+namespace ORVTListview {
+
+// The control's two faces and the list that it lends to either.
+struct ORVListView::Private
+{
+    explicit Private(ORVListView &control);
+    ~Private();
+    Q_DISABLE_COPY_MOVE(Private) // the parts know one another
+
+    bool isCode() const { return table->type() == dsCode; }
+
+    // Shows the face of the type, new rows included, and enables it.
+    void switchTo(LwType type);
+    void layOut();
+    QIcon picture(const QString &key) const;
+
+    ORVListView &control;
+    ImageList images;
+    ReportList *list; // these are children of the control
+    PointTable *table;
+    CodeEditor *editor;
+    bool isEnabled = true;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,7 @@
+#include <ORVTListview/EventSink.h>
+
+namespace ORVTListview {
+
+EventSink::~EventSink() = default;
+
+} // namespace ORVTListview

@@ -1,0 +1,7 @@
+#include <ORVTListview/PropertyBag.h>
+
+namespace ORVTListview {
+
+PropertyBag::~PropertyBag() = default;
+
+} // namespace ORVTListview

@@ -1,7 +1,0 @@
-#include "platform/EventSink.h"
-
-namespace ORVTListview {
-
-EventSink::~EventSink() = default;
-
-} // namespace ORVTListview

@@ -1,7 +1,0 @@
-#include "platform/PropertyBag.h"
-
-namespace ORVTListview {
-
-PropertyBag::~PropertyBag() = default;
-
-} // namespace ORVTListview

@@ -1,7 +1,0 @@
-#include "platform/RtfFormat.h"
-
-namespace ORVTListview {
-
-RtfSink::~RtfSink() = default;
-
-} // namespace ORVTListview

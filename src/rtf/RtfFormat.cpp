@@ -1,0 +1,7 @@
+#include "rtf/RtfFormat.h"
+
+namespace ORVTListview {
+
+RtfSink::~RtfSink() = default;
+
+} // namespace ORVTListview

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <ORVTListview/Error.h>
+
+#include <QtCore/QString>
+
+namespace ORVTListview::ModZlib {
+
+// A compressed text is the length of the text in UTF-16 units in decimal digits,
+// a colon, and the zlib stream of the text's bytes in Windows-1252. Each byte of
+// the stream is the character of the same number, 0 to 255: this part never
+// passes through the code page.
+
+// The longest text that is compressed or uncompressed. A length beyond it, in a
+// damaged text for instance, fails like a lack of memory; so no text takes more
+// than 256 MiB, and about as much again while it is worked on.
+constexpr qint32 maximumLength = 128 * 1024 * 1024;
+
+// Whether CompressString takes this text: not too long, and all of it in the code
+// page.
+ORVT_CORE_EXPORT bool canCompress(QStringView text);
+
+// Raises Error: compressError() of zlib's return code, or InvalidCall when the
+// code page lacks a character of the text. Nothing is replaced by a similar
+// character, so what succeeds comes back unchanged.
+ORVT_CORE_EXPORT QString CompressString(const QString &text);
+
+// The length is read up to the first character that is no digit; without digits
+// it is 0. A length greater than the stream's yields spaces at the end, a smaller
+// one fails. Memory is taken by what the stream can hold, and by the length only
+// once the stream has proved sound. Raises Error: uncompressError() of zlib's
+// return code.
+ORVT_CORE_EXPORT QString UncompressString(const QString &text);
+
+// The room that CompressString gives zlib for a text of this length, in bytes:
+// length * 1.01 + 13, a half going to the even neighbour. Never too little.
+ORVT_CORE_EXPORT qint64 compressedCapacity(qint64 length);
+
+// What the two raise when zlib returns this code, which is not 0.
+ORVT_CORE_EXPORT Error compressError(int code);
+ORVT_CORE_EXPORT Error uncompressError(int code);
+
+// The form above, of a text of this length and its stream.
+ORVT_CORE_EXPORT QString compressedForm(qint64 length, QByteArrayView stream);
+
+} // namespace ORVTListview::ModZlib

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "shared/settings/SettingsPlace.h"
+
+#include <ORVTListview/CoreExport.h>
+
+#include <chrono>
+
+namespace ORVTListview {
+
+// Settings in a text file that any number of processes may read and write. A
+// reader needs no lock: the file is always whole. A file that is damaged or
+// cannot be read holds no settings, and is kept as NAME.damaged-1, -2 and so on
+// when a new one is written. What is no file at all, such as a folder of that
+// name, is left alone, and so is a file that may be read but not written.
+class ORVT_CORE_EXPORT SettingsFile final : public SettingsPlace
+{
+public:
+    // A writer waits for others at most as long as patience.
+    explicit SettingsFile(const QString &fileName,
+                          std::chrono::milliseconds patience = std::chrono::seconds(5));
+
+    std::unique_ptr<const SettingsView> view() const override;
+    bool write(const SettingChanges &changes) override;
+
+private:
+    QString m_fileName;
+    std::chrono::milliseconds m_patience;
+};
+
+} // namespace ORVTListview

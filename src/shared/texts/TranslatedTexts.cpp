@@ -1,0 +1,118 @@
+#include <ORVTListview/TranslatedTexts.h>
+
+#include "shared/texts/LanguageChoice.h"
+#include <ORVTListview/LibraryTexts.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTranslator>
+
+#include <algorithm>
+#include <optional>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView prefix{"orvtlistview_"};
+constexpr QLatin1StringView suffix{".qm"};
+
+// The file of the first language that has one; empty for English, none when
+// there is neither.
+std::optional<QString> fileFor(const QLocale &locale, const QString &folder)
+{
+    for (QString language : languageChoice(locale.uiLanguages())) {
+        if (language == englishLanguage)
+            return QString();
+        const QString name = prefix + language.replace(u'-', u'_') + suffix;
+        if (QFileInfo::exists(folder + u'/' + name))
+            return folder + u'/' + name;
+    }
+    return std::nullopt;
+}
+
+TextCollection textsOf(const QTranslator &translator)
+{
+    TextCollection texts;
+    for (const LibraryText &text : libraryTexts()) {
+        const QString translation = translator.translate("ORVTListview", text.english);
+        if (!translation.isEmpty())
+            texts.insert(textKey(QString::fromLatin1(text.english)), translation);
+    }
+    return texts;
+}
+
+} // namespace
+
+TranslatedTexts::TranslatedTexts(const QLocale &Language, const QString &Folder)
+    : m_folder(Folder)
+{
+    setLanguage(Language);
+}
+
+TranslatedTexts::~TranslatedTexts() = default;
+
+QString TranslatedTexts::builtInFolder()
+{
+    return u":/ORVTListview/translations"_s;
+}
+
+QList<QLocale> TranslatedTexts::availableLanguages(const QString &Folder)
+{
+    QList<QLocale> languages{QLocale(QLocale::English)};
+    const QStringList files =
+        QDir(Folder).entryList({prefix + u'*' + suffix}, QDir::Files, QDir::Name);
+    for (const QString &file : files)
+        languages << QLocale(file.sliced(prefix.size()).chopped(suffix.size()));
+    return languages;
+}
+
+bool TranslatedTexts::setLanguage(const QLocale &Language)
+{
+    m_language = Language;
+    m_texts.clear();
+    markChanged();
+
+    const std::optional<QString> file = fileFor(Language, m_folder);
+    if (!file || file->isEmpty())
+        return file.has_value();
+    QTranslator translator;
+    if (!translator.load(*file))
+        return false;
+    m_texts = textsOf(translator);
+    return true;
+}
+
+void TranslatedTexts::setDisplayFont(const DisplayFontSettings &Font)
+{
+    m_font = Font;
+}
+
+QDateTime TranslatedTexts::ChangeTime()
+{
+    return m_changeTime;
+}
+
+TextCollection TranslatedTexts::GetTexts(const QString &Component)
+{
+    m_fetchTime = QDateTime::currentDateTimeUtc();
+    return Component == "ORVTListview"_L1 ? m_texts : TextCollection();
+}
+
+DisplayFontSettings TranslatedTexts::DisplayFont()
+{
+    return m_font;
+}
+
+// Later than the last fetch even within the same millisecond or when the clock
+// was set back, so that no change is missed.
+void TranslatedTexts::markChanged()
+{
+    m_changeTime = QDateTime::currentDateTimeUtc();
+    if (m_fetchTime.isValid())
+        m_changeTime = std::max(m_changeTime, m_fetchTime.addMSecs(1));
+}
+
+} // namespace ORVTListview

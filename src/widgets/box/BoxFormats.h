@@ -1,0 +1,44 @@
+#pragma once
+
+#include "rtf/RtfFormat.h"
+
+#include <ORVTListview/Export.h>
+
+#include <QtCore/QHash>
+#include <QtGui/QFont>
+#include <QtGui/QTextCharFormat>
+
+namespace ORVTListview {
+
+size_t qHash(const RtfFormat &format, size_t seed = 0);
+
+// Character formats of a box's text. A format states what differs from the box's
+// font and nothing else, so that the document keeps few formats and its text
+// follows the box's font.
+class ORVT_EXPORT BoxFormats
+{
+public:
+    void setFont(const QFont &font);
+
+    // What text shows that states nothing.
+    const RtfFormat &base() const { return m_base; }
+
+    // The font's size in points, also of a font given in pixels.
+    double pointSize() const { return m_pointSize; }
+
+    QTextCharFormat charFormat(const RtfFormat &format);
+    RtfFormat rtfFormat(const QTextCharFormat &format) const;
+
+    // The text colour as 0x00BBGGRR, or RtfFormat::automatic.
+    static qint32 colour(const QTextCharFormat &format);
+    static void setColour(QTextCharFormat &format, qint32 colour);
+
+private:
+    QTextCharFormat make(const RtfFormat &format) const;
+
+    RtfFormat m_base;
+    double m_pointSize = 0;
+    QHash<RtfFormat, QTextCharFormat> m_made; // each format is asked for many times
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,190 @@
+#include "widgets/box/BoxText.h"
+
+#include "widgets/box/BoxMarks.h"
+
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextDocument>
+
+#include <algorithm>
+
+namespace ORVTListview {
+namespace {
+
+// A block begins behind one separator for each line before it, which the box
+// counts as two characters.
+qint32 startOf(const QTextBlock &block)
+{
+    return block.position() + block.blockNumber();
+}
+
+} // namespace
+
+BoxText::BoxText(QTextDocument &document)
+    : m_document(document)
+    , m_length(documentLength())
+{
+    document.documentLayout(); // a document without one announces no changes
+    connect(&document, &QTextDocument::contentsChange, this, &BoxText::noteChange);
+}
+
+int BoxText::documentLength() const
+{
+    return m_document.characterCount() - 1;
+}
+
+qint32 BoxText::length() const
+{
+    return documentLength() + m_document.blockCount() - 1;
+}
+
+qint32 BoxText::lineCount() const
+{
+    return m_document.blockCount();
+}
+
+// From where the last answer was, in steps that grow: most questions are about
+// places near each other.
+QTextBlock BoxText::blockAt(qint32 position) const
+{
+    const auto begins = [&](int line) {
+        return startOf(m_document.findBlockByNumber(line)) <= position;
+    };
+    int low = std::min(m_nearLine, m_document.blockCount() - 1);
+    int high = low + 1;
+    for (int step = 1; low > 0 && !begins(low); step *= 2) {
+        high = low;
+        low = std::max(0, low - step);
+    }
+    for (int step = 1; high < m_document.blockCount() && begins(high); step *= 2) {
+        low = high;
+        high += step;
+    }
+    high = std::min(high, m_document.blockCount());
+    while (high - low > 1) {
+        const int middle = low + (high - low) / 2;
+        (begins(middle) ? low : high) = middle;
+    }
+    m_nearLine = low;
+    return m_document.findBlockByNumber(low);
+}
+
+qint32 BoxText::lineOf(qint32 position) const
+{
+    return blockAt(position).blockNumber();
+}
+
+qint32 BoxText::lineStart(qint32 line) const
+{
+    return startOf(m_document.findBlockByNumber(std::clamp(line, 0, lineCount() - 1)));
+}
+
+QString BoxText::lineText(qint32 line) const
+{
+    const QTextBlock block = m_document.findBlockByNumber(std::clamp(line, 0, lineCount() - 1));
+    QString text = block.text();
+    BoxMarks::restore(block, text);
+    return text;
+}
+
+qint32 BoxText::toBox(int documentPosition) const
+{
+    return documentPosition + m_document.findBlock(documentPosition).blockNumber();
+}
+
+int BoxText::toDocument(qint32 position) const
+{
+    const QTextBlock block = blockAt(position);
+    const int column = std::clamp(position - startOf(block), 0, block.length() - 1);
+    return whole(block.position() + column);
+}
+
+int BoxText::whole(int documentPosition) const
+{
+    const bool inPair = documentPosition > 0 &&
+                        m_document.characterAt(documentPosition).isLowSurrogate() &&
+                        m_document.characterAt(documentPosition - 1).isHighSurrogate();
+    return inPair ? documentPosition - 1 : documentPosition;
+}
+
+QString BoxText::read(int from, int to) const
+{
+    if (to - from > m_length / 2)
+        return readAtOnce(from, to);
+    return readLines(from, to);
+}
+
+// A third of the time that one line after the other takes, for the whole text.
+QString BoxText::readAtOnce(int from, int to) const
+{
+    const QString all = m_document.toRawText();
+    if (BoxMarks::mayBeIn(all))
+        return readLines(from, to);
+    const QStringView raw = QStringView(all).sliced(from, to - from);
+    QString result;
+    result.reserve(raw.size() + m_document.blockCount());
+    qsizetype start = 0;
+    for (qsizetype end; (end = raw.indexOf(QChar::ParagraphSeparator, start)) >= 0; start = end + 1)
+        result.append(raw.sliced(start, end - start)).append(u"\r\n");
+    return result.append(raw.sliced(start));
+}
+
+QString BoxText::readLines(int from, int to) const
+{
+    QString result;
+    result.reserve(to - from);
+    for (QTextBlock block = m_document.findBlock(from); block.isValid(); block = block.next()) {
+        QString line = block.text();
+        BoxMarks::restore(block, line);
+        const int start = std::max(0, from - block.position());
+        const int end = to - block.position();
+        result += QStringView(line).first(std::min<qsizetype>(end, line.size())).sliced(start);
+        if (end <= line.size())
+            break;
+        result += u"\r\n";
+    }
+    return result;
+}
+
+QString BoxText::range(qint32 start, qint32 length) const
+{
+    const qint32 first = std::clamp(start, 0, this->length());
+    const qint32 last = first + std::clamp(length, 0, this->length() - first);
+    return read(toDocument(first), toDocument(last));
+}
+
+const QString &BoxText::text() const
+{
+    if (m_stale)
+        refresh();
+    return m_text;
+}
+
+void BoxText::noteChange(int from, int removed, int added)
+{
+    // The announced lengths may count the document's last, invisible separator;
+    // the shorter of the two unchanged ends is right.
+    ++m_changeCount;
+    const int before = m_length;
+    m_length = documentLength();
+    const int suffix = std::max(0, std::min(before - from - removed, m_length - from - added));
+    m_prefix = m_stale ? std::min(m_prefix, from) : from;
+    m_suffix = m_stale ? std::min(m_suffix, suffix) : suffix;
+    m_stale = true;
+}
+
+void BoxText::refresh() const
+{
+    m_stale = false;
+    if (m_textLength < 0)
+        m_prefix = m_suffix = 0;
+    const int shorter = std::min(m_textLength, m_length);
+    const int prefix = std::clamp(m_prefix, 0, std::max(0, shorter));
+    const int suffix = std::clamp(m_suffix, 0, std::max(0, shorter - prefix));
+
+    const qint32 front = toBox(prefix);
+    const qint32 back = length() - toBox(m_length - suffix);
+    m_text.replace(front, m_text.size() - front - back, read(prefix, m_length - suffix));
+    m_textLength = m_length;
+}
+
+} // namespace ORVTListview

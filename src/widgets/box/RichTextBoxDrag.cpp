@@ -1,0 +1,97 @@
+// Text dragged out of a box and dropped into it.
+
+#include "widgets/box/RichTextBoxParts.h"
+
+#include <QtCore/QMimeData>
+#include <QtCore/QPointer>
+#include <QtGui/QDrag>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QApplication>
+
+namespace ORVTListview {
+
+void RichTextBox::mousePressEvent(QMouseEvent *event)
+{
+    const QTextCursor before = textCursor();
+    QPlainTextEdit::mousePressEvent(event);
+    const QTextCursor after = textCursor();
+    // The toolkit leaves a selection alone that it takes hold of.
+    const bool holds = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
+                       after.hasSelection() && after.anchor() == before.anchor() &&
+                       after.position() == before.position();
+    m_parts->dragStart = holds ? std::optional(event->pos()) : std::nullopt;
+}
+
+void RichTextBox::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_parts->dragStart || !event->buttons().testFlag(Qt::LeftButton)) {
+        QPlainTextEdit::mouseMoveEvent(event);
+        return;
+    }
+    const QPoint way = event->pos() - *m_parts->dragStart;
+    // The selection may have gone with its text since.
+    if (way.manhattanLength() >= QApplication::startDragDistance() && textCursor().hasSelection())
+        startDrag(*event);
+}
+
+void RichTextBox::startDrag(const QMouseEvent &event)
+{
+    // The toolkit's own drag would remove moved text past the commands, so its
+    // press is ended here.
+    const QTextCursor dragged = textCursor();
+    m_parts->dragStart.reset();
+    QMouseEvent release(QEvent::MouseButtonRelease, event.position(), event.globalPosition(),
+                        Qt::LeftButton, Qt::NoButton, event.modifiers());
+    QPlainTextEdit::mouseReleaseEvent(&release);
+    setTextCursor(dragged);
+
+    auto *drag = new QDrag(viewport());
+    auto *text = new QMimeData;
+    text->setText(SelText());
+    drag->setMimeData(text);
+    const Qt::DropActions actions = isReadOnly() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
+    const QPointer<RichTextBox> self(this);
+    const QPointer<QDrag> alive(drag);
+    m_parts->dragged = dragged;
+    const Qt::DropAction action =
+        drag->exec(actions, isReadOnly() ? Qt::CopyAction : Qt::MoveAction);
+    if (!self)
+        return;
+    m_parts->dragged = {};
+    const bool isGone = alive && action == Qt::MoveAction && alive->target() != viewport();
+    if (isGone && !isReadOnly()) {
+        setTextCursor(dragged);
+        commands().remove();
+    }
+}
+
+void RichTextBox::dropEvent(QDropEvent *event)
+{
+    QDragLeaveEvent leave; // takes the toolkit's drop caret away
+    QPlainTextEdit::dragLeaveEvent(&leave);
+    const bool moves = event->source() == viewport() && event->dropAction() == Qt::MoveAction;
+    event->setDropAction(Qt::IgnoreAction); // so that no source removes what did not go in
+    event->ignore();
+    if (!canInsertFromMimeData(event->mimeData()))
+        return;
+    const QTextCursor before = textCursor();
+    QTextCursor dragged = m_parts->dragged;
+    const QTextCursor place = cursorForPosition(event->position().toPoint());
+    if (moves && place.position() >= dragged.selectionStart() &&
+        place.position() <= dragged.selectionEnd())
+        return;
+    const QPointer<RichTextBox> self(this);
+    setTextCursor(place);
+    const bool isDone = commands().paste(*event->mimeData());
+    if (!self)
+        return;
+    if (!isDone) {
+        setTextCursor(before);
+        return;
+    }
+    if (moves)
+        commands().edit([&dragged] { dragged.removeSelectedText(); });
+    event->acceptProposedAction();
+}
+
+} // namespace ORVTListview

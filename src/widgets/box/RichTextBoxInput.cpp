@@ -1,0 +1,247 @@
+// How keys, clipboard and input method reach a box: all end in its commands.
+
+#include "widgets/box/BoxMimeData.h"
+#include "widgets/box/RichTextBoxParts.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QScopedValueRollback>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextLayout>
+#include <QtWidgets/QMenu>
+
+namespace ORVTListview {
+namespace {
+
+using Command = void (BoxCommands::*)();
+
+struct Shortcut
+{
+    QKeySequence::StandardKey keys;
+    Command command;
+    bool changes; // the text
+};
+
+constexpr Shortcut shortcuts[] = {
+    {QKeySequence::Copy, &BoxCommands::copy, false},
+    {QKeySequence::SelectAll, &BoxCommands::selectAll, false},
+    {QKeySequence::Cut, &BoxCommands::cut, true},
+    {QKeySequence::Undo, &BoxCommands::undo, true},
+    {QKeySequence::Redo, &BoxCommands::redo, true},
+};
+
+bool isLeaving(const QKeyEvent &event)
+{
+    const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+    return isTab && (event.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
+}
+
+bool isBackwards(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Backtab || event.modifiers().testFlag(Qt::ShiftModifier);
+}
+
+bool isEnter(const QKeyEvent &event)
+{
+    return event.matches(QKeySequence::InsertParagraphSeparator) ||
+           event.matches(QKeySequence::InsertLineSeparator);
+}
+
+bool isBackspace(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Backspace && (event.modifiers() & ~Qt::ShiftModifier) == 0;
+}
+
+// The toolkit would type a letter that is held with Alt.
+bool isAltText(const QKeyEvent &event)
+{
+    return (virtualKey(event).shift & VirtualKey::altBit) != 0 && !event.text().isEmpty();
+}
+
+} // namespace
+
+BoxCommands &RichTextBox::commands() const
+{
+    return *m_parts->commands;
+}
+
+void RichTextBox::setCommands(std::unique_ptr<BoxCommands> commands)
+{
+    m_parts->commands = commands ? std::move(commands) : std::make_unique<BoxCommands>(*this);
+}
+
+bool RichTextBox::isComposing() const
+{
+    return !textCursor().block().layout()->preeditAreaText().isEmpty();
+}
+
+void RichTextBox::moveFocus(bool forwards)
+{
+    // This class keeps Tab, which would end there.
+    QWidget::focusNextPrevChild(forwards);
+}
+
+bool RichTextBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto &key = static_cast<const QKeyEvent &>(*event);
+        const std::optional<bool> takes =
+            isLeaving(key) ? true : commands().takesKey(virtualKey(key));
+        if (takes) {
+            event->setAccepted(*takes);
+            return true;
+        }
+    }
+    return QPlainTextEdit::event(event);
+}
+
+// Returns whether the box may act on the key.
+bool RichTextBox::announceKey(const QKeyEvent &event)
+{
+    VirtualKey key = virtualKey(event);
+    if (key.keyCode == 0)
+        return true;
+    const QPointer<RichTextBox> self(this);
+    Q_EMIT KeyDown(key.keyCode, key.shift);
+    return self && key.keyCode != 0;
+}
+
+bool RichTextBox::runShortcut(const QKeyEvent &event)
+{
+    for (const Shortcut &shortcut : shortcuts) {
+        if (!event.matches(shortcut.keys))
+            continue;
+        if (!shortcut.changes || !isReadOnly())
+            (commands().*shortcut.command)();
+        return true;
+    }
+    return false;
+}
+
+void RichTextBox::keyPressEvent(QKeyEvent *event)
+{
+    event->accept();
+    if (isLeaving(*event))
+        commands().leave(!isBackwards(*event));
+    else if (announceKey(*event) && !runShortcut(*event))
+        act(event);
+}
+
+void RichTextBox::act(QKeyEvent *event)
+{
+    if (isReadOnly()) {
+        QPlainTextEdit::keyPressEvent(event);
+    } else if (isEnter(*event)) {
+        commands().type(QStringLiteral("\r\n"));
+    } else if (isTyping(*event)) {
+        commands().type(event->text());
+    } else if (isBackspace(*event)) {
+        commands().edit([this] { deleteBefore(); });
+    } else if (isAltText(*event)) {
+        event->ignore();
+    } else {
+        commands().edit([this, event] {
+            QPlainTextEdit::keyPressEvent(event);
+            keepCaretWhole();
+        });
+    }
+}
+
+// The toolkit would cut a pair in two whose halves differ in format.
+void RichTextBox::deleteBefore()
+{
+    QTextCursor cursor = textCursor();
+    if (!cursor.hasSelection() && !cursor.atStart())
+        cursor.setPosition(m_parts->text.whole(cursor.position() - 1), QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    setTextCursor(cursor);
+    keepCaretWhole();
+}
+
+// Removing what stood between two halves makes them a pair around the caret.
+void RichTextBox::keepCaretWhole()
+{
+    const QTextCursor cursor = textCursor();
+    const int anchor = m_parts->text.whole(cursor.anchor());
+    const int position = m_parts->text.whole(cursor.position());
+    if (anchor != cursor.anchor() || position != cursor.position())
+        select(anchor, position);
+}
+
+// The toolkit reports what is being composed as a change of the line.
+void RichTextBox::compose(QInputMethodEvent *event)
+{
+    const QScopedValueRollback keepsText(m_parts->keepsText, true);
+    QPlainTextEdit::inputMethodEvent(event);
+}
+
+void RichTextBox::selectReplaced(const QInputMethodEvent &event)
+{
+    const int start = textCursor().position() + event.replacementStart();
+    const int last = document()->characterCount() - 1;
+    select(qBound(0, start, last), qBound(0, start + event.replacementLength(), last));
+}
+
+void RichTextBox::commit(const QInputMethodEvent &event)
+{
+    QInputMethodEvent endOfComposition;
+    compose(&endOfComposition);
+    const QTextCursor before = textCursor();
+    const quint64 changes = m_parts->text.changeCount();
+    if (event.replacementLength() > 0)
+        selectReplaced(event);
+    const QPointer<RichTextBox> self(this);
+    commands().type(event.commitString());
+    // Refused text leaves nothing selected that the next key would replace.
+    if (self && event.replacementLength() > 0 && m_parts->text.changeCount() == changes)
+        setTextCursor(before);
+}
+
+void RichTextBox::inputMethodEvent(QInputMethodEvent *event)
+{
+    event->setAccepted(!isReadOnly());
+    if (isReadOnly())
+        return;
+    const QPointer<RichTextBox> self(this);
+    // The toolkit would remove what a composition takes the place of.
+    if (!event->preeditString().isEmpty() && textCursor().hasSelection())
+        commands().remove();
+    if (self && (!event->commitString().isEmpty() || event->replacementLength() > 0))
+        commit(*event);
+    if (!self)
+        return;
+    QInputMethodEvent rest(event->preeditString(), event->attributes());
+    compose(&rest);
+}
+
+bool RichTextBox::canInsertFromMimeData(const QMimeData *source) const
+{
+    return source && source->hasText() && !isReadOnly();
+}
+
+void RichTextBox::insertFromMimeData(const QMimeData *source)
+{
+    if (canInsertFromMimeData(source))
+        commands().paste(*source);
+}
+
+QMimeData *RichTextBox::createMimeDataFromSelection() const
+{
+    return new BoxMimeData(*this, textCursor());
+}
+
+void RichTextBox::contextMenuEvent(QContextMenuEvent *event)
+{
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    commands().fillMenu(*menu);
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    if (menu->isEmpty())
+        delete menu;
+    else
+        menu->popup(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft())
+                          : event->globalPos());
+    event->accept();
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,133 @@
+// The colours of a box and its font.
+
+#include "widgets/box/RichTextBoxParts.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QApplication>
+
+#include <algorithm>
+
+namespace ORVTListview {
+
+// The palette that the box has before it sets colours of its own.
+QPalette RichTextBox::paletteAround() const
+{
+    const QWidget *parent = parentWidget();
+    return parent ? parent->palette() : QApplication::palette(this);
+}
+
+qint32 RichTextBox::BackColor() const
+{
+    return m_parts->backColor;
+}
+
+void RichTextBox::setBackColor(qint32 colour)
+{
+    m_parts->backColor = colour;
+    applyBackColor();
+}
+
+void RichTextBox::applyBackColor()
+{
+    const qint32 colour = m_parts->backColor;
+    const bool hasOwn = colour != Colours::windowBackground;
+    if (!hasOwn && !m_parts->hasOwnPalette)
+        return;
+    m_parts->hasOwnPalette = hasOwn;
+    QPalette own;
+    if (hasOwn) {
+        const QPalette around = paletteAround();
+        own.setColor(QPalette::Base, Colours::toColor(colour, around));
+        own.setColor(QPalette::Text, Colours::textOn(colour, around));
+    }
+    if (own != palette() || own.resolveMask() != palette().resolveMask())
+        setPalette(own);
+}
+
+QString RichTextBox::FontName() const
+{
+    return font().family();
+}
+
+void RichTextBox::setFontName(const QString &name)
+{
+    if (name.isEmpty())
+        return;
+    QFont changed = font();
+    changed.setFamily(name);
+    setFont(changed);
+}
+
+float RichTextBox::FontSize() const
+{
+    return static_cast<float>(m_parts->formats.pointSize());
+}
+
+void RichTextBox::setFontSize(float points)
+{
+    constexpr float largest = 1638; // what RTF programs take
+    if (!(points > 0))
+        return;
+    QFont changed = font();
+    changed.setPointSizeF(static_cast<double>(std::min(points, largest)));
+    setFont(changed);
+}
+
+bool RichTextBox::FontBold() const
+{
+    return font().bold();
+}
+
+void RichTextBox::setFontBold(bool bold)
+{
+    QFont changed = font();
+    changed.setBold(bold);
+    setFont(changed);
+}
+
+bool RichTextBox::FontItalic() const
+{
+    return font().italic();
+}
+
+void RichTextBox::setFontItalic(bool italic)
+{
+    QFont changed = font();
+    changed.setItalic(italic);
+    setFont(changed);
+}
+
+bool RichTextBox::FontUnderline() const
+{
+    return font().underline();
+}
+
+void RichTextBox::setFontUnderline(bool underline)
+{
+    QFont changed = font();
+    changed.setUnderline(underline);
+    setFont(changed);
+}
+
+bool RichTextBox::FontStrikethrough() const
+{
+    return font().strikeOut();
+}
+
+void RichTextBox::setFontStrikethrough(bool strikethrough)
+{
+    QFont changed = font();
+    changed.setStrikeOut(strikethrough);
+    setFont(changed);
+}
+
+void RichTextBox::changeEvent(QEvent *event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        m_parts->formats.setFont(font());
+    else if (event->type() == QEvent::PaletteChange)
+        applyBackColor();
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,62 @@
+// Replacing many pieces of a box's text as one change.
+
+#include "base/TextPiece.h"
+#include "widgets/box/BoxMarks.h"
+#include "widgets/box/BoxSink.h"
+#include "widgets/box/RichTextBoxParts.h"
+
+namespace ORVTListview {
+namespace {
+
+QTextCursor selected(QTextDocument &document, const BoxText &text, const TextPiece &piece)
+{
+    QTextCursor cursor(&document);
+    cursor.setPosition(text.toDocument(piece.start));
+    cursor.setPosition(text.toDocument(piece.end()), QTextCursor::KeepAnchor);
+    return cursor;
+}
+
+} // namespace
+
+// From the back to the front, so that the places before stay right.
+void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &put,
+                              const std::function<void()> &finish)
+{
+    if (pieces.isEmpty())
+        return;
+    QTextCursor oneChange(document());
+    QTextCursor caret;
+    oneChange.beginEditBlock();
+    for (qsizetype i = pieces.size() - 1; i >= 0; --i) {
+        QTextCursor cursor = selected(*document(), m_parts->text, pieces[i]);
+        put(cursor, i);
+        if (caret.isNull())
+            caret = cursor;
+    }
+    if (finish)
+        finish();
+    oneChange.endEditBlock();
+    const int place = m_parts->text.whole(caret.position());
+    select(place, place);
+}
+
+void RichTextBox::replacePieces(const QList<TextPiece> &pieces, const QString &text)
+{
+    replaceEach(pieces, [&text](QTextCursor &cursor, qsizetype) {
+        const QTextCharFormat format = Parts::formatAt(cursor);
+        cursor.removeSelectedText();
+        BoxMarks::insert(cursor, text, format);
+    });
+}
+
+void RichTextBox::replacePieces(const QList<TextPiece> &pieces, const QList<ColouredText> &texts,
+                                const std::function<void()> &finish)
+{
+    const auto put = [&](QTextCursor &cursor, qsizetype i) {
+        BoxSink sink(cursor, m_parts->formats);
+        putColoured(texts[i], m_parts->formats.base(), sink);
+    };
+    replaceEach(pieces, put, finish);
+}
+
+} // namespace ORVTListview

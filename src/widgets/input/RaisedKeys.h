@@ -1,0 +1,52 @@
+#pragma once
+
+#include "widgets/input/VirtualKeys.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QKeyEvent>
+
+#include <optional>
+
+// Keys that a widget offers to the receivers of its key events before it acts on
+// them. A receiver may destroy the widget.
+
+namespace ORVTListview {
+
+// False when a receiver has swallowed the key or destroyed the widget.
+template <typename Widget, typename KeySignal>
+bool raiseKey(Widget &widget, KeySignal signal, const QKeyEvent &event)
+{
+    VirtualKey key = virtualKey(event);
+    if (key.keyCode == 0)
+        return true;
+    const QPointer<Widget> alive(&widget);
+    Q_EMIT(widget.*signal)(key.keyCode, key.shift);
+    return alive && key.keyCode != 0;
+}
+
+// The text that is left to be typed; none when a receiver has swallowed the key or
+// destroyed the widget.
+template <typename Widget, typename CharacterSignal>
+std::optional<QString> raiseCharacter(Widget &widget, CharacterSignal signal,
+                                      const QKeyEvent &event)
+{
+    constexpr char16_t deleteCharacter = 0x7f; // some platforms' text of the Delete key
+    const QString text = event.text();
+    if (text.size() != 1 || text.front() == deleteCharacter)
+        return text;
+    auto code = static_cast<qint16>(text.front().unicode());
+    const QPointer<Widget> alive(&widget);
+    Q_EMIT(widget.*signal)(code);
+    if (!alive || code == 0)
+        return std::nullopt;
+    return QString(QChar(static_cast<char16_t>(code)));
+}
+
+// The event as if that text had been typed in place of its own.
+inline QKeyEvent retyped(const QKeyEvent &event, const QString &text)
+{
+    return QKeyEvent(QEvent::KeyPress, text.front().toUpper().unicode(), event.modifiers(), text,
+                     event.isAutoRepeat(), static_cast<quint16>(event.count()));
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,133 @@
+#include "widgets/list/ColumnWidths.h"
+
+#include "widgets/list/ReportModel.h"
+#include "widgets/look/CellText.h"
+#include "widgets/look/Twips.h"
+
+#include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QTableView>
+
+#include <algorithm>
+
+namespace ORVTListview {
+namespace {
+
+// What a column is wider than its texts, in twips. The first has room for the
+// picture of a row.
+constexpr double margin = 200;
+constexpr double firstMargin = 375;
+constexpr double maxTwips = 1'000'000;
+
+} // namespace
+
+ColumnWidths::ColumnWidths(QTableView &view, const ReportModel &model)
+    : m_view(view)
+    , m_model(model)
+{
+}
+
+ColumnWidths::~ColumnWidths() = default;
+
+double ColumnWidths::width(int column) const
+{
+    int pixels = m_view.columnWidth(column);
+    if (m_filling && column == m_model.columns() - 1)
+        pixels = std::max(m_lastNeeded, m_view.width() - widthOfOthers());
+    return Twips::fromPixelsX(pixels, m_view);
+}
+
+void ColumnWidths::setWidth(int column, double twips)
+{
+    if (column == m_model.columns() - 1)
+        m_filling = false;
+    resize(column, Twips::toPixelsX(std::min(twips, maxTwips), m_view));
+}
+
+void ColumnWidths::fit()
+{
+    if (m_model.columns() == 0)
+        return;
+    QList<int> needed = neededWidths();
+    m_lastNeeded = needed.takeLast();
+    m_filling = true;
+    for (int column = 0; column < needed.size(); ++column)
+        resize(column, needed.at(column));
+    refill();
+}
+
+void ColumnWidths::columnResized(int column)
+{
+    if (!m_resizing && column == m_model.columns() - 1)
+        m_filling = false;
+}
+
+void ColumnWidths::refill()
+{
+    if (m_filling)
+        resize(m_model.columns() - 1,
+               std::max(m_lastNeeded, m_view.viewport()->width() - widthOfOthers()));
+}
+
+void ColumnWidths::resize(int column, int pixels)
+{
+    const QScopedValueRollback resizing(m_resizing, true);
+    m_view.horizontalHeader()->resizeSection(column, pixels);
+}
+
+int ColumnWidths::widthOfOthers() const
+{
+    return m_view.horizontalHeader()->length() - m_view.columnWidth(m_model.columns() - 1);
+}
+
+QList<int> ColumnWidths::neededWidths()
+{
+    if (!m_texts || m_font != m_view.font()) {
+        m_font = m_view.font();
+        m_texts = std::make_unique<TextWidths>(m_font);
+    }
+    const QFontMetrics header(m_view.horizontalHeader()->font());
+    QList<int> needed;
+    for (int column = 0; column < m_model.columns(); ++column)
+        needed.append(header.horizontalAdvance(shownText(m_model.column(column).text)));
+    QList<int> texts(m_model.columns(), 0);
+    bool pictures = false;
+    widenByRows(texts, pictures);
+    const int decoration = decorationWidth(pictures);
+    for (int column = 0; column < needed.size(); ++column) {
+        const auto withMargin = [this](int pixels, double twips) {
+            return Twips::toPixelsX(Twips::fromPixelsX(pixels, m_view) + twips, m_view);
+        };
+        int cells = withMargin(texts.at(column), column == 0 ? firstMargin : margin);
+        if (column == 0)
+            cells = std::max(cells, withMargin(texts.at(0), margin) + decoration);
+        needed[column] = std::max(withMargin(needed.at(column), margin), cells);
+    }
+    return needed;
+}
+
+void ColumnWidths::widenByRows(QList<int> &widths, bool &pictures)
+{
+    const int columns = m_model.columns();
+    for (int position = 0; position < m_model.rows(); ++position) {
+        const ReportRow &row = m_model.row(position);
+        for (int column = 0; column < columns; ++column)
+            m_texts->widen(widths[column], m_model.cellText(row, column));
+        pictures = pictures || !row.content.picture.isEmpty();
+    }
+    m_texts->forgetTexts();
+}
+
+int ColumnWidths::decorationWidth(bool pictures) const
+{
+    const QStyle &style = *m_view.style();
+    const int gap = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &m_view) + 1);
+    int width = 0;
+    if (pictures)
+        width += style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &m_view) + gap;
+    if (m_model.hasCheckBoxes())
+        width += style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &m_view) + gap;
+    return width;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "widgets/look/TextWidths.h"
+
+#include <QtCore/QList>
+
+#include <memory>
+
+class QTableView;
+
+namespace ORVTListview {
+
+class ReportModel;
+
+// The widths of a report list's columns: pixels inside, twips at the surface.
+class ColumnWidths
+{
+public:
+    ColumnWidths(QTableView &view, const ReportModel &model);
+    ~ColumnWidths();
+    Q_DISABLE_COPY_MOVE(ColumnWidths) // follows one view
+
+    // In twips.
+    double width(int column) const;
+    void setWidth(int column, double twips);
+
+    // Gives every column the width its header and texts need, and the last one
+    // at least the rest of the list.
+    void fit();
+
+    // What happened to the view: its viewport has another width, there are other
+    // columns, a column has another width.
+    void viewportResized() { refill(); }
+    void columnsChanged() { m_filling = false; }
+    void columnResized(int column);
+
+private:
+    void refill();
+    QList<int> neededWidths();
+    void widenByRows(QList<int> &widest, bool &pictures);
+    int decorationWidth(bool pictures) const;
+    int widthOfOthers() const;
+    void resize(int column, int pixels);
+
+    QTableView &m_view;
+    const ReportModel &m_model;
+    std::unique_ptr<TextWidths> m_texts; // in the view's font
+    QFont m_font;
+    bool m_filling = false; // the last column takes the rest of the viewport
+    int m_lastNeeded = 0;
+    bool m_resizing = false; // it is this class that resizes
+};
+
+} // namespace ORVTListview

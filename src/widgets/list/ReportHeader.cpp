@@ -1,0 +1,52 @@
+#include "widgets/list/ReportHeader.h"
+
+#include "base/EventGuard.h"
+#include "widgets/look/PlainToolTip.h"
+
+#include <QtGui/QHelpEvent>
+
+#include <utility>
+
+namespace ORVTListview {
+
+ReportHeader::ReportHeader(QWidget *parent)
+    : QHeaderView(Qt::Horizontal, parent)
+{
+    setSectionsClickable(true);
+    setHighlightSections(false);
+    setMinimumSectionSize(0);
+    setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setTextElideMode(Qt::ElideRight);
+    connect(this, &QHeaderView::sectionClicked, this, [this](int column) { m_clicked = column; });
+}
+
+void ReportHeader::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_clicked = -1;
+    QHeaderView::mouseReleaseEvent(event);
+    const int clicked = std::exchange(m_clicked, -1);
+    if (clicked >= 0)
+        Q_EMIT columnClicked(clicked); // may destroy this header
+}
+
+bool ReportHeader::viewportEvent(QEvent *event)
+{
+    return EventGuard::run([this, event] {
+        if (event->type() != QEvent::ToolTip)
+            return QHeaderView::viewportEvent(event);
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const int column = logicalIndexAt(help->pos());
+        const QString text = column >= 0 && isElided(column)
+                                 ? model()->headerData(column, Qt::Horizontal).toString()
+                                 : QString();
+        showPlainToolTip(*help, text, *viewport());
+        return true;
+    });
+}
+
+bool ReportHeader::isElided(int column) const
+{
+    return sectionSizeFromContents(column).width() > sectionSize(column);
+}
+
+} // namespace ORVTListview

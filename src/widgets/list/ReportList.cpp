@@ -1,0 +1,282 @@
+#include <ORVTListview/ReportList.h>
+
+#include "base/EventGuard.h"
+#include "widgets/list/ReportHeader.h"
+#include "widgets/list/ReportListParts.h"
+#include "widgets/list/RowCopy.h"
+#include "widgets/list/RowSearch.h"
+#include "widgets/look/Twips.h"
+#include <ORVTListview/Error.h>
+
+#include <QtCore/QMimeData>
+#include <QtWidgets/QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+ReportListParts::ReportListParts(ReportList &owner)
+    : list(owner)
+    , handles(*this)
+    , rowChoice(owner, model)
+    , widths(owner, model)
+    , items(*this)
+    , headers(*this)
+    , drag(owner, *owner.viewport())
+    , surface(*owner.viewport())
+{
+}
+
+ReportList::ReportList(QWidget *parent)
+    : QTableView(parent)
+    , d(std::make_unique<ReportListParts>(*this))
+{
+    setHorizontalHeader(new ReportHeader(this));
+    QTableView::setModel(&d->model);
+    setUpLook();
+    setUpConnections();
+}
+
+ReportList::~ReportList()
+{
+    // While the parts that the view calls are there.
+    QTableView::setModel(nullptr);
+    d->surface.letGo();
+}
+
+void ReportList::setUpLook()
+{
+    setItemDelegate(&d->delegate);
+    setSelectionBehavior(SelectRows);
+    QTableView::setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers); // label editing is announced first
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    viewport()->setMouseTracking(true);
+    horizontalHeader()->setDefaultSectionSize(Twips::toPixelsX(ColumnHeaders::defaultWidth, *this));
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    updateRowHeight();
+}
+
+void ReportList::setUpConnections()
+{
+    const auto *header = static_cast<ReportHeader *>(horizontalHeader());
+    connect(header, &ReportHeader::columnClicked, this,
+            [this](int column) { Q_EMIT ColumnClick(d->handles.of(d->model.column(column))); });
+    connect(header, &QHeaderView::sectionResized, this,
+            [this](int column) { d->widths.columnResized(column); });
+    connect(header, &QHeaderView::sectionCountChanged, this,
+            [this] { d->widths.columnsChanged(); });
+    connect(&d->model, &ReportModel::checkedByUser, this,
+            [this](int position) { d->checkedPosition = position; });
+    connect(
+        &d->delegate, &ReportDelegate::labelEntered, this,
+        [this](const QModelIndex &label, const QString &text) { noteLabel(label.row(), text); });
+    connect(&d->slowClick, &SlowClick::clicked, this, [this] {
+        EventGuard::run([this] {
+            StartLabelEdit();
+            return true;
+        });
+    });
+    d->drag.setContent(
+        [this](QMimeData &rows) { copyRows(*this, d->rowChoice.selectedPositions(), rows); });
+    connect(&d->drag, &DragEvents::OLECompleteDrag, this, &ReportList::OLECompleteDrag);
+    connect(&d->drag, &DragEvents::OLEDragDrop, this, &ReportList::OLEDragDrop);
+    connect(&d->drag, &DragEvents::OLEDragOver, this, &ReportList::OLEDragOver);
+    connect(&d->drag, &DragEvents::OLEGiveFeedback, this, &ReportList::OLEGiveFeedback);
+    connect(&d->drag, &DragEvents::OLESetData, this, &ReportList::OLESetData);
+    connect(&d->drag, &DragEvents::OLEStartDrag, this, &ReportList::OLEStartDrag);
+}
+
+void ReportList::updateRowHeight()
+{
+    constexpr int room = 6;
+    const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    verticalHeader()->setDefaultSectionSize(std::max(fontMetrics().height(), icon) + room);
+}
+
+ListItems *ReportList::ListItems() const
+{
+    return &d->items;
+}
+
+ColumnHeaders *ReportList::ColumnHeaders() const
+{
+    return &d->headers;
+}
+
+ListItem *ReportList::Add(qint32 Index, const QString &Key, const QString &Text)
+{
+    return d->items.Add(Index, Key, Text);
+}
+
+void ReportList::Clear()
+{
+    d->items.Clear();
+}
+
+void ReportList::setRows(QList<RowContent> rows)
+{
+    d->model.setRows(std::move(rows));
+}
+
+void ReportList::appendRows(QList<RowContent> rows)
+{
+    d->model.appendRows(std::move(rows));
+}
+
+void ReportList::UpdateSubItems(const QString &Value, const QString &TagValue, qint16 SubIndex)
+{
+    if (SubIndex < 1 || SubIndex >= d->model.columns())
+        throw Error(SubscriptOutOfRange, u"ReportList.UpdateSubItems"_s,
+                    u"There is no sub-item %1"_s.arg(SubIndex));
+    d->model.setSubItemOfAll(SubIndex, Value, TagValue);
+}
+
+ListItem *ReportList::FindItem(const QString &sz, qint32 Where, qint32 Index, qint32 fPartial) const
+{
+    if (Where < WhereText || Where > WhereTag || fPartial < MatchWhole || fPartial > MatchBeginning)
+        throw Error(InvalidCall, u"ReportList.FindItem"_s, u"There is no such way to search"_s);
+    const RowSearch search{sz, static_cast<RowSearch::Field>(Where),
+                           static_cast<RowSearch::Match>(fPartial)};
+    const int found = search.find(d->model, std::max(Index, 1) - 1);
+    return found < 0 ? nullptr : d->handles.of(d->model.row(found));
+}
+
+ListItem *ReportList::itemOf(const QModelIndex &index) const
+{
+    return index.isValid() ? d->handles.of(d->model.row(index.row())) : nullptr;
+}
+
+ListItem *ReportList::GetFirstVisible() const
+{
+    const int position = rowAt(0);
+    return position < 0 ? nullptr : d->handles.of(d->model.row(position));
+}
+
+ListItem *ReportList::HitTest(float X, float Y) const
+{
+    const QPoint point(Twips::toPixelsX(static_cast<double>(X), *this),
+                       Twips::toPixelsY(static_cast<double>(Y), *this));
+    const QPoint inViewport = viewport()->mapFrom(this, point);
+    return viewport()->rect().contains(inViewport) ? itemOf(indexAt(inViewport)) : nullptr;
+}
+
+ListItem *ReportList::SelectedItem() const
+{
+    ReportRow *row = d->rowChoice.selected();
+    return row ? d->handles.of(*row) : nullptr;
+}
+
+void ReportList::setSelectedItem(ListItem *Item)
+{
+    const QString member = u"ReportList.setSelectedItem"_s;
+    if (Item && Item->m_parts != d.get())
+        throw Error(InvalidCall, member, u"The row is another list's"_s);
+    if (Item && !Item->isAlive())
+        throw Error(ObjectNotSet, member, u"The row has been removed"_s);
+    d->rowChoice.select(Item ? Item->m_row : nullptr);
+}
+
+void ReportList::goToRow(qint32 Index)
+{
+    if (Index < 0 || Index > d->model.rows())
+        throw Error(SubscriptOutOfRange, u"ReportList.goToRow"_s,
+                    u"There is no row %1"_s.arg(Index));
+    d->rowChoice.select(Index == 0 ? nullptr : &d->model.row(Index - 1));
+    if (Index != 0)
+        d->rowChoice.ensureVisible(d->model.row(Index - 1));
+}
+
+bool ReportList::MultiSelect() const
+{
+    return d->rowChoice.isMultiple();
+}
+
+void ReportList::setMultiSelect(bool MultiSelect)
+{
+    d->rowChoice.setMultiple(MultiSelect);
+}
+
+void ReportList::Refresh()
+{
+    viewport()->repaint();
+}
+
+void ReportList::Drag(qint32 Action)
+{
+    constexpr qint32 beginDrag = 1;
+    constexpr qint32 cancelDrag = 2;
+    if (Action == beginDrag)
+        d->drag.begin();
+    else if (Action == cancelDrag)
+        d->drag.cancel();
+}
+
+void ReportList::fitColumns()
+{
+    d->widths.fit();
+}
+
+qint32 ReportList::GetSubItemWidth(qint16 Index) const
+{
+    if (Index < 0 || Index >= d->model.columns())
+        return 0;
+    return static_cast<qint32>(std::nearbyint(d->widths.width(Index)));
+}
+
+void ReportList::setPictureProvider(PictureProvider provider)
+{
+    d->model.setPictureProvider(std::move(provider));
+}
+
+bool ReportList::hasCheckBoxes() const
+{
+    return d->model.hasCheckBoxes();
+}
+
+void ReportList::setCheckBoxes(bool on)
+{
+    d->model.setCheckBoxes(on);
+}
+
+bool ReportList::copiesRows() const
+{
+    return d->copies;
+}
+
+void ReportList::setCopiesRows(bool on)
+{
+    d->copies = on;
+}
+
+bool ReportList::editsLabels() const
+{
+    return d->editsLabels;
+}
+
+void ReportList::setEditsLabels(bool on)
+{
+    d->editsLabels = on;
+}
+
+bool ReportList::isHeaderVisible() const
+{
+    return !horizontalHeader()->isHidden();
+}
+
+void ReportList::setHeaderVisible(bool visible)
+{
+    horizontalHeader()->setVisible(visible);
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,213 @@
+#include "widgets/list/ReportModel.h"
+
+#include <ORVTListview/Error.h>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+[[noreturn]] void refuseKey(const QString &key)
+{
+    throw Error(InvalidCall, u"ReportList"_s, u"The key \"%1\" is in use already"_s.arg(key));
+}
+
+} // namespace
+
+ReportModel::ReportModel(QObject *parent)
+    : QAbstractTableModel(parent)
+{
+}
+
+ReportModel::~ReportModel() = default;
+
+int ReportModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : rows();
+}
+
+int ReportModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : columns();
+}
+
+QIcon ReportModel::pictureOf(const ReportRow &row) const
+{
+    return m_pictures && !row.content.picture.isEmpty() ? m_pictures(row.content.picture) : QIcon();
+}
+
+QVariant ReportModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const ReportRow &held = row(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return cellText(held, index.column());
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(column(index.column()).alignment | Qt::AlignVCenter);
+    case Qt::ForegroundRole:
+        return held.content.foreground.isValid() ? QVariant(held.content.foreground) : QVariant();
+    case Qt::DecorationRole: {
+        const QIcon icon = index.column() == 0 ? pictureOf(held) : QIcon();
+        return icon.isNull() ? QVariant() : QVariant(icon);
+    }
+    case Qt::CheckStateRole:
+        if (index.column() != 0 || !m_checkBoxes)
+            return {};
+        return QVariant::fromValue(held.content.checked ? Qt::Checked : Qt::Unchecked);
+    default:
+        return {};
+    }
+}
+
+// Only views come this way; what the program changes has functions of its own.
+bool ReportModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!index.isValid() || index.column() != 0)
+        return false;
+    ReportRow &held = row(index.row());
+    if (role == Qt::EditRole) {
+        setText(held, value.toString());
+        return true;
+    }
+    if (role == Qt::CheckStateRole && m_checkBoxes) {
+        setChecked(held, value.toInt() == Qt::Checked);
+        Q_EMIT checkedByUser(index.row());
+        return true;
+    }
+    return false;
+}
+
+QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Vertical || section < 0 || section >= columns())
+        return QAbstractTableModel::headerData(section, orientation, role);
+    if (role == Qt::DisplayRole)
+        return column(section).text;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(column(section).alignment | Qt::AlignVCenter);
+    return {};
+}
+
+Qt::ItemFlags ReportModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    Qt::ItemFlags flags =
+        Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    if (index.column() == labelColumn())
+        flags |= Qt::ItemIsEditable;
+    if (index.column() == 0 && m_checkBoxes)
+        flags |= Qt::ItemIsUserCheckable;
+    return flags;
+}
+
+ReportRow *ReportModel::find(const QString &key) const
+{
+    return m_keys.value(key);
+}
+
+int ReportModel::positionOf(const ReportRow &row) const
+{
+    const auto known = static_cast<std::size_t>(row.position);
+    if (known >= m_numbered || m_rows[known].get() != &row) {
+        for (; m_numbered < m_rows.size(); ++m_numbered)
+            m_rows[m_numbered]->position = static_cast<int>(m_numbered);
+    }
+    return row.position;
+}
+
+ReportRow &ReportModel::addRow(int position, RowContent content)
+{
+    beginInsertRows({}, position, position);
+    auto made = std::make_unique<ReportRow>(std::move(content));
+    ReportRow &row = *made;
+    m_rows.insert(m_rows.begin() + position, std::move(made));
+    m_numbered = std::min(m_numbered, static_cast<std::size_t>(position));
+    if (!row.content.key.isEmpty())
+        m_keys.insert(row.content.key, &row);
+    endInsertRows();
+    return row;
+}
+
+void ReportModel::deleteRow(int position)
+{
+    beginRemoveRows({}, position, position);
+    m_keys.remove(row(position).content.key);
+    m_rows.erase(m_rows.begin() + position);
+    m_numbered = std::min(m_numbered, static_cast<std::size_t>(position));
+    endRemoveRows();
+}
+
+ReportModel::Rows ReportModel::rowsOf(QList<RowContent> contents)
+{
+    Rows rows;
+    rows.reserve(static_cast<std::size_t>(contents.size()));
+    for (RowContent &content : contents)
+        rows.push_back(std::make_unique<ReportRow>(std::move(content)));
+    return rows;
+}
+
+ReportModel::Keys ReportModel::keysOf(const Rows &rows)
+{
+    Keys keys;
+    keys.reserve(static_cast<qsizetype>(rows.size()));
+    for (const std::unique_ptr<ReportRow> &row : rows) {
+        const QString &key = row->content.key;
+        if (key.isEmpty())
+            continue;
+        const qsizetype before = keys.size();
+        keys.insert(key, row.get());
+        if (keys.size() == before)
+            refuseKey(key);
+    }
+    return keys;
+}
+
+void ReportModel::setRows(QList<RowContent> contents)
+{
+    Rows rows = rowsOf(std::move(contents));
+    Keys keys = keysOf(rows);
+    beginResetModel();
+    m_rows = std::move(rows);
+    m_keys = std::move(keys);
+    m_numbered = 0;
+    endResetModel();
+}
+
+void ReportModel::appendRows(QList<RowContent> contents)
+{
+    if (contents.isEmpty())
+        return;
+    Rows added = rowsOf(std::move(contents));
+    const Keys keys = keysOf(added);
+    for (auto key = keys.keyBegin(); key != keys.keyEnd(); ++key) {
+        if (m_keys.contains(*key))
+            refuseKey(*key);
+    }
+    beginInsertRows({}, rows(), rows() + static_cast<int>(added.size()) - 1);
+    std::move(added.begin(), added.end(), std::back_inserter(m_rows));
+    m_keys.insert(keys);
+    endInsertRows();
+}
+
+void ReportModel::setCheckBoxes(bool on)
+{
+    m_checkBoxes = on;
+    touchAll(0, 0, {Qt::CheckStateRole});
+}
+
+void ReportModel::setPictureProvider(PictureProvider provider)
+{
+    m_pictures = std::move(provider);
+    touchAll(0, 0, {Qt::DecorationRole});
+}
+
+} // namespace ORVTListview

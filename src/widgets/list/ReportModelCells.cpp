@@ -1,0 +1,113 @@
+#include "widgets/list/ReportModel.h"
+
+#include <algorithm>
+
+namespace ORVTListview {
+namespace {
+
+const QString noText;
+
+void grow(QStringList &list, qsizetype index, qsizetype capacity)
+{
+    if (index < list.size())
+        return;
+    list.reserve(std::max(index + 1, capacity));
+    list.resize(index + 1);
+}
+
+} // namespace
+
+const QString &ReportModel::cellText(const ReportRow &row, int column) const
+{
+    if (column == 0)
+        return row.content.text;
+    const QStringList &subItems = row.content.subItems;
+    return column <= subItems.size() ? subItems.at(column - 1) : noText;
+}
+
+void ReportModel::touch(const ReportRow &row, int column, const QList<int> &roles)
+{
+    if (column >= columns())
+        return;
+    const QModelIndex changed = index(positionOf(row), column);
+    Q_EMIT dataChanged(changed, changed, roles);
+}
+
+void ReportModel::touchAll(int firstColumn, int lastColumn, const QList<int> &roles)
+{
+    if (rows() > 0 && firstColumn <= lastColumn && lastColumn < columns())
+        Q_EMIT dataChanged(index(0, firstColumn), index(rows() - 1, lastColumn), roles);
+}
+
+void ReportModel::setKey(ReportRow &row, const QString &key)
+{
+    m_keys.remove(row.content.key);
+    row.content.key = key;
+    if (!key.isEmpty())
+        m_keys.insert(key, &row);
+}
+
+void ReportModel::setText(ReportRow &row, const QString &text)
+{
+    if (row.content.text == text)
+        return;
+    row.content.text = text;
+    touch(row, 0, {Qt::DisplayRole, Qt::EditRole});
+}
+
+void ReportModel::setSubItem(ReportRow &row, int column, const QString &text)
+{
+    if (cellText(row, column) == text)
+        return;
+    grow(row.content.subItems, column - 1, columns() - 1);
+    row.content.subItems[column - 1] = text;
+    touch(row, column, {Qt::DisplayRole, Qt::EditRole});
+}
+
+void ReportModel::setSubItemTag(ReportRow &row, int column, const QString &tag)
+{
+    QStringList &tags = row.content.subItemTags;
+    if (tag.isEmpty() && column > tags.size())
+        return;
+    grow(tags, column - 1, column); // few rows have many tags
+    tags[column - 1] = tag;
+}
+
+void ReportModel::setPicture(ReportRow &row, const QString &key)
+{
+    if (row.content.picture == key)
+        return;
+    row.content.picture = key;
+    touch(row, 0, {Qt::DecorationRole});
+}
+
+void ReportModel::setForeground(ReportRow &row, const QColor &colour)
+{
+    if (row.content.foreground == colour)
+        return;
+    row.content.foreground = colour;
+    if (columns() == 0)
+        return;
+    const int position = positionOf(row);
+    Q_EMIT dataChanged(index(position, 0), index(position, columns() - 1), {Qt::ForegroundRole});
+}
+
+void ReportModel::setChecked(ReportRow &row, bool checked)
+{
+    if (row.content.checked == checked)
+        return;
+    row.content.checked = checked;
+    touch(row, 0, {Qt::CheckStateRole});
+}
+
+void ReportModel::setSubItemOfAll(int column, const QString &text, const QString &tag)
+{
+    for (const std::unique_ptr<ReportRow> &row : m_rows) {
+        grow(row->content.subItems, column - 1, columns() - 1);
+        row->content.subItems[column - 1] = text;
+        setSubItemTag(*row, column, tag);
+    }
+    touchAll(column, column, {Qt::DisplayRole, Qt::EditRole});
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <ORVTListview/ImageList.h>
+
+#include <QtGui/QIconEngine>
+
+#include <memory>
+
+QT_BEGIN_NAMESPACE
+class QSvgRenderer;
+QT_END_NAMESPACE
+
+namespace ORVTListview {
+
+// Draws one picture of an ImageList. Drawn pixmaps are kept in Qt's pixmap cache
+// under the file's name, so that equal pictures of several lists are drawn once.
+class PictureEngine final : public QIconEngine
+{
+public:
+    PictureEngine(QString svgFile, std::shared_ptr<QSvgRenderer> drawing, ImageList::Look look);
+    ~PictureEngine() override;
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override;
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override;
+    QSize actualSize(const QSize &size, QIcon::Mode mode, QIcon::State state) override;
+    QString key() const override;
+    QIconEngine *clone() const override;
+
+private:
+    PictureEngine(const PictureEngine &other);
+
+    QPixmap cached(int side, const QColor &tint);
+    QImage drawn(int side, const QColor &tint);
+    QImage plain(int side, const QRectF &area);
+    QImage pressed(int side);
+    QRectF fitted(const QRectF &area);
+
+    QString m_file;
+    std::shared_ptr<QSvgRenderer> m_drawing; // shared by clones
+    ImageList::Look m_look;
+};
+
+} // namespace ORVTListview

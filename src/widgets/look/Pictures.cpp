@@ -1,0 +1,89 @@
+#include "widgets/look/Pictures.h"
+
+#include "shared/points/DisplayNames.h"
+#include <ORVTListview/ImageList.h>
+
+#include <array>
+
+namespace ORVTListview {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct Row
+{
+    QString key;
+    qint32 index = 0;
+    QString file;
+};
+
+struct TypeRow
+{
+    LwType type = dsCode;
+    qint32 index = 0;
+    QString file;
+};
+
+constexpr qint32 firstPressedIndex = 21;
+
+QString resource(const QString &file)
+{
+    return u":/ORVTListview/pictures/%1.svg"_s.arg(file);
+}
+
+void addTypes(ImageList &list)
+{
+    const std::array<TypeRow, highestType + 1> types{{
+        {dsCode, 5, u"code"_s},
+        {dsController, 6, u"controllers"_s},
+        {dsLog, 7, u"logs"_s},
+        {dsTimer, 8, u"timers"_s},
+        {dsOs, 9, u"optimum-starts"_s},
+        {dsInputParam, 10, u"input-parameters"_s},
+        {dsOutputParam, 11, u"output-parameters"_s},
+        {dsConst, 66, u"constants"_s},
+        {dsVariable, 67, u"variables"_s},
+        {dsInput, 68, u"inputs"_s},
+        {dsOutput, 69, u"outputs"_s},
+        {dsNvo, 70, u"network-var-outputs"_s},
+        {dsNvi, 71, u"network-var-inputs"_s},
+    }};
+    for (const TypeRow &row : types) {
+        const QString key = displayName(row.type);
+        list.Add(key, row.index, resource(row.file));
+        list.Add(Pictures::pressedKey(key), firstPressedIndex + row.type, resource(row.file),
+                 ImageList::Look::Pressed);
+    }
+}
+
+void addOthers(ImageList &list)
+{
+    const std::array<Row, 9> others{{
+        {u"Device"_s, 1, u"device"_s},
+        {u"Page"_s, 2, u"page"_s},
+        {u"BallGreen"_s, 3, u"ball-green"_s},
+        {u"BallRed"_s, 4, u"ball-red"_s},
+        {u"Fan-In Words"_s, 61, u"fan-in"_s},
+        {u"Time Words"_s, 62, u"time-word"_s},
+        {u"Functions"_s, 63, u"function"_s},
+        {u"Keywords"_s, 64, u"keyword"_s},
+        {u"Other Words"_s, 65, u"text"_s},
+    }};
+    for (const Row &row : others)
+        list.Add(row.key, row.index, resource(row.file));
+}
+
+} // namespace
+
+void Pictures::fillInto(ImageList &list)
+{
+    addTypes(list);
+    addOthers(list);
+}
+
+QString Pictures::pressedKey(const QString &displayName)
+{
+    return displayName + u"Down"_s;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,239 @@
+#include "widgets/nodes/NodeTree.h"
+
+#include "base/EventGuard.h"
+#include "widgets/look/Twips.h"
+#include "widgets/nodes/NodeTreeParts.h"
+#include <ORVTListview/Error.h>
+
+#include <QtCore/QMimeData>
+#include <QtGui/QPainter>
+#include <QtWidgets/QHeaderView>
+
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+NodeTreeParts::NodeTreeParts(NodeTree &owner)
+    : tree(owner)
+    , handles(*this)
+    , model(owner)
+    , choice(owner, model)
+    , nodes(*this)
+    , drag(owner, *owner.viewport())
+    , surface(*owner.viewport())
+{
+}
+
+QString NodeTree::nodeMimeType()
+{
+    return u"application/x-orvtlistview-node"_s;
+}
+
+NodeTree::NodeTree(QWidget *parent)
+    : QTreeView(parent)
+    , d(std::make_unique<NodeTreeParts>(*this))
+{
+    setModel(&d->model);
+    setUpLook();
+    setUpConnections();
+    setUpDrag();
+}
+
+NodeTree::~NodeTree()
+{
+    // While the parts that the view calls are there.
+    setModel(nullptr);
+    d->surface.letGo();
+}
+
+void NodeTree::setUpLook()
+{
+    setItemDelegate(&d->delegate);
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers); // label editing is announced first
+    viewport()->setMouseTracking(true);
+}
+
+void NodeTree::setUpConnections()
+{
+    const auto noteFolded = [this](bool expanded) {
+        return [this, expanded](const QModelIndex &index) {
+            if (d->userActs && d->model.hasChildren(index))
+                d->folded.append({handleOf(index), expanded});
+        };
+    };
+    connect(this, &QTreeView::expanded, this, noteFolded(true));
+    connect(this, &QTreeView::collapsed, this, noteFolded(false));
+    connect(&d->model, &NodeModel::checkedByUser, this,
+            [this](TreeNode *node) { d->checkedNode = d->handles.of(*node); });
+    connect(&d->delegate, &ReportDelegate::labelEntered, this, &NodeTree::noteLabel);
+    connect(&d->slowClick, &SlowClick::clicked, this, [this] {
+        EventGuard::run([this] {
+            StartLabelEdit();
+            return true;
+        });
+    });
+}
+
+void NodeTree::setUpDrag()
+{
+    d->drag.setContent([this](QMimeData &content) {
+        if (const Node *node = draggedNode())
+            content.setData(nodeMimeType(), node->Key().toUtf8());
+    });
+    connect(&d->drag, &DragEvents::OLECompleteDrag, this, &NodeTree::OLECompleteDrag);
+    connect(&d->drag, &DragEvents::OLEDragDrop, this, &NodeTree::OLEDragDrop);
+    connect(&d->drag, &DragEvents::OLEDragOver, this, &NodeTree::OLEDragOver);
+    connect(&d->drag, &DragEvents::OLEGiveFeedback, this, &NodeTree::OLEGiveFeedback);
+    connect(&d->drag, &DragEvents::OLESetData, this, &NodeTree::OLESetData);
+    connect(&d->drag, &DragEvents::OLEStartDrag, this, &NodeTree::OLEStartDrag);
+}
+
+Nodes *NodeTree::Nodes() const
+{
+    return &d->nodes;
+}
+
+NodeTree::Filling::Filling(NodeTree &tree)
+    : m_tree(tree)
+{
+    m_tree.d->model.beginFilling();
+}
+
+NodeTree::Filling::~Filling()
+{
+    m_tree.d->model.endFilling();
+}
+
+Node *NodeTree::handleOf(const QModelIndex &index) const
+{
+    return index.isValid() ? d->handles.of(d->model.nodeOf(index)) : nullptr;
+}
+
+TreeNode *NodeTreeParts::nodeOf(const Node *node, const QString &source) const
+{
+    if (!node)
+        return nullptr;
+    if (node->m_parts != this)
+        throw Error(InvalidCall, source, u"The node is another tree's"_s);
+    if (!node->isAlive())
+        throw Error(ObjectNotSet, source, u"The node has been removed"_s);
+    return node->m_node;
+}
+
+Node *NodeTree::SelectedItem() const
+{
+    TreeNode *node = d->choice.selected();
+    return node ? d->handles.of(*node) : nullptr;
+}
+
+void NodeTree::setSelectedItem(Node *Item)
+{
+    d->choice.select(d->nodeOf(Item, u"NodeTree.setSelectedItem"_s));
+}
+
+Node *NodeTree::HitTest(float X, float Y) const
+{
+    const QPoint point(Twips::toPixelsX(static_cast<double>(X), *this),
+                       Twips::toPixelsY(static_cast<double>(Y), *this));
+    return nodeAt(viewport()->mapFrom(this, point));
+}
+
+Node *NodeTree::nodeAt(QPoint place) const
+{
+    return viewport()->rect().contains(place) ? handleOf(indexAt(place)) : nullptr;
+}
+
+void NodeTree::OLEDrag()
+{
+    d->dragged = SelectedItem();
+    if (d->dragged)
+        d->drag.begin();
+}
+
+Node *NodeTree::draggedNode() const
+{
+    return d->dragged && d->dragged->isAlive() ? d->dragged : nullptr;
+}
+
+void NodeTree::setDraggable(std::function<bool(const Node &)> test)
+{
+    d->draggable = std::move(test);
+}
+
+void NodeTree::setDragEffects(qint32 effects)
+{
+    d->drag.setAllowedEffects(effects);
+}
+
+void NodeTree::setDropTarget(DropTarget *target)
+{
+    d->drag.setTarget(target);
+}
+
+Node *NodeTree::dropHighlight() const
+{
+    return handleOf(d->dropHighlight);
+}
+
+void NodeTree::setDropHighlight(Node *node)
+{
+    const TreeNode *marked = d->nodeOf(node, u"NodeTree.setDropHighlight"_s);
+    const QModelIndex index = marked ? d->model.indexOf(*marked) : QModelIndex();
+    if (index == d->dropHighlight)
+        return;
+    d->dropHighlight = index;
+    viewport()->update();
+}
+
+void NodeTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                       const QModelIndex &index) const
+{
+    QTreeView::drawRow(painter, option, index);
+    if (!d->dropHighlight.isValid() || index != d->dropHighlight)
+        return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    QColor tint = option.palette.color(QPalette::Highlight);
+    painter->setPen(QPen(tint, 2));
+    tint.setAlphaF(0.2F);
+    painter->setBrush(tint);
+    painter->drawRoundedRect(QRectF(visualRect(index)).adjusted(1, 1, -1, -1), 3, 3);
+    painter->restore();
+}
+
+void NodeTree::setKeyCommand(std::function<bool(const QKeyEvent &)> command)
+{
+    d->keyCommand = std::move(command);
+}
+
+void NodeTree::setPictureProvider(PictureProvider provider)
+{
+    d->model.setPictureProvider(std::move(provider));
+}
+
+bool NodeTree::hasCheckBoxes() const
+{
+    return d->model.hasCheckBoxes();
+}
+
+void NodeTree::setCheckBoxes(bool on)
+{
+    d->model.setCheckBoxes(on);
+}
+
+bool NodeTree::editsLabels() const
+{
+    return d->editsLabels;
+}
+
+void NodeTree::setEditsLabels(bool on)
+{
+    d->editsLabels = on;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,88 @@
+#include <ORVTListview/Nodes.h>
+
+#include "widgets/nodes/NodePlace.h"
+#include "widgets/nodes/NodeTreeParts.h"
+#include <ORVTListview/Error.h>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TreeNode &nodeAt(const NodeModel &model, const QString &member, qint32 index)
+{
+    if (index < 1 || index > model.count())
+        throw Error(SubscriptOutOfRange, member, u"There is no node %1"_s.arg(index));
+    return model.at(index - 1);
+}
+
+TreeNode &nodeOfKey(const NodeModel &model, const QString &member, const QString &key)
+{
+    TreeNode *node = model.find(key);
+    if (!node)
+        throw Error(InvalidCall, member, u"There is no node with the key \"%1\""_s.arg(key));
+    return *node;
+}
+
+} // namespace
+
+Nodes::Nodes(NodeTreeParts &parts)
+    : m_parts(parts)
+{
+}
+
+qint32 Nodes::Count() const
+{
+    return m_parts.model.count();
+}
+
+Node *Nodes::Item(qint32 Index) const
+{
+    return m_parts.handles.of(nodeAt(m_parts.model, u"Nodes.Item"_s, Index));
+}
+
+Node *Nodes::Item(const QString &Key) const
+{
+    return m_parts.handles.of(nodeOfKey(m_parts.model, u"Nodes.Item"_s, Key));
+}
+
+bool Nodes::Contains(const QString &Key) const
+{
+    return m_parts.model.find(Key);
+}
+
+Node *Nodes::Add(Node *Relative, NodeRelationship Relationship, const QString &Key,
+                 const QString &Text, const QString &Image)
+{
+    const QString member = u"Nodes.Add"_s;
+    TreeNode *relative = m_parts.nodeOf(Relative, member);
+    if (m_parts.model.find(Key))
+        throw Error(InvalidCall, member, u"The key \"%1\" is in use already"_s.arg(Key));
+    const NodePlace place = NodePlace::of(m_parts.model, relative, Relationship);
+    return m_parts.handles.of(m_parts.model.add(*place.parent, place.row, Key, Text, Image));
+}
+
+Node *Nodes::Add(const QString &Relative, NodeRelationship Relationship, const QString &Key,
+                 const QString &Text, const QString &Image)
+{
+    TreeNode &relative = nodeOfKey(m_parts.model, u"Nodes.Add"_s, Relative);
+    return Add(m_parts.handles.of(relative), Relationship, Key, Text, Image);
+}
+
+void Nodes::Remove(qint32 Index)
+{
+    m_parts.model.remove(nodeAt(m_parts.model, u"Nodes.Remove"_s, Index));
+}
+
+void Nodes::Remove(const QString &Key)
+{
+    m_parts.model.remove(nodeOfKey(m_parts.model, u"Nodes.Remove"_s, Key));
+}
+
+void Nodes::Clear()
+{
+    m_parts.model.clear();
+}
+
+} // namespace ORVTListview

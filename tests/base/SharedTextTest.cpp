@@ -1,0 +1,202 @@
+#include "base/SharedText.h"
+
+#include "support/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString readForwards(const SharedText &text, qsizetype longest)
+{
+    QString result;
+    while (result.size() < text.size()) {
+        const QStringView view = text.behind(result.size(), longest);
+        EXPECT_TRUE(!view.isEmpty() && view.size() <= longest);
+        if (view.isEmpty())
+            break;
+        result += view;
+    }
+    return result;
+}
+
+QString readBackwards(const SharedText &text, qsizetype longest)
+{
+    QString result;
+    while (result.size() < text.size()) {
+        const QStringView view = text.before(text.size() - result.size(), longest);
+        EXPECT_TRUE(!view.isEmpty() && view.size() <= longest);
+        if (view.isEmpty())
+            break;
+        result.prepend(view);
+    }
+    return result;
+}
+
+qsizetype bytesOf(const QList<SharedText> &texts)
+{
+    QSet<const QChar *> counted;
+    qsizetype bytes = 0;
+    for (const SharedText &text : texts)
+        bytes += text.bytes(counted);
+    return bytes;
+}
+
+} // namespace
+
+TEST(SharedText, EmptyTextHasNoPieces)
+{
+    for (const SharedText &text : {SharedText(), SharedText(QString()), SharedText(u""_s)}) {
+        EXPECT_EQ(text.size(), 0);
+        EXPECT_EQ(text.pieceCount(), 0);
+        EXPECT_EQ(text.toString(), QString());
+        EXPECT_TRUE(text.behind(0, 10).isEmpty());
+        EXPECT_TRUE(text.before(0, 10).isEmpty());
+        EXPECT_EQ(text.sharedWith(text).size(), 0);
+        EXPECT_TRUE(text.equals(SharedText()));
+        EXPECT_FALSE(text.equals(SharedText(u"A"_s)));
+    }
+}
+
+TEST(SharedText, SharesTheMemoryOfItsString)
+{
+    const QString string(1000, u'x');
+    const SharedText text(string);
+    EXPECT_EQ(text.toString().constData(), string.constData());
+    EXPECT_EQ(text.behind(10, 5).data(), string.constData() + 10);
+    EXPECT_EQ(text.before(10, 5).data(), string.constData() + 5);
+    EXPECT_TRUE(text.behind(1000, 5).isEmpty());
+    EXPECT_TRUE(text.before(0, 5).isEmpty());
+}
+
+TEST(SharedText, ChangeInTheMiddleCostsTheMiddle)
+{
+    const SharedText before(u"0123456789"_s.repeated(1000));
+    QString changed = before.toString();
+    changed.replace(5000, 2, u"abc"_s);
+    const SharedText after = SharedText(changed).sharedWith(before);
+    EXPECT_EQ(after.toString(), changed);
+    EXPECT_EQ(after.pieceCount(), 3);
+    EXPECT_EQ(bytesOf({before}), 20000);
+    EXPECT_EQ(bytesOf({before, after}), 20000 + 6);
+    EXPECT_EQ(bytesOf({after}), 20000 + 6);
+}
+
+TEST(SharedText, ChangeAtAnEndCostsTheEnd)
+{
+    const SharedText before(u"0123456789"_s.repeated(1000));
+    const SharedText longer = SharedText(before.toString() + u"abc"_s).sharedWith(before);
+    EXPECT_EQ(bytesOf({before, longer}), 20000 + 6);
+    const SharedText front = SharedText(u"abc"_s + before.toString()).sharedWith(before);
+    EXPECT_EQ(bytesOf({before, front}), 20000 + 6);
+    const SharedText shorter = SharedText(before.toString().chopped(5)).sharedWith(before);
+    EXPECT_EQ(bytesOf({before, shorter}), 20000);
+    EXPECT_EQ(shorter.toString(), before.toString().chopped(5));
+}
+
+TEST(SharedText, EqualTextCostsNothing)
+{
+    const SharedText before(u"0123456789"_s.repeated(1000));
+    const SharedText same = SharedText(u"0123456789"_s.repeated(1000)).sharedWith(before);
+    EXPECT_EQ(same.pieceCount(), 1);
+    EXPECT_EQ(bytesOf({before, same}), 20000);
+}
+
+TEST(SharedText, ChangeTakenBackIsOnePieceAgain)
+{
+    const SharedText before(u"0123456789"_s.repeated(1000));
+    QString changed = before.toString();
+    changed.insert(5000, u"abc"_s);
+    const SharedText between = SharedText(changed).sharedWith(before);
+    const SharedText after = SharedText(before.toString()).sharedWith(between);
+    EXPECT_EQ(between.pieceCount(), 3);
+    EXPECT_EQ(after.pieceCount(), 1);
+    EXPECT_EQ(after.toString(), before.toString());
+}
+
+TEST(SharedText, PiecesOfBothMayEndAnywhere)
+{
+    const SharedText whole(u"0123456789"_s.repeated(1000));
+    QString changed = whole.toString();
+    changed.insert(7001, u"abc"_s);
+    const SharedText inPieces = SharedText(changed).sharedWith(whole);
+    ASSERT_EQ(inPieces.pieceCount(), 3);
+
+    QString other = changed;
+    other[0] = u'x';
+    const SharedText front = inPieces.sharedWith(SharedText(other));
+    EXPECT_EQ(front.pieceCount(), 2);
+    EXPECT_EQ(front.toString(), changed);
+
+    other = changed;
+    other.back() = u'x';
+    const SharedText back = inPieces.sharedWith(SharedText(other));
+    EXPECT_EQ(back.pieceCount(), 2);
+    EXPECT_EQ(back.toString(), changed);
+}
+
+TEST(SharedText, EndsThatOverlapAreNotSharedTwice)
+{
+    const SharedText before(u"aaaa"_s.repeated(1000));
+    for (const qsizetype length : {2001, 3999, 4001, 7999}) {
+        const QString other(length, u'a');
+        EXPECT_EQ(SharedText(other).sharedWith(before).toString(), other);
+    }
+}
+
+TEST(SharedText, OtherTextStaysAsItIs)
+{
+    const SharedText before(u"0123456789"_s.repeated(10));
+    const QString other(100, u'x');
+    EXPECT_EQ(SharedText(other).sharedWith(before).toString().constData(), other.constData());
+    const QString lessThanHalf = before.toString().first(49) + QString(51, u'x');
+    EXPECT_EQ(SharedText(lessThanHalf).sharedWith(before).pieceCount(), 1);
+    const QString half = before.toString().first(50) + QString(50, u'x');
+    EXPECT_EQ(SharedText(half).sharedWith(before).pieceCount(), 2);
+}
+
+TEST(SharedText, ManyPiecesBecomeOneAgain)
+{
+    QString string = u"0123456789"_s.repeated(1000);
+    SharedText text(string);
+    bool isWholeAgain = false;
+    for (qsizetype change = 0; change < 200; ++change) {
+        string[(change * 7919) % string.size()] = u'x';
+        text = SharedText(string).sharedWith(text);
+        ASSERT_EQ(text.toString(), string);
+        ASSERT_LE(text.pieceCount(), SharedText::mostPieces);
+        isWholeAgain = isWholeAgain || (change > 0 && text.pieceCount() == 1);
+    }
+    EXPECT_TRUE(isWholeAgain);
+}
+
+TEST(SharedText, IsTheSameTextWhateverItsPieces)
+{
+    const unsigned seed = 8128;
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto below = [&](qsizetype bound) { return qsizetype(random() % quint64(bound)); };
+    QString string = u"IF TEMP1 > 20 THEN FAN = ON\r\n"_s.repeated(500);
+    SharedText text(string);
+    for (int round = 0; round < 3000; ++round) {
+        const SharedText former = text;
+        const QString formerString = string;
+        string.replace(below(string.size()), below(50),
+                       QString(below(50), QChar(u'a' + char16_t(below(3)))));
+        text = SharedText(string).sharedWith(former);
+        ASSERT_EQ(text.size(), string.size());
+        ASSERT_EQ(text.toString(), string);
+        ASSERT_EQ(former.toString(), formerString);
+        ASSERT_EQ(former.sharedWith(text).toString(), formerString);
+        ASSERT_EQ(text.equals(former), string == formerString);
+        ASSERT_TRUE(text.equals(SharedText(string)));
+        if (round % 100 == 0) {
+            ASSERT_EQ(readForwards(text, 1 + below(5000)), string);
+            ASSERT_EQ(readBackwards(text, 1 + below(5000)), string);
+        }
+    }
+}

@@ -1,0 +1,168 @@
+#include "base/ColouredText.h"
+#include "support/WidgetTest.h"
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtGui/QTextDocument>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QScrollBar>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+class BoxColoursTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void selColorReadsAndSets();
+    void selColorOfNothingColoursWhatComesNext();
+    void insertedTextTakesTheFormatOfTheSelectionsStart();
+    void colouredTextGoesInAndComesOut();
+    void recolourTouchesOnlyWhatDiffers();
+    void recolourKeepsCaretSelectionAndScroll();
+    void theDocumentKeepsFewFormats();
+};
+
+void BoxColoursTest::selColorReadsAndSets()
+{
+    RichTextBox box;
+    box.setText(u"one two"_s);
+    QCOMPARE(box.SelColor(), 0);
+    box.setSelStart(4);
+    box.setSelLength(3);
+    box.setSelColor(0x00ff8001);
+    QCOMPARE(box.SelColor(), 0x00ff8001);
+    QCOMPARE(box.SelText(), u"two"_s);
+    const ColouredText expected{u"one two"_s, {{4, ColouredText::automatic}, {3, 0x00ff8001}}};
+    QVERIFY(box.coloured(0, 7) == expected);
+
+    box.setSelStart(3);
+    box.setSelLength(3);
+    QCOMPARE(box.SelColor(), 0);
+    box.setSelStart(5);
+    box.setSelLength(2);
+    box.setSelColor(ColouredText::automatic);
+    const ColouredText mixed{u"one two"_s,
+                             {{4, ColouredText::automatic}, {1, 0x00ff8001}, {2, -1}}};
+    QVERIFY(box.coloured(0, 7) == mixed);
+    box.setSelColor(static_cast<qint32>(0x80000008));
+    const QColor text = box.palette().color(QPalette::Text);
+    QCOMPARE(box.SelColor(), text.red() | text.green() << 8 | text.blue() << 16);
+}
+
+void BoxColoursTest::selColorOfNothingColoursWhatComesNext()
+{
+    RichTextBox box;
+    box.setText(u"ab"_s);
+    box.setSelStart(2);
+    box.setSelColor(0xff);
+    QCOMPARE(box.SelColor(), 0xff);
+    box.setSelText(u"x\r\n"_s);
+    box.setSelText(u"y"_s);
+    QCOMPARE(box.SelColor(), 0xff);
+    QTest::keyClicks(&box, u"z"_s);
+    const ColouredText expected{u"abx\r\nyz"_s, {{2, -1}, {5, 0xff}}};
+    QVERIFY(box.coloured(0, 99) == expected);
+
+    box.setSelStart(1);
+    box.setSelColor(0xff0000);
+    QTest::keyClicks(&box, u"k"_s);
+    QCOMPARE(box.coloured(1, 1).runs.constFirst().colour, 0xff0000);
+}
+
+void BoxColoursTest::insertedTextTakesTheFormatOfTheSelectionsStart()
+{
+    RichTextBox box;
+    box.setColoured({u"redblue"_s, {{3, 0xff}, {4, 0xff0000}}});
+    box.setSelStart(0);
+    box.setSelLength(7);
+    box.setSelText(u"x"_s);
+    QVERIFY(box.coloured(0, 9) == (ColouredText{u"x"_s, {{1, 0xff}}}));
+}
+
+void BoxColoursTest::colouredTextGoesInAndComesOut()
+{
+    RichTextBox box;
+    const ColouredText text{u"IF x\r\n\r\nREM\ufdd0 y\r\n"_s, {{2, 0xff}, {1, -1}, {5, 1}, {8, 2}}};
+    box.setColoured(text);
+    QCOMPARE(box.SelStart(), 0);
+    QVERIFY(box.coloured(0, 99) == text);
+    const ColouredText part{u"x\r\n\r\nRE"_s, {{5, 1}, {2, 2}}};
+    QVERIFY(box.coloured(3, 7) == part);
+
+    // Runs that are too short, too long or cut a line end in two.
+    box.setColoured({u"abc\r\nd"_s, {{4, 7}, {-1, 3}, {1, 8}}});
+    QVERIFY(box.coloured(0, 99) == (ColouredText{u"abc\r\nd"_s, {{5, 7}, {1, -1}}}));
+    box.setColoured({u"ab"_s, {{100, 7}}});
+    QVERIFY(box.coloured(0, 99) == (ColouredText{u"ab"_s, {{2, 7}}}));
+}
+
+void BoxColoursTest::recolourTouchesOnlyWhatDiffers()
+{
+    RichTextBox box;
+    const ColouredText text{u"if x\r\nREM y"_s, {{2, 0xff}, {2, -1}, {2, -1}, {5, 2}}};
+    box.setColoured(text);
+    QSignalSpy spy(box.document(), &QTextDocument::contentsChange);
+    box.recolour(0, text);
+    QCOMPARE(spy.count(), 0);
+
+    box.recolour(0, {u"IF y\r\nREM"_s, {{2, 0xff}, {4, 9}, {3, 2}}});
+    QCOMPARE(box.Text(), u"IF x\r\nREM y"_s);
+    const ColouredText expected{u"IF x\r\nREM y"_s, {{2, 0xff}, {4, 9}, {5, 2}}};
+    QVERIFY(box.coloured(0, 99) == expected);
+}
+
+void BoxColoursTest::recolourKeepsCaretSelectionAndScroll()
+{
+    RichTextBox box;
+    box.resize(200, 100);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QString text;
+    for (int i = 0; i < 200; ++i)
+        text += u"if temp1\r\n"_s;
+    box.setText(text);
+    box.verticalScrollBar()->setValue(20);
+    const ColouredText coloured{text.toUpper(), {{text.size(), 0xff}}};
+    for (qint32 place = 0; place < 24; ++place) {
+        QTextCursor cursor(box.document());
+        cursor.setPosition(place);
+        cursor.setPosition(7, QTextCursor::KeepAnchor);
+        box.setText(text);
+        cursor = QTextCursor(box.document());
+        cursor.setPosition(place);
+        cursor.setPosition(7, QTextCursor::KeepAnchor);
+        box.setTextCursor(cursor);
+        box.verticalScrollBar()->setValue(20);
+        const int anchor = cursor.anchor();
+        box.recolour(0, coloured);
+        QCOMPARE(box.textCursor().anchor(), anchor);
+        QCOMPARE(box.textCursor().position(), 7);
+        QCOMPARE(box.verticalScrollBar()->value(), 20);
+    }
+    QCOMPARE(box.Text(), text.toUpper());
+}
+
+void BoxColoursTest::theDocumentKeepsFewFormats()
+{
+    RichTextBox box;
+    box.setFontSize(11);
+    ColouredText text;
+    for (qint32 i = 0; i < 1000; ++i) {
+        text.text += u"IF temp\r\n"_s;
+        text.runs << ColouredText::Run{2, i % 8} << ColouredText::Run{7, -1};
+    }
+    for (int round = 0; round < 3; ++round) {
+        box.setColoured(text);
+        box.recolour(0, text);
+        box.setTextRTF(box.TextRTF());
+        box.setSelStart(0);
+        box.setSelLength(100);
+        box.setSelColor(round);
+    }
+    QVERIFY2(box.document()->allFormats().size() < 20,
+             qPrintable(QString::number(box.document()->allFormats().size())));
+}
+
+QTEST_MAIN(BoxColoursTest)
+#include "BoxColoursTest.moc"

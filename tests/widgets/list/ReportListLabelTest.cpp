@@ -1,0 +1,374 @@
+#include "support/WidgetTest.h"
+#include "widgets/list/ReportListEvents.h"
+#include "widgets/list/ReportListFixture.h"
+
+#include <QtWidgets/QLineEdit>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QLineEdit *editorOf(const ShownList &shown)
+{
+    return shown->viewport()->findChild<QLineEdit *>();
+}
+
+bool hasEditor(const ShownList &shown)
+{
+    const QLineEdit *editor = editorOf(shown);
+    return editor && editor->isVisible();
+}
+
+} // namespace
+
+class ReportListLabelTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QApplication::setDoubleClickInterval(100); }
+    void editsTheLabelOfTheSelectedRow();
+    void startsWithF2();
+    void editsTheLabelsOfAnotherColumn();
+    void startsWithASlowSecondClick();
+    void doesNotStartWithOtherClicks_data();
+    void doesNotStartWithOtherClicks();
+    void canBeSwitchedOffForUsers();
+    void staysClosedWhenCancelled();
+    void dropsWhatIsCancelledAfterwards();
+    void takesTheHostsText();
+    void entersWithTheFocusGone();
+    void leavesTheLabelOnEscape();
+    void doesNotGoOnToTheNextRow();
+    void doesNothingWithoutASelectedRow();
+    void doesNotStartWithinItsOwnAnnouncement();
+    void dropsTheLabelOfARowThatIsGone();
+    void bearsAnythingInALabelEvent_data();
+    void bearsAnythingInALabelEvent();
+    void keepsErrorsFromTheEventLoop();
+};
+
+void ReportListLabelTest::editsTheLabelOfTheSelectedRow()
+{
+    const ShownList shown(100);
+    shown->setSelectedItem(shown.item(60));
+    ListEvents events(shown.list);
+    shown->StartLabelEdit();
+    QCOMPARE(events.take(), u"BeforeLabelEdit"_s);
+    QVERIFY(hasEditor(shown));
+    QCOMPARE(editorOf(shown)->text(), u"Text 60"_s);
+    QVERIFY(shown->visualRect(shown->model()->index(59, 0)).isValid()); // scrolled to
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    QTest::keyClick(editorOf(shown), Qt::Key_Return);
+    QTRY_COMPARE(shown.item(60)->Text(), u"new"_s);
+    QCOMPARE(events.take(), u"AfterLabelEdit new"_s); // the editor's keys are its own
+    QVERIFY(shown->hasFocus());
+}
+
+void ReportListLabelTest::startsWithF2()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    shown.key(Qt::Key_F2);
+    QVERIFY(hasEditor(shown));
+}
+
+void ReportListLabelTest::editsTheLabelsOfAnotherColumn()
+{
+    const ShownList shown;
+    shown->setLabelColumn(2);
+    shown.item(2)->setSubItem(2, u"old"_s);
+    shown->setSelectedItem(shown.item(2));
+    shown.key(Qt::Key_F2);
+    QVERIFY(hasEditor(shown));
+    QCOMPARE(editorOf(shown)->text(), u"old"_s);
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    QTest::keyClick(editorOf(shown), Qt::Key_Return);
+    QTRY_COMPARE(shown.item(2)->SubItem(2), u"new"_s);
+    QCOMPARE(shown.item(2)->Text(), u"Text 2"_s);
+
+    QTRY_VERIFY(!hasEditor(shown));
+    shown.click(shown.cell(2, 3));
+    QTest::qWait(ShownList::betweenClicks());
+    shown.click(shown.cell(2, 3));
+    QTRY_VERIFY(hasEditor(shown));
+
+    shown->setLabelColumn(99);
+    QCOMPARE(shown->labelColumn(), qint16(0)); // there is none
+    QCOMPARE(errorOf([&] { shown->setLabelColumn(-1); }), qint32{SubscriptOutOfRange});
+}
+
+void ReportListLabelTest::startsWithASlowSecondClick()
+{
+    const ShownList shown;
+    shown.click(shown.cell(2));
+    QTest::qWait(ShownList::betweenClicks());
+    QVERIFY(!hasEditor(shown)); // the first click only selects
+    shown.click(shown.cell(2));
+    QVERIFY(!hasEditor(shown)); // it may become a double click
+    QTRY_VERIFY(hasEditor(shown));
+}
+
+void ReportListLabelTest::doesNotStartWithOtherClicks_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const QString &kind :
+         {u"another row"_s, u"another column"_s, u"double"_s, u"right"_s, u"shift"_s, u"key"_s,
+          u"scroll"_s, u"focus"_s, u"leaving"_s, u"several"_s, u"moved"_s})
+        QTest::addRow("%s", qPrintable(kind)) << kind;
+}
+
+void ReportListLabelTest::doesNotStartWithOtherClicks()
+{
+    QFETCH(QString, kind);
+    ShownList shown(100);
+    QLineEdit other(&shown.form);
+    other.setGeometry(0, 0, 50, 18);
+    other.show();
+    shown->setMultiSelect(kind == u"several"_s);
+    shown.click(shown.cell(2));
+    ListEvents events(shown.list);
+    if (kind == u"focus"_s)
+        other.setFocus();
+    if (kind == u"several"_s)
+        shown.item(4)->setSelected(true);
+    if (kind == u"another row"_s)
+        shown.click(shown.cell(3));
+    else if (kind == u"another column"_s)
+        shown.click(shown.cell(2, 2));
+    else if (kind == u"double"_s)
+        shown.doubleClick(shown.cell(2));
+    else if (kind == u"right"_s)
+        shown.click(shown.cell(2), Qt::RightButton);
+    else if (kind == u"shift"_s)
+        shown.click(shown.cell(2), Qt::LeftButton, Qt::ShiftModifier);
+    else if (kind == u"moved"_s) {
+        shown.press(shown.cell(2));
+        shown.release(shown.cell(3));
+    } else
+        shown.click(shown.cell(2));
+    if (kind == u"key"_s)
+        shown.key(Qt::Key_Shift);
+    else if (kind == u"scroll"_s)
+        shown.item(90)->EnsureVisible();
+    else if (kind == u"leaving"_s)
+        other.setFocus();
+    QTest::qWait(ShownList::betweenClicks() + 50);
+    QVERIFY(!hasEditor(shown));
+    QVERIFY(!events.take().contains(u"BeforeLabelEdit"_s));
+}
+
+void ReportListLabelTest::canBeSwitchedOffForUsers()
+{
+    const ShownList shown;
+    shown->setEditsLabels(false);
+    shown.click(shown.cell(2));
+    shown.key(Qt::Key_F2);
+    QVERIFY(!hasEditor(shown));
+    shown.click(shown.cell(2));
+    QTest::qWait(ShownList::betweenClicks() + 50);
+    QVERIFY(!hasEditor(shown));
+    shown->StartLabelEdit();
+    QVERIFY(hasEditor(shown));
+}
+
+void ReportListLabelTest::staysClosedWhenCancelled()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    connect(shown.list, &ReportList::BeforeLabelEdit, this, [](qint16 &cancel) { cancel = 1; });
+    shown.key(Qt::Key_F2);
+    shown->StartLabelEdit();
+    QVERIFY(!hasEditor(shown));
+}
+
+void ReportListLabelTest::dropsWhatIsCancelledAfterwards()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    bool raised = false;
+    connect(shown.list, &ReportList::AfterLabelEdit, this, [&](qint16 &cancel, QString &text) {
+        raised = text == u"new"_s;
+        cancel = -1;
+    });
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    QTest::keyClick(editorOf(shown), Qt::Key_Return);
+    QTRY_VERIFY(raised);
+    QCOMPARE(shown.item(2)->Text(), u"Text 2"_s);
+}
+
+void ReportListLabelTest::takesTheHostsText()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    connect(shown.list, &ReportList::AfterLabelEdit, this,
+            [](qint16 &, QString &text) { text = text.toUpper(); });
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    QTest::keyClick(editorOf(shown), Qt::Key_Return);
+    QTRY_COMPARE(shown.item(2)->Text(), u"NEW"_s);
+}
+
+void ReportListLabelTest::entersWithTheFocusGone()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    shown.click(shown.cell(4));
+    QTRY_COMPARE(shown.item(2)->Text(), u"new"_s);
+    QCOMPARE(shown->SelectedItem(), shown.item(4));
+}
+
+void ReportListLabelTest::leavesTheLabelOnEscape()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    ListEvents events(shown.list);
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    QTest::keyClick(editorOf(shown), Qt::Key_Escape);
+    QTRY_VERIFY(!hasEditor(shown));
+    QCoreApplication::processEvents();
+    QCOMPARE(events.take(), u"BeforeLabelEdit"_s);
+    QCOMPARE(shown.item(2)->Text(), u"Text 2"_s);
+}
+
+void ReportListLabelTest::doesNotGoOnToTheNextRow()
+{
+    const ShownList shown(5, 1);
+    shown->setSelectedItem(shown.item(2));
+    ListEvents events(shown.list);
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    QTest::keyClick(editorOf(shown), Qt::Key_Tab);
+    QTRY_COMPARE(shown.item(2)->Text(), u"new"_s);
+    QTRY_VERIFY(!hasEditor(shown));
+    QCOMPARE(events.take(), u"BeforeLabelEdit, AfterLabelEdit new"_s);
+}
+
+void ReportListLabelTest::doesNothingWithoutASelectedRow()
+{
+    const ShownList shown;
+    ListEvents events(shown.list);
+    shown->StartLabelEdit();
+    QCOMPARE(events.take(), QString());
+    QVERIFY(!hasEditor(shown));
+}
+
+void ReportListLabelTest::doesNotStartWithinItsOwnAnnouncement()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    int announced = 0;
+    connect(shown.list, &ReportList::BeforeLabelEdit, this, [&](qint16 &) {
+        ++announced;
+        shown->StartLabelEdit();
+    });
+    shown->StartLabelEdit();
+    QCOMPARE(announced, 1);
+    shown->StartLabelEdit(); // is being edited already
+    QCOMPARE(announced, 1);
+    QVERIFY(hasEditor(shown));
+}
+
+void ReportListLabelTest::dropsTheLabelOfARowThatIsGone()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    shown->ListItems()->Remove(2);
+    QTRY_VERIFY(!hasEditor(shown));
+    QCoreApplication::processEvents();
+    for (int row = 1; row <= 4; ++row)
+        QVERIFY(shown.item(row)->Text() != u"new"_s);
+}
+
+void ReportListLabelTest::bearsAnythingInALabelEvent_data()
+{
+    QTest::addColumn<bool>("before");
+    QTest::addColumn<QString>("deed");
+    QTest::addColumn<QString>("way");
+    for (const bool before : {true, false}) {
+        for (const QString &deed :
+             {u"destroy"_s, u"clear"_s, u"columns"_s, u"remove"_s, u"disable"_s}) {
+            for (const QString &way : {u"F2 and Return"_s, u"click and click away"_s, u"focus"_s})
+                QTest::addRow("%s, %s, %s", before ? "before" : "after", qPrintable(deed),
+                              qPrintable(way))
+                    << before << deed << way;
+        }
+    }
+}
+
+void ReportListLabelTest::bearsAnythingInALabelEvent()
+{
+    QFETCH(bool, before);
+    QFETCH(QString, deed);
+    QFETCH(QString, way);
+    ShownList shown;
+    QLineEdit other(&shown.form);
+    other.setGeometry(0, 0, 50, 18);
+    other.show();
+    int events = 0;
+    const auto act = [&] {
+        ++events;
+        if (deed == u"destroy"_s)
+            delete shown.list;
+        else if (deed == u"clear"_s)
+            shown->Clear();
+        else if (deed == u"columns"_s)
+            shown->ColumnHeaders()->Clear();
+        else if (deed == u"remove"_s)
+            shown->ListItems()->Remove(2);
+        else
+            shown->setEnabled(false);
+    };
+    if (before)
+        connect(shown.list, &ReportList::BeforeLabelEdit, this, act);
+    else
+        connect(shown.list, &ReportList::AfterLabelEdit, this, act);
+    shown.click(shown.cell(2));
+    if (way == u"click and click away"_s)
+        shown.click(shown.cell(2));
+    else
+        shown.key(Qt::Key_F2);
+    if (!before) {
+        QTRY_VERIFY(hasEditor(shown));
+        QTest::keyClicks(editorOf(shown), u"new"_s);
+        if (way == u"F2 and Return"_s)
+            shown.key(Qt::Key_Return);
+        else if (way == u"focus"_s)
+            other.setFocus();
+        else
+            shown.click(shown.cell(4));
+    }
+    QTRY_COMPARE(events, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(shown.list.isNull(), deed == u"destroy"_s);
+}
+
+void ReportListLabelTest::keepsErrorsFromTheEventLoop()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    const auto fail = [] { throw Error(InvalidCall, u"Host"_s, u"went wrong"_s); };
+    const auto before = connect(shown.list, &ReportList::BeforeLabelEdit, this, fail);
+    QTest::ignoreMessage(QtWarningMsg, "An event handler failed: Host: went wrong");
+    shown.key(Qt::Key_F2);
+    QVERIFY(!hasEditor(shown));
+    QCOMPARE(errorOf([&] { shown->StartLabelEdit(); }), qint32{InvalidCall}); // to its caller
+    disconnect(before);
+    connect(shown.list, &ReportList::AfterLabelEdit, this, fail);
+    shown.key(Qt::Key_F2);
+    QVERIFY(hasEditor(shown));
+    QTest::ignoreMessage(QtWarningMsg, "An event handler failed: Host: went wrong");
+    shown.key(Qt::Key_Return);
+    QTRY_VERIFY(!hasEditor(shown));
+    QCoreApplication::processEvents();
+}
+
+QTEST_MAIN(ReportListLabelTest)
+#include "ReportListLabelTest.moc"

@@ -1,0 +1,331 @@
+// What is seen, and what a screen reader hears.
+
+#include "support/WidgetTest.h"
+#include "widgets/list/ReportListFixture.h"
+
+#include <QtGui/QAccessible>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStyledItemDelegate>
+#include <QtWidgets/QToolTip>
+
+#include <cmath>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void hover(QWidget &widget, QPoint at)
+{
+    QHelpEvent event(QEvent::ToolTip, at, widget.mapToGlobal(at));
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+QImage picture(QWidget &widget)
+{
+    return widget.grab().toImage();
+}
+
+double contrast(const QColor &one, const QColor &other)
+{
+    const auto luminance = [](const QColor &colour) {
+        const auto linear = [](double part) {
+            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(static_cast<double>(colour.redF())) +
+               0.7152 * linear(static_cast<double>(colour.greenF())) +
+               0.0722 * linear(static_cast<double>(colour.blueF()));
+    };
+    const double first = luminance(one) + 0.05;
+    const double second = luminance(other) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+// The best contrast that any pixel of an area has to its corner beside the text.
+double bestContrast(const QImage &image, const QRect &area)
+{
+    const QColor ground = image.pixelColor(area.topRight());
+    double best = 1;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x)
+            best = std::max(best, contrast(ground, image.pixelColor(x, y)));
+    }
+    return best;
+}
+
+QPalette darkPalette()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, QColor(20, 20, 24));
+    palette.setColor(QPalette::Window, QColor(30, 30, 34));
+    palette.setColor(QPalette::Button, QColor(40, 40, 44));
+    for (const QPalette::ColorRole role :
+         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::HighlightedText})
+        palette.setColor(role, QColor(240, 240, 240));
+    palette.setColor(QPalette::Highlight, QColor(30, 70, 130));
+    return palette;
+}
+
+// Its caret would blink into the pictures.
+class WithoutCaret : public QWidget
+{
+public:
+    using QWidget::QWidget;
+};
+
+} // namespace
+
+class ReportListLookTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() override
+    {
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
+        WidgetTest::cleanup();
+    }
+
+    void tipsLongCellsOnly();
+    void tipsTextAsItStands();
+    void tipsLongHeaders();
+    void showsWhereTheFocusIs();
+    void showsEachCellOnOneLine();
+    void showsRowColours();
+    void isLegibleInEveryPalette_data();
+    void isLegibleInEveryPalette();
+    void greysOutWhenDisabled();
+    void tellsAScreenReaderEachCell();
+    void tellsAScreenReaderOfLabels();
+    void hidesTheHeader();
+    void keepsRowsOfOneHeight();
+};
+
+void ReportListLookTest::tipsLongCellsOnly()
+{
+    const ShownList shown;
+    shown.item(1)->setText(u"A label much too long for the column that it stands in"_s);
+    hover(*shown->viewport(), shown->visualRect(shown->model()->index(0, 0)).center());
+    QTRY_COMPARE(QToolTip::text(), shown.item(1)->Text());
+    hover(*shown->viewport(), shown->visualRect(shown->model()->index(1, 0)).center());
+    QTRY_VERIFY(!QToolTip::isVisible());
+    // The narrowest column that shows no tip is the one that the text just fits.
+    const QModelIndex label = shown->model()->index(0, 0);
+    const int margin = 2 * (shown->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    const int fitting = shown->fontMetrics().horizontalAdvance(shown.item(1)->Text()) + margin;
+    shown->setColumnWidth(0, fitting);
+    hover(*shown->viewport(), shown->visualRect(label).center());
+    QVERIFY(!QToolTip::isVisible());
+    shown->setColumnWidth(0, fitting - 1);
+    hover(*shown->viewport(), shown->visualRect(label).center());
+    QVERIFY(QToolTip::isVisible());
+    hover(*shown->viewport(), QPoint(10, shown->viewport()->height() - 5));
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void ReportListLookTest::tipsTextAsItStands()
+{
+    const ShownList shown;
+    shown.item(1)->setText(u"<b>bold</b> & <a href=\"x\">more than fits here</a>"_s);
+    hover(*shown->viewport(), shown->visualRect(shown->model()->index(0, 0)).center());
+    QTRY_VERIFY(QToolTip::isVisible());
+    QVERIFY(QToolTip::text().contains(u"&lt;b&gt;"_s));
+    QToolTip::hideText();
+    shown.item(1)->setText(QString(2000, u'x') + u' ' + QString(2000, u'y'));
+    hover(*shown->viewport(), shown->visualRect(shown->model()->index(0, 0)).center());
+    QTRY_VERIFY(QToolTip::isVisible());
+}
+
+void ReportListLookTest::tipsLongHeaders()
+{
+    const ShownList shown;
+    shown->ColumnHeaders()->Item(2)->setText(u"Hw Override Mode and more that does not fit"_s);
+    QWidget &header = *shown->horizontalHeader()->viewport();
+    const auto middle = [&](int column) {
+        return QPoint(shown->horizontalHeader()->sectionViewportPosition(column) + 20,
+                      header.height() / 2);
+    };
+    hover(header, middle(1));
+    QTRY_COMPARE(QToolTip::text(), shown->ColumnHeaders()->Item(2)->Text());
+    hover(header, middle(0));
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void ReportListLookTest::showsWhereTheFocusIs()
+{
+    ShownList shown;
+    WithoutCaret other(&shown.form);
+    other.setFocusPolicy(Qt::StrongFocus);
+    other.show();
+    for (const bool selected : {true, false}) {
+        shown->setSelectedItem(shown.item(2));
+        shown.item(2)->setSelected(selected);
+        shown->setFocus();
+        const QImage with = picture(*shown->viewport());
+        other.setFocus();
+        const QImage without = picture(*shown->viewport());
+        const QRect row = shown->visualRect(shown->model()->index(1, 0));
+        QVERIFY(with.copy(row) != without.copy(row));
+        // The text is as legible as without.
+        QVERIFY(with.copy(row.adjusted(2, 2, -2, -2)) == without.copy(row.adjusted(2, 2, -2, -2)));
+        QVERIFY(bestContrast(with.copy(row), QRect(0, 0, row.width(), 1)) > 3);
+        const QRect next = shown->visualRect(shown->model()->index(3, 0));
+        QVERIFY(with.copy(next) == without.copy(next));
+    }
+}
+
+void ReportListLookTest::showsEachCellOnOneLine()
+{
+    const ShownList shown;
+    shown.item(1)->setText(u"one two"_s);
+    shown.item(2)->setText(u"one\ntwo"_s);
+    shown.item(3)->setText(u"one\r\ntwo"_s);
+    shown.item(4)->setText(u"one\ttwo"_s);
+    shown.item(5)->setText(QStringLiteral("one\u2028two"));
+    shown->setCurrentIndex({});
+    const QImage image = picture(*shown->viewport());
+    const QImage first = image.copy(shown->visualRect(shown->model()->index(0, 0)));
+    for (int row = 1; row < 5; ++row)
+        QVERIFY(image.copy(shown->visualRect(shown->model()->index(row, 0))) == first);
+}
+
+void ReportListLookTest::showsRowColours()
+{
+    const ShownList shown;
+    shown.item(2)->setForeground(QColor(255, 0, 0));
+    const auto reds = [&](int row) {
+        const QImage image = picture(*shown->viewport());
+        const QRect area = shown->visualRect(shown->model()->index(row - 1, 0));
+        int count = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x) {
+                const QColor colour = image.pixelColor(x, y);
+                count += colour.red() > 150 && colour.green() < 100 && colour.blue() < 100 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    QVERIFY(reds(2) > 20);
+    QCOMPARE(reds(3), 0);
+    shown->setSelectedItem(shown.item(2)); // then the palette decides
+    QCOMPARE(reds(2), 0);
+}
+
+void ReportListLookTest::isLegibleInEveryPalette_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::addRow("as it is") << QPalette();
+    QTest::addRow("dark") << darkPalette();
+    QPalette strong;
+    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Window, QPalette::Button})
+        strong.setColor(role, Qt::black);
+    for (const QPalette::ColorRole role :
+         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        strong.setColor(role, Qt::yellow);
+    strong.setColor(QPalette::Highlight, Qt::cyan);
+    strong.setColor(QPalette::HighlightedText, Qt::black);
+    QTest::addRow("high contrast") << strong;
+}
+
+void ReportListLookTest::isLegibleInEveryPalette()
+{
+    QFETCH(QPalette, palette);
+    const ShownList shown;
+    shown->setPalette(palette);
+    shown->setSelectedItem(shown.item(2));
+    shown.item(1)->setText(QString(8, u'█'));
+    shown.item(2)->setText(QString(8, u'█'));
+    const QImage image = picture(*shown->viewport());
+    const auto area = [&](int row) {
+        return shown->visualRect(shown->model()->index(row - 1, 0)).adjusted(2, 3, -2, -3);
+    };
+    QVERIFY(bestContrast(image, area(1)) > 4.5);
+    QVERIFY(bestContrast(image, area(2)) >
+            0.95 * contrast(palette.color(QPalette::Highlight),
+                            palette.color(QPalette::HighlightedText)));
+    QCOMPARE(image.pixelColor(shown->viewport()->width() - 3, shown->viewport()->height() - 3),
+             palette.color(QPalette::Base));
+    const QImage header = picture(*shown->horizontalHeader());
+    QVERIFY(bestContrast(header, QRect(2, 3, 80, header.height() - 6)) > 3);
+}
+
+void ReportListLookTest::greysOutWhenDisabled()
+{
+    const ShownList shown;
+    const QImage enabled = picture(*shown->viewport());
+    shown->setEnabled(false);
+    QVERIFY(picture(*shown->viewport()) != enabled);
+}
+
+void ReportListLookTest::tellsAScreenReaderEachCell()
+{
+    const ShownList shown(40, 3);
+    shown.item(30)->setSubItem(2, u"21.5"_s);
+    shown->setAccessibleName(u"Inputs"_s);
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(shown.list);
+    QVERIFY(list);
+    QCOMPARE(list->role(), QAccessible::Table);
+    QCOMPARE(list->text(QAccessible::Name), u"Inputs"_s);
+    QAccessibleTableInterface *table = list->tableInterface();
+    QVERIFY(table);
+    QCOMPARE(table->rowCount(), 40);
+    QCOMPARE(table->columnCount(), 3);
+    QAccessibleInterface *cell = table->cellAt(29, 2);
+    QVERIFY(cell);
+    QCOMPARE(cell->text(QAccessible::Name), u"21.5"_s);
+    QAccessibleTableCellInterface *place = cell->tableCellInterface();
+    QVERIFY(place);
+    QCOMPARE(place->rowIndex(), 29);
+    QCOMPARE(place->columnIndex(), 2);
+    QCOMPARE(place->columnHeaderCells().size(), 1);
+    QCOMPARE(place->columnHeaderCells().first()->text(QAccessible::Name), u"Header 3"_s);
+    QCOMPARE(place->rowHeaderCells().size(), 1);
+    QCOMPARE(place->rowHeaderCells().first()->text(QAccessible::Name), u"30"_s);
+    shown->goToRow(30);
+    QVERIFY(place->isSelected());
+    QVERIFY(cell->state().selected);
+    shown->ListItems()->Remove(1); // what is told stays true
+    QCOMPARE(list->tableInterface()->cellAt(28, 2)->text(QAccessible::Name), u"21.5"_s);
+}
+
+void ReportListLookTest::tellsAScreenReaderOfLabels()
+{
+    const ShownList shown;
+    shown->setCheckBoxes(true);
+    shown.item(2)->setChecked(true);
+    QAccessibleTableInterface *table =
+        QAccessible::queryAccessibleInterface(shown.list)->tableInterface();
+    QAccessibleInterface *label = table->cellAt(1, 0);
+    QCOMPARE(label->text(QAccessible::Name), u"Text 2"_s);
+    QVERIFY(label->state().checkable && label->state().checked);
+    QVERIFY(!table->cellAt(1, 1)->state().checkable);
+    QVERIFY(!table->cellAt(0, 0)->state().checked);
+}
+
+void ReportListLookTest::hidesTheHeader()
+{
+    const ShownList shown;
+    QVERIFY(shown->isHeaderVisible());
+    shown->setHeaderVisible(false);
+    QVERIFY(!shown->isHeaderVisible());
+    QTRY_COMPARE(shown->viewport()->y(), shown->frameWidth());
+    const QPoint inList = shown->mapFrom(&shown.form, shown.cell(1));
+    QCOMPARE(shown->HitTest(static_cast<float>(Twips::fromPixelsX(inList.x(), *shown.list)),
+                            static_cast<float>(Twips::fromPixelsY(inList.y(), *shown.list))),
+             shown.item(1));
+}
+
+void ReportListLookTest::keepsRowsOfOneHeight()
+{
+    const ShownList shown(50);
+    shown.item(3)->setText(u"two\nlines"_s);
+    shown.item(4)->setText(u"温度"_s);
+    const int height = shown->rowHeight(0);
+    QVERIFY(height >= shown->fontMetrics().height());
+    for (int row = 0; row < 50; ++row)
+        QCOMPARE(shown->rowHeight(row), height);
+}
+
+QTEST_MAIN(ReportListLookTest)
+#include "ReportListLookTest.moc"
