@@ -10,6 +10,7 @@ class RichTextBox;
 // Colours what is typed: a word once it is finished, a line once it is left. Only
 // colours and listed letter case change, never a blank, a tab or a bracket, and
 // nothing while an input method composes.
+// Why it is so: docs/decisions/editor-typing.md.
 class TypedColouring
 {
 public:

@@ -1,4 +1,6 @@
-"""Every relative link in the documents leads somewhere, and every decision has its form.
+"""Every link in the documents leads somewhere, and every decision has its form.
+
+Relative links and anchors count, and pages that comments of the sources name.
 
 Prints what is wrong, one fault a line, and fails if there is any.
 """
@@ -14,18 +16,19 @@ INLINE_CODE = re.compile(r"`[^`\n]*`")
 LINK = re.compile(r"\[[^\]]*\]\(([^)\s]+)\)")
 HEADING = re.compile(r"^(#+) +(.+?) *$", re.MULTILINE)
 ENTRY = re.compile(r"^## (.+)\n((?:(?!## ).*\n?)*)", re.MULTILINE)
+PAGE_IN_COMMENT = re.compile(r"\bdocs/[\w./-]+\.md\b")
 NOT_IN_ANCHORS = re.compile(r"[^\w\- ]")
 
 
-def tracked_pages(root):
-    command = ["git", "-C", str(root), "ls-files", "-z", "*.md"]
+def tracked_files(root, *endings):
+    command = ["git", "-C", str(root), "ls-files", "-z"]
     try:
         listed = subprocess.run(command, capture_output=True, check=True, text=True).stdout
-        pages = [root / name for name in listed.split("\0") if name]
+        files = [root / name for name in listed.split("\0") if name]
     except (OSError, subprocess.CalledProcessError):  # not a checkout
-        pages = [page for page in root.rglob("*.md")
-                 if page.relative_to(root).parts[0] not in ("build", ".git")]
-    return [page for page in pages if page.exists()]
+        files = [file for file in root.rglob("*")
+                 if file.relative_to(root).parts[0] not in ("build", ".git")]
+    return [file for file in files if file.suffix in endings and file.exists()]
 
 
 def text_of(page):
@@ -63,6 +66,13 @@ def broken_links(pages):
                 yield page, f"no heading for {target}"
 
 
+def missing_pages(root, sources):
+    for source in sources:
+        for name in PAGE_IN_COMMENT.findall(source.read_text(encoding="utf-8")):
+            if not (root / name).exists():
+                yield source, f"no file {name}"
+
+
 def unlisted_decisions(folder):
     index = folder / "README.md"
     listed = {(file, name) for _, file, name in links(index)}
@@ -82,11 +92,12 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("root", type=pathlib.Path)
     root = parser.parse_args().root.resolve()
-    pages = tracked_pages(root)
+    pages = tracked_files(root, ".md")
     decisions = root / "docs" / "decisions"
     if not pages or not (decisions / "README.md").exists():
         sys.exit(f"no documents below {root}")
-    faults = [*broken_links(pages), *unlisted_decisions(decisions)]
+    faults = [*broken_links(pages), *unlisted_decisions(decisions),
+              *missing_pages(root, tracked_files(root, ".h", ".cpp"))]
     for page, fault in faults:
         print(f"{page.relative_to(root)}: {fault}")
     return 1 if faults else 0
