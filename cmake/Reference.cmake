@@ -8,9 +8,6 @@ endif()
 get_property(reference_headers GLOBAL PROPERTY ORVT_PUBLIC_HEADER_PATHS)
 list(APPEND reference_headers
     ${PROJECT_SOURCE_DIR}/docs/guide
-    ${PROJECT_SOURCE_DIR}/docs/code-editor.md
-    ${PROJECT_SOURCE_DIR}/docs/languages.md
-    ${PROJECT_SOURCE_DIR}/docs/settings-file.md
     ${PROJECT_SOURCE_DIR}/examples/README.md)
 list(JOIN reference_headers " " ORVT_REFERENCE_INPUT)
 configure_file(docs/Doxyfile.in ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)

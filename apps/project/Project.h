@@ -36,8 +36,8 @@ public:
     // saved here. A file that is gone counts as unchanged.
     bool isProgramChangedOutside() const;
 
-    // Gives a point another name, here and in its collection; save() takes it into
-    // the file. Raises Error (NameNotUsable) and changes nothing when the type's points
+    // Gives a point another name, here and in its collection; saveNames() takes it
+    // into the file. Raises Error (NameNotUsable) and changes nothing when the type's points
     // have no names, the name is not one, or another point of the type has it.
     void rename(LwType type, qsizetype row, const QString &name);
 

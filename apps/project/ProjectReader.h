@@ -56,7 +56,7 @@ struct ProjectContents
     QString program; // lines separated by CR LF
 };
 
-// The form of the file is told in docs/project-file.md. Raises Error with a
+// The form of the file is told in docs/guide/project-file.md. Raises Error with a
 // ProjectErrorNumber for the first thing that is wrong.
 ProjectContents readProject(const QString &fileName);
 

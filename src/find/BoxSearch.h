@@ -11,6 +11,7 @@ struct TextSearch;
 // A search through a box: where it goes on and how it compares. It changes the text
 // through the box's commands only, so that the rules of the box's owner hold. Once
 // the box is destroyed, or without one, nothing is found and nothing replaced.
+// Why it is so: docs/decisions/find.md.
 class BoxSearch
 {
 public:

@@ -15,6 +15,7 @@ class SinkConnection;
 // the signals hear of an event in the order in which they were connected, and each
 // sees what those before it made of the arguments. A receiver may do anything in
 // between, destroying the component or its own sink included.
+// Why it is so: docs/decisions/members.md.
 class ORVT_CORE_EXPORT EventDelivery
 {
 public:

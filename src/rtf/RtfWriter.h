@@ -18,6 +18,7 @@ namespace ORVTListview {
 //
 // A document has at most 4,096 fonts and 4,095 colours; text in a further one
 // gets the default font or the automatic colour.
+// Why it is so: docs/decisions/rtf.md.
 class ORVT_CORE_EXPORT RtfWriter final : public RtfSink
 {
 public:

@@ -16,6 +16,7 @@ class ProjectNodes;
 //
 // What else is dragged over the tree is refused unless a receiver of the events
 // says otherwise.
+// Why it is so: docs/decisions/tree.md.
 class CategoryMoves final : public DropTarget
 {
 public:

@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The rules for menus of docs/workbench.md.
+// The rules for menus of docs/guide/workbench.md.
 class MenuRulesTest : public WidgetTest
 {
     Q_OBJECT

@@ -14,6 +14,7 @@ namespace ORVTListview::ModZlib {
 // The longest text that is compressed or uncompressed. A length beyond it, in a
 // damaged text for instance, fails like a lack of memory; so no text takes more
 // than 256 MiB, and about as much again while it is worked on.
+// Why it is so: docs/decisions/compression.md.
 constexpr qint32 maximumLength = 128 * 1024 * 1024;
 
 // Whether CompressString takes this text: not too long, and all of it in the code

@@ -13,6 +13,7 @@ namespace ORVTListview {
 // cannot be read holds no settings, and is kept as NAME.damaged-1, -2 and so on
 // when a new one is written. What is no file at all, such as a folder of that
 // name, is left alone, and so is a file that may be read but not written.
+// Why it is so: docs/decisions/settings.md.
 class ORVT_CORE_EXPORT SettingsFile final : public SettingsPlace
 {
 public:

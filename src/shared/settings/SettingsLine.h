@@ -7,7 +7,7 @@
 namespace ORVTListview {
 
 // One line of a settings file. Names and values that would not come back as they
-// are stand in quotes; docs/settings-file.md has the rules.
+// are stand in quotes; docs/guide/settings-file.md has the rules.
 struct SettingsLine
 {
     enum class Kind { Other, Section, Setting };

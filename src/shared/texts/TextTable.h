@@ -9,6 +9,7 @@ namespace ORVTListview {
 
 // The translated texts of one user-interface thread, as last fetched from the
 // provider in force.
+// Why it is so: docs/decisions/texts.md.
 class ORVT_CORE_EXPORT TextTable
 {
 public:

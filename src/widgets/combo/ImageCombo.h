@@ -30,6 +30,7 @@ struct ImageComboParts;
 //
 // A receiver may do anything in an event, destroying the combo included. What the
 // program changes raises no event, but for Change at setText.
+// Why it is so: docs/decisions/combo.md.
 class ORVT_EXPORT ImageCombo : public QComboBox
 {
     Q_OBJECT

@@ -13,6 +13,7 @@ class ImageList;
 // status pictures, the tree's device and page, and the word classes. Indexes 61
 // to 71 are those of the word classes; the picture of a class of points is that
 // of its type.
+// Why it is so: docs/decisions/pictures.md.
 struct ORVT_EXPORT Pictures
 {
     // The pictures are added; a list that has one of their keys or indexes

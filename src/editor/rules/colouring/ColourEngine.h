@@ -8,6 +8,7 @@ namespace ORVTListview {
 
 // Walks a program once and tells a sink what it consists of. RTF, screen and
 // tests are sinks of this one pass, so they cannot disagree.
+// Why it is so: docs/decisions/colouring.md.
 class ORVT_CORE_EXPORT ColourEngine
 {
 public:

@@ -11,6 +11,7 @@ namespace ORVTListview {
 // A sorted list of words, each with a number. Entries are ordered without regard
 // to case; equal ones stay in the order of adding. A search begins after the
 // first entry and wraps, so that the first entry is compared last.
+// Why it is so: docs/decisions/word-list.md.
 class ORVT_CORE_EXPORT WordIndex
 {
 public:

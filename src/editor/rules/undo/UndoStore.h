@@ -39,6 +39,7 @@ class UndoSlotEncoder;
 // Long records are held compressed, but storing one must not hold up a key: it is
 // kept plain, sharing its text with whoever gave it, and encoded by encodePending
 // while the program is idle. The members for the ring show the same either way.
+// Why it is so: docs/decisions/undo.md.
 class ORVT_CORE_EXPORT UndoStore
 {
 public:

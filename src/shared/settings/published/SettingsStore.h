@@ -9,7 +9,7 @@ namespace ORVTListview {
 class SettingsSession;
 
 // A small store of named texts, kept per application name for all users of the
-// machine. Where it stands, and its form, is described in docs/settings-file.md.
+// machine. Where it stands, and its form, is described in docs/guide/settings-file.md.
 // Names are told apart by letter case, except in the registry of Windows.
 //
 // No failure is reported: a setting that cannot be read is absent, one that

@@ -28,6 +28,7 @@ struct TextPiece;
 //
 // Change is raised for every change of the text, by the user or by a call, but
 // not for colours and fonts.
+// Why it is so: docs/decisions/box.md.
 class ORVT_EXPORT RichTextBox : public QPlainTextEdit
 {
     Q_OBJECT
