@@ -464,6 +464,7 @@ void CodeEditor::caretToLineEnd()
 void CodeEditor::takeWord(const QString &word, qint32 colour)
 {
     PushUndoSnapshot();
+    m_box->setSelStart(m_box->SelStart()); // the word's line, of those selected
     m_colouring.noteEdit();
     edit([&] { SetWordAtCaret(*m_box, word, colour); });
     m_box->setFocus();

@@ -264,6 +264,16 @@ private Q_SLOTS:
         QCOMPARE(host.box().Text(), u"one\r\nTemp1"_s);
     }
 
+    void aWordPickedOverSelectedLinesLeavesTheOthersAlone()
+    {
+        EditorHost host;
+        host.setText(u"|x\r\nif temp1 > |20"_s);
+        host.key(Qt::Key_Space, Qt::ControlModifier);
+        host.key(Qt::Key_End);
+        host.key(Qt::Key_Return);
+        QCOMPARE(host.box().lineText(1), u"if temp1 > 20"_s);
+    }
+
     void theWordListClosesWhenTheHostSetsTheText_data() { addCalls(); }
     void theWordListClosesWhenTheHostSetsTheText()
     {
