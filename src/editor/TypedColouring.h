@@ -12,15 +12,10 @@ class RichTextBox;
 
 // Colours what is typed: a word once it is finished, a line once it is left. Only
 // colours and listed letter case change, never a blank, a tab or a bracket, and
-<<<<<<< HEAD
 // nothing while an input method composes. A line that anyone else changes is not
 // the user's any more: what the host sets stays as it is.
-class TypedColouring : public QObject
-=======
-// nothing while an input method composes.
 // Why it is so: docs/decisions/editor-typing.md.
-class TypedColouring
->>>>>>> docs
+class TypedColouring : public QObject
 {
     Q_OBJECT
 
