@@ -97,7 +97,7 @@ bool keepBeside(const QString &fileName)
 
 bool replace(const QString &fileName, const Loaded &loaded)
 {
-    FileReplacement replacement(fileName);
+    FileReplacement replacement(fileName, fileName + u".new"_s);
     return replacement.write(loaded.document.toBytes()) &&
            (loaded.state != Loaded::State::Damaged || keepBeside(fileName)) && replacement.commit();
 }
