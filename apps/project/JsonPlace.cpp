@@ -26,7 +26,8 @@ QString lineAndColumn(const QByteArray &json, qsizetype offset)
 {
     const QByteArrayView before = QByteArrayView(json).first(std::min(offset, json.size()));
     const qsizetype column = before.size() - before.lastIndexOf('\n');
-    return ProjectTexts::tr("line %1, column %2").arg(before.count('\n') + 1).arg(column);
+    return ProjectTexts::tr("line %1, column %2")
+        .arg(QString::number(before.count('\n') + 1), QString::number(column));
 }
 
 } // namespace
@@ -88,7 +89,8 @@ QList<JsonPlace> JsonPlace::items(qsizetype atMost) const
         fail(ProjectTexts::tr("holds more than %1 elements").arg(atMost));
     QList<JsonPlace> result;
     for (const QJsonValue value : array)
-        result.append({m_file, u"%1 #%2"_s.arg(m_place).arg(result.size() + 1), value});
+        result.append(
+            {m_file, u"%1 #%2"_s.arg(m_place, QString::number(result.size() + 1)), value});
     return result;
 }
 

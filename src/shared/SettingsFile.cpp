@@ -88,7 +88,7 @@ bool mayReplace(const QString &fileName)
 bool keepBeside(const QString &fileName)
 {
     for (int i = 1;; ++i) {
-        const QString name = u"%1.damaged-%2"_s.arg(fileName).arg(i);
+        const QString name = fileName + u".damaged-"_s + QString::number(i);
         const QFileInfo info(name);
         if (!info.exists() && !info.isSymLink())
             return QFile::rename(fileName, name);

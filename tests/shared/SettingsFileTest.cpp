@@ -137,6 +137,17 @@ TEST_F(SettingsFileTest, TenMegabytesOfSettingsAreReadAndWritten)
     EXPECT_TRUE(folder.content(u"s"_s).contains(settings));
 }
 
+TEST_F(SettingsFileTest, ADamagedFileIsKeptWhateverItsFolderIsCalled)
+{
+    for (const QString &name : {u"a%2b/s"_s, u"%1/s"_s, u"%L1%99/s"_s}) {
+        folder.write(name, "\1");
+        SettingsFile file(folder.path(name));
+        EXPECT_TRUE(file.write({{code, u"3"_s}}));
+        EXPECT_EQ(file.view()->value(code), u"3"_s);
+        EXPECT_EQ(folder.content(name + u".damaged-1"_s), "\1");
+    }
+}
+
 TEST_F(SettingsFileTest, AFolderInItsPlaceIsLeftAlone)
 {
     folder.write(u"s/precious"_s, "x");
