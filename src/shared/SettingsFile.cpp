@@ -1,6 +1,7 @@
 #include "shared/SettingsFile.h"
 
 #include "platform/FileLock.h"
+#include "platform/FilePlace.h"
 #include "platform/FileReplacement.h"
 #include "shared/SettingsDocument.h"
 
@@ -56,8 +57,8 @@ std::optional<QByteArray> contentOf(const QString &fileName)
 
 Loaded load(const QString &fileName)
 {
-    const QFileInfo info(fileName);
-    if (!info.exists())
+    const QFileInfo info(fileName); // a link leads nowhere but in a circle
+    if (!info.exists() && !info.isSymLink())
         return {Loaded::State::Absent};
     if (!info.isFile()) // reading could wait for ever
         return {Loaded::State::NoFile};
@@ -68,13 +69,6 @@ Loaded load(const QString &fileName)
     if (!document)
         return {Loaded::State::Damaged};
     return {Loaded::State::Whole, *std::move(document)};
-}
-
-// The file behind a link is replaced, not the link.
-QString targetOf(const QString &fileName)
-{
-    const QString target = QFileInfo(fileName).canonicalFilePath();
-    return target.isEmpty() ? fileName : target;
 }
 
 // Replacing a file needs no right to write it, but somebody who takes that right
@@ -112,24 +106,30 @@ SettingsFile::SettingsFile(const QString &fileName, std::chrono::milliseconds pa
 
 std::unique_ptr<const SettingsView> SettingsFile::view() const
 {
-    return std::make_unique<DocumentView>(load(m_fileName).document);
+    return std::make_unique<DocumentView>(load(behindLinks(m_fileName)).document);
 }
 
 bool SettingsFile::write(const SettingChanges &changes)
 {
-    const QString fileName = targetOf(m_fileName);
-    if (!load(fileName).document.apply(changes))
+    const QString fileName = behindLinks(m_fileName);
+    Loaded loaded = load(fileName);
+    if (!loaded.document.apply(changes))
         return true;
-    if (!mayReplace(fileName) || !QDir().mkpath(QFileInfo(fileName).path()))
+    if (loaded.state == Loaded::State::NoFile || !mayReplace(fileName) ||
+        !QDir().mkpath(QFileInfo(fileName).path()))
         return false;
     const FileLock lock(fileName + u".lock"_s, m_patience);
     if (!lock.isHeld())
         return false;
     // Once more, since others may have written while this one waited.
-    Loaded loaded = load(fileName);
-    if (loaded.state == Loaded::State::NoFile)
-        return false;
+    loaded = load(fileName);
     return !loaded.document.apply(changes) || replace(fileName, loaded);
+}
+
+bool SettingsFile::isOneWith(const SettingsPlace &other) const
+{
+    const auto *file = dynamic_cast<const SettingsFile *>(&other);
+    return file && isOneFile(m_fileName, file->m_fileName);
 }
 
 } // namespace ORVTListview
