@@ -453,6 +453,10 @@ Diese Änderungen überschreiben?</translation>
         <source>its folder takes no new file (%1)</source>
         <translation>der Ordner nimmt keine neue Datei an (%1)</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice</source>
+        <translation>„%1“ steht zweimal da</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

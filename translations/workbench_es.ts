@@ -453,6 +453,10 @@ Overwrite those changes?</source>
         <source>its folder takes no new file (%1)</source>
         <translation>su carpeta no admite archivos nuevos (%1)</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice</source>
+        <translation>«%1» figura dos veces</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -453,6 +453,10 @@ Overwrite those changes?</source>
         <source>its folder takes no new file (%1)</source>
         <translation>son dossier n’accepte pas de nouveau fichier (%1)</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice</source>
+        <translation>«&#xa0;%1&#xa0;» y figure deux fois</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

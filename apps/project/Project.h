@@ -36,9 +36,9 @@ public:
     // saved here. A file that is gone counts as unchanged.
     bool isProgramChangedOutside() const;
 
-    // Gives a point another name, here and in its collection; save() takes it into
-    // the file. Raises Error (NameNotUsable) and changes nothing when the type's points
-    // have no names, the name is not one, or another point of the type has it.
+    // Gives a point another name, here and in its collection; saveNames() takes it
+    // into the file. Raises Error (NameNotUsable) and changes nothing when the type's
+    // points have no names, the name is not one, or another point of the type has it.
     void rename(LwType type, qsizetype row, const QString &name);
 
     // Whether names wait for being saved.
@@ -70,6 +70,7 @@ private:
 
     void fillPoints(LwType type);
     void noteNewName(LwType type, qsizetype row, const QString &former);
+    QByteArray withNewNames(const QByteArray &json) const;
 
     QString m_fileName;
     QList<NewName> m_newNames;
