@@ -88,7 +88,8 @@ void check(const QString &what, bool isRight, const QString &found)
 
 void checkEqual(const QString &what, qsizetype found, qsizetype expected)
 {
-    check(what, found == expected, u"%1 instead of %2"_s.arg(found).arg(expected));
+    check(what, found == expected,
+          u"%1 instead of %2"_s.arg(QString::number(found), QString::number(expected)));
 }
 
 void checkEqual(const QString &what, const QString &found, const QString &expected)

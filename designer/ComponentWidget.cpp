@@ -72,10 +72,9 @@ QString ComponentWidget::domXml() const
   </customwidget>
  </customwidgets>
 </ui>)"_s;
-    return xml.arg(m_description.title, name(), m_description.objectName)
-        .arg(m_description.size.width())
-        .arg(m_description.size.height())
-        .arg(m_description.properties);
+    return xml.arg(m_description.title, name(), m_description.objectName,
+                   QString::number(m_description.size.width()),
+                   QString::number(m_description.size.height()), m_description.properties);
 }
 
 bool ComponentWidget::isInitialized() const

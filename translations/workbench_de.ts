@@ -441,6 +441,22 @@ Diese Änderungen überschreiben?</translation>
         <source>%1: &quot;%2&quot; is no longer where it was</source>
         <translation>%1: „%2“ steht nicht mehr an seinem Platz</translation>
     </message>
+    <message>
+        <source>is not a file</source>
+        <translation>ist keine Datei</translation>
+    </message>
+    <message>
+        <source>may only be read</source>
+        <translation>darf nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>its folder takes no new file (%1)</source>
+        <translation>der Ordner nimmt keine neue Datei an (%1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice</source>
+        <translation>„%1“ steht zweimal da</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

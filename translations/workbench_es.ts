@@ -441,6 +441,22 @@ Overwrite those changes?</source>
         <source>%1: &quot;%2&quot; is no longer where it was</source>
         <translation>%1: «%2» ya no está en su sitio</translation>
     </message>
+    <message>
+        <source>is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>may only be read</source>
+        <translation>es de solo lectura</translation>
+    </message>
+    <message>
+        <source>its folder takes no new file (%1)</source>
+        <translation>su carpeta no admite archivos nuevos (%1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice</source>
+        <translation>«%1» figura dos veces</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

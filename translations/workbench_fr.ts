@@ -441,6 +441,22 @@ Overwrite those changes?</source>
         <source>%1: &quot;%2&quot; is no longer where it was</source>
         <translation>%1 : « %2 » n’est plus à sa place</translation>
     </message>
+    <message>
+        <source>is not a file</source>
+        <translation>n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>may only be read</source>
+        <translation>est en lecture seule</translation>
+    </message>
+    <message>
+        <source>its folder takes no new file (%1)</source>
+        <translation>son dossier n’accepte pas de nouveau fichier (%1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice</source>
+        <translation>«&#xa0;%1&#xa0;» y figure deux fois</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

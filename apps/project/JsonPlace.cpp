@@ -1,11 +1,8 @@
 #include "project/JsonPlace.h"
 
+#include "project/JsonParser.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
-
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
 
 #include <cmath>
 #include <limits>
@@ -22,31 +19,58 @@ using namespace Qt::StringLiterals;
     throw Error(ProjectNotValid, u"readProject"_s, u"%1: %2"_s.arg(where, reason));
 }
 
+// Columns count characters.
 QString lineAndColumn(const QByteArray &json, qsizetype offset)
 {
-    const QByteArrayView before = QByteArrayView(json).first(std::min(offset, json.size()));
-    const qsizetype column = before.size() - before.lastIndexOf('\n');
-    return ProjectTexts::tr("line %1, column %2").arg(before.count('\n') + 1).arg(column);
+    const QByteArrayView before = QByteArrayView(json).first(offset);
+    const QString line = QString::fromUtf8(before.sliced(before.lastIndexOf('\n') + 1));
+    return ProjectTexts::tr("line %1, column %2")
+        .arg(QString::number(before.count('\n') + 1), QString::number(line.size() + 1));
+}
+
+QString expectation(JsonNode::Kind kind)
+{
+    switch (kind) {
+    case JsonNode::Kind::Object:
+        return ProjectTexts::tr("an object is expected");
+    case JsonNode::Kind::Array:
+        return ProjectTexts::tr("an array is expected");
+    case JsonNode::Kind::Text:
+        return ProjectTexts::tr("a text is expected");
+    case JsonNode::Kind::Boolean:
+        return ProjectTexts::tr("true or false is expected");
+    case JsonNode::Kind::Number:
+    case JsonNode::Kind::Null:
+        break;
+    }
+    return ProjectTexts::tr("a number is expected");
+}
+
+std::shared_ptr<const JsonNode> parsed(const QByteArray &json, const QString &fileName)
+{
+    try {
+        return std::make_shared<const JsonNode>(JsonParser::parse(json));
+    } catch (const JsonFault &fault) {
+        failAt(fileName, lineAndColumn(json, fault.offset), fault.reason);
+    }
 }
 
 } // namespace
 
-JsonPlace::JsonPlace(QString file, QString place, QJsonValue value)
+JsonPlace::JsonPlace(QString file, Root root, QString place, const JsonNode *node)
     : m_file(std::move(file))
+    , m_root(std::move(root))
     , m_place(std::move(place))
-    , m_value(std::move(value))
+    , m_node(node)
 {
 }
 
 JsonPlace JsonPlace::parse(const QByteArray &json, const QString &fileName)
 {
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
-    if (error.error != QJsonParseError::NoError)
-        failAt(fileName, lineAndColumn(json, error.offset), error.errorString());
-    if (!document.isObject())
-        failAt(fileName, {}, ProjectTexts::tr("an object is expected"));
-    return {fileName, {}, document.object()};
+    const Root root = parsed(json, fileName);
+    const JsonPlace place(fileName, root, {}, root.get());
+    place.expect(JsonNode::Kind::Object);
+    return place;
 }
 
 const JsonPlace &JsonPlace::required() const
@@ -58,37 +82,39 @@ const JsonPlace &JsonPlace::required() const
 
 JsonPlace JsonPlace::member(const QString &name) const
 {
-    if (isPresent() && !m_value.isObject())
-        fail(ProjectTexts::tr("an object is expected"));
+    expect(JsonNode::Kind::Object);
     const QString place = m_place.isEmpty() ? name : u"%1, %2"_s.arg(m_place, name);
-    if (!isPresent())
-        return {m_file, place, QJsonValue::Undefined};
-    return {m_file, place, m_value.toObject().value(name)};
+    const qsizetype index = isPresent() ? m_node->names.indexOf(name) : -1;
+    return below(place, index < 0 ? nullptr : &m_node->items[static_cast<std::size_t>(index)]);
 }
 
 void JsonPlace::allowOnly(const QStringList &members) const
 {
-    if (isPresent() && !m_value.isObject())
-        fail(ProjectTexts::tr("an object is expected"));
-    const QStringList present = m_value.toObject().keys();
+    expect(JsonNode::Kind::Object);
+    const QStringList present = isPresent() ? m_node->names : QStringList();
     for (const QString &name : present) {
         if (!members.contains(name))
             member(name).fail(ProjectTexts::tr("is not known here"));
     }
 }
 
+JsonPlace JsonPlace::item(qsizetype index) const
+{
+    expect(JsonNode::Kind::Array);
+    const auto at = static_cast<std::size_t>(index);
+    return element(index, isPresent() && at < m_node->items.size() ? &m_node->items[at] : nullptr);
+}
+
 QList<JsonPlace> JsonPlace::items(qsizetype atMost) const
 {
+    expect(JsonNode::Kind::Array);
     if (!isPresent())
         return {};
-    if (!m_value.isArray())
-        fail(ProjectTexts::tr("an array is expected"));
-    const QJsonArray array = m_value.toArray();
-    if (array.size() > atMost)
+    if (m_node->items.size() > static_cast<std::size_t>(atMost))
         fail(ProjectTexts::tr("holds more than %1 elements").arg(atMost));
     QList<JsonPlace> result;
-    for (const QJsonValue value : array)
-        result.append({m_file, u"%1 #%2"_s.arg(m_place).arg(result.size() + 1), value});
+    for (const JsonNode &node : m_node->items)
+        result.append(element(result.size(), &node));
     return result;
 }
 
@@ -96,18 +122,16 @@ QString JsonPlace::text(const QString &absent) const
 {
     if (!isPresent())
         return absent;
-    if (!m_value.isString())
-        fail(ProjectTexts::tr("a text is expected"));
-    return m_value.toString();
+    expect(JsonNode::Kind::Text);
+    return m_node->text;
 }
 
 bool JsonPlace::boolean(bool absent) const
 {
     if (!isPresent())
         return absent;
-    if (!m_value.isBool())
-        fail(ProjectTexts::tr("true or false is expected"));
-    return m_value.toBool();
+    expect(JsonNode::Kind::Boolean);
+    return m_node->boolean;
 }
 
 qint32 JsonPlace::integer(qint32 absent) const
@@ -115,7 +139,7 @@ qint32 JsonPlace::integer(qint32 absent) const
     using Limits = std::numeric_limits<qint32>;
     if (!isPresent())
         return absent;
-    const double value = m_value.toDouble(std::nan(""));
+    const double value = isNumber() ? m_node->number : std::nan("");
     if (!(value >= Limits::min() && value <= Limits::max()) || value != std::floor(value))
         fail(ProjectTexts::tr("a whole number of 32 bits is expected"));
     return static_cast<qint32>(value);
@@ -123,14 +147,29 @@ qint32 JsonPlace::integer(qint32 absent) const
 
 double JsonPlace::number() const
 {
-    if (!m_value.isDouble())
-        fail(ProjectTexts::tr("a number is expected"));
-    return m_value.toDouble();
+    required().expect(JsonNode::Kind::Number);
+    return m_node->number;
 }
 
 void JsonPlace::fail(const QString &reason) const
 {
     failAt(m_file, m_place, reason);
+}
+
+JsonPlace JsonPlace::below(const QString &place, const JsonNode *node) const
+{
+    return {m_file, m_root, place, node};
+}
+
+JsonPlace JsonPlace::element(qsizetype index, const JsonNode *node) const
+{
+    return below(u"%1 #%2"_s.arg(m_place, QString::number(index + 1)), node);
+}
+
+void JsonPlace::expect(JsonNode::Kind kind) const
+{
+    if (isPresent() && !isA(kind))
+        fail(expectation(kind));
 }
 
 } // namespace ORVTListview

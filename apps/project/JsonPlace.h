@@ -1,9 +1,12 @@
 #pragma once
 
-#include <QtCore/QJsonValue>
+#include "project/JsonNode.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+
+#include <memory>
 
 namespace ORVTListview {
 
@@ -16,7 +19,7 @@ public:
     // The root of a file's text.
     static JsonPlace parse(const QByteArray &json, const QString &fileName);
 
-    bool isPresent() const { return !m_value.isUndefined(); }
+    bool isPresent() const { return m_node; }
     const JsonPlace &required() const;
 
     // A member of an object, absent if the object is absent or has none.
@@ -25,7 +28,10 @@ public:
     // A misspelt member would otherwise be lost without a word.
     void allowOnly(const QStringList &members) const;
 
-    // The elements of an array, none if absent; at most the number given.
+    // An element of an array, absent if the array is absent or has none.
+    JsonPlace item(qsizetype index) const;
+
+    // All elements of an array, none if absent; at most the number given.
     QList<JsonPlace> items(qsizetype atMost) const;
 
     QString text(const QString &absent = {}) const;
@@ -33,8 +39,12 @@ public:
     qint32 integer(qint32 absent = 0) const;
     double number() const;
 
-    bool isText() const { return m_value.isString(); }
-    bool isNumber() const { return m_value.isDouble(); }
+    bool isText() const { return isA(JsonNode::Kind::Text); }
+    bool isNumber() const { return isA(JsonNode::Kind::Number); }
+
+    // The bytes of a value that is present.
+    qsizetype start() const { return m_node->start; }
+    qsizetype end() const { return m_node->end; }
 
     [[noreturn]] void fail(const QString &reason) const;
 
@@ -42,11 +52,19 @@ public:
     QString place() const { return m_place; }
 
 private:
-    JsonPlace(QString file, QString place, QJsonValue value);
+    using Root = std::shared_ptr<const JsonNode>;
+
+    JsonPlace(QString file, Root root, QString place, const JsonNode *node);
+
+    bool isA(JsonNode::Kind kind) const { return m_node && m_node->kind == kind; }
+    JsonPlace below(const QString &place, const JsonNode *node) const;
+    JsonPlace element(qsizetype index, const JsonNode *node) const;
+    void expect(JsonNode::Kind kind) const;
 
     QString m_file;
-    QString m_place; // empty for the root
-    QJsonValue m_value;
+    Root m_root;
+    QString m_place;        // empty for the root
+    const JsonNode *m_node; // of the root's; null for one that is absent
 };
 
 } // namespace ORVTListview

@@ -1,6 +1,6 @@
 #include "project/Project.h"
 
-#include "project/JsonText.h"
+#include "project/JsonEdit.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
 
@@ -65,18 +65,26 @@ void Project::saveNames()
 {
     if (m_newNames.isEmpty())
         return;
-    JsonText json(readFile(m_fileName));
-    const ProjectContents file = readProject(m_fileName);
-    for (const NewName &changed : std::as_const(m_newNames)) {
-        const QString &name = m_contents.rows[changed.type].at(changed.row).name;
-        if (file.rows[changed.type].value(changed.row).name != changed.former ||
-            !json.replace(projectMember(changed.type), changed.row, u"name"_s, name))
+    const QByteArray json = withNewNames(readFile(m_fileName));
+    readContents(JsonPlace::parse(json, m_fileName)); // the file may have changed meanwhile
+    writeFile(m_fileName, json);
+    m_newNames.clear();
+}
+
+QByteArray Project::withNewNames(const QByteArray &json) const
+{
+    const JsonPlace root = JsonPlace::parse(json, m_fileName);
+    JsonEdit edit(json);
+    for (const NewName &changed : m_newNames) {
+        const JsonPlace place =
+            root.member(projectMember(changed.type)).item(changed.row).member(u"name"_s);
+        if (!place.isText() || place.text() != changed.former)
             throw Error(FileNotWritable, u"Project"_s,
                         ProjectTexts::tr("%1: \"%2\" is no longer where it was")
                             .arg(m_fileName, changed.former));
+        edit.replace(place, rows(changed.type).at(changed.row).name);
     }
-    writeFile(m_fileName, json.bytes());
-    m_newNames.clear();
+    return edit.bytes();
 }
 
 void Project::setCell(LwType type, qsizetype row, qsizetype column, const QVariant &cell)

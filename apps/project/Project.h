@@ -70,6 +70,7 @@ private:
 
     void fillPoints(LwType type);
     void noteNewName(LwType type, qsizetype row, const QString &former);
+    QByteArray withNewNames(const QByteArray &json) const;
 
     QString m_fileName;
     QList<NewName> m_newNames;

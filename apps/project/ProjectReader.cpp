@@ -3,7 +3,6 @@
 #include "project/ProjectTexts.h"
 
 #include "project/EditorAppearance.h"
-#include "project/JsonPlace.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -128,9 +127,8 @@ void checkForm(const JsonPlace &root)
 
 } // namespace
 
-ProjectContents readProject(const QString &fileName)
+ProjectContents readContents(const JsonPlace &root)
 {
-    const JsonPlace root = JsonPlace::parse(readFile(fileName), fileName);
     checkForm(root);
     ProjectContents contents;
     contents.name = readName(root.member(u"name"_s));
@@ -140,9 +138,14 @@ ProjectContents readProject(const QString &fileName)
     for (const JsonPlace &item : root.member(u"indexedNames"_s).items(mostRows))
         contents.indexedNames.append(readFamily(item));
     contents.editor = readAppearance(root.member(u"editor"_s));
+    contents.programFile = readName(root.member(u"program"_s));
+    return contents;
+}
 
-    const QDir folder = QFileInfo(fileName).dir();
-    contents.programFile = folder.filePath(readName(root.member(u"program"_s)));
+ProjectContents readProject(const QString &fileName)
+{
+    ProjectContents contents = readContents(JsonPlace::parse(readFile(fileName), fileName));
+    contents.programFile = QFileInfo(fileName).dir().filePath(contents.programFile);
     const QByteArray bytes = readFile(contents.programFile);
     contents.programFormat = programFormat(bytes);
     contents.program = decodeProgram(bytes, contents.programFile);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/JsonPlace.h"
 #include "project/ProjectColumns.h"
 #include "project/TextFile.h"
 
@@ -51,10 +52,13 @@ struct ProjectContents
     QHash<LwType, QList<ProjectRow>> rows;
     QList<ProjectFamily> indexedNames;
     RichTextSettings editor;
-    QString programFile; // as it can be opened
+    QString programFile; // as it can be opened; as the file has it without the program
     ProgramFormat programFormat;
     QString program; // lines separated by CR LF
 };
+
+// What a project file says, without its program. Raises Error as readProject does.
+ProjectContents readContents(const JsonPlace &root);
 
 // The form of the file is told in docs/guide/project-file.md. Raises Error with a
 // ProjectErrorNumber for the first thing that is wrong.

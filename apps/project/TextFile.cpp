@@ -1,11 +1,11 @@
 #include "project/TextFile.h"
 
+#include "base/FileReplacement.h"
 #include "base/TextRules.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QSaveFile>
 
 #include <array>
 
@@ -14,11 +14,25 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
-
 [[noreturn]] void failToRead(const QString &name, const QString &reason)
 {
     throw Error(FileNotReadable, u"readFile"_s, u"%1: %2"_s.arg(name, reason));
+}
+
+QString reasonOf(const FileReplacement &failed)
+{
+    switch (failed.fault()) {
+    case FileReplacement::Fault::NotAFile:
+        return ProjectTexts::tr("is not a file");
+    case FileReplacement::Fault::ReadOnly:
+        return ProjectTexts::tr("may only be read");
+    case FileReplacement::Fault::FolderClosed:
+        return ProjectTexts::tr("its folder takes no new file (%1)").arg(failed.systemText());
+    case FileReplacement::Fault::None:
+    case FileReplacement::Fault::System:
+        break;
+    }
+    return failed.systemText();
 }
 
 struct LineEndCounts
@@ -117,9 +131,9 @@ QByteArray readDevice(QIODevice &device, const QString &name)
 
 void writeFile(const QString &fileName, const QByteArray &bytes)
 {
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw Error(FileNotWritable, u"writeFile"_s, u"%1: %2"_s.arg(fileName, file.errorString()));
+    FileReplacement file(fileName);
+    if (!file.write(bytes) || !file.commit())
+        throw Error(FileNotWritable, u"writeFile"_s, u"%1: %2"_s.arg(fileName, reasonOf(file)));
 }
 
 ProgramFormat programFormat(QByteArrayView bytes)
@@ -139,8 +153,7 @@ QString decodeProgram(const QByteArray &bytes, const QString &name)
     if (!QUtf8StringView(bytes).isValidUtf8())
         throw Error(TextNotUtf8, u"decodeProgram"_s,
                     ProjectTexts::tr("%1: line %2 is not valid UTF-8")
-                        .arg(name)
-                        .arg(firstInvalidLine(bytes)));
+                        .arg(name, QString::number(firstInvalidLine(bytes))));
     return withCrLf(QString::fromUtf8(bytes)); // drops the mark
 }
 
@@ -149,8 +162,7 @@ QByteArray encodeProgram(const QString &program, ProgramFormat format, const QSt
     if (!program.isValidUtf16())
         throw Error(TextNotUtf8, u"encodeProgram"_s,
                     ProjectTexts::tr("%1: line %2 holds half a character")
-                        .arg(name)
-                        .arg(firstBrokenLine(program)));
+                        .arg(name, QString::number(firstBrokenLine(program))));
     QString text = program;
     if (format.lineEnd != LineEnd::CrLf)
         text.replace("\r\n"_L1, lineEndText(format.lineEnd));

@@ -7,6 +7,8 @@
 
 namespace ORVTListview {
 
+inline constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
+
 // The whole file. Raises FileNotReadable.
 QByteArray readFile(const QString &fileName);
 

@@ -277,7 +277,8 @@ void MainWindow::showProgramInfo()
 {
     const QString file = m_project ? QFileInfo(m_project->programFile()).fileName() : QString();
     if (m_project)
-        m_programInfo->setText(tr("%1, lines: %2").arg(file).arg(m_code->RTextBox()->lineCount()));
+        m_programInfo->setText(
+            tr("%1, lines: %2").arg(file, QString::number(m_code->RTextBox()->lineCount())));
 }
 
 // The appearance is applied anew, which takes the caret to the start.

@@ -3,9 +3,13 @@
 #include "Languages.h"
 #include "MainWindow.h"
 
+#include "project/TextFile.h"
+
 #include <ORVTListview/Error.h>
 
+#include <QtCore/QBuffer>
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
@@ -18,8 +22,16 @@ namespace {
 
 int writeScreenshot(QWidget &window, const QString &file)
 {
-    if (!window.grab().save(file)) {
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    if (!window.grab().save(&buffer, QFileInfo(file).suffix().toLatin1().constData())) {
         QTextStream(stderr) << "Cannot write " << file << Qt::endl;
+        return 1;
+    }
+    try {
+        writeFile(file, picture);
+    } catch (const Error &error) {
+        QTextStream(stderr) << "Cannot write " << error.Description() << Qt::endl;
         return 1;
     }
     QTextStream(stdout) << "Picture written to " << QDir::current().absoluteFilePath(file)

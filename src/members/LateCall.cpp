@@ -46,7 +46,9 @@ Target methodTarget(const Member &member, const QString &place, qsizetype count)
         --least;
     if (count < least || count > most) {
         const QString text = u"%1 arguments are given, %2 to %3 are needed"_s;
-        throw failure(WrongArgumentCount, place, text.arg(count).arg(least).arg(most));
+        throw failure(
+            WrongArgumentCount, place,
+            text.arg(QString::number(count), QString::number(least), QString::number(most)));
     }
     return {member.call, member.arguments, member.type};
 }

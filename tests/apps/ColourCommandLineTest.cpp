@@ -106,6 +106,8 @@ TEST(ColourCommandLine, InvalidUtf8)
     const QTemporaryDir folder;
     const QString path = write(folder, u"program"_s, "IF\r\nREM \xE9t\xE9\r\n");
     expectFailure(runColourTool({path}), 1, path.toUtf8() + ": line 2 is not valid UTF-8");
+    const QString marked = write(folder, u"x%2y%1.txt"_s, "\xE9");
+    expectFailure(runColourTool({marked}), 1, marked.toUtf8() + ": line 1 is not valid UTF-8");
     expectFailure(runColourTool({}, "\xC3"), 1, "standard input: line 1 is not valid UTF-8");
 }
 

@@ -131,6 +131,17 @@ TEST(ProjectErrors, BadJsonIsNamedWithLineAndColumn)
     EXPECT_EQ(loadJson("\xFF").number, ProjectNotValid);
 }
 
+TEST(ProjectErrors, AMemberThatStandsTwiceIsNamedWithLineAndColumn)
+{
+    const Fault atTheTop = loadJson("{ \"format\": 1,\n  \"name\": \"°\", \"name\": \"T\"}");
+    EXPECT_EQ(atTheTop.number, ProjectNotValid);
+    EXPECT_EQ(atTheTop.text, u"p.json: line 2, column 16: \"name\" stands there twice"_s);
+    EXPECT_EQ(loadJson(R"({"inputs": [{"name": "A"}, {"name": "B", "name": "C"}]})").text,
+              u"p.json: line 1, column 42: \"name\" stands there twice"_s);
+    EXPECT_EQ(loadJson(R"({"inputs": [], "inputs": []})").text,
+              u"p.json: line 1, column 16: \"inputs\" stands there twice"_s);
+}
+
 TEST(ProjectErrors, WhatEveryProjectNeeds)
 {
     EXPECT_EQ(loadJson("{}").text, u"p.json: format: is missing"_s);

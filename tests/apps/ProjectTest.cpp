@@ -306,6 +306,33 @@ TEST(Project, RenamesAPointHereAndInItsFile)
     EXPECT_EQ(Project(project.fileName()).rows(dsInput).at(1).name, u"Second"_s);
 }
 
+TEST(Project, SavesNamesBehindAByteOrderMark)
+{
+    const ProjectFolder folder;
+    const QString file = writeProject(folder, R"("inputs": [{"name": "I1"}])");
+    const QByteArray marked = "\xEF\xBB\xBF" + readFile(file);
+    folder.write(u"p.json"_s, marked);
+    Project project(file);
+    project.rename(dsInput, 0, u"First"_s);
+    project.saveNames();
+    EXPECT_EQ(readFile(file), QByteArray(marked).replace("\"I1\"", "\"First\""));
+    EXPECT_EQ(Project(file).rows(dsInput).at(0).name, u"First"_s);
+}
+
+TEST(Project, DoesNotMakeAFileThatCannotBeOpened)
+{
+    const ProjectFolder folder;
+    Project project(writeProject(folder, R"("inputs": [{"name": "I1"}])"));
+    project.rename(dsInput, 0, u"I9"_s);
+    writeProject(folder, R"("inputs": [{"name": "I1"}, {"name": "I9"}])");
+    const QByteArray theirs = readFile(project.fileName());
+    const auto error = raisedBy([&] { project.saveNames(); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Number(), ProjectNotValid);
+    EXPECT_EQ(readFile(project.fileName()), theirs);
+    EXPECT_TRUE(project.hasNewNames());
+}
+
 TEST(Project, RefusesNamesThatCannotBeUsed)
 {
     const ProjectFolder folder;

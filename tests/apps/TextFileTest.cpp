@@ -113,6 +113,9 @@ TEST(ProgramFormat, RefusesHalfACharacter)
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), TextNotUtf8);
     EXPECT_EQ(error->Description(), u"p: line 2 holds half a character"_s);
+    const auto marked = raisedBy([] { encodeProgram(u"\xD83D"_s, ProgramFormat(), u"%2%1"_s); });
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->Description(), u"%2%1: line 1 holds half a character"_s);
 }
 
 TEST(WriteFile, PutsBytesInPlaceOfTheOldOnes)

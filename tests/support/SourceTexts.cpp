@@ -130,3 +130,23 @@ QStringList allTexts(const QString &source)
 {
     return textsIn(withoutComments(source));
 }
+
+QStringList chainedArguments(const QString &commented)
+{
+    static const QRegularExpression call(u"\\.\\s*arg\\("_s);
+    static const QRegularExpression member(u"^\\s*\\.\\s*(\\w+)\\("_s);
+    const QString source = withoutComments(commented);
+    QStringList chains;
+    for (const QRegularExpressionMatch &first : call.globalMatch(source)) {
+        qsizetype end = first.capturedEnd();
+        QRegularExpressionMatch next;
+        do {
+            end += bracketed(source, end).size() + 1;
+            next = member.match(source.sliced(qMin(end, source.size())));
+            end += next.capturedLength();
+        } while (next.hasMatch() && next.captured(1) != "arg"_L1);
+        if (next.hasMatch())
+            chains << source.sliced(first.capturedStart(), end - first.capturedStart());
+    }
+    return chains;
+}

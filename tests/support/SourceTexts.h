@@ -15,3 +15,7 @@ QStringList textsShownAsTheyAre(const QString &source);
 
 // Every text.
 QStringList allTexts(const QString &source);
+
+// The calls of arg on what an earlier arg has made: a text that the earlier one put
+// in may hold "%2" and take what the later one means for the place behind it.
+QStringList chainedArguments(const QString &source);

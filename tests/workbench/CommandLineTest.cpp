@@ -18,13 +18,14 @@ private:
         QString errors;
     };
 
-    Outcome run(const QStringList &arguments)
+    Outcome run(const QStringList &arguments) { return runProgram(m_workbench, arguments); }
+    Outcome runProgram(const QString &program, const QStringList &arguments)
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"ORVT_SETTINGS_FILE"_s, m_folder.filePath(u"settings.ini"_s));
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(ORVT_WORKBENCH), arguments);
+        process.start(program, arguments);
         if (!process.waitForFinished())
             qFatal("the workbench does not end");
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
@@ -107,7 +108,24 @@ private Q_SLOTS:
         QVERIFY2(outcome.errors.contains(file), qPrintable(outcome.errors));
     }
 
+    // A full disk, as far as one can be had: a limit on the size of files.
+    void keepsThePictureThatItCannotReplace()
+    {
+        QFile file(m_folder.filePath(u"kept.png"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write("as it was"), 9);
+        file.close();
+        const QString script = u"trap '' XFSZ; ulimit -f 1; exec \"$0\" --screenshot \"$1\""_s;
+        const Outcome outcome =
+            runProgram(u"/bin/sh"_s, {u"-c"_s, script, m_workbench, file.fileName()});
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(file.fileName()), qPrintable(outcome.errors));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), "as it was");
+    }
+
 private:
+    const QString m_workbench = QStringLiteral(ORVT_WORKBENCH);
     QTemporaryDir m_folder;
 };
 

@@ -251,6 +251,13 @@ private Q_SLOTS:
         QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON\r\nTemp1 > 3"_s);
     }
 
+    void showsANameWithMarksAsItIs()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.window.openProject(workbench.writeProject(u"two%2%1"_s, "Temp1 > 3"));
+        QCOMPARE(workbench.statusTexts(), u"two%2%1.prog, lines: 1|Row: 1, Col: 1"_s);
+    }
+
     void countsLinesAndFollowsTheCaret()
     {
         WorkbenchWindow workbench("Fan1 = ON\nTemp1 > 3");

@@ -50,8 +50,10 @@ std::unique_ptr<const SettingsView> OverlaidSettings::view() const
 
 bool OverlaidSettings::write(const SettingChanges &changes)
 {
+    if (!m_machine->write(changes))
+        return m_user->write(changes);
     // In this order a process that ends in between loses nothing.
-    return m_user->write(m_machine->write(changes) ? removals(changes) : changes);
+    return m_user->isOneWith(*m_machine) || m_user->write(removals(changes));
 }
 
 } // namespace ORVTListview

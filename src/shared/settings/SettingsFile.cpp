@@ -3,6 +3,7 @@
 #include "base/FileLock.h"
 #include "base/FileReplacement.h"
 #include "shared/settings/SettingsDocument.h"
+#include "widgets/list/FilePlace.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -56,8 +57,8 @@ std::optional<QByteArray> contentOf(const QString &fileName)
 
 Loaded load(const QString &fileName)
 {
-    const QFileInfo info(fileName);
-    if (!info.exists())
+    const QFileInfo info(fileName); // a link leads nowhere but in a circle
+    if (!info.exists() && !info.isSymLink())
         return {Loaded::State::Absent};
     if (!info.isFile()) // reading could wait for ever
         return {Loaded::State::NoFile};
@@ -68,13 +69,6 @@ Loaded load(const QString &fileName)
     if (!document)
         return {Loaded::State::Damaged};
     return {Loaded::State::Whole, *std::move(document)};
-}
-
-// The file behind a link is replaced, not the link.
-QString targetOf(const QString &fileName)
-{
-    const QString target = QFileInfo(fileName).canonicalFilePath();
-    return target.isEmpty() ? fileName : target;
 }
 
 // Replacing a file needs no right to write it, but somebody who takes that right
@@ -88,7 +82,7 @@ bool mayReplace(const QString &fileName)
 bool keepBeside(const QString &fileName)
 {
     for (int i = 1;; ++i) {
-        const QString name = u"%1.damaged-%2"_s.arg(fileName).arg(i);
+        const QString name = fileName + u".damaged-"_s + QString::number(i);
         const QFileInfo info(name);
         if (!info.exists() && !info.isSymLink())
             return QFile::rename(fileName, name);
@@ -97,7 +91,7 @@ bool keepBeside(const QString &fileName)
 
 bool replace(const QString &fileName, const Loaded &loaded)
 {
-    FileReplacement replacement(fileName);
+    FileReplacement replacement(fileName, fileName + u".new"_s);
     return replacement.write(loaded.document.toBytes()) &&
            (loaded.state != Loaded::State::Damaged || keepBeside(fileName)) && replacement.commit();
 }
@@ -112,24 +106,30 @@ SettingsFile::SettingsFile(const QString &fileName, std::chrono::milliseconds pa
 
 std::unique_ptr<const SettingsView> SettingsFile::view() const
 {
-    return std::make_unique<DocumentView>(load(m_fileName).document);
+    return std::make_unique<DocumentView>(load(behindLinks(m_fileName)).document);
 }
 
 bool SettingsFile::write(const SettingChanges &changes)
 {
-    const QString fileName = targetOf(m_fileName);
-    if (!load(fileName).document.apply(changes))
+    const QString fileName = behindLinks(m_fileName);
+    Loaded loaded = load(fileName);
+    if (!loaded.document.apply(changes))
         return true;
-    if (!mayReplace(fileName) || !QDir().mkpath(QFileInfo(fileName).path()))
+    if (loaded.state == Loaded::State::NoFile || !mayReplace(fileName) ||
+        !QDir().mkpath(QFileInfo(fileName).path()))
         return false;
     const FileLock lock(fileName + u".lock"_s, m_patience);
     if (!lock.isHeld())
         return false;
     // Once more, since others may have written while this one waited.
-    Loaded loaded = load(fileName);
-    if (loaded.state == Loaded::State::NoFile)
-        return false;
+    loaded = load(fileName);
     return !loaded.document.apply(changes) || replace(fileName, loaded);
+}
+
+bool SettingsFile::isOneWith(const SettingsPlace &other) const
+{
+    const auto *file = dynamic_cast<const SettingsFile *>(&other);
+    return file && isOneFile(m_fileName, file->m_fileName);
 }
 
 } // namespace ORVTListview

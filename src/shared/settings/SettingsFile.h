@@ -23,6 +23,7 @@ public:
 
     std::unique_ptr<const SettingsView> view() const override;
     bool write(const SettingChanges &changes) override;
+    bool isOneWith(const SettingsPlace &other) const override;
 
 private:
     QString m_fileName;

@@ -48,6 +48,10 @@ public:
 
     // All or none, if the place can. Changes that change nothing succeed anywhere.
     virtual bool write(const SettingChanges &changes) = 0;
+
+    // Whether what is written here is written there. To be asked after writing: before
+    // it there may be nothing to tell by.
+    virtual bool isOneWith(const SettingsPlace &other) const { return this == &other; }
 };
 
 } // namespace ORVTListview

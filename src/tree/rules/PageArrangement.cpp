@@ -65,8 +65,10 @@ QList<Pages> load()
 void save(const QList<Place> &places)
 {
     SettingsTransaction writing;
-    for (const Place &place : places)
-        WriteSetting(applicationName, place.key, QString::number(place.page));
+    for (const Place &place : places) {
+        if (place.page <= highestPage)
+            WriteSetting(applicationName, place.key, QString::number(place.page));
+    }
     writing.commit();
 }
 

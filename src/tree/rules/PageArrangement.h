@@ -45,7 +45,8 @@ ORVT_CORE_EXPORT QList<Pages> arranged(const PageNumbers &pages);
 // Reads the arrangement from the settings, as of one moment.
 ORVT_CORE_EXPORT QList<Pages> load();
 
-// Saves the places in one step. Categories that are not among them keep theirs.
+// Saves the places in one step. Categories that are not among them keep theirs, and
+// so do those beyond highestPage, which would be read back as page 0.
 ORVT_CORE_EXPORT void save(const QList<Place> &places);
 
 } // namespace PageArrangement

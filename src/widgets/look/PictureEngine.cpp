@@ -139,10 +139,9 @@ QIconEngine *PictureEngine::clone() const
 
 QPixmap PictureEngine::cached(int side, const QColor &tint)
 {
-    const QString name = u"%1|%2|%3|%4|"_s.arg(key())
-                             .arg(static_cast<int>(m_look))
-                             .arg(side)
-                             .arg(tint.isValid() ? tint.rgba() : 0) +
+    const QRgb fillColour = tint.isValid() ? tint.rgba() : 0;
+    const QString name = u"%1|%2|%3|%4|"_s.arg(key(), QString::number(static_cast<int>(m_look)),
+                                               QString::number(side), QString::number(fillColour)) +
                          m_file;
     QPixmap picture;
     if (!QPixmapCache::find(name, &picture)) {

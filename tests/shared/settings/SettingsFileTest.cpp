@@ -137,11 +137,23 @@ TEST_F(SettingsFileTest, TenMegabytesOfSettingsAreReadAndWritten)
     EXPECT_TRUE(folder.content(u"s"_s).contains(settings));
 }
 
+TEST_F(SettingsFileTest, ADamagedFileIsKeptWhateverItsFolderIsCalled)
+{
+    for (const QString &name : {u"a%2b/s"_s, u"%1/s"_s, u"%L1%99/s"_s}) {
+        folder.write(name, "\1");
+        SettingsFile file(folder.path(name));
+        EXPECT_TRUE(file.write({{code, u"3"_s}}));
+        EXPECT_EQ(file.view()->value(code), u"3"_s);
+        EXPECT_EQ(folder.content(name + u".damaged-1"_s), "\1");
+    }
+}
+
 TEST_F(SettingsFileTest, AFolderInItsPlaceIsLeftAlone)
 {
     folder.write(u"s/precious"_s, "x");
     EXPECT_EQ(value(), u"none"_s);
     EXPECT_FALSE(write(u"3"_s));
+    EXPECT_EQ(folder.names(), QStringList(u"s"_s)); // and no lock is left beside it
     EXPECT_EQ(value(), u"none"_s);
     EXPECT_EQ(folder.content(u"s/precious"_s), "x");
 }
@@ -151,6 +163,16 @@ TEST_F(SettingsFileTest, APipeInItsPlaceIsNotWaitedFor)
     ASSERT_EQ(::mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
     EXPECT_EQ(value(), u"none"_s);
     EXPECT_FALSE(write(u"3"_s));
+    EXPECT_EQ(folder.names(), QStringList(u"s"_s));
+}
+
+TEST_F(SettingsFileTest, ALinkToADeviceLeavesNothingBesideTheDevice)
+{
+    ASSERT_TRUE(QFile::link(u"/dev/null"_s, path()));
+    EXPECT_FALSE(write(u"3"_s));
+    EXPECT_EQ(folder.names(), QStringList(u"s"_s));
+    EXPECT_FALSE(QFileInfo::exists(u"/dev/null.lock"_s));
+    EXPECT_FALSE(QFileInfo::exists(u"/dev/null.new"_s));
 }
 
 TEST_F(SettingsFileTest, AFileInPlaceOfItsFolderIsLeftAlone)
@@ -171,6 +193,24 @@ TEST_F(SettingsFileTest, ALinkIsFollowed)
     EXPECT_TRUE(QFileInfo(path()).isSymLink());
     EXPECT_TRUE(folder.content(u"real/file"_s).contains("# mine\n"));
     EXPECT_TRUE(folder.content(u"real/file"_s).contains("Code=3"));
+}
+
+TEST_F(SettingsFileTest, ALinkToAMissingFileIsFollowed)
+{
+    ASSERT_TRUE(QFile::link(u"real/file"_s, path()));
+    EXPECT_TRUE(write(u"3"_s));
+    EXPECT_EQ(value(), u"3"_s);
+    EXPECT_TRUE(QFileInfo(path()).isSymLink());
+    EXPECT_TRUE(folder.content(u"real/file"_s).contains("Code=3"));
+    EXPECT_EQ(folder.names(u"real"_s), QStringList({u"file"_s, u"file.lock"_s}));
+}
+
+TEST_F(SettingsFileTest, LinksInACircleAreLeftAlone)
+{
+    ASSERT_TRUE(QFile::link(u"s"_s, folder.path(u"t"_s)));
+    ASSERT_TRUE(QFile::link(u"t"_s, path()));
+    EXPECT_FALSE(write(u"3"_s));
+    EXPECT_EQ(folder.names(), QStringList({u"s"_s, u"t"_s}));
 }
 
 TEST_F(SettingsFileTest, WritingWhatIsThereTouchesNothing)

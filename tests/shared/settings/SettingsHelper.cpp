@@ -17,39 +17,25 @@
 
 #include "shared/points/DisplayNames.h"
 #include "shared/settings/SettingsLocations.h"
+#include "support/DiskLimits.h"
 #include <ORVTListview/SettingsStore.h>
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QStringList>
 
-#include <csignal>
 #include <cstdio>
 #include <functional>
-#include <grp.h>
 #include <map>
-#include <sched.h>
-#include <sys/mount.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int notPermitted = 77;
-
 void print(const QString &text)
 {
     std::puts(text.toUtf8().constData());
     std::fflush(stdout);
-}
-
-[[noreturn]] void stopAsNotPermitted(const char *what)
-{
-    std::perror(what);
-    std::exit(notPermitted);
 }
 
 void arrange(qint64 number)
@@ -71,67 +57,8 @@ void arrangeForEver()
 void writeMany(const QString &application, const QString &prefix, int count)
 {
     for (int i = 0; i < count; ++i)
-        WriteSetting(application, prefix + QString::number(i), u"%1 of %2"_s.arg(i).arg(prefix));
-}
-
-void dropRights()
-{
-    constexpr uid_t nobody = 65534;
-    if (::geteuid() == 0 &&
-        (::setgroups(0, nullptr) != 0 || ::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-        stopAsNotPermitted("dropping rights");
-}
-
-void writeTo(const char *fileName, const QByteArray &content)
-{
-    QFile file(QFile::decodeName(fileName));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(content) < 0)
-        stopAsNotPermitted(fileName);
-}
-
-// A view of the file systems of this process's own.
-void leaveMounts()
-{
-    const QByteArray user = QByteArray::number(::geteuid());
-    const QByteArray group = QByteArray::number(::getegid());
-    if (::geteuid() == 0) {
-        if (::unshare(CLONE_NEWNS) != 0 ||
-            ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
-            stopAsNotPermitted("unshare");
-        return;
-    }
-    if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
-        stopAsNotPermitted("unshare");
-    writeTo("/proc/self/setgroups", "deny");
-    writeTo("/proc/self/uid_map", "0 " + user + " 1");
-    writeTo("/proc/self/gid_map", "0 " + group + " 1");
-}
-
-void mountSmall(const QString &folder, const QString &bytes)
-{
-    leaveMounts();
-    const QByteArray options = "size=" + bytes.toUtf8();
-    if (::mount("tmpfs", QFile::encodeName(folder).constData(), "tmpfs", 0, options.constData()) !=
-        0)
-        stopAsNotPermitted("mount");
-}
-
-void fill(const QString &folder, qint64 room)
-{
-    QFile file(folder + u"/filling"_s);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        std::exit(1);
-    while (file.write(QByteArray(512, 'x')) > 0) {
-    }
-    file.resize(file.size() - room);
-}
-
-void limit(const QString &bytes)
-{
-    const rlimit largest{bytes.toULong(), bytes.toULong()};
-    std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
-    if (::setrlimit(RLIMIT_FSIZE, &largest) != 0)
-        stopAsNotPermitted("setrlimit");
+        WriteSetting(application, prefix + QString::number(i),
+                     u"%1 of %2"_s.arg(QString::number(i), prefix));
 }
 
 struct Command
@@ -151,10 +78,10 @@ const std::map<QString, Command> &commands()
         {u"write-many"_s, {3, [](const QStringList &a) { writeMany(a[0], a[1], a[2].toInt()); }}},
         {u"write-long"_s,
          {3, [](const QStringList &a) { WriteSetting(a[0], a[1], QString(a[2].toInt(), u'x')); }}},
-        {u"drop-rights"_s, {0, [](const QStringList &) { dropRights(); }}},
-        {u"mount"_s, {2, [](const QStringList &a) { mountSmall(a[0], a[1]); }}},
-        {u"fill"_s, {2, [](const QStringList &a) { fill(a[0], a[1].toLongLong()); }}},
-        {u"limit"_s, {1, [](const QStringList &a) { limit(a[0]); }}},
+        {u"drop-rights"_s, {0, [](const QStringList &) { DiskLimits::dropRights(); }}},
+        {u"mount"_s, {2, [](const QStringList &a) { DiskLimits::mount(a[0], a[1].toLongLong()); }}},
+        {u"fill"_s, {2, [](const QStringList &a) { DiskLimits::fill(a[0], a[1].toLongLong()); }}},
+        {u"limit"_s, {1, [](const QStringList &a) { DiskLimits::limitFiles(a[0].toLongLong()); }}},
         {u"list"_s,
          {1,
           [](const QStringList &a) {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -43,7 +45,8 @@ protected:
     {
         environment.insert(u"XDG_CONFIG_DIRS"_s,
                            folder.path(u"etc/desktop"_s) + u':' + folder.path(u"etc"_s));
-        environment.insert(u"XDG_CONFIG_HOME"_s, folder.path(u"home"_s));
+        if (!environment.contains(u"XDG_CONFIG_HOME"_s))
+            environment.insert(u"XDG_CONFIG_HOME"_s, folder.path(u"home"_s));
         SettingsProcess process(QStringList(u"drop-rights"_s) + commands, environment);
         EXPECT_EQ(process.exitCode(), 0) << process.errors().toStdString();
         return process.lines();
@@ -105,6 +108,45 @@ TEST_F(SettingsPlacesTest, AReadOnlyFileIsNotReplacedThoughItsFolderWouldLetIt)
     const QByteArray before = folder.content(machineFile);
     EXPECT_EQ(run(writeCode + readBoth), QStringList({u"2"_s, u"1"_s}));
     EXPECT_EQ(folder.content(machineFile), before);
+}
+
+// Written to the one and taken from the other, it would be gone.
+TEST_F(SettingsPlacesTest, OneFileForMachineAndUserKeepsItsSettings)
+{
+    const QMap<QString, QString> sameFolder{{u"XDG_CONFIG_HOME"_s, folder.path(u"etc"_s)}};
+    EXPECT_EQ(run(writeCode + readBoth, sameFolder), QStringList({u"2"_s, u""_s}));
+    EXPECT_EQ(run({u"arrange"_s, u"5"_s}, sameFolder), QStringList());
+    EXPECT_EQ(run(readBoth, sameFolder), QStringList({u"5"_s, u"5"_s}));
+}
+
+TEST_F(SettingsPlacesTest, SoDoesOneThatALinkOfTheUsersLeadsTo)
+{
+    ASSERT_TRUE(QDir(folder.path({})).mkpath(u"home/Morvane Systems Inc"_s));
+    ASSERT_TRUE(QFile::link(folder.path(machineFile), folder.path(userFile)));
+    EXPECT_EQ(run(writeCode + readBoth), QStringList({u"2"_s, u""_s}));
+    EXPECT_EQ(run(readBoth), QStringList({u"2"_s, u""_s}));
+    EXPECT_TRUE(folder.content(machineFile).contains("Code=2"));
+}
+
+TEST_F(SettingsPlacesTest, SoDoesOneWhoseFoldersAreOne)
+{
+    ASSERT_TRUE(QDir(folder.path({})).rmdir(u"home"_s));
+    ASSERT_TRUE(QFile::link(folder.path(u"etc"_s), folder.path(u"home"_s)));
+    EXPECT_EQ(run(writeCode + readBoth), QStringList({u"2"_s, u""_s}));
+    EXPECT_EQ(run({u"arrange"_s, u"5"_s}), QStringList());
+    EXPECT_EQ(run(readBoth), QStringList({u"5"_s, u"5"_s}));
+}
+
+TEST_F(SettingsPlacesTest, SoDoesOneWithTwoNames)
+{
+    run(writeCode);
+    ASSERT_TRUE(QDir(folder.path({})).mkpath(u"home/Morvane Systems Inc"_s));
+    std::filesystem::create_hard_link(QFileInfo(folder.path(machineFile)).filesystemFilePath(),
+                                      QFileInfo(folder.path(userFile)).filesystemFilePath());
+    allow(u"home/Morvane Systems Inc"_s, open);
+    EXPECT_EQ(run(readBoth), QStringList({u"2"_s, u""_s}));
+    run({u"arrange"_s, u"5"_s});
+    EXPECT_EQ(run(readBoth), QStringList({u"5"_s, u"5"_s}));
 }
 
 TEST_F(SettingsPlacesTest, WithRightsAgainTheMachinesFileIsUsedAgain)

@@ -10,8 +10,6 @@ namespace ORVTListview {
 class SettingsProcess
 {
 public:
-    static constexpr int notPermitted = 77;
-
     explicit SettingsProcess(const QStringList &commands,
                              const QMap<QString, QString> &environment = {})
     {

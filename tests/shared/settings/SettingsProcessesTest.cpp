@@ -1,6 +1,7 @@
 #include "base/ThreadState.h"
 #include "shared/points/DisplayNames.h"
 #include "shared/settings/SettingsProcess.h"
+#include "support/DiskLimits.h"
 #include "support/QtPrinters.h"
 #include "support/RandomText.h"
 #include "support/TestFolder.h"
@@ -130,7 +131,7 @@ TEST_F(SettingsProcessesTest, AFullDiskLeavesTheOldFile)
             QStringList({u"mount"_s, disk, u"65536"_s, u"file"_s, disk + u"/s"_s}) +
             QStringList({u"arrange"_s, u"1"_s, u"fill"_s, disk, room}) + writeLong + readBoth +
             QStringList({u"list"_s, disk}));
-        if (process.exitCode() == SettingsProcess::notPermitted)
+        if (process.exitCode() == DiskLimits::notPermitted)
             GTEST_SKIP() << "no file system may be mounted here: "
                          << process.errors().toStdString();
         ASSERT_EQ(process.exitCode(), 0);

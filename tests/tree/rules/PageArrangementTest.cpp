@@ -138,6 +138,15 @@ TEST_F(PageArrangementTest, SavesPageNumbersAsDecimalText)
     EXPECT_EQ(stored(u"Outputs"_s), QString());
 }
 
+TEST_F(PageArrangementTest, APageThatCannotBeReadBackIsNotSaved)
+{
+    PageArrangement::save({{u"Inputs"_s, 999}, {u"Logs"_s, 3}});
+    PageArrangement::save({{u"Inputs"_s, 1005}, {u"Logs"_s, 4}, {u"Timers"_s, 70000}});
+    EXPECT_EQ(stored(u"Inputs"_s), u"999"_s);
+    EXPECT_EQ(stored(u"Logs"_s), u"4"_s);
+    EXPECT_EQ(stored(u"Timers"_s), QString());
+}
+
 TEST_F(PageArrangementTest, SavingIsPartOfAnOuterTransaction)
 {
     PageArrangement::save({{u"Inputs"_s, 1}});

@@ -24,7 +24,8 @@ QString settingName(int slot)
 
 QString tableEntry(const SplitColours &colour)
 {
-    return u"\\red%1\\green%2\\blue%3;"_s.arg(colour.Red).arg(colour.Green).arg(colour.Blue);
+    return u"\\red%1\\green%2\\blue%3;"_s.arg(
+        QString::number(colour.Red), QString::number(colour.Green), QString::number(colour.Blue));
 }
 
 } // namespace

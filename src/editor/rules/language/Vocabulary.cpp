@@ -25,7 +25,8 @@ void appendFamily(const IndexedName &family, QString &text)
     const qint64 upper = family.UpperBound();
     if (upper - lower + 1 > mostNamesOfAFamily)
         throw Error(Overflow, u"StringIndexCollection"_s,
-                    u"\"%1\" has more than %2 names"_s.arg(family.Name()).arg(mostNamesOfAFamily));
+                    u"\"%1\" has more than %2 names"_s.arg(family.Name(),
+                                                           QString::number(mostNamesOfAFamily)));
     const QString name = family.Name();
     const QString format = family.NumberFormat();
     for (qint64 i = lower; i <= upper; ++i)

@@ -39,7 +39,7 @@ QString UndoStore::unsoundness() const
         return fault;
     for (qint16 index = 0; index < slotCount; ++index) {
         if (const QString fault = slotFault(index); !fault.isEmpty())
-            return u"Slot %1 %2"_s.arg(index).arg(fault);
+            return u"Slot %1 %2"_s.arg(QString::number(index), fault);
     }
     if (pendingBytes() > m_pendingBound)
         return u"More waits to be encoded than may"_s;

@@ -1,6 +1,7 @@
 #include "editor/rules/language/Vocabulary.h"
 #include "base/TextRules.h"
 #include "support/QtPrinters.h"
+#include "support/Raised.h"
 #include <ORVTListview/Error.h>
 
 #include <gtest/gtest.h>
@@ -136,6 +137,16 @@ TEST(IndexedNames, ATooLargeFamilyRaisesAndChangesNothing)
     largestAllowed.Add(u"T"_s, u"0"_s, 2'147'383'648, 2'147'483'647);
     vocabulary.setIndexedNames(&largestAllowed);
     EXPECT_EQ(vocabulary.IndexedNameList().words().size(), 100'000);
+}
+
+TEST(IndexedNames, TheFamilyThatIsTooLargeIsNamed)
+{
+    IndexedNameList large;
+    large.Add(u"T%2%1"_s, u"0"_s, 1, 100'001);
+    Vocabulary vocabulary;
+    const auto error = raisedBy([&] { vocabulary.setIndexedNames(&large); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Description(), u"\"T%2%1\" has more than 100000 names"_s);
 }
 
 TEST(Classify, EveryClassInItsOrder)
