@@ -1,4 +1,4 @@
-#include "widgets/list/FilePlace.h"
+#include "base/FilePlace.h"
 
 #include <QtCore/QFileInfo>
 

@@ -1,6 +1,6 @@
 #include "base/FileReplacement.h"
 
-#include "widgets/list/FilePlace.h"
+#include "base/FilePlace.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QRandomGenerator>

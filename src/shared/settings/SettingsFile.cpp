@@ -1,9 +1,9 @@
 #include "shared/settings/SettingsFile.h"
 
 #include "base/FileLock.h"
+#include "base/FilePlace.h"
 #include "base/FileReplacement.h"
 #include "shared/settings/SettingsDocument.h"
-#include "widgets/list/FilePlace.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
