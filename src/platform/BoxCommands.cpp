@@ -72,6 +72,8 @@ void BoxCommands::replace(const QList<TextPiece> &pieces, const QString &text)
     m_box.replacePieces(pieces, text);
 }
 
+void BoxCommands::beforeChange(bool) {}
+
 void BoxCommands::undo() {}
 
 void BoxCommands::redo() {}

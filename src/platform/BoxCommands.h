@@ -48,6 +48,10 @@ public:
     // One text in the place of pieces of the text, as replacePieces of the box.
     virtual void replace(const QList<TextPiece> &pieces, const QString &text);
 
+    // Before every change of the text, whoever makes it; it may not come about.
+    // losesPart: it takes the place of a selection, or of the whole text.
+    virtual void beforeChange(bool losesPart);
+
     virtual void undo(); // does nothing here
     virtual void redo(); // does nothing here
 

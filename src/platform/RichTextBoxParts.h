@@ -7,6 +7,7 @@
 #include "platform/RichTextBox.h"
 
 #include <QtCore/QPoint>
+#include <QtCore/QScopedValueRollback>
 
 #include <memory>
 #include <optional>
@@ -21,7 +22,38 @@ struct RichTextBox::Parts
     {
     }
 
+    // What is done while it lives raises no Change. One that a change before it is
+    // about to raise stays to be raised.
+    class Quiet
+    {
+    public:
+        explicit Quiet(Parts &parts)
+            : m_parts(parts)
+            , m_isOwed(parts.announcedChanges != parts.text.changeCount())
+            , m_quiet(parts.isQuiet, true)
+        {
+        }
+        ~Quiet()
+        {
+            if (m_isOwed)
+                m_parts.announcedChanges = m_parts.text.changeCount() - 1;
+        }
+        Q_DISABLE_COPY_MOVE(Quiet) // strictly nested
+
+    private:
+        Parts &m_parts;
+        bool m_isOwed;
+        QScopedValueRollback<bool> m_quiet;
+    };
+
     static QTextCharFormat formatAt(const QTextCursor &cursor);
+
+    // Not again for what is part of a change.
+    void announceChange(bool losesPart) const
+    {
+        if (!isQuiet)
+            commands->beforeChange(losesPart);
+    }
 
     BoxText text;
     BoxFormats formats;
