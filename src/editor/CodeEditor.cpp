@@ -86,6 +86,7 @@ void CodeEditor::connectBox()
 
 void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)
 {
+    const UndoStore::Restoring sameText(threadPart<UndoStore>());
     auto &state = threadPart<EditorState>();
     const qint32 formerNvoColour = state.EditorSettings.nvoFPAColor;
     state.EditorSettings = Setting;
@@ -156,6 +157,7 @@ void CodeEditor::setCodeTextRTF(const QString &rtf)
 {
     m_box->setTextRTF(rtf);
     m_colouring.forgetEdit();
+    m_undo.forgetKeptTexts();
 }
 
 QString CodeEditor::GetColorText(const QString &Text) const

@@ -2,6 +2,7 @@
 
 #include "editor/CodeText.h"
 #include "platform/RichTextBox.h"
+#include "platform/TextPiece.h"
 
 #include <algorithm>
 
@@ -134,8 +135,8 @@ bool LineCommands::unindentBeforeCaret()
     const qsizetype past = before.size() % m_unit.size();
     const qsizetype step = past > 0 ? past : m_unit.size();
     qsizetype removed = 1; // a tab goes alone
-    while (before.back() == u' ' && removed < std::min(step, before.size())
-           && before[before.size() - removed - 1] == u' ')
+    while (before.back() == u' ' && removed < std::min(step, before.size()) &&
+           before[before.size() - removed - 1] == u' ')
         ++removed;
     m_box.setSelStart(caret - static_cast<qint32>(removed));
     m_box.setSelLength(static_cast<qint32>(removed));
@@ -151,9 +152,7 @@ bool LineCommands::deleteBlankBeforeCaret()
     const QString before = m_box.textRange(caret - 1, 1);
     if (before != u" " && before != u"\t")
         return false;
-    m_box.setSelStart(caret - 1);
-    m_box.setSelLength(1);
-    m_box.setSelText(QString());
+    m_box.replacePieces({{caret - 1, 1}}, QString()); // no selection to be kept is lost
     return true;
 }
 
