@@ -5,7 +5,6 @@
 #include "editor/EditorState.h"
 #include "editor/ThreadColouring.h"
 #include "platform/RichTextBox.h"
-#include "platform/RtfReader.h"
 #include "platform/TextRules.h"
 #include "shared/TextTable.h"
 #include "shared/ThreadState.h"
@@ -23,20 +22,15 @@ void warn(const QString &text)
 
 } // namespace
 
-bool PasteText(RichTextBox &box, const QString &Data)
+std::optional<ColouredText> textToPaste(const RichTextBox &box, const QString &data)
 {
-    if (isRtf(Data)) {
-        box.setSelRTF(Data);
-        return true;
-    }
-    if (Data.contains(u'\\')) {
+    if (data.contains(u'\\')) {
         warn(Localise(u"Invalid letter: '\\' that is reserved to RTF!"_s));
-        return false;
+        return std::nullopt;
     }
     const bool continuesComment = IsCommentLine(box.lineText(box.GetLineFromChar(box.SelStart())));
-    box.setSelColoured(colouredText(threadColouring(), withCrLf(Data), continuesComment,
-                                    threadPart<EditorState>().EditorSettings));
-    return true;
+    return colouredText(threadColouring(), withCrLf(data), continuesComment,
+                        threadPart<EditorState>().EditorSettings);
 }
 
 bool acceptPasteSize(const QString &data)

@@ -1,15 +1,26 @@
 #pragma once
 
+#include "platform/ColouredText.h"
+
 #include <QtCore/QString>
+
+#include <optional>
 
 namespace ORVTListview {
 
 class RichTextBox;
 
-// Puts text in the place of the selection: RTF as it is, plain text in its colours,
-// but nothing at all, with a message, when it holds a "\". On a comment line the
-// first line pasted continues the comment. True when it was put in.
-bool PasteText(RichTextBox &box, const QString &Data);
+// What became of a text that was to be pasted.
+enum class Pasted {
+    Done,
+    Refused, // nothing has changed
+    Nothing, // it holds no text; what was selected is gone
+};
+
+// Plain text in the colours that it takes in the place of the selection; nothing at
+// all, with a message, when it holds a "\". On a comment line the first line pasted
+// continues the comment.
+std::optional<ColouredText> textToPaste(const RichTextBox &box, const QString &data);
 
 // Larger clipboard texts are refused, with a message. Bytes of UTF-16.
 constexpr qsizetype largestPaste = 64 * 1024 * 1024;

@@ -55,7 +55,7 @@ void CodeCommands::type(const QString &text)
 
 bool CodeCommands::paste(const QMimeData &data)
 {
-    return data.hasText() && m_editor.pasteFromOutside(data.text());
+    return data.hasText() && m_editor.pasteFromOutside(data.text()) == Pasted::Done;
 }
 
 void CodeCommands::copy()
@@ -86,6 +86,11 @@ void CodeCommands::replace(const QList<TextPiece> &pieces, const QString &text)
 void CodeCommands::beforeChange(bool losesPart)
 {
     m_editor.noteChangeAhead(losesPart);
+}
+
+void CodeCommands::edit(const std::function<void()> &change)
+{
+    m_editor.edit(change);
 }
 
 void CodeCommands::undo()

@@ -1,7 +1,6 @@
 #include "editor/CodeEditor.h"
 
 #include "editor/CaretPosition.h"
-#include "editor/CheckedPaste.h"
 #include "editor/CodeCommands.h"
 #include "editor/CodeReplacing.h"
 #include "editor/ColourText.h"
@@ -27,7 +26,7 @@
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
-#include <utility>
+#include <optional>
 
 namespace ORVTListview {
 
@@ -68,12 +67,8 @@ void CodeEditor::connectBox()
 {
     m_box->installEventFilter(this);
     m_box->viewport()->installEventFilter(this);
-    connect(m_box, &RichTextBox::KeyDown, this, [this](qint16 &keyCode, qint16 shift) {
-        const QPointer<CodeEditor> self(this); // the host may destroy it in an event
-        m_keys.keyDown(keyCode, shift);
-        if (self)
-            m_isKeyInBox = keyCode != 0;
-    });
+    connect(m_box, &RichTextBox::KeyDown, this,
+            [this](qint16 &keyCode, qint16 shift) { m_keys.keyDown(keyCode, shift); });
     connect(m_box, &RichTextBox::Change, this, &CodeEditor::noteTextChange);
     connect(m_box, &RichTextBox::cursorPositionChanged, this, [this] {
         if (!threadPart<UndoStore>().IsRestoringUndo())
@@ -101,7 +96,6 @@ void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)
     const auto finish = qScopeGuard([this] {
         m_box->setSelStart(0);
         m_box->setUpdatesEnabled(true);
-        m_colouring.forgetEdit();
         m_isReady = true;
     });
     try {
@@ -143,7 +137,6 @@ QString CodeEditor::CodeText() const
 void CodeEditor::setCodeText(const QString &text)
 {
     m_box->setText(text);
-    m_colouring.forgetEdit();
     m_undo.resetBase();
 }
 
@@ -156,7 +149,6 @@ QString CodeEditor::CodeTextRTF()
 void CodeEditor::setCodeTextRTF(const QString &rtf)
 {
     m_box->setTextRTF(rtf);
-    m_colouring.forgetEdit();
     m_undo.forgetKeptTexts();
 }
 
@@ -179,7 +171,7 @@ void CodeEditor::Clear()
 void CodeEditor::RTextCut()
 {
     RTextCopy();
-    m_box->setSelText(QString());
+    edit([this] { m_box->setSelText(QString()); });
 }
 
 void CodeEditor::RTextCopy()
@@ -205,22 +197,17 @@ void CodeEditor::RTextSelectAll()
 
 bool CodeEditor::bringBackKeptText()
 {
-    const bool isShown = m_undo.bringBackKeptText();
-    if (isShown)
-        m_colouring.forgetEdit();
-    return isShown;
+    return m_undo.bringBackKeptText();
 }
 
 void CodeEditor::Undo(QString &ErrMsg)
 {
-    if (m_undo.Undo(ErrMsg))
-        m_colouring.forgetEdit();
+    m_undo.Undo(ErrMsg);
 }
 
 void CodeEditor::Redo(QString &ErrMsg)
 {
-    if (m_undo.Redo(ErrMsg))
-        m_colouring.forgetEdit();
+    m_undo.Redo(ErrMsg);
 }
 
 void CodeEditor::replace(const QList<TextPiece> &pieces, const QString &text, Replacing how)
@@ -228,6 +215,7 @@ void CodeEditor::replace(const QList<TextPiece> &pieces, const QString &text, Re
     if (pieces.isEmpty())
         return;
     PushUndoSnapshot();
+    m_colouring.finishEdit(); // the caret leaves the line
     if (how == Replacing::InColours)
         replaceInColours(*m_box, pieces, text);
     else
@@ -283,47 +271,53 @@ void CodeEditor::typeText(const QString &text)
     }
     m_undo.noteTyped(text, m_isReady);
     m_colouring.prepareTyping(text);
-    m_box->setSelText(text);
-    m_colouring.noteEdit();
-    if (TypedColouring::finishesWord(text))
-        m_colouring.finishCaretLine();
+    const bool isTyped = m_colouring.edit([&] { m_box->setSelText(text); });
+    if (isTyped && TypedColouring::finishesWord(text))
+        m_colouring.finishEdit();
 }
 
 void CodeEditor::breakLine()
 {
     PushUndoSnapshot();
     const qint32 line = m_box->GetLineFromChar(m_box->SelStart());
-    m_lines.breakLine();
+    if (!m_colouring.edit([this] { m_lines.breakLine(); }))
+        return;
     m_colouring.finishLine(line);
-    m_colouring.noteEdit();
     m_box->ensureCursorVisible();
 }
 
 void CodeEditor::indentLines()
 {
     PushUndoSnapshot();
-    m_lines.indentSelectedLines();
+    changeIndent([this] { m_lines.indentSelectedLines(); });
 }
 
 void CodeEditor::unindentLines()
 {
     PushUndoSnapshot();
-    m_lines.unindentSelectedLines();
+    changeIndent([this] { m_lines.unindentSelectedLines(); });
+}
+
+// A line keeps its colours, and one that is not finished still waits for that.
+void CodeEditor::changeIndent(const std::function<void()> &change)
+{
+    if (m_colouring.isUnfinished())
+        edit(change);
+    else
+        change();
 }
 
 bool CodeEditor::deleteBlankBeforeCaret()
 {
-    const bool isDone = m_lines.deleteBlankBeforeCaret();
-    if (isDone)
-        m_colouring.noteEdit();
+    bool isDone = false;
+    edit([&] { isDone = m_lines.deleteBlankBeforeCaret(); });
     return isDone;
 }
 
 bool CodeEditor::unindentBeforeCaret()
 {
-    const bool isDone = m_lines.unindentBeforeCaret();
-    if (isDone)
-        m_colouring.noteEdit();
+    bool isDone = false;
+    edit([&] { isDone = m_lines.unindentBeforeCaret(); });
     return isDone;
 }
 
@@ -338,8 +332,7 @@ void CodeEditor::cutByKey()
 void CodeEditor::removeSelection()
 {
     PushUndoSnapshot();
-    m_box->setSelText(QString());
-    m_colouring.noteEdit();
+    edit([this] { m_box->setSelText(QString()); });
 }
 
 void CodeEditor::pasteClipboard()
@@ -349,30 +342,48 @@ void CodeEditor::pasteClipboard()
     pasteFromOutside(QGuiApplication::clipboard()->text());
 }
 
-bool CodeEditor::pasteFromOutside(const QString &data)
+Pasted CodeEditor::pasteFromOutside(const QString &data)
 {
-    if (data.isEmpty() || !acceptPasteSize(data))
-        return false;
+    if (data.isEmpty() || m_box->isReadOnly() || !acceptPasteSize(data))
+        return Pasted::Refused;
     const QPointer<CodeEditor> self(this);
     if (data != m_box->SelText()) {
         PushUndoSnapshot();
         Q_EMIT UpdateUndoMenu();
     }
-    if (!self)
-        return false;
-    pasteChecked(data);
-    return true;
+    return self ? pasteChecked(data) : Pasted::Refused;
 }
 
-void CodeEditor::pasteChecked(const QString &data)
+Pasted CodeEditor::pasteChecked(const QString &data)
+{
+    const std::optional<ColouredText> text = isRtf(data) ? std::nullopt : textToPaste(*m_box, data);
+    if (!text && !isRtf(data))
+        return Pasted::Refused;
+    const QPointer<RichTextBox> box = m_box; // the host may destroy it
+    const qint32 rest = m_box->TextLength() - m_box->SelLength();
+    if (text)
+        pastePlain(*text);
+    else
+        pasteRtf(data);
+    return box && box->TextLength() <= rest ? Pasted::Nothing : Pasted::Done;
+}
+
+// RTF keeps the colours that it comes with.
+void CodeEditor::pasteRtf(const QString &rtf)
+{
+    const QPointer<RichTextBox> box = m_box; // the host may destroy it
+    m_colouring.finishEdit();
+    box->setSelRTF(rtf);
+    if (box)
+        box->ensureCursorVisible();
+}
+
+void CodeEditor::pastePlain(const ColouredText &text)
 {
     const qint32 firstLine = m_box->GetLineFromChar(m_box->SelStart());
-    if (!PasteText(*m_box, data))
+    if (!m_colouring.edit([&] { m_box->setSelColoured(text); }))
         return;
-    if (!isRtf(data)) { // which keeps the colours it came with
-        finishLines(firstLine, m_box->GetLineFromChar(m_box->SelStart()));
-        m_colouring.noteEdit();
-    }
+    finishLines(firstLine, m_box->GetLineFromChar(m_box->SelStart()));
     m_box->ensureCursorVisible();
 }
 
@@ -385,11 +396,11 @@ void CodeEditor::finishLines(qint32 first, qint32 last)
 
 void CodeEditor::noteTextChange()
 {
-    // The host's own changes take no colours.
-    if (std::exchange(m_isKeyInBox, false))
-        m_colouring.noteEdit();
     m_undo.noteEdit();
-    m_popup.follow();
+    if (m_colouring.isEditing())
+        m_popup.follow();
+    else
+        m_popup.close(); // it stood at a word that is no more
 }
 
 void CodeEditor::raiseStatus()
@@ -455,8 +466,9 @@ void CodeEditor::caretToLineEnd()
 void CodeEditor::takeWord(const QString &word, qint32 colour)
 {
     PushUndoSnapshot();
-    SetWordAtCaret(*m_box, word, colour);
+    m_box->setSelStart(m_box->SelStart()); // the word's line, of those selected
     m_colouring.noteEdit();
+    edit([&] { SetWordAtCaret(*m_box, word, colour); });
     m_box->setFocus();
 }
 

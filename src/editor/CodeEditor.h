@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/CheckedPaste.h"
 #include "editor/EditorKeys.h"
 #include "editor/EditorUndo.h"
 #include "editor/LineCommands.h"
@@ -87,8 +88,9 @@ public:
     bool unindentBeforeCaret();
     void cutByKey();
     void removeSelection();
+    void edit(const std::function<void()> &change) { m_colouring.edit(change); }
     void pasteClipboard();
-    bool pasteFromOutside(const QString &data);
+    Pasted pasteFromOutside(const QString &data);
     void noteChangeAhead(bool losesPart) { m_undo.beforeEdit(losesPart); }
     void finishCaretLine() { m_colouring.finishCaretLine(); }
     void PushUndoSnapshot() { m_undo.PushUndoSnapshot(m_isReady); }
@@ -123,7 +125,10 @@ private:
     void applyAppearance(const RichTextSettings &setting);
     QString sampleRtf();
     ColouredText coloured(const QString &text) const;
-    void pasteChecked(const QString &data);
+    void changeIndent(const std::function<void()> &change);
+    Pasted pasteChecked(const QString &data);
+    void pastePlain(const ColouredText &text);
+    void pasteRtf(const QString &rtf);
     void finishLines(qint32 first, qint32 last);
     void noteTextChange();
     void raiseStatus();
@@ -144,7 +149,6 @@ private:
     PopupWordList m_popup;
     QPointer<QWidget> m_form;
     bool m_isReady = false;
-    bool m_isKeyInBox = false; // a key is on its way through the box
 };
 
 } // namespace ORVTListview

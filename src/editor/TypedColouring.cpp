@@ -8,6 +8,10 @@
 #include "platform/RichTextBox.h"
 #include "shared/ThreadState.h"
 
+#include <QtCore/QPointer>
+#include <QtCore/QScopeGuard>
+#include <QtGui/QTextBlock>
+
 #include <utility>
 
 namespace ORVTListview {
@@ -28,7 +32,11 @@ bool endsWord(QStringView before)
 
 TypedColouring::TypedColouring(RichTextBox &box)
     : m_box(box)
+    , m_edited(box.document())
 {
+    // Told before the caret moves, and before the host hears of the change.
+    connect(box.document(), &QTextDocument::contentsChange, this,
+            [this](int from, int, int added) { noteChange(from, added); });
 }
 
 void TypedColouring::finishLine(qint32 line)
@@ -42,36 +50,58 @@ void TypedColouring::finishLine(qint32 line)
 
 void TypedColouring::finishCaretLine()
 {
-    finish(m_box.textCursor().block());
+    const QTextBlock line = m_box.textCursor().block();
+    if (m_edited.block() == line)
+        m_isUnfinished = false;
+    finishLine(line.blockNumber());
 }
 
-void TypedColouring::finish(const QTextBlock &block)
+bool TypedColouring::edit(const std::function<void()> &change)
 {
-    if (m_edited == block)
-        m_edited = {};
-    if (block.isValid())
-        finishLine(block.blockNumber());
+    const QPointer<TypedColouring> self(this);
+    const Edit outer = std::exchange(m_edit, Edit::Begun);
+    const auto end = qScopeGuard([self, outer] {
+        if (self)
+            self->m_edit = outer;
+    });
+    change();
+    return self && m_isUnfinished;
 }
 
 void TypedColouring::noteEdit()
 {
-    m_edited = m_box.textCursor().block();
+    // The same cursor all the time: a document that is being cleared may lose none.
+    m_edited.setPosition(m_box.textCursor().position());
+    m_isUnfinished = true;
 }
 
-void TypedColouring::forgetEdit()
+void TypedColouring::noteChange(int from, int added)
 {
-    m_edited = {};
+    if (m_box.keepsText())
+        return;
+    if (m_edit == Edit::Begun) {
+        m_edit = Edit::Made; // what else changes meanwhile is the host's
+        noteEdit();
+    } else if (isOnEditedLine(from, from + added)) {
+        m_isUnfinished = false;
+    }
+}
+
+bool TypedColouring::isOnEditedLine(int from, int to) const
+{
+    const QTextBlock line = m_edited.block();
+    return to >= line.position() && from < line.position() + line.length();
 }
 
 void TypedColouring::finishEdit()
 {
-    if (m_edited.isValid())
-        finish(std::exchange(m_edited, {}));
+    if (std::exchange(m_isUnfinished, false))
+        finishLine(m_edited.blockNumber());
 }
 
 void TypedColouring::followCaret()
 {
-    if (m_edited != m_box.textCursor().block())
+    if (m_edited.block() != m_box.textCursor().block())
         finishEdit();
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QtCore/QObject>
 #include <QtCore/QStringView>
-#include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
+
+#include <functional>
 
 namespace ORVTListview {
 
@@ -9,21 +12,28 @@ class RichTextBox;
 
 // Colours what is typed: a word once it is finished, a line once it is left. Only
 // colours and listed letter case change, never a blank, a tab or a bracket, and
-// nothing while an input method composes.
-class TypedColouring
+// nothing while an input method composes. A line that anyone else changes is not
+// the user's any more: what the host sets stays as it is.
+class TypedColouring : public QObject
 {
+    Q_OBJECT
+
 public:
     explicit TypedColouring(RichTextBox &box);
 
     void finishLine(qint32 line);
     void finishCaretLine();
 
-    // The user changed the line of the caret; it is finished once it is left.
+    // Carries out a change by the user, one at most; the line of the caret is
+    // finished once it is left. Returns whether the line is still the user's: a
+    // handler of the change may set the text anew or destroy this.
+    bool edit(const std::function<void()> &change);
+
+    // The same for what changed colours only.
     void noteEdit();
 
-    // The text was replaced by one that has its colours.
-    void forgetEdit();
-
+    bool isEditing() const { return m_edit != Edit::None; }
+    bool isUnfinished() const { return m_isUnfinished; }
     void finishEdit();
 
     // Finishes the edited line when the caret has left it.
@@ -36,10 +46,15 @@ public:
     static bool finishesWord(QStringView text);
 
 private:
-    void finish(const QTextBlock &block);
+    enum class Edit { None, Begun, Made };
+
+    void noteChange(int from, int added);
+    bool isOnEditedLine(int from, int to) const;
 
     RichTextBox &m_box;
-    QTextBlock m_edited;
+    Edit m_edit = Edit::None;
+    bool m_isUnfinished = false;
+    QTextCursor m_edited; // on the line that is not finished
 };
 
 } // namespace ORVTListview

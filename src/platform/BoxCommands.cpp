@@ -30,9 +30,10 @@ void BoxCommands::type(const QString &text)
 
 bool BoxCommands::paste(const QMimeData &data)
 {
-    if (!data.hasText())
+    const QString text = data.text();
+    if (text.isEmpty())
         return false;
-    m_box.setSelText(data.text());
+    m_box.setSelText(text);
     return true;
 }
 
@@ -73,6 +74,11 @@ void BoxCommands::replace(const QList<TextPiece> &pieces, const QString &text)
 }
 
 void BoxCommands::beforeChange(bool) {}
+
+void BoxCommands::edit(const std::function<void()> &change)
+{
+    change();
+}
 
 void BoxCommands::undo() {}
 

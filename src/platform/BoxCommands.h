@@ -6,6 +6,7 @@
 
 #include <QtCore/QList>
 
+#include <functional>
 #include <optional>
 
 class QMenu;
@@ -36,8 +37,8 @@ public:
     // comes as CR LF. An input method may give any text.
     virtual void type(const QString &text);
 
-    // Puts the data in the place of the selection and returns whether it did.
-    // Only plain text is taken.
+    // Puts the data in the place of the selection and returns whether text went in:
+    // only then does a drop take it away from where it was. Only plain text is taken.
     virtual bool paste(const QMimeData &data);
 
     virtual void copy();
@@ -51,6 +52,10 @@ public:
     // Before every change of the text, whoever makes it; it may not come about.
     // losesPart: it takes the place of a selection, or of the whole text.
     virtual void beforeChange(bool losesPart);
+
+    // What the box itself does for the user: a key that no command is for, the end
+    // of a drag. It changes the text at most once, and may destroy the box.
+    virtual void edit(const std::function<void()> &change);
 
     virtual void undo(); // does nothing here
     virtual void redo(); // does nothing here

@@ -60,7 +60,7 @@ void RichTextBox::noteTextChange()
     if (changes == m_parts->announcedChanges)
         return;
     m_parts->announcedChanges = changes;
-    if (!m_parts->isQuiet)
+    if (!m_parts->isQuiet && !m_parts->keepsText)
         Q_EMIT Change();
 }
 
@@ -190,7 +190,7 @@ qint32 RichTextBox::SelColor() const
 
 void RichTextBox::setSelColor(qint32 colour)
 {
-    const Parts::Quiet quiet(*m_parts);
+    const Parts::KeepingText keeping(*m_parts);
     const qint32 shown = colour == ColouredText::automatic
                              ? colour
                              : Colours::fromColor(Colours::toColor(colour, paletteAround()));
@@ -269,8 +269,13 @@ void RichTextBox::setSelColoured(const ColouredText &text)
 
 void RichTextBox::recolour(qint32 start, const ColouredText &text)
 {
-    const Parts::Quiet quiet(*m_parts);
+    const Parts::KeepingText keeping(*m_parts);
     BoxColours::apply(*document(), m_parts->text, start, text);
+}
+
+bool RichTextBox::keepsText() const
+{
+    return m_parts->keepsText;
 }
 
 ColouredText RichTextBox::coloured(qint32 start, qint32 length) const

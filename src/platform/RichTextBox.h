@@ -150,6 +150,10 @@ public:
     // While an input method composes; the text does not hold what it composes.
     bool isComposing() const;
 
+    // While the document changes in colours and in what an input method composes,
+    // but not in its text.
+    bool keepsText() const;
+
     // What keys, shortcuts, context menu, drag and drop, middle click and input
     // method end in. The box owns it; it is a plain editor at first and never null.
     BoxCommands &commands() const;
@@ -214,6 +218,7 @@ private:
     void keepCaretWhole();
     void compose(QInputMethodEvent *event);
     void selectReplaced(const QInputMethodEvent &event);
+    void commit(const QInputMethodEvent &event);
     void startDrag(const QMouseEvent &event);
 
     std::unique_ptr<Parts> m_parts;

@@ -29,7 +29,8 @@ void RichTextBox::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     const QPoint way = event->pos() - *m_parts->dragStart;
-    if (way.manhattanLength() >= QApplication::startDragDistance())
+    // The selection may have gone with its text since.
+    if (way.manhattanLength() >= QApplication::startDragDistance() && textCursor().hasSelection())
         startDrag(*event);
 }
 
@@ -51,9 +52,14 @@ void RichTextBox::startDrag(const QMouseEvent &event)
     const Qt::DropActions actions = isReadOnly() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
     const QPointer<RichTextBox> self(this);
     const QPointer<QDrag> alive(drag);
+    m_parts->dragged = dragged;
     const Qt::DropAction action =
         drag->exec(actions, isReadOnly() ? Qt::CopyAction : Qt::MoveAction);
-    if (self && alive && action == Qt::MoveAction && alive->target() != viewport()) {
+    if (!self)
+        return;
+    m_parts->dragged = {};
+    const bool isGone = alive && action == Qt::MoveAction && alive->target() != viewport();
+    if (isGone && !isReadOnly()) {
         setTextCursor(dragged);
         commands().remove();
     }
@@ -63,22 +69,28 @@ void RichTextBox::dropEvent(QDropEvent *event)
 {
     QDragLeaveEvent leave; // takes the toolkit's drop caret away
     QPlainTextEdit::dragLeaveEvent(&leave);
+    const bool moves = event->source() == viewport() && event->dropAction() == Qt::MoveAction;
+    event->setDropAction(Qt::IgnoreAction); // so that no source removes what did not go in
     event->ignore();
     if (!canInsertFromMimeData(event->mimeData()))
         return;
-    QTextCursor dragged = textCursor();
+    const QTextCursor before = textCursor();
+    QTextCursor dragged = m_parts->dragged;
     const QTextCursor place = cursorForPosition(event->position().toPoint());
-    const bool moves = event->source() == viewport() && event->dropAction() == Qt::MoveAction;
     if (moves && place.position() >= dragged.selectionStart() &&
         place.position() <= dragged.selectionEnd())
         return;
     const QPointer<RichTextBox> self(this);
     setTextCursor(place);
     const bool isDone = commands().paste(*event->mimeData());
-    if (!self || !isDone)
+    if (!self)
         return;
+    if (!isDone) {
+        setTextCursor(before);
+        return;
+    }
     if (moves)
-        dragged.removeSelectedText();
+        commands().edit([&dragged] { dragged.removeSelectedText(); });
     event->acceptProposedAction();
 }
 

@@ -135,14 +135,16 @@ void RichTextBox::act(QKeyEvent *event)
     } else if (isTyping(*event)) {
         commands().type(event->text());
     } else if (isBackspace(*event)) {
-        deleteBefore();
+        commands().edit([this] { deleteBefore(); });
     } else if (isAltText(*event)) {
         event->ignore();
     } else {
         // The key may be one that deletes.
         m_parts->announceChange(textCursor().hasSelection());
-        QPlainTextEdit::keyPressEvent(event);
-        keepCaretWhole();
+        commands().edit([this, event] {
+            QPlainTextEdit::keyPressEvent(event);
+            keepCaretWhole();
+        });
     }
 }
 
@@ -171,7 +173,7 @@ void RichTextBox::keepCaretWhole()
 // The toolkit reports what is being composed as a change of the line.
 void RichTextBox::compose(QInputMethodEvent *event)
 {
-    const Parts::Quiet quiet(*m_parts);
+    const Parts::KeepingText keeping(*m_parts);
     QPlainTextEdit::inputMethodEvent(event);
 }
 
@@ -180,6 +182,21 @@ void RichTextBox::selectReplaced(const QInputMethodEvent &event)
     const int start = textCursor().position() + event.replacementStart();
     const int last = document()->characterCount() - 1;
     select(qBound(0, start, last), qBound(0, start + event.replacementLength(), last));
+}
+
+void RichTextBox::commit(const QInputMethodEvent &event)
+{
+    QInputMethodEvent endOfComposition;
+    compose(&endOfComposition);
+    const QTextCursor before = textCursor();
+    const quint64 changes = m_parts->text.changeCount();
+    if (event.replacementLength() > 0)
+        selectReplaced(event);
+    const QPointer<RichTextBox> self(this);
+    commands().type(event.commitString());
+    // Refused text leaves nothing selected that the next key would replace.
+    if (self && event.replacementLength() > 0 && m_parts->text.changeCount() == changes)
+        setTextCursor(before);
 }
 
 void RichTextBox::inputMethodEvent(QInputMethodEvent *event)
@@ -191,13 +208,8 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent *event)
     // The toolkit would remove what a composition takes the place of.
     if (!event->preeditString().isEmpty() && textCursor().hasSelection())
         commands().remove();
-    if (self && (!event->commitString().isEmpty() || event->replacementLength() > 0)) {
-        QInputMethodEvent endOfComposition;
-        compose(&endOfComposition);
-        if (event->replacementLength() > 0)
-            selectReplaced(*event);
-        commands().type(event->commitString());
-    }
+    if (self && (!event->commitString().isEmpty() || event->replacementLength() > 0))
+        commit(*event);
     if (!self)
         return;
     QInputMethodEvent rest(event->preeditString(), event->attributes());

@@ -8,6 +8,7 @@
 
 #include <QtCore/QPoint>
 #include <QtCore/QScopedValueRollback>
+#include <QtGui/QTextCursor>
 
 #include <memory>
 #include <optional>
@@ -22,28 +23,28 @@ struct RichTextBox::Parts
     {
     }
 
-    // What is done while it lives raises no Change. One that a change before it is
-    // about to raise stays to be raised.
-    class Quiet
+    // While it lives, what changes is not the text, and raises no Change. One that a
+    // change before it is about to raise stays to be raised.
+    class KeepingText
     {
     public:
-        explicit Quiet(Parts &parts)
+        explicit KeepingText(Parts &parts)
             : m_parts(parts)
             , m_isOwed(parts.announcedChanges != parts.text.changeCount())
-            , m_quiet(parts.isQuiet, true)
+            , m_keepsText(parts.keepsText, true)
         {
         }
-        ~Quiet()
+        ~KeepingText()
         {
             if (m_isOwed)
                 m_parts.announcedChanges = m_parts.text.changeCount() - 1;
         }
-        Q_DISABLE_COPY_MOVE(Quiet) // strictly nested
+        Q_DISABLE_COPY_MOVE(KeepingText) // strictly nested
 
     private:
         Parts &m_parts;
         bool m_isOwed;
-        QScopedValueRollback<bool> m_quiet;
+        QScopedValueRollback<bool> m_keepsText;
     };
 
     static QTextCharFormat formatAt(const QTextCursor &cursor);
@@ -60,9 +61,11 @@ struct RichTextBox::Parts
     qint32 backColor = Colours::windowBackground;
     bool hasOwnPalette = false;   // set for backColor
     bool isQuiet = false;         // Change is not raised
+    bool keepsText = false;       // what changes is not the text
     quint64 announcedChanges = 0; // of text.changeCount()
     std::unique_ptr<BoxCommands> commands;
     std::optional<QPoint> dragStart; // where the selection was taken hold of
+    QTextCursor dragged;             // while a drag of this box runs
 };
 
 } // namespace ORVTListview

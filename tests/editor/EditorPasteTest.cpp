@@ -9,6 +9,7 @@
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QDropEvent>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QInputMethodEvent>
 #include <QtWidgets/QMenu>
 
 using namespace ORVTListview;
@@ -20,7 +21,8 @@ class EditorPasteTest : public WidgetTest
 
 private:
     static void paste(EditorHost &host, QString text) { host.list->RTextPaste(text); }
-    static void drop(EditorHost &host, const QMimeData &data)
+    // Returns what became of it.
+    static Qt::DropAction drop(EditorHost &host, const QMimeData &data)
     {
         const QPoint place = host.box().cursorRect().center();
         QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
@@ -29,6 +31,13 @@ private:
         QApplication::sendEvent(host.box().viewport(), &move);
         QDropEvent dropped(place, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(host.box().viewport(), &dropped);
+        return dropped.isAccepted() ? dropped.dropAction() : Qt::IgnoreAction;
+    }
+    static void commit(EditorHost &host, const QString &text, int from, int length)
+    {
+        QInputMethodEvent event;
+        event.setCommitString(text, from, length);
+        QApplication::sendEvent(&host.box(), &event);
     }
 
 private Q_SLOTS:
@@ -76,6 +85,34 @@ private Q_SLOTS:
         QCOMPARE(host.ring().UndoNewest(), 1);
         QCOMPARE(messages().size(), 1);
         QCOMPARE(host.marked(), u"x|"_s);
+    }
+
+    void aRefusedTextLeavesTheSelection()
+    {
+        EditorHost host;
+        host.setText(u"x |y| z"_s);
+        QGuiApplication::clipboard()->setText(u"a\\b"_s);
+        host.key('V', Qt::ControlModifier);
+        QCOMPARE(host.marked(), u"x |y| z"_s);
+        commit(host, u"a\\b"_s, 0, 0);
+        QCOMPARE(host.marked(), u"x |y| z"_s);
+        commit(host, u"a\\b"_s, -2, 3); // in the place of other text
+        QCOMPARE(host.marked(), u"x |y| z"_s);
+        QCOMPARE(messages().size(), 3);
+    }
+
+    void noKeyPastesIntoAReadOnlyEditor()
+    {
+        EditorHost host;
+        host.setText(u"x |y| z"_s);
+        host.box().setReadOnly(true);
+        QGuiApplication::clipboard()->setText(u"w"_s);
+        QSignalSpy menu(host.list, &ORVListView::UpdateUndoMenu);
+        host.key('V', Qt::ControlModifier);
+        host.key(Qt::Key_Insert, Qt::ShiftModifier);
+        QCOMPARE(host.marked(), u"x |y| z"_s);
+        QCOMPARE(menu.size(), 0);
+        QCOMPARE(host.ring().UndoNewest(), 0);
     }
 
     void plainTextIsColoured()
@@ -133,7 +170,7 @@ private Q_SLOTS:
         QSignalSpy menu(host.list, &ORVListView::UpdateUndoMenu);
         QMimeData data;
         data.setText(QString(32 * 1024 * 1024 + 1, u'a'));
-        drop(host, data);
+        QCOMPARE(drop(host, data), Qt::IgnoreAction);
         QCOMPARE(host.marked(), u"x|"_s);
         QCOMPARE(menu.size(), 0);
         QCOMPARE(host.ring().UndoNewest(), 0);
@@ -148,12 +185,12 @@ private Q_SLOTS:
         QMimeData good;
         good.setText(u"if temp1"_s);
         good.setHtml(u"<b>if temp1</b>"_s);
-        drop(host, good);
+        QCOMPARE(drop(host, good), Qt::CopyAction);
         QCOMPARE(host.box().Text(), u"IF Temp1"_s);
         QCOMPARE(host.colourOf(u"Temp1"_s), 0x0000FF);
         QMimeData bad;
         bad.setText(u"a\\b"_s);
-        drop(host, bad);
+        QCOMPARE(drop(host, bad), Qt::IgnoreAction);
         QCOMPARE(host.box().Text(), u"IF Temp1"_s);
         QCOMPARE(messages().size(), 1);
     }

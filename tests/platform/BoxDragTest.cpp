@@ -1,17 +1,16 @@
 #include "platform/BoxCommands.h"
 #include "platform/RichTextBox.h"
+#include "support/TextDrag.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
-#include <QtGui/QWindow>
-#include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
+using TextDrag::inWindow;
 
 namespace {
 
@@ -42,17 +41,6 @@ private:
     bool m_pastes;
 };
 
-QPoint inWindow(RichTextBox &box, qint32 position)
-{
-    const qint32 start = box.SelStart();
-    const qint32 length = box.SelLength();
-    box.setSelStart(position);
-    const QPoint point = box.cursorRect().center();
-    box.setSelStart(start);
-    box.setSelLength(length);
-    return box.viewport()->mapTo(box.window(), point);
-}
-
 } // namespace
 
 // Needs a display that can drag: the offscreen platform cannot.
@@ -69,12 +57,26 @@ private Q_SLOTS:
     void draggingIntoTheSelectionDoesNothing();
     void aRefusedMoveLosesNothing();
     void draggingToAnotherBoxMovesText();
+    void aMoveRemovesWhatWasDragged();
+    void aBoxMadeReadOnlyMeanwhileKeepsItsText();
     void aReadOnlyBoxGivesCopies();
     void aClickIntoTheSelectionDoesNotDrag();
+    void aSelectionThatIsGoneIsNotDragged();
     void aMiddleClickEndsInPaste();
 
+protected:
+    // A host that selects something else while text is dragged.
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::DragMove) {
+            m_box->setSelStart(4);
+            m_box->setSelLength(3);
+        }
+        return false;
+    }
+
 private:
-    void drag(const QPoint &from, const QPoint &to);
+    void drag(const QPoint &from, const QPoint &to) { TextDrag::drag(*m_window, from, to); }
     void record(RichTextBox &box, bool pastes)
     {
         box.setCommands(std::make_unique<Recorder>(box, m_log, pastes));
@@ -101,20 +103,6 @@ void BoxDragTest::init()
     m_window->resize(400, 300);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-}
-
-void BoxDragTest::drag(const QPoint &from, const QPoint &to)
-{
-    QWindow *window = m_window->windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, {}, from);
-    // The drag runs a loop of its own, which the release ends.
-    QTimer::singleShot(0, window, [window, to] {
-        QTest::mouseMove(window, to - QPoint(1, 0));
-        QTest::mouseMove(window, to);
-        QTest::mouseRelease(window, Qt::LeftButton, {}, to);
-    });
-    QTest::mouseMove(window, from + QPoint(40, 0));
-    QCoreApplication::processEvents();
 }
 
 void BoxDragTest::draggingMovesText()
@@ -164,6 +152,23 @@ void BoxDragTest::draggingToAnotherBoxMovesText()
     QCOMPARE(m_log, QStringList({u"paste one "_s, u"remove one "_s}));
 }
 
+void BoxDragTest::aMoveRemovesWhatWasDragged()
+{
+    m_box->setSelLength(4);
+    m_box->viewport()->installEventFilter(this);
+    drag(inWindow(*m_box, 1), inWindow(*m_box, 13));
+    QCOMPARE(m_box->Text(), u"two threeone "_s);
+}
+
+void BoxDragTest::aBoxMadeReadOnlyMeanwhileKeepsItsText()
+{
+    connect(m_other, &RichTextBox::Change, this, [this] { m_box->setReadOnly(true); });
+    m_box->setSelLength(4);
+    drag(inWindow(*m_box, 1), inWindow(*m_other, 8));
+    QCOMPARE(m_other->Text(), u"one two one three"_s);
+    QCOMPARE(m_box->Text(), u"one two three"_s);
+}
+
 void BoxDragTest::aReadOnlyBoxGivesCopies()
 {
     m_box->setReadOnly(true);
@@ -181,6 +186,24 @@ void BoxDragTest::aClickIntoTheSelectionDoesNotDrag()
     QCOMPARE(m_box->SelLength(), 0);
     QTest::mouseMove(m_window->windowHandle(), inWindow(*m_other, 2));
     QCOMPARE(m_log, QStringList());
+}
+
+void BoxDragTest::aSelectionThatIsGoneIsNotDragged()
+{
+    QWindow *window = m_window->windowHandle();
+    m_box->setSelLength(8);
+    QTest::mousePress(window, Qt::LeftButton, {}, inWindow(*m_box, 2));
+    m_box->setText(u"another text"_s);
+    const QPoint to = inWindow(*m_other, 8);
+    QTimer::singleShot(0, window, [=] { // ends a drag's loop
+        QTest::mouseMove(window, to);
+        QTest::mouseRelease(window, Qt::LeftButton, {}, to);
+    });
+    QTest::mouseMove(window, inWindow(*m_box, 6));
+    QTest::mouseMove(window, to - QPoint(1, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_log, QStringList());
+    QCOMPARE(m_box->Text(), u"another text"_s);
 }
 
 void BoxDragTest::aMiddleClickEndsInPaste()
