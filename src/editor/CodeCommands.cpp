@@ -85,6 +85,11 @@ void CodeCommands::replace(const QList<TextPiece> &pieces, const QString &text)
     m_editor.replace(pieces, text, CodeEditor::Replacing::InColours);
 }
 
+void CodeCommands::beforeChange(bool losesPart)
+{
+    m_editor.noteChangeAhead(losesPart);
+}
+
 void CodeCommands::edit(const std::function<void()> &change)
 {
     m_editor.edit(change);
@@ -110,15 +115,13 @@ void CodeCommands::leave(bool forwards)
 
 void CodeCommands::fillMenu(QMenu &menu)
 {
-    const auto &ring = threadPart<UndoStore>();
     const auto add = [this, &menu](const QString &text, bool isEnabled,
                                    void (CodeCommands::*act)()) {
         menu.addAction(text, &menu, [this, act] { (this->*act)(); })->setEnabled(isEnabled);
     };
     const bool canChange = !box().isReadOnly();
-    add(u"Undo"_s, canChange && ring.CanUndo(), &CodeCommands::undo);
-    add(u"Redo"_s, canChange && (ring.CanRedo() || m_editor.canBringBackKeptText()),
-        &CodeCommands::redo);
+    add(u"Undo"_s, canChange && m_editor.canUndo(), &CodeCommands::undo);
+    add(u"Redo"_s, canChange && m_editor.canRedo(), &CodeCommands::redo);
     menu.addSeparator();
     BoxCommands::fillMenu(menu);
     localise(menu);

@@ -21,6 +21,7 @@ public:
     void remove() override;
     void selectAll() override;
     void replace(const QList<TextPiece> &pieces, const QString &text) override;
+    void beforeChange(bool losesPart) override;
     void edit(const std::function<void()> &change) override;
     void undo() override;
     void redo() override;

@@ -81,6 +81,7 @@ void CodeEditor::connectBox()
 
 void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)
 {
+    const UndoStore::Restoring sameText(threadPart<UndoStore>());
     auto &state = threadPart<EditorState>();
     const qint32 formerNvoColour = state.EditorSettings.nvoFPAColor;
     state.EditorSettings = Setting;
@@ -148,6 +149,7 @@ QString CodeEditor::CodeTextRTF()
 void CodeEditor::setCodeTextRTF(const QString &rtf)
 {
     m_box->setTextRTF(rtf);
+    m_undo.forgetKeptTexts();
 }
 
 QString CodeEditor::GetColorText(const QString &Text) const

@@ -62,7 +62,8 @@ public:
     void Undo(QString &ErrMsg);
     void Redo(QString &ErrMsg);
     bool bringBackKeptText();
-    bool canBringBackKeptText() const { return m_undo.canBringBackKeptText(); }
+    bool canUndo() const { return m_undo.canUndo(); }
+    bool canRedo() const { return m_undo.canRedo(); }
     void clearUndoHistory() { m_undo.clearHistory(); }
 
     // Puts a text in the place of pieces of the program, after a snapshot. Pieces as
@@ -90,6 +91,7 @@ public:
     void edit(const std::function<void()> &change) { m_colouring.edit(change); }
     void pasteClipboard();
     Pasted pasteFromOutside(const QString &data);
+    void noteChangeAhead(bool losesPart) { m_undo.beforeEdit(losesPart); }
     void finishCaretLine() { m_colouring.finishCaretLine(); }
     void PushUndoSnapshot() { m_undo.PushUndoSnapshot(m_isReady); }
     void rearmStatusTimer() { m_status->rearm(); }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "editor/EditorClock.h"
 #include "editor/rules/undo/KeptState.h"
+#include "editor/rules/undo/KeptStates.h"
 #include "editor/rules/undo/UndoStore.h"
 
 #include <QtCore/QObject>
@@ -31,28 +33,40 @@ public:
 
     // Show the slot that the ring steps to. ErrMsg is left as it is when nothing
     // failed; on a failure text and selection stay. True when a state was shown.
-    bool Undo(QString &ErrMsg) { return step(false, ErrMsg); }
-    bool Redo(QString &ErrMsg) { return step(true, ErrMsg); }
+    bool Undo(QString &ErrMsg) { return step(Way::Back, ErrMsg); }
+    bool Redo(QString &ErrMsg) { return step(Way::Forward, ErrMsg); }
 
-    // Shows again what the last undo or redo took away and no slot holds; false
-    // when there is nothing of the kind.
+    // Whether there is something to show, in the ring or beside it.
+    bool canUndo() const;
+    bool canRedo() const;
+
+    // Shows again what stands in no slot, the latest first; false after the last.
     bool bringBackKeptText();
-    bool canBringBackKeptText() const { return m_kept.canBringBack(); }
 
+    // The editor shows another program.
     void resetBase();
+    void forgetKeptTexts() { m_kept.clear(); }
     void clearHistory();
 
-    // The text was changed by anything but undo and redo.
+    // Before and after the text is changed by anything but undo and redo. When it
+    // loses a part at once, or has stood for a while, the state before is kept.
+    void beforeEdit(bool losesPart);
     void noteEdit();
 
 private:
-    bool step(bool forwards, QString &ErrMsg);
+    using Way = KeptStates::Way;
+
+    bool hasStood() const;
+    bool step(Way way, QString &ErrMsg);
+    bool stepInRing(Way way);
+    bool showKept(const std::optional<UndoRecord> &kept);
     void show(const UndoRecord &record, const ColouredText &text);
     UndoRecord shown() const;
     void encodeWhenIdle();
 
     RichTextBox &m_box;
-    KeptState m_kept;
+    KeptStates m_kept;
+    EditorClock::Time m_changed; // when the text was, last
     QTimer m_idle;
     bool m_isTypedSinceSnapshot = false;
 };

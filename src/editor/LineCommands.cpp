@@ -1,5 +1,6 @@
 #include "editor/LineCommands.h"
 
+#include "base/TextPiece.h"
 #include "editor/rules/language/CodeText.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -151,9 +152,7 @@ bool LineCommands::deleteBlankBeforeCaret()
     const QString before = m_box.textRange(caret - 1, 1);
     if (before != u" " && before != u"\t")
         return false;
-    m_box.setSelStart(caret - 1);
-    m_box.setSelLength(1);
-    m_box.setSelText(QString());
+    m_box.replacePieces({{caret - 1, 1}}, QString()); // no selection to be kept is lost
     return true;
 }
 

@@ -8,6 +8,8 @@
 #include "editor/rules/colouring/ThreadColouring.h"
 #include "editor/rules/language/CodeText.h"
 
+#include <QtCore/QList>
+
 #include <array>
 #include <optional>
 
@@ -46,9 +48,19 @@ struct EditorModel
     int newest = 0;
     int current = 0;
     bool isWrapped = false;
-    bool isEditedSinceStep = true;
-    std::optional<Snapshot> kept;
-    bool isKeptShown = false;
+
+    struct Kept // beside the ring
+    {
+        Snapshot state;
+        int depth = 0;
+        int snapshots = 0;
+    };
+    QList<Kept> behind;
+    QList<Kept> ahead;
+    std::optional<Kept> keptShown;
+    bool isSafe = false; // the text, in the ring or as a kept one
+    int depth = 0;
+    int snapshots = 0;
 
     int lineOf(qint32 position) const
     {
@@ -70,28 +82,57 @@ struct EditorModel
     void noteEdit()
     {
         edited = lineOf(start);
-        isEditedSinceStep = true;
-        kept.reset();
-        isKeptShown = false;
+        ahead.clear();
+        keptShown.reset();
+        isSafe = false;
+    }
+
+    void leaveAt(QList<Kept> &place, bool isInRing)
+    {
+        if (keptShown)
+            place.append({keptShown->state, depth, snapshots});
+        else if (!isSafe && !isInRing)
+            place.append({{text, start, length}, depth, snapshots});
+        keptShown.reset();
+        isSafe = true;
     }
 
     // The host's own text, which takes no colours.
     void set(const QString &by)
     {
+        if (keptShown || (!isSafe && !text.isEmpty()))
+            leaveAt(behind, false);
         text = by;
         start = length = 0;
         noteEdit();
         edited = -1;
     }
 
+    // In another appearance.
+    void recolour(const QString &by)
+    {
+        text = by;
+        start = length = 0;
+        edited = -1;
+    }
+
+    void forgetKept()
+    {
+        behind.clear();
+        ahead.clear();
+    }
+
     void setBase(const QString &by)
     {
         set(by);
+        forgetKept();
         ring[0] = {text, 0, 0};
     }
 
-    void replaceSelection(const QString &with)
+    void replaceSelection(const QString &with, bool bySelection = true)
     {
+        if (keptShown || (!isSafe && bySelection && length > 0))
+            leaveAt(behind, false);
         text.replace(start, length, with);
         start += static_cast<qint32>(with.size());
         length = 0;
@@ -109,6 +150,12 @@ struct EditorModel
         if (isWrapped)
             oldest = (newest + 1) % 50;
         ring[static_cast<std::size_t>(current)] = {text, start, length};
+        isSafe = true;
+        ++depth;
+        ++snapshots;
+        const auto isOld = [this](const Kept &kept) { return snapshots - kept.snapshots > 49; };
+        behind.removeIf(isOld);
+        ahead.removeIf(isOld);
     }
 
     void type(QChar c)
@@ -159,7 +206,7 @@ struct EditorModel
             return;
         start = from;
         length = count;
-        replaceSelection({});
+        replaceSelection({}, false);
     }
 
     void deleteForwards()
@@ -206,22 +253,30 @@ struct EditorModel
 
     void step(bool forwards)
     {
-        const bool canStep = oldest != newest && current != (forwards ? newest : oldest);
+        const bool hasSteps = oldest != newest;
+        const bool canStep = hasSteps && current != (forwards ? newest : oldest);
+        const bool isInRing = hasSteps && ring[static_cast<std::size_t>(current)].text == text;
         if (!canStep) {
-            if (forwards && kept && !isKeptShown) {
-                show(*kept, finishedText(threadColouring(), kept->text, settings()).text);
-                isKeptShown = true;
-                isEditedSinceStep = false;
-            }
+            showKept(forwards ? ahead : behind, forwards ? behind : ahead, isInRing);
             return;
         }
-        if (isEditedSinceStep && ring[static_cast<std::size_t>(current)].text != text)
-            kept = Snapshot{text, start, length};
-        isKeptShown = false;
-        isEditedSinceStep = false;
+        leaveAt(ahead, isInRing);
+        keptShown.reset();
         current = (current + (forwards ? 1 : 49)) % 50;
+        depth += forwards ? 1 : -1;
+        behind.removeIf([this](const Kept &kept) { return kept.depth >= depth; });
         const Snapshot &state = ring[static_cast<std::size_t>(current)];
         show(state, shownAfterColouring(state.text));
+    }
+
+    void showKept(QList<Kept> &from, QList<Kept> &to, bool isInRing)
+    {
+        if (from.isEmpty())
+            return;
+        const Kept kept = from.takeLast();
+        leaveAt(to, isInRing);
+        keptShown = kept;
+        show(kept.state, finishedText(threadColouring(), kept.state.text, settings()).text);
     }
 };
 

@@ -2,6 +2,7 @@
 // against a simple model of what the editor holds. ORVT_MONKEY_SEED and
 // ORVT_MONKEY_STEPS replay a run.
 
+#include "editor/EditorClock.h"
 #include "editor/EditorHost.h"
 #include "editor/EditorModel.h"
 #include "support/WidgetTest.h"
@@ -229,7 +230,7 @@ private:
     {
         m_host->list->Init_RichTextBox(m_host->settings);
         noteIrregular(m_model.text);
-        m_model.set(shownAfterColouring(m_model.text));
+        m_model.recolour(shownAfterColouring(m_model.text));
     }
 
     void changePalette()
@@ -285,6 +286,7 @@ private:
             m_host->list->setCodeTextRTF(m_host->list->GetColorText(text));
             noteIrregular(text);
             m_model.set(shownAfterColouring(text));
+            m_model.forgetKept();
             m_model.start = static_cast<qint32>(m_model.text.size());
             return;
         case 3:
@@ -449,6 +451,7 @@ private Q_SLOTS:
         m_random.seed(seed);
         EditorHost host;
         m_host = &host;
+        threadPart<EditorClock>().now = [time = EditorClock::Time()] { return time; };
         m_model = {};
         m_hostLines = lines;
         host.list->setCodeText(QString());

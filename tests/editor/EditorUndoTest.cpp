@@ -1,19 +1,33 @@
 // Undo and redo of the editor, on the ring that the editors of a thread share.
 
+#include "editor/EditorClock.h"
 #include "editor/EditorHost.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QInputMethodEvent>
+
+#include <functional>
 
 using namespace ORVTListview;
+using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
+
+using Take = std::function<void(EditorHost &)>;
+Q_DECLARE_METATYPE(Take)
 
 class EditorUndoTest : public WidgetTest
 {
     Q_OBJECT
 
 private:
+    static void commit(EditorHost &host, const QString &text)
+    {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QCoreApplication::sendEvent(&host.box(), &event);
+    }
     static QString undo(EditorHost &host)
     {
         QString errMsg = u"untouched"_s;
@@ -165,14 +179,148 @@ private Q_SLOTS:
         QVERIFY(!host.list->restoreUnsavedText());
     }
 
-    void anEditEndsWhatWasKept()
+    void whatWasKeptOutlastsAnEdit()
     {
         EditorHost host;
         host.setText(u"base |"_s);
         host.type(u"one two"_s);
         undo(host);
         host.type(u"x"_s);
+        QVERIFY(host.list->restoreUnsavedText());
+        QCOMPARE(host.marked(), u"base one two|"_s);
+        redo(host); // to the slot that lies ahead
+        redo(host);
+        redo(host);
+        QCOMPARE(host.box().Text(), u"xbase "_s); // the base has the caret at 0
+    }
+
+    void anotherProgramEndsWhatWasKept()
+    {
+        EditorHost host;
+        host.setText(u"one|"_s);
+        host.list->RTextSelectAll();
+        host.type(u"x"_s);
+        host.list->setCodeText(u"two"_s);
         QVERIFY(!host.list->restoreUnsavedText());
+        host.list->RTextSelectAll();
+        host.type(u"x"_s);
+        host.list->setCodeTextRTF(host.list->GetColorText(u"three"_s));
+        QVERIFY(!host.list->restoreUnsavedText());
+        host.list->RTextSelectAll();
+        host.type(u"x"_s);
+        host.list->ClearUndoHistory();
+        QVERIFY(!host.list->restoreUnsavedText());
+    }
+
+    void whatTakesASelectionAwayKeepsTheText_data()
+    {
+        QTest::addColumn<Take>("take");
+        QTest::addColumn<QString>("left");
+        const auto row = [](const char *name, const QString &left, auto take) {
+            QTest::newRow(name) << Take(take) << left;
+        };
+        row("letter", u"x"_s, [](EditorHost &host) { host.type(u"x"_s); });
+        row("blank", u" "_s, [](EditorHost &host) { host.type(u" "_s); });
+        row("Shift+Backspace", u""_s,
+            [](EditorHost &host) { host.key(Qt::Key_Backspace, Qt::ShiftModifier); });
+        row("committed letter", u"x"_s, [](EditorHost &host) { commit(host, u"x"_s); });
+        row("committed word", u"xyz"_s, [](EditorHost &host) { commit(host, u"xyz"_s); });
+        row("menu's cut", u""_s, [](EditorHost &host) { host.list->RTextCut(); });
+        row("menu's paste", u"xyz"_s, [](EditorHost &host) {
+            QString text = u"xyz"_s;
+            host.list->RTextPaste(text);
+        });
+        row("RTF", u"xyz"_s, [](EditorHost &host) {
+            QString text = u"{\\rtf1 xyz}"_s;
+            host.list->RTextPaste(text);
+        });
+        row("Clear", u""_s, [](EditorHost &host) { host.list->Clear(); });
+        row("box", u"xyz"_s, [](EditorHost &host) { host.box().setSelText(u"xyz"_s); });
+    }
+    void whatTakesASelectionAwayKeepsTheText()
+    {
+        QFETCH(const Take, take);
+        QFETCH(const QString, left);
+        EditorHost host;
+        host.setText(u"a program\r\nof two lines"_s);
+        host.key('A', Qt::ControlModifier);
+        take(host);
+        QCOMPARE(host.box().Text(), left);
+        QVERIFY(!host.list->IsUndoAvailable());
+        QCOMPARE(host.ring().UndoNewest(), 0);
+        for (int round = 0; round < 2; ++round) {
+            host.key('Z', Qt::ControlModifier);
+            QCOMPARE(host.marked(), u"|a program\r\nof two lines|"_s);
+            host.key('Y', Qt::ControlModifier);
+            QCOMPARE(host.box().Text(), left);
+        }
+        QVERIFY(host.list->restoreUnsavedText());
+        QCOMPARE(host.box().Text(), u"a program\r\nof two lines"_s);
+        QVERIFY(!host.list->IsUndoAvailable());
+        QVERIFY(!host.list->IsRedoAvailable());
+    }
+
+    void itComesBackBehindTheSnapshotsTakenSince()
+    {
+        EditorHost host;
+        host.setText(u"|"_s);
+        host.box().setSelText(u"a program"_s); // of which there is no base
+        host.list->RTextSelectAll();
+        host.type(u"x y z"_s);
+        while (host.list->IsUndoAvailable())
+            undo(host);
+        QCOMPARE(host.box().Text(), u""_s); // the base
+        QVERIFY(host.list->restoreUnsavedText());
+        QCOMPARE(host.box().Text(), u"x y z"_s);
+        QVERIFY(host.list->restoreUnsavedText());
+        QCOMPARE(host.box().Text(), u"a program"_s);
+    }
+
+    void aTextThatHasStoodIsKeptWhenTypingGoesOn()
+    {
+        EditorHost host;
+        auto time = std::chrono::steady_clock::now();
+        threadPart<EditorClock>().now = [&time] { return time; };
+        host.setText(u"base|"_s);
+        time += 4999ms;
+        host.type(u"x"_s);
+        QVERIFY(!host.list->restoreUnsavedText());
+        time += 4999ms;
+        host.type(u"y"_s);
+        QVERIFY(!host.list->restoreUnsavedText());
+        time += 5000ms;
+        host.type(u"z"_s);
+        undo(host);
+        QCOMPARE(host.box().Text(), u"basexy"_s);
+        redo(host);
+        QCOMPARE(host.box().Text(), u"basexyz"_s);
+        QCOMPARE(host.ring().UndoNewest(), 0);
+    }
+
+    void anotherAppearanceForgetsNothing()
+    {
+        EditorHost host;
+        host.setText(u"a program|"_s);
+        host.list->RTextSelectAll();
+        host.type(u"x"_s);
+        host.list->Init_RichTextBox(host.settings);
+        undo(host);
+        QCOMPARE(host.box().Text(), u"a program"_s);
+    }
+
+    void aTextThatItsSlotCannotGiveBackIsKept()
+    {
+        const QString text = u"a\r\n%%%%%%\r\nb"_s;
+        EditorHost host;
+        host.setText(u"|"_s);
+        host.type(u"x "_s);
+        host.list->RTextSelectAll();
+        host.box().setSelText(text);
+        host.key(Qt::Key_Return);
+        host.key(Qt::Key_Return);
+        QVERIFY(undo(host) != u"untouched"_s);
+        QVERIFY(host.list->restoreUnsavedText());
+        QCOMPARE(host.box().Text(), text);
     }
 
     void aSnapshotAfterAnUndoDropsWhatLayAhead()

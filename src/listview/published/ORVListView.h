@@ -259,9 +259,13 @@ public:
     Q_INVOKABLE bool IsUndoAvailable() const;
     Q_INVOKABLE bool IsRedoAvailable() const;
 
-    // Text typed since the last snapshot is in no snapshot. Undo and Redo keep it
-    // beside the ring; this brings it back, until the next edit. False when there is
-    // none. Redo does the same when no snapshot lies ahead.
+    // Beside the ring the editor keeps what no snapshot holds: what Undo and Redo took
+    // away, what a selection was typed over in, a text that stood for five seconds
+    // before it was changed, snapshots dropped after an Undo. This brings the latest of
+    // them back, called again the one before; false after the last, and then it begins
+    // anew. A text lasts for 49 snapshots, until another program is set or the history
+    // is cleared. Undo and Redo do the same where the ring ends, though
+    // IsUndoAvailable and IsRedoAvailable speak of the ring alone.
     Q_INVOKABLE bool restoreUnsavedText();
 
     // Empties the ring, for all editors of the thread: to be called when another

@@ -73,6 +73,8 @@ void BoxCommands::replace(const QList<TextPiece> &pieces, const QString &text)
     m_box.replacePieces(pieces, text);
 }
 
+void BoxCommands::beforeChange(bool) {}
+
 void BoxCommands::edit(const std::function<void()> &change)
 {
     change();

@@ -49,6 +49,10 @@ public:
     // One text in the place of pieces of the text, as replacePieces of the box.
     virtual void replace(const QList<TextPiece> &pieces, const QString &text);
 
+    // Before every change of the text, whoever makes it; it may not come about.
+    // losesPart: it takes the place of a selection, or of the whole text.
+    virtual void beforeChange(bool losesPart);
+
     // What the box itself does for the user: a key that no command is for, the end
     // of a drag. It changes the text at most once, and may destroy the box.
     virtual void edit(const std::function<void()> &change);

@@ -68,6 +68,7 @@ void RichTextBox::noteTextChange()
 // text is read at once: nobody feels that here, but in the key that asks first.
 void RichTextBox::replaceAll(const std::function<void()> &insert)
 {
+    m_parts->announceChange(true);
     {
         const QScopedValueRollback quiet(m_parts->isQuiet, true);
         document()->clear();
@@ -147,6 +148,7 @@ QString RichTextBox::textOf(const QTextCursor &selection) const
 
 void RichTextBox::setSelText(const QString &text)
 {
+    m_parts->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     const QTextCharFormat format = Parts::formatAt(cursor);
     cursor.beginEditBlock();
@@ -171,6 +173,7 @@ void RichTextBox::setSelRTF(const QString &rtf)
         setSelText(rtf);
         return;
     }
+    m_parts->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     {
         BoxSink sink(cursor, m_parts->formats);
@@ -187,7 +190,7 @@ qint32 RichTextBox::SelColor() const
 
 void RichTextBox::setSelColor(qint32 colour)
 {
-    const QScopedValueRollback keepsText(m_parts->keepsText, true);
+    const Parts::KeepingText keeping(*m_parts);
     const qint32 shown = colour == ColouredText::automatic
                              ? colour
                              : Colours::fromColor(Colours::toColor(colour, paletteAround()));
@@ -254,6 +257,7 @@ void RichTextBox::setColoured(const ColouredText &text)
 
 void RichTextBox::setSelColoured(const ColouredText &text)
 {
+    m_parts->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     {
         BoxSink sink(cursor, m_parts->formats);
@@ -265,7 +269,7 @@ void RichTextBox::setSelColoured(const ColouredText &text)
 
 void RichTextBox::recolour(qint32 start, const ColouredText &text)
 {
-    const QScopedValueRollback keepsText(m_parts->keepsText, true);
+    const Parts::KeepingText keeping(*m_parts);
     BoxColours::apply(*document(), m_parts->text, start, text);
 }
 

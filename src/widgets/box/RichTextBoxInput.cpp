@@ -4,7 +4,6 @@
 #include "widgets/box/RichTextBoxParts.h"
 
 #include <QtCore/QPointer>
-#include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
@@ -140,6 +139,8 @@ void RichTextBox::act(QKeyEvent *event)
     } else if (isAltText(*event)) {
         event->ignore();
     } else {
+        // The key may be one that deletes.
+        m_parts->announceChange(textCursor().hasSelection());
         commands().edit([this, event] {
             QPlainTextEdit::keyPressEvent(event);
             keepCaretWhole();
@@ -150,6 +151,7 @@ void RichTextBox::act(QKeyEvent *event)
 // The toolkit would cut a pair in two whose halves differ in format.
 void RichTextBox::deleteBefore()
 {
+    m_parts->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     if (!cursor.hasSelection() && !cursor.atStart())
         cursor.setPosition(m_parts->text.whole(cursor.position() - 1), QTextCursor::KeepAnchor);
@@ -171,7 +173,7 @@ void RichTextBox::keepCaretWhole()
 // The toolkit reports what is being composed as a change of the line.
 void RichTextBox::compose(QInputMethodEvent *event)
 {
-    const QScopedValueRollback keepsText(m_parts->keepsText, true);
+    const Parts::KeepingText keeping(*m_parts);
     QPlainTextEdit::inputMethodEvent(event);
 }
 

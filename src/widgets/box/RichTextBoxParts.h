@@ -7,6 +7,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPoint>
+#include <QtCore/QScopedValueRollback>
 #include <QtGui/QTextCursor>
 
 #include <memory>
@@ -22,7 +23,38 @@ struct RichTextBox::Parts
     {
     }
 
+    // While it lives, what changes is not the text, and raises no Change. One that a
+    // change before it is about to raise stays to be raised.
+    class KeepingText
+    {
+    public:
+        explicit KeepingText(Parts &parts)
+            : m_parts(parts)
+            , m_isOwed(parts.announcedChanges != parts.text.changeCount())
+            , m_keepsText(parts.keepsText, true)
+        {
+        }
+        ~KeepingText()
+        {
+            if (m_isOwed)
+                m_parts.announcedChanges = m_parts.text.changeCount() - 1;
+        }
+        Q_DISABLE_COPY_MOVE(KeepingText) // strictly nested
+
+    private:
+        Parts &m_parts;
+        bool m_isOwed;
+        QScopedValueRollback<bool> m_keepsText;
+    };
+
     static QTextCharFormat formatAt(const QTextCursor &cursor);
+
+    // Not again for what is part of a change.
+    void announceChange(bool losesPart) const
+    {
+        if (!isQuiet)
+            commands->beforeChange(losesPart);
+    }
 
     BoxText text;
     BoxFormats formats;

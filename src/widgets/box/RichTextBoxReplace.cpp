@@ -24,6 +24,7 @@ void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &pu
 {
     if (pieces.isEmpty())
         return;
+    m_parts->announceChange(false);
     QTextCursor oneChange(document());
     QTextCursor caret;
     oneChange.beginEditBlock();

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void settingTheStartSelectsNothing();
     void selectedTextCrossesLineEnds();
     void positionsAndLinesAgree();
+    void changeIsRaisedWhenTheCaretRecoloursOnItsWay();
     void changeIsRaisedForTextOnly();
     void findSelectsTheMatch();
 };
@@ -247,6 +248,23 @@ void RichTextBoxTest::positionsAndLinesAgree()
             QCOMPARE(box.GetLineFromChar(start + i), line);
         start += length + 2;
     }
+}
+
+void RichTextBoxTest::changeIsRaisedWhenTheCaretRecoloursOnItsWay()
+{
+    RichTextBox box;
+    box.setText(u"one\r\ntwo"_s);
+    connect(&box, &RichTextBox::cursorPositionChanged, &box, [&box] {
+        box.recolour(0, {u"ONE"_s, {{3, 1}}});
+    });
+    QSignalSpy spy(&box, &RichTextBox::Change);
+    box.setSelStart(5);
+    QCOMPARE(spy.count(), 0);
+    box.setText(u"one\r\ntwo"_s);
+    box.setSelStart(5);
+    spy.clear();
+    box.setSelColoured({u"a\r\nb"_s, {{4, 1}}});
+    QCOMPARE(spy.count(), 1);
 }
 
 void RichTextBoxTest::changeIsRaisedForTextOnly()

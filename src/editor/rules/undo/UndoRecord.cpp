@@ -67,4 +67,16 @@ UndoRecord splitUndoRecord(const QString &record)
     return {record.first(first), start, length};
 }
 
+UndoRecord joinedUndoRecord(const QString &record)
+{
+    const qsizetype second = record.lastIndexOf(UndoRecordSeparator);
+    const qsizetype latest = second - UndoRecordSeparator.size();
+    const qsizetype first = latest < 0 ? -1 : record.lastIndexOf(UndoRecordSeparator, latest);
+    if (first < 0)
+        return splitUndoRecord(record); // which says what is wrong
+    UndoRecord fields = splitUndoRecord(record.sliced(first));
+    fields.text = record.first(first);
+    return fields;
+}
+
 } // namespace ORVTListview

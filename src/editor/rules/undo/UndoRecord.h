@@ -35,4 +35,8 @@ ORVT_CORE_EXPORT QString joinUndoRecord(const UndoRecord &record);
 // ends in some. Whether the selection lies within the text is not checked.
 ORVT_CORE_EXPORT UndoRecord splitUndoRecord(const QString &record);
 
+// The same of a record that joinUndoRecord made: its text may hold separators, since
+// nothing behind the last two can.
+ORVT_CORE_EXPORT UndoRecord joinedUndoRecord(const QString &record);
+
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #include "editor/rules/undo/UndoStore.h"
 
+#include "editor/rules/undo/HeldState.h"
 #include "editor/rules/undo/UndoSlot.h"
 #include <ORVTListview/Error.h>
 
@@ -64,6 +65,8 @@ qint16 UndoStore::NextUndoSlot()
     m_newest = m_current;
     if (m_wrapped)
         m_oldest = following(m_newest);
+    ++m_depth;
+    ++m_snapshotCount;
     return m_current;
 }
 
@@ -90,6 +93,8 @@ void UndoStore::ClearUndoHistory()
     m_slots.fill(QString());
     m_oldest = m_newest = m_current = 0;
     m_wrapped = false;
+    m_depth = 0;
+    ++m_snapshotCount; // nobody's text is in the ring any more
 }
 
 bool UndoStore::CanUndo() const
@@ -107,6 +112,7 @@ std::optional<qint16> UndoStore::UndoStepBack()
     if (!CanUndo())
         return std::nullopt;
     m_current = preceding(m_current);
+    --m_depth;
     return m_current;
 }
 
@@ -115,7 +121,19 @@ std::optional<qint16> UndoStore::RedoStepForward()
     if (!CanRedo())
         return std::nullopt;
     m_current = following(m_current);
+    ++m_depth;
     return m_current;
+}
+
+HeldState UndoStore::held(qint16 index) const
+{
+    const Slot &slot = slotAt(index);
+    const auto *plain = std::get_if<PlainSlot>(&slot);
+    if (!plain)
+        return HeldState(std::get<QString>(slot));
+    UndoRecord record = joinedUndoRecord(plain->tail);
+    record.text = plain->text.toString();
+    return HeldState(record);
 }
 
 bool UndoStore::holdsText(qint16 index, const QString &text) const

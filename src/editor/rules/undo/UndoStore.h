@@ -11,6 +11,7 @@
 
 namespace ORVTListview {
 
+class HeldState;
 class UndoSlotEncoder;
 
 // The snapshots that undo and redo go back and forth in. All code editors of a
@@ -28,7 +29,7 @@ class UndoSlotEncoder;
 //   ResetUndoBase on and needs no snapshot.
 // - A snapshot goes into the slot behind UndoCurrent, which becomes UndoNewest:
 //   what stood ahead can no longer be reached. It is taken before a change, so
-//   the text on the screen is most often in no slot yet (see KeptState).
+//   the text on the screen is most often in no slot yet (see KeptStates).
 // - A step moves UndoCurrent first; what is restored is the slot it reaches.
 // - The 50th snapshot in a row comes to slot 0 again and the ring has wrapped
 //   (UndoWrapped, until ClearUndoHistory). From then on every slot but UndoNewest
@@ -91,6 +92,14 @@ public:
     // Move UndoCurrent and return it, or do nothing and return none.
     std::optional<qint16> UndoStepBack();
     std::optional<qint16> RedoStepForward();
+
+    // The steps from the first slot ever to UndoCurrent, and a count that grows
+    // with each snapshot: where and when something happened beside the ring.
+    qint64 depth() const { return m_depth; }
+    qint64 snapshotCount() const { return m_snapshotCount; }
+
+    // What the slot holds, to be kept elsewhere. Takes no time in its length.
+    HeldState held(qint16 index) const;
 
     // Whether the slot has this text, whatever its selection. A damaged slot has none.
     bool holdsText(qint16 index, const QString &text) const;
@@ -166,6 +175,8 @@ private:
     qint16 m_newest = 0;
     qint16 m_current = 0;
     bool m_wrapped = false;
+    qint64 m_depth = 0;
+    qint64 m_snapshotCount = 0;
     bool m_isRestoring = false;
     qsizetype m_pendingBound;
     std::unique_ptr<UndoSlotEncoder> m_encoder; // of the slot that is being encoded

@@ -100,6 +100,16 @@ TEST(UndoRecord, SelectionBeyond32BitsIsRefused)
     }
 }
 
+TEST(UndoRecord, JoinedOneIsReadWhateverItsTextHolds)
+{
+    for (const QString &text : {u"a"_s, u""_s, separator, u"a"_s + separator + u"1"_s,
+                                u"a\r\n%%%%%%"_s, separator + separator}) {
+        const UndoRecord record{text, 3, 7};
+        EXPECT_EQ(joinedUndoRecord(joinUndoRecord(record)), record);
+    }
+    EXPECT_THROW(joinedUndoRecord(u"a"_s + separator + u"1"_s), Error);
+}
+
 TEST(UndoRecord, BlanksAroundANumberArePassedOver)
 {
     const UndoRecord expected{u"A"_s, 12, 3};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "editor/rules/undo/UndoRecord.h"
+
+#include <memory>
+
+namespace ORVTListview {
+
+class UndoSlotEncoder;
+
+// One state of an editor, held as a slot of the undo ring is: plain at first, sharing
+// its text with whoever gave it, and encoded later, slice by slice.
+class ORVT_CORE_EXPORT HeldState
+{
+public:
+    explicit HeldState(const UndoRecord &record);
+    explicit HeldState(const QString &encodedSlot);
+    HeldState(HeldState &&other) noexcept;
+    HeldState &operator=(HeldState &&other) noexcept;
+    ~HeldState();
+
+    // Raises Error when it was encoded and is damaged.
+    UndoRecord record() const;
+
+    bool isWaiting() const { return m_isWaiting; } // to be encoded
+    qsizetype bytes() const;
+
+    // Takes the encoding so many characters further. Never raises anything: what
+    // cannot be encoded stays plain.
+    void encode(qsizetype characters);
+
+private:
+    UndoRecord m_plain;
+    QString m_slot; // empty while it is plain
+    bool m_isWaiting = false;
+    std::unique_ptr<UndoSlotEncoder> m_encoder;
+};
+
+} // namespace ORVTListview
