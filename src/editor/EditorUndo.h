@@ -1,7 +1,6 @@
 #pragma once
 
 #include "editor/EditorClock.h"
-#include "editor/rules/undo/KeptState.h"
 #include "editor/rules/undo/KeptStates.h"
 #include "editor/rules/undo/UndoStore.h"
 
