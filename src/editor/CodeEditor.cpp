@@ -9,8 +9,8 @@
 #include "editor/RtfHead.h"
 #include "editor/ThreadColouring.h"
 #include "editor/WordInBox.h"
+#include "platform/EventGuard.h"
 #include "platform/MessageBoxes.h"
-#include "platform/MouseArguments.h"
 #include "platform/ReportList.h"
 #include "platform/RichTextBox.h"
 #include "platform/RtfReader.h"
@@ -23,7 +23,6 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QFontMetrics>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QMouseEvent>
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
@@ -67,14 +66,18 @@ CodeEditor::~CodeEditor()
 void CodeEditor::connectBox()
 {
     m_box->installEventFilter(this);
-    m_box->viewport()->installEventFilter(this);
     connect(m_box, &RichTextBox::KeyDown, this, [this](qint16 &keyCode, qint16 shift) {
         const QPointer<CodeEditor> self(this); // the host may destroy it in an event
         m_keys.keyDown(keyCode, shift);
         if (self)
             m_isKeyInBox = keyCode != 0;
     });
-    connect(m_box, &RichTextBox::Change, this, &CodeEditor::noteTextChange);
+    connect(m_box, &RichTextBox::MouseDown, this,
+            [this](qint16 button, qint16 shift, float x, float y) {
+                m_colouring.finishCaretLine();
+                raiseEvent(*this, &CodeEditor::MouseDown, button, shift, x, y);
+            });
+    connect(m_box, &RichTextBox::edited, this, &CodeEditor::noteTextChange);
     connect(m_box, &RichTextBox::cursorPositionChanged, this, [this] {
         if (!threadPart<UndoStore>().IsRestoringUndo())
             m_colouring.followCaret();
@@ -95,6 +98,7 @@ void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)
     RefillListviewWithWordList();
 
     m_isReady = false;
+    const RichTextBox::Changing changing(*m_box);
     const QString kept = m_box->Text();
     m_box->setUpdatesEnabled(false);
     const auto finish = qScopeGuard([this] {
@@ -141,6 +145,7 @@ QString CodeEditor::CodeText() const
 
 void CodeEditor::setCodeText(const QString &text)
 {
+    const RichTextBox::Changing changing(*m_box);
     m_box->setText(text);
     m_colouring.forgetEdit();
     m_undo.resetBase();
@@ -154,6 +159,7 @@ QString CodeEditor::CodeTextRTF()
 
 void CodeEditor::setCodeTextRTF(const QString &rtf)
 {
+    const RichTextBox::Changing changing(*m_box);
     m_box->setTextRTF(rtf);
     m_colouring.forgetEdit();
 }
@@ -203,6 +209,7 @@ void CodeEditor::RTextSelectAll()
 
 bool CodeEditor::bringBackKeptText()
 {
+    const RichTextBox::Changing changing(*m_box);
     const bool isShown = m_undo.bringBackKeptText();
     if (isShown)
         m_colouring.forgetEdit();
@@ -211,12 +218,14 @@ bool CodeEditor::bringBackKeptText()
 
 void CodeEditor::Undo(QString &ErrMsg)
 {
+    const RichTextBox::Changing changing(*m_box);
     if (m_undo.Undo(ErrMsg))
         m_colouring.forgetEdit();
 }
 
 void CodeEditor::Redo(QString &ErrMsg)
 {
+    const RichTextBox::Changing changing(*m_box);
     if (m_undo.Redo(ErrMsg))
         m_colouring.forgetEdit();
 }
@@ -225,6 +234,7 @@ void CodeEditor::replace(const QList<TextPiece> &pieces, const QString &text, Re
 {
     if (pieces.isEmpty())
         return;
+    const RichTextBox::Changing changing(*m_box);
     PushUndoSnapshot();
     if (how == Replacing::InColours)
         replaceInColours(*m_box, pieces, text);
@@ -269,6 +279,7 @@ void CodeEditor::HighLightText(const QString &Text, qint16 LineNumber)
 
 void CodeEditor::typeText(const QString &text)
 {
+    const RichTextBox::Changing changing(*m_box);
     if (text == u"\r\n") {
         breakLine();
         return;
@@ -335,6 +346,7 @@ void CodeEditor::cutByKey()
 
 void CodeEditor::removeSelection()
 {
+    const RichTextBox::Changing changing(*m_box);
     PushUndoSnapshot();
     m_box->setSelText(QString());
     m_colouring.noteEdit();
@@ -351,19 +363,18 @@ bool CodeEditor::pasteFromOutside(const QString &data)
 {
     if (data.isEmpty() || !acceptPasteSize(data))
         return false;
-    const QPointer<CodeEditor> self(this);
     if (data != m_box->SelText()) {
         PushUndoSnapshot();
-        Q_EMIT UpdateUndoMenu();
+        if (!raiseEvent(*this, &CodeEditor::UpdateUndoMenu))
+            return false;
     }
-    if (!self)
-        return false;
     pasteChecked(data);
     return true;
 }
 
 void CodeEditor::pasteChecked(const QString &data)
 {
+    const RichTextBox::Changing changing(*m_box);
     const qint32 firstLine = m_box->GetLineFromChar(m_box->SelStart());
     if (!PasteText(*m_box, data))
         return;
@@ -393,7 +404,7 @@ void CodeEditor::noteTextChange()
 void CodeEditor::raiseStatus()
 {
     QString description = GetPositionDisplay();
-    Q_EMIT StatusUpdate(description);
+    raiseEvent(*this, &CodeEditor::StatusUpdate, description);
 }
 
 void CodeEditor::RefillListviewWithWordList()
@@ -428,6 +439,7 @@ void CodeEditor::TryToPopupList(bool IsShowAbsolutely)
 // A word that needs no list takes its colour as it is typed.
 bool CodeEditor::rewriteKnownWord()
 {
+    const RichTextBox::Changing changing(*m_box);
     const QString word = GetWordAtCaret(*m_box).Word;
     qint32 colour = 0;
     if (word.isEmpty())
@@ -452,6 +464,7 @@ void CodeEditor::caretToLineEnd()
 
 void CodeEditor::takeWord(const QString &word, qint32 colour)
 {
+    const RichTextBox::Changing changing(*m_box);
     PushUndoSnapshot();
     SetWordAtCaret(*m_box, word, colour);
     m_colouring.noteEdit();
@@ -464,8 +477,6 @@ bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
         m_tabStops.takeFrom(form());
     else if (watched == m_box && event->type() == QEvent::FocusOut)
         leaveFocus();
-    else if (watched == m_box->viewport() && event->type() == QEvent::MouseButtonPress)
-        raiseMouseDown(static_cast<const QMouseEvent &>(*event));
     return QObject::eventFilter(watched, event);
 }
 
@@ -481,13 +492,6 @@ void CodeEditor::leaveFocus()
     m_tabStops.giveBack();
     m_popup.close();
     m_colouring.finishEdit();
-}
-
-void CodeEditor::raiseMouseDown(const QMouseEvent &event)
-{
-    m_colouring.finishCaretLine();
-    const MouseArguments mouse = mouseArguments(event, *m_box);
-    Q_EMIT MouseDown(mouse.Button, mouse.Shift, mouse.X, mouse.Y);
 }
 
 } // namespace ORVTListview

@@ -1,6 +1,7 @@
 #include "platform/ImageCombo.h"
 
 #include "platform/Error.h"
+#include "platform/EventGuard.h"
 #include "platform/ImageComboAccess.h"
 #include "platform/ImageComboParts.h"
 #include "platform/ImageList.h"
@@ -165,7 +166,7 @@ void ImageCombo::setText(const QString &text)
     endSelection();
     lineEdit()->setText(text);
     remember();
-    Q_EMIT Change();
+    raiseEvent(*this, &ImageCombo::Change);
 }
 
 QColor ImageCombo::textColour() const

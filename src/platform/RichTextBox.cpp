@@ -5,15 +5,18 @@
 #include "platform/BoxMarks.h"
 #include "platform/BoxSink.h"
 #include "platform/BoxSource.h"
+#include "platform/EventGuard.h"
 #include "platform/RichTextBoxParts.h"
 #include "platform/RtfReader.h"
 #include "platform/RtfWriter.h"
 #include "platform/TextSearch.h"
 
 #include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QMenu>
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -41,7 +44,44 @@ RichTextBox::RichTextBox(QWidget *parent)
     connect(this, &QPlainTextEdit::textChanged, this, &RichTextBox::noteTextChange);
 }
 
-RichTextBox::~RichTextBox() = default;
+RichTextBox::~RichTextBox()
+{
+    // The toolkit goes on with both when a receiver destroys the box.
+    m_parts->surface.letGo();
+    for (QMenu *menu : findChildren<QMenu *>(Qt::FindDirectChildrenOnly)) {
+        menu->setParent(nullptr);
+        menu->deleteLater();
+    }
+}
+
+RichTextBox::Changing::Changing(RichTextBox &box)
+    : m_box(&box)
+{
+    ++box.m_parts->changing;
+}
+
+RichTextBox::Changing::~Changing()
+{
+    if (m_box && --m_box->m_parts->changing == 0 &&
+        std::exchange(m_box->m_parts->hasChanged, false))
+        raiseEvent(*m_box, &RichTextBox::Change);
+}
+
+// What changes the text past the box, such as a screen reader, is at work still.
+void RichTextBox::noteChange()
+{
+    Q_EMIT edited();
+    if (m_parts->changing > 0)
+        m_parts->hasChanged = true;
+    else if (!std::exchange(m_parts->isChangeQueued, true))
+        QMetaObject::invokeMethod(this, &RichTextBox::raiseQueuedChange, Qt::QueuedConnection);
+}
+
+void RichTextBox::raiseQueuedChange()
+{
+    m_parts->isChangeQueued = false;
+    raiseEvent(*this, &RichTextBox::Change);
+}
 
 // What the next character gets that replaces the cursor's selection.
 QTextCharFormat RichTextBox::Parts::formatAt(const QTextCursor &cursor)
@@ -61,20 +101,21 @@ void RichTextBox::noteTextChange()
         return;
     m_parts->announcedChanges = changes;
     if (!m_parts->isQuiet)
-        Q_EMIT Change();
+        noteChange();
 }
 
 // A cleared document forgets its formats, and is faster than one emptied. The new
 // text is read at once: nobody feels that here, but in the key that asks first.
 void RichTextBox::replaceAll(const std::function<void()> &insert)
 {
+    const Changing changing(*this);
     {
         const QScopedValueRollback quiet(m_parts->isQuiet, true);
         document()->clear();
         insert();
         m_parts->text.text();
     }
-    Q_EMIT Change();
+    noteChange();
 }
 
 void RichTextBox::select(int anchor, int position)
@@ -147,6 +188,7 @@ QString RichTextBox::textOf(const QTextCursor &selection) const
 
 void RichTextBox::setSelText(const QString &text)
 {
+    const Changing changing(*this);
     QTextCursor cursor = textCursor();
     const QTextCharFormat format = Parts::formatAt(cursor);
     cursor.beginEditBlock();
@@ -171,6 +213,7 @@ void RichTextBox::setSelRTF(const QString &rtf)
         setSelText(rtf);
         return;
     }
+    const Changing changing(*this);
     QTextCursor cursor = textCursor();
     {
         BoxSink sink(cursor, m_parts->formats);
@@ -254,6 +297,7 @@ void RichTextBox::setColoured(const ColouredText &text)
 
 void RichTextBox::setSelColoured(const ColouredText &text)
 {
+    const Changing changing(*this);
     QTextCursor cursor = textCursor();
     {
         BoxSink sink(cursor, m_parts->formats);

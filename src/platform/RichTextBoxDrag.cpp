@@ -1,5 +1,7 @@
 // Text dragged out of a box and dropped into it.
 
+#include "platform/EventGuard.h"
+#include "platform/MouseArguments.h"
 #include "platform/RichTextBoxParts.h"
 
 #include <QtCore/QMimeData>
@@ -12,6 +14,9 @@ namespace ORVTListview {
 
 void RichTextBox::mousePressEvent(QMouseEvent *event)
 {
+    const MouseArguments mouse = mouseArguments(*event, *this);
+    if (!raiseEvent(*this, &RichTextBox::MouseDown, mouse.Button, mouse.Shift, mouse.X, mouse.Y))
+        return;
     const QTextCursor before = textCursor();
     QPlainTextEdit::mousePressEvent(event);
     const QTextCursor after = textCursor();

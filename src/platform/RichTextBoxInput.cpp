@@ -1,6 +1,7 @@
 // How keys, clipboard and input method reach a box: all end in its commands.
 
 #include "platform/BoxMimeData.h"
+#include "platform/EventGuard.h"
 #include "platform/RichTextBoxParts.h"
 
 #include <QtCore/QPointer>
@@ -83,6 +84,26 @@ void RichTextBox::moveFocus(bool forwards)
 
 bool RichTextBox::event(QEvent *event)
 {
+    if (!m_parts)
+        return QPlainTextEdit::event(event);
+    return EventGuard::run([this, event] {
+        const Changing changing(*this);
+        return handle(event);
+    });
+}
+
+bool RichTextBox::viewportEvent(QEvent *event)
+{
+    if (!m_parts)
+        return QPlainTextEdit::viewportEvent(event);
+    return m_parts->surface.deliver([this, event] {
+        const Changing changing(*this);
+        return QPlainTextEdit::viewportEvent(event);
+    });
+}
+
+bool RichTextBox::handle(QEvent *event)
+{
     if (event->type() == QEvent::ShortcutOverride) {
         const auto &key = static_cast<const QKeyEvent &>(*event);
         const std::optional<bool> takes =
@@ -101,9 +122,7 @@ bool RichTextBox::announceKey(const QKeyEvent &event)
     VirtualKey key = virtualKey(event);
     if (key.keyCode == 0)
         return true;
-    const QPointer<RichTextBox> self(this);
-    Q_EMIT KeyDown(key.keyCode, key.shift);
-    return self && key.keyCode != 0;
+    return raiseEvent(*this, &RichTextBox::KeyDown, key.keyCode, key.shift) && key.keyCode != 0;
 }
 
 bool RichTextBox::runShortcut(const QKeyEvent &event)

@@ -4,6 +4,7 @@
 #include "platform/BoxFormats.h"
 #include "platform/BoxText.h"
 #include "platform/Colours.h"
+#include "platform/EventSurface.h"
 #include "platform/RichTextBox.h"
 
 #include <QtCore/QPoint>
@@ -17,6 +18,7 @@ struct RichTextBox::Parts
 {
     explicit Parts(RichTextBox &box)
         : text(*box.document())
+        , surface(*box.viewport())
         , commands(std::make_unique<BoxCommands>(box))
     {
     }
@@ -29,6 +31,10 @@ struct RichTextBox::Parts
     bool hasOwnPalette = false;   // set for backColor
     bool isQuiet = false;         // Change is not raised
     quint64 announcedChanges = 0; // of text.changeCount()
+    int changing = 0;             // how many Changing live
+    bool hasChanged = false;      // Change waits for them
+    bool isChangeQueued = false;
+    EventSurface surface;
     std::unique_ptr<BoxCommands> commands;
     std::optional<QPoint> dragStart; // where the selection was taken hold of
 };

@@ -4,6 +4,7 @@
 #include "platform/ColumnHeaders.h"
 #include "platform/ElidedLabel.h"
 #include "platform/Error.h"
+#include "platform/EventGuard.h"
 #include "platform/ListItems.h"
 #include "platform/PictureBox.h"
 #include "platform/PictureButton.h"
@@ -52,9 +53,9 @@ PointTable::PointTable(QWidget *host, ReportList &list, const ImageList &images)
     m_write->setObjectName(u"ImgWrite"_s);
     m_caption->lower(); // the pictures lie on it
     m_caption->installEventFilter(this);
-    connect(m_read, &PictureButton::clicked, this, [this] {
+    connect(m_read, &PictureButton::pressedAndReleased, this, [this] {
         LwType type = m_type;
-        Q_EMIT QueryRead(type);
+        raiseEvent(*this, &PointTable::QueryRead, type);
     });
     SetImage(false);
     InitStrings();
