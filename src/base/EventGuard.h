@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QPointer>
 #include <QtCore/QtGlobal>
 
 #include <exception>
@@ -23,3 +24,22 @@ bool run(Act &&act)
 }
 
 } // namespace ORVTListview::EventGuard
+
+namespace ORVTListview {
+
+// The one way in which an event leaves an object. What a receiver throws ends in the
+// log, wherever the event comes from (no timer, screen reader or event filter bears
+// it), and the object goes on as if the receiver had returned. False when a receiver
+// has destroyed the object.
+template <typename Raiser, typename... Parameters, typename... Values>
+bool raiseEvent(Raiser &raiser, void (Raiser::*event)(Parameters...), Values &&...values)
+{
+    const QPointer<Raiser> alive(&raiser);
+    EventGuard::run([&] {
+        Q_EMIT(raiser.*event)(std::forward<Values>(values)...);
+        return true;
+    });
+    return !alive.isNull();
+}
+
+} // namespace ORVTListview

@@ -1,5 +1,6 @@
 #include <ORVTListview/ORVDataCombo.h>
 
+#include "base/EventGuard.h"
 #include "base/ThreadState.h"
 #include "combo/PointEntries.h"
 #include "shared/texts/TextRoutine.h"
@@ -108,7 +109,7 @@ void ORVDataCombo::SetListIndex(const QString &Data)
 void ORVDataCombo::recordText()
 {
     if (std::exchange(d->recordedText, Text()) != d->recordedText)
-        Q_EMIT textChanged();
+        raiseEvent(*this, &ORVDataCombo::textChanged);
 }
 
 void ORVDataCombo::applyColour()
@@ -214,7 +215,7 @@ bool ORVDataCombo::event(QEvent *event)
     if (event->type() == QEvent::AcceptDropsChange && d)
         d->combo->setAcceptDrops(acceptDrops());
     else if (event->type() == QEvent::EnabledChange)
-        Q_EMIT enabledChanged();
+        raiseEvent(*this, &ORVDataCombo::enabledChanged);
     return QWidget::event(event);
 }
 

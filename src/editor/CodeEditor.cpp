@@ -1,5 +1,6 @@
 #include "editor/CodeEditor.h"
 
+#include "base/EventGuard.h"
 #include "base/TextPiece.h"
 #include "base/TextRules.h"
 #include "base/ThreadState.h"
@@ -22,7 +23,6 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QFontMetrics>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QMouseEvent>
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
@@ -66,10 +66,14 @@ CodeEditor::~CodeEditor()
 void CodeEditor::connectBox()
 {
     m_box->installEventFilter(this);
-    m_box->viewport()->installEventFilter(this);
     connect(m_box, &RichTextBox::KeyDown, this,
             [this](qint16 &keyCode, qint16 shift) { m_keys.keyDown(keyCode, shift); });
-    connect(m_box, &RichTextBox::Change, this, &CodeEditor::noteTextChange);
+    connect(m_box, &RichTextBox::MouseDown, this,
+            [this](qint16 button, qint16 shift, float x, float y) {
+                m_colouring.finishCaretLine();
+                raiseEvent(*this, &CodeEditor::MouseDown, button, shift, x, y);
+            });
+    connect(m_box, &RichTextBox::edited, this, &CodeEditor::noteTextChange);
     connect(m_box, &RichTextBox::cursorPositionChanged, this, [this] {
         if (!threadPart<UndoStore>().IsRestoringUndo())
             m_colouring.followCaret();
@@ -91,6 +95,7 @@ void CodeEditor::Init_RichTextBox(const RichTextSettings &Setting)
     RefillListviewWithWordList();
 
     m_isReady = false;
+    const RichTextBox::Changing changing(*m_box);
     const QString kept = m_box->Text();
     m_box->setUpdatesEnabled(false);
     const auto finish = qScopeGuard([this] {
@@ -136,6 +141,7 @@ QString CodeEditor::CodeText() const
 
 void CodeEditor::setCodeText(const QString &text)
 {
+    const RichTextBox::Changing changing(*m_box);
     m_box->setText(text);
     m_undo.resetBase();
 }
@@ -148,6 +154,7 @@ QString CodeEditor::CodeTextRTF()
 
 void CodeEditor::setCodeTextRTF(const QString &rtf)
 {
+    const RichTextBox::Changing changing(*m_box);
     m_box->setTextRTF(rtf);
     m_undo.forgetKeptTexts();
 }
@@ -197,16 +204,19 @@ void CodeEditor::RTextSelectAll()
 
 bool CodeEditor::bringBackKeptText()
 {
+    const RichTextBox::Changing changing(*m_box);
     return m_undo.bringBackKeptText();
 }
 
 void CodeEditor::Undo(QString &ErrMsg)
 {
+    const RichTextBox::Changing changing(*m_box);
     m_undo.Undo(ErrMsg);
 }
 
 void CodeEditor::Redo(QString &ErrMsg)
 {
+    const RichTextBox::Changing changing(*m_box);
     m_undo.Redo(ErrMsg);
 }
 
@@ -214,6 +224,7 @@ void CodeEditor::replace(const QList<TextPiece> &pieces, const QString &text, Re
 {
     if (pieces.isEmpty())
         return;
+    const RichTextBox::Changing changing(*m_box);
     PushUndoSnapshot();
     m_colouring.finishEdit(); // the caret leaves the line
     if (how == Replacing::InColours)
@@ -259,6 +270,7 @@ void CodeEditor::HighLightText(const QString &Text, qint16 LineNumber)
 
 void CodeEditor::typeText(const QString &text)
 {
+    const RichTextBox::Changing changing(*m_box);
     if (text == u"\r\n") {
         breakLine();
         return;
@@ -331,6 +343,7 @@ void CodeEditor::cutByKey()
 
 void CodeEditor::removeSelection()
 {
+    const RichTextBox::Changing changing(*m_box);
     PushUndoSnapshot();
     edit([this] { m_box->setSelText(QString()); });
 }
@@ -346,16 +359,17 @@ Pasted CodeEditor::pasteFromOutside(const QString &data)
 {
     if (data.isEmpty() || m_box->isReadOnly() || !acceptPasteSize(data))
         return Pasted::Refused;
-    const QPointer<CodeEditor> self(this);
     if (data != m_box->SelText()) {
         PushUndoSnapshot();
-        Q_EMIT UpdateUndoMenu();
+        if (!raiseEvent(*this, &CodeEditor::UpdateUndoMenu))
+            return Pasted::Refused;
     }
-    return self ? pasteChecked(data) : Pasted::Refused;
+    return pasteChecked(data);
 }
 
 Pasted CodeEditor::pasteChecked(const QString &data)
 {
+    const RichTextBox::Changing changing(*m_box);
     const std::optional<ColouredText> text = isRtf(data) ? std::nullopt : textToPaste(*m_box, data);
     if (!text && !isRtf(data))
         return Pasted::Refused;
@@ -380,6 +394,7 @@ void CodeEditor::pasteRtf(const QString &rtf)
 
 void CodeEditor::pastePlain(const ColouredText &text)
 {
+    const RichTextBox::Changing changing(*m_box);
     const qint32 firstLine = m_box->GetLineFromChar(m_box->SelStart());
     if (!m_colouring.edit([&] { m_box->setSelColoured(text); }))
         return;
@@ -406,7 +421,7 @@ void CodeEditor::noteTextChange()
 void CodeEditor::raiseStatus()
 {
     QString description = GetPositionDisplay();
-    Q_EMIT StatusUpdate(description);
+    raiseEvent(*this, &CodeEditor::StatusUpdate, description);
 }
 
 void CodeEditor::RefillListviewWithWordList()
@@ -441,6 +456,7 @@ void CodeEditor::TryToPopupList(bool IsShowAbsolutely)
 // A word that needs no list takes its colour as it is typed.
 bool CodeEditor::rewriteKnownWord()
 {
+    const RichTextBox::Changing changing(*m_box);
     const QString word = GetWordAtCaret(*m_box).Word;
     qint32 colour = 0;
     if (word.isEmpty())
@@ -465,6 +481,7 @@ void CodeEditor::caretToLineEnd()
 
 void CodeEditor::takeWord(const QString &word, qint32 colour)
 {
+    const RichTextBox::Changing changing(*m_box);
     PushUndoSnapshot();
     m_box->setSelStart(m_box->SelStart()); // the word's line, of those selected
     m_colouring.noteEdit();
@@ -478,8 +495,6 @@ bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
         m_tabStops.takeFrom(form());
     else if (watched == m_box && event->type() == QEvent::FocusOut)
         leaveFocus();
-    else if (watched == m_box->viewport() && event->type() == QEvent::MouseButtonPress)
-        raiseMouseDown(static_cast<const QMouseEvent &>(*event));
     return QObject::eventFilter(watched, event);
 }
 
@@ -495,13 +510,6 @@ void CodeEditor::leaveFocus()
     m_tabStops.giveBack();
     m_popup.close();
     m_colouring.finishEdit();
-}
-
-void CodeEditor::raiseMouseDown(const QMouseEvent &event)
-{
-    m_colouring.finishCaretLine();
-    const MouseArguments mouse = mouseArguments(event, *m_box);
-    Q_EMIT MouseDown(mouse.Button, mouse.Shift, mouse.X, mouse.Y);
 }
 
 } // namespace ORVTListview

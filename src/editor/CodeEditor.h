@@ -137,7 +137,6 @@ private:
     void caretToLineEnd();
     QWidget *form() const;
     void leaveFocus();
-    void raiseMouseDown(const QMouseEvent &event);
 
     QPointer<RichTextBox> m_box;
     LineCommands m_lines;

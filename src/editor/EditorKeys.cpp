@@ -1,5 +1,6 @@
 #include "editor/EditorKeys.h"
 
+#include "base/EventGuard.h"
 #include "editor/CodeEditor.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -46,7 +47,7 @@ bool EditorKeys::carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift)
     case KeyDecision::Swallow:
         return false;
     case KeyDecision::RaiseHelp:
-        Q_EMIT m_editor.KeyDown(KeyCode, Shift);
+        raiseEvent(m_editor, &CodeEditor::KeyDown, KeyCode, Shift);
         return KeyCode != 0;
     case KeyDecision::PopupKey:
         return !m_editor.wordListKey(KeyCode) &&
@@ -96,10 +97,10 @@ bool EditorKeys::runCommand(KeyDecision decision)
         m_editor.TryToPopupList(false);
         break;
     case KeyDecision::Analyze:
-        Q_EMIT m_editor.QueryAnalyze();
+        raiseEvent(m_editor, &CodeEditor::QueryAnalyze);
         break;
     case KeyDecision::Compile:
-        Q_EMIT m_editor.QueryCompile();
+        raiseEvent(m_editor, &CodeEditor::QueryCompile);
         break;
     default:
         return true;

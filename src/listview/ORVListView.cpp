@@ -1,5 +1,6 @@
 #include <ORVTListview/ORVListView.h>
 
+#include "base/EventGuard.h"
 #include "base/ThreadState.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "find/FindDialog.h"
@@ -9,7 +10,6 @@
 #include "shared/texts/TextTable.h"
 #include "widgets/look/Pictures.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 
 namespace ORVTListview {
@@ -104,10 +104,8 @@ void ORVListView::setListviewType(LwType type)
     if (type == dsCode)
         threadPart<Vocabulary>().resetFunctionWords();
     d->switchTo(type);
-    const QPointer<ORVListView> self(this);
-    Q_EMIT captionChanged();
-    if (self)
-        Q_EMIT listviewTypeChanged();
+    if (raiseEvent(*this, &ORVListView::captionChanged))
+        raiseEvent(*this, &ORVListView::listviewTypeChanged);
 }
 
 LwType ORVListView::CurrentType() const
@@ -128,7 +126,7 @@ QString ORVListView::Caption() const
 void ORVListView::setCaption(const QString &Text)
 {
     d->table->setCaption(Text);
-    Q_EMIT captionChanged();
+    raiseEvent(*this, &ORVListView::captionChanged);
 }
 
 bool ORVListView::Enabled() const
@@ -142,7 +140,7 @@ void ORVListView::setEnabled(bool Enabled)
     d->table->setEnabled(Enabled);
     d->list->setEnabled(Enabled);
     d->editor->box().setEnabled(Enabled);
-    Q_EMIT enabledChanged();
+    raiseEvent(*this, &ORVListView::enabledChanged);
 }
 
 bool ORVListView::MultiSelect() const
@@ -153,7 +151,7 @@ bool ORVListView::MultiSelect() const
 void ORVListView::setMultiSelect(bool MultiSelect)
 {
     d->list->setMultiSelect(MultiSelect);
-    Q_EMIT multiSelectChanged();
+    raiseEvent(*this, &ORVListView::multiSelectChanged);
 }
 
 void ORVListView::InitStrings()
@@ -167,7 +165,7 @@ void ORVListView::ReInitializeStrings()
     InitStrings();
     d->table->translateHeaders();
     FindDialog::initStrings();
-    Q_EMIT captionChanged();
+    raiseEvent(*this, &ORVListView::captionChanged);
 }
 
 QSize ORVListView::sizeHint() const

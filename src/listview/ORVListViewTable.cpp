@@ -1,5 +1,6 @@
 // The members of the point table.
 
+#include "base/EventGuard.h"
 #include "listview/ORVListViewParts.h"
 #include <ORVTListview/ListItems.h>
 
@@ -14,7 +15,7 @@ void ORVListView::setNumberItems(qint16 Count)
 {
     d->table->setNumberItems(Count);
     d->switchTo(d->table->type());
-    Q_EMIT captionChanged();
+    raiseEvent(*this, &ORVListView::captionChanged);
 }
 
 bool ORVListView::IsHOASupported() const

@@ -1,5 +1,6 @@
 #include "pointtable/PointTable.h"
 
+#include "base/EventGuard.h"
 #include "base/ThreadState.h"
 #include "pointtable/rules/ColumnLayouts.h"
 #include "pointtable/rules/TableLayout.h"
@@ -52,9 +53,9 @@ PointTable::PointTable(QWidget *host, ReportList &list, const ImageList &images)
     m_write->setObjectName(u"ImgWrite"_s);
     m_caption->lower(); // the pictures lie on it
     m_caption->installEventFilter(this);
-    connect(m_read, &PictureButton::clicked, this, [this] {
+    connect(m_read, &PictureButton::pressedAndReleased, this, [this] {
         LwType type = m_type;
-        Q_EMIT QueryRead(type);
+        raiseEvent(*this, &PointTable::QueryRead, type);
     });
     SetImage(false);
     InitStrings();

@@ -1,5 +1,6 @@
 #include <ORVTListview/RichTextBox.h>
 
+#include "base/EventGuard.h"
 #include "base/TextSearch.h"
 #include "rtf/RtfReader.h"
 #include "rtf/RtfWriter.h"
@@ -11,9 +12,11 @@
 #include "widgets/box/RichTextBoxParts.h"
 
 #include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QMenu>
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -41,7 +44,44 @@ RichTextBox::RichTextBox(QWidget *parent)
     connect(this, &QPlainTextEdit::textChanged, this, &RichTextBox::noteTextChange);
 }
 
-RichTextBox::~RichTextBox() = default;
+RichTextBox::~RichTextBox()
+{
+    // The toolkit goes on with both when a receiver destroys the box.
+    m_parts->surface.letGo();
+    for (QMenu *menu : findChildren<QMenu *>(Qt::FindDirectChildrenOnly)) {
+        menu->setParent(nullptr);
+        menu->deleteLater();
+    }
+}
+
+RichTextBox::Changing::Changing(RichTextBox &box)
+    : m_box(&box)
+{
+    ++box.m_parts->changing;
+}
+
+RichTextBox::Changing::~Changing()
+{
+    if (m_box && --m_box->m_parts->changing == 0 &&
+        std::exchange(m_box->m_parts->hasChanged, false))
+        raiseEvent(*m_box, &RichTextBox::Change);
+}
+
+// What changes the text past the box, such as a screen reader, is at work still.
+void RichTextBox::noteChange()
+{
+    Q_EMIT edited();
+    if (m_parts->changing > 0)
+        m_parts->hasChanged = true;
+    else if (!std::exchange(m_parts->isChangeQueued, true))
+        QMetaObject::invokeMethod(this, &RichTextBox::raiseQueuedChange, Qt::QueuedConnection);
+}
+
+void RichTextBox::raiseQueuedChange()
+{
+    m_parts->isChangeQueued = false;
+    raiseEvent(*this, &RichTextBox::Change);
+}
 
 // What the next character gets that replaces the cursor's selection.
 QTextCharFormat RichTextBox::Parts::formatAt(const QTextCursor &cursor)
@@ -61,13 +101,14 @@ void RichTextBox::noteTextChange()
         return;
     m_parts->announcedChanges = changes;
     if (!m_parts->isQuiet && !m_parts->keepsText)
-        Q_EMIT Change();
+        noteChange();
 }
 
 // A cleared document forgets its formats, and is faster than one emptied. The new
 // text is read at once: nobody feels that here, but in the key that asks first.
 void RichTextBox::replaceAll(const std::function<void()> &insert)
 {
+    const Changing changing(*this);
     m_parts->announceChange(true);
     {
         const QScopedValueRollback quiet(m_parts->isQuiet, true);
@@ -75,7 +116,7 @@ void RichTextBox::replaceAll(const std::function<void()> &insert)
         insert();
         m_parts->text.text();
     }
-    Q_EMIT Change();
+    noteChange();
 }
 
 void RichTextBox::select(int anchor, int position)
@@ -148,6 +189,7 @@ QString RichTextBox::textOf(const QTextCursor &selection) const
 
 void RichTextBox::setSelText(const QString &text)
 {
+    const Changing changing(*this);
     m_parts->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     const QTextCharFormat format = Parts::formatAt(cursor);
@@ -173,6 +215,7 @@ void RichTextBox::setSelRTF(const QString &rtf)
         setSelText(rtf);
         return;
     }
+    const Changing changing(*this);
     m_parts->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     {
@@ -257,6 +300,7 @@ void RichTextBox::setColoured(const ColouredText &text)
 
 void RichTextBox::setSelColoured(const ColouredText &text)
 {
+    const Changing changing(*this);
     m_parts->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     {

@@ -1,6 +1,8 @@
 // Text dragged out of a box and dropped into it.
 
+#include "base/EventGuard.h"
 #include "widgets/box/RichTextBoxParts.h"
+#include "widgets/input/MouseArguments.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
@@ -12,6 +14,9 @@ namespace ORVTListview {
 
 void RichTextBox::mousePressEvent(QMouseEvent *event)
 {
+    const MouseArguments mouse = mouseArguments(*event, *this);
+    if (!raiseEvent(*this, &RichTextBox::MouseDown, mouse.Button, mouse.Shift, mouse.X, mouse.Y))
+        return;
     const QTextCursor before = textCursor();
     QPlainTextEdit::mousePressEvent(event);
     const QTextCursor after = textCursor();

@@ -1,5 +1,6 @@
 // How keys, clipboard and input method reach a box: all end in its commands.
 
+#include "base/EventGuard.h"
 #include "widgets/box/BoxMimeData.h"
 #include "widgets/box/RichTextBoxParts.h"
 
@@ -82,6 +83,26 @@ void RichTextBox::moveFocus(bool forwards)
 
 bool RichTextBox::event(QEvent *event)
 {
+    if (!m_parts)
+        return QPlainTextEdit::event(event);
+    return EventGuard::run([this, event] {
+        const Changing changing(*this);
+        return handle(event);
+    });
+}
+
+bool RichTextBox::viewportEvent(QEvent *event)
+{
+    if (!m_parts)
+        return QPlainTextEdit::viewportEvent(event);
+    return m_parts->surface.deliver([this, event] {
+        const Changing changing(*this);
+        return QPlainTextEdit::viewportEvent(event);
+    });
+}
+
+bool RichTextBox::handle(QEvent *event)
+{
     if (event->type() == QEvent::ShortcutOverride) {
         const auto &key = static_cast<const QKeyEvent &>(*event);
         const std::optional<bool> takes =
@@ -100,9 +121,7 @@ bool RichTextBox::announceKey(const QKeyEvent &event)
     VirtualKey key = virtualKey(event);
     if (key.keyCode == 0)
         return true;
-    const QPointer<RichTextBox> self(this);
-    Q_EMIT KeyDown(key.keyCode, key.shift);
-    return self && key.keyCode != 0;
+    return raiseEvent(*this, &RichTextBox::KeyDown, key.keyCode, key.shift) && key.keyCode != 0;
 }
 
 bool RichTextBox::runShortcut(const QKeyEvent &event)

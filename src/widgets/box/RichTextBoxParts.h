@@ -3,6 +3,7 @@
 #include "widgets/box/BoxCommands.h"
 #include "widgets/box/BoxFormats.h"
 #include "widgets/box/BoxText.h"
+#include "widgets/input/EventSurface.h"
 #include "widgets/look/Colours.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -19,6 +20,7 @@ struct RichTextBox::Parts
 {
     explicit Parts(RichTextBox &box)
         : text(*box.document())
+        , surface(*box.viewport())
         , commands(std::make_unique<BoxCommands>(box))
     {
     }
@@ -63,6 +65,10 @@ struct RichTextBox::Parts
     bool isQuiet = false;         // Change is not raised
     bool keepsText = false;       // what changes is not the text
     quint64 announcedChanges = 0; // of text.changeCount()
+    int changing = 0;             // how many Changing live
+    bool hasChanged = false;      // Change waits for them
+    bool isChangeQueued = false;
+    EventSurface surface;
     std::unique_ptr<BoxCommands> commands;
     std::optional<QPoint> dragStart; // where the selection was taken hold of
     QTextCursor dragged;             // while a drag of this box runs

@@ -24,6 +24,7 @@ void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &pu
 {
     if (pieces.isEmpty())
         return;
+    const Changing changing(*this);
     m_parts->announceChange(false);
     QTextCursor oneChange(document());
     QTextCursor caret;

@@ -1,5 +1,6 @@
 #include "widgets/combo/ImageCombo.h"
 
+#include "base/EventGuard.h"
 #include "widgets/combo/ImageComboAccess.h"
 #include "widgets/combo/ImageComboParts.h"
 #include <ORVTListview/Error.h>
@@ -165,7 +166,7 @@ void ImageCombo::setText(const QString &text)
     endSelection();
     lineEdit()->setText(text);
     remember();
-    Q_EMIT Change();
+    raiseEvent(*this, &ImageCombo::Change);
 }
 
 QColor ImageCombo::textColour() const

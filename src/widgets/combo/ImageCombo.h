@@ -107,8 +107,8 @@ Q_SIGNALS:
     void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
     void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
 
-    // For the control around the combo. The focus has gone to another control, and
-    // the list was not what took it.
+    // For the control around the combo, which is not to be destroyed here. The focus
+    // has gone to another control, and the list was not what took it.
     void focusLeft();
 
 protected:
@@ -145,6 +145,7 @@ private:
     void takeTypedName();
     void bringBack();
     void raiseNoted();
+    void raiseNotedAfter(const QEvent &event);
     void raiseChangeSoon();
     void letWork(const std::function<void()> &work);
 

@@ -33,13 +33,29 @@ bool ImageCombo::event(QEvent *event)
         const QPointer<ImageCombo> self(this);
         if (d->drag.handle(*event))
             return true;
-        if (isTab(*event)) // moves the focus before it is seen as a key
+        bool handled = true;
+        const auto work = [&] {
+            handled = EventGuard::run([&] { return QComboBox::event(event); });
+        };
+        if (isTab(*event)) { // moves the focus before it is seen as a key
             takeMarked();
-        const bool handled = EventGuard::run([&] { return QComboBox::event(event); });
+            letWork(work);
+        } else {
+            work();
+        }
         if (self && !d->isAtWork)
-            raiseNoted();
+            raiseNotedAfter(*event);
         return handled;
     });
+}
+
+// Whoever moves the focus cannot bear to lose the window meanwhile.
+void ImageCombo::raiseNotedAfter(const QEvent &event)
+{
+    if (event.type() == QEvent::FocusOut)
+        QMetaObject::invokeMethod(this, &ImageCombo::raiseNoted, Qt::QueuedConnection);
+    else
+        raiseNoted();
 }
 
 // The toolkit sends the combo further events while it works on the field; it
@@ -60,11 +76,7 @@ bool ImageCombo::eventFilter(QObject *watched, QEvent *event)
     if (!d || watched != lineEdit() || event->type() != QEvent::MouseButtonDblClick ||
         static_cast<QMouseEvent *>(event)->button() != Qt::LeftButton)
         return QComboBox::eventFilter(watched, event);
-    return d->field.deliver([this] {
-        const QPointer<ImageCombo> self(this);
-        Q_EMIT DblClick();
-        return !self;
-    });
+    return d->field.deliver([this] { return !raiseEvent(*this, &ImageCombo::DblClick); });
 }
 
 void ImageCombo::noteEdit(const QString &text)
@@ -80,23 +92,17 @@ void ImageCombo::noteEdit(const QString &text)
 
 void ImageCombo::raiseNoted()
 {
-    const QPointer<ImageCombo> self(this);
-    if (std::exchange(d->hasChanged, false))
-        Q_EMIT Change();
-    if (self && std::exchange(d->isClicked, false))
-        Q_EMIT Click();
+    if (std::exchange(d->hasChanged, false) && !raiseEvent(*this, &ImageCombo::Change))
+        return;
+    if (std::exchange(d->isClicked, false))
+        raiseEvent(*this, &ImageCombo::Click);
 }
 
 // For what comes by the field's menu or the mouse.
 void ImageCombo::raiseChangeSoon()
 {
-    const auto raiseGuarded = [this] {
-        EventGuard::run([this] {
-            Q_EMIT Change();
-            return true;
-        });
-    };
-    QMetaObject::invokeMethod(this, raiseGuarded, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { raiseEvent(*this, &ImageCombo::Change); }, Qt::QueuedConnection);
 }
 
 // What is chosen.
@@ -257,7 +263,7 @@ void ImageCombo::focusOutEvent(QFocusEvent *event)
     }
     QComboBox::focusOutEvent(event);
     takeTypedName();
-    Q_EMIT focusLeft();
+    raiseEvent(*this, &ImageCombo::focusLeft);
 }
 
 } // namespace ORVTListview

@@ -106,9 +106,8 @@ void DragEvents::start()
         m_content(*data);
     DataObject object(data.get(), DataObject::Side::Source);
     qint32 allowed = m_allowed;
-    const QPointer<DragEvents> self(this);
-    Q_EMIT OLEStartDrag(&object, allowed);
-    if (self && m_widget.isEnabled() && toActions(allowed) && !data->formats().isEmpty())
+    const bool isThere = raiseEvent(*this, &DragEvents::OLEStartDrag, &object, allowed);
+    if (isThere && m_widget.isEnabled() && toActions(allowed) && !data->formats().isEmpty())
         run(std::move(data), allowed);
 }
 
@@ -117,11 +116,8 @@ void DragEvents::run(std::unique_ptr<DragData> data, qint32 allowed)
     const QPointer<DragEvents> self(this);
     data->setMaker([self, made = data.get()](const QString &mimeType) {
         DataObject object(made, DataObject::Side::Source);
-        EventGuard::run([&] {
-            if (self)
-                Q_EMIT self->OLESetData(&object, DataObject::FormatNumber(mimeType));
-            return true;
-        });
+        if (self)
+            raiseEvent(*self, &DragEvents::OLESetData, &object, DataObject::FormatNumber(mimeType));
     });
     auto *drag = new QDrag(&m_widget);
     drag->setParent(nullptr); // outlives the widget; the toolkit deletes it
@@ -133,19 +129,16 @@ void DragEvents::run(std::unique_ptr<DragData> data, qint32 allowed)
     if (!self)
         return;
     m_source = Source::Idle;
-    Q_EMIT OLECompleteDrag(toEffect(done));
+    raiseEvent(*this, &DragEvents::OLECompleteDrag, toEffect(done));
 }
 
 void DragEvents::giveFeedback(Qt::DropAction action)
 {
-    auto *drag = qobject_cast<QDrag *>(sender());
-    const QPointer<DragEvents> self(this);
+    const QPointer<QDrag> drag = qobject_cast<QDrag *>(sender());
     bool defaultCursors = true;
-    EventGuard::run([&] {
-        Q_EMIT OLEGiveFeedback(toEffect(action), defaultCursors);
-        return true;
-    });
-    if (self && drag)
+    const bool isThere =
+        raiseEvent(*this, &DragEvents::OLEGiveFeedback, toEffect(action), defaultCursors);
+    if (isThere && drag)
         drag->setDragCursor(defaultCursors ? QPixmap() : m_widget.cursor().pixmap(), action);
 }
 
@@ -177,7 +170,8 @@ bool DragEvents::handle(QEvent &event)
 qint32 DragEvents::raiseOver(qint32 effect, const MouseArguments &mouse, State state)
 {
     DataObject data(m_overData, DataObject::Side::Target);
-    Q_EMIT OLEDragOver(&data, effect, mouse.Button, mouse.Shift, mouse.X, mouse.Y, state);
+    raiseEvent(*this, &DragEvents::OLEDragOver, &data, effect, mouse.Button, mouse.Shift, mouse.X,
+               mouse.Y, state);
     return effect;
 }
 
@@ -226,10 +220,10 @@ void DragEvents::drop(QDropEvent &event)
     DataObject data(const_cast<QMimeData *>(event.mimeData()), DataObject::Side::Target);
     const MouseArguments mouse = mouseOf(event);
     qint32 effect = effectOf(event);
-    const QPointer<DragEvents> self(this);
-    Q_EMIT OLEDragDrop(&data, effect, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
+    const bool isThere = raiseEvent(*this, &DragEvents::OLEDragDrop, &data, effect, mouse.Button,
+                                    mouse.Shift, mouse.X, mouse.Y);
     answer(event, effect);
-    if (self && m_target && effect != None)
+    if (isThere && m_target && effect != None)
         m_target->drop(event, effect);
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/EventGuard.h"
 #include "widgets/input/VirtualKeys.h"
 
-#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 
 #include <optional>
@@ -19,9 +19,7 @@ bool raiseKey(Widget &widget, KeySignal signal, const QKeyEvent &event)
     VirtualKey key = virtualKey(event);
     if (key.keyCode == 0)
         return true;
-    const QPointer<Widget> alive(&widget);
-    Q_EMIT(widget.*signal)(key.keyCode, key.shift);
-    return alive && key.keyCode != 0;
+    return raiseEvent(widget, signal, key.keyCode, key.shift) && key.keyCode != 0;
 }
 
 // The text that is left to be typed; none when a receiver has swallowed the key or
@@ -35,9 +33,7 @@ std::optional<QString> raiseCharacter(Widget &widget, CharacterSignal signal,
     if (text.size() != 1 || text.front() == deleteCharacter)
         return text;
     auto code = static_cast<qint16>(text.front().unicode());
-    const QPointer<Widget> alive(&widget);
-    Q_EMIT(widget.*signal)(code);
-    if (!alive || code == 0)
+    if (!raiseEvent(widget, signal, code) || code == 0)
         return std::nullopt;
     return QString(QChar(static_cast<char16_t>(code)));
 }

@@ -5,8 +5,6 @@
 
 #include <QtGui/QHelpEvent>
 
-#include <utility>
-
 namespace ORVTListview {
 
 ReportHeader::ReportHeader(QWidget *parent)
@@ -17,16 +15,14 @@ ReportHeader::ReportHeader(QWidget *parent)
     setMinimumSectionSize(0);
     setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setTextElideMode(Qt::ElideRight);
-    connect(this, &QHeaderView::sectionClicked, this, [this](int column) { m_clicked = column; });
 }
 
 void ReportHeader::mouseReleaseEvent(QMouseEvent *event)
 {
-    m_clicked = -1;
+    const QPointer<ReportHeader> self(this);
     QHeaderView::mouseReleaseEvent(event);
-    const int clicked = std::exchange(m_clicked, -1);
-    if (clicked >= 0)
-        Q_EMIT columnClicked(clicked); // may destroy this header
+    if (self)
+        Q_EMIT released(); // may destroy this header
 }
 
 bool ReportHeader::viewportEvent(QEvent *event)

@@ -70,14 +70,15 @@ void ReportList::setUpLook()
 void ReportList::setUpConnections()
 {
     const auto *header = static_cast<ReportHeader *>(horizontalHeader());
-    connect(header, &ReportHeader::columnClicked, this,
-            [this](int column) { Q_EMIT ColumnClick(d->handles.of(d->model.column(column))); });
+    connect(header, &QHeaderView::sectionClicked, this,
+            [this](int column) { d->clickedColumn = d->handles.of(d->model.column(column)); });
+    connect(header, &ReportHeader::released, this, [this] { raiseColumnClick(); });
     connect(header, &QHeaderView::sectionResized, this,
             [this](int column) { d->widths.columnResized(column); });
     connect(header, &QHeaderView::sectionCountChanged, this,
             [this] { d->widths.columnsChanged(); });
     connect(&d->model, &ReportModel::checkedByUser, this,
-            [this](int position) { d->checkedPosition = position; });
+            [this](int position) { d->checkedItem = d->handles.of(d->model.row(position)); });
     connect(
         &d->delegate, &ReportDelegate::labelEntered, this,
         [this](const QModelIndex &label, const QString &text) { noteLabel(label.row(), text); });

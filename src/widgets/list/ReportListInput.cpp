@@ -9,7 +9,6 @@
 #include "widgets/look/PlainToolTip.h"
 
 #include <QtCore/QMimeData>
-#include <QtCore/QPointer>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
@@ -173,11 +172,12 @@ bool ReportList::runCommand(const QKeyEvent &event)
 // Tells which row the user has come to.
 void ReportList::pick(const std::function<void()> &act)
 {
-    const ReportRow *before = d->rowChoice.selected();
+    const QPointer<ReportList> self(this);
+    const ListItem *before = SelectedItem();
     act();
-    ReportRow *after = d->rowChoice.selected();
+    ListItem *after = self ? SelectedItem() : nullptr;
     if (after && after != before)
-        Q_EMIT ItemClick(d->handles.of(*after));
+        raiseEvent(*this, &ReportList::ItemClick, after);
 }
 
 void ReportList::copySelection() const
@@ -195,7 +195,7 @@ void ReportList::toggleCurrent()
         return;
     ReportRow &row = d->model.row(current.row());
     d->model.setChecked(row, !row.content.checked);
-    Q_EMIT ItemCheck(d->handles.of(row));
+    raiseEvent(*this, &ReportList::ItemCheck, d->handles.of(row));
 }
 
 // Mouse.
@@ -203,9 +203,7 @@ void ReportList::toggleCurrent()
 bool ReportList::raiseMouse(MouseSignal signal, const QMouseEvent &event)
 {
     const MouseArguments mouse = mouseArguments(event, *this);
-    const QPointer<ReportList> self(this);
-    Q_EMIT(this->*signal)(mouse.Button, mouse.Shift, mouse.X, mouse.Y);
-    return self;
+    return raiseEvent(*this, signal, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
 }
 
 // A label that a slow click edits: of the one row that is selected already.
@@ -226,9 +224,10 @@ void ReportList::mousePressEvent(QMouseEvent *event)
     d->slowClick.press(left && !focused && event->modifiers() == Qt::NoModifier &&
                        isChosenLabel(d->pressed));
     ListItem *item = itemOf(d->pressed);
+    const QPointer<ReportList> self(this);
     QTableView::mousePressEvent(event);
-    if (item && (left || event->button() == Qt::RightButton))
-        Q_EMIT ItemClick(item);
+    if (self && item && item->isAlive() && (left || event->button() == Qt::RightButton))
+        raiseEvent(*this, &ReportList::ItemClick, item);
 }
 
 void ReportList::mouseMoveEvent(QMouseEvent *event)
@@ -241,34 +240,40 @@ void ReportList::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!raiseMouse(&ReportList::MouseUp, *event))
         return;
-    d->checkedPosition = -1;
+    d->checkedItem = nullptr;
+    const QPointer<ReportList> self(this);
     QTableView::mouseReleaseEvent(event);
+    if (!self)
+        return;
     const QPoint position = event->position().toPoint();
     const bool left = event->button() == Qt::LeftButton;
     const bool clicked =
         left && std::exchange(d->clickAwaited, false) && viewport()->rect().contains(position);
-    d->slowClick.release(clicked && d->checkedPosition < 0 && indexAt(position) == d->pressed);
-    const QPointer<ReportList> self(this);
+    d->slowClick.release(clicked && !d->checkedItem && indexAt(position) == d->pressed);
     raiseItemCheck();
     if (self && clicked)
-        Q_EMIT Click();
+        raiseEvent(*this, &ReportList::Click);
+}
+
+void ReportList::raiseColumnClick()
+{
+    ColumnHeader *column = std::exchange(d->clickedColumn, nullptr);
+    if (column && column->isAlive())
+        raiseEvent(*this, &ReportList::ColumnClick, column);
 }
 
 void ReportList::raiseItemCheck()
 {
-    const int position = std::exchange(d->checkedPosition, -1);
-    if (position >= 0)
-        Q_EMIT ItemCheck(d->handles.of(d->model.row(position)));
+    ListItem *item = std::exchange(d->checkedItem, nullptr);
+    if (item && item->isAlive())
+        raiseEvent(*this, &ReportList::ItemCheck, item);
 }
 
 void ReportList::mouseDoubleClickEvent(QMouseEvent *event)
 {
     d->slowClick.stop();
     d->clickAwaited = false;
-    const QPointer<ReportList> self(this);
-    if (event->button() == Qt::LeftButton)
-        Q_EMIT DblClick();
-    if (self)
+    if (event->button() != Qt::LeftButton || raiseEvent(*this, &ReportList::DblClick))
         QTableView::mouseDoubleClickEvent(event);
 }
 

@@ -1,5 +1,6 @@
 // How the labels of a list are edited: the events around the view's own editor.
 
+#include "base/EventGuard.h"
 #include "widgets/list/ReportListParts.h"
 #include <ORVTListview/Error.h>
 
@@ -23,7 +24,7 @@ void ReportList::StartLabelEdit()
             if (self)
                 self->d->announcesEdit = false;
         });
-        Q_EMIT BeforeLabelEdit(cancel);
+        raiseEvent(*this, &ReportList::BeforeLabelEdit, cancel);
     }
     if (!self || cancel != 0 || !item->isAlive() || d->model.columns() == 0)
         return;
@@ -46,9 +47,8 @@ void ReportList::finishLabelEdit()
     ListItem *item = d->labelItem;
     QString label = d->enteredLabel;
     qint16 cancel = 0;
-    const QPointer<ReportList> self(this);
-    Q_EMIT AfterLabelEdit(cancel, label);
-    if (self && cancel == 0 && item->isAlive())
+    const bool isThere = raiseEvent(*this, &ReportList::AfterLabelEdit, cancel, label);
+    if (isThere && cancel == 0 && item->isAlive())
         setLabel(*item, label);
 }
 

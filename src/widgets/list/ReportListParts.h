@@ -35,12 +35,13 @@ struct ReportListParts
 
     bool copies = true;
     bool editsLabels = true;
-    bool clickAwaited = false;     // the left button went down and has not come up
-    bool focusedByMouse = false;   // by the press at hand
-    QPersistentModelIndex pressed; // where it went down
-    int checkedPosition = -1;      // by the event at hand
-    bool announcesEdit = false;    // BeforeLabelEdit is being raised
-    ListItem *labelItem = nullptr; // the one whose label was entered
+    bool clickAwaited = false;             // the left button went down and has not come up
+    bool focusedByMouse = false;           // by the press at hand
+    QPersistentModelIndex pressed;         // where it went down
+    ListItem *checkedItem = nullptr;       // by the event at hand
+    ColumnHeader *clickedColumn = nullptr; // likewise
+    bool announcesEdit = false;            // BeforeLabelEdit is being raised
+    ListItem *labelItem = nullptr;         // the one whose label was entered
     QString enteredLabel;
 };
 

@@ -7,6 +7,8 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
 
+#include <utility>
+
 namespace ORVTListview {
 namespace {
 
@@ -25,6 +27,7 @@ PictureButton::PictureButton(const ImageList &images, QWidget *parent)
     , m_images(images)
 {
     setFocusPolicy(Qt::TabFocus); // a click leaves the focus where the user works
+    connect(this, &QToolButton::clicked, this, &PictureButton::noteClick);
 }
 
 void PictureButton::setPictureKeys(const QString &key, const QString &pressedKey)
@@ -42,7 +45,29 @@ QSize PictureButton::sizeHint() const
 
 bool PictureButton::event(QEvent *event)
 {
-    return EventGuard::run([this, event] { return QToolButton::event(event); });
+    const QPointer<PictureButton> self(this);
+    const bool wasAtWork = std::exchange(m_isAtWork, true);
+    const bool isHandled = EventGuard::run([&] { return QToolButton::event(event); });
+    if (!self)
+        return isHandled;
+    m_isAtWork = wasAtWork;
+    if (!m_isAtWork)
+        raiseNoted();
+    return isHandled;
+}
+
+// A screen reader's press is no event of the button.
+void PictureButton::noteClick()
+{
+    m_isClicked = true;
+    if (!m_isAtWork)
+        raiseNoted();
+}
+
+void PictureButton::raiseNoted()
+{
+    if (std::exchange(m_isClicked, false))
+        raiseEvent(*this, &PictureButton::pressedAndReleased);
 }
 
 void PictureButton::keyPressEvent(QKeyEvent *event)
@@ -55,7 +80,7 @@ void PictureButton::keyPressEvent(QKeyEvent *event)
 void PictureButton::keyReleaseEvent(QKeyEvent *event)
 {
     QKeyEvent key = spaceForEnter(*event);
-    QToolButton::keyReleaseEvent(&key); // may destroy the button
+    QToolButton::keyReleaseEvent(&key);
     event->setAccepted(key.isAccepted());
 }
 

@@ -10,7 +10,7 @@ class ImageList;
 
 // A button that is nothing but a picture, and another one while it is held down.
 // It answers the left mouse button, Space and Enter, each on release; a release
-// outside calls the click off. The receiver of clicked may destroy it.
+// outside calls the click off.
 class ORVT_EXPORT PictureButton : public QToolButton
 {
     Q_OBJECT
@@ -31,6 +31,11 @@ public:
 
     QSize sizeHint() const override;
 
+Q_SIGNALS:
+    // As clicked, but once the toolkit's work on the button is over: the receiver may
+    // destroy it.
+    void pressedAndReleased();
+
 protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -38,10 +43,15 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void noteClick();
+    void raiseNoted();
+
     const ImageList &m_images;
     QString m_key;
     QString m_pressedKey;
     QString m_tag;
+    bool m_isAtWork = false; // on an event
+    bool m_isClicked = false;
 };
 
 } // namespace ORVTListview

@@ -8,7 +8,6 @@
 #include "widgets/nodes/NodeTreeParts.h"
 
 #include <QtCore/QPointer>
-#include <QtCore/QScopedValueRollback>
 #include <QtGui/QDropEvent>
 
 #include <utility>
@@ -95,18 +94,20 @@ void NodeTree::focusOutEvent(QFocusEvent *event)
 // node is told of in any case.
 void NodeTree::letUser(const std::function<void()> &act, Node *pressed)
 {
-    const TreeNode *before = d->choice.selected();
-    {
-        const QScopedValueRollback acting(d->userActs, true);
-        act();
-    }
+    const QPointer<NodeTree> self(this);
+    const Node *before = SelectedItem();
+    const bool wasActing = std::exchange(d->userActs, true);
+    act();
+    if (!self)
+        return;
+    d->userActs = wasActing;
     keepSelectionShown();
     if (!raiseFolded())
         return;
-    if (!pressed && d->choice.selected() != before)
+    if (!pressed && SelectedItem() != before)
         pressed = SelectedItem();
     if (pressed && pressed->isAlive())
-        Q_EMIT NodeClick(pressed);
+        raiseEvent(*this, &NodeTree::NodeClick, pressed);
 }
 
 // A node that is hidden by collapsing hands its selection up.
@@ -114,7 +115,8 @@ void NodeTree::keepSelectionShown()
 {
     for (const NodeTreeParts::Folded &folded : std::as_const(d->folded)) {
         const TreeNode *chosen = d->choice.selected();
-        if (!folded.expanded && chosen && chosen->isWithin(*folded.node->m_node))
+        if (!folded.expanded && folded.node->isAlive() && chosen &&
+            chosen->isWithin(*folded.node->m_node))
             d->choice.select(folded.node->m_node);
     }
 }
@@ -122,16 +124,10 @@ void NodeTree::keepSelectionShown()
 // False when a receiver has destroyed the tree.
 bool NodeTree::raiseFolded()
 {
-    const QPointer<NodeTree> self(this);
     const auto all = std::exchange(d->folded, {});
     for (const NodeTreeParts::Folded &folded : all) {
-        if (!folded.node->isAlive())
-            continue;
-        if (folded.expanded)
-            Q_EMIT Expand(folded.node);
-        else
-            Q_EMIT Collapse(folded.node);
-        if (!self)
+        const auto event = folded.expanded ? &NodeTree::Expand : &NodeTree::Collapse;
+        if (folded.node->isAlive() && !raiseEvent(*this, event, folded.node))
             return false;
     }
     return true;
@@ -195,7 +191,7 @@ void NodeTree::toggleCurrent()
         return;
     TreeNode &node = d->model.nodeOf(current);
     d->model.setChecked(node, !node.checked);
-    Q_EMIT NodeCheck(d->handles.of(node));
+    raiseEvent(*this, &NodeTree::NodeCheck, d->handles.of(node));
 }
 
 // Mouse.
@@ -203,9 +199,7 @@ void NodeTree::toggleCurrent()
 bool NodeTree::raiseMouse(MouseSignal signal, const QMouseEvent &event)
 {
     const MouseArguments mouse = mouseArguments(event, *this);
-    const QPointer<NodeTree> self(this);
-    Q_EMIT(this->*signal)(mouse.Button, mouse.Shift, mouse.X, mouse.Y);
-    return self;
+    return raiseEvent(*this, signal, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
 }
 
 bool NodeTree::isOnExpander(const QModelIndex &index, QPoint place) const
@@ -264,14 +258,14 @@ void NodeTree::mouseReleaseEvent(QMouseEvent *event)
     d->slowClick.release(clicked && !d->checkedNode && indexAt(place) == d->pressed);
     raiseNodeCheck();
     if (self && clicked)
-        Q_EMIT Click(handleOf(d->pressed));
+        raiseEvent(*this, &NodeTree::Click, handleOf(d->pressed));
 }
 
 void NodeTree::raiseNodeCheck()
 {
     Node *node = std::exchange(d->checkedNode, nullptr);
     if (node && node->isAlive())
-        Q_EMIT NodeCheck(node);
+        raiseEvent(*this, &NodeTree::NodeCheck, node);
 }
 
 void NodeTree::mouseDoubleClickEvent(QMouseEvent *event)
@@ -280,7 +274,7 @@ void NodeTree::mouseDoubleClickEvent(QMouseEvent *event)
     d->clickAwaited = false;
     const QPointer<NodeTree> self(this);
     if (event->button() == Qt::LeftButton)
-        Q_EMIT DblClick(handleOf(indexAt(event->position().toPoint())));
+        raiseEvent(*this, &NodeTree::DblClick, handleOf(indexAt(event->position().toPoint())));
     if (self)
         letUser([this, event] { QTreeView::mouseDoubleClickEvent(event); });
 }

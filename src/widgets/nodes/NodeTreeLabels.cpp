@@ -1,6 +1,7 @@
 // How the texts of a tree's nodes are edited: the events around the view's own
 // editor.
 
+#include "base/EventGuard.h"
 #include "widgets/nodes/NodeTreeParts.h"
 
 #include <QtCore/QPointer>
@@ -21,7 +22,7 @@ void NodeTree::StartLabelEdit()
             if (self)
                 self->d->announcesEdit = false;
         });
-        Q_EMIT BeforeLabelEdit(cancel);
+        raiseEvent(*this, &NodeTree::BeforeLabelEdit, cancel);
     }
     if (!self || cancel != 0 || !node->isAlive())
         return;
@@ -42,9 +43,8 @@ void NodeTree::finishLabelEdit()
     Node *node = d->labelNode;
     QString label = d->enteredLabel;
     qint16 cancel = 0;
-    const QPointer<NodeTree> self(this);
-    Q_EMIT AfterLabelEdit(cancel, label);
-    if (self && cancel == 0 && node->isAlive())
+    const bool isThere = raiseEvent(*this, &NodeTree::AfterLabelEdit, cancel, label);
+    if (isThere && cancel == 0 && node->isAlive())
         node->setText(label);
 }
 

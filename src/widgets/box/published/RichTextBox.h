@@ -2,6 +2,7 @@
 
 #include <ORVTListview/Export.h>
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QPlainTextEdit>
 
 #include <functional>
@@ -26,8 +27,10 @@ struct TextPiece;
 // (0x80000000 plus its number), taken from the palette; -1 stands for the text
 // colour that goes with the background.
 //
-// Change is raised for every change of the text, by the user or by a call, but
-// not for colours and fonts.
+// Change is raised once for all that the user changes by one key or click, and for
+// every change by a call, but not for colours and fonts; soon after what changes the
+// document past the box. A receiver of an event may do anything, destroying the box
+// included.
 // Why it is so: docs/decisions/box.md.
 class ORVT_EXPORT RichTextBox : public QPlainTextEdit
 {
@@ -155,6 +158,19 @@ public:
     // but not in its text.
     bool keepsText() const;
 
+    // While one lives, Change waits; it then comes once for all that was changed. The
+    // box may be gone afterwards.
+    class ORVT_EXPORT Changing
+    {
+    public:
+        explicit Changing(RichTextBox &box);
+        ~Changing();
+        Q_DISABLE_COPY_MOVE(Changing) // one begin, one end
+
+    private:
+        QPointer<RichTextBox> m_box;
+    };
+
     // What keys, shortcuts, context menu, drag and drop, middle click and input
     // method end in. The box owns it; it is a plain editor at first and never null.
     BoxCommands &commands() const;
@@ -173,8 +189,17 @@ Q_SIGNALS:
     // 0 it swallows the key. Shift holds 1 for Shift, 2 for Ctrl, 4 for Alt.
     void KeyDown(qint16 &KeyCode, qint16 Shift);
 
+    // Raised before the box acts on a press. Button is 1 left, 2 right, 4 middle; X
+    // and Y are twips from the box's corner.
+    void MouseDown(qint16 Button, qint16 Shift, float X, float Y);
+
+    // For the control around the box: the text has just changed. The box cannot bear
+    // to be destroyed here.
+    void edited();
+
 protected:
     bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
@@ -209,6 +234,9 @@ private:
     QPalette paletteAround() const;
     void applyBackColor();
     void noteTextChange();
+    void noteChange();
+    void raiseQueuedChange();
+    bool handle(QEvent *event);
     void replaceAll(const std::function<void()> &insert);
     void replaceEach(const QList<TextPiece> &pieces, const PutPiece &put,
                      const std::function<void()> &finish = {});

@@ -224,6 +224,7 @@ private:
     void act(QKeyEvent &event);
     bool runCommand(const QKeyEvent &event);
     void pick(const std::function<void()> &act);
+    void raiseColumnClick();
     void raiseItemCheck();
     void toggleCurrent();
     void copySelection() const;
