@@ -358,8 +358,14 @@ void ReportListLabelTest::keepsErrorsFromTheEventLoop()
     const auto before = connect(shown.list, &ReportList::BeforeLabelEdit, this, fail);
     QTest::ignoreMessage(QtWarningMsg, "An event handler failed: Host: went wrong");
     shown.key(Qt::Key_F2);
-    QVERIFY(!hasEditor(shown));
-    QCOMPARE(errorOf([&] { shown->StartLabelEdit(); }), qint32{InvalidCall}); // to its caller
+    QVERIFY(hasEditor(shown)); // as if the receiver had returned
+    shown.key(Qt::Key_Escape);
+    QTRY_VERIFY(!hasEditor(shown));
+    QTest::ignoreMessage(QtWarningMsg, "An event handler failed: Host: went wrong");
+    shown->StartLabelEdit(); // a member raises nothing of the receivers'
+    QVERIFY(hasEditor(shown));
+    shown.key(Qt::Key_Escape);
+    QTRY_VERIFY(!hasEditor(shown));
     disconnect(before);
     connect(shown.list, &ReportList::AfterLabelEdit, this, fail);
     shown.key(Qt::Key_F2);
