@@ -182,9 +182,7 @@ void RtfWriter::writeColourTable(QString &document) const
         return;
     document += "{\\colortbl ;"_L1;
     for (const qint32 colour : m_colours)
-        document += u"\\red%1\\green%2\\blue%3;"_s.arg(QString::number(colour & 0xFF),
-                                                       QString::number(colour >> 8 & 0xFF),
-                                                       QString::number(colour >> 16 & 0xFF));
+        document += rtfColourEntry(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
     document += "}\r\n"_L1;
 }
 

@@ -1,6 +1,7 @@
 #include "editor/rules/colouring/ColourTable.h"
 
 #include "editor/rules/language/WordClass.h"
+#include "rtf/RtfEscapes.h"
 #include "shared/texts/TextTable.h"
 
 #include <algorithm>
@@ -22,12 +23,6 @@ QString settingName(int slot)
     return names[static_cast<std::size_t>(slot) - 1];
 }
 
-QString tableEntry(const SplitColours &colour)
-{
-    return u"\\red%1\\green%2\\blue%3;"_s.arg(
-        QString::number(colour.Red), QString::number(colour.Green), QString::number(colour.Blue));
-}
-
 } // namespace
 
 std::optional<SplitColours> SplitColour(qint32 Colour)
@@ -45,7 +40,8 @@ QString BuildColourTable(const RichTextSettings &Settings, QString &ErrorText,
         if (!colour)
             ErrorText +=
                 u"\r\n"_s + Localise(u"Bad %1 for Editer of Code!"_s).arg(settingName(slot));
-        entries += tableEntry(colour.value_or(SplitColours()));
+        const SplitColours shown = colour.value_or(SplitColours());
+        entries += rtfColourEntry(shown.Red, shown.Green, shown.Blue);
     }
     return u"{\\colortbl ;"_s + entries + u'}';
 }
