@@ -8,7 +8,7 @@ namespace ORVTListview {
 
 QString textKey(const QString &English)
 {
-    return trimmedBlanks(English).toString().toUpper();
+    return trimmedSpaces(English).toString().toUpper();
 }
 
 TextProvider::~TextProvider() = default;

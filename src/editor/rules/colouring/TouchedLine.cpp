@@ -1,14 +1,11 @@
 #include "editor/rules/colouring/TouchedLine.h"
 
+#include "base/TextRules.h"
+
 #include <algorithm>
 
 namespace ORVTListview {
 namespace {
-
-constexpr bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
 
 // The line as it was and as it would be, walked through side by side.
 class Merge
