@@ -22,6 +22,17 @@ struct ColouredText
     QString text;
     QList<Run> runs;
 
+    // Goes on in a colour: the last run, if it has that one, grows.
+    void appendRun(qsizetype length, qint32 colour)
+    {
+        if (length <= 0)
+            return;
+        if (!runs.isEmpty() && runs.constLast().colour == colour)
+            runs.last().length += length;
+        else
+            runs.append({length, colour});
+    }
+
     friend bool operator==(const ColouredText &, const ColouredText &) = default;
 };
 

@@ -13,16 +13,6 @@
 namespace ORVTListview {
 namespace {
 
-void appendRun(QList<ColouredText::Run> &runs, qsizetype length, qint32 colour)
-{
-    if (length <= 0)
-        return;
-    if (!runs.isEmpty() && runs.constLast().colour == colour)
-        runs.last().length += length;
-    else
-        runs.append({length, colour});
-}
-
 // The part of a fragment inside a range of the document, as a position and a length.
 struct Piece
 {
@@ -38,11 +28,11 @@ Piece pieceOf(const QTextFragment &fragment, int from, int to)
     return {first, last - first, BoxFormats::colour(fragment.charFormat())};
 }
 
-void readLine(const QTextBlock &block, int from, int to, QList<ColouredText::Run> &runs)
+void readLine(const QTextBlock &block, int from, int to, ColouredText &result)
 {
     for (auto it = block.begin(); it != block.end(); ++it) {
         const Piece piece = pieceOf(it.fragment(), from, to);
-        appendRun(runs, piece.length, piece.colour);
+        result.appendRun(piece.length, piece.colour);
     }
 }
 
@@ -192,12 +182,12 @@ ColouredText BoxColours::read(const QTextDocument &document, const BoxText &text
     const int from = text.toDocument(start);
     const int to = text.toDocument(start + length);
     for (QTextBlock block = document.findBlock(from); block.isValid(); block = block.next()) {
-        readLine(block, from, to, result.runs);
+        readLine(block, from, to, result);
         if (block.position() + block.length() > to)
             break;
         const qint32 colour =
             result.runs.isEmpty() ? ColouredText::automatic : result.runs.constLast().colour;
-        appendRun(result.runs, 2, colour);
+        result.appendRun(2, colour);
     }
     return result;
 }
