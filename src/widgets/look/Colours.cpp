@@ -1,7 +1,8 @@
 #include "widgets/look/Colours.h"
 
+#include "widgets/look/Luminance.h"
+
 #include <array>
-#include <cmath>
 
 namespace ORVTListview {
 namespace {
@@ -51,16 +52,6 @@ const SystemColour *findSystemColour(qint32 colour)
             return &entry;
     }
     return nullptr;
-}
-
-// Relative luminance as the web accessibility guidelines define it.
-double luminance(const QColor &colour)
-{
-    const auto linear = [](double channel) {
-        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
 }
 
 } // namespace
