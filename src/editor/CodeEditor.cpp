@@ -443,6 +443,7 @@ void CodeEditor::TryToPopupList(bool IsShowAbsolutely)
         m_popup.close();
         return;
     }
+    const RichTextBox::Changing changing(*m_box);
     if (IsCommentLine(m_box->lineText(m_box->GetLineFromChar(m_box->SelStart())))) {
         caretToLineEnd();
         return;
@@ -456,7 +457,6 @@ void CodeEditor::TryToPopupList(bool IsShowAbsolutely)
 // A word that needs no list takes its colour as it is typed.
 bool CodeEditor::rewriteKnownWord()
 {
-    const RichTextBox::Changing changing(*m_box);
     const QString word = GetWordAtCaret(*m_box).Word;
     qint32 colour = 0;
     if (word.isEmpty())

@@ -2,6 +2,8 @@
 
 #include "EventScenes.h"
 
+#include "find/FindDialog.h"
+#include "find/fFind.h"
 #include "widgets/look/PictureButton.h"
 
 #include <QtCore/QMimeData>
@@ -11,6 +13,7 @@
 #include <QtGui/QInputMethodEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QListView>
 #include <QtWidgets/QMenu>
@@ -341,14 +344,49 @@ Sources editorSources()
             {"DblClick", "the word list", inWordList<InList::doubleClick>}};
 }
 
+void replaceByDialog(Scene &scene)
+{
+    scene.listView->showFind(true);
+    fFind &dialog = FindDialog::shared();
+    dialog.findChild<QComboBox *>(QStringLiteral("Cbo0"))->setCurrentText(QStringLiteral("x"));
+    auto *replaceAll = dialog.findChild<QWidget *>(QStringLiteral("Cmd3"));
+    scene.user.click(*replaceAll, replaceAll->rect().center());
+}
+
+// A word that is only spelt and coloured; by a call of the host's too, in whose course
+// the control may go.
+void colourWord(Scene &scene)
+{
+    scene.box->setSelStart(0);
+    keyInBox<Qt::Key_Space, Qt::ControlModifier>(scene);
+}
+
+void colourWordByCall(Scene &scene)
+{
+    scene.box->setSelStart(0);
+    scene.listView->TryToPopupList();
+}
+
+void setTextByCall(Scene &scene)
+{
+    scene.listView->setCodeText(QStringLiteral("z"));
+}
+
+void cutByKey(Scene &scene)
+{
+    scene.listView->RTextSelectAll();
+    keyInBox<Qt::Key_X, Qt::ControlModifier>(scene);
+}
+
 // What a box inside an editor tells, whose editor may go then.
 Sources editorBoxSources()
 {
     return boxSources() + Sources{{"Change", "the word list", inWordList<InList::doubleClick>},
-                                  {"Change", "Ctrl+X", [](Scene &scene) {
-                                       scene.listView->RTextSelectAll();
-                                       keyInBox<Qt::Key_X, Qt::ControlModifier>(scene);
-                                   }}};
+                                  {"Change", "Ctrl+Space", colourWord},
+                                  {"Change", "Ctrl+X", cutByKey},
+                                  {"Change", "the find dialog", replaceByDialog},
+                                  {"Change", "setCodeText", setTextByCall},
+                                  {"Change", "TryToPopupList", colourWordByCall}};
 }
 
 // --- The combo ---
@@ -382,6 +420,7 @@ void turnWheel(Scene &scene)
 
 void typeName(Scene &scene)
 {
+    scene.combo->lineEdit()->selectAll();
     for (const Qt::Key key : {Qt::Key_T, Qt::Key_E, Qt::Key_M, Qt::Key_P, Qt::Key_2})
         scene.user.key(*scene.combo, key);
 }
