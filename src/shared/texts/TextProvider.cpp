@@ -1,8 +1,6 @@
 #include <ORVTListview/TextProvider.h>
 
 #include "base/TextRules.h"
-#include "base/ThreadState.h"
-#include "shared/texts/TextTable.h"
 
 namespace ORVTListview {
 
@@ -16,13 +14,6 @@ TextProvider::~TextProvider() = default;
 DisplayFontSettings TextProvider::DisplayFont()
 {
     return {};
-}
-
-void setTextProvider(TextProvider *Provider)
-{
-    TextTable &table = threadPart<TextTable>();
-    table.setProvider(Provider);
-    table.refresh();
 }
 
 } // namespace ORVTListview
