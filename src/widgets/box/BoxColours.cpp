@@ -18,7 +18,7 @@ struct Piece
 {
     int position = 0;
     int length = 0;
-    qint32 colour = ColouredText::automatic;
+    Colour colour = ColouredText::automatic;
 };
 
 Piece pieceOf(const QTextFragment &fragment, int from, int to)
@@ -46,7 +46,7 @@ public:
     }
 
     // The colour at `index`, and in `length` how far it holds, at most `length`.
-    qint32 at(qsizetype index, qsizetype &length)
+    Colour at(qsizetype index, qsizetype &length)
     {
         while (m_run < m_runs.size() && m_start + m_runs[m_run].length <= index)
             m_start += m_runs[m_run++].length;
@@ -82,7 +82,7 @@ void compareColours(const QTextBlock &block, int from, int to, qsizetype index, 
         Piece piece = pieceOf(it.fragment(), from, to);
         while (piece.length > 0) {
             qsizetype length = piece.length;
-            const qint32 colour = runs.at(index + piece.position - from, length);
+            const Colour colour = runs.at(index + piece.position - from, length);
             const int step = static_cast<int>(length);
             if (colour != piece.colour)
                 changes.colours.append({piece.position, step, colour});
@@ -155,7 +155,7 @@ void setColour(QTextCursor &cursor, const Piece &piece)
 
 } // namespace
 
-void BoxColours::paint(QTextDocument &document, int from, int to, qint32 colour)
+void BoxColours::paint(QTextDocument &document, int from, int to, Colour colour)
 {
     QList<Piece> pieces;
     for (QTextBlock block = document.findBlock(from); block.isValid() && block.position() < to;
@@ -185,7 +185,7 @@ ColouredText BoxColours::read(const QTextDocument &document, const BoxText &text
         readLine(block, from, to, result);
         if (block.position() + block.length() > to)
             break;
-        const qint32 colour =
+        const Colour colour =
             result.runs.isEmpty() ? ColouredText::automatic : result.runs.constLast().colour;
         result.appendRun(2, colour);
     }

@@ -25,10 +25,10 @@ QString settingName(int slot)
 
 } // namespace
 
-std::optional<SplitColours> SplitColour(qint32 Colour)
+std::optional<SplitColours> SplitColour(Colour colour)
 {
-    const qint32 low = Colour % 65536;
-    return SplitColours{low % 256, low / 256, Colour / 65536};
+    const qint32 low = colour % 65536;
+    return SplitColours{low % 256, low / 256, colour / 65536};
 }
 
 QString BuildColourTable(const RichTextSettings &Settings, QString &ErrorText,
@@ -67,9 +67,9 @@ RichTextSettings defaultColours()
     return settings;
 }
 
-qint32 shownColour(qint32 Colour)
+Colour shownColour(Colour colour)
 {
-    const SplitColours parts = *SplitColour(Colour);
+    const SplitColours parts = *SplitColour(colour);
     const auto byte = [](qint32 part) { return std::clamp(part, 0, 255); };
     return byte(parts.Blue) << 16 | byte(parts.Green) << 8 | byte(parts.Red);
 }

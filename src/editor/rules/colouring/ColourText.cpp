@@ -66,8 +66,8 @@ private:
         result.appendRun(text.size(), m_colour);
     }
 
-    std::array<qint32, colourSlots + 1> m_colours{ColouredText::automatic};
-    qint32 m_colour = ColouredText::automatic;
+    std::array<Colour, colourSlots + 1> m_colours{ColouredText::automatic};
+    Colour m_colour = ColouredText::automatic;
 };
 
 } // namespace

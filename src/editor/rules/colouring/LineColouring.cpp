@@ -48,7 +48,7 @@ private:
     const RichTextSettings &m_settings;
     ColouredText m_result;
     qsizetype m_coloured = 0;
-    qint32 m_colour = ColouredText::automatic;
+    Colour m_colour = ColouredText::automatic;
 };
 
 } // namespace

@@ -119,7 +119,7 @@ ClassifiedWord Vocabulary::classify(QStringView word) const
     return {WordClass::Other, text};
 }
 
-qint32 Vocabulary::ClassifyWord(const QString &Word, QString &Shown,
+Colour Vocabulary::ClassifyWord(const QString &Word, QString &Shown,
                                 const RichTextSettings &settings) const
 {
     const ClassifiedWord word = classify(Word);

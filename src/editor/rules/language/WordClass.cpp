@@ -30,7 +30,7 @@ constexpr std::array<ClassLook, 11> looks{{
 static_assert(looks.size() == static_cast<std::size_t>(WordClass::Comment) + 1);
 
 // In the order of ColourIndex, from 1.
-constexpr std::array<qint32 RichTextSettings::*, colourSlots> slotColours{
+constexpr std::array<Colour RichTextSettings::*, colourSlots> slotColours{
     &RichTextSettings::BackColor,     &RichTextSettings::CommentColor,
     &RichTextSettings::ConstantColor, &RichTextSettings::InputColor,
     &RichTextSettings::OutputColor,   &RichTextSettings::ReservedWordColor,
@@ -58,7 +58,7 @@ WordClass classOfType(qint32 type)
 
 } // namespace
 
-qint32 colourOfSlot(int slot, const RichTextSettings &settings)
+Colour colourOfSlot(int slot, const RichTextSettings &settings)
 {
     const bool isSlot = slot >= 1 && slot <= colourSlots;
     return isSlot ? settings.*slotColours[static_cast<std::size_t>(slot) - 1] : 0;
