@@ -1,8 +1,8 @@
 #include "colour/CommandLine.h"
 #include "colour/ProgramColouring.h"
-#include "colour/SevenBitRtf.h"
 #include "project/ProjectError.h"
 #include "project/TextFile.h"
+#include "rtf/RtfEscapes.h"
 
 #include <QtCore/QFile>
 

@@ -10,11 +10,6 @@
 namespace ORVTListview {
 namespace {
 
-bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
-
 bool isPunctuation(QChar c)
 {
     return c == u'(' || c == u')' || c == u',';

@@ -1,26 +1,17 @@
 #include "Appearance.h"
 
+#include "widgets/look/Luminance.h"
+
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
 
 #include <algorithm>
-#include <cmath>
 
 namespace ORVTListview {
 namespace {
 
 constexpr double leastContrast = 6.0;
 constexpr int highestSaturation = 150; // of 255; more than that glares on dark
-
-// As web accessibility defines it, 0 to 1.
-double luminance(const QColor &colour)
-{
-    const auto linear = [](double channel) {
-        return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
 
 // The hue made so light, and no lighter, that it is read as well as any other.
 qint32 madeLight(qint32 colour, const QColor &ground)

@@ -1,5 +1,7 @@
 #include "PointChooser.h"
 
+#include "shared/points/PictureNumbers.h"
+
 #include <ORVTListview/ImageList.h>
 #include <ORVTListview/ORVDataCombo.h>
 
@@ -17,11 +19,11 @@ namespace {
 struct Kind
 {
     LwType type;
-    int picture; // as in the combo itself
+    PictureNumber picture; // as in the combo itself
 };
 
-constexpr std::array kinds{Kind{dsInput, 68}, Kind{dsOutput, 69}, Kind{dsVariable, 67},
-                           Kind{dsConst, 66}};
+constexpr std::array kinds{Kind{dsInput, InputPicture}, Kind{dsOutput, OutputPicture},
+                           Kind{dsVariable, VariablePicture}, Kind{dsConst, ConstantPicture}};
 
 QString nameOf(LwType type)
 {

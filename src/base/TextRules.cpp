@@ -10,11 +10,6 @@ constexpr bool isDigit(QChar c)
     return c >= u'0' && c <= u'9';
 }
 
-constexpr bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
-
 qsizetype skipDigits(QStringView text, qsizetype from)
 {
     while (from < text.size() && isDigit(text[from]))
@@ -27,11 +22,12 @@ qsizetype skipSign(QStringView text, qsizetype from)
     return from < text.size() && (text[from] == u'+' || text[from] == u'-') ? from + 1 : from;
 }
 
-QStringView withoutOuterBlanks(QStringView text)
+template <typename IsOuter>
+QStringView trimmed(QStringView text, IsOuter isOuter)
 {
-    while (!text.isEmpty() && isBlank(text.front()))
+    while (!text.isEmpty() && isOuter(text.front()))
         text = text.sliced(1);
-    while (!text.isEmpty() && isBlank(text.back()))
+    while (!text.isEmpty() && isOuter(text.back()))
         text.chop(1);
     return text;
 }
@@ -59,18 +55,14 @@ bool isExponent(QStringView text)
 
 } // namespace
 
-QStringView trimmedBlanks(QStringView text)
+QStringView trimmedSpaces(QStringView text)
 {
-    while (!text.isEmpty() && text.front() == u' ')
-        text = text.sliced(1);
-    while (!text.isEmpty() && text.back() == u' ')
-        text.chop(1);
-    return text;
+    return trimmed(text, [](QChar c) { return c == u' '; });
 }
 
 bool isNumeric(QStringView text)
 {
-    text = withoutOuterBlanks(text);
+    text = trimmed(text, isBlank);
     const qsizetype start = skipSign(text, 0);
     const qsizetype end = skipMantissa(text, start);
     if (end == start)
@@ -80,7 +72,7 @@ bool isNumeric(QStringView text)
 
 std::optional<bool> toBoolean(QStringView text)
 {
-    const QStringView word = withoutOuterBlanks(text);
+    const QStringView word = trimmed(text, isBlank);
     if (word.compare(u"true", Qt::CaseInsensitive) == 0)
         return true;
     if (word.compare(u"false", Qt::CaseInsensitive) == 0)

@@ -8,8 +8,15 @@
 
 namespace ORVTListview {
 
-// The text without leading and trailing blanks (U+0020 only).
-ORVT_CORE_EXPORT QStringView trimmedBlanks(QStringView text);
+// What words of a program stand between on a line: spaces and tabs, no other white
+// space.
+constexpr bool isBlank(QChar c)
+{
+    return c == u' ' || c == u'\t';
+}
+
+// The text without leading and trailing spaces (U+0020 only).
+ORVT_CORE_EXPORT QStringView trimmedSpaces(QStringView text);
 
 // Numeric, in every locale alike: blanks (spaces, tabs) around an optional sign,
 // digits with an optional decimal point on either side or between them, and an

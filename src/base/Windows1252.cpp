@@ -1,7 +1,6 @@
 #include "base/Windows1252.h"
 
 #include <algorithm>
-#include <array>
 
 namespace ORVTListview {
 namespace {
@@ -9,12 +8,8 @@ namespace {
 constexpr char16_t firstOwn = 0x80;
 constexpr char16_t pastOwn = 0xA0;
 
-// The bytes 80 to 9F. All others are the Unicode character of the same number.
-constexpr std::array<char16_t, pastOwn - firstOwn> ownCharacters{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
-};
+// All other characters have the number of their byte.
+constexpr std::u16string_view ownCharacters = windows1252UpperHalf.substr(0, pastOwn - firstOwn);
 
 constexpr int noByte = -1;
 
@@ -22,8 +17,8 @@ int byteOf(char16_t character)
 {
     if (character < firstOwn || (character >= pastOwn && character <= 0xFF))
         return character;
-    const auto own = std::find(ownCharacters.begin(), ownCharacters.end(), character);
-    return own == ownCharacters.end() ? noByte : firstOwn + int(own - ownCharacters.begin());
+    const auto own = ownCharacters.find(character);
+    return own == ownCharacters.npos ? noByte : firstOwn + int(own);
 }
 
 } // namespace
@@ -33,8 +28,7 @@ QString fromWindows1252(QByteArrayView bytes)
     QString text(bytes.size(), Qt::Uninitialized);
     std::transform(bytes.begin(), bytes.end(), text.begin(), [](char byte) {
         const char16_t number = static_cast<uchar>(byte);
-        const bool isOwn = number >= firstOwn && number < pastOwn;
-        return QChar(isOwn ? ownCharacters[number - firstOwn] : number);
+        return QChar(number < firstOwn ? number : windows1252UpperHalf[number - firstOwn]);
     });
     return text;
 }

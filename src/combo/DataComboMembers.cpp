@@ -1,6 +1,6 @@
 #include <ORVTListview/ORVDataCombo.h>
 
-#include "members/MemberEntries.h"
+#include "members/InputEvents.h"
 
 namespace ORVTListview {
 
@@ -31,22 +31,12 @@ QList<Member> comboMembers()
 
 QList<Member> comboEvents()
 {
-    return {
+    const QList<Member> own{
         raises<&Combo::Change>(1, u"Change"),
         raises<&Combo::Click>(2, u"Click"),
         raises<&Combo::DblClick>(3, u"DblClick"),
-        raises<&Combo::KeyDown>(4, u"KeyDown", u"KeyCode", u"Shift"),
-        raises<&Combo::KeyPress>(5, u"KeyPress", u"KeyAscii"),
-        raises<&Combo::KeyUp>(6, u"KeyUp", u"KeyCode", u"Shift"),
-        raises<&Combo::OLECompleteDrag>(7, u"OLECompleteDrag", u"Effect"),
-        raises<&Combo::OLEDragDrop>(8, u"OLEDragDrop", u"Data", u"Effect", u"Button", u"Shift",
-                                    u"X", u"Y"),
-        raises<&Combo::OLEDragOver>(9, u"OLEDragOver", u"Data", u"Effect", u"Button", u"Shift",
-                                    u"X", u"Y", u"State"),
-        raises<&Combo::OLEGiveFeedback>(10, u"OLEGiveFeedback", u"Effect", u"DefaultCursors"),
-        raises<&Combo::OLESetData>(11, u"OLESetData", u"Data", u"DataFormat"),
-        raises<&Combo::OLEStartDrag>(12, u"OLEStartDrag", u"Data", u"AllowedEffects"),
     };
+    return own + keyEvents<Combo>(4) + dragEvents<Combo>(7);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "shared/texts/TextRoutine.h"
 #include "shared/texts/TextTable.h"
 #include "widgets/combo/ImageCombo.h"
+#include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Colours.h"
 #include "widgets/look/Pictures.h"
 #include <ORVTListview/Error.h>
@@ -71,15 +72,8 @@ void ORVDataCombo::relayEvents()
     connect(combo, &ImageCombo::Change, this, &ORVDataCombo::Change);
     connect(combo, &ImageCombo::Click, this, &ORVDataCombo::Click);
     connect(combo, &ImageCombo::DblClick, this, &ORVDataCombo::DblClick);
-    connect(combo, &ImageCombo::KeyDown, this, &ORVDataCombo::KeyDown);
-    connect(combo, &ImageCombo::KeyPress, this, &ORVDataCombo::KeyPress);
-    connect(combo, &ImageCombo::KeyUp, this, &ORVDataCombo::KeyUp);
-    connect(combo, &ImageCombo::OLECompleteDrag, this, &ORVDataCombo::OLECompleteDrag);
-    connect(combo, &ImageCombo::OLEDragDrop, this, &ORVDataCombo::OLEDragDrop);
-    connect(combo, &ImageCombo::OLEDragOver, this, &ORVDataCombo::OLEDragOver);
-    connect(combo, &ImageCombo::OLEGiveFeedback, this, &ORVDataCombo::OLEGiveFeedback);
-    connect(combo, &ImageCombo::OLESetData, this, &ORVDataCombo::OLESetData);
-    connect(combo, &ImageCombo::OLEStartDrag, this, &ORVDataCombo::OLEStartDrag);
+    relayKeys(combo, this);
+    relayDrags(combo, this);
 }
 
 void ORVDataCombo::FillDataListview(LwType TypeIndex, PointCollection *, QString &ErrMsg)

@@ -70,7 +70,7 @@ QList<ComboEntry> pointEntries(qint32 type)
     return entries;
 }
 
-std::optional<qint32> pointColour(qint32 image)
+std::optional<Colour> pointColour(qint32 image)
 {
     const auto &state = threadPart<EditorState>();
     if (state.RtfHeader.isEmpty())

@@ -19,8 +19,8 @@ bool hasPointEntries(qint32 type);
 // collection has nothing. What the collection throws comes through.
 QList<ComboEntry> pointEntries(qint32 type);
 
-// The colour, 0x00BBGGRR or a system colour, of the type that the picture belongs
-// to. None for other pictures, and as long as the host has given no colours.
-std::optional<qint32> pointColour(qint32 image);
+// The colour of the type that the picture belongs to. None for other pictures, and
+// as long as the host has given no colours.
+std::optional<Colour> pointColour(qint32 image);
 
 } // namespace ORVTListview

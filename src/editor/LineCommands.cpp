@@ -1,6 +1,7 @@
 #include "editor/LineCommands.h"
 
 #include "base/TextPiece.h"
+#include "base/TextRules.h"
 #include "editor/rules/language/CodeText.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -8,11 +9,6 @@
 
 namespace ORVTListview {
 namespace {
-
-constexpr bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
 
 bool isAllBlank(QStringView text)
 {

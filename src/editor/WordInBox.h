@@ -14,8 +14,8 @@ WordAtCaret GetWordAtCaret(const RichTextBox &box);
 struct ColouredWord
 {
     QString Word;
-    qint32 WordStart = 1; // 1-based
-    qint32 Colour = 0;    // 0x00BBGGRR; the comment colour on a comment line
+    qint32 WordStart = 1;            // 1-based
+    ORVTListview::Colour Colour = 0; // the comment colour on a comment line
 };
 ColouredWord GetWordAndColourAt(const RichTextBox &box, qint32 position);
 

@@ -1,6 +1,6 @@
 #include <ORVTListview/ORVListView.h>
 
-#include "members/MemberEntries.h"
+#include "members/InputEvents.h"
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/DataObject.h>
@@ -103,7 +103,7 @@ QList<Member> commandMembers()
 
 QList<Member> listEvents()
 {
-    return {
+    const QList<Member> own{
         raises<&List::AfterLabelEdit>(1, u"AfterLabelEdit", u"Cancel", u"NewString"),
         raises<&List::BeforeLabelEdit>(2, u"BeforeLabelEdit", u"Cancel"),
         raises<&List::Click>(3, u"Click"),
@@ -111,21 +111,8 @@ QList<Member> listEvents()
         raises<&List::DblClick>(5, u"DblClick"),
         raises<&List::ItemCheck>(6, u"ItemCheck", u"Item"),
         raises<&List::ItemClick>(7, u"ItemClick", u"Item"),
-        raises<&List::KeyDown>(8, u"KeyDown", u"KeyCode", u"Shift"),
-        raises<&List::KeyPress>(9, u"KeyPress", u"KeyAscii"),
-        raises<&List::KeyUp>(10, u"KeyUp", u"KeyCode", u"Shift"),
-        raises<&List::MouseDown>(11, u"MouseDown", u"Button", u"Shift", u"X", u"Y"),
-        raises<&List::MouseMove>(12, u"MouseMove", u"Button", u"Shift", u"X", u"Y"),
-        raises<&List::MouseUp>(13, u"MouseUp", u"Button", u"Shift", u"X", u"Y"),
-        raises<&List::OLECompleteDrag>(14, u"OLECompleteDrag", u"Effect"),
-        raises<&List::OLEDragDrop>(15, u"OLEDragDrop", u"Data", u"Effect", u"Button", u"Shift",
-                                   u"X", u"Y"),
-        raises<&List::OLEDragOver>(16, u"OLEDragOver", u"Data", u"Effect", u"Button", u"Shift",
-                                   u"X", u"Y", u"State"),
-        raises<&List::OLEGiveFeedback>(17, u"OLEGiveFeedback", u"Effect", u"DefaultCursors"),
-        raises<&List::OLESetData>(18, u"OLESetData", u"Data", u"DataFormat"),
-        raises<&List::OLEStartDrag>(19, u"OLEStartDrag", u"Data", u"AllowedEffects"),
     };
+    return own + keyEvents<List>(8) + mouseEvents<List>(11) + dragEvents<List>(14);
 }
 
 QList<Member> hostEvents()

@@ -1,6 +1,7 @@
 // How the events of the control's parts reach the host.
 
 #include "listview/ORVListViewParts.h"
+#include "widgets/input/RelayedEvents.h"
 
 namespace ORVTListview {
 
@@ -27,9 +28,7 @@ void ORVListView::connectListEvents()
     connect(d->list, &ReportList::DblClick, this, &ORVListView::DblClick);
     connect(d->list, &ReportList::ItemCheck, this, &ORVListView::ItemCheck);
     connect(d->list, &ReportList::ItemClick, this, &ORVListView::ItemClick);
-    connect(d->list, &ReportList::MouseDown, this, &ORVListView::MouseDown);
-    connect(d->list, &ReportList::MouseMove, this, &ORVListView::MouseMove);
-    connect(d->list, &ReportList::MouseUp, this, &ORVListView::MouseUp);
+    relayMouse(d->list, this);
 }
 
 // While the list serves as word list, keys that go down are its own.
@@ -51,12 +50,7 @@ void ORVListView::connectListKeys()
 
 void ORVListView::connectListDrags()
 {
-    connect(d->list, &ReportList::OLECompleteDrag, this, &ORVListView::OLECompleteDrag);
-    connect(d->list, &ReportList::OLEDragDrop, this, &ORVListView::OLEDragDrop);
-    connect(d->list, &ReportList::OLEDragOver, this, &ORVListView::OLEDragOver);
-    connect(d->list, &ReportList::OLEGiveFeedback, this, &ORVListView::OLEGiveFeedback);
-    connect(d->list, &ReportList::OLESetData, this, &ORVListView::OLESetData);
-    connect(d->list, &ReportList::OLEStartDrag, this, &ORVListView::OLEStartDrag);
+    relayDrags(d->list, this);
 }
 
 } // namespace ORVTListview

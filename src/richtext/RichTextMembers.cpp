@@ -1,6 +1,6 @@
 #include <ORVTListview/ORVRichText.h>
 
-#include "members/MemberEntries.h"
+#include "members/InputEvents.h"
 
 namespace ORVTListview {
 
@@ -32,26 +32,13 @@ QList<Member> shellMembers()
 
 QList<Member> inputEvents()
 {
-    return {
+    const QList<Member> own{
         raises<&Shell::Change>(1, u"Change"),
         raises<&Shell::SelChange>(2, u"SelChange"),
         raises<&Shell::Click>(3, u"Click"),
         raises<&Shell::DblClick>(4, u"DblClick"),
-        raises<&Shell::KeyDown>(5, u"KeyDown", u"KeyCode", u"Shift"),
-        raises<&Shell::KeyPress>(6, u"KeyPress", u"KeyAscii"),
-        raises<&Shell::KeyUp>(7, u"KeyUp", u"KeyCode", u"Shift"),
-        raises<&Shell::MouseDown>(8, u"MouseDown", u"Button", u"Shift", u"X", u"Y"),
-        raises<&Shell::MouseMove>(9, u"MouseMove", u"Button", u"Shift", u"X", u"Y"),
-        raises<&Shell::MouseUp>(10, u"MouseUp", u"Button", u"Shift", u"X", u"Y"),
-        raises<&Shell::OLECompleteDrag>(11, u"OLECompleteDrag", u"Effect"),
-        raises<&Shell::OLEDragDrop>(12, u"OLEDragDrop", u"Data", u"Effect", u"Button", u"Shift",
-                                    u"X", u"Y"),
-        raises<&Shell::OLEDragOver>(13, u"OLEDragOver", u"Data", u"Effect", u"Button", u"Shift",
-                                    u"X", u"Y", u"State"),
-        raises<&Shell::OLEGiveFeedback>(14, u"OLEGiveFeedback", u"Effect", u"DefaultCursors"),
-        raises<&Shell::OLESetData>(15, u"OLESetData", u"Data", u"DataFormat"),
-        raises<&Shell::OLEStartDrag>(16, u"OLEStartDrag", u"Data", u"AllowedEffects"),
     };
+    return own + keyEvents<Shell>(5) + mouseEvents<Shell>(8) + dragEvents<Shell>(11);
 }
 
 QList<Member> hostEvents()

@@ -26,6 +26,7 @@ void appendByte(QString &out, char16_t byte)
     appendDigits(out, byte, 16);
 }
 
+// A UTF-16 unit is a signed number of 16 bits.
 void appendUnit(QString &out, char16_t unit)
 {
     out += "\\u"_L1;
@@ -84,6 +85,25 @@ void appendRtfFontName(QString &out, const QString &name)
         else
             appendRtfText(out, QStringView(&c, 1));
     }
+}
+
+QByteArray sevenBitRtf(QStringView rtf)
+{
+    QString out;
+    out.reserve(rtf.size());
+    for (const QChar c : rtf) {
+        if (c < u'\x80')
+            out += c;
+        else
+            appendUnit(out, c.unicode());
+    }
+    return out.toLatin1();
+}
+
+QString rtfColourEntry(qint32 red, qint32 green, qint32 blue)
+{
+    return u"\\red%1\\green%2\\blue%3;"_s.arg(QString::number(red), QString::number(green),
+                                              QString::number(blue));
 }
 
 } // namespace ORVTListview

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <ORVTListview/CoreExport.h>
+
+#include <QtCore/QByteArray>
 #include <QtCore/QString>
 
 namespace ORVTListview {
@@ -9,6 +12,12 @@ namespace ORVTListview {
 void appendRtfText(QString &out, QStringView text);
 void appendRtfFontName(QString &out, const QString &name);
 
+// A document that holds other characters, in 7-bit characters as a file has it.
+ORVT_CORE_EXPORT QByteArray sevenBitRtf(QStringView rtf);
+
 void appendRtfNumber(QString &out, qint64 number);
+
+// An entry of the colour table, its ";" included.
+ORVT_CORE_EXPORT QString rtfColourEntry(qint32 red, qint32 green, qint32 blue);
 
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ORVTListview/Colour.h>
 #include <ORVTListview/CoreExport.h>
 
 #include <QtCore/QString>
@@ -11,12 +12,12 @@ namespace ORVTListview {
 // left to whoever shows the text.
 struct RtfFormat
 {
-    static constexpr qint32 automatic = -1;
+    static constexpr Colour automatic = -1;
 
-    QString fontName = {};         // empty: not stated
-    qint32 halfPoints = 0;         // font size; 0: not stated
-    qint32 colour = automatic;     // 0x00BBGGRR
-    qint32 backColour = automatic; // 0x00BBGGRR
+    QString fontName = {}; // empty: not stated
+    qint32 halfPoints = 0; // font size; 0: not stated
+    Colour colour = automatic;
+    Colour backColour = automatic;
     bool bold = false;
     bool italic = false;
     bool underline = false;

@@ -102,7 +102,7 @@ void RtfColourTable::finishEntry()
     m_entry = 0;
 }
 
-qint32 RtfColourTable::colour(qint32 index) const
+Colour RtfColourTable::colour(qint32 index) const
 {
     const bool isThere = index >= 0 && index < std::ssize(m_colours);
     return isThere ? m_colours[static_cast<std::size_t>(index)] : RtfFormat::automatic;

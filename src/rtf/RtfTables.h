@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ORVTListview/Colour.h>
+
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QStringView>
@@ -60,7 +62,7 @@ private:
     Font m_unstated;
 };
 
-// The colours of a document, each 0x00BBGGRR or automatic.
+// The colours of a document; none of them a system colour.
 class RtfColourTable
 {
 public:
@@ -71,14 +73,14 @@ public:
     void addSource(QStringView text);            // each ";" ends an entry
 
     // Automatic for an entry without components and for one that is not there.
-    qint32 colour(qint32 index) const;
+    Colour colour(qint32 index) const;
 
 private:
     void finishEntry();
 
-    std::vector<qint32> m_colours;
+    std::vector<Colour> m_colours;
     bool m_isStated = false;
-    qint32 m_entry = 0;
+    Colour m_entry = 0;
 };
 
 } // namespace ORVTListview

@@ -63,7 +63,7 @@ void RtfWriter::keepLastLineEnds()
 
 RtfWriter::Settings RtfWriter::settingsOf(const RtfFormat &format)
 {
-    const auto either = [](qint32 stated, qint32 base) {
+    const auto either = [](Colour stated, Colour base) {
         return stated == RtfFormat::automatic ? base : stated;
     };
     return {.font = format.fontName.isEmpty() ? 0 : fontIndex(format.fontName),
@@ -90,7 +90,7 @@ qsizetype RtfWriter::fontIndex(const QString &name)
 }
 
 // Entry 0 of the table is the automatic colour.
-qsizetype RtfWriter::colourIndex(qint32 colour)
+qsizetype RtfWriter::colourIndex(Colour colour)
 {
     if (colour == RtfFormat::automatic)
         return 0;
@@ -181,10 +181,8 @@ void RtfWriter::writeColourTable(QString &document) const
     if (m_colours.isEmpty())
         return;
     document += "{\\colortbl ;"_L1;
-    for (const qint32 colour : m_colours)
-        document += u"\\red%1\\green%2\\blue%3;"_s.arg(QString::number(colour & 0xFF),
-                                                       QString::number(colour >> 8 & 0xFF),
-                                                       QString::number(colour >> 16 & 0xFF));
+    for (const Colour colour : m_colours)
+        document += rtfColourEntry(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
     document += "}\r\n"_L1;
 }
 

@@ -47,7 +47,7 @@ private:
 
     Settings settingsOf(const RtfFormat &format);
     qsizetype fontIndex(const QString &name);
-    qsizetype colourIndex(qint32 colour);
+    qsizetype colourIndex(Colour colour);
     void start(const RtfFormat &format);
     void change(const RtfFormat &format);
     void writeChanges(const Settings &settings);
@@ -63,8 +63,8 @@ private:
     bool m_isStarted = false;
     QStringList m_fonts;
     QHash<QString, qsizetype> m_fontIndexes;
-    QList<qint32> m_colours;
-    QHash<qint32, qsizetype> m_colourIndexes;
+    QList<Colour> m_colours;
+    QHash<Colour, qsizetype> m_colourIndexes;
     QString m_body;
 };
 

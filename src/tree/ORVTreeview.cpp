@@ -12,6 +12,7 @@
 #include "tree/rules/PageArrangement.h"
 #include "tree/rules/PointCounts.h"
 #include "tree/rules/TypeCollections.h"
+#include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Pictures.h"
 #include "widgets/nodes/NodeTree.h"
 #include <ORVTListview/Error.h>
@@ -86,20 +87,11 @@ void ORVTreeview::forwardEvents()
     connect(tree, &NodeTree::Collapse, this, &ORVTreeview::Collapse);
     connect(tree, &NodeTree::DblClick, this, &ORVTreeview::DblClick);
     connect(tree, &NodeTree::Expand, this, &ORVTreeview::Expand);
-    connect(tree, &NodeTree::KeyDown, this, &ORVTreeview::KeyDown);
-    connect(tree, &NodeTree::KeyPress, this, &ORVTreeview::KeyPress);
-    connect(tree, &NodeTree::KeyUp, this, &ORVTreeview::KeyUp);
-    connect(tree, &NodeTree::MouseDown, this, &ORVTreeview::MouseDown);
-    connect(tree, &NodeTree::MouseMove, this, &ORVTreeview::MouseMove);
-    connect(tree, &NodeTree::MouseUp, this, &ORVTreeview::MouseUp);
+    relayKeys(tree, this);
+    relayMouse(tree, this);
     connect(tree, &NodeTree::NodeCheck, this, &ORVTreeview::NodeCheck);
     connect(tree, &NodeTree::NodeClick, this, &ORVTreeview::NodeClick);
-    connect(tree, &NodeTree::OLECompleteDrag, this, &ORVTreeview::OLECompleteDrag);
-    connect(tree, &NodeTree::OLEDragDrop, this, &ORVTreeview::OLEDragDrop);
-    connect(tree, &NodeTree::OLEDragOver, this, &ORVTreeview::OLEDragOver);
-    connect(tree, &NodeTree::OLEGiveFeedback, this, &ORVTreeview::OLEGiveFeedback);
-    connect(tree, &NodeTree::OLESetData, this, &ORVTreeview::OLESetData);
-    connect(tree, &NodeTree::OLEStartDrag, this, &ORVTreeview::OLEStartDrag);
+    relayDrags(tree, this);
 }
 
 QSize ORVTreeview::sizeHint() const

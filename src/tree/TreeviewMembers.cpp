@@ -1,6 +1,6 @@
 #include <ORVTListview/ORVTreeview.h>
 
-#include "members/MemberEntries.h"
+#include "members/InputEvents.h"
 
 namespace ORVTListview {
 
@@ -43,7 +43,7 @@ QList<Member> pageMembers()
     };
 }
 
-QList<Member> events()
+QList<Member> nodeEvents()
 {
     return {
         raises<&Tree::AfterLabelEdit>(1, u"AfterLabelEdit", u"Cancel", u"NewString"),
@@ -52,24 +52,21 @@ QList<Member> events()
         raises<&Tree::Collapse>(4, u"Collapse", u"Node"),
         raises<&Tree::DblClick>(5, u"DblClick", u"Node"),
         raises<&Tree::Expand>(6, u"Expand", u"Node"),
-        raises<&Tree::KeyDown>(7, u"KeyDown", u"KeyCode", u"Shift"),
-        raises<&Tree::KeyPress>(8, u"KeyPress", u"KeyAscii"),
-        raises<&Tree::KeyUp>(9, u"KeyUp", u"KeyCode", u"Shift"),
-        raises<&Tree::MouseDown>(10, u"MouseDown", u"Button", u"Shift", u"X", u"Y"),
-        raises<&Tree::MouseMove>(11, u"MouseMove", u"Button", u"Shift", u"X", u"Y"),
-        raises<&Tree::MouseUp>(12, u"MouseUp", u"Button", u"Shift", u"X", u"Y"),
+    };
+}
+
+QList<Member> choiceEvents()
+{
+    return {
         raises<&Tree::NodeCheck>(13, u"NodeCheck", u"Node"),
         raises<&Tree::NodeClick>(14, u"NodeClick", u"Node"),
-        raises<&Tree::OLECompleteDrag>(15, u"OLECompleteDrag", u"Effect"),
-        raises<&Tree::OLEDragDrop>(16, u"OLEDragDrop", u"Data", u"Effect", u"Button", u"Shift",
-                                   u"X", u"Y"),
-        raises<&Tree::OLEDragOver>(17, u"OLEDragOver", u"Data", u"Effect", u"Button", u"Shift",
-                                   u"X", u"Y", u"State"),
-        raises<&Tree::OLEGiveFeedback>(18, u"OLEGiveFeedback", u"Effect", u"DefaultCursors"),
-        raises<&Tree::OLESetData>(19, u"OLESetData", u"Data", u"DataFormat"),
-        raises<&Tree::OLEStartDrag>(20, u"OLEStartDrag", u"Data", u"AllowedEffects"),
-        raises<&Tree::UpdatePages>(21, u"UpdatePages", u"Pages"),
     };
+}
+
+QList<Member> events()
+{
+    return nodeEvents() + keyEvents<Tree>(7) + mouseEvents<Tree>(10) + choiceEvents() +
+           dragEvents<Tree>(15) + QList{raises<&Tree::UpdatePages>(21, u"UpdatePages", u"Pages")};
 }
 
 } // namespace

@@ -241,7 +241,7 @@ public:
     Q_INVOKABLE void TryToPopupList();
 
     // The word around the 0-based position StartIndex. WordStartIndex receives its
-    // 1-based start, Color its colour 0x00BBGGRR: that of its class, 0 for none,
+    // 1-based start, Color its colour: that of its class, 0 for none,
     // the comment colour on a comment line. The selection stays as it is.
     Q_INVOKABLE QString GetWholeWord(qint32 &StartIndex, qint32 &WordStartIndex, qint32 &Color);
 

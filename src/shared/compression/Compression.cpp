@@ -1,12 +1,12 @@
 #include "shared/compression/Compression.h"
 
 #include "base/Windows1252.h"
+#include "shared/compression/SlicedCompressor.h"
 
 #include <zlib.h>
 
 #include <algorithm>
 #include <new>
-#include <optional>
 
 namespace ORVTListview::ModZlib {
 
@@ -29,19 +29,11 @@ Bytef *bytesOf(QByteArray &bytes)
 
 QString compressed(const QString &text)
 {
-    if (text.size() > maximumLength)
-        throw compressError(Z_MEM_ERROR);
-    const std::optional<QByteArray> bytes = toWindows1252(text);
-    if (!bytes)
+    SlicedCompressor compressor(text.size());
+    if (!compressor.add(text))
         throw Error(InvalidCall, u"CompressString"_s,
                     u"The text holds a character that the 8-bit code page lacks"_s);
-    QByteArray stream(compressedCapacity(bytes->size()), Qt::Uninitialized);
-    auto length = static_cast<uLongf>(stream.size());
-    const int code =
-        ::compress(bytesOf(stream), &length, bytesOf(*bytes), static_cast<uLong>(bytes->size()));
-    if (code != Z_OK)
-        throw compressError(code);
-    return compressedForm(text.size(), QByteArrayView(stream).first(qsizetype(length)));
+    return compressor.finish();
 }
 
 // A number beyond the bound reads as the bound plus one.
@@ -93,11 +85,6 @@ QString uncompressed(const QString &text)
     return result;
 }
 
-Error errorOf(int code, const QString &routine, const QString &description)
-{
-    return {ObjectErrorBase + qAbs(code), routine, description};
-}
-
 } // namespace
 
 bool canCompress(QStringView text)
@@ -121,49 +108,6 @@ QString UncompressString(const QString &text)
     } catch (const std::bad_alloc &) {
         throw uncompressError(Z_MEM_ERROR);
     }
-}
-
-qint64 compressedCapacity(qint64 length)
-{
-    const qint64 hundredths = length * 101 + 1300;
-    const qint64 whole = hundredths / 100;
-    const qint64 rest = hundredths % 100;
-    const bool isUp = rest > 50 || (rest == 50 && whole % 2 != 0);
-    return isUp ? whole + 1 : whole;
-}
-
-Error compressError(int code)
-{
-    const QString routine = u"CompressString"_s;
-    switch (code) {
-    case Z_MEM_ERROR:
-        return errorOf(code, routine, u"Insufficient memory to compress string"_s);
-    case Z_BUF_ERROR:
-        return errorOf(code, routine, u"Insufficient space in output buffer to compress string"_s);
-    default:
-        return errorOf(code, routine, u"Unknown error during compress operation"_s);
-    }
-}
-
-Error uncompressError(int code)
-{
-    const QString routine = u"UncompressString"_s;
-    switch (code) {
-    case Z_MEM_ERROR:
-        return errorOf(code, routine, u"Insufficient memory to uncompress string"_s);
-    case Z_BUF_ERROR:
-        return errorOf(code, routine,
-                       u"Insufficient space in output buffer to uncompress string"_s);
-    case Z_DATA_ERROR:
-        return errorOf(code, routine, u"Cannot uncompress corrupt data"_s);
-    default:
-        return errorOf(code, routine, u"Unknown error during uncompress operation"_s);
-    }
-}
-
-QString compressedForm(qint64 length, QByteArrayView stream)
-{
-    return QString::number(length) + u':' + QLatin1StringView(stream);
 }
 
 } // namespace ORVTListview::ModZlib

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/Error.h>
+#include "shared/compression/CompressedText.h"
 
 #include <QtCore/QString>
 
@@ -10,12 +10,6 @@ namespace ORVTListview::ModZlib {
 // a colon, and the zlib stream of the text's bytes in Windows-1252. Each byte of
 // the stream is the character of the same number, 0 to 255: this part never
 // passes through the code page.
-
-// The longest text that is compressed or uncompressed. A length beyond it, in a
-// damaged text for instance, fails like a lack of memory; so no text takes more
-// than 256 MiB, and about as much again while it is worked on.
-// Why it is so: docs/decisions/compression.md.
-constexpr qint32 maximumLength = 128 * 1024 * 1024;
 
 // Whether CompressString takes this text: not too long, and all of it in the code
 // page.
@@ -32,16 +26,5 @@ ORVT_CORE_EXPORT QString CompressString(const QString &text);
 // once the stream has proved sound. Raises Error: uncompressError() of zlib's
 // return code.
 ORVT_CORE_EXPORT QString UncompressString(const QString &text);
-
-// The room that CompressString gives zlib for a text of this length, in bytes:
-// length * 1.01 + 13, a half going to the even neighbour. Never too little.
-ORVT_CORE_EXPORT qint64 compressedCapacity(qint64 length);
-
-// What the two raise when zlib returns this code, which is not 0.
-ORVT_CORE_EXPORT Error compressError(int code);
-ORVT_CORE_EXPORT Error uncompressError(int code);
-
-// The form above, of a text of this length and its stream.
-ORVT_CORE_EXPORT QString compressedForm(qint64 length, QByteArrayView stream);
 
 } // namespace ORVTListview::ModZlib

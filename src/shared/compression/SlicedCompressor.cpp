@@ -1,7 +1,7 @@
 #include "shared/compression/SlicedCompressor.h"
 
 #include "base/Windows1252.h"
-#include "shared/compression/Compression.h"
+#include "shared/compression/CompressedText.h"
 
 #include <zlib.h>
 
@@ -51,7 +51,8 @@ QString SlicedCompressor::finish()
 {
     deflate(QByteArray(), Z_FINISH, Z_STREAM_END);
     const auto length = static_cast<qsizetype>(m_stream->zlib.total_out);
-    return compressedForm(m_length, QByteArrayView(m_stream->room).first(length));
+    return QString::number(m_length) + u':' +
+           QLatin1StringView(QByteArrayView(m_stream->room).first(length));
 }
 
 void SlicedCompressor::deflate(QByteArray bytes, int flush, int expected)

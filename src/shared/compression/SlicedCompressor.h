@@ -9,9 +9,9 @@
 
 namespace ORVTListview::ModZlib {
 
-// What CompressString does, in as many steps as the caller likes, so that a long
-// text can be compressed between two keys. The result is the same to the byte,
-// wherever the text is cut. Each call raises Error when zlib fails, and
+// Compresses a text in as many steps as the caller likes, so that a long one can be
+// compressed between two keys. The result is the same to the byte, wherever the
+// text is cut. Each call raises Error when zlib fails, and
 // std::bad_alloc for want of memory.
 class ORVT_CORE_EXPORT SlicedCompressor
 {

@@ -1,14 +1,12 @@
 #include <ORVTListview/TextProvider.h>
 
 #include "base/TextRules.h"
-#include "base/ThreadState.h"
-#include "shared/texts/TextTable.h"
 
 namespace ORVTListview {
 
 QString textKey(const QString &English)
 {
-    return trimmedBlanks(English).toString().toUpper();
+    return trimmedSpaces(English).toString().toUpper();
 }
 
 TextProvider::~TextProvider() = default;
@@ -16,13 +14,6 @@ TextProvider::~TextProvider() = default;
 DisplayFontSettings TextProvider::DisplayFont()
 {
     return {};
-}
-
-void setTextProvider(TextProvider *Provider)
-{
-    TextTable &table = threadPart<TextTable>();
-    table.setProvider(Provider);
-    table.refresh();
 }
 
 } // namespace ORVTListview

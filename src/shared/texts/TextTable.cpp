@@ -90,6 +90,13 @@ void TextTable::forget()
     m_loadTime = {};
 }
 
+void setTextProvider(TextProvider *Provider)
+{
+    auto &table = threadPart<TextTable>();
+    table.setProvider(Provider);
+    table.refresh();
+}
+
 QString Localise(const QString &text)
 {
     return threadPart<TextTable>().localise(text);

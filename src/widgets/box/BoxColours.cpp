@@ -13,22 +13,12 @@
 namespace ORVTListview {
 namespace {
 
-void appendRun(QList<ColouredText::Run> &runs, qsizetype length, qint32 colour)
-{
-    if (length <= 0)
-        return;
-    if (!runs.isEmpty() && runs.constLast().colour == colour)
-        runs.last().length += length;
-    else
-        runs.append({length, colour});
-}
-
 // The part of a fragment inside a range of the document, as a position and a length.
 struct Piece
 {
     int position = 0;
     int length = 0;
-    qint32 colour = ColouredText::automatic;
+    Colour colour = ColouredText::automatic;
 };
 
 Piece pieceOf(const QTextFragment &fragment, int from, int to)
@@ -38,11 +28,11 @@ Piece pieceOf(const QTextFragment &fragment, int from, int to)
     return {first, last - first, BoxFormats::colour(fragment.charFormat())};
 }
 
-void readLine(const QTextBlock &block, int from, int to, QList<ColouredText::Run> &runs)
+void readLine(const QTextBlock &block, int from, int to, ColouredText &result)
 {
     for (auto it = block.begin(); it != block.end(); ++it) {
         const Piece piece = pieceOf(it.fragment(), from, to);
-        appendRun(runs, piece.length, piece.colour);
+        result.appendRun(piece.length, piece.colour);
     }
 }
 
@@ -56,7 +46,7 @@ public:
     }
 
     // The colour at `index`, and in `length` how far it holds, at most `length`.
-    qint32 at(qsizetype index, qsizetype &length)
+    Colour at(qsizetype index, qsizetype &length)
     {
         while (m_run < m_runs.size() && m_start + m_runs[m_run].length <= index)
             m_start += m_runs[m_run++].length;
@@ -92,7 +82,7 @@ void compareColours(const QTextBlock &block, int from, int to, qsizetype index, 
         Piece piece = pieceOf(it.fragment(), from, to);
         while (piece.length > 0) {
             qsizetype length = piece.length;
-            const qint32 colour = runs.at(index + piece.position - from, length);
+            const Colour colour = runs.at(index + piece.position - from, length);
             const int step = static_cast<int>(length);
             if (colour != piece.colour)
                 changes.colours.append({piece.position, step, colour});
@@ -165,7 +155,7 @@ void setColour(QTextCursor &cursor, const Piece &piece)
 
 } // namespace
 
-void BoxColours::paint(QTextDocument &document, int from, int to, qint32 colour)
+void BoxColours::paint(QTextDocument &document, int from, int to, Colour colour)
 {
     QList<Piece> pieces;
     for (QTextBlock block = document.findBlock(from); block.isValid() && block.position() < to;
@@ -192,12 +182,12 @@ ColouredText BoxColours::read(const QTextDocument &document, const BoxText &text
     const int from = text.toDocument(start);
     const int to = text.toDocument(start + length);
     for (QTextBlock block = document.findBlock(from); block.isValid(); block = block.next()) {
-        readLine(block, from, to, result.runs);
+        readLine(block, from, to, result);
         if (block.position() + block.length() > to)
             break;
-        const qint32 colour =
+        const Colour colour =
             result.runs.isEmpty() ? ColouredText::automatic : result.runs.constLast().colour;
-        appendRun(result.runs, 2, colour);
+        result.appendRun(2, colour);
     }
     return result;
 }

@@ -24,9 +24,9 @@ ORVT_EXPORT ColouredText read(const QTextDocument &document, const BoxText &text
 ORVT_EXPORT bool apply(QTextDocument &document, const BoxText &text, qint32 start,
                        const ColouredText &wanted);
 
-// Gives document positions from `from` to `to` one colour, as 0x00BBGGRR or
+// Gives document positions from `from` to `to` one colour, which may be
 // ColouredText::automatic.
-ORVT_EXPORT void paint(QTextDocument &document, int from, int to, qint32 colour);
+ORVT_EXPORT void paint(QTextDocument &document, int from, int to, Colour colour);
 
 } // namespace BoxColours
 } // namespace ORVTListview

@@ -115,12 +115,12 @@ RtfFormat BoxFormats::rtfFormat(const QTextCharFormat &format) const
     return result;
 }
 
-qint32 BoxFormats::colour(const QTextCharFormat &format)
+Colour BoxFormats::colour(const QTextCharFormat &format)
 {
     return colourOf(format, QTextFormat::ForegroundBrush);
 }
 
-void BoxFormats::setColour(QTextCharFormat &format, qint32 colour)
+void BoxFormats::setColour(QTextCharFormat &format, Colour colour)
 {
     setColourOf(format, QTextFormat::ForegroundBrush, colour);
 }

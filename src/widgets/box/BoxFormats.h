@@ -29,9 +29,9 @@ public:
     QTextCharFormat charFormat(const RtfFormat &format);
     RtfFormat rtfFormat(const QTextCharFormat &format) const;
 
-    // The text colour as 0x00BBGGRR, or RtfFormat::automatic.
-    static qint32 colour(const QTextCharFormat &format);
-    static void setColour(QTextCharFormat &format, qint32 colour);
+    // The text colour, or RtfFormat::automatic.
+    static Colour colour(const QTextCharFormat &format);
+    static void setColour(QTextCharFormat &format, Colour colour);
 
 private:
     QTextCharFormat make(const RtfFormat &format) const;

@@ -1,7 +1,8 @@
 #include "widgets/look/Colours.h"
 
+#include "widgets/look/Luminance.h"
+
 #include <array>
-#include <cmath>
 
 namespace ORVTListview {
 namespace {
@@ -43,7 +44,7 @@ constexpr std::array systemColours{
     SystemColour{26, QPalette::Link, QPalette::Base},
 };
 
-const SystemColour *findSystemColour(qint32 colour)
+const SystemColour *findSystemColour(Colour colour)
 {
     const auto number = static_cast<quint32>(colour) & 0x7fffffffU;
     for (const SystemColour &entry : systemColours) {
@@ -53,19 +54,9 @@ const SystemColour *findSystemColour(qint32 colour)
     return nullptr;
 }
 
-// Relative luminance as the web accessibility guidelines define it.
-double luminance(const QColor &colour)
-{
-    const auto linear = [](double channel) {
-        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
 } // namespace
 
-QColor Colours::toColor(qint32 colour, const QPalette &palette)
+QColor Colours::toColor(Colour colour, const QPalette &palette)
 {
     if (colour < 0) {
         const SystemColour *entry = findSystemColour(colour);
@@ -74,12 +65,12 @@ QColor Colours::toColor(qint32 colour, const QPalette &palette)
     return QColor(colour & 0xff, (colour >> 8) & 0xff, (colour >> 16) & 0xff);
 }
 
-qint32 Colours::fromColor(const QColor &colour)
+Colour Colours::fromColor(const QColor &colour)
 {
     return colour.red() | colour.green() << 8 | colour.blue() << 16;
 }
 
-QColor Colours::textOn(qint32 background, const QPalette &palette)
+QColor Colours::textOn(Colour background, const QPalette &palette)
 {
     if (background < 0) {
         const SystemColour *entry = findSystemColour(background);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ORVTListview/Colour.h>
 #include <ORVTListview/Export.h>
 
 #include <QtGui/QColor>
@@ -7,23 +8,22 @@
 
 namespace ORVTListview {
 
-// The published form of a colour: 0x00BBGGRR, red in the low byte. A negative
-// value is a system colour: 0x80000000 plus its number.
+// The published form of a colour, and the toolkit's.
 namespace Colours {
 
-constexpr qint32 windowBackground = static_cast<qint32>(0x80000005U);
-constexpr qint32 windowText = static_cast<qint32>(0x80000008U);
+constexpr Colour windowBackground = static_cast<qint32>(0x80000005U);
+constexpr Colour windowText = static_cast<qint32>(0x80000008U);
 
 // System colours are looked up in the palette; an unknown number is the palette's
 // text colour. Bits 24 to 30 of other values are ignored.
-ORVT_EXPORT QColor toColor(qint32 colour, const QPalette &palette);
+ORVT_EXPORT QColor toColor(Colour colour, const QPalette &palette);
 
 // Never negative. Transparency is dropped.
-ORVT_EXPORT qint32 fromColor(const QColor &colour);
+ORVT_EXPORT Colour fromColor(const QColor &colour);
 
 // What the palette pairs with a background: the text colour that belongs to a
 // system colour, else black or white, whichever stands out more.
-ORVT_EXPORT QColor textOn(qint32 background, const QPalette &palette);
+ORVT_EXPORT QColor textOn(Colour background, const QPalette &palette);
 
 } // namespace Colours
 } // namespace ORVTListview

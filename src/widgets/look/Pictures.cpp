@@ -1,6 +1,7 @@
 #include "widgets/look/Pictures.h"
 
 #include "shared/points/DisplayNames.h"
+#include "shared/points/PictureNumbers.h"
 #include <ORVTListview/ImageList.h>
 
 #include <array>
@@ -41,12 +42,12 @@ void addTypes(ImageList &list)
         {dsOs, 9, u"optimum-starts"_s},
         {dsInputParam, 10, u"input-parameters"_s},
         {dsOutputParam, 11, u"output-parameters"_s},
-        {dsConst, 66, u"constants"_s},
-        {dsVariable, 67, u"variables"_s},
-        {dsInput, 68, u"inputs"_s},
-        {dsOutput, 69, u"outputs"_s},
-        {dsNvo, 70, u"network-var-outputs"_s},
-        {dsNvi, 71, u"network-var-inputs"_s},
+        {dsConst, ConstantPicture, u"constants"_s},
+        {dsVariable, VariablePicture, u"variables"_s},
+        {dsInput, InputPicture, u"inputs"_s},
+        {dsOutput, OutputPicture, u"outputs"_s},
+        {dsNvo, NvoPicture, u"network-var-outputs"_s},
+        {dsNvi, NviPicture, u"network-var-inputs"_s},
     }};
     for (const TypeRow &row : types) {
         const QString key = displayName(row.type);
@@ -63,11 +64,11 @@ void addOthers(ImageList &list)
         {u"Page"_s, 2, u"page"_s},
         {u"BallGreen"_s, 3, u"ball-green"_s},
         {u"BallRed"_s, 4, u"ball-red"_s},
-        {u"Fan-In Words"_s, 61, u"fan-in"_s},
-        {u"Time Words"_s, 62, u"time-word"_s},
-        {u"Functions"_s, 63, u"function"_s},
-        {u"Keywords"_s, 64, u"keyword"_s},
-        {u"Other Words"_s, 65, u"text"_s},
+        {u"Fan-In Words"_s, FanInPicture, u"fan-in"_s},
+        {u"Time Words"_s, TimeWordPicture, u"time-word"_s},
+        {u"Functions"_s, FunctionPicture, u"function"_s},
+        {u"Keywords"_s, KeywordPicture, u"keyword"_s},
+        {u"Other Words"_s, OtherWordPicture, u"text"_s},
     }};
     for (const Row &row : others)
         list.Add(row.key, row.index, resource(row.file));

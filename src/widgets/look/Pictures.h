@@ -10,9 +10,7 @@ class ImageList;
 
 // The pictures of the controller's world: one for each point type under its
 // display name, the same with "Down" appended for its pressed read button, the
-// status pictures, the tree's device and page, and the word classes. Indexes 61
-// to 71 are those of the word classes; the picture of a class of points is that
-// of its type.
+// status pictures, the tree's device and page, and the word classes.
 // Why it is so: docs/decisions/pictures.md.
 struct ORVT_EXPORT Pictures
 {

@@ -1,6 +1,7 @@
 #include "editor/rules/colouring/ColourTable.h"
 
 #include "editor/rules/language/WordClass.h"
+#include "rtf/RtfEscapes.h"
 #include "shared/texts/TextTable.h"
 
 #include <algorithm>
@@ -22,18 +23,12 @@ QString settingName(int slot)
     return names[static_cast<std::size_t>(slot) - 1];
 }
 
-QString tableEntry(const SplitColours &colour)
-{
-    return u"\\red%1\\green%2\\blue%3;"_s.arg(
-        QString::number(colour.Red), QString::number(colour.Green), QString::number(colour.Blue));
-}
-
 } // namespace
 
-std::optional<SplitColours> SplitColour(qint32 Colour)
+std::optional<SplitColours> SplitColour(Colour colour)
 {
-    const qint32 low = Colour % 65536;
-    return SplitColours{low % 256, low / 256, Colour / 65536};
+    const qint32 low = colour % 65536;
+    return SplitColours{low % 256, low / 256, colour / 65536};
 }
 
 QString BuildColourTable(const RichTextSettings &Settings, QString &ErrorText,
@@ -45,7 +40,8 @@ QString BuildColourTable(const RichTextSettings &Settings, QString &ErrorText,
         if (!colour)
             ErrorText +=
                 u"\r\n"_s + Localise(u"Bad %1 for Editer of Code!"_s).arg(settingName(slot));
-        entries += tableEntry(colour.value_or(SplitColours()));
+        const SplitColours shown = colour.value_or(SplitColours());
+        entries += rtfColourEntry(shown.Red, shown.Green, shown.Blue);
     }
     return u"{\\colortbl ;"_s + entries + u'}';
 }
@@ -71,9 +67,9 @@ RichTextSettings defaultColours()
     return settings;
 }
 
-qint32 shownColour(qint32 Colour)
+Colour shownColour(Colour colour)
 {
-    const SplitColours parts = *SplitColour(Colour);
+    const SplitColours parts = *SplitColour(colour);
     const auto byte = [](qint32 part) { return std::clamp(part, 0, 255); };
     return byte(parts.Blue) << 16 | byte(parts.Green) << 8 | byte(parts.Red);
 }

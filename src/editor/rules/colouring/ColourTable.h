@@ -16,12 +16,12 @@ struct SplitColours
     friend bool operator==(const SplitColours &, const SplitColours &) = default;
 };
 
-// The three parts of a colour 0x00BBGGRR. The arithmetic is signed and truncates
-// toward zero, so a negative colour (a system colour) gives negative parts. It
-// never fails; the type leaves room for a splitter that can.
-ORVT_CORE_EXPORT std::optional<SplitColours> SplitColour(qint32 Colour);
+// The three parts of a colour. The arithmetic is signed and truncates toward zero,
+// so a system colour, being negative, gives negative parts. It never fails; the type
+// leaves room for a splitter that can.
+ORVT_CORE_EXPORT std::optional<SplitColours> SplitColour(Colour colour);
 
-using ColourSplitter = std::function<std::optional<SplitColours>(qint32)>;
+using ColourSplitter = std::function<std::optional<SplitColours>(Colour)>;
 
 // The RTF colour table of the settings. A colour that cannot be split is written
 // black and adds a line to ErrorText.
@@ -34,7 +34,7 @@ ORVT_CORE_EXPORT QString defaultColourTable();
 ORVT_CORE_EXPORT RichTextSettings defaultColours();
 
 // What a reader of the colour table makes of a colour: its parts kept within 0 to
-// 255, as 0x00BBGGRR. System colours are not resolved.
-ORVT_CORE_EXPORT qint32 shownColour(qint32 Colour);
+// 255. System colours are not resolved.
+ORVT_CORE_EXPORT Colour shownColour(Colour colour);
 
 } // namespace ORVTListview

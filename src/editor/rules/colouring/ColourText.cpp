@@ -63,14 +63,11 @@ private:
     void append(QStringView text)
     {
         result.text.append(text);
-        if (!result.runs.isEmpty() && result.runs.last().colour == m_colour)
-            result.runs.last().length += text.size();
-        else
-            result.runs.append({text.size(), m_colour});
+        result.appendRun(text.size(), m_colour);
     }
 
-    std::array<qint32, colourSlots + 1> m_colours{ColouredText::automatic};
-    qint32 m_colour = ColouredText::automatic;
+    std::array<Colour, colourSlots + 1> m_colours{ColouredText::automatic};
+    Colour m_colour = ColouredText::automatic;
 };
 
 } // namespace

@@ -41,18 +41,14 @@ private:
     {
         if (end <= m_coloured)
             return;
-        QList<ColouredText::Run> &runs = m_result.runs;
-        if (!runs.isEmpty() && runs.last().colour == m_colour)
-            runs.last().length += end - m_coloured;
-        else
-            runs.append({end - m_coloured, m_colour});
+        m_result.appendRun(end - m_coloured, m_colour);
         m_coloured = end;
     }
 
     const RichTextSettings &m_settings;
     ColouredText m_result;
     qsizetype m_coloured = 0;
-    qint32 m_colour = ColouredText::automatic;
+    Colour m_colour = ColouredText::automatic;
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "editor/rules/colouring/ReplacedLines.h"
 
+#include "base/TextRules.h"
 #include "editor/rules/language/CodeText.h"
 
 #include <algorithm>
@@ -8,11 +9,6 @@ namespace ORVTListview {
 namespace {
 
 constexpr QStringView lineBreak = u"\r\n";
-
-constexpr bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
 
 qsizetype endOfLine(QStringView text, qsizetype from)
 {

@@ -1,14 +1,11 @@
 #include "editor/rules/colouring/TouchedLine.h"
 
+#include "base/TextRules.h"
+
 #include <algorithm>
 
 namespace ORVTListview {
 namespace {
-
-constexpr bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
 
 // The line as it was and as it would be, walked through side by side.
 class Merge
@@ -27,7 +24,7 @@ public:
                 std::min({end - m_place, leftOf(m_line, m_new), leftOf(m_former, m_old)});
             const ColouredText::Run run =
                 (isTouched ? m_line.runs[m_new.run] : m_former.runs[m_old.run]);
-            append(length, run.colour);
+            m_merged.appendRun(length, run.colour);
             if (!isTouched)
                 m_line.text.replace(m_place, length, m_former.text.constData() + m_place, length);
             m_place += length;
@@ -36,7 +33,7 @@ public:
         }
     }
 
-    void finish() { m_line.runs = m_runs; }
+    void finish() { m_line.runs = m_merged.runs; }
 
 private:
     struct Walk
@@ -54,17 +51,9 @@ private:
         return text.runs[walk.run].length - walk.used;
     }
 
-    void append(qsizetype length, qint32 colour)
-    {
-        if (!m_runs.isEmpty() && m_runs.constLast().colour == colour)
-            m_runs.last().length += length;
-        else
-            m_runs.append({length, colour});
-    }
-
     ColouredText &m_line;
     const ColouredText &m_former;
-    QList<ColouredText::Run> m_runs;
+    ColouredText m_merged; // its runs
     Walk m_new;
     Walk m_old;
     qsizetype m_place = 0;

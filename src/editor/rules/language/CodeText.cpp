@@ -9,11 +9,6 @@ namespace {
 
 constexpr QStringView lineBreak = u"\r\n";
 
-constexpr bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
-
 QStringView lineAt(QStringView text, qint32 position)
 {
     const LineRange line = LineBounds(text, position);
@@ -91,7 +86,7 @@ QString GetLineIndent(const QString &Line)
 {
     QString rest = Line;
     rest.remove(u'\t');
-    const QStringView words = trimmedBlanks(rest);
+    const QStringView words = trimmedSpaces(rest);
     return words.isEmpty() ? Line : Line.first(Line.indexOf(words.front()));
 }
 

@@ -88,7 +88,7 @@ void Vocabulary::setIndexedNames(IndexedNameCollection *names)
 
 ClassifiedWord Vocabulary::classify(QStringView word) const
 {
-    const QString text = trimmedBlanks(word).toString();
+    const QString text = trimmedSpaces(word).toString();
     if (text.isEmpty() || isNumeric(text))
         return {WordClass::Other, text};
     const QString upper = text.toUpper();
@@ -119,7 +119,7 @@ ClassifiedWord Vocabulary::classify(QStringView word) const
     return {WordClass::Other, text};
 }
 
-qint32 Vocabulary::ClassifyWord(const QString &Word, QString &Shown,
+Colour Vocabulary::ClassifyWord(const QString &Word, QString &Shown,
                                 const RichTextSettings &settings) const
 {
     const ClassifiedWord word = classify(Word);
@@ -132,7 +132,7 @@ bool Vocabulary::IsFunctionCall(const QString &Text) const
     const qsizetype bracket = Text.indexOf(u'(');
     if (bracket < 0)
         return false;
-    const QStringView before = trimmedBlanks(QStringView(Text).first(bracket));
+    const QStringView before = trimmedSpaces(QStringView(Text).first(bracket));
     return m_functionWords.contains(before.sliced(before.lastIndexOf(u' ') + 1));
 }
 

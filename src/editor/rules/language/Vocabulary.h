@@ -60,8 +60,8 @@ public:
     // Class and shown spelling of one word, the blanks around it not counted.
     ClassifiedWord classify(QStringView word) const;
 
-    // The same as a colour 0x00BBGGRR, 0 for none.
-    qint32 ClassifyWord(const QString &Word, QString &Shown,
+    // The same as a colour, 0 for none.
+    Colour ClassifyWord(const QString &Word, QString &Shown,
                         const RichTextSettings &settings) const;
 
     // Whether the last word before the first "(" of the text is a function word.

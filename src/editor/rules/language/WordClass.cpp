@@ -1,84 +1,80 @@
 #include "editor/rules/language/WordClass.h"
 
-namespace ORVTListview {
+#include "shared/points/PictureNumbers.h"
 
-qint32 colourOfSlot(int slot, const RichTextSettings &settings)
+#include <array>
+
+namespace ORVTListview {
+namespace {
+
+struct ClassLook
 {
-    switch (slot) {
-    case BackgroundColour:
-        return settings.BackColor;
-    case CommentColour:
-        return settings.CommentColor;
-    case ConstantColour:
-        return settings.ConstantColor;
-    case InputColour:
-        return settings.InputColor;
-    case OutputColour:
-        return settings.OutputColor;
-    case ReservedWordColour:
-        return settings.ReservedWordColor;
-    case VariableColour:
-        return settings.VariableColor;
-    case NviColour:
-        return settings.nviFPAColor;
+    ColourIndex colour;
+    PictureNumber picture;
+};
+
+// In the order of WordClass.
+constexpr std::array<ClassLook, 11> looks{{
+    {AutomaticColour, NoPicture},
+    {VariableColour, VariablePicture},
+    {ConstantColour, ConstantPicture},
+    {InputColour, InputPicture},
+    {OutputColour, OutputPicture},
+    {NviColour, NviPicture},
+    {ReservedWordColour, KeywordPicture},
+    {ReservedWordColour, TimeWordPicture},
+    {ReservedWordColour, FunctionPicture},
+    {ReservedWordColour, FanInPicture},
+    {CommentColour, NoPicture},
+}};
+static_assert(looks.size() == static_cast<std::size_t>(WordClass::Comment) + 1);
+
+// In the order of ColourIndex, from 1.
+constexpr std::array<Colour RichTextSettings::*, colourSlots> slotColours{
+    &RichTextSettings::BackColor,     &RichTextSettings::CommentColor,
+    &RichTextSettings::ConstantColor, &RichTextSettings::InputColor,
+    &RichTextSettings::OutputColor,   &RichTextSettings::ReservedWordColor,
+    &RichTextSettings::VariableColor, &RichTextSettings::nviFPAColor,
+};
+
+// Other for a type whose names are no class of their own.
+WordClass classOfType(qint32 type)
+{
+    switch (type) {
+    case dsVariable:
+        return WordClass::Variable;
+    case dsConst:
+        return WordClass::Constant;
+    case dsInput:
+        return WordClass::Input;
+    case dsOutput:
+        return WordClass::Output;
+    case dsNvi:
+        return WordClass::Nvi;
     default:
-        return 0;
+        return WordClass::Other;
     }
+}
+
+} // namespace
+
+Colour colourOfSlot(int slot, const RichTextSettings &settings)
+{
+    const bool isSlot = slot >= 1 && slot <= colourSlots;
+    return isSlot ? settings.*slotColours[static_cast<std::size_t>(slot) - 1] : 0;
 }
 
 ClassStyle styleOf(WordClass wordClass, const RichTextSettings &settings)
 {
-    const auto style = [&settings](ColourIndex index, qint16 image) {
-        return ClassStyle{index, colourOfSlot(index, settings), image};
-    };
-    switch (wordClass) {
-    case WordClass::Variable:
-        return style(VariableColour, 67);
-    case WordClass::Constant:
-        return style(ConstantColour, 66);
-    case WordClass::Input:
-        return style(InputColour, 68);
-    case WordClass::Output:
-        return style(OutputColour, 69);
-    case WordClass::Nvi:
-        return style(NviColour, 71);
-    case WordClass::Keyword:
-        return style(ReservedWordColour, 64);
-    case WordClass::TimeWord:
-        return style(ReservedWordColour, 62);
-    case WordClass::Function:
-        return style(ReservedWordColour, 63);
-    case WordClass::FanIn:
-        return style(ReservedWordColour, 61);
-    case WordClass::Comment:
-        return style(CommentColour, 0);
-    case WordClass::Other:
-        break;
-    }
-    return {};
+    const ClassLook &look = looks[static_cast<std::size_t>(wordClass)];
+    return {look.colour, colourOfSlot(look.colour, settings), look.picture};
 }
 
 void ClassStyleForType(qint32 TypeIndex, const RichTextSettings &settings, ClassStyle &Style)
 {
-    switch (TypeIndex) {
-    case dsVariable:
-        Style = styleOf(WordClass::Variable, settings);
-        break;
-    case dsConst:
-        Style = styleOf(WordClass::Constant, settings);
-        break;
-    case dsInput:
-        Style = styleOf(WordClass::Input, settings);
-        break;
-    case dsOutput:
-        Style = styleOf(WordClass::Output, settings);
-        break;
-    case dsNvi:
-        Style = styleOf(WordClass::Nvi, settings);
-        break;
-    default:
-        break;
-    }
+    const WordClass wordClass = classOfType(TypeIndex);
+    if (wordClass != WordClass::Other)
+        Style = styleOf(wordClass, settings);
 }
 
 } // namespace ORVTListview

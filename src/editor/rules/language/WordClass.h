@@ -38,7 +38,7 @@ constexpr int colourSlots = 8;
 struct ClassStyle
 {
     qint16 ColourIndex = AutomaticColour;
-    qint32 Colour = 0; // 0x00BBGGRR
+    ORVTListview::Colour Colour = 0;
     qint16 ImageIndex = 0;
 
     friend bool operator==(const ClassStyle &, const ClassStyle &) = default;
@@ -53,6 +53,6 @@ ORVT_CORE_EXPORT void ClassStyleForType(qint32 TypeIndex, const RichTextSettings
 
 // The colour that a slot of the RTF colour table takes from the settings; slot
 // runs from 1 to colourSlots.
-ORVT_CORE_EXPORT qint32 colourOfSlot(int slot, const RichTextSettings &settings);
+ORVT_CORE_EXPORT Colour colourOfSlot(int slot, const RichTextSettings &settings);
 
 } // namespace ORVTListview

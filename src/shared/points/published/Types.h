@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ORVTListview/Colour.h>
 #include <ORVTListview/CoreExport.h>
 
 #include <QtCore/QList>
@@ -60,11 +61,10 @@ enum ActionIndex : qint32 {
 };
 Q_ENUM_NS(ActionIndex)
 
-// The code editor's appearance. Colours are 0x00BBGGRR (red in the low byte);
-// negative values are system colours. FontSize is in points. FontStyle is free
-// text in which "b1", "i1" and "u1", in any letter case, mean bold, italic and
-// underlined. nvoFPAColor is accepted and never used: network variable outputs
-// are no word class of their own.
+// The code editor's appearance. Its colours are as Colour.h says, none of them
+// automatic. FontSize is in points. FontStyle is free text in which "b1", "i1" and
+// "u1", in any letter case, mean bold, italic and underlined. nvoFPAColor is accepted
+// and never used: network variable outputs are no word class of their own.
 struct RichTextSettings
 {
     Q_GADGET_EXPORT(ORVT_CORE_EXPORT)

@@ -23,9 +23,7 @@ struct TextPiece;
 // comes out the same, character for character, but for line ends (CR LF, CR, LF
 // and U+2029 come out as CR LF) and NUL, which is dropped.
 //
-// Colours are 0x00BBGGRR, red in the low byte. A negative one is a system colour
-// (0x80000000 plus its number), taken from the palette; -1 stands for the text
-// colour that goes with the background.
+// Colours are as Colour.h says; -1 is automatic.
 //
 // Change is raised once for all that the user changes by one key or click, and for
 // every change by a call, but not for colours and fonts; soon after what changes the

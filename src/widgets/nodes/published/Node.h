@@ -69,8 +69,8 @@ public:
     bool Expanded() const;
     void setExpanded(bool Expanded);
 
-    // 0x00BBGGRR; a negative value is a system colour, 0x80000008 (the window's
-    // text) at first. A selected node shows the palette's colour.
+    // As Colour.h says; the window's text, 0x80000008, at first. A selected node
+    // shows the palette's colour.
     qint32 ForeColor() const;
     void setForeColor(qint32 Color);
 
