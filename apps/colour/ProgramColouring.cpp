@@ -47,7 +47,7 @@ void ProgramColouring::addNames(LwType type, const QStringList &names)
 {
     PointList &list = m_points[type];
     for (const QString &name : names) {
-        if (list.Find(name.toUpper()))
+        if (list.Find(name))
             throw UsageError(u"\"%1\" is twice among the %2"_s.arg(name, projectMember(type)));
         list.Add(name);
     }

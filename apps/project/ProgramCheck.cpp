@@ -105,17 +105,16 @@ void ProgramReader::takeWord(QStringView word)
 
 void ProgramReader::noteUnknown(QStringView word)
 {
-    if (m_unknownInLine.contains(word, Qt::CaseInsensitive))
+    const QString folded = foldedCase(word);
+    if (m_unknownInLine.contains(folded))
         return;
-    m_unknownInLine.append(word.toString());
+    m_unknownInLine.append(folded);
     find(Fault::UnknownName, m_line, word);
 }
 
 void ProgramReader::balance(QStringView word)
 {
-    const auto is = [word](QStringView keyword) {
-        return word.compare(keyword, Qt::CaseInsensitive) == 0;
-    };
+    const auto is = [word](QStringView keyword) { return isSameWord(word, keyword); };
     if (is(u"IF")) {
         m_openIfs.append({m_line, word.toString()});
     } else if (is(u"ENDIF")) {

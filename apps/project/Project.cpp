@@ -1,5 +1,6 @@
 #include "project/Project.h"
 
+#include "base/TextRules.h"
 #include "project/JsonEdit.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
@@ -39,7 +40,7 @@ void Project::rename(LwType type, qsizetype row, const QString &name)
         throw Error(NameNotUsable, u"Project"_s,
                     ProjectTexts::tr("\"%1\" is not the name of a point").arg(name));
     for (const ProjectRow &other : std::as_const(list)) {
-        if (&other != &list.at(row) && other.name.compare(name, Qt::CaseInsensitive) == 0)
+        if (&other != &list.at(row) && isSameWord(other.name, name))
             throw Error(NameNotUsable, u"Project"_s,
                         ProjectTexts::tr("Another point has the name \"%1\"").arg(name));
     }

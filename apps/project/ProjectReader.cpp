@@ -2,6 +2,7 @@
 
 #include "project/ProjectTexts.h"
 
+#include "base/TextRules.h"
 #include "project/EditorAppearance.h"
 
 #include <QtCore/QDir>
@@ -80,11 +81,11 @@ ProjectRow readRow(const JsonPlace &place, LwType type, qint32 number)
 QList<ProjectRow> readRows(const JsonPlace &list, LwType type)
 {
     QList<ProjectRow> rows;
-    QHash<QString, QString> places; // upper-case name to the place that has it
+    QHash<QString, QString> places; // folded name to the place that has it
     for (const JsonPlace &item : list.items(mostRows)) {
         rows.append(readRow(item, type, static_cast<qint32>(rows.size()) + 1));
         const QString &name = rows.constLast().name;
-        QString &former = places[name.toUpper()];
+        QString &former = places[foldedCase(name)];
         if (!name.isEmpty() && !former.isEmpty())
             item.member(u"name"_s).fail(
                 ProjectTexts::tr("\"%1\" is the name of %2 too").arg(name, former));

@@ -11,7 +11,7 @@
 #include "ProgramText.h"
 #include "ProjectView.h"
 #include "base/ThreadState.h"
-#include "editor/rules/language/CodeWordList.h"
+#include "editor/rules/colouring/ThreadColouring.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "project/ProgramCheck.h"
 #include "project/Project.h"
@@ -156,6 +156,8 @@ void MainWindow::connectPoints()
             [this] { statusBar()->showMessage(tr("Reading the values…")); });
     connect(&m_view->tables(), &PointTables::readingFinished, this,
             [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
+    connect(&m_view->tables(), &PointTables::renamed, m_points, &PointChooser::refill);
+    connect(&m_view->tables(), &PointTables::renamed, m_saving, &ProgramSaving::noteNewNames);
     connect(&m_view->tables(), &PointTables::renamed, this, &MainWindow::followName);
     connect(&m_view->tables(), &PointTables::refused, this,
             [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
@@ -164,8 +166,6 @@ void MainWindow::connectPoints()
 void MainWindow::followName(LwType type, const QString &former, const QString &name)
 {
     m_code->UpdateWordListItem(former, name, type);
-    m_points->refill();
-    m_saving->noteNewNames();
     if (!isVocabularyType(type))
         return;
     const auto answer = QMessageBox::question(
@@ -233,8 +233,7 @@ void MainWindow::applyAppearance()
 
 ProgramReport MainWindow::checkShownProgram() const
 {
-    return checkProgram(m_code->CodeText(), threadPart<Vocabulary>(),
-                        threadPart<CodeWordList>().index());
+    return checkProgram(m_code->CodeText(), threadPart<Vocabulary>(), threadWordList().index());
 }
 
 void MainWindow::analyse()

@@ -9,16 +9,31 @@
 
 namespace ORVTListview {
 
+// Runs what a host has written. Whatever it throws leaves as Error: its own as it is,
+// anything else as one of this source.
+template <typename Call>
+decltype(auto) raisingErrors(const QString &source, Call &&call)
+{
+    try {
+        return std::forward<Call>(call)();
+    } catch (const Error &) {
+        throw;
+    } catch (const std::exception &error) {
+        throw Error(InvalidCall, source, QString::fromUtf8(error.what()));
+    } catch (...) {
+        throw Error(InvalidCall, source, QStringLiteral("Unknown failure"));
+    }
+}
+
 // The description of what the call throws; empty when it throws nothing.
 template <typename Call>
 QString failureOf(Call &&call)
 {
     try {
-        std::forward<Call>(call)();
+        raisingErrors({}, std::forward<Call>(call));
     } catch (const Error &error) {
-        return error.Description();
-    } catch (const std::exception &error) {
-        return QString::fromUtf8(error.what());
+        const QString description = error.Description();
+        return description.isEmpty() ? QStringLiteral("Unknown failure") : description;
     }
     return {};
 }

@@ -53,6 +53,31 @@ bool isExponent(QStringView text)
     return digits < text.size() && skipDigits(text, digits) == text.size();
 }
 
+constexpr char16_t smallAscii(char16_t c)
+{
+    return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 0x20) : c;
+}
+
+constexpr char16_t largeLatin1(char16_t c)
+{
+    const bool isSmall = c >= 0xE0 && c != 0xF7;
+    return isSmall ? static_cast<char16_t>(c - 0x20) : c;
+}
+
+// What has its upper case beyond Latin-1, or in two characters.
+constexpr bool needsCaseTable(char16_t c)
+{
+    return c > 0xFE || c == 0xB5 || c == 0xDF;
+}
+
+void foldByTable(QStringView text, FoldedText &folded)
+{
+    const QString upper = text.toString().toUpper();
+    folded.resize(upper.size());
+    for (qsizetype i = 0; i < upper.size(); ++i)
+        folded[i] = smallAscii(upper[i].unicode());
+}
+
 } // namespace
 
 QStringView trimmedSpaces(QStringView text)
@@ -89,22 +114,27 @@ std::optional<bool> toBoolean(QStringView text)
     return false;
 }
 
-void foldCase(QStringView text, char16_t *folded)
+void foldCase(QStringView text, FoldedText &folded)
 {
+    folded.resize(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t c = text[i].unicode();
-        if (c < 0x80)
-            folded[i] = c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
-        else
-            folded[i] = QChar(c).toCaseFolded().unicode();
+        if (needsCaseTable(c))
+            return foldByTable(text, folded);
+        folded[i] = c < 0x80 ? smallAscii(c) : largeLatin1(c);
     }
 }
 
 QString foldedCase(QStringView text)
 {
-    QString folded(text.size(), Qt::Uninitialized);
-    foldCase(text, reinterpret_cast<char16_t *>(folded.data()));
-    return folded;
+    FoldedText folded;
+    foldCase(text, folded);
+    return QStringView(folded.data(), folded.size()).toString();
+}
+
+bool isSameWord(QStringView a, QStringView b)
+{
+    return a == b || foldedCase(a) == foldedCase(b);
 }
 
 QString withCrLf(const QString &text)

@@ -2,7 +2,8 @@
 
 #include <ORVTListview/CoreExport.h>
 
-#include <QtCore/QStringView>
+#include <QtCore/QString>
+#include <QtCore/QVarLengthArray>
 
 #include <optional>
 
@@ -27,10 +28,14 @@ ORVT_CORE_EXPORT bool isNumeric(QStringView text);
 // false. None for anything else.
 ORVT_CORE_EXPORT std::optional<bool> toBoolean(QStringView text);
 
-// The text in a form in which texts that differ in letter case only are equal.
-// Keeps the length: no character becomes two.
+// The text in a form in which texts that differ in letter case only are equal: those
+// that QString::toUpper makes equal, by which hosts key their collections. The form may
+// be longer than the text. A to Z are small in it, so that "_" sorts before letters.
+// Why it is so: docs/decisions/collections.md.
+using FoldedText = QVarLengthArray<char16_t, 64>;
+ORVT_CORE_EXPORT void foldCase(QStringView text, FoldedText &folded);
 ORVT_CORE_EXPORT QString foldedCase(QStringView text);
-ORVT_CORE_EXPORT void foldCase(QStringView text, char16_t *folded);
+ORVT_CORE_EXPORT bool isSameWord(QStringView a, QStringView b);
 
 // The text with every line end (CR LF, CR or LF) written as CR LF.
 ORVT_CORE_EXPORT QString withCrLf(const QString &text);

@@ -1,6 +1,7 @@
 #include <ORVTListview/ORVDataCombo.h>
 
 #include "base/EventGuard.h"
+#include "base/Failure.h"
 #include "base/ThreadState.h"
 #include "combo/PointEntries.h"
 #include "shared/texts/TextRoutine.h"
@@ -80,13 +81,9 @@ void ORVDataCombo::FillDataListview(LwType TypeIndex, PointCollection *, QString
 {
     if (!hasPointEntries(TypeIndex))
         return;
-    try {
-        d->combo->setEntries(pointEntries(TypeIndex));
-    } catch (const Error &error) {
-        ErrMsg = error.Description();
-    } catch (const std::exception &failure) {
-        ErrMsg = QString::fromUtf8(failure.what());
-    }
+    const QString failure = failureOf([&] { d->combo->setEntries(pointEntries(TypeIndex)); });
+    if (!failure.isEmpty())
+        ErrMsg = failure;
     recordText();
 }
 

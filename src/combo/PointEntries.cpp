@@ -4,6 +4,7 @@
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "editor/rules/language/WordClass.h"
+#include "shared/points/HostPoints.h"
 
 #include <algorithm>
 #include <array>
@@ -53,20 +54,15 @@ QList<ComboEntry> pointEntries(qint32 type)
     const Kind *kind = kindOf(type);
     if (!kind)
         return entries;
-    // The host may destroy or change the collection while it is read.
-    const HostReference<PointCollection> points =
+    const HostReference<PointCollection> &points =
         threadPart<Vocabulary>().collections().*(kind->source);
     const qint32 image = styleOfType(type, RichTextSettings()).ImageIndex;
-    for (qint32 index = 1; points && index <= points->Count(); ++index) {
-        const std::optional<Point> point = points->Item(index);
-        if (!point)
-            break;
-        entries.append({.key = point->Name,
-                        .text = point->Name,
+    for (const Point &point : HostPoints::read(points, QStringLiteral("FillDataListview")))
+        entries.append({.key = point.Name,
+                        .text = point.Name,
                         .image = image,
                         .selectedImage = image,
-                        .tag = QString::number(point->Data)});
-    }
+                        .tag = QString::number(point.Data)});
     return entries;
 }
 

@@ -15,8 +15,7 @@ namespace ORVTListview {
 bool hasPointEntries(qint32 type);
 
 // An entry for each point of the type, in the collection's order; none when the
-// collection is not set or gone. Reading ends at the first index at which the
-// collection has nothing. What the collection throws comes through.
+// collection is not set or gone. Raises Error when it fails (HostPoints).
 QList<ComboEntry> pointEntries(qint32 type);
 
 // The colour of the type that the picture belongs to. None for other pictures, and

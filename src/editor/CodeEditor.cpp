@@ -433,7 +433,7 @@ void CodeEditor::RefillListviewWithWordList()
 void CodeEditor::UpdateWordListItem(const QString &OldName, const QString &NewName,
                                     qint32 TypeIndex)
 {
-    threadPart<CodeWordList>().UpdateWordListItem(OldName, NewName, TypeIndex);
+    threadWordList().UpdateWordListItem(OldName, NewName, TypeIndex);
     m_popup.refill();
 }
 
@@ -448,6 +448,7 @@ void CodeEditor::TryToPopupList(bool IsShowAbsolutely)
         caretToLineEnd();
         return;
     }
+    m_popup.catchUp();
     if (IsShowAbsolutely || !rewriteKnownWord())
         m_popup.open();
     else
@@ -462,9 +463,8 @@ bool CodeEditor::rewriteKnownWord()
     if (word.isEmpty())
         return false;
     if (!isNumeric(word)) {
-        auto &known = threadPart<CodeWordList>();
         const qsizetype place = m_popup.words().find(word);
-        if (!known.FindInWordList(word, true) || place < 0)
+        if (!threadWordList().FindInWordList(word, true) || place < 0)
             return false;
         colour = m_popup.words().words()[place].style.Colour;
     }

@@ -101,6 +101,7 @@ public:
     void RefillListviewWithWordList();
     void UpdateWordListItem(const QString &OldName, const QString &NewName, qint32 TypeIndex);
     void TryToPopupList(bool IsShowAbsolutely);
+    void catchUpWords() { m_popup.catchUp(); }
     bool isWordListShown() const { return m_popup.isShown(); }
     bool wordListKey(qint16 keyCode) { return m_popup.key(keyCode); }
 

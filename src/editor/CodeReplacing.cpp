@@ -110,7 +110,7 @@ void replaceInColours(RichTextBox &box, const QList<TextPiece> &pieces, const QS
         texts.append(coloured.on(piece.isComment));
 
     const auto finish = [&] {
-        if (threadPart<CodeWordList>().index().isEmpty())
+        if (threadWordList().index().isEmpty())
             return; // nothing to tell words by
         Finishing finishing(box);
         qsizetype shift = 0;

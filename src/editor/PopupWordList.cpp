@@ -4,7 +4,7 @@
 #include "editor/WordInBox.h"
 #include "editor/rules/KeyRules.h"
 #include "editor/rules/colouring/EditorState.h"
-#include "editor/rules/language/CodeWordList.h"
+#include "editor/rules/colouring/ThreadColouring.h"
 #include "editor/rules/language/Vocabulary.h"
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/ListItem.h>
@@ -91,10 +91,18 @@ void PopupWordList::refill()
     if (!m_hasList)
         return;
     close();
-    m_words = PopupWords(threadPart<CodeWordList>().index(), threadPart<Vocabulary>(),
+    const CodeWordList &known = threadWordList();
+    m_taken = known.changes();
+    m_words = PopupWords(known.index(), threadPart<Vocabulary>(),
                          threadPart<EditorState>().EditorSettings);
     m_list.setRows(rowsOf(m_words));
     m_list.fitColumns();
+}
+
+void PopupWordList::catchUp()
+{
+    if (m_hasList && !m_isShown && threadWordList().changes() != m_taken)
+        refill();
 }
 
 void PopupWordList::open()

@@ -28,6 +28,9 @@ public:
 
     // Takes the words of the thread's index.
     void refill();
+
+    // The same if the index has changed since. What is open stays as it is.
+    void catchUp();
     const PopupWords &words() const { return m_words; }
 
     bool isShown() const { return m_isShown; }
@@ -63,6 +66,7 @@ private:
     PopupWords m_words;
     bool m_hasList = false;
     bool m_isShown = false;
+    quint64 m_taken = 0;    // the index's changes that are in the list
     qint32 m_wordStart = 0; // of the word that the list is open for
 };
 

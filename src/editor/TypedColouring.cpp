@@ -42,7 +42,7 @@ TypedColouring::TypedColouring(RichTextBox &box)
 void TypedColouring::finishLine(qint32 line)
 {
     // Without known words there is nothing to tell words by.
-    if (m_box.isComposing() || threadPart<CodeWordList>().index().isEmpty())
+    if (m_box.isComposing() || threadWordList().index().isEmpty())
         return;
     m_box.recolour(m_box.lineStart(line), finishedLine(threadColouring(), m_box.lineText(line),
                                                        threadPart<EditorState>().EditorSettings));

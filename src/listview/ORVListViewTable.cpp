@@ -61,6 +61,7 @@ void ORVListView::SetImage(bool Busy)
 
 ListItems *ORVListView::ListItems() const
 {
+    d->editor->catchUpWords();
     return d->list->ListItems();
 }
 
@@ -77,6 +78,7 @@ void ORVListView::UpdateSubItems(const QString &Value, const QString &TagValue, 
 ListItem *ORVListView::FindItem(const QString &sz, qint32 Where, qint32 Index,
                                 qint32 fPartial) const
 {
+    d->editor->catchUpWords();
     return d->list->FindItem(sz, Where, Index, fPartial);
 }
 

@@ -130,6 +130,8 @@ std::optional<Error> callLate(QObject &component, const MemberTable &members, co
         return error;
     } catch (const std::exception &error) {
         return failure(UnexpectedFailure, place, QString::fromUtf8(error.what()));
+    } catch (...) {
+        return failure(UnexpectedFailure, place, u"Unknown failure"_s);
     }
     return std::nullopt;
 }

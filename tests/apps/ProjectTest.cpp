@@ -348,6 +348,9 @@ TEST(Project, RefusesNamesThatCannotBeUsed)
     EXPECT_EQ(numberOf(dsTimer, 0, u"x"_s), qint32{NameNotUsable});
     EXPECT_FALSE(project.hasNewNames());
     EXPECT_EQ(numberOf(dsInput, 0, u"i1"_s), 0); // another letter case of its own
+    EXPECT_EQ(numberOf(dsInput, 0, u"Maß"_s), 0);
+    EXPECT_EQ(numberOf(dsInput, 1, u"MASS"_s), qint32{NameNotUsable});
+    EXPECT_EQ(project.points(dsInput)->Count(), 2);
 }
 
 TEST(Project, DoesNotWriteNamesIntoAFileThatIsAnotherOne)

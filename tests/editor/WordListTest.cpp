@@ -335,6 +335,55 @@ private Q_SLOTS:
         QCOMPARE(host.wordList().ListItems()->Count(), rows - 1);
     }
 
+    void readyCollectionsAreFollowed()
+    {
+        EditorHost host;
+        host.inputs.Add(u"Zone1"_s);
+        QVERIFY(host.list->GetColorText(u"zone1"_s).endsWith(u"\\cf4 Zone1}"_s));
+        host.setText(u"zon|"_s);
+        popUp(host);
+        QCOMPARE(chosen(host), u"Zone1"_s);
+        host.key(Qt::Key_Return);
+        QCOMPARE(host.marked(), u"Zone1|"_s);
+        QCOMPARE(host.colourAt(0), 0x0000FF);
+
+        host.inputs.Remove(u"Zone1"_s);
+        host.variables.Add(u"Zone1"_s);
+        popUp(host); // as a known word
+        QVERIFY(!isOpen(host));
+        QCOMPARE(host.colourAt(0), 0xFF0000);
+        host.variables.Clear();
+        QVERIFY_THROWS_EXCEPTION(Error, host.list->ListItems()->Item(u"Zone1"_s));
+        QVERIFY(!host.list->FindItem(u"Var1"_s));
+        host.outputs.Add(u"Zone2"_s);
+        QVERIFY(host.list->FindItem(u"Zone2"_s));
+    }
+
+    void typingFollowsReadyCollections()
+    {
+        EditorHost host;
+        host.setText(u"|"_s);
+        host.inputs.Add(u"Zone1"_s);
+        host.type(u"zone1 "_s);
+        QCOMPARE(host.marked(), u"Zone1 |"_s);
+        QCOMPARE(host.colourAt(0), 0x0000FF);
+    }
+
+    void whatIsOpenStaysAndIsFollowedWhenItOpensNext()
+    {
+        EditorHost host;
+        host.setText(u"zon|"_s);
+        popUp(host);
+        const qint32 rows = host.wordList().ListItems()->Count();
+        host.inputs.Add(u"Zone1"_s);
+        QVERIFY(isOpen(host));
+        QCOMPARE(host.list->ListItems()->Count(), rows);
+        popUp(host);
+        popUp(host);
+        QVERIFY(isOpen(host));
+        QCOMPARE(chosen(host), u"Zone1"_s);
+    }
+
     void anEmptyIndexDoesNoHarm()
     {
         ORVListView list;

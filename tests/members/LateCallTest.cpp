@@ -153,6 +153,7 @@ TEST_F(LateCall, ReturnsTheNumberOfARaisedError)
     EXPECT_EQ(error->Source(), u"Gauge.Fail"_s);
     EXPECT_EQ(error->Description(), u"Failed"_s);
     EXPECT_EQ(result, QVariant(5));
+    EXPECT_EQ(call(u"BreakOddly"_s), UnexpectedFailure);
     EXPECT_EQ(call(u"Break"_s), UnexpectedFailure);
     EXPECT_EQ(error->Description(), u"broken"_s);
 }

@@ -18,6 +18,7 @@ const ORVTListview::MemberTable &Gauge::members()
             method<&Gauge::Doubled>(u"Doubled", u"Value", optional(u"Log"), optional(out(u"Half"))),
             method<&Gauge::Fail>(u"Fail", u"Number"),
             method<&Gauge::Break>(u"Break"),
+            method<&Gauge::BreakOddly>(u"BreakOddly"),
             method<&Gauge::Weight>(u"Weight", u"Value"),
             raises<&Gauge::Click>(1, u"Click"),
             raises<&Gauge::BeforeEdit>(2, u"BeforeEdit", u"Cancel", u"Text"),

@@ -43,6 +43,7 @@ public:
         throw ORVTListview::Error(number, QStringLiteral("Gauge.Fail"), QStringLiteral("Failed"));
     }
     void Break() { throw std::runtime_error("broken"); }
+    void BreakOddly() { throw 42; }
     qint16 Weight(double value) const { return static_cast<qint16>(value); }
 
 Q_SIGNALS:

@@ -224,7 +224,9 @@ public:
     // --- Known words ---
 
     // Rebuilds the index of known words from the vocabulary, and in code mode the
-    // pop-up list. Text already shown keeps its colours.
+    // pop-up list. Text already shown keeps its colours. After it both follow the
+    // changes of PointLists by themselves. Raises Error and keeps the index when a
+    // collection of the host fails.
     Q_INVOKABLE void RefillListviewWithWordList();
 
     // Renames one word, or adds NewName when OldName is not known as a word of the

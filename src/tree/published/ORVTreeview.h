@@ -107,7 +107,7 @@ public:
     // Hands over the project's points. The form and the collections are kept by
     // reference and may be null; the host owns them and may destroy them at any
     // time. Refill the word index afterwards
-    // (ORVListView::RefillListviewWithWordList).
+    // (ORVListView::RefillListviewWithWordList); PointLists need it only once.
     Q_INVOKABLE void SetCollectionRenamable(QWidget *fParent,
                                             ORVTListview::PointCollection *ColVars,
                                             ORVTListview::PointCollection *ColConsts,
@@ -116,8 +116,9 @@ public:
                                             ORVTListview::PointCollection *ColNvis);
 
     // Families of numbered names, kept by reference; null for none. They become
-    // reserved words, and the word index is refilled. Raises Error (Overflow) and
-    // changes nothing when a family has more than 100,000 names.
+    // reserved words, and the word index is refilled. Raises Error and changes nothing
+    // when a family has more than 100,000 names (Overflow) or the collection fails; and
+    // Error when a collection of points does, which keeps the index.
     Q_INVOKABLE void setStringIndexCollection(ORVTListview::IndexedNameCollection *Names);
 
     // How many points there are of each kind. Kept for hosts; nothing here reads them.

@@ -1,5 +1,6 @@
 #include "editor/rules/colouring/LineColouring.h"
 
+#include "base/TextRules.h"
 #include "editor/rules/colouring/ColourTable.h"
 #include "editor/rules/language/CodeText.h"
 
@@ -23,7 +24,8 @@ public:
                        : shownColour(colourOfSlot(run.colourIndex, m_settings));
         colourUpTo(run.offset + run.length);
         const QStringView typed = QStringView(m_result.text).sliced(run.offset, run.length);
-        if (typed.compare(run.shown, Qt::CaseInsensitive) == 0)
+        // Only letter case may change, so a listed spelling of another length stays out.
+        if (typed.size() == run.shown.size() && isSameWord(typed, run.shown))
             m_result.text.replace(run.offset, run.length, run.shown.data(), run.shown.size());
     }
     void blank() override {}

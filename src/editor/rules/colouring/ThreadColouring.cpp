@@ -5,9 +5,16 @@
 
 namespace ORVTListview {
 
+CodeWordList &threadWordList()
+{
+    auto &words = threadPart<CodeWordList>();
+    words.follow(threadPart<Vocabulary>());
+    return words;
+}
+
 ColourEngine threadColouring()
 {
-    return {threadPart<CodeWordList>(), threadPart<Messages>().service()};
+    return {threadWordList(), threadPart<Messages>().service()};
 }
 
 void refillThreadWordList()

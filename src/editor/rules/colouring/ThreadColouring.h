@@ -4,10 +4,14 @@
 
 namespace ORVTListview {
 
+// The thread's word index, with what the ready collections hold now.
+ORVT_CORE_EXPORT CodeWordList &threadWordList();
+
 // The colouring that this thread's vocabulary and messages give.
 ORVT_CORE_EXPORT ColourEngine threadColouring();
 
-// Fills the thread's word index from its vocabulary.
+// Fills the thread's word index from its vocabulary. Raises Error and changes nothing
+// when a collection of the host fails.
 ORVT_CORE_EXPORT void refillThreadWordList();
 
 } // namespace ORVTListview

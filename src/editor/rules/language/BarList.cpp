@@ -18,7 +18,7 @@ bool BarList::contains(QStringView word) const
     const bool isEntry = !word.isEmpty() && !word.contains(u'|');
     if (isEntry)
         return m_folded.contains(foldedCase(word));
-    return m_text.contains(u'|' + word.toString() + u'|', Qt::CaseInsensitive);
+    return foldedCase(m_text).contains(u'|' + foldedCase(word) + u'|');
 }
 
 } // namespace ORVTListview

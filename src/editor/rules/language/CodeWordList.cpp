@@ -1,43 +1,126 @@
 #include "editor/rules/language/CodeWordList.h"
 
 #include "editor/rules/language/Vocabulary.h"
+#include "shared/points/HostPoints.h"
+
+#include <algorithm>
 
 namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-void addPoints(const HostReference<PointCollection> &reference, qint32 colour, WordIndex &index)
+struct Kind
 {
-    const PointCollection *points = reference.get();
-    const qint32 count = points ? points->Count() : 0;
-    for (qint32 i = 1; i <= count; ++i) {
-        if (const std::optional<Point> point = points->Item(i))
-            index.add(point->Name, colour);
-    }
+    HostReference<PointCollection> Vocabulary::Collections::*points;
+    qint32 colour;
+};
+
+// In the order of adding.
+constexpr std::array kindsOfPoints{
+    Kind{&Vocabulary::Collections::constants, ConstantColour},
+    Kind{&Vocabulary::Collections::variables, VariableColour},
+    Kind{&Vocabulary::Collections::inputs, InputColour},
+    Kind{&Vocabulary::Collections::outputs, OutputColour},
+    Kind{&Vocabulary::Collections::nvis, NviColour},
+};
+
+const HostReference<PointCollection> &pointsOf(std::size_t kind, const Vocabulary &vocabulary)
+{
+    return vocabulary.collections().*kindsOfPoints[kind].points;
 }
 
-void addWords(const BarList &list, WordIndex &index)
+QStringList namesOf(const HostReference<PointCollection> &points)
 {
-    for (const QString &word : list.words())
-        index.add(word, ReservedWordColour);
+    QStringList names;
+    for (const Point &point : HostPoints::read(points, u"RefillListviewWithWordList"_s))
+        names.append(point.Name);
+    return names;
+}
+
+QStringList reservedWords(const Vocabulary &vocabulary)
+{
+    return Vocabulary::KeywordList().words() + Vocabulary::TimeWordList().words() +
+           vocabulary.FunctionWordList().words() + Vocabulary::FanInWordList().words() +
+           vocabulary.IndexedNameList().words();
 }
 
 } // namespace
 
 void CodeWordList::FillCodeWordList(const Vocabulary &vocabulary)
 {
+    Choice all{};
+    all.fill(true);
+    refill(all, vocabulary, reservedWords(vocabulary));
+    m_isFilled = true;
+}
+
+void CodeWordList::follow(const Vocabulary &vocabulary)
+{
+    Choice stale{};
+    for (std::size_t kind = 0; m_isFilled && kind < kinds; ++kind)
+        stale[kind] = isStale(kind, vocabulary);
+    if (std::find(stale.begin(), stale.end(), true) == stale.end())
+        return;
+    try {
+        refill(stale, vocabulary, listed(ReservedWordColour));
+    } catch (const Error &) {
+        noteContents(stale, vocabulary); // a heir that fails is not asked at every word
+    }
+}
+
+// A host's own collection does not tell of its changes: its names stay until a refill.
+bool CodeWordList::isStale(std::size_t kind, const Vocabulary &vocabulary) const
+{
+    const HostReference<PointCollection> &points = pointsOf(kind, vocabulary);
+    const Contents &then = m_read[kind];
+    if (const KeyedCollection<Point> *now = HostPoints::contents(points))
+        return !then || !then->isSharedWith(*now);
+    return then && !points;
+}
+
+void CodeWordList::noteContents(const Choice &which, const Vocabulary &vocabulary)
+{
+    for (std::size_t kind = 0; kind < kinds; ++kind) {
+        if (!which[kind])
+            continue;
+        const auto *contents = HostPoints::contents(pointsOf(kind, vocabulary));
+        m_read[kind] = contents ? Contents(*contents) : std::nullopt;
+    }
+}
+
+// Reads everything first: a failure leaves the index as it was.
+void CodeWordList::refill(const Choice &which, const Vocabulary &vocabulary,
+                          const QStringList &reserved)
+{
+    std::array<QStringList, kinds> names;
+    for (std::size_t kind = 0; kind < kinds; ++kind)
+        names[kind] =
+            which[kind] ? namesOf(pointsOf(kind, vocabulary)) : listed(kindsOfPoints[kind].colour);
+    noteContents(which, vocabulary);
     m_index.clear();
+    for (std::size_t kind = 0; kind < kinds; ++kind)
+        addWords(names[kind], kindsOfPoints[kind].colour);
+    addWords(reserved, ReservedWordColour);
     m_current = -1;
-    const Vocabulary::Collections &points = vocabulary.collections();
-    addPoints(points.constants, ConstantColour, m_index);
-    addPoints(points.variables, VariableColour, m_index);
-    addPoints(points.inputs, InputColour, m_index);
-    addPoints(points.outputs, OutputColour, m_index);
-    addPoints(points.nvis, NviColour, m_index);
-    addWords(Vocabulary::KeywordList(), m_index);
-    addWords(Vocabulary::TimeWordList(), m_index);
-    addWords(vocabulary.FunctionWordList(), m_index);
-    addWords(Vocabulary::FanInWordList(), m_index);
-    addWords(vocabulary.IndexedNameList(), m_index);
+    ++m_changes;
+}
+
+void CodeWordList::addWords(const QStringList &words, qint32 colour)
+{
+    for (const QString &word : words)
+        m_index.add(word, colour);
+}
+
+QStringList CodeWordList::listed(qint32 colour) const
+{
+    QStringList words;
+    for (qsizetype i = 0; i < m_index.count(); ++i) {
+        if (m_index.at(i).data == colour)
+            words.append(m_index.at(i).text);
+    }
+    return words;
 }
 
 void CodeWordList::UpdateWordListItem(const QString &OldName, const QString &NewName,
@@ -48,8 +131,10 @@ void CodeWordList::UpdateWordListItem(const QString &OldName, const QString &New
     if (style.ColourIndex == AutomaticColour || NewName.isEmpty())
         return;
     m_index.remove(OldName, style.ColourIndex);
+    m_index.remove(NewName, style.ColourIndex); // a ready collection may have it already
     m_index.add(NewName, style.ColourIndex);
     m_current = -1;
+    ++m_changes;
 }
 
 bool CodeWordList::FindInWordList(QStringView Text, bool Exact)

@@ -1,7 +1,7 @@
 #include "editor/rules/language/Vocabulary.h"
 
 #include "base/TextRules.h"
-#include "shared/points/NumberFormat.h"
+#include "shared/points/HostPoints.h"
 #include <ORVTListview/Error.h>
 
 #include <array>
@@ -12,25 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 mostNamesOfAFamily = 100'000;
-
 QString baseFunctionWords()
 {
     return u"|AVERAGE|SWITCH|HISEL|LIMIT|LOWSEL|"_s;
-}
-
-void appendFamily(const IndexedName &family, QString &text)
-{
-    const qint64 lower = family.LowerBound();
-    const qint64 upper = family.UpperBound();
-    if (upper - lower + 1 > mostNamesOfAFamily)
-        throw Error(Overflow, u"StringIndexCollection"_s,
-                    u"\"%1\" has more than %2 names"_s.arg(family.Name(),
-                                                           QString::number(mostNamesOfAFamily)));
-    const QString name = family.Name();
-    const QString format = family.NumberFormat();
-    for (qint64 i = lower; i <= upper; ++i)
-        text += name + formatNumber(static_cast<qint32>(i), format) + u'|';
 }
 
 } // namespace
@@ -76,14 +60,12 @@ void Vocabulary::resetFunctionWords()
 
 void Vocabulary::setIndexedNames(IndexedNameCollection *names)
 {
+    const HostReference<IndexedNameCollection> families(names); // may go while it is read
     QString text = u"|"_s;
-    const qint32 count = names ? names->Count() : 0;
-    for (qint32 i = 1; i <= count; ++i) {
-        if (const IndexedName *family = names->Item(i))
-            appendFamily(*family, text);
-    }
+    for (const QString &name : HostPoints::read(families, u"StringIndexCollection"_s))
+        text += name + u'|';
     m_indexedNames = BarList(text);
-    m_indexedNameFamilies = names;
+    m_indexedNameFamilies = families;
 }
 
 ClassifiedWord Vocabulary::classify(QStringView word) const
@@ -106,8 +88,7 @@ ClassifiedWord Vocabulary::classify(QStringView word) const
                              Lookup{m_collections.outputs, WordClass::Output},
                              Lookup{m_collections.variables, WordClass::Variable}};
     for (const Lookup &lookup : lookups) {
-        const PointCollection *points = lookup.points.get();
-        if (const std::optional<Point> found = points ? points->Find(upper) : std::nullopt)
+        if (const std::optional<Point> found = HostPoints::find(lookup.points, text))
             return {lookup.wordClass, found->Name};
     }
 

@@ -52,8 +52,7 @@ public:
     void setCollections(const Collections &collections) { m_collections = collections; }
 
     // Rebuilds IndexedNameList from the families; null counts as empty. Raises
-    // Error (Overflow) and changes nothing when a family has more than 100,000
-    // names.
+    // Error and changes nothing when they cannot be read (HostPoints).
     void setIndexedNames(IndexedNameCollection *names);
     IndexedNameCollection *indexedNames() const { return m_indexedNameFamilies.get(); }
 

@@ -2,8 +2,6 @@
 
 #include "base/TextRules.h"
 
-#include <QtCore/QVarLengthArray>
-
 #include <algorithm>
 #include <bit>
 
@@ -100,10 +98,10 @@ qsizetype WordIndex::findExact(QStringView word) const
 {
     sort();
     if (m_entries.empty() || word.size() > m_longest)
-        return -1;
-    QVarLengthArray<char16_t, 64> buffer(word.size());
-    foldCase(word, buffer.data());
-    const QStringView folded(buffer.data(), word.size());
+        return -1; // folding shortens no text
+    FoldedText buffer;
+    foldCase(word, buffer);
+    const QStringView folded(buffer.data(), buffer.size());
     const quint32 hash = hashOf(folded);
     const std::size_t mask = m_slots.size() - 1;
     for (std::size_t i = hash & mask; m_slots[i].position >= 0; i = (i + 1) & mask) {

@@ -23,10 +23,13 @@ class KeyedCollection
 {
 public:
     qint32 Count() const { return static_cast<qint32>(m_entries.size()); }
-    bool Contains(const QString &Key) const { return m_positions.contains(Key.toUpper()); }
+    bool Contains(const QString &Key) const { return m_positions.contains(folded(Key)); }
 
     const T &Item(qint32 Index) const { return m_entries.at(position(Index, "Item")).item; }
     const T &Item(const QString &Key) const { return m_entries.at(position(Key, "Item")).item; }
+
+    // The item under the key; null if there is none. Valid until the next change.
+    const T *find(const QString &Key) const;
 
     // Keys are handed out as they were given to Add.
     QString Key(qint32 Index) const { return m_entries.at(position(Index, "Key")).key; }
@@ -41,6 +44,13 @@ public:
 
     void Clear();
 
+    // Whether this is a copy of the other one and neither has changed since. Looks at
+    // no item.
+    bool isSharedWith(const KeyedCollection &other) const
+    {
+        return m_entries.isSharedWith(other.m_entries);
+    }
+
     friend bool operator==(const KeyedCollection &a, const KeyedCollection &b)
     {
         return a.m_entries == b.m_entries;
@@ -54,6 +64,9 @@ private:
 
         friend bool operator==(const Entry &, const Entry &) = default;
     };
+
+    // In this form texts that differ in letter case only are equal.
+    static QString folded(const QString &key) { return key.toUpper(); }
 
     // Positions inside are counted from 0.
     qsizetype position(qint32 index, const char *member) const;
@@ -81,12 +94,19 @@ QStringList KeyedCollection<T>::Keys() const
 }
 
 template <typename T>
+const T *KeyedCollection<T>::find(const QString &Key) const
+{
+    const auto found = m_positions.constFind(folded(Key));
+    return found == m_positions.cend() ? nullptr : &m_entries.at(*found).item;
+}
+
+template <typename T>
 void KeyedCollection<T>::Add(T Item, const QString &Key)
 {
     if (Contains(Key))
         throw error(InvalidCall, "Add",
                     QStringLiteral("The key \"%1\" is in use already").arg(Key));
-    m_positions.insert(Key.toUpper(), m_entries.size());
+    m_positions.insert(folded(Key), m_entries.size());
     m_entries.append(Entry{Key, std::move(Item)});
 }
 
@@ -108,7 +128,7 @@ qsizetype KeyedCollection<T>::position(qint32 index, const char *member) const
 template <typename T>
 qsizetype KeyedCollection<T>::position(const QString &key, const char *member) const
 {
-    const auto found = m_positions.constFind(key.toUpper());
+    const auto found = m_positions.constFind(folded(key));
     if (found == m_positions.cend())
         throw error(InvalidCall, member, QStringLiteral("There is no key \"%1\"").arg(key));
     return *found;
@@ -117,10 +137,10 @@ qsizetype KeyedCollection<T>::position(const QString &key, const char *member) c
 template <typename T>
 void KeyedCollection<T>::removeAt(qsizetype removed)
 {
-    m_positions.remove(m_entries.at(removed).key.toUpper());
+    m_positions.remove(folded(m_entries.at(removed).key));
     m_entries.removeAt(removed);
     for (qsizetype i = removed; i < m_entries.size(); ++i)
-        m_positions[m_entries.at(i).key.toUpper()] = i;
+        m_positions[folded(m_entries.at(i).key)] = i;
 }
 
 } // namespace ORVTListview

@@ -2,9 +2,8 @@
 
 #include <ORVTListview/CoreExport.h>
 #include <ORVTListview/HostObject.h>
+#include <ORVTListview/KeyedCollection.h>
 
-#include <QtCore/QHash>
-#include <QtCore/QList>
 #include <QtCore/QString>
 
 #include <optional>
@@ -40,7 +39,7 @@ public:
 };
 
 // A ready collection: keeps the order of adding, finds by name without regard to
-// case.
+// case. Editors follow its changes by themselves.
 class ORVT_CORE_EXPORT PointList : public PointCollection
 {
 public:
@@ -62,8 +61,9 @@ public:
     std::optional<Point> Find(const QString &Key) const override;
 
 private:
-    QList<Point> m_points;
-    QHash<QString, qsizetype> m_positions; // upper-case name to place in m_points
+    friend class HostPoints;
+
+    KeyedCollection<Point> m_points; // by name
 };
 
 } // namespace ORVTListview

@@ -41,6 +41,16 @@ TEST(FinishedLine, TakesColoursAndListedSpelling)
     EXPECT_EQ(line.runs, (QList<ColouredText::Run>{{3, 0x000000}, {5, 0x0000FF}}));
 }
 
+TEST(FinishedLine, KeepsASpellingOfAnotherLength)
+{
+    Colouring colouring;
+    colouring.inputs.Add(u"Maß"_s);
+    colouring.refill();
+    const ColouredText line = finished(colouring, u"mass maß temp1"_s);
+    EXPECT_EQ(line.text, u"mass Maß Temp1"_s);
+    EXPECT_EQ(line.runs, (QList<ColouredText::Run>{{14, 0x0000FF}}));
+}
+
 TEST(FinishedLine, KeepsBlanksTabsAndBrackets)
 {
     Colouring colouring;

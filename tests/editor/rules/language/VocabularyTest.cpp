@@ -1,5 +1,6 @@
 #include "editor/rules/language/Vocabulary.h"
 #include "base/TextRules.h"
+#include "editor/rules/language/CodeWordList.h"
 #include "support/QtPrinters.h"
 #include "support/Raised.h"
 #include <ORVTListview/Error.h>
@@ -223,6 +224,29 @@ TEST(Classify, AMissingCollectionHoldsNothing)
         EXPECT_EQ(vocabulary.classify(u"Temp1").wordClass, WordClass::Constant);
     }
     EXPECT_EQ(vocabulary.classify(u"Temp1").wordClass, WordClass::Other);
+}
+
+TEST(Classify, AHostsOwnCollectionIsAskedForTheUpperCase)
+{
+    class Keyed final : public PointCollection
+    {
+    public:
+        qint32 Count() const override { return 1; }
+        std::optional<Point> Item(qint32) const override { return Point{u"Maß"_s, 0}; }
+        std::optional<Point> Find(const QString &key) const override
+        {
+            return key == u"MASS"_s ? Item(1) : std::nullopt;
+        }
+    };
+    Keyed points;
+    Vocabulary vocabulary;
+    vocabulary.setCollections({&points, nullptr, nullptr, nullptr, nullptr});
+    CodeWordList words;
+    words.FillCodeWordList(vocabulary);
+    for (const QString &word : {u"Maß"_s, u"maß"_s, u"MASS"_s, u"mass"_s, u"MAß"_s}) {
+        EXPECT_EQ(vocabulary.classify(word).shown, u"Maß"_s) << word.toStdString();
+        EXPECT_TRUE(words.FindInWordList(word, true)) << word.toStdString();
+    }
 }
 
 TEST(Classify, GivesTheColourOfTheClass)
