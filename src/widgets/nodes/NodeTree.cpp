@@ -2,8 +2,7 @@
 
 #include "base/EventGuard.h"
 #include "widgets/look/Twips.h"
-#include "widgets/nodes/NodeTreeParts.h"
-#include <ORVTListview/Error.h>
+#include "widgets/nodes/NodeTreeBody.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QPainter>
@@ -15,17 +14,6 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-NodeTreeParts::NodeTreeParts(NodeTree &owner)
-    : tree(owner)
-    , handles(*this)
-    , model(owner)
-    , choice(owner, model)
-    , nodes(*this)
-    , drag(owner, *owner.viewport())
-    , surface(*owner.viewport())
-{
-}
-
 QString NodeTree::nodeMimeType()
 {
     return u"application/x-orvtlistview-node"_s;
@@ -33,7 +21,7 @@ QString NodeTree::nodeMimeType()
 
 NodeTree::NodeTree(QWidget *parent)
     : QTreeView(parent)
-    , d(std::make_unique<NodeTreeParts>(*this))
+    , d(std::make_unique<NodeTreeBody>(*this))
 {
     setModel(&d->model);
     setUpLook();
@@ -69,7 +57,7 @@ void NodeTree::setUpConnections()
     connect(this, &QTreeView::expanded, this, noteFolded(true));
     connect(this, &QTreeView::collapsed, this, noteFolded(false));
     connect(&d->model, &NodeModel::checkedByUser, this,
-            [this](TreeNode *node) { d->checkedNode = d->handles.of(*node); });
+            [this](TreeNode *node) { d->checkedNode = handleOf(node); });
     connect(&d->delegate, &ReportDelegate::labelEntered, this, &NodeTree::noteLabel);
     connect(&d->slowClick, &SlowClick::clicked, this, [this] {
         EventGuard::run([this] {
@@ -109,31 +97,24 @@ NodeTree::Filling::~Filling()
     m_tree.d->model.endFilling();
 }
 
-Node *NodeTree::handleOf(const QModelIndex &index) const
+Node *NodeTree::handleOf(TreeNode *node) const
 {
-    return index.isValid() ? d->handles.of(d->model.nodeOf(index)) : nullptr;
+    return node ? d->handles.of(*node, static_cast<NodeTreeParts &>(*d)) : nullptr;
 }
 
-TreeNode *NodeTreeParts::nodeOf(const Node *node, const QString &source) const
+Node *NodeTree::handleOf(const QModelIndex &index) const
 {
-    if (!node)
-        return nullptr;
-    if (node->m_parts != this)
-        throw Error(InvalidCall, source, u"The node is another tree's"_s);
-    if (!node->isAlive())
-        throw Error(ObjectNotSet, source, u"The node has been removed"_s);
-    return node->m_node;
+    return index.isValid() ? handleOf(&d->model.nodeOf(index)) : nullptr;
 }
 
 Node *NodeTree::SelectedItem() const
 {
-    TreeNode *node = d->choice.selected();
-    return node ? d->handles.of(*node) : nullptr;
+    return handleOf(d->choice.selected());
 }
 
 void NodeTree::setSelectedItem(Node *Item)
 {
-    d->choice.select(d->nodeOf(Item, u"NodeTree.setSelectedItem"_s));
+    d->choice.select(Node::nodeOf(Item, *d, u"NodeTree.setSelectedItem"_s));
 }
 
 Node *NodeTree::HitTest(float X, float Y) const
@@ -182,7 +163,7 @@ Node *NodeTree::dropHighlight() const
 
 void NodeTree::setDropHighlight(Node *node)
 {
-    const TreeNode *marked = d->nodeOf(node, u"NodeTree.setDropHighlight"_s);
+    const TreeNode *marked = Node::nodeOf(node, *d, u"NodeTree.setDropHighlight"_s);
     const QModelIndex index = marked ? d->model.indexOf(*marked) : QModelIndex();
     if (index == d->dropHighlight)
         return;

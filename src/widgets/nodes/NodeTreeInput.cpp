@@ -5,7 +5,8 @@
 #include "widgets/input/MouseArguments.h"
 #include "widgets/input/RaisedKeys.h"
 #include "widgets/look/PlainToolTip.h"
-#include "widgets/nodes/NodeTreeParts.h"
+#include "widgets/nodes/NodeTree.h"
+#include "widgets/nodes/NodeTreeBody.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QDropEvent>
@@ -113,7 +114,7 @@ void NodeTree::letUser(const std::function<void()> &act, Node *pressed)
 // A node that is hidden by collapsing hands its selection up.
 void NodeTree::keepSelectionShown()
 {
-    for (const NodeTreeParts::Folded &folded : std::as_const(d->folded)) {
+    for (const NodeTreeBody::Folded &folded : std::as_const(d->folded)) {
         const TreeNode *chosen = d->choice.selected();
         if (!folded.expanded && folded.node->isAlive() && chosen &&
             chosen->isWithin(*folded.node->m_node))
@@ -125,7 +126,7 @@ void NodeTree::keepSelectionShown()
 bool NodeTree::raiseFolded()
 {
     const auto all = std::exchange(d->folded, {});
-    for (const NodeTreeParts::Folded &folded : all) {
+    for (const NodeTreeBody::Folded &folded : all) {
         const auto event = folded.expanded ? &NodeTree::Expand : &NodeTree::Collapse;
         if (folded.node->isAlive() && !raiseEvent(*this, event, folded.node))
             return false;
@@ -191,7 +192,7 @@ void NodeTree::toggleCurrent()
         return;
     TreeNode &node = d->model.nodeOf(current);
     d->model.setChecked(node, !node.checked);
-    raiseEvent(*this, &NodeTree::NodeCheck, d->handles.of(node));
+    raiseEvent(*this, &NodeTree::NodeCheck, handleOf(&node));
 }
 
 // Mouse.

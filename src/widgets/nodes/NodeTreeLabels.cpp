@@ -2,7 +2,8 @@
 // editor.
 
 #include "base/EventGuard.h"
-#include "widgets/nodes/NodeTreeParts.h"
+#include "widgets/nodes/NodeTree.h"
+#include "widgets/nodes/NodeTreeBody.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QScopeGuard>

@@ -3,6 +3,7 @@
 #include "widgets/nodes/NodePlace.h"
 #include "widgets/nodes/NodeTreeParts.h"
 #include <ORVTListview/Error.h>
+#include <ORVTListview/Node.h>
 
 namespace ORVTListview {
 
@@ -39,12 +40,12 @@ qint32 Nodes::Count() const
 
 Node *Nodes::Item(qint32 Index) const
 {
-    return m_parts.handles.of(nodeAt(m_parts.model, u"Nodes.Item"_s, Index));
+    return m_parts.handles.of(nodeAt(m_parts.model, u"Nodes.Item"_s, Index), m_parts);
 }
 
 Node *Nodes::Item(const QString &Key) const
 {
-    return m_parts.handles.of(nodeOfKey(m_parts.model, u"Nodes.Item"_s, Key));
+    return m_parts.handles.of(nodeOfKey(m_parts.model, u"Nodes.Item"_s, Key), m_parts);
 }
 
 bool Nodes::Contains(const QString &Key) const
@@ -56,18 +57,19 @@ Node *Nodes::Add(Node *Relative, NodeRelationship Relationship, const QString &K
                  const QString &Text, const QString &Image)
 {
     const QString member = u"Nodes.Add"_s;
-    TreeNode *relative = m_parts.nodeOf(Relative, member);
+    TreeNode *relative = Node::nodeOf(Relative, m_parts, member);
     if (m_parts.model.find(Key))
         throw Error(InvalidCall, member, u"The key \"%1\" is in use already"_s.arg(Key));
     const NodePlace place = NodePlace::of(m_parts.model, relative, Relationship);
-    return m_parts.handles.of(m_parts.model.add(*place.parent, place.row, Key, Text, Image));
+    return m_parts.handles.of(m_parts.model.add(*place.parent, place.row, Key, Text, Image),
+                              m_parts);
 }
 
 Node *Nodes::Add(const QString &Relative, NodeRelationship Relationship, const QString &Key,
                  const QString &Text, const QString &Image)
 {
     TreeNode &relative = nodeOfKey(m_parts.model, u"Nodes.Add"_s, Relative);
-    return Add(m_parts.handles.of(relative), Relationship, Key, Text, Image);
+    return Add(m_parts.handles.of(relative, m_parts), Relationship, Key, Text, Image);
 }
 
 void Nodes::Remove(qint32 Index)
