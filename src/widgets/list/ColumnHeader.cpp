@@ -78,12 +78,12 @@ void ColumnHeader::setAlignment(Qt::Alignment alignment)
 
 bool ColumnHeader::Visible() const
 {
-    return !m_parts->list.isColumnHidden(m_parts->model.positionOf(column("Visible")));
+    return !m_parts->view.isColumnHidden(m_parts->model.positionOf(column("Visible")));
 }
 
 void ColumnHeader::setVisible(bool Visible)
 {
-    m_parts->list.setColumnHidden(m_parts->model.positionOf(column("setVisible")), !Visible);
+    m_parts->view.setColumnHidden(m_parts->model.positionOf(column("setVisible")), !Visible);
 }
 
 } // namespace ORVTListview

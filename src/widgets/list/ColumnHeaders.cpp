@@ -1,6 +1,7 @@
 #include <ORVTListview/ColumnHeaders.h>
 
 #include "widgets/list/ReportListParts.h"
+#include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/Error.h>
 
 namespace ORVTListview {
@@ -38,12 +39,12 @@ qint32 ColumnHeaders::Count() const
 ColumnHeader *ColumnHeaders::Item(qint32 Index) const
 {
     checkIndex(u"ColumnHeaders.Item"_s, Index, Count());
-    return m_parts.handles.of(m_parts.model.column(Index - 1));
+    return m_parts.headers.of(m_parts.model.column(Index - 1), m_parts);
 }
 
 ColumnHeader *ColumnHeaders::Item(const QString &Key) const
 {
-    return m_parts.handles.of(columnOfKey(m_parts.model, u"ColumnHeaders.Item"_s, Key));
+    return m_parts.headers.of(columnOfKey(m_parts.model, u"ColumnHeaders.Item"_s, Key), m_parts);
 }
 
 ColumnHeader *ColumnHeaders::Add(qint32 Index, const QString &Key, const QString &Text, float Width,
@@ -60,7 +61,7 @@ ColumnHeader *ColumnHeaders::Add(qint32 Index, const QString &Key, const QString
     ReportColumn &column =
         m_parts.model.addColumn(position, Key, Text, Alignment & Qt::AlignHorizontal_Mask);
     m_parts.widths.setWidth(position, static_cast<double>(Width));
-    return m_parts.handles.of(column);
+    return m_parts.headers.of(column, m_parts);
 }
 
 void ColumnHeaders::Remove(qint32 Index)

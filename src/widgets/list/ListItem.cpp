@@ -140,12 +140,12 @@ void ListItem::setChecked(bool Checked)
 
 bool ListItem::Visible() const
 {
-    return !m_parts->list.isRowHidden(m_parts->model.positionOf(row("Visible")));
+    return !m_parts->view.isRowHidden(m_parts->model.positionOf(row("Visible")));
 }
 
 void ListItem::setVisible(bool Visible)
 {
-    m_parts->list.setRowHidden(m_parts->model.positionOf(row("setVisible")), !Visible);
+    m_parts->view.setRowHidden(m_parts->model.positionOf(row("setVisible")), !Visible);
 }
 
 void ListItem::EnsureVisible()

@@ -2,6 +2,7 @@
 
 #include "widgets/list/ReportListParts.h"
 #include <ORVTListview/Error.h>
+#include <ORVTListview/ListItem.h>
 
 #include <utility>
 
@@ -40,12 +41,12 @@ qint32 ListItems::Count() const
 ListItem *ListItems::Item(qint32 Index) const
 {
     checkIndex(u"ListItems.Item"_s, Index, Count());
-    return m_parts.handles.of(m_parts.model.row(Index - 1));
+    return m_parts.items.of(m_parts.model.row(Index - 1), m_parts);
 }
 
 ListItem *ListItems::Item(const QString &Key) const
 {
-    return m_parts.handles.of(rowOfKey(m_parts.model, u"ListItems.Item"_s, Key));
+    return m_parts.items.of(rowOfKey(m_parts.model, u"ListItems.Item"_s, Key), m_parts);
 }
 
 ListItem *ListItems::Add(qint32 Index, const QString &Key, const QString &Text)
@@ -59,7 +60,7 @@ ListItem *ListItems::Add(qint32 Index, const QString &Key, const QString &Text)
     content.key = Key;
     content.text = Text;
     const int position = Index == 0 ? Count() : Index - 1;
-    return m_parts.handles.of(m_parts.model.addRow(position, std::move(content)));
+    return m_parts.items.of(m_parts.model.addRow(position, std::move(content)), m_parts);
 }
 
 void ListItems::Remove(qint32 Index)

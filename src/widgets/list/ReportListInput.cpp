@@ -4,9 +4,10 @@
 #include "base/EventGuard.h"
 #include "widgets/input/MouseArguments.h"
 #include "widgets/input/RaisedKeys.h"
-#include "widgets/list/ReportListParts.h"
+#include "widgets/list/ReportListBody.h"
 #include "widgets/list/RowCopy.h"
 #include "widgets/look/PlainToolTip.h"
+#include <ORVTListview/ReportList.h>
 
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
@@ -195,7 +196,7 @@ void ReportList::toggleCurrent()
         return;
     ReportRow &row = d->model.row(current.row());
     d->model.setChecked(row, !row.content.checked);
-    raiseEvent(*this, &ReportList::ItemCheck, d->handles.of(row));
+    raiseEvent(*this, &ReportList::ItemCheck, itemOf(&row));
 }
 
 // Mouse.

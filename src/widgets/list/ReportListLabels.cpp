@@ -1,8 +1,9 @@
 // How the labels of a list are edited: the events around the view's own editor.
 
 #include "base/EventGuard.h"
-#include "widgets/list/ReportListParts.h"
+#include "widgets/list/ReportListBody.h"
 #include <ORVTListview/Error.h>
+#include <ORVTListview/ReportList.h>
 
 #include <QtCore/QPointer>
 #include <QtCore/QScopeGuard>
@@ -37,7 +38,7 @@ void ReportList::StartLabelEdit()
 // The editor is being closed while this is called; the event comes later.
 void ReportList::noteLabel(int position, const QString &text)
 {
-    d->labelItem = d->handles.of(d->model.row(position));
+    d->labelItem = itemOf(position);
     d->enteredLabel = text;
     QMetaObject::invokeMethod(this, &ReportList::finishLabelEdit, Qt::QueuedConnection);
 }

@@ -16,7 +16,8 @@ namespace ORVTListview {
 
 class ColumnHeaders;
 class ListItems;
-struct ReportListParts;
+struct ReportListBody;
+struct ReportRow;
 
 // A list of rows with columns: row text in the first, sub-items in the others. A
 // row is selected as a whole. X and Y are twips from the list's corner, indexes
@@ -205,8 +206,6 @@ protected:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
-    friend class RowChoice;
-
     using MouseSignal = void (ReportList::*)(qint16, qint16, float, float);
 
     // The model and the modes are the list's own affair.
@@ -218,6 +217,8 @@ private:
     void updateRowHeight();
     void showToolTip(const QHelpEvent &event);
     void followDrag(const QEvent &event);
+    ListItem *itemOf(ReportRow *row) const;
+    ListItem *itemOf(int position) const;
     ListItem *itemOf(const QModelIndex &index) const;
     bool isChosenLabel(const QModelIndex &index) const;
     bool raiseMouse(MouseSignal signal, const QMouseEvent &event);
@@ -232,7 +233,7 @@ private:
     void finishLabelEdit();
     void setLabel(ListItem &item, const QString &label);
 
-    std::unique_ptr<ReportListParts> d;
+    std::unique_ptr<ReportListBody> d;
 };
 
 } // namespace ORVTListview
