@@ -1,6 +1,6 @@
 #include <ORVTListview/ReportList.h>
 
-#include "base/EventGuard.h"
+#include "widgets/input/RaisedDrags.h"
 #include "widgets/list/ReportHeader.h"
 #include "widgets/list/ReportListBody.h"
 #include "widgets/list/RowCopy.h"
@@ -71,21 +71,11 @@ void ReportList::setUpConnections()
             [this](int position) { d->checkedItem = itemOf(position); });
     connect(
         &d->delegate, &ReportDelegate::labelEntered, this,
-        [this](const QModelIndex &label, const QString &text) { noteLabel(label.row(), text); });
-    connect(&d->slowClick, &SlowClick::clicked, this, [this] {
-        EventGuard::run([this] {
-            StartLabelEdit();
-            return true;
-        });
-    });
-    d->drag.setContent(
+        [this](const QModelIndex &label, const QString &text) { noteLabel(*itemOf(label), text); });
+    connect(&d->clicks.slow(), &SlowClick::clicked, this, &ReportList::StartLabelEdit);
+    d->surface.drag().setContent(
         [this](QMimeData &rows) { copyRows(*this, d->rowChoice.selectedPositions(), rows); });
-    connect(&d->drag, &DragEvents::OLECompleteDrag, this, &ReportList::OLECompleteDrag);
-    connect(&d->drag, &DragEvents::OLEDragDrop, this, &ReportList::OLEDragDrop);
-    connect(&d->drag, &DragEvents::OLEDragOver, this, &ReportList::OLEDragOver);
-    connect(&d->drag, &DragEvents::OLEGiveFeedback, this, &ReportList::OLEGiveFeedback);
-    connect(&d->drag, &DragEvents::OLESetData, this, &ReportList::OLESetData);
-    connect(&d->drag, &DragEvents::OLEStartDrag, this, &ReportList::OLEStartDrag);
+    raiseDrags(d->surface.drag(), *this);
 }
 
 void ReportList::updateRowHeight()
@@ -166,10 +156,7 @@ ListItem *ReportList::GetFirstVisible() const
 
 ListItem *ReportList::HitTest(float X, float Y) const
 {
-    const QPoint point(Twips::toPixelsX(static_cast<double>(X), *this),
-                       Twips::toPixelsY(static_cast<double>(Y), *this));
-    const QPoint inViewport = viewport()->mapFrom(this, point);
-    return viewport()->rect().contains(inViewport) ? itemOf(indexAt(inViewport)) : nullptr;
+    return itemOf(d->surface.indexAt(X, Y));
 }
 
 ListItem *ReportList::SelectedItem() const
@@ -217,9 +204,9 @@ void ReportList::Drag(qint32 Action)
     constexpr qint32 beginDrag = 1;
     constexpr qint32 cancelDrag = 2;
     if (Action == beginDrag)
-        d->drag.begin();
+        d->surface.drag().begin();
     else if (Action == cancelDrag)
-        d->drag.cancel();
+        d->surface.drag().cancel();
 }
 
 void ReportList::fitColumns()

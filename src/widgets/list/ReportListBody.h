@@ -1,10 +1,10 @@
 #pragma once
 
-#include "widgets/input/DragEvents.h"
-#include "widgets/input/EventSurface.h"
 #include "widgets/list/ReportListParts.h"
+#include "widgets/view/LabelEdit.h"
 #include "widgets/view/ReportDelegate.h"
-#include "widgets/view/SlowClick.h"
+#include "widgets/view/ViewClicks.h"
+#include "widgets/view/ViewSurface.h"
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/ListItems.h>
 
@@ -17,28 +17,22 @@ struct ReportListBody : ReportListParts
         : ReportListParts(shownBy)
         , listItems(*this)
         , columnHeaders(*this)
-        , drag(shownBy, *shownBy.viewport())
-        , surface(*shownBy.viewport())
+        , surface(shownBy, delegate)
+        , clicks(shownBy)
     {
     }
 
     ListItems listItems;
     ColumnHeaders columnHeaders;
     ReportDelegate delegate;
-    DragEvents drag;
-    EventSurface surface;
-    SlowClick slowClick;
+    ViewSurface surface;
+    ViewClicks clicks;
+    LabelEdit labels;
 
     bool copies = true;
     bool editsLabels = true;
-    bool clickAwaited = false;             // the left button went down and has not come up
-    bool focusedByMouse = false;           // by the press at hand
-    QPersistentModelIndex pressed;         // where it went down
     ListItem *checkedItem = nullptr;       // by the event at hand
     ColumnHeader *clickedColumn = nullptr; // likewise
-    bool announcesEdit = false;            // BeforeLabelEdit is being raised
-    ListItem *labelItem = nullptr;         // the one whose label was entered
-    QString enteredLabel;
 };
 
 } // namespace ORVTListview

@@ -2,6 +2,7 @@
 
 #include "widgets/nodes/NodePlace.h"
 #include "widgets/nodes/NodeTreeParts.h"
+#include "widgets/view/Lookup.h"
 #include <ORVTListview/Error.h>
 
 namespace ORVTListview {
@@ -55,8 +56,7 @@ void Node::setKey(const QString &Key)
 {
     TreeNode &held = node("setKey");
     const TreeNode *user = m_parts->model.find(Key);
-    if (user && user != &held)
-        throw Error(InvalidCall, u"Node.setKey"_s, u"The key \"%1\" is in use already"_s.arg(Key));
+    Lookup::checkKeyIsFree(u"Node.setKey"_s, Key, user && user != &held);
     m_parts->model.setKey(held, Key);
 }
 

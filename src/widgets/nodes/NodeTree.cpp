@@ -1,7 +1,6 @@
 #include "widgets/nodes/NodeTree.h"
 
-#include "base/EventGuard.h"
-#include "widgets/look/Twips.h"
+#include "widgets/input/RaisedDrags.h"
 #include "widgets/nodes/NodeTreeBody.h"
 
 #include <QtCore/QMimeData>
@@ -58,27 +57,20 @@ void NodeTree::setUpConnections()
     connect(this, &QTreeView::collapsed, this, noteFolded(false));
     connect(&d->model, &NodeModel::checkedByUser, this,
             [this](TreeNode *node) { d->checkedNode = handleOf(node); });
-    connect(&d->delegate, &ReportDelegate::labelEntered, this, &NodeTree::noteLabel);
-    connect(&d->slowClick, &SlowClick::clicked, this, [this] {
-        EventGuard::run([this] {
-            StartLabelEdit();
-            return true;
-        });
-    });
+    connect(&d->delegate, &ReportDelegate::labelEntered, this,
+            [this](const QModelIndex &label, const QString &text) {
+                noteLabel(*handleOf(label), text);
+            });
+    connect(&d->clicks.slow(), &SlowClick::clicked, this, &NodeTree::StartLabelEdit);
 }
 
 void NodeTree::setUpDrag()
 {
-    d->drag.setContent([this](QMimeData &content) {
+    d->surface.drag().setContent([this](QMimeData &content) {
         if (const Node *node = draggedNode())
             content.setData(nodeMimeType(), node->Key().toUtf8());
     });
-    connect(&d->drag, &DragEvents::OLECompleteDrag, this, &NodeTree::OLECompleteDrag);
-    connect(&d->drag, &DragEvents::OLEDragDrop, this, &NodeTree::OLEDragDrop);
-    connect(&d->drag, &DragEvents::OLEDragOver, this, &NodeTree::OLEDragOver);
-    connect(&d->drag, &DragEvents::OLEGiveFeedback, this, &NodeTree::OLEGiveFeedback);
-    connect(&d->drag, &DragEvents::OLESetData, this, &NodeTree::OLESetData);
-    connect(&d->drag, &DragEvents::OLEStartDrag, this, &NodeTree::OLEStartDrag);
+    raiseDrags(d->surface.drag(), *this);
 }
 
 Nodes *NodeTree::Nodes() const
@@ -119,21 +111,19 @@ void NodeTree::setSelectedItem(Node *Item)
 
 Node *NodeTree::HitTest(float X, float Y) const
 {
-    const QPoint point(Twips::toPixelsX(static_cast<double>(X), *this),
-                       Twips::toPixelsY(static_cast<double>(Y), *this));
-    return nodeAt(viewport()->mapFrom(this, point));
+    return handleOf(d->surface.indexAt(X, Y));
 }
 
 Node *NodeTree::nodeAt(QPoint place) const
 {
-    return viewport()->rect().contains(place) ? handleOf(indexAt(place)) : nullptr;
+    return handleOf(d->surface.indexAt(place));
 }
 
 void NodeTree::OLEDrag()
 {
     d->dragged = SelectedItem();
     if (d->dragged)
-        d->drag.begin();
+        d->surface.drag().begin();
 }
 
 Node *NodeTree::draggedNode() const
@@ -148,12 +138,12 @@ void NodeTree::setDraggable(std::function<bool(const Node &)> test)
 
 void NodeTree::setDragEffects(qint32 effects)
 {
-    d->drag.setAllowedEffects(effects);
+    d->surface.drag().setAllowedEffects(effects);
 }
 
 void NodeTree::setDropTarget(DropTarget *target)
 {
-    d->drag.setTarget(target);
+    d->surface.drag().setTarget(target);
 }
 
 Node *NodeTree::dropHighlight() const

@@ -169,18 +169,13 @@ protected Q_SLOTS:
 private:
     using QTreeView::setModel; // the tree has its own
 
-    using MouseSignal = void (NodeTree::*)(qint16, qint16, float, float);
-
     void setUpLook();
     void setUpConnections();
     void setUpDrag();
-    void showToolTip(const QHelpEvent &event);
-    void followDrag(const QEvent &event);
     Node *handleOf(TreeNode *node) const;
     Node *handleOf(const QModelIndex &index) const;
     bool isOnExpander(const QModelIndex &index, QPoint place) const;
     bool isChosenLabel(const QModelIndex &index, QPoint place) const;
-    bool raiseMouse(MouseSignal signal, const QMouseEvent &event);
     void act(QKeyEvent &event);
     bool runCommand(const QKeyEvent &event);
     void letUser(const std::function<void()> &act, Node *pressed = nullptr);
@@ -188,8 +183,7 @@ private:
     bool raiseFolded();
     void raiseNodeCheck();
     void toggleCurrent();
-    void noteLabel(const QModelIndex &index, const QString &text);
-    void finishLabelEdit();
+    void noteLabel(Node &node, const QString &text);
 
     std::unique_ptr<NodeTreeBody> d;
 };
