@@ -1,7 +1,6 @@
 #include "widgets/combo/ComboList.h"
 
 #include "widgets/combo/ComboEntries.h"
-#include "widgets/combo/ImageCombo.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
@@ -9,6 +8,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
 #include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QListView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
@@ -44,10 +44,12 @@ QPalette withFrameColour(const QColor &colour)
 
 } // namespace
 
-ComboList::ComboList(ImageCombo &combo, const ComboEntries &entries)
+ComboList::ComboList(QComboBox &combo, const ComboEntries &entries,
+                     std::function<bool(QPoint)> pressesArrow)
     : QFrame(&combo, Qt::Popup)
     , m_combo(combo)
     , m_entries(entries)
+    , m_pressesArrow(std::move(pressesArrow))
     , m_matches(entries)
     , m_view(new QListView(this))
     , m_surface(*this)
@@ -225,8 +227,7 @@ bool ComboList::followMouse(const QMouseEvent &event)
 void ComboList::mousePressEvent(QMouseEvent *event)
 {
     // A press on the arrow shall close the list, not open it again.
-    setAttribute(Qt::WA_NoMouseReplay,
-                 m_combo.isArrowAt(m_combo.mapFromGlobal(event->globalPosition().toPoint())));
+    setAttribute(Qt::WA_NoMouseReplay, m_pressesArrow(event->globalPosition().toPoint()));
     QFrame::mousePressEvent(event);
 }
 

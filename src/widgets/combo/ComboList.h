@@ -5,12 +5,13 @@
 
 #include <QtWidgets/QFrame>
 
+#include <functional>
+
+class QComboBox;
 class QListView;
 class QMouseEvent;
 
 namespace ORVTListview {
-
-class ImageCombo;
 
 // The list that drops down from an ImageCombo. The combo keeps the focus: keys
 // that come here go to it. Closes when the user presses elsewhere.
@@ -19,7 +20,9 @@ class ComboList : public QFrame
     Q_OBJECT
 
 public:
-    ComboList(ImageCombo &combo, const ComboEntries &entries);
+    // A press where pressesArrow says so, in global pixels, only closes the list.
+    ComboList(QComboBox &combo, const ComboEntries &entries,
+              std::function<bool(QPoint)> pressesArrow);
     ~ComboList() override;
 
     // Shows the entries that hold the text, all for an empty one, and marks that of
@@ -58,8 +61,9 @@ private:
     void announceCurrent();
     bool followMouse(const QMouseEvent &event);
 
-    ImageCombo &m_combo;
+    QComboBox &m_combo;
     const ComboEntries &m_entries;
+    std::function<bool(QPoint)> m_pressesArrow;
     ComboMatches m_matches;
     QListView *m_view;
     EventSurface m_surface;

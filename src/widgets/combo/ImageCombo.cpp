@@ -3,6 +3,7 @@
 #include "base/EventGuard.h"
 #include "widgets/combo/ImageComboAccess.h"
 #include "widgets/combo/ImageComboParts.h"
+#include "widgets/input/RaisedDrags.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>
 
@@ -20,27 +21,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QLineEdit &fieldOf(ImageCombo &combo)
+QAccessibleInterface *makeAccess(const QString &, QObject *object)
 {
-    combo.QComboBox::setEditable(true);
-    return *combo.lineEdit();
+    auto *combo = qobject_cast<ImageCombo *>(object);
+    if (!combo)
+        return nullptr;
+    return new ImageComboAccess(*combo, [combo]() -> QListView & { return *combo->listView(); });
 }
 
 } // namespace
 
-ImageComboParts::ImageComboParts(ImageCombo &owner)
-    : entries(new ComboEntries(&owner))
-    , list(new ComboList(owner, *entries))
-    , drag(owner, owner)
-    , field(fieldOf(owner))
-{
-}
-
 ImageCombo::ImageCombo(QWidget *parent)
     : QComboBox(parent)
 {
-    ImageComboAccess::install();
-    d = std::make_unique<ImageComboParts>(*this);
+    QAccessible::installFactory(makeAccess); // takes each but once
+    d = std::make_unique<ImageComboParts>(
+        *this, [this](QPoint global) { return isArrowAt(mapFromGlobal(global)); });
     QComboBox::setModel(d->entries);
     setUpField();
     setUpDrag();
@@ -81,12 +77,7 @@ void ImageCombo::setUpField()
 void ImageCombo::setUpDrag()
 {
     d->drag.setContent([this](QMimeData &dragged) { dragged.setText(text()); });
-    connect(&d->drag, &DragEvents::OLECompleteDrag, this, &ImageCombo::OLECompleteDrag);
-    connect(&d->drag, &DragEvents::OLEDragDrop, this, &ImageCombo::OLEDragDrop);
-    connect(&d->drag, &DragEvents::OLEDragOver, this, &ImageCombo::OLEDragOver);
-    connect(&d->drag, &DragEvents::OLEGiveFeedback, this, &ImageCombo::OLEGiveFeedback);
-    connect(&d->drag, &DragEvents::OLESetData, this, &ImageCombo::OLESetData);
-    connect(&d->drag, &DragEvents::OLEStartDrag, this, &ImageCombo::OLEStartDrag);
+    raiseDrags(d->drag, *this);
 }
 
 void ImageCombo::setImageList(const ImageList *images)

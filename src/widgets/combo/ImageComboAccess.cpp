@@ -1,37 +1,31 @@
 #include "widgets/combo/ImageComboAccess.h"
 
-#include "widgets/combo/ImageCombo.h"
-
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListView>
 
+#include <utility>
+
 namespace ORVTListview {
-namespace {
 
-QAccessibleInterface *makeAccess(const QString &, QObject *object)
-{
-    auto *combo = qobject_cast<ImageCombo *>(object);
-    return combo ? new ImageComboAccess(*combo) : nullptr;
-}
-
-} // namespace
-
-void ImageComboAccess::install()
-{
-    QAccessible::installFactory(makeAccess); // takes each but once
-}
-
-ImageComboAccess::ImageComboAccess(ImageCombo &combo)
+ImageComboAccess::ImageComboAccess(QComboBox &combo, std::function<QListView &()> list)
     : QAccessibleWidget(&combo, QAccessible::ComboBox)
     , m_combo(combo)
+    , m_list(std::move(list))
 {
 }
 
 QWidget *ImageComboAccess::childWidget(int index) const
 {
     if (index == 0)
-        return m_combo.listView();
+        return &m_list();
     return index == 1 ? m_combo.lineEdit() : nullptr;
+}
+
+// It is a window of its own.
+bool ImageComboAccess::isListOpen() const
+{
+    return m_list().window()->isVisible();
 }
 
 int ImageComboAccess::childCount() const
@@ -56,7 +50,7 @@ int ImageComboAccess::indexOfChild(const QAccessibleInterface *child) const
 QString ImageComboAccess::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Value)
-        return m_combo.text();
+        return m_combo.currentText();
     const QString own = QAccessibleWidget::text(kind);
     QWidget *around = m_combo.parentWidget();
     // A control that is nothing but the combo has the name for both.
@@ -70,8 +64,8 @@ QAccessible::State ImageComboAccess::state() const
 {
     QAccessible::State state = QAccessibleWidget::state();
     state.expandable = true;
-    state.expanded = m_combo.isListOpen();
-    state.collapsed = !m_combo.isListOpen();
+    state.expanded = isListOpen();
+    state.collapsed = !isListOpen();
     state.hasPopup = true;
     state.editable = true;
     return state;
@@ -86,7 +80,7 @@ void ImageComboAccess::doAction(const QString &name)
 {
     if (name != showMenuAction() && name != pressAction())
         QAccessibleWidget::doAction(name);
-    else if (m_combo.isListOpen())
+    else if (isListOpen())
         m_combo.hidePopup();
     else
         m_combo.showPopup();

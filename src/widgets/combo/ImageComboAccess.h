@@ -2,19 +2,21 @@
 
 #include <QtWidgets/QAccessibleWidget>
 
-namespace ORVTListview {
+#include <functional>
 
-class ImageCombo;
+class QComboBox;
+class QListView;
+
+namespace ORVTListview {
 
 // What a screen reader is told of an ImageCombo: a combo box with a list and a
 // field as its children.
 class ImageComboAccess : public QAccessibleWidget
 {
 public:
-    // Makes the toolkit ask for these; further calls do nothing.
-    static void install();
-
-    explicit ImageComboAccess(ImageCombo &combo);
+    // The list is asked for when it is told of: the toolkit may want this object while
+    // the combo is being made.
+    ImageComboAccess(QComboBox &combo, std::function<QListView &()> list);
 
     int childCount() const override;
     QAccessibleInterface *child(int index) const override;
@@ -27,7 +29,10 @@ public:
 private:
     QWidget *childWidget(int index) const;
 
-    ImageCombo &m_combo;
+    bool isListOpen() const;
+
+    QComboBox &m_combo;
+    std::function<QListView &()> m_list;
 };
 
 } // namespace ORVTListview

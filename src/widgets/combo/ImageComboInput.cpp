@@ -2,6 +2,7 @@
 // look whether the combo still exists.
 
 #include "base/EventGuard.h"
+#include "widgets/combo/ImageCombo.h"
 #include "widgets/combo/ImageComboParts.h"
 #include "widgets/input/RaisedKeys.h"
 
@@ -146,19 +147,8 @@ void ImageCombo::bringBack()
 
 void ImageCombo::keyPressEvent(QKeyEvent *event)
 {
-    event->accept();
-    if (!raiseKey(*this, &ImageCombo::KeyDown, *event))
-        return;
-    const std::optional<QString> typed = raiseCharacter(*this, &ImageCombo::KeyPress, *event);
-    if (!typed)
-        return;
-    if (*typed == event->text()) {
-        act(*event);
-        return;
-    }
-    QKeyEvent replaced = retyped(*event, *typed);
-    act(replaced);
-    event->setAccepted(replaced.isAccepted());
+    raiseKeyPress(*this, &ImageCombo::KeyDown, &ImageCombo::KeyPress, *event,
+                  [this](QKeyEvent &key) { act(key); });
 }
 
 void ImageCombo::keyReleaseEvent(QKeyEvent *event)

@@ -2,16 +2,21 @@
 
 #include "widgets/combo/ComboEntries.h"
 #include "widgets/combo/ComboList.h"
-#include "widgets/combo/ImageCombo.h"
 #include "widgets/input/DragEvents.h"
 #include "widgets/input/EventSurface.h"
+
+#include <QtGui/QColor>
+
+#include <functional>
+
+class QComboBox;
 
 namespace ORVTListview {
 
 // What an ImageCombo is made of.
 struct ImageComboParts
 {
-    explicit ImageComboParts(ImageCombo &owner);
+    ImageComboParts(QComboBox &owner, std::function<bool(QPoint)> pressesArrow);
     Q_DISABLE_COPY_MOVE(ImageComboParts) // the parts know one another
 
     ComboEntries *entries; // these are children of the combo

@@ -45,4 +45,25 @@ inline QKeyEvent retyped(const QKeyEvent &event, const QString &text)
                      event.isAutoRepeat(), static_cast<quint16>(event.count()));
 }
 
+// Offers a press to both events, and lets the widget act on what they leave of it.
+template <typename Widget, typename KeySignal, typename CharacterSignal, typename Act>
+void raiseKeyPress(Widget &widget, KeySignal keyDown, CharacterSignal keyPress, QKeyEvent &event,
+                   const Act &act)
+{
+    event.accept();
+    if (!raiseKey(widget, keyDown, event))
+        return;
+    const std::optional<QString> typed = raiseCharacter(widget, keyPress, event);
+    if (!typed)
+        return;
+    if (*typed == event.text()) {
+        act(event);
+        return;
+    }
+    QKeyEvent replaced = retyped(event, *typed);
+    const QPointer<Widget> alive(&widget);
+    act(replaced);
+    event.setAccepted(!alive || replaced.isAccepted());
+}
+
 } // namespace ORVTListview

@@ -1,6 +1,7 @@
 #include <ORVTListview/ColumnHeader.h>
 
 #include "widgets/list/ReportListParts.h"
+#include "widgets/view/Lookup.h"
 #include <ORVTListview/Error.h>
 
 namespace ORVTListview {
@@ -37,9 +38,7 @@ void ColumnHeader::setKey(const QString &Key)
 {
     ReportColumn &held = column("setKey");
     const ReportColumn *user = m_parts->model.findColumn(Key);
-    if (user && user != &held)
-        throw Error(InvalidCall, u"ColumnHeader.setKey"_s,
-                    u"The key \"%1\" is in use already"_s.arg(Key));
+    Lookup::checkKeyIsFree(u"ColumnHeader.setKey"_s, Key, user && user != &held);
     held.key = Key;
 }
 
@@ -78,12 +77,12 @@ void ColumnHeader::setAlignment(Qt::Alignment alignment)
 
 bool ColumnHeader::Visible() const
 {
-    return !m_parts->list.isColumnHidden(m_parts->model.positionOf(column("Visible")));
+    return !m_parts->view.isColumnHidden(m_parts->model.positionOf(column("Visible")));
 }
 
 void ColumnHeader::setVisible(bool Visible)
 {
-    m_parts->list.setColumnHidden(m_parts->model.positionOf(column("setVisible")), !Visible);
+    m_parts->view.setColumnHidden(m_parts->model.positionOf(column("setVisible")), !Visible);
 }
 
 } // namespace ORVTListview

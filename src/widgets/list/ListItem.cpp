@@ -1,6 +1,7 @@
 #include <ORVTListview/ListItem.h>
 
 #include "widgets/list/ReportListParts.h"
+#include "widgets/view/Lookup.h"
 #include <ORVTListview/Error.h>
 
 namespace ORVTListview {
@@ -44,9 +45,7 @@ void ListItem::setKey(const QString &Key)
 {
     ReportRow &held = row("setKey");
     const ReportRow *user = m_parts->model.find(Key);
-    if (user && user != &held)
-        throw Error(InvalidCall, u"ListItem.setKey"_s,
-                    u"The key \"%1\" is in use already"_s.arg(Key));
+    Lookup::checkKeyIsFree(u"ListItem.setKey"_s, Key, user && user != &held);
     m_parts->model.setKey(held, Key);
 }
 
@@ -140,12 +139,12 @@ void ListItem::setChecked(bool Checked)
 
 bool ListItem::Visible() const
 {
-    return !m_parts->list.isRowHidden(m_parts->model.positionOf(row("Visible")));
+    return !m_parts->view.isRowHidden(m_parts->model.positionOf(row("Visible")));
 }
 
 void ListItem::setVisible(bool Visible)
 {
-    m_parts->list.setRowHidden(m_parts->model.positionOf(row("setVisible")), !Visible);
+    m_parts->view.setRowHidden(m_parts->model.positionOf(row("setVisible")), !Visible);
 }
 
 void ListItem::EnsureVisible()

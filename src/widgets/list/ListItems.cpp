@@ -1,7 +1,8 @@
 #include <ORVTListview/ListItems.h>
 
 #include "widgets/list/ReportListParts.h"
-#include <ORVTListview/Error.h>
+#include "widgets/view/Lookup.h"
+#include <ORVTListview/ListItem.h>
 
 #include <utility>
 
@@ -11,18 +12,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void checkIndex(const QString &member, qint32 index, qint32 count)
-{
-    if (index < 1 || index > count)
-        throw Error(SubscriptOutOfRange, member, u"There is no row %1"_s.arg(index));
-}
+const QString kind = u"row"_s;
 
 ReportRow &rowOfKey(const ReportModel &model, const QString &member, const QString &key)
 {
-    ReportRow *row = model.find(key);
-    if (!row)
-        throw Error(InvalidCall, member, u"There is no row with the key \"%1\""_s.arg(key));
-    return *row;
+    return Lookup::required(model.find(key), member, kind, key);
 }
 
 } // namespace
@@ -39,32 +33,31 @@ qint32 ListItems::Count() const
 
 ListItem *ListItems::Item(qint32 Index) const
 {
-    checkIndex(u"ListItems.Item"_s, Index, Count());
-    return m_parts.handles.of(m_parts.model.row(Index - 1));
+    Lookup::checkIndex(u"ListItems.Item"_s, kind, Index, Count());
+    return m_parts.items.of(m_parts.model.row(Index - 1), m_parts);
 }
 
 ListItem *ListItems::Item(const QString &Key) const
 {
-    return m_parts.handles.of(rowOfKey(m_parts.model, u"ListItems.Item"_s, Key));
+    return m_parts.items.of(rowOfKey(m_parts.model, u"ListItems.Item"_s, Key), m_parts);
 }
 
 ListItem *ListItems::Add(qint32 Index, const QString &Key, const QString &Text)
 {
     const QString member = u"ListItems.Add"_s;
     if (Index != 0)
-        checkIndex(member, Index, Count() + 1);
-    if (m_parts.model.find(Key))
-        throw Error(InvalidCall, member, u"The key \"%1\" is in use already"_s.arg(Key));
+        Lookup::checkIndex(member, kind, Index, Count() + 1);
+    Lookup::checkKeyIsFree(member, Key, m_parts.model.find(Key));
     RowContent content;
     content.key = Key;
     content.text = Text;
     const int position = Index == 0 ? Count() : Index - 1;
-    return m_parts.handles.of(m_parts.model.addRow(position, std::move(content)));
+    return m_parts.items.of(m_parts.model.addRow(position, std::move(content)), m_parts);
 }
 
 void ListItems::Remove(qint32 Index)
 {
-    checkIndex(u"ListItems.Remove"_s, Index, Count());
+    Lookup::checkIndex(u"ListItems.Remove"_s, kind, Index, Count());
     m_parts.model.deleteRow(Index - 1);
 }
 

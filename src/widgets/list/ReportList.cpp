@@ -1,8 +1,8 @@
 #include <ORVTListview/ReportList.h>
 
-#include "base/EventGuard.h"
+#include "widgets/input/RaisedDrags.h"
 #include "widgets/list/ReportHeader.h"
-#include "widgets/list/ReportListParts.h"
+#include "widgets/list/ReportListBody.h"
 #include "widgets/list/RowCopy.h"
 #include "widgets/list/RowSearch.h"
 #include "widgets/look/Twips.h"
@@ -19,21 +19,9 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-ReportListParts::ReportListParts(ReportList &owner)
-    : list(owner)
-    , handles(*this)
-    , rowChoice(owner, model)
-    , widths(owner, model)
-    , items(*this)
-    , headers(*this)
-    , drag(owner, *owner.viewport())
-    , surface(*owner.viewport())
-{
-}
-
 ReportList::ReportList(QWidget *parent)
     : QTableView(parent)
-    , d(std::make_unique<ReportListParts>(*this))
+    , d(std::make_unique<ReportListBody>(*this))
 {
     setHorizontalHeader(new ReportHeader(this));
     QTableView::setModel(&d->model);
@@ -70,32 +58,24 @@ void ReportList::setUpLook()
 void ReportList::setUpConnections()
 {
     const auto *header = static_cast<ReportHeader *>(horizontalHeader());
-    connect(header, &QHeaderView::sectionClicked, this,
-            [this](int column) { d->clickedColumn = d->handles.of(d->model.column(column)); });
+    connect(header, &QHeaderView::sectionClicked, this, [this](int column) {
+        d->clickedColumn =
+            d->headers.of(d->model.column(column), static_cast<ReportListParts &>(*d));
+    });
     connect(header, &ReportHeader::released, this, [this] { raiseColumnClick(); });
     connect(header, &QHeaderView::sectionResized, this,
             [this](int column) { d->widths.columnResized(column); });
     connect(header, &QHeaderView::sectionCountChanged, this,
             [this] { d->widths.columnsChanged(); });
     connect(&d->model, &ReportModel::checkedByUser, this,
-            [this](int position) { d->checkedItem = d->handles.of(d->model.row(position)); });
+            [this](int position) { d->checkedItem = itemOf(position); });
     connect(
         &d->delegate, &ReportDelegate::labelEntered, this,
-        [this](const QModelIndex &label, const QString &text) { noteLabel(label.row(), text); });
-    connect(&d->slowClick, &SlowClick::clicked, this, [this] {
-        EventGuard::run([this] {
-            StartLabelEdit();
-            return true;
-        });
-    });
-    d->drag.setContent(
+        [this](const QModelIndex &label, const QString &text) { noteLabel(*itemOf(label), text); });
+    connect(&d->clicks.slow(), &SlowClick::clicked, this, &ReportList::StartLabelEdit);
+    d->surface.drag().setContent(
         [this](QMimeData &rows) { copyRows(*this, d->rowChoice.selectedPositions(), rows); });
-    connect(&d->drag, &DragEvents::OLECompleteDrag, this, &ReportList::OLECompleteDrag);
-    connect(&d->drag, &DragEvents::OLEDragDrop, this, &ReportList::OLEDragDrop);
-    connect(&d->drag, &DragEvents::OLEDragOver, this, &ReportList::OLEDragOver);
-    connect(&d->drag, &DragEvents::OLEGiveFeedback, this, &ReportList::OLEGiveFeedback);
-    connect(&d->drag, &DragEvents::OLESetData, this, &ReportList::OLESetData);
-    connect(&d->drag, &DragEvents::OLEStartDrag, this, &ReportList::OLEStartDrag);
+    raiseDrags(d->surface.drag(), *this);
 }
 
 void ReportList::updateRowHeight()
@@ -107,22 +87,22 @@ void ReportList::updateRowHeight()
 
 ListItems *ReportList::ListItems() const
 {
-    return &d->items;
+    return &d->listItems;
 }
 
 ColumnHeaders *ReportList::ColumnHeaders() const
 {
-    return &d->headers;
+    return &d->columnHeaders;
 }
 
 ListItem *ReportList::Add(qint32 Index, const QString &Key, const QString &Text)
 {
-    return d->items.Add(Index, Key, Text);
+    return d->listItems.Add(Index, Key, Text);
 }
 
 void ReportList::Clear()
 {
-    d->items.Clear();
+    d->listItems.Clear();
 }
 
 void ReportList::setRows(QList<RowContent> rows)
@@ -150,32 +130,38 @@ ListItem *ReportList::FindItem(const QString &sz, qint32 Where, qint32 Index, qi
     const RowSearch search{sz, static_cast<RowSearch::Field>(Where),
                            static_cast<RowSearch::Match>(fPartial)};
     const int found = search.find(d->model, std::max(Index, 1) - 1);
-    return found < 0 ? nullptr : d->handles.of(d->model.row(found));
+    return itemOf(found);
+}
+
+ListItem *ReportList::itemOf(ReportRow *row) const
+{
+    return row ? d->items.of(*row, static_cast<ReportListParts &>(*d)) : nullptr;
+}
+
+// Null for a negative one.
+ListItem *ReportList::itemOf(int position) const
+{
+    return position < 0 ? nullptr : itemOf(&d->model.row(position));
 }
 
 ListItem *ReportList::itemOf(const QModelIndex &index) const
 {
-    return index.isValid() ? d->handles.of(d->model.row(index.row())) : nullptr;
+    return itemOf(index.row());
 }
 
 ListItem *ReportList::GetFirstVisible() const
 {
-    const int position = rowAt(0);
-    return position < 0 ? nullptr : d->handles.of(d->model.row(position));
+    return itemOf(rowAt(0));
 }
 
 ListItem *ReportList::HitTest(float X, float Y) const
 {
-    const QPoint point(Twips::toPixelsX(static_cast<double>(X), *this),
-                       Twips::toPixelsY(static_cast<double>(Y), *this));
-    const QPoint inViewport = viewport()->mapFrom(this, point);
-    return viewport()->rect().contains(inViewport) ? itemOf(indexAt(inViewport)) : nullptr;
+    return itemOf(d->surface.indexAt(X, Y));
 }
 
 ListItem *ReportList::SelectedItem() const
 {
-    ReportRow *row = d->rowChoice.selected();
-    return row ? d->handles.of(*row) : nullptr;
+    return itemOf(d->rowChoice.selected());
 }
 
 void ReportList::setSelectedItem(ListItem *Item)
@@ -218,9 +204,9 @@ void ReportList::Drag(qint32 Action)
     constexpr qint32 beginDrag = 1;
     constexpr qint32 cancelDrag = 2;
     if (Action == beginDrag)
-        d->drag.begin();
+        d->surface.drag().begin();
     else if (Action == cancelDrag)
-        d->drag.cancel();
+        d->surface.drag().cancel();
 }
 
 void ReportList::fitColumns()

@@ -2,11 +2,11 @@
 // look whether the list still exists.
 
 #include "base/EventGuard.h"
-#include "widgets/input/MouseArguments.h"
 #include "widgets/input/RaisedKeys.h"
-#include "widgets/list/ReportListParts.h"
+#include "widgets/input/RaisedMouse.h"
+#include "widgets/list/ReportListBody.h"
 #include "widgets/list/RowCopy.h"
-#include "widgets/look/PlainToolTip.h"
+#include <ORVTListview/ReportList.h>
 
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
@@ -39,46 +39,7 @@ bool ReportList::viewportEvent(QEvent *event)
 {
     if (!d)
         return QTableView::viewportEvent(event);
-    return d->surface.deliver([this, event] {
-        const QPointer<ReportList> self(this);
-        if (d->drag.handle(*event)) {
-            if (self)
-                followDrag(*event);
-            return true;
-        }
-        if (event->type() != QEvent::ToolTip)
-            return QTableView::viewportEvent(event);
-        showToolTip(*static_cast<QHelpEvent *>(event));
-        return true;
-    });
-}
-
-// Scrolls while a drag stays near an edge.
-void ReportList::followDrag(const QEvent &event)
-{
-    if (event.type() == QEvent::DragLeave || event.type() == QEvent::Drop) {
-        stopAutoScroll();
-    } else if (event.type() == QEvent::DragMove && hasAutoScroll()) {
-        const QPoint position = static_cast<const QDropEvent &>(event).position().toPoint();
-        const int margin = autoScrollMargin();
-        const QRect inner = viewport()->rect().adjusted(margin, margin, -margin, -margin);
-        if (!inner.contains(position))
-            startAutoScroll();
-    }
-}
-
-void ReportList::showToolTip(const QHelpEvent &event)
-{
-    const QModelIndex index = indexAt(event.pos());
-    QString text;
-    if (index.isValid()) {
-        QStyleOptionViewItem option;
-        initViewItemOption(&option);
-        option.rect = visualRect(index);
-        if (d->delegate.isElided(option, index))
-            text = index.data().toString();
-    }
-    showPlainToolTip(event, text, *viewport());
+    return d->surface.deliver(*event, [this, event] { return QTableView::viewportEvent(event); });
 }
 
 void ReportList::resizeEvent(QResizeEvent *event)
@@ -89,19 +50,19 @@ void ReportList::resizeEvent(QResizeEvent *event)
 
 void ReportList::scrollContentsBy(int dx, int dy)
 {
-    d->slowClick.stop();
+    d->clicks.slow().stop();
     QTableView::scrollContentsBy(dx, dy);
 }
 
 void ReportList::focusInEvent(QFocusEvent *event)
 {
-    d->focusedByMouse = event->reason() == Qt::MouseFocusReason;
+    d->clicks.focusIn(*event);
     QTableView::focusInEvent(event);
 }
 
 void ReportList::focusOutEvent(QFocusEvent *event)
 {
-    d->slowClick.stop();
+    d->clicks.slow().stop();
     QTableView::focusOutEvent(event);
 }
 
@@ -121,24 +82,13 @@ QModelIndex ReportList::moveCursor(CursorAction action, Qt::KeyboardModifiers mo
 
 void ReportList::keyPressEvent(QKeyEvent *event)
 {
-    d->slowClick.stop();
+    d->clicks.slow().stop();
     if (state() == EditingState) { // what the editor has no use for
         QTableView::keyPressEvent(event);
         return;
     }
-    event->accept();
-    if (!raiseKey(*this, &ReportList::KeyDown, *event))
-        return;
-    const std::optional<QString> typed = raiseCharacter(*this, &ReportList::KeyPress, *event);
-    if (!typed)
-        return;
-    if (*typed == event->text()) {
-        act(*event);
-        return;
-    }
-    QKeyEvent replaced = retyped(*event, *typed);
-    act(replaced);
-    event->setAccepted(replaced.isAccepted());
+    raiseKeyPress(*this, &ReportList::KeyDown, &ReportList::KeyPress, *event,
+                  [this](QKeyEvent &key) { act(key); });
 }
 
 void ReportList::keyReleaseEvent(QKeyEvent *event)
@@ -195,16 +145,10 @@ void ReportList::toggleCurrent()
         return;
     ReportRow &row = d->model.row(current.row());
     d->model.setChecked(row, !row.content.checked);
-    raiseEvent(*this, &ReportList::ItemCheck, d->handles.of(row));
+    raiseEvent(*this, &ReportList::ItemCheck, itemOf(&row));
 }
 
 // Mouse.
-
-bool ReportList::raiseMouse(MouseSignal signal, const QMouseEvent &event)
-{
-    const MouseArguments mouse = mouseArguments(event, *this);
-    return raiseEvent(*this, signal, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
-}
 
 // A label that a slow click edits: of the one row that is selected already.
 bool ReportList::isChosenLabel(const QModelIndex &index) const
@@ -215,41 +159,35 @@ bool ReportList::isChosenLabel(const QModelIndex &index) const
 
 void ReportList::mousePressEvent(QMouseEvent *event)
 {
-    const bool focused = std::exchange(d->focusedByMouse, false);
-    if (!raiseMouse(&ReportList::MouseDown, *event))
+    const bool focused = d->clicks.takeFocusing();
+    if (!raiseMouse(*this, &ReportList::MouseDown, *event))
         return;
-    const bool left = event->button() == Qt::LeftButton;
-    d->clickAwaited = left;
-    d->pressed = indexAt(event->position().toPoint());
-    d->slowClick.press(left && !focused && event->modifiers() == Qt::NoModifier &&
-                       isChosenLabel(d->pressed));
-    ListItem *item = itemOf(d->pressed);
+    const QModelIndex index = indexAt(event->position().toPoint());
+    d->clicks.press(*event, index, !focused && isChosenLabel(index));
+    const bool picks = event->button() == Qt::LeftButton || event->button() == Qt::RightButton;
+    ListItem *item = picks ? itemOf(index) : nullptr;
     const QPointer<ReportList> self(this);
     QTableView::mousePressEvent(event);
-    if (self && item && item->isAlive() && (left || event->button() == Qt::RightButton))
+    if (self && item && item->isAlive())
         raiseEvent(*this, &ReportList::ItemClick, item);
 }
 
 void ReportList::mouseMoveEvent(QMouseEvent *event)
 {
-    if (raiseMouse(&ReportList::MouseMove, *event))
+    if (raiseMouse(*this, &ReportList::MouseMove, *event))
         pick([this, event] { QTableView::mouseMoveEvent(event); });
 }
 
 void ReportList::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!raiseMouse(&ReportList::MouseUp, *event))
+    if (!raiseMouse(*this, &ReportList::MouseUp, *event))
         return;
     d->checkedItem = nullptr;
     const QPointer<ReportList> self(this);
     QTableView::mouseReleaseEvent(event);
     if (!self)
         return;
-    const QPoint position = event->position().toPoint();
-    const bool left = event->button() == Qt::LeftButton;
-    const bool clicked =
-        left && std::exchange(d->clickAwaited, false) && viewport()->rect().contains(position);
-    d->slowClick.release(clicked && !d->checkedItem && indexAt(position) == d->pressed);
+    const bool clicked = d->clicks.release(*event, d->checkedItem);
     raiseItemCheck();
     if (self && clicked)
         raiseEvent(*this, &ReportList::Click);
@@ -271,8 +209,7 @@ void ReportList::raiseItemCheck()
 
 void ReportList::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    d->slowClick.stop();
-    d->clickAwaited = false;
+    d->clicks.doubleClick();
     if (event->button() != Qt::LeftButton || raiseEvent(*this, &ReportList::DblClick))
         QTableView::mouseDoubleClickEvent(event);
 }
@@ -280,8 +217,8 @@ void ReportList::mouseDoubleClickEvent(QMouseEvent *event)
 // The view cannot bear to be destroyed within this call, so the drag comes later.
 void ReportList::startDrag(Qt::DropActions)
 {
-    d->slowClick.stop();
-    d->drag.begin();
+    d->clicks.slow().stop();
+    d->surface.drag().begin();
 }
 
 } // namespace ORVTListview

@@ -1,11 +1,8 @@
 // How the labels of a list are edited: the events around the view's own editor.
 
-#include "base/EventGuard.h"
-#include "widgets/list/ReportListParts.h"
+#include "widgets/list/ReportListBody.h"
 #include <ORVTListview/Error.h>
-
-#include <QtCore/QPointer>
-#include <QtCore/QScopeGuard>
+#include <ORVTListview/ReportList.h>
 
 namespace ORVTListview {
 
@@ -14,19 +11,8 @@ using namespace Qt::StringLiterals;
 void ReportList::StartLabelEdit()
 {
     ListItem *item = SelectedItem();
-    if (!item || d->announcesEdit || state() == EditingState)
-        return;
-    qint16 cancel = 0;
-    const QPointer<ReportList> self(this);
-    {
-        d->announcesEdit = true;
-        const auto announced = qScopeGuard([self] {
-            if (self)
-                self->d->announcesEdit = false;
-        });
-        raiseEvent(*this, &ReportList::BeforeLabelEdit, cancel);
-    }
-    if (!self || cancel != 0 || !item->isAlive() || d->model.columns() == 0)
+    if (!item || !d->labels.announce(*this, &ReportList::BeforeLabelEdit) || !item->isAlive() ||
+        d->model.columns() == 0)
         return;
     item->EnsureVisible();
     const QModelIndex label = d->model.index(item->Index() - 1, labelColumn());
@@ -34,22 +20,13 @@ void ReportList::StartLabelEdit()
     edit(label, AllEditTriggers, nullptr);
 }
 
-// The editor is being closed while this is called; the event comes later.
-void ReportList::noteLabel(int position, const QString &text)
+void ReportList::noteLabel(ListItem &item, const QString &text)
 {
-    d->labelItem = d->handles.of(d->model.row(position));
-    d->enteredLabel = text;
-    QMetaObject::invokeMethod(this, &ReportList::finishLabelEdit, Qt::QueuedConnection);
-}
-
-void ReportList::finishLabelEdit()
-{
-    ListItem *item = d->labelItem;
-    QString label = d->enteredLabel;
-    qint16 cancel = 0;
-    const bool isThere = raiseEvent(*this, &ReportList::AfterLabelEdit, cancel, label);
-    if (isThere && cancel == 0 && item->isAlive())
-        setLabel(*item, label);
+    d->labels.enterSoon(*this, &ReportList::AfterLabelEdit, text,
+                        [this, &item](const QString &label) {
+                            if (item.isAlive())
+                                setLabel(item, label);
+                        });
 }
 
 void ReportList::setLabel(ListItem &item, const QString &label)
@@ -74,10 +51,7 @@ void ReportList::setLabelColumn(qint16 Index)
 
 void ReportList::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    // No going on to edit the next row, which would not be announced.
-    const bool next = hint == QAbstractItemDelegate::EditNextItem ||
-                      hint == QAbstractItemDelegate::EditPreviousItem;
-    QTableView::closeEditor(editor, next ? QAbstractItemDelegate::NoHint : hint);
+    QTableView::closeEditor(editor, LabelEdit::withoutNext(hint));
 }
 
 } // namespace ORVTListview

@@ -1,48 +1,35 @@
 #pragma once
 
-#include "widgets/input/DragEvents.h"
-#include "widgets/input/EventSurface.h"
 #include "widgets/list/ColumnWidths.h"
-#include "widgets/list/ListHandles.h"
 #include "widgets/list/ReportModel.h"
 #include "widgets/list/RowChoice.h"
-#include "widgets/view/ReportDelegate.h"
-#include "widgets/view/SlowClick.h"
-#include <ORVTListview/ColumnHeaders.h>
-#include <ORVTListview/ListItems.h>
-#include <ORVTListview/ReportList.h>
+#include "widgets/view/HandleStore.h"
+
+#include <QtWidgets/QTableView>
 
 namespace ORVTListview {
 
-// What a ReportList is made of. Rows tell their handles when they go, so the
-// handles outlive the model.
+class ColumnHeader;
+class ListItem;
+
+// What the rows and columns of a list, as hosts have them, stand on. Rows tell
+// their handles when they go, so the handles outlive the model.
 struct ReportListParts
 {
-    explicit ReportListParts(ReportList &owner);
+    explicit ReportListParts(QTableView &shownBy)
+        : view(shownBy)
+        , rowChoice(shownBy, model)
+        , widths(shownBy, model)
+    {
+    }
     Q_DISABLE_COPY_MOVE(ReportListParts) // the parts know one another
 
-    ReportList &list;
-    ListHandles handles;
+    QTableView &view;
+    HandleStore<ListItem, ReportRow> items;
+    HandleStore<ColumnHeader, ReportColumn> headers;
     ReportModel model;
     RowChoice rowChoice;
     ColumnWidths widths;
-    ListItems items;
-    ColumnHeaders headers;
-    ReportDelegate delegate;
-    DragEvents drag;
-    EventSurface surface;
-    SlowClick slowClick;
-
-    bool copies = true;
-    bool editsLabels = true;
-    bool clickAwaited = false;             // the left button went down and has not come up
-    bool focusedByMouse = false;           // by the press at hand
-    QPersistentModelIndex pressed;         // where it went down
-    ListItem *checkedItem = nullptr;       // by the event at hand
-    ColumnHeader *clickedColumn = nullptr; // likewise
-    bool announcesEdit = false;            // BeforeLabelEdit is being raised
-    ListItem *labelItem = nullptr;         // the one whose label was entered
-    QString enteredLabel;
 };
 
 } // namespace ORVTListview

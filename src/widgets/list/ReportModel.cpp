@@ -116,12 +116,7 @@ ReportRow *ReportModel::find(const QString &key) const
 
 int ReportModel::positionOf(const ReportRow &row) const
 {
-    const auto known = static_cast<std::size_t>(row.position);
-    if (known >= m_numbered || m_rows[known].get() != &row) {
-        for (; m_numbered < m_rows.size(); ++m_numbered)
-            m_rows[m_numbered]->position = static_cast<int>(m_numbered);
-    }
-    return row.position;
+    return m_positions.of(m_rows, row);
 }
 
 ReportRow &ReportModel::addRow(int position, RowContent content)
@@ -130,7 +125,7 @@ ReportRow &ReportModel::addRow(int position, RowContent content)
     auto made = std::make_unique<ReportRow>(std::move(content));
     ReportRow &row = *made;
     m_rows.insert(m_rows.begin() + position, std::move(made));
-    m_numbered = std::min(m_numbered, static_cast<std::size_t>(position));
+    m_positions.forgetFrom(position);
     if (!row.content.key.isEmpty())
         m_keys.insert(row.content.key, &row);
     endInsertRows();
@@ -142,7 +137,7 @@ void ReportModel::deleteRow(int position)
     beginRemoveRows({}, position, position);
     m_keys.remove(row(position).content.key);
     m_rows.erase(m_rows.begin() + position);
-    m_numbered = std::min(m_numbered, static_cast<std::size_t>(position));
+    m_positions.forgetFrom(position);
     endRemoveRows();
 }
 
@@ -178,7 +173,7 @@ void ReportModel::setRows(QList<RowContent> contents)
     beginResetModel();
     m_rows = std::move(rows);
     m_keys = std::move(keys);
-    m_numbered = 0;
+    m_positions.forgetFrom(0);
     endResetModel();
 }
 

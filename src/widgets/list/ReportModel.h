@@ -1,6 +1,7 @@
 #pragma once
 
 #include "widgets/list/ReportRow.h"
+#include "widgets/view/Positions.h"
 
 #include <ORVTListview/Export.h>
 
@@ -97,7 +98,7 @@ private:
     void touchAll(int firstColumn, int lastColumn, const QList<int> &roles);
 
     Rows m_rows;
-    mutable std::size_t m_numbered = 0; // rows before this know their position
+    Positions m_positions;
     Keys m_keys;
     std::vector<std::unique_ptr<ReportColumn>> m_columns;
     PictureProvider m_pictures;

@@ -1,7 +1,6 @@
 #include "widgets/list/ReportRow.h"
 
-#include <ORVTListview/ColumnHeader.h>
-#include <ORVTListview/ListItem.h>
+#include "widgets/view/HandleStore.h"
 
 #include <utility>
 
@@ -15,7 +14,7 @@ ReportRow::ReportRow(RowContent held)
 ReportRow::~ReportRow()
 {
     if (handle)
-        handle->m_row = nullptr;
+        handle->letGo();
 }
 
 ReportColumn::ReportColumn(const QString &heldKey, const QString &heldText, Qt::Alignment held)
@@ -28,7 +27,7 @@ ReportColumn::ReportColumn(const QString &heldKey, const QString &heldText, Qt::
 ReportColumn::~ReportColumn()
 {
     if (handle)
-        handle->m_column = nullptr;
+        handle->letGo();
 }
 
 } // namespace ORVTListview

@@ -6,8 +6,7 @@
 
 namespace ORVTListview {
 
-class ColumnHeader;
-class ListItem;
+class HandedOut;
 
 // A row as the model keeps it, with the handle that was given out for it, if any.
 // Dying, it tells the handle.
@@ -19,7 +18,7 @@ struct ReportRow
 
     RowContent content;
     int position = 0; // ask ReportModel::positionOf instead
-    ListItem *handle = nullptr;
+    HandedOut *handle = nullptr;
 };
 
 struct ReportColumn
@@ -31,7 +30,7 @@ struct ReportColumn
     QString key;
     QString text;
     Qt::Alignment alignment;
-    ColumnHeader *handle = nullptr;
+    HandedOut *handle = nullptr;
 };
 
 } // namespace ORVTListview

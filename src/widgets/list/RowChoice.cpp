@@ -1,10 +1,8 @@
 #include "widgets/list/RowChoice.h"
 
 #include "widgets/list/ReportModel.h"
-#include <ORVTListview/ReportList.h>
 
-#include <QtCore/QItemSelectionModel>
-#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QTableView>
 
 #include <algorithm>
 
@@ -15,9 +13,10 @@ constexpr auto wholeRow = QItemSelectionModel::Rows;
 
 } // namespace
 
-RowChoice::RowChoice(ReportList &view, ReportModel &model)
+RowChoice::RowChoice(QTableView &view, ReportModel &model)
     : m_view(view)
     , m_model(model)
+    , m_scroll(view)
 {
 }
 
@@ -52,21 +51,12 @@ ReportRow *RowChoice::selected() const
 void RowChoice::select(const ReportRow *row)
 {
     m_view.selectionModel()->clearSelection();
-    if (row) {
-        makeCurrent(*row);
-        m_view.selectionModel()->select(m_view.currentIndex(),
-                                        QItemSelectionModel::Select | wholeRow);
-    }
-}
-
-void RowChoice::makeCurrent(const ReportRow &row)
-{
+    if (!row)
+        return;
     const int column = std::max(0, m_view.currentIndex().column());
-    const bool scrolls = m_view.hasAutoScroll();
-    m_view.setAutoScroll(false);
-    m_view.selectionModel()->setCurrentIndex(m_model.index(m_model.positionOf(row), column),
-                                             QItemSelectionModel::NoUpdate);
-    m_view.setAutoScroll(scrolls);
+    m_scroll.makeCurrent(m_model.index(m_model.positionOf(*row), column),
+                         QItemSelectionModel::NoUpdate);
+    m_view.selectionModel()->select(m_view.currentIndex(), QItemSelectionModel::Select | wholeRow);
 }
 
 QList<int> RowChoice::selectedPositions() const
@@ -98,20 +88,14 @@ void RowChoice::setMultiple(bool multiple)
 
 void RowChoice::ensureVisible(const ReportRow &row)
 {
-    const QModelIndex index = m_model.index(m_model.positionOf(row), 0);
-    if (!m_view.isVisible())
-        m_showLater = index;
-    m_view.executeDelayedItemsLayout(); // else the scroll bars know fewer rows
-    const int horizontal = m_view.horizontalScrollBar()->value();
-    m_view.scrollTo(index);
-    m_view.horizontalScrollBar()->setValue(horizontal);
+    m_scroll.ensureVisible(m_model.index(m_model.positionOf(row), 0));
 }
 
 void RowChoice::viewShown()
 {
-    if (m_showLater.isValid())
-        ensureVisible(m_model.row(m_showLater.row()));
-    m_showLater = QPersistentModelIndex();
+    const QModelIndex awaited = m_scroll.takeAwaited();
+    if (awaited.isValid())
+        m_scroll.ensureVisible(awaited);
 }
 
 } // namespace ORVTListview

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "widgets/view/ViewScroll.h"
+
 #include <QtCore/QList>
-#include <QtCore/QPersistentModelIndex>
+
+class QTableView;
 
 namespace ORVTListview {
 
-class ReportList;
 class ReportModel;
 struct ReportRow;
 
@@ -14,7 +16,7 @@ struct ReportRow;
 class RowChoice
 {
 public:
-    RowChoice(ReportList &view, ReportModel &model);
+    RowChoice(QTableView &view, ReportModel &model);
     Q_DISABLE_COPY_MOVE(RowChoice) // follows one list
 
     bool isSelected(const ReportRow &row) const;
@@ -37,11 +39,9 @@ public:
     void viewShown();
 
 private:
-    void makeCurrent(const ReportRow &row);
-
-    ReportList &m_view;
+    QTableView &m_view;
     ReportModel &m_model;
-    QPersistentModelIndex m_showLater;
+    ViewScroll m_scroll;
 };
 
 } // namespace ORVTListview

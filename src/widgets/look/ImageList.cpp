@@ -50,7 +50,7 @@ ImageList::~ImageList() = default;
 void ImageList::Add(const QString &Key, qint32 Index, const QString &SvgFile, Look Drawn)
 {
     refuseUnlessFree(Key, Index);
-    const QIcon icon(new PictureEngine(SvgFile, drawingOf(SvgFile), Drawn));
+    const QIcon icon(new PictureEngine(SvgFile, drawingOf(SvgFile), Drawn == Look::Pressed));
     m_entries[Index] = {Key, icon};
     m_indexes.insert(Key, Index);
 }

@@ -90,11 +90,10 @@ qreal scaleOf(const QPainter &painter)
 
 } // namespace
 
-PictureEngine::PictureEngine(QString svgFile, std::shared_ptr<QSvgRenderer> drawing,
-                             ImageList::Look look)
+PictureEngine::PictureEngine(QString svgFile, std::shared_ptr<QSvgRenderer> drawing, bool isPressed)
     : m_file(std::move(svgFile))
     , m_drawing(std::move(drawing))
-    , m_look(look)
+    , m_isPressed(isPressed)
 {
 }
 
@@ -140,9 +139,10 @@ QIconEngine *PictureEngine::clone() const
 QPixmap PictureEngine::cached(int side, const QColor &tint)
 {
     const QRgb fillColour = tint.isValid() ? tint.rgba() : 0;
-    const QString name = u"%1|%2|%3|%4|"_s.arg(key(), QString::number(static_cast<int>(m_look)),
-                                               QString::number(side), QString::number(fillColour)) +
-                         m_file;
+    const QString name =
+        u"%1|%2|%3|%4|"_s.arg(key(), QString::number(static_cast<int>(m_isPressed)),
+                              QString::number(side), QString::number(fillColour)) +
+        m_file;
     QPixmap picture;
     if (!QPixmapCache::find(name, &picture)) {
         picture = QPixmap::fromImage(drawn(side, tint));
@@ -153,8 +153,7 @@ QPixmap PictureEngine::cached(int side, const QColor &tint)
 
 QImage PictureEngine::drawn(int side, const QColor &tint)
 {
-    QImage image =
-        m_look == ImageList::Look::Pressed ? pressed(side) : plain(side, QRectF(0, 0, side, side));
+    QImage image = m_isPressed ? pressed(side) : plain(side, QRectF(0, 0, side, side));
     if (tint.isValid())
         fill(&image, QPainter::CompositionMode_SourceIn, tint);
     return image;

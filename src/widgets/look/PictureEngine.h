@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/ImageList.h>
-
 #include <QtGui/QIconEngine>
 
 #include <memory>
@@ -12,12 +10,13 @@ QT_END_NAMESPACE
 
 namespace ORVTListview {
 
-// Draws one picture of an ImageList. Drawn pixmaps are kept in Qt's pixmap cache
-// under the file's name, so that equal pictures of several lists are drawn once.
+// Draws one picture of an ImageList, or it in negative as on a pressed button. Drawn pixmaps are
+// kept in Qt's pixmap cache under the file's name, so that equal pictures of several lists are
+// drawn once.
 class PictureEngine final : public QIconEngine
 {
 public:
-    PictureEngine(QString svgFile, std::shared_ptr<QSvgRenderer> drawing, ImageList::Look look);
+    PictureEngine(QString svgFile, std::shared_ptr<QSvgRenderer> drawing, bool isPressed);
     ~PictureEngine() override;
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override;
@@ -37,7 +36,7 @@ private:
 
     QString m_file;
     std::shared_ptr<QSvgRenderer> m_drawing; // shared by clones
-    ImageList::Look m_look;
+    bool m_isPressed;
 };
 
 } // namespace ORVTListview

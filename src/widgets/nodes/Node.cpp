@@ -2,6 +2,7 @@
 
 #include "widgets/nodes/NodePlace.h"
 #include "widgets/nodes/NodeTreeParts.h"
+#include "widgets/view/Lookup.h"
 #include <ORVTListview/Error.h>
 
 namespace ORVTListview {
@@ -24,10 +25,21 @@ TreeNode &Node::node(const char *member) const
     return *m_node;
 }
 
+TreeNode *Node::nodeOf(const Node *node, const NodeTreeParts &parts, const QString &source)
+{
+    if (!node)
+        return nullptr;
+    if (node->m_parts != &parts)
+        throw Error(InvalidCall, source, u"The node is another tree's"_s);
+    if (!node->isAlive())
+        throw Error(ObjectNotSet, source, u"The node has been removed"_s);
+    return node->m_node;
+}
+
 // Null for null and for the root, which no caller is to see.
 Node *Node::handleOf(TreeNode *node) const
 {
-    return node && node->parent ? m_parts->handles.of(*node) : nullptr;
+    return node && node->parent ? m_parts->handles.of(*node, *m_parts) : nullptr;
 }
 
 qint32 Node::Index() const
@@ -44,8 +56,7 @@ void Node::setKey(const QString &Key)
 {
     TreeNode &held = node("setKey");
     const TreeNode *user = m_parts->model.find(Key);
-    if (user && user != &held)
-        throw Error(InvalidCall, u"Node.setKey"_s, u"The key \"%1\" is in use already"_s.arg(Key));
+    Lookup::checkKeyIsFree(u"Node.setKey"_s, Key, user && user != &held);
     m_parts->model.setKey(held, Key);
 }
 
@@ -119,7 +130,7 @@ Node *Node::Previous() const
 void Node::MoveTo(Node *Relative, NodeRelationship Relationship)
 {
     TreeNode &held = node("MoveTo");
-    TreeNode *relative = m_parts->nodeOf(Relative, u"Node.MoveTo"_s);
+    TreeNode *relative = nodeOf(Relative, *m_parts, u"Node.MoveTo"_s);
     const NodePlace place = NodePlace::of(m_parts->model, relative, Relationship);
     if (relative == &held || place.parent->isWithin(held))
         throw Error(InvalidCall, u"Node.MoveTo"_s, u"A node cannot be moved below itself"_s);
@@ -128,12 +139,12 @@ void Node::MoveTo(Node *Relative, NodeRelationship Relationship)
 
 bool Node::Expanded() const
 {
-    return m_parts->tree.isExpanded(m_parts->model.indexOf(node("Expanded")));
+    return m_parts->view.isExpanded(m_parts->model.indexOf(node("Expanded")));
 }
 
 void Node::setExpanded(bool Expanded)
 {
-    m_parts->tree.setExpanded(m_parts->model.indexOf(node("setExpanded")), Expanded);
+    m_parts->view.setExpanded(m_parts->model.indexOf(node("setExpanded")), Expanded);
 }
 
 qint32 Node::ForeColor() const

@@ -1,16 +1,15 @@
 #include "widgets/nodes/NodeChoice.h"
 
 #include "widgets/nodes/NodeModel.h"
-#include "widgets/nodes/NodeTree.h"
 
-#include <QtCore/QItemSelectionModel>
-#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QTreeView>
 
 namespace ORVTListview {
 
-NodeChoice::NodeChoice(NodeTree &view, NodeModel &model)
+NodeChoice::NodeChoice(QTreeView &view, NodeModel &model)
     : m_view(view)
     , m_model(model)
+    , m_scroll(view)
 {
 }
 
@@ -26,31 +25,21 @@ void NodeChoice::select(const TreeNode *node)
         m_view.selectionModel()->clearSelection();
         return;
     }
-    const bool scrolls = m_view.hasAutoScroll();
-    m_view.setAutoScroll(false);
-    m_view.selectionModel()->setCurrentIndex(m_model.indexOf(*node),
-                                             QItemSelectionModel::ClearAndSelect);
-    m_view.setAutoScroll(scrolls);
+    m_scroll.makeCurrent(m_model.indexOf(*node), QItemSelectionModel::ClearAndSelect);
 }
 
 void NodeChoice::ensureVisible(const TreeNode &node)
 {
     for (const TreeNode *above = node.parent; above->parent; above = above->parent)
         m_view.expand(m_model.indexOf(*above));
-    const QModelIndex index = m_model.indexOf(node);
-    if (!m_view.isVisible())
-        m_showLater = index;
-    m_view.executeDelayedItemsLayout(); // else the scroll bar knows fewer rows
-    const int horizontal = m_view.horizontalScrollBar()->value();
-    m_view.scrollTo(index);
-    m_view.horizontalScrollBar()->setValue(horizontal);
+    m_scroll.ensureVisible(m_model.indexOf(node));
 }
 
 void NodeChoice::viewShown()
 {
-    if (m_showLater.isValid())
-        ensureVisible(m_model.nodeOf(m_showLater));
-    m_showLater = QPersistentModelIndex();
+    const QModelIndex awaited = m_scroll.takeAwaited();
+    if (awaited.isValid())
+        ensureVisible(m_model.nodeOf(awaited));
 }
 
 } // namespace ORVTListview

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QtCore/QPersistentModelIndex>
+#include "widgets/view/ViewScroll.h"
+
+class QTreeView;
 
 namespace ORVTListview {
 
 class NodeModel;
-class NodeTree;
 struct TreeNode;
 
 // Which node of a tree is selected, and which one is in view. What the program
@@ -13,7 +14,7 @@ struct TreeNode;
 class NodeChoice
 {
 public:
-    NodeChoice(NodeTree &view, NodeModel &model);
+    NodeChoice(QTreeView &view, NodeModel &model);
     Q_DISABLE_COPY_MOVE(NodeChoice) // follows one tree
 
     TreeNode *selected() const;
@@ -24,9 +25,9 @@ public:
     void viewShown();
 
 private:
-    NodeTree &m_view;
+    QTreeView &m_view;
     NodeModel &m_model;
-    QPersistentModelIndex m_showLater;
+    ViewScroll m_scroll;
 };
 
 } // namespace ORVTListview

@@ -110,12 +110,7 @@ Qt::ItemFlags NodeModel::flags(const QModelIndex &index) const
 
 int NodeModel::positionOf(const TreeNode &node) const
 {
-    const auto known = static_cast<std::size_t>(node.position);
-    if (known >= m_numbered || m_order[known] != &node) {
-        for (; m_numbered < m_order.size(); ++m_numbered)
-            m_order[m_numbered]->position = static_cast<int>(m_numbered);
-    }
-    return node.position;
+    return m_positions.of(m_order, node);
 }
 
 void NodeModel::renumber(TreeNode &parent, int from)
@@ -162,7 +157,7 @@ void NodeModel::forget(const Owned &nodes)
         if (!node->key.isEmpty())
             m_keys.remove(node->key);
     }
-    m_numbered = std::min(m_numbered, static_cast<std::size_t>(first));
+    m_positions.forgetFrom(first);
     if (nodes.size() == 1) {
         m_order.erase(m_order.begin() + nodes.front()->position);
         return;
@@ -204,7 +199,7 @@ void NodeModel::clear()
 {
     beginResetModel();
     m_order.clear();
-    m_numbered = 0;
+    m_positions.forgetFrom(0);
     m_keys.clear();
     while (!m_root.children.empty())
         flattened(take(*m_root.children.back()));

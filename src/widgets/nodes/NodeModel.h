@@ -1,6 +1,7 @@
 #pragma once
 
 #include "widgets/nodes/TreeNode.h"
+#include "widgets/view/Positions.h"
 
 #include <QtCore/QAbstractItemModel>
 #include <QtCore/QHash>
@@ -85,7 +86,7 @@ private:
     const QWidget &m_view;
     TreeNode m_root;
     std::vector<TreeNode *> m_order;
-    mutable std::size_t m_numbered = 0; // nodes before this know their position
+    Positions m_positions;
     QHash<QString, TreeNode *> m_keys;
     PictureProvider m_pictures;
     bool m_checkBoxes = false;

@@ -1,9 +1,7 @@
 #include "widgets/nodes/NodeTree.h"
 
-#include "base/EventGuard.h"
-#include "widgets/look/Twips.h"
-#include "widgets/nodes/NodeTreeParts.h"
-#include <ORVTListview/Error.h>
+#include "widgets/input/RaisedDrags.h"
+#include "widgets/nodes/NodeTreeBody.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QPainter>
@@ -15,17 +13,6 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-NodeTreeParts::NodeTreeParts(NodeTree &owner)
-    : tree(owner)
-    , handles(*this)
-    , model(owner)
-    , choice(owner, model)
-    , nodes(*this)
-    , drag(owner, *owner.viewport())
-    , surface(*owner.viewport())
-{
-}
-
 QString NodeTree::nodeMimeType()
 {
     return u"application/x-orvtlistview-node"_s;
@@ -33,7 +20,7 @@ QString NodeTree::nodeMimeType()
 
 NodeTree::NodeTree(QWidget *parent)
     : QTreeView(parent)
-    , d(std::make_unique<NodeTreeParts>(*this))
+    , d(std::make_unique<NodeTreeBody>(*this))
 {
     setModel(&d->model);
     setUpLook();
@@ -69,28 +56,21 @@ void NodeTree::setUpConnections()
     connect(this, &QTreeView::expanded, this, noteFolded(true));
     connect(this, &QTreeView::collapsed, this, noteFolded(false));
     connect(&d->model, &NodeModel::checkedByUser, this,
-            [this](TreeNode *node) { d->checkedNode = d->handles.of(*node); });
-    connect(&d->delegate, &ReportDelegate::labelEntered, this, &NodeTree::noteLabel);
-    connect(&d->slowClick, &SlowClick::clicked, this, [this] {
-        EventGuard::run([this] {
-            StartLabelEdit();
-            return true;
-        });
-    });
+            [this](TreeNode *node) { d->checkedNode = handleOf(node); });
+    connect(&d->delegate, &ReportDelegate::labelEntered, this,
+            [this](const QModelIndex &label, const QString &text) {
+                noteLabel(*handleOf(label), text);
+            });
+    connect(&d->clicks.slow(), &SlowClick::clicked, this, &NodeTree::StartLabelEdit);
 }
 
 void NodeTree::setUpDrag()
 {
-    d->drag.setContent([this](QMimeData &content) {
+    d->surface.drag().setContent([this](QMimeData &content) {
         if (const Node *node = draggedNode())
             content.setData(nodeMimeType(), node->Key().toUtf8());
     });
-    connect(&d->drag, &DragEvents::OLECompleteDrag, this, &NodeTree::OLECompleteDrag);
-    connect(&d->drag, &DragEvents::OLEDragDrop, this, &NodeTree::OLEDragDrop);
-    connect(&d->drag, &DragEvents::OLEDragOver, this, &NodeTree::OLEDragOver);
-    connect(&d->drag, &DragEvents::OLEGiveFeedback, this, &NodeTree::OLEGiveFeedback);
-    connect(&d->drag, &DragEvents::OLESetData, this, &NodeTree::OLESetData);
-    connect(&d->drag, &DragEvents::OLEStartDrag, this, &NodeTree::OLEStartDrag);
+    raiseDrags(d->surface.drag(), *this);
 }
 
 Nodes *NodeTree::Nodes() const
@@ -109,50 +89,41 @@ NodeTree::Filling::~Filling()
     m_tree.d->model.endFilling();
 }
 
-Node *NodeTree::handleOf(const QModelIndex &index) const
+Node *NodeTree::handleOf(TreeNode *node) const
 {
-    return index.isValid() ? d->handles.of(d->model.nodeOf(index)) : nullptr;
+    return node ? d->handles.of(*node, static_cast<NodeTreeParts &>(*d)) : nullptr;
 }
 
-TreeNode *NodeTreeParts::nodeOf(const Node *node, const QString &source) const
+Node *NodeTree::handleOf(const QModelIndex &index) const
 {
-    if (!node)
-        return nullptr;
-    if (node->m_parts != this)
-        throw Error(InvalidCall, source, u"The node is another tree's"_s);
-    if (!node->isAlive())
-        throw Error(ObjectNotSet, source, u"The node has been removed"_s);
-    return node->m_node;
+    return index.isValid() ? handleOf(&d->model.nodeOf(index)) : nullptr;
 }
 
 Node *NodeTree::SelectedItem() const
 {
-    TreeNode *node = d->choice.selected();
-    return node ? d->handles.of(*node) : nullptr;
+    return handleOf(d->choice.selected());
 }
 
 void NodeTree::setSelectedItem(Node *Item)
 {
-    d->choice.select(d->nodeOf(Item, u"NodeTree.setSelectedItem"_s));
+    d->choice.select(Node::nodeOf(Item, *d, u"NodeTree.setSelectedItem"_s));
 }
 
 Node *NodeTree::HitTest(float X, float Y) const
 {
-    const QPoint point(Twips::toPixelsX(static_cast<double>(X), *this),
-                       Twips::toPixelsY(static_cast<double>(Y), *this));
-    return nodeAt(viewport()->mapFrom(this, point));
+    return handleOf(d->surface.indexAt(X, Y));
 }
 
 Node *NodeTree::nodeAt(QPoint place) const
 {
-    return viewport()->rect().contains(place) ? handleOf(indexAt(place)) : nullptr;
+    return handleOf(d->surface.indexAt(place));
 }
 
 void NodeTree::OLEDrag()
 {
     d->dragged = SelectedItem();
     if (d->dragged)
-        d->drag.begin();
+        d->surface.drag().begin();
 }
 
 Node *NodeTree::draggedNode() const
@@ -167,12 +138,12 @@ void NodeTree::setDraggable(std::function<bool(const Node &)> test)
 
 void NodeTree::setDragEffects(qint32 effects)
 {
-    d->drag.setAllowedEffects(effects);
+    d->surface.drag().setAllowedEffects(effects);
 }
 
 void NodeTree::setDropTarget(DropTarget *target)
 {
-    d->drag.setTarget(target);
+    d->surface.drag().setTarget(target);
 }
 
 Node *NodeTree::dropHighlight() const
@@ -182,7 +153,7 @@ Node *NodeTree::dropHighlight() const
 
 void NodeTree::setDropHighlight(Node *node)
 {
-    const TreeNode *marked = d->nodeOf(node, u"NodeTree.setDropHighlight"_s);
+    const TreeNode *marked = Node::nodeOf(node, *d, u"NodeTree.setDropHighlight"_s);
     const QModelIndex index = marked ? d->model.indexOf(*marked) : QModelIndex();
     if (index == d->dropHighlight)
         return;

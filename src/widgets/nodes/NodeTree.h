@@ -12,7 +12,7 @@ namespace ORVTListview {
 
 class DropTarget;
 class Nodes;
-struct NodeTreeParts;
+struct NodeTreeBody;
 
 // A tree of nodes, one of which may be selected. X and Y are twips from the tree's
 // corner.
@@ -167,20 +167,15 @@ protected Q_SLOTS:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
-    friend class NodeChoice;
     using QTreeView::setModel; // the tree has its own
-
-    using MouseSignal = void (NodeTree::*)(qint16, qint16, float, float);
 
     void setUpLook();
     void setUpConnections();
     void setUpDrag();
-    void showToolTip(const QHelpEvent &event);
-    void followDrag(const QEvent &event);
+    Node *handleOf(TreeNode *node) const;
     Node *handleOf(const QModelIndex &index) const;
     bool isOnExpander(const QModelIndex &index, QPoint place) const;
     bool isChosenLabel(const QModelIndex &index, QPoint place) const;
-    bool raiseMouse(MouseSignal signal, const QMouseEvent &event);
     void act(QKeyEvent &event);
     bool runCommand(const QKeyEvent &event);
     void letUser(const std::function<void()> &act, Node *pressed = nullptr);
@@ -188,10 +183,9 @@ private:
     bool raiseFolded();
     void raiseNodeCheck();
     void toggleCurrent();
-    void noteLabel(const QModelIndex &index, const QString &text);
-    void finishLabelEdit();
+    void noteLabel(Node &node, const QString &text);
 
-    std::unique_ptr<NodeTreeParts> d;
+    std::unique_ptr<NodeTreeBody> d;
 };
 
 } // namespace ORVTListview

@@ -2,10 +2,10 @@
 // look whether the tree still exists.
 
 #include "base/EventGuard.h"
-#include "widgets/input/MouseArguments.h"
 #include "widgets/input/RaisedKeys.h"
-#include "widgets/look/PlainToolTip.h"
-#include "widgets/nodes/NodeTreeParts.h"
+#include "widgets/input/RaisedMouse.h"
+#include "widgets/nodes/NodeTree.h"
+#include "widgets/nodes/NodeTreeBody.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QDropEvent>
@@ -30,63 +30,24 @@ bool NodeTree::viewportEvent(QEvent *event)
 {
     if (!d)
         return QTreeView::viewportEvent(event);
-    return d->surface.deliver([this, event] {
-        const QPointer<NodeTree> self(this);
-        if (d->drag.handle(*event)) {
-            if (self)
-                followDrag(*event);
-            return true;
-        }
-        if (event->type() != QEvent::ToolTip)
-            return QTreeView::viewportEvent(event);
-        showToolTip(*static_cast<QHelpEvent *>(event));
-        return true;
-    });
-}
-
-// Scrolls while a drag stays near an edge.
-void NodeTree::followDrag(const QEvent &event)
-{
-    if (event.type() == QEvent::DragLeave || event.type() == QEvent::Drop) {
-        stopAutoScroll();
-    } else if (event.type() == QEvent::DragMove && hasAutoScroll()) {
-        const QPoint position = static_cast<const QDropEvent &>(event).position().toPoint();
-        const int margin = autoScrollMargin();
-        const QRect inner = viewport()->rect().adjusted(margin, margin, -margin, -margin);
-        if (!inner.contains(position))
-            startAutoScroll();
-    }
-}
-
-void NodeTree::showToolTip(const QHelpEvent &event)
-{
-    const QModelIndex index = indexAt(event.pos());
-    QString text;
-    if (index.isValid()) {
-        QStyleOptionViewItem option;
-        initViewItemOption(&option);
-        option.rect = visualRect(index);
-        if (d->delegate.isElided(option, index))
-            text = index.data().toString();
-    }
-    showPlainToolTip(event, text, *viewport());
+    return d->surface.deliver(*event, [this, event] { return QTreeView::viewportEvent(event); });
 }
 
 void NodeTree::scrollContentsBy(int dx, int dy)
 {
-    d->slowClick.stop();
+    d->clicks.slow().stop();
     QTreeView::scrollContentsBy(dx, dy);
 }
 
 void NodeTree::focusInEvent(QFocusEvent *event)
 {
-    d->focusedByMouse = event->reason() == Qt::MouseFocusReason;
+    d->clicks.focusIn(*event);
     QTreeView::focusInEvent(event);
 }
 
 void NodeTree::focusOutEvent(QFocusEvent *event)
 {
-    d->slowClick.stop();
+    d->clicks.slow().stop();
     QTreeView::focusOutEvent(event);
 }
 
@@ -113,7 +74,7 @@ void NodeTree::letUser(const std::function<void()> &act, Node *pressed)
 // A node that is hidden by collapsing hands its selection up.
 void NodeTree::keepSelectionShown()
 {
-    for (const NodeTreeParts::Folded &folded : std::as_const(d->folded)) {
+    for (const NodeTreeBody::Folded &folded : std::as_const(d->folded)) {
         const TreeNode *chosen = d->choice.selected();
         if (!folded.expanded && folded.node->isAlive() && chosen &&
             chosen->isWithin(*folded.node->m_node))
@@ -125,7 +86,7 @@ void NodeTree::keepSelectionShown()
 bool NodeTree::raiseFolded()
 {
     const auto all = std::exchange(d->folded, {});
-    for (const NodeTreeParts::Folded &folded : all) {
+    for (const NodeTreeBody::Folded &folded : all) {
         const auto event = folded.expanded ? &NodeTree::Expand : &NodeTree::Collapse;
         if (folded.node->isAlive() && !raiseEvent(*this, event, folded.node))
             return false;
@@ -137,25 +98,13 @@ bool NodeTree::raiseFolded()
 
 void NodeTree::keyPressEvent(QKeyEvent *event)
 {
-    d->slowClick.stop();
+    d->clicks.slow().stop();
     if (state() == EditingState) { // what the editor has no use for
         QTreeView::keyPressEvent(event);
         return;
     }
-    event->accept();
-    if (!raiseKey(*this, &NodeTree::KeyDown, *event))
-        return;
-    const std::optional<QString> typed = raiseCharacter(*this, &NodeTree::KeyPress, *event);
-    if (!typed)
-        return;
-    if (*typed == event->text()) {
-        act(*event);
-        return;
-    }
-    QKeyEvent replaced = retyped(*event, *typed);
-    const QPointer<NodeTree> self(this);
-    act(replaced);
-    event->setAccepted(!self || replaced.isAccepted());
+    raiseKeyPress(*this, &NodeTree::KeyDown, &NodeTree::KeyPress, *event,
+                  [this](QKeyEvent &key) { act(key); });
 }
 
 void NodeTree::keyReleaseEvent(QKeyEvent *event)
@@ -191,16 +140,10 @@ void NodeTree::toggleCurrent()
         return;
     TreeNode &node = d->model.nodeOf(current);
     d->model.setChecked(node, !node.checked);
-    raiseEvent(*this, &NodeTree::NodeCheck, d->handles.of(node));
+    raiseEvent(*this, &NodeTree::NodeCheck, handleOf(&node));
 }
 
 // Mouse.
-
-bool NodeTree::raiseMouse(MouseSignal signal, const QMouseEvent &event)
-{
-    const MouseArguments mouse = mouseArguments(event, *this);
-    return raiseEvent(*this, signal, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
-}
 
 bool NodeTree::isOnExpander(const QModelIndex &index, QPoint place) const
 {
@@ -220,45 +163,38 @@ bool NodeTree::isChosenLabel(const QModelIndex &index, QPoint place) const
 
 void NodeTree::mousePressEvent(QMouseEvent *event)
 {
-    const bool focused = std::exchange(d->focusedByMouse, false);
-    if (!raiseMouse(&NodeTree::MouseDown, *event))
+    const bool focused = d->clicks.takeFocusing();
+    if (!raiseMouse(*this, &NodeTree::MouseDown, *event))
         return;
     const QPoint place = event->position().toPoint();
-    const bool left = event->button() == Qt::LeftButton;
     const QModelIndex index = indexAt(place);
     const bool folds = isOnExpander(index, place);
-    d->clickAwaited = left;
-    d->pressed = index;
-    d->slowClick.press(left && !focused && !folds && event->modifiers() == Qt::NoModifier &&
-                       isChosenLabel(index, place));
-    const bool picks = !folds && (left || event->button() == Qt::RightButton);
+    d->clicks.press(*event, index, !focused && !folds && isChosenLabel(index, place));
+    const bool picks =
+        !folds && (event->button() == Qt::LeftButton || event->button() == Qt::RightButton);
     letUser([this, event] { QTreeView::mousePressEvent(event); },
             picks ? handleOf(index) : nullptr);
 }
 
 void NodeTree::mouseMoveEvent(QMouseEvent *event)
 {
-    if (raiseMouse(&NodeTree::MouseMove, *event))
+    if (raiseMouse(*this, &NodeTree::MouseMove, *event))
         letUser([this, event] { QTreeView::mouseMoveEvent(event); });
 }
 
 void NodeTree::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!raiseMouse(&NodeTree::MouseUp, *event))
+    if (!raiseMouse(*this, &NodeTree::MouseUp, *event))
         return;
     d->checkedNode = nullptr;
     const QPointer<NodeTree> self(this);
     letUser([this, event] { QTreeView::mouseReleaseEvent(event); });
     if (!self)
         return;
-    const QPoint place = event->position().toPoint();
-    const bool clicked = event->button() == Qt::LeftButton &&
-                         std::exchange(d->clickAwaited, false) &&
-                         viewport()->rect().contains(place);
-    d->slowClick.release(clicked && !d->checkedNode && indexAt(place) == d->pressed);
+    const bool clicked = d->clicks.release(*event, d->checkedNode);
     raiseNodeCheck();
     if (self && clicked)
-        raiseEvent(*this, &NodeTree::Click, handleOf(d->pressed));
+        raiseEvent(*this, &NodeTree::Click, handleOf(d->clicks.pressed()));
 }
 
 void NodeTree::raiseNodeCheck()
@@ -270,8 +206,7 @@ void NodeTree::raiseNodeCheck()
 
 void NodeTree::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    d->slowClick.stop();
-    d->clickAwaited = false;
+    d->clicks.doubleClick();
     const QPointer<NodeTree> self(this);
     if (event->button() == Qt::LeftButton)
         raiseEvent(*this, &NodeTree::DblClick, handleOf(indexAt(event->position().toPoint())));
@@ -282,12 +217,12 @@ void NodeTree::mouseDoubleClickEvent(QMouseEvent *event)
 // The view cannot bear to be destroyed within this call, so the drag comes later.
 void NodeTree::startDrag(Qt::DropActions)
 {
-    d->slowClick.stop();
-    Node *node = handleOf(d->pressed);
+    d->clicks.slow().stop();
+    Node *node = handleOf(d->clicks.pressed());
     if (!node || (d->draggable && !d->draggable(*node)))
         return;
     d->dragged = node;
-    d->drag.begin();
+    d->surface.drag().begin();
 }
 
 } // namespace ORVTListview

@@ -2,7 +2,8 @@
 
 #include "widgets/nodes/NodePlace.h"
 #include "widgets/nodes/NodeTreeParts.h"
-#include <ORVTListview/Error.h>
+#include "widgets/view/Lookup.h"
+#include <ORVTListview/Node.h>
 
 namespace ORVTListview {
 
@@ -10,19 +11,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString kind = u"node"_s;
+
 TreeNode &nodeAt(const NodeModel &model, const QString &member, qint32 index)
 {
-    if (index < 1 || index > model.count())
-        throw Error(SubscriptOutOfRange, member, u"There is no node %1"_s.arg(index));
+    Lookup::checkIndex(member, kind, index, model.count());
     return model.at(index - 1);
 }
 
 TreeNode &nodeOfKey(const NodeModel &model, const QString &member, const QString &key)
 {
-    TreeNode *node = model.find(key);
-    if (!node)
-        throw Error(InvalidCall, member, u"There is no node with the key \"%1\""_s.arg(key));
-    return *node;
+    return Lookup::required(model.find(key), member, kind, key);
 }
 
 } // namespace
@@ -39,12 +38,12 @@ qint32 Nodes::Count() const
 
 Node *Nodes::Item(qint32 Index) const
 {
-    return m_parts.handles.of(nodeAt(m_parts.model, u"Nodes.Item"_s, Index));
+    return m_parts.handles.of(nodeAt(m_parts.model, u"Nodes.Item"_s, Index), m_parts);
 }
 
 Node *Nodes::Item(const QString &Key) const
 {
-    return m_parts.handles.of(nodeOfKey(m_parts.model, u"Nodes.Item"_s, Key));
+    return m_parts.handles.of(nodeOfKey(m_parts.model, u"Nodes.Item"_s, Key), m_parts);
 }
 
 bool Nodes::Contains(const QString &Key) const
@@ -56,18 +55,18 @@ Node *Nodes::Add(Node *Relative, NodeRelationship Relationship, const QString &K
                  const QString &Text, const QString &Image)
 {
     const QString member = u"Nodes.Add"_s;
-    TreeNode *relative = m_parts.nodeOf(Relative, member);
-    if (m_parts.model.find(Key))
-        throw Error(InvalidCall, member, u"The key \"%1\" is in use already"_s.arg(Key));
+    TreeNode *relative = Node::nodeOf(Relative, m_parts, member);
+    Lookup::checkKeyIsFree(member, Key, m_parts.model.find(Key));
     const NodePlace place = NodePlace::of(m_parts.model, relative, Relationship);
-    return m_parts.handles.of(m_parts.model.add(*place.parent, place.row, Key, Text, Image));
+    return m_parts.handles.of(m_parts.model.add(*place.parent, place.row, Key, Text, Image),
+                              m_parts);
 }
 
 Node *Nodes::Add(const QString &Relative, NodeRelationship Relationship, const QString &Key,
                  const QString &Text, const QString &Image)
 {
     TreeNode &relative = nodeOfKey(m_parts.model, u"Nodes.Add"_s, Relative);
-    return Add(m_parts.handles.of(relative), Relationship, Key, Text, Image);
+    return Add(m_parts.handles.of(relative, m_parts), Relationship, Key, Text, Image);
 }
 
 void Nodes::Remove(qint32 Index)

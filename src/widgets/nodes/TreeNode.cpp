@@ -1,13 +1,13 @@
 #include "widgets/nodes/TreeNode.h"
 
-#include <ORVTListview/Node.h>
+#include "widgets/view/HandleStore.h"
 
 namespace ORVTListview {
 
 TreeNode::~TreeNode()
 {
     if (handle)
-        handle->m_node = nullptr;
+        handle->letGo();
 }
 
 bool TreeNode::isWithin(const TreeNode &other) const

@@ -10,7 +10,7 @@
 
 namespace ORVTListview {
 
-class Node;
+class HandedOut;
 
 // A node as the model keeps it, with the handle that was given out for it, if any.
 // Dying, it tells the handle.
@@ -33,7 +33,7 @@ struct TreeNode
     int row = 0;                // among the parent's children
     int position = 0;           // ask NodeModel::positionOf instead
     std::vector<std::unique_ptr<TreeNode>> children;
-    Node *handle = nullptr;
+    HandedOut *handle = nullptr;
 };
 
 } // namespace ORVTListview

@@ -1,5 +1,7 @@
 #include "widgets/view/SlowClick.h"
 
+#include "base/EventGuard.h"
+
 #include <QtGui/QGuiApplication>
 #include <QtGui/QStyleHints>
 
@@ -8,7 +10,7 @@ namespace ORVTListview {
 SlowClick::SlowClick()
 {
     m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &SlowClick::clicked);
+    connect(&m_timer, &QTimer::timeout, this, [this] { raiseEvent(*this, &SlowClick::clicked); });
 }
 
 void SlowClick::press(bool onChosen)

@@ -48,11 +48,12 @@ public:
     void setVisible(bool Visible);
 
 private:
-    friend class ListHandles;
-    friend struct ReportColumn;
+    template <typename Handle, typename Held>
+    friend class HandleStore;
 
     ColumnHeader(ReportListParts &parts, ReportColumn &column);
 
+    void letGo() { m_column = nullptr; }
     ReportColumn &column(const char *member) const;
 
     ReportListParts *m_parts;

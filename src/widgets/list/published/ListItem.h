@@ -69,12 +69,13 @@ public:
     void EnsureVisible();
 
 private:
-    friend class ListHandles;
-    friend struct ReportRow;
     friend class ReportList;
+    template <typename Handle, typename Held>
+    friend class HandleStore;
 
     ListItem(ReportListParts &parts, ReportRow &row);
 
+    void letGo() { m_row = nullptr; }
     ReportRow &row(const char *member) const;
     void checkSubItem(const char *member, qint32 index) const;
 

@@ -16,7 +16,8 @@ namespace ORVTListview {
 
 class ColumnHeaders;
 class ListItems;
-struct ReportListParts;
+struct ReportListBody;
+struct ReportRow;
 
 // A list of rows with columns: row text in the first, sub-items in the others. A
 // row is selected as a whole. X and Y are twips from the list's corner, indexes
@@ -205,10 +206,6 @@ protected:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
-    friend class RowChoice;
-
-    using MouseSignal = void (ReportList::*)(qint16, qint16, float, float);
-
     // The model and the modes are the list's own affair.
     using QTableView::setModel;
     using QTableView::setSelectionMode;
@@ -216,11 +213,10 @@ private:
     void setUpLook();
     void setUpConnections();
     void updateRowHeight();
-    void showToolTip(const QHelpEvent &event);
-    void followDrag(const QEvent &event);
+    ListItem *itemOf(ReportRow *row) const;
+    ListItem *itemOf(int position) const;
     ListItem *itemOf(const QModelIndex &index) const;
     bool isChosenLabel(const QModelIndex &index) const;
-    bool raiseMouse(MouseSignal signal, const QMouseEvent &event);
     void act(QKeyEvent &event);
     bool runCommand(const QKeyEvent &event);
     void pick(const std::function<void()> &act);
@@ -228,11 +224,10 @@ private:
     void raiseItemCheck();
     void toggleCurrent();
     void copySelection() const;
-    void noteLabel(int position, const QString &text);
-    void finishLabelEdit();
+    void noteLabel(ListItem &item, const QString &text);
     void setLabel(ListItem &item, const QString &label);
 
-    std::unique_ptr<ReportListParts> d;
+    std::unique_ptr<ReportListBody> d;
 };
 
 } // namespace ORVTListview

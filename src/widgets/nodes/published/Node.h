@@ -87,14 +87,17 @@ public:
     void EnsureVisible();
 
 private:
-    friend class NodeHandles;
     friend class Nodes;
     friend class NodeTree;
-    friend struct NodeTreeParts;
-    friend struct TreeNode;
+    template <typename Handle, typename Held>
+    friend class HandleStore;
 
     Node(NodeTreeParts &parts, TreeNode &node);
 
+    // What a caller's node of this tree stands for; null for null.
+    static TreeNode *nodeOf(const Node *node, const NodeTreeParts &parts, const QString &source);
+
+    void letGo() { m_node = nullptr; }
     TreeNode &node(const char *member) const;
     Node *handleOf(TreeNode *node) const;
 

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "base/EventGuard.h"
+#include "widgets/view/OpenView.h"
+
+#include <functional>
+
+namespace ORVTListview {
+
+// The events around a view's own editor of a label.
+class LabelEdit
+{
+public:
+    LabelEdit() = default;
+    Q_DISABLE_COPY_MOVE(LabelEdit) // follows one view
+
+    // Whether the editor may open; false also when a receiver has destroyed the view.
+    template <typename View>
+    bool announce(View &view, void (View::*before)(qint16 &))
+    {
+        if (m_isAnnouncing || OpenView::isEditing(view))
+            return false;
+        m_isAnnouncing = true;
+        qint16 cancel = 0;
+        if (!raiseEvent(view, before, cancel))
+            return false;
+        m_isAnnouncing = false;
+        return cancel == 0;
+    }
+
+    // The editor is being closed while this is called; event and label come later.
+    template <typename View>
+    static void enterSoon(View &view, void (View::*after)(qint16 &, QString &),
+                          const QString &entered, const std::function<void(const QString &)> &enter)
+    {
+        const auto finish = [&view, after, label = entered, enter]() mutable {
+            qint16 cancel = 0;
+            if (raiseEvent(view, after, cancel, label) && cancel == 0)
+                enter(label);
+        };
+        QMetaObject::invokeMethod(&view, finish, Qt::QueuedConnection);
+    }
+
+    // No going on to edit the next one, which would not be announced.
+    static QAbstractItemDelegate::EndEditHint withoutNext(QAbstractItemDelegate::EndEditHint hint)
+    {
+        const bool next = hint == QAbstractItemDelegate::EditNextItem ||
+                          hint == QAbstractItemDelegate::EditPreviousItem;
+        return next ? QAbstractItemDelegate::NoHint : hint;
+    }
+
+private:
+    bool m_isAnnouncing = false;
+};
+
+} // namespace ORVTListview

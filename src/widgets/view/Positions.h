@@ -1,0 +1,34 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+
+namespace ORVTListview {
+
+// Numbers what a model holds in an order, no sooner than somebody asks. A change of
+// the order says from where on it holds no longer.
+class Positions
+{
+public:
+    // Order is a sequence of pointers to what has a member `position`.
+    template <typename Order, typename Held>
+    int of(const Order &order, const Held &held) const
+    {
+        const auto known = static_cast<std::size_t>(held.position);
+        if (known >= m_numbered || &*order[known] != &held) {
+            for (; m_numbered < order.size(); ++m_numbered)
+                order[m_numbered]->position = static_cast<int>(m_numbered);
+        }
+        return held.position;
+    }
+
+    void forgetFrom(int position)
+    {
+        m_numbered = std::min(m_numbered, static_cast<std::size_t>(position));
+    }
+
+private:
+    mutable std::size_t m_numbered = 0; // those before this know their position
+};
+
+} // namespace ORVTListview
