@@ -35,7 +35,7 @@ void localise(QMenu &menu)
 } // namespace
 
 CodeCommands::CodeCommands(CodeEditor &editor)
-    : BoxCommands(editor.box())
+    : PlainCommands(editor.box())
     , m_editor(editor)
 {
 }
@@ -123,7 +123,7 @@ void CodeCommands::fillMenu(QMenu &menu)
     add(u"Undo"_s, canChange && m_editor.canUndo(), &CodeCommands::undo);
     add(u"Redo"_s, canChange && m_editor.canRedo(), &CodeCommands::redo);
     menu.addSeparator();
-    BoxCommands::fillMenu(menu);
+    PlainCommands::fillMenu(menu);
     localise(menu);
 }
 

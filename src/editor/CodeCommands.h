@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/box/BoxCommands.h"
+#include "widgets/box/PlainCommands.h"
 
 namespace ORVTListview {
 
@@ -8,7 +8,7 @@ class CodeEditor;
 
 // Every way into and out of the editor's box: typed text, context menu, drag and
 // drop, middle click and input method follow the same rules as the keys.
-class CodeCommands : public BoxCommands
+class CodeCommands : public PlainCommands
 {
 public:
     explicit CodeCommands(CodeEditor &editor);

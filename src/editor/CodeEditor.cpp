@@ -60,7 +60,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
 CodeEditor::~CodeEditor()
 {
     if (m_box)
-        m_box->setCommands(std::make_unique<BoxCommands>(*m_box)); // ours know the editor
+        m_box->setCommands(nullptr); // ours know the editor
 }
 
 void CodeEditor::connectBox()

@@ -1,10 +1,12 @@
 // The members of the code editor.
 
+#include <ORVTListview/ORVListView.h>
+
 #include "base/ThreadState.h"
 #include "editor/WordReplacing.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "find/FindDialog.h"
-#include "listview/ORVListViewParts.h"
+#include "listview/ListViewFaces.h"
 #include "shared/points/HostForms.h"
 
 namespace ORVTListview {

@@ -1,7 +1,9 @@
 // The members of the point table.
 
+#include <ORVTListview/ORVListView.h>
+
 #include "base/EventGuard.h"
-#include "listview/ORVListViewParts.h"
+#include "listview/ListViewFaces.h"
 #include <ORVTListview/ListItems.h>
 
 namespace ORVTListview {

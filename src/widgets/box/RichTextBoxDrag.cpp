@@ -1,7 +1,9 @@
 // Text dragged out of a box and dropped into it.
 
+#include <ORVTListview/RichTextBox.h>
+
 #include "base/EventGuard.h"
-#include "widgets/box/RichTextBoxParts.h"
+#include "widgets/box/BoxParts.h"
 #include "widgets/input/MouseArguments.h"
 
 #include <QtCore/QMimeData>

@@ -1,8 +1,10 @@
 // How keys, clipboard and input method reach a box: all end in its commands.
 
+#include <ORVTListview/RichTextBox.h>
+
 #include "base/EventGuard.h"
 #include "widgets/box/BoxMimeData.h"
-#include "widgets/box/RichTextBoxParts.h"
+#include "widgets/box/BoxParts.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
@@ -67,7 +69,7 @@ BoxCommands &RichTextBox::commands() const
 
 void RichTextBox::setCommands(std::unique_ptr<BoxCommands> commands)
 {
-    m_parts->commands = commands ? std::move(commands) : std::make_unique<BoxCommands>(*this);
+    m_parts->commands = commands ? std::move(commands) : plainCommands(*this);
 }
 
 bool RichTextBox::isComposing() const
@@ -192,7 +194,7 @@ void RichTextBox::keepCaretWhole()
 // The toolkit reports what is being composed as a change of the line.
 void RichTextBox::compose(QInputMethodEvent *event)
 {
-    const Parts::KeepingText keeping(*m_parts);
+    const BoxParts::KeepingText keeping(*m_parts);
     QPlainTextEdit::inputMethodEvent(event);
 }
 

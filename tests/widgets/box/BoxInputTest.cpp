@@ -1,7 +1,7 @@
 #include "widgets/box/ShownBoxTest.h"
 
 #include "base/ColouredText.h"
-#include "widgets/box/BoxCommands.h"
+#include "widgets/box/PlainCommands.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
@@ -17,11 +17,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Notes what reaches it and does nothing else.
-class Recorder final : public BoxCommands
+class Recorder final : public PlainCommands
 {
 public:
     Recorder(RichTextBox &owner, QStringList &log)
-        : BoxCommands(owner)
+        : PlainCommands(owner)
         , m_log(log)
     {
     }

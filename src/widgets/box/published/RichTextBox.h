@@ -11,6 +11,7 @@
 namespace ORVTListview {
 
 class BoxCommands;
+struct BoxParts;
 struct ColouredText;
 struct TextPiece;
 
@@ -227,7 +228,6 @@ private:
     using QPlainTextEdit::toPlainText;
     using QPlainTextEdit::undo;
 
-    struct Parts;
     using PutPiece = std::function<void(QTextCursor &cursor, qsizetype index)>;
 
     void select(int anchor, int position);
@@ -250,7 +250,7 @@ private:
     void commit(const QInputMethodEvent &event);
     void startDrag(const QMouseEvent &event);
 
-    std::unique_ptr<Parts> m_parts;
+    std::unique_ptr<BoxParts> m_parts;
 };
 
 } // namespace ORVTListview
