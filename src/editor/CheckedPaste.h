@@ -10,13 +10,6 @@ namespace ORVTListview {
 
 class RichTextBox;
 
-// What became of a text that was to be pasted.
-enum class Pasted {
-    Done,
-    Refused, // nothing has changed
-    Nothing, // it holds no text; what was selected is gone
-};
-
 // Plain text in the colours that it takes in the place of the selection; nothing at
 // all, with a message, when it holds a "\". On a comment line the first line pasted
 // continues the comment.

@@ -55,9 +55,9 @@ void CodeCommands::type(const QString &text)
     m_editor.typeText(text);
 }
 
-bool CodeCommands::paste(const QMimeData &data)
+Pasted CodeCommands::paste(const QMimeData &data)
 {
-    return data.hasText() && m_editor.pasteFromOutside(data.text()) == Pasted::Done;
+    return data.hasText() ? m_editor.pasteFromOutside(data.text()) : Pasted::Refused;
 }
 
 void CodeCommands::copy()

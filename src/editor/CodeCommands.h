@@ -15,7 +15,7 @@ public:
 
     std::optional<bool> takesKey(const VirtualKey &key) const override;
     void type(const QString &text) override;
-    bool paste(const QMimeData &data) override;
+    Pasted paste(const QMimeData &data) override;
     void copy() override;
     void cut() override;
     void remove() override;

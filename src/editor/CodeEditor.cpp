@@ -370,8 +370,9 @@ Pasted CodeEditor::pasteFromOutside(const QString &data)
 Pasted CodeEditor::pasteChecked(const QString &data)
 {
     const RichTextBox::Changing changing(*m_box);
-    const std::optional<ColouredText> text = isRtf(data) ? std::nullopt : textToPaste(*m_box, data);
-    if (!text && !isRtf(data))
+    const bool hasColours = isRtf(data);
+    const std::optional<ColouredText> text = hasColours ? std::nullopt : textToPaste(*m_box, data);
+    if (!text && !hasColours)
         return Pasted::Refused;
     const QPointer<RichTextBox> box = m_box; // the host may destroy it
     const qint32 rest = m_box->TextLength() - m_box->SelLength();

@@ -8,6 +8,7 @@
 #include "editor/PopupWordList.h"
 #include "editor/StatusTimer.h"
 #include "editor/TypedColouring.h"
+#include "widgets/box/BoxCommands.h"
 #include "widgets/input/TabStops.h"
 #include <ORVTListview/Types.h>
 

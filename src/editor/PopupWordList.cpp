@@ -1,8 +1,8 @@
 #include "editor/PopupWordList.h"
 
+#include "base/KeyCodes.h"
 #include "base/ThreadState.h"
 #include "editor/WordInBox.h"
-#include "editor/rules/KeyRules.h"
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"

@@ -19,6 +19,16 @@ namespace ORVTListview {
 class RichTextBox;
 struct TextPiece;
 
+// What became of a text that was to be pasted.
+enum class Pasted {
+    Done,
+    Refused, // nothing has changed
+    Nothing, // it holds no text; what was selected is gone
+};
+
+// How much a key removes that removes beside the caret.
+enum class Extent { Character, Word };
+
 // What every way into and out of a box ends in: typed keys, shortcuts, context
 // menu, drag and drop, middle click, input method. An owner with rules of its own gives
 // the box its own commands.
@@ -38,13 +48,18 @@ public:
     // comes as CR LF. An input method may give any text.
     virtual void type(const QString &text) = 0;
 
-    // Puts the data in the place of the selection and returns whether text went in:
-    // only then does a drop take it away from where it was. Only plain text is taken.
-    virtual bool paste(const QMimeData &data) = 0;
+    // Puts the data in the place of the selection; only when that is done does a drop
+    // take it away from where it was. Only plain text is taken.
+    virtual Pasted paste(const QMimeData &data) = 0;
 
     virtual void copy() = 0;
     virtual void cut() = 0;
     virtual void remove() = 0; // the selection
+
+    // The selection, or without one what stands before or after the caret.
+    virtual void removeBefore(Extent extent) = 0;
+    virtual void removeAfter(Extent extent) = 0;
+
     virtual void selectAll() = 0;
 
     // One text in the place of pieces of the text, as replacePieces of the box.

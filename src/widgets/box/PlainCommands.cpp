@@ -31,13 +31,13 @@ void PlainCommands::type(const QString &text)
     m_box.setSelText(text);
 }
 
-bool PlainCommands::paste(const QMimeData &data)
+Pasted PlainCommands::paste(const QMimeData &data)
 {
     const QString text = data.text();
     if (text.isEmpty())
-        return false;
+        return Pasted::Refused;
     m_box.setSelText(text);
-    return true;
+    return Pasted::Done;
 }
 
 void PlainCommands::pasteClipboard()
@@ -63,6 +63,22 @@ void PlainCommands::cut()
 void PlainCommands::remove()
 {
     m_box.setSelText({});
+}
+
+void PlainCommands::removeBefore(Extent extent)
+{
+    edit([this, extent] {
+        m_box.removeBeside(extent == Extent::Word ? QTextCursor::PreviousWord
+                                                  : QTextCursor::PreviousCharacter);
+    });
+}
+
+void PlainCommands::removeAfter(Extent extent)
+{
+    edit([this, extent] {
+        m_box.removeBeside(extent == Extent::Word ? QTextCursor::NextWord
+                                                  : QTextCursor::NextCharacter);
+    });
 }
 
 void PlainCommands::selectAll()

@@ -12,10 +12,12 @@ public:
 
     std::optional<bool> takesKey(const VirtualKey &key) const override;
     void type(const QString &text) override;
-    bool paste(const QMimeData &data) override;
+    Pasted paste(const QMimeData &data) override;
     void copy() override;
     void cut() override;
     void remove() override;
+    void removeBefore(Extent extent) override;
+    void removeAfter(Extent extent) override;
     void selectAll() override;
     void replace(const QList<TextPiece> &pieces, const QString &text) override;
     void beforeChange(bool losesPart) override;

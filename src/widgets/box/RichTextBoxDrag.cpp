@@ -89,7 +89,7 @@ void RichTextBox::dropEvent(QDropEvent *event)
         return;
     const QPointer<RichTextBox> self(this);
     setTextCursor(place);
-    const bool isDone = commands().paste(*event->mimeData());
+    const bool isDone = commands().paste(*event->mimeData()) == Pasted::Done;
     if (!self)
         return;
     if (!isDone) {

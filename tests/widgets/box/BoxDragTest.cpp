@@ -25,10 +25,10 @@ public:
     {
     }
 
-    bool paste(const QMimeData &data) override
+    Pasted paste(const QMimeData &data) override
     {
         m_log << u"paste "_s + data.text();
-        return m_pastes && PlainCommands::paste(data);
+        return m_pastes ? PlainCommands::paste(data) : Pasted::Refused;
     }
     void remove() override
     {

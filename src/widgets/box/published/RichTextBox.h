@@ -3,6 +3,7 @@
 #include <ORVTListview/Export.h>
 
 #include <QtCore/QPointer>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QPlainTextEdit>
 
 #include <functional>
@@ -177,6 +178,10 @@ public:
     BoxCommands &commands() const;
     void setCommands(std::unique_ptr<BoxCommands> commands);
 
+    // For the commands: the selection goes, or without one what lies between the caret
+    // and the next or previous character or word.
+    void removeBeside(QTextCursor::MoveOperation step);
+
     // The text between a cursor's two ends.
     QString textOf(const QTextCursor &selection) const;
 
@@ -240,10 +245,9 @@ private:
     void replaceAll(const std::function<void()> &insert);
     void replaceEach(const QList<TextPiece> &pieces, const PutPiece &put,
                      const std::function<void()> &finish = {});
-    bool announceKey(const QKeyEvent &event);
     bool runShortcut(const QKeyEvent &event);
     void act(QKeyEvent *event);
-    void deleteBefore();
+    void removeStep(QTextCursor &cursor, QTextCursor::MoveOperation step) const;
     void keepCaretWhole();
     void compose(QInputMethodEvent *event);
     void selectReplaced(const QInputMethodEvent &event);
