@@ -1,9 +1,8 @@
 #include "editor/PopupWordList.h"
 
 #include "base/KeyCodes.h"
-#include "base/ThreadState.h"
+#include "editor/EditorThread.h"
 #include "editor/WordInBox.h"
-#include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
 #include <ORVTListview/ColumnHeaders.h>
@@ -44,9 +43,10 @@ QList<RowContent> rowsOf(const PopupWords &words)
 
 } // namespace
 
-PopupWordList::PopupWordList(ReportList &list, RichTextBox &box)
+PopupWordList::PopupWordList(ReportList &list, RichTextBox &box, const EditorThread &thread)
     : m_list(list)
     , m_box(box)
+    , m_thread(thread)
 {
     connect(&m_list, &ReportList::DblClick, this, [this] {
         if (m_isShown)
@@ -91,8 +91,7 @@ void PopupWordList::refill()
     if (!m_hasList)
         return;
     close();
-    m_words = PopupWords(threadPart<CodeWordList>().index(), threadPart<Vocabulary>(),
-                         threadPart<EditorState>().EditorSettings);
+    m_words = PopupWords(m_thread.words.index(), m_thread.vocabulary, m_thread.settings());
     m_list.setRows(rowsOf(m_words));
     m_list.fitColumns();
 }

@@ -38,9 +38,9 @@ void ListViewFaces::switchTo(LwType type)
     const bool hadFocus = list->hasFocus() || box.hasFocus();
     const bool showsCode = type == dsCode;
     if (showsCode)
-        editor->takeList();
+        editor->words().popup().takeList();
     else
-        editor->giveListBack();
+        editor->words().popup().giveListBack();
     table->switchTo(type);
     QWidget &face = showsCode ? static_cast<QWidget &>(box) : *list;
     control.setFocusProxy(&face);

@@ -130,7 +130,7 @@ void ORVListView::Drag(ActionIndex Action)
 void ORVListView::Clear()
 {
     if (d->isCode())
-        d->editor->Clear();
+        d->editor->text().Clear();
     else
         d->list->Clear();
 }
