@@ -9,23 +9,18 @@
 namespace ORVTListview {
 
 class RichTextBox;
-
-// What became of a text that was to be pasted.
-enum class Pasted {
-    Done,
-    Refused, // nothing has changed
-    Nothing, // it holds no text; what was selected is gone
-};
+struct EditorThread;
 
 // Plain text in the colours that it takes in the place of the selection; nothing at
 // all, with a message, when it holds a "\". On a comment line the first line pasted
 // continues the comment.
-std::optional<ColouredText> textToPaste(const RichTextBox &box, const QString &data);
+std::optional<ColouredText> textToPaste(const EditorThread &thread, const RichTextBox &box,
+                                        const QString &data);
 
 // Larger clipboard texts are refused, with a message. Bytes of UTF-16.
 constexpr qsizetype largestPaste = 64 * 1024 * 1024;
 
 // False, after the message, for a text that is too large.
-bool acceptPasteSize(const QString &data);
+bool acceptPasteSize(const EditorThread &thread, const QString &data);
 
 } // namespace ORVTListview

@@ -1,12 +1,15 @@
 #include "editor/CodeCommands.h"
 
 #include "base/TextPiece.h"
-#include "base/ThreadState.h"
-#include "editor/CodeEditor.h"
 #include "editor/EditorKeys.h"
-#include "editor/rules/undo/UndoStore.h"
+#include "editor/EditorUndo.h"
+#include "editor/ProgramClipboard.h"
+#include "editor/ProgramEditing.h"
+#include "editor/ProgramText.h"
+#include "editor/TypedColouring.h"
 #include "shared/texts/AccessKeys.h"
 #include "shared/texts/TextTable.h"
+#include "widgets/input/TabStops.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QMimeData>
@@ -34,15 +37,15 @@ void localise(QMenu &menu)
 
 } // namespace
 
-CodeCommands::CodeCommands(CodeEditor &editor)
-    : BoxCommands(editor.box())
-    , m_editor(editor)
+CodeCommands::CodeCommands(RichTextBox &owner, const Acts &acts)
+    : PlainCommands(owner)
+    , m_acts(acts)
 {
 }
 
 std::optional<bool> CodeCommands::takesKey(const VirtualKey &key) const
 {
-    switch (const KeyDecision decision = m_editor.decideKey(key.keyCode, key.shift)) {
+    switch (const KeyDecision decision = m_acts.keys.decide(key.keyCode, key.shift)) {
     case KeyDecision::ReachBox:
         return {}; // the toolkit's choice for characters and moves
     default:
@@ -52,64 +55,64 @@ std::optional<bool> CodeCommands::takesKey(const VirtualKey &key) const
 
 void CodeCommands::type(const QString &text)
 {
-    m_editor.typeText(text);
+    m_acts.editing.typeText(text);
 }
 
-bool CodeCommands::paste(const QMimeData &data)
+Pasted CodeCommands::paste(const QMimeData &data)
 {
-    return data.hasText() && m_editor.pasteFromOutside(data.text()) == Pasted::Done;
+    return data.hasText() ? m_acts.clipboard.pasteFromOutside(data.text()) : Pasted::Refused;
 }
 
 void CodeCommands::copy()
 {
-    m_editor.RTextCopy();
+    m_acts.clipboard.RTextCopy();
 }
 
 void CodeCommands::cut()
 {
-    m_editor.cutByKey();
+    m_acts.clipboard.cutByKey();
 }
 
 void CodeCommands::remove()
 {
-    m_editor.removeSelection();
+    m_acts.clipboard.removeSelection();
 }
 
 void CodeCommands::selectAll()
 {
-    m_editor.RTextSelectAll();
+    m_acts.text.RTextSelectAll();
 }
 
 void CodeCommands::replace(const QList<TextPiece> &pieces, const QString &text)
 {
-    m_editor.replace(pieces, text, CodeEditor::Replacing::InColours);
+    m_acts.editing.replace(pieces, text, ProgramEditing::Replacing::InColours);
 }
 
 void CodeCommands::beforeChange(bool losesPart)
 {
-    m_editor.noteChangeAhead(losesPart);
+    m_acts.undo.beforeEdit(losesPart);
 }
 
 void CodeCommands::edit(const std::function<void()> &change)
 {
-    m_editor.edit(change);
+    m_acts.colouring.edit(change);
 }
 
 void CodeCommands::undo()
 {
     QString errMsg;
-    m_editor.Undo(errMsg);
+    m_acts.undo.Undo(errMsg);
 }
 
 void CodeCommands::redo()
 {
     QString errMsg;
-    m_editor.Redo(errMsg);
+    m_acts.undo.Redo(errMsg);
 }
 
 void CodeCommands::leave(bool forwards)
 {
-    m_editor.giveBackTabStops();
+    m_acts.tabStops.giveBack();
     box().moveFocus(forwards);
 }
 
@@ -120,10 +123,10 @@ void CodeCommands::fillMenu(QMenu &menu)
         menu.addAction(text, &menu, [this, act] { (this->*act)(); })->setEnabled(isEnabled);
     };
     const bool canChange = !box().isReadOnly();
-    add(u"Undo"_s, canChange && m_editor.canUndo(), &CodeCommands::undo);
-    add(u"Redo"_s, canChange && m_editor.canRedo(), &CodeCommands::redo);
+    add(u"Undo"_s, canChange && m_acts.undo.canUndo(), &CodeCommands::undo);
+    add(u"Redo"_s, canChange && m_acts.undo.canRedo(), &CodeCommands::redo);
     menu.addSeparator();
-    BoxCommands::fillMenu(menu);
+    PlainCommands::fillMenu(menu);
     localise(menu);
 }
 

@@ -1,21 +1,39 @@
 #pragma once
 
-#include "widgets/box/BoxCommands.h"
+#include "widgets/box/PlainCommands.h"
 
 namespace ORVTListview {
 
-class CodeEditor;
+class EditorKeys;
+class EditorUndo;
+class ProgramClipboard;
+class ProgramEditing;
+class ProgramText;
+class TabStops;
+class TypedColouring;
 
 // Every way into and out of the editor's box: typed text, context menu, drag and
 // drop, middle click and input method follow the same rules as the keys.
-class CodeCommands : public BoxCommands
+class CodeCommands : public PlainCommands
 {
 public:
-    explicit CodeCommands(CodeEditor &editor);
+    // What each command ends in.
+    struct Acts
+    {
+        ProgramText &text;
+        ProgramEditing &editing;
+        ProgramClipboard &clipboard;
+        EditorKeys &keys;
+        EditorUndo &undo;
+        TypedColouring &colouring;
+        TabStops &tabStops;
+    };
+
+    CodeCommands(RichTextBox &owner, const Acts &acts);
 
     std::optional<bool> takesKey(const VirtualKey &key) const override;
     void type(const QString &text) override;
-    bool paste(const QMimeData &data) override;
+    Pasted paste(const QMimeData &data) override;
     void copy() override;
     void cut() override;
     void remove() override;
@@ -29,7 +47,7 @@ public:
     void fillMenu(QMenu &menu) override;
 
 private:
-    CodeEditor &m_editor;
+    Acts m_acts;
 };
 
 } // namespace ORVTListview

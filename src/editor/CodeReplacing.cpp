@@ -1,14 +1,14 @@
 #include "editor/CodeReplacing.h"
 
+#include "base/MessageService.h"
 #include "base/TextRules.h"
-#include "base/ThreadState.h"
+#include "editor/EditorThread.h"
 #include "editor/rules/colouring/ColourText.h"
-#include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/ReplacedLines.h"
-#include "editor/rules/colouring/ThreadColouring.h"
 #include "editor/rules/colouring/TouchedLine.h"
 #include "editor/rules/language/CodeText.h"
+#include "editor/rules/language/CodeWordList.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <array>
@@ -17,17 +17,13 @@
 namespace ORVTListview {
 namespace {
 
-const RichTextSettings &settings()
-{
-    return threadPart<EditorState>().EditorSettings;
-}
-
 // A text as it goes into a comment and into other lines, coloured when first needed.
 class ColouredTwice
 {
 public:
-    explicit ColouredTwice(const QString &text)
-        : m_text(text)
+    ColouredTwice(const EditorThread &thread, const QString &text)
+        : m_thread(thread)
+        , m_text(text)
     {
     }
 
@@ -35,11 +31,12 @@ public:
     {
         std::optional<ColouredText> &text = m_coloured[commentLine ? 1 : 0];
         if (!text)
-            text = colouredText(threadColouring(), m_text, commentLine, settings());
+            text = colouredText(m_thread.colouring(), m_text, commentLine, m_thread.settings());
         return *text;
     }
 
 private:
+    const EditorThread &m_thread;
     QString m_text;
     std::array<std::optional<ColouredText>, 2> m_coloured;
 };
@@ -48,8 +45,9 @@ private:
 class Finishing
 {
 public:
-    explicit Finishing(RichTextBox &box)
-        : m_box(box)
+    Finishing(const EditorThread &thread, RichTextBox &box)
+        : m_thread(thread)
+        , m_box(box)
     {
     }
 
@@ -71,7 +69,7 @@ public:
             return;
         const QString text = m_box.lineText(m_line);
         const auto length = static_cast<qint32>(text.size());
-        ColouredText finished = finishedLine(threadColouring(), text, settings());
+        ColouredText finished = finishedLine(m_thread.colouring(), text, m_thread.settings());
         if (!m_wasComment && !IsCommentLine(text))
             m_touched.keepTheRest(finished, m_box.coloured(m_lineStart, length));
         m_box.recolour(m_lineStart, finished);
@@ -89,6 +87,7 @@ private:
         m_lineStart = m_box.lineStart(line);
     }
 
+    const EditorThread &m_thread;
     RichTextBox &m_box;
     qint32 m_line = -1; // none
     qint32 m_lineStart = 0;
@@ -98,21 +97,22 @@ private:
 
 } // namespace
 
-void replaceInColours(RichTextBox &box, const QList<TextPiece> &pieces, const QString &text)
+void replaceInColours(const EditorThread &thread, RichTextBox &box, const QList<TextPiece> &pieces,
+                      const QString &text)
 {
-    const MessageBatch oneBox(threadPart<Messages>().service());
+    const MessageBatch oneBox(thread.messages.service());
     const QString stored = asInBox(text);
     const QList<ReplacedPiece> replaced = replacedPieces(box.Text(), pieces, stored);
-    ColouredTwice coloured(stored);
+    ColouredTwice coloured(thread, stored);
     QList<ColouredText> texts;
     texts.reserve(pieces.size());
     for (const ReplacedPiece &piece : replaced)
         texts.append(coloured.on(piece.isComment));
 
     const auto finish = [&] {
-        if (threadWordList().index().isEmpty())
+        if (thread.knownWords().index().isEmpty())
             return; // nothing to tell words by
-        Finishing finishing(box);
+        Finishing finishing(thread, box);
         qsizetype shift = 0;
         for (qsizetype i = 0; i < pieces.size(); ++i) {
             const qsizetype length = texts[i].text.size();

@@ -7,6 +7,7 @@ class QString;
 namespace ORVTListview {
 
 class RichTextBox;
+struct EditorThread;
 struct TextPiece;
 
 // Puts one text in the place of pieces of the program, as one change and in its
@@ -14,6 +15,7 @@ struct TextPiece;
 // listed spelling and with brackets set off. Words that it touches, and lines that
 // become a comment or cease to be one, take the colours they have from now on;
 // everything else stays as it is. The caret ends behind the last text.
-void replaceInColours(RichTextBox &box, const QList<TextPiece> &pieces, const QString &text);
+void replaceInColours(const EditorThread &thread, RichTextBox &box, const QList<TextPiece> &pieces,
+                      const QString &text);
 
 } // namespace ORVTListview

@@ -1,31 +1,37 @@
 #include "editor/EditorKeys.h"
 
 #include "base/EventGuard.h"
-#include "editor/CodeEditor.h"
+#include "editor/EditorUndo.h"
+#include "editor/ProgramClipboard.h"
+#include "editor/ProgramEditing.h"
+#include "editor/ProgramText.h"
+#include "editor/StatusTimer.h"
+#include "editor/TypedColouring.h"
+#include "editor/WordChoice.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
 
 namespace ORVTListview {
 
-EditorKeys::EditorKeys(CodeEditor &editor)
-    : m_editor(editor)
+EditorKeys::EditorKeys(const Acts &acts)
+    : m_acts(acts)
 {
 }
 
 KeyDecision EditorKeys::decide(qint16 keyCode, qint16 shift) const
 {
-    return decideKey(keyCode, shift, {m_editor.isWordListShown(), m_editor.box().SelLength() >= 1});
+    return decideKey(keyCode, shift, {m_acts.words.popup().isShown(), hasSelection()});
 }
 
 bool EditorKeys::hasSelection() const
 {
-    return m_editor.box().SelLength() >= 1;
+    return m_acts.editing.box().SelLength() >= 1;
 }
 
 void EditorKeys::keyDown(qint16 &KeyCode, qint16 Shift)
 {
-    const QPointer<CodeEditor> editor(&m_editor); // the host may destroy it in an event
+    const QPointer<EditorKeys> self(this); // the host may destroy it in an event
     bool reachesBox = false;
     try {
         reachesBox = carryOut(decide(KeyCode, Shift), KeyCode, Shift);
@@ -34,8 +40,8 @@ void EditorKeys::keyDown(qint16 &KeyCode, qint16 Shift)
     }
     if (!reachesBox)
         KeyCode = 0;
-    if (editor)
-        editor->rearmStatusTimer();
+    if (self)
+        m_acts.status.rearm();
 }
 
 bool EditorKeys::carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift)
@@ -47,15 +53,15 @@ bool EditorKeys::carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift)
     case KeyDecision::Swallow:
         return false;
     case KeyDecision::RaiseHelp:
-        raiseEvent(m_editor, &CodeEditor::KeyDown, KeyCode, Shift);
+        raiseEvent(*this, &EditorKeys::KeyDown, KeyCode, Shift);
         return KeyCode != 0;
     case KeyDecision::PopupKey:
-        return !m_editor.wordListKey(KeyCode) &&
+        return !m_acts.words.popup().key(KeyCode) &&
                carryOut(decideKey(KeyCode, Shift, {false, hasSelection()}), KeyCode, Shift);
     case KeyDecision::EditingKey:
         return editingKey(KeyCode);
     case KeyDecision::DeleteWordAfter:
-        m_editor.PushUndoSnapshot();
+        m_acts.undo.PushUndoSnapshot();
         return true;
     default:
         return runCommand(decision);
@@ -67,40 +73,40 @@ bool EditorKeys::runCommand(KeyDecision decision)
     QString errMsg;
     switch (decision) {
     case KeyDecision::IndentLines:
-        m_editor.indentLines();
+        m_acts.editing.indentLines();
         break;
     case KeyDecision::UnindentLines:
-        m_editor.unindentLines();
+        m_acts.editing.unindentLines();
         break;
     case KeyDecision::DeleteBlankBefore:
-        m_editor.deleteBlankBeforeCaret();
+        m_acts.editing.deleteBlankBeforeCaret();
         break;
     case KeyDecision::Cut:
-        m_editor.cutByKey();
+        m_acts.clipboard.cutByKey();
         break;
     case KeyDecision::Copy:
-        m_editor.RTextCopy();
+        m_acts.clipboard.RTextCopy();
         break;
     case KeyDecision::Paste:
-        m_editor.pasteClipboard();
+        m_acts.clipboard.pasteClipboard();
         break;
     case KeyDecision::Undo:
-        m_editor.Undo(errMsg);
+        m_acts.undo.Undo(errMsg);
         break;
     case KeyDecision::Redo:
-        m_editor.Redo(errMsg);
+        m_acts.undo.Redo(errMsg);
         break;
     case KeyDecision::SelectAll:
-        m_editor.RTextSelectAll();
+        m_acts.text.RTextSelectAll();
         break;
     case KeyDecision::ShowWordList:
-        m_editor.TryToPopupList(false);
+        m_acts.words.TryToPopupList(false);
         break;
     case KeyDecision::Analyze:
-        raiseEvent(m_editor, &CodeEditor::QueryAnalyze);
+        raiseEvent(*this, &EditorKeys::QueryAnalyze);
         break;
     case KeyDecision::Compile:
-        raiseEvent(m_editor, &CodeEditor::QueryCompile);
+        raiseEvent(*this, &EditorKeys::QueryCompile);
         break;
     default:
         return true;
@@ -112,20 +118,20 @@ bool EditorKeys::editingKey(qint16 keyCode)
 {
     switch (keyCode) {
     case EnterKey:
-        m_editor.breakLine();
+        m_acts.editing.breakLine();
         return false;
     case DeleteKey:
-        m_editor.PushUndoSnapshot();
+        m_acts.undo.PushUndoSnapshot();
         return true;
     case BackspaceKey:
-        m_editor.PushUndoSnapshot();
-        return !m_editor.unindentBeforeCaret();
+        m_acts.undo.PushUndoSnapshot();
+        return !m_acts.editing.unindentBeforeCaret();
     case UpKey:
     case DownKey:
-        m_editor.finishCaretLine();
-        return !m_editor.lines().moveToSameOffset(keyCode == UpKey ? -1 : 1);
+        m_acts.colouring.finishCaretLine();
+        return !m_acts.editing.lines().moveToSameOffset(keyCode == UpKey ? -1 : 1);
     default: // Page Up, Page Down, Home, End
-        m_editor.finishCaretLine();
+        m_acts.colouring.finishCaretLine();
         return true;
     }
 }

@@ -1,10 +1,8 @@
 #include "editor/EditorUndo.h"
 
-#include "base/ThreadState.h"
+#include "editor/EditorThread.h"
 #include "editor/rules/colouring/ColourText.h"
-#include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/LineColouring.h"
-#include "editor/rules/colouring/ThreadColouring.h"
 #include "shared/texts/TextTable.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>
@@ -18,70 +16,58 @@ namespace {
 constexpr auto idleAfter = 400ms; // since the last snapshot
 constexpr auto standsAfter = 5s;  // since the last change
 
-UndoStore &ring()
-{
-    return threadPart<UndoStore>();
-}
-
-const RichTextSettings &editorSettings()
-{
-    return threadPart<EditorState>().EditorSettings;
-}
-
-EditorClock::Time now()
-{
-    return threadPart<EditorClock>().now();
-}
-
 } // namespace
 
-EditorUndo::EditorUndo(RichTextBox &box)
+EditorUndo::EditorUndo(RichTextBox &box, const EditorThread &thread)
     : m_box(box)
+    , m_thread(thread)
     , m_changed(now())
 {
     m_idle.setSingleShot(true);
     connect(&m_idle, &QTimer::timeout, this, &EditorUndo::encodeWhenIdle);
 }
 
-void EditorUndo::noteTyped(QStringView text, bool isReady)
+void EditorUndo::noteTyped(QStringView text)
 {
     const bool isBlank = text == u" ";
     if (!isBlank)
         m_isTypedSinceSnapshot = true;
     else if (m_isTypedSinceSnapshot)
-        PushUndoSnapshot(isReady);
+        PushUndoSnapshot();
 }
 
-void EditorUndo::PushUndoSnapshot(bool isReady)
+void EditorUndo::PushUndoSnapshot()
 {
-    if (ring().IsRestoringUndo())
+    if (m_thread.ring.IsRestoringUndo())
         return;
     m_isTypedSinceSnapshot = false;
-    if (!isReady || m_box.TextLength() == 0)
+    if (!m_isReady || m_box.TextLength() == 0)
         return;
-    m_kept.beforeSnapshot(ring());
-    ring().StoreUndoSnapshot(shown());
-    m_kept.afterSnapshot(ring());
+    m_kept.beforeSnapshot(m_thread.ring);
+    m_thread.ring.StoreUndoSnapshot(shown());
+    m_kept.afterSnapshot(m_thread.ring);
     m_idle.start(idleAfter);
 }
 
 bool EditorUndo::canUndo() const
 {
-    return ring().CanUndo() || m_kept.canGo(Way::Back);
+    return m_thread.ring.CanUndo() || m_kept.canGo(Way::Back);
 }
 
 bool EditorUndo::canRedo() const
 {
-    return ring().CanRedo() || m_kept.canGo(Way::Forward);
+    return m_thread.ring.CanRedo() || m_kept.canGo(Way::Forward);
 }
 
 bool EditorUndo::step(Way way, QString &ErrMsg)
 {
+    const RichTextBox::Changing changing(m_box);
     beforeEdit(false);
-    const UndoStore::Restoring restoring(ring());
+    const UndoStore::Restoring restoring(m_thread.ring);
     try {
-        const bool canStep = way == Way::Forward ? ring().CanRedo() : ring().CanUndo();
-        return canStep ? stepInRing(way) : showKept(m_kept.go(ring(), shown(), way));
+        const bool canStep =
+            way == Way::Forward ? m_thread.ring.CanRedo() : m_thread.ring.CanUndo();
+        return canStep ? stepInRing(way) : showKept(m_kept.go(m_thread.ring, shown(), way));
     } catch (const Error &error) {
         ErrMsg = Localise(error.Description());
         return false;
@@ -90,31 +76,32 @@ bool EditorUndo::step(Way way, QString &ErrMsg)
 
 bool EditorUndo::stepInRing(Way way)
 {
-    m_kept.beforeStep(ring(), shown());
+    m_kept.beforeStep(m_thread.ring, shown());
     m_idle.start(idleAfter);
     const std::optional<qint16> slot =
-        way == Way::Forward ? ring().RedoStepForward() : ring().UndoStepBack();
-    const QString record = slot ? ring().FetchUndoSnapshot(*slot) : QString();
+        way == Way::Forward ? m_thread.ring.RedoStepForward() : m_thread.ring.UndoStepBack();
+    const QString record = slot ? m_thread.ring.FetchUndoSnapshot(*slot) : QString();
     if (record.isEmpty())
         return false;
     UndoRecord state;
     try {
         state = splitUndoRecord(record);
     } catch (const Error &) {
-        m_kept.keepUnreachable(ring(), joinedUndoRecord(record));
+        m_kept.keepUnreachable(m_thread.ring, joinedUndoRecord(record));
         throw;
     }
-    show(state, colouredText(threadColouring(), state.text, false, editorSettings()));
-    m_kept.afterStep(ring());
+    show(state, colouredText(m_thread.colouring(), state.text, false, m_thread.settings()));
+    m_kept.afterStep(m_thread.ring);
     return true;
 }
 
 bool EditorUndo::bringBackKeptText()
 {
+    const RichTextBox::Changing changing(m_box);
     beforeEdit(false);
-    const UndoStore::Restoring restoring(ring());
+    const UndoStore::Restoring restoring(m_thread.ring);
     try {
-        return showKept(m_kept.bringBack(ring(), shown()));
+        return showKept(m_kept.bringBack(m_thread.ring, shown()));
     } catch (const Error &) {
         return false; // damaged
     }
@@ -125,7 +112,7 @@ bool EditorUndo::showKept(const std::optional<UndoRecord> &kept)
 {
     if (!kept)
         return false;
-    show(*kept, finishedText(threadColouring(), kept->text, editorSettings()));
+    show(*kept, finishedText(m_thread.colouring(), kept->text, m_thread.settings()));
     m_idle.start(idleAfter);
     return true;
 }
@@ -147,25 +134,30 @@ UndoRecord EditorUndo::shown() const
 void EditorUndo::resetBase()
 {
     m_kept.clear();
-    ring().ResetUndoBase(m_box.Text());
+    m_thread.ring.ResetUndoBase(m_box.Text());
     m_idle.start(idleAfter);
 }
 
 void EditorUndo::clearHistory()
 {
-    ring().ClearUndoHistory();
+    m_thread.ring.ClearUndoHistory();
     m_kept.clear();
 }
 
 void EditorUndo::beforeEdit(bool losesPart)
 {
-    if (ring().IsRestoringUndo())
+    if (m_thread.ring.IsRestoringUndo())
         return;
-    const bool isToBeKept = hasStood() || (losesPart && !m_kept.isShownSafe(ring()));
+    const bool isToBeKept = hasStood() || (losesPart && !m_kept.isShownSafe(m_thread.ring));
     if (isToBeKept && m_box.TextLength() > 0)
         m_kept.offer(shown());
     else
         m_kept.withdraw();
+}
+
+EditorClock::Time EditorUndo::now() const
+{
+    return m_thread.clock.now();
 }
 
 bool EditorUndo::hasStood() const
@@ -175,16 +167,16 @@ bool EditorUndo::hasStood() const
 
 void EditorUndo::noteEdit()
 {
-    if (ring().IsRestoringUndo())
+    if (m_thread.ring.IsRestoringUndo())
         return;
     m_changed = now();
-    if (m_kept.noteEdit(ring()))
+    if (m_kept.noteEdit(m_thread.ring))
         m_idle.start(idleAfter);
 }
 
 void EditorUndo::encodeWhenIdle()
 {
-    if (ring().encodePending() || m_kept.encodePending(UndoStore::sliceLength))
+    if (m_thread.ring.encodePending() || m_kept.encodePending(UndoStore::sliceLength))
         m_idle.start(0ms);
 }
 

@@ -10,6 +10,7 @@
 namespace ORVTListview {
 
 class RichTextBox;
+struct EditorThread;
 struct ColouredText;
 
 // One editor's use of the undo ring that all editors of its thread share.
@@ -18,17 +19,18 @@ class EditorUndo : public QObject
     Q_OBJECT
 
 public:
-    explicit EditorUndo(RichTextBox &box);
+    EditorUndo(RichTextBox &box, const EditorThread &thread);
 
-    bool IsTypedSinceSnapshot() const { return m_isTypedSinceSnapshot; }
+    // An editor that is not ready takes no snapshots.
+    void setReady(bool isReady) { m_isReady = isReady; }
 
     // A character was typed, before it is inserted. A blank takes a snapshot when
     // something else was typed since the last one.
-    void noteTyped(QStringView text, bool isReady);
+    void noteTyped(QStringView text);
 
     // Without effect while a state is being restored, while the editor is not
     // ready, and on an empty text.
-    void PushUndoSnapshot(bool isReady);
+    void PushUndoSnapshot();
 
     // Show the slot that the ring steps to. ErrMsg is left as it is when nothing
     // failed; on a failure text and selection stay. True when a state was shown.
@@ -55,6 +57,7 @@ public:
 private:
     using Way = KeptStates::Way;
 
+    EditorClock::Time now() const;
     bool hasStood() const;
     bool step(Way way, QString &ErrMsg);
     bool stepInRing(Way way);
@@ -64,9 +67,11 @@ private:
     void encodeWhenIdle();
 
     RichTextBox &m_box;
+    const EditorThread &m_thread;
     KeptStates m_kept;
     EditorClock::Time m_changed; // when the text was, last
     QTimer m_idle;
+    bool m_isReady = false;
     bool m_isTypedSinceSnapshot = false;
 };
 

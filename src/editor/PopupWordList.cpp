@@ -1,10 +1,12 @@
 #include "editor/PopupWordList.h"
 
-#include "base/ThreadState.h"
+#include "base/KeyCodes.h"
+#include "editor/EditorThread.h"
 #include "editor/WordInBox.h"
 #include "editor/rules/KeyRules.h"
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/ThreadColouring.h"
+#include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/ListItem.h>
@@ -44,9 +46,10 @@ QList<RowContent> rowsOf(const PopupWords &words)
 
 } // namespace
 
-PopupWordList::PopupWordList(ReportList &list, RichTextBox &box)
+PopupWordList::PopupWordList(ReportList &list, RichTextBox &box, const EditorThread &thread)
     : m_list(list)
     , m_box(box)
+    , m_thread(thread)
 {
     connect(&m_list, &ReportList::DblClick, this, [this] {
         if (m_isShown)
@@ -91,17 +94,16 @@ void PopupWordList::refill()
     if (!m_hasList)
         return;
     close();
-    const CodeWordList &known = threadWordList();
+    const CodeWordList &known = m_thread.knownWords();
     m_taken = known.changes();
-    m_words = PopupWords(known.index(), threadPart<Vocabulary>(),
-                         threadPart<EditorState>().EditorSettings);
+    m_words = PopupWords(known.index(), m_thread.vocabulary, m_thread.settings());
     m_list.setRows(rowsOf(m_words));
     m_list.fitColumns();
 }
 
 void PopupWordList::catchUp()
 {
-    if (m_hasList && !m_isShown && threadWordList().changes() != m_taken)
+    if (m_hasList && !m_isShown && m_thread.knownWords().changes() != m_taken)
         refill();
 }
 

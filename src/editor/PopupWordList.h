@@ -10,6 +10,7 @@ namespace ORVTListview {
 
 class ReportList;
 class RichTextBox;
+struct EditorThread;
 
 // The list of known words beside the caret. The control's list view serves for it;
 // the focus stays in the box, which hands on the keys that move in the list.
@@ -18,7 +19,7 @@ class PopupWordList : public QObject
     Q_OBJECT
 
 public:
-    PopupWordList(ReportList &list, RichTextBox &box);
+    PopupWordList(ReportList &list, RichTextBox &box, const EditorThread &thread);
 
     // Gives the list the look of a pop-up, or takes it away again. Without the look
     // the list is the host's table, and the words are discarded.
@@ -63,6 +64,7 @@ private:
 
     ReportList &m_list;
     RichTextBox &m_box;
+    const EditorThread &m_thread;
     PopupWords m_words;
     bool m_hasList = false;
     bool m_isShown = false;

@@ -1,10 +1,8 @@
 #include "editor/TypedColouring.h"
 
-#include "base/ThreadState.h"
+#include "editor/EditorThread.h"
 #include "editor/rules/colouring/ColourTable.h"
-#include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/LineColouring.h"
-#include "editor/rules/colouring/ThreadColouring.h"
 #include "editor/rules/language/CodeText.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -30,8 +28,9 @@ bool endsWord(QStringView before)
 
 } // namespace
 
-TypedColouring::TypedColouring(RichTextBox &box)
+TypedColouring::TypedColouring(RichTextBox &box, const EditorThread &thread)
     : m_box(box)
+    , m_thread(thread)
     , m_edited(box.document())
 {
     // Told before the caret moves, and before the host hears of the change.
@@ -42,10 +41,10 @@ TypedColouring::TypedColouring(RichTextBox &box)
 void TypedColouring::finishLine(qint32 line)
 {
     // Without known words there is nothing to tell words by.
-    if (m_box.isComposing() || threadWordList().index().isEmpty())
+    if (m_box.isComposing() || m_thread.knownWords().index().isEmpty())
         return;
-    m_box.recolour(m_box.lineStart(line), finishedLine(threadColouring(), m_box.lineText(line),
-                                                       threadPart<EditorState>().EditorSettings));
+    m_box.recolour(m_box.lineStart(line),
+                   finishedLine(m_thread.colouring(), m_box.lineText(line), m_thread.settings()));
 }
 
 void TypedColouring::finishCaretLine()
@@ -113,7 +112,7 @@ void TypedColouring::prepareTyping(QStringView text)
     if (m_box.SelLength() > 0)
         return; // takes the colour of what it replaces
     if (IsCommentLine(lineText)) {
-        m_box.setSelColor(shownColour(threadPart<EditorState>().EditorSettings.CommentColor));
+        m_box.setSelColor(shownColour(m_thread.settings().CommentColor));
         return;
     }
     const QStringView before = QStringView(lineText).first(start - m_box.lineStart(line));

@@ -9,6 +9,7 @@
 namespace ORVTListview {
 
 class RichTextBox;
+struct EditorThread;
 
 // Colours what is typed: a word once it is finished, a line once it is left. Only
 // colours and listed letter case change, never a blank, a tab or a bracket, and
@@ -20,7 +21,7 @@ class TypedColouring : public QObject
     Q_OBJECT
 
 public:
-    explicit TypedColouring(RichTextBox &box);
+    TypedColouring(RichTextBox &box, const EditorThread &thread);
 
     void finishLine(qint32 line);
     void finishCaretLine();
@@ -53,6 +54,7 @@ private:
     bool isOnEditedLine(int from, int to) const;
 
     RichTextBox &m_box;
+    const EditorThread &m_thread;
     Edit m_edit = Edit::None;
     bool m_isUnfinished = false;
     QTextCursor m_edited; // on the line that is not finished

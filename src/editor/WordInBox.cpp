@@ -1,9 +1,8 @@
 #include "editor/WordInBox.h"
 
 #include "base/ColouredText.h"
-#include "base/ThreadState.h"
+#include "editor/EditorThread.h"
 #include "editor/rules/colouring/ColourTable.h"
-#include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/language/Vocabulary.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -27,16 +26,16 @@ WordAtCaret GetWordAtCaret(const RichTextBox &box)
     return GetWordAtCaret(box, box.SelStart());
 }
 
-ColouredWord GetWordAndColourAt(const RichTextBox &box, qint32 position)
+ColouredWord GetWordAndColourAt(const EditorThread &thread, const RichTextBox &box, qint32 position)
 {
-    const RichTextSettings &settings = threadPart<EditorState>().EditorSettings;
+    const RichTextSettings &settings = thread.settings();
     const WordAtCaret found = GetWordAtCaret(box, position);
     ColouredWord word{found.Word, found.WordStart, 0};
     QString shown;
     if (IsCommentLine(box.lineText(box.GetLineFromChar(position))))
         word.Colour = settings.CommentColor;
     else if (!word.Word.isEmpty())
-        word.Colour = threadPart<Vocabulary>().ClassifyWord(word.Word, shown, settings);
+        word.Colour = thread.vocabulary.ClassifyWord(word.Word, shown, settings);
     return word;
 }
 

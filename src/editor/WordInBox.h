@@ -5,6 +5,7 @@
 namespace ORVTListview {
 
 class RichTextBox;
+struct EditorThread;
 
 // The word around a 0-based position of the box, looked for in its line alone: no
 // word goes over a line end. WordStart is 1-based, in the whole text.
@@ -17,7 +18,8 @@ struct ColouredWord
     qint32 WordStart = 1;            // 1-based
     ORVTListview::Colour Colour = 0; // the comment colour on a comment line
 };
-ColouredWord GetWordAndColourAt(const RichTextBox &box, qint32 position);
+ColouredWord GetWordAndColourAt(const EditorThread &thread, const RichTextBox &box,
+                                qint32 position);
 
 // Puts a word in the place of the one at the caret, in the colour, and the caret
 // behind it.

@@ -3,7 +3,7 @@
 #include "base/Failure.h"
 #include "base/TextPiece.h"
 #include "base/TextRules.h"
-#include "editor/CodeEditor.h"
+#include "editor/ProgramEditing.h"
 #include "find/rules/ProgramSearch.h"
 #include "shared/texts/TextTable.h"
 #include <ORVTListview/RichTextBox.h>
@@ -14,26 +14,27 @@
 namespace ORVTListview {
 namespace {
 
-void replaceThroughout(CodeEditor &editor, const QString &word, const QString &text,
-                       CodeEditor::Replacing how)
+void replaceThroughout(ProgramEditing &editing, const QString &word, const QString &text,
+                       ProgramEditing::Replacing how)
 {
     const auto length = static_cast<qint32>(word.size());
     QList<TextPiece> pieces;
-    for (const qsizetype place : placesOfWord(editor.box().Text(), word))
+    for (const qsizetype place : placesOfWord(editing.box().Text(), word))
         pieces.append({static_cast<qint32>(place), length});
-    editor.replace(pieces, text, how);
+    editing.replace(pieces, text, how);
 }
 
 } // namespace
 
-void replaceWord(CodeEditor &editor, const QString &word, const QString &text, bool inColours,
+void replaceWord(ProgramEditing &editing, const QString &word, const QString &text, bool inColours,
                  QString &ErrMsg)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    const auto how =
-        inColours ? CodeEditor::Replacing::InColours : CodeEditor::Replacing::InTheColoursThere;
-    const QString failure = failureOf([&] { replaceThroughout(editor, asInBox(word), text, how); });
+    const auto how = inColours ? ProgramEditing::Replacing::InColours
+                               : ProgramEditing::Replacing::InTheColoursThere;
+    const QString failure =
+        failureOf([&] { replaceThroughout(editing, asInBox(word), text, how); });
     if (!failure.isEmpty())
         ErrMsg = Localise(failure);
 }

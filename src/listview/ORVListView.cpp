@@ -4,11 +4,10 @@
 #include "base/ThreadState.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "find/FindDialog.h"
-#include "listview/ORVListViewParts.h"
+#include "listview/ListViewFaces.h"
 #include "pointtable/rules/ColumnLayouts.h"
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
-#include "widgets/look/Pictures.h"
 
 #include <QtCore/QTimer>
 
@@ -16,64 +15,9 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-ORVListView::Private::Private(ORVListView &owner)
-    : control(owner)
-    , list(new ReportList(&owner))
-    , table(new PointTable(&owner, *list, images))
-    , editor(new CodeEditor(&owner, *list))
-{
-    Pictures::fillInto(images);
-    list->setObjectName(u"ListView1"_s);
-    list->setPictureProvider([this](const QString &key) { return picture(key); });
-}
-
-ORVListView::Private::~Private()
-{
-    delete editor; // before the widgets that it looks after
-}
-
-// A row names its picture by key or by index.
-QIcon ORVListView::Private::picture(const QString &key) const
-{
-    bool isIndex = false;
-    const int index = key.toInt(&isIndex);
-    return isIndex ? images.Picture(index) : images.Picture(key);
-}
-
-void ORVListView::Private::switchTo(LwType type)
-{
-    RichTextBox &box = editor->box();
-    const bool hadFocus = list->hasFocus() || box.hasFocus();
-    const bool showsCode = type == dsCode;
-    if (showsCode)
-        editor->takeList();
-    else
-        editor->giveListBack();
-    table->switchTo(type);
-    QWidget &face = showsCode ? static_cast<QWidget &>(box) : *list;
-    control.setFocusProxy(&face);
-    layOut();
-    face.setEnabled(true);
-    face.show();
-    if (hadFocus)
-        face.setFocus();
-    if (showsCode)
-        return;
-    box.hide(); // an editor with the focus keeps tab stops from the others
-    table->enterTabOrder(box);
-}
-
-void ORVListView::Private::layOut()
-{
-    const QRect body = table->layOut();
-    editor->box().setGeometry(body);
-    if (!isCode()) // else it is a window of its own
-        list->setGeometry(body);
-}
-
 ORVListView::ORVListView(QWidget *parent)
     : Component(parent)
-    , d(std::make_unique<Private>(*this))
+    , d(std::make_unique<ListViewFaces>(*this))
 {
     auto *timerWidth = new QTimer(this); // published, without duties
     timerWidth->setObjectName(u"TimerWidth"_s);

@@ -1,42 +1,44 @@
 // The members of the code editor.
 
+#include <ORVTListview/ORVListView.h>
+
 #include "base/ThreadState.h"
 #include "editor/WordReplacing.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "find/FindDialog.h"
-#include "listview/ORVListViewParts.h"
+#include "listview/ListViewFaces.h"
 #include "shared/points/HostForms.h"
 
 namespace ORVTListview {
 
 void ORVListView::Init_RichTextBox(const RichTextSettings &Setting)
 {
-    d->editor->Init_RichTextBox(Setting);
+    d->editor->text().Init_RichTextBox(Setting);
 }
 
 QString ORVListView::CodeText() const
 {
-    return d->editor->CodeText();
+    return d->editor->text().CodeText();
 }
 
 void ORVListView::setCodeText(const QString &Text)
 {
-    d->editor->setCodeText(Text);
+    d->editor->text().setCodeText(Text);
 }
 
 QString ORVListView::CodeTextRTF()
 {
-    return d->editor->CodeTextRTF();
+    return d->editor->text().CodeTextRTF();
 }
 
 void ORVListView::setCodeTextRTF(const QString &Rtf)
 {
-    d->editor->setCodeTextRTF(Rtf);
+    d->editor->text().setCodeTextRTF(Rtf);
 }
 
 QString ORVListView::GetColorText(const QString &Text)
 {
-    return d->editor->GetColorText(Text);
+    return d->editor->text().GetColorText(Text);
 }
 
 void ORVListView::setRichTextVisible(bool Visible)
@@ -61,19 +63,19 @@ RichTextBox *ORVListView::RTextBox() const
 
 void ORVListView::RefillListviewWithWordList()
 {
-    d->editor->RefillListviewWithWordList();
+    d->editor->words().RefillListviewWithWordList();
 }
 
 void ORVListView::UpdateWordListItem(const QString &OldName, const QString &NewName,
                                      LwType TypeIndex)
 {
-    d->editor->UpdateWordListItem(OldName, NewName, TypeIndex);
+    d->editor->words().UpdateWordListItem(OldName, NewName, TypeIndex);
 }
 
 void ORVListView::TryToPopupList(bool &IsShowAbsolutely)
 {
     if (d->isCode())
-        d->editor->TryToPopupList(IsShowAbsolutely);
+        d->editor->words().TryToPopupList(IsShowAbsolutely);
 }
 
 void ORVListView::TryToPopupList()
@@ -84,7 +86,7 @@ void ORVListView::TryToPopupList()
 
 QString ORVListView::GetWholeWord(qint32 &StartIndex, qint32 &WordStartIndex, qint32 &Color)
 {
-    return d->editor->GetWholeWord(StartIndex, WordStartIndex, Color);
+    return d->editor->places().GetWholeWord(StartIndex, WordStartIndex, Color);
 }
 
 ImageList *ORVListView::GetImage() const
@@ -95,13 +97,13 @@ ImageList *ORVListView::GetImage() const
 void ORVListView::Undo(QString &ErrMsg)
 {
     if (d->isCode())
-        d->editor->Undo(ErrMsg);
+        d->editor->undo().Undo(ErrMsg);
 }
 
 void ORVListView::Redo(QString &ErrMsg)
 {
     if (d->isCode())
-        d->editor->Redo(ErrMsg);
+        d->editor->undo().Redo(ErrMsg);
 }
 
 bool ORVListView::IsUndoAvailable() const
@@ -116,32 +118,32 @@ bool ORVListView::IsRedoAvailable() const
 
 bool ORVListView::restoreUnsavedText()
 {
-    return d->isCode() && d->editor->bringBackKeptText();
+    return d->isCode() && d->editor->undo().bringBackKeptText();
 }
 
 void ORVListView::ClearUndoHistory()
 {
-    d->editor->clearUndoHistory();
+    d->editor->undo().clearHistory();
 }
 
 void ORVListView::RTextCut()
 {
-    d->editor->RTextCut();
+    d->editor->clipboard().RTextCut();
 }
 
 void ORVListView::RTextCopy()
 {
-    d->editor->RTextCopy();
+    d->editor->clipboard().RTextCopy();
 }
 
 void ORVListView::RTextSelectAll()
 {
-    d->editor->RTextSelectAll();
+    d->editor->text().RTextSelectAll();
 }
 
 void ORVListView::RTextPaste(QString &Data)
 {
-    d->editor->RTextPaste(Data);
+    d->editor->clipboard().RTextPaste(Data);
 }
 
 void ORVListView::FindInRichtext(QString &ErrMsg)
@@ -165,17 +167,17 @@ void ORVListView::showFind(bool IsReplace)
 void ORVListView::ReplaceRichTextBox(const QString &OldWord, const QString &NewWord,
                                      QString &ErrMsg, bool IsChangeColor)
 {
-    replaceWord(*d->editor, OldWord, NewWord, IsChangeColor, ErrMsg);
+    replaceWord(d->editor->editing(), OldWord, NewWord, IsChangeColor, ErrMsg);
 }
 
 QString ORVListView::GetPositionDisplay() const
 {
-    return d->editor->GetPositionDisplay();
+    return d->editor->places().GetPositionDisplay();
 }
 
 void ORVListView::HighLightText(QString &Text, qint16 &LineNumber)
 {
-    d->editor->HighLightText(Text, LineNumber);
+    d->editor->places().HighLightText(Text, LineNumber);
 }
 
 void ORVListView::ResetToolTipText(QString &Text, bool &IsLeftButton)
@@ -195,12 +197,12 @@ void ORVListView::setFormParent(QWidget *Form)
 
 QString ORVListView::indentUnit() const
 {
-    return d->editor->lines().indentUnit();
+    return d->editor->editing().lines().indentUnit();
 }
 
 void ORVListView::setIndentUnit(const QString &unit)
 {
-    d->editor->lines().setIndentUnit(unit);
+    d->editor->editing().lines().setIndentUnit(unit);
 }
 
 } // namespace ORVTListview

@@ -2,6 +2,9 @@
 
 #include "listview/ORVListViewParts.h"
 #include "widgets/input/RelayedEvents.h"
+#include <ORVTListview/ORVListView.h>
+
+#include "listview/ListViewFaces.h"
 
 namespace ORVTListview {
 
@@ -37,7 +40,8 @@ void ORVListView::connectListKeys()
     connect(d->list, &ReportList::KeyDown, this, [this](qint16 &KeyCode, qint16 Shift) {
         if (!d->isCode())
             Q_EMIT KeyDown(KeyCode, Shift);
-        else if (d->editor->isWordListShown() && d->editor->wordListKey(KeyCode))
+        else if (PopupWordList &popup = d->editor->words().popup();
+                 popup.isShown() && popup.key(KeyCode))
             KeyCode = 0;
     });
     connect(d->list, &ReportList::KeyPress, this, [this](qint16 &KeyAscii) {

@@ -1,6 +1,8 @@
 // The design-time properties in the host's keeping.
 
-#include "listview/ORVListViewParts.h"
+#include <ORVTListview/ORVListView.h>
+
+#include "listview/ListViewFaces.h"
 #include "shared/points/DisplayNames.h"
 
 #include <ORVTListview/PropertyBag.h>

@@ -1,7 +1,9 @@
 // The members of the point table.
 
+#include <ORVTListview/ORVListView.h>
+
 #include "base/EventGuard.h"
-#include "listview/ORVListViewParts.h"
+#include "listview/ListViewFaces.h"
 #include <ORVTListview/ListItems.h>
 
 namespace ORVTListview {
@@ -61,7 +63,7 @@ void ORVListView::SetImage(bool Busy)
 
 ListItems *ORVListView::ListItems() const
 {
-    d->editor->catchUpWords();
+    d->editor->words().popup().catchUp();
     return d->list->ListItems();
 }
 
@@ -78,7 +80,7 @@ void ORVListView::UpdateSubItems(const QString &Value, const QString &TagValue, 
 ListItem *ORVListView::FindItem(const QString &sz, qint32 Where, qint32 Index,
                                 qint32 fPartial) const
 {
-    d->editor->catchUpWords();
+    d->editor->words().popup().catchUp();
     return d->list->FindItem(sz, Where, Index, fPartial);
 }
 
@@ -130,7 +132,7 @@ void ORVListView::Drag(ActionIndex Action)
 void ORVListView::Clear()
 {
     if (d->isCode())
-        d->editor->Clear();
+        d->editor->text().Clear();
     else
         d->list->Clear();
 }

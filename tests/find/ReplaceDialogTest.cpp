@@ -5,7 +5,7 @@
 #include "editor/rules/colouring/ThreadColouring.h"
 #include "find/FindFixture.h"
 #include "support/WidgetTest.h"
-#include "widgets/box/BoxCommands.h"
+#include "widgets/box/PlainCommands.h"
 #include <ORVTListview/Error.h>
 
 #include <QtGui/QPaintEvent>
@@ -387,10 +387,10 @@ private Q_SLOTS:
         FindHost host;
         host.open(u"a"_s, FindHost::Replace);
         host.enter(u"a"_s, u"b"_s);
-        class Failing final : public BoxCommands
+        class Failing final : public PlainCommands
         {
         public:
-            using BoxCommands::BoxCommands;
+            using PlainCommands::PlainCommands;
             void replace(const QList<TextPiece> &, const QString &) override
             {
                 throw Error(InvalidCall, u"Failing.replace"_s, u"out of order"_s);

@@ -1,37 +1,10 @@
 #pragma once
 
+#include "base/KeyCodes.h"
+
 #include <ORVTListview/CoreExport.h>
 
-#include <QtCore/QtGlobal>
-
 namespace ORVTListview {
-
-// The virtual-key numbers that the editor's rules name.
-enum VirtualKeyCode : qint16 {
-    BackspaceKey = 8,
-    TabKey = 9,
-    EnterKey = 13,
-    EscapeKey = 27,
-    SpaceKey = 32,
-    PageUpKey = 33,
-    PageDownKey = 34,
-    EndKey = 35,
-    HomeKey = 36,
-    LeftKey = 37,
-    UpKey = 38,
-    RightKey = 39,
-    DownKey = 40,
-    InsertKey = 45,
-    DeleteKey = 46,
-    F1Key = 112,
-    F6Key = 117,
-};
-
-enum ShiftBit : qint16 {
-    ShiftBitShift = 1,
-    ShiftBitCtrl = 2,
-    ShiftBitAlt = 4,
-};
 
 // What becomes of a key in the editor.
 enum class KeyDecision {

@@ -17,6 +17,7 @@ class ListItems;
 class PropertyBag;
 class ReportList;
 class RichTextBox;
+struct ListViewFaces;
 
 // One control with two faces, chosen by its type: for dsCode an editor for
 // controller programs, for every other type a table of the controller's points.
@@ -405,8 +406,7 @@ private:
     void connectListKeys();
     void connectListDrags();
 
-    struct Private;
-    std::unique_ptr<Private> d;
+    std::unique_ptr<ListViewFaces> d;
 };
 
 } // namespace ORVTListview

@@ -125,4 +125,13 @@ void BoxFormats::setColour(QTextCharFormat &format, Colour colour)
     setColourOf(format, QTextFormat::ForegroundBrush, colour);
 }
 
+QTextCharFormat BoxFormats::formatAt(const QTextCursor &cursor)
+{
+    if (!cursor.hasSelection())
+        return cursor.charFormat();
+    QTextCursor first(cursor);
+    first.setPosition(cursor.selectionStart() + 1);
+    return first.charFormat();
+}
+
 } // namespace ORVTListview

@@ -8,6 +8,8 @@
 #include <QtGui/QFont>
 #include <QtGui/QTextCharFormat>
 
+class QTextCursor;
+
 namespace ORVTListview {
 
 size_t qHash(const RtfFormat &format, size_t seed = 0);
@@ -28,6 +30,9 @@ public:
 
     QTextCharFormat charFormat(const RtfFormat &format);
     RtfFormat rtfFormat(const QTextCharFormat &format) const;
+
+    // What the next character gets that replaces the cursor's selection.
+    static QTextCharFormat formatAt(const QTextCursor &cursor);
 
     // The text colour, or RtfFormat::automatic.
     static Colour colour(const QTextCharFormat &format);

@@ -7,9 +7,9 @@
 #include "widgets/box/BoxColours.h"
 #include "widgets/box/BoxLayout.h"
 #include "widgets/box/BoxMarks.h"
+#include "widgets/box/BoxParts.h"
 #include "widgets/box/BoxSink.h"
 #include "widgets/box/BoxSource.h"
-#include "widgets/box/RichTextBoxParts.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QMenu>
@@ -37,7 +37,7 @@ RichTextBox::RichTextBox(QWidget *parent)
     text->setDefaultFont(font());
     text->setDocumentLayout(new BoxLayout(*text, *viewport()));
     setDocument(text);
-    m_parts = std::make_unique<Parts>(*this);
+    m_parts = std::make_unique<BoxParts>(*text, *viewport(), plainCommands(*this));
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
     m_parts->formats.setFont(font());
@@ -81,16 +81,6 @@ void RichTextBox::raiseQueuedChange()
 {
     m_parts->isChangeQueued = false;
     raiseEvent(*this, &RichTextBox::Change);
-}
-
-// What the next character gets that replaces the cursor's selection.
-QTextCharFormat RichTextBox::Parts::formatAt(const QTextCursor &cursor)
-{
-    if (!cursor.hasSelection())
-        return cursor.charFormat();
-    QTextCursor first(cursor);
-    first.setPosition(cursor.selectionStart() + 1);
-    return first.charFormat();
 }
 
 // The toolkit tells of edits that changed nothing, too.
@@ -192,7 +182,7 @@ void RichTextBox::setSelText(const QString &text)
     const Changing changing(*this);
     m_parts->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
-    const QTextCharFormat format = Parts::formatAt(cursor);
+    const QTextCharFormat format = BoxFormats::formatAt(cursor);
     cursor.beginEditBlock();
     cursor.removeSelectedText();
     BoxMarks::insert(cursor, text, format);
@@ -228,12 +218,12 @@ void RichTextBox::setSelRTF(const QString &rtf)
 
 qint32 RichTextBox::SelColor() const
 {
-    return std::max(0, BoxFormats::colour(Parts::formatAt(textCursor())));
+    return std::max(0, BoxFormats::colour(BoxFormats::formatAt(textCursor())));
 }
 
 void RichTextBox::setSelColor(qint32 colour)
 {
-    const Parts::KeepingText keeping(*m_parts);
+    const BoxParts::KeepingText keeping(*m_parts);
     const qint32 shown = colour == ColouredText::automatic
                              ? colour
                              : Colours::fromColor(Colours::toColor(colour, paletteAround()));
@@ -313,7 +303,7 @@ void RichTextBox::setSelColoured(const ColouredText &text)
 
 void RichTextBox::recolour(qint32 start, const ColouredText &text)
 {
-    const Parts::KeepingText keeping(*m_parts);
+    const BoxParts::KeepingText keeping(*m_parts);
     BoxColours::apply(*document(), m_parts->text, start, text);
 }
 

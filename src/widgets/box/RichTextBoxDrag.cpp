@@ -1,7 +1,9 @@
 // Text dragged out of a box and dropped into it.
 
+#include <ORVTListview/RichTextBox.h>
+
 #include "base/EventGuard.h"
-#include "widgets/box/RichTextBoxParts.h"
+#include "widgets/box/BoxParts.h"
 #include "widgets/input/MouseArguments.h"
 
 #include <QtCore/QMimeData>
@@ -87,7 +89,7 @@ void RichTextBox::dropEvent(QDropEvent *event)
         return;
     const QPointer<RichTextBox> self(this);
     setTextCursor(place);
-    const bool isDone = commands().paste(*event->mimeData());
+    const bool isDone = commands().paste(*event->mimeData()) == Pasted::Done;
     if (!self)
         return;
     if (!isDone) {

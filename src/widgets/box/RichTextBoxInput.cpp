@@ -1,8 +1,11 @@
 // How keys, clipboard and input method reach a box: all end in its commands.
 
+#include <ORVTListview/RichTextBox.h>
+
 #include "base/EventGuard.h"
 #include "widgets/box/BoxMimeData.h"
-#include "widgets/box/RichTextBoxParts.h"
+#include "widgets/box/BoxParts.h"
+#include "widgets/input/RaisedKeys.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
@@ -52,10 +55,26 @@ bool isBackspace(const QKeyEvent &event)
     return event.key() == Qt::Key_Backspace && (event.modifiers() & ~Qt::ShiftModifier) == 0;
 }
 
+// Whether the key removes what lies beside the caret; then it is done.
+bool removes(const QKeyEvent &event, BoxCommands &commands)
+{
+    if (isBackspace(event))
+        commands.removeBefore(Extent::Character);
+    else if (event.matches(QKeySequence::DeleteStartOfWord))
+        commands.removeBefore(Extent::Word);
+    else if (event.matches(QKeySequence::Delete))
+        commands.removeAfter(Extent::Character);
+    else if (event.matches(QKeySequence::DeleteEndOfWord))
+        commands.removeAfter(Extent::Word);
+    else
+        return false;
+    return true;
+}
+
 // The toolkit would type a letter that is held with Alt.
 bool isAltText(const QKeyEvent &event)
 {
-    return (virtualKey(event).shift & VirtualKey::altBit) != 0 && !event.text().isEmpty();
+    return (virtualKey(event).shift & ShiftBitAlt) != 0 && !event.text().isEmpty();
 }
 
 } // namespace
@@ -67,7 +86,7 @@ BoxCommands &RichTextBox::commands() const
 
 void RichTextBox::setCommands(std::unique_ptr<BoxCommands> commands)
 {
-    m_parts->commands = commands ? std::move(commands) : std::make_unique<BoxCommands>(*this);
+    m_parts->commands = commands ? std::move(commands) : plainCommands(*this);
 }
 
 bool RichTextBox::isComposing() const
@@ -115,15 +134,6 @@ bool RichTextBox::handle(QEvent *event)
     return QPlainTextEdit::event(event);
 }
 
-// Returns whether the box may act on the key.
-bool RichTextBox::announceKey(const QKeyEvent &event)
-{
-    VirtualKey key = virtualKey(event);
-    if (key.keyCode == 0)
-        return true;
-    return raiseEvent(*this, &RichTextBox::KeyDown, key.keyCode, key.shift) && key.keyCode != 0;
-}
-
 bool RichTextBox::runShortcut(const QKeyEvent &event)
 {
     for (const Shortcut &shortcut : shortcuts) {
@@ -141,7 +151,7 @@ void RichTextBox::keyPressEvent(QKeyEvent *event)
     event->accept();
     if (isLeaving(*event))
         commands().leave(!isBackwards(*event));
-    else if (announceKey(*event) && !runShortcut(*event))
+    else if (raiseKey(*this, &RichTextBox::KeyDown, *event) && !runShortcut(*event))
         act(event);
 }
 
@@ -153,12 +163,12 @@ void RichTextBox::act(QKeyEvent *event)
         commands().type(QStringLiteral("\r\n"));
     } else if (isTyping(*event)) {
         commands().type(event->text());
-    } else if (isBackspace(*event)) {
-        commands().edit([this] { deleteBefore(); });
+    } else if (removes(*event, commands())) {
+        return;
     } else if (isAltText(*event)) {
         event->ignore();
     } else {
-        // The key may be one that deletes.
+        // The key may be one that deletes, in the manner of some platform.
         m_parts->announceChange(textCursor().hasSelection());
         commands().edit([this, event] {
             QPlainTextEdit::keyPressEvent(event);
@@ -167,16 +177,30 @@ void RichTextBox::act(QKeyEvent *event)
     }
 }
 
-// The toolkit would cut a pair in two whose halves differ in format.
-void RichTextBox::deleteBefore()
+void RichTextBox::removeBeside(QTextCursor::MoveOperation step)
 {
-    m_parts->announceChange(textCursor().hasSelection());
+    const Changing changing(*this);
     QTextCursor cursor = textCursor();
-    if (!cursor.hasSelection() && !cursor.atStart())
-        cursor.setPosition(m_parts->text.whole(cursor.position() - 1), QTextCursor::KeepAnchor);
-    cursor.removeSelectedText();
+    m_parts->announceChange(cursor.hasSelection());
+    if (cursor.hasSelection())
+        cursor.removeSelectedText();
+    else
+        removeStep(cursor, step);
     setTextCursor(cursor);
     keepCaretWhole();
+}
+
+void RichTextBox::removeStep(QTextCursor &cursor, QTextCursor::MoveOperation step) const
+{
+    if (step == QTextCursor::NextCharacter) {
+        cursor.deleteChar();
+        return;
+    }
+    if (step != QTextCursor::PreviousCharacter)
+        cursor.movePosition(step, QTextCursor::KeepAnchor);
+    else if (!cursor.atStart()) // the toolkit would cut a pair whose halves differ in format
+        cursor.setPosition(m_parts->text.whole(cursor.position() - 1), QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
 }
 
 // Removing what stood between two halves makes them a pair around the caret.
@@ -192,7 +216,7 @@ void RichTextBox::keepCaretWhole()
 // The toolkit reports what is being composed as a change of the line.
 void RichTextBox::compose(QInputMethodEvent *event)
 {
-    const Parts::KeepingText keeping(*m_parts);
+    const BoxParts::KeepingText keeping(*m_parts);
     QPlainTextEdit::inputMethodEvent(event);
 }
 

@@ -1,6 +1,8 @@
 // The colours of a box and its font.
 
-#include "widgets/box/RichTextBoxParts.h"
+#include <ORVTListview/RichTextBox.h>
+
+#include "widgets/box/BoxParts.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QApplication>

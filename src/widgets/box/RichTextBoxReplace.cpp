@@ -1,9 +1,11 @@
 // Replacing many pieces of a box's text as one change.
 
+#include <ORVTListview/RichTextBox.h>
+
 #include "base/TextPiece.h"
 #include "widgets/box/BoxMarks.h"
+#include "widgets/box/BoxParts.h"
 #include "widgets/box/BoxSink.h"
-#include "widgets/box/RichTextBoxParts.h"
 
 namespace ORVTListview {
 namespace {
@@ -45,7 +47,7 @@ void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &pu
 void RichTextBox::replacePieces(const QList<TextPiece> &pieces, const QString &text)
 {
     replaceEach(pieces, [&text](QTextCursor &cursor, qsizetype) {
-        const QTextCharFormat format = Parts::formatAt(cursor);
+        const QTextCharFormat format = BoxFormats::formatAt(cursor);
         cursor.removeSelectedText();
         BoxMarks::insert(cursor, text, format);
     });

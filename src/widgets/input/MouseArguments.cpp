@@ -1,6 +1,6 @@
 #include "widgets/input/MouseArguments.h"
 
-#include "widgets/input/VirtualKeys.h"
+#include "base/KeyCodes.h"
 #include "widgets/look/Twips.h"
 
 #include <QtGui/QMouseEvent>
@@ -18,9 +18,9 @@ int buttonBits(Qt::MouseButtons buttons)
 
 int shiftBits(Qt::KeyboardModifiers modifiers)
 {
-    return (modifiers.testFlag(Qt::ShiftModifier) ? VirtualKey::shiftBit : 0) |
-           (modifiers.testFlag(Qt::ControlModifier) ? VirtualKey::ctrlBit : 0) |
-           (modifiers.testFlag(Qt::AltModifier) ? VirtualKey::altBit : 0);
+    return (modifiers.testFlag(Qt::ShiftModifier) ? ShiftBitShift : 0) |
+           (modifiers.testFlag(Qt::ControlModifier) ? ShiftBitCtrl : 0) |
+           (modifiers.testFlag(Qt::AltModifier) ? ShiftBitAlt : 0);
 }
 
 } // namespace

@@ -12,7 +12,7 @@ namespace ORVTListview {
 struct MouseArguments
 {
     qint16 Button = 0; // 1 left, 2 right, 4 middle; for a move, those held, added up
-    qint16 Shift = 0;  // 1 Shift, 2 Ctrl, 4 Alt
+    qint16 Shift = 0;  // ShiftBit
     float X = 0;       // twips from the control's corner
     float Y = 0;
 };

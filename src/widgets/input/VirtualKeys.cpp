@@ -14,22 +14,43 @@ struct Entry
     qint16 code;
 };
 
-constexpr qint16 anyCharacter = 231;
-
 // Keys that are the same wherever they stand.
 constexpr std::array keys{
-    Entry{Qt::Key_Backspace, 8}, Entry{Qt::Key_Tab, 9},          Entry{Qt::Key_Backtab, 9},
-    Entry{Qt::Key_Clear, 12},    Entry{Qt::Key_Return, 13},      Entry{Qt::Key_Enter, 13},
-    Entry{Qt::Key_Shift, 16},    Entry{Qt::Key_Control, 17},     Entry{Qt::Key_Alt, 18},
-    Entry{Qt::Key_AltGr, 18},    Entry{Qt::Key_Pause, 19},       Entry{Qt::Key_CapsLock, 20},
-    Entry{Qt::Key_Escape, 27},   Entry{Qt::Key_Space, 32},       Entry{Qt::Key_PageUp, 33},
-    Entry{Qt::Key_PageDown, 34}, Entry{Qt::Key_End, 35},         Entry{Qt::Key_Home, 36},
-    Entry{Qt::Key_Left, 37},     Entry{Qt::Key_Up, 38},          Entry{Qt::Key_Right, 39},
-    Entry{Qt::Key_Down, 40},     Entry{Qt::Key_Select, 41},      Entry{Qt::Key_Execute, 43},
-    Entry{Qt::Key_Print, 44},    Entry{Qt::Key_SysReq, 44},      Entry{Qt::Key_Insert, 45},
-    Entry{Qt::Key_Delete, 46},   Entry{Qt::Key_Help, 47},        Entry{Qt::Key_Meta, 91},
-    Entry{Qt::Key_Super_L, 91},  Entry{Qt::Key_Super_R, 92},     Entry{Qt::Key_Menu, 93},
-    Entry{Qt::Key_NumLock, 144}, Entry{Qt::Key_ScrollLock, 145},
+    Entry{Qt::Key_Backspace, BackspaceKey},
+    Entry{Qt::Key_Tab, TabKey},
+    Entry{Qt::Key_Backtab, TabKey},
+    Entry{Qt::Key_Clear, ClearKey},
+    Entry{Qt::Key_Return, EnterKey},
+    Entry{Qt::Key_Enter, EnterKey},
+    Entry{Qt::Key_Shift, ShiftKey},
+    Entry{Qt::Key_Control, CtrlKey},
+    Entry{Qt::Key_Alt, AltKey},
+    Entry{Qt::Key_AltGr, AltKey},
+    Entry{Qt::Key_Pause, PauseKey},
+    Entry{Qt::Key_CapsLock, CapsLockKey},
+    Entry{Qt::Key_Escape, EscapeKey},
+    Entry{Qt::Key_Space, SpaceKey},
+    Entry{Qt::Key_PageUp, PageUpKey},
+    Entry{Qt::Key_PageDown, PageDownKey},
+    Entry{Qt::Key_End, EndKey},
+    Entry{Qt::Key_Home, HomeKey},
+    Entry{Qt::Key_Left, LeftKey},
+    Entry{Qt::Key_Up, UpKey},
+    Entry{Qt::Key_Right, RightKey},
+    Entry{Qt::Key_Down, DownKey},
+    Entry{Qt::Key_Select, SelectKey},
+    Entry{Qt::Key_Execute, ExecuteKey},
+    Entry{Qt::Key_Print, PrintKey},
+    Entry{Qt::Key_SysReq, PrintKey},
+    Entry{Qt::Key_Insert, InsertKey},
+    Entry{Qt::Key_Delete, DeleteKey},
+    Entry{Qt::Key_Help, HelpKey},
+    Entry{Qt::Key_Meta, LeftMetaKey},
+    Entry{Qt::Key_Super_L, LeftMetaKey},
+    Entry{Qt::Key_Super_R, RightMetaKey},
+    Entry{Qt::Key_Menu, MenuKey},
+    Entry{Qt::Key_NumLock, NumLockKey},
+    Entry{Qt::Key_ScrollLock, ScrollLockKey},
 };
 
 // Signs that share a key with a digit.
@@ -41,22 +62,34 @@ constexpr std::array digitSigns{
 };
 
 constexpr std::array signs{
-    Entry{Qt::Key_Semicolon, 186},    Entry{Qt::Key_Colon, 186},
-    Entry{Qt::Key_Equal, 187},        Entry{Qt::Key_Plus, 187},
-    Entry{Qt::Key_Comma, 188},        Entry{Qt::Key_Less, 188},
-    Entry{Qt::Key_Minus, 189},        Entry{Qt::Key_Underscore, 189},
-    Entry{Qt::Key_Period, 190},       Entry{Qt::Key_Greater, 190},
-    Entry{Qt::Key_Slash, 191},        Entry{Qt::Key_Question, 191},
-    Entry{Qt::Key_QuoteLeft, 192},    Entry{Qt::Key_AsciiTilde, 192},
-    Entry{Qt::Key_BracketLeft, 219},  Entry{Qt::Key_BraceLeft, 219},
-    Entry{Qt::Key_Backslash, 220},    Entry{Qt::Key_Bar, 220},
-    Entry{Qt::Key_BracketRight, 221}, Entry{Qt::Key_BraceRight, 221},
-    Entry{Qt::Key_Apostrophe, 222},   Entry{Qt::Key_QuoteDbl, 222},
+    Entry{Qt::Key_Semicolon, SemicolonKey},
+    Entry{Qt::Key_Colon, SemicolonKey},
+    Entry{Qt::Key_Equal, EqualKey},
+    Entry{Qt::Key_Plus, EqualKey},
+    Entry{Qt::Key_Comma, CommaKey},
+    Entry{Qt::Key_Less, CommaKey},
+    Entry{Qt::Key_Minus, MinusKey},
+    Entry{Qt::Key_Underscore, MinusKey},
+    Entry{Qt::Key_Period, PeriodKey},
+    Entry{Qt::Key_Greater, PeriodKey},
+    Entry{Qt::Key_Slash, SlashKey},
+    Entry{Qt::Key_Question, SlashKey},
+    Entry{Qt::Key_QuoteLeft, BackquoteKey},
+    Entry{Qt::Key_AsciiTilde, BackquoteKey},
+    Entry{Qt::Key_BracketLeft, LeftBracketKey},
+    Entry{Qt::Key_BraceLeft, LeftBracketKey},
+    Entry{Qt::Key_Backslash, BackslashKey},
+    Entry{Qt::Key_Bar, BackslashKey},
+    Entry{Qt::Key_BracketRight, RightBracketKey},
+    Entry{Qt::Key_BraceRight, RightBracketKey},
+    Entry{Qt::Key_Apostrophe, QuoteKey},
+    Entry{Qt::Key_QuoteDbl, QuoteKey},
 };
 
 constexpr std::array keypadSigns{
-    Entry{Qt::Key_Asterisk, 106}, Entry{Qt::Key_Plus, 107},  Entry{Qt::Key_Minus, 109},
-    Entry{Qt::Key_Period, 110},   Entry{Qt::Key_Comma, 110}, Entry{Qt::Key_Slash, 111},
+    Entry{Qt::Key_Asterisk, KeypadTimesKey}, Entry{Qt::Key_Plus, KeypadPlusKey},
+    Entry{Qt::Key_Minus, KeypadMinusKey},    Entry{Qt::Key_Period, KeypadPointKey},
+    Entry{Qt::Key_Comma, KeypadPointKey},    Entry{Qt::Key_Slash, KeypadDivideKey},
 };
 
 template <std::size_t size>
@@ -75,18 +108,16 @@ qint16 inRow(int key, int first, int last, int code)
 
 qint16 keypadCode(int key)
 {
-    constexpr int keypadZero = 96;
-    const qint16 digit = inRow(key, Qt::Key_0, Qt::Key_9, keypadZero);
+    const qint16 digit = inRow(key, Qt::Key_0, Qt::Key_9, KeypadZeroKey);
     return digit != 0 ? digit : find(keypadSigns, key);
 }
 
 qint16 plainCode(int key)
 {
-    constexpr int f1 = 112;
     for (const qint16 code : {
              inRow(key, Qt::Key_A, Qt::Key_Z, 'A'),
              inRow(key, Qt::Key_0, Qt::Key_9, '0'),
-             inRow(key, Qt::Key_F1, Qt::Key_F24, f1),
+             inRow(key, Qt::Key_F1, Qt::Key_F24, F1Key),
              find(keys, key),
              find(digitSigns, key),
              find(signs, key),
@@ -119,9 +150,9 @@ qint16 shiftState(const QKeyEvent &event)
 {
     const Qt::KeyboardModifiers commands = commandModifiers(event);
     const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
-    const int bits = ((shift || event.key() == Qt::Key_Backtab) ? VirtualKey::shiftBit : 0) |
-                     (commands.testFlag(Qt::ControlModifier) ? VirtualKey::ctrlBit : 0) |
-                     (commands.testFlag(Qt::AltModifier) ? VirtualKey::altBit : 0);
+    const int bits = ((shift || event.key() == Qt::Key_Backtab) ? ShiftBitShift : 0) |
+                     (commands.testFlag(Qt::ControlModifier) ? ShiftBitCtrl : 0) |
+                     (commands.testFlag(Qt::AltModifier) ? ShiftBitAlt : 0);
     return static_cast<qint16>(bits);
 }
 
@@ -135,7 +166,7 @@ VirtualKey virtualKey(const QKeyEvent &event)
     if (code == 0)
         code = plainCode(event.key());
     if (code == 0 && isTypeable(event.text()))
-        code = anyCharacter;
+        code = AnyCharacterKey;
     return {code, shiftState(event)};
 }
 

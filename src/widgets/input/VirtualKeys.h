@@ -1,8 +1,8 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
+#include "base/KeyCodes.h"
 
-#include <QtCore/qglobal.h>
+#include <ORVTListview/Export.h>
 
 class QKeyEvent;
 
@@ -11,13 +11,8 @@ namespace ORVTListview {
 // A key as published events report it.
 struct VirtualKey
 {
-    // The bits of `shift`.
-    static constexpr qint16 shiftBit = 1;
-    static constexpr qint16 ctrlBit = 2;
-    static constexpr qint16 altBit = 4;
-
-    qint16 keyCode = 0; // classic virtual-key number; 0 for a key that has none
-    qint16 shift = 0;
+    qint16 keyCode = 0; // VirtualKeyCode; 0 for a key that has none
+    qint16 shift = 0;   // ShiftBit
 
     friend bool operator==(const VirtualKey &, const VirtualKey &) = default;
 };

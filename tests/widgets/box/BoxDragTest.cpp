@@ -1,5 +1,5 @@
 #include "support/TextDrag.h"
-#include "widgets/box/BoxCommands.h"
+#include "widgets/box/PlainCommands.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QMimeData>
@@ -15,25 +15,25 @@ using TextDrag::inWindow;
 namespace {
 
 // Notes what reaches it; pastes only where it may.
-class Recorder final : public BoxCommands
+class Recorder final : public PlainCommands
 {
 public:
     Recorder(RichTextBox &owner, QStringList &log, bool pastes)
-        : BoxCommands(owner)
+        : PlainCommands(owner)
         , m_log(log)
         , m_pastes(pastes)
     {
     }
 
-    bool paste(const QMimeData &data) override
+    Pasted paste(const QMimeData &data) override
     {
         m_log << u"paste "_s + data.text();
-        return m_pastes && BoxCommands::paste(data);
+        return m_pastes ? PlainCommands::paste(data) : Pasted::Refused;
     }
     void remove() override
     {
         m_log << u"remove "_s + box().SelText();
-        BoxCommands::remove();
+        PlainCommands::remove();
     }
 
 private:

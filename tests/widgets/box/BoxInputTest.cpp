@@ -1,7 +1,7 @@
 #include "widgets/box/ShownBoxTest.h"
 
 #include "base/ColouredText.h"
-#include "widgets/box/BoxCommands.h"
+#include "widgets/box/PlainCommands.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
@@ -17,24 +17,26 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Notes what reaches it and does nothing else.
-class Recorder final : public BoxCommands
+class Recorder final : public PlainCommands
 {
 public:
     Recorder(RichTextBox &owner, QStringList &log)
-        : BoxCommands(owner)
+        : PlainCommands(owner)
         , m_log(log)
     {
     }
 
     void type(const QString &text) override { m_log << u"type "_s + text; }
-    bool paste(const QMimeData &data) override
+    Pasted paste(const QMimeData &data) override
     {
         m_log << u"paste "_s + data.text();
-        return false;
+        return Pasted::Refused;
     }
     void copy() override { m_log << u"copy"_s; }
     void cut() override { m_log << u"cut"_s; }
     void remove() override { m_log << u"remove"_s; }
+    void removeBefore(Extent extent) override { m_log << u"before"_s + named(extent); }
+    void removeAfter(Extent extent) override { m_log << u"after"_s + named(extent); }
     void selectAll() override { m_log << u"select all"_s; }
     void undo() override { m_log << u"undo"_s; }
     void redo() override { m_log << u"redo"_s; }
@@ -42,7 +44,7 @@ public:
     void fillMenu(QMenu &) override { m_log << u"menu"_s; }
     std::optional<bool> takesKey(const VirtualKey &key) const override
     {
-        if (key.shift != VirtualKey::ctrlBit)
+        if (key.shift != ShiftBitCtrl)
             return {};
         if (key.keyCode == 'C')
             return false;
@@ -52,6 +54,8 @@ public:
     }
 
 private:
+    static QString named(Extent extent) { return extent == Extent::Word ? u" word"_s : QString(); }
+
     QStringList &m_log;
 };
 
@@ -141,6 +145,11 @@ void BoxInputTest::keysEndInTheCommands_data()
     QTest::newRow("Ctrl+Insert") << int(Qt::Key_Insert) << ctrl << u"copy"_s;
     QTest::newRow("Ctrl+X") << int(Qt::Key_X) << ctrl << u"cut"_s;
     QTest::newRow("Shift+Delete") << int(Qt::Key_Delete) << shift << u"cut"_s;
+    QTest::newRow("Backspace") << int(Qt::Key_Backspace) << none << u"before"_s;
+    QTest::newRow("Shift+Backspace") << int(Qt::Key_Backspace) << shift << u"before"_s;
+    QTest::newRow("Ctrl+Backspace") << int(Qt::Key_Backspace) << ctrl << u"before word"_s;
+    QTest::newRow("Delete") << int(Qt::Key_Delete) << none << u"after"_s;
+    QTest::newRow("Ctrl+Delete") << int(Qt::Key_Delete) << ctrl << u"after word"_s;
     QTest::newRow("Ctrl+V") << int(Qt::Key_V) << ctrl << u"paste from elsewhere"_s;
     QTest::newRow("Shift+Insert") << int(Qt::Key_Insert) << shift << u"paste from elsewhere"_s;
     QTest::newRow("Ctrl+A") << int(Qt::Key_A) << ctrl << u"select all"_s;

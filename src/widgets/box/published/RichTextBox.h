@@ -3,6 +3,7 @@
 #include <ORVTListview/Export.h>
 
 #include <QtCore/QPointer>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QPlainTextEdit>
 
 #include <functional>
@@ -11,6 +12,7 @@
 namespace ORVTListview {
 
 class BoxCommands;
+struct BoxParts;
 struct ColouredText;
 struct TextPiece;
 
@@ -174,6 +176,10 @@ public:
     BoxCommands &commands() const;
     void setCommands(std::unique_ptr<BoxCommands> commands);
 
+    // For the commands: the selection goes, or without one what lies between the caret
+    // and the next or previous character or word.
+    void removeBeside(QTextCursor::MoveOperation step);
+
     // The text between a cursor's two ends.
     QString textOf(const QTextCursor &selection) const;
 
@@ -225,7 +231,6 @@ private:
     using QPlainTextEdit::toPlainText;
     using QPlainTextEdit::undo;
 
-    struct Parts;
     using PutPiece = std::function<void(QTextCursor &cursor, qsizetype index)>;
 
     void select(int anchor, int position);
@@ -238,17 +243,16 @@ private:
     void replaceAll(const std::function<void()> &insert);
     void replaceEach(const QList<TextPiece> &pieces, const PutPiece &put,
                      const std::function<void()> &finish = {});
-    bool announceKey(const QKeyEvent &event);
     bool runShortcut(const QKeyEvent &event);
     void act(QKeyEvent *event);
-    void deleteBefore();
+    void removeStep(QTextCursor &cursor, QTextCursor::MoveOperation step) const;
     void keepCaretWhole();
     void compose(QInputMethodEvent *event);
     void selectReplaced(const QInputMethodEvent &event);
     void commit(const QInputMethodEvent &event);
     void startDrag(const QMouseEvent &event);
 
-    std::unique_ptr<Parts> m_parts;
+    std::unique_ptr<BoxParts> m_parts;
 };
 
 } // namespace ORVTListview

@@ -5,7 +5,6 @@
 #include "widgets/box/BoxText.h"
 #include "widgets/input/EventSurface.h"
 #include "widgets/look/Colours.h"
-#include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPoint>
 #include <QtCore/QScopedValueRollback>
@@ -13,15 +12,17 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace ORVTListview {
 
-struct RichTextBox::Parts
+// What a box is made of, for the files that its class is written in.
+struct BoxParts
 {
-    explicit Parts(RichTextBox &box)
-        : text(*box.document())
-        , surface(*box.viewport())
-        , commands(std::make_unique<BoxCommands>(box))
+    BoxParts(QTextDocument &document, QWidget &viewport, std::unique_ptr<BoxCommands> plain)
+        : text(document)
+        , surface(viewport)
+        , commands(std::move(plain))
     {
     }
 
@@ -30,7 +31,7 @@ struct RichTextBox::Parts
     class KeepingText
     {
     public:
-        explicit KeepingText(Parts &parts)
+        explicit KeepingText(BoxParts &parts)
             : m_parts(parts)
             , m_isOwed(parts.announcedChanges != parts.text.changeCount())
             , m_keepsText(parts.keepsText, true)
@@ -44,12 +45,10 @@ struct RichTextBox::Parts
         Q_DISABLE_COPY_MOVE(KeepingText) // strictly nested
 
     private:
-        Parts &m_parts;
+        BoxParts &m_parts;
         bool m_isOwed;
         QScopedValueRollback<bool> m_keepsText;
     };
-
-    static QTextCharFormat formatAt(const QTextCursor &cursor);
 
     // Not again for what is part of a change.
     void announceChange(bool losesPart) const

@@ -3,18 +3,17 @@
 #include "editor/CodeEditor.h"
 #include "pointtable/PointTable.h"
 #include <ORVTListview/ImageList.h>
-#include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>
 
 namespace ORVTListview {
 
 // The control's two faces and the list that it lends to either.
-struct ORVListView::Private
+struct ListViewFaces
 {
-    explicit Private(ORVListView &control);
-    ~Private();
-    Q_DISABLE_COPY_MOVE(Private) // the parts know one another
+    explicit ListViewFaces(QWidget &control);
+    ~ListViewFaces();
+    Q_DISABLE_COPY_MOVE(ListViewFaces) // the parts know one another
 
     bool isCode() const { return table->type() == dsCode; }
 
@@ -23,7 +22,7 @@ struct ORVListView::Private
     void layOut();
     QIcon picture(const QString &key) const;
 
-    ORVListView &control;
+    QWidget &control;
     ImageList images;
     ReportList *list; // these are children of the control
     PointTable *table;

@@ -1,0 +1,37 @@
+#include "editor/EditorThread.h"
+
+#include "base/MessageService.h"
+#include "base/ThreadState.h"
+#include "editor/EditorClock.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/language/CodeWordList.h"
+#include "editor/rules/language/Vocabulary.h"
+#include "editor/rules/undo/UndoStore.h"
+#include "shared/points/HostForms.h"
+
+namespace ORVTListview {
+
+EditorThread EditorThread::current()
+{
+    return {threadPart<UndoStore>(),  threadPart<EditorState>(), threadPart<CodeWordList>(),
+            threadPart<Vocabulary>(), threadPart<Messages>(),    threadPart<HostForms>(),
+            threadPart<EditorClock>()};
+}
+
+CodeWordList &EditorThread::knownWords() const
+{
+    words.follow(vocabulary);
+    return words;
+}
+
+ColourEngine EditorThread::colouring() const
+{
+    return {knownWords(), messages.service()};
+}
+
+const RichTextSettings &EditorThread::settings() const
+{
+    return state.EditorSettings;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "editor/rules/colouring/ColourEngine.h"
+
+namespace ORVTListview {
+
+struct EditorClock;
+struct EditorState;
+struct HostForms;
+class Messages;
+class UndoStore;
+class Vocabulary;
+struct RichTextSettings;
+
+// What an editor shares with the others of its thread, looked up once, where the
+// editor is made.
+struct EditorThread
+{
+    static EditorThread current();
+
+    // The word index, with what the ready collections hold now.
+    CodeWordList &knownWords() const;
+
+    ColourEngine colouring() const;
+    const RichTextSettings &settings() const;
+
+    UndoStore &ring;
+    EditorState &state;
+    CodeWordList &words;
+    Vocabulary &vocabulary;
+    Messages &messages;
+    HostForms &forms;
+    EditorClock &clock;
+};
+
+} // namespace ORVTListview

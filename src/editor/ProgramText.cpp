@@ -1,0 +1,135 @@
+#include "editor/ProgramText.h"
+
+#include "base/ColouredText.h"
+#include "base/MessageService.h"
+#include "base/TextRules.h"
+#include "editor/EditorThread.h"
+#include "editor/EditorUndo.h"
+#include "editor/WordChoice.h"
+#include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/RtfHead.h"
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtCore/QScopeGuard>
+#include <QtGui/QFontMetrics>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool hasMark(const QString &fontStyle, QStringView mark)
+{
+    return fontStyle.contains(mark, Qt::CaseInsensitive);
+}
+
+} // namespace
+
+ProgramText::ProgramText(RichTextBox &box, const EditorThread &thread, EditorUndo &undo,
+                         WordChoice &words)
+    : m_box(box)
+    , m_thread(thread)
+    , m_undo(undo)
+    , m_words(words)
+{
+}
+
+void ProgramText::Init_RichTextBox(const RichTextSettings &Setting)
+{
+    const UndoStore::Restoring sameText(m_thread.ring);
+    auto &state = m_thread.state;
+    const qint32 formerNvoColour = state.EditorSettings.nvoFPAColor;
+    state.EditorSettings = Setting;
+    state.EditorSettings.nvoFPAColor = formerNvoColour; // accepted, never used
+    applyAppearance(Setting);
+    state.LineHeight = m_box.fontMetrics().height();
+    m_words.RefillListviewWithWordList();
+
+    m_undo.setReady(false);
+    const RichTextBox::Changing changing(m_box);
+    const QString kept = m_box.Text();
+    m_box.setUpdatesEnabled(false);
+    const auto finish = qScopeGuard([this] {
+        m_box.setSelStart(0);
+        m_box.setUpdatesEnabled(true);
+        m_undo.setReady(true);
+    });
+    try {
+        state.RtfHeader =
+            BuildRtfHeader(sampleRtf(), state.EditorSettings, m_thread.messages.service()).Header;
+        m_box.setColoured(coloured(kept));
+    } catch (const std::exception &) {
+        m_box.setText(kept); // uncoloured is better than lost
+    }
+}
+
+void ProgramText::applyAppearance(const RichTextSettings &setting)
+{
+    m_box.setBackColor(setting.BackColor);
+    m_box.setFontName(setting.FontName);
+    m_box.setFontSize(setting.FontSize);
+    m_box.setFontBold(hasMark(setting.FontStyle, u"b1"));
+    m_box.setFontItalic(hasMark(setting.FontStyle, u"i1"));
+    m_box.setFontUnderline(hasMark(setting.FontStyle, u"u1"));
+}
+
+// What the box writes for two lines in its font; leaves the box empty.
+QString ProgramText::sampleRtf()
+{
+    m_box.setText(QString());
+    m_box.setSelText(u"#GetInfo#\r\n#Another word"_s);
+    RTextSelectAll();
+    const QString sample = m_box.SelRTF();
+    m_box.setText(QString());
+    return sample;
+}
+
+QString ProgramText::CodeText() const
+{
+    return m_box.Text();
+}
+
+void ProgramText::setCodeText(const QString &text)
+{
+    const RichTextBox::Changing changing(m_box);
+    m_box.setText(text);
+    m_undo.resetBase();
+}
+
+QString ProgramText::CodeTextRTF()
+{
+    RTextSelectAll();
+    return m_box.SelRTF();
+}
+
+void ProgramText::setCodeTextRTF(const QString &rtf)
+{
+    const RichTextBox::Changing changing(m_box);
+    m_box.setTextRTF(rtf);
+    m_undo.forgetKeptTexts();
+}
+
+QString ProgramText::GetColorText(const QString &Text) const
+{
+    return ColourText(m_thread.colouring(), withCrLf(Text), m_thread.state.RtfHeader, false);
+}
+
+ColouredText ProgramText::coloured(const QString &text) const
+{
+    return colouredText(m_thread.colouring(), text, false, m_thread.settings());
+}
+
+void ProgramText::Clear()
+{
+    m_box.setText(QString());
+}
+
+void ProgramText::RTextSelectAll()
+{
+    m_box.setSelStart(0);
+    m_box.setSelLength(m_box.TextLength());
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace ORVTListview {
+
+class EditorUndo;
+class RichTextBox;
+class WordChoice;
+struct ColouredText;
+struct EditorThread;
+struct RichTextSettings;
+
+// The program in the box as a text, and how it looks.
+class ProgramText
+{
+public:
+    ProgramText(RichTextBox &box, const EditorThread &thread, EditorUndo &undo, WordChoice &words);
+
+    // Applies the appearance to the box and to all later colouring of the thread,
+    // and colours the text again.
+    void Init_RichTextBox(const RichTextSettings &Setting);
+
+    QString CodeText() const;
+    void setCodeText(const QString &text);
+
+    // Reading selects the whole text.
+    QString CodeTextRTF();
+    void setCodeTextRTF(const QString &rtf);
+
+    QString GetColorText(const QString &Text) const;
+    void Clear();
+    void RTextSelectAll();
+
+private:
+    void applyAppearance(const RichTextSettings &setting);
+    QString sampleRtf();
+    ColouredText coloured(const QString &text) const;
+
+    RichTextBox &m_box;
+    const EditorThread &m_thread;
+    EditorUndo &m_undo;
+    WordChoice &m_words;
+};
+
+} // namespace ORVTListview
