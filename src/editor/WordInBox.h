@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/rules/language/CodeText.h"
+#include <ORVTListview/Colour.h>
 
 namespace ORVTListview {
 

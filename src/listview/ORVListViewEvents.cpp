@@ -1,10 +1,8 @@
 // How the events of the control's parts reach the host.
 
-#include "listview/ORVListViewParts.h"
+#include "listview/ListViewFaces.h"
 #include "widgets/input/RelayedEvents.h"
 #include <ORVTListview/ORVListView.h>
-
-#include "listview/ListViewFaces.h"
 
 namespace ORVTListview {
 
