@@ -42,7 +42,6 @@ void WordChoice::TryToPopupList(bool IsShowAbsolutely)
         m_popup.close();
         return;
     }
-    const RichTextBox::Changing changing(m_box); // the host may destroy it
     if (IsCommentLine(m_box.lineText(m_box.GetLineFromChar(m_box.SelStart())))) {
         caretToLineEnd();
         return;

@@ -353,20 +353,6 @@ void replaceByDialog(Scene &scene)
     scene.user.click(*replaceAll, replaceAll->rect().center());
 }
 
-// A word that is only spelt and coloured; by a call of the host's too, in whose course
-// the control may go.
-void colourWord(Scene &scene)
-{
-    scene.box->setSelStart(0);
-    keyInBox<Qt::Key_Space, Qt::ControlModifier>(scene);
-}
-
-void colourWordByCall(Scene &scene)
-{
-    scene.box->setSelStart(0);
-    scene.listView->TryToPopupList();
-}
-
 void setTextByCall(Scene &scene)
 {
     scene.listView->setCodeText(QStringLiteral("z"));
@@ -382,11 +368,9 @@ void cutByKey(Scene &scene)
 Sources editorBoxSources()
 {
     return boxSources() + Sources{{"Change", "the word list", inWordList<InList::doubleClick>},
-                                  {"Change", "Ctrl+Space", colourWord},
                                   {"Change", "Ctrl+X", cutByKey},
                                   {"Change", "the find dialog", replaceByDialog},
-                                  {"Change", "setCodeText", setTextByCall},
-                                  {"Change", "TryToPopupList", colourWordByCall}};
+                                  {"Change", "setCodeText", setTextByCall}};
 }
 
 // --- The combo ---
