@@ -17,6 +17,8 @@ import xml.etree.ElementTree as ElementTree
 
 SKIPPED = 77
 OWN = "ORVTListview"
+# What a class hides behind a pointer may have any name.
+OWNED_PART = re.compile(rf"std::unique_ptr<({OWN}::[\w:]+), std::default_delete<\1> *>")
 DEFINITION = re.compile(r"^(?:class|struct|enum class|enum) (?:ORVT_\w+ )?(\w+)(?: final)?(?: :.*)?\n\{"
                         r"|^enum(?: class)? (\w+)[^;\n]*\{", re.MULTILINE)
 
@@ -82,9 +84,11 @@ class Types:
         for field in element.findall("data-member"):
             variable = field.find("var-decl")
             name = variable.get("name") if field.get("access") == "public" else "of its own"
+            held = self.name(variable.get("type-id"))
+            if name == "of its own":
+                held = OWNED_PART.sub("std::unique_ptr<hidden>", held)
             if field.get("static") != "yes":
-                yield (f"field {name} at {field.get('layout-offset-in-bits')}: "
-                       f"{self.name(variable.get('type-id'))}")
+                yield f"field {name} at {field.get('layout-offset-in-bits')}: {held}"
         inherited = self.last_inherited(element)
         for offset, name in sorted(self.virtuals(element)):
             if offset > inherited:  # what reimplements another takes the place of that one
