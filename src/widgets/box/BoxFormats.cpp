@@ -4,6 +4,7 @@
 
 #include <QtGui/QBrush>
 #include <QtGui/QFontInfo>
+#include <QtGui/QTextCursor>
 
 #include <cmath>
 
