@@ -1,5 +1,6 @@
 #include "editor/EditorUndo.h"
 
+#include "base/MessageService.h"
 #include "editor/EditorThread.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/LineColouring.h"
@@ -61,6 +62,7 @@ bool EditorUndo::canRedo() const
 
 bool EditorUndo::step(Way way, QString &ErrMsg)
 {
+    const MessagesLater later(m_thread.messages); // of the text that is left
     const RichTextBox::Changing changing(m_box);
     beforeEdit(false);
     const UndoStore::Restoring restoring(m_thread.ring);
