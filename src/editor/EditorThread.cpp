@@ -4,6 +4,7 @@
 #include "base/ThreadState.h"
 #include "editor/EditorClock.h"
 #include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "editor/rules/undo/UndoStore.h"
@@ -27,6 +28,15 @@ CodeWordList &EditorThread::knownWords() const
 ColourEngine EditorThread::colouring() const
 {
     return {knownWords(), messages.service()};
+}
+
+ColouredText EditorThread::finished(const QString &text, Spelling spelling) const
+{
+    if (!knownWords().index().isEmpty())
+        return finishedText(colouring(), text, settings(), spelling);
+    ColouredText plain{text, {}};
+    plain.appendRun(text.size(), ColouredText::automatic);
+    return plain;
 }
 
 const RichTextSettings &EditorThread::settings() const

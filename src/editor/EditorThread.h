@@ -4,6 +4,8 @@
 
 namespace ORVTListview {
 
+enum class Spelling;
+struct ColouredText;
 struct EditorClock;
 struct EditorState;
 struct HostForms;
@@ -22,6 +24,9 @@ struct EditorThread
     CodeWordList &knownWords() const;
 
     ColourEngine colouring() const;
+
+    // As finishedText; without known words there is nothing to tell words by.
+    ColouredText finished(const QString &text, Spelling spelling) const;
     const RichTextSettings &settings() const;
 
     UndoStore &ring;

@@ -109,12 +109,12 @@ bool EditorUndo::bringBackKeptText()
     }
 }
 
-// Unlike a slot it is shown exactly as it was, without the spacing of colouring.
+// Unlike a slot it is shown exactly as it was, without what colouring does to it.
 bool EditorUndo::showKept(const std::optional<UndoRecord> &kept)
 {
     if (!kept)
         return false;
-    show(*kept, finishedText(m_thread.colouring(), kept->text, m_thread.settings()));
+    show(*kept, m_thread.finished(kept->text, Spelling::AsTyped));
     m_idle.start(idleAfter);
     return true;
 }
