@@ -146,6 +146,12 @@ void EditorUndo::clearHistory()
     m_kept.clear();
 }
 
+void EditorUndo::beginWithShown()
+{
+    clearHistory();
+    resetBase();
+}
+
 void EditorUndo::beforeEdit(bool losesPart)
 {
     if (m_thread.ring.IsRestoringUndo())
