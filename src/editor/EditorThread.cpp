@@ -3,6 +3,7 @@
 #include "base/MessageService.h"
 #include "base/ThreadState.h"
 #include "editor/EditorClock.h"
+#include "editor/OpenWordList.h"
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/language/CodeWordList.h"
@@ -14,9 +15,9 @@ namespace ORVTListview {
 
 EditorThread EditorThread::current()
 {
-    return {threadPart<UndoStore>(),  threadPart<EditorState>(), threadPart<CodeWordList>(),
-            threadPart<Vocabulary>(), threadPart<Messages>(),    threadPart<HostForms>(),
-            threadPart<EditorClock>()};
+    return {threadPart<UndoStore>(),   threadPart<EditorState>(), threadPart<CodeWordList>(),
+            threadPart<Vocabulary>(),  threadPart<Messages>(),    threadPart<HostForms>(),
+            threadPart<EditorClock>(), threadPart<OpenWordList>()};
 }
 
 CodeWordList &EditorThread::knownWords() const

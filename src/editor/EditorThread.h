@@ -9,6 +9,7 @@ struct ColouredText;
 struct EditorClock;
 struct EditorState;
 struct HostForms;
+struct OpenWordList;
 class Messages;
 class UndoStore;
 class Vocabulary;
@@ -36,6 +37,7 @@ struct EditorThread
     Messages &messages;
     HostForms &forms;
     EditorClock &clock;
+    OpenWordList &openList;
 };
 
 } // namespace ORVTListview
