@@ -210,16 +210,9 @@ void MainWindow::showProgram()
 {
     m_results->hide();
     m_view->showType(dsCode);
-    m_code->ClearUndoHistory();
-    m_code->setCodeText(QString());
+    m_code->Clear();
     applyAppearance();
-    const QString program = withWordsApart(m_project->program());
-    m_code->setCodeText(program); // which is what undo ends at
-    if (survivesRtf(program))
-        m_code->setCodeTextRTF(m_code->GetColorText(program));
-    else
-        applyAppearance(); // colours what is shown
-    m_code->RTextBox()->setSelStart(0);
+    m_code->openProgram(withWordsApart(m_project->program()));
     m_saving->setProject(m_project.get());
     m_code->setFocus();
     showPosition();

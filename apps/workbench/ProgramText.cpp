@@ -20,10 +20,4 @@ QString withWordsApart(const QString &program)
     return lines.join(u"\r\n"_s);
 }
 
-bool survivesRtf(const QString &program)
-{
-    static const QRegularExpression rtfCharacters(u"[\\\\{}]"_s);
-    return !program.contains(rtfCharacters);
-}
-
 } // namespace ORVTListview

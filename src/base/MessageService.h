@@ -2,7 +2,10 @@
 
 #include <ORVTListview/CoreExport.h>
 
+#include <QtCore/QList>
 #include <QtCore/QString>
+
+#include <memory>
 
 namespace ORVTListview {
 
@@ -37,6 +40,10 @@ public:
 class ORVT_CORE_EXPORT Messages
 {
 public:
+    Messages();
+    ~Messages();
+    Q_DISABLE_COPY_MOVE(Messages) // messages may wait in it
+
     MessageService &service() const;
 
     // The caller keeps the service and keeps it alive; null goes back to the
@@ -47,7 +54,30 @@ public:
     static void setDefaultService(MessageService *service);
 
 private:
+    friend class MessagesLater;
+    class Waiting;
+
+    MessageService &inForce() const;
+    void showWaiting();
+
     MessageService *m_installed = nullptr;
+    std::unique_ptr<Waiting> m_waiting;
+    int m_delays = 0;
+};
+
+// Messages that come while one of these lives are shown when the outermost ends, in a
+// batch. A message box runs the event loop, in which the user and the host may do
+// anything: around what holds a text, or a place in it, stands one of these, made
+// before any other guard.
+class ORVT_CORE_EXPORT MessagesLater
+{
+public:
+    explicit MessagesLater(Messages &messages);
+    ~MessagesLater();
+    Q_DISABLE_COPY_MOVE(MessagesLater) // one begin, one end
+
+private:
+    Messages &m_messages;
 };
 
 // Equal messages shown while one of these lives may be merged by the service.

@@ -3,7 +3,9 @@
 #include "base/MessageService.h"
 #include "base/ThreadState.h"
 #include "editor/EditorClock.h"
+#include "editor/OpenWordList.h"
 #include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "editor/rules/undo/UndoStore.h"
@@ -13,9 +15,9 @@ namespace ORVTListview {
 
 EditorThread EditorThread::current()
 {
-    return {threadPart<UndoStore>(),  threadPart<EditorState>(), threadPart<CodeWordList>(),
-            threadPart<Vocabulary>(), threadPart<Messages>(),    threadPart<HostForms>(),
-            threadPart<EditorClock>()};
+    return {threadPart<UndoStore>(),   threadPart<EditorState>(), threadPart<CodeWordList>(),
+            threadPart<Vocabulary>(),  threadPart<Messages>(),    threadPart<HostForms>(),
+            threadPart<EditorClock>(), threadPart<OpenWordList>()};
 }
 
 CodeWordList &EditorThread::knownWords() const
@@ -27,6 +29,15 @@ CodeWordList &EditorThread::knownWords() const
 ColourEngine EditorThread::colouring() const
 {
     return {knownWords(), messages.service()};
+}
+
+ColouredText EditorThread::finished(const QString &text, Spelling spelling) const
+{
+    if (!knownWords().index().isEmpty())
+        return finishedText(colouring(), text, settings(), spelling);
+    ColouredText plain{text, {}};
+    plain.appendRun(text.size(), ColouredText::automatic);
+    return plain;
 }
 
 const RichTextSettings &EditorThread::settings() const

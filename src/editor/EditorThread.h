@@ -4,9 +4,12 @@
 
 namespace ORVTListview {
 
+enum class Spelling;
+struct ColouredText;
 struct EditorClock;
 struct EditorState;
 struct HostForms;
+struct OpenWordList;
 class Messages;
 class UndoStore;
 class Vocabulary;
@@ -22,6 +25,9 @@ struct EditorThread
     CodeWordList &knownWords() const;
 
     ColourEngine colouring() const;
+
+    // As finishedText; without known words there is nothing to tell words by.
+    ColouredText finished(const QString &text, Spelling spelling) const;
     const RichTextSettings &settings() const;
 
     UndoStore &ring;
@@ -31,6 +37,7 @@ struct EditorThread
     Messages &messages;
     HostForms &forms;
     EditorClock &clock;
+    OpenWordList &openList;
 };
 
 } // namespace ORVTListview

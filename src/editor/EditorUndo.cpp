@@ -1,5 +1,6 @@
 #include "editor/EditorUndo.h"
 
+#include "base/MessageService.h"
 #include "editor/EditorThread.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/LineColouring.h"
@@ -61,6 +62,7 @@ bool EditorUndo::canRedo() const
 
 bool EditorUndo::step(Way way, QString &ErrMsg)
 {
+    const MessagesLater later(m_thread.messages); // of the text that is left
     const RichTextBox::Changing changing(m_box);
     beforeEdit(false);
     const UndoStore::Restoring restoring(m_thread.ring);
@@ -107,12 +109,12 @@ bool EditorUndo::bringBackKeptText()
     }
 }
 
-// Unlike a slot it is shown exactly as it was, without the spacing of colouring.
+// Unlike a slot it is shown exactly as it was, without what colouring does to it.
 bool EditorUndo::showKept(const std::optional<UndoRecord> &kept)
 {
     if (!kept)
         return false;
-    show(*kept, finishedText(m_thread.colouring(), kept->text, m_thread.settings()));
+    show(*kept, m_thread.finished(kept->text, Spelling::AsTyped));
     m_idle.start(idleAfter);
     return true;
 }
@@ -142,6 +144,12 @@ void EditorUndo::clearHistory()
 {
     m_thread.ring.ClearUndoHistory();
     m_kept.clear();
+}
+
+void EditorUndo::beginWithShown()
+{
+    clearHistory();
+    resetBase();
 }
 
 void EditorUndo::beforeEdit(bool losesPart)

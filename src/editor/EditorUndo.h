@@ -48,6 +48,7 @@ public:
     void resetBase();
     void forgetKeptTexts() { m_kept.clear(); }
     void clearHistory();
+    void beginWithShown(); // nothing to undo, and the text shown as the base
 
     // Before and after the text is changed by anything but undo and redo. When it
     // loses a part at once, or has stood for a while, the state before is kept.

@@ -2,12 +2,14 @@
 
 #include "base/KeyCodes.h"
 #include "editor/EditorThread.h"
+#include "editor/OpenWordList.h"
 #include "editor/WordInBox.h"
-#include "editor/rules/KeyRules.h"
+#include "editor/rules/PopupPlace.h"
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/ThreadColouring.h"
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
+#include "widgets/look/TextWidths.h"
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
@@ -15,8 +17,10 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QEvent>
-#include <QtGui/QMouseEvent>
+#include <QtCore/QPointer>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
+#include <QtGui/QTextBlock>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
@@ -27,7 +31,10 @@ namespace ORVTListview {
 namespace {
 
 constexpr int mostRowsShown = 12;
-constexpr int gapToCaretLine = 2; // pixels
+
+// Of average width. Texts that are longer end in an ellipsis.
+constexpr int fewestLetters = 12;
+constexpr int mostLetters = 48;
 
 QList<RowContent> rowsOf(const PopupWords &words)
 {
@@ -52,9 +59,18 @@ PopupWordList::PopupWordList(ReportList &list, RichTextBox &box, const EditorThr
     , m_thread(thread)
 {
     connect(&m_list, &ReportList::DblClick, this, [this] {
-        if (m_isShown)
+        if (isShown())
             pickChosen();
     });
+    m_placing.setSingleShot(true);
+    connect(&m_placing, &QTimer::timeout, this, &PopupWordList::followOnScreen);
+    for (const QScrollBar *bar : {m_box.verticalScrollBar(), m_box.horizontalScrollBar()})
+        connect(bar, &QScrollBar::valueChanged, this, &PopupWordList::placeSoon);
+    const auto forget = [this] { m_measured = 0; };
+    const QAbstractItemModel *rows = m_list.model();
+    connect(rows, &QAbstractItemModel::modelReset, this, forget);
+    connect(rows, &QAbstractItemModel::rowsInserted, this, forget);
+    connect(rows, &QAbstractItemModel::dataChanged, this, forget);
 }
 
 void PopupWordList::takeList()
@@ -98,32 +114,55 @@ void PopupWordList::refill()
     m_taken = known.changes();
     m_words = PopupWords(known.index(), m_thread.vocabulary, m_thread.settings());
     m_list.setRows(rowsOf(m_words));
-    m_list.fitColumns();
 }
 
 void PopupWordList::catchUp()
 {
-    if (m_hasList && !m_isShown && m_thread.knownWords().changes() != m_taken)
+    if (m_hasList && !isShown() && m_thread.knownWords().changes() != m_taken)
         refill();
 }
 
+bool PopupWordList::isShown() const
+{
+    return m_thread.openList.list.data() == this;
+}
+
+bool PopupWordList::canStand() const
+{
+    return m_hasList && m_box.isVisible() && m_box.isEnabled() && !m_box.isReadOnly();
+}
+
+// Keys come to the box, whatever the host opened the list from; what hears of the focus
+// may do anything.
 void PopupWordList::open()
 {
+    const QPointer<PopupWordList> self(this);
+    if (canStand()) {
+        if (!m_box.isActiveWindow())
+            m_box.activateWindow();
+        m_box.setFocus();
+    }
+    if (!self || !canStand())
+        return;
+    m_box.ensureCursorVisible();
     const WordAtCaret word = GetWordAtCaret(m_box);
     m_wordStart = word.WordStart;
-    chooseForWord(word.Word);
-    placeAtCaret();
+    m_thread.openList.list = this;
+    QApplication::instance()->installEventFilter(this);
+    place();
     m_list.show();
     m_list.raise();
-    m_isShown = true;
-    QApplication::instance()->installEventFilter(this);
+    chooseForWord(word.Word);
+    if (chosen() < 0)
+        showFirst(0);
 }
 
 void PopupWordList::close()
 {
-    if (!m_isShown)
+    if (!isShown())
         return;
-    m_isShown = false;
+    m_thread.openList.list.clear();
+    m_placing.stop();
     QApplication::instance()->removeEventFilter(this);
     m_list.hide();
 }
@@ -132,6 +171,13 @@ void PopupWordList::chooseForWord(const QString &word)
 {
     const qsizetype exact = word.isEmpty() ? -1 : m_words.find(word);
     choose(exact >= 0 || word.isEmpty() ? exact : m_words.findBeginning(word));
+    if (const qsizetype place = chosen(); place >= 0)
+        showFirst(static_cast<int>(place)); // what else begins so comes behind it
+}
+
+void PopupWordList::showFirst(int row)
+{
+    m_list.scrollTo(m_list.model()->index(row, 0), ReportList::PositionAtTop);
 }
 
 // The host may have taken rows out of the list or put its own there.
@@ -209,7 +255,7 @@ void PopupWordList::move(qint16 keyCode)
 
 void PopupWordList::follow()
 {
-    if (!m_isShown)
+    if (!isShown())
         return;
     const WordAtCaret word = GetWordAtCaret(m_box);
     if (word.WordStart != m_wordStart || m_box.SelLength() > 0)
@@ -220,35 +266,112 @@ void PopupWordList::follow()
 
 int PopupWordList::rowsShown() const
 {
-    return static_cast<int>(std::clamp<qsizetype>(m_words.words().size(), 1, mostRowsShown));
+    return std::clamp(m_list.ListItems()->Count(), 1, mostRowsShown);
 }
 
-// Under the caret's line, or over it where the screen ends.
-void PopupWordList::placeAtCaret()
+int PopupWordList::widestRow() const
 {
-    const QRect caret(m_box.viewport()->mapToGlobal(m_box.cursorRect().topLeft()),
-                      m_box.cursorRect().size());
-    const QRect screen = m_box.screen()->availableGeometry();
+    TextWidths widths(m_list.font());
+    int widest = 0;
+    int row = 0;
+    const QAbstractItemModel &rows = *m_list.model();
+    for (int i = 0; i < rows.rowCount(); ++i) {
+        const int before = widest;
+        widths.widen(widest, rows.index(i, 0).data().toString());
+        if (widest > before)
+            row = i;
+    }
+    return row;
+}
+
+int PopupWordList::wantedWidth()
+{
+    if (m_measured == 0 || m_measuredIn != m_list.font()) {
+        m_measuredIn = m_list.font();
+        m_measured = m_list.sizeHintForIndex(m_list.model()->index(widestRow(), 0)).width();
+    }
+    const int letter = m_list.fontMetrics().averageCharWidth();
+    return std::clamp(m_measured, fewestLetters * letter, mostLetters * letter);
+}
+
+// From the word's beginning, or from the edge of the box that it lies beyond, to the
+// caret.
+QRect PopupWordList::wordOnScreen() const
+{
+    const QRect caret = m_box.cursorRect();
+    QTextCursor start = m_box.textCursor();
+    const qint32 column = m_wordStart - 1 - m_box.lineStart(start.blockNumber());
+    start.setPosition(start.block().position() + std::clamp(column, 0, start.block().length() - 1));
+    const int left = std::clamp(m_box.cursorRect(start).left(), 0, std::max(0, caret.left()));
+    return {m_box.viewport()->mapToGlobal(QPoint(left, caret.top())),
+            QSize(std::max(1, caret.right() - left), caret.height())};
+}
+
+void PopupWordList::place()
+{
+    const QRect word = wordOnScreen();
+    const QScreen *screen = QGuiApplication::screenAt(word.center());
+    if (!screen)
+        screen = m_box.screen();
     const int frame = 2 * m_list.frameWidth();
-    const int rowHeight = std::max(1, m_list.verticalHeader()->defaultSectionSize());
-    const QSize size(
-        std::min(m_list.columnWidth(0) + m_list.verticalScrollBar()->sizeHint().width() + frame,
-                 screen.width()),
-        std::min(rowsShown() * rowHeight + frame, screen.height()));
-    int top = caret.bottom() + gapToCaretLine;
-    if (top + size.height() > screen.bottom())
-        top = std::max(screen.top(), caret.top() - gapToCaretLine - size.height());
-    const int left = std::clamp(caret.left(), screen.left(),
-                                std::max(screen.left(), screen.right() - size.width()));
-    m_list.setGeometry(QRect(QPoint(left, top), size));
+    const int height =
+        rowsShown() * std::max(1, m_list.verticalHeader()->defaultSectionSize()) + frame;
+    const int bar = m_list.verticalScrollBar()->sizeHint().width();
+    const QRect place =
+        popupPlace(word, {wantedWidth() + bar + frame, height}, screen->availableGeometry());
+    const bool hasBar = m_list.ListItems()->Count() > rowsShown() || place.height() < height;
+    m_list.setGeometry(place);
+    m_list.setColumnWidth(0, place.width() - frame - (hasBar ? bar : 0));
+}
+
+void PopupWordList::placeSoon()
+{
+    if (isShown())
+        m_placing.start(0);
+}
+
+bool PopupWordList::isWordInSight() const
+{
+    return m_box.viewport()->rect().intersects(m_box.cursorRect());
+}
+
+void PopupWordList::followOnScreen()
+{
+    if (canStand() && isWordInSight())
+        place();
+    else
+        close();
 }
 
 bool PopupWordList::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isPress = event->type() == QEvent::MouseButtonPress;
-    auto *widget = isPress ? qobject_cast<QWidget *>(watched) : nullptr;
-    if (widget && widget != &m_list && !m_list.isAncestorOf(widget))
-        close();
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (widget && widget != &m_list && !m_list.isAncestorOf(widget))
+            close();
+        break;
+    case QEvent::Hide:
+        if (watched == &m_box)
+            close();
+        break;
+    case QEvent::EnabledChange:
+    case QEvent::ReadOnlyChange:
+        if (watched == &m_box && !canStand())
+            close();
+        break;
+    case QEvent::WindowDeactivate:
+        if (watched == m_box.window())
+            close();
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+        if (watched == &m_box || (widget && widget->isAncestorOf(&m_box)))
+            placeSoon();
+        break;
+    default:
+        break;
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -3,6 +3,8 @@
 #include "editor/rules/language/PopupWords.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QTimer>
+#include <QtGui/QFont>
 
 class QRect;
 
@@ -13,7 +15,9 @@ class RichTextBox;
 struct EditorThread;
 
 // The list of known words beside the caret. The control's list view serves for it;
-// the focus stays in the box, which hands on the keys that move in the list.
+// the focus is in the box, which hands on the keys that move in the list. It follows
+// its word on the screen, and closes when the word is out of sight or can no longer be
+// typed.
 class PopupWordList : public QObject
 {
     Q_OBJECT
@@ -34,10 +38,11 @@ public:
     void catchUp();
     const PopupWords &words() const { return m_words; }
 
-    bool isShown() const { return m_isShown; }
+    bool isShown() const;
 
     // Opens it for the word at the caret, which chooses the first entry with that
-    // beginning; none for an empty word.
+    // beginning; none for an empty word. The focus goes to the box. Where the user
+    // cannot type it stays closed.
     void open();
     void close();
 
@@ -54,22 +59,32 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    bool canStand() const;
+    bool isWordInSight() const;
     void choose(qsizetype place);
     void chooseForWord(const QString &word);
+    void showFirst(int row);
     bool pickChosen();
     void move(qint16 keyCode);
     qsizetype chosen() const;
     int rowsShown() const;
-    void placeAtCaret();
+    int wantedWidth();
+    int widestRow() const;
+    QRect wordOnScreen() const;
+    void place();
+    void placeSoon();
+    void followOnScreen();
 
     ReportList &m_list;
     RichTextBox &m_box;
     const EditorThread &m_thread;
     PopupWords m_words;
     bool m_hasList = false;
-    bool m_isShown = false;
     quint64 m_taken = 0;    // the index's changes that are in the list
     qint32 m_wordStart = 0; // of the word that the list is open for
+    QTimer m_placing;       // once for all that moves
+    QFont m_measuredIn;
+    int m_measured = 0; // the width of all texts in that font; 0 when it is not known
 };
 
 } // namespace ORVTListview

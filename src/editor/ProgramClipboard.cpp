@@ -2,7 +2,9 @@
 
 #include "base/ColouredText.h"
 #include "base/EventGuard.h"
+#include "base/MessageService.h"
 #include "editor/CheckedPaste.h"
+#include "editor/EditorThread.h"
 #include "editor/EditorUndo.h"
 #include "editor/TypedColouring.h"
 #include "rtf/RtfReader.h"
@@ -81,6 +83,7 @@ Pasted ProgramClipboard::pasteFromOutside(const QString &data)
 
 Pasted ProgramClipboard::pasteChecked(const QString &data)
 {
+    const MessagesLater later(m_thread.messages); // the place is the selection of now
     const RichTextBox::Changing changing(m_box);
     const bool hasColours = isRtf(data);
     const std::optional<ColouredText> text =

@@ -1,7 +1,9 @@
 #include "editor/ProgramEditing.h"
 
+#include "base/MessageService.h"
 #include "base/TextPiece.h"
 #include "editor/CodeReplacing.h"
+#include "editor/EditorThread.h"
 #include "editor/EditorUndo.h"
 #include "editor/ProgramClipboard.h"
 #include "editor/TypedColouring.h"
@@ -89,6 +91,7 @@ void ProgramEditing::replace(const QList<TextPiece> &pieces, const QString &text
 {
     if (pieces.isEmpty())
         return;
+    const MessagesLater later(m_thread.messages); // the pieces are places of now
     const RichTextBox::Changing changing(m_box);
     m_undo.PushUndoSnapshot();
     m_colouring.finishEdit(); // the caret leaves the line

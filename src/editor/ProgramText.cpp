@@ -8,6 +8,7 @@
 #include "editor/WordChoice.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/RtfHead.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -38,6 +39,7 @@ ProgramText::ProgramText(RichTextBox &box, const EditorThread &thread, EditorUnd
 
 void ProgramText::Init_RichTextBox(const RichTextSettings &Setting)
 {
+    const MessagesLater later(m_thread.messages); // the text is not in the box meanwhile
     const UndoStore::Restoring sameText(m_thread.ring);
     auto &state = m_thread.state;
     const qint32 formerNvoColour = state.EditorSettings.nvoFPAColor;
@@ -96,6 +98,14 @@ void ProgramText::setCodeText(const QString &text)
     const RichTextBox::Changing changing(m_box);
     m_box.setText(text);
     m_undo.resetBase();
+}
+
+void ProgramText::openProgram(const QString &text)
+{
+    const RichTextBox::Changing changing(m_box);
+    m_box.setColoured(m_thread.finished(asInBox(text), Spelling::Listed));
+    m_box.ensureCursorVisible();
+    m_undo.beginWithShown();
 }
 
 QString ProgramText::CodeTextRTF()

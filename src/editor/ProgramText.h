@@ -24,6 +24,10 @@ public:
     QString CodeText() const;
     void setCodeText(const QString &text);
 
+    // Shows another program from its top, its lines finished, and begins the history
+    // with it.
+    void openProgram(const QString &text);
+
     // Reading selects the whole text.
     QString CodeTextRTF();
     void setCodeTextRTF(const QString &rtf);

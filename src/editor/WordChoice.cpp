@@ -3,6 +3,7 @@
 #include "base/TextRules.h"
 #include "editor/EditorThread.h"
 #include "editor/EditorUndo.h"
+#include "editor/OpenWordList.h"
 #include "editor/TypedColouring.h"
 #include "editor/WordInBox.h"
 #include "editor/rules/language/CodeWordList.h"
@@ -38,8 +39,8 @@ void WordChoice::UpdateWordListItem(const QString &OldName, const QString &NewNa
 
 void WordChoice::TryToPopupList(bool IsShowAbsolutely)
 {
-    if (m_popup.isShown()) {
-        m_popup.close();
+    if (PopupWordList *open = m_thread.openList.list) {
+        open->close();
         return;
     }
     if (IsCommentLine(m_box.lineText(m_box.GetLineFromChar(m_box.SelStart())))) {

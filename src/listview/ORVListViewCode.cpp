@@ -16,6 +16,11 @@ void ORVListView::Init_RichTextBox(const RichTextSettings &Setting)
     d->editor->text().Init_RichTextBox(Setting);
 }
 
+void ORVListView::openProgram(const QString &Text)
+{
+    d->editor->text().openProgram(Text);
+}
+
 QString ORVListView::CodeText() const
 {
     return d->editor->text().CodeText();

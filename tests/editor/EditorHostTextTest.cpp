@@ -7,6 +7,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QInputMethodEvent>
+#include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -14,6 +15,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint32 none = -1;
+
+// What happens while a message is shown, once.
+class Interrupting final : public MessageService
+{
+public:
+    void show(const Message &) override
+    {
+        if (const auto now = std::exchange(act, {}))
+            now();
+    }
+
+    std::function<void()> act;
+};
 
 using Call = std::function<void(EditorHost &, const QString &)>;
 
@@ -272,6 +286,131 @@ private Q_SLOTS:
         host.key(Qt::Key_End);
         host.key(Qt::Key_Return);
         QCOMPARE(host.box().lineText(1), u"if temp1 > 20"_s);
+    }
+
+    void openProgramShowsItsLinesFinished()
+    {
+        EditorHost host;
+        host.setText(u"|a| b"_s);
+        QSignalSpy changes(&host.box(), &RichTextBox::Change);
+        host.list->openProgram(u"if ( temp1 )\n\tx\\ {y}\rREM fan1\r\nfan1"_s);
+        QCOMPARE(host.marked(), u"|IF ( Temp1 )\r\n\tx\\ {y}\r\nREM fan1\r\nFan1"_s);
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(host.colourOf(u"IF"_s), host.settings.ReservedWordColor);
+        QCOMPARE(host.colourOf(u"Temp1"_s), host.settings.InputColor);
+        QCOMPARE(host.colourOf(u"fan1"_s), host.settings.CommentColor);
+        QCOMPARE(host.colourAt(host.box().TextLength() - 1), host.settings.OutputColor);
+        QCOMPARE(host.colourOf(u"x\\"_s), none);
+        const QString shown = host.box().Text();
+        leaveTheLine(host);
+        QCOMPARE(host.box().Text(), shown);
+        host.list->openProgram(QString());
+        QCOMPARE(host.marked(), u"|"_s);
+    }
+
+    void openProgramBeginsTheHistoryAnew()
+    {
+        EditorHost host;
+        host.setText(u"|"_s);
+        host.type(u"a b c "_s);
+        host.list->RTextSelectAll();
+        host.type(u"x"_s);
+        host.list->openProgram(u"if temp1"_s);
+        QVERIFY(!host.list->IsUndoAvailable());
+        QVERIFY(!host.list->IsRedoAvailable());
+        QVERIFY(!host.list->restoreUnsavedText());
+        QString errMsg;
+        host.list->Undo(errMsg);
+        QCOMPARE(host.box().Text(), u"IF Temp1"_s);
+
+        host.key(Qt::Key_End);
+        host.type(u" x "_s);
+        while (host.list->IsUndoAvailable())
+            host.list->Undo(errMsg);
+        QCOMPARE(host.box().Text(), u"IF Temp1"_s); // in its colours
+        host.list->Undo(errMsg);
+        QCOMPARE(host.box().Text(), u"IF Temp1"_s);
+        QCOMPARE(errMsg, QString());
+    }
+
+    void openProgramShowsItsTop()
+    {
+        EditorHost host;
+        const QString longOne = program(500) + QString(500, u'x');
+        host.list->openProgram(longOne);
+        for (int i = 0; i < 2; ++i) {
+            host.key(Qt::Key_End, Qt::ControlModifier);
+            QVERIFY(host.box().verticalScrollBar()->value() > 0);
+            QVERIFY(host.box().horizontalScrollBar()->value() > 0);
+            host.list->openProgram(longOne);
+            QCOMPARE(host.box().SelStart(), 0);
+            QCOMPARE(host.box().verticalScrollBar()->value(), 0);
+            QCOMPARE(host.box().horizontalScrollBar()->value(), 0);
+        }
+    }
+
+    void openProgramClosesTheWordList()
+    {
+        EditorHost host;
+        host.setText(u"te|"_s);
+        host.key(Qt::Key_Space, Qt::ControlModifier);
+        QVERIFY(host.wordList().isVisible());
+        host.list->openProgram(u"te"_s);
+        QVERIFY(!host.wordList().isVisible());
+    }
+
+    // The words are not known yet.
+    void openProgramBeforeInitialisationHasNoColoursYet()
+    {
+        ORVListView list;
+        list.setListviewType(dsCode);
+        list.openProgram(u"if x"_s);
+        QCOMPARE(list.CodeText(), u"if x"_s);
+        QVERIFY(messages().isEmpty());
+        QVERIFY(!list.IsUndoAvailable());
+        list.Init_RichTextBox(defaultColours());
+        QCOMPARE(list.CodeText(), u"IF x"_s);
+    }
+
+    // A message lets the host and the user do what they like.
+    void whatIsSetDuringAMessageStays()
+    {
+        Interrupting message;
+        threadPart<Messages>().install(&message);
+        ORVListView list; // which knows no words, and says so
+        list.setListviewType(dsCode);
+        list.setCodeText(u"keep me"_s);
+        list.RTextSelectAll();
+        message.act = [&list] { list.setCodeText(u"set"_s); };
+        QString data = u"if x"_s;
+        list.RTextPaste(data);
+        QCOMPARE(list.CodeText(), u"set"_s);
+        QVERIFY(!message.act);
+
+        list.setCodeText(u"a b a"_s);
+        message.act = [&list] { list.setCodeText(u"set again"_s); };
+        QString errMsg;
+        list.ReplaceRichTextBox(u"a"_s, u"xx"_s, errMsg, true);
+        QCOMPARE(list.CodeText(), u"set again"_s);
+        QVERIFY(!message.act);
+    }
+
+    void theControlGoesInAMessage()
+    {
+        Interrupting message;
+        threadPart<Messages>().install(&message);
+        for (const bool pastes : {true, false}) {
+            auto *list = new ORVListView;
+            list->setListviewType(dsCode);
+            list->setCodeText(u"a b a"_s);
+            message.act = [list] { delete list; };
+            QString data = u"if x"_s;
+            if (pastes)
+                list->RTextPaste(data);
+            else
+                list->ReplaceRichTextBox(u"a"_s, u"xx"_s, data, true);
+            QVERIFY(!message.act);
+        }
     }
 
     void theWordListClosesWhenTheHostSetsTheText_data() { addCalls(); }

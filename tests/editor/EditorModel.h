@@ -276,7 +276,7 @@ struct EditorModel
         const Kept kept = from.takeLast();
         leaveAt(to, isInRing);
         keptShown = kept;
-        show(kept.state, finishedText(threadColouring(), kept.state.text, settings()).text);
+        show(kept.state, kept.state.text);
     }
 };
 

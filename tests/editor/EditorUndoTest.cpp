@@ -179,6 +179,28 @@ private Q_SLOTS:
         QVERIFY(!host.list->restoreUnsavedText());
     }
 
+    // Spelling and blanks as they were, however often it goes and comes.
+    void whatWasKeptComesBackAsItWas()
+    {
+        EditorHost host;
+        host.setText(u"x |"_s);
+        QGuiApplication::clipboard()->setText(u"{\\rtf1 if temp1 ( and )\\tab y}"_s);
+        host.key(Qt::Key_V, Qt::ControlModifier);
+        const QString pasted = u"x if temp1 ( and )\ty"_s;
+        QCOMPARE(host.box().Text(), pasted);
+        for (int i = 0; i < 2; ++i) {
+            undo(host);
+            QVERIFY(host.box().Text() != pasted);
+            redo(host);
+            redo(host);
+            QCOMPARE(host.box().Text(), pasted);
+            QCOMPARE(host.colourOf(u"temp1"_s), host.settings.InputColor);
+        }
+        undo(host);
+        QVERIFY(host.list->restoreUnsavedText());
+        QCOMPARE(host.box().Text(), pasted);
+    }
+
     void whatWasKeptOutlastsAnEdit()
     {
         EditorHost host;

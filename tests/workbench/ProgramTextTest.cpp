@@ -30,14 +30,6 @@ private Q_SLOTS:
         QFETCH(QString, program);
         QTEST(withWordsApart(program), "apart");
     }
-
-    void tellsWhatDoesNotSurviveRtf()
-    {
-        QVERIFY(survivesRtf(u""_s));
-        QVERIFY(survivesRtf(u"IF ( A ) \u20ac \U0001F600 [%] /"_s));
-        for (const QString &character : {u"\\"_s, u"{"_s, u"}"_s})
-            QVERIFY(!survivesRtf(u"REM "_s + character + u" x"_s));
-    }
 };
 
 QTEST_APPLESS_MAIN(ProgramTextTest)

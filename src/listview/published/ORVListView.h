@@ -194,15 +194,23 @@ public:
     // once the editor is shown in code mode and whenever the settings change.
     Q_INVOKABLE void Init_RichTextBox(const ORVTListview::RichTextSettings &Setting);
 
+    // Opens a program: shows it from its top, the caret at 0, every word in its colour
+    // and its listed letter case, as if its lines had been typed; no blank, tab or
+    // bracket comes or goes, and no character is reserved. CR LF, CR and LF are line
+    // ends. The history begins with it, for all editors of the thread: undo ends there
+    // and reaches nothing before. Until the words are known, which Init_RichTextBox sees
+    // to, the program is shown without colours. The type stays.
+    Q_INVOKABLE void openProgram(const QString &Text);
+
     // The program as plain text, lines separated by CR LF. Setting it shows it
-    // without colours, accepts CR LF, CR and LF as line ends, and puts the caret
-    // at 0. To show a program coloured: setCodeTextRTF(GetColorText(text)).
+    // without colours, accepts CR LF, CR and LF as line ends, puts the caret at 0, and
+    // replaces the oldest state of the ring only. To open a program: openProgram.
     QString CodeText() const;
     void setCodeText(const QString &Text);
 
     // The program as RTF. Reading selects the whole text. Setting replaces it and
     // leaves the caret behind it; a text that does not begin with "{\rtf" is taken
-    // as plain text.
+    // as plain text. What undo goes back to stays as it was.
     QString CodeTextRTF();
     void setCodeTextRTF(const QString &Rtf);
 
@@ -271,8 +279,8 @@ public:
     // IsUndoAvailable and IsRedoAvailable speak of the ring alone.
     Q_INVOKABLE bool restoreUnsavedText();
 
-    // Empties the ring, for all editors of the thread: to be called when another
-    // program is opened, because setCodeText alone replaces the oldest state only.
+    // Empties the ring, for all editors of the thread, as openProgram does. To be called
+    // when another program is set by setCodeText, which replaces the oldest state only.
     Q_INVOKABLE void ClearUndoHistory();
 
     // --- Clipboard ---

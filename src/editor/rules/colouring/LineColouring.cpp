@@ -67,7 +67,7 @@ ColouredText finishedLine(const ColourEngine &engine, QStringView line,
 }
 
 ColouredText finishedText(const ColourEngine &engine, QStringView text,
-                          const RichTextSettings &settings)
+                          const RichTextSettings &settings, Spelling spelling)
 {
     ColouredText result;
     result.text.reserve(text.size());
@@ -78,7 +78,7 @@ ColouredText finishedText(const ColourEngine &engine, QStringView text,
             result.runs.append({2, ColouredText::automatic});
         }
         const ColouredText line = finishedLine(engine, lines[i], settings);
-        result.text += line.text;
+        result.text += spelling == Spelling::Listed ? QStringView(line.text) : lines[i];
         result.runs += line.runs;
     }
     return result;

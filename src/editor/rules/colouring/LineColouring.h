@@ -11,8 +11,11 @@ namespace ORVTListview {
 ORVT_CORE_EXPORT ColouredText finishedLine(const ColourEngine &engine, QStringView line,
                                            const RichTextSettings &settings);
 
-// The same for all lines of a text, which are separated by CR LF.
+// The same for all lines of a text, which are separated by CR LF; AsTyped, without
+// the listed letter case: the colours alone.
+enum class Spelling { Listed, AsTyped };
 ORVT_CORE_EXPORT ColouredText finishedText(const ColourEngine &engine, QStringView text,
-                                           const RichTextSettings &settings);
+                                           const RichTextSettings &settings,
+                                           Spelling spelling = Spelling::Listed);
 
 } // namespace ORVTListview

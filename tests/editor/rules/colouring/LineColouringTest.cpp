@@ -76,6 +76,18 @@ TEST(FinishedLine, CommentsAreOneColour)
     EXPECT_EQ(line.runs, (QList<ColouredText::Run>{{17, 0x008000}}));
 }
 
+TEST(FinishedText, AsTypedItHasTheColoursAlone)
+{
+    Colouring colouring;
+    const QString text = u"if ( temp1 )\r\n\r\nrem fan1\r\nday\tfan1 "_s;
+    const auto in = [&](Spelling spelling) {
+        return finishedText(colouring.engine(), text, defaultColours(), spelling);
+    };
+    EXPECT_EQ(in(Spelling::Listed).text, u"IF ( Temp1 )\r\n\r\nrem fan1\r\nDAY\tFan1 "_s);
+    EXPECT_EQ(in(Spelling::AsTyped).text, text);
+    EXPECT_EQ(in(Spelling::AsTyped).runs, in(Spelling::Listed).runs);
+}
+
 TEST(FinishedLine, WordsHaveTheColoursOfTheWholeText)
 {
     constexpr unsigned seed = 991;

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <ORVTListview/CoreExport.h>
+
+#include <QtCore/QRect>
+
+namespace ORVTListview {
+
+// Where a list of the wanted size goes that belongs to a word: under its line, over it
+// where the screen ends, its left edge at the word's. Where there is room on neither
+// side it is lower, on the side that has more. Never outside the screen.
+ORVT_CORE_EXPORT QRect popupPlace(const QRect &word, const QSize &wanted, const QRect &screen);
+
+} // namespace ORVTListview

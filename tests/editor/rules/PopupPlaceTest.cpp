@@ -1,0 +1,58 @@
+#include "editor/rules/PopupPlace.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace ORVTListview;
+
+namespace {
+
+const QRect screen(100, 50, 1000, 800);
+const QSize size(150, 200);
+
+} // namespace
+
+TEST(PopupPlace, UnderTheLineAtTheWordsBeginning)
+{
+    const QRect word(300, 200, 40, 16);
+    EXPECT_EQ(popupPlace(word, size, screen), QRect(300, 218, 150, 200));
+}
+
+TEST(PopupPlace, OverTheLineWhereTheScreenEnds)
+{
+    EXPECT_EQ(popupPlace(QRect(300, 632, 40, 16), size, screen), QRect(300, 650, 150, 200));
+    EXPECT_EQ(popupPlace(QRect(300, 633, 40, 16), size, screen), QRect(300, 431, 150, 200));
+}
+
+TEST(PopupPlace, NotBeyondTheScreensSides)
+{
+    EXPECT_EQ(popupPlace(QRect(1080, 200, 40, 16), size, screen).left(), 950);
+    EXPECT_EQ(popupPlace(QRect(-20, 200, 40, 16), size, screen).left(), 100);
+    const QRect wide = popupPlace(QRect(300, 200, 40, 16), QSize(2000, 100), screen);
+    EXPECT_EQ(wide.left(), 100);
+    EXPECT_EQ(wide.width(), 1000);
+}
+
+TEST(PopupPlace, LowerOnTheSideThatHasMoreRoom)
+{
+    const QSize high(150, 700);
+    EXPECT_EQ(popupPlace(QRect(300, 200, 40, 16), high, screen), QRect(300, 218, 150, 632));
+    EXPECT_EQ(popupPlace(QRect(300, 700, 40, 16), high, screen), QRect(300, 50, 150, 648));
+}
+
+TEST(PopupPlace, NeverOutsideTheScreenAndNeverOverTheWord)
+{
+    std::mt19937 random(7);
+    const auto between = [&random](int least, int most) {
+        return std::uniform_int_distribution(least, most)(random);
+    };
+    for (int i = 0; i < 20'000; ++i) {
+        const QRect word(between(-200, 1300), between(-100, 1000), between(1, 200), between(8, 60));
+        const QSize wanted(between(20, 1500), between(20, 1200));
+        const QRect place = popupPlace(word, wanted, screen);
+        ASSERT_TRUE(place.isEmpty() || screen.contains(place));
+        ASSERT_FALSE(place.intersects(word));
+        ASSERT_GE(place.height(), std::min(wanted.height(), (screen.height() - 64) / 2));
+    }
+}
