@@ -3,6 +3,7 @@
 #include "base/EventGuard.h"
 #include "widgets/combo/ImageComboAccess.h"
 #include "widgets/combo/ImageComboParts.h"
+#include "widgets/input/FieldMenu.h"
 #include "widgets/input/RaisedDrags.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>
