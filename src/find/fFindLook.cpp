@@ -191,6 +191,7 @@ void fFind::InitStrings()
                                       "What box."_s));
     });
     showMode();
+    showResult();
 }
 
 void fFind::ReInitializeStrings()
