@@ -56,9 +56,8 @@ class ORVT_EXPORT ORVListView : public Component
     Q_PROPERTY(QString CodeTextRTF READ CodeTextRTF WRITE setCodeTextRTF NOTIFY codeTextRTFChanged
                    DESIGNABLE false STORED false)
 
-    // The widget's own "enabled" in a form means the same.
-    Q_PROPERTY(bool enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged
-                   DESIGNABLE false STORED false)
+    // The widget's own "enabled" in a form means the same, and comes after the type.
+    Q_PROPERTY(bool enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
 
 public:
     explicit ORVListView(QWidget *parent = nullptr);
@@ -67,8 +66,9 @@ public:
     const MemberTable &Members() const override;
 
     // The type shown; dsInput at first. Assigning it shows its face, an editor always
-    // enabled, and builds everything anew: the caption with the type's name, the columns, and
-    // numbered empty rows, whose number is the type's own and becomes NumberItems.
+    // enabled, and builds everything anew: the caption with the type's name, the
+    // columns, and numbered empty rows, whose number is the type's own and becomes
+    // NumberItems.
     // A value outside 0 to 12 is ignored. Assigning dsCode also takes SQRT out of
     // the editor's function words until IsSqrtSupported is set again.
     LwType ListviewType() const;
