@@ -1,5 +1,7 @@
 #include "Components.h"
 
+#include "OwnCaption.h"
+
 #include <ORVTListview/ORVDataCombo.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVRichText.h>
@@ -14,6 +16,14 @@ template <typename T>
 QWidget *create(QWidget *parent, bool)
 {
     return new T(parent);
+}
+
+QWidget *createList(QWidget *parent, bool isDesigning)
+{
+    auto *list = new ORVListView(parent);
+    if (isDesigning)
+        new OwnCaption(*list); // becomes the list's
+    return list;
 }
 
 QWidget *createTree(QWidget *parent, bool isDesigning)
@@ -39,7 +49,7 @@ ComponentDescription listView()
                          "type with its own columns, or for dsCode the code editor."_s,
             .size = QSize(480, 300),
             .properties = singleLine(u"Caption"_s),
-            .create = &create<ORVListView>};
+            .create = &createList};
 }
 
 ComponentDescription treeview()

@@ -109,7 +109,7 @@
     <message>
         <source>Commissioned</source>
         <extracomment>Whether the point was checked when the plant was put into service</extracomment>
-        <translation>In Betrieb</translation>
+        <translation>In Betrieb genommen</translation>
     </message>
     <message>
         <source>Hw Override Mode</source>
@@ -170,7 +170,7 @@
     <message>
         <source>Data</source>
         <extracomment>The point that a log records or a timer drives</extracomment>
-        <translation>Daten</translation>
+        <translation>Datenpunkt</translation>
     </message>
     <message>
         <source>Differential</source>
@@ -180,7 +180,7 @@
     <message>
         <source>Time</source>
         <extracomment>The interval at which a log records</extracomment>
-        <translation>Zeit</translation>
+        <translation>Intervall</translation>
     </message>
     <message>
         <source>Format</source>
@@ -215,7 +215,7 @@
     <message>
         <source>Max Starting Time</source>
         <extracomment>The longest time before occupancy at which the plant may start</extracomment>
-        <translation>Max. Anlaufzeit</translation>
+        <translation>Max. Aufheizzeit</translation>
     </message>
     <message>
         <source>Format Name</source>
@@ -368,7 +368,7 @@
     </message>
     <message>
         <source>Redo</source>
-        <translation>Wiederholen</translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>Cut</source>

@@ -109,7 +109,7 @@
     <message>
         <source>Commissioned</source>
         <extracomment>Whether the point was checked when the plant was put into service</extracomment>
-        <translation>En servicio</translation>
+        <translation>Puesto en servicio</translation>
     </message>
     <message>
         <source>Hw Override Mode</source>
@@ -156,7 +156,7 @@
     <message>
         <source>Bias</source>
         <extracomment>What is added to the output of a control loop</extracomment>
-        <translation>Sesgo</translation>
+        <translation>Desplazamiento</translation>
     </message>
     <message>
         <source>Action</source>
@@ -170,7 +170,7 @@
     <message>
         <source>Data</source>
         <extracomment>The point that a log records or a timer drives</extracomment>
-        <translation>Datos</translation>
+        <translation>Punto</translation>
     </message>
     <message>
         <source>Differential</source>
@@ -180,7 +180,7 @@
     <message>
         <source>Time</source>
         <extracomment>The interval at which a log records</extracomment>
-        <translation>Tiempo</translation>
+        <translation>Intervalo</translation>
     </message>
     <message>
         <source>Format</source>

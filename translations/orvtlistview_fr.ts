@@ -170,7 +170,7 @@
     <message>
         <source>Data</source>
         <extracomment>The point that a log records or a timer drives</extracomment>
-        <translation>Données</translation>
+        <translation>Point</translation>
     </message>
     <message>
         <source>Differential</source>
@@ -180,7 +180,7 @@
     <message>
         <source>Time</source>
         <extracomment>The interval at which a log records</extracomment>
-        <translation>Temps</translation>
+        <translation>Intervalle</translation>
     </message>
     <message>
         <source>Format</source>
@@ -402,7 +402,7 @@
     </message>
     <message>
         <source>The text is too large.</source>
-        <translation>Le texte est trop grand.</translation>
+        <translation>Le texte est trop long.</translation>
     </message>
     <message>
         <source>Code Text Setting</source>

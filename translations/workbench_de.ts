@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Time word</source>
-        <translation>Zeitwort</translation>
+        <translation>Zeitangabe</translation>
     </message>
     <message>
         <source>Function</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation>&amp;Alles markieren</translation>
+        <translation>Alle&amp;s auswählen</translation>
     </message>
     <message>
         <source>&amp;Known Words</source>
@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation>Auss&amp;chneiden</translation>
+        <translation>&amp;Ausschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -456,6 +456,18 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>&quot;%1&quot; stands there twice</source>
         <translation>„%1“ steht zweimal da</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds a blank or one of ( ) , \ { }, which no name in a program can</source>
+        <translation>„%1“ enthält ein Leerzeichen oder eines der Zeichen ( ) , \ { }, die kein Name in einem Programm haben kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a number</source>
+        <translation>„%1“ ist eine Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a word of the language</source>
+        <translation>„%1“ ist ein Wort der Sprache</translation>
     </message>
 </context>
 <context>

@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Time word</source>
-        <translation>Palabra de tiempo</translation>
+        <translation>Palabra de reloj</translation>
     </message>
     <message>
         <source>Function</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>&amp;Known Words</source>
-        <translation>Palabras &amp;conocidas</translation>
+        <translation>Pa&amp;labras conocidas</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation>Cor&amp;tar</translation>
+        <translation>&amp;Cortar</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -456,6 +456,18 @@ Overwrite those changes?</source>
     <message>
         <source>&quot;%1&quot; stands there twice</source>
         <translation>«%1» figura dos veces</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds a blank or one of ( ) , \ { }, which no name in a program can</source>
+        <translation>«%1» contiene un espacio o uno de ( ) , \ { }, lo que ningún nombre puede en un programa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a number</source>
+        <translation>«%1» es un número</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a word of the language</source>
+        <translation>«%1» es una palabra del lenguaje</translation>
     </message>
 </context>
 <context>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Variable</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Time word</source>
-        <translation>Mot de temps</translation>
+        <translation>Mot d’horloge</translation>
     </message>
     <message>
         <source>Function</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>The project file; the sample project without one.</source>
-        <translation>Le fichier du projet ; à défaut, le projet d’exemple.</translation>
+        <translation>Le fichier du projet&#xa0;; à défaut, le projet d’exemple.</translation>
     </message>
     <message>
         <source>Write a picture of the window and quit.</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>Speak this language: en, de, es or fr.</source>
-        <translation>Utiliser cette langue : en, de, es ou fr.</translation>
+        <translation>Utiliser cette langue&#xa0;: en, de, es ou fr.</translation>
     </message>
     <message>
         <source>The scale is a number from 0.5 to 4.</source>
@@ -108,7 +108,7 @@
     </message>
     <message>
         <source>Begin with this category, such as &quot;Inputs&quot;.</source>
-        <translation>Commencer par cette catégorie, p. ex. « Inputs ».</translation>
+        <translation>Commencer par cette catégorie, p. ex. «&#xa0;Inputs&#xa0;».</translation>
     </message>
     <message>
         <source>There is no category %1.</source>
@@ -169,11 +169,11 @@
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation>Co&amp;uper</translation>
+        <translation>&amp;Couper</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>&amp;Copier</translation>
+        <translation>C&amp;opier</translation>
     </message>
     <message>
         <source>Copy with C&amp;olours</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation>C&amp;oller</translation>
+        <translation>Co&amp;ller</translation>
     </message>
     <message>
         <source>Undo has taken no typed text away.</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>R&amp;eplace…</source>
-        <translation>Remp&amp;lacer…</translation>
+        <translation>Rem&amp;placer…</translation>
     </message>
 </context>
 <context>
@@ -251,7 +251,7 @@
     </message>
     <message>
         <source>%1, lines: %2</source>
-        <translation>%1, lignes : %2</translation>
+        <translation>%1, lignes&#xa0;: %2</translation>
     </message>
     <message>
         <source>P&amp;oints</source>
@@ -283,7 +283,7 @@
     </message>
     <message>
         <source>Rename %1 to %2 in the program, too?</source>
-        <translation>Renommer aussi %1 en %2 dans le programme ?</translation>
+        <translation>Renommer aussi %1 en %2 dans le programme&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Hardware Overrides</source>
@@ -314,7 +314,7 @@
     </message>
     <message>
         <source>Choose a point: its name goes into the program, or its row is shown</source>
-        <translation>Choisir un point : son nom va dans le programme, ou sa ligne est affichée</translation>
+        <translation>Choisir un point&#xa0;: son nom va dans le programme, ou sa ligne est affichée</translation>
     </message>
 </context>
 <context>
@@ -342,20 +342,20 @@
         <source>The program %1 has changes that are not saved.
 Save them?</source>
         <translation>Le programme %1 a des modifications non enregistrées.
-Les enregistrer ?</translation>
+Les enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>The file %1 has been changed elsewhere since it was opened.
 Overwrite those changes?</source>
         <translation>Le fichier %1 a été modifié ailleurs depuis son ouverture.
-Écraser ces modifications ?</translation>
+Écraser ces modifications&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>ProjectTexts</name>
     <message>
         <source>&quot;%1&quot; is no colour (&quot;#rrggbb&quot; or a system colour)</source>
-        <translation>« %1 » n’est pas une couleur (« #rrggbb » ou une couleur du système)</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une couleur («&#xa0;#rrggbb&#xa0;» ou une couleur du système)</translation>
     </message>
     <message>
         <source>a size from 1 to %1 points is expected</source>
@@ -411,7 +411,7 @@ Overwrite those changes?</source>
     </message>
     <message>
         <source>&quot;%1&quot; is the name of %2 too</source>
-        <translation>« %1 » est aussi le nom de %2</translation>
+        <translation>«&#xa0;%1&#xa0;» est aussi le nom de %2</translation>
     </message>
     <message>
         <source>has more than %1 names</source>
@@ -423,23 +423,23 @@ Overwrite those changes?</source>
     </message>
     <message>
         <source>%1: line %2 is not valid UTF-8</source>
-        <translation>%1 : la ligne %2 n’est pas de l’UTF-8 valide</translation>
+        <translation>%1&#xa0;: la ligne %2 n’est pas de l’UTF-8 valide</translation>
     </message>
     <message>
         <source>%1: line %2 holds half a character</source>
-        <translation>%1 : la ligne %2 contient un demi-caractère</translation>
+        <translation>%1&#xa0;: la ligne %2 contient un demi-caractère</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not the name of a point</source>
-        <translation>« %1 » n’est pas un nom de point</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nom de point</translation>
     </message>
     <message>
         <source>Another point has the name &quot;%1&quot;</source>
-        <translation>Un autre point s’appelle déjà « %1 »</translation>
+        <translation>Un autre point s’appelle déjà «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is no longer where it was</source>
-        <translation>%1 : « %2 » n’est plus à sa place</translation>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» n’est plus à sa place</translation>
     </message>
     <message>
         <source>is not a file</source>
@@ -456,6 +456,18 @@ Overwrite those changes?</source>
     <message>
         <source>&quot;%1&quot; stands there twice</source>
         <translation>«&#xa0;%1&#xa0;» y figure deux fois</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds a blank or one of ( ) , \ { }, which no name in a program can</source>
+        <translation>«&#xa0;%1&#xa0;» contient une espace ou l’un de ( ) , \ { }, ce qu’aucun nom ne peut dans un programme</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a number</source>
+        <translation>«&#xa0;%1&#xa0;» est un nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a word of the language</source>
+        <translation>«&#xa0;%1&#xa0;» est un mot du langage</translation>
     </message>
 </context>
 <context>

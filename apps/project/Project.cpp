@@ -2,6 +2,7 @@
 
 #include "base/TextRules.h"
 #include "project/JsonEdit.h"
+#include "project/PointNames.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
 
@@ -39,18 +40,35 @@ void Project::rename(LwType type, qsizetype row, const QString &name)
     if (column < 0 || row < 0 || row >= list.size() || !isPointName(name))
         throw Error(NameNotUsable, u"Project"_s,
                     ProjectTexts::tr("\"%1\" is not the name of a point").arg(name));
-    for (const ProjectRow &other : std::as_const(list)) {
-        if (&other != &list.at(row) && isSameWord(other.name, name))
-            throw Error(NameNotUsable, u"Project"_s,
-                        ProjectTexts::tr("Another point has the name \"%1\"").arg(name));
-    }
     if (list.at(row).name == name)
         return;
+    const QString fault = isVocabularyType(type) ? pointNameFault(name, m_indexedNames) : QString();
+    if (!fault.isEmpty())
+        throw Error(NameNotUsable, u"Project"_s, fault);
+    if (hasAnother(type, row, name))
+        throw Error(NameNotUsable, u"Project"_s,
+                    ProjectTexts::tr("Another point has the name \"%1\"").arg(name));
     noteNewName(type, row, list.at(row).name);
     list[row].name = name;
     list[row].cells[column] = name;
     if (isVocabularyType(type))
         fillPoints(type);
+}
+
+// The words of the program have one name each, whatever their type.
+bool Project::hasAnother(LwType type, qsizetype row, const QString &name) const
+{
+    const auto shares = [type](LwType other) {
+        return other == type || (isVocabularyType(type) && isVocabularyType(other));
+    };
+    for (const LwType other : projectTypes()) {
+        const QList<ProjectRow> &list = rows(other);
+        for (qsizetype i = 0; shares(other) && i < list.size(); ++i) {
+            if ((other != type || i != row) && isSameWord(list.at(i).name, name))
+                return true;
+        }
+    }
+    return false;
 }
 
 void Project::noteNewName(LwType type, qsizetype row, const QString &former)

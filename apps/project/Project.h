@@ -38,7 +38,8 @@ public:
 
     // Gives a point another name, here and in its collection; saveNames() takes it
     // into the file. Raises Error (NameNotUsable) and changes nothing when the type's points
-    // have no names, the name is not one, or another point of the type has it.
+    // have no names, the name is not one (pointNameFault), or another point has it: one of
+    // the type, for a word of the program one of any type whose points are such words.
     void rename(LwType type, qsizetype row, const QString &name);
 
     // Whether names wait for being saved.
@@ -69,6 +70,7 @@ private:
     };
 
     void fillPoints(LwType type);
+    bool hasAnother(LwType type, qsizetype row, const QString &name) const;
     void noteNewName(LwType type, qsizetype row, const QString &former);
     QByteArray withNewNames(const QByteArray &json) const;
 

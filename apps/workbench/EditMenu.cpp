@@ -1,6 +1,7 @@
 #include "EditMenu.h"
 
 #include "ColouredCopy.h"
+#include "widgets/box/BoxCommands.h"
 
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/RichTextBox.h>
@@ -106,7 +107,7 @@ void EditMenu::restoreTypedText()
 
 void EditMenu::cut()
 {
-    m_code.RTextCut();
+    m_code.RTextBox()->commands().cut(); // as the key, with a snapshot
 }
 
 void EditMenu::copy()
@@ -121,8 +122,8 @@ void EditMenu::copyColoured()
 
 void EditMenu::paste()
 {
-    QString text = QGuiApplication::clipboard()->text();
-    m_code.RTextPaste(text);
+    if (const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData())
+        m_code.RTextBox()->commands().paste(*clipboard);
 }
 
 void EditMenu::selectAll()

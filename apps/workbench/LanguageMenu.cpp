@@ -12,6 +12,8 @@ QString captionOf(const QLocale &language)
     if (language.language() == QLocale::English)
         return QStringLiteral("&English"); // and not "American English"
     QString name = language.nativeLanguageName();
+    if (name.contains(language.nativeTerritoryName()))
+        name = name.section(u' ', 0, 0); // "español de España"; there is one of each
     name[0] = name[0].toUpper();
     return u'&' + name;
 }

@@ -61,7 +61,7 @@ PointChooser::PointChooser(QWidget *parent)
     m_points->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     addWidget(m_points);
     connect(m_kinds, &QActionGroup::triggered, this, &PointChooser::refill);
-    connect(m_points, &ORVDataCombo::Click, this,
+    connect(m_points, &ORVDataCombo::picked, this,
             [this] { Q_EMIT chosen(kind(), m_points->Text()); });
     retranslate();
 }

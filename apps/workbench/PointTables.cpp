@@ -7,8 +7,11 @@
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ReportList.h>
 
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
+#include <QtWidgets/QLineEdit>
 
 #include <algorithm>
 #include <chrono>
@@ -166,7 +169,25 @@ void PointTables::takeName(qint16 &cancel, const QString &name)
         cancel = 0;
         Q_EMIT renamed(type, former, name);
     } catch (const Error &error) {
+        const QPointer<PointTables> self(this); // while the user reads the reason
         Q_EMIT refused(error.Description());
+        if (self)
+            QMetaObject::invokeMethod(
+                this, [this, type, name] { correctName(type, name); }, Qt::QueuedConnection);
+    }
+}
+
+// Edits the same name again, as it was typed.
+void PointTables::correctName(LwType type, const QString &typed)
+{
+    if (m_list.CurrentType() != type || pointOf(m_edited) < 0)
+        return;
+    m_list.setSelectedItem(m_edited);
+    m_list.listView()->setFocus();
+    m_list.StartLabelEdit();
+    if (auto *field = m_list.listView()->viewport()->findChild<QLineEdit *>()) {
+        field->setText(typed);
+        field->selectAll();
     }
 }
 

@@ -62,6 +62,7 @@ private:
     void finishReading();
     void allowEditing(qint16 &cancel);
     void takeName(qint16 &cancel, const QString &name);
+    void correctName(LwType type, const QString &typed);
     qsizetype pointOf(const ListItem *item) const;
 
     ORVListView &m_list;

@@ -2,9 +2,13 @@
 
 #include "PointTables.h"
 #include "project/Project.h"
+#include "widgets/box/BoxCommands.h"
 
 #include <ORVTListview/Node.h>
 #include <ORVTListview/Nodes.h>
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtCore/QMimeData>
 
 namespace ORVTListview {
 
@@ -67,8 +71,9 @@ void ProjectView::showType(LwType type)
 void ProjectView::takePoint(LwType type, const QString &name)
 {
     if (m_list->CurrentType() == dsCode) {
-        QString text = name;
-        m_list->RTextPaste(text);
+        QMimeData text;
+        text.setText(name);
+        m_list->RTextBox()->commands().paste(text); // with a snapshot, as Ctrl+V
     } else {
         showType(type);
         m_tables->goTo(name);

@@ -1,12 +1,12 @@
 #include <ORVTListview/ORVDataCombo.h>
 
-#include "base/EventGuard.h"
 #include "base/Failure.h"
 #include "base/ThreadState.h"
 #include "combo/PointEntries.h"
 #include "shared/texts/TextRoutine.h"
 #include "shared/texts/TextTable.h"
 #include "widgets/combo/ImageCombo.h"
+#include "widgets/component/ToldProperties.h"
 #include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Colours.h"
 #include "widgets/look/Pictures.h"
@@ -14,10 +14,10 @@
 #include <ORVTListview/ImageList.h>
 
 #include <QtCore/QEvent>
+#include <QtCore/QPointer>
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 namespace ORVTListview {
 
@@ -46,7 +46,7 @@ struct ORVDataCombo::Private
     ImageList images;
     ImageCombo *combo; // a child of the control
     qint32 formParentHandle = 0;
-    QString recordedText;
+    ToldProperties<ORVDataCombo> told;
 };
 
 ORVDataCombo::ORVDataCombo(QWidget *parent)
@@ -57,8 +57,7 @@ ORVDataCombo::ORVDataCombo(QWidget *parent)
     setSizePolicy(d->combo->sizePolicy());
     connect(d->combo, &ImageCombo::focusLeft, this, &ORVDataCombo::applyColour);
     connect(d->combo, &ImageCombo::Click, this, &ORVDataCombo::applyColour);
-    connect(d->combo, &ImageCombo::Click, this, &ORVDataCombo::recordText);
-    connect(d->combo, &ImageCombo::Change, this, &ORVDataCombo::recordText);
+    tellProperties();
     relayEvents();
 }
 
@@ -67,12 +66,27 @@ ORVDataCombo::~ORVDataCombo()
     delete d->combo; // before its pictures
 }
 
+void ORVDataCombo::tellProperties()
+{
+    d->told.add(*this, &ORVDataCombo::Text, &ORVDataCombo::textChanged);
+    d->told.add(*this, &ORVDataCombo::Enabled, &ORVDataCombo::enabledChanged);
+    d->told.add(*this, &ORVDataCombo::ListCount, &ORVDataCombo::listCountChanged);
+    d->told.add(*this, &ORVDataCombo::ListIndex, &ORVDataCombo::listIndexChanged);
+    d->told.add(*this, &ORVDataCombo::dragsEntry, &ORVDataCombo::dragsEntryChanged);
+    connect(d->combo, &ImageCombo::Click, this, &ORVDataCombo::tell);
+    connect(d->combo, &ImageCombo::Change, this, &ORVDataCombo::tell);
+    // The toolkit is at work on the field still.
+    connect(d->combo, &QComboBox::currentIndexChanged, this, &ORVDataCombo::tell,
+            Qt::QueuedConnection);
+}
+
 void ORVDataCombo::relayEvents()
 {
     const ImageCombo *combo = d->combo;
     connect(combo, &ImageCombo::Change, this, &ORVDataCombo::Change);
     connect(combo, &ImageCombo::Click, this, &ORVDataCombo::Click);
     connect(combo, &ImageCombo::DblClick, this, &ORVDataCombo::DblClick);
+    connect(combo, &ImageCombo::picked, this, &ORVDataCombo::picked);
     relayKeys(combo, this);
     relayDrags(combo, this);
 }
@@ -84,7 +98,7 @@ void ORVDataCombo::FillDataListview(LwType TypeIndex, PointCollection *, QString
     const QString failure = failureOf([&] { d->combo->setEntries(pointEntries(TypeIndex)); });
     if (!failure.isEmpty())
         ErrMsg = failure;
-    recordText();
+    tell();
 }
 
 void ORVDataCombo::SetListIndex(const QString &Data)
@@ -94,13 +108,12 @@ void ORVDataCombo::SetListIndex(const QString &Data)
         return;
     d->combo->setSelectedIndex(index);
     applyColour();
-    recordText();
+    tell();
 }
 
-void ORVDataCombo::recordText()
+void ORVDataCombo::tell()
 {
-    if (std::exchange(d->recordedText, Text()) != d->recordedText)
-        raiseEvent(*this, &ORVDataCombo::textChanged);
+    d->told.tell(*this);
 }
 
 void ORVDataCombo::applyColour()
@@ -143,10 +156,18 @@ bool ORVDataCombo::Enabled() const
     return !testAttribute(Qt::WA_ForceDisabled);
 }
 
+void ORVDataCombo::setEnabled(bool Enabled)
+{
+    const QPointer<ORVDataCombo> self(this);
+    QWidget::setEnabled(Enabled);
+    if (self)
+        tell();
+}
+
 void ORVDataCombo::Clear()
 {
     d->combo->setEntries({});
-    recordText();
+    tell();
 }
 
 void ORVDataCombo::ResetbackColor(qint32) {}
@@ -170,15 +191,24 @@ void ORVDataCombo::ReInitializeStrings()
 
 void ORVDataCombo::ReadProperties(const PropertyBag &Bag)
 {
-    const QVariant text = Bag.ReadProperty(u"Text"_s, QString());
-    setText(text.toString());
-    setEnabled(Bag.ReadProperty(u"Enabled"_s, true).toBool());
+    const auto read = [&Bag](const QString &name, const QVariant &other) {
+        return raisingErrors(u"ORVDataCombo.ReadProperties"_s,
+                             [&] { return Bag.ReadProperty(name, other); });
+    };
+    const QString text = read(u"Text"_s, QString()).toString();
+    const bool isEnabled = read(u"Enabled"_s, true).toBool();
+    const QPointer<ORVDataCombo> self(this); // the host hears of each
+    setText(text);
+    if (self)
+        setEnabled(isEnabled);
 }
 
 void ORVDataCombo::WriteProperties(PropertyBag &Bag) const
 {
-    Bag.WriteProperty(u"Text"_s, Text(), QString());
-    Bag.WriteProperty(u"Enabled"_s, Enabled(), true);
+    raisingErrors(u"ORVDataCombo.WriteProperties"_s, [&] {
+        Bag.WriteProperty(u"Text"_s, Text(), QString());
+        Bag.WriteProperty(u"Enabled"_s, Enabled(), true);
+    });
 }
 
 bool ORVDataCombo::dragsEntry() const
@@ -189,6 +219,7 @@ bool ORVDataCombo::dragsEntry() const
 void ORVDataCombo::setDragsEntry(bool on)
 {
     d->combo->setDragsEntry(on);
+    tell();
 }
 
 QSize ORVDataCombo::sizeHint() const
@@ -205,9 +236,10 @@ bool ORVDataCombo::event(QEvent *event)
 {
     if (event->type() == QEvent::AcceptDropsChange && d)
         d->combo->setAcceptDrops(acceptDrops());
-    else if (event->type() == QEvent::EnabledChange)
-        raiseEvent(*this, &ORVDataCombo::enabledChanged);
-    return QWidget::event(event);
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::EnabledChange && d)
+        tell();
+    return handled;
 }
 
 void ORVDataCombo::resizeEvent(QResizeEvent *)

@@ -7,8 +7,7 @@
 #include "editor/ProgramEditing.h"
 #include "editor/ProgramText.h"
 #include "editor/TypedColouring.h"
-#include "shared/texts/AccessKeys.h"
-#include "shared/texts/TextTable.h"
+#include "shared/texts/MenuTexts.h"
 #include "widgets/input/TabStops.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -29,8 +28,8 @@ void localise(QMenu &menu)
     const QList<QAction *> actions = menu.actions();
     QStringList captions;
     for (const QAction *action : actions)
-        captions << Localise(action->text().remove(u'&'));
-    captions = withAccessKeys(captions);
+        captions << action->text();
+    captions = menuTexts(captions);
     for (qsizetype i = 0; i < actions.size(); ++i)
         actions[i]->setText(captions[i]);
 }

@@ -16,7 +16,7 @@ ProgramPlaces::ProgramPlaces(RichTextBox &box, const EditorThread &thread)
 
 QString ProgramPlaces::GetPositionDisplay() const
 {
-    return positionDisplay(m_box);
+    return positionDisplay(caretPosition(m_box));
 }
 
 QString ProgramPlaces::GetWholeWord(qint32 StartIndex, qint32 &WordStartIndex, qint32 &Color) const

@@ -73,7 +73,7 @@ void fFind::Open(RichTextBox &Target, bool IsReplace)
     m_search.begin(Target);
     for (QCheckBox *option : m_Chk)
         option->setChecked(false);
-    m_StatusBar1->clearMessage();
+    m_result = {};
     InitStrings();
     setMode(IsReplace ? Mode::Replace : Mode::Find);
     auto &histories = threadPart<SearchHistories>();
@@ -160,10 +160,12 @@ void fFind::findNext()
     if (searched().isEmpty() || !m_search.box())
         return;
     if (m_search.findNext(searched())) {
-        tell(Localise(u"Found in"_s) + u' ' + positionDisplay(*m_search.box()));
+        tell([place = caretPosition(*m_search.box())] {
+            return Localise(u"Found in"_s) + u' ' + positionDisplay(place);
+        });
         stayClear();
     } else {
-        tell(Localise(u"Not found!"_s));
+        tell([] { return Localise(u"Not found!"_s); });
     }
     remember(*m_Cbo[0], threadPart<SearchHistories>().searched);
 }
@@ -195,21 +197,27 @@ void fFind::replaceAll()
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);
     const qsizetype count = m_search.replaceAll(searched(), m_Cbo[1]->currentText());
-    tell(QString::number(count) + u' ' + Localise(u"replace(s)!"_s));
+    tell([count] { return QString::number(count) + u' ' + Localise(u"replace(s)!"_s); });
     stayClear();
 }
 
 // A screen reader is told of the same result again, too.
-void fFind::tell(const QString &result)
+void fFind::tell(const Result &result)
 {
-    const bool isRepeated = m_StatusBar1->currentMessage() == result;
-    m_StatusBar1->showMessage(result);
+    m_result = result;
+    const bool isRepeated = m_StatusBar1->currentMessage() == m_result();
+    showResult();
     if (isRepeated) {
         QAccessibleEvent named(m_StatusBar1, QAccessible::NameChanged);
         QAccessible::updateAccessibility(&named);
     }
     QAccessibleEvent alert(m_StatusBar1, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void fFind::showResult()
+{
+    m_StatusBar1->showMessage(m_result ? m_result() : QString());
 }
 
 // Shows the text, which becomes an entry if it is none yet.

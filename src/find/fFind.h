@@ -7,6 +7,7 @@
 #include <QtWidgets/QDialog>
 
 #include <array>
+#include <functional>
 
 class QCheckBox;
 class QComboBox;
@@ -57,6 +58,7 @@ protected:
 private:
     enum class Mode { None, Find, Replace };
     using Action = void (fFind::*)();
+    using Result = std::function<QString()>; // in the language in force
 
     void makeControls();
     void layOut();
@@ -75,7 +77,8 @@ private:
     void findNext();
     void replace();
     void replaceAll();
-    void tell(const QString &result);
+    void tell(const Result &result);
+    void showResult();
     void fill(QComboBox &combo, SearchHistory &history, const QString &text);
     void remember(QComboBox &combo, SearchHistory &history);
     QString searched() const;
@@ -85,6 +88,7 @@ private:
     BoxSearch m_search;
     Mode m_mode = Mode::None;
     bool m_isPlaced = false; // since it was last shown
+    Result m_result;         // what the status bar shows; empty for nothing
 
     std::array<QLabel *, 2> m_lbl{};
     std::array<QComboBox *, 2> m_Cbo{};

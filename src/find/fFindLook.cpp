@@ -6,6 +6,7 @@
 #include "shared/texts/AccessKeys.h"
 #include "shared/texts/TextRoutine.h"
 #include "shared/texts/TextTable.h"
+#include "widgets/input/FieldMenu.h"
 #include "widgets/look/Twips.h"
 
 #include <QtCore/QEvent>
@@ -55,6 +56,7 @@ void make(std::array<Widget *, count> &widgets, const QString &name, QWidget *pa
 void makeField(QComboBox &combo)
 {
     combo.setEditable(true);
+    FieldMenu::installOn(*combo.lineEdit());
     combo.setInsertPolicy(QComboBox::NoInsert);
     combo.setCompleter(nullptr);
     combo.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -189,6 +191,7 @@ void fFind::InitStrings()
                                       "What box."_s));
     });
     showMode();
+    showResult();
 }
 
 void fFind::ReInitializeStrings()

@@ -45,7 +45,8 @@ void ListViewFaces::switchTo(LwType type)
     QWidget &face = showsCode ? static_cast<QWidget &>(box) : *list;
     control.setFocusProxy(&face);
     layOut();
-    face.setEnabled(true);
+    if (showsCode)
+        face.setEnabled(true); // whatever Enabled says
     face.show();
     if (hadFocus)
         face.setFocus();

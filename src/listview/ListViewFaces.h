@@ -2,11 +2,16 @@
 
 #include "editor/CodeEditor.h"
 #include "pointtable/PointTable.h"
+#include "widgets/component/ToldProperties.h"
 #include <ORVTListview/ImageList.h>
 #include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>
 
+#include <optional>
+
 namespace ORVTListview {
+
+class ORVListView;
 
 // The control's two faces and the list that it lends to either.
 struct ListViewFaces
@@ -28,6 +33,12 @@ struct ListViewFaces
     PointTable *table;
     CodeEditor *editor;
     bool isEnabled = true;
+    ToldProperties<ORVListView> told;
+
+    // The program as it was told last; none while nobody listens.
+    std::optional<QString> toldCode;
+    std::optional<QString> toldRtf;
+    bool isCodeToBeTold = false;
 };
 
 } // namespace ORVTListview

@@ -1,6 +1,5 @@
 #include <ORVTListview/ORVListView.h>
 
-#include "base/EventGuard.h"
 #include "base/ThreadState.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "find/FindDialog.h"
@@ -26,6 +25,7 @@ ORVListView::ORVListView(QWidget *parent)
     d->table->setNumberItems(defaultNumberItems(dsInput));
     d->switchTo(dsInput);
     d->table->setCaption(QString());
+    connectProperties();
 }
 
 ORVListView::~ORVListView()
@@ -33,6 +33,7 @@ ORVListView::~ORVListView()
     // The parts outlive this object by a little, and a drag that runs then ends.
     d->list->disconnect(this);
     d->table->disconnect(this);
+    d->editor->box().disconnect(this);
 }
 
 LwType ORVListView::ListviewType() const
@@ -48,8 +49,7 @@ void ORVListView::setListviewType(LwType type)
     if (type == dsCode)
         threadPart<Vocabulary>().resetFunctionWords();
     d->switchTo(type);
-    if (raiseEvent(*this, &ORVListView::captionChanged))
-        raiseEvent(*this, &ORVListView::listviewTypeChanged);
+    d->told.tell(*this);
 }
 
 LwType ORVListView::CurrentType() const
@@ -70,7 +70,7 @@ QString ORVListView::Caption() const
 void ORVListView::setCaption(const QString &Text)
 {
     d->table->setCaption(Text);
-    raiseEvent(*this, &ORVListView::captionChanged);
+    d->told.tell(*this);
 }
 
 bool ORVListView::Enabled() const
@@ -84,7 +84,7 @@ void ORVListView::setEnabled(bool Enabled)
     d->table->setEnabled(Enabled);
     d->list->setEnabled(Enabled);
     d->editor->box().setEnabled(Enabled);
-    raiseEvent(*this, &ORVListView::enabledChanged);
+    d->told.tell(*this);
 }
 
 bool ORVListView::MultiSelect() const
@@ -95,7 +95,6 @@ bool ORVListView::MultiSelect() const
 void ORVListView::setMultiSelect(bool MultiSelect)
 {
     d->list->setMultiSelect(MultiSelect);
-    raiseEvent(*this, &ORVListView::multiSelectChanged);
 }
 
 void ORVListView::InitStrings()
@@ -109,7 +108,7 @@ void ORVListView::ReInitializeStrings()
     InitStrings();
     d->table->translateHeaders();
     FindDialog::initStrings();
-    raiseEvent(*this, &ORVListView::captionChanged);
+    d->told.tell(*this);
 }
 
 QSize ORVListView::sizeHint() const

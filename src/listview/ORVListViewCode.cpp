@@ -208,6 +208,7 @@ QString ORVListView::indentUnit() const
 void ORVListView::setIndentUnit(const QString &unit)
 {
     d->editor->editing().lines().setIndentUnit(unit);
+    d->told.tell(*this);
 }
 
 } // namespace ORVTListview

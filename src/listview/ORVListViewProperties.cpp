@@ -2,6 +2,7 @@
 
 #include <ORVTListview/ORVListView.h>
 
+#include "base/Failure.h"
 #include "listview/ListViewFaces.h"
 #include "shared/points/DisplayNames.h"
 
@@ -29,10 +30,14 @@ LwType storedType(const QVariant &value)
 
 void ORVListView::ReadProperties(const PropertyBag &Bag)
 {
-    const QString caption = Bag.ReadProperty(u"Caption"_s, QString()).toString();
-    const bool isEnabled = Bag.ReadProperty(u"Enabled"_s, true).toBool();
-    const LwType type = storedType(Bag.ReadProperty(u"ListviewType"_s, qint32{defaultType}));
-    const bool isMultiple = Bag.ReadProperty(u"MultiSelect"_s, false).toBool();
+    const auto read = [&Bag](const QString &name, const QVariant &other) {
+        return raisingErrors(u"ORVListView.ReadProperties"_s,
+                             [&] { return Bag.ReadProperty(name, other); });
+    };
+    const QString caption = read(u"Caption"_s, QString()).toString();
+    const bool isEnabled = read(u"Enabled"_s, true).toBool();
+    const LwType type = storedType(read(u"ListviewType"_s, qint32{defaultType}));
+    const bool isMultiple = read(u"MultiSelect"_s, false).toBool();
     const QPointer<ORVListView> self(this); // the host hears of each
     setCaption(caption);
     if (self)
@@ -45,10 +50,12 @@ void ORVListView::ReadProperties(const PropertyBag &Bag)
 
 void ORVListView::WriteProperties(PropertyBag &Bag) const
 {
-    Bag.WriteProperty(u"Caption"_s, Caption(), QString());
-    Bag.WriteProperty(u"Enabled"_s, Enabled(), true);
-    Bag.WriteProperty(u"ListviewType"_s, qint32{ListviewType()}, qint32{defaultType});
-    Bag.WriteProperty(u"MultiSelect"_s, MultiSelect(), false);
+    raisingErrors(u"ORVListView.WriteProperties"_s, [&] {
+        Bag.WriteProperty(u"Caption"_s, Caption(), QString());
+        Bag.WriteProperty(u"Enabled"_s, Enabled(), true);
+        Bag.WriteProperty(u"ListviewType"_s, qint32{ListviewType()}, qint32{defaultType});
+        Bag.WriteProperty(u"MultiSelect"_s, MultiSelect(), false);
+    });
 }
 
 } // namespace ORVTListview

@@ -2,7 +2,6 @@
 
 #include <ORVTListview/ORVListView.h>
 
-#include "base/EventGuard.h"
 #include "listview/ListViewFaces.h"
 #include <ORVTListview/ListItems.h>
 
@@ -17,7 +16,7 @@ void ORVListView::setNumberItems(qint16 Count)
 {
     d->table->setNumberItems(Count);
     d->switchTo(d->table->type());
-    raiseEvent(*this, &ORVListView::captionChanged);
+    d->told.tell(*this);
 }
 
 bool ORVListView::IsHOASupported() const
@@ -28,6 +27,7 @@ bool ORVListView::IsHOASupported() const
 void ORVListView::setIsHOASupported(bool Supported)
 {
     d->table->setHOASupported(Supported);
+    d->told.tell(*this);
 }
 
 void ORVListView::setIsWait(bool Wait)

@@ -177,17 +177,27 @@ void PointTable::setEnabled(bool enabled)
     m_write->setEnabled(enabled);
 }
 
+// What the provider does not state, or states no more, is as around the caption. A
+// font that the host has given it stays while the provider has none.
+void PointTable::showFont(const DisplayFontSettings &settings)
+{
+    const bool isNone = settings.FontName.isEmpty();
+    if (isNone && !m_hasOwnFont)
+        return;
+    m_hasOwnFont = !isNone;
+    QFont font;
+    if (!isNone) {
+        font.setFamily(settings.FontName);
+        if (settings.FontSize > 0)
+            font.setPointSize(settings.FontSize);
+    }
+    m_caption->setFont(font);
+}
+
 void PointTable::InitStrings()
 {
     runTextRoutine(TextRoutine::listView, [this] {
-        const DisplayFontSettings settings = threadPart<TextTable>().displayFont();
-        if (!settings.FontName.isEmpty()) {
-            QFont font = m_caption->font();
-            font.setFamily(settings.FontName);
-            if (settings.FontSize > 0)
-                font.setPointSize(settings.FontSize);
-            m_caption->setFont(font);
-        }
+        showFont(threadPart<TextTable>().displayFont());
         const QString text = Localise(u"Click here to read data values"_s);
         m_read->setToolTip(text);
         m_read->setAccessibleName(text);

@@ -15,6 +15,7 @@ class ImageList;
 class PictureBox;
 class PictureButton;
 class ReportList;
+struct DisplayFontSettings;
 struct TableLayout;
 
 // The face that shows a controller's points: a caption line with the read button
@@ -84,6 +85,7 @@ private:
     TableLayout layout() const;
     void createColumns();
     void createRows(int count);
+    void showFont(const DisplayFontSettings &settings);
     void showStatusText();
 
     QWidget &m_host;
@@ -97,6 +99,7 @@ private:
     bool m_isHOASupported = false;
     bool m_isWaiting = false;
     bool m_isBusy = false;
+    bool m_hasOwnFont = false; // the provider's
 };
 
 } // namespace ORVTListview

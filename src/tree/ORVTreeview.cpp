@@ -12,6 +12,7 @@
 #include "tree/rules/PageArrangement.h"
 #include "tree/rules/PointCounts.h"
 #include "tree/rules/TypeCollections.h"
+#include "widgets/component/ToldProperties.h"
 #include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Pictures.h"
 #include "widgets/nodes/NodeTree.h"
@@ -49,6 +50,7 @@ struct ORVTreeview::Private
     CategoryMoves moves;
     QList<Pages> pages; // as loaded
     bool designs = false;
+    ToldProperties<ORVTreeview> told;
 };
 
 ORVTreeview::ORVTreeview(QWidget *parent)
@@ -59,6 +61,7 @@ ORVTreeview::ORVTreeview(QWidget *parent)
     forwardEvents();
     d->pages = PageArrangement::load();
     d->nodes.build(d->pages);
+    tellSelection();
 }
 
 ORVTreeview::~ORVTreeview()
@@ -90,8 +93,23 @@ void ORVTreeview::forwardEvents()
     relayKeys(tree, this);
     relayMouse(tree, this);
     connect(tree, &NodeTree::NodeCheck, this, &ORVTreeview::NodeCheck);
+    connect(tree, &NodeTree::NodeClick, this, [this] { d->told.tell(*this); });
     connect(tree, &NodeTree::NodeClick, this, &ORVTreeview::NodeClick);
     relayDrags(tree, this);
+}
+
+void ORVTreeview::tellSelection()
+{
+    d->told.add(*this, &ORVTreeview::SelectedItem, &ORVTreeview::selectedItemChanged);
+    const auto tell = [this] { d->told.tell(*this); };
+    const auto tellSoon = [this, tell] {
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    };
+    // The toolkit is at work on the nodes still.
+    const QAbstractItemModel *model = d->tree->model();
+    connect(d->tree->selectionModel(), &QItemSelectionModel::selectionChanged, this, tellSoon);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, tellSoon);
+    connect(model, &QAbstractItemModel::modelReset, this, tellSoon);
 }
 
 QSize ORVTreeview::sizeHint() const
@@ -132,6 +150,7 @@ Node *ORVTreeview::SelectedItem() const
 void ORVTreeview::setSelectedItem(Node *Item)
 {
     d->tree->setSelectedItem(Item);
+    d->told.tell(*this);
 }
 
 Node *ORVTreeview::HitTest(float X, float Y) const

@@ -297,13 +297,13 @@ TEST(Project, RenamesAPointHereAndInItsFile)
     EXPECT_EQ(inputs->Item(2)->Data, 7);
     EXPECT_EQ(project.rows(dsInput).at(1).cells.at(0), QVariant(u"Größe"_s));
     EXPECT_TRUE(project.hasNewNames());
-    project.rename(dsInput, 1, u"Second"_s);
+    project.rename(dsInput, 1, u"Another"_s);
 
     const QByteArray before = readFile(project.fileName());
     project.saveNames();
     EXPECT_FALSE(project.hasNewNames());
-    EXPECT_EQ(readFile(project.fileName()), QByteArray(before).replace("\"I2\"", "\"Second\""));
-    EXPECT_EQ(Project(project.fileName()).rows(dsInput).at(1).name, u"Second"_s);
+    EXPECT_EQ(readFile(project.fileName()), QByteArray(before).replace("\"I2\"", "\"Another\""));
+    EXPECT_EQ(Project(project.fileName()).rows(dsInput).at(1).name, u"Another"_s);
 }
 
 TEST(Project, SavesNamesBehindAByteOrderMark)
@@ -337,12 +337,19 @@ TEST(Project, RefusesNamesThatCannotBeUsed)
 {
     const ProjectFolder folder;
     Project project(writeProject(folder, R"("inputs": [{"name": "I1"}, {"name": "I2"}],
+                                            "outputs": [{"name": "O1"}],
+                                            "networkOutputs": [{"name": "N1"}, {"name": "N2"}],
+                                            "indexedNames": [{"name": "Tmp", "lower": 1, "upper": 3}],
                                             "timers": [{"data": "x"}])"));
     const auto numberOf = [&](LwType type, qsizetype row, const QString &name) {
         const auto error = raisedBy([&] { project.rename(type, row, name); });
         return error ? error->Number() : 0;
     };
     for (const QString &name : {QString(), u" "_s, u" a"_s, u"a "_s, u"a\tb"_s, u"i2"_s})
+        EXPECT_EQ(numberOf(dsInput, 0, name), qint32{NameNotUsable}) << name.toStdString();
+    for (const QString &name : {u"IF"_s, u"and"_s, u"hour"_s, u"Average"_s, u"sqrt"_s, u"REM"_s,
+                                u"="_s, u"12"_s, u"-1.5"_s, u"Return Temp"_s, u"Return\u00a0Temp"_s,
+                                u"a(b"_s, u"a,b"_s, u"a\\b"_s, u"{a"_s, u"o1"_s, u"tmp2"_s})
         EXPECT_EQ(numberOf(dsInput, 0, name), qint32{NameNotUsable}) << name.toStdString();
     EXPECT_EQ(numberOf(dsInput, 2, u"x"_s), qint32{NameNotUsable});
     EXPECT_EQ(numberOf(dsTimer, 0, u"x"_s), qint32{NameNotUsable});
@@ -351,6 +358,12 @@ TEST(Project, RefusesNamesThatCannotBeUsed)
     EXPECT_EQ(numberOf(dsInput, 0, u"Maß"_s), 0);
     EXPECT_EQ(numberOf(dsInput, 1, u"MASS"_s), qint32{NameNotUsable});
     EXPECT_EQ(project.points(dsInput)->Count(), 2);
+    EXPECT_EQ(numberOf(dsInput, 0, u"Tmp4"_s), 0); // of no family
+    EXPECT_EQ(numberOf(dsInput, 0, u"AHU-1_x=1"_s), 0);
+    // What is no word of the program has names of its own.
+    EXPECT_EQ(numberOf(dsNvo, 0, u"Return Temp"_s), 0);
+    EXPECT_EQ(numberOf(dsNvo, 0, u"o1"_s), 0);
+    EXPECT_EQ(numberOf(dsNvo, 1, u"O1"_s), qint32{NameNotUsable});
 }
 
 TEST(Project, DoesNotWriteNamesIntoAFileThatIsAnotherOne)

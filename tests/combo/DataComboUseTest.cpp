@@ -5,6 +5,7 @@
 #include "support/WidgetTest.h"
 
 #include <QtCore/QMetaMethod>
+#include <QtGui/QWheelEvent>
 #include <QtWidgets/QListView>
 
 using namespace ORVTListview;
@@ -26,6 +27,10 @@ public:
                 [this, state] { m_log.append(u"Change "_s + state()); });
         connect(combo, &ORVDataCombo::Click, this,
                 [this, state] { m_log.append(u"Click "_s + state()); });
+        connect(combo, &ORVDataCombo::picked, this, [this, combo] {
+            m_log.append(u"picked"_s);
+            m_picked.append(combo->Text());
+        });
         connect(combo, &ORVDataCombo::DblClick, this, [this] { m_log.append(u"DblClick"_s); });
         connect(combo, &ORVDataCombo::KeyDown, this, [this](qint16 &code, qint16 &shift) {
             m_log.append(u"KeyDown %1 %2"_s.arg(code).arg(shift));
@@ -39,8 +44,12 @@ public:
 
     QString take() { return std::exchange(m_log, {}).join(u", "_s); }
 
+    // The points that were decided for.
+    QString picked() { return std::exchange(m_picked, {}).join(u", "_s); }
+
 private:
     QStringList m_log;
+    QStringList m_picked;
 };
 
 } // namespace
@@ -59,6 +68,12 @@ private Q_SLOTS:
     void showsSystemColoursOfTheTheme();
     void takesALaterColourWhenTheFocusLeaves();
     void choosesByMouse();
+    void tellsALookFromAChoice();
+    void aNameThatIsConfirmedIsPicked();
+    void whatIsChosenInTheListIsPicked();
+    void whatOnlyLeavesIsNotPicked();
+    void aKeyThatTheHostSwallowsPicksNothing();
+    void whatTheHostTookAwayAtTheClickIsNotPicked();
     void tellsADoubleClick();
     void honoursWhatTheHostDoesToKeys();
     void theHostMayFillItInAnEvent();
@@ -75,7 +90,8 @@ void DataComboUseTest::hasItsEventsInOrder()
     QByteArrayList names;
     for (int i = control.methodOffset(); i < control.methodCount(); ++i) {
         const QByteArray name = control.method(i).name();
-        if (control.method(i).methodType() == QMetaMethod::Signal && !name.endsWith("Changed"))
+        const bool isEvent = QChar::isUpper(static_cast<uint>(name.front()));
+        if (control.method(i).methodType() == QMetaMethod::Signal && isEvent)
             names.append(name);
     }
     QCOMPARE(names, QByteArrayList({"Change", "Click", "DblClick", "KeyDown", "KeyPress", "KeyUp",
@@ -99,7 +115,8 @@ void DataComboUseTest::findsAPointAmongThirtyThousandByKeyboard()
                            "KeyDown 80 0, KeyPress 112, Change -1 \"mp\", KeyUp 80 0, "
                            "KeyDown 49 0, KeyPress 49, Change -1 \"mp1\", KeyUp 49 0"_s);
     host.key(Qt::Key_Return);
-    QCOMPARE(heard.take(), u"KeyDown 13 0, KeyPress 13, Click 23455 \"Temp1\", KeyUp 13 0"_s);
+    QCOMPARE(heard.take(),
+             u"KeyDown 13 0, KeyPress 13, Click 23455 \"Temp1\", picked, KeyUp 13 0"_s);
     QCOMPARE(host.combo->ListIndex(), qint16{23'455});
     QCOMPARE(host.combo->ItemData(host.combo->ListIndex()), 23'456);
     QCOMPARE(host.colour(), QColor(128, 0, 255));
@@ -201,8 +218,117 @@ void DataComboUseTest::choosesByMouse()
     const QListView &list = *host.inner().listView();
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
                       list.visualRect(list.model()->index(1, 0)).center());
-    QCOMPARE(heard.take(), u"Click 1 \"Var2\""_s);
+    QCOMPARE(heard.take(), u"Click 1 \"Var2\", picked"_s);
     QCOMPARE(host.colour(), QColor(0, 0, 255));
+}
+
+void DataComboUseTest::tellsALookFromAChoice()
+{
+    DataComboHost host;
+    host.fill(dsInput);
+    host.showFocused();
+    Heard heard(host.combo);
+    host.key(Qt::Key_Down);
+    host.key(Qt::Key_Down);
+    QVERIFY2(heard.take().contains(u"Click 1"_s), "the key chooses");
+    QCOMPARE(heard.picked(), QString());
+    QWheelEvent notch(QPointF(5, 5), host.combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120},
+                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&host.field(), &notch);
+    QVERIFY(!notch.isAccepted()); // left to what scrolls the form
+    QCOMPARE(heard.take(), QString());
+    host.key(Qt::Key_Return);
+    QVERIFY(!heard.take().contains(u"Click"_s));
+    QCOMPARE(heard.picked(), u"Temp2"_s);
+    host.key(Qt::Key_Enter); // the same once more
+    QCOMPARE(heard.picked(), u"Temp2"_s);
+}
+
+void DataComboUseTest::aNameThatIsConfirmedIsPicked()
+{
+    DataComboHost host;
+    host.fill(dsInput);
+    host.showFocused();
+    Heard heard(host.combo);
+    host.type(u"mp2"_s); // with the list
+    host.key(Qt::Key_Return);
+    QVERIFY(heard.take().endsWith(u"Click 1 \"Temp2\", picked, KeyUp 13 0"_s));
+    QCOMPARE(heard.picked(), u"Temp2"_s);
+    host.type(u"humidity"_s);
+    host.inner().hidePopup();
+    host.key(Qt::Key_Return);
+    QCOMPARE(heard.picked(), u"Humidity"_s);
+    host.type(u"nobody"_s);
+    host.key(Qt::Key_Return);
+    QCOMPARE(heard.picked(), QString());
+}
+
+void DataComboUseTest::whatIsChosenInTheListIsPicked()
+{
+    DataComboHost host;
+    host.fill(dsInput);
+    host.showFocused();
+    Heard heard(host.combo);
+    const QListView &list = *host.inner().listView();
+    for (int time = 0; time < 2; ++time) {
+        host.inner().showPopup();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                          list.visualRect(list.model()->index(1, 0)).center());
+        QCOMPARE(heard.take(), u"Click 1 \"Temp2\", picked"_s);
+        QCOMPARE(heard.picked(), u"Temp2"_s);
+    }
+    host.inner().showPopup();
+    host.key(Qt::Key_Down);
+    host.key(Qt::Key_Return);
+    QCOMPARE(heard.picked(), u"Humidity"_s);
+    host.inner().showPopup();
+    host.key(Qt::Key_Up);
+    host.key(Qt::Key_Escape);
+    QCOMPARE(heard.picked(), QString());
+}
+
+void DataComboUseTest::whatOnlyLeavesIsNotPicked()
+{
+    DataComboHost host;
+    host.fill(dsInput);
+    host.showFocused();
+    Heard heard(host.combo);
+    host.type(u"temp2"_s);
+    host.key(Qt::Key_Tab);
+    QVERIFY(heard.take().contains(u"Click 1"_s));
+    host.combo->setFocus(Qt::TabFocusReason);
+    host.type(u"humidity"_s);
+    host.inner().hidePopup();
+    host.after->setFocus();
+    QCoreApplication::processEvents();
+    QVERIFY(heard.take().contains(u"Click 2"_s));
+    host.combo->SetListIndex(u"Temp1"_s);
+    QCOMPARE(heard.picked(), QString());
+}
+
+void DataComboUseTest::aKeyThatTheHostSwallowsPicksNothing()
+{
+    DataComboHost host;
+    host.fill(dsInput);
+    host.combo->SetListIndex(u"Temp1"_s);
+    host.showFocused();
+    Heard heard(host.combo);
+    connect(host.combo, &ORVDataCombo::KeyDown, this, [](qint16 &code, qint16 &) { code = 0; });
+    host.key(Qt::Key_Return);
+    QCOMPARE(heard.picked(), QString());
+}
+
+void DataComboUseTest::whatTheHostTookAwayAtTheClickIsNotPicked()
+{
+    DataComboHost host;
+    host.fill(dsInput);
+    host.showFocused();
+    Heard heard(host.combo);
+    connect(host.combo, &ORVDataCombo::Click, this, [&] { host.combo->Clear(); });
+    host.type(u"temp2"_s);
+    host.key(Qt::Key_Return);
+    QVERIFY(heard.take().contains(u"Click"_s));
+    QCOMPARE(heard.picked(), QString());
 }
 
 void DataComboUseTest::tellsADoubleClick()
@@ -253,8 +379,8 @@ void DataComboUseTest::bearsItsEndInEveryEvent_data()
 {
     QTest::addColumn<QString>("event");
     for (const QString &event :
-         {u"Change"_s, u"Change by the host"_s, u"Click"_s, u"Click at exit"_s, u"DblClick"_s,
-          u"KeyDown"_s, u"KeyPress"_s, u"KeyUp"_s})
+         {u"Change"_s, u"Change by the host"_s, u"Click"_s, u"Click at exit"_s, u"picked"_s,
+          u"DblClick"_s, u"KeyDown"_s, u"KeyPress"_s, u"KeyUp"_s})
         QTest::addRow("%s", qPrintable(event)) << event;
 }
 
@@ -269,6 +395,8 @@ void DataComboUseTest::bearsItsEndInEveryEvent()
         connect(host.combo, &ORVDataCombo::Change, this, end);
     else if (event.startsWith(u"Click"_s))
         connect(host.combo, &ORVDataCombo::Click, this, end);
+    else if (event == u"picked"_s)
+        connect(host.combo, &ORVDataCombo::picked, this, end);
     else if (event == u"DblClick"_s)
         connect(host.combo, &ORVDataCombo::DblClick, this, end);
     else if (event == u"KeyDown"_s)

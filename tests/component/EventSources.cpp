@@ -394,14 +394,6 @@ void takeByMouse(Scene &scene)
     scene.user.click(*list.viewport(), list.visualRect(list.model()->index(1, 0)).center());
 }
 
-void turnWheel(Scene &scene)
-{
-    const QPointF place = scene.combo->rect().center();
-    QWheelEvent event(place, scene.combo->mapToGlobal(place), {}, {0, -120}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(scene.combo, &event);
-}
-
 void typeName(Scene &scene)
 {
     scene.combo->lineEdit()->selectAll();
@@ -435,9 +427,10 @@ Sources comboSources()
                    {"Click", "Down", keyInCombo<Qt::Key_Down>},
                    {"Click", "Return in the list", takeByKey},
                    {"Click", "the left button in the list", takeByMouse},
-                   {"Click", "the wheel", turnWheel},
                    {"Click", "Tab", takeByTab},
                    {"Click", "the focus that goes", takeByLeaving},
+                   {"picked", "Return in the list", takeByKey},
+                   {"picked", "the left button in the list", takeByMouse},
                    {"DblClick", "the left button",
                     [](Scene &scene) {
                         QLineEdit &field = *scene.combo->lineEdit();

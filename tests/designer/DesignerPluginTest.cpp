@@ -1,21 +1,26 @@
 #include "support/TestFolder.h"
 #include "support/WidgetTest.h"
+#include "ui_DisabledForm.h"
 #include <ORVTListview/ORVDataCombo.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVRichText.h>
 #include <ORVTListview/ORVTreeview.h>
+#include <ORVTListview/ReportList.h>
 #include <ORVTListview/SettingsStore.h>
 
 #include <QtCore/QBuffer>
+#include <QtCore/QFile>
 #include <QtCore/QPluginLoader>
 #include <QtDesigner/QDesignerComponents>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>
 #include <QtDesigner/QFormBuilder>
+#include <QtGui/QUndoStack>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiTools/QUiLoader>
 #include <QtWidgets/QApplication>
@@ -91,6 +96,13 @@ public:
         sheet->setChanged(index, true);
     }
 
+    // By a command that can be undone.
+    static void edit(QDesignerFormWindowInterface &window, const QString &widget,
+                     const QString &property, const QVariant &value)
+    {
+        window.cursor()->setWidgetProperty(window.findChild<QWidget *>(widget), property, value);
+    }
+
     // With all that a form keeps of the four components changed.
     QString changedForm()
     {
@@ -159,6 +171,10 @@ private Q_SLOTS:
     void formBuilderLoadsTheForm();
     void uiLoaderLoadsTheForm();
     void treeOfADesignedFormSavesNothing();
+    void aDisabledTableIsDisabledHoweverTheFormIsMade_data();
+    void aDisabledTableIsDisabledHoweverTheFormIsMade();
+    void keepsACaptionWhenTheTypeIsChangedAndBack();
+    void savesNoCaptionThatWasNotGiven();
 
 private:
     std::unique_ptr<TestFolder> m_settings;
@@ -226,7 +242,9 @@ void DesignerPluginTest::showsTheDesignTimeProperties()
     const QMetaObject &meta = ORVListView::staticMetaObject;
     QStringList designable;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
-        if (meta.property(i).isDesignable() && meta.property(i).isStored())
+        const bool isWidgets =
+            QWidget::staticMetaObject.indexOfProperty(meta.property(i).name()) >= 0;
+        if (meta.property(i).isDesignable() && meta.property(i).isStored() && !isWidgets)
             designable.append(QString::fromLatin1(meta.property(i).name()));
     }
     designable.sort();
@@ -287,6 +305,89 @@ void DesignerPluginTest::treeOfADesignedFormSavesNothing()
 {
     Designer().changedForm();
     QCOMPARE(m_settings->names(), QStringList());
+}
+
+void DesignerPluginTest::aDisabledTableIsDisabledHoweverTheFormIsMade_data()
+{
+    QTest::addColumn<QString>("how");
+    for (const QString &how : {u"uic"_s, u"form builder"_s, u"ui loader"_s, u"Designer"_s})
+        QTest::newRow(qPrintable(how)) << how;
+}
+
+void DesignerPluginTest::aDisabledTableIsDisabledHoweverTheFormIsMade()
+{
+    QFETCH(const QString, how);
+    QFile file(QStringLiteral(ORVT_DISABLED_FORM));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString xml = QString::fromUtf8(file.readAll());
+    Designer designer;
+    std::unique_ptr<QWidget> form;
+    if (how == u"uic"_s) {
+        form = std::make_unique<QWidget>();
+        Ui::DisabledForm().setupUi(form.get());
+    } else if (how == u"form builder"_s) {
+        QFormBuilder builder;
+        builder.setPluginPath({QStringLiteral(ORVT_DESIGNER_FOLDER)});
+        form = loadedForm(builder, xml);
+    } else if (how == u"ui loader"_s) {
+        QUiLoader loader;
+        form = loadedForm(loader, xml);
+    } else {
+        const QString saved = designer.opened(xml)->contents();
+        QVERIFY2(saved.indexOf(u"dsOutput"_s) < saved.indexOf(u"\"enabled\""_s), qPrintable(saved));
+        form = designer.opened(saved);
+    }
+    for (const QString &name : {u"oldWay"_s, u"newWay"_s}) {
+        auto *list = form->findChild<ORVListView *>(name);
+        QVERIFY2(list, qPrintable(name));
+        QVERIFY2(!list->Enabled(), qPrintable(name));
+        for (const QString &part :
+             {u"ListView1"_s, u"RichTextBox1"_s, u"ImgRead"_s, u"ImgWrite"_s, u"LblCaption"_s})
+            QVERIFY2(!list->findChild<QWidget *>(part)->isEnabled(), qPrintable(name + part));
+        list->setEnabled(true); // the host's word is the last one
+        QVERIFY2(list->listView()->isEnabled(), qPrintable(name));
+    }
+    auto *combo = form->findChild<ORVDataCombo *>();
+    QVERIFY(!combo->Enabled() && !combo->isEnabled());
+    combo->setEnabled(true);
+    QVERIFY(combo->isEnabled());
+}
+
+void DesignerPluginTest::keepsACaptionWhenTheTypeIsChangedAndBack()
+{
+    Designer designer;
+    const auto window = designer.opened(plainForm);
+    const auto *list = window->findChild<ORVListView *>(u"listView"_s);
+    designer.edit(*window, u"listView"_s, u"Caption"_s, u"Valves"_s);
+    designer.edit(*window, u"listView"_s, u"ListviewType"_s, qint32{dsOutput});
+    QCOMPARE(list->ListviewType(), dsOutput);
+    QCOMPARE(list->Caption(), u"Valves"_s);
+    for (int time = 0; time < 2; ++time) {
+        window->commandHistory()->undo();
+        QCOMPARE(list->ListviewType(), dsInput);
+        QCOMPARE(list->Caption(), u"Valves"_s);
+        window->commandHistory()->redo();
+        QCOMPARE(list->ListviewType(), dsOutput);
+        QCOMPARE(list->Caption(), u"Valves"_s);
+    }
+    const QString xml = window->contents();
+    QVERIFY2(xml.contains(u"<string>Valves</string>"_s), qPrintable(xml));
+    QCOMPARE(designer.opened(xml)->findChild<ORVListView *>(u"listView"_s)->Caption(), u"Valves"_s);
+}
+
+void DesignerPluginTest::savesNoCaptionThatWasNotGiven()
+{
+    Designer designer;
+    const auto window = designer.opened(plainForm);
+    const auto *list = window->findChild<ORVListView *>(u"listView"_s);
+    designer.edit(*window, u"listView"_s, u"ListviewType"_s, qint32{dsOutput});
+    QCOMPARE(list->Caption(), u"Outputs"_s);
+    designer.edit(*window, u"listView"_s, u"Caption"_s, u"Valves"_s);
+    window->commandHistory()->undo();
+    designer.edit(*window, u"listView"_s, u"ListviewType"_s, qint32{dsTimer});
+    QCOMPARE(list->Caption(), u"Timers"_s);
+    const QString xml = window->contents();
+    QVERIFY2(!xml.contains(u"Caption"_s), qPrintable(xml));
 }
 
 int main(int argc, char **argv)

@@ -304,6 +304,32 @@ private Q_SLOTS:
         checkFit(host.dialog());
     }
 
+    void theResultFollowsTheLanguage()
+    {
+        TranslatedTexts texts(QLocale(u"en"_s));
+        setTextProvider(&texts);
+        FindHost host;
+        host.open(u"one\ntwo"_s, FindHost::Replace);
+        const auto speak = [&](const QString &language) {
+            texts.setLanguage(QLocale(language));
+            host.list->ReInitializeStrings();
+            return host.status();
+        };
+        QCOMPARE(speak(u"de"_s), QString());
+        host.enter(u"two"_s, u"three"_s);
+        host.findNext();
+        QCOMPARE(host.status(), u"Gefunden in Zeile 2, Spalte 1"_s);
+        host.box().setSelStart(0); // what was found stays what it was
+        QCOMPARE(speak(u"en"_s), u"Found in Row: 2, Col: 1"_s);
+        QCOMPARE(speak(u"de"_s), u"Gefunden in Zeile 2, Spalte 1"_s);
+        host.replaceAll();
+        QCOMPARE(speak(u"en"_s), u"1 replace(s)!"_s);
+        host.findNext();
+        QCOMPARE(speak(u"de"_s), u"Nicht gefunden!"_s);
+        host.reopen();
+        QCOMPARE(speak(u"en"_s), QString());
+    }
+
     void theDialogTakesAChangedLanguageByItself()
     {
         TranslatedTexts texts(QLocale(u"en"_s));

@@ -1,5 +1,6 @@
 // What a host's form keeps of an ORVListView, and what Qt knows of its members.
 
+#include "support/Raised.h"
 #include "support/WidgetTest.h"
 
 #include <ORVTListview/ORVTListview.h>
@@ -66,9 +67,11 @@ private Q_SLOTS:
     void aControlStoredAsDisabledIsDisabled();
     void enabledIsForAllPartsTogether();
     void aSwitchEnablesItsFace();
+    void aSwitchLeavesATableDisabled();
     void captionIsTheHostsUntilTheNextSwitch();
     void changesAreTold();
     void onlyFourPropertiesAreForForms();
+    void aBagThatFailsRaisesError();
     void membersCanBeCalledByName();
     void bearsADestroyingReceiver_data();
     void bearsADestroyingReceiver();
@@ -203,6 +206,21 @@ void ListViewPropertiesTest::aSwitchEnablesItsFace()
     QVERIFY(!list.RTextBox()->isHidden());
 }
 
+// Only the switch to the editor does; a form may set the type last.
+void ListViewPropertiesTest::aSwitchLeavesATableDisabled()
+{
+    ORVListView list;
+    list.setProperty("enabled", false);
+    QVERIFY(!list.Enabled());
+    list.setListviewType(dsOutput);
+    QCOMPARE(enabledParts(list), QStringList());
+    list.setListviewType(dsCode);
+    list.setListviewType(dsLog);
+    QVERIFY(!list.listView()->isEnabled());
+    list.setEnabled(true);
+    QCOMPARE(enabledParts(list), partNames);
+}
+
 void ListViewPropertiesTest::captionIsTheHostsUntilTheNextSwitch()
 {
     ORVListView list;
@@ -242,13 +260,34 @@ void ListViewPropertiesTest::onlyFourPropertiesAreForForms()
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         const QMetaProperty property = meta.property(i);
         QCOMPARE(property.isStored(), property.isDesignable());
-        if (property.isStored()) {
+        if (property.isStored() && property.name() != QByteArray("enabled")) {
             kept << QString::fromLatin1(property.name());
             QVERIFY(property.hasNotifySignal());
         }
     }
     // In the order in which forms set them: a type brings its own caption.
     QCOMPARE(kept, QStringList({u"ListviewType"_s, u"Caption"_s, u"Enabled"_s, u"MultiSelect"_s}));
+}
+
+void ListViewPropertiesTest::aBagThatFailsRaisesError()
+{
+    struct Failing final : PropertyBag
+    {
+        QVariant ReadProperty(const QString &, const QVariant &) const override { throw 42; }
+        void WriteProperty(const QString &, const QVariant &, const QVariant &) override
+        {
+            throw 42;
+        }
+    };
+    ORVListView list;
+    list.setCaption(u"kept"_s);
+    Failing bag;
+    QVERIFY(raisedBy([&] { list.ReadProperties(bag); }));
+    QVERIFY(raisedBy([&] { list.WriteProperties(bag); }));
+    QCOMPARE(list.Caption(), u"kept"_s);
+    ORVDataCombo combo;
+    QVERIFY(raisedBy([&] { combo.ReadProperties(bag); }));
+    QVERIFY(raisedBy([&] { combo.WriteProperties(bag); }));
 }
 
 void ListViewPropertiesTest::membersCanBeCalledByName()
@@ -284,6 +323,9 @@ void ListViewPropertiesTest::bearsADestroyingReceiver()
 {
     QFETCH(QString, signal);
     auto *list = new ORVListView;
+    list->setListviewType(dsLog); // so that reading changes each
+    list->setMultiSelect(true);
+    list->setEnabled(false);
     const QPointer<ORVListView> guard(list);
     const auto destroy = [&] { delete guard.data(); };
     if (signal == u"caption"_s)

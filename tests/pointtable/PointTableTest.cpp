@@ -118,6 +118,7 @@ private Q_SLOTS:
     void handlesOfFormerRowsFail();
     void textsChangeInPlace();
     void captionTakesTheDisplayFont();
+    void captionGivesAWithdrawnFontBack();
     void bearsRandomCalls();
 };
 
@@ -685,6 +686,32 @@ void PointTableTest::captionTakesTheDisplayFont()
     QCOMPARE(caption.height(), caption.fontMetrics().height());
     QCOMPARE(list.listView()->y(), caption.height() + 1); // 15 twips
     QCOMPARE(list.listView()->font().family(), before.family());
+}
+
+void PointTableTest::captionGivesAWithdrawnFontBack()
+{
+    ORVListView list;
+    const QWidget &caption = partOf<QWidget>(list, u"LblCaption"_s);
+    const QFont before = caption.font();
+    TranslatedTexts texts(QLocale::c());
+    setTextProvider(&texts);
+    texts.setDisplayFont({u"DejaVu Serif"_s, 30});
+    list.InitStrings();
+    texts.setDisplayFont({u"DejaVu Serif"_s, 0}); // the size alone
+    list.InitStrings();
+    QCOMPARE(caption.font().pointSizeF(), before.pointSizeF());
+    texts.setDisplayFont({});
+    list.InitStrings();
+    QCOMPARE(caption.font(), before);
+    texts.setDisplayFont({u"DejaVu Serif"_s, 30}); // and once more, by another language
+    list.InitStrings();
+    setTextProvider(nullptr);
+    list.ReInitializeStrings();
+    QCOMPARE(caption.font(), before);
+    QFont larger = before;
+    larger.setPointSize(40);
+    list.setFont(larger); // is followed again
+    QCOMPARE(caption.font().pointSize(), 40);
 }
 
 void PointTableTest::bearsRandomCalls()

@@ -43,7 +43,7 @@ private Q_SLOTS:
         workbench.choose(u"Cut"_s);
         QCOMPARE(workbench.code().CodeText(), QString());
         QCOMPARE(enabled(workbench),
-                 u"Restore Typed Text, Paste, Find…, Replace…, Select All, Known Words"_s);
+                 u"Undo, Restore Typed Text, Paste, Find…, Replace…, Select All, Known Words"_s);
     }
 
     void copiesWithColours()
@@ -103,6 +103,31 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = ON");
         workbench.choose(u"Restore Typed Text"_s);
         QVERIFY(!workbench.window.statusBar()->currentMessage().isEmpty());
+        QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON"_s);
+    }
+
+    // As by the keys.
+    void cuttingCanBeUndone()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.choose(u"Select All"_s);
+        QVERIFY(enabled(workbench).contains(u"Cut"_s));
+        workbench.choose(u"Cut"_s);
+        QCOMPARE(workbench.code().CodeText(), QString());
+        QVERIFY(enabled(workbench).startsWith(u"Undo"_s));
+        workbench.choose(u"Undo"_s);
+        QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON"_s);
+    }
+
+    void pastingCanBeUndone()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        QGuiApplication::clipboard()->setText(u"endif"_s);
+        workbench.choose(u"Select All"_s);
+        QVERIFY(enabled(workbench).contains(u"Paste"_s));
+        workbench.choose(u"Paste"_s);
+        QCOMPARE(workbench.code().CodeText(), u"ENDIF"_s);
+        workbench.choose(u"Undo"_s);
         QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON"_s);
     }
 

@@ -70,7 +70,10 @@ private Q_SLOTS:
         const QMenu *menu = workbench.window.findChild<LanguageMenu *>();
         QVERIFY(menu);
         const QList<QAction *> choices = menu->actions();
-        QCOMPARE(choices.size(), 4);
+        QStringList names;
+        for (const QAction *choice : choices)
+            names << QString(choice->text()).remove(u'&');
+        QCOMPARE(names, QStringList({u"English"_s, u"Deutsch"_s, u"Español"_s, u"Français"_s}));
         choices.at(1)->trigger();
         QTRY_COMPARE(titles(workbench), QStringList({u"Datei"_s, u"Bearbeiten"_s, u"Programm"_s,
                                                      u"Punkte"_s, u"Ansicht"_s}));

@@ -1,4 +1,5 @@
 #include "WorkbenchTest.h"
+#include "widgets/box/BoxCommands.h"
 
 #include <QtCore/QSet>
 
@@ -70,6 +71,23 @@ private Q_SLOTS:
             checkAccessKeys(captions(*menu));
         }
         checkAccessKeys(titles);
+    }
+
+    // One word and one key for each command, in the window's menu and in the editor's.
+    void theEditorsMenuAgrees_data() { accessKeysDoNotClash_data(); }
+    void theEditorsMenuAgrees()
+    {
+        QFETCH(QLocale, language);
+        WorkbenchWindow workbench;
+        workbench.speak(language);
+        QMenu menu;
+        workbench.box().commands().fillMenu(menu);
+        const QStringList own = captions(menu);
+        QCOMPARE(own.size(), 7);
+        checkAccessKeys(own);
+        QStringList other = captions(*workbench.menus().at(1));
+        other.removeIf([&](const QString &caption) { return !own.contains(caption); });
+        QCOMPARE(other, QStringList({own[0], own[1], own[2], own[3], own[4], own[6]}));
     }
 
     void commandsAreInTitleCase()

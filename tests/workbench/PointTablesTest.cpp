@@ -9,6 +9,7 @@
 #include <ORVTListview/ORVDataCombo.h>
 #include <ORVTListview/ORVTreeview.h>
 
+#include <QtGui/QWheelEvent>
 #include <QtWidgets/QLineEdit>
 
 using namespace ORVTListview;
@@ -166,6 +167,21 @@ private Q_SLOTS:
         QVERIFY2(refused.text().contains(u"temp2"_s), qPrintable(refused.text()));
         QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);
         QVERIFY(!points.window.isWindowModified());
+
+        // What was typed can be corrected, as often as it takes.
+        QTRY_VERIFY((editor = points.list().viewport()->findChild<QLineEdit *>()));
+        QCOMPARE(editor->text(), u"temp2"_s);
+        QTest::keyClicks(editor, u"IF"_s); // takes the place of it
+        NextMessage again(QMessageBox::Ok);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_VERIFY(again.wasThere());
+        QVERIFY2(again.text().contains(u"IF"_s), qPrintable(again.text()));
+        QTRY_VERIFY((editor = points.list().viewport()->findChild<QLineEdit *>()));
+        QCOMPARE(editor->text(), u"IF"_s);
+        QTest::keyClick(editor, Qt::Key_Escape);
+        QTRY_VERIFY(!points.list().viewport()->findChild<QLineEdit *>());
+        QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);
+        QVERIFY(!points.window.isWindowModified());
     }
 
     void whatHasNoNameIsNotEdited()
@@ -195,6 +211,9 @@ private Q_SLOTS:
         QVERIFY2(points.code().CodeText().startsWith(u"Temp2"_s),
                  qPrintable(points.code().CodeText()));
         QVERIFY(points.box().hasFocus());
+        points.choose(u"Undo"_s);
+        QVERIFY2(points.code().CodeText().startsWith(u"IF"_s),
+                 qPrintable(points.code().CodeText()));
 
         points.open(u"Outputs"_s);
         field->setFocus(Qt::TabFocusReason);
@@ -202,6 +221,25 @@ private Q_SLOTS:
         QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(points.code().CurrentType(), dsInput);
         QCOMPARE(points.code().SelectedItem()->Index(), 1);
+    }
+
+    void lookingThroughTheComboWritesNothing()
+    {
+        Points points;
+        const QString program = points.code().CodeText();
+        auto *combo = points.window.findChild<ORVDataCombo *>();
+        QLineEdit *field = combo->findChild<QLineEdit *>();
+        field->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(field, Qt::Key_Down);
+        QTest::keyClick(field, Qt::Key_Down);
+        QCOMPARE(combo->Text(), u"Temp2"_s);
+        QWheelEvent notch(QPointF(5, 5), field->mapToGlobal(QPointF(5, 5)), {}, {0, 120},
+                          Qt::NoButton, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(field, &notch);
+        QCOMPARE(combo->Text(), u"Temp2"_s);
+        QTest::keyClick(field, Qt::Key_Tab);
+        QCOMPARE(points.code().CodeText(), program);
+        QVERIFY(!points.window.isWindowModified());
     }
 
     void theLanguageChangesTreeTableAndHeaders()

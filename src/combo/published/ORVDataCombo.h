@@ -28,9 +28,11 @@ class ORVT_EXPORT ORVDataCombo : public Component
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
-    Q_PROPERTY(qint16 ListCount READ ListCount DESIGNABLE false STORED false)
-    Q_PROPERTY(qint16 ListIndex READ ListIndex DESIGNABLE false STORED false)
-    Q_PROPERTY(bool dragsEntry READ dragsEntry WRITE setDragsEntry)
+    Q_PROPERTY(
+        qint16 ListCount READ ListCount NOTIFY listCountChanged DESIGNABLE false STORED false)
+    Q_PROPERTY(
+        qint16 ListIndex READ ListIndex NOTIFY listIndexChanged DESIGNABLE false STORED false)
+    Q_PROPERTY(bool dragsEntry READ dragsEntry WRITE setDragsEntry NOTIFY dragsEntryChanged)
 
 public:
     explicit ORVDataCombo(QWidget *parent = nullptr);
@@ -65,8 +67,10 @@ public:
     QString Text() const;
     void setText(const QString &Text);
 
-    // The control's own state, whatever that of its parents.
+    // The control's own state, whatever that of its parents. Set by this member it is
+    // told of in a disabled parent, too; there QWidget's own setter keeps silent.
     bool Enabled() const;
+    void setEnabled(bool Enabled);
 
     // Removes all entries, and the text of the selected one.
     Q_INVOKABLE void Clear();
@@ -99,7 +103,7 @@ Q_SIGNALS:
     // The text was typed or set; not when a point was chosen.
     void Change();
 
-    // The user has chosen a point.
+    // The user has chosen a point, or gone on to it with a key in the closed combo.
     void Click();
 
     // The left button was pressed twice in the field.
@@ -125,9 +129,17 @@ Q_SIGNALS:
     void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
     void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
 
-    // Not events: a persistent property is another one now, whoever changed it.
+    // Not events: a property has another value now, whoever changed it.
     void textChanged();
     void enabledChanged();
+    void listCountChanged();
+    void listIndexChanged();
+    void dragsEntryChanged();
+
+    // Not an event: the user has decided for the point that is selected now, by Enter,
+    // by a name typed and confirmed with Enter, or by a click in the list; also for
+    // the one that was selected already. After Change and Click.
+    void picked();
 
 protected:
     bool event(QEvent *event) override;
@@ -135,8 +147,9 @@ protected:
 
 private:
     void relayEvents();
+    void tellProperties();
     void applyColour();
-    void recordText();
+    void tell();
 
     struct Private;
     std::unique_ptr<Private> d;

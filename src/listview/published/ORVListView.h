@@ -43,16 +43,21 @@ class ORVT_EXPORT ORVListView : public Component
     Q_PROPERTY(ORVTListview::LwType CurrentType READ CurrentType NOTIFY listviewTypeChanged
                    DESIGNABLE false STORED false)
     Q_PROPERTY(QString Key READ Key NOTIFY listviewTypeChanged DESIGNABLE false STORED false)
-    Q_PROPERTY(
-        qint16 NumberItems READ NumberItems WRITE setNumberItems DESIGNABLE false STORED false)
-    Q_PROPERTY(bool IsHOASupported READ IsHOASupported WRITE setIsHOASupported
+    Q_PROPERTY(qint16 NumberItems READ NumberItems WRITE setNumberItems NOTIFY numberItemsChanged
                    DESIGNABLE false STORED false)
-    Q_PROPERTY(
-        qint16 labelColumn READ labelColumn WRITE setLabelColumn DESIGNABLE false STORED false)
-    Q_PROPERTY(QString indentUnit READ indentUnit WRITE setIndentUnit DESIGNABLE false STORED false)
-    Q_PROPERTY(QString CodeText READ CodeText WRITE setCodeText DESIGNABLE false STORED false)
-    Q_PROPERTY(
-        QString CodeTextRTF READ CodeTextRTF WRITE setCodeTextRTF DESIGNABLE false STORED false)
+    Q_PROPERTY(bool IsHOASupported READ IsHOASupported WRITE setIsHOASupported NOTIFY
+                   isHOASupportedChanged DESIGNABLE false STORED false)
+    Q_PROPERTY(qint16 labelColumn READ labelColumn WRITE setLabelColumn NOTIFY labelColumnChanged
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(QString indentUnit READ indentUnit WRITE setIndentUnit NOTIFY indentUnitChanged
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(QString CodeText READ CodeText WRITE setCodeText NOTIFY codeTextChanged
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(QString CodeTextRTF READ CodeTextRTF WRITE setCodeTextRTF NOTIFY codeTextRTFChanged
+                   DESIGNABLE false STORED false)
+
+    // The widget's own "enabled" in a form means the same, and comes after the type.
+    Q_PROPERTY(bool enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
 
 public:
     explicit ORVListView(QWidget *parent = nullptr);
@@ -60,9 +65,10 @@ public:
 
     const MemberTable &Members() const override;
 
-    // The type shown; dsInput at first. Assigning it shows and enables its face and
-    // builds everything anew: the caption with the type's name, the columns, and
-    // numbered empty rows, whose number is the type's own and becomes NumberItems.
+    // The type shown; dsInput at first. Assigning it shows its face, an editor always
+    // enabled, and builds everything anew: the caption with the type's name, the
+    // columns, and numbered empty rows, whose number is the type's own and becomes
+    // NumberItems.
     // A value outside 0 to 12 is ignored. Assigning dsCode also takes SQRT out of
     // the editor's function words until IsSqrtSupported is set again.
     LwType ListviewType() const;
@@ -79,7 +85,7 @@ public:
 
     // Enables or disables table, editor, caption, button and status picture together,
     // but not the control itself: this is not QWidget's setEnabled, which it hides.
-    // A later change of type enables its face again.
+    // A later change to dsCode enables the editor again.
     bool Enabled() const;
     void setEnabled(bool Enabled);
 
@@ -399,20 +405,33 @@ Q_SIGNALS:
     void QueryAnalyze();
     void QueryCompile();
 
-    // Not events: a property was set.
+    // Not events: a property has another value now, whoever changed it. What changes
+    // without a call of the program is told soon after.
     void captionChanged();
     void enabledChanged();
     void listviewTypeChanged();
     void multiSelectChanged();
+    void numberItemsChanged();
+    void isHOASupportedChanged();
+    void labelColumnChanged();
+    void indentUnitChanged();
+    void codeTextChanged();
+
+    // Its text, or only its colours.
+    void codeTextRTFChanged();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void connectNotify(const QMetaMethod &signal) override;
 
 private:
     void connectEvents();
     void connectListEvents();
     void connectListKeys();
     void connectListDrags();
+    void connectProperties();
+    void tellCode();
+    void tellCodeSoon();
 
     std::unique_ptr<ListViewFaces> d;
 };

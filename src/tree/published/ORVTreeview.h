@@ -31,8 +31,8 @@ namespace ORVTListview {
 class ORVT_EXPORT ORVTreeview : public Component
 {
     Q_OBJECT
-    Q_PROPERTY(ORVTListview::Node *SelectedItem READ SelectedItem WRITE setSelectedItem
-                   DESIGNABLE false STORED false)
+    Q_PROPERTY(ORVTListview::Node *SelectedItem READ SelectedItem WRITE setSelectedItem NOTIFY
+                   selectedItemChanged DESIGNABLE false STORED false)
 
 public:
     explicit ORVTreeview(QWidget *parent = nullptr);
@@ -55,7 +55,7 @@ public:
     Q_INVOKABLE ORVTListview::Nodes *Nodes() const;
 
     // Null for none. Setting it scrolls nothing (Node::EnsureVisible does) and raises
-    // no event.
+    // none of the events.
     Node *SelectedItem() const;
     void setSelectedItem(ORVTListview::Node *Item);
 
@@ -147,9 +147,9 @@ Q_SIGNALS:
 
     // KeyCode is a virtual-key number, KeyAscii the UTF-16 code typed; set to 0 they
     // swallow the key. Shift holds 1 for Shift, 2 for Ctrl, 4 for Alt.
-    void KeyDown(qint16 &KeyCode, qint16 Shift);
+    void KeyDown(qint16 &KeyCode, qint16 &Shift);
     void KeyPress(qint16 &KeyAscii);
-    void KeyUp(qint16 &KeyCode, qint16 Shift);
+    void KeyUp(qint16 &KeyCode, qint16 &Shift);
 
     // Button is 1 left, 2 right, 4 middle; MouseMove tells the sum of those held.
     void MouseDown(qint16 Button, qint16 Shift, float X, float Y);
@@ -181,11 +181,16 @@ Q_SIGNALS:
     // Published; never raised. GetPageSettings and the nodes tell the pages.
     void UpdatePages(QList<ORVTListview::Pages> &Pages);
 
+    // Not an event: another node is selected now, or none, whoever changed it; before
+    // NodeClick, or soon after what removes the node.
+    void selectedItemChanged();
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void forwardEvents();
+    void tellSelection();
     void save() const noexcept;
 
     struct Private;

@@ -7,12 +7,17 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-QString positionDisplay(const RichTextBox &box)
+CaretPosition caretPosition(const RichTextBox &box)
 {
     const qint32 caret = box.SelStart();
     const qint32 line = box.GetLineFromChar(caret);
-    const QString row = QString::number(line + 1);
-    const QString column = QString::number(caret - box.lineStart(line) + 1);
+    return {line + 1, caret - box.lineStart(line) + 1};
+}
+
+QString positionDisplay(const CaretPosition &position)
+{
+    const QString row = QString::number(position.row);
+    const QString column = QString::number(position.column);
     return Localise(u"Row:"_s) + u' ' + row + Localise(u", Col:"_s) + u' ' + column;
 }
 

@@ -3,6 +3,7 @@
 #include "base/EventGuard.h"
 #include "widgets/combo/ImageComboAccess.h"
 #include "widgets/combo/ImageComboParts.h"
+#include "widgets/input/FieldMenu.h"
 #include "widgets/input/RaisedDrags.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>
@@ -40,13 +41,14 @@ ImageCombo::ImageCombo(QWidget *parent)
     QComboBox::setModel(d->entries);
     setUpField();
     setUpDrag();
-    setFocusPolicy(Qt::StrongFocus); // the wheel over it shall not begin to choose
+    setFocusPolicy(Qt::StrongFocus); // without the wheel
     // Else the toolkit measures every entry.
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(12);
     connect(d->list, &ComboList::toggled, this, [this] { update(); });
     connect(d->list, &ComboList::chosen, this, [this](int row) {
         choose(row);
+        pick();
         raiseNoted();
     });
     connect(this, &QComboBox::activated, this, [this] {
@@ -71,6 +73,7 @@ void ImageCombo::setUpField()
     field.installEventFilter(this);
     // The base would look through all entries, and its own way.
     disconnect(&field, &QLineEdit::editingFinished, this, nullptr);
+    FieldMenu::installOn(field);
     connect(&field, &QLineEdit::textEdited, this, &ImageCombo::noteEdit);
 }
 

@@ -26,7 +26,7 @@ struct ImageComboParts;
 // typed, the best one marked. Enter, Tab and a click take the marked one, Escape
 // brings back what was there before; a text that reads as an entry, in any letter
 // case, selects it when Enter is pressed or the focus leaves. With the list closed
-// Up and Down go through the entries.
+// Up and Down go through the entries. The wheel is left to what scrolls the form.
 //
 // A receiver may do anything in an event, destroying the combo included. What the
 // program changes raises no event, but for Change at setText.
@@ -82,8 +82,11 @@ Q_SIGNALS:
     // The text was typed or set; not when an entry was chosen.
     void Change();
 
-    // The user has chosen an entry.
+    // The user has chosen an entry, or gone on to it in the closed combo.
     void Click();
+
+    // The user has decided for the selected entry: by Enter, or by a click in the list.
+    void picked();
 
     // The left button was pressed twice in the field.
     void DblClick();
@@ -138,6 +141,7 @@ private:
     void endSelection();
     void remember();
     void choose(int row);
+    void pick();
     void noteEdit(const QString &text);
     void act(QKeyEvent &event);
     bool actOnList(const QKeyEvent &event);

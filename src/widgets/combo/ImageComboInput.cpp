@@ -95,8 +95,10 @@ void ImageCombo::raiseNoted()
 {
     if (std::exchange(d->hasChanged, false) && !raiseEvent(*this, &ImageCombo::Change))
         return;
-    if (std::exchange(d->isClicked, false))
-        raiseEvent(*this, &ImageCombo::Click);
+    if (std::exchange(d->isClicked, false) && !raiseEvent(*this, &ImageCombo::Click))
+        return;
+    if (std::exchange(d->isPicked, false) && currentIndex() >= 0)
+        raiseEvent(*this, &ImageCombo::picked);
 }
 
 // For what comes by the field's menu or the mouse.
@@ -114,6 +116,12 @@ void ImageCombo::choose(int row)
     select(row);
     remember();
     d->isClicked = true;
+}
+
+// Told of when the events before it have been.
+void ImageCombo::pick()
+{
+    d->isPicked = currentIndex() >= 0;
 }
 
 void ImageCombo::takeMarked()
@@ -162,8 +170,10 @@ void ImageCombo::act(QKeyEvent &event)
     const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     if (isListOpen() && actOnList(event))
         return;
-    if (isEnter)
+    if (isEnter) {
         takeTypedName();
+        pick();
+    }
     letWork([this, &event] { QComboBox::keyPressEvent(&event); });
 }
 
@@ -174,6 +184,7 @@ bool ImageCombo::actOnList(const QKeyEvent &event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         takeMarked();
+        pick();
         break;
     case Qt::Key_Escape:
         bringBack();
@@ -238,10 +249,7 @@ void ImageCombo::mouseReleaseEvent(QMouseEvent *event)
 
 void ImageCombo::wheelEvent(QWheelEvent *event)
 {
-    if (hasFocus())
-        letWork([this, event] { QComboBox::wheelEvent(event); });
-    else
-        event->ignore(); // for what scrolls the form
+    event->ignore(); // for what scrolls the form
 }
 
 void ImageCombo::focusOutEvent(QFocusEvent *event)

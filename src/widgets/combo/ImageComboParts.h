@@ -31,6 +31,7 @@ struct ImageComboParts
     // Events that wait for the toolkit's work on the field to be over.
     bool hasChanged = false;
     bool isClicked = false;
+    bool isPicked = false;
     bool isAtWork = false;
 
     QColor textColour; // invalid: the palette's

@@ -1,5 +1,6 @@
 #include <ORVTListview/ReportList.h>
 
+#include "base/EventGuard.h"
 #include "widgets/input/RaisedDrags.h"
 #include "widgets/list/ReportHeader.h"
 #include "widgets/list/ReportListBody.h"
@@ -191,7 +192,10 @@ bool ReportList::MultiSelect() const
 
 void ReportList::setMultiSelect(bool MultiSelect)
 {
+    if (MultiSelect == this->MultiSelect())
+        return;
     d->rowChoice.setMultiple(MultiSelect);
+    raiseEvent(*this, &ReportList::multiSelectChanged);
 }
 
 void ReportList::Refresh()

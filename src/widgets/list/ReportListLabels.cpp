@@ -1,5 +1,6 @@
 // How the labels of a list are edited: the events around the view's own editor.
 
+#include "base/EventGuard.h"
 #include "widgets/list/ReportListBody.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ReportList.h>
@@ -46,7 +47,10 @@ void ReportList::setLabelColumn(qint16 Index)
 {
     if (Index < 0)
         throw Error(SubscriptOutOfRange, u"setLabelColumn"_s, u"Columns count from 0"_s);
+    const qint16 former = labelColumn();
     d->model.setLabelColumn(Index);
+    if (labelColumn() != former)
+        raiseEvent(*this, &ReportList::labelColumnChanged);
 }
 
 void ReportList::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)

@@ -124,9 +124,9 @@ Q_SIGNALS:
     void Expand(ORVTListview::Node *Node);
 
     // As those of ReportList.
-    void KeyDown(qint16 &KeyCode, qint16 Shift);
+    void KeyDown(qint16 &KeyCode, qint16 &Shift);
     void KeyPress(qint16 &KeyAscii);
-    void KeyUp(qint16 &KeyCode, qint16 Shift);
+    void KeyUp(qint16 &KeyCode, qint16 &Shift);
     void MouseDown(qint16 Button, qint16 Shift, float X, float Y);
     void MouseMove(qint16 Button, qint16 Shift, float X, float Y);
     void MouseUp(qint16 Button, qint16 Shift, float X, float Y);

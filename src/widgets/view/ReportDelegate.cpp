@@ -1,5 +1,6 @@
 #include "widgets/view/ReportDelegate.h"
 
+#include "widgets/input/FieldMenu.h"
 #include "widgets/look/CellText.h"
 
 #include <QtGui/QPainter>
@@ -23,6 +24,15 @@ void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     painter->setPen(QPen(colour, 1, Qt::DotLine));
     painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     painter->restore();
+}
+
+QWidget *ReportDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                      const QModelIndex &index) const
+{
+    QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+    if (auto *line = qobject_cast<QLineEdit *>(editor))
+        FieldMenu::installOn(*line);
+    return editor;
 }
 
 QString ReportDelegate::displayText(const QVariant &value, const QLocale &) const

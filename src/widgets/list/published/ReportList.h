@@ -38,7 +38,7 @@ struct ReportRow;
 class ORVT_EXPORT ReportList : public QTableView
 {
     Q_OBJECT
-    Q_PROPERTY(bool MultiSelect READ MultiSelect WRITE setMultiSelect)
+    Q_PROPERTY(bool MultiSelect READ MultiSelect WRITE setMultiSelect NOTIFY multiSelectChanged)
     Q_PROPERTY(bool checkBoxes READ hasCheckBoxes WRITE setCheckBoxes)
     Q_PROPERTY(bool copiesRows READ copiesRows WRITE setCopiesRows)
     Q_PROPERTY(bool editsLabels READ editsLabels WRITE setEditsLabels)
@@ -187,6 +187,10 @@ Q_SIGNALS:
     void OLEGiveFeedback(qint32 Effect, bool &DefaultCursors);
     void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
     void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
+
+    // Not events: another value was set.
+    void multiSelectChanged();
+    void labelColumnChanged();
 
 protected:
     bool event(QEvent *event) override;

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <ORVTListview/Export.h>
+
+#include <QtCore/QObject>
+
+class QLineEdit;
+class QMenu;
+class QPoint;
+
+namespace ORVTListview {
+
+// The context menu of a field in the library's own words. The toolkit's is in
+// English in every application that installs no translator for the toolkit.
+class ORVT_EXPORT FieldMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Becomes the field's. A combo box must have the field already.
+    static void installOn(QLineEdit &field);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    explicit FieldMenu(QLineEdit &field);
+    void open(const QPoint &place);
+    void fill(QMenu &menu) const;
+
+    QLineEdit &m_field;
+};
+
+} // namespace ORVTListview
