@@ -34,6 +34,7 @@ private Q_SLOTS:
     void furtherFontsAreTheBoxes();
     void fontsCountAnewInAnEmptyBox_data();
     void fontsCountAnewInAnEmptyBox();
+    void manySoftHyphensAreNotKerned();
 };
 
 namespace {
@@ -371,6 +372,32 @@ void RtfInBoxTest::fontsCountAnewInAnEmptyBox()
         for (int font = 0; font < fontCount; ++font)
             QVERIFY(formatOfLetter(box, font).hasProperty(QTextFormat::FontFamilies));
     }
+}
+
+// Fonts that kern them look behind each for all that follow.
+void RtfInBoxTest::manySoftHyphensAreNotKerned()
+{
+    const QString few = u"A"_s + QString(31, QChar::SoftHyphen) + u"V"_s;
+    const QString many = u"A"_s + QString(1000, QChar::SoftHyphen) + u"V"_s;
+    RichTextBox box;
+    const auto isKerned = [&](int index) { return formatOfLetter(box, index).font().kerning(); };
+    const auto check = [&] {
+        QCOMPARE(box.Text(), few + many);
+        for (const int index : {0, 1, 31, 32, 33, 33 + 1001})
+            QVERIFY2(isKerned(index), qPrintable(QString::number(index)));
+        for (const int index : {34, 500, 33 + 1000})
+            QVERIFY2(!isKerned(index), qPrintable(QString::number(index)));
+    };
+    box.setText(few + many);
+    check();
+    box.setTextRTF(box.TextRTF());
+    check();
+    box.setColoured({few + many, {{600, 0xff}}});
+    check();
+    QVERIFY(all(box) == (ColouredText{few + many, {{600, 0xff}, {many.size() - 567, -1}}}));
+    box.setSelStart(500);
+    QTest::keyClicks(&box, u"x"_s);
+    QVERIFY(isKerned(500));
 }
 
 QTEST_MAIN(RtfInBoxTest)
