@@ -6,6 +6,8 @@ namespace ORVTListview {
 namespace {
 
 constexpr qint32 utf8Page = 65001;
+constexpr qint32 westernPage = 1252;
+constexpr qint32 macJapanesePage = 10001;
 
 struct Charset
 {
@@ -16,6 +18,7 @@ struct Charset
 constexpr Charset charsets[] = {
     {0, 1252},   // Western
     {77, 10000}, // Macintosh
+    {78, macJapanesePage},
     {128, 932},  // Japanese
     {129, 949},  // Korean
     {134, 936},  // Chinese, simplified
@@ -39,8 +42,11 @@ struct PairPage
     const char *decoder;
 };
 
-constexpr PairPage pairPages[] = {
-    {932, "windows-932"}, {936, "windows-936"}, {949, "windows-949"}, {950, "windows-950"}};
+constexpr PairPage pairPages[] = {{932, "windows-932"},
+                                  {macJapanesePage, "windows-932"},
+                                  {936, "windows-936"},
+                                  {949, "windows-949"},
+                                  {950, "windows-950"}};
 
 const PairPage *pairPage(qint32 codePage)
 {
@@ -52,8 +58,29 @@ const PairPage *pairPage(qint32 codePage)
 
 bool isLead(quint8 byte, qint32 codePage)
 {
-    const bool isHalfWidth = codePage == 932 && byte >= 0xA0 && byte <= 0xDF;
-    return byte > 0x80 && byte < 0xFF && !isHalfWidth;
+    const bool isJapanese = codePage == 932 || codePage == macJapanesePage;
+    const bool isHalfWidth = isJapanese && byte >= 0xA0 && byte <= 0xDF;
+    const bool isOwn = codePage == macJapanesePage && byte >= 0xFD;
+    return byte > 0x80 && byte < 0xFF && !isHalfWidth && !isOwn;
+}
+
+// What the Macintosh has beside the characters of page 932; 0 for other bytes.
+constexpr char16_t macJapaneseSingle(quint8 byte)
+{
+    switch (byte) {
+    case 0x80:
+        return u'\\';
+    case 0xA0:
+        return u'\u00a0';
+    case 0xFD:
+        return u'\u00a9';
+    case 0xFE:
+        return u'\u2122';
+    case 0xFF:
+        return u'\u2026';
+    default:
+        return 0;
+    }
 }
 
 qsizetype pairLength(QByteArrayView bytes, qint32 codePage)
@@ -69,6 +96,11 @@ qint32 rtfCodePageOfCharset(qint32 charset)
         std::find_if(std::begin(charsets), std::end(charsets),
                      [charset](const Charset &each) { return each.charset == charset; });
     return found == std::end(charsets) ? 0 : found->codePage;
+}
+
+bool isRtfCodePage(qint32 codePage)
+{
+    return codePage == utf8Page || pairPage(codePage) || rtfUpperHalf(codePage);
 }
 
 bool RtfBytes::lacksTrail(qint32 codePage) const
@@ -89,7 +121,7 @@ QStringView RtfBytes::take(qint32 codePage)
     else if (pairPage(codePage))
         decodePairs(codePage);
     else
-        decodeSingle(rtfUpperHalf(codePage));
+        decodeSingle(rtfUpperHalf(isRtfCodePage(codePage) ? codePage : westernPage));
     m_bytes.resize(0);
     return m_text;
 }
@@ -101,7 +133,7 @@ void RtfBytes::decodeSingle(const char16_t *upperHalf)
         if (byte < 0x80)
             m_text.append(QChar(ushort{byte}));
         else
-            m_text.append(upperHalf ? QChar(upperHalf[byte - 0x80]) : QChar::ReplacementCharacter);
+            m_text.append(QChar(upperHalf[byte - 0x80]));
     }
 }
 
@@ -122,6 +154,8 @@ char16_t RtfBytes::decodePair(QByteArrayView bytes)
     const auto first = static_cast<quint8>(bytes.front());
     if (bytes.size() == 1 && first < 0x80)
         return first;
+    if (bytes.size() == 1 && m_decoderPage == macJapanesePage && macJapaneseSingle(first))
+        return macJapaneseSingle(first);
     if (!m_decoder.isValid())
         return QChar::ReplacementCharacter;
     m_decoder.resetState();

@@ -13,11 +13,14 @@ qint32 rtfCodePageOfCharset(qint32 charset);
 // null for any other page.
 const char16_t *rtfUpperHalf(qint32 codePage);
 
+// True for 437, 850, 852, 866, 874, 932, 936, 949, 950, 1250 to 1258, 10000, 10001
+// and 65001.
+bool isRtfCodePage(qint32 codePage);
+
 // Puts the bytes of a document (\'xx) together to characters. Bytes below 0x80
-// are ASCII in every page. What stands for no character gives U+FFFD, and so
-// does every upper byte of a page that is not known: known are 437, 850, 852,
-// 866, 874, 1250 to 1258, 10000 and 65001, and 932, 936, 949 and 950 where Qt's
-// decoders know them.
+// are ASCII in every page. What stands for no character gives U+FFFD, and so do
+// those of two bytes where Qt's decoders do not know the page. A page that is not
+// known counts as 1252.
 class RtfBytes
 {
 public:

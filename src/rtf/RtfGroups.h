@@ -15,6 +15,7 @@ struct RtfGroup
     RtfCharacters characters;
     qint32 fallbackLength = 1; // characters behind \u for readers that do not know it
     RtfDestination destination = RtfDestination::Document;
+    qint32 passedOver = 0; // by how many groups around it, and itself
 };
 
 // The groups around a place of a document.

@@ -33,6 +33,7 @@ void RtfInterpreter::interpret(RtfToken &token)
 {
     if (token.kind != RtfToken::Byte)
         addBytes(token);
+    const bool isFirst = std::exchange(m_isFirst, token.kind == RtfToken::GroupStart);
     if (token.kind == RtfToken::GroupStart || token.kind == RtfToken::GroupEnd) {
         m_fallbackLeft = 0;
         m_isOptional = false;
@@ -42,7 +43,7 @@ void RtfInterpreter::interpret(RtfToken &token)
         return;
     if (token.kind == RtfToken::Word)
         return carryOut(token);
-    m_isOptional = false;
+    m_isOptional = isFirst && token.kind == RtfToken::Symbol && token.symbol == u'*';
     if (token.kind == RtfToken::Text)
         addSource(token.text);
     else if (token.kind == RtfToken::Byte)
@@ -76,6 +77,8 @@ bool RtfInterpreter::isFallback(RtfToken &token)
 
 void RtfInterpreter::addSource(QStringView text)
 {
+    if (isPassedOver())
+        return;
     switch (m_groups.current().destination) {
     case RtfDestination::FontTable:
         m_fonts.addSource(text);
@@ -91,7 +94,7 @@ void RtfInterpreter::addSource(QStringView text)
 
 void RtfInterpreter::addCharacter(char16_t character)
 {
-    if (character == u'\0')
+    if (character == u'\0' || isPassedOver())
         return;
     if (character == u'\r' || character == u'\n')
         endLine();
@@ -132,9 +135,6 @@ void RtfInterpreter::addSymbol(char16_t symbol)
         return addCharacter(QChar::SoftHyphen);
     case u'_':
         return addCharacter(u'\u2011');
-    case u'*':
-        m_isOptional = true;
-        return;
     default:
         return;
     }
@@ -163,7 +163,8 @@ void RtfInterpreter::endLine()
 bool RtfInterpreter::isShown() const
 {
     const quint32 flags = m_groups.current().characters.flags;
-    return isIn(RtfDestination::Document) && (flags & (RtfHidden | RtfDeleted)) == 0;
+    return isIn(RtfDestination::Document) && !isPassedOver() &&
+           (flags & (RtfHidden | RtfDeleted)) == 0;
 }
 
 bool RtfInterpreter::isIn(RtfDestination destination) const
@@ -182,9 +183,8 @@ qint32 RtfInterpreter::codePage() const
 void RtfInterpreter::carryOut(const RtfToken &word)
 {
     const RtfKeyword *keyword = findRtfKeyword(word.text);
-    const bool isTable = keyword && (keyword->action == RtfAction::StartFontTable ||
-                                     keyword->action == RtfAction::StartColourTable);
-    if (std::exchange(m_isOptional, false) && !isTable)
+    const bool isDestination = keyword && isRtfDestination(keyword->action);
+    if (std::exchange(m_isOptional, false) && !isDestination)
         return m_groups.skipCurrent();
     if (!keyword)
         return;
@@ -198,27 +198,44 @@ void RtfInterpreter::carryOut(const RtfToken &word)
         return;
     case RtfAction::EndLine:
         return endLine();
-    case RtfAction::SkipDestination:
-        return m_groups.skipCurrent();
     case RtfAction::FixCodePage:
         m_codePage = static_cast<qint32>(keyword->value);
         return;
     case RtfAction::SetFont:
         return setFont(word.number);
     default:
+        if (isDestination)
+            return enter(keyword->action);
         carryOutInTable(keyword->action, word.number);
         carryOutOnCharacters(*keyword, word);
+    }
+}
+
+void RtfInterpreter::enter(RtfAction destination)
+{
+    qint32 &passedOver = m_groups.current().passedOver;
+    switch (destination) {
+    case RtfAction::SkipDestination:
+        return m_groups.skipCurrent();
+    case RtfAction::PassOver:
+        ++passedOver;
+        return;
+    case RtfAction::ShowAfterAll:
+        passedOver = std::max(0, passedOver - 1);
+        return;
+    case RtfAction::StartFontTable:
+        return startTable(RtfDestination::FontTable);
+    case RtfAction::StartColourTable:
+        m_colours.clear();
+        return startTable(RtfDestination::ColourTable);
+    default:
+        return;
     }
 }
 
 void RtfInterpreter::carryOutInTable(RtfAction action, qint32 number)
 {
     switch (action) {
-    case RtfAction::StartFontTable:
-        return startTable(RtfDestination::FontTable);
-    case RtfAction::StartColourTable:
-        m_colours.clear();
-        return startTable(RtfDestination::ColourTable);
     case RtfAction::SetDefaultFont:
         return m_fonts.setDefault(number);
     case RtfAction::SetCodePage:

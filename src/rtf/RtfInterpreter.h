@@ -29,11 +29,13 @@ private:
     void addSymbol(char16_t symbol);
     void addBytes(RtfToken &behind);
     void endLine();
+    bool isPassedOver() const { return m_groups.current().passedOver > 0; }
     bool isShown() const;
     bool isIn(RtfDestination destination) const;
     qint32 codePage() const;
 
     void carryOut(const RtfToken &word);
+    void enter(RtfAction destination);
     void carryOutInTable(RtfAction action, qint32 number);
     void carryOutOnCharacters(const RtfKeyword &keyword, const RtfToken &word);
     void startTable(RtfDestination destination);
@@ -47,7 +49,8 @@ private:
     RtfBytes m_bytes;
     qint32 m_codePage = 1252;
     qint32 m_fallbackLeft = 0; // characters behind \u still to be skipped
-    bool m_isOptional = false; // \* came last: skip the group if its word is unknown
+    bool m_isFirst = false;    // a group began last
+    bool m_isOptional = false; // and then came \*: skip it if its word is unknown
 };
 
 } // namespace ORVTListview

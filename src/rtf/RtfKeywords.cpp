@@ -90,8 +90,18 @@ constexpr RtfKeyword keywords[] = {
     {"ulwave", SetFlag, RtfUnderline},
     {"ulnone", ClearFlag, RtfUnderline},
 
+    // Text in groups of its own. What is stated twice, for readers that know Unicode
+    // or the object and for those that do not, is passed over in its first form.
+    {"fldrslt", ReadDestination},
+    {"nesttableprops", ReadDestination},
+    {"object", PassOver},
+    {"result", ShowAfterAll},
+    {"upr", PassOver},
+    {"ud", ShowAfterAll},
+
     // What is no text of the document. Paragraph numbers are not characters of
     // the text either.
+    {"NeXTGraphic", SkipDestination},
     {"annotation", SkipDestination},
     {"atnid", SkipDestination},
     {"bkmkend", SkipDestination},
@@ -131,9 +141,9 @@ constexpr RtfKeyword keywords[] = {
     {"listtable", SkipDestination},
     {"listtext", SkipDestination},
     {"nextfile", SkipDestination},
+    {"nonesttables", SkipDestination},
     {"nonshppict", SkipDestination},
     {"objdata", SkipDestination},
-    {"object", SkipDestination},
     {"panose", SkipDestination},
     {"pgptbl", SkipDestination},
     {"pict", SkipDestination},
@@ -191,6 +201,21 @@ bool hasName(const RtfKeyword &keyword, std::u16string_view name)
 }
 
 } // namespace
+
+bool isRtfDestination(RtfAction action)
+{
+    switch (action) {
+    case SkipDestination:
+    case ReadDestination:
+    case PassOver:
+    case ShowAfterAll:
+    case StartFontTable:
+    case StartColourTable:
+        return true;
+    default:
+        return false;
+    }
+}
 
 const RtfKeyword *findRtfKeyword(QStringView name)
 {

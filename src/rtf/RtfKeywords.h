@@ -14,6 +14,9 @@ enum class RtfAction {
     SetFallback,      // a fallback has N characters
     EndLine,          // of the text
     SkipDestination,  // the rest of the group is no text
+    ReadDestination,  // the rest of the group is part of the text around it
+    PassOver,         // the rest of the group is no text but for what is shown after all
+    ShowAfterAll,     // the rest of the group, inside one that is passed over, is text
     StartFontTable,   // the rest of the group describes fonts
     StartColourTable, // the rest of the group describes colours
     SetCodePage,      // N is the document's
@@ -49,6 +52,10 @@ struct RtfKeyword
     RtfAction action;
     quint32 value = 0;
 };
+
+// True for a word that says what its group is, which a reader that does not know
+// it may skip.
+bool isRtfDestination(RtfAction action);
 
 // The keyword of exactly that name; null where the reader does not know it.
 const RtfKeyword *findRtfKeyword(QStringView name);

@@ -28,7 +28,8 @@ void RtfFontTable::setCharset(qint32 charset)
 
 void RtfFontTable::setCodePage(qint32 codePage)
 {
-    m_entry.codePage = codePage;
+    if (codePage == 0 || isRtfCodePage(codePage))
+        m_entry.codePage = codePage;
 }
 
 void RtfFontTable::addCharacters(QStringView text)

@@ -52,9 +52,17 @@ TEST(RtfCodePages, takesAnUndefinedByteForAControlCharacterOrNone)
     EXPECT_EQ(plainText(u"{\\rtf1\\ansi\\ansicpg1253 \\'98\\'aa}"), u"\u0098\ufffd"_s);
 }
 
-TEST(RtfCodePages, givesTheReplacementCharacterInAPageThatItDoesNotKnow)
+TEST(RtfCodePages, takesAPageThatItDoesNotKnowForWindows1252)
 {
-    EXPECT_EQ(plainText(u"{\\rtf1\\ansi\\ansicpg12345 a\\'41\\'e4\\'ffb}"), u"aA\ufffd\ufffdb"_s);
+    EXPECT_EQ(plainText(u"{\\rtf1\\ansi\\ansicpg12345 a\\'41\\'e4\\'80b}"), u"aA\u00e4\u20acb"_s);
+    EXPECT_EQ(plainText(u"{\\rtf1\\mac\\ansicpg12345 \\'8a}"), u"\u0160"_s);
+}
+
+TEST(RtfCodePages, takesTheCharacterSetOfAFontOfAPageThatItDoesNotKnow)
+{
+    EXPECT_EQ(
+        plainText(u"{\\rtf1\\ansi\\ansicpg1251{\\fonttbl{\\f0\\fcharset161\\cpg12345 A;}}\\'e0}"),
+        u"\u03b0"_s);
 }
 
 TEST(RtfCodePages, readsUtf8)
@@ -89,6 +97,8 @@ TEST_P(PairPages, readsCharactersOfTwoBytesWhereQtKnowsThem)
 INSTANTIATE_TEST_SUITE_P(
     RtfCodePages, PairPages,
     testing::Values(PairPage{"windows-932", u"\\fcharset128", u"\\'83A\\'83\\'5c", u"\u30a2\u30bd"},
+                    PairPage{"windows-932", u"\\fcharset78", u"\\'83A\\'83\\'5c", u"\u30a2\u30bd"},
+                    PairPage{"windows-932", u"\\cpg10001", u"\\'83A\\'83\\'5c", u"\u30a2\u30bd"},
                     PairPage{"windows-936", u"\\fcharset134", u"\\'d6\\'d0\\'8a@", u"\u4e2d\u593d"},
                     PairPage{"windows-949", u"\\fcharset129", u"\\'b0\\'a1\\'81a", u"\uac00\uac35"},
                     PairPage{"windows-950", u"\\fcharset136", u"\\'a4\\'a4\\'a4@",
@@ -100,6 +110,12 @@ TEST(RtfCodePages, readsCharactersOfOneByteAmongPairs)
         GTEST_SKIP() << "this Qt has no decoder for code page 932";
     EXPECT_EQ(plainText(u"{\\rtf1\\ansicpg932 \\'b1\\'41\\'83}"), u"\uff71A\ufffd"_s);
     EXPECT_EQ(plainText(u"{\\rtf1\\ansicpg932 \\'83\\par\\'83\\b\\'5c}"), u"\ufffd\r\n\ufffd\\"_s);
+}
+
+TEST(RtfCodePages, readsTheCharactersThatAMacintoshAddedToJapanese)
+{
+    EXPECT_EQ(plainText(u"{\\rtf1\\mac\\ansicpg10001 \\'80\\'a0\\'fd\\'fe\\'ff}"),
+              u"\\\u00a0\u00a9\u2122\u2026"_s);
 }
 
 class SingleBytePages : public testing::TestWithParam<const char *>

@@ -98,6 +98,16 @@ TEST(RtfReader, readsATableAsTabsAndLines)
               u"a\tb\t\r\nc\td\t\r\ne"_s);
 }
 
+TEST(RtfReader, readsTablesInTablesOnce)
+{
+    EXPECT_EQ(bodyText(u"\\intbl\\itap2 a\\nestcell b\\nestcell"
+                       "{\\*\\nesttableprops\\trowd\\cellx1000\\cellx2000\\nestrow}"
+                       "{\\nonesttables a b\\par }"
+                       "c\\nestcell{\\*\\nesttableprops\\nestrow}{\\nonesttables\\par}"
+                       "\\itap1 d\\cell\\row e"),
+              u"a\tb\t\r\nc\t\r\nd\t\r\ne"_s);
+}
+
 TEST(RtfReader, takesOneBlankBehindAControlWord)
 {
     EXPECT_EQ(bodyText(u"a\\b b\\b0  c\\b\r\n d"), u"ab c d"_s);
@@ -179,6 +189,19 @@ TEST(RtfReader, skipsOptionalDestinationsThatItDoesNotKnow)
     EXPECT_EQ(bodyText(u"a{\\* b}e"), u"a be"_s);
 }
 
+TEST(RtfReader, takesAStarInsideAGroupForNothing)
+{
+    EXPECT_EQ(bodyText(u"{\\loch\\f2\\fs24\\lang1033\\*\\cs7\\cf0\\b a}b"), u"ab"_s);
+    EXPECT_EQ(bodyText(u"a\\*\\unknown b\\par c"), u"ab\r\nc"_s);
+    EXPECT_EQ(bodyText(u"a{b\\*\\unknown c}d"), u"abcd"_s);
+    EXPECT_EQ(bodyText(u"a{{}\\*\\unknown c}d"), u"acd"_s);
+}
+
+TEST(RtfReader, readsWhatAStarAllowsToSkip)
+{
+    EXPECT_EQ(bodyText(u"a{\\field{\\*\\fldinst X}{\\*\\fldrslt b}}c"), u"abc"_s);
+}
+
 class SkippedDestination : public testing::TestWithParam<const char *>
 {
 };
@@ -189,17 +212,16 @@ TEST_P(SkippedDestination, leavesNoTraceInTheText)
     EXPECT_EQ(bodyText(u"a{\\%1 x\\par\\'41\\u65?{y}\\}}b"_s.arg(name)), u"ab"_s);
 }
 
-INSTANTIATE_TEST_SUITE_P(RtfReader, SkippedDestination,
-                         testing::Values("pict", "object", "header", "headerl", "headerr",
-                                         "headerf", "footer", "footerl", "footerr", "footerf",
-                                         "stylesheet", "info", "fldinst", "footnote", "listtable",
-                                         "listoverridetable", "filetbl", "revtbl", "generator",
-                                         "themedata", "colorschememapping", "datastore",
-                                         "latentstyles", "rsidtbl", "xmlnstbl", "pgptbl", "fonttbl",
-                                         "colortbl", "template", "private", "userprops", "xe", "tc",
-                                         "pntext", "listtext", "shpinst", "shprslt", "nonshppict",
-                                         "bkmkstart", "ftnsep", "aftnsep", "comment"),
-                         [](const auto &each) { return std::string(each.param); });
+INSTANTIATE_TEST_SUITE_P(
+    RtfReader, SkippedDestination,
+    testing::Values("pict", "object", "header", "headerl", "headerr", "headerf", "footer",
+                    "footerl", "footerr", "footerf", "stylesheet", "info", "fldinst", "footnote",
+                    "listtable", "listoverridetable", "filetbl", "revtbl", "generator", "themedata",
+                    "colorschememapping", "datastore", "latentstyles", "rsidtbl", "xmlnstbl",
+                    "pgptbl", "fonttbl", "colortbl", "template", "private", "userprops", "xe", "tc",
+                    "pntext", "listtext", "shpinst", "shprslt", "nonshppict", "bkmkstart", "ftnsep",
+                    "aftnsep", "comment", "nonesttables", "upr", "NeXTGraphic"),
+    [](const auto &each) { return std::string(each.param); });
 
 TEST(RtfReader, showsTheResultOfAField)
 {
@@ -210,7 +232,19 @@ TEST(RtfReader, showsTheResultOfAField)
 TEST(RtfReader, showsTextThatIsStatedTwiceOnce)
 {
     EXPECT_EQ(bodyText(u"{\\upr{a}{\\*\\ud{\\u97?}}}b"), u"ab"_s);
+    EXPECT_EQ(bodyText(u"{\\upr{\\b ??\\par\\'41\\u97?{x}}{\\*\\ud{\\u945?\\b\\u946?}}}b"),
+              u"\u03b1\u03b2b"_s);
+    EXPECT_EQ(bodyText(u"{\\upr{?{\\upr{?}{\\*\\ud ?}}}{\\*\\ud a{\\upr{?}{\\*\\ud b}}c}}d"),
+              u"abcd"_s);
+    EXPECT_EQ(bodyText(u"{\\*\\ud a}b"), u"ab"_s);
     EXPECT_EQ(bodyText(u"{\\*\\shppict{\\pict 00}}{\\nonshppict{\\pict 00}}b"), u"b"_s);
+}
+
+TEST(RtfReader, showsTheResultOfAnObject)
+{
+    EXPECT_EQ(bodyText(u"a{\\object\\objemb{\\*\\objclass X}{\\*\\objdata 0102}"
+                       "{\\result {\\pict 00}b\\par c}x}d"),
+              u"ab\r\ncd"_s);
 }
 
 TEST(RtfReader, skipsHiddenAndDeletedText)

@@ -43,6 +43,21 @@ void setColourOf(QTextCharFormat &format, int property, qint32 colour)
         format.setProperty(property, QBrush(Colours::toColor(colour, {})));
 }
 
+// The toolkit's hash of a format is the sum of those of its properties: one number for
+// all font names, and for all colours of text and highlight whose numbers have one sum.
+void spread(QTextCharFormat &format)
+{
+    constexpr int property = QTextFormat::UserProperty + 2;
+    const Colour text = colourOf(format, QTextFormat::ForegroundBrush);
+    const Colour highlight = colourOf(format, QTextFormat::BackgroundBrush);
+    const QStringList families = format.fontFamilies().toStringList();
+    const bool hasBoth = text != RtfFormat::automatic && highlight != RtfFormat::automatic;
+    if (families.isEmpty() && !hasBoth)
+        return format.clearProperty(property);
+    const size_t hash = qHashMulti(QHashSeed::globalSeed(), families, text, highlight);
+    format.setProperty(property, static_cast<int>(hash));
+}
+
 } // namespace
 
 size_t qHash(const RtfFormat &format, size_t seed)
@@ -76,12 +91,33 @@ QTextCharFormat BoxFormats::charFormat(const RtfFormat &format)
     return *it;
 }
 
-QTextCharFormat BoxFormats::make(const RtfFormat &format) const
+void BoxFormats::forgetFonts()
+{
+    if (m_fonts.isEmpty())
+        return;
+    m_fonts.clear();
+    m_made.clear();
+}
+
+bool BoxFormats::takesFont(const QString &name, qint32 halfPoints)
+{
+    const std::pair font(name, halfPoints);
+    if (m_fonts.size() < maximumFonts)
+        m_fonts.insert(font);
+    return m_fonts.contains(font);
+}
+
+QTextCharFormat BoxFormats::make(const RtfFormat &format)
 {
     QTextCharFormat made;
-    if (!format.fontName.isEmpty() && !sameFamily(format.fontName, m_base.fontName))
+    const bool isNamed =
+        !format.fontName.isEmpty() && !sameFamily(format.fontName, m_base.fontName);
+    const bool isSized = format.halfPoints > 0 && format.halfPoints != m_base.halfPoints;
+    const bool isTaken = (isNamed || isSized) && takesFont(isNamed ? format.fontName : QString(),
+                                                           isSized ? format.halfPoints : 0);
+    if (isNamed && isTaken)
         made.setFontFamilies({format.fontName});
-    if (format.halfPoints > 0 && format.halfPoints != m_base.halfPoints)
+    if (isSized && isTaken)
         made.setFontPointSize(format.halfPoints / 2.0);
     if (format.bold != m_base.bold)
         made.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
@@ -93,6 +129,7 @@ QTextCharFormat BoxFormats::make(const RtfFormat &format) const
         made.setFontStrikeOut(format.strike);
     setColourOf(made, QTextFormat::ForegroundBrush, format.colour);
     setColourOf(made, QTextFormat::BackgroundBrush, format.backColour);
+    spread(made);
     return made;
 }
 
@@ -124,6 +161,7 @@ Colour BoxFormats::colour(const QTextCharFormat &format)
 void BoxFormats::setColour(QTextCharFormat &format, Colour colour)
 {
     setColourOf(format, QTextFormat::ForegroundBrush, colour);
+    spread(format);
 }
 
 QTextCharFormat BoxFormats::formatAt(const QTextCursor &cursor)

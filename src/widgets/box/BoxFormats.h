@@ -5,8 +5,11 @@
 #include <ORVTListview/Export.h>
 
 #include <QtCore/QHash>
+#include <QtCore/QSet>
 #include <QtGui/QFont>
 #include <QtGui/QTextCharFormat>
+
+#include <utility>
 
 class QTextCursor;
 
@@ -20,6 +23,10 @@ size_t qHash(const RtfFormat &format, size_t seed = 0);
 class ORVT_EXPORT BoxFormats
 {
 public:
+    // Fonts other than the box's, each a name and a size, that it takes from when it is
+    // empty on. Text in a further one gets the box's.
+    static constexpr qsizetype maximumFonts = 512;
+
     void setFont(const QFont &font);
 
     // What text shows that states nothing.
@@ -27,6 +34,9 @@ public:
 
     // The font's size in points, also of a font given in pixels.
     double pointSize() const { return m_pointSize; }
+
+    // The box is empty.
+    void forgetFonts();
 
     QTextCharFormat charFormat(const RtfFormat &format);
     RtfFormat rtfFormat(const QTextCharFormat &format) const;
@@ -39,10 +49,12 @@ public:
     static void setColour(QTextCharFormat &format, Colour colour);
 
 private:
-    QTextCharFormat make(const RtfFormat &format) const;
+    bool takesFont(const QString &name, qint32 halfPoints); // as stated
+    QTextCharFormat make(const RtfFormat &format);
 
     RtfFormat m_base;
     double m_pointSize = 0;
+    QSet<std::pair<QString, qint32>> m_fonts;
     QHash<RtfFormat, QTextCharFormat> m_made; // each format is asked for many times
 };
 

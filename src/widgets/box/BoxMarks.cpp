@@ -15,14 +15,34 @@ bool isMark(QChar character)
     return character == u'\ufdd0' || character == u'\ufdd1';
 }
 
-bool needsCare(QChar character)
+// A font that kerns soft hyphens looks behind each of them for all that follow. So
+// many in a row go without.
+constexpr qsizetype manyHyphens = 32;
+
+QStringView hyphensAt(QStringView text)
 {
-    return character.isNull() || isMark(character);
+    const auto isOther = [](QChar c) { return c != QChar::SoftHyphen; };
+    return text.first(std::find_if(text.begin(), text.end(), isOther) - text.begin());
 }
 
-bool isHandledByInsert(QChar character)
+// Where the first of many stand; the length where none do.
+qsizetype findManyHyphens(QStringView text)
 {
-    return needsCare(character) || character == u'\r';
+    qsizetype at = 0;
+    while ((at = text.indexOf(QChar(QChar::SoftHyphen), at)) >= 0) {
+        const qsizetype length = hyphensAt(text.sliced(at)).size();
+        if (length >= manyHyphens)
+            return at;
+        at += length;
+    }
+    return text.size();
+}
+
+bool needsCare(QStringView text)
+{
+    const auto isParticular = [](QChar c) { return c.isNull() || isMark(c); };
+    return std::any_of(text.begin(), text.end(), isParticular) ||
+           findManyHyphens(text) < text.size();
 }
 
 QTextCharFormat withMark(const QTextCharFormat &format, QChar mark)
@@ -30,6 +50,21 @@ QTextCharFormat withMark(const QTextCharFormat &format, QChar mark)
     QTextCharFormat marked = format;
     marked.setProperty(markProperty, mark);
     return marked;
+}
+
+void insertUnmarked(QTextCursor &cursor, QStringView text, const QTextCharFormat &format)
+{
+    QTextCharFormat unkerned = format;
+    unkerned.setFontKerning(false);
+    while (!text.isEmpty()) {
+        const qsizetype before = findManyHyphens(text);
+        const qsizetype many = hyphensAt(text.sliced(before)).size();
+        if (before > 0)
+            cursor.insertText(text.first(before).toString(), format);
+        if (many > 0)
+            cursor.insertText(text.sliced(before, many).toString(), unkerned);
+        text = text.sliced(before + many);
+    }
 }
 
 void insertPieces(QTextCursor &cursor, QStringView text, const QTextCharFormat &format)
@@ -43,7 +78,7 @@ void insertPieces(QTextCursor &cursor, QStringView text, const QTextCharFormat &
         if (marked)
             cursor.insertText(QString(length, QChar(standIn)), withMark(format, text.front()));
         else
-            cursor.insertText(text.first(length).toString(), format);
+            insertUnmarked(cursor, text.first(length), format);
         text = text.sliced(length);
     }
 }
@@ -54,7 +89,8 @@ void BoxMarks::insert(QTextCursor &cursor, QStringView text, const QTextCharForm
 {
     QTextCharFormat plain = format;
     plain.clearProperty(markProperty);
-    if (std::none_of(text.begin(), text.end(), needsCare)) {
+    plain.clearProperty(QTextFormat::FontKerning);
+    if (!needsCare(text)) {
         cursor.insertText(text.toString(), plain);
         return;
     }
@@ -68,7 +104,7 @@ void BoxMarks::insert(QTextCursor &cursor, QStringView text, const QTextCharForm
 
 bool BoxMarks::isPlain(QStringView text)
 {
-    return std::none_of(text.begin(), text.end(), isHandledByInsert);
+    return !text.contains(u'\r') && !needsCare(text);
 }
 
 bool BoxMarks::mayBeIn(QStringView text)

@@ -8,7 +8,8 @@ namespace ORVTListview {
 
 // A document takes U+FDD0 and U+FDD1 for frame marks and would turn them into
 // line ends. Text that holds them is stored with another character in their
-// place, whose format says what it stands for.
+// place, whose format says what it stands for. Many soft hyphens in a row, which some
+// fonts take long to lay out, get a format without kerning.
 namespace BoxMarks {
 
 // Inserts text at the cursor's position, character for character but for NUL,
@@ -16,7 +17,7 @@ namespace BoxMarks {
 // the format.
 void insert(QTextCursor &cursor, QStringView text, const QTextCharFormat &format);
 
-// True when insert() stores the text as it is, one character for each.
+// True when insert() stores the text as it is, one character for each, in the format.
 bool isPlain(QStringView text);
 
 // False when a document's text is as it was inserted, so that nothing is to be put

@@ -2,6 +2,8 @@
 
 #include "widgets/box/BoxMarks.h"
 
+#include <QtGui/QTextDocument>
+
 #include <algorithm>
 #include <utility>
 
@@ -31,6 +33,8 @@ BoxSink::BoxSink(QTextCursor &cursor, BoxFormats &formats)
 {
     m_cursor.beginEditBlock();
     m_cursor.removeSelectedText();
+    if (m_cursor.document()->isEmpty())
+        m_formats.forgetFonts();
     setFormat(m_formats.base());
 }
 

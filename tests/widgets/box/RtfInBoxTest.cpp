@@ -31,6 +31,10 @@ private Q_SLOTS:
     void linesEndWithoutAColour();
     void aBrokenDocumentGivesWhatItHad();
     void pendingColoursAreDropped();
+    void furtherFontsAreTheBoxes();
+    void fontsCountAnewInAnEmptyBox_data();
+    void fontsCountAnewInAnEmptyBox();
+    void manySoftHyphensAreNotKerned();
 };
 
 namespace {
@@ -45,6 +49,30 @@ QString colourTable()
 ColouredText all(const RichTextBox &box)
 {
     return box.coloured(0, box.TextLength());
+}
+
+// As many fonts as a box takes, each name in eight sizes.
+constexpr int fontCount = 512;
+
+// A letter in each of the fonts from `first` on, all bold and red.
+QString lettersInFonts(int first, int count)
+{
+    const auto name = [](int font) { return font / 8; };
+    QString table, letters;
+    for (int font = first; font < first + count; ++font) {
+        if (font == first || font % 8 == 0)
+            table += u"{\\f%1 Font %1;}"_s.arg(name(font));
+        letters += u"\\f%1\\fs%2 a"_s.arg(name(font)).arg(40 + font % 8);
+    }
+    return u"{\\rtf1{\\fonttbl%1}{\\colortbl ;\\red255\\green0\\blue0;}\\b\\cf1 %2}"_s.arg(table,
+                                                                                           letters);
+}
+
+QTextCharFormat formatOfLetter(const RichTextBox &box, int index)
+{
+    QTextCursor cursor(box.document());
+    cursor.setPosition(index + 1);
+    return cursor.charFormat();
 }
 
 } // namespace
@@ -299,6 +327,77 @@ void RtfInBoxTest::pendingColoursAreDropped()
     box.setText(u"ab"_s);
     QTest::keyClicks(&box, u"c"_s);
     QVERIFY(all(box) == (ColouredText{u"cab"_s, {{3, -1}}}));
+}
+
+void RtfInBoxTest::furtherFontsAreTheBoxes()
+{
+    RichTextBox box;
+    box.setTextRTF(lettersInFonts(0, fontCount + 20));
+    QCOMPARE(box.TextLength(), fontCount + 20);
+    QVERIFY(all(box) == (ColouredText{QString(fontCount + 20, u'a'), {{fontCount + 20, 0xff}}}));
+    for (int font = 0; font < fontCount + 20; ++font) {
+        const QTextCharFormat format = formatOfLetter(box, font);
+        const bool isKept = font < fontCount;
+        QCOMPARE(format.hasProperty(QTextFormat::FontFamilies), isKept);
+        QCOMPARE(format.hasProperty(QTextFormat::FontPointSize), isKept);
+        QCOMPARE(format.fontWeight(), int(QFont::Bold));
+    }
+
+    // Those that are there can be put in again, others cannot.
+    box.setSelStart(0);
+    box.setSelRTF(lettersInFonts(fontCount - 1, 2));
+    QCOMPARE(formatOfLetter(box, 0).fontPointSize(), 23.5);
+    QVERIFY(!formatOfLetter(box, 1).hasProperty(QTextFormat::FontPointSize));
+}
+
+void RtfInBoxTest::fontsCountAnewInAnEmptyBox_data()
+{
+    QTest::addColumn<bool>("selected");
+    QTest::newRow("the whole text set") << false;
+    QTest::newRow("the whole text selected") << true;
+}
+
+void RtfInBoxTest::fontsCountAnewInAnEmptyBox()
+{
+    QFETCH(bool, selected);
+    RichTextBox box;
+    for (int round = 0; round < 3; ++round) {
+        const QString rtf = lettersInFonts(round * fontCount, fontCount);
+        if (selected) {
+            box.selectAll();
+            box.setSelRTF(rtf);
+        } else {
+            box.setTextRTF(rtf);
+        }
+        for (int font = 0; font < fontCount; ++font)
+            QVERIFY(formatOfLetter(box, font).hasProperty(QTextFormat::FontFamilies));
+    }
+}
+
+// Fonts that kern them look behind each for all that follow.
+void RtfInBoxTest::manySoftHyphensAreNotKerned()
+{
+    const QString few = u"A"_s + QString(31, QChar::SoftHyphen) + u"V"_s;
+    const QString many = u"A"_s + QString(1000, QChar::SoftHyphen) + u"V"_s;
+    RichTextBox box;
+    const auto isKerned = [&](int index) { return formatOfLetter(box, index).font().kerning(); };
+    const auto check = [&] {
+        QCOMPARE(box.Text(), few + many);
+        for (const int index : {0, 1, 31, 32, 33, 33 + 1001})
+            QVERIFY2(isKerned(index), qPrintable(QString::number(index)));
+        for (const int index : {34, 500, 33 + 1000})
+            QVERIFY2(!isKerned(index), qPrintable(QString::number(index)));
+    };
+    box.setText(few + many);
+    check();
+    box.setTextRTF(box.TextRTF());
+    check();
+    box.setColoured({few + many, {{600, 0xff}}});
+    check();
+    QVERIFY(all(box) == (ColouredText{few + many, {{600, 0xff}, {many.size() - 567, -1}}}));
+    box.setSelStart(500);
+    QTest::keyClicks(&box, u"x"_s);
+    QVERIFY(isKerned(500));
 }
 
 QTEST_MAIN(RtfInBoxTest)
