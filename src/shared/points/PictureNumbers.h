@@ -10,16 +10,16 @@ namespace ORVTListview {
 enum PictureNumber : qint16 {
     NoPicture = 0,
     FanInPicture = 61,
-    TimeWordPicture = 62,
-    FunctionPicture = 63,
-    KeywordPicture = 64,
-    OtherWordPicture = 65,
-    ConstantPicture = 66,
-    VariablePicture = 67,
-    InputPicture = 68,
-    OutputPicture = 69,
-    NvoPicture = 70,
-    NviPicture = 71,
+    TimeWordPicture,
+    FunctionPicture,
+    KeywordPicture,
+    OtherWordPicture,
+    ConstantPicture,
+    VariablePicture,
+    InputPicture,
+    OutputPicture,
+    NvoPicture,
+    NviPicture,
 };
 
 } // namespace ORVTListview

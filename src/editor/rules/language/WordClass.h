@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include <ORVTListview/Types.h>
 
 namespace ORVTListview {
@@ -22,14 +23,14 @@ enum class WordClass : qint8 {
 // Indexes into the editor's RTF colour table.
 enum ColourIndex : qint16 {
     AutomaticColour = 0,
-    BackgroundColour = 1,
-    CommentColour = 2,
-    ConstantColour = 3,
-    InputColour = 4,
-    OutputColour = 5,
-    ReservedWordColour = 6,
-    VariableColour = 7,
-    NviColour = 8,
+    BackgroundColour,
+    CommentColour,
+    ConstantColour,
+    InputColour,
+    OutputColour,
+    ReservedWordColour,
+    VariableColour,
+    NviColour,
 };
 
 constexpr int colourSlots = 8;
@@ -44,15 +45,15 @@ struct ClassStyle
     friend bool operator==(const ClassStyle &, const ClassStyle &) = default;
 };
 
-ORVT_CORE_EXPORT ClassStyle styleOf(WordClass wordClass, const RichTextSettings &settings);
+ORVT_HOUSE_EXPORT ClassStyle styleOf(WordClass wordClass, const RichTextSettings &settings);
 
 // The style of a point type's names. For types whose names are no class of their
 // own Style is left as it is.
-ORVT_CORE_EXPORT void ClassStyleForType(qint32 TypeIndex, const RichTextSettings &settings,
-                                        ClassStyle &Style);
+ORVT_HOUSE_EXPORT void ClassStyleForType(qint32 TypeIndex, const RichTextSettings &settings,
+                                         ClassStyle &Style);
 
 // The colour that a slot of the RTF colour table takes from the settings; slot
 // runs from 1 to colourSlots.
-ORVT_CORE_EXPORT Colour colourOfSlot(int slot, const RichTextSettings &settings);
+Colour colourOfSlot(int slot, const RichTextSettings &settings);
 
 } // namespace ORVTListview
