@@ -8,6 +8,7 @@
 #include <ORVTListview/DataObject.h>
 #include <ORVTListview/SettingsStore.h>
 
+#include <QtCore/QSet>
 #include <QtGui/QKeyEvent>
 
 #include <vector>

@@ -8,7 +8,9 @@
 #include "support/WidgetTest.h"
 #include <ORVTListview/SettingsStore.h>
 
+#include <QtCore/QHash>
 #include <QtCore/QMetaMethod>
+#include <QtCore/QSet>
 #include <QtWidgets/QApplication>
 
 #include <stdexcept>

@@ -5,6 +5,7 @@
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QShortcut>
 
 using namespace ORVTListview;

@@ -7,6 +7,7 @@
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
+#include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>
 
 using namespace ORVTListview;

@@ -9,6 +9,7 @@
 #include <QtCore/QMimeData>
 #include <QtCore/QTimer>
 #include <QtGui/QDropEvent>
+#include <QtGui/QKeyEvent>
 
 #include <array>
 #include <vector>

@@ -3,6 +3,7 @@
 #include <ORVTListview/Error.h>
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtWidgets/QFileDialog>
 
 using namespace Qt::StringLiterals;

@@ -12,6 +12,7 @@
 #include <QtWidgets/QListView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
+#include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
 #include <utility>

@@ -4,6 +4,7 @@
 
 #include "support/QtPrinters.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 

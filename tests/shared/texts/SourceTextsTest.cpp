@@ -7,6 +7,7 @@
 #include <ORVTListview/LibraryTexts.h>
 #include <ORVTListview/TextProvider.h>
 
+#include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QSet>

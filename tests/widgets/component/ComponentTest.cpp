@@ -127,3 +127,5 @@ void ComponentTest::survivesACallThatDestroysIt()
 
 QTEST_MAIN(ComponentTest)
 #include "ComponentTest.moc"
+
+#include <QtCore/QPointer>

@@ -3,6 +3,7 @@
 #include "members/EventDelivery.h"
 #include "support/QtPrinters.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 
 #include <functional>

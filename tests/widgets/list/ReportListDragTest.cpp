@@ -5,6 +5,7 @@
 #include <QtCore/QMimeData>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
+#include <QtTest/QTest>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;

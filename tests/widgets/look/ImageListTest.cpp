@@ -3,6 +3,7 @@
 #include <ORVTListview/ImageList.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QPixmapCache>
 #include <QtTest/QTest>

@@ -3,6 +3,7 @@
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>
 
+#include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 
 #include <map>

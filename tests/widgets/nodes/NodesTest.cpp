@@ -473,3 +473,5 @@ void NodesTest::showsColours()
 
 QTEST_MAIN(NodesTest)
 #include "NodesTest.moc"
+
+#include <QtTest/QSignalSpy>
