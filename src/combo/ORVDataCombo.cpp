@@ -7,6 +7,7 @@
 #include "shared/texts/TextTable.h"
 #include "widgets/combo/ImageCombo.h"
 #include "widgets/component/ToldProperties.h"
+#include "widgets/input/RaisedDrags.h"
 #include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Colours.h"
 #include "widgets/look/Pictures.h"
@@ -88,7 +89,7 @@ void ORVDataCombo::relayEvents()
     connect(combo, &ImageCombo::DblClick, this, &ORVDataCombo::DblClick);
     connect(combo, &ImageCombo::picked, this, &ORVDataCombo::picked);
     relayKeys(combo, this);
-    relayDrags(combo, this);
+    raiseDrags(combo->drags(), *this);
 }
 
 void ORVDataCombo::FillDataListview(LwType TypeIndex, PointCollection *, QString &ErrMsg)

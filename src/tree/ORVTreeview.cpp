@@ -13,6 +13,7 @@
 #include "tree/rules/PointCounts.h"
 #include "tree/rules/TypeCollections.h"
 #include "widgets/component/ToldProperties.h"
+#include "widgets/input/RaisedDrags.h"
 #include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Pictures.h"
 #include "widgets/nodes/NodeTree.h"
@@ -95,7 +96,7 @@ void ORVTreeview::forwardEvents()
     connect(tree, &NodeTree::NodeCheck, this, &ORVTreeview::NodeCheck);
     connect(tree, &NodeTree::NodeClick, this, [this] { d->told.tell(*this); });
     connect(tree, &NodeTree::NodeClick, this, &ORVTreeview::NodeClick);
-    relayDrags(tree, this);
+    raiseDrags(tree->drags(), *this);
 }
 
 void ORVTreeview::tellSelection()

@@ -4,7 +4,6 @@
 #include "widgets/combo/ImageComboAccess.h"
 #include "widgets/combo/ImageComboParts.h"
 #include "widgets/input/FieldMenu.h"
-#include "widgets/input/RaisedDrags.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>
 
@@ -80,7 +79,6 @@ void ImageCombo::setUpField()
 void ImageCombo::setUpDrag()
 {
     d->drag.setContent([this](QMimeData &dragged) { dragged.setText(text()); });
-    raiseDrags(d->drag, *this);
 }
 
 void ImageCombo::setImageList(const ImageList *images)
@@ -190,6 +188,11 @@ void ImageCombo::changeEvent(QEvent *event)
     QComboBox::changeEvent(event);
     if (d && event->type() == QEvent::PaletteChange)
         colourField(); // the base has given the field its own
+}
+
+const DragEvents &ImageCombo::drags() const
+{
+    return d->drag;
 }
 
 bool ImageCombo::dragsEntry() const

@@ -2,9 +2,6 @@
 
 #include "widgets/combo/ComboEntry.h"
 
-#include <ORVTListview/DataObject.h>
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QList>
 #include <QtGui/QColor>
 #include <QtWidgets/QComboBox>
@@ -16,6 +13,7 @@ class QListView;
 
 namespace ORVTListview {
 
+class DragEvents;
 class ImageList;
 struct ImageComboParts;
 
@@ -31,7 +29,7 @@ struct ImageComboParts;
 // A receiver may do anything in an event, destroying the combo included. What the
 // program changes raises no event, but for Change at setText.
 // Why it is so: docs/decisions/combo.md.
-class ORVT_EXPORT ImageCombo : public QComboBox
+class ImageCombo : public QComboBox
 {
     Q_OBJECT
     Q_PROPERTY(bool dragsEntry READ dragsEntry WRITE setDragsEntry)
@@ -78,6 +76,9 @@ public:
     void showPopup() override;
     void hidePopup() override;
 
+    // Raises the events of drags from here and onto it.
+    const DragEvents &drags() const;
+
 Q_SIGNALS:
     // The text was typed or set; not when an entry was chosen.
     void Change();
@@ -99,16 +100,6 @@ Q_SIGNALS:
     // value is typed in its place.
     void KeyPress(qint16 &KeyAscii);
     void KeyUp(qint16 &KeyCode, qint16 &Shift);
-
-    // As for other controls; see DragEvents.
-    void OLECompleteDrag(qint32 Effect);
-    void OLEDragDrop(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y);
-    void OLEDragOver(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y, qint16 State);
-    void OLEGiveFeedback(qint32 Effect, bool &DefaultCursors);
-    void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
-    void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
 
     // For the control around the combo, which is not to be destroyed here. The focus
     // has gone to another control, and the list was not what took it.

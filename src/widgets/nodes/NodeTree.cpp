@@ -1,6 +1,5 @@
 #include "widgets/nodes/NodeTree.h"
 
-#include "widgets/input/RaisedDrags.h"
 #include "widgets/nodes/NodeTreeBody.h"
 
 #include <QtCore/QMimeData>
@@ -70,7 +69,6 @@ void NodeTree::setUpDrag()
         if (const Node *node = draggedNode())
             content.setData(nodeMimeType(), node->Key().toUtf8());
     });
-    raiseDrags(d->surface.drag(), *this);
 }
 
 Nodes *NodeTree::Nodes() const
@@ -117,6 +115,11 @@ Node *NodeTree::HitTest(float X, float Y) const
 Node *NodeTree::nodeAt(QPoint place) const
 {
     return handleOf(d->surface.indexAt(place));
+}
+
+const DragEvents &NodeTree::drags() const
+{
+    return d->surface.drag();
 }
 
 void NodeTree::OLEDrag()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ORVTListview/DataObject.h>
 #include <ORVTListview/Node.h>
 
 #include <QtWidgets/QTreeView>
@@ -10,6 +9,7 @@
 
 namespace ORVTListview {
 
+class DragEvents;
 class DropTarget;
 class Nodes;
 struct NodeTreeBody;
@@ -28,7 +28,7 @@ struct NodeTreeBody;
 // Keys: arrows, Home, End, Page Up and Down go through the nodes, Right and Left
 // expand and collapse; letters go to the next node that begins with them; F2 and a
 // slow second click on a node edit its text; Tab leaves the tree.
-class ORVT_EXPORT NodeTree : public QTreeView
+class NodeTree : public QTreeView
 {
     Q_OBJECT
     Q_PROPERTY(bool checkBoxes READ hasCheckBoxes WRITE setCheckBoxes)
@@ -48,7 +48,7 @@ public:
 
     // Between its making and its end nodes are added as one change. Nothing but
     // Nodes::Add and the setters of text and tag may be called meanwhile.
-    class ORVT_EXPORT Filling
+    class Filling
     {
     public:
         explicit Filling(NodeTree &tree);
@@ -107,6 +107,9 @@ public:
     bool editsLabels() const;
     void setEditsLabels(bool on);
 
+    // Raises the events of drags from here and onto it.
+    const DragEvents &drags() const;
+
 Q_SIGNALS:
     // NewString is what was entered. Cancel other than 0 drops it; a changed
     // NewString is used in its place. Raised soon after the editor has closed.
@@ -136,16 +139,6 @@ Q_SIGNALS:
 
     // A node was pressed with the left or right button, or reached by keyboard.
     void NodeClick(ORVTListview::Node *Node);
-
-    // As those of ReportList.
-    void OLECompleteDrag(qint32 Effect);
-    void OLEDragDrop(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y);
-    void OLEDragOver(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y, qint16 State);
-    void OLEGiveFeedback(qint32 Effect, bool &DefaultCursors);
-    void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
-    void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
 
 protected:
     bool event(QEvent *event) override;

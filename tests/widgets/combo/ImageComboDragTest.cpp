@@ -2,6 +2,7 @@
 // mouse events.
 
 #include "widgets/combo/ImageComboFixture.h"
+#include "widgets/input/DragEvents.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QRegularExpression>
@@ -19,22 +20,22 @@ class DragLog : public QObject
 public:
     explicit DragLog(ImageCombo *combo)
     {
-        connect(combo, &ImageCombo::OLEStartDrag, this,
+        connect(&combo->drags(), &DragEvents::OLEStartDrag, this,
                 [this](DataObject *, qint32 &effects) { note(u"start %1"_s.arg(effects)); });
-        connect(combo, &ImageCombo::OLEDragOver, this,
+        connect(&combo->drags(), &DragEvents::OLEDragOver, this,
                 [this](DataObject *, qint32 &effect, qint16, qint16, float, float, qint16 state) {
                     note(u"over %1 state %2"_s.arg(effect).arg(state));
                 });
         connect(
-            combo, &ImageCombo::OLEDragDrop, this,
+            &combo->drags(), &DragEvents::OLEDragDrop, this,
             [this](DataObject *data, qint32 &effect, qint16, qint16, float, float) {
                 note(u"drop %1 %2"_s.arg(effect).arg(data->GetData(DataObject::Text).toString()));
             });
-        connect(combo, &ImageCombo::OLEGiveFeedback, this,
+        connect(&combo->drags(), &DragEvents::OLEGiveFeedback, this,
                 [this](qint32 effect, bool &) { note(u"feedback %1"_s.arg(effect)); });
-        connect(combo, &ImageCombo::OLESetData, this,
+        connect(&combo->drags(), &DragEvents::OLESetData, this,
                 [this](DataObject *, qint16) { note(u"set"_s); });
-        connect(combo, &ImageCombo::OLECompleteDrag, this,
+        connect(&combo->drags(), &DragEvents::OLECompleteDrag, this,
                 [this](qint32 effect) { note(u"complete %1"_s.arg(effect)); });
     }
 
@@ -150,14 +151,15 @@ void ImageComboDragTest::makesPromisedData()
     shown->setDragsEntry(true);
     shown->setAcceptDrops(true);
     const qint16 format = DataObject::FormatNumber(u"application/x-point"_s);
-    connect(shown.combo, &ImageCombo::OLEStartDrag, this,
+    connect(&shown.combo->drags(), &DragEvents::OLEStartDrag, this,
             [format](DataObject *data, qint32 &) { data->SetData({}, format); });
-    connect(shown.combo, &ImageCombo::OLESetData, this, [format](DataObject *data, qint16 wanted) {
-        if (wanted == format)
-            data->SetData(QByteArray("made"), format);
-    });
+    connect(&shown.combo->drags(), &DragEvents::OLESetData, this,
+            [format](DataObject *data, qint16 wanted) {
+                if (wanted == format)
+                    data->SetData(QByteArray("made"), format);
+            });
     QVariant dropped;
-    connect(shown.combo, &ImageCombo::OLEDragDrop, this,
+    connect(&shown.combo->drags(), &DragEvents::OLEDragDrop, this,
             [&](DataObject *data, qint32 &) { dropped = data->GetData(format); });
     drag(shown, {shown.picture(), shown.inField()});
     QCOMPARE(dropped.toByteArray(), QByteArray("made"));
@@ -171,7 +173,8 @@ void ImageComboDragTest::leavesTheTextToTheHost()
     drag(shown, {shown.picture(), shown.inField()}); // takes no drops
     QCOMPARE(shown->text(), u"Humidity"_s);
     shown->setAcceptDrops(true);
-    connect(shown.combo, &ImageCombo::OLEDragDrop, this, [&] { shown->setText(u"by the host"_s); });
+    connect(&shown.combo->drags(), &DragEvents::OLEDragDrop, this,
+            [&] { shown->setText(u"by the host"_s); });
     drag(shown, {shown.picture(), shown.inField()});
     QCOMPARE(shown->text(), u"by the host"_s);
 }
@@ -213,15 +216,15 @@ void ImageComboDragTest::bearsAnythingInADragEvent()
         if (event == (state == 0 ? u"enter"_s : state == 1 ? u"leave"_s : u"over"_s))
             act();
     };
-    connect(shown.combo, &ImageCombo::OLEDragOver, this, overAct);
+    connect(&shown.combo->drags(), &DragEvents::OLEDragOver, this, overAct);
     if (event == u"start"_s)
-        connect(shown.combo, &ImageCombo::OLEStartDrag, this, act);
+        connect(&shown.combo->drags(), &DragEvents::OLEStartDrag, this, act);
     else if (event == u"drop"_s)
-        connect(shown.combo, &ImageCombo::OLEDragDrop, this, act);
+        connect(&shown.combo->drags(), &DragEvents::OLEDragDrop, this, act);
     else if (event == u"feedback"_s)
-        connect(shown.combo, &ImageCombo::OLEGiveFeedback, this, act);
+        connect(&shown.combo->drags(), &DragEvents::OLEGiveFeedback, this, act);
     else if (event == u"complete"_s)
-        connect(shown.combo, &ImageCombo::OLECompleteDrag, this, act);
+        connect(&shown.combo->drags(), &DragEvents::OLECompleteDrag, this, act);
     const QPoint field = shown.inField();
     drag(shown, {shown.picture(), field, QPoint(5, 5), field});
     QVERIFY(done);
