@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
-
 #include <QtCore/QString>
 
 #include <chrono>
@@ -13,7 +11,7 @@ namespace ORVTListview {
 // lock ends with the process that holds it, however that ends. Its file is
 // created where missing, stays empty and is never removed: removing it could
 // leave two holders.
-class ORVT_CORE_EXPORT FileLock
+class FileLock
 {
 public:
     // Waits for a lock held elsewhere, but no longer than patience.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QFile>
@@ -12,7 +12,7 @@ namespace ORVTListview {
 // content or the new one whole. The file behind a link is replaced, not the link.
 // Nothing is ever written into the file itself, so a folder that takes no new
 // file keeps its files as they are.
-class ORVT_CORE_EXPORT FileReplacement
+class ORVT_HOUSE_EXPORT FileReplacement
 {
 public:
     enum class Fault {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -23,7 +23,7 @@ struct Message
 // Where every message to the user goes. The service in force is told of each
 // message and decides what is shown; one that shows boxes can use a batch to
 // show equal messages of one operation once.
-class ORVT_CORE_EXPORT MessageService
+class ORVT_HOUSE_EXPORT MessageService
 {
 public:
     MessageService() = default;
@@ -37,7 +37,7 @@ public:
 
 // The service of one user-interface thread. Never null: without an installed
 // service messages go to the log.
-class ORVT_CORE_EXPORT Messages
+class ORVT_HOUSE_EXPORT Messages
 {
 public:
     Messages();
@@ -69,7 +69,7 @@ private:
 // batch. A message box runs the event loop, in which the user and the host may do
 // anything: around what holds a text, or a place in it, stands one of these, made
 // before any other guard.
-class ORVT_CORE_EXPORT MessagesLater
+class ORVT_HOUSE_EXPORT MessagesLater
 {
 public:
     explicit MessagesLater(Messages &messages);
@@ -81,7 +81,7 @@ private:
 };
 
 // Equal messages shown while one of these lives may be merged by the service.
-class ORVT_CORE_EXPORT MessageBatch
+class ORVT_HOUSE_EXPORT MessageBatch
 {
 public:
     explicit MessageBatch(MessageService &service);

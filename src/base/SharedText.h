@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
-
 #include <QtCore/QList>
 #include <QtCore/QSet>
 #include <QtCore/QString>
@@ -13,7 +11,7 @@ namespace ORVTListview {
 // too. Made for many states of one long text: what two of them have in common is
 // in memory once. Positions are UTF-16 units from 0; a piece may end inside a
 // surrogate pair.
-class ORVT_CORE_EXPORT SharedText
+class SharedText
 {
 public:
     SharedText() = default;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QString>
 #include <QtCore/QVarLengthArray>
@@ -17,31 +17,31 @@ constexpr bool isBlank(QChar c)
 }
 
 // The text without leading and trailing spaces (U+0020 only).
-ORVT_CORE_EXPORT QStringView trimmedSpaces(QStringView text);
+QStringView trimmedSpaces(QStringView text);
 
 // Numeric, in every locale alike: blanks (spaces, tabs) around an optional sign,
 // digits with an optional decimal point on either side or between them, and an
 // optional exponent ("E", optional sign, digits).
-ORVT_CORE_EXPORT bool isNumeric(QStringView text);
+ORVT_HOUSE_EXPORT bool isNumeric(QStringView text);
 
 // "true" or "false" in any letter case, or a numeric text, where only zero is
 // false. None for anything else.
-ORVT_CORE_EXPORT std::optional<bool> toBoolean(QStringView text);
+std::optional<bool> toBoolean(QStringView text);
 
 // The text in a form in which texts that differ in letter case only are equal: those
 // that QString::toUpper makes equal, by which hosts key their collections. The form may
 // be longer than the text. A to Z are small in it, so that "_" sorts before letters.
 // Why it is so: docs/decisions/collections.md.
 using FoldedText = QVarLengthArray<char16_t, 64>;
-ORVT_CORE_EXPORT void foldCase(QStringView text, FoldedText &folded);
-ORVT_CORE_EXPORT QString foldedCase(QStringView text);
-ORVT_CORE_EXPORT bool isSameWord(QStringView a, QStringView b);
+void foldCase(QStringView text, FoldedText &folded);
+ORVT_HOUSE_EXPORT QString foldedCase(QStringView text);
+ORVT_HOUSE_EXPORT bool isSameWord(QStringView a, QStringView b);
 
 // The text with every line end (CR LF, CR or LF) written as CR LF.
-ORVT_CORE_EXPORT QString withCrLf(const QString &text);
+ORVT_HOUSE_EXPORT QString withCrLf(const QString &text);
 
 // The text as a rich-text box gives it back: every line end, U+2029 too, as CR LF,
 // and no NUL.
-ORVT_CORE_EXPORT QString asInBox(QString text);
+ORVT_HOUSE_EXPORT QString asInBox(QString text);
 
 } // namespace ORVTListview

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QStringView>
 
@@ -17,7 +17,7 @@ struct TextSearch
 // text is never found. A match neither begins nor ends inside a surrogate pair or
 // a CR LF. Letter case is folded character by character, so that a match is as
 // long as what was searched for.
-ORVT_CORE_EXPORT qsizetype findText(QStringView text, QStringView wanted, qsizetype start,
-                                    qsizetype end, TextSearch how = {});
+ORVT_HOUSE_EXPORT qsizetype findText(QStringView text, QStringView wanted, qsizetype start,
+                                     qsizetype end, TextSearch how = {});
 
 } // namespace ORVTListview

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/qglobal.h>
 
@@ -13,7 +13,7 @@ namespace ORVTListview {
 // What the components of one user-interface thread share: the vocabulary, the
 // word index, the editor's settings and so on, each a part that is made when it
 // is first asked for. The state knows no part; who needs one names its type.
-class ORVT_CORE_EXPORT ThreadState
+class ORVT_HOUSE_EXPORT ThreadState
 {
 public:
     ThreadState();
@@ -34,7 +34,7 @@ public:
 
     // Puts a fresh state in force on this thread and the former one back at its
     // end. For tests and for hosts that embed two separate projects.
-    class ORVT_CORE_EXPORT Fresh
+    class Fresh
     {
     public:
         Fresh();

@@ -11,8 +11,6 @@
 #include "editor/WordChoice.h"
 #include "widgets/input/TabStops.h"
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QPointer>
 
 class QWidget;
@@ -24,7 +22,7 @@ class StatusTimer;
 // The code face: a rich-text box that holds a controller program and shows every
 // word in the colour of its class. Each subject of it has a class of its own; this
 // one joins them to the box, which the host widget owns.
-class ORVT_EXPORT CodeEditor : public QObject
+class CodeEditor : public QObject
 {
     Q_OBJECT
 

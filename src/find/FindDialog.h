@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 class QString;
 
 namespace ORVTListview {
@@ -12,7 +10,7 @@ class fFind;
 // The find dialog that all editors of a thread share, made when it is first needed.
 namespace FindDialog {
 
-ORVT_EXPORT fFind &shared();
+fFind &shared();
 
 // Shows it modally, with no owner and under the usual mouse pointer, and returns
 // once it is closed. Raises nothing: ErrMsg receives the description of a failure.

@@ -2,8 +2,6 @@
 
 #include "find/BoxSearch.h"
 
-#include <ORVTListview/Export.h>
-
 #include <QtWidgets/QDialog>
 
 #include <array>
@@ -27,7 +25,7 @@ class SearchHistory;
 //
 // Its controls have the names lbl0, lbl1, Cbo0, Cbo1, Cmd0 to Cmd3, Chk0, Chk1,
 // Frame1 and StatusBar1.
-class ORVT_EXPORT fFind : public QDialog
+class fFind : public QDialog
 {
     Q_OBJECT
 

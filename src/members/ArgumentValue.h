@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
-
 #include <QtCore/QVariant>
 
 #include <optional>
@@ -12,9 +10,9 @@ namespace ORVTListview::ArgumentValue {
 // The value as exactly that type, converted as QVariant converts; none when it
 // cannot be. A number that the type cannot hold is refused, not cut off; an empty
 // value stands for a null pointer.
-ORVT_CORE_EXPORT std::optional<QVariant> converted(const QVariant &value, QMetaType type);
+std::optional<QVariant> converted(const QVariant &value, QMetaType type);
 
 // What a variable of that type holds, as a host gets it.
-ORVT_CORE_EXPORT QVariant fromVariable(QMetaType type, const void *variable);
+QVariant fromVariable(QMetaType type, const void *variable);
 
 } // namespace ORVTListview::ArgumentValue

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 #include <ORVTListview/EventSink.h>
 #include <ORVTListview/MemberTable.h>
 
@@ -16,7 +16,7 @@ class SinkConnection;
 // sees what those before it made of the arguments. A receiver may do anything in
 // between, destroying the component or its own sink included.
 // Why it is so: docs/decisions/members.md.
-class ORVT_CORE_EXPORT EventDelivery
+class ORVT_HOUSE_EXPORT EventDelivery
 {
 public:
     // Component and table outlive the delivery.

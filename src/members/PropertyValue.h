@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QVariant>
 
@@ -11,12 +11,12 @@ namespace ORVTListview::PropertyValue {
 // Kinds are truth values, whole numbers with the enumerations, numbers and texts;
 // values of other types must have exactly the type. Without a Default the kept
 // value is taken as it is.
-ORVT_CORE_EXPORT QVariant read(const QVariant &kept, const QVariant &Default);
+ORVT_HOUSE_EXPORT QVariant read(const QVariant &kept, const QVariant &Default);
 
 // The same for a store that keeps everything as text.
-ORVT_CORE_EXPORT QVariant readText(const QVariant &kept, const QVariant &Default);
+QVariant readText(const QVariant &kept, const QVariant &Default);
 
 // What a store that knows no enumerations keeps of a value.
-ORVT_CORE_EXPORT QVariant plain(const QVariant &value);
+QVariant plain(const QVariant &value);
 
 } // namespace ORVTListview::PropertyValue

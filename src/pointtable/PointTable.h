@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
 #include <ORVTListview/Types.h>
 
 #include <QtCore/QObject>
@@ -21,7 +20,7 @@ struct TableLayout;
 // The face that shows a controller's points: a caption line with the read button
 // and the status picture, and the columns and numbered rows of a type in a list
 // that is lent to it.
-class ORVT_EXPORT PointTable : public QObject
+class PointTable : public QObject
 {
     Q_OBJECT
 

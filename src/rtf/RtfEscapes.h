@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
@@ -13,11 +13,11 @@ void appendRtfText(QString &out, QStringView text);
 void appendRtfFontName(QString &out, const QString &name);
 
 // A document that holds other characters, in 7-bit characters as a file has it.
-ORVT_CORE_EXPORT QByteArray sevenBitRtf(QStringView rtf);
+ORVT_HOUSE_EXPORT QByteArray sevenBitRtf(QStringView rtf);
 
 void appendRtfNumber(QString &out, qint64 number);
 
 // An entry of the colour table, its ";" included.
-ORVT_CORE_EXPORT QString rtfColourEntry(qint32 red, qint32 green, qint32 blue);
+QString rtfColourEntry(qint32 red, qint32 green, qint32 blue);
 
 } // namespace ORVTListview

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include <ORVTListview/Colour.h>
-#include <ORVTListview/CoreExport.h>
 
 #include <QtCore/QString>
 #include <QtCore/QStringView>
@@ -27,7 +27,7 @@ struct RtfFormat
 };
 
 // Receives a document's text in order. Text never holds a line end.
-class ORVT_CORE_EXPORT RtfSink
+class ORVT_HOUSE_EXPORT RtfSink
 {
 public:
     virtual ~RtfSink();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include "rtf/RtfFormat.h"
 
 #include <QtCore/QHash>
@@ -19,7 +20,7 @@ namespace ORVTListview {
 // A document has at most 4,096 fonts and 4,095 colours; text in a further one
 // gets the default font or the automatic colour.
 // Why it is so: docs/decisions/rtf.md.
-class ORVT_CORE_EXPORT RtfWriter final : public RtfSink
+class ORVT_HOUSE_EXPORT RtfWriter final : public RtfSink
 {
 public:
     // The format that stands for everything a run leaves unstated: its font is

@@ -2,7 +2,7 @@
 
 #include "base/KeyCodes.h"
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 namespace ORVTListview {
 
@@ -36,10 +36,10 @@ struct KeyState
     bool hasSelection = false;
 };
 
-ORVT_CORE_EXPORT KeyDecision decideKey(qint16 keyCode, qint16 shift, const KeyState &state);
+ORVT_HOUSE_EXPORT KeyDecision decideKey(qint16 keyCode, qint16 shift, const KeyState &state);
 
 // Whether the editor acts on the key itself, so that the host's shortcuts must not
 // have it first.
-ORVT_CORE_EXPORT bool isTakenFromShortcuts(KeyDecision decision);
+ORVT_HOUSE_EXPORT bool isTakenFromShortcuts(KeyDecision decision);
 
 } // namespace ORVTListview

@@ -2,7 +2,7 @@
 
 #include "base/TextSearch.h"
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QList>
 
@@ -10,17 +10,17 @@ namespace ORVTListview {
 
 // As findText over the whole text, but that an underscore counts as part of a
 // word: a whole word has none directly before or behind it.
-ORVT_CORE_EXPORT qsizetype findInProgram(QStringView text, QStringView wanted, qsizetype start,
-                                         TextSearch how);
+ORVT_HOUSE_EXPORT qsizetype findInProgram(QStringView text, QStringView wanted, qsizetype start,
+                                          TextSearch how);
 
 // The places at which all of a program's matches are replaced, from front to back.
 // They do not overlap, and one that begins where another ends is left out: the
 // search goes on one character behind what takes a match's place.
-ORVT_CORE_EXPORT QList<qsizetype> placesToReplace(QStringView text, QStringView wanted,
-                                                  TextSearch how);
+ORVT_HOUSE_EXPORT QList<qsizetype> placesToReplace(QStringView text, QStringView wanted,
+                                                   TextSearch how);
 
 // The places of a word between the bounds that FindWordStart and FindWordEnd set,
 // whatever its letter case.
-ORVT_CORE_EXPORT QList<qsizetype> placesOfWord(QStringView text, QStringView word);
+ORVT_HOUSE_EXPORT QList<qsizetype> placesOfWord(QStringView text, QStringView word);
 
 } // namespace ORVTListview

@@ -2,7 +2,7 @@
 
 #include <ORVTListview/KeyedCollection.h>
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QStringList>
 
@@ -10,7 +10,7 @@ namespace ORVTListview {
 
 // Texts in the order of their first use. Texts that differ in letter case only
 // count as one, and the first stays as it is.
-class ORVT_CORE_EXPORT SearchHistory
+class ORVT_HOUSE_EXPORT SearchHistory
 {
 public:
     bool contains(const QString &text) const { return m_texts.Contains(text); }

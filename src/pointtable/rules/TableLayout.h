@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QRectF>
 
@@ -20,6 +20,6 @@ struct TableLayout
 
 // For a control of this inner size whose caption is as high as its font. Nothing
 // has a negative size.
-ORVT_CORE_EXPORT TableLayout layOutTable(double width, double height, double captionHeight);
+ORVT_HOUSE_EXPORT TableLayout layOutTable(double width, double height, double captionHeight);
 
 } // namespace ORVTListview

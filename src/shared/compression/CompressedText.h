@@ -14,10 +14,10 @@ constexpr qint32 maximumLength = 128 * 1024 * 1024;
 
 // The room that zlib is given to compress a text of this length, in bytes:
 // length * 1.01 + 13, a half going to the even neighbour. Never too little.
-ORVT_CORE_EXPORT qint64 compressedCapacity(qint64 length);
+qint64 compressedCapacity(qint64 length);
 
 // What is raised when zlib returns this code, which is not 0.
-ORVT_CORE_EXPORT Error compressError(int code);
-ORVT_CORE_EXPORT Error uncompressError(int code);
+Error compressError(int code);
+Error uncompressError(int code);
 
 } // namespace ORVTListview::ModZlib

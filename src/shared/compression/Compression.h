@@ -13,18 +13,18 @@ namespace ORVTListview::ModZlib {
 
 // Whether CompressString takes this text: not too long, and all of it in the code
 // page.
-ORVT_CORE_EXPORT bool canCompress(QStringView text);
+bool canCompress(QStringView text);
 
 // Raises Error: compressError() of zlib's return code, or InvalidCall when the
 // code page lacks a character of the text. Nothing is replaced by a similar
 // character, so what succeeds comes back unchanged.
-ORVT_CORE_EXPORT QString CompressString(const QString &text);
+QString CompressString(const QString &text);
 
 // The length is read up to the first character that is no digit; without digits
 // it is 0. A length greater than the stream's yields spaces at the end, a smaller
 // one fails. Memory is taken by what the stream can hold, and by the length only
 // once the stream has proved sound. Raises Error: uncompressError() of zlib's
 // return code.
-ORVT_CORE_EXPORT QString UncompressString(const QString &text);
+QString UncompressString(const QString &text);
 
 } // namespace ORVTListview::ModZlib

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
-
 #include <QtCore/QString>
 #include <QtCore/QStringView>
 
@@ -13,7 +11,7 @@ namespace ORVTListview::ModZlib {
 // compressed between two keys. The result is the same to the byte, wherever the
 // text is cut. Each call raises Error when zlib fails, and
 // std::bad_alloc for want of memory.
-class ORVT_CORE_EXPORT SlicedCompressor
+class SlicedCompressor
 {
 public:
     // The length of the whole text, in UTF-16 units.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include <ORVTListview/Types.h>
 
 namespace ORVTListview {
@@ -14,6 +15,6 @@ constexpr bool isType(qint32 value)
 
 // The fixed English name of a type ("Optimum Starts"): key, caption before
 // translation, image key and setting name in one. Empty for a value that is no type.
-ORVT_CORE_EXPORT QString displayName(qint32 type);
+ORVT_HOUSE_EXPORT QString displayName(qint32 type);
 
 } // namespace ORVTListview

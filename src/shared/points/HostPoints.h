@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include <ORVTListview/IndexedName.h>
 #include <ORVTListview/PointCollection.h>
 
@@ -11,7 +12,7 @@ namespace ORVTListview {
 // or go while they are read. Reading ends at Count or at the first index at which there
 // is nothing. What a collection throws leaves as Error, whatever it was.
 // Why it is so: docs/decisions/collections.md.
-class ORVT_CORE_EXPORT HostPoints
+class ORVT_HOUSE_EXPORT HostPoints
 {
 public:
     // None when the collection is not set or gone.

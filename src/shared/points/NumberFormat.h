@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
-
 #include <QtCore/QString>
 
 namespace ORVTListview {
@@ -25,6 +23,6 @@ namespace ORVTListview {
 // its digits, the surplus at the first place. The minus sign stands before
 // everything else. A format without a place shows its text only. Names of formats
 // are known in any letter case. No format fails.
-ORVT_CORE_EXPORT QString formatNumber(qint32 value, const QString &format);
+QString formatNumber(qint32 value, const QString &format);
 
 } // namespace ORVTListview

@@ -2,15 +2,13 @@
 
 #include "shared/settings/SettingsPlace.h"
 
-#include <ORVTListview/CoreExport.h>
-
 namespace ORVTListview {
 
 // The machine's settings under those of one user. Everything is written to the
 // machine's place; what it does not take goes to the user's, which is read first.
 // A setting that the machine's place has taken leaves the user's, so that what is
 // read is always what was written last.
-class ORVT_CORE_EXPORT OverlaidSettings final : public SettingsPlace
+class OverlaidSettings final : public SettingsPlace
 {
 public:
     OverlaidSettings(std::unique_ptr<SettingsPlace> machine, std::unique_ptr<SettingsPlace> user);

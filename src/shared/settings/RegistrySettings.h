@@ -2,14 +2,12 @@
 
 #include "shared/settings/SettingsPlace.h"
 
-#include <ORVTListview/CoreExport.h>
-
 namespace ORVTListview {
 
 // The three operations needed of a registry hive. Each opens the key of that
 // path, which is parted by backslashes, and closes it again. Data is what the
 // registry holds of a string value: the text and, as a rule, a NUL at its end.
-class ORVT_CORE_EXPORT Registry
+class Registry
 {
 public:
     Registry() = default;
@@ -22,7 +20,7 @@ public:
 };
 
 // Settings as string values of a registry key per application.
-class ORVT_CORE_EXPORT RegistrySettings final : public SettingsPlace
+class RegistrySettings final : public SettingsPlace
 {
 public:
     explicit RegistrySettings(std::shared_ptr<Registry> registry);

@@ -2,8 +2,6 @@
 
 #include "shared/settings/SettingsPlace.h"
 
-#include <ORVTListview/CoreExport.h>
-
 #include <QtCore/QByteArray>
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
@@ -14,7 +12,7 @@ namespace ORVTListview {
 
 // A settings file's content. Changes touch the lines they concern; comments,
 // order, and lines that are no settings stay as somebody wrote them.
-class ORVT_CORE_EXPORT SettingsDocument
+class SettingsDocument
 {
 public:
     SettingsDocument();

@@ -2,8 +2,6 @@
 
 #include "shared/settings/SettingsPlace.h"
 
-#include <ORVTListview/CoreExport.h>
-
 #include <chrono>
 
 namespace ORVTListview {
@@ -14,7 +12,7 @@ namespace ORVTListview {
 // when a new one is written. What is no file at all, such as a folder of that
 // name, is left alone, and so is a file that may be read but not written.
 // Why it is so: docs/decisions/settings.md.
-class ORVT_CORE_EXPORT SettingsFile final : public SettingsPlace
+class SettingsFile final : public SettingsPlace
 {
 public:
     // A writer waits for others at most as long as patience.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
-
 #include <QtCore/QString>
 
 namespace ORVTListview {
@@ -21,10 +19,10 @@ struct SettingsLine
 
 // Any text is a line; one that is neither section nor setting, such as a
 // comment, is Other.
-ORVT_CORE_EXPORT SettingsLine readSettingsLine(QStringView text);
+SettingsLine readSettingsLine(QStringView text);
 
 // Any name and value, of any UTF-16 units, is read back as it was.
-ORVT_CORE_EXPORT QString sectionText(const QString &name);
-ORVT_CORE_EXPORT QString settingText(const QString &name, const QString &value);
+QString sectionText(const QString &name);
+QString settingText(const QString &name, const QString &value);
 
 } // namespace ORVTListview

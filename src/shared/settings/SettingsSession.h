@@ -2,15 +2,13 @@
 
 #include "shared/settings/SettingsPlace.h"
 
-#include <ORVTListview/CoreExport.h>
-
 #include <QtCore/qglobal.h>
 
 namespace ORVTListview {
 
 // One thread's access to the settings: the place in force and the transactions
 // that are open on it.
-class ORVT_CORE_EXPORT SettingsSession
+class SettingsSession
 {
 public:
     SettingsSession();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QStringList>
 
@@ -16,6 +16,6 @@ namespace ORVTListview {
 // caption wished the same; "&&" is a literal "&" and stays one. The same captions
 // always get the same keys. To keep the keys of a dialog that shows some captions
 // at times only, all of them are given at once.
-ORVT_CORE_EXPORT QStringList withAccessKeys(const QStringList &captions);
+ORVT_HOUSE_EXPORT QStringList withAccessKeys(const QStringList &captions);
 
 } // namespace ORVTListview

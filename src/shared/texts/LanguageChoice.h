@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
-
 #include <QtCore/QLatin1StringView>
 #include <QtCore/QStringList>
 
@@ -13,6 +11,6 @@ inline constexpr QLatin1StringView englishLanguage{"en"};
 // reads these languages (as QLocale::uiLanguages gives them): each language with
 // all its names from narrow to wide ("pt-BR", "pt") before the next one. English,
 // which is always there, ends the choice, as "en".
-ORVT_CORE_EXPORT QStringList languageChoice(const QStringList &languages);
+QStringList languageChoice(const QStringList &languages);
 
 } // namespace ORVTListview

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QStringList>
 
@@ -8,6 +8,6 @@ namespace ORVTListview {
 
 // The captions of one menu in the thread's language, each with its access key. The
 // English ones may wish for a key by an "&", which counts while they are shown.
-ORVT_CORE_EXPORT QStringList menuTexts(const QStringList &english);
+ORVT_HOUSE_EXPORT QStringList menuTexts(const QStringList &english);
 
 } // namespace ORVTListview

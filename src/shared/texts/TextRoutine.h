@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QLatin1StringView>
 
@@ -21,6 +21,7 @@ inline constexpr QLatin1StringView lookup{"Messages GetStrings"};
 // Runs a routine that loads texts and tells whether it came to its end. What it
 // throws ends it and goes to the category "orvtlistview.texts" as a debug
 // message, which is switched off by default: the user sees English, no error.
-ORVT_CORE_EXPORT bool runTextRoutine(QLatin1StringView label, const std::function<void()> &routine);
+ORVT_HOUSE_EXPORT bool runTextRoutine(QLatin1StringView label,
+                                      const std::function<void()> &routine);
 
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include <ORVTListview/TextProvider.h>
 
 #include <functional>
@@ -10,7 +11,7 @@ namespace ORVTListview {
 // The translated texts of one user-interface thread, as last fetched from the
 // provider in force.
 // Why it is so: docs/decisions/texts.md.
-class ORVT_CORE_EXPORT TextTable
+class ORVT_HOUSE_EXPORT TextTable
 {
 public:
     using Clock = std::function<QDateTime()>;
@@ -55,6 +56,6 @@ private:
 // What every text that is shown passes through, with the table of the calling
 // thread. The text is the English one as it stands in LibraryTexts.cpp. A text
 // shown in pieces is localised without its outer blanks, which the caller adds.
-ORVT_CORE_EXPORT QString Localise(const QString &text);
+ORVT_HOUSE_EXPORT QString Localise(const QString &text);
 
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include "shared/points/DisplayNames.h"
 
 #include <QtCore/QList>
@@ -32,22 +33,22 @@ struct Place
 };
 
 // English, to be localised; empty for a page without a name.
-ORVT_CORE_EXPORT QString pageCaption(qint32 page);
-ORVT_CORE_EXPORT QString pageKey(qint32 page);
+ORVT_HOUSE_EXPORT QString pageCaption(qint32 page);
+ORVT_HOUSE_EXPORT QString pageKey(qint32 page);
 
 // The page that a stored text stands for: 0 for one that is absent, no number,
 // negative or above highestPage.
-ORVT_CORE_EXPORT qint16 storedPage(const QString &text);
+qint16 storedPage(const QString &text);
 
 // One record for each page up to the highest; the types of a page ascend.
-ORVT_CORE_EXPORT QList<Pages> arranged(const PageNumbers &pages);
+QList<Pages> arranged(const PageNumbers &pages);
 
 // Reads the arrangement from the settings, as of one moment.
-ORVT_CORE_EXPORT QList<Pages> load();
+ORVT_HOUSE_EXPORT QList<Pages> load();
 
 // Saves the places in one step. Categories that are not among them keep theirs, and
 // so do those beyond highestPage, which would be read back as page 0.
-ORVT_CORE_EXPORT void save(const QList<Place> &places);
+ORVT_HOUSE_EXPORT void save(const QList<Place> &places);
 
 } // namespace PageArrangement
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include <ORVTListview/Types.h>
 
 #include <ORVTListview/KeyedCollection.h>
@@ -11,10 +12,10 @@ namespace ORVTListview {
 namespace TypeCollections {
 
 // Display names, under "Key" and the type's value.
-ORVT_CORE_EXPORT KeyedCollection<QString> names();
+ORVT_HOUSE_EXPORT KeyedCollection<QString> names();
 
 // Types' values, under their display names.
-ORVT_CORE_EXPORT KeyedCollection<qint32> values();
+ORVT_HOUSE_EXPORT KeyedCollection<qint32> values();
 
 } // namespace TypeCollections
 } // namespace ORVTListview

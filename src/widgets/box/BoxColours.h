@@ -2,8 +2,6 @@
 
 #include "base/ColouredText.h"
 
-#include <ORVTListview/Export.h>
-
 class QTextDocument;
 
 namespace ORVTListview {
@@ -14,19 +12,17 @@ class BoxText;
 namespace BoxColours {
 
 // A line end belongs to the run before it; neighbouring runs differ in colour.
-ORVT_EXPORT ColouredText read(const QTextDocument &document, const BoxText &text, qint32 start,
-                              qint32 length);
+ColouredText read(const QTextDocument &document, const BoxText &text, qint32 start, qint32 length);
 
 // Gives the text from start on the colours of `wanted`, which is as long as the
 // text it covers, and takes over its letter case. Nothing else changes: line ends
 // and characters that differ in more than their case stay. What is right already
 // is not touched. Returns whether anything changed.
-ORVT_EXPORT bool apply(QTextDocument &document, const BoxText &text, qint32 start,
-                       const ColouredText &wanted);
+bool apply(QTextDocument &document, const BoxText &text, qint32 start, const ColouredText &wanted);
 
 // Gives document positions from `from` to `to` one colour, which may be
 // ColouredText::automatic.
-ORVT_EXPORT void paint(QTextDocument &document, int from, int to, Colour colour);
+void paint(QTextDocument &document, int from, int to, Colour colour);
 
 } // namespace BoxColours
 } // namespace ORVTListview

@@ -2,8 +2,6 @@
 
 #include "widgets/input/VirtualKeys.h"
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QList>
 
 #include <functional>
@@ -32,7 +30,7 @@ enum class Extent { Character, Word };
 // What every way into and out of a box ends in: typed keys, shortcuts, context
 // menu, drag and drop, middle click, input method. An owner with rules of its own gives
 // the box its own commands.
-class ORVT_EXPORT BoxCommands
+class BoxCommands
 {
 public:
     BoxCommands() = default;

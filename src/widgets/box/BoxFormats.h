@@ -2,8 +2,6 @@
 
 #include "rtf/RtfFormat.h"
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QHash>
 #include <QtCore/QSet>
 #include <QtGui/QFont>
@@ -20,7 +18,7 @@ size_t qHash(const RtfFormat &format, size_t seed = 0);
 // Character formats of a box's text. A format states what differs from the box's
 // font and nothing else, so that the document keeps few formats and its text
 // follows the box's font.
-class ORVT_EXPORT BoxFormats
+class BoxFormats
 {
 public:
     // Fonts other than the box's, each a name and a size, that it takes from when it is

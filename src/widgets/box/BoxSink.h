@@ -12,7 +12,7 @@ namespace ORVTListview {
 // edit block. Line ends get the font of the text before them but no colour: what
 // is typed into an empty line starts without one. The cursor ends behind the
 // text when the sink is destroyed.
-class ORVT_EXPORT BoxSink final : public RtfSink
+class BoxSink final : public RtfSink
 {
 public:
     BoxSink(QTextCursor &cursor, BoxFormats &formats);
@@ -38,6 +38,6 @@ private:
 
 // Hands coloured text to a sink. All of it gets the format but for the colour.
 // Text behind the last run is of automatic colour.
-ORVT_EXPORT void putColoured(const ColouredText &text, const RtfFormat &format, RtfSink &sink);
+void putColoured(const ColouredText &text, const RtfFormat &format, RtfSink &sink);
 
 } // namespace ORVTListview

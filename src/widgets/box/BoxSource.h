@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 class QTextDocument;
 
 namespace ORVTListview {
@@ -11,7 +9,7 @@ class RtfSink;
 
 // Hands a range of a document, in document positions, to a sink. Every format is
 // stated in full.
-ORVT_EXPORT void readBox(const QTextDocument &document, const BoxFormats &formats, int from, int to,
-                         RtfSink &sink);
+void readBox(const QTextDocument &document, const BoxFormats &formats, int from, int to,
+             RtfSink &sink);
 
 } // namespace ORVTListview

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
@@ -15,7 +13,7 @@ namespace ORVTListview {
 // from 0. A position outside the text counts as the nearest one inside, one
 // inside a surrogate pair or between CR and LF as the place before it. Only
 // text() touches more than the line at hand.
-class ORVT_EXPORT BoxText final : public QObject
+class BoxText final : public QObject
 {
     Q_OBJECT
 

@@ -5,7 +5,7 @@
 namespace ORVTListview {
 
 // A plain editor, without undo. Who has rules for some commands derives from it.
-class ORVT_EXPORT PlainCommands : public BoxCommands
+class PlainCommands : public BoxCommands
 {
 public:
     explicit PlainCommands(RichTextBox &box);

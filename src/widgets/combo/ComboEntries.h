@@ -2,8 +2,6 @@
 
 #include "widgets/combo/ComboEntry.h"
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QAbstractListModel>
 #include <QtCore/QHash>
 #include <QtCore/QList>
@@ -13,7 +11,7 @@ namespace ORVTListview {
 class ImageList;
 
 // The entries of an ImageCombo as a model. Rows count from 0, -1 stands for none.
-class ORVT_EXPORT ComboEntries : public QAbstractListModel
+class ComboEntries : public QAbstractListModel
 {
     Q_OBJECT
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QAbstractListModel>
 #include <QtCore/QList>
 
@@ -12,7 +10,7 @@ class ComboEntries;
 // Those entries of a combo whose text holds what was typed, letter case ignored,
 // in their order. Positions count matches from 0, rows count entries from 0; -1
 // stands for none.
-class ORVT_EXPORT ComboMatches : public QAbstractListModel
+class ComboMatches : public QAbstractListModel
 {
     Q_OBJECT
 

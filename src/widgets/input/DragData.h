@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QMimeData>
 #include <QtCore/QStringList>
 
@@ -11,7 +9,7 @@ namespace ORVTListview {
 
 // Data of a drag of ours. A promised format is there for whoever asks which
 // formats there are, and is made when its data are wanted.
-class ORVT_EXPORT DragData final : public QMimeData
+class DragData final : public QMimeData
 {
     Q_OBJECT
 

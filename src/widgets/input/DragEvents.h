@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ORVTListview/DataObject.h>
-#include <ORVTListview/Export.h>
 
 #include <QtCore/QObject>
 #include <QtCore/QPoint>
@@ -47,7 +46,7 @@ public:
 // 1 copy, 2 move, 4 link, and sums of them where several are allowed. X and Y are
 // twips from the widget's corner. A receiver may destroy the widget in any of the
 // events but OLESetData.
-class ORVT_EXPORT DragEvents : public QObject
+class DragEvents : public QObject
 {
     Q_OBJECT
 

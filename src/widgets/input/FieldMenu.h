@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QObject>
 
 class QLineEdit;
@@ -12,7 +10,7 @@ namespace ORVTListview {
 
 // The context menu of a field in the library's own words. The toolkit's is in
 // English in every application that installs no translator for the toolkit.
-class ORVT_EXPORT FieldMenu : public QObject
+class FieldMenu : public QObject
 {
     Q_OBJECT
 

@@ -2,8 +2,6 @@
 
 #include "base/KeyCodes.h"
 
-#include <ORVTListview/Export.h>
-
 class QKeyEvent;
 
 namespace ORVTListview {
@@ -21,10 +19,10 @@ struct VirtualKey
 // state, other characters the number of their key on a US keyboard; the keypad's
 // digits and signs have numbers of their own. A character on no such key is 231,
 // "a character". Text typed with AltGr carries neither Ctrl nor Alt.
-ORVT_EXPORT VirtualKey virtualKey(const QKeyEvent &event);
+VirtualKey virtualKey(const QKeyEvent &event);
 
 // True when the key types a character: a printable one, a tab or an invisible
 // formatting character, without Ctrl or Alt held (AltGr is neither).
-ORVT_EXPORT bool isTyping(const QKeyEvent &event);
+bool isTyping(const QKeyEvent &event);
 
 } // namespace ORVTListview

@@ -3,8 +3,6 @@
 #include "widgets/list/ReportRow.h"
 #include "widgets/view/Positions.h"
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QAbstractTableModel>
 #include <QtCore/QHash>
 #include <QtCore/QList>
@@ -21,7 +19,7 @@ namespace ORVTListview {
 // is a heading over them, and rows keep the sub-items that no column shows.
 //
 // A change of many rows is one notice to the views.
-class ORVT_EXPORT ReportModel final : public QAbstractTableModel
+class ReportModel final : public QAbstractTableModel
 {
     Q_OBJECT
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QString>
 
 namespace ORVTListview {
@@ -9,7 +7,7 @@ namespace ORVTListview {
 class ReportModel;
 
 // Where and how a row is looked for. Letter case never matters.
-struct ORVT_EXPORT RowSearch
+struct RowSearch
 {
     enum class Field { Text, SubItem, Tag };
     enum class Match { Whole, Beginning };

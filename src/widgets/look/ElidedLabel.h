@@ -1,14 +1,12 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtWidgets/QLabel>
 
 namespace ORVTListview {
 
 // One line of plain text within the label's contents margins. A text too long for
 // them ends in an ellipsis and is shown whole as a tool tip.
-class ORVT_EXPORT ElidedLabel : public QLabel
+class ElidedLabel : public QLabel
 {
     Q_OBJECT
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtWidgets/QWidget>
 
 namespace ORVTListview {
@@ -9,7 +7,7 @@ namespace ORVTListview {
 class ImageList;
 
 // A picture of an image list, at its natural size or fitted into the widget.
-class ORVT_EXPORT PictureBox : public QWidget
+class PictureBox : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(QString PictureKey READ PictureKey WRITE setPictureKey)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtWidgets/QToolButton>
 
 namespace ORVTListview {
@@ -11,7 +9,7 @@ class ImageList;
 // A button that is nothing but a picture, and another one while it is held down.
 // It answers the left mouse button, Space and Enter, each on release; a release
 // outside calls the click off.
-class ORVT_EXPORT PictureButton : public QToolButton
+class PictureButton : public QToolButton
 {
     Q_OBJECT
     Q_PROPERTY(QString PictureKey READ PictureKey)

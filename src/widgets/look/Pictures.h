@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QString>
 
 namespace ORVTListview {
@@ -16,7 +14,7 @@ struct Pictures
 {
     // The pictures are added; a list that has one of their keys or indexes
     // already raises Error (InvalidCall). Exported for our plugin for Designer alone.
-    ORVT_EXPORT static void fillInto(ImageList &list);
+    static void fillInto(ImageList &list);
 
     // The key of a type's read button while it is pressed.
     static QString pressedKey(const QString &displayName);

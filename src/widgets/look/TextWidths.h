@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtGui/QFont>
@@ -16,7 +14,7 @@ namespace ORVTListview {
 // each letter to the next, which a table keeps; only a text that may be wider
 // than the widest so far is measured. Other texts, and those with a ligature, are
 // always measured.
-class ORVT_EXPORT TextWidths
+class TextWidths
 {
 public:
     explicit TextWidths(const QFont &font);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/qglobal.h>
 
 class QWidget;
@@ -10,7 +8,7 @@ namespace ORVTListview {
 
 // The one conversion between the published unit of length (twips, 1440 to the
 // inch) and the logical pixels of a widget. Pixels round to the nearest.
-struct ORVT_EXPORT Twips
+struct Twips
 {
     static int toPixelsX(double twips, const QWidget &widget);
     static int toPixelsY(double twips, const QWidget &widget);

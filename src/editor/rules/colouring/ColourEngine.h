@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include "base/MessageService.h"
 #include "editor/rules/colouring/ColourSink.h"
 #include "editor/rules/language/CodeWordList.h"
@@ -9,7 +10,7 @@ namespace ORVTListview {
 // Walks a program once and tells a sink what it consists of. RTF, screen and
 // tests are sinks of this one pass, so they cannot disagree.
 // Why it is so: docs/decisions/colouring.md.
-class ORVT_CORE_EXPORT ColourEngine
+class ORVT_HOUSE_EXPORT ColourEngine
 {
 public:
     ColourEngine(const CodeWordList &words, MessageService &messages);
@@ -33,6 +34,6 @@ private:
 };
 
 // The line with every run of blanks before a closing parenthesis taken out.
-ORVT_CORE_EXPORT QString NormaliseClosingParens(QStringView Line);
+QString NormaliseClosingParens(QStringView Line);
 
 } // namespace ORVTListview

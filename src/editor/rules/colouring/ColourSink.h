@@ -18,7 +18,7 @@ struct ColourRun
 
 // Receives a coloured program in order. Blanks and tabs continue in the colour of
 // the run before them, also across line ends.
-class ORVT_CORE_EXPORT ColourSink
+class ColourSink
 {
 public:
     virtual ~ColourSink();

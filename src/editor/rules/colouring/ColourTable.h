@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include <ORVTListview/Types.h>
 
 #include <functional>
@@ -19,22 +20,22 @@ struct SplitColours
 // The three parts of a colour. The arithmetic is signed and truncates toward zero,
 // so a system colour, being negative, gives negative parts. It never fails; the type
 // leaves room for a splitter that can.
-ORVT_CORE_EXPORT std::optional<SplitColours> SplitColour(Colour colour);
+ORVT_HOUSE_EXPORT std::optional<SplitColours> SplitColour(Colour colour);
 
 using ColourSplitter = std::function<std::optional<SplitColours>(Colour)>;
 
 // The RTF colour table of the settings. A colour that cannot be split is written
 // black and adds a line to ErrorText.
-ORVT_CORE_EXPORT QString BuildColourTable(const RichTextSettings &Settings, QString &ErrorText,
-                                          const ColourSplitter &splitter = SplitColour);
+QString BuildColourTable(const RichTextSettings &Settings, QString &ErrorText,
+                         const ColourSplitter &splitter = SplitColour);
 
-ORVT_CORE_EXPORT QString defaultColourTable();
+QString defaultColourTable();
 
 // The settings whose colour table is the default one.
-ORVT_CORE_EXPORT RichTextSettings defaultColours();
+ORVT_HOUSE_EXPORT RichTextSettings defaultColours();
 
 // What a reader of the colour table makes of a colour: its parts kept within 0 to
 // 255. System colours are not resolved.
-ORVT_CORE_EXPORT Colour shownColour(Colour colour);
+ORVT_HOUSE_EXPORT Colour shownColour(Colour colour);
 
 } // namespace ORVTListview

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ColouredText.h"
+#include "base/HouseExport.h"
 #include "editor/rules/colouring/ColourEngine.h"
 
 namespace ORVTListview {
@@ -8,15 +9,15 @@ namespace ORVTListview {
 // Program text as RTF. The text goes in without escaping, on purpose: a "\", "{"
 // or "}" in it changes the document's meaning. What must survive as it is goes
 // through colouredText instead.
-ORVT_CORE_EXPORT QString ColourText(const ColourEngine &engine, QStringView Text,
-                                    const QString &Header, bool FirstLineIsComment);
-ORVT_CORE_EXPORT QString ColourLine(const ColourEngine &engine, QStringView Line);
-ORVT_CORE_EXPORT QString ColourToken(const ColourEngine &engine, QStringView Token);
+ORVT_HOUSE_EXPORT QString ColourText(const ColourEngine &engine, QStringView Text,
+                                     const QString &Header, bool FirstLineIsComment);
+QString ColourLine(const ColourEngine &engine, QStringView Line);
+QString ColourToken(const ColourEngine &engine, QStringView Token);
 
 // The same text and colours as the document that ColourText gives, without the
 // detour of writing and reading it. The text's lines end in CR LF.
-ORVT_CORE_EXPORT ColouredText colouredText(const ColourEngine &engine, QStringView text,
-                                           bool firstLineIsComment,
-                                           const RichTextSettings &settings);
+ORVT_HOUSE_EXPORT ColouredText colouredText(const ColourEngine &engine, QStringView text,
+                                            bool firstLineIsComment,
+                                            const RichTextSettings &settings);
 
 } // namespace ORVTListview

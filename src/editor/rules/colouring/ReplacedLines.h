@@ -2,7 +2,7 @@
 
 #include "base/TextPiece.h"
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QList>
 #include <QtCore/QStringView>
@@ -20,7 +20,7 @@ struct ReplacedPiece
 
 // The same for each piece, when one after the other is replaced by one text. Lines
 // are separated by CR LF; the pieces follow each other without overlapping.
-ORVT_CORE_EXPORT QList<ReplacedPiece>
+ORVT_HOUSE_EXPORT QList<ReplacedPiece>
 replacedPieces(QStringView program, const QList<TextPiece> &pieces, QStringView text);
 
 } // namespace ORVTListview

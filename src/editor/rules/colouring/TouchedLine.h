@@ -2,7 +2,7 @@
 
 #include "base/ColouredText.h"
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QList>
 
@@ -11,7 +11,7 @@
 namespace ORVTListview {
 
 // The places of a line that were changed.
-class ORVT_CORE_EXPORT TouchedLine
+class ORVT_HOUSE_EXPORT TouchedLine
 {
 public:
     // Places outside the line stand for its ends. From front to back.

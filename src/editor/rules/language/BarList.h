@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QSet>
 #include <QtCore/QString>
@@ -11,7 +11,7 @@ namespace ORVTListview {
 // A list of words held as one text in which every word stands between two bars:
 // "|IF|ELSE|". A word is in the list when "|word|" occurs in that text, without
 // regard to case, so a word that itself holds bars can span several entries.
-class ORVT_CORE_EXPORT BarList
+class ORVT_HOUSE_EXPORT BarList
 {
 public:
     explicit BarList(const QString &text);

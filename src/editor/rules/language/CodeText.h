@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringView>
@@ -12,7 +12,7 @@ namespace ORVTListview {
 // 1-based character positions. A caret position is thus also the 1-based index
 // of the character just before it.
 
-ORVT_CORE_EXPORT bool IsCommentLine(QStringView Line);
+ORVT_HOUSE_EXPORT bool IsCommentLine(QStringView Line);
 
 // First and last character of the line that holds the caret; LineEnd is
 // LineStart - 1 for an empty line.
@@ -23,15 +23,15 @@ struct LineRange
 
     friend bool operator==(const LineRange &, const LineRange &) = default;
 };
-ORVT_CORE_EXPORT LineRange LineBounds(QStringView Text, qint32 Position);
+LineRange LineBounds(QStringView Text, qint32 Position);
 
-ORVT_CORE_EXPORT bool IsCommentAt(QStringView Text, qint32 Position);
+bool IsCommentAt(QStringView Text, qint32 Position);
 
 // The two walks stop at different characters on purpose: backwards at blank, tab,
 // "(" and LF, forwards at blank, tab, ")" and CR. A blank or tab at Position
 // itself is stepped over by FindWordEnd, which gives the character after the word.
-ORVT_CORE_EXPORT qint32 FindWordStart(QStringView Text, qint32 Position);
-ORVT_CORE_EXPORT qint32 FindWordEnd(QStringView Text, qint32 Position);
+qint32 FindWordStart(QStringView Text, qint32 Position);
+qint32 FindWordEnd(QStringView Text, qint32 Position);
 
 struct WordAtCaret
 {
@@ -41,9 +41,9 @@ struct WordAtCaret
 
     friend bool operator==(const WordAtCaret &, const WordAtCaret &) = default;
 };
-ORVT_CORE_EXPORT WordAtCaret wordAtCaret(QStringView Text, qint32 Caret);
+ORVT_HOUSE_EXPORT WordAtCaret wordAtCaret(QStringView Text, qint32 Caret);
 
 // The leading blanks and tabs of a line; all of a line that holds nothing else.
-ORVT_CORE_EXPORT QString GetLineIndent(const QString &Line);
+ORVT_HOUSE_EXPORT QString GetLineIndent(const QString &Line);
 
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include "editor/rules/language/WordIndex.h"
 #include <ORVTListview/KeyedCollection.h>
 #include <ORVTListview/PointCollection.h>
@@ -13,7 +14,7 @@ class Vocabulary;
 
 // The index of all known words of a thread. The number of an entry is the RTF
 // colour index of its class.
-class ORVT_CORE_EXPORT CodeWordList
+class ORVT_HOUSE_EXPORT CodeWordList
 {
 public:
     // Empties the index and adds constants, variables, inputs, outputs, network

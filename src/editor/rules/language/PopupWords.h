@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include "editor/rules/language/WordClass.h"
 #include "editor/rules/language/WordIndex.h"
 
@@ -11,7 +12,7 @@ namespace ORVTListview {
 class Vocabulary;
 
 // The class of an entry of the thread's word index.
-ORVT_CORE_EXPORT WordClass classOf(const WordIndex::Entry &entry, const Vocabulary &vocabulary);
+ORVT_HOUSE_EXPORT WordClass classOf(const WordIndex::Entry &entry, const Vocabulary &vocabulary);
 
 // An entry of the pop-up word list.
 struct PopupWord
@@ -22,7 +23,7 @@ struct PopupWord
 
 // The words of the index in its order, one for each text without regard to case:
 // the one that a search for the whole text finds.
-class ORVT_CORE_EXPORT PopupWords
+class ORVT_HOUSE_EXPORT PopupWords
 {
 public:
     PopupWords() = default;

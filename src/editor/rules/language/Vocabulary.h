@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include "editor/rules/language/BarList.h"
 #include "editor/rules/language/WordClass.h"
 #include <ORVTListview/HostObject.h>
@@ -19,7 +20,7 @@ struct ClassifiedWord
 
 // The words of the controller language and the names of the project's points,
 // shared by all editors of a thread. A change does not re-colour what is shown.
-class ORVT_CORE_EXPORT Vocabulary
+class ORVT_HOUSE_EXPORT Vocabulary
 {
 public:
     struct Collections

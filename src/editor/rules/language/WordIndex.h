@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QString>
 
@@ -12,7 +12,7 @@ namespace ORVTListview {
 // to case; equal ones stay in the order of adding. A search begins after the
 // first entry and wraps, so that the first entry is compared last.
 // Why it is so: docs/decisions/word-list.md.
-class ORVT_CORE_EXPORT WordIndex
+class ORVT_HOUSE_EXPORT WordIndex
 {
 public:
     struct Entry

@@ -10,7 +10,7 @@ class UndoSlotEncoder;
 
 // One state of an editor, held as a slot of the undo ring is: plain at first, sharing
 // its text with whoever gave it, and encoded later, slice by slice.
-class ORVT_CORE_EXPORT HeldState
+class HeldState
 {
 public:
     explicit HeldState(const UndoRecord &record);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include "editor/rules/undo/HeldState.h"
 
 #include <QtCore/qglobal.h>
@@ -26,7 +27,7 @@ class UndoStore;
 // What it shows then it can leave the same way again. A state lasts until 49 more
 // snapshots are taken, as long as one in the ring does, and at most as many and as
 // many bytes as below: then the oldest go.
-class ORVT_CORE_EXPORT KeptStates
+class ORVT_HOUSE_EXPORT KeptStates
 {
 public:
     enum class Way { Back, Forward };

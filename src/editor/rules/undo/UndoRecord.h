@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ORVTListview/CoreExport.h>
+#include "base/HouseExport.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringView>
@@ -23,9 +23,9 @@ inline constexpr QStringView UndoRecordSeparator = u"\r\n%%%%%%\r\n";
 
 // The record as one text is its text followed by this: a separator, the start, a
 // separator, the length.
-ORVT_CORE_EXPORT QString undoRecordTail(const UndoRecord &record);
+QString undoRecordTail(const UndoRecord &record);
 
-ORVT_CORE_EXPORT QString joinUndoRecord(const UndoRecord &record);
+QString joinUndoRecord(const UndoRecord &record);
 
 // All three fields are checked before any is handed out. Raises Error when a
 // field is missing (SubscriptOutOfRange), when the text itself holds a separator
@@ -33,10 +33,10 @@ ORVT_CORE_EXPORT QString joinUndoRecord(const UndoRecord &record);
 // is no decimal integer (TypeMismatch) or needs more than 32 bits (Overflow).
 // Blanks around a number are passed over: a slot whose length was raised by damage
 // ends in some. Whether the selection lies within the text is not checked.
-ORVT_CORE_EXPORT UndoRecord splitUndoRecord(const QString &record);
+ORVT_HOUSE_EXPORT UndoRecord splitUndoRecord(const QString &record);
 
 // The same of a record that joinUndoRecord made: its text may hold separators, since
 // nothing behind the last two can.
-ORVT_CORE_EXPORT UndoRecord joinedUndoRecord(const QString &record);
+ORVT_HOUSE_EXPORT UndoRecord joinedUndoRecord(const QString &record);
 
 } // namespace ORVTListview

@@ -18,14 +18,14 @@ class SlicedCompressor;
 inline constexpr qsizetype shortestCompressedRecord = 400;
 
 // Raises Error when zlib fails.
-ORVT_CORE_EXPORT QString encodeUndoSlot(const QString &record);
+QString encodeUndoSlot(const QString &record);
 
 // The joined record; an empty slot yields an empty one. Raises Error as
 // UncompressString does.
-ORVT_CORE_EXPORT QString decodeUndoSlot(const QString &slot);
+QString decodeUndoSlot(const QString &slot);
 
 // Encodes one record that is long enough to be compressed, in steps.
-class ORVT_CORE_EXPORT UndoSlotEncoder
+class UndoSlotEncoder
 {
 public:
     enum class Progress {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include "base/SharedText.h"
 #include "editor/rules/undo/UndoRecord.h"
 
@@ -41,7 +42,7 @@ class UndoSlotEncoder;
 // kept plain, sharing its text with whoever gave it, and encoded by encodePending
 // while the program is idle. The members for the ring show the same either way.
 // Why it is so: docs/decisions/undo.md.
-class ORVT_CORE_EXPORT UndoStore
+class ORVT_HOUSE_EXPORT UndoStore
 {
 public:
     static constexpr qint16 slotCount = 50;
