@@ -118,13 +118,8 @@ void CodeCommands::leave(bool forwards)
 
 void CodeCommands::fillMenu(QMenu &menu)
 {
-    const auto add = [this, &menu](const QString &text, bool isEnabled,
-                                   void (CodeCommands::*act)()) {
-        menu.addAction(text, &menu, [this, act] { (this->*act)(); })->setEnabled(isEnabled);
-    };
-    const bool canChange = !box().isReadOnly();
-    add(u"Undo"_s, canChange && m_acts.undo.canUndo(), &CodeCommands::undo);
-    add(u"Redo"_s, canChange && m_acts.undo.canRedo(), &CodeCommands::redo);
+    addChange(menu, u"Undo"_s, m_acts.undo.canUndo(), [this] { undo(); });
+    addChange(menu, u"Redo"_s, m_acts.undo.canRedo(), [this] { redo(); });
     menu.addSeparator();
     PlainCommands::fillMenu(menu);
     localise(menu);

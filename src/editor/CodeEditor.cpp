@@ -90,14 +90,40 @@ void CodeEditor::raiseStatus()
 
 bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_box && event->type() == QEvent::FocusIn)
+    if (watched != m_box)
+        return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::FocusIn:
         m_tabStops.takeFrom(form());
-    else if (watched == m_box && event->type() == QEvent::FocusOut)
+        break;
+    case QEvent::FocusOut:
         leaveFocus();
     return QObject::eventFilter(watched, event);
+        break;
+    case QEvent::Hide:
+        noteHidden();
+        break;
+    case QEvent::FontChange:
+        m_editing.lines().fitTabStops();
+        break;
+    default:
+        break;
+    }
 }
 
 QWidget *CodeEditor::form() const
+// The toolkit leaves the focus with a hidden box, which keeps Tab for itself, as long as
+// no other control is a tab stop. A window that comes back has its focus where it was.
+void CodeEditor::noteHidden()
+{
+    if (m_box->isVisibleTo(m_box->window()) || m_box->window()->focusWidget() != m_box)
+        return;
+    m_tabStops.giveBack();
+    m_box->moveFocus(true);
+    if (m_box->window()->focusWidget() == m_box)
+        m_box->clearFocus();
+}
+
 {
     if (auto *codeParent = qobject_cast<QWidget *>(m_thread.forms.codeParent.data()))
         return codeParent;

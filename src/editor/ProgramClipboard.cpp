@@ -7,6 +7,8 @@
 #include "editor/TypedColouring.h"
 #include "rtf/RtfReader.h"
 #include <ORVTListview/RichTextBox.h>
+#include "widgets/box/BoxMimeData.h"
+#include "widgets/box/UserEditing.h"
 
 #include <QtCore/QScopeGuard>
 #include <QtGui/QClipboard>
@@ -69,7 +71,7 @@ Pasted ProgramClipboard::pasteClipboard()
 
 Pasted ProgramClipboard::pasteFromOutside(const QString &data)
 {
-    if (data.isEmpty() || m_box.isReadOnly() || !acceptPasteSize(m_thread, data))
+    if (data.isEmpty() || !mayUserEdit(m_box) || !acceptPasteSize(m_thread, data))
         return Pasted::Refused;
     if (data != m_box.SelText()) {
         m_undo.PushUndoSnapshot();

@@ -8,6 +8,7 @@
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
 #include <ORVTListview/RichTextBox.h>
+#include "widgets/box/UserEditing.h"
 
 namespace ORVTListview {
 
@@ -80,6 +81,8 @@ void WordChoice::caretToLineEnd()
 void WordChoice::takeWord(const QString &word, qint32 colour)
 {
     const RichTextBox::Changing changing(m_box);
+    if (!mayUserEdit(m_box))
+        return;
     m_undo.PushUndoSnapshot();
     m_box.setSelStart(m_box.SelStart()); // the word's line, of those selected
     m_colouring.noteEdit();
