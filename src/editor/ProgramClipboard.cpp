@@ -2,6 +2,7 @@
 
 #include "base/ColouredText.h"
 #include "base/EventGuard.h"
+#include "base/TextRules.h"
 #include "editor/CheckedPaste.h"
 #include "editor/EditorUndo.h"
 #include "editor/TypedColouring.h"
@@ -39,7 +40,7 @@ void ProgramClipboard::RTextCopy()
     const QString selected = m_box.SelText();
     clipboard->clear();
     if (!selected.isEmpty())
-        clipboard->setText(selected);
+        clipboard->setText(asOffered(selected));
 }
 
 Pasted ProgramClipboard::RTextPaste(const QString &Data)
@@ -73,7 +74,7 @@ Pasted ProgramClipboard::pasteFromOutside(const QString &data)
 {
     if (data.isEmpty() || !mayUserEdit(m_box) || !acceptPasteSize(m_thread, data))
         return Pasted::Refused;
-    if (data != m_box.SelText()) {
+    if (withCrLf(data) != m_box.SelText()) {
         m_undo.PushUndoSnapshot();
         if (!raiseEvent(*this, &ProgramClipboard::UpdateUndoMenu))
             return Pasted::Refused;

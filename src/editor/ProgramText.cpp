@@ -9,6 +9,7 @@
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/RtfHead.h"
+#include "widgets/box/BoxMimeData.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QScopeGuard>
@@ -80,7 +81,7 @@ QString ProgramText::sampleRtf()
 {
     m_box.setText(QString());
     m_box.setSelText(u"#GetInfo#\r\n#Another word"_s);
-    RTextSelectAll();
+    m_box.selectAll();
     const QString sample = m_box.SelRTF();
     m_box.setText(QString());
     return sample;
@@ -100,7 +101,7 @@ void ProgramText::setCodeText(const QString &text)
 
 QString ProgramText::CodeTextRTF()
 {
-    RTextSelectAll();
+    m_box.selectAll();
     return m_box.SelRTF();
 }
 
@@ -128,8 +129,8 @@ void ProgramText::Clear()
 
 void ProgramText::RTextSelectAll()
 {
-    m_box.setSelStart(0);
-    m_box.setSelLength(m_box.TextLength());
+    m_box.selectAll();
+    offerSelection(m_box);
 }
 
 } // namespace ORVTListview

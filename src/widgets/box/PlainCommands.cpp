@@ -51,7 +51,7 @@ void PlainCommands::pasteClipboard()
 void PlainCommands::copy()
 {
     if (m_box.SelLength() > 0)
-        QGuiApplication::clipboard()->setText(m_box.SelText());
+        QGuiApplication::clipboard()->setText(asOffered(m_box.SelText()));
 }
 
 void PlainCommands::cut()
@@ -85,8 +85,8 @@ void PlainCommands::removeAfter(Extent extent)
 
 void PlainCommands::selectAll()
 {
-    m_box.setSelStart(0);
-    m_box.setSelLength(m_box.TextLength());
+    m_box.selectAll();
+    offerSelection(m_box);
 }
 
 void PlainCommands::replace(const QList<TextPiece> &pieces, const QString &text)

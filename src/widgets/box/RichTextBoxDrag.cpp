@@ -3,9 +3,10 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include "base/EventGuard.h"
+#include "widgets/box/BoxMimeData.h"
 #include "widgets/box/BoxParts.h"
-#include "widgets/input/MouseArguments.h"
 #include "widgets/box/UserEditing.h"
+#include "widgets/input/MouseArguments.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
@@ -55,7 +56,7 @@ void RichTextBox::startDrag(const QMouseEvent &event)
 
     auto *drag = new QDrag(viewport());
     auto *text = new QMimeData;
-    text->setText(SelText());
+    text->setText(asOffered(SelText()));
     drag->setMimeData(text);
     const bool mayMove = mayUserEdit(*this);
     const Qt::DropActions actions = mayMove ? Qt::CopyAction | Qt::MoveAction : Qt::CopyAction;
