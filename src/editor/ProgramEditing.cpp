@@ -5,6 +5,7 @@
 #include "editor/EditorUndo.h"
 #include "editor/ProgramClipboard.h"
 #include "editor/TypedColouring.h"
+#include "widgets/box/KeptView.h"
 #include <ORVTListview/RichTextBox.h>
 
 namespace ORVTListview {
@@ -64,6 +65,8 @@ void ProgramEditing::unindentLines()
 
 // A line keeps its colours, and one that is not finished still waits for that.
 void ProgramEditing::changeIndent(const std::function<void()> &change)
+    const RichTextBox::Changing changing(m_box);
+    const KeptView view(m_box);
 {
     if (m_colouring.isUnfinished())
         m_colouring.edit(change);
@@ -91,12 +94,12 @@ void ProgramEditing::replace(const QList<TextPiece> &pieces, const QString &text
         return;
     const RichTextBox::Changing changing(m_box);
     m_undo.PushUndoSnapshot();
+    const KeptView view(m_box);
     m_colouring.finishEdit(); // the caret leaves the line
     if (how == Replacing::InColours)
         replaceInColours(m_thread, m_box, pieces, text);
     else
         m_box.replacePieces(pieces, text);
-    m_box.ensureCursorVisible();
 }
 
 } // namespace ORVTListview
