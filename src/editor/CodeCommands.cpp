@@ -6,6 +6,7 @@
 #include "editor/ProgramClipboard.h"
 #include "editor/ProgramEditing.h"
 #include "editor/ProgramText.h"
+#include "editor/StatusTimer.h"
 #include "editor/TypedColouring.h"
 #include "shared/texts/AccessKeys.h"
 #include "shared/texts/TextTable.h"
@@ -55,6 +56,7 @@ std::optional<bool> CodeCommands::takesKey(const VirtualKey &key) const
 
 void CodeCommands::type(const QString &text)
 {
+    m_acts.status.rearm(); // an input method's text comes without a key
     m_acts.editing.typeText(text);
 }
 
@@ -76,6 +78,26 @@ void CodeCommands::cut()
 void CodeCommands::remove()
 {
     m_acts.clipboard.removeSelection();
+}
+
+void CodeCommands::removeBefore(Extent extent)
+{
+    removing([this, extent] { PlainCommands::removeBefore(extent); });
+}
+
+void CodeCommands::removeAfter(Extent extent)
+{
+    removing([this, extent] { PlainCommands::removeAfter(extent); });
+}
+
+// A selection that goes leaves no word that is being typed.
+void CodeCommands::removing(const std::function<void()> &act)
+{
+    const RichTextBox::Changing changing(box());
+    const bool wasSelected = box().SelLength() > 0;
+    act();
+    if (wasSelected)
+        m_acts.colouring.finishEdit();
 }
 
 void CodeCommands::selectAll()

@@ -33,7 +33,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     m_box->setObjectName(u"RichTextBox1"_s);
     m_box->setCommands(std::make_unique<CodeCommands>(
         *m_box, CodeCommands::Acts{m_text, m_editing, m_clipboard, m_keys, m_undo, m_colouring,
-                                   m_tabStops}));
+                                   m_tabStops, *m_status}));
     connectBox();
     connectEvents();
 }
@@ -55,6 +55,7 @@ void CodeEditor::connectBox()
             });
     connect(m_box, &RichTextBox::edited, this, &CodeEditor::noteTextChange);
     connect(m_box, &RichTextBox::cursorPositionChanged, this, &CodeEditor::noteCaretMove);
+    connect(m_box, &RichTextBox::selectionChanged, this, &CodeEditor::noteCaretMove);
 }
 
 void CodeEditor::connectEvents()
@@ -98,7 +99,6 @@ bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::FocusOut:
         leaveFocus();
-    return QObject::eventFilter(watched, event);
         break;
     case QEvent::Hide:
         noteHidden();
@@ -109,9 +109,9 @@ bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
     default:
         break;
     }
+    return QObject::eventFilter(watched, event);
 }
 
-QWidget *CodeEditor::form() const
 // The toolkit leaves the focus with a hidden box, which keeps Tab for itself, as long as
 // no other control is a tab stop. A window that comes back has its focus where it was.
 void CodeEditor::noteHidden()
@@ -124,6 +124,7 @@ void CodeEditor::noteHidden()
         m_box->clearFocus();
 }
 
+QWidget *CodeEditor::form() const
 {
     if (auto *codeParent = qobject_cast<QWidget *>(m_thread.forms.codeParent.data()))
         return codeParent;

@@ -7,9 +7,9 @@
 #include "editor/EditorUndo.h"
 #include "editor/TypedColouring.h"
 #include "rtf/RtfReader.h"
-#include <ORVTListview/RichTextBox.h>
 #include "widgets/box/BoxMimeData.h"
 #include "widgets/box/UserEditing.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QScopeGuard>
 #include <QtGui/QClipboard>
@@ -31,7 +31,15 @@ ProgramClipboard::ProgramClipboard(RichTextBox &box, const EditorThread &thread,
 void ProgramClipboard::RTextCut()
 {
     RTextCopy();
-    m_colouring.edit([this] { m_box.setSelText(QString()); });
+    takeSelectionOut();
+}
+
+// What is left of the line is no word that is being typed.
+void ProgramClipboard::takeSelectionOut()
+{
+    const RichTextBox::Changing changing(m_box);
+    if (m_colouring.edit([this] { m_box.setSelText(QString()); }))
+        m_colouring.finishEdit();
 }
 
 void ProgramClipboard::RTextCopy()
@@ -60,7 +68,7 @@ void ProgramClipboard::removeSelection()
 {
     const RichTextBox::Changing changing(m_box);
     m_undo.PushUndoSnapshot();
-    m_colouring.edit([this] { m_box.setSelText(QString()); });
+    takeSelectionOut();
 }
 
 Pasted ProgramClipboard::pasteClipboard()

@@ -35,8 +35,7 @@ void ProgramEditing::typeText(const QString &text)
         return;
     }
     m_undo.noteTyped(text);
-    m_colouring.prepareTyping(text);
-    const bool isTyped = m_colouring.edit([&] { m_box.setSelText(text); });
+    const bool isTyped = m_colouring.edit([&] { m_colouring.put(text); });
     if (isTyped && TypedColouring::finishesWord(text))
         m_colouring.finishEdit();
 }
@@ -65,9 +64,9 @@ void ProgramEditing::unindentLines()
 
 // A line keeps its colours, and one that is not finished still waits for that.
 void ProgramEditing::changeIndent(const std::function<void()> &change)
+{
     const RichTextBox::Changing changing(m_box);
     const KeptView view(m_box);
-{
     if (m_colouring.isUnfinished())
         m_colouring.edit(change);
     else
@@ -94,8 +93,8 @@ void ProgramEditing::replace(const QList<TextPiece> &pieces, const QString &text
         return;
     const RichTextBox::Changing changing(m_box);
     m_undo.PushUndoSnapshot();
-    const KeptView view(m_box);
     m_colouring.finishEdit(); // the caret leaves the line
+    const KeptView view(m_box);
     if (how == Replacing::InColours)
         replaceInColours(m_thread, m_box, pieces, text);
     else
