@@ -184,8 +184,12 @@
         <translation>&amp;Einfügen</translation>
     </message>
     <message>
-        <source>Undo has taken no typed text away.</source>
-        <translation>Rückgängig hat keinen getippten Text entfernt.</translation>
+        <source>There is no older typed text. The next time the latest comes again.</source>
+        <translation>Es gibt keinen älteren getippten Text. Beim nächsten Mal kommt wieder der neueste.</translation>
+    </message>
+    <message>
+        <source>Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed.</source>
+        <translation>Nichts wiederherzustellen: Strg+Z und Strg+Y erreichen alles Getippte.</translation>
     </message>
     <message>
         <source>&amp;Find…</source>

@@ -184,8 +184,12 @@
         <translation>&amp;Pegar</translation>
     </message>
     <message>
-        <source>Undo has taken no typed text away.</source>
-        <translation>Deshacer no ha quitado ningún texto escrito.</translation>
+        <source>There is no older typed text. The next time the latest comes again.</source>
+        <translation>No hay texto escrito más antiguo. La próxima vez vuelve el más reciente.</translation>
+    </message>
+    <message>
+        <source>Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed.</source>
+        <translation>Nada que restaurar: Ctrl+Z y Ctrl+Y llegan a todo lo escrito.</translation>
     </message>
     <message>
         <source>&amp;Find…</source>

@@ -184,8 +184,12 @@
         <translation>Co&amp;ller</translation>
     </message>
     <message>
-        <source>Undo has taken no typed text away.</source>
-        <translation>L’annulation n’a retiré aucun texte saisi.</translation>
+        <source>There is no older typed text. The next time the latest comes again.</source>
+        <translation>Il n’y a pas de texte saisi plus ancien. La prochaine fois, le plus récent revient.</translation>
+    </message>
+    <message>
+        <source>Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed.</source>
+        <translation>Rien à restaurer : Ctrl+Z et Ctrl+Y atteignent tout ce qui a été saisi.</translation>
     </message>
     <message>
         <source>&amp;Find…</source>

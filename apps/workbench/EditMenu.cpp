@@ -11,6 +11,8 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 
+#include <utility>
+
 namespace ORVTListview {
 
 EditMenu::EditMenu(ORVListView &code, QWidget *parent)
@@ -101,8 +103,12 @@ void EditMenu::redo()
 
 void EditMenu::restoreTypedText()
 {
-    if (!m_code.restoreUnsavedText())
-        Q_EMIT told(tr("Undo has taken no typed text away."));
+    if (m_code.restoreUnsavedText())
+        m_hasRestored = true;
+    else if (std::exchange(m_hasRestored, false))
+        Q_EMIT told(tr("There is no older typed text. The next time the latest comes again."));
+    else
+        Q_EMIT told(tr("Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed."));
 }
 
 void EditMenu::cut()

@@ -42,6 +42,7 @@ private:
     void replace();
 
     ORVListView &m_code;
+    bool m_hasRestored = false; // something, since the last time there was nothing
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QAction *m_cut = nullptr;

@@ -6,6 +6,7 @@
 #include "editor/ProgramClipboard.h"
 #include "editor/ProgramEditing.h"
 #include "editor/ProgramText.h"
+#include "editor/StatusTimer.h"
 #include "editor/TypedColouring.h"
 #include "shared/texts/MenuTexts.h"
 #include "widgets/input/TabStops.h"
@@ -54,6 +55,7 @@ std::optional<bool> CodeCommands::takesKey(const VirtualKey &key) const
 
 void CodeCommands::type(const QString &text)
 {
+    m_acts.status.rearm(); // an input method's text comes without a key
     m_acts.editing.typeText(text);
 }
 
@@ -75,6 +77,26 @@ void CodeCommands::cut()
 void CodeCommands::remove()
 {
     m_acts.clipboard.removeSelection();
+}
+
+void CodeCommands::removeBefore(Extent extent)
+{
+    removing([this, extent] { PlainCommands::removeBefore(extent); });
+}
+
+void CodeCommands::removeAfter(Extent extent)
+{
+    removing([this, extent] { PlainCommands::removeAfter(extent); });
+}
+
+// A selection that goes leaves no word that is being typed.
+void CodeCommands::removing(const std::function<void()> &act)
+{
+    const RichTextBox::Changing changing(box());
+    const bool wasSelected = box().SelLength() > 0;
+    act();
+    if (wasSelected)
+        m_acts.colouring.finishEdit();
 }
 
 void CodeCommands::selectAll()
@@ -117,13 +139,8 @@ void CodeCommands::leave(bool forwards)
 
 void CodeCommands::fillMenu(QMenu &menu)
 {
-    const auto add = [this, &menu](const QString &text, bool isEnabled,
-                                   void (CodeCommands::*act)()) {
-        menu.addAction(text, &menu, [this, act] { (this->*act)(); })->setEnabled(isEnabled);
-    };
-    const bool canChange = !box().isReadOnly();
-    add(u"Undo"_s, canChange && m_acts.undo.canUndo(), &CodeCommands::undo);
-    add(u"Redo"_s, canChange && m_acts.undo.canRedo(), &CodeCommands::redo);
+    addChange(menu, u"Undo"_s, m_acts.undo.canUndo(), [this] { undo(); });
+    addChange(menu, u"Redo"_s, m_acts.undo.canRedo(), [this] { redo(); });
     menu.addSeparator();
     PlainCommands::fillMenu(menu);
     localise(menu);

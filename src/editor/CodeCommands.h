@@ -9,6 +9,7 @@ class EditorUndo;
 class ProgramClipboard;
 class ProgramEditing;
 class ProgramText;
+class StatusTimer;
 class TabStops;
 class TypedColouring;
 
@@ -27,6 +28,7 @@ public:
         EditorUndo &undo;
         TypedColouring &colouring;
         TabStops &tabStops;
+        StatusTimer &status;
     };
 
     CodeCommands(RichTextBox &owner, const Acts &acts);
@@ -37,6 +39,8 @@ public:
     void copy() override;
     void cut() override;
     void remove() override;
+    void removeBefore(Extent extent) override;
+    void removeAfter(Extent extent) override;
     void selectAll() override;
     void replace(const QList<TextPiece> &pieces, const QString &text) override;
     void beforeChange(bool losesPart) override;
@@ -47,6 +51,8 @@ public:
     void fillMenu(QMenu &menu) override;
 
 private:
+    void removing(const std::function<void()> &act);
+
     Acts m_acts;
 };
 

@@ -33,7 +33,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     m_box->setObjectName(u"RichTextBox1"_s);
     m_box->setCommands(std::make_unique<CodeCommands>(
         *m_box, CodeCommands::Acts{m_text, m_editing, m_clipboard, m_keys, m_undo, m_colouring,
-                                   m_tabStops}));
+                                   m_tabStops, *m_status}));
     connectBox();
     connectEvents();
 }
@@ -55,6 +55,7 @@ void CodeEditor::connectBox()
             });
     connect(m_box, &RichTextBox::edited, this, &CodeEditor::noteTextChange);
     connect(m_box, &RichTextBox::cursorPositionChanged, this, &CodeEditor::noteCaretMove);
+    connect(m_box, &RichTextBox::selectionChanged, this, &CodeEditor::noteCaretMove);
 }
 
 void CodeEditor::connectEvents()
@@ -90,11 +91,37 @@ void CodeEditor::raiseStatus()
 
 bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_box && event->type() == QEvent::FocusIn)
+    if (watched != m_box)
+        return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::FocusIn:
         m_tabStops.takeFrom(form());
-    else if (watched == m_box && event->type() == QEvent::FocusOut)
+        break;
+    case QEvent::FocusOut:
         leaveFocus();
+        break;
+    case QEvent::Hide:
+        noteHidden();
+        break;
+    case QEvent::FontChange:
+        m_editing.lines().fitTabStops();
+        break;
+    default:
+        break;
+    }
     return QObject::eventFilter(watched, event);
+}
+
+// The toolkit leaves the focus with a hidden box, which keeps Tab for itself, as long as
+// no other control is a tab stop. A window that comes back has its focus where it was.
+void CodeEditor::noteHidden()
+{
+    if (m_box->isVisibleTo(m_box->window()) || m_box->window()->focusWidget() != m_box)
+        return;
+    m_tabStops.giveBack();
+    m_box->moveFocus(true);
+    if (m_box->window()->focusWidget() == m_box)
+        m_box->clearFocus();
 }
 
 QWidget *CodeEditor::form() const

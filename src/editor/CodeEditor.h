@@ -63,6 +63,7 @@ private:
     void raiseStatus();
     QWidget *form() const;
     void leaveFocus();
+    void noteHidden();
 
     const EditorThread m_thread;
     QPointer<RichTextBox> m_box;

@@ -8,6 +8,7 @@
 #include "editor/StatusTimer.h"
 #include "editor/TypedColouring.h"
 #include "editor/WordChoice.h"
+#include "widgets/box/UserEditing.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
@@ -21,12 +22,13 @@ EditorKeys::EditorKeys(const Acts &acts)
 
 KeyDecision EditorKeys::decide(qint16 keyCode, qint16 shift) const
 {
-    return decideKey(keyCode, shift, {m_acts.words.popup().isShown(), hasSelection()});
+    return decideKey(keyCode, shift, state(m_acts.words.popup().isShown()));
 }
 
-bool EditorKeys::hasSelection() const
+KeyState EditorKeys::state(bool popupListShown) const
 {
-    return m_acts.editing.box().SelLength() >= 1;
+    const RichTextBox &box = m_acts.editing.box();
+    return {popupListShown, box.SelLength() >= 1, mayUserEdit(box)};
 }
 
 void EditorKeys::keyDown(qint16 &KeyCode, qint16 Shift)
@@ -57,9 +59,11 @@ bool EditorKeys::carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift)
         return KeyCode != 0;
     case KeyDecision::PopupKey:
         return !m_acts.words.popup().key(KeyCode) &&
-               carryOut(decideKey(KeyCode, Shift, {false, hasSelection()}), KeyCode, Shift);
+               carryOut(decideKey(KeyCode, Shift, state(false)), KeyCode, Shift);
     case KeyDecision::EditingKey:
         return editingKey(KeyCode);
+    case KeyDecision::MovingKey:
+        return movingKey(KeyCode);
     case KeyDecision::DeleteWordAfter:
         m_acts.undo.PushUndoSnapshot();
         return true;
@@ -120,18 +124,24 @@ bool EditorKeys::editingKey(qint16 keyCode)
     case EnterKey:
         m_acts.editing.breakLine();
         return false;
-    case DeleteKey:
-        m_acts.undo.PushUndoSnapshot();
-        return true;
     case BackspaceKey:
         m_acts.undo.PushUndoSnapshot();
         return !m_acts.editing.unindentBeforeCaret();
+    default: // Delete
+        m_acts.undo.PushUndoSnapshot();
+        return true;
+    }
+}
+
+bool EditorKeys::movingKey(qint16 keyCode)
+{
+    m_acts.colouring.finishCaretLine();
+    switch (keyCode) {
     case UpKey:
+        return !m_acts.editing.lines().moveToSameOffset(-1);
     case DownKey:
-        m_acts.colouring.finishCaretLine();
-        return !m_acts.editing.lines().moveToSameOffset(keyCode == UpKey ? -1 : 1);
+        return !m_acts.editing.lines().moveToSameOffset(1);
     default: // Page Up, Page Down, Home, End
-        m_acts.colouring.finishCaretLine();
         return true;
     }
 }

@@ -49,7 +49,8 @@ private:
     bool carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift);
     bool runCommand(KeyDecision decision);
     bool editingKey(qint16 keyCode);
-    bool hasSelection() const;
+    bool movingKey(qint16 keyCode);
+    KeyState state(bool popupListShown) const;
 
     Acts m_acts;
 };

@@ -5,6 +5,7 @@
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "shared/texts/TextTable.h"
+#include "widgets/box/KeptView.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>
 
@@ -121,11 +122,11 @@ bool EditorUndo::showKept(const std::optional<UndoRecord> &kept)
 
 void EditorUndo::show(const UndoRecord &record, const ColouredText &text)
 {
+    const KeptView view(m_box);
     m_box.setColoured(text);
     m_changed = now();
     m_box.setSelStart(record.selectionStart);
     m_box.setSelLength(record.selectionLength);
-    m_box.ensureCursorVisible();
 }
 
 UndoRecord EditorUndo::shown() const

@@ -5,6 +5,9 @@
 #include "editor/rules/language/CodeText.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtGui/QFontMetricsF>
+#include <QtGui/QTextBlock>
+
 #include <algorithm>
 
 namespace ORVTListview {
@@ -42,12 +45,24 @@ qint32 movedBy(qint32 offset, qint32 change)
 LineCommands::LineCommands(RichTextBox &box)
     : m_box(box)
 {
+    fitTabStops();
 }
 
 void LineCommands::setIndentUnit(const QString &unit)
 {
-    if (!unit.isEmpty() && isAllBlank(unit))
-        m_unit = unit;
+    if (unit.isEmpty() || !isAllBlank(unit))
+        return;
+    m_unit = unit;
+    fitTabStops();
+}
+
+// Of a unit of tabs each stands for as much as an indent has at first.
+void LineCommands::fitTabStops()
+{
+    const QString blanks = QString(m_unit).replace(u'\t', QStringLiteral("    "));
+    const qreal width = QFontMetricsF(m_box.font(), &m_box).horizontalAdvance(blanks);
+    if (m_box.tabStopDistance() != width)
+        m_box.setTabStopDistance(width);
 }
 
 // Each line is changed at its beginning only, so its colours move as they are.
@@ -57,6 +72,7 @@ void LineCommands::changeSelectedLines(ChangeLine changeLine)
     const Lines lines = selectedLines(m_box);
     const qint32 selStart = m_box.SelStart();
     const qint32 selEnd = selStart + m_box.SelLength();
+    const bool isUpward = m_box.textCursor().position() < m_box.textCursor().anchor();
     const qint32 begin = m_box.lineStart(lines.first);
     qint32 newStart = selStart;
     qint32 newEnd = selEnd;
@@ -85,8 +101,22 @@ void LineCommands::changeSelectedLines(ChangeLine changeLine)
     m_box.setSelStart(begin);
     m_box.setSelLength(end - begin);
     m_box.setSelColoured(changed);
-    m_box.setSelStart(newStart);
-    m_box.setSelLength(newEnd - newStart);
+    if (isUpward)
+        select(newEnd, newStart);
+    else
+        select(newStart, newEnd);
+}
+
+void LineCommands::select(qint32 anchor, qint32 caret)
+{
+    const auto inDocument = [this](qint32 place) {
+        const qint32 line = m_box.GetLineFromChar(place);
+        return m_box.document()->findBlockByNumber(line).position() + place - m_box.lineStart(line);
+    };
+    QTextCursor cursor = m_box.textCursor();
+    cursor.setPosition(inDocument(anchor));
+    cursor.setPosition(inDocument(caret), QTextCursor::KeepAnchor);
+    m_box.setTextCursor(cursor);
 }
 
 void LineCommands::indentSelectedLines()
@@ -154,10 +184,9 @@ bool LineCommands::deleteBlankBeforeCaret()
 
 bool LineCommands::moveToSameOffset(int lines)
 {
-    const qint32 caret = m_box.SelStart();
-    const qint32 line = m_box.GetLineFromChar(caret);
-    const qint32 target = line + lines;
-    const qint32 offset = caret - m_box.lineStart(line);
+    const QTextCursor caret = m_box.textCursor();
+    const qint32 target = caret.blockNumber() + lines;
+    const qint32 offset = caret.positionInBlock();
     if (target < 0 || target >= m_box.lineCount() || offset < 1 ||
         m_box.lineText(target).size() < offset)
         return false;

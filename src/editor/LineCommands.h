@@ -21,8 +21,11 @@ public:
     // Ignores a text that is empty or holds anything else.
     void setIndentUnit(const QString &unit);
 
+    // Shows a tab as wide as the unit is in the box's font.
+    void fitTabStops();
+
     // The lines that the selection touches; a line at whose very start it ends is
-    // not touched, empty lines stay empty. The selection keeps its text.
+    // not touched, empty lines stay empty. The selection keeps its text and its direction.
     void indentSelectedLines();
 
     // Takes at most one unit, or one tab, from each line.
@@ -47,6 +50,7 @@ private:
     void changeSelectedLines(ChangeLine changeLine);
 
     QString withoutOneUnit(const QString &line) const;
+    void select(qint32 anchor, qint32 caret);
 
     RichTextBox &m_box;
     QString m_unit = QStringLiteral("    ");

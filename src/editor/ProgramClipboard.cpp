@@ -3,11 +3,14 @@
 #include "base/ColouredText.h"
 #include "base/EventGuard.h"
 #include "base/MessageService.h"
+#include "base/TextRules.h"
 #include "editor/CheckedPaste.h"
 #include "editor/EditorThread.h"
 #include "editor/EditorUndo.h"
 #include "editor/TypedColouring.h"
 #include "rtf/RtfReader.h"
+#include "widgets/box/BoxMimeData.h"
+#include "widgets/box/UserEditing.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QScopeGuard>
@@ -30,7 +33,15 @@ ProgramClipboard::ProgramClipboard(RichTextBox &box, const EditorThread &thread,
 void ProgramClipboard::RTextCut()
 {
     RTextCopy();
-    m_colouring.edit([this] { m_box.setSelText(QString()); });
+    takeSelectionOut();
+}
+
+// What is left of the line is no word that is being typed.
+void ProgramClipboard::takeSelectionOut()
+{
+    const RichTextBox::Changing changing(m_box);
+    if (m_colouring.edit([this] { m_box.setSelText(QString()); }))
+        m_colouring.finishEdit();
 }
 
 void ProgramClipboard::RTextCopy()
@@ -39,7 +50,7 @@ void ProgramClipboard::RTextCopy()
     const QString selected = m_box.SelText();
     clipboard->clear();
     if (!selected.isEmpty())
-        clipboard->setText(selected);
+        clipboard->setText(asOffered(selected));
 }
 
 Pasted ProgramClipboard::RTextPaste(const QString &Data)
@@ -59,7 +70,7 @@ void ProgramClipboard::removeSelection()
 {
     const RichTextBox::Changing changing(m_box);
     m_undo.PushUndoSnapshot();
-    m_colouring.edit([this] { m_box.setSelText(QString()); });
+    takeSelectionOut();
 }
 
 Pasted ProgramClipboard::pasteClipboard()
@@ -71,9 +82,9 @@ Pasted ProgramClipboard::pasteClipboard()
 
 Pasted ProgramClipboard::pasteFromOutside(const QString &data)
 {
-    if (data.isEmpty() || m_box.isReadOnly() || !acceptPasteSize(m_thread, data))
+    if (data.isEmpty() || !mayUserEdit(m_box) || !acceptPasteSize(m_thread, data))
         return Pasted::Refused;
-    if (data != m_box.SelText()) {
+    if (withCrLf(data) != m_box.SelText()) {
         m_undo.PushUndoSnapshot();
         if (!raiseEvent(*this, &ProgramClipboard::UpdateUndoMenu))
             return Pasted::Refused;

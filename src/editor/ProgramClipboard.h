@@ -39,6 +39,7 @@ Q_SIGNALS:
     void UpdateUndoMenu(); // a snapshot was taken
 
 private:
+    void takeSelectionOut();
     void pastePlain(const ColouredText &text);
     void pasteRtf(const QString &rtf);
     void finishLines(qint32 first, qint32 last);

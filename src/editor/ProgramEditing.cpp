@@ -7,6 +7,7 @@
 #include "editor/EditorUndo.h"
 #include "editor/ProgramClipboard.h"
 #include "editor/TypedColouring.h"
+#include "widgets/box/KeptView.h"
 #include <ORVTListview/RichTextBox.h>
 
 namespace ORVTListview {
@@ -36,8 +37,7 @@ void ProgramEditing::typeText(const QString &text)
         return;
     }
     m_undo.noteTyped(text);
-    m_colouring.prepareTyping(text);
-    const bool isTyped = m_colouring.edit([&] { m_box.setSelText(text); });
+    const bool isTyped = m_colouring.edit([&] { m_colouring.put(text); });
     if (isTyped && TypedColouring::finishesWord(text))
         m_colouring.finishEdit();
 }
@@ -67,6 +67,8 @@ void ProgramEditing::unindentLines()
 // A line keeps its colours, and one that is not finished still waits for that.
 void ProgramEditing::changeIndent(const std::function<void()> &change)
 {
+    const RichTextBox::Changing changing(m_box);
+    const KeptView view(m_box);
     if (m_colouring.isUnfinished())
         m_colouring.edit(change);
     else
@@ -95,11 +97,11 @@ void ProgramEditing::replace(const QList<TextPiece> &pieces, const QString &text
     const RichTextBox::Changing changing(m_box);
     m_undo.PushUndoSnapshot();
     m_colouring.finishEdit(); // the caret leaves the line
+    const KeptView view(m_box);
     if (how == Replacing::InColours)
         replaceInColours(m_thread, m_box, pieces, text);
     else
         m_box.replacePieces(pieces, text);
-    m_box.ensureCursorVisible();
 }
 
 } // namespace ORVTListview

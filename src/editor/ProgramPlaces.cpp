@@ -2,6 +2,7 @@
 
 #include "editor/WordInBox.h"
 #include "widgets/box/CaretPosition.h"
+#include "widgets/box/KeptView.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <algorithm>
@@ -37,15 +38,11 @@ void ProgramPlaces::HighLightText(const QString &Text, qint16 LineNumber)
     const qint32 lineStart = m_box.lineStart(line);
     const qint32 S = std::max(lineStart, 1);
     const qint32 E = lineStart + static_cast<qint32>(m_box.lineText(line).size());
-    const qint32 found = m_box.Find(Text, S - 1, E + 1);
-    if (found >= 0) {
-        m_box.setSelStart(found);
-        m_box.setSelLength(static_cast<qint32>(Text.size()));
-    } else if (S < E) {
-        m_box.setSelStart(S);
-        m_box.setSelLength(E - S);
-    }
-    m_box.ensureCursorVisible();
+    if (m_box.Find(Text, S - 1, E + 1) >= 0 || S >= E)
+        return;
+    const KeptView view(m_box);
+    m_box.setSelStart(S);
+    m_box.setSelLength(E - S);
 }
 
 } // namespace ORVTListview

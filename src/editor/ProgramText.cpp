@@ -10,6 +10,7 @@
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/RtfHead.h"
+#include "widgets/box/BoxMimeData.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QScopeGuard>
@@ -82,7 +83,7 @@ QString ProgramText::sampleRtf()
 {
     m_box.setText(QString());
     m_box.setSelText(u"#GetInfo#\r\n#Another word"_s);
-    RTextSelectAll();
+    m_box.selectAll();
     const QString sample = m_box.SelRTF();
     m_box.setText(QString());
     return sample;
@@ -110,7 +111,7 @@ void ProgramText::openProgram(const QString &text)
 
 QString ProgramText::CodeTextRTF()
 {
-    RTextSelectAll();
+    m_box.selectAll();
     return m_box.SelRTF();
 }
 
@@ -138,8 +139,8 @@ void ProgramText::Clear()
 
 void ProgramText::RTextSelectAll()
 {
-    m_box.setSelStart(0);
-    m_box.setSelLength(m_box.TextLength());
+    m_box.selectAll();
+    offerSelection(m_box);
 }
 
 } // namespace ORVTListview

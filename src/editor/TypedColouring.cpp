@@ -26,12 +26,18 @@ bool endsWord(QStringView before)
            isBracket(before.back());
 }
 
+bool touches(const QTextBlock &line, int from, int to)
+{
+    return to >= line.position() && from < line.position() + line.length();
+}
+
 } // namespace
 
 TypedColouring::TypedColouring(RichTextBox &box, const EditorThread &thread)
     : m_box(box)
     , m_thread(thread)
     , m_edited(box.document())
+    , m_elsewhere(box.document())
 {
     // Told before the caret moves, and before the host hears of the change.
     connect(box.document(), &QTextDocument::contentsChange, this,
@@ -64,12 +70,14 @@ bool TypedColouring::edit(const std::function<void()> &change)
             self->m_edit = outer;
     });
     change();
+    if (self && std::exchange(m_hasElsewhere, false))
+        finishLine(m_elsewhere.blockNumber());
     return self && m_isUnfinished;
 }
 
+// The same cursors all the time: a document that is being cleared may lose none.
 void TypedColouring::noteEdit()
 {
-    // The same cursor all the time: a document that is being cleared may lose none.
     m_edited.setPosition(m_box.textCursor().position());
     m_isUnfinished = true;
 }
@@ -80,16 +88,15 @@ void TypedColouring::noteChange(int from, int added)
         return;
     if (m_edit == Edit::Begun) {
         m_edit = Edit::Made; // what else changes meanwhile is the host's
-        noteEdit();
-    } else if (isOnEditedLine(from, from + added)) {
+        if (touches(m_box.textCursor().block(), from, from + added)) {
+            noteEdit();
+        } else {
+            m_elsewhere.setPosition(from);
+            m_hasElsewhere = true;
+        }
+    } else if (touches(m_edited.block(), from, from + added)) {
         m_isUnfinished = false;
     }
-}
-
-bool TypedColouring::isOnEditedLine(int from, int to) const
-{
-    const QTextBlock line = m_edited.block();
-    return to >= line.position() && from < line.position() + line.length();
 }
 
 void TypedColouring::finishEdit()
@@ -100,8 +107,34 @@ void TypedColouring::finishEdit()
 
 void TypedColouring::followCaret()
 {
-    if (m_edited.block() != m_box.textCursor().block())
+    const QTextCursor caret = m_box.textCursor();
+    const bool isInside = caret.anchor() == caret.position() ||
+                          touches(m_edited.block(), caret.anchor(), caret.anchor());
+    if (m_edited.block() != caret.block() || !isInside)
         finishEdit();
+}
+
+void TypedColouring::put(const QString &text)
+{
+    if (m_box.SelLength() == 0) {
+        prepareTyping(text);
+        m_box.setSelText(text);
+        return;
+    }
+    const Colour colour =
+        isInComment() ? shownColour(m_thread.settings().CommentColor) : ColouredText::automatic;
+    m_box.setSelColoured({text, {{text.size(), colour}}});
+}
+
+// Whether the line of the caret is one without what is selected.
+bool TypedColouring::isInComment() const
+{
+    const qint32 start = m_box.SelStart();
+    const qint32 end = start + m_box.SelLength();
+    const qint32 first = m_box.GetLineFromChar(start);
+    const qint32 last = m_box.GetLineFromChar(end);
+    return IsCommentLine(m_box.lineText(first).first(start - m_box.lineStart(first)) +
+                         m_box.lineText(last).sliced(end - m_box.lineStart(last)));
 }
 
 void TypedColouring::prepareTyping(QStringView text)
@@ -109,8 +142,6 @@ void TypedColouring::prepareTyping(QStringView text)
     const qint32 start = m_box.SelStart();
     const qint32 line = m_box.GetLineFromChar(start);
     const QString lineText = m_box.lineText(line);
-    if (m_box.SelLength() > 0)
-        return; // takes the colour of what it replaces
     if (IsCommentLine(lineText)) {
         m_box.setSelColor(shownColour(m_thread.settings().CommentColor));
         return;

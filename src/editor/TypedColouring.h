@@ -27,8 +27,8 @@ public:
     void finishCaretLine();
 
     // Carries out a change by the user, one at most; the line of the caret is
-    // finished once it is left. Returns whether the line is still the user's: a
-    // handler of the change may set the text anew or destroy this.
+    // finished once it is left, another one at once. Returns whether the line is still the user's:
+    // a handler of the change may set the text anew or destroy this.
     bool edit(const std::function<void()> &change);
 
     // The same for what changed colours only.
@@ -41,8 +41,9 @@ public:
     // Finishes the edited line when the caret has left it.
     void followCaret();
 
-    // Gives text typed next the colour that an unfinished word has at the caret.
-    void prepareTyping(QStringView text);
+    // Puts typed text in the place of the selection: in the colour that an unfinished
+    // word has at the caret, and over a selection without one.
+    void put(const QString &text);
 
     // Whether typing the text finishes the word before it.
     static bool finishesWord(QStringView text);
@@ -51,13 +52,16 @@ private:
     enum class Edit { None, Begun, Made };
 
     void noteChange(int from, int added);
-    bool isOnEditedLine(int from, int to) const;
+    void prepareTyping(QStringView text);
+    bool isInComment() const;
 
     RichTextBox &m_box;
     const EditorThread &m_thread;
     Edit m_edit = Edit::None;
     bool m_isUnfinished = false;
-    QTextCursor m_edited; // on the line that is not finished
+    QTextCursor m_edited;    // on the line that is not finished
+    QTextCursor m_elsewhere; // on one that changed away from the caret
+    bool m_hasElsewhere = false;
 };
 
 } // namespace ORVTListview

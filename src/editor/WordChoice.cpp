@@ -1,5 +1,6 @@
 #include "editor/WordChoice.h"
 
+#include "base/ColouredText.h"
 #include "base/TextRules.h"
 #include "editor/EditorThread.h"
 #include "editor/EditorUndo.h"
@@ -8,6 +9,7 @@
 #include "editor/WordInBox.h"
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
+#include "widgets/box/UserEditing.h"
 #include <ORVTListview/RichTextBox.h>
 
 namespace ORVTListview {
@@ -58,7 +60,7 @@ void WordChoice::TryToPopupList(bool IsShowAbsolutely)
 bool WordChoice::rewriteKnownWord()
 {
     const QString word = GetWordAtCaret(m_box).Word;
-    qint32 colour = 0;
+    qint32 colour = ColouredText::automatic; // a number has none of its own
     if (word.isEmpty())
         return false;
     if (!isNumeric(word)) {
@@ -80,6 +82,8 @@ void WordChoice::caretToLineEnd()
 
 void WordChoice::takeWord(const QString &word, qint32 colour)
 {
+    if (!mayUserEdit(m_box))
+        return;
     const RichTextBox::Changing changing(m_box);
     m_undo.PushUndoSnapshot();
     m_box.setSelStart(m_box.SelStart()); // the word's line, of those selected

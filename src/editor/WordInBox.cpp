@@ -43,7 +43,8 @@ void SetWordAtCaret(RichTextBox &box, const QString &word, qint32 colour)
 {
     const WordAtCaret old = GetWordAtCaret(box);
     const qint32 start = old.WordStart - 1;
-    const ColouredText coloured{word, {{word.size(), shownColour(colour)}}};
+    const Colour shown = colour == ColouredText::automatic ? colour : shownColour(colour);
+    const ColouredText coloured{word, {{word.size(), shown}}};
     if (word == old.Word) {
         box.recolour(start, coloured);
         box.setSelStart(start + static_cast<qint32>(word.size()));

@@ -22,8 +22,8 @@ struct ColouredWord
 ColouredWord GetWordAndColourAt(const EditorThread &thread, const RichTextBox &box,
                                 qint32 position);
 
-// Puts a word in the place of the one at the caret, in the colour, and the caret
-// behind it.
+// Puts a word in the place of the one at the caret, in the colour, which may be
+// ColouredText::automatic, and the caret behind it.
 void SetWordAtCaret(RichTextBox &box, const QString &word, qint32 colour);
 
 } // namespace ORVTListview

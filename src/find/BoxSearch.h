@@ -3,13 +3,15 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
+#include <QtGui/QTextCursor>
 
 namespace ORVTListview {
 
 struct TextSearch;
 
 // A search through a box: where it goes on and how it compares. It changes the text
-// through the box's commands only, so that the rules of the box's owner hold. Once
+// through the box's commands only, so that the rules of the box's owner hold. In
+// another text than the one searched last it goes on at the caret. Once
 // the box is destroyed, or without one, nothing is found and nothing replaced.
 // Why it is so: docs/decisions/find.md.
 class BoxSearch
@@ -18,7 +20,7 @@ public:
     // Begins one character behind the selection's start, with neither whole words
     // nor letter case asked for.
     void begin(RichTextBox &box);
-    void end() { m_box = nullptr; }
+    void end();
 
     RichTextBox *box() const { return m_box; }
 
@@ -37,9 +39,13 @@ public:
 
 private:
     TextSearch how() const;
+    void goOnAt(qint32 start);
+    qint32 start() const;
 
     QPointer<RichTextBox> m_box;
-    qint32 m_start = 0; // of the next search
+    QTextCursor m_place;   // the character before the next search's start
+    qint32 m_distance = 0; // of the start, when it is inside a line end
+    bool m_isFront = true; // there is no character before it
     QFlags<RichTextBox::FindOption> m_options;
 };
 

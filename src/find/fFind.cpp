@@ -6,6 +6,7 @@
 #include "find/rules/SearchHistory.h"
 #include "shared/texts/TextTable.h"
 #include "widgets/box/CaretPosition.h"
+#include "widgets/box/UserEditing.h"
 #include "widgets/look/PlainToolTip.h"
 
 #include <QtCore/QScopeGuard>
@@ -113,7 +114,7 @@ bool fFind::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_search.box()) {
         if (event->type() == QEvent::Hide && !event->spontaneous())
             reject();
-        else if (event->type() == QEvent::ReadOnlyChange)
+        else if (event->type() == QEvent::ReadOnlyChange || event->type() == QEvent::EnabledChange)
             noteReadOnly();
     } else if (event->type() == QEvent::ToolTip) {
         auto &option = *qobject_cast<QWidget *>(watched);
@@ -125,7 +126,7 @@ bool fFind::eventFilter(QObject *watched, QEvent *event)
 
 void fFind::noteReadOnly()
 {
-    const bool canChange = m_search.box() && !m_search.box()->isReadOnly();
+    const bool canChange = m_search.box() && mayUserEdit(*m_search.box());
     m_Cmd[2]->setEnabled(canChange || !isReplaceMode());
     m_Cmd[3]->setEnabled(canChange);
 }

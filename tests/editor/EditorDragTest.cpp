@@ -5,6 +5,7 @@
 #include "support/TextDrag.h"
 #include "support/WidgetTest.h"
 
+#include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
@@ -37,6 +38,9 @@ private:
 private Q_SLOTS:
     void aMoveInsideTheEditorMovesText();
     void aRefusedMoveInsideTheEditorChangesNothing();
+    void theLineThatADragTakesFromIsFinished();
+    void ctrlAIsForTheMiddleClickToo();
+    void draggedTextEndsItsLinesInLf();
     void aMoveFromAnotherWidgetMovesText();
     void whatIsRefusedStaysInTheOtherWidget_data();
     void whatIsRefusedStaysInTheOtherWidget();
@@ -63,6 +67,64 @@ void EditorDragTest::aRefusedMoveInsideTheEditorChangesNothing()
     TextDrag::drag(host.form, inWindow(host.box(), 1), inWindow(host.box(), 11));
     QCOMPARE(host.marked(), u"|a\\b |\r\nx = 1"_s);
     QCOMPARE(messages().size(), 1);
+}
+
+void EditorDragTest::theLineThatADragTakesFromIsFinished()
+{
+    EditorHost host;
+    host.list->setCodeTextRTF(host.list->GetColorText(u"REM if temp1 > 2\r\nfan1 \r\nx"_s));
+    for (const qint32 to : {23, 25}) { // the end of the second line, and the third
+        host.list->setCodeTextRTF(host.list->GetColorText(u"REM if temp1 > 2\r\nfan1 \r\nx"_s));
+        host.box().setSelStart(0);
+        host.box().setSelLength(4);
+        TextDrag::drag(host.form, inWindow(host.box(), 2), inWindow(host.box(), to));
+        QVERIFY2(host.box().Text().startsWith(u"IF Temp1 > 2\r\n"_s),
+                 qPrintable(host.box().Text()));
+        QCOMPARE(host.colourOf(u"Temp1"_s), 0x0000FF);
+        host.box().setSelStart(0); // leaves the line dropped on
+        const qint32 rem = static_cast<qint32>(host.box().Text().indexOf(u"REM"_s));
+        QVERIFY(rem > 0);
+        if (to == 25)
+            QCOMPARE(host.colourAt(rem), 0x008000);
+    }
+}
+
+void EditorDragTest::ctrlAIsForTheMiddleClickToo()
+{
+    QClipboard &clipboard = *QGuiApplication::clipboard();
+    for (int i = 0; i < 2; ++i) {
+        EditorHost host;
+        host.setText(u"a\r\nb|"_s);
+        clipboard.setText(u"old"_s, QClipboard::Selection);
+        QVERIFY(!host.list->CodeTextRTF().isEmpty()); // selects, but nobody did
+        QCOMPARE(clipboard.text(QClipboard::Selection), u"old"_s);
+        if (i == 0)
+            host.key('A', Qt::ControlModifier);
+        else
+            host.list->RTextSelectAll();
+        QCOMPARE(clipboard.text(QClipboard::Selection), u"a\nb"_s);
+    }
+    RichTextBox plain;
+    plain.setText(u"p\r\nq"_s);
+    QTest::keyClick(&plain, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(clipboard.text(QClipboard::Selection), u"p\nq"_s);
+}
+
+void EditorDragTest::draggedTextEndsItsLinesInLf()
+{
+    struct Field final : QPlainTextEdit
+    {
+        QString taken;
+        void insertFromMimeData(const QMimeData *dropped) override { taken = dropped->text(); }
+    };
+    EditorHost host;
+    host.setText(u"|Temp1\r\ny|x"_s);
+    auto *field = new Field;
+    host.form.layout()->addWidget(field);
+    host.form.resize(600, 500);
+    QCoreApplication::processEvents();
+    TextDrag::drag(host.form, inWindow(host.box(), 2), inField(*field));
+    QCOMPARE(field->taken, u"Temp1\ny"_s);
 }
 
 void EditorDragTest::aMoveFromAnotherWidgetMovesText()

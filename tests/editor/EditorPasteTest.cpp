@@ -11,6 +11,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QInputMethodEvent>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QMessageBox>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -85,6 +86,35 @@ private Q_SLOTS:
         QCOMPARE(host.ring().UndoNewest(), 1);
         QCOMPARE(messages().size(), 1);
         QCOMPARE(host.marked(), u"x|"_s);
+    }
+
+    void noWaitCursorStaysOverTheMessage()
+    {
+        EditorHost host;
+        host.setText(u"x|"_s);
+        threadPart<Messages>().install(nullptr); // message boxes
+        QGuiApplication::clipboard()->setText(u"a\\b"_s);
+        QList<Qt::CursorShape> shapes;
+        QTimer closing;
+        connect(&closing, &QTimer::timeout, this, [&shapes] {
+            const QCursor *pointer = QGuiApplication::overrideCursor();
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            shapes << (pointer ? pointer->shape() : Qt::ArrowCursor);
+            box->accept();
+        });
+        closing.start(0);
+        host.key('V', Qt::ControlModifier);
+        QCOMPARE(shapes, QList<Qt::CursorShape>{Qt::ArrowCursor});
+        QVERIFY(!QGuiApplication::overrideCursor());
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor); // the host's
+        host.key('V', Qt::ControlModifier);
+        QCOMPARE(shapes.size(), 2);
+        QCOMPARE(shapes.constLast(), Qt::ArrowCursor);
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        QGuiApplication::restoreOverrideCursor();
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     void aRefusedTextLeavesTheSelection()

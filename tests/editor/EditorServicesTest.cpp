@@ -58,6 +58,22 @@ private Q_SLOTS:
         QVERIFY(!timer->isActive());
     }
 
+    void textOfAnInputMethodRearmsTheTimerToo()
+    {
+        EditorHost host;
+        host.setText(u"|"_s);
+        QStringList shown;
+        QObject::connect(host.list, &ORVListView::StatusUpdate, host.list,
+                         [&](QString &text) { shown << text; });
+        for (const QString &text : {u"é"_s, u"語の"_s}) {
+            QInputMethodEvent event;
+            event.setCommitString(text);
+            QCoreApplication::sendEvent(&host.box(), &event);
+            QVERIFY(shown.isEmpty());
+        }
+        QTRY_COMPARE(shown, QStringList(u"Row: 1, Col: 4"_s));
+    }
+
     void everyKeyRearmsTheTimerEvenASwallowedOne()
     {
         EditorHost host;

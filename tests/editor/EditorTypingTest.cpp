@@ -7,6 +7,8 @@
 
 #include <QtGui/QInputMethodEvent>
 
+#include <functional>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -17,6 +19,8 @@ constexpr qint32 commentColour = 0x008000;
 constexpr qint32 none = ColouredText::automatic;
 
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<void(EditorHost &)>)
 
 class EditorTypingTest : public WidgetTest
 {
@@ -106,6 +110,65 @@ private Q_SLOTS:
         host.type(u" fan1"_s);
         host.after->setFocus();
         QCOMPARE(host.box().Text(), u"one\r\nTemp1 Fan1"_s);
+    }
+
+    void aLetterOverASelectionIsPlain_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("after");
+        QTest::addColumn<qint32>("colour");
+        QTest::newRow("all") << u"|IF Temp1\r\nREM x|"_s << u"x|"_s << none;
+        QTest::newRow("a word") << u"IF |Temp1| > 2"_s << u"IF x| > 2"_s << none;
+        QTest::newRow("the first letters") << u"IF |Tem|p1 > 2"_s << u"IF x|p1 > 2"_s << none;
+        QTest::newRow("a comment") << u"|REM a|"_s << u"x|"_s << none;
+        QTest::newRow("in a comment") << u"REM a |b| c"_s << u"REM a x| c"_s << commentColour;
+        QTest::newRow("between comments")
+            << u"REM a |b\r\nREM| c"_s << u"REM a x| c"_s << commentColour;
+    }
+    void aLetterOverASelectionIsPlain()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QString, after);
+        QFETCH(const qint32, colour);
+        EditorHost host;
+        host.setText(text);
+        const qint32 start = host.box().SelStart();
+        const qint32 length = host.box().SelLength();
+        host.list->setCodeTextRTF(host.list->GetColorText(host.box().Text()));
+        host.box().setSelStart(start);
+        host.box().setSelLength(length);
+        host.type(u"x"_s);
+        QCOMPARE(host.marked(), after);
+        QCOMPARE(host.colourAt(start), colour);
+        host.type(u"y"_s); // in the colour of the word that it is in
+        QCOMPARE(host.colourAt(start + 1), colour);
+    }
+
+    void aSelectionThatGoesLeavesFinishedWords_data()
+    {
+        QTest::addColumn<std::function<void(EditorHost &)>>("remove");
+        using Remove = std::function<void(EditorHost &)>;
+        QTest::newRow("RTextCut") << Remove([](EditorHost &host) { host.list->RTextCut(); });
+        QTest::newRow("Ctrl+X") << Remove(
+            [](EditorHost &host) { host.key('X', Qt::ControlModifier); });
+        QTest::newRow("Delete") << Remove([](EditorHost &host) { host.key(Qt::Key_Delete); });
+        QTest::newRow("Backspace") << Remove([](EditorHost &host) { host.key(Qt::Key_Backspace); });
+    }
+    void aSelectionThatGoesLeavesFinishedWords()
+    {
+        QFETCH(const std::function<void(EditorHost &)>, remove);
+        EditorHost host;
+        host.setText(u"te|xx|mp1 > fan1"_s);
+        remove(host);
+        QCOMPARE(host.marked(), u"Te|mp1 > Fan1"_s);
+        QCOMPARE(host.colourAt(0), inputColour);
+        QCOMPARE(host.colourAt(4), inputColour);
+        host.list->setCodeTextRTF(host.list->GetColorText(u"REM x\r\nIF"_s));
+        host.box().setSelStart(0);
+        host.box().setSelLength(7);
+        remove(host);
+        QCOMPARE(host.colourAt(0), 0); // a reserved word
+        QVERIFY(host.box().Text() == u"IF"_s);
     }
 
     void remMakesTheLineAComment()

@@ -106,7 +106,11 @@ void checkKeys(const QWidget &dialog)
         if (!isCaption(*control))
             continue;
         const QString caption = captionOf(*control);
-        QCOMPARE(caption.count(u'&'), 1);
+        const bool hasLetter = std::any_of(caption.begin(), caption.end(),
+                                           [](QChar c) { return c.isLetterOrNumber(); });
+        QCOMPARE(caption.count(u'&'), hasLetter ? 1 : 0);
+        if (!hasLetter)
+            continue;
         const QChar key = caption[caption.indexOf(u'&') + 1].toUpper();
         QVERIFY2(!keys.contains(key), qPrintable(caption));
         keys << key;

@@ -48,12 +48,12 @@ private Q_SLOTS:
 
     void copiesWithColours()
     {
-        WorkbenchWindow workbench("Fan1 = ON");
+        WorkbenchWindow workbench("Fan1 = ON\r\nx");
         workbench.choose(u"Select All"_s);
         QVERIFY(enabled(workbench).contains(u"Copy with Colours"_s));
         workbench.choose(u"Copy with Colours"_s);
         const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-        QCOMPARE(data->text(), u"Fan1 = ON"_s);
+        QCOMPARE(data->text(), u"Fan1 = ON\nx"_s);
         QCOMPARE(QString::fromLatin1(data->data(u"text/rtf"_s)), workbench.box().SelRTF());
         QVERIFY2(data->html().contains(u">Fan1 "_s), qPrintable(data->html()));
 
@@ -101,9 +101,24 @@ private Q_SLOTS:
     void saysWhenThereIsNothingToRestore()
     {
         WorkbenchWindow workbench("Fan1 = ON");
+        const auto told = [&workbench] { return workbench.window.statusBar()->currentMessage(); };
+        const QString nothing =
+            u"Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed."_s;
         workbench.choose(u"Restore Typed Text"_s);
-        QVERIFY(!workbench.window.statusBar()->currentMessage().isEmpty());
+        QCOMPARE(told(), nothing);
         QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON"_s);
+        workbench.box().setSelStart(workbench.box().TextLength());
+        workbench.type(u" a b"_s);
+        workbench.choose(u"Undo"_s);
+        workbench.window.statusBar()->clearMessage();
+        workbench.choose(u"Restore Typed Text"_s);
+        QCOMPARE(told(), QString());
+        QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON a b"_s);
+        while (told().isEmpty())
+            workbench.choose(u"Restore Typed Text"_s);
+        QCOMPARE(told(), u"There is no older typed text. The next time the latest comes again."_s);
+        workbench.choose(u"Restore Typed Text"_s); // begins anew
+        QVERIFY(workbench.code().CodeText().endsWith(u" a b"_s));
     }
 
     // As by the keys.

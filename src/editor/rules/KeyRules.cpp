@@ -51,12 +51,12 @@ constexpr std::array plainKeys{
     key(DeleteKey, KeyDecision::EditingKey),
     key(BackspaceKey, KeyDecision::EditingKey),
     key(EnterKey, KeyDecision::EditingKey),
-    key(UpKey, KeyDecision::EditingKey),
-    key(DownKey, KeyDecision::EditingKey),
-    key(PageUpKey, KeyDecision::EditingKey),
-    key(PageDownKey, KeyDecision::EditingKey),
-    key(HomeKey, KeyDecision::EditingKey),
-    key(EndKey, KeyDecision::EditingKey),
+    key(UpKey, KeyDecision::MovingKey),
+    key(DownKey, KeyDecision::MovingKey),
+    key(PageUpKey, KeyDecision::MovingKey),
+    key(PageDownKey, KeyDecision::MovingKey),
+    key(HomeKey, KeyDecision::MovingKey),
+    key(EndKey, KeyDecision::MovingKey),
     key(TabKey, KeyDecision::IndentLines, When::Selection),
     key(F6Key, KeyDecision::Analyze),
     key(F1Key, KeyDecision::RaiseHelp),
@@ -118,9 +118,7 @@ KeyDecision firstFit(const Table &table, qint16 keyCode, const KeyState &state)
     return fit == table.end() ? KeyDecision::Swallow : fit->decision;
 }
 
-} // namespace
-
-KeyDecision decideKey(qint16 keyCode, qint16 shift, const KeyState &state)
+KeyDecision decide(qint16 keyCode, qint16 shift, const KeyState &state)
 {
     switch (shift & (ShiftBitShift | ShiftBitCtrl | ShiftBitAlt)) {
     case 0:
@@ -132,6 +130,36 @@ KeyDecision decideKey(qint16 keyCode, qint16 shift, const KeyState &state)
     default:
         return firstFit(otherStates, keyCode, state);
     }
+}
+
+// The known words are there to be put in.
+bool changesText(KeyDecision decision)
+{
+    switch (decision) {
+    case KeyDecision::EditingKey:
+    case KeyDecision::IndentLines:
+    case KeyDecision::UnindentLines:
+    case KeyDecision::DeleteBlankBefore:
+    case KeyDecision::DeleteWordAfter:
+    case KeyDecision::Cut:
+    case KeyDecision::Paste:
+    case KeyDecision::Undo:
+    case KeyDecision::Redo:
+    case KeyDecision::ShowWordList:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+KeyDecision decideKey(qint16 keyCode, qint16 shift, const KeyState &state)
+{
+    KeyState possible = state;
+    possible.popupListShown = state.popupListShown && state.mayEdit;
+    const KeyDecision decision = decide(keyCode, shift, possible);
+    return state.mayEdit || !changesText(decision) ? decision : KeyDecision::Swallow;
 }
 
 bool isTakenFromShortcuts(KeyDecision decision)

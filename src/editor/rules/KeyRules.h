@@ -14,6 +14,7 @@ enum class KeyDecision {
     RaiseHelp,  // the host hears the key, then it reaches the box
     PopupKey,   // the pop-up word list acts on it, if it wants to
     EditingKey, // the editor's own handling, then perhaps the box
+    MovingKey,  // the same, and the text stays as it is
     IndentLines,
     UnindentLines,
     DeleteBlankBefore,
@@ -34,6 +35,7 @@ struct KeyState
 {
     bool popupListShown = false;
     bool hasSelection = false;
+    bool mayEdit = true; // else nobody acts on what would change the text
 };
 
 ORVT_HOUSE_EXPORT KeyDecision decideKey(qint16 keyCode, qint16 shift, const KeyState &state);

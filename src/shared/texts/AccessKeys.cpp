@@ -43,17 +43,15 @@ bool isAsciiWord(QChar c)
     return c.unicode() < 128 && c.isLetterOrNumber();
 }
 
-// The lower, the better; none for what no key types.
-enum Rank { FirstLetter, AsciiLetter, OtherLetter, Sign, NoKey };
+// The lower, the better; none for a sign, whose underline nobody sees.
+enum Rank { FirstLetter, AsciiLetter, OtherLetter, NoKey };
 
 Rank rankOf(const QString &text, qsizetype i)
 {
     const QChar c = text[i];
     if (isAsciiWord(c))
         return i == 0 || !text[i - 1].isLetterOrNumber() ? FirstLetter : AsciiLetter;
-    if (c.isLetterOrNumber())
-        return OtherLetter;
-    return c.isPrint() && !c.isSpace() && !c.isSurrogate() && c != u'&' ? Sign : NoKey;
+    return c.isLetterOrNumber() ? OtherLetter : NoKey;
 }
 
 QList<qsizetype> candidates(const QString &text)
@@ -85,7 +83,8 @@ public:
     void grantWish(qsizetype caption)
     {
         const qsizetype wish = m_captions[caption].wish;
-        if (wish < 0 || m_holders.contains(keyAt(caption, wish)))
+        if (wish < 0 || rankOf(m_captions[caption].text, wish) == NoKey ||
+            m_holders.contains(keyAt(caption, wish)))
             return;
         m_candidates[caption] = {wish}; // never moves on
         give(caption, wish);

@@ -9,8 +9,8 @@ namespace ORVTListview {
 // The captions of one dialog or menu, in its order, each with an "&" before the
 // character that reaches it together with Alt. No two get the same character,
 // whatever its letter case, and as many captions as possible get one; the others
-// stay without. Preferred are the first letters of words, then other letters and
-// digits of ASCII, then other letters, then other signs.
+// stay without. It is a letter or a digit. Preferred are the first letters of words, then
+// other letters and digits of ASCII, then other letters.
 //
 // A single "&" in a caption given is a wish, which is granted unless an earlier
 // caption wished the same; "&&" is a literal "&" and stays one. The same captions

@@ -2,12 +2,28 @@
 
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+
 namespace ORVTListview {
 namespace {
 
 constexpr QLatin1StringView plainText("text/plain");
 
 } // namespace
+
+QString asOffered(QString text)
+{
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+void offerSelection(const RichTextBox &box)
+{
+    QClipboard &clipboard = *QGuiApplication::clipboard();
+    const QTextCursor selection = box.textCursor();
+    if (clipboard.supportsSelection() && selection.hasSelection())
+        clipboard.setMimeData(new BoxMimeData(box, selection), QClipboard::Selection);
+}
 
 BoxMimeData::BoxMimeData(const RichTextBox &box, const QTextCursor &selection)
     : m_box(&box)
@@ -29,7 +45,7 @@ QVariant BoxMimeData::retrieveData(const QString &mimeType, QMetaType) const
 {
     if (!m_box || mimeType != plainText)
         return {};
-    return m_box->textOf(m_selection);
+    return asOffered(m_box->textOf(m_selection));
 }
 
 } // namespace ORVTListview

@@ -1,6 +1,8 @@
 #include "widgets/box/PlainCommands.h"
 
 #include "base/TextPiece.h"
+#include "widgets/box/BoxMimeData.h"
+#include "widgets/box/UserEditing.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QMimeData>
@@ -49,7 +51,7 @@ void PlainCommands::pasteClipboard()
 void PlainCommands::copy()
 {
     if (m_box.SelLength() > 0)
-        QGuiApplication::clipboard()->setText(m_box.SelText());
+        QGuiApplication::clipboard()->setText(asOffered(m_box.SelText()));
 }
 
 void PlainCommands::cut()
@@ -83,8 +85,8 @@ void PlainCommands::removeAfter(Extent extent)
 
 void PlainCommands::selectAll()
 {
-    m_box.setSelStart(0);
-    m_box.setSelLength(m_box.TextLength());
+    m_box.selectAll();
+    offerSelection(m_box);
 }
 
 void PlainCommands::replace(const QList<TextPiece> &pieces, const QString &text)
@@ -108,17 +110,27 @@ void PlainCommands::leave(bool forwards)
     m_box.moveFocus(forwards);
 }
 
+// The box may become read-only while its menu is open.
+void PlainCommands::addChange(QMenu &menu, const QString &text, bool isPossible,
+                              const std::function<void()> &change)
+{
+    const auto act = [this, change] {
+        if (mayUserEdit(m_box))
+            change();
+    };
+    menu.addAction(text, &menu, act)->setEnabled(isPossible && mayUserEdit(m_box));
+}
+
 void PlainCommands::fillMenu(QMenu &menu)
 {
-    const bool canChange = !m_box.isReadOnly();
     const bool isSelected = m_box.SelLength() > 0;
     const auto add = [&menu](const QString &text, bool isEnabled, auto act) {
         menu.addAction(text, &menu, act)->setEnabled(isEnabled);
     };
-    add(RichTextBox::tr("Cu&t"), canChange && isSelected, [this] { cut(); });
+    addChange(menu, RichTextBox::tr("Cu&t"), isSelected, [this] { cut(); });
     add(RichTextBox::tr("&Copy"), isSelected, [this] { copy(); });
-    add(RichTextBox::tr("&Paste"), m_box.canPaste(), [this] { pasteClipboard(); });
-    add(RichTextBox::tr("&Delete"), canChange && isSelected, [this] { remove(); });
+    addChange(menu, RichTextBox::tr("&Paste"), m_box.canPaste(), [this] { pasteClipboard(); });
+    addChange(menu, RichTextBox::tr("&Delete"), isSelected, [this] { remove(); });
     menu.addSeparator();
     add(RichTextBox::tr("Select &All"), m_box.TextLength() > 0, [this] { selectAll(); });
 }

@@ -29,6 +29,10 @@ public:
 
 protected:
     RichTextBox &box() const { return m_box; }
+
+    // A menu's entry for what changes the text.
+    void addChange(QMenu &menu, const QString &text, bool isPossible,
+                   const std::function<void()> &change);
     void pasteClipboard();
 
 private:

@@ -10,6 +10,7 @@
 #include "widgets/box/BoxParts.h"
 #include "widgets/box/BoxSink.h"
 #include "widgets/box/BoxSource.h"
+#include "widgets/box/KeptView.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QMenu>
@@ -249,6 +250,7 @@ qint32 RichTextBox::Find(const QString &Text, qint32 Start, qint32 End, qint32 O
     const qsizetype end = End == -1 ? text.size() : End;
     const auto place = static_cast<qint32>(findText(text, Text, Start, end, how));
     if (place >= 0 && (Options & FindNoHighlight) == 0) {
+        const KeptView view(*this);
         setSelStart(place);
         setSelLength(static_cast<qint32>(Text.size()));
     }

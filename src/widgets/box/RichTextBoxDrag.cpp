@@ -3,7 +3,9 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include "base/EventGuard.h"
+#include "widgets/box/BoxMimeData.h"
 #include "widgets/box/BoxParts.h"
+#include "widgets/box/UserEditing.h"
 #include "widgets/input/MouseArguments.h"
 
 #include <QtCore/QMimeData>
@@ -54,19 +56,19 @@ void RichTextBox::startDrag(const QMouseEvent &event)
 
     auto *drag = new QDrag(viewport());
     auto *text = new QMimeData;
-    text->setText(SelText());
+    text->setText(asOffered(SelText()));
     drag->setMimeData(text);
-    const Qt::DropActions actions = isReadOnly() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
+    const bool mayMove = mayUserEdit(*this);
+    const Qt::DropActions actions = mayMove ? Qt::CopyAction | Qt::MoveAction : Qt::CopyAction;
     const QPointer<RichTextBox> self(this);
     const QPointer<QDrag> alive(drag);
     m_parts->dragged = dragged;
-    const Qt::DropAction action =
-        drag->exec(actions, isReadOnly() ? Qt::CopyAction : Qt::MoveAction);
+    const Qt::DropAction action = drag->exec(actions, mayMove ? Qt::MoveAction : Qt::CopyAction);
     if (!self)
         return;
     m_parts->dragged = {};
     const bool isGone = alive && action == Qt::MoveAction && alive->target() != viewport();
-    if (isGone && !isReadOnly()) {
+    if (isGone && mayUserEdit(*this)) {
         setTextCursor(dragged);
         commands().remove();
     }

@@ -5,6 +5,7 @@
 #include "base/EventGuard.h"
 #include "widgets/box/BoxMimeData.h"
 #include "widgets/box/BoxParts.h"
+#include "widgets/box/UserEditing.h"
 #include "widgets/input/RaisedKeys.h"
 
 #include <QtCore/QPointer>
@@ -139,7 +140,7 @@ bool RichTextBox::runShortcut(const QKeyEvent &event)
     for (const Shortcut &shortcut : shortcuts) {
         if (!event.matches(shortcut.keys))
             continue;
-        if (!shortcut.changes || !isReadOnly())
+        if (!shortcut.changes || mayUserEdit(*this))
             (commands().*shortcut.command)();
         return true;
     }
@@ -157,7 +158,7 @@ void RichTextBox::keyPressEvent(QKeyEvent *event)
 
 void RichTextBox::act(QKeyEvent *event)
 {
-    if (isReadOnly()) {
+    if (!mayUserEdit(*this)) {
         QPlainTextEdit::keyPressEvent(event);
     } else if (isEnter(*event)) {
         commands().type(QStringLiteral("\r\n"));
@@ -244,8 +245,8 @@ void RichTextBox::commit(const QInputMethodEvent &event)
 
 void RichTextBox::inputMethodEvent(QInputMethodEvent *event)
 {
-    event->setAccepted(!isReadOnly());
-    if (isReadOnly())
+    event->setAccepted(mayUserEdit(*this));
+    if (!event->isAccepted())
         return;
     const QPointer<RichTextBox> self(this);
     // The toolkit would remove what a composition takes the place of.
@@ -261,7 +262,7 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent *event)
 
 bool RichTextBox::canInsertFromMimeData(const QMimeData *source) const
 {
-    return source && source->hasText() && !isReadOnly();
+    return source && source->hasText() && mayUserEdit(*this);
 }
 
 void RichTextBox::insertFromMimeData(const QMimeData *source)

@@ -5,6 +5,30 @@
 #include <QtWidgets/QMessageBox>
 
 namespace ORVTListview {
+namespace {
+
+// A message is there to be clicked, whatever the program shows that it is busy with.
+class UsualPointer
+{
+public:
+    UsualPointer()
+        : m_isNeeded(QGuiApplication::overrideCursor() != nullptr)
+    {
+        if (m_isNeeded)
+            QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~UsualPointer()
+    {
+        if (m_isNeeded)
+            QGuiApplication::restoreOverrideCursor();
+    }
+    Q_DISABLE_COPY_MOVE(UsualPointer) // one override
+
+private:
+    bool m_isNeeded;
+};
+
+} // namespace
 
 void MessageBoxes::show(const Message &message)
 {
@@ -19,6 +43,7 @@ void MessageBoxes::show(const Message &message)
                                             : message.title,
                     message.text, QMessageBox::Ok, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
+    const UsualPointer pointer;
     box.exec();
 }
 

@@ -16,7 +16,12 @@ const KeyState idle;
 const KeyState popup{.popupListShown = true};
 const KeyState selection{.hasSelection = true};
 
-const std::set<qint16> editingKeys{8, 13, 33, 34, 35, 36, 38, 40, 46};
+const KeyState reading{.mayEdit = false};
+const KeyState readingAPopup{.popupListShown = true, .mayEdit = false};
+const KeyState readingASelection{.hasSelection = true, .mayEdit = false};
+
+const std::set<qint16> editingKeys{8, 13, 46};
+const std::set<qint16> movingKeys{33, 34, 35, 36, 38, 40};
 
 } // namespace
 
@@ -26,6 +31,34 @@ TEST(KeyRules, PlainEditingAndMovingKeys)
         EXPECT_EQ(decideKey(key, 0, idle), KeyDecision::EditingKey) << key;
         EXPECT_EQ(decideKey(key, 0, popup), KeyDecision::PopupKey) << key;
     }
+    for (const qint16 key : movingKeys) {
+        EXPECT_EQ(decideKey(key, 0, idle), KeyDecision::MovingKey) << key;
+        EXPECT_EQ(decideKey(key, 0, popup), KeyDecision::PopupKey) << key;
+    }
+}
+
+TEST(KeyRules, WhoMayNotEditMovesAndCopiesOnly)
+{
+    const auto isSwallowed = [](qint16 key, qint16 state) {
+        return decideKey(key, state, reading) == KeyDecision::Swallow &&
+               decideKey(key, state, readingAPopup) == KeyDecision::Swallow &&
+               decideKey(key, state, readingASelection) == KeyDecision::Swallow;
+    };
+    for (const qint16 key : editingKeys)
+        EXPECT_TRUE(isSwallowed(key, 0)) << key;
+    for (const qint16 key : movingKeys) {
+        EXPECT_EQ(decideKey(key, 0, reading), KeyDecision::MovingKey) << key;
+        EXPECT_EQ(decideKey(key, 0, readingAPopup), KeyDecision::MovingKey) << key;
+    }
+    for (const qint16 key : std::initializer_list<qint16>{9, 13, 45, 46})
+        EXPECT_TRUE(isSwallowed(key, shift)) << key;
+    for (const int key : {int('X'), int('V'), int('Z'), int('Y'), 32, 46})
+        EXPECT_TRUE(isSwallowed(static_cast<qint16>(key), ctrl)) << key;
+    EXPECT_EQ(decideKey(9, 0, readingASelection), KeyDecision::Swallow);
+    EXPECT_EQ(decideKey('C', ctrl, reading), KeyDecision::Copy);
+    EXPECT_EQ(decideKey('A', ctrl, reading), KeyDecision::SelectAll);
+    EXPECT_EQ(decideKey(117, 0, reading), KeyDecision::Analyze);
+    EXPECT_EQ(decideKey(117, ctrl, reading), KeyDecision::Compile);
 }
 
 TEST(KeyRules, PlainTab)
@@ -45,7 +78,7 @@ TEST(KeyRules, EveryOtherPlainKeyReachesTheBox)
 {
     const std::set<qint16> decided{9, 27, 112, 117};
     for (qint16 key = 1; key < 256; ++key) {
-        if (editingKeys.contains(key) || decided.contains(key))
+        if (editingKeys.contains(key) || movingKeys.contains(key) || decided.contains(key))
             continue;
         EXPECT_EQ(decideKey(key, 0, idle), KeyDecision::ReachBox) << key;
         EXPECT_EQ(decideKey(key, 0, popup), KeyDecision::ReachBox) << key;

@@ -61,16 +61,18 @@ TEST(AccessKeys, LetterCaseMakesNoDifference)
     EXPECT_EQ(keysOf(u"Ab|aC"_s), u"&Ab|a&C"_s);
 }
 
-TEST(AccessKeys, AsciiComesBeforeOtherLettersAndLettersBeforeSigns)
+TEST(AccessKeys, AsciiComesBeforeOtherLetters)
 {
     EXPECT_EQ(keysOf(u"Überall"_s), u"Ü&berall"_s);
     EXPECT_EQ(keysOf(u"(ü)"_s), u"(&ü)"_s);
-    EXPECT_EQ(keysOf(u"..."_s), u"&..."_s);
     EXPECT_EQ(keysOf(u"7-bit"_s), u"&7-bit"_s);
 }
 
-TEST(AccessKeys, WhatNoKeyTypesGetsNone)
+TEST(AccessKeys, OnlyLettersAndDigitsAreKeys)
 {
+    EXPECT_EQ(keysOf(u"..."_s), u"..."_s);
+    EXPECT_EQ(keysOf(u"&...|&?|-"_s), u"...|?|-"_s);
+    EXPECT_EQ(keysOf(u"...a"_s), u"...&a"_s);
     EXPECT_EQ(keysOf(u" | \u00a0|\U0001F600|"_s), u" | \u00a0|\U0001F600|"_s);
 }
 

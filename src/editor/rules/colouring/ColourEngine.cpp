@@ -70,6 +70,15 @@ void splitAtBlanks(const ColourEngine &engine, QStringView line, ColourSink &sin
     }
 }
 
+// Only a token that no line was split for holds any.
+void trimBlanks(QStringView &word, qsizetype &offset)
+{
+    while (word.endsWith(u' '))
+        word.chop(1);
+    for (; word.startsWith(u' '); ++offset)
+        word = word.sliced(1);
+}
+
 } // namespace
 
 ColourSink::~ColourSink() = default;
@@ -148,11 +157,10 @@ void ColourEngine::colourToken(QStringView token, qsizetype offset, ColourSink &
 
 void ColourEngine::colourWord(QStringView word, qsizetype offset, ColourSink &sink) const
 {
-    qsizetype closing = 0;
+    QVarLengthArray<qsizetype, 16> closing; // where the brackets stood that were taken off
     const auto close = [&] {
-        // Each closing bracket that was taken off stands behind what is left.
-        for (qsizetype i = 0; i < closing; ++i)
-            sink.run({offset + word.size() + i, 1, AutomaticColour, u" )"});
+        for (auto place = closing.crbegin(); place != closing.crend(); ++place)
+            sink.run({*place, 1, AutomaticColour, u" )"});
     };
     while (true) {
         reportEmptyList();
@@ -169,7 +177,8 @@ void ColourEngine::colourWord(QStringView word, qsizetype offset, ColourSink &si
                 return close();
         } else if (word.back() == u')') {
             word.chop(1);
-            ++closing;
+            closing.append(offset + word.size());
+            trimBlanks(word, offset);
             if (word.isEmpty())
                 return close();
         } else {

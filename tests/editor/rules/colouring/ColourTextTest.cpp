@@ -124,6 +124,19 @@ TEST(ColourToken, Brackets)
     EXPECT_EQ(colouring.token(u"(A\t)"_s), u"\\cf0 ( \\cf0 A\\cf0  )"_s);
 }
 
+TEST(ColourToken, TheRestBeforeAClosingBracketIsTrimmed)
+{
+    Colouring colouring;
+    EXPECT_EQ(colouring.token(u"A )"_s), u"\\cf0 A\\cf0  )"_s);
+    EXPECT_EQ(colouring.token(u" A )"_s), u"\\cf0 A\\cf0  )"_s);
+    EXPECT_EQ(colouring.token(u"temp1  )"_s), u"\\cf4 Temp1\\cf0  )"_s);
+    EXPECT_EQ(colouring.token(u"A ) )"_s), u"\\cf0 A\\cf0  )\\cf0  )"_s);
+    EXPECT_EQ(colouring.token(u" )"_s), u"\\cf0  )"_s);
+    EXPECT_EQ(colouring.token(u"( )"_s), u"\\cf0 ( \\cf0  )"_s);
+    EXPECT_EQ(colouring.token(u"( A )"_s), u"\\cf0 ( \\cf0 A\\cf0  )"_s);
+    EXPECT_EQ(colouring.token(u"A B )"_s), u"\\cf0 A B\\cf0  )"_s);
+}
+
 TEST(ColourToken, AListedWordWithABracketWins)
 {
     Colouring colouring;
