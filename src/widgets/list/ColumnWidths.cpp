@@ -89,7 +89,7 @@ QList<int> ColumnWidths::neededWidths()
     const QFontMetrics header(m_view.horizontalHeader()->font());
     QList<int> needed;
     for (int column = 0; column < m_model.columns(); ++column)
-        needed.append(header.horizontalAdvance(shownText(m_model.column(column).text)));
+        needed.append(header.horizontalAdvance(cellText(m_model.column(column).text)));
     QList<int> texts(m_model.columns(), 0);
     bool pictures = false;
     widenByRows(texts, pictures);

@@ -7,13 +7,25 @@
 #include <QtWidgets/QStyle>
 
 namespace ORVTListview {
+namespace {
+
+// More letters than have room in this width, in any font that can be read.
+qsizetype lettersWithin(int width)
+{
+    constexpr int room = 64;
+    return std::max(0, width) + room;
+}
+
+} // namespace
 
 void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                            const QModelIndex &index) const
 {
-    QStyleOptionViewItem unfocused = option;
-    unfocused.state &= ~QStyle::State_HasFocus;
-    QStyledItemDelegate::paint(painter, unfocused, index);
+    QStyleOptionViewItem cell = option;
+    cell.state &= ~QStyle::State_HasFocus;
+    initStyleOption(&cell, index);
+    cell.text = beginningOf(cell.text, lettersWithin(cell.rect.width()));
+    cell.widget->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     if (!option.state.testFlag(QStyle::State_HasFocus))
         return;
     const bool selected = option.state.testFlag(QStyle::State_Selected);
@@ -27,7 +39,7 @@ void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
 
 QString ReportDelegate::displayText(const QVariant &value, const QLocale &) const
 {
-    return shownText(value.toString());
+    return cellText(value.toString());
 }
 
 void ReportDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
@@ -39,6 +51,8 @@ void ReportDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
 
 bool ReportDelegate::isElided(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
+    if (index.data().toString().size() > lettersWithin(option.rect.width()))
+        return true;
     QStyleOptionViewItem filled = option;
     initStyleOption(&filled, index);
     const QStyle &style = *filled.widget->style();

@@ -4,6 +4,7 @@
 #include "widgets/nodes/NodeTreeEvents.h"
 #include "widgets/nodes/NodeTreeFixture.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolTip>
 
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void labelsCanBeCancelledAndChanged();
     void escapeLeavesTheLabel();
     void showsCutTextsAsToolTip();
+    void showsLongTextsQuickly();
     void bearsAnythingInAnEvent_data();
     void bearsAnythingInAnEvent();
     void keepsExceptionsFromTheLoop();
@@ -375,6 +377,18 @@ void NodeTreeInputTest::showsCutTextsAsToolTip()
     };
     QCOMPARE(tipAt("a1"), QString(60, u'w'));
     QTRY_COMPARE(tipAt("b1"), QString());
+}
+
+void NodeTreeInputTest::showsLongTextsQuickly()
+{
+    const ShownTree shown;
+    shown.node("a1")->setText(QString(1 << 20, u'w'));
+    QElapsedTimer timer;
+    timer.start();
+    shown->grab();
+    shown->resizeColumnToContents(0);
+    shown->grab();
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void NodeTreeInputTest::bearsAnythingInAnEvent_data()
