@@ -83,8 +83,8 @@ QModelIndex ReportList::moveCursor(CursorAction action, Qt::KeyboardModifiers mo
 void ReportList::keyPressEvent(QKeyEvent *event)
 {
     d->clicks.slow().stop();
-    if (state() == EditingState) { // what the editor has no use for
-        QTableView::keyPressEvent(event);
+    if (state() == EditingState) { // the editor has no use for it
+        event->ignore();
         return;
     }
     raiseKeyPress(*this, &ReportList::KeyDown, &ReportList::KeyPress, *event,
@@ -159,11 +159,11 @@ bool ReportList::isChosenLabel(const QModelIndex &index) const
 
 void ReportList::mousePressEvent(QMouseEvent *event)
 {
-    const bool focused = d->clicks.takeFocusing();
+    const bool arrives = d->clicks.takeFocusing() || d->labels.wasClosedByPress();
     if (!raiseMouse(*this, &ReportList::MouseDown, *event))
         return;
     const QModelIndex index = indexAt(event->position().toPoint());
-    d->clicks.press(*event, index, !focused && isChosenLabel(index));
+    d->clicks.press(*event, index, !arrives && isChosenLabel(index));
     const bool picks = event->button() == Qt::LeftButton || event->button() == Qt::RightButton;
     ListItem *item = picks ? itemOf(index) : nullptr;
     const QPointer<ReportList> self(this);

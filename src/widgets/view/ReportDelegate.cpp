@@ -2,9 +2,12 @@
 
 #include "widgets/look/CellText.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStyle>
+
+#include <limits>
 
 namespace ORVTListview {
 namespace {
@@ -42,11 +45,52 @@ QString ReportDelegate::displayText(const QVariant &value, const QLocale &) cons
     return cellText(value.toString());
 }
 
+QWidget *ReportDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                      const QModelIndex &index) const
+{
+    QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+    if (auto *line = qobject_cast<QLineEdit *>(editor))
+        line->setMaxLength(std::numeric_limits<int>::max());
+    return editor;
+}
+
+// Also called when the program changes the cell meanwhile.
+void ReportDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    auto *line = qobject_cast<QLineEdit *>(editor);
+    if (!line || line->isModified() || line->text() == index.data(Qt::EditRole).toString())
+        return;
+    const bool isAllSelected = line->selectedText() == line->text();
+    QStyledItemDelegate::setEditorData(editor, index);
+    if (isAllSelected) // as when it was opened: typing replaces it
+        line->selectAll();
+}
+
 void ReportDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
                                   const QModelIndex &index) const
 {
     if (const auto *line = qobject_cast<QLineEdit *>(editor))
         Q_EMIT labelEntered(index, line->text());
+}
+
+void ReportDelegate::finish(QWidget &editor)
+{
+    Q_EMIT commitData(&editor);
+    Q_EMIT closeEditor(&editor);
+}
+
+// At once: the toolkit's own would let the next key come first.
+bool ReportDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *editor = qobject_cast<QLineEdit *>(watched);
+    if (editor && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<const QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            finish(*editor);
+            return true;
+        }
+    }
+    return QStyledItemDelegate::eventFilter(watched, event);
 }
 
 bool ReportDelegate::isElided(const QStyleOptionViewItem &option, const QModelIndex &index) const
