@@ -25,6 +25,8 @@ ReportList::ReportList(QWidget *parent)
 {
     setHorizontalHeader(new ReportHeader(this));
     QTableView::setModel(&d->model);
+    const std::unique_ptr<QItemSelectionModel> itsOwn(selectionModel());
+    setSelectionModel(&d->rowChoice.selection());
     setUpLook();
     setUpConnections();
 }

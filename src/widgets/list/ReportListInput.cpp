@@ -39,6 +39,7 @@ bool ReportList::viewportEvent(QEvent *event)
 {
     if (!d)
         return QTableView::viewportEvent(event);
+    d->rowChoice.settle();
     return d->surface.deliver(*event, [this, event] { return QTableView::viewportEvent(event); });
 }
 
@@ -99,6 +100,7 @@ void ReportList::keyReleaseEvent(QKeyEvent *event)
 
 void ReportList::act(QKeyEvent &event)
 {
+    d->rowChoice.settle();
     if (event.matches(QKeySequence::Copy) && !d->copies)
         event.ignore();
     else if (!runCommand(event))
