@@ -169,10 +169,10 @@ ListItem *ReportList::SelectedItem() const
 void ReportList::setSelectedItem(ListItem *Item)
 {
     const QString member = u"ReportList.setSelectedItem"_s;
-    if (Item && Item->m_parts != d.get())
-        throw Error(InvalidCall, member, u"The row is another list's"_s);
     if (Item && !Item->isAlive())
         throw Error(ObjectNotSet, member, u"The row has been removed"_s);
+    if (Item && Item->m_parts != d.get())
+        throw Error(InvalidCall, member, u"The row is another list's"_s);
     d->rowChoice.select(Item ? Item->m_row : nullptr);
 }
 
