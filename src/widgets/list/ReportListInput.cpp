@@ -19,6 +19,17 @@
 
 namespace ORVTListview {
 
+namespace {
+
+// A letter that goes to a row that begins with it.
+bool isSearched(const QKeyEvent &event)
+{
+    return !event.text().isEmpty() && event.text().front().isPrint() &&
+           (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+}
+
+} // namespace
+
 bool ReportList::event(QEvent *event)
 {
     return EventGuard::run([this, event] {
@@ -104,7 +115,11 @@ void ReportList::act(QKeyEvent &event)
     if (event.matches(QKeySequence::Copy) && !d->copies)
         event.ignore();
     else if (!runCommand(event))
-        pick([this, &event] { QTableView::keyPressEvent(&event); });
+        pick([this, &event] {
+            if (labelColumn() != 0 && isSearched(event)) // the view searches the current column
+                d->rowChoice.setCurrentColumn(labelColumn());
+            QTableView::keyPressEvent(&event);
+        });
 }
 
 bool ReportList::runCommand(const QKeyEvent &event)
@@ -116,6 +131,9 @@ bool ReportList::runCommand(const QKeyEvent &event)
         StartLabelEdit();
     else if (plain && event.key() == Qt::Key_Space && d->model.hasCheckBoxes())
         toggleCurrent();
+    else if (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Space &&
+             MultiSelect())
+        pick([this] { d->rowChoice.toggleCurrent(); });
     else
         return false;
     return true;
