@@ -46,13 +46,24 @@ void ColumnWidths::setWidth(int column, double twips)
 
 void ColumnWidths::fit()
 {
-    if (m_model.columns() == 0)
-        return;
-    QList<int> needed = neededWidths();
-    m_lastNeeded = needed.takeLast();
-    m_filling = true;
+    const QList<int> needed = neededWidths();
     for (int column = 0; column < needed.size(); ++column)
-        resize(column, needed.at(column));
+        setNeeded(column, needed.at(column));
+}
+
+void ColumnWidths::fit(int column)
+{
+    setNeeded(column, neededWidths().at(column));
+}
+
+void ColumnWidths::setNeeded(int column, int pixels)
+{
+    if (column < m_model.columns() - 1) {
+        resize(column, pixels);
+        return;
+    }
+    m_lastNeeded = pixels;
+    m_filling = true;
     refill();
 }
 

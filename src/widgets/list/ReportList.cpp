@@ -65,6 +65,10 @@ void ReportList::setUpConnections()
             d->headers.of(d->model.column(column), static_cast<ReportListParts &>(*d));
     });
     connect(header, &ReportHeader::released, this, [this] { raiseColumnClick(); });
+    // The toolkit's own looks at the rows near by only, with other margins.
+    disconnect(header, &QHeaderView::sectionHandleDoubleClicked, this, nullptr);
+    connect(header, &QHeaderView::sectionHandleDoubleClicked, this,
+            [this](int column) { d->widths.fit(column); });
     connect(header, &QHeaderView::sectionResized, this,
             [this](int column) { d->widths.columnResized(column); });
     connect(header, &QHeaderView::sectionCountChanged, this,
