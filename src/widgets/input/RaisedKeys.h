@@ -29,8 +29,9 @@ std::optional<QString> raiseCharacter(Widget &widget, CharacterSignal signal,
                                       const QKeyEvent &event)
 {
     constexpr char16_t deleteCharacter = 0x7f; // some platforms' text of the Delete key
+    constexpr char16_t noCharacter = 0;        // that of Ctrl+Space
     const QString text = event.text();
-    if (text.size() != 1 || text.front() == deleteCharacter)
+    if (text.size() != 1 || text.front() == deleteCharacter || text.front() == noCharacter)
         return text;
     auto code = static_cast<qint16>(text.front().unicode());
     if (!raiseEvent(widget, signal, code) || code == 0)

@@ -46,13 +46,24 @@ void ColumnWidths::setWidth(int column, double twips)
 
 void ColumnWidths::fit()
 {
-    if (m_model.columns() == 0)
-        return;
-    QList<int> needed = neededWidths();
-    m_lastNeeded = needed.takeLast();
-    m_filling = true;
+    const QList<int> needed = neededWidths();
     for (int column = 0; column < needed.size(); ++column)
-        resize(column, needed.at(column));
+        setNeeded(column, needed.at(column));
+}
+
+void ColumnWidths::fit(int column)
+{
+    setNeeded(column, neededWidths().at(column));
+}
+
+void ColumnWidths::setNeeded(int column, int pixels)
+{
+    if (column < m_model.columns() - 1) {
+        resize(column, pixels);
+        return;
+    }
+    m_lastNeeded = pixels;
+    m_filling = true;
     refill();
 }
 
@@ -89,7 +100,7 @@ QList<int> ColumnWidths::neededWidths()
     const QFontMetrics header(m_view.horizontalHeader()->font());
     QList<int> needed;
     for (int column = 0; column < m_model.columns(); ++column)
-        needed.append(header.horizontalAdvance(shownText(m_model.column(column).text)));
+        needed.append(header.horizontalAdvance(cellText(m_model.column(column).text)));
     QList<int> texts(m_model.columns(), 0);
     bool pictures = false;
     widenByRows(texts, pictures);

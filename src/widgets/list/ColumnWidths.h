@@ -28,6 +28,9 @@ public:
     // at least the rest of the list.
     void fit();
 
+    // The same for one column.
+    void fit(int column);
+
     // What happened to the view: its viewport has another width, there are other
     // columns, a column has another width.
     void viewportResized() { refill(); }
@@ -36,6 +39,7 @@ public:
 
 private:
     void refill();
+    void setNeeded(int column, int pixels);
     QList<int> neededWidths();
     void widenByRows(QList<int> &widest, bool &pictures);
     int decorationWidth(bool pictures) const;

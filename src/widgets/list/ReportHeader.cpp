@@ -5,6 +5,8 @@
 
 #include <QtGui/QHelpEvent>
 
+#include <utility>
+
 namespace ORVTListview {
 
 ReportHeader::ReportHeader(QWidget *parent)
@@ -15,6 +17,15 @@ ReportHeader::ReportHeader(QWidget *parent)
     setMinimumSectionSize(0);
     setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setTextElideMode(Qt::ElideRight);
+    connect(this, &QHeaderView::sectionDoubleClicked, this, [this] { m_isSecondClick = true; });
+}
+
+// On a section, not on a divider, it is a second click, which is to be told as well.
+void ReportHeader::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QHeaderView::mouseDoubleClickEvent(event);
+    if (std::exchange(m_isSecondClick, false))
+        QHeaderView::mousePressEvent(event);
 }
 
 void ReportHeader::mouseReleaseEvent(QMouseEvent *event)

@@ -18,11 +18,14 @@ Q_SIGNALS:
     void released();
 
 protected:
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     bool viewportEvent(QEvent *event) override;
 
 private:
     bool isElided(int column) const;
+
+    bool m_isSecondClick = false;
 };
 
 } // namespace ORVTListview

@@ -26,6 +26,8 @@ ReportList::ReportList(QWidget *parent)
 {
     setHorizontalHeader(new ReportHeader(this));
     QTableView::setModel(&d->model);
+    const std::unique_ptr<QItemSelectionModel> itsOwn(selectionModel());
+    setSelectionModel(&d->rowChoice.selection());
     setUpLook();
     setUpConnections();
 }
@@ -64,6 +66,10 @@ void ReportList::setUpConnections()
             d->headers.of(d->model.column(column), static_cast<ReportListParts &>(*d));
     });
     connect(header, &ReportHeader::released, this, [this] { raiseColumnClick(); });
+    // The toolkit's own looks at the rows near by only, with other margins.
+    disconnect(header, &QHeaderView::sectionHandleDoubleClicked, this, nullptr);
+    connect(header, &QHeaderView::sectionHandleDoubleClicked, this,
+            [this](int column) { d->widths.fit(column); });
     connect(header, &QHeaderView::sectionResized, this,
             [this](int column) { d->widths.columnResized(column); });
     connect(header, &QHeaderView::sectionCountChanged, this,
@@ -168,10 +174,10 @@ ListItem *ReportList::SelectedItem() const
 void ReportList::setSelectedItem(ListItem *Item)
 {
     const QString member = u"ReportList.setSelectedItem"_s;
-    if (Item && Item->m_parts != d.get())
-        throw Error(InvalidCall, member, u"The row is another list's"_s);
     if (Item && !Item->isAlive())
         throw Error(ObjectNotSet, member, u"The row has been removed"_s);
+    if (Item && Item->m_parts != d.get())
+        throw Error(InvalidCall, member, u"The row is another list's"_s);
     d->rowChoice.select(Item ? Item->m_row : nullptr);
 }
 

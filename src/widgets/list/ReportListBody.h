@@ -19,6 +19,7 @@ struct ReportListBody : ReportListParts
         , columnHeaders(*this)
         , surface(shownBy, delegate)
         , clicks(shownBy)
+        , labels(shownBy, delegate)
     {
     }
 

@@ -19,6 +19,17 @@
 
 namespace ORVTListview {
 
+namespace {
+
+// A letter that goes to a row that begins with it.
+bool isSearched(const QKeyEvent &event)
+{
+    return !event.text().isEmpty() && event.text().front().isPrint() &&
+           (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+}
+
+} // namespace
+
 bool ReportList::event(QEvent *event)
 {
     return EventGuard::run([this, event] {
@@ -39,6 +50,7 @@ bool ReportList::viewportEvent(QEvent *event)
 {
     if (!d)
         return QTableView::viewportEvent(event);
+    d->rowChoice.settle();
     return d->surface.deliver(*event, [this, event] { return QTableView::viewportEvent(event); });
 }
 
@@ -83,8 +95,8 @@ QModelIndex ReportList::moveCursor(CursorAction action, Qt::KeyboardModifiers mo
 void ReportList::keyPressEvent(QKeyEvent *event)
 {
     d->clicks.slow().stop();
-    if (state() == EditingState) { // what the editor has no use for
-        QTableView::keyPressEvent(event);
+    if (state() == EditingState) { // the editor has no use for it
+        event->ignore();
         return;
     }
     raiseKeyPress(*this, &ReportList::KeyDown, &ReportList::KeyPress, *event,
@@ -99,10 +111,15 @@ void ReportList::keyReleaseEvent(QKeyEvent *event)
 
 void ReportList::act(QKeyEvent &event)
 {
+    d->rowChoice.settle();
     if (event.matches(QKeySequence::Copy) && !d->copies)
         event.ignore();
     else if (!runCommand(event))
-        pick([this, &event] { QTableView::keyPressEvent(&event); });
+        pick([this, &event] {
+            if (labelColumn() != 0 && isSearched(event)) // the view searches the current column
+                d->rowChoice.setCurrentColumn(labelColumn());
+            QTableView::keyPressEvent(&event);
+        });
 }
 
 bool ReportList::runCommand(const QKeyEvent &event)
@@ -114,6 +131,9 @@ bool ReportList::runCommand(const QKeyEvent &event)
         StartLabelEdit();
     else if (plain && event.key() == Qt::Key_Space && d->model.hasCheckBoxes())
         toggleCurrent();
+    else if (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Space &&
+             MultiSelect())
+        pick([this] { d->rowChoice.toggleCurrent(); });
     else
         return false;
     return true;
@@ -159,11 +179,11 @@ bool ReportList::isChosenLabel(const QModelIndex &index) const
 
 void ReportList::mousePressEvent(QMouseEvent *event)
 {
-    const bool focused = d->clicks.takeFocusing();
+    const bool arrives = d->clicks.takeFocusing() || d->labels.wasClosedByPress();
     if (!raiseMouse(*this, &ReportList::MouseDown, *event))
         return;
     const QModelIndex index = indexAt(event->position().toPoint());
-    d->clicks.press(*event, index, !focused && isChosenLabel(index));
+    d->clicks.press(*event, index, !arrives && isChosenLabel(index));
     const bool picks = event->button() == Qt::LeftButton || event->button() == Qt::RightButton;
     ListItem *item = picks ? itemOf(index) : nullptr;
     const QPointer<ReportList> self(this);

@@ -18,7 +18,7 @@ void ReportList::StartLabelEdit()
     item->EnsureVisible();
     const QModelIndex label = d->model.index(item->Index() - 1, labelColumn());
     scrollTo(label);
-    edit(label, AllEditTriggers, nullptr);
+    d->labels.open(label);
 }
 
 void ReportList::noteLabel(ListItem &item, const QString &text)

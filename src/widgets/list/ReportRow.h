@@ -17,7 +17,8 @@ struct ReportRow
     Q_DISABLE_COPY_MOVE(ReportRow) // handles and keys point to it
 
     RowContent content;
-    int position = 0; // ask ReportModel::positionOf instead
+    int position = 0;      // ask ReportModel::positionOf instead
+    bool selected = false; // RowSelection's
     HandedOut *handle = nullptr;
 };
 

@@ -7,33 +7,34 @@
 #include <algorithm>
 
 namespace ORVTListview {
-namespace {
-
-constexpr auto wholeRow = QItemSelectionModel::Rows;
-
-} // namespace
-
 RowChoice::RowChoice(QTableView &view, ReportModel &model)
     : m_view(view)
     , m_model(model)
+    , m_selection(model)
     , m_scroll(view)
 {
 }
 
 bool RowChoice::isSelected(const ReportRow &row) const
 {
-    return m_view.selectionModel()->isSelected(m_model.index(m_model.positionOf(row), 0));
+    return row.selected;
 }
 
-void RowChoice::setSelected(const ReportRow &row, bool selected)
+void RowChoice::setSelected(ReportRow &row, bool selected)
 {
-    if (selected && !isMultiple()) {
+    if (selected && !isMultiple())
         select(&row);
+    else
+        m_selection.setSelected(row, selected);
+}
+
+void RowChoice::toggleCurrent()
+{
+    const QModelIndex current = m_view.currentIndex();
+    if (!current.isValid())
         return;
-    }
-    m_view.selectionModel()->select(
-        m_model.index(m_model.positionOf(row), 0),
-        (selected ? QItemSelectionModel::Select : QItemSelectionModel::Deselect) | wholeRow);
+    ReportRow &row = m_model.row(current.row());
+    setSelected(row, !row.selected);
 }
 
 ReportRow *RowChoice::selected() const
@@ -41,35 +42,30 @@ ReportRow *RowChoice::selected() const
     const QModelIndex current = m_view.currentIndex();
     if (current.isValid() && isSelected(m_model.row(current.row())))
         return &m_model.row(current.row());
-    const QItemSelection ranges = m_view.selectionModel()->selection();
-    int first = m_model.rows();
-    for (const QItemSelectionRange &range : ranges)
-        first = std::min(first, range.top());
-    return first < m_model.rows() ? &m_model.row(first) : nullptr;
+    const QList<int> positions = m_selection.positions(1);
+    return positions.isEmpty() ? nullptr : &m_model.row(positions.first());
 }
 
 void RowChoice::select(const ReportRow *row)
 {
-    m_view.selectionModel()->clearSelection();
+    m_selection.select(QItemSelection(), QItemSelectionModel::Clear);
     if (!row)
         return;
     const int column = std::max(0, m_view.currentIndex().column());
-    m_scroll.makeCurrent(m_model.index(m_model.positionOf(*row), column),
+    const QModelIndex index = m_model.index(m_model.positionOf(*row), column);
+    m_scroll.makeCurrent(index, QItemSelectionModel::NoUpdate);
+    m_selection.setSelected(m_model.row(m_model.positionOf(*row)), true);
+}
+
+void RowChoice::setCurrentColumn(int column)
+{
+    m_scroll.makeCurrent(m_model.index(std::max(0, m_view.currentIndex().row()), column),
                          QItemSelectionModel::NoUpdate);
-    m_view.selectionModel()->select(m_view.currentIndex(), QItemSelectionModel::Select | wholeRow);
 }
 
 QList<int> RowChoice::selectedPositions() const
 {
-    QList<int> positions;
-    const QItemSelection ranges = m_view.selectionModel()->selection();
-    for (const QItemSelectionRange &range : ranges) {
-        for (int position = range.top(); position <= range.bottom(); ++position)
-            positions.append(position);
-    }
-    std::sort(positions.begin(), positions.end());
-    positions.erase(std::unique(positions.begin(), positions.end()), positions.end());
-    return positions;
+    return m_selection.positions();
 }
 
 bool RowChoice::isMultiple() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "widgets/list/RowSelection.h"
 #include "widgets/view/ViewScroll.h"
 
 #include <QtCore/QList>
@@ -19,14 +20,22 @@ public:
     RowChoice(QTableView &view, ReportModel &model);
     Q_DISABLE_COPY_MOVE(RowChoice) // follows one list
 
+    // For the view, once it has the model.
+    RowSelection &selection() { return m_selection; }
+    void settle() { m_selection.settle(); }
+
     bool isSelected(const ReportRow &row) const;
-    void setSelected(const ReportRow &row, bool selected);
+    void setSelected(ReportRow &row, bool selected);
+    void toggleCurrent();
 
     // The current row if it is selected, else the first that is, else null.
     ReportRow *selected() const;
 
     // The one selected row; null deselects all.
     void select(const ReportRow *row);
+
+    // Of the current cell; the row stays.
+    void setCurrentColumn(int column);
 
     // In ascending order.
     QList<int> selectedPositions() const;
@@ -41,6 +50,7 @@ public:
 private:
     QTableView &m_view;
     ReportModel &m_model;
+    RowSelection m_selection;
     ViewScroll m_scroll;
 };
 

@@ -12,7 +12,7 @@ inline bool isLayoutCharacter(QChar character)
     return code < 0x20 || code == QChar::LineSeparator || code == QChar::ParagraphSeparator;
 }
 
-// What a cell shows of its text: one line, with a blank for each tab and line end.
+// As one line, with a blank for each tab and line end.
 inline QString shownText(const QString &text)
 {
     if (std::none_of(text.cbegin(), text.cend(), isLayoutCharacter))
@@ -21,6 +21,24 @@ inline QString shownText(const QString &text)
     shown.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
     std::replace_if(shown.begin(), shown.end(), isLayoutCharacter, QChar(u' '));
     return shown;
+}
+
+// Up to so many letters of a text; an ellipsis tells that there are more.
+inline QString beginningOf(const QString &text, qsizetype letters)
+{
+    if (text.size() <= letters)
+        return text;
+    const bool splitsPair = letters > 0 && text.at(letters - 1).isHighSurrogate();
+    return text.left(splitsPair ? letters - 1 : letters) + QChar(0x2026);
+}
+
+// What a cell shows of its text at most, however wide it is. Shaping takes time for
+// each letter, and a text may have a million.
+constexpr qsizetype longestLine = 8192;
+
+inline QString cellText(const QString &text)
+{
+    return shownText(beginningOf(text, longestLine));
 }
 
 } // namespace ORVTListview

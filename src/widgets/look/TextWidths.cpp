@@ -37,7 +37,7 @@ int TextWidths::width(const QString &text)
     const auto known = m_measured.constFind(text);
     if (known != m_measured.cend())
         return *known;
-    const int width = qRound(m_metrics.horizontalAdvance(shownText(text)));
+    const int width = qRound(m_metrics.horizontalAdvance(cellText(text)));
     m_measured.insert(text, width);
     return width;
 }
@@ -52,6 +52,8 @@ void TextWidths::widen(int &widest, const QString &text)
 
 double TextWidths::sumOfSteps(const QString &text)
 {
+    if (text.size() > longestLine)
+        return unpredictable; // it is cut
     double sum = 0;
     unsigned from = start;
     for (const QChar character : text) {

@@ -29,10 +29,10 @@ TreeNode *Node::nodeOf(const Node *node, const NodeTreeParts &parts, const QStri
 {
     if (!node)
         return nullptr;
-    if (node->m_parts != &parts)
-        throw Error(InvalidCall, source, u"The node is another tree's"_s);
     if (!node->isAlive())
         throw Error(ObjectNotSet, source, u"The node has been removed"_s);
+    if (node->m_parts != &parts)
+        throw Error(InvalidCall, source, u"The node is another tree's"_s);
     return node->m_node;
 }
 

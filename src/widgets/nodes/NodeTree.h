@@ -112,7 +112,8 @@ public:
 
 Q_SIGNALS:
     // NewString is what was entered. Cancel other than 0 drops it; a changed
-    // NewString is used in its place. Raised soon after the editor has closed.
+    // NewString is used in its place. Raised soon after the editor has closed, and
+    // before anything else that the user does: SelectedItem() is still the node.
     void AfterLabelEdit(qint16 &Cancel, QString &NewString);
 
     // Cancel other than 0 keeps the editor from opening.

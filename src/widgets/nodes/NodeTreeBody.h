@@ -21,6 +21,7 @@ struct NodeTreeBody : NodeTreeParts
         , nodes(*this)
         , surface(shownBy, delegate)
         , clicks(shownBy)
+        , labels(shownBy, delegate)
     {
     }
 

@@ -99,8 +99,8 @@ bool NodeTree::raiseFolded()
 void NodeTree::keyPressEvent(QKeyEvent *event)
 {
     d->clicks.slow().stop();
-    if (state() == EditingState) { // what the editor has no use for
-        QTreeView::keyPressEvent(event);
+    if (state() == EditingState) { // the editor has no use for it
+        event->ignore();
         return;
     }
     raiseKeyPress(*this, &NodeTree::KeyDown, &NodeTree::KeyPress, *event,
@@ -163,13 +163,13 @@ bool NodeTree::isChosenLabel(const QModelIndex &index, QPoint place) const
 
 void NodeTree::mousePressEvent(QMouseEvent *event)
 {
-    const bool focused = d->clicks.takeFocusing();
+    const bool arrives = d->clicks.takeFocusing() || d->labels.wasClosedByPress();
     if (!raiseMouse(*this, &NodeTree::MouseDown, *event))
         return;
     const QPoint place = event->position().toPoint();
     const QModelIndex index = indexAt(place);
     const bool folds = isOnExpander(index, place);
-    d->clicks.press(*event, index, !focused && !folds && isChosenLabel(index, place));
+    d->clicks.press(*event, index, !arrives && !folds && isChosenLabel(index, place));
     const bool picks =
         !folds && (event->button() == Qt::LeftButton || event->button() == Qt::RightButton);
     letUser([this, event] { QTreeView::mousePressEvent(event); },

@@ -12,7 +12,7 @@ void NodeTree::StartLabelEdit()
     if (!node || !d->labels.announce(*this, &NodeTree::BeforeLabelEdit) || !node->isAlive())
         return;
     node->EnsureVisible();
-    edit(d->model.indexOf(*node->m_node), AllEditTriggers, nullptr);
+    d->labels.open(d->model.indexOf(*node->m_node));
 }
 
 void NodeTree::noteLabel(Node &node, const QString &text)

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "widgets/view/HandlePage.h"
+
 #include <QtCore/QtGlobal>
 
 #include <memory>
+#include <new>
 #include <vector>
 
 namespace ORVTListview {
@@ -18,9 +21,10 @@ public:
     virtual void letGo() = 0;
 };
 
-// Makes the handles of what a model keeps when they are asked for. All of them are
-// kept, those of what was removed too, since nobody can know which of them a host
-// still holds: 40 bytes for each that was ever asked for.
+// Makes the handles of what a model keeps when they are asked for. Nobody can know
+// which of them a host still holds, so all can be asked for as long as the store lives,
+// those of what was removed too. A handle of nothing is all zeros, and memory of zeros
+// only is given back: see HandlePage.
 template <typename Handle, typename Held>
 class HandleStore
 {
@@ -33,7 +37,7 @@ public:
     Handle *of(Held &held, Keeper &keeper)
     {
         if (!held.handle)
-            held.handle = m_all.emplace_back(std::make_unique<Kept>(keeper, held)).get();
+            held.handle = make(held, keeper);
         return &static_cast<Kept *>(held.handle)->handle;
     }
 
@@ -41,16 +45,34 @@ private:
     struct Kept final : HandedOut
     {
         template <typename Keeper>
-        Kept(Keeper &keeper, Held &held)
+        Kept(Keeper &keeper, Held &held, HandlePage &heldBy)
             : handle(keeper, held)
+            , page(heldBy)
         {
         }
-        void letGo() override { handle.letGo(); }
+        void letGo() override
+        {
+            handle.letGo();
+            page.letGo(); // the last thing: this may be zeros now
+        }
 
         Handle handle;
+        HandlePage &page;
     };
 
-    std::vector<std::unique_ptr<HandedOut>> m_all;
+    // Handles own nothing, so nothing ends them but the end of their page.
+    template <typename Keeper>
+    Kept *make(Held &held, Keeper &keeper)
+    {
+        void *place = m_pages.empty() ? nullptr : m_pages.back()->take(sizeof(Kept));
+        if (!place) {
+            m_pages.push_back(std::make_unique<HandlePage>());
+            place = m_pages.back()->take(sizeof(Kept));
+        }
+        return new (place) Kept(keeper, held, *m_pages.back());
+    }
+
+    std::vector<std::unique_ptr<HandlePage>> m_pages;
 };
 
 } // namespace ORVTListview

@@ -3,16 +3,24 @@
 #include "base/EventGuard.h"
 #include "widgets/view/OpenView.h"
 
+#include <QtCore/QObject>
+#include <QtCore/QPersistentModelIndex>
+#include <QtCore/QQueue>
+
 #include <functional>
 
 namespace ORVTListview {
 
-// The events around a view's own editor of a label.
-class LabelEdit
+class ReportDelegate;
+
+// The events around a view's own editor of a label. What was entered is told soon
+// after the editor has closed, and before anything else that the user does: a press
+// or the wheel beside the editor closes it and is told of the label first, while the
+// row is still the selected one.
+class LabelEdit final : public QObject
 {
 public:
-    LabelEdit() = default;
-    Q_DISABLE_COPY_MOVE(LabelEdit) // follows one view
+    LabelEdit(QAbstractItemView &view, ReportDelegate &delegate);
 
     // Whether the editor may open; false also when a receiver has destroyed the view.
     template <typename View>
@@ -28,18 +36,22 @@ public:
         return cancel == 0;
     }
 
+    void open(const QModelIndex &label);
+
     // The editor is being closed while this is called; event and label come later.
     template <typename View>
-    static void enterSoon(View &view, void (View::*after)(qint16 &, QString &),
-                          const QString &entered, const std::function<void(const QString &)> &enter)
+    void enterSoon(View &view, void (View::*after)(qint16 &, QString &), const QString &entered,
+                   const std::function<void(const QString &)> &enter)
     {
-        const auto finish = [&view, after, label = entered, enter]() mutable {
+        tellSoon([&view, after, label = entered, enter]() mutable {
             qint16 cancel = 0;
             if (raiseEvent(view, after, cancel, label) && cancel == 0)
                 enter(label);
-        };
-        QMetaObject::invokeMethod(&view, finish, Qt::QueuedConnection);
+        });
     }
+
+    // Whether the press at hand has closed an editor.
+    bool wasClosedByPress() const { return m_wasClosedByPress; }
 
     // No going on to edit the next one, which would not be announced.
     static QAbstractItemDelegate::EndEditHint withoutNext(QAbstractItemDelegate::EndEditHint hint)
@@ -49,8 +61,22 @@ public:
         return next ? QAbstractItemDelegate::NoHint : hint;
     }
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    QWidget *editor() const;
+    void closeFor(const QObject &receiver, const QEvent &event);
+    void tellSoon(const std::function<void()> &tell);
+    void tellNow();
+    void watchTheUser();
+
+    QAbstractItemView &m_view;
+    ReportDelegate &m_delegate;
+    QPersistentModelIndex m_label;
+    QQueue<std::function<void()>> m_untold;
     bool m_isAnnouncing = false;
+    bool m_wasClosedByPress = false;
 };
 
 } // namespace ORVTListview

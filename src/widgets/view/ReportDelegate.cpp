@@ -3,18 +3,33 @@
 #include "widgets/input/FieldMenu.h"
 #include "widgets/look/CellText.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStyle>
 
+#include <limits>
+
 namespace ORVTListview {
+namespace {
+
+// More letters than have room in this width, in any font that can be read.
+qsizetype lettersWithin(int width)
+{
+    constexpr int room = 64;
+    return std::max(0, width) + room;
+}
+
+} // namespace
 
 void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                            const QModelIndex &index) const
 {
-    QStyleOptionViewItem unfocused = option;
-    unfocused.state &= ~QStyle::State_HasFocus;
-    QStyledItemDelegate::paint(painter, unfocused, index);
+    QStyleOptionViewItem cell = option;
+    cell.state &= ~QStyle::State_HasFocus;
+    initStyleOption(&cell, index);
+    cell.text = beginningOf(cell.text, lettersWithin(cell.rect.width()));
+    cell.widget->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     if (!option.state.testFlag(QStyle::State_HasFocus))
         return;
     const bool selected = option.state.testFlag(QStyle::State_Selected);
@@ -37,7 +52,28 @@ QWidget *ReportDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
 
 QString ReportDelegate::displayText(const QVariant &value, const QLocale &) const
 {
-    return shownText(value.toString());
+    return cellText(value.toString());
+}
+
+QWidget *ReportDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                      const QModelIndex &index) const
+{
+    QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+    if (auto *line = qobject_cast<QLineEdit *>(editor))
+        line->setMaxLength(std::numeric_limits<int>::max());
+    return editor;
+}
+
+// Also called when the program changes the cell meanwhile.
+void ReportDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    auto *line = qobject_cast<QLineEdit *>(editor);
+    if (!line || line->isModified() || line->text() == index.data(Qt::EditRole).toString())
+        return;
+    const bool isAllSelected = line->selectedText() == line->text();
+    QStyledItemDelegate::setEditorData(editor, index);
+    if (isAllSelected) // as when it was opened: typing replaces it
+        line->selectAll();
 }
 
 void ReportDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
@@ -47,8 +83,30 @@ void ReportDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
         Q_EMIT labelEntered(index, line->text());
 }
 
+void ReportDelegate::finish(QWidget &editor)
+{
+    Q_EMIT commitData(&editor);
+    Q_EMIT closeEditor(&editor);
+}
+
+// At once: the toolkit's own would let the next key come first.
+bool ReportDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *editor = qobject_cast<QLineEdit *>(watched);
+    if (editor && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<const QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            finish(*editor);
+            return true;
+        }
+    }
+    return QStyledItemDelegate::eventFilter(watched, event);
+}
+
 bool ReportDelegate::isElided(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
+    if (index.data().toString().size() > lettersWithin(option.rect.width()))
+        return true;
     QStyleOptionViewItem filled = option;
     initStyleOption(&filled, index);
     const QStyle &style = *filled.widget->style();

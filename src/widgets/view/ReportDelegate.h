@@ -20,14 +20,23 @@ public:
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
     QString displayText(const QVariant &value, const QLocale &locale) const override;
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;
+
+    // Enters what is in an editor, and closes it.
+    void finish(QWidget &editor);
 
     // Whether a cell of this option's place and size shows less than its text.
     bool isElided(const QStyleOptionViewItem &option, const QModelIndex &index) const;
 
 Q_SIGNALS:
     void labelEntered(const QModelIndex &index, const QString &text) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 };
 
 } // namespace ORVTListview

@@ -109,6 +109,8 @@ private Q_SLOTS:
     void makesRoomForPicturesAndBoxes();
     void roundsHalfToEven();
     void fitsInAnotherFont();
+    void fitsAColumnByItsDivider();
+    void fitsLongTextsQuickly();
 };
 
 void ColumnWidthsTest::findsTheWidestText_data()
@@ -340,6 +342,37 @@ void ColumnWidthsTest::fitsInAnotherFont()
     shown->fitColumns();
     QVERIFY(shown->columnWidth(0) > small);
     QCOMPARE(shown->columnWidth(0), neededWidths(*shown.list).first());
+}
+
+void ColumnWidthsTest::fitsAColumnByItsDivider()
+{
+    const ShownList shown(3000, 3);
+    shown.item(3000)->setSubItem(1, QString(12, u'W')); // far from what is in sight
+    shown->fitColumns();
+    QList<int> fitted;
+    for (int column = 0; column < 3; ++column)
+        fitted.append(shown->columnWidth(column));
+    shown->fitColumns();
+    for (const int column : {0, 1, 2}) {
+        shown->setColumnWidth(column, 50);
+        const QHeaderView &header = *shown->horizontalHeader();
+        const QPoint divider(header.sectionViewportPosition(column) + 49, header.height() / 2);
+        shown.doubleClick(header.viewport()->mapTo(&shown.form, divider));
+        QCOMPARE(shown->columnWidth(column), fitted.at(column));
+    }
+}
+
+void ColumnWidthsTest::fitsLongTextsQuickly()
+{
+    const ShownList shown(20, 2);
+    for (int row = 1; row <= 20; ++row)
+        shown.item(row)->setSubItem(1, QString(1 << 20, QChar(u'a' + row)));
+    QElapsedTimer timer;
+    timer.start();
+    shown->fitColumns();
+    shown->grab();
+    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(shown->columnWidth(1) > 4000); // what a column can show of them
 }
 
 QTEST_MAIN(ColumnWidthsTest)

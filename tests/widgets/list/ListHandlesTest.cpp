@@ -1,6 +1,7 @@
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
 
 #include <cmath>
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void readsAndWritesARow();
     void followsItsRow();
     void failsClearlyOnceItsRowIsGone();
+    void takesNoMemoryForRowsThatAreGone();
     void neverComesBackWithTheKey();
     void countsFromOne();
     void refusesAKeyInUse();
@@ -128,6 +130,50 @@ void ListHandlesTest::failsClearlyOnceItsRowIsGone()
     } catch (const Error &error) {
         QCOMPARE(error.Source(), u"ListItem.setSubItem"_s);
         QVERIFY(!error.Description().isEmpty());
+    }
+}
+
+namespace {
+
+// Of the process, in bytes.
+qint64 memoryInUse()
+{
+    QFile file(u"/proc/self/statm"_s);
+    if (!file.open(QFile::ReadOnly))
+        return 0;
+    constexpr qint64 page = 4096;
+    return file.readAll().split(' ').value(1).toLongLong() * page;
+}
+
+} // namespace
+
+void ListHandlesTest::takesNoMemoryForRowsThatAreGone()
+{
+    ReportList list;
+    list.ColumnHeaders()->Add();
+    QList<ListItem *> held;
+    qint64 before = 0;
+    for (int round = 0; round < 1000; ++round) {
+        list.setRows(QList<RowContent>(1000));
+        for (int row = 1; row <= 1000; ++row) {
+            ListItem *item = list.ListItems()->Item(row);
+            if (row == 500 && round % 100 == 0)
+                held.append(item);
+        }
+        if (round == 100)
+            before = memoryInUse();
+    }
+    QVERIFY(before > 0);
+    const qint64 more = memoryInUse() - before;
+    QVERIFY2(more < 4'000'000, qPrintable(QString::number(more)));
+    QCOMPARE(list.ListItems()->Item(7)->Index(), 7);
+    list.Clear();
+    for (ListItem *item : std::as_const(held)) {
+        QVERIFY(!item->isAlive());
+        QCOMPARE(errorOf([&] { item->Text(); }), qint32{ObjectNotSet});
+        QCOMPARE(errorOf([&] { item->setSelected(true); }), qint32{ObjectNotSet});
+        QCOMPARE(errorOf([&] { list.setSelectedItem(item); }), qint32{ObjectNotSet});
+        QVERIFY(item != list.Add());
     }
 }
 

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void copiesSelectedRows();
     void copiesNothingWhenSwitchedOff();
     void selectsManyRowsByKey();
+    void togglesTheCurrentRow();
+    void goesToRowsByTheirLabels();
     void bearsAnythingInAKeyEvent_data();
     void bearsAnythingInAKeyEvent();
     void keepsErrorsFromTheEventLoop();
@@ -280,6 +282,55 @@ void ReportListKeyTest::selectsManyRowsByKey()
     shown.key(Qt::Key_A, Qt::ControlModifier);
     for (int row = 1; row <= 5; ++row)
         QVERIFY(shown.item(row)->Selected());
+}
+
+// Ctrl+Space types the character 0 where there is a keyboard.
+void ReportListKeyTest::togglesTheCurrentRow()
+{
+    const ShownList shown;
+    shown->setMultiSelect(true);
+    shown->setSelectedItem(shown.item(2));
+    shown.key(Qt::Key_Down, Qt::ControlModifier);
+    shown.key(Qt::Key_Down, Qt::ControlModifier);
+    ListEvents events(shown.list);
+    const auto toggle = [&] {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier, QString(QChar(0)));
+        QCoreApplication::sendEvent(shown.list, &press);
+    };
+    toggle();
+    QVERIFY(shown.item(2)->Selected());
+    QVERIFY(!shown.item(3)->Selected());
+    QVERIFY(shown.item(4)->Selected());
+    const QString told = events.take();
+    QVERIFY(told.startsWith(u"KeyDown 32 2"_s));
+    QVERIFY(!told.contains(u"KeyPress"_s));
+    toggle();
+    QVERIFY(shown.item(2)->Selected());
+    QVERIFY(!shown.item(4)->Selected());
+    shown->setCheckBoxes(true);
+    toggle();
+    QVERIFY(shown.item(4)->Selected());
+    QVERIFY(!shown.item(4)->Checked());
+}
+
+void ReportListKeyTest::goesToRowsByTheirLabels()
+{
+    const ShownList shown(3);
+    shown->setLabelColumn(1);
+    shown.item(1)->setSubItem(1, u"Alpha"_s);
+    shown.item(2)->setSubItem(1, u"Beta"_s);
+    shown.item(3)->setSubItem(1, u"Bravo"_s);
+    shown->setSelectedItem(shown.item(1));
+    shown.key(Qt::Key_B);
+    shown.key(Qt::Key_R);
+    QCOMPARE(shown->SelectedItem(), shown.item(3));
+    QTest::qWait(1 + QApplication::keyboardInputInterval());
+    shown.key(Qt::Key_T); // the rows' own texts
+    QCOMPARE(shown->SelectedItem(), shown.item(3));
+    QTest::qWait(1 + QApplication::keyboardInputInterval());
+    shown.click(shown.cell(3, 3));
+    shown.key(Qt::Key_A);
+    QCOMPARE(shown->SelectedItem(), shown.item(1));
 }
 
 void ReportListKeyTest::bearsAnythingInAKeyEvent_data()

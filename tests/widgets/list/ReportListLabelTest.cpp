@@ -2,7 +2,10 @@
 #include "widgets/list/ReportListEvents.h"
 #include "widgets/list/ReportListFixture.h"
 
+#include <QtGui/QWheelEvent>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -18,6 +21,47 @@ bool hasEditor(const ShownList &shown)
 {
     const QLineEdit *editor = editorOf(shown);
     return editor && editor->isVisible();
+}
+
+void turnWheel(const ShownList &shown, QPoint at)
+{
+    const QPoint global = shown.form.mapToGlobal(at);
+    QWheelEvent wheel(at, global, {}, {0, -360}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QCoreApplication::sendEvent(shown.window, &wheel);
+}
+
+// A place of the form in the scroll bar, where a press goes a page down.
+QPoint pageDown(const ShownList &shown)
+{
+    const QScrollBar &bar = *shown->verticalScrollBar();
+    return bar.mapTo(&shown.form, QPoint(bar.width() / 2, bar.height() - 30));
+}
+
+// What users do beside an open editor.
+void doBeside(const QString &way, const ShownList &shown, const QPushButton &button)
+{
+    if (way == u"row"_s)
+        shown.click(shown.cell(4));
+    else if (way == u"header"_s)
+        shown.click(shown.header(2));
+    else if (way == u"scroll bar"_s)
+        shown.click(pageDown(shown));
+    else if (way == u"wheel"_s)
+        turnWheel(shown, shown.cell(5, 2));
+    else if (way == u"wheel on it"_s)
+        turnWheel(shown, shown.cell(2));
+    else if (way == u"Return and Down"_s) {
+        shown.key(Qt::Key_Return);
+        shown.key(Qt::Key_Down);
+    } else
+        shown.click(button.geometry().center());
+}
+
+QStringList waysBeside()
+{
+    return {u"row"_s,         u"header"_s, u"scroll bar"_s,     u"wheel"_s,
+            u"wheel on it"_s, u"button"_s, u"Return and Down"_s};
 }
 
 } // namespace
@@ -39,6 +83,14 @@ private Q_SLOTS:
     void dropsWhatIsCancelledAfterwards();
     void takesTheHostsText();
     void entersWithTheFocusGone();
+    void tellsTheLabelBeforeAnythingElse_data();
+    void tellsTheLabelBeforeAnythingElse();
+    void staysOpenForItsOwnMouse();
+    void keepsTheKeysToItself();
+    void isNotOpenedByThePressThatClosedIt();
+    void keepsWhatIsTypedWhenTheHostWrites();
+    void keepsLongLabels();
+    void swallowsAPressThatIsOver();
     void leavesTheLabelOnEscape();
     void doesNotGoOnToTheNextRow();
     void doesNothingWithoutASelectedRow();
@@ -222,6 +274,151 @@ void ReportListLabelTest::entersWithTheFocusGone()
     QCOMPARE(shown->SelectedItem(), shown.item(4));
 }
 
+void ReportListLabelTest::tellsTheLabelBeforeAnythingElse_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const QString &way : waysBeside())
+        QTest::addRow("%s", qPrintable(way)) << way;
+}
+
+void ReportListLabelTest::tellsTheLabelBeforeAnythingElse()
+{
+    QFETCH(QString, way);
+    ShownList shown(100);
+    QPushButton button(&shown.form);
+    button.setFocusPolicy(Qt::NoFocus);
+    button.setGeometry(0, 0, 50, 18);
+    button.show();
+    shown->setSelectedItem(shown.item(2));
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    ListEvents events(shown.list);
+    connect(&button, &QPushButton::pressed, this, [&] { events.log.append(u"pressed"_s); });
+    const ListItem *selected = nullptr;
+    const ListItem *top = nullptr;
+    connect(shown.list, &ReportList::AfterLabelEdit, this, [&] {
+        selected = shown->SelectedItem();
+        top = shown->GetFirstVisible();
+    });
+    doBeside(way, shown, button);
+    QCOMPARE(selected, shown.item(2)); // without waiting
+    QCOMPARE(top, shown.item(1));
+    QVERIFY(!hasEditor(shown));
+    QCOMPARE(shown.item(2)->Text(), u"new"_s);
+    QCOMPARE(events.log.value(0), u"AfterLabelEdit new"_s);
+    const QString then = events.take();
+    QCOMPARE(then.count(u"AfterLabelEdit"_s), 1);
+    if (way == u"row"_s)
+        QCOMPARE(shown->SelectedItem(), shown.item(4));
+    else if (way == u"header"_s)
+        QVERIFY(then.contains(u"ColumnClick Column2"_s));
+    else if (way == u"button"_s)
+        QVERIFY(then.contains(u"pressed"_s));
+    else if (way == u"Return and Down"_s)
+        QCOMPARE(shown->SelectedItem(), shown.item(3));
+    else
+        QVERIFY(shown->GetFirstVisible() != shown.item(1));
+}
+
+void ReportListLabelTest::staysOpenForItsOwnMouse()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    shown.click(shown.cell(2));
+    QVERIFY(hasEditor(shown));
+    QContextMenuEvent asks(QContextMenuEvent::Mouse, QPoint(5, 5),
+                           editorOf(shown)->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(editorOf(shown), &asks);
+    QWidget *menu = QApplication::activePopupWidget();
+    QVERIFY(menu);
+    QTest::mousePress(menu, Qt::LeftButton, {}, QPoint(-5, -5));
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+    QVERIFY(hasEditor(shown));
+    QCOMPARE(editorOf(shown)->text(), u"new"_s);
+}
+
+void ReportListLabelTest::keepsTheKeysToItself()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_F2}) {
+        shown.key(key);
+        QVERIFY(hasEditor(shown));
+        QCOMPARE(shown->SelectedItem(), shown.item(2));
+    }
+    QCOMPARE(editorOf(shown)->text(), u"new"_s);
+}
+
+void ReportListLabelTest::isNotOpenedByThePressThatClosedIt()
+{
+    const ShownList shown;
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    shown->setPictureProvider([&](const QString &) { return QIcon(pixmap); });
+    shown.item(2)->setPictureKey(u"a"_s);
+    shown->setSelectedItem(shown.item(2));
+    shown->StartLabelEdit();
+    const QRect cell = shown->visualRect(shown->model()->index(1, 0));
+    shown.click(shown.inForm(QPoint(cell.left() + 6, cell.center().y())));
+    QVERIFY(!hasEditor(shown));
+    QTest::qWait(ShownList::betweenClicks() + 50);
+    QVERIFY(!hasEditor(shown));
+    shown.click(shown.inForm(QPoint(cell.left() + 6, cell.center().y())));
+    QTRY_VERIFY(hasEditor(shown)); // the next one is a slow click as any other
+}
+
+void ReportListLabelTest::keepsWhatIsTypedWhenTheHostWrites()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    shown->StartLabelEdit();
+    shown.item(2)->setText(u"host"_s);
+    QCOMPARE(editorOf(shown)->text(), u"host"_s); // nothing is typed yet
+    QTest::keyClicks(editorOf(shown), u"ne"_s);
+    shown.item(2)->setText(u"host's"_s);
+    QTest::keyClicks(editorOf(shown), u"w"_s);
+    QCOMPARE(editorOf(shown)->text(), u"new"_s);
+    QTest::keyClick(editorOf(shown), Qt::Key_Escape);
+    QTRY_VERIFY(!hasEditor(shown));
+    QCOMPARE(shown.item(2)->Text(), u"host's"_s);
+}
+
+void ReportListLabelTest::keepsLongLabels()
+{
+    const ShownList shown;
+    const QString label(100'000, u'x');
+    shown.item(2)->setText(label);
+    shown->setSelectedItem(shown.item(2));
+    QString entered;
+    connect(shown.list, &ReportList::AfterLabelEdit, this,
+            [&](qint16 &, const QString &text) { entered = text; });
+    shown.key(Qt::Key_F2);
+    shown.key(Qt::Key_Return);
+    QTRY_VERIFY(!entered.isEmpty());
+    QVERIFY(entered == label);
+    QVERIFY(shown.item(2)->Text() == label);
+}
+
+// A handler that shows a message takes the button's release.
+void ReportListLabelTest::swallowsAPressThatIsOver()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    connect(shown.list, &ReportList::AfterLabelEdit, this, [&] { shown.release(shown.cell(4)); });
+    ListEvents events(shown.list);
+    shown.press(shown.cell(4));
+    const QString then = events.take();
+    QVERIFY(then.startsWith(u"AfterLabelEdit new"_s));
+    QVERIFY(!then.contains(u"MouseDown"_s));
+    QCOMPARE(shown->SelectedItem(), shown.item(2));
+}
+
 void ReportListLabelTest::leavesTheLabelOnEscape()
 {
     const ShownList shown;
@@ -295,7 +492,10 @@ void ReportListLabelTest::bearsAnythingInALabelEvent_data()
     for (const bool before : {true, false}) {
         for (const QString &deed :
              {u"destroy"_s, u"clear"_s, u"columns"_s, u"remove"_s, u"disable"_s}) {
-            for (const QString &way : {u"F2 and Return"_s, u"click and click away"_s, u"focus"_s})
+            QStringList ways{u"F2 and Return"_s, u"click and click away"_s, u"focus"_s};
+            if (!before)
+                ways += waysBeside();
+            for (const QString &way : std::as_const(ways))
                 QTest::addRow("%s, %s, %s", before ? "before" : "after", qPrintable(deed),
                               qPrintable(way))
                     << before << deed << way;
@@ -308,10 +508,13 @@ void ReportListLabelTest::bearsAnythingInALabelEvent()
     QFETCH(bool, before);
     QFETCH(QString, deed);
     QFETCH(QString, way);
-    ShownList shown;
+    ShownList shown(100);
     QLineEdit other(&shown.form);
     other.setGeometry(0, 0, 50, 18);
     other.show();
+    QPushButton button(&shown.form);
+    button.setGeometry(60, 0, 50, 18);
+    button.show();
     int events = 0;
     const auto act = [&] {
         ++events;
@@ -342,8 +545,10 @@ void ReportListLabelTest::bearsAnythingInALabelEvent()
             shown.key(Qt::Key_Return);
         else if (way == u"focus"_s)
             other.setFocus();
-        else
+        else if (way == u"click and click away"_s)
             shown.click(shown.cell(4));
+        else
+            doBeside(way, shown, button);
     }
     QTRY_COMPARE(events, 1);
     QCoreApplication::processEvents();

@@ -3,7 +3,11 @@
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
 
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QRegularExpression>
 #include <QtGui/QAccessible>
+#include <QtGui/QScreen>
+#include <QtGui/QTextDocumentFragment>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QToolTip>
@@ -89,6 +93,9 @@ private Q_SLOTS:
 
     void tipsLongCellsOnly();
     void tipsTextAsItStands();
+    void wrapsAndCutsLongTips_data();
+    void wrapsAndCutsLongTips();
+    void paintsLongCellsQuickly();
     void tipsLongHeaders();
     void showsWhereTheFocusIs();
     void showsEachCellOnOneLine();
@@ -135,6 +142,69 @@ void ReportListLookTest::tipsTextAsItStands()
     shown.item(1)->setText(QString(2000, u'x') + u' ' + QString(2000, u'y'));
     hover(*shown->viewport(), shown->visualRect(shown->model()->index(0, 0)).center());
     QTRY_VERIFY(QToolTip::isVisible());
+}
+
+void ReportListLookTest::wrapsAndCutsLongTips_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isCut");
+    const QString word = u"lorem<i>ipsum "_s;
+    QTest::addRow("words") << word.repeated(20) << false;
+    QTest::addRow("one word") << QString(300, u'W') << false;
+    QTest::addRow("lines") << u"line\n"_s.repeated(400) << true;
+    QTest::addRow("1 MB of words") << word.repeated(80'000) << true;
+    QTest::addRow("1 MB of one word") << QString(1 << 20, u'W') << true;
+    QTest::addRow("pairs") << u"\U0001F600"_s.repeated(3000) << true;
+}
+
+void ReportListLookTest::wrapsAndCutsLongTips()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isCut);
+    const ShownList shown;
+    shown.item(1)->setText(text);
+    QElapsedTimer timer;
+    timer.start();
+    hover(*shown->viewport(), shown->visualRect(shown->model()->index(0, 0)).center());
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(QToolTip::isVisible());
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto tip = std::find_if(all.begin(), all.end(), [](const QWidget *widget) {
+        return widget->isVisible() && widget->inherits("QTipLabel");
+    });
+    QVERIFY(tip != all.end());
+    const QSize screen = shown->screen()->availableSize();
+    QVERIFY2((*tip)->width() <= screen.width() * 4 / 5,
+             qPrintable(QString::number((*tip)->width())));
+    QVERIFY((*tip)->height() <= screen.height() / 2);
+    const QString read = Qt::mightBeRichText(QToolTip::text())
+                             ? QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText()
+                             : QToolTip::text();
+    const auto letters = [](QString string) {
+        string.remove(QRegularExpression(u"[\\s\u00a0]"_s));
+        return string;
+    };
+    QCOMPARE(read.endsWith(u'…'), isCut);
+    QVERIFY(letters(text).startsWith(letters(read).chopped(isCut ? 1 : 0)));
+    if (!isCut)
+        QCOMPARE(letters(read), letters(text));
+    QVERIFY(!read.chopped(1).back().isHighSurrogate());
+}
+
+void ReportListLookTest::paintsLongCellsQuickly()
+{
+    const ShownList shown(20, 3);
+    const QString beginning = u"The beginning of much "_s;
+    const QImage before = [&] {
+        shown.item(1)->setText(beginning + QString(500, u'x'));
+        return picture(*shown->viewport());
+    }();
+    shown.item(1)->setText(beginning + QString(1 << 20, u'x'));
+    QElapsedTimer timer;
+    timer.start();
+    for (int time = 0; time < 5; ++time)
+        QCOMPARE(picture(*shown->viewport()), before);
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void ReportListLookTest::tipsLongHeaders()

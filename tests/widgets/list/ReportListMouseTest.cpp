@@ -18,6 +18,7 @@ private Q_SLOTS:
     void clicksBesideTheRows();
     void takesBackAClickThatEndsOutside();
     void clicksColumns();
+    void clicksColumnsTwice();
     void doesNotTellOfTheMouseOnTheHeader();
     void checksWithTheMouse();
     void picksRowsByDragging();
@@ -131,6 +132,17 @@ void ReportListMouseTest::clicksColumns()
     shown.press(shown.header(2));
     shown.release(shown.header(3));
     QCOMPARE(events.take(), QString());
+}
+
+void ReportListMouseTest::clicksColumnsTwice()
+{
+    const ShownList shown;
+    ListEvents events(shown.list);
+    shown.doubleClick(shown.header(2));
+    QCOMPARE(events.take(), u"ColumnClick Column2, ColumnClick Column2"_s);
+    const int edge = shown->horizontalHeader()->sectionSize(0);
+    shown.doubleClick(QPoint(shown.header(1).x() - edge / 2 + edge - 1, shown.header(1).y()));
+    QCOMPARE(events.take(), QString()); // the divider
 }
 
 void ReportListMouseTest::doesNotTellOfTheMouseOnTheHeader()
@@ -284,6 +296,16 @@ void ReportListMouseTest::bearsAnythingInAColumnClick()
     shown.click(shown.header(1));
     QCOMPARE(clicks, 1);
     QCOMPARE(shown.list.isNull(), deed == u"destroy"_s);
+    QTest::qWait(ShownList::betweenClicks());
+    ShownList quick;
+    clicks = 0;
+    connect(quick.list, &ReportList::ColumnClick, this, [&] {
+        if (++clicks == 2)
+            perform(deed, quick);
+    });
+    quick.doubleClick(quick.header(1));
+    QCOMPARE(clicks, 2);
+    QCOMPARE(quick.list.isNull(), deed == u"destroy"_s);
 }
 
 void ReportListMouseTest::keepsErrorsFromTheEventLoop()

@@ -14,6 +14,9 @@ class ReportListTest : public WidgetTest
 
 private Q_SLOTS:
     void selectsOneRowOrMany();
+    void selectsScatteredRowsOneByOne();
+    void keepsTheSelectionInOnePlace();
+    void keepsTheSelectionOverAChangeOfColumns();
     void selectsWithoutScrolling();
     void refusesRowsOfOthers();
     void knowsTheSelectedItemOfMany();
@@ -53,6 +56,144 @@ void ReportListTest::selectsOneRowOrMany()
     shown->setSelectedItem(shown.item(5));
     shown->setSelectedItem(nullptr);
     QVERIFY(!shown.item(5)->Selected());
+}
+
+namespace {
+
+QList<int> selectedRows(const ReportList &list)
+{
+    QList<int> rows;
+    for (int row = 1; row <= list.ListItems()->Count(); ++row) {
+        if (list.ListItems()->Item(row)->Selected())
+            rows.append(row);
+    }
+    return rows;
+}
+
+// As the view has them, which draws by it.
+QList<int> drawnRows(const ReportList &list)
+{
+    QList<int> rows;
+    for (const QItemSelectionRange &range : list.selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row + 1);
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+} // namespace
+
+void ReportListTest::selectsScatteredRowsOneByOne()
+{
+    const ShownList shown(0, 6);
+    constexpr int count = 16'384;
+    shown->setRows(QList<RowContent>(2 * count));
+    shown->setMultiSelect(true);
+    QElapsedTimer timer;
+    timer.start();
+    QList<int> chosen;
+    for (int row = 1; row <= 2 * count; row += 2) {
+        shown.item(row)->setSelected(true);
+        chosen.append(row);
+    }
+    QCOMPARE(selectedRows(*shown.list), chosen);
+    QCOMPARE(shown->SelectedItem(), shown.item(1));
+    QCoreApplication::processEvents();
+    QCOMPARE(drawnRows(*shown.list), chosen);
+    for (int row = 1; row <= 2 * count; ++row)
+        shown.item(row)->setSelected(row % 2 == 0);
+    for (int &row : chosen)
+        ++row;
+    QCOMPARE(selectedRows(*shown.list), chosen);
+    QCoreApplication::processEvents();
+    QCOMPARE(drawnRows(*shown.list), chosen);
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void ReportListTest::keepsTheSelectionInOnePlace()
+{
+    const ShownList shown(0, 3);
+    QRandomGenerator random(7);
+    shown->setMultiSelect(true);
+    QSet<ListItem *> chosen; // the same by another way
+    const auto any = [&] { return shown.item(1 + random.bounded(shown->ListItems()->Count())); };
+    for (int step = 0; step < 4000; ++step) {
+        const int kind = random.bounded(40);
+        if (kind < 3 || shown->ListItems()->Count() < 5) {
+            shown->Add(1 + random.bounded(shown->ListItems()->Count() + 1));
+        } else if (kind < 4) {
+            ListItem *gone = any();
+            chosen.remove(gone);
+            shown->ListItems()->Remove(gone->Index());
+        } else if (kind < 5) {
+            ListItem *one = any();
+            const bool was = chosen.contains(one);
+            shown->selectionModel()->select(shown->model()->index(one->Index() - 1, 0),
+                                            QItemSelectionModel::Toggle |
+                                                QItemSelectionModel::Rows);
+            if (was)
+                chosen.remove(one);
+            else
+                chosen.insert(one);
+        } else if (kind == 6 && random.bounded(10) == 0) {
+            shown->clearSelection();
+            chosen.clear();
+        } else if (kind == 7 && random.bounded(10) == 0) {
+            ListItem *one = any();
+            shown->setSelectedItem(one);
+            chosen = {one};
+        } else {
+            ListItem *one = any();
+            const bool selects = random.bounded(5) > 0;
+            one->setSelected(selects);
+            if (selects)
+                chosen.insert(one);
+            else
+                chosen.remove(one);
+        }
+        if (random.bounded(50) == 0) {
+            QCoreApplication::processEvents();
+            QCOMPARE(drawnRows(*shown.list), selectedRows(*shown.list));
+        }
+        if (random.bounded(20) == 0) {
+            QList<int> expected;
+            for (const ListItem *item : std::as_const(chosen))
+                expected.append(item->Index());
+            std::sort(expected.begin(), expected.end());
+            QCOMPARE(selectedRows(*shown.list), expected);
+        }
+    }
+    QVERIFY(shown->ListItems()->Count() > 150);
+    shown->setRows(QList<RowContent>(5));
+    QCOMPARE(selectedRows(*shown.list), QList<int>());
+    QCoreApplication::processEvents();
+    QCOMPARE(drawnRows(*shown.list), QList<int>());
+}
+
+void ReportListTest::keepsTheSelectionOverAChangeOfColumns()
+{
+    const ShownList shown(5, 2);
+    shown->setMultiSelect(true);
+    shown.item(2)->setSelected(true);
+    shown.item(4)->setSelected(true);
+    const auto isWhole = [&] {
+        QCoreApplication::processEvents();
+        for (int row = 0; row < 5; ++row) {
+            for (int column = 0; column < shown->model()->columnCount(); ++column) {
+                if (shown->selectionModel()->isSelected(shown->model()->index(row, column)) !=
+                    (row == 1 || row == 3))
+                    return false;
+            }
+        }
+        return selectedRows(*shown.list) == QList<int>{2, 4};
+    };
+    shown->ColumnHeaders()->Add();
+    QVERIFY(isWhole());
+    shown->ColumnHeaders()->Add(1);
+    QVERIFY(isWhole());
+    shown->ColumnHeaders()->Remove(1);
+    QVERIFY(isWhole());
 }
 
 void ReportListTest::selectsWithoutScrolling()

@@ -4,6 +4,7 @@
 #include "widgets/nodes/NodeTreeEvents.h"
 #include "widgets/nodes/NodeTreeFixture.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolTip>
 
@@ -38,8 +39,11 @@ private Q_SLOTS:
     void editsBySlowClick();
     void editsOnlyWithLeave();
     void labelsCanBeCancelledAndChanged();
+    void tellsTheLabelBeforeThePress();
+    void keepsWhatIsTyped();
     void escapeLeavesTheLabel();
     void showsCutTextsAsToolTip();
+    void showsLongTextsQuickly();
     void bearsAnythingInAnEvent_data();
     void bearsAnythingInAnEvent();
     void keepsExceptionsFromTheLoop();
@@ -349,6 +353,46 @@ void NodeTreeInputTest::labelsCanBeCancelledAndChanged()
     }
 }
 
+void NodeTreeInputTest::tellsTheLabelBeforeThePress()
+{
+    const ShownTree shown;
+    shown->setSelectedItem(shown.node("a1"));
+    shown->StartLabelEdit();
+    QTest::keyClicks(editor(shown), u"new"_s);
+    Events events(shown.tree);
+    QString selected;
+    connect(shown.tree, &NodeTree::AfterLabelEdit, this, [&] { selected = shown.selected(); });
+    shown.click(shown.expander("b"));
+    QCOMPARE(selected, u"a1"_s);
+    QCOMPARE(shown.node("a1")->Text(), u"new"_s);
+    QVERIFY(events.take().startsWith(u"AfterLabelEdit new"_s));
+    QVERIFY(!shown.node("b")->Expanded());
+
+    shown->setSelectedItem(shown.node("a2"));
+    shown->StartLabelEdit();
+    QTest::keyClicks(editor(shown), u"other"_s);
+    shown.click(shown.label("r"));
+    QCOMPARE(selected, u"a2"_s);
+    QCOMPARE(shown.selected(), u"r"_s);
+    QCOMPARE(shown.node("a2")->Text(), u"other"_s);
+}
+
+void NodeTreeInputTest::keepsWhatIsTyped()
+{
+    const ShownTree shown;
+    shown->setSelectedItem(shown.node("a1"));
+    shown->StartLabelEdit();
+    QTest::keyClicks(editor(shown), u"new"_s);
+    shown.node("a1")->setText(u"host"_s);
+    shown.key(Qt::Key_Down);
+    QCOMPARE(shown.selected(), u"a1"_s);
+    QVERIFY(editor(shown));
+    QCOMPARE(editor(shown)->text(), u"new"_s);
+    shown.key(Qt::Key_Escape);
+    QTRY_VERIFY(!editor(shown));
+    QCOMPARE(shown.node("a1")->Text(), u"host"_s);
+}
+
 void NodeTreeInputTest::escapeLeavesTheLabel()
 {
     const ShownTree shown;
@@ -375,6 +419,18 @@ void NodeTreeInputTest::showsCutTextsAsToolTip()
     };
     QCOMPARE(tipAt("a1"), QString(60, u'w'));
     QTRY_COMPARE(tipAt("b1"), QString());
+}
+
+void NodeTreeInputTest::showsLongTextsQuickly()
+{
+    const ShownTree shown;
+    shown.node("a1")->setText(QString(1 << 20, u'w'));
+    QElapsedTimer timer;
+    timer.start();
+    shown->grab();
+    shown->resizeColumnToContents(0);
+    shown->grab();
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void NodeTreeInputTest::bearsAnythingInAnEvent_data()

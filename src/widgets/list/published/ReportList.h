@@ -33,8 +33,10 @@ struct ReportRow;
 //
 // Keys: Home, End, Page Up and Down go through the rows, Left and Right through
 // the cells of one; letters go to the next row whose current cell begins with
-// them; Ctrl+C copies the selected rows as text with tabs and as HTML; F2 and a
-// slow second click on a label edit it; Tab leaves the list.
+// them, or whose label does once labelColumn is set; Ctrl+Space selects the current
+// row of a list with MultiSelect, or deselects it; Ctrl+C copies the selected rows as
+// text with tabs and as HTML; F2 and a slow second click on a label edit it; Tab
+// leaves the list.
 class ORVT_EXPORT ReportList : public QTableView
 {
     Q_OBJECT
@@ -145,7 +147,8 @@ public:
 
 Q_SIGNALS:
     // NewString is what was entered. Cancel other than 0 drops it; a changed
-    // NewString is used in its place. Raised soon after the editor has closed.
+    // NewString is used in its place. Raised soon after the editor has closed, and
+    // before anything else that the user does: SelectedItem() is still the row.
     void AfterLabelEdit(qint16 &Cancel, QString &NewString);
 
     // Cancel other than 0 keeps the editor from opening.

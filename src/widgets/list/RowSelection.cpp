@@ -1,0 +1,137 @@
+#include "widgets/list/RowSelection.h"
+
+#include "widgets/list/ReportModel.h"
+
+#include <QtCore/QScopedValueRollback>
+
+#include <algorithm>
+#include <utility>
+
+namespace ORVTListview {
+
+RowSelection::RowSelection(ReportModel &model)
+    : QItemSelectionModel(&model)
+    , m_model(model)
+{
+    connect(this, &RowSelection::selectionChanged, this, &RowSelection::noteChange);
+    connect(&model, &ReportModel::rowsAboutToBeRemoved, this,
+            [this](const QModelIndex &, int first, int last) {
+                for (int position = first; position <= last && m_count > 0; ++position)
+                    note(m_model.row(position), false);
+            });
+    connect(&model, &ReportModel::columnsInserted, this, &RowSelection::settleSoon);
+    connect(&model, &ReportModel::columnsRemoved, this, [this] {
+        if (m_model.columns() == 0)
+            noteNone();
+    });
+}
+
+void RowSelection::note(ReportRow &row, bool selected)
+{
+    if (row.selected == selected)
+        return;
+    row.selected = selected;
+    m_count += selected ? 1 : -1;
+}
+
+void RowSelection::noteNone()
+{
+    m_lagsBehind = false;
+    for (int position = 0; position < m_model.rows() && m_count > 0; ++position)
+        note(m_model.row(position), false);
+    m_count = 0; // the rows may have gone with all that they knew
+}
+
+// A part of a row goes with its column, and the row stays selected.
+void RowSelection::note(const QItemSelection &changed, bool selected)
+{
+    for (const QItemSelectionRange &range : changed) {
+        if (range.left() > 0 || range.right() < m_model.columns() - 1)
+            continue;
+        for (int position = range.top(); position <= range.bottom(); ++position)
+            note(m_model.row(position), selected);
+    }
+}
+
+void RowSelection::noteChange(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    if (m_isSettling)
+        return;
+    note(deselected, false);
+    note(selected, true);
+}
+
+void RowSelection::setSelected(ReportRow &row, bool selected)
+{
+    constexpr int few = 64;
+    if (row.selected == selected || m_model.columns() == 0)
+        return;
+    if (!m_lagsBehind && m_count < few) {
+        const int position = m_model.positionOf(row);
+        select(rowsFrom(position, position), selected ? Select : Deselect);
+        return;
+    }
+    note(row, selected);
+    settleSoon();
+}
+
+QList<int> RowSelection::positions(int most) const
+{
+    QList<int> positions;
+    const int count = std::min(m_count, most);
+    for (int position = 0; positions.size() < count; ++position) {
+        if (m_model.row(position).selected)
+            positions.append(position);
+    }
+    return positions;
+}
+
+void RowSelection::settleSoon()
+{
+    if (m_count == 0 || std::exchange(m_lagsBehind, true))
+        return;
+    QMetaObject::invokeMethod(
+        this, [this] { settle(); }, Qt::QueuedConnection);
+}
+
+// From nothing, since many ranges cost as much as their number times those before.
+void RowSelection::settle()
+{
+    if (!std::exchange(m_lagsBehind, false))
+        return;
+    const QScopedValueRollback settling(m_isSettling, true);
+    QItemSelectionModel::select(QItemSelection(), Clear);
+    QItemSelectionModel::select(ranges(), Select);
+}
+
+QItemSelection RowSelection::rowsFrom(int first, int last) const
+{
+    return {m_model.index(first, 0), m_model.index(last, m_model.columns() - 1)};
+}
+
+QItemSelection RowSelection::ranges() const
+{
+    QItemSelection ranges;
+    const QList<int> chosen = positions();
+    for (qsizetype first = 0, last = 0; first < chosen.size(); first = last + 1) {
+        last = first;
+        while (last + 1 < chosen.size() && chosen.at(last + 1) == chosen.at(last) + 1)
+            ++last;
+        ranges += rowsFrom(chosen.at(first), chosen.at(last));
+    }
+    return ranges;
+}
+
+void RowSelection::select(const QItemSelection &selection, SelectionFlags command)
+{
+    settle();
+    QItemSelectionModel::select(selection, command);
+}
+
+void RowSelection::reset()
+{
+    noteNone();
+    QItemSelectionModel::reset();
+}
+
+} // namespace ORVTListview

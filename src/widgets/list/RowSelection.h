@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QtCore/QItemSelectionModel>
+#include <QtCore/QList>
+
+#include <limits>
+
+namespace ORVTListview {
+
+class ReportModel;
+struct ReportRow;
+
+// Which rows of a list are selected, always as a whole: each row knows, and the ranges
+// that the view draws by follow. The toolkit merges every change with all the ranges
+// there are, so while they are many, what the program selects row by row goes into
+// them in one go: before anything else is selected, before the view paints, and when
+// the event loop comes to it.
+class RowSelection final : public QItemSelectionModel
+{
+    Q_OBJECT
+
+public:
+    explicit RowSelection(ReportModel &model);
+
+    // Selects nothing while there are no columns.
+    void setSelected(ReportRow &row, bool selected);
+
+    // In ascending order; no more than so many.
+    QList<int> positions(int most = std::numeric_limits<int>::max()) const;
+
+    // Lets the ranges catch up.
+    void settle();
+
+    using QItemSelectionModel::select;
+    void select(const QItemSelection &selection, SelectionFlags command) override;
+    void reset() override;
+
+private:
+    void note(ReportRow &row, bool selected);
+    void noteNone();
+    void note(const QItemSelection &changed, bool selected);
+    void noteChange(const QItemSelection &selected, const QItemSelection &deselected);
+    void settleSoon();
+    QItemSelection rowsFrom(int first, int last) const;
+    QItemSelection ranges() const;
+
+    ReportModel &m_model;
+    int m_count = 0;
+    bool m_lagsBehind = false; // the ranges do
+    bool m_isSettling = false;
+};
+
+} // namespace ORVTListview
