@@ -34,9 +34,20 @@ BoxLayout::BoxLayout(QTextDocument &document, const QWidget &viewport)
 
 QSizeF BoxLayout::documentSize() const
 {
-    const QSizeF size = QPlainTextDocumentLayout::documentSize();
     const qreal widest = m_widths->empty() ? 0 : *m_widths->rbegin();
-    return {std::max(size.width(), widest), size.height()};
+    return {std::max<qreal>(m_viewport.width(), widest),
+            QPlainTextDocumentLayout::documentSize().height()};
+}
+
+// The lines that have a layout get a new one when they are looked at again.
+void BoxLayout::fitWidth()
+{
+    if (m_width == m_viewport.width())
+        return;
+    m_width = m_viewport.width();
+    for (QTextBlock block = document()->firstBlock(); block.isValid(); block = block.next())
+        block.clearLayout();
+    Q_EMIT update(QRectF()); // everything
 }
 
 // What a selection of several lines may cover.

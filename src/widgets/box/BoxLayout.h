@@ -19,6 +19,10 @@ public:
     // The lines are aligned in the width of the viewport.
     BoxLayout(QTextDocument &document, const QWidget &viewport);
 
+    // To be called when the viewport has another width, in place of the toolkit, which
+    // would make a layout for every line.
+    void fitWidth();
+
     QSizeF documentSize() const override;
     QRectF frameBoundingRect(QTextFrame *frame) const override;
     QRectF blockBoundingRect(const QTextBlock &block) const override;
@@ -39,6 +43,7 @@ private:
 
     const QWidget &m_viewport;
     int m_lineCount = 1;
+    int m_width = 0;                  // that the lines are aligned in
     std::shared_ptr<Widths> m_widths; // of the lines laid out so far
     mutable QSizeF m_announcedSize;
 };

@@ -3,6 +3,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include "base/EventGuard.h"
+#include "widgets/box/BoxLayout.h"
 #include "widgets/box/BoxMimeData.h"
 #include "widgets/box/BoxParts.h"
 #include "widgets/box/UserEditing.h"
@@ -117,7 +118,13 @@ bool RichTextBox::viewportEvent(QEvent *event)
         return QPlainTextEdit::viewportEvent(event);
     return m_parts->surface.deliver([this, event] {
         const Changing changing(*this);
-        return QPlainTextEdit::viewportEvent(event);
+        auto *layout = qobject_cast<BoxLayout *>(document()->documentLayout());
+        if (event->type() != QEvent::Resize || !layout)
+            return QPlainTextEdit::viewportEvent(event);
+        layout->fitWidth();
+        const QSize size = static_cast<const QResizeEvent &>(*event).size();
+        QResizeEvent sameWidth(size, size);
+        return QPlainTextEdit::viewportEvent(&sameWidth);
     });
 }
 

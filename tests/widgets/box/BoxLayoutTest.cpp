@@ -4,8 +4,11 @@
 
 #include <QtGui/QPaintEvent>
 #include <QtGui/QTextBlock>
+#include <QtGui/QTextOption>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
+
+#include <malloc.h>
 
 #include <random>
 
@@ -82,6 +85,9 @@ private Q_SLOTS:
     void theScrollRangeFollowsTheLines();
     void aLineSeparatorMakesALineTaller();
     void anotherFontLaysEverythingOutAgain();
+    void linesOutOfSightHaveNoLayout();
+    void anotherWidthAlignsTheLinesAgain();
+    void theScrollRangeFollowsTheWidth();
 
 private:
     void act(RichTextBox &box);
@@ -306,6 +312,67 @@ void BoxLayoutTest::anotherFontLaysEverythingOutAgain()
     QVERIFY(box.horizontalScrollBar()->maximum() > width + 100);
     box.setSelStart(box.lineStart(1));
     QVERIFY(box.cursorRect().height() >= box.fontMetrics().height());
+}
+
+// The toolkit takes some 130 bytes for a line itself, and 300 for a layout of it.
+void BoxLayoutTest::linesOutOfSightHaveNoLayout()
+{
+    const int count = 50'000;
+    RichTextBox box;
+    box.resize(300, 200);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    const auto used = [] {
+        const auto info = mallinfo2();
+        return info.uordblks + info.hblkhd;
+    };
+    const auto before = used();
+    box.setText(QString(count, u'\n'));
+    QCOMPARE(box.lineCount(), count + 1);
+    for (const int width : {500, 200, 300}) {
+        box.resize(width, 200);
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE_LT(used() - before, std::size_t{count} * 200);
+}
+
+void BoxLayoutTest::anotherWidthAlignsTheLinesAgain()
+{
+    RichTextBox box;
+    QTextOption option = box.document()->defaultTextOption();
+    option.setAlignment(Qt::AlignRight);
+    box.document()->setDefaultTextOption(option);
+    box.resize(300, 200);
+    box.setText(u"abc"_s);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    const int left = box.cursorRect().left();
+    QVERIFY2(left > 200, qPrintable(QString::number(left)));
+    for (const int width : {500, 200, 300}) {
+        box.resize(width, 200);
+        QCOMPARE(box.cursorRect().left(), left + width - 300);
+    }
+}
+
+void BoxLayoutTest::theScrollRangeFollowsTheWidth()
+{
+    RichTextBox box;
+    box.resize(300, 200);
+    box.setText(QString(200, u'x') + u"\r\nshort"_s);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    const QScrollBar &bar = *box.horizontalScrollBar();
+    const int range = bar.maximum();
+    QVERIFY(range > 0);
+    for (const int width : {400, 200, 300}) {
+        box.resize(width, 200);
+        QCOMPARE(bar.maximum(), range + 300 - width);
+    }
+    box.setText(u"short"_s);
+    for (const int width : {400, 200, 300}) {
+        box.resize(width, 200);
+        QCOMPARE(bar.maximum(), 0);
+    }
 }
 
 QTEST_MAIN(BoxLayoutTest)
