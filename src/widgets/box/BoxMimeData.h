@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
 #include <QtCore/QStringList>
@@ -13,10 +11,10 @@ class RichTextBox;
 
 // A box's text as other programs take it: lines end in LF, which the toolkit turns into
 // what the platform has.
-ORVT_EXPORT QString asOffered(QString text);
+QString asOffered(QString text);
 
 // Selected text for a middle click, where the platform has such a thing.
-ORVT_EXPORT void offerSelection(const RichTextBox &box);
+void offerSelection(const RichTextBox &box);
 
 // The plain text between a cursor's two ends. It is read when it is asked for:
 // the toolkit offers the selection to other programs at each change, and reading

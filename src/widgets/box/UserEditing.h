@@ -1,13 +1,11 @@
 #pragma once
 
-#include <ORVTListview/Export.h>
-
 namespace ORVTListview {
 
 class RichTextBox;
 
 // Whether the user may change a box's text. Every way in asks here: keys, menus, mouse,
 // input method, word list and dialogs; calls of the host do not.
-ORVT_EXPORT bool mayUserEdit(const RichTextBox &box);
+bool mayUserEdit(const RichTextBox &box);
 
 } // namespace ORVTListview

@@ -3,6 +3,7 @@
 #include "widgets/list/ReportListFixture.h"
 
 #include <QtGui/QClipboard>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 
 using namespace ORVTListview;

@@ -2,6 +2,7 @@
 #include "widgets/list/ReportListEvents.h"
 #include "widgets/list/ReportListFixture.h"
 
+#include <QtCore/QSet>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QScrollBar>
 
