@@ -45,23 +45,16 @@ QWidget *ReportDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
                                       const QModelIndex &index) const
 {
     QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
-    if (auto *line = qobject_cast<QLineEdit *>(editor))
+    if (auto *line = qobject_cast<QLineEdit *>(editor)) {
         FieldMenu::installOn(*line);
+        line->setMaxLength(std::numeric_limits<int>::max());
+    }
     return editor;
 }
 
 QString ReportDelegate::displayText(const QVariant &value, const QLocale &) const
 {
     return cellText(value.toString());
-}
-
-QWidget *ReportDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
-                                      const QModelIndex &index) const
-{
-    QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
-    if (auto *line = qobject_cast<QLineEdit *>(editor))
-        line->setMaxLength(std::numeric_limits<int>::max());
-    return editor;
 }
 
 // Also called when the program changes the cell meanwhile.
