@@ -67,6 +67,9 @@ void ReportList::setUpConnections()
             [this](int column) { d->widths.columnResized(column); });
     connect(header, &QHeaderView::sectionCountChanged, this,
             [this] { d->widths.columnsChanged(); });
+    connect(header, &ReportHeader::textReplaced, this, [this, header](int column) {
+        d->widths.headerReplaced(column, header->isElided(column));
+    });
     connect(&d->model, &ReportModel::checkedByUser, this,
             [this](int position) { d->checkedItem = itemOf(position); });
     connect(

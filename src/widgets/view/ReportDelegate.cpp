@@ -30,6 +30,12 @@ QString ReportDelegate::displayText(const QVariant &value, const QLocale &) cons
     return shownText(value.toString());
 }
 
+void ReportDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->text = inOwnDirection(option->text, option->direction);
+}
+
 void ReportDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
                                   const QModelIndex &index) const
 {

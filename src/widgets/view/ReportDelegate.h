@@ -26,6 +26,9 @@ public:
 
 Q_SIGNALS:
     void labelEntered(const QModelIndex &index, const QString &text) const;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 };
 
 } // namespace ORVTListview
