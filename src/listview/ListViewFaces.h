@@ -19,6 +19,14 @@ struct ListViewFaces
 
     // Shows the face of the type, new rows included, and enables it.
     void switchTo(LwType type);
+
+    // The same with the type that is shown; only the editor is enabled by it.
+    void showAnew();
+
+    // Of the table, also while the editor has the list.
+    bool isMultiSelect() const;
+    void setMultiSelect(bool on);
+
     void layOut();
     QIcon picture(const QString &key) const;
 
@@ -28,6 +36,11 @@ struct ListViewFaces
     PointTable *table;
     CodeEditor *editor;
     bool isEnabled = true;
+
+private:
+    QWidget &face() const;
+    void show(LwType type, bool enables);
+    void enterTabOrder();
 };
 
 } // namespace ORVTListview

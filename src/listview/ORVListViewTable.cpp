@@ -16,7 +16,7 @@ qint16 ORVListView::NumberItems() const
 void ORVListView::setNumberItems(qint16 Count)
 {
     d->table->setNumberItems(Count);
-    d->switchTo(d->table->type());
+    d->showAnew();
     raiseEvent(*this, &ORVListView::captionChanged);
 }
 

@@ -82,10 +82,14 @@ void PointTable::switchTo(LwType type)
     m_host.update();
 }
 
-void PointTable::enterTabOrder(QWidget &before)
+QWidget &PointTable::captionLabel() const
 {
-    QWidget::setTabOrder(&before, &m_list);
-    QWidget::setTabOrder(&m_list, m_read);
+    return *m_caption;
+}
+
+QWidget &PointTable::readButton() const
+{
+    return *m_read;
 }
 
 void PointTable::createColumns()
