@@ -66,6 +66,8 @@ private Q_SLOTS:
     void aControlStoredAsDisabledIsDisabled();
     void enabledIsForAllPartsTogether();
     void aSwitchEnablesItsFace();
+    void aNumberEnablesNothing();
+    void noLabelIsEditedInADisabledControl();
     void captionIsTheHostsUntilTheNextSwitch();
     void changesAreTold();
     void onlyFourPropertiesAreForForms();
@@ -201,6 +203,52 @@ void ListViewPropertiesTest::aSwitchEnablesItsFace()
     list.setNumberItems(0);
     QVERIFY(list.RTextBox()->isEnabled());
     QVERIFY(!list.RTextBox()->isHidden());
+}
+
+void ListViewPropertiesTest::aNumberEnablesNothing()
+{
+    ORVListView list;
+    list.setListviewType(dsLog);
+    list.setEnabled(false);
+    for (const qint16 count : {qint16{5}, qint16{0}, qint16{7}}) {
+        list.setNumberItems(count);
+        QCOMPARE(enabledParts(list), QStringList());
+        list.ChangeListviewNumber(3);
+        QCOMPARE(enabledParts(list), QStringList());
+    }
+    list.setEnabled(true);
+    list.setNumberItems(2);
+    QCOMPARE(enabledParts(list), partNames);
+}
+
+void ListViewPropertiesTest::noLabelIsEditedInADisabledControl()
+{
+    QWidget form;
+    ORVListView list(&form);
+    form.show();
+    int announced = 0;
+    connect(&list, &ORVListView::BeforeLabelEdit, this, [&] { ++announced; });
+    list.setSelectedItem(list.ListItems()->Item(2));
+    const auto editors = [&] {
+        return list.listView()->viewport()->findChildren<QWidget *>().size();
+    };
+    list.setEnabled(false);
+    list.StartLabelEdit();
+    list.setEnabled(true);
+    form.setEnabled(false); // a parent's doing
+    list.StartLabelEdit();
+    form.setEnabled(true);
+    QCOMPARE(announced, 0);
+    QCOMPARE(editors(), 0);
+    const auto disable = connect(&list, &ORVListView::BeforeLabelEdit, this,
+                                 [&] { list.setEnabled(false); }); // at the last moment
+    list.StartLabelEdit();
+    QCOMPARE(editors(), 0);
+    disconnect(disable);
+    list.setEnabled(true);
+    list.StartLabelEdit();
+    QCOMPARE(announced, 2);
+    QCOMPARE(editors(), 1);
 }
 
 void ListViewPropertiesTest::captionIsTheHostsUntilTheNextSwitch()
