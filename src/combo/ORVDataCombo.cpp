@@ -54,6 +54,7 @@ ORVDataCombo::ORVDataCombo(QWidget *parent)
     : Component(parent)
 {
     d = std::make_unique<Private>(*this);
+    setFocusPolicy(Qt::TabFocus); // else no call puts the control into a tab order
     setFocusProxy(d->combo);
     setSizePolicy(d->combo->sizePolicy());
     connect(d->combo, &ImageCombo::focusLeft, this, &ORVDataCombo::applyColour);

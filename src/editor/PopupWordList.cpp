@@ -36,6 +36,12 @@ constexpr int mostRowsShown = 12;
 constexpr int fewestLetters = 12;
 constexpr int mostLetters = 48;
 
+constexpr ListManner popupManner{.editsLabels = false,
+                                 .isHeaderVisible = false,
+                                 .frameStyle = int{QFrame::Box} | int{QFrame::Plain},
+                                 .focus = Qt::NoFocus,
+                                 .horizontalBar = Qt::ScrollBarAlwaysOff};
+
 QList<RowContent> rowsOf(const PopupWords &words)
 {
     QList<RowContent> rows;
@@ -73,17 +79,22 @@ PopupWordList::PopupWordList(ReportList &list, RichTextBox &box, const EditorThr
     connect(rows, &QAbstractItemModel::dataChanged, this, forget);
 }
 
+void PopupWordList::noteTableManner()
+{
+    if (m_hasList)
+        m_tableManner.change(popupManner, ListManner::of(m_list)); // the host's doing
+    else
+        m_tableManner = ListManner::of(m_list);
+}
+
 void PopupWordList::takeList()
 {
     close();
+    noteTableManner();
     m_hasList = true;
     m_list.setParent(m_list.parentWidget(), Qt::ToolTip | Qt::FramelessWindowHint);
     m_list.setAttribute(Qt::WA_ShowWithoutActivating);
-    m_list.setFocusPolicy(Qt::NoFocus);
-    m_list.setFrameStyle(QFrame::Box | QFrame::Plain);
-    m_list.setHeaderVisible(false);
-    m_list.setEditsLabels(false);
-    m_list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    popupManner.applyTo(m_list);
     m_list.ColumnHeaders()->Clear();
     m_list.ColumnHeaders()->Add(0, QStringLiteral("#"), QStringLiteral("#"));
     refill();
@@ -94,15 +105,13 @@ void PopupWordList::giveListBack()
     if (!m_hasList)
         return;
     close();
+    noteTableManner();
     m_hasList = false;
     m_words = {};
     m_list.Clear();
     m_list.setWindowFlags(Qt::Widget);
-    m_list.setFocusPolicy(Qt::StrongFocus);
-    m_list.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    m_list.setHeaderVisible(true);
-    m_list.setEditsLabels(true);
-    m_list.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_list.setAttribute(Qt::WA_ShowWithoutActivating, false);
+    m_tableManner.applyTo(m_list);
 }
 
 void PopupWordList::refill()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/rules/language/PopupWords.h"
+#include "widgets/list/ListManner.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
@@ -25,11 +26,14 @@ class PopupWordList : public QObject
 public:
     PopupWordList(ReportList &list, RichTextBox &box, const EditorThread &thread);
 
-    // Gives the list the look of a pop-up, or takes it away again. Without the look
-    // the list is the host's table, and the words are discarded.
+    // Gives the list the manner of a pop-up, or takes it away again. Without it the
+    // list is the host's table, as the host has set it, and the words are discarded.
     void takeList();
     void giveListBack();
     bool hasList() const { return m_hasList; }
+
+    // What the list gets back then.
+    ListManner &tableManner() { return m_tableManner; }
 
     // Takes the words of the thread's index.
     void refill();
@@ -61,6 +65,7 @@ protected:
 private:
     bool canStand() const;
     bool isWordInSight() const;
+    void noteTableManner();
     void choose(qsizetype place);
     void chooseForWord(const QString &word);
     void showFirst(int row);
@@ -79,6 +84,7 @@ private:
     RichTextBox &m_box;
     const EditorThread &m_thread;
     PopupWords m_words;
+    ListManner m_tableManner;
     bool m_hasList = false;
     quint64 m_taken = 0;    // the index's changes that are in the list
     qint32 m_wordStart = 0; // of the word that the list is open for

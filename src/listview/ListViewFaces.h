@@ -22,8 +22,13 @@ struct ListViewFaces
 
     bool isCode() const { return table->type() == dsCode; }
 
-    // Shows the face of the type, new rows included, and enables it.
+    // Shows the face of the type, new rows included; an editor is enabled then.
     void switchTo(LwType type);
+
+    // Of the table, also while the editor has the list.
+    bool isMultiSelect() const;
+    void setMultiSelect(bool on);
+
     void layOut();
     QIcon picture(const QString &key) const;
 
@@ -39,6 +44,10 @@ struct ListViewFaces
     std::optional<QString> toldCode;
     std::optional<QString> toldRtf;
     bool isCodeToBeTold = false;
+
+private:
+    QWidget &face() const;
+    void enterTabOrder();
 };
 
 } // namespace ORVTListview

@@ -20,6 +20,7 @@ ORVListView::ORVListView(QWidget *parent)
 {
     auto *timerWidth = new QTimer(this); // published, without duties
     timerWidth->setObjectName(u"TimerWidth"_s);
+    setFocusPolicy(Qt::TabFocus); // else no call puts the control into a tab order
     connectEvents();
     connect(d->table, &PointTable::captionHeightChanged, this, [this] { d->layOut(); });
     d->table->setNumberItems(defaultNumberItems(dsInput));
@@ -89,12 +90,13 @@ void ORVListView::setEnabled(bool Enabled)
 
 bool ORVListView::MultiSelect() const
 {
-    return d->list->MultiSelect();
+    return d->isMultiSelect();
 }
 
 void ORVListView::setMultiSelect(bool MultiSelect)
 {
-    d->list->setMultiSelect(MultiSelect);
+    d->setMultiSelect(MultiSelect);
+    d->told.tell(*this);
 }
 
 void ORVListView::InitStrings()

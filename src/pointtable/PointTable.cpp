@@ -7,6 +7,7 @@
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextRoutine.h"
 #include "shared/texts/TextTable.h"
+#include "widgets/list/ReportHeader.h"
 #include "widgets/look/ElidedLabel.h"
 #include "widgets/look/PictureBox.h"
 #include "widgets/look/PictureButton.h"
@@ -81,10 +82,14 @@ void PointTable::switchTo(LwType type)
     m_host.update();
 }
 
-void PointTable::enterTabOrder(QWidget &before)
+QWidget &PointTable::captionLabel() const
 {
-    QWidget::setTabOrder(&before, &m_list);
-    QWidget::setTabOrder(&m_list, m_read);
+    return *m_caption;
+}
+
+QWidget &PointTable::readButton() const
+{
+    return *m_read;
 }
 
 void PointTable::createColumns()
@@ -208,10 +213,15 @@ void PointTable::InitStrings()
 void PointTable::translateHeaders()
 {
     const ColumnHeaders &headers = *m_list.ColumnHeaders();
+    auto *view = qobject_cast<ReportHeader *>(m_list.horizontalHeader()); // or the host's
     for (int index = 1; index <= headers.Count(); ++index) {
         ColumnHeader &header = *headers.Item(index);
-        if (!header.Key().isEmpty())
-            header.setText(columnText(header.Key()));
+        const QString text = columnText(header.Key());
+        if (header.Key().isEmpty() || header.Text() == text)
+            continue;
+        header.setText(text);
+        if (view)
+            Q_EMIT view->textReplaced(index - 1);
     }
     setCaption(Localise(key()));
 }

@@ -36,9 +36,8 @@ public:
     // list to others, new columns and rows.
     void switchTo(LwType type);
 
-    // Makes list and button the tab stops after the given one; the list loses its place
-    // when it is a window of its own for a while.
-    void enterTabOrder(QWidget &before);
+    QWidget &captionLabel() const; // the host's lowest child
+    QWidget &readButton() const;
 
     // What the next switch goes by.
     qint16 numberItems() const { return m_numberItems; }

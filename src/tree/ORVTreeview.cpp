@@ -58,6 +58,7 @@ ORVTreeview::ORVTreeview(QWidget *parent)
     : Component(parent)
     , d(std::make_unique<Private>(this))
 {
+    setFocusPolicy(Qt::TabFocus); // else no call puts the control into a tab order
     setFocusProxy(d->tree);
     forwardEvents();
     d->pages = PageArrangement::load();

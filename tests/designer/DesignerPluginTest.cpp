@@ -170,6 +170,8 @@ private Q_SLOTS:
     void designerNamesTheHeaders();
     void formBuilderLoadsTheForm();
     void uiLoaderLoadsTheForm();
+    void loadedFormsHeedTabStops_data();
+    void loadedFormsHeedTabStops();
     void treeOfADesignedFormSavesNothing();
     void aDisabledTableIsDisabledHoweverTheFormIsMade_data();
     void aDisabledTableIsDisabledHoweverTheFormIsMade();
@@ -299,6 +301,39 @@ void DesignerPluginTest::uiLoaderLoadsTheForm()
     const auto loaded = loadedForm(loader, Designer().changedForm());
     QVERIFY(loaded);
     compareWithChangedForm(*loaded);
+}
+
+void DesignerPluginTest::loadedFormsHeedTabStops_data()
+{
+    QTest::addColumn<bool>("isUiLoader");
+    QTest::newRow("form builder") << false;
+    QTest::newRow("form loader") << true;
+}
+
+void DesignerPluginTest::loadedFormsHeedTabStops()
+{
+    QFETCH(bool, isUiLoader);
+    const QString xml = uR"(<ui version="4.0"><class>Form</class>
+<widget class="QWidget" name="Form"><layout class="QVBoxLayout">
+ <item><widget class="QLineEdit" name="last"/></item>
+ <item><widget class="ORVTListview::ORVListView" name="listView"/></item>
+ <item><widget class="QLineEdit" name="first"/></item>
+</layout></widget><tabstops><tabstop>first</tabstop><tabstop>listView</tabstop>
+<tabstop>last</tabstop></tabstops></ui>)"_s;
+    QFormBuilder builder;
+    builder.setPluginPath({QStringLiteral(ORVT_DESIGNER_FOLDER)});
+    QUiLoader loader;
+    loader.addPluginPath(QStringLiteral(ORVT_DESIGNER_FOLDER));
+    const auto form = isUiLoader ? loadedForm(loader, xml) : loadedForm(builder, xml);
+    QVERIFY(form);
+    form->show();
+    form->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(form.get()));
+    form->findChild<QWidget *>(u"first"_s)->setFocus();
+    for (const QString &next : {u"ListView1"_s, u"ImgRead"_s, u"last"_s, u"first"_s}) {
+        QTest::keyClick(form->windowHandle(), Qt::Key_Tab);
+        QCOMPARE(form->focusWidget()->objectName(), next);
+    }
 }
 
 void DesignerPluginTest::treeOfADesignedFormSavesNothing()

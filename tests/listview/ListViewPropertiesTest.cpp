@@ -69,6 +69,8 @@ private Q_SLOTS:
     void enabledIsForAllPartsTogether();
     void aSwitchEnablesItsFace();
     void aSwitchLeavesATableDisabled();
+    void aNumberEnablesNothing();
+    void noLabelIsEditedInADisabledControl();
     void captionIsTheHostsUntilTheNextSwitch();
     void changesAreTold();
     void onlyFourPropertiesAreForForms();
@@ -220,6 +222,52 @@ void ListViewPropertiesTest::aSwitchLeavesATableDisabled()
     QVERIFY(!list.listView()->isEnabled());
     list.setEnabled(true);
     QCOMPARE(enabledParts(list), partNames);
+}
+
+void ListViewPropertiesTest::aNumberEnablesNothing()
+{
+    ORVListView list;
+    list.setListviewType(dsLog);
+    list.setEnabled(false);
+    for (const qint16 count : {qint16{5}, qint16{0}, qint16{7}}) {
+        list.setNumberItems(count);
+        QCOMPARE(enabledParts(list), QStringList());
+        list.ChangeListviewNumber(3);
+        QCOMPARE(enabledParts(list), QStringList());
+    }
+    list.setEnabled(true);
+    list.setNumberItems(2);
+    QCOMPARE(enabledParts(list), partNames);
+}
+
+void ListViewPropertiesTest::noLabelIsEditedInADisabledControl()
+{
+    QWidget form;
+    ORVListView list(&form);
+    form.show();
+    int announced = 0;
+    connect(&list, &ORVListView::BeforeLabelEdit, this, [&] { ++announced; });
+    list.setSelectedItem(list.ListItems()->Item(2));
+    const auto editors = [&] {
+        return list.listView()->viewport()->findChildren<QWidget *>().size();
+    };
+    list.setEnabled(false);
+    list.StartLabelEdit();
+    list.setEnabled(true);
+    form.setEnabled(false); // a parent's doing
+    list.StartLabelEdit();
+    form.setEnabled(true);
+    QCOMPARE(announced, 0);
+    QCOMPARE(editors(), 0);
+    const auto disable = connect(&list, &ORVListView::BeforeLabelEdit, this,
+                                 [&] { list.setEnabled(false); }); // at the last moment
+    list.StartLabelEdit();
+    QCOMPARE(editors(), 0);
+    disconnect(disable);
+    list.setEnabled(true);
+    list.StartLabelEdit();
+    QCOMPARE(announced, 2);
+    QCOMPARE(editors(), 1);
 }
 
 void ListViewPropertiesTest::captionIsTheHostsUntilTheNextSwitch()

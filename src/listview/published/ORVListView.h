@@ -68,7 +68,8 @@ public:
     // The type shown; dsInput at first. Assigning it shows its face, an editor always
     // enabled, and builds everything anew: the caption with the type's name, the
     // columns, and numbered empty rows, whose number is the type's own and becomes
-    // NumberItems.
+    // NumberItems. The table begins at its first row and column, as whenever all rows
+    // are replaced.
     // A value outside 0 to 12 is ignored. Assigning dsCode also takes SQRT out of
     // the editor's function words until IsSqrtSupported is set again.
     LwType ListviewType() const;
@@ -89,7 +90,7 @@ public:
     bool Enabled() const;
     void setEnabled(bool Enabled);
 
-    // Whether several rows can be selected.
+    // Whether several rows of the table can be selected.
     bool MultiSelect() const;
     void setMultiSelect(bool MultiSelect);
 
@@ -100,7 +101,8 @@ public:
     void WriteProperties(ORVTListview::PropertyBag &Bag) const;
 
     // Texts in the language of the thread. ReInitializeStrings takes a changed language
-    // from the text provider; captions and headers change in place, rows and widths stay.
+    // from the text provider; captions and headers change in place and rows stay. A column
+    // too narrow for its new header grows.
     Q_INVOKABLE void InitStrings();
     Q_INVOKABLE void ReInitializeStrings();
 
@@ -174,7 +176,7 @@ public:
     // even one); 0 for an index outside the columns.
     Q_INVOKABLE qint32 GetSubItemWidth(qint16 Index) const;
 
-    // Edits the selected row's text in place.
+    // Edits the selected row's text in place; not in a disabled control.
     Q_INVOKABLE void StartLabelEdit();
 
     // Paints the table at once.
@@ -188,7 +190,8 @@ public:
     Q_INVOKABLE void Clear();
 
     // The table's list itself, owned by this control, for what the members above do not
-    // offer: check boxes, drags by the user, drops.
+    // offer: check boxes, drags by the user, drops. In code mode it is the list of known
+    // words, in a manner of its own; the table gets back what was set on it.
     ORVTListview::ReportList *listView() const;
 
     QSize sizeHint() const override;

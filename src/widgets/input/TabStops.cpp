@@ -1,5 +1,6 @@
 #include "widgets/input/TabStops.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ORVTListview {
@@ -25,15 +26,25 @@ void TabStops::takeFrom(QWidget *form)
         if (!isTabStop(*widget) && !tabStop.isValid())
             continue;
         m_controls.append({widget, widget->focusPolicy(), tabStop});
-        const int withoutTab = widget->focusPolicy() & ~Qt::TabFocus;
-        widget->setFocusPolicy(static_cast<Qt::FocusPolicy>(withoutTab));
-        widget->setProperty(tabStopProperty, false);
+    }
+    const QList<Control> controls = m_controls; // a receiver may give them back
+    for (const Control &control : controls) {
+        if (!control.widget)
+            continue;
+        const int withoutTab = control.policy & ~Qt::TabFocus;
+        control.widget->setFocusPolicy(static_cast<Qt::FocusPolicy>(withoutTab));
+        control.widget->setProperty(tabStopProperty, false);
     }
 }
 
 void TabStops::giveBack()
 {
-    for (const Control &control : std::exchange(m_controls, {})) {
+    QList<Control> controls = std::exchange(m_controls, {});
+    controls.removeIf([](const Control &control) { return !control.widget; });
+    // A policy is set for the focus proxy, too, which then gets its own.
+    std::stable_partition(controls.begin(), controls.end(),
+                          [](const Control &control) { return control.widget->focusProxy(); });
+    for (const Control &control : std::as_const(controls)) {
         if (!control.widget)
             continue;
         control.widget->setFocusPolicy(control.policy);

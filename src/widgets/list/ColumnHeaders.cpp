@@ -60,17 +60,20 @@ ColumnHeader *ColumnHeaders::Add(qint32 Index, const QString &Key, const QString
 void ColumnHeaders::Remove(qint32 Index)
 {
     Lookup::checkIndex(u"ColumnHeaders.Remove"_s, kind, Index, Count());
+    const StillView still(m_parts.view);
     m_parts.model.deleteColumn(Index - 1);
 }
 
 void ColumnHeaders::Remove(const QString &Key)
 {
     const ReportColumn &column = columnOfKey(m_parts.model, u"ColumnHeaders.Remove"_s, Key);
+    const StillView still(m_parts.view);
     m_parts.model.deleteColumn(m_parts.model.positionOf(column));
 }
 
 void ColumnHeaders::Clear()
 {
+    const StillView still(m_parts.view);
     m_parts.model.clearColumns();
 }
 

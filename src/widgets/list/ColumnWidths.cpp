@@ -33,7 +33,7 @@ double ColumnWidths::width(int column) const
 {
     int pixels = m_view.columnWidth(column);
     if (m_filling && column == m_model.columns() - 1)
-        pixels = std::max(m_lastNeeded, m_view.width() - widthOfOthers());
+        pixels += m_beside;
     return Twips::fromPixelsX(pixels, m_view);
 }
 
@@ -75,9 +75,21 @@ void ColumnWidths::columnResized(int column)
 
 void ColumnWidths::refill()
 {
-    if (m_filling)
-        resize(m_model.columns() - 1,
-               std::max(m_lastNeeded, m_view.viewport()->width() - widthOfOthers()));
+    if (!m_filling)
+        return;
+    const int others = widthOfOthers();
+    const int width = std::max(m_lastNeeded, m_view.viewport()->width() - others);
+    m_beside = std::max(m_lastNeeded, m_view.width() - others) - width;
+    resize(m_model.columns() - 1, width);
+}
+
+void ColumnWidths::headerReplaced(int column, bool isCut)
+{
+    const int needed = neededForHeader(column);
+    if (isCut)
+        resize(column, std::max(needed, m_view.columnWidth(column)));
+    if (column == m_model.columns() - 1)
+        m_lastNeeded = std::max(m_lastNeeded, needed);
 }
 
 void ColumnWidths::resize(int column, int pixels)
@@ -97,24 +109,31 @@ QList<int> ColumnWidths::neededWidths()
         m_font = m_view.font();
         m_texts = std::make_unique<TextWidths>(m_font);
     }
-    const QFontMetrics header(m_view.horizontalHeader()->font());
     QList<int> needed;
     for (int column = 0; column < m_model.columns(); ++column)
-        needed.append(header.horizontalAdvance(cellText(m_model.column(column).text)));
+        needed.append(neededForHeader(column));
     QList<int> texts(m_model.columns(), 0);
     bool pictures = false;
     widenByRows(texts, pictures);
     const int decoration = decorationWidth(pictures);
     for (int column = 0; column < needed.size(); ++column) {
-        const auto withMargin = [this](int pixels, double twips) {
-            return Twips::toPixelsX(Twips::fromPixelsX(pixels, m_view) + twips, m_view);
-        };
         int cells = withMargin(texts.at(column), column == 0 ? firstMargin : margin);
         if (column == 0)
             cells = std::max(cells, withMargin(texts.at(0), margin) + decoration);
-        needed[column] = std::max(withMargin(needed.at(column), margin), cells);
+        needed[column] = std::max(needed.at(column), cells);
     }
     return needed;
+}
+
+int ColumnWidths::neededForHeader(int column) const
+{
+    const QFontMetrics metrics(m_view.horizontalHeader()->font());
+    return withMargin(metrics.horizontalAdvance(cellText(m_model.column(column).text)), margin);
+}
+
+int ColumnWidths::withMargin(int pixels, double twips) const
+{
+    return Twips::toPixelsX(Twips::fromPixelsX(pixels, m_view) + twips, m_view);
 }
 
 void ColumnWidths::widenByRows(QList<int> &widths, bool &pictures)

@@ -31,6 +31,9 @@ public:
     // The same for one column.
     void fit(int column);
 
+    // A column has got another header, which may be cut; it then grows.
+    void headerReplaced(int column, bool isCut);
+
     // What happened to the view: its viewport has another width, there are other
     // columns, a column has another width.
     void viewportResized() { refill(); }
@@ -41,6 +44,8 @@ private:
     void refill();
     void setNeeded(int column, int pixels);
     QList<int> neededWidths();
+    int neededForHeader(int column) const;
+    int withMargin(int pixels, double twips) const;
     void widenByRows(QList<int> &widest, bool &pictures);
     int decorationWidth(bool pictures) const;
     int widthOfOthers() const;
@@ -52,6 +57,7 @@ private:
     QFont m_font;
     bool m_filling = false; // the last column takes the rest of the viewport
     int m_lastNeeded = 0;
+    int m_beside = 0;        // of the list, beside the viewport, counts to the filling column
     bool m_resizing = false; // it is this class that resizes
 };
 

@@ -58,12 +58,14 @@ ListItem *ListItems::Add(qint32 Index, const QString &Key, const QString &Text)
 void ListItems::Remove(qint32 Index)
 {
     Lookup::checkIndex(u"ListItems.Remove"_s, kind, Index, Count());
+    const StillView still(m_parts.view);
     m_parts.model.deleteRow(Index - 1);
 }
 
 void ListItems::Remove(const QString &Key)
 {
     const ReportRow &row = rowOfKey(m_parts.model, u"ListItems.Remove"_s, Key);
+    const StillView still(m_parts.view);
     m_parts.model.deleteRow(m_parts.model.positionOf(row));
 }
 

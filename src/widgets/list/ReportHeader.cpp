@@ -1,9 +1,12 @@
 #include "widgets/list/ReportHeader.h"
 
 #include "base/EventGuard.h"
+#include "widgets/look/CellText.h"
 #include "widgets/look/PlainToolTip.h"
 
 #include <QtGui/QHelpEvent>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOption>
 
 #include <utility>
 
@@ -16,7 +19,6 @@ ReportHeader::ReportHeader(QWidget *parent)
     setHighlightSections(false);
     setMinimumSectionSize(0);
     setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    setTextElideMode(Qt::ElideRight);
     connect(this, &QHeaderView::sectionDoubleClicked, this, [this] { m_isSecondClick = true; });
 }
 
@@ -53,7 +55,55 @@ bool ReportHeader::viewportEvent(QEvent *event)
 
 bool ReportHeader::isElided(int column) const
 {
-    return sectionSizeFromContents(column).width() > sectionSize(column);
+    const int width = sectionSize(column);
+    return width > 0 && fontMetrics().horizontalAdvance(text(column)) >
+                            roomForText(QRect(0, 0, width, height()), column).width();
+}
+
+QString ReportHeader::text(int column) const
+{
+    return cellText(model()->headerData(column, Qt::Horizontal).toString());
+}
+
+// As far from the edges as in a cell, and not under the arrow of a sorted column.
+QRect ReportHeader::roomForText(const QRect &section, int column) const
+{
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    QRect room = section.adjusted(margin, 0, -margin, 0);
+    if (!isSortIndicatorShown() || sortIndicatorSection() != column)
+        return room;
+    QStyleOptionHeaderV2 option;
+    initStyleOption(&option);
+    initStyleOptionForIndex(&option, column);
+    option.rect = section;
+    return room & style()->subElementRect(QStyle::SE_HeaderLabel, &option, this);
+}
+
+// The style would cut the text, and begin it elsewhere than in the cells.
+void ReportHeader::paintSection(QPainter *painter, const QRect &rect, int column) const
+{
+    painter->save();
+    QHeaderView::paintSection(painter, rect, column);
+    painter->restore();
+    if (!rect.isValid())
+        return;
+    QStyleOptionHeaderV2 label;
+    initStyleOption(&label);
+    initStyleOptionForIndex(&label, column);
+    // From right to left the toolkit draws sections a pixel beside their cells.
+    const bool isBeside = rect.left() == sectionViewportPosition(column) + 1;
+    label.rect = roomForText(rect.translated(isBeside ? -1 : 0, 0), column);
+    label.textAlignment = QStyle::visualAlignment(label.direction, label.textAlignment);
+    label.text =
+        inOwnDirection(fontMetrics().elidedText(text(column), Qt::ElideRight, label.rect.width()),
+                       label.direction);
+    style()->drawControl(QStyle::CE_HeaderLabel, &label, painter, this);
+}
+
+void ReportHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int column) const
+{
+    QHeaderView::initStyleOptionForIndex(option, column);
+    option->text.clear(); // see paintSection
 }
 
 } // namespace ORVTListview

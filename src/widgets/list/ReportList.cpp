@@ -2,11 +2,13 @@
 
 #include "base/EventGuard.h"
 #include "widgets/input/RaisedDrags.h"
+#include "widgets/list/FreshRows.h"
 #include "widgets/list/ReportHeader.h"
 #include "widgets/list/ReportListBody.h"
 #include "widgets/list/RowCopy.h"
 #include "widgets/list/RowSearch.h"
 #include "widgets/look/Twips.h"
+#include "widgets/view/OpenView.h"
 #include <ORVTListview/Error.h>
 
 #include <QtCore/QMimeData>
@@ -74,6 +76,18 @@ void ReportList::setUpConnections()
             [this](int column) { d->widths.columnResized(column); });
     connect(header, &QHeaderView::sectionCountChanged, this,
             [this] { d->widths.columnsChanged(); });
+    connect(header, &ReportHeader::textReplaced, this, [this, header](int column) {
+        d->widths.headerReplaced(column, header->isElided(column));
+    });
+    connect(&d->model, &ReportModel::modelAboutToBeReset, this, [this] {
+        d->clicks.slow().stop();
+        OpenView::dropEditor(*this);
+    });
+    connect(&d->model, &ReportModel::modelReset, this, [this] { beginAfresh(*this); });
+    connect(&d->model, &ReportModel::columnsRemoved, this, [this] {
+        if (d->model.columns() == 0)
+            horizontalScrollBar()->setValue(0); // those that follow are others
+    });
     connect(&d->model, &ReportModel::checkedByUser, this,
             [this](int position) { d->checkedItem = itemOf(position); });
     connect(
@@ -158,7 +172,13 @@ ListItem *ReportList::itemOf(const QModelIndex &index) const
 
 ListItem *ReportList::GetFirstVisible() const
 {
-    return itemOf(rowAt(0));
+    OpenView::layOutItems(d->view);
+    int top = rowAt(0);
+    if (top >= 0)
+        return itemOf(top);
+    for (top = d->model.rows() - 1; top >= 0 && isRowHidden(top);)
+        --top;
+    return itemOf(top); // a list without height may stand behind its last row
 }
 
 ListItem *ReportList::HitTest(float X, float Y) const

@@ -12,6 +12,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QResizeEvent>
 #include <QtWidgets/QHeaderView>
 
 #include <memory>
@@ -57,7 +58,8 @@ bool ReportList::viewportEvent(QEvent *event)
 void ReportList::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);
-    d->widths.viewportResized();
+    if (event->size().width() != event->oldSize().width()) // else a scroll bar came or went
+        d->widths.viewportResized();
 }
 
 void ReportList::scrollContentsBy(int dx, int dy)

@@ -41,4 +41,15 @@ inline QString cellText(const QString &text)
     return shownText(beginningOf(text, longestLine));
 }
 
+// The text set off from what stands around it, which else would turn "°C" and "-5" round
+// where one reads from right to left. The marks have no width.
+inline QString inOwnDirection(const QString &text, Qt::LayoutDirection around)
+{
+    if (around == Qt::LeftToRight && !text.isRightToLeft())
+        return text;
+    constexpr QChar firstStrongIsolate(u'\u2068');
+    constexpr QChar popDirectionalIsolate(u'\u2069');
+    return firstStrongIsolate + text + popDirectionalIsolate;
+}
+
 } // namespace ORVTListview

@@ -39,9 +39,9 @@ void ElidedLabel::paintEvent(QPaintEvent *)
         return;
     QPainter painter(this);
     const auto left = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
-    style()->drawItemText(&painter, contentsRect(),
-                          static_cast<int>(left | Qt::AlignVCenter | Qt::TextSingleLine), palette(),
-                          isEnabled(), shownLine(), foregroundRole());
+    style()->drawItemText(
+        &painter, contentsRect(), static_cast<int>(left | Qt::AlignVCenter | Qt::TextSingleLine),
+        palette(), isEnabled(), inOwnDirection(shownLine(), layoutDirection()), foregroundRole());
 }
 
 } // namespace ORVTListview

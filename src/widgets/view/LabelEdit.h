@@ -22,18 +22,19 @@ class LabelEdit final : public QObject
 public:
     LabelEdit(QAbstractItemView &view, ReportDelegate &delegate);
 
-    // Whether the editor may open; false also when a receiver has destroyed the view.
+    // Whether the editor may open; not in a disabled view, nor when a receiver has
+    // destroyed it.
     template <typename View>
     bool announce(View &view, void (View::*before)(qint16 &))
     {
-        if (m_isAnnouncing || OpenView::isEditing(view))
+        if (m_isAnnouncing || OpenView::isEditing(view) || !view.isEnabled())
             return false;
         m_isAnnouncing = true;
         qint16 cancel = 0;
         if (!raiseEvent(view, before, cancel))
             return false;
         m_isAnnouncing = false;
-        return cancel == 0;
+        return cancel == 0 && view.isEnabled();
     }
 
     void open(const QModelIndex &label);

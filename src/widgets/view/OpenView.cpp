@@ -18,6 +18,7 @@ public:
         (view.*static_cast<Edit>(&Opened::edit))(index, AllEditTriggers, nullptr);
     }
 
+    static constexpr auto close = &Opened::closeEditor;
     static constexpr auto initOption = &Opened::initViewItemOption;
     static constexpr auto layOut = &Opened::executeDelayedItemsLayout;
     static constexpr auto startScrolling = &Opened::startAutoScroll;
@@ -34,6 +35,17 @@ bool isEditing(const QAbstractItemView &view)
 void edit(QAbstractItemView &view, const QModelIndex &index)
 {
     Opened::beginEdit(view, index);
+}
+
+// An editor without the focus has closed already.
+void dropEditor(QAbstractItemView &view)
+{
+    QWidget *editor = isEditing(view) ? view.window()->focusWidget() : nullptr;
+    if (!editor || !view.viewport()->isAncestorOf(editor))
+        return;
+    while (editor->parentWidget() != view.viewport())
+        editor = editor->parentWidget();
+    (view.*Opened::close)(editor, QAbstractItemDelegate::RevertModelCache);
 }
 
 QStyleOptionViewItem cellOption(const QAbstractItemView &view, const QModelIndex &index)

@@ -10,6 +10,9 @@ namespace OpenView {
 bool isEditing(const QAbstractItemView &view);
 void edit(QAbstractItemView &view, const QModelIndex &index);
 
+// Closes the editor of a label, if one is open, without entering what it holds.
+void dropEditor(QAbstractItemView &view);
+
 // As the cell is drawn.
 QStyleOptionViewItem cellOption(const QAbstractItemView &view, const QModelIndex &index);
 

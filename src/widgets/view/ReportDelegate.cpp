@@ -69,6 +69,12 @@ void ReportDelegate::setEditorData(QWidget *editor, const QModelIndex &index) co
         line->selectAll();
 }
 
+void ReportDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->text = inOwnDirection(option->text, option->direction);
+}
+
 void ReportDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
                                   const QModelIndex &index) const
 {

@@ -8,6 +8,19 @@
 
 namespace ORVTListview {
 
+StillView::StillView(QAbstractItemView &view)
+    : m_view(&view)
+    , m_scrolled(view.hasAutoScroll())
+{
+    view.setAutoScroll(false);
+}
+
+StillView::~StillView()
+{
+    if (m_view)
+        m_view->setAutoScroll(m_scrolled);
+}
+
 ViewScroll::ViewScroll(QAbstractItemView &view)
     : m_view(view)
 {
@@ -16,10 +29,8 @@ ViewScroll::ViewScroll(QAbstractItemView &view)
 void ViewScroll::makeCurrent(const QModelIndex &index,
                              QItemSelectionModel::SelectionFlags selection)
 {
-    const bool scrolls = m_view.hasAutoScroll();
-    m_view.setAutoScroll(false);
+    const StillView still(m_view);
     m_view.selectionModel()->setCurrentIndex(index, selection);
-    m_view.setAutoScroll(scrolls);
 }
 
 void ViewScroll::ensureVisible(const QModelIndex &index)

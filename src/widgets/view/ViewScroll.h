@@ -2,10 +2,24 @@
 
 #include <QtCore/QItemSelectionModel>
 #include <QtCore/QPersistentModelIndex>
-
-class QAbstractItemView;
+#include <QtCore/QPointer>
+#include <QtWidgets/QAbstractItemView>
 
 namespace ORVTListview {
+
+// While this lives, a new current item is not scrolled to. The toolkit makes another one
+// current when the program takes the current one away.
+class StillView
+{
+public:
+    explicit StillView(QAbstractItemView &view);
+    ~StillView();
+    Q_DISABLE_COPY_MOVE(StillView) // gives back once
+
+private:
+    QPointer<QAbstractItemView> m_view; // which a receiver may destroy
+    bool m_scrolled;
+};
 
 // What a view scrolls for the program: nothing for a new current item, up and down
 // for one that is to be seen.

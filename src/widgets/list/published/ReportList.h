@@ -69,7 +69,8 @@ public:
     // Removes all rows.
     void Clear();
 
-    // Replaces all rows, or adds some at the end, as one change. A key used twice
+    // Replaces all rows, which then shows the first, or adds some at the end, as one
+    // change; an open label of a row that goes is dropped. A key used twice
     // raises Error (InvalidCall) and changes nothing.
     void setRows(QList<RowContent> rows);
     void appendRows(QList<RowContent> rows);
@@ -105,7 +106,7 @@ public:
     void setMultiSelect(bool MultiSelect);
 
     // Raises BeforeLabelEdit and edits the label of the selected row in place;
-    // without one, nothing. See labelColumn.
+    // without one, or in a disabled list, nothing. See labelColumn.
     void StartLabelEdit();
 
     // Paints at once.
