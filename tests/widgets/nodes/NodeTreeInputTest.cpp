@@ -430,7 +430,7 @@ void NodeTreeInputTest::showsLongTextsQuickly()
     shown->grab();
     shown->resizeColumnToContents(0);
     shown->grab();
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void NodeTreeInputTest::bearsAnythingInAnEvent_data()
