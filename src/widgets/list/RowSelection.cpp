@@ -8,6 +8,12 @@
 #include <utility>
 
 namespace ORVTListview {
+namespace {
+
+// As many as the toolkit merges without delay.
+constexpr int few = 64;
+
+} // namespace
 
 RowSelection::RowSelection(ReportModel &model)
     : QItemSelectionModel(&model)
@@ -63,7 +69,6 @@ void RowSelection::noteChange(const QItemSelection &selected, const QItemSelecti
 
 void RowSelection::setSelected(ReportRow &row, bool selected)
 {
-    constexpr int few = 64;
     if (row.selected == selected || m_model.columns() == 0)
         return;
     if (!m_lagsBehind && m_count < few) {
@@ -125,6 +130,10 @@ QItemSelection RowSelection::ranges() const
 void RowSelection::select(const QItemSelection &selection, SelectionFlags command)
 {
     settle();
+    if (command.testFlag(Clear) && m_count > few && !selection.isEmpty()) {
+        QItemSelectionModel::select(QItemSelection(), Clear);
+        command.setFlag(Clear, false);
+    }
     QItemSelectionModel::select(selection, command);
 }
 

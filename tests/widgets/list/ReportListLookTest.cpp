@@ -166,7 +166,7 @@ void ReportListLookTest::wrapsAndCutsLongTips()
     QElapsedTimer timer;
     timer.start();
     hover(*shown->viewport(), shown->visualRect(shown->model()->index(0, 0)).center());
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(QToolTip::isVisible());
     const QWidgetList all = QApplication::topLevelWidgets();
     const auto tip = std::find_if(all.begin(), all.end(), [](const QWidget *widget) {
@@ -204,7 +204,7 @@ void ReportListLookTest::paintsLongCellsQuickly()
     timer.start();
     for (int time = 0; time < 5; ++time)
         QCOMPARE(picture(*shown->viewport()), before);
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void ReportListLookTest::tipsLongHeaders()

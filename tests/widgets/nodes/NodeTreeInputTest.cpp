@@ -430,7 +430,7 @@ void NodeTreeInputTest::showsLongTextsQuickly()
     shown->grab();
     shown->resizeColumnToContents(0);
     shown->grab();
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void NodeTreeInputTest::bearsAnythingInAnEvent_data()
@@ -440,7 +440,7 @@ void NodeTreeInputTest::bearsAnythingInAnEvent_data()
     for (const QString &event :
          {u"MouseDown"_s, u"MouseUp"_s, u"MouseMove"_s, u"Click"_s, u"DblClick"_s, u"NodeClick"_s,
           u"NodeCheck"_s, u"Expand"_s, u"Collapse"_s, u"KeyDown"_s, u"KeyPress"_s, u"KeyUp"_s,
-          u"BeforeLabelEdit"_s, u"AfterLabelEdit"_s}) {
+          u"BeforeLabelEdit"_s, u"AfterLabelEdit"_s, u"AfterLabelEdit by a press"_s}) {
         for (const QString &deed : {u"destroy"_s, u"clear"_s, u"remove"_s, u"move"_s})
             QTest::addRow("%s, %s", qPrintable(event), qPrintable(deed)) << event << deed;
     }
@@ -481,6 +481,8 @@ void NodeTreeInputTest::bearsAnythingInAnEvent()
         {u"KeyUp"_s, [&] { connect(shown.tree, &NodeTree::KeyUp, this, act); }},
         {u"BeforeLabelEdit"_s, [&] { connect(shown.tree, &NodeTree::BeforeLabelEdit, this, act); }},
         {u"AfterLabelEdit"_s, [&] { connect(shown.tree, &NodeTree::AfterLabelEdit, this, act); }},
+        {u"AfterLabelEdit by a press"_s,
+         [&] { connect(shown.tree, &NodeTree::AfterLabelEdit, this, act); }},
     };
     connects.at(event)();
     const QPoint place = shown.label("a");
@@ -490,7 +492,10 @@ void NodeTreeInputTest::bearsAnythingInAnEvent()
         shown.key(Qt::Key_F2);
         if (shown.tree && editor(shown)) {
             QTest::keyClicks(editor(shown), u"x"_s);
-            QTest::keyClick(editor(shown), Qt::Key_Return);
+            if (event.contains(u"press"_s))
+                shown.click(shown.label("b1"));
+            else
+                QTest::keyClick(editor(shown), Qt::Key_Return);
         }
     } else {
         shown.click(place, Qt::RightButton);
