@@ -21,13 +21,18 @@ RtfWriter::RtfWriter(const RtfFormat &base)
 
 void RtfWriter::text(QStringView text, const RtfFormat &format)
 {
+    if (text.contains(u'\0'))
+        return this->text(text.toString().remove(u'\0'), format);
     if (text.isEmpty())
         return;
     if (!m_isStarted)
         start(format);
     else
         change(format);
+    if (m_isBehindBlank && text.front() == u' ')
+        m_body += "{}"_L1;
     appendRtfText(m_body, text);
+    m_isBehindBlank = text.back() == u' ';
 }
 
 void RtfWriter::lineEnd()
@@ -35,6 +40,7 @@ void RtfWriter::lineEnd()
     if (!m_isStarted)
         start(m_base);
     m_body += lineEndWord;
+    m_isBehindBlank = false;
 }
 
 QString RtfWriter::finish()
@@ -144,8 +150,10 @@ void RtfWriter::writeChanges(const Settings &settings)
     if (settings.halfPoints != m_settings.halfPoints)
         writeWord("fs"_L1, settings.halfPoints);
     m_settings = settings;
-    if (m_body.size() != before)
-        m_body += u' ';
+    if (m_body.size() == before)
+        return;
+    m_body += u' ';
+    m_isBehindBlank = false;
 }
 
 void RtfWriter::writeWord(QLatin1StringView word, qint64 number)

@@ -62,6 +62,7 @@ private:
     RtfFormat m_format;
     Settings m_settings;
     bool m_isStarted = false;
+    bool m_isBehindBlank = false; // of the text, with nothing else between
     QStringList m_fonts;
     QHash<QString, qsizetype> m_fontIndexes;
     QList<Colour> m_colours;

@@ -24,6 +24,12 @@ TEST(RtfCodePages, readsBytesInTheCodePageOfTheDocument)
     EXPECT_EQ(plainText(u"{\\rtf1\\ansi\\ansicpg0 \\'80}"), u"\u20ac"_s);
 }
 
+TEST(RtfCodePages, readsHexadecimalDigitsInAnyCase)
+{
+    EXPECT_EQ(plainText(u"{\\rtf1\\ansi \\'E4\\'e4\\'eF\\'Ef}"), u"\u00e4\u00e4\u00ef\u00ef"_s);
+    EXPECT_EQ(plainText(u"{\\rtf1\\ansi\\ansicpg65001 \\'E2\\'82\\'Ac}"), u"\u20ac"_s);
+}
+
 TEST(RtfCodePages, readsBytesInTheCodePageOfTheFont)
 {
     EXPECT_EQ(

@@ -202,6 +202,16 @@ TEST(RtfReaderFormat, keepsTheFontOfTextInFrontOfAnotherTable)
     EXPECT_EQ(dump(u"{\\rtf1{\\fonttbl{\\f0 A;}{\\f1 B;}}a\\deff1 b}"), u"\"a\"  A\n\"b\"  B\n"_s);
 }
 
+TEST(RtfReaderFormat, keepsTheColourOfTextInFrontOfAnotherTable)
+{
+    EXPECT_EQ(
+        dump(u"{\\rtf1{\\colortbl;\\red1;\\red2;}\\cf1 a\\cf2 b{\\colortbl;\\red9;}c\\cf1 "
+             u"d\\cf2 e}"),
+        u"\"a\"  colour 000001\n\"b\"  colour 000002\n\"c\"  colour 000002\n\"d\"  colour 000009\n\"e\"\n"_s);
+    EXPECT_EQ(dump(u"{\\rtf1{\\colortbl;\\red1;}\\cf1 a{{\\*\\colortbl;\\red9;}\\cf1 b}c}"),
+              u"\"a\"  colour 000001\n\"b\"  colour 000009\n\"c\"  colour 000001\n"_s);
+}
+
 TEST(RtfReaderFormat, givesPiecesAsLongAsPossible)
 {
     EXPECT_EQ(settings(u"a\\{b\r\nc\\'e4\\u8364?d\\b\\b0 e{f}g{\\b}h\\unknown i"),

@@ -116,6 +116,21 @@ TEST(RtfWriter, keepsBlanksApart)
 {
     EXPECT_EQ(body(u" a b"), u" a b"_s);
     EXPECT_EQ(body(u"   a  b "), u" {} {} a {} b "_s);
+    RtfWriter writer(base);
+    for (const QString &text : {u"a "_s, u" "_s, u"\t"_s, u" b "_s, u" \0 "_s})
+        writer.text(text, {});
+    writer.lineEnd();
+    writer.text(u" ", {});
+    EXPECT_EQ(writer.finish(), head + u"a {} \\tab  b {} {} \\par\r\n }\r\n"_s);
+}
+
+TEST(RtfWriter, writesNoSettingsForNothing)
+{
+    RtfWriter writer(base);
+    writer.text(u"a", {});
+    writer.text(u"\0"_s, {.fontName = u"Courier"_s, .colour = 1, .bold = true});
+    writer.lineEnd();
+    EXPECT_EQ(writer.finish(), head + u"a\\line\r\n}\r\n"_s);
 }
 
 TEST(RtfWriter, startsALineOfTheFileForEachLine)
