@@ -53,7 +53,7 @@ FieldMenu::FieldMenu(QLineEdit &field)
     , m_field(field)
 {
     field.installEventFilter(this);
-    // A combo box hands the event to its field past all filters.
+    // A combo box keeps the event from its field, and hands it on past all filters.
     if (auto *combo = qobject_cast<QComboBox *>(field.parent()))
         combo->installEventFilter(this);
 }
@@ -65,7 +65,10 @@ void FieldMenu::installOn(QLineEdit &field)
 
 bool FieldMenu::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::ContextMenu)
+    const auto isMenus = [watched] { // and neither the host's nor nobody's
+        return static_cast<QWidget *>(watched)->contextMenuPolicy() == Qt::DefaultContextMenu;
+    };
+    if (event->type() != QEvent::ContextMenu || !isMenus())
         return QObject::eventFilter(watched, event);
     open(static_cast<const QContextMenuEvent *>(event)->globalPos());
     event->accept();

@@ -84,7 +84,7 @@ Place ofDialog()
     Place place = shown(std::make_unique<fFind>());
     auto *combo = place.window->findChild<QComboBox *>(u"Cbo0"_s);
     place.field = combo->lineEdit();
-    place.target = combo;
+    place.target = combo->lineEdit();
     return place;
 }
 
@@ -94,7 +94,7 @@ Place ofCombo()
     ImageCombo *inner = combo.get();
     Place place = shown(std::move(combo));
     place.field = inner->lineEdit();
-    place.target = inner;
+    place.target = inner->lineEdit();
     return place;
 }
 
@@ -225,6 +225,18 @@ private Q_SLOTS:
         QCOMPARE(enabled(), u"Cut Copy Paste Delete "_s);
         place.field->setReadOnly(true);
         QCOMPARE(enabled(), u"Copy "_s);
+    }
+
+    void leavesTheHostItsOwnPolicy()
+    {
+        const Place place = ofCombo();
+        place.window->setContextMenuPolicy(Qt::CustomContextMenu);
+        int wanted = 0;
+        connect(place.window.get(), &QWidget::customContextMenuRequested, this, [&] { ++wanted; });
+        QVERIFY(!openMenu(*place.target));
+        QCOMPARE(wanted, 1);
+        place.window->setContextMenuPolicy(Qt::DefaultContextMenu);
+        QVERIFY(openMenu(*place.target));
     }
 
     void bearsTheEndOfTheFieldMeanwhile_data() { addPlaces(); }
