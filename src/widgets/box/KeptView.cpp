@@ -1,9 +1,8 @@
 #include "widgets/box/KeptView.h"
 
-#include <ORVTListview/RichTextBox.h>
-
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QTextBlock>
+#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QScrollBar>
 
 #include <algorithm>
@@ -12,28 +11,28 @@ namespace ORVTListview {
 namespace {
 
 // From right to left the bar counts from the other side.
-int mirrored(const RichTextBox &box, int left)
+int mirrored(const QPlainTextEdit &box, int left)
 {
     return box.isRightToLeft() ? box.horizontalScrollBar()->maximum() - left : left;
 }
 
-int leftOf(const RichTextBox &box)
+int leftOf(const QPlainTextEdit &box)
 {
     return mirrored(box, box.horizontalScrollBar()->value());
 }
 
-void setLeft(RichTextBox &box, int left)
+void setLeft(QPlainTextEdit &box, int left)
 {
     box.horizontalScrollBar()->setValue(mirrored(box, left));
 }
 
-qreal heightOf(const RichTextBox &box, const QTextBlock &block)
+qreal heightOf(const QPlainTextEdit &box, const QTextBlock &block)
 {
     return box.document()->documentLayout()->blockBoundingRect(block).height();
 }
 
 // A box knows the widths of the lines that it has laid out, and scrolls no further.
-void layOutAround(const RichTextBox &box, int line, int left)
+void layOutAround(const QPlainTextEdit &box, int line, int left)
 {
     constexpr int mostLines = 1000;
     const QTextDocument &text = *box.document();
@@ -55,7 +54,7 @@ struct Ends
     QRect last;
 };
 
-Ends endsOfSelection(const RichTextBox &box)
+Ends endsOfSelection(const QPlainTextEdit &box)
 {
     QTextCursor first = box.textCursor();
     QTextCursor last = first;
@@ -65,14 +64,14 @@ Ends endsOfSelection(const RichTextBox &box)
 }
 
 // Whether a line of the selection is shown as a whole.
-bool isShown(const RichTextBox &box, const Ends &ends)
+bool isShown(const QPlainTextEdit &box, const Ends &ends)
 {
     const int height = box.viewport()->height();
     const int shown = std::min(ends.last.bottom() + 1, height) - std::max(ends.first.top(), 0);
     return shown >= std::min({ends.first.height(), ends.last.height(), height});
 }
 
-void bringToMiddle(RichTextBox &box, const Ends &ends)
+void bringToMiddle(QPlainTextEdit &box, const Ends &ends)
 {
     const QTextCursor cursor = box.textCursor();
     QTextBlock top = box.document()->findBlock(cursor.selectionStart());
@@ -85,7 +84,7 @@ void bringToMiddle(RichTextBox &box, const Ends &ends)
 }
 
 // Of a selection within a line both ends, or as much as there is room for.
-void scrollSideways(RichTextBox &box, const Ends &ends)
+void scrollSideways(QPlainTextEdit &box, const Ends &ends)
 {
     const int width = box.viewport()->width();
     const bool isOneLine = ends.first.top() == ends.last.top();
@@ -103,7 +102,7 @@ void scrollSideways(RichTextBox &box, const Ends &ends)
 
 } // namespace
 
-KeptView::KeptView(RichTextBox &box)
+KeptView::KeptView(QPlainTextEdit &box)
     : m_box(&box)
     , m_top(box.verticalScrollBar()->value())
     , m_left(leftOf(box))

@@ -4,9 +4,9 @@
 
 #include <QtCore/QPointer>
 
-namespace ORVTListview {
+class QPlainTextEdit;
 
-class RichTextBox;
+namespace ORVTListview {
 
 // What moves the caret or sets the text while it lives does not decide what a box shows.
 // At its end the box shows the lines that it showed before; when none of the selection
@@ -15,12 +15,12 @@ class RichTextBox;
 class ORVT_EXPORT KeptView
 {
 public:
-    explicit KeptView(RichTextBox &box);
+    explicit KeptView(QPlainTextEdit &box);
     ~KeptView();
     Q_DISABLE_COPY_MOVE(KeptView) // one end
 
 private:
-    QPointer<RichTextBox> m_box;
+    QPointer<QPlainTextEdit> m_box;
     int m_top;  // the first line
     int m_left; // pixels
 };
