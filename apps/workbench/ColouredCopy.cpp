@@ -16,7 +16,8 @@ void copyWithColours(RichTextBox &box)
     if (box.SelLength() == 0)
         return;
     auto *data = new QMimeData;
-    data->setText(box.SelText().replace(u"\r\n"_s, u"\n"_s)); // the toolkit knows the platform's
+    // The toolkit makes of LF what the platform has.
+    data->setText(box.SelText().replace(u"\r\n"_s, u"\n"_s));
     const QByteArray rtf = box.SelRTF().toLatin1(); // what it writes is 7-bit
     data->setData(u"text/rtf"_s, rtf);
     data->setData(u"application/rtf"_s, rtf);
