@@ -4,6 +4,7 @@
 #include "support/WidgetTest.h"
 #include <ORVTListview/ORVTListview.h>
 
+#include <QtCore/QPointer>
 #include <QtTest/QtTest>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>

@@ -2,6 +2,7 @@
 
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QScrollBar>
 
