@@ -67,7 +67,8 @@ public:
     void setText(const QString &text);
 
     // The whole text as RTF. Text that does not begin with "{\rtf" is inserted as
-    // plain text. Afterwards the caret stands behind the text.
+    // plain text. Afterwards the caret stands behind the text. RTF may bring 512 fonts
+    // into an empty box, each a name and a size; text in a further one gets the box's.
     QString TextRTF() const;
     void setTextRTF(const QString &rtf);
 
