@@ -177,6 +177,7 @@ private Q_SLOTS:
     void enabledIsTheCombosOwn();
     void theCombosSetterHoldsInADisabledParent();
     void bearsAReceiverThatDestroysTheCombo();
+    void bearsAReceiverThatDestroysWhatTheUserWorksWith();
 
 private:
     TestFolder m_settings; // the tree saves its pages
@@ -435,6 +436,33 @@ void PropertySignalsTest::bearsAReceiverThatDestroysTheCombo()
         combo->ReadProperties(bag);
         QVERIFY(combo.isNull());
     }
+}
+
+void PropertySignalsTest::bearsAReceiverThatDestroysWhatTheUserWorksWith()
+{
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End}) {
+        const QPointer<ORVTreeview> tree(new ORVTreeview);
+        tree->show();
+        tree->setSelectedItem(tree->Nodes()->Item(2));
+        connect(tree, &ORVTreeview::selectedItemChanged, this, [&] { delete tree.data(); });
+        QTest::keyClick(tree->focusProxy(), key);
+        QTRY_VERIFY(tree.isNull());
+    }
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_X}) {
+        const QPointer<ORVDataCombo> combo(new ORVDataCombo);
+        combo->show();
+        fill(*combo, dsInput);
+        combo->SetListIndex(u"Temp1"_s);
+        connect(combo, &ORVDataCombo::listIndexChanged, this, [&] { delete combo.data(); });
+        QTest::keyClick(combo->focusProxy(), key);
+        QTRY_VERIFY(combo.isNull());
+    }
+    const QPointer<ORVListView> list(new ORVListView);
+    list->setListviewType(dsCode);
+    list->show();
+    connect(list, &ORVListView::codeTextChanged, this, [&] { delete list.data(); });
+    QTest::keyClick(list->RTextBox(), Qt::Key_A);
+    QTRY_VERIFY(list.isNull());
 }
 
 QTEST_MAIN(PropertySignalsTest)
