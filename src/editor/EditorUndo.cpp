@@ -4,6 +4,7 @@
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "shared/texts/TextTable.h"
+#include "widgets/box/BoxText.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>
 
@@ -126,9 +127,9 @@ void EditorUndo::show(const UndoRecord &record, const ColouredText &text)
     m_box.ensureCursorVisible();
 }
 
-UndoRecord EditorUndo::shown() const
+UndoState EditorUndo::shown() const
 {
-    return {m_box.Text(), m_box.SelStart(), m_box.SelLength()};
+    return {BoxText::of(m_box).sharedText(), m_box.SelStart(), m_box.SelLength()};
 }
 
 void EditorUndo::resetBase()
