@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <ctime>
 
 namespace ORVTListview::bench {
 
@@ -22,6 +23,18 @@ double timed(const std::function<void()> &work)
     const Clock::time_point start = Clock::now();
     work();
     return std::chrono::duration<double, std::nano>(Clock::now() - start).count();
+}
+
+double timedAtWork(const std::function<void()> &work)
+{
+    const auto now = [] {
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+    };
+    const double start = now();
+    work();
+    return now() - start;
 }
 
 Sides sideBySide(int repetitions, const Contender &ours, const Contender &peers)

@@ -13,6 +13,7 @@ public:
     std::size_t count() const { return m_all.size(); }
     double median() const { return quantile(0.5); }
     double minimum() const { return quantile(0); }
+    double maximum() const { return quantile(1); }
 
     // The time that the given part of all stays within, from 0 to 1.
     double quantile(double part) const;
@@ -22,6 +23,10 @@ private:
 };
 
 double timed(const std::function<void()> &work);
+
+// The time that this thread was at work. The slowest of many is taken of this: on the
+// clock it would be the time that another program took.
+double timedAtWork(const std::function<void()> &work);
 
 // Does the work once and returns how long the part of it took that counts.
 using Contender = std::function<double()>;

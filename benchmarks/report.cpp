@@ -69,6 +69,11 @@ Side percentile99Of(const QString &what, const Times &times)
     return {what, times.quantile(0.99), times.minimum(), times.count()};
 }
 
+Side slowestOf(const QString &what, const Times &times)
+{
+    return {what, times.maximum(), times.minimum(), times.count()};
+}
+
 void printRow(const Row &row)
 {
     QJsonObject object{

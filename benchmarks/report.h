@@ -23,6 +23,7 @@ struct Side
 
 Side medianOf(const QString &what, const Times &times, qsizetype amount = 1);
 Side percentile99Of(const QString &what, const Times &times);
+Side slowestOf(const QString &what, const Times &times);
 
 enum class Unit {
     Time,

@@ -23,6 +23,7 @@ namespace {
 
 constexpr qsizetype keysTyped = 300;
 constexpr qsizetype keysInTurn = 25;
+constexpr qsizetype keysInARow = 1000;
 
 // The end of the first line without an indent in the second half of a text.
 qsizetype placeToType(const QString &text)
@@ -52,27 +53,38 @@ public:
             qFatal("an editor did not get the focus");
     }
 
-    double timeKey(const Key &key)
+    void press(const Key &key)
     {
         m_watch.forget();
-        return timed([&] {
-            sendKey(m_editor, key);
-            if (!m_watch.finishPainting())
-                qFatal("a key was not painted");
-        });
+        sendKey(m_editor, key);
+        if (!m_watch.finishPainting())
+            qFatal("a key was not painted");
     }
 
     void timeKeys(const QList<Key> &keys, Times &times)
     {
         takeFocus();
         for (const Key &key : keys)
-            times.add(timeKey(key));
+            times.add(timed([&] { press(key); }));
+    }
+
+    void timeKeysAtWork(const QList<Key> &keys, Times &times)
+    {
+        takeFocus();
+        for (const Key &key : keys)
+            times.add(timedAtWork([&] { press(key); }));
     }
 
 private:
     QAbstractScrollArea &m_editor;
     PaintWatch m_watch;
 };
+
+void putCaret(RichTextBox &box, qsizetype place)
+{
+    box.setSelStart(static_cast<qint32>(place));
+    box.centerCursor();
+}
 
 class BothEditors
 {
@@ -85,8 +97,7 @@ public:
         , m_ours(m_face.box())
         , m_peers(m_scintilla.widget())
     {
-        box().setSelStart(static_cast<qint32>(m_place));
-        box().centerCursor();
+        putCaret(box(), m_place);
         m_scintilla.putCaret(m_place);
     }
 
@@ -152,6 +163,22 @@ struct Size
     double bound;
 };
 
+// Alone, since the other editor's own events would run within our keys; and one key
+// after the other, so that all snapshots wait to be encoded.
+Times keysWithoutRest(qsizetype characters)
+{
+    const Program program = makeProgram(characters);
+    CodeEditorFace face(program.text);
+    TypedInto ours(face.box());
+    putCaret(face.box(), placeToType(program.shown));
+    Times times;
+    for (const qsizetype keys : {keysInTurn, keysInARow}) {
+        times = Times();
+        ours.timeKeysAtWork(writingScript(keys).keys, times);
+    }
+    return times;
+}
+
 Times measureAt(const Size &size, const Script &script)
 {
     BothEditors editors(size.characters);
@@ -170,13 +197,20 @@ Times measureAt(const Size &size, const Script &script)
 void measure()
 {
     const Script script = writingScript(keysTyped);
-    const Times small = measureAt({u"64 KB"_s, smallProgram, 1}, script);
-    measureAt({u"1 MB"_s, usualProgram, 1.0 / 5}, script);
-    const Times large = measureAt({u"10 MB"_s, largeProgram, 1.0 / 20}, script);
+    const Size smallSize{u"64 KB"_s, smallProgram, 1};
+    const Size usualSize{u"1 MB"_s, usualProgram, 1.0 / 5};
+    const Size largeSize{u"10 MB"_s, largeProgram, 1.0 / 20};
+    const Times small = measureAt(smallSize, script);
+    measureAt(usualSize, script);
+    const Times large = measureAt(largeSize, script);
     printRow({.name = u"Our key at 10 MB beside 64 KB"_s,
               .ours = medianOf(u"at 10 MB"_s, large),
               .peers = medianOf(u"at 64 KB"_s, small),
               .bound = 2});
+    for (const Size &size : {smallSize, usualSize, largeSize})
+        printRow({.name = u"The slowest of 1,000 keys in a row at %1, at work"_s.arg(size.name),
+                  .ours = slowestOf(u"our editor"_s, keysWithoutRest(size.characters)),
+                  .bound = 8 * milliseconds});
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "base/SharedText.h"
 
 #include <algorithm>
+#include <iterator>
+#include <span>
 
 namespace ORVTListview {
 namespace {
@@ -76,6 +78,7 @@ QStringView SharedText::before(qsizetype position, qsizetype longest) const
 SharedText SharedText::part(qsizetype start, qsizetype length) const
 {
     SharedText result;
+    result.m_pieces.reserve(m_pieces.size());
     for (const Piece &piece : m_pieces) {
         const qsizetype first = std::clamp<qsizetype>(start, 0, piece.length);
         const qsizetype last = std::clamp<qsizetype>(start + length, 0, piece.length);
@@ -133,10 +136,58 @@ SharedText SharedText::sharedWith(const SharedText &other) const
     return result.m_pieces.size() > mostPieces ? *this : result;
 }
 
+// The last pieces that together are not longer.
+QString SharedText::takeShortEnd(qsizetype longest)
+{
+    QString taken;
+    while (!m_pieces.isEmpty() && m_pieces.last().length + taken.size() <= longest) {
+        const Piece piece = m_pieces.takeLast();
+        taken.prepend(piece.view());
+        m_size -= piece.length;
+    }
+    return taken;
+}
+
+QString SharedText::takeShortStart(qsizetype longest)
+{
+    QString taken;
+    while (!m_pieces.isEmpty() && m_pieces.first().length + taken.size() <= longest) {
+        const Piece piece = m_pieces.takeFirst();
+        taken += piece.view();
+        m_size -= piece.length;
+    }
+    return taken;
+}
+
+SharedText SharedText::replaced(qsizetype start, qsizetype length, const QString &text) const
+{
+    SharedText result = part(0, start);
+    SharedText rest = part(start + length, m_size - start - length);
+    QString joined = result.takeShortEnd(joinedLength - text.size()) + text;
+    joined += rest.takeShortStart(joinedLength - joined.size());
+    result.append({joined, 0, joined.size()});
+    result.append(rest);
+    return result;
+}
+
 qsizetype SharedText::bytes(QSet<const QChar *> &counted) const
 {
+    return bytes(counted, {});
+}
+
+qsizetype SharedText::bytes(QSet<const QChar *> &counted, const SharedText &before) const
+{
+    const auto isSame = [](const Piece &one, const Piece &other) {
+        return one.string.constData() == other.string.constData();
+    };
+    const auto &theirs = before.m_pieces;
+    const auto first =
+        std::mismatch(m_pieces.begin(), m_pieces.end(), theirs.begin(), theirs.end(), isSame).first;
+    const auto last = std::mismatch(m_pieces.rbegin(), std::make_reverse_iterator(first),
+                                    theirs.rbegin(), theirs.rend(), isSame)
+                          .first.base();
     qsizetype sum = 0;
-    for (const Piece &piece : m_pieces) {
+    for (const Piece &piece : std::span(first, last)) {
         if (counted.contains(piece.string.constData()))
             continue;
         counted.insert(piece.string.constData());

@@ -38,8 +38,18 @@ public:
     static constexpr qsizetype mostPieces = 64;
     qsizetype pieceCount() const { return m_pieces.size(); }
 
+    // The text with a part of it replaced. Holds the same pieces around it, but short
+    // ones become one: changes one after another leave no more than two pieces for
+    // each joinedLength of the text. Takes time in the number of pieces and the length
+    // of the new text, not in that of the whole.
+    SharedText replaced(qsizetype start, qsizetype length, const QString &text) const;
+
+    static constexpr qsizetype joinedLength = 4096;
+
     // The bytes of the strings it holds, without those in counted; adds them to it.
+    // The strings of `before`, another state of the text, are in there already.
     qsizetype bytes(QSet<const QChar *> &counted) const;
+    qsizetype bytes(QSet<const QChar *> &counted, const SharedText &before) const;
 
 private:
     struct Piece
@@ -54,6 +64,8 @@ private:
     void append(const Piece &piece);
     void append(const SharedText &text);
     SharedText part(qsizetype start, qsizetype length) const;
+    QString takeShortEnd(qsizetype longest);
+    QString takeShortStart(qsizetype longest);
     qsizetype alikeAtStart(const SharedText &other) const;
     qsizetype alikeAtEnd(const SharedText &other, qsizetype most) const;
 

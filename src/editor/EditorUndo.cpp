@@ -5,6 +5,7 @@
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "shared/texts/TextTable.h"
+#include "widgets/box/BoxText.h"
 #include "widgets/box/KeptView.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>
@@ -129,9 +130,9 @@ void EditorUndo::show(const UndoRecord &record, const ColouredText &text)
     m_box.setSelLength(record.selectionLength);
 }
 
-UndoRecord EditorUndo::shown() const
+UndoState EditorUndo::shown() const
 {
-    return {m_box.Text(), m_box.SelStart(), m_box.SelLength()};
+    return {BoxText::of(m_box).sharedText(), m_box.SelStart(), m_box.SelLength()};
 }
 
 void EditorUndo::resetBase()

@@ -64,7 +64,7 @@ private:
     bool stepInRing(Way way);
     bool showKept(const std::optional<UndoRecord> &kept);
     void show(const UndoRecord &record, const ColouredText &text);
-    UndoRecord shown() const;
+    UndoState shown() const;
     void encodeWhenIdle();
 
     RichTextBox &m_box;

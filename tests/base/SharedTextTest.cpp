@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 using namespace ORVTListview;
@@ -157,6 +158,56 @@ TEST(SharedText, OtherTextStaysAsItIs)
     EXPECT_EQ(SharedText(lessThanHalf).sharedWith(before).pieceCount(), 1);
     const QString half = before.toString().first(50) + QString(50, u'x');
     EXPECT_EQ(SharedText(half).sharedWith(before).pieceCount(), 2);
+}
+
+TEST(SharedText, ReplacedPartCostsWhatStandsAroundIt)
+{
+    const SharedText before(u"0123456789"_s.repeated(10'000));
+    const SharedText typed = before.replaced(50'000, 0, u"a"_s);
+    const SharedText typedOn = typed.replaced(50'001, 0, u"b"_s);
+    EXPECT_EQ(typedOn.toString().mid(49'998, 6), u"89ab01"_s);
+    EXPECT_EQ(typedOn.pieceCount(), 3);
+    EXPECT_EQ(bytesOf({before, typed, typedOn}), 200'000 + 2 + 4);
+    const SharedText deleted = typedOn.replaced(50'000, 2, QString());
+    EXPECT_TRUE(deleted.equals(before));
+    EXPECT_EQ(bytesOf({before, deleted}), 200'000);
+    EXPECT_TRUE(before.replaced(0, before.size(), QString()).equals(SharedText()));
+}
+
+TEST(SharedText, ReplacingAgainAndAgainLeavesFewPieces)
+{
+    const unsigned seed = 496;
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto below = [&](qsizetype bound) { return qsizetype(random() % quint64(bound)); };
+    QString string = u"0123456789"_s.repeated(20'000);
+    SharedText text(string);
+    for (int round = 0; round < 5000; ++round) {
+        const qsizetype start = below(string.size() + 1);
+        const qsizetype length = below(std::min<qsizetype>(50, string.size() - start) + 1);
+        const QString part(below(60), QChar(u'a' + char16_t(below(20))));
+        string.replace(start, length, part);
+        text = text.replaced(start, length, part);
+        ASSERT_EQ(text.size(), string.size());
+        if (round % 50 == 0)
+            ASSERT_EQ(text.toString(), string);
+        ASSERT_LE(text.pieceCount(), 3 + 2 * string.size() / SharedText::joinedLength);
+    }
+    EXPECT_TRUE(text.equals(SharedText(string)));
+    EXPECT_EQ(readForwards(text, 1000), string);
+}
+
+TEST(SharedText, BytesBesideAnotherStateAreThoseItDoesNotHold)
+{
+    const SharedText before(u"0123456789"_s.repeated(10'000));
+    const SharedText middle = before.replaced(50'000, 0, u"abc"_s);
+    const SharedText after = middle.replaced(80'000, 0, u"abcd"_s);
+    QSet<const QChar *> counted;
+    EXPECT_EQ(before.bytes(counted, {}), 200'000);
+    EXPECT_EQ(middle.bytes(counted, before), 6);
+    EXPECT_EQ(after.bytes(counted, middle), 8);
+    EXPECT_EQ(after.bytes(counted, {}), 0);
+    EXPECT_EQ(SharedText(before.toString().chopped(1)).bytes(counted, after), 2 * 99'999);
 }
 
 TEST(SharedText, ManyPiecesBecomeOneAgain)

@@ -1,6 +1,7 @@
 #include "widgets/box/BoxText.h"
 
 #include "widgets/box/BoxMarks.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
@@ -20,11 +21,17 @@ qint32 startOf(const QTextBlock &block)
 } // namespace
 
 BoxText::BoxText(QTextDocument &document)
-    : m_document(document)
+    : QObject(&document)
+    , m_document(document)
     , m_length(documentLength())
 {
     document.documentLayout(); // a document without one announces no changes
     connect(&document, &QTextDocument::contentsChange, this, &BoxText::noteChange);
+}
+
+const BoxText &BoxText::of(const RichTextBox &box)
+{
+    return *box.document()->findChild<BoxText *>({}, Qt::FindDirectChildrenOnly);
 }
 
 int BoxText::documentLength() const
@@ -154,9 +161,24 @@ QString BoxText::range(qint32 start, qint32 length) const
 
 const QString &BoxText::text() const
 {
-    if (m_stale)
-        refresh();
+    if (m_keptText.isStale) {
+        const Change change = takeChange(m_keptText, m_text.size());
+        m_text.replace(change.start, change.length, change.text);
+    }
     return m_text;
+}
+
+const SharedText &BoxText::sharedText() const
+{
+    Kept &kept = m_keptSharedText;
+    if (kept.isStale && kept.prefix + kept.suffix < m_length / 2) {
+        m_sharedText = SharedText(text());
+        kept = m_keptText;
+    } else if (kept.isStale) {
+        const Change change = takeChange(kept, m_sharedText.size());
+        m_sharedText = m_sharedText.replaced(change.start, change.length, change.text);
+    }
+    return m_sharedText;
 }
 
 void BoxText::noteChange(int from, int removed, int added)
@@ -167,24 +189,23 @@ void BoxText::noteChange(int from, int removed, int added)
     const int before = m_length;
     m_length = documentLength();
     const int suffix = std::max(0, std::min(before - from - removed, m_length - from - added));
-    m_prefix = m_stale ? std::min(m_prefix, from) : from;
-    m_suffix = m_stale ? std::min(m_suffix, suffix) : suffix;
-    m_stale = true;
+    for (Kept *kept : {&m_keptText, &m_keptSharedText}) {
+        kept->prefix = kept->isStale ? std::min(kept->prefix, from) : from;
+        kept->suffix = kept->isStale ? std::min(kept->suffix, suffix) : suffix;
+        kept->isStale = true;
+    }
 }
 
-void BoxText::refresh() const
+// What has changed since, with which the text of this size is right again.
+BoxText::Change BoxText::takeChange(Kept &kept, qsizetype size) const
 {
-    m_stale = false;
-    if (m_textLength < 0)
-        m_prefix = m_suffix = 0;
-    const int shorter = std::min(m_textLength, m_length);
-    const int prefix = std::clamp(m_prefix, 0, std::max(0, shorter));
-    const int suffix = std::clamp(m_suffix, 0, std::max(0, shorter - prefix));
-
+    const int shorter = std::max(0, std::min(kept.length, m_length));
+    const int prefix = std::clamp(kept.prefix, 0, shorter);
+    const int suffix = std::clamp(kept.suffix, 0, shorter - prefix);
     const qint32 front = toBox(prefix);
     const qint32 back = length() - toBox(m_length - suffix);
-    m_text.replace(front, m_text.size() - front - back, read(prefix, m_length - suffix));
-    m_textLength = m_length;
+    kept = {m_length, 0, 0, false};
+    return {front, size - front - back, read(prefix, m_length - suffix)};
 }
 
 } // namespace ORVTListview

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "base/SharedText.h"
+#include <ORVTListview/Export.h>
+
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
@@ -7,6 +10,8 @@ class QTextBlock;
 class QTextDocument;
 
 namespace ORVTListview {
+
+class RichTextBox;
 
 // The text of a document as a box shows it to the outside: lines joined by
 // CR LF, and positions that count both characters. Positions are UTF-16 units
@@ -20,6 +25,9 @@ class BoxText final : public QObject
 public:
     explicit BoxText(QTextDocument &document);
 
+    // That of a box, for those who build on it.
+    static const BoxText &of(const RichTextBox &box);
+
     qint32 length() const;
     qint32 lineCount() const;
 
@@ -31,6 +39,11 @@ public:
     // The whole text. It is kept, and after a change only what changed is read
     // again. Not to be asked for while the document is inside an edit block.
     const QString &text() const;
+
+    // The same, for whoever keeps it: it has in common with what was given before what
+    // has not changed, and takes time in what has.
+    const SharedText &sharedText() const;
+
     QString range(qint32 start, qint32 length) const;
     QString read(int from, int to) const; // between two document positions
 
@@ -44,8 +57,23 @@ public:
     int whole(int documentPosition) const;
 
 private:
+    // What is still right of a text that was read.
+    struct Kept
+    {
+        int length = -1; // of the document when it was read
+        int prefix = 0;  // document characters, from the front and from the back
+        int suffix = 0;
+        bool isStale = true;
+    };
+    struct Change
+    {
+        qint32 start = 0; // in the text that was read
+        qsizetype length = 0;
+        QString text;
+    };
+
     void noteChange(int from, int removed, int added);
-    void refresh() const;
+    Change takeChange(Kept &kept, qsizetype size) const;
     QTextBlock blockAt(qint32 position) const;
     int documentLength() const;
     QString readAtOnce(int from, int to) const;
@@ -58,10 +86,9 @@ private:
     mutable int m_nearLine = 0; // where a place was last looked for
 
     mutable QString m_text;
-    mutable int m_textLength = -1; // the document's length when m_text was read
-    mutable int m_prefix = 0;      // document characters that m_text still has right,
-    mutable int m_suffix = 0;      // from the front and from the back
-    mutable bool m_stale = true;
+    mutable Kept m_keptText;
+    mutable SharedText m_sharedText;
+    mutable Kept m_keptSharedText;
 };
 
 } // namespace ORVTListview

@@ -105,7 +105,7 @@ void RichTextBox::replaceAll(const std::function<void()> &insert)
         const QScopedValueRollback quiet(m_parts->isQuiet, true);
         document()->clear();
         insert();
-        m_parts->text.text();
+        m_parts->text.sharedText();
     }
     noteChange();
 }

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void theTextFollowsWholeDocumentChanges();
     void theTextFollowsRandomEdits_data();
     void theTextFollowsRandomEdits();
+    void statesOfATextShareIt();
     void changesAreCounted();
 
 private:
@@ -160,7 +161,29 @@ void BoxTextTest::theTextFollowsRandomEdits()
         QCOMPARE(text.text(), fresh.text());
         QCOMPARE(text.text(), document.toRawText().replace(QChar(0x2029), u"\r\n"_s));
         QCOMPARE(text.length(), text.text().size());
+        if (below(2) == 0) // so that it is older than the other at times
+            QCOMPARE(text.sharedText().toString(), fresh.text());
     }
+}
+
+void BoxTextTest::statesOfATextShareIt()
+{
+    QTextDocument document;
+    BoxText text(document);
+    document.setPlainText(u"0123456789\n"_s.repeated(10'000));
+    const SharedText before = text.sharedText();
+    QCOMPARE(before.toString().constData(), text.text().constData());
+    QTextCursor cursor(&document);
+    cursor.setPosition(50'000);
+    cursor.insertText(u"a\nb"_s);
+    const SharedText after = text.sharedText();
+    QCOMPARE(after.toString(), text.text());
+    QVERIFY(!after.equals(before));
+    QSet<const QChar *> counted;
+    before.bytes(counted);
+    QCOMPARE(after.bytes(counted), 2 * 4);
+    const BoxText other(document);
+    QCOMPARE(other.sharedText().toString(), after.toString());
 }
 
 void BoxTextTest::changesAreCounted()

@@ -8,9 +8,9 @@
 
 namespace ORVTListview {
 
-HeldState::HeldState(const UndoRecord &record)
-    : m_plain(record)
-    , m_isWaiting(record.text.size() >= shortestCompressedRecord)
+HeldState::HeldState(const UndoState &state)
+    : m_plain(state)
+    , m_isWaiting(state.text.size() >= shortestCompressedRecord)
 {
 }
 
@@ -25,7 +25,7 @@ HeldState::~HeldState() = default;
 
 UndoRecord HeldState::record() const
 {
-    return m_slot.isEmpty() ? m_plain : joinedUndoRecord(decodeUndoSlot(m_slot));
+    return m_slot.isEmpty() ? m_plain.record() : joinedUndoRecord(decodeUndoSlot(m_slot));
 }
 
 qsizetype HeldState::bytes() const
@@ -39,8 +39,7 @@ void HeldState::encode(qsizetype characters)
     Progress progress = Progress::Impossible;
     try {
         if (!m_encoder)
-            m_encoder = std::make_unique<UndoSlotEncoder>(SharedText(m_plain.text),
-                                                          undoRecordTail(m_plain));
+            m_encoder = std::make_unique<UndoSlotEncoder>(m_plain.text, undoRecordTail(m_plain));
         progress = m_encoder->advance(characters);
     } catch (const Error &) {
     } catch (const std::bad_alloc &) {

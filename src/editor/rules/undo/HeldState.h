@@ -13,7 +13,7 @@ class UndoSlotEncoder;
 class HeldState
 {
 public:
-    explicit HeldState(const UndoRecord &record);
+    explicit HeldState(const UndoState &state);
     explicit HeldState(const QString &encodedSlot);
     HeldState(HeldState &&other) noexcept;
     HeldState &operator=(HeldState &&other) noexcept;
@@ -30,7 +30,7 @@ public:
     void encode(qsizetype characters);
 
 private:
-    UndoRecord m_plain;
+    UndoState m_plain;
     QString m_slot; // empty while it is plain
     bool m_isWaiting = false;
     std::unique_ptr<UndoSlotEncoder> m_encoder;

@@ -44,7 +44,7 @@ void KeptStates::setSafe(const UndoStore &ring, bool fromOldSlot)
     m_isFromOldSlot = fromOldSlot;
 }
 
-void KeptStates::offer(const UndoRecord &shown)
+void KeptStates::offer(const UndoState &shown)
 {
     m_offered = shown;
 }
@@ -102,7 +102,7 @@ void KeptStates::afterSnapshot(const UndoStore &ring)
     });
 }
 
-void KeptStates::beforeStep(const UndoStore &ring, const UndoRecord &shown)
+void KeptStates::beforeStep(const UndoStore &ring, const UndoState &shown)
 {
     leave(ring, shown, Place::Ahead);
 }
@@ -114,7 +114,7 @@ void KeptStates::afterStep(const UndoStore &ring)
     moveAside(Place::Behind, ring.depth());
 }
 
-void KeptStates::keepUnreachable(const UndoStore &ring, const UndoRecord &state)
+void KeptStates::keepUnreachable(const UndoStore &ring, const UndoState &state)
 {
     add(ring, HeldState(state), Place::Aside);
 }
@@ -124,7 +124,7 @@ bool KeptStates::canGo(Way way) const
     return next(placeFor(way)) != m_states.end();
 }
 
-std::optional<UndoRecord> KeptStates::go(const UndoStore &ring, const UndoRecord &shown, Way way)
+std::optional<UndoRecord> KeptStates::go(const UndoStore &ring, const UndoState &shown, Way way)
 {
     const auto kept = next(placeFor(way));
     if (kept == m_states.end())
@@ -144,13 +144,13 @@ bool KeptStates::canBringBack() const
                        [this](const Kept &kept) { return kept.id != m_shown; });
 }
 
-std::optional<UndoRecord> KeptStates::bringBack(const UndoStore &ring, const UndoRecord &shown)
+std::optional<UndoRecord> KeptStates::bringBack(const UndoStore &ring, const UndoState &shown)
 {
     for (auto kept = m_states.rbegin(); kept != m_states.rend(); ++kept) {
         if (kept->id >= m_nextBelow || kept->id == m_shown)
             continue;
         const UndoRecord state = kept->state.record();
-        if (state.text == shown.text)
+        if (shown.text.equals(SharedText(state.text)))
             continue;
         const qint64 id = kept->id;
         if (const auto now = shownState(); now == m_states.end())
@@ -221,7 +221,7 @@ void KeptStates::renew(const UndoStore &ring, States::iterator kept, Place place
 }
 
 // What is shown comes to lie at the place, unless a step of the ring shows it again.
-void KeptStates::leave(const UndoStore &ring, const UndoRecord &shown, Place place)
+void KeptStates::leave(const UndoStore &ring, const UndoState &shown, Place place)
 {
     m_nextBelow = fromTheLatest;
     const bool wasSafe = isShownSafe(ring);

@@ -45,7 +45,7 @@ public:
     // The editor is about to take away what it shows, and it is to be kept if that
     // comes about. A text that has stood for a while is to be offered in any case: as
     // one that a step showed, it may not last long in the ring.
-    void offer(const UndoRecord &shown);
+    void offer(const UndoState &shown);
     void withdraw() { m_offered.reset(); }
 
     // The editor's text was changed by anything but a step or a state from here. True
@@ -58,20 +58,20 @@ public:
 
     // Before a step that the ring can take, with what the editor shows; and after it,
     // when the slot is shown.
-    void beforeStep(const UndoStore &ring, const UndoRecord &shown);
+    void beforeStep(const UndoStore &ring, const UndoState &shown);
     void afterStep(const UndoStore &ring);
 
     // A state that the ring holds and cannot give back.
-    void keepUnreachable(const UndoStore &ring, const UndoRecord &state);
+    void keepUnreachable(const UndoStore &ring, const UndoState &state);
 
     // The state to show next, exactly as it was, if there is one; it stays kept. May
     // raise Error.
     bool canGo(Way way) const;
-    std::optional<UndoRecord> go(const UndoStore &ring, const UndoRecord &shown, Way way);
+    std::optional<UndoRecord> go(const UndoStore &ring, const UndoState &shown, Way way);
 
     // The same, from the latest to the oldest; after that none, and it begins anew.
     bool canBringBack() const;
-    std::optional<UndoRecord> bringBack(const UndoStore &ring, const UndoRecord &shown);
+    std::optional<UndoRecord> bringBack(const UndoStore &ring, const UndoState &shown);
 
     void clear();
 
@@ -98,7 +98,7 @@ private:
     void add(const UndoStore &ring, HeldState state, Place place);
     void addOldest(const UndoStore &ring, HeldState state);
     void renew(const UndoStore &ring, States::iterator kept, Place place);
-    void leave(const UndoStore &ring, const UndoRecord &shown, Place place);
+    void leave(const UndoStore &ring, const UndoState &shown, Place place);
     void moveAside(Place place, qint64 fromDepth);
     void laterBranchLast(const UndoStore &ring);
     void showKept(qint64 id);
@@ -106,7 +106,7 @@ private:
     void setSafe(const UndoStore &ring, bool fromOldSlot);
 
     States m_states;
-    std::optional<UndoRecord> m_offered;
+    std::optional<UndoState> m_offered;
     qsizetype m_mostBytes;
     qint64 m_lastId = 0;
     qint64 m_shown = noId;        // of them

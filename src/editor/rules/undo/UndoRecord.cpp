@@ -36,12 +36,12 @@ qint32 selectionNumber(QStringView field)
 
 } // namespace
 
-QString undoRecordTail(const UndoRecord &record)
+QString undoRecordTail(const UndoState &state)
 {
     QString tail = UndoRecordSeparator.toString();
-    tail += QString::number(record.selectionStart);
+    tail += QString::number(state.selectionStart);
     tail += UndoRecordSeparator;
-    tail += QString::number(record.selectionLength);
+    tail += QString::number(state.selectionLength);
     return tail;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/HouseExport.h"
+#include "base/SharedText.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringView>
@@ -18,12 +19,37 @@ struct UndoRecord
     friend bool operator==(const UndoRecord &, const UndoRecord &) = default;
 };
 
+// The same, with a text that it may have in common with other states.
+struct UndoState
+{
+    UndoState() = default;
+    UndoState(const SharedText &shared, qint32 start, qint32 length)
+        : text(shared)
+        , selectionStart(start)
+        , selectionLength(length)
+    {
+    }
+    UndoState(const QString &string, qint32 start, qint32 length)
+        : UndoState(SharedText(string), start, length)
+    {
+    }
+    UndoState(const UndoRecord &record)
+        : UndoState(record.text, record.selectionStart, record.selectionLength)
+    {
+    }
+    UndoRecord record() const { return {text.toString(), selectionStart, selectionLength}; }
+
+    SharedText text;
+    qint32 selectionStart = 0;
+    qint32 selectionLength = 0;
+};
+
 // Stands between the three fields of a record that is written as one text.
 inline constexpr QStringView UndoRecordSeparator = u"\r\n%%%%%%\r\n";
 
 // The record as one text is its text followed by this: a separator, the start, a
 // separator, the length.
-QString undoRecordTail(const UndoRecord &record);
+QString undoRecordTail(const UndoState &state);
 
 QString joinUndoRecord(const UndoRecord &record);
 

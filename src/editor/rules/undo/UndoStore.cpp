@@ -70,9 +70,9 @@ qint16 UndoStore::NextUndoSlot()
     return m_current;
 }
 
-void UndoStore::StoreUndoSnapshot(const UndoRecord &record)
+void UndoStore::StoreUndoSnapshot(const UndoState &state)
 {
-    putPlain(NextUndoSlot(), record);
+    putPlain(NextUndoSlot(), state);
 }
 
 QString UndoStore::FetchUndoSnapshot(qint16 index) const
@@ -131,18 +131,17 @@ HeldState UndoStore::held(qint16 index) const
     const auto *plain = std::get_if<PlainSlot>(&slot);
     if (!plain)
         return HeldState(std::get<QString>(slot));
-    UndoRecord record = joinedUndoRecord(plain->tail);
-    record.text = plain->text.toString();
-    return HeldState(record);
+    const UndoRecord selection = joinedUndoRecord(plain->tail);
+    return HeldState({plain->text, selection.selectionStart, selection.selectionLength});
 }
 
-bool UndoStore::holdsText(qint16 index, const QString &text) const
+bool UndoStore::holdsText(qint16 index, const SharedText &text) const
 {
     const Slot &slot = slotAt(index);
     if (const auto *plain = std::get_if<PlainSlot>(&slot))
-        return plain->text.equals(SharedText(text));
+        return plain->text.equals(text);
     try {
-        return splitUndoRecord(FetchUndoSnapshot(index)).text == text;
+        return text.equals(SharedText(splitUndoRecord(FetchUndoSnapshot(index)).text));
     } catch (const Error &) {
         return false;
     }
@@ -155,9 +154,9 @@ void UndoStore::put(qint16 index, Slot slot)
         m_encoder.reset();
 }
 
-void UndoStore::putPlain(qint16 index, const UndoRecord &record)
+void UndoStore::putPlain(qint16 index, const UndoState &state)
 {
-    PlainSlot slot{SharedText(record.text), undoRecordTail(record)};
+    PlainSlot slot{state.text, undoRecordTail(state)};
     slot.isWaiting = slot.text.size() + slot.tail.size() >= shortestCompressedRecord;
     put(index, std::move(slot));
     keepWithinBound();
@@ -178,10 +177,12 @@ qsizetype UndoStore::pendingBytes() const
 {
     qsizetype bytes = 0;
     QSet<const QChar *> counted;
-    for (qint16 index = 0; index < slotCount; ++index) {
-        const PlainSlot *waiting = waitingAt(index);
-        if (waiting && index != m_newest)
-            bytes += waiting->text.bytes(counted);
+    SharedText before;
+    for (int age = 0; age < slotCount - 1; ++age) {
+        if (const PlainSlot *waiting = waitingAt(slotOfAge(age))) {
+            bytes += waiting->text.bytes(counted, before);
+            before = waiting->text;
+        }
     }
     return bytes;
 }

@@ -74,7 +74,7 @@ public:
     void setUndoSlot(qint16 index, const QString &slot);
 
     // Takes the next slot. Two equal snapshots in a row are two steps.
-    void StoreUndoSnapshot(const UndoRecord &record);
+    void StoreUndoSnapshot(const UndoState &state);
 
     // The joined record of any slot, within reach or not; empty for an empty one.
     // Raises Error when a compressed slot is damaged.
@@ -103,7 +103,7 @@ public:
     HeldState held(qint16 index) const;
 
     // Whether the slot has this text, whatever its selection. A damaged slot has none.
-    bool holdsText(qint16 index, const QString &text) const;
+    bool holdsText(qint16 index, const SharedText &text) const;
 
     // True while one of the objects below lives: no snapshots are to be taken.
     bool IsRestoringUndo() const { return m_isRestoring; }
@@ -158,7 +158,7 @@ private:
     const PlainSlot *waitingAt(qint16 index) const;
     qint16 NextUndoSlot();
     void put(qint16 index, Slot slot);
-    void putPlain(qint16 index, const UndoRecord &record);
+    void putPlain(qint16 index, const UndoState &state);
 
     qint16 slotOfAge(int age) const;
     std::optional<qint16> oldestWaiting() const;

@@ -286,7 +286,7 @@ TEST(UndoStore, IndexOutsideTheRingIsRefused)
         for (const auto &error : {raisedBy([&] { ring.UndoSlots(index); }),
                                   raisedBy([&] { ring.FetchUndoSnapshot(index); }),
                                   raisedBy([&] { ring.setUndoSlot(index, u"%"_s); }),
-                                  raisedBy([&] { ring.holdsText(index, QString()); })}) {
+                                  raisedBy([&] { ring.holdsText(index, SharedText()); })}) {
             ASSERT_TRUE(error);
             EXPECT_EQ(error->Number(), SubscriptOutOfRange);
             EXPECT_EQ(error->Description(), u"There is no such undo slot"_s);
@@ -301,17 +301,17 @@ TEST(UndoStore, HoldsTheTextWhateverTheSelection)
     ring.StoreUndoSnapshot({text, 5, 6});
     ring.StoreUndoSnapshot({u"short"_s, 1, 0});
     for (int round = 0; round < 2; ++round) {
-        EXPECT_TRUE(ring.holdsText(1, text));
-        EXPECT_FALSE(ring.holdsText(1, text + u'x'));
-        EXPECT_FALSE(ring.holdsText(1, u"short"_s));
-        EXPECT_TRUE(ring.holdsText(2, u"short"_s));
+        EXPECT_TRUE(ring.holdsText(1, SharedText(text)));
+        EXPECT_FALSE(ring.holdsText(1, SharedText(text + u'x')));
+        EXPECT_FALSE(ring.holdsText(1, SharedText(u"short"_s)));
+        EXPECT_TRUE(ring.holdsText(2, SharedText(u"short"_s)));
         encodeAll(ring);
     }
-    EXPECT_FALSE(ring.holdsText(0, QString())); // an empty slot
+    EXPECT_FALSE(ring.holdsText(0, SharedText())); // an empty slot
     ring.setUndoSlot(1, u"*1000:"_s);
-    EXPECT_FALSE(ring.holdsText(1, text));
+    EXPECT_FALSE(ring.holdsText(1, SharedText(text)));
     ring.setUndoSlot(1, u"%only text"_s);
-    EXPECT_FALSE(ring.holdsText(1, u"only text"_s));
+    EXPECT_FALSE(ring.holdsText(1, SharedText(u"only text"_s)));
 }
 
 TEST(UndoStoreRestoring, LastsAsLongAsTheGuardAndNests)
@@ -520,8 +520,8 @@ TEST(UndoStoreBound, StatesOfOneTextComeBackEach)
         for (qint16 index = 1; index <= 49; ++index) {
             ASSERT_EQ(ring.FetchUndoSnapshot(index), joinUndoRecord(stored[index - 1]));
             ASSERT_EQ(ring.UndoSlots(index), encodedSlot(stored[index - 1]));
-            ASSERT_TRUE(ring.holdsText(index, stored[index - 1].text));
-            ASSERT_FALSE(ring.holdsText(index, stored[index % 49].text));
+            ASSERT_TRUE(ring.holdsText(index, SharedText(stored[index - 1].text)));
+            ASSERT_FALSE(ring.holdsText(index, SharedText(stored[index % 49].text)));
         }
         encodeAll(ring);
     }
@@ -553,7 +553,7 @@ TEST(UndoStoreEncodingDeathTest, SlotStaysPlainWhenMemoryRunsOut)
         ring.StoreUndoSnapshot(record);
         limitMemory(8'000'000);
         const bool isPending = ring.encodePending();
-        std::exit(!isPending && ring.isSound() && ring.holdsText(1, record.text) ? 0 : 1);
+        std::exit(!isPending && ring.isSound() && ring.holdsText(1, SharedText(record.text)) ? 0 : 1);
     };
     EXPECT_EXIT(encodeWithLittleMemory(), testing::ExitedWithCode(0), "");
 }
