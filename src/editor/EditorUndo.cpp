@@ -132,7 +132,7 @@ void EditorUndo::show(const UndoRecord &record, const ColouredText &text)
 
 UndoState EditorUndo::shown() const
 {
-    return {BoxText::of(m_box).sharedText(), m_box.SelStart(), m_box.SelLength()};
+    return {BoxText::of(*m_box.document()).sharedText(), m_box.SelStart(), m_box.SelLength()};
 }
 
 void EditorUndo::resetBase()

@@ -1,7 +1,6 @@
 #include "widgets/box/BoxText.h"
 
 #include "widgets/box/BoxMarks.h"
-#include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
@@ -29,9 +28,9 @@ BoxText::BoxText(QTextDocument &document)
     connect(&document, &QTextDocument::contentsChange, this, &BoxText::noteChange);
 }
 
-const BoxText &BoxText::of(const RichTextBox &box)
+const BoxText &BoxText::of(const QTextDocument &document)
 {
-    return *box.document()->findChild<BoxText *>({}, Qt::FindDirectChildrenOnly);
+    return *document.findChild<BoxText *>({}, Qt::FindDirectChildrenOnly);
 }
 
 int BoxText::documentLength() const

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/SharedText.h"
-#include <ORVTListview/Export.h>
 
 #include <QtCore/QObject>
 #include <QtCore/QString>
@@ -10,8 +9,6 @@ class QTextBlock;
 class QTextDocument;
 
 namespace ORVTListview {
-
-class RichTextBox;
 
 // The text of a document as a box shows it to the outside: lines joined by
 // CR LF, and positions that count both characters. Positions are UTF-16 units
@@ -25,8 +22,8 @@ class BoxText final : public QObject
 public:
     explicit BoxText(QTextDocument &document);
 
-    // That of a box, for those who build on it.
-    static const BoxText &of(const RichTextBox &box);
+    // That of a box's document, for those who build on the box.
+    static const BoxText &of(const QTextDocument &document);
 
     qint32 length() const;
     qint32 lineCount() const;
