@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed.</source>
-        <translation>Rien à restaurer : Ctrl+Z et Ctrl+Y atteignent tout ce qui a été saisi.</translation>
+        <translation>Rien à restaurer&#xa0;: Ctrl+Z et Ctrl+Y atteignent tout ce qui a été saisi.</translation>
     </message>
     <message>
         <source>&amp;Find…</source>

@@ -39,6 +39,8 @@ void ProgramClipboard::RTextCut()
 // What is left of the line is no word that is being typed.
 void ProgramClipboard::takeSelectionOut()
 {
+    if (m_box.SelLength() == 0)
+        return;
     const RichTextBox::Changing changing(m_box);
     if (m_colouring.edit([this] { m_box.setSelText(QString()); }))
         m_colouring.finishEdit();

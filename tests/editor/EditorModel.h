@@ -180,11 +180,18 @@ struct EditorModel
         edited = lineOf(start);
     }
 
+    // What is left of the line is finished.
+    void removeSelection()
+    {
+        replaceSelection({});
+        finish(lineOf(start));
+    }
+
     void backspace()
     {
         push();
         if (length > 0) {
-            replaceSelection({});
+            removeSelection();
             return;
         }
         const qint32 offset = start - lineStart(start);
@@ -213,7 +220,7 @@ struct EditorModel
     {
         push();
         if (length > 0)
-            replaceSelection({});
+            removeSelection();
         else if (start < text.size())
             erase(start, text.sliced(start).startsWith(u"\r\n"_s) ? 2 : 1);
     }
@@ -222,7 +229,7 @@ struct EditorModel
     {
         if (data.isEmpty())
             return;
-        if (data != text.sliced(start, length))
+        if (withCrLf(data) != text.sliced(start, length))
             push();
         if (data.contains(u'\\'))
             return;

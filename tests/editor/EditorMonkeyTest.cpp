@@ -125,7 +125,7 @@ private:
         press('X', Qt::ControlModifier);
         if (m_model.length > 0) {
             m_model.push();
-            m_model.replaceSelection({});
+            m_model.removeSelection();
         }
     }
 

@@ -171,6 +171,16 @@ private Q_SLOTS:
         QVERIFY(host.box().Text() == u"IF"_s);
     }
 
+    void cuttingNothingLeavesTheWordThatIsTyped()
+    {
+        EditorHost host;
+        host.type(u"if"_s);
+        host.list->RTextCut();
+        QCOMPARE(host.marked(), u"if|"_s);
+        host.key('X', Qt::ControlModifier);
+        QCOMPARE(host.marked(), u"if|"_s);
+    }
+
     void remMakesTheLineAComment()
     {
         EditorHost host;

@@ -109,6 +109,7 @@ private Q_SLOTS:
         QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON"_s);
         workbench.box().setSelStart(workbench.box().TextLength());
         workbench.type(u" a b"_s);
+        QVERIFY(enabled(workbench).startsWith(u"Undo"_s));
         workbench.choose(u"Undo"_s);
         workbench.window.statusBar()->clearMessage();
         workbench.choose(u"Restore Typed Text"_s);

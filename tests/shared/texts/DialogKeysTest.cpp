@@ -39,11 +39,16 @@ protected:
         const QStringList keyed = withAccessKeys(captions);
         QSet<QChar> keys;
         for (qsizetype i = 0; i < captions.size(); ++i) {
-            EXPECT_EQ(keyed[i].count(u'&'), 1) << keyed[i].toStdString();
             EXPECT_EQ(QString(keyed[i]).remove(u'&'), captions[i]);
+            if (texts[i] == u"...") { // dots are no keys
+                EXPECT_EQ(keyed[i], captions[i]);
+                continue;
+            }
+            EXPECT_EQ(keyed[i].count(u'&'), 1) << keyed[i].toStdString();
             keys << keyed[i][keyed[i].indexOf(u'&') + 1].toUpper();
         }
-        EXPECT_EQ(keys.size(), captions.size()) << keyed.join(u' ').toStdString();
+        EXPECT_EQ(keys.size(), captions.size() - captions.count(Localise(u"..."_s)))
+            << keyed.join(u' ').toStdString();
     }
 
 private:
