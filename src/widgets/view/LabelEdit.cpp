@@ -106,25 +106,29 @@ void LabelEdit::closeFor(const QObject &receiver, const QEvent &event)
         this, [this] { m_wasClosedByPress = false; }, Qt::QueuedConnection);
 }
 
+// What is left of the event: nothing for what has gone meanwhile, nor beside a label
+// that a receiver edits again. Where one has shown a message, that took the release.
 bool LabelEdit::eventFilter(QObject *watched, QEvent *event)
 {
     const bool presses = isPress(*event);
-    if (!presses && event->type() != QEvent::Wheel && !isKey(*event))
+    const bool isMouse = presses || event->type() == QEvent::Wheel;
+    if (!isMouse && !isKey(*event))
         return false;
     const QPointer<QObject> receiver(watched);
     const QPointer<LabelEdit> self(this);
     const Qt::MouseButtons held = QGuiApplication::mouseButtons();
-    if (!isKey(*event))
+    if (isMouse)
         closeFor(*watched, *event);
     if (self)
         tellNow();
-    if (!receiver) {
+    const bool editsAgain =
+        self && receiver && isMouse && editor() && isBeside(*editor(), *watched, *event);
+    if (!receiver || editsAgain) {
         event->accept();
         return true;
     }
     if (!presses)
         return false;
-    // Where a message was shown meanwhile, it took the release.
     const Qt::MouseButton button = static_cast<const QMouseEvent *>(event)->button();
     return held.testFlag(button) && !QGuiApplication::mouseButtons().testFlag(button);
 }

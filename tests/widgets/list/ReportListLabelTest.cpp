@@ -91,6 +91,7 @@ private Q_SLOTS:
     void keepsWhatIsTypedWhenTheHostWrites();
     void keepsLongLabels();
     void swallowsAPressThatIsOver();
+    void staysWhereTheHostEditsOn();
     void leavesTheLabelOnEscape();
     void doesNotGoOnToTheNextRow();
     void doesNothingWithoutASelectedRow();
@@ -417,6 +418,34 @@ void ReportListLabelTest::swallowsAPressThatIsOver()
     QVERIFY(then.startsWith(u"AfterLabelEdit new"_s));
     QVERIFY(!then.contains(u"MouseDown"_s));
     QCOMPARE(shown->SelectedItem(), shown.item(2));
+}
+
+// A host that refuses a name and lets the user correct it.
+void ReportListLabelTest::staysWhereTheHostEditsOn()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    int refused = 0;
+    connect(shown.list, &ReportList::AfterLabelEdit, this,
+            [&](qint16 &cancel, const QString &text) {
+                if (text != u"bad"_s)
+                    return;
+                ++refused;
+                cancel = 1;
+                shown->StartLabelEdit();
+            });
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"bad"_s);
+    shown.click(shown.cell(4));
+    QCoreApplication::processEvents();
+    QCOMPARE(refused, 1);
+    QCOMPARE(shown->SelectedItem(), shown.item(2));
+    QVERIFY(hasEditor(shown));
+    QTest::keyClicks(QApplication::focusWidget(), u"good"_s);
+    shown.click(shown.cell(4));
+    QCOMPARE(shown.item(2)->Text(), u"good"_s);
+    QCOMPARE(shown->SelectedItem(), shown.item(4));
+    QVERIFY(!hasEditor(shown));
 }
 
 void ReportListLabelTest::leavesTheLabelOnEscape()
