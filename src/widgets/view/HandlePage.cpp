@@ -1,24 +1,74 @@
 #include "widgets/view/HandlePage.h"
 
 #include <new>
+
+#ifdef Q_OS_UNIX
 #include <sys/mman.h>
 #include <unistd.h>
+#else
+#include <cstring>
+#endif
 
 namespace ORVTListview {
+namespace {
 
-HandlePage::HandlePage()
-    : m_size(static_cast<std::size_t>(sysconf(_SC_PAGESIZE)))
+#ifdef Q_OS_UNIX
+std::size_t pageSize()
 {
-    void *memory =
-        mmap(nullptr, m_size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    return static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
+
+void *mapped(std::size_t size)
+{
+    void *memory = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (memory == MAP_FAILED)
         throw std::bad_alloc();
-    m_memory = static_cast<std::byte *>(memory);
+    return memory;
+}
+
+void unmap(void *memory, std::size_t size)
+{
+    munmap(memory, size);
+}
+
+void empty(void *memory, std::size_t size)
+{
+    madvise(memory, size, MADV_DONTNEED);
+}
+#else // the memory stays
+std::size_t pageSize()
+{
+    return 4096;
+}
+
+void *mapped(std::size_t size)
+{
+    return ::operator new(size);
+}
+
+void unmap(void *memory, std::size_t)
+{
+    ::operator delete(memory);
+}
+
+void empty(void *memory, std::size_t size)
+{
+    std::memset(memory, 0, size);
+}
+#endif
+
+} // namespace
+
+HandlePage::HandlePage()
+    : m_memory(nullptr)
+    , m_size(pageSize())
+{
+    m_memory = static_cast<std::byte *>(mapped(m_size));
 }
 
 HandlePage::~HandlePage()
 {
-    munmap(m_memory, m_size);
+    unmap(m_memory, m_size);
 }
 
 void *HandlePage::take(std::size_t size)
@@ -43,7 +93,7 @@ void HandlePage::letGo()
 void HandlePage::giveBack()
 {
     if (m_isFull && m_living == 0)
-        madvise(m_memory, m_size, MADV_DONTNEED);
+        empty(m_memory, m_size);
 }
 
 } // namespace ORVTListview

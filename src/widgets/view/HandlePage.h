@@ -7,7 +7,8 @@
 namespace ORVTListview {
 
 // A page of memory for handles, which can be read for as long as the page lives. Once
-// all that was taken of it has been let go, it reads as zeros and costs no memory.
+// all that was taken of it has been let go, it reads as zeros and, where the system can
+// take single pages back, costs no memory.
 class HandlePage
 {
 public:
