@@ -68,6 +68,7 @@ private Q_SLOTS:
     void columnsAloneBeginAtTheirStart();
     void keysGoOnFromTheFirstRow();
     void anOpenLabelIsDropped();
+    void anEnteredLabelIsDropped();
     void aLabelToComeIsDropped();
     void theRowAtTheTopIsTold();
     void whatIsRemovedScrollsNothing();
@@ -182,6 +183,27 @@ void RebuiltTableTest::anOpenLabelIsDropped()
         QVERIFY(shown.table().hasFocus());
         QTRY_VERIFY(!labelEditor(shown));
         QCOMPARE(events.take(), QString());
+        QCOMPARE(shown.item(3)->Text(), u"03"_s);
+    }
+}
+
+// The event would name a row that is not there.
+void RebuiltTableTest::anEnteredLabelIsDropped()
+{
+    const ShownListView shown(dsVariable);
+    for (const bool byKey : {true, false}) {
+        shown->setFocus();
+        shown->setSelectedItem(shown.item(3));
+        shown->StartLabelEdit();
+        QTest::keyClicks(labelEditor(shown), u"new"_s);
+        ListViewEvents events(shown.list);
+        if (byKey)
+            QTest::sendKeyEvent(QTest::Press, labelEditor(shown), Qt::Key_Return, QString(), {});
+        else
+            shown.part(u"ImgRead"_s).setFocus();
+        shown->ChangeListviewNumber(byKey ? 40 : 30);
+        QCoreApplication::processEvents();
+        QVERIFY(!events.log.join(u' ').contains(u"AfterLabelEdit"_s));
         QCOMPARE(shown.item(3)->Text(), u"03"_s);
     }
 }

@@ -247,9 +247,9 @@ private Q_SLOTS:
         Points points;
         points.open(u"Inputs"_s);
         const ColumnHeader &label = *points.code().ColumnHerders()->Item(u"Label"_s);
-        const ColumnHeader &description = *points.code().ColumnHerders()->Item(u"Description"_s);
+        const ColumnHeader &number = *points.code().ColumnHerders()->Item(u"#"_s);
         const float labels = label.Width();
-        const float descriptions = description.Width();
+        const float numbers = number.Width();
         points.speak(QLocale(QLocale::German));
         QCOMPARE(points.node(u"Inputs"_s)->Text(), u"Eingänge"_s);
         QCOMPARE(points.code().Caption(), u"Eingänge"_s);
@@ -257,7 +257,7 @@ private Q_SLOTS:
         QCOMPARE(points.cell(1, u"Commissioned"_s), u"Ja"_s);
         QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);
         QVERIFY(label.Width() > labels); // "Bezeichnung" needs more room
-        QCOMPARE(description.Width(), descriptions);
+        QCOMPARE(number.Width(), numbers);
     }
 
     void aFindingLeadsBackToTheProgram()

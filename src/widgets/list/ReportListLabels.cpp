@@ -23,11 +23,9 @@ void ReportList::StartLabelEdit()
 
 void ReportList::noteLabel(ListItem &item, const QString &text)
 {
-    d->labels.enterSoon(*this, &ReportList::AfterLabelEdit, text,
-                        [this, &item](const QString &label) {
-                            if (item.isAlive())
-                                setLabel(item, label);
-                        });
+    d->labels.enterSoon(
+        *this, &ReportList::AfterLabelEdit, text, [&item] { return item.isAlive(); },
+        [this, &item](const QString &label) { setLabel(item, label); });
 }
 
 void ReportList::setLabel(ListItem &item, const QString &label)

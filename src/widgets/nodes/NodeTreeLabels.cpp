@@ -17,10 +17,9 @@ void NodeTree::StartLabelEdit()
 
 void NodeTree::noteLabel(Node &node, const QString &text)
 {
-    d->labels.enterSoon(*this, &NodeTree::AfterLabelEdit, text, [&node](const QString &label) {
-        if (node.isAlive())
-            node.setText(label);
-    });
+    d->labels.enterSoon(
+        *this, &NodeTree::AfterLabelEdit, text, [&node] { return node.isAlive(); },
+        [&node](const QString &label) { node.setText(label); });
 }
 
 void NodeTree::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)

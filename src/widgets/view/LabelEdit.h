@@ -39,14 +39,16 @@ public:
 
     void open(const QModelIndex &label);
 
-    // The editor is being closed while this is called; event and label come later.
+    // The editor is being closed while this is called; event and label come later, if
+    // what was edited is still there.
     template <typename View>
     void enterSoon(View &view, void (View::*after)(qint16 &, QString &), const QString &entered,
+                   const std::function<bool()> &isThere,
                    const std::function<void(const QString &)> &enter)
     {
-        tellSoon([&view, after, label = entered, enter]() mutable {
+        tellSoon([&view, after, label = entered, isThere, enter]() mutable {
             qint16 cancel = 0;
-            if (raiseEvent(view, after, cancel, label) && cancel == 0)
+            if (isThere() && raiseEvent(view, after, cancel, label) && cancel == 0 && isThere())
                 enter(label);
         });
     }

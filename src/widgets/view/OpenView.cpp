@@ -1,5 +1,7 @@
 #include "widgets/view/OpenView.h"
 
+#include <QtCore/QCoreApplication>
+
 namespace ORVTListview::OpenView {
 namespace {
 
@@ -45,6 +47,7 @@ void dropEditor(QAbstractItemView &view)
         return;
     while (editor->parentWidget() != view.viewport())
         editor = editor->parentWidget();
+    QCoreApplication::removePostedEvents(view.itemDelegate(), QEvent::MetaCall); // Enter's
     (view.*Opened::close)(editor, QAbstractItemDelegate::RevertModelCache);
 }
 
