@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/HouseExport.h"
+
 #include <QtCore/QList>
 #include <QtCore/QSet>
 #include <QtCore/QString>
@@ -11,7 +13,7 @@ namespace ORVTListview {
 // too. Made for many states of one long text: what two of them have in common is
 // in memory once. Positions are UTF-16 units from 0; a piece may end inside a
 // surrogate pair.
-class SharedText
+class ORVT_HOUSE_EXPORT SharedText
 {
 public:
     SharedText() = default;

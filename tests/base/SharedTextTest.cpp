@@ -189,8 +189,9 @@ TEST(SharedText, ReplacingAgainAndAgainLeavesFewPieces)
         string.replace(start, length, part);
         text = text.replaced(start, length, part);
         ASSERT_EQ(text.size(), string.size());
-        if (round % 50 == 0)
+        if (round % 50 == 0) {
             ASSERT_EQ(text.toString(), string);
+        }
         ASSERT_LE(text.pieceCount(), 3 + 2 * string.size() / SharedText::joinedLength);
     }
     EXPECT_TRUE(text.equals(SharedText(string)));
