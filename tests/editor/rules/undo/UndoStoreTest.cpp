@@ -553,7 +553,8 @@ TEST(UndoStoreEncodingDeathTest, SlotStaysPlainWhenMemoryRunsOut)
         ring.StoreUndoSnapshot(record);
         limitMemory(8'000'000);
         const bool isPending = ring.encodePending();
-        std::exit(!isPending && ring.isSound() && ring.holdsText(1, SharedText(record.text)) ? 0 : 1);
+        std::exit(!isPending && ring.isSound() && ring.holdsText(1, SharedText(record.text)) ? 0
+                                                                                             : 1);
     };
     EXPECT_EXIT(encodeWithLittleMemory(), testing::ExitedWithCode(0), "");
 }
