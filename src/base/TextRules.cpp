@@ -2,6 +2,8 @@
 
 #include <QtCore/QString>
 
+#include <array>
+
 namespace ORVTListview {
 namespace {
 
@@ -70,6 +72,16 @@ constexpr bool needsCaseTable(char16_t c)
     return c > 0xFE || c == 0xB5 || c == 0xDF;
 }
 
+// The folded form of a character in Latin-1; 0 for one that needs the table.
+constexpr auto foldedLatin1 = [] {
+    std::array<char16_t, 256> folded{};
+    for (char16_t c = 0; c < folded.size(); ++c) {
+        if (!needsCaseTable(c))
+            folded[c] = c < 0x80 ? smallAscii(c) : largeLatin1(c);
+    }
+    return folded;
+}();
+
 void foldByTable(QStringView text, FoldedText &folded)
 {
     const QString upper = text.toString().toUpper();
@@ -117,11 +129,12 @@ std::optional<bool> toBoolean(QStringView text)
 void foldCase(QStringView text, FoldedText &folded)
 {
     folded.resize(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t c = text[i].unicode();
-        if (needsCaseTable(c))
+    char16_t *next = folded.data();
+    for (const QChar c : text) {
+        const char16_t fold = c.unicode() < foldedLatin1.size() ? foldedLatin1[c.unicode()] : u'\0';
+        if (fold == 0)
             return foldByTable(text, folded);
-        folded[i] = c < 0x80 ? smallAscii(c) : largeLatin1(c);
+        *next++ = fold;
     }
 }
 

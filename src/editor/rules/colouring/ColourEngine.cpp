@@ -32,11 +32,13 @@ public:
     OffsetShift(QStringView line, ColourSink &target)
         : m_target(target)
     {
+        m_origins.resize(line.size());
+        qsizetype *next = m_origins.data();
         qsizetype blanks = 0;
         for (qsizetype i = 0; i < line.size(); ++i) {
             if (line[i] == u')')
-                m_origins.resize(m_origins.size() - blanks);
-            m_origins.append(i);
+                next -= blanks;
+            *next++ = i;
             blanks = line[i] == u' ' ? blanks + 1 : 0;
         }
     }
@@ -55,20 +57,6 @@ private:
     ColourSink &m_target;
     QVarLengthArray<qsizetype, 256> m_origins;
 };
-
-void splitAtBlanks(const ColourEngine &engine, QStringView line, ColourSink &sink)
-{
-    qsizetype from = 0;
-    while (true) {
-        const qsizetype blank = line.indexOf(u' ', from);
-        const qsizetype end = blank < 0 ? line.size() : blank;
-        engine.colourToken(line.sliced(from, end - from), from, sink);
-        if (blank < 0)
-            return;
-        sink.blank();
-        from = blank + 1;
-    }
-}
 
 // Only a token that no line was split for holds any.
 void trimBlanks(QStringView &word, qsizetype &offset)
@@ -114,20 +102,48 @@ void ColourEngine::colourText(QStringView text, bool firstLineIsComment, ColourS
 void ColourEngine::colourLine(QStringView line, ColourSink &sink) const
 {
     if (!hasBlankBeforeBracket(line)) {
-        splitAtBlanks(*this, line, sink);
+        colourTokens(line, sink);
         return;
     }
     const QString normalised = NormaliseClosingParens(line);
     OffsetShift shift(line, sink);
-    splitAtBlanks(*this, normalised, shift);
+    colourTokens(normalised, shift);
+}
+
+// Tokens are short: looking at each character is faster than a search for the next
+// blank and another for a tab.
+void ColourEngine::colourTokens(QStringView line, ColourSink &sink) const
+{
+    qsizetype from = 0;
+    bool hasTab = false;
+    for (qsizetype i = 0; i <= line.size(); ++i) {
+        const bool isEnd = i == line.size();
+        if (!isEnd && line[i] != u' ') {
+            hasTab = hasTab || line[i] == u'\t';
+            continue;
+        }
+        const QStringView token = line.sliced(from, i - from);
+        if (hasTab)
+            colourTabbed(token, from, sink);
+        else
+            colourWord(token, from, sink);
+        if (!isEnd)
+            sink.blank();
+        from = i + 1;
+        hasTab = false;
+    }
 }
 
 void ColourEngine::colourToken(QStringView token, qsizetype offset, ColourSink &sink) const
 {
-    if (!token.contains(u'\t')) {
+    if (token.contains(u'\t'))
+        colourTabbed(token, offset, sink);
+    else
         colourWord(token, offset, sink);
-        return;
-    }
+}
+
+void ColourEngine::colourTabbed(QStringView token, qsizetype offset, ColourSink &sink) const
+{
     reportEmptyList();
     // Only a tab that leaves an empty piece counts, and of a token of nothing but
     // tabs the pieces are one more than the tabs.

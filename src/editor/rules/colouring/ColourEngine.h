@@ -25,6 +25,8 @@ public:
     void colourToken(QStringView token, qsizetype offset, ColourSink &sink) const;
 
 private:
+    void colourTokens(QStringView line, ColourSink &sink) const;
+    void colourTabbed(QStringView token, qsizetype offset, ColourSink &sink) const;
     void colourWord(QStringView word, qsizetype offset, ColourSink &sink) const;
     bool tryListedWord(QStringView word, qsizetype offset, ColourSink &sink) const;
     void reportEmptyList() const;

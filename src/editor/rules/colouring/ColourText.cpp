@@ -2,6 +2,7 @@
 
 #include "editor/rules/colouring/ColourTable.h"
 
+#include <algorithm>
 #include <array>
 
 namespace ORVTListview {
@@ -10,6 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Gathers pieces, which are short, before they go to the text.
 class RtfBody final : public ColourSink
 {
 public:
@@ -18,16 +20,35 @@ public:
     {
     }
 
+    // To be called at the end.
+    void flush()
+    {
+        m_target.append(QStringView(m_gathered.data(), m_end));
+        m_end = m_gathered.data();
+    }
+
     void run(const ColourRun &run) override
     {
-        m_target.append(colourWord(run.colourIndex));
-        m_target.append(run.shown);
+        append(colourWord(run.colourIndex));
+        append(run.shown);
     }
-    void blank() override { m_target.append(u' '); }
-    void tab() override { m_target.append(QStringView(u"\\tab ")); }
-    void lineEnd() override { m_target.append(QStringView(u"\r\n\\par ")); }
+    void blank() override { append(u" "); }
+    void tab() override { append(u"\\tab "); }
+    void lineEnd() override { append(u"\r\n\\par "); }
 
 private:
+    qsizetype room() const { return m_gathered.data() + m_gathered.size() - m_end; }
+
+    void append(QStringView piece)
+    {
+        if (piece.size() > room())
+            flush();
+        if (piece.size() > room())
+            m_target.append(piece);
+        else
+            m_end = std::copy(piece.begin(), piece.end(), m_end);
+    }
+
     static QStringView colourWord(qint32 index)
     {
         static constexpr std::array<QStringView, colourSlots + 1> words{
@@ -37,6 +58,8 @@ private:
     }
 
     QString &m_target;
+    std::array<QChar, 512> m_gathered;
+    QChar *m_end = m_gathered.data();
 };
 
 class ColouredTextBuilder final : public ColourSink
@@ -80,6 +103,7 @@ QString ColourText(const ColourEngine &engine, QStringView Text, const QString &
     rtf.append(Header);
     RtfBody body(rtf);
     engine.colourText(Text, FirstLineIsComment, body);
+    body.flush();
     rtf.append(u'}');
     return rtf;
 }
@@ -89,6 +113,7 @@ QString ColourLine(const ColourEngine &engine, QStringView Line)
     QString rtf;
     RtfBody body(rtf);
     engine.colourLine(Line, body);
+    body.flush();
     return rtf;
 }
 
@@ -97,6 +122,7 @@ QString ColourToken(const ColourEngine &engine, QStringView Token)
     QString rtf;
     RtfBody body(rtf);
     engine.colourToken(Token, 0, body);
+    body.flush();
     return rtf;
 }
 

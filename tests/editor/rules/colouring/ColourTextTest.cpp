@@ -44,6 +44,18 @@ TEST(ColourText, CommentLinesStayAsTheyAre)
     EXPECT_EQ(colouring.text(u"REM \\ { }"_s), u"\\cf2 REM \\ { }}"_s);
 }
 
+TEST(ColourText, PiecesOfAnyLengthComeInTheirOrder)
+{
+    Colouring colouring;
+    for (qsizetype length = 490; length < 530; ++length) {
+        const QString comment = u"REM "_s + QString(length, u'x');
+        const QString word(length, u'y');
+        EXPECT_EQ(colouring.text(u"if a\r\n"_s + comment + u"\r\n"_s + word + u" if"_s),
+                  u"\\cf6 IF \\cf0 a\r\n\\par \\cf2 "_s + comment + u"\r\n\\par \\cf0 "_s + word +
+                      u" \\cf6 IF}"_s);
+    }
+}
+
 TEST(ColourText, TheFirstLineCanContinueAComment)
 {
     Colouring colouring;
