@@ -5,6 +5,8 @@
 #include <ORVTListview/SettingsStore.h>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 namespace ORVTListview::PageArrangement {
 
@@ -28,7 +30,10 @@ QString pageCaption(qint32 page)
 
 QString pageKey(qint32 page)
 {
-    return u"Page"_s + QString::number(page);
+    // The most of building a tree of many pages would be putting a text together.
+    std::array<char, 16> key{'P', 'a', 'g', 'e'};
+    const auto *end = std::to_chars(key.data() + 4, key.data() + key.size(), page).ptr;
+    return QString::fromLatin1(key.data(), end - key.data());
 }
 
 qint16 storedPage(const QString &text)
