@@ -4,51 +4,14 @@
 #include "base/TextRules.h"
 #include "find/rules/ProgramSearch.h"
 #include "widgets/box/BoxCommands.h"
-#include "widgets/box/KeptView.h"
-
-#include <QtGui/QTextBlock>
-#include <QtGui/QTextDocument>
-
-#include <algorithm>
 
 namespace ORVTListview {
 
 void BoxSearch::begin(RichTextBox &box)
 {
     m_box = &box;
-    goOnAt(box.SelStart() + 1);
+    m_start = box.SelStart() + 1;
     m_options = RichTextBox::FindNoHighlight;
-}
-
-void BoxSearch::end()
-{
-    m_box = nullptr;
-    m_place = {};
-}
-
-void BoxSearch::goOnAt(qint32 start)
-{
-    const qint32 line = m_box->GetLineFromChar(start);
-    const QTextBlock block = m_box->document()->findBlockByNumber(line);
-    const qint32 offset = std::min(start - m_box->lineStart(line), block.length() - 1);
-    const int place = block.position() + offset;
-    m_distance = start - m_box->lineStart(line) - offset;
-    m_isFront = place == 0;
-    m_place = QTextCursor(m_box->document());
-    m_place.setPosition(std::max(0, place - 1));
-    m_place.setPosition(place, QTextCursor::KeepAnchor);
-}
-
-// Without the character before the place it is another text; the user looks at the caret.
-qint32 BoxSearch::start() const
-{
-    if (m_isFront)
-        return m_box->lineText(0).isEmpty() ? m_distance : 0;
-    if (m_place.hasSelection())
-        return m_box->lineStart(m_place.blockNumber()) + m_place.positionInBlock() +
-               (m_place.atBlockEnd() ? m_distance : 0);
-    const qint32 caret = m_box->SelStart();
-    return caret < m_box->TextLength() ? caret : 0;
 }
 
 TextSearch BoxSearch::how() const
@@ -62,17 +25,17 @@ bool BoxSearch::findNext(const QString &wanted)
     if (!m_box || wanted.isEmpty())
         return false;
     const QString text = asInBox(wanted);
-    const auto place = static_cast<qint32>(findInProgram(m_box->Text(), text, start(), how()));
+    const auto place = static_cast<qint32>(findInProgram(m_box->Text(), text, m_start, how()));
     if (place < 0) {
         m_box->setSelLength(0);
-        goOnAt(0);
+        m_start = 0;
         return false;
     }
     const auto length = static_cast<qint32>(text.size());
-    const KeptView view(*m_box);
     m_box->setSelStart(place);
     m_box->setSelLength(length);
-    goOnAt(place + length);
+    m_box->ensureCursorVisible();
+    m_start = place + length;
     return true;
 }
 
@@ -83,7 +46,7 @@ void BoxSearch::replace(const QString &wanted, const QString &text)
         return;
     m_box->commands().replace({{m_box->SelStart(), m_box->SelLength()}}, text);
     if (m_box)
-        goOnAt(m_box->SelStart() + 1); // the caret stands behind the new text
+        m_start = m_box->SelStart() + 1; // the caret stands behind the new text
 }
 
 qsizetype BoxSearch::replaceAll(const QString &wanted, const QString &text)

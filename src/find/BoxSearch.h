@@ -3,15 +3,13 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
-#include <QtGui/QTextCursor>
 
 namespace ORVTListview {
 
 struct TextSearch;
 
 // A search through a box: where it goes on and how it compares. It changes the text
-// through the box's commands only, so that the rules of the box's owner hold. In
-// another text than the one searched last it goes on at the caret. Once
+// through the box's commands only, so that the rules of the box's owner hold. Once
 // the box is destroyed, or without one, nothing is found and nothing replaced.
 // Why it is so: docs/decisions/find.md.
 class BoxSearch
@@ -20,7 +18,7 @@ public:
     // Begins one character behind the selection's start, with neither whole words
     // nor letter case asked for.
     void begin(RichTextBox &box);
-    void end();
+    void end() { m_box = nullptr; }
 
     RichTextBox *box() const { return m_box; }
 
@@ -39,13 +37,9 @@ public:
 
 private:
     TextSearch how() const;
-    void goOnAt(qint32 start);
-    qint32 start() const;
 
     QPointer<RichTextBox> m_box;
-    QTextCursor m_place;   // the character before the next search's start
-    qint32 m_distance = 0; // of the start, when it is inside a line end
-    bool m_isFront = true; // there is no character before it
+    qint32 m_start = 0; // of the next search
     QFlags<RichTextBox::FindOption> m_options;
 };
 

@@ -1,7 +1,6 @@
 // The find dialog and its surroundings: modal and beside the editor, one for a
 // thread, on its screen, and what may happen to its editor.
 
-#include "base/TextPiece.h"
 #include "find/FindFixture.h"
 #include "support/WidgetTest.h"
 
@@ -298,80 +297,6 @@ private Q_SLOTS:
         FindHost host;
         host.open(u"a"_s);
         QCOMPARE(host.dialog().windowHandle()->transientParent(), host.form.windowHandle());
-    }
-
-    void anotherTextIsSearchedFromItsFront_data()
-    {
-        QTest::addColumn<bool>("isRtf");
-        QTest::newRow("plain") << false;
-        QTest::newRow("RTF, whose caret is at the end") << true;
-    }
-    void anotherTextIsSearchedFromItsFront()
-    {
-        QFETCH(const bool, isRtf);
-        FindHost host;
-        host.open(u"| x a x b x c"_s);
-        host.enter(0, u"x"_s);
-        for (int i = 0; i < 2; ++i) { // as often as there are other texts
-            host.findNext();
-            host.findNext();
-            QVERIFY(host.box().SelStart() > 2);
-            const QString text = u"x 1 x 2 x 3 x 4"_s;
-            if (isRtf)
-                host.list->setCodeTextRTF(host.list->GetColorText(text));
-            else
-                host.list->setCodeText(text);
-            host.findNext();
-            QCOMPARE(host.box().SelStart(), 0);
-            host.findNext();
-            QCOMPARE(host.box().SelStart(), 4);
-        }
-    }
-
-    void theSearchGoesOnWhereTheTextHasMoved()
-    {
-        FindHost host;
-        host.open(u"| x a x b x c"_s);
-        host.enter(0, u"x"_s);
-        host.findNext();
-        QCOMPARE(host.box().SelStart(), 1);
-        host.box().setSelStart(0);
-        host.box().setSelText(u"x x x x"_s);
-        host.findNext();
-        QCOMPARE(host.box().SelStart(), 12);
-        host.box().replacePieces(QList<TextPiece>{{0, 10}}, QString());
-        host.findNext();
-        QCOMPARE(host.box().SelStart(), 6);
-    }
-
-    void afterUndoTheSearchGoesOnAtTheCaret()
-    {
-        FindHost host;
-        host.open(u"|x a\r\nx b\r\nx c\r\nx d"_s, FindHost::Replace);
-        host.enter(u"x"_s, u"y"_s);
-        host.box().setSelStart(0);
-        host.findNext();
-        QCOMPARE(host.box().SelStart(), 5);
-        host.replace();
-        QCOMPARE(host.box().SelStart(), 10);
-        host.replace();
-        QString errMsg;
-        host.list->Undo(errMsg);
-        const qint32 caret = host.box().SelStart();
-        QVERIFY(caret > 0);
-        host.findNext();
-        QCOMPARE(host.box().SelStart(), caret);
-    }
-
-    void theDisabledEditorIsNotReplacedIn()
-    {
-        FindHost host;
-        host.open(u"|x a x"_s, FindHost::Replace);
-        host.enter(u"x"_s, u"y"_s);
-        host.list->setRichTexteNable(false);
-        QVERIFY(!host.button(2).isEnabled() && !host.button(3).isEnabled());
-        host.list->setRichTexteNable(true);
-        QVERIFY(host.button(2).isEnabled() && host.button(3).isEnabled());
     }
 
     void controlsHaveNamesForScreenReaders()
