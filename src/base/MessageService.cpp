@@ -1,5 +1,7 @@
 #include "base/MessageService.h"
 
+#include "base/EventGuard.h"
+
 #include <QtCore/QLoggingCategory>
 
 #include <utility>
@@ -107,10 +109,17 @@ MessagesLater::MessagesLater(Messages &messages)
     ++m_messages.m_delays;
 }
 
-MessagesLater::~MessagesLater()
+MessagesLater::~MessagesLater() noexcept(false)
 {
-    if (--m_messages.m_delays == 0)
+    if (--m_messages.m_delays > 0)
+        return;
+    if (std::uncaught_exceptions() == m_failures)
         m_messages.showWaiting();
+    else // the operation has failed, and that is to be told
+        EventGuard::run([this] {
+            m_messages.showWaiting();
+            return true;
+        });
 }
 
 } // namespace ORVTListview

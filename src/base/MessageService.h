@@ -5,6 +5,7 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
+#include <exception>
 #include <memory>
 
 namespace ORVTListview {
@@ -73,11 +74,12 @@ class ORVT_HOUSE_EXPORT MessagesLater
 {
 public:
     explicit MessagesLater(Messages &messages);
-    ~MessagesLater();
+    ~MessagesLater() noexcept(false);  // what the service throws
     Q_DISABLE_COPY_MOVE(MessagesLater) // one begin, one end
 
 private:
     Messages &m_messages;
+    int m_failures = std::uncaught_exceptions();
 };
 
 // Equal messages shown while one of these lives may be merged by the service.

@@ -95,8 +95,10 @@ bool ORVListView::MultiSelect() const
 
 void ORVListView::setMultiSelect(bool MultiSelect)
 {
+    const QPointer<ORVListView> self(this);
     d->setMultiSelect(MultiSelect);
-    d->told.tell(*this);
+    if (self) // a receiver may have destroyed it
+        d->told.tell(*this);
 }
 
 void ORVListView::InitStrings()

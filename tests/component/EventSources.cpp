@@ -4,6 +4,7 @@
 
 #include "find/FindDialog.h"
 #include "find/fFind.h"
+#include "widgets/input/DragEvents.h"
 #include "widgets/look/PictureButton.h"
 
 #include <QtCore/QMimeData>
@@ -444,6 +445,30 @@ Sources comboSources()
            dropsOn([](Scene &scene) { return scene.combo.data(); });
 }
 
+bool isOfDrag(const EventSource &source)
+{
+    return qstrncmp(source.event, "OLE", 3) == 0;
+}
+
+// Of an inner widget, whose drags raise their events themselves.
+Sources dragsOf(const Sources &all)
+{
+    Sources drags = all;
+    drags.removeIf([](const EventSource &source) { return !isOfDrag(source); });
+    return drags;
+}
+
+Sources withoutDrags(Sources all)
+{
+    all.removeIf(isOfDrag);
+    return all;
+}
+
+QObject *raiserOf(const DragEvents &drags)
+{
+    return const_cast<DragEvents *>(&drags); // receivers only connect to it
+}
+
 } // namespace
 
 const QList<EventSubject> &eventSubjects()
@@ -462,9 +487,14 @@ const QList<EventSubject> &eventSubjects()
         {"project tree", projectTree, control, treeSources()},
         {"data combo", dataCombo, control, comboSources()},
         {"report list", reportList, control, listSources()},
-        {"node tree", nodeTree, control, treeSources()},
+        {"node tree", nodeTree, control, withoutDrags(treeSources())},
+        {"drags of a node tree", nodeTree,
+         [](const Scene &scene) { return raiserOf(scene.tree->drags()); }, dragsOf(treeSources())},
         {"rich text box", richTextBox, control, boxSources()},
-        {"image combo", imageCombo, combo, comboSources()},
+        {"image combo", imageCombo, combo, withoutDrags(comboSources())},
+        {"drags of an image combo", imageCombo,
+         [](const Scene &scene) { return raiserOf(scene.combo->drags()); },
+         dragsOf(comboSources())},
     };
     return all;
 }

@@ -190,6 +190,10 @@ private Q_SLOTS:
             QVERIFY(!host.box().hasFocus());
             QCOMPARE(host.before->focusPolicy(), Qt::StrongFocus);
             QCOMPARE(host.after->focusPolicy(), Qt::StrongFocus);
+            if (!isParentHidden) { // the read button comes next
+                QCOMPARE(QApplication::focusWidget()->objectName(), u"ImgRead"_s);
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            }
             QVERIFY(host.after->hasFocus());
             QTest::keyClick(host.form.windowHandle(), Qt::Key_A);
             QCOMPARE(host.box().Text(), u"x"_s);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ORVTListview/Export.h>
+
 #include <QtCore/QString>
 
 namespace ORVTListview {
@@ -14,7 +16,7 @@ struct Pictures
 {
     // The pictures are added; a list that has one of their keys or indexes
     // already raises Error (InvalidCall). Exported for our plugin for Designer alone.
-    static void fillInto(ImageList &list);
+    ORVT_EXPORT static void fillInto(ImageList &list);
 
     // The key of a type's read button while it is pressed.
     static QString pressedKey(const QString &displayName);
