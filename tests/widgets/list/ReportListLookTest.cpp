@@ -2,8 +2,8 @@
 
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
+#include "widgets/view/LongestText.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QAccessible>
 #include <QtGui/QScreen>
@@ -95,7 +95,7 @@ private Q_SLOTS:
     void tipsTextAsItStands();
     void wrapsAndCutsLongTips_data();
     void wrapsAndCutsLongTips();
-    void paintsLongCellsQuickly();
+    void paintsTheBeginningsOfLongCells();
     void tipsLongHeaders();
     void showsWhereTheFocusIs();
     void showsEachCellOnOneLine();
@@ -163,10 +163,7 @@ void ReportListLookTest::wrapsAndCutsLongTips()
     QFETCH(bool, isCut);
     const ShownList shown;
     shown.item(1)->setText(text);
-    QElapsedTimer timer;
-    timer.start();
     hover(*shown->viewport(), shown->visualRect(shown->model()->index(0, 0)).center());
-    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(QToolTip::isVisible());
     const QWidgetList all = QApplication::topLevelWidgets();
     const auto tip = std::find_if(all.begin(), all.end(), [](const QWidget *widget) {
@@ -191,7 +188,7 @@ void ReportListLookTest::wrapsAndCutsLongTips()
     QVERIFY(!read.chopped(1).back().isHighSurrogate());
 }
 
-void ReportListLookTest::paintsLongCellsQuickly()
+void ReportListLookTest::paintsTheBeginningsOfLongCells()
 {
     const ShownList shown(20, 3);
     const QString beginning = u"The beginning of much "_s;
@@ -200,11 +197,12 @@ void ReportListLookTest::paintsLongCellsQuickly()
         return picture(*shown->viewport());
     }();
     shown.item(1)->setText(beginning + QString(1 << 20, u'x'));
-    QElapsedTimer timer;
-    timer.start();
-    for (int time = 0; time < 5; ++time)
-        QCOMPARE(picture(*shown->viewport()), before);
-    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(picture(*shown->viewport()), before);
+    LongestText style;
+    shown->setStyle(&style);
+    picture(*shown->viewport());
+    QVERIFY(style.letters() > beginning.size());
+    QVERIFY2(style.letters() < 1000, qPrintable(QString::number(style.letters())));
 }
 
 void ReportListLookTest::tipsLongHeaders()

@@ -85,14 +85,13 @@ QList<int> drawnRows(const ReportList &list)
 
 } // namespace
 
+// Were it quadratic, it would not end before the runner ends it.
 void ReportListTest::selectsScatteredRowsOneByOne()
 {
     const ShownList shown(0, 6);
     constexpr int count = 16'384;
     shown->setRows(QList<RowContent>(2 * count));
     shown->setMultiSelect(true);
-    QElapsedTimer timer;
-    timer.start();
     QList<int> chosen;
     for (int row = 1; row <= 2 * count; row += 2) {
         shown.item(row)->setSelected(true);
@@ -113,7 +112,6 @@ void ReportListTest::selectsScatteredRowsOneByOne()
     QCOMPARE(selectedRows(*shown.list).size(), qsizetype(2 * count));
     shown.click(shown.cell(3));
     QCOMPARE(selectedRows(*shown.list), QList<int>{3});
-    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void ReportListTest::keepsTheSelectionInOnePlace()
