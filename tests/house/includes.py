@@ -52,9 +52,13 @@ class Tree:
 def used(path, names):
     text = FORWARD.sub("", NOISE.sub("", path.read_text()))
     text = re.sub(r"#include[^\n]*", "", text)
-    # By pointer or reference alone a declaration is enough.
+    # By pointer or reference a declaration is enough, until it is followed.
     needs = re.compile(r"\b(Q\w+)\b(?!\s*(?:const\s*)?[*&])")
-    return {name for name in needs.findall(text) if name in names}
+    found = {name for name in needs.findall(text) if name in names}
+    for name, variable in re.findall(r"\b(Q\w+)\s*(?:const\s*)?[*&]\s*(\w+)", text):
+        if name in names and re.search(rf"\b{variable}(?:->|\.)", text):
+            found.add(name)
+    return found
 
 
 def main():

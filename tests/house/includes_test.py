@@ -42,6 +42,11 @@ class IncludesTest(unittest.TestCase):
             self.faults({"src/box/Box.cpp": '#include "box/Box.h"\nQDir home() { return QDir(); }\n'}),
             ["src/box/Box.cpp: uses QDir, includes it nowhere"])
 
+    def test_a_pointer_that_is_followed_needs_the_class(self):
+        text = "class QDir;\nvoid clean(QDir *folder) { folder->refresh(); }\n"
+        self.assertEqual(self.faults({"src/box/Box.cpp": text}),
+                         ["src/box/Box.cpp: uses QDir, includes it nowhere"])
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -5,6 +5,7 @@
 #include "widgets/look/PlainToolTip.h"
 
 #include <QtGui/QHelpEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOption>
 

@@ -295,3 +295,5 @@ void ImageComboKeyTest::keepsErrorsFromTheEventLoop()
 
 QTEST_MAIN(ImageComboKeyTest)
 #include "ImageComboKeyTest.moc"
+
+#include <QtGui/QKeyEvent>

@@ -2,6 +2,7 @@
 #include "widgets/list/ReportListEvents.h"
 #include "widgets/list/ReportListFixture.h"
 
+#include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>

@@ -5,6 +5,7 @@
 #include "widgets/nodes/NodeTreeFixture.h"
 #include "widgets/view/LongestText.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolTip>
 
