@@ -4,24 +4,36 @@
 
 namespace ORVTListview {
 
-JsonPropertyBag::JsonPropertyBag(const QJsonObject &Object)
-    : m_object(Object)
+struct JsonPropertyBag::Private
 {
+    QJsonObject object;
+};
+
+JsonPropertyBag::JsonPropertyBag(const QJsonObject &Object)
+    : d(std::make_unique<Private>(Private{Object}))
+{
+}
+
+JsonPropertyBag::~JsonPropertyBag() = default;
+
+QJsonObject JsonPropertyBag::Object() const
+{
+    return d->object;
 }
 
 QVariant JsonPropertyBag::ReadProperty(const QString &Name, const QVariant &Default) const
 {
-    const auto kept = m_object.constFind(Name);
-    return kept == m_object.constEnd() ? Default : PropertyValue::read(kept->toVariant(), Default);
+    const auto kept = d->object.constFind(Name);
+    return kept == d->object.constEnd() ? Default : PropertyValue::read(kept->toVariant(), Default);
 }
 
 void JsonPropertyBag::WriteProperty(const QString &Name, const QVariant &Value,
                                     const QVariant &Default)
 {
     if (Value == Default)
-        m_object.remove(Name);
+        d->object.remove(Name);
     else
-        m_object.insert(Name, QJsonValue::fromVariant(PropertyValue::plain(Value)));
+        d->object.insert(Name, QJsonValue::fromVariant(PropertyValue::plain(Value)));
 }
 
 } // namespace ORVTListview

@@ -1,23 +1,49 @@
 #include <ORVTListview/MemberTable.h>
 
-#include <utility>
+#include <QtCore/QHash>
 
 namespace ORVTListview {
 
-MemberTable::MemberTable(const QString &component, QList<Member> members)
-    : m_component(component)
-    , m_members(std::move(members))
+struct MemberTable::Private
 {
-    for (qsizetype i = 0; i < m_members.size(); ++i) {
-        if (m_members.at(i).kind != MemberKind::Event)
-            m_callable.insert(m_members.at(i).name.toLower(), i);
+    QString component;
+    QList<Member> members;
+    QHash<QString, qsizetype> callable; // by name in lower case
+};
+
+namespace {
+
+QHash<QString, qsizetype> callableOf(const QList<Member> &members)
+{
+    QHash<QString, qsizetype> callable;
+    for (qsizetype i = 0; i < members.size(); ++i) {
+        if (members.at(i).kind != MemberKind::Event)
+            callable.insert(members.at(i).name.toLower(), i);
     }
+    return callable;
+}
+
+} // namespace
+
+MemberTable::MemberTable(const QString &component, const QList<Member> &members)
+    : d(std::make_shared<const Private>(Private{component, members, callableOf(members)}))
+{
+}
+
+QString MemberTable::component() const
+{
+    return d->component;
+}
+
+const QList<Member> &MemberTable::members() const
+{
+    return d->members;
 }
 
 const Member *MemberTable::find(const QString &name) const
 {
-    const auto found = m_callable.constFind(name.toLower());
-    return found == m_callable.cend() ? nullptr : &m_members.at(*found);
+    const auto found = d->callable.constFind(name.toLower());
+    return found == d->callable.cend() ? nullptr : &d->members.at(*found);
 }
 
 } // namespace ORVTListview

@@ -4,23 +4,35 @@
 
 namespace ORVTListview {
 
-MemoryPropertyBag::MemoryPropertyBag(const QVariantMap &Values)
-    : m_values(Values)
+struct MemoryPropertyBag::Private
 {
+    QVariantMap values;
+};
+
+MemoryPropertyBag::MemoryPropertyBag(const QVariantMap &Values)
+    : d(std::make_unique<Private>(Private{Values}))
+{
+}
+
+MemoryPropertyBag::~MemoryPropertyBag() = default;
+
+QVariantMap MemoryPropertyBag::Values() const
+{
+    return d->values;
 }
 
 QVariant MemoryPropertyBag::ReadProperty(const QString &Name, const QVariant &Default) const
 {
-    return PropertyValue::read(m_values.value(Name), Default);
+    return PropertyValue::read(d->values.value(Name), Default);
 }
 
 void MemoryPropertyBag::WriteProperty(const QString &Name, const QVariant &Value,
                                       const QVariant &Default)
 {
     if (Value == Default)
-        m_values.remove(Name);
+        d->values.remove(Name);
     else
-        m_values.insert(Name, Value);
+        d->values.insert(Name, Value);
 }
 
 } // namespace ORVTListview

@@ -6,29 +6,33 @@
 
 namespace ORVTListview {
 
+struct SettingsPropertyBag::Private
+{
+    QSettings &settings;
+    QString group;
+
+    QString key(const QString &name) const { return group.isEmpty() ? name : group + u'/' + name; }
+};
+
 SettingsPropertyBag::SettingsPropertyBag(QSettings &Settings, const QString &Group)
-    : m_settings(Settings)
-    , m_group(Group)
+    : d(std::make_unique<Private>(Private{Settings, Group}))
 {
 }
 
+SettingsPropertyBag::~SettingsPropertyBag() = default;
+
 QVariant SettingsPropertyBag::ReadProperty(const QString &Name, const QVariant &Default) const
 {
-    return PropertyValue::readText(m_settings.value(key(Name)), Default);
+    return PropertyValue::readText(d->settings.value(d->key(Name)), Default);
 }
 
 void SettingsPropertyBag::WriteProperty(const QString &Name, const QVariant &Value,
                                         const QVariant &Default)
 {
     if (Value == Default)
-        m_settings.remove(key(Name));
+        d->settings.remove(d->key(Name));
     else
-        m_settings.setValue(key(Name), PropertyValue::plain(Value));
-}
-
-QString SettingsPropertyBag::key(const QString &name) const
-{
-    return m_group.isEmpty() ? name : m_group + u'/' + name;
+        d->settings.setValue(d->key(Name), PropertyValue::plain(Value));
 }
 
 } // namespace ORVTListview

@@ -2,10 +2,10 @@
 
 #include <ORVTListview/CoreExport.h>
 
-#include <QtCore/QByteArray>
 #include <QtCore/QString>
 
 #include <exception>
+#include <memory>
 
 namespace ORVTListview {
 
@@ -26,20 +26,20 @@ class ORVT_CORE_EXPORT Error : public std::exception
 {
 public:
     Error(qint32 number, const QString &source, const QString &description);
+    Error(const Error &) noexcept = default; // no move: an error always says what it is
+    Error &operator=(const Error &) noexcept = default;
     ~Error() override;
 
-    qint32 Number() const { return m_number; }
-    QString Source() const { return m_source; }
-    QString Description() const { return m_description; }
+    qint32 Number() const;
+    QString Source() const;
+    QString Description() const;
 
     // "Source: Description" in UTF-8, for logs.
     const char *what() const noexcept override;
 
 private:
-    qint32 m_number;
-    QString m_source;
-    QString m_description;
-    QByteArray m_what;
+    struct Private;
+    std::shared_ptr<const Private> d; // shared, as copying an exception must not throw
 };
 
 } // namespace ORVTListview

@@ -4,6 +4,8 @@
 
 #include <QtCore/QJsonObject>
 
+#include <memory>
+
 namespace ORVTListview {
 
 // Keeps properties in a JSON object: enumerations as numbers, everything else as
@@ -13,16 +15,18 @@ class ORVT_CORE_EXPORT JsonPropertyBag : public PropertyBag
 {
 public:
     explicit JsonPropertyBag(const QJsonObject &Object = QJsonObject());
+    ~JsonPropertyBag() override;
 
     QVariant ReadProperty(const QString &Name, const QVariant &Default) const override;
     void WriteProperty(const QString &Name, const QVariant &Value,
                        const QVariant &Default) override;
 
     // What is kept, names that no component knows included.
-    QJsonObject Object() const { return m_object; }
+    QJsonObject Object() const;
 
 private:
-    QJsonObject m_object;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ORVTListview

@@ -2,11 +2,12 @@
 
 #include <ORVTListview/CoreExport.h>
 
-#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QObject;
@@ -50,21 +51,20 @@ struct Member
 class ORVT_CORE_EXPORT MemberTable
 {
 public:
-    MemberTable(const QString &component, QList<Member> members);
+    MemberTable(const QString &component, const QList<Member> &members);
 
     // The component's class name.
-    QString component() const { return m_component; }
+    QString component() const;
 
-    const QList<Member> &members() const { return m_members; }
+    const QList<Member> &members() const;
 
     // The property or method of that name, without regard to letter case; null for
     // an unknown name and for an event.
     const Member *find(const QString &name) const;
 
 private:
-    QString m_component;
-    QList<Member> m_members;
-    QHash<QString, qsizetype> m_callable; // by name in lower case
+    struct Private;
+    std::shared_ptr<const Private> d; // never changes: copies share it
 };
 
 } // namespace ORVTListview

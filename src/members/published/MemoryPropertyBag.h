@@ -4,6 +4,8 @@
 
 #include <QtCore/QVariantMap>
 
+#include <memory>
+
 namespace ORVTListview {
 
 // Keeps properties in memory. A value that equals its default is left out; a value
@@ -12,16 +14,18 @@ class ORVT_CORE_EXPORT MemoryPropertyBag : public PropertyBag
 {
 public:
     explicit MemoryPropertyBag(const QVariantMap &Values = QVariantMap());
+    ~MemoryPropertyBag() override;
 
     QVariant ReadProperty(const QString &Name, const QVariant &Default) const override;
     void WriteProperty(const QString &Name, const QVariant &Value,
                        const QVariant &Default) override;
 
     // What is kept, names that no component knows included.
-    QVariantMap Values() const { return m_values; }
+    QVariantMap Values() const;
 
 private:
-    QVariantMap m_values;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ORVTListview

@@ -2,6 +2,8 @@
 
 #include <ORVTListview/PropertyBag.h>
 
+#include <memory>
+
 QT_BEGIN_NAMESPACE
 class QSettings;
 QT_END_NAMESPACE
@@ -17,16 +19,15 @@ public:
     // Settings outlives the bag. The group is relative to the one that is current
     // in Settings at each call.
     explicit SettingsPropertyBag(QSettings &Settings, const QString &Group = QString());
+    ~SettingsPropertyBag() override;
 
     QVariant ReadProperty(const QString &Name, const QVariant &Default) const override;
     void WriteProperty(const QString &Name, const QVariant &Value,
                        const QVariant &Default) override;
 
 private:
-    QString key(const QString &name) const;
-
-    QSettings &m_settings;
-    QString m_group;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ORVTListview

@@ -75,7 +75,7 @@ std::optional<Point> HostPoints::find(const HostReference<PointCollection> &poin
 const KeyedCollection<Point> *HostPoints::contents(const HostReference<PointCollection> &points)
 {
     const auto *list = dynamic_cast<const PointList *>(points.get());
-    return list ? &list->m_points : nullptr;
+    return list ? &list->contents() : nullptr;
 }
 
 } // namespace ORVTListview

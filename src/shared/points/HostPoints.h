@@ -2,6 +2,7 @@
 
 #include "base/HouseExport.h"
 #include <ORVTListview/IndexedName.h>
+#include <ORVTListview/KeyedCollection.h>
 #include <ORVTListview/PointCollection.h>
 
 #include <QtCore/QList>

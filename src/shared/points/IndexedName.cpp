@@ -1,6 +1,7 @@
 #include <ORVTListview/IndexedName.h>
 
 #include <utility>
+#include <vector>
 
 namespace ORVTListview {
 namespace {
@@ -33,26 +34,35 @@ private:
 IndexedName::~IndexedName() = default;
 IndexedNameCollection::~IndexedNameCollection() = default;
 
-IndexedNameList::IndexedNameList() = default;
+struct IndexedNameList::Private
+{
+    std::vector<std::unique_ptr<IndexedName>> items;
+};
+
+IndexedNameList::IndexedNameList()
+    : d(std::make_unique<Private>())
+{
+}
+
 IndexedNameList::~IndexedNameList() = default;
 
 void IndexedNameList::Add(const QString &Name, const QString &NumberFormat, qint32 LowerBound,
                           qint32 UpperBound)
 {
-    m_items.push_back(
+    d->items.push_back(
         std::make_unique<PlainIndexedName>(Name, NumberFormat, LowerBound, UpperBound));
 }
 
 qint32 IndexedNameList::Count() const
 {
-    return static_cast<qint32>(m_items.size());
+    return static_cast<qint32>(d->items.size());
 }
 
 const IndexedName *IndexedNameList::Item(qint32 Index) const
 {
     if (Index < 1 || Index > Count())
         return nullptr;
-    return m_items[static_cast<std::size_t>(Index) - 1].get();
+    return d->items[static_cast<std::size_t>(Index) - 1].get();
 }
 
 } // namespace ORVTListview

@@ -46,8 +46,25 @@ TextCollection textsOf(const QTranslator &translator)
 
 } // namespace
 
+struct TranslatedTexts::Private
+{
+    explicit Private(const QString &readFrom)
+        : folder(readFrom)
+    {
+    }
+
+    const QString folder;
+    QLocale language;
+    DisplayFontSettings font;
+    TextCollection texts;
+    QDateTime changeTime;
+    QDateTime fetchTime;
+
+    void markChanged();
+};
+
 TranslatedTexts::TranslatedTexts(const QLocale &Language, const QString &Folder)
-    : m_folder(Folder)
+    : d(std::make_unique<Private>(Folder))
 {
     setLanguage(Language);
 }
@@ -69,50 +86,55 @@ QList<QLocale> TranslatedTexts::availableLanguages(const QString &Folder)
     return languages;
 }
 
+QLocale TranslatedTexts::Language() const
+{
+    return d->language;
+}
+
 bool TranslatedTexts::setLanguage(const QLocale &Language)
 {
-    m_language = Language;
-    m_texts.clear();
-    markChanged();
+    d->language = Language;
+    d->texts.clear();
+    d->markChanged();
 
-    const std::optional<QString> file = fileFor(Language, m_folder);
+    const std::optional<QString> file = fileFor(Language, d->folder);
     if (!file || file->isEmpty())
         return file.has_value();
     QTranslator translator;
     if (!translator.load(*file))
         return false;
-    m_texts = textsOf(translator);
+    d->texts = textsOf(translator);
     return true;
 }
 
 void TranslatedTexts::setDisplayFont(const DisplayFontSettings &Font)
 {
-    m_font = Font;
+    d->font = Font;
 }
 
 QDateTime TranslatedTexts::ChangeTime()
 {
-    return m_changeTime;
+    return d->changeTime;
 }
 
 TextCollection TranslatedTexts::GetTexts(const QString &Component)
 {
-    m_fetchTime = QDateTime::currentDateTimeUtc();
-    return Component == "ORVTListview"_L1 ? m_texts : TextCollection();
+    d->fetchTime = QDateTime::currentDateTimeUtc();
+    return Component == "ORVTListview"_L1 ? d->texts : TextCollection();
 }
 
 DisplayFontSettings TranslatedTexts::DisplayFont()
 {
-    return m_font;
+    return d->font;
 }
 
 // Later than the last fetch even within the same millisecond or when the clock
 // was set back, so that no change is missed.
-void TranslatedTexts::markChanged()
+void TranslatedTexts::Private::markChanged()
 {
-    m_changeTime = QDateTime::currentDateTimeUtc();
-    if (m_fetchTime.isValid())
-        m_changeTime = std::max(m_changeTime, m_fetchTime.addMSecs(1));
+    changeTime = QDateTime::currentDateTimeUtc();
+    if (fetchTime.isValid())
+        changeTime = std::max(changeTime, fetchTime.addMSecs(1));
 }
 
 } // namespace ORVTListview

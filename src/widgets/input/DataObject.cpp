@@ -4,6 +4,7 @@
 #include "widgets/input/DragData.h"
 #include <ORVTListview/Error.h>
 
+#include <QtCore/QPointer>
 #include <QtCore/QUrl>
 #include <QtGui/QImage>
 
@@ -15,7 +16,7 @@ namespace {
 
 struct FormatEntry
 {
-    DataObject::KnownFormat number;
+    DataObject::KnownFormat number = DataObject::Text;
     QLatin1StringView mimeType;
 };
 
@@ -85,11 +86,18 @@ bool fits(const QVariant &value, qint16 format)
 
 } // namespace
 
+struct DataObject::Private
+{
+    QPointer<QMimeData> data;
+    Side side;
+};
+
 DataObject::DataObject(QMimeData *data, Side side)
-    : m_data(data)
-    , m_side(side)
+    : d(std::make_unique<Private>(Private{data, side}))
 {
 }
+
+DataObject::~DataObject() = default;
 
 qint16 DataObject::FormatNumber(const QString &MimeType)
 {
@@ -97,7 +105,7 @@ qint16 DataObject::FormatNumber(const QString &MimeType)
         if (MimeType == known.mimeType)
             return known.number;
     }
-    OtherFormats &others = threadPart<OtherFormats>();
+    auto &others = threadPart<OtherFormats>();
     if (!others.contains(MimeType))
         others.append(MimeType);
     return static_cast<qint16>(firstNumber + others.indexOf(MimeType));
@@ -115,7 +123,7 @@ QString DataObject::MimeType(qint16 Format)
 bool DataObject::GetFormat(qint16 Format) const
 {
     const QString type = MimeType(Format);
-    return m_data && !type.isEmpty() && m_data->hasFormat(type);
+    return d->data && !type.isEmpty() && d->data->hasFormat(type);
 }
 
 QVariant DataObject::GetData(qint16 Format) const
@@ -125,23 +133,23 @@ QVariant DataObject::GetData(qint16 Format) const
                     u"There are no data of format %1"_s.arg(Format));
     switch (Format) {
     case Text:
-        return m_data->text();
+        return d->data->text();
     case Bitmap:
-        return m_data->imageData();
+        return d->data->imageData();
     case Files:
-        return localPaths(*m_data);
+        return localPaths(*d->data);
     case RichText:
-        return QString::fromUtf8(m_data->data(MimeType(Format)));
+        return QString::fromUtf8(d->data->data(MimeType(Format)));
     default:
-        return m_data->data(MimeType(Format));
+        return d->data->data(MimeType(Format));
     }
 }
 
 QMimeData &DataObject::sourceData(const QString &member) const
 {
-    if (m_side != Side::Source || !m_data)
+    if (d->side != Side::Source || !d->data)
         throw Error(InvalidCall, member, u"Only the source of a drag can change its data"_s);
-    return *m_data;
+    return *d->data;
 }
 
 void DataObject::SetData(const QVariant &Value, qint16 Format)
@@ -169,7 +177,7 @@ void DataObject::Clear()
 
 const QMimeData *DataObject::mimeData() const
 {
-    return m_data;
+    return d->data;
 }
 
 } // namespace ORVTListview

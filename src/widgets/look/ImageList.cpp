@@ -4,8 +4,10 @@
 #include <ORVTListview/Error.h>
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QHash>
 #include <QtSvg/QSvgRenderer>
 
+#include <map>
 #include <memory>
 
 namespace ORVTListview {
@@ -44,15 +46,31 @@ std::shared_ptr<QSvgRenderer> drawingOf(const QString &file)
 
 } // namespace
 
-ImageList::ImageList() = default;
+struct ImageList::Private
+{
+    struct Entry
+    {
+        QString key;
+        QIcon icon;
+    };
+
+    std::map<qint32, Entry> entries;
+    QHash<QString, qint32> indexes;
+};
+
+ImageList::ImageList()
+    : d(std::make_unique<Private>())
+{
+}
+
 ImageList::~ImageList() = default;
 
 void ImageList::Add(const QString &Key, qint32 Index, const QString &SvgFile, Look Drawn)
 {
     refuseUnlessFree(Key, Index);
     const QIcon icon(new PictureEngine(SvgFile, drawingOf(SvgFile), Drawn == Look::Pressed));
-    m_entries[Index] = {Key, icon};
-    m_indexes.insert(Key, Index);
+    d->entries[Index] = {Key, icon};
+    d->indexes.insert(Key, Index);
 }
 
 void ImageList::refuseUnlessFree(const QString &key, qint32 index) const
@@ -69,25 +87,25 @@ void ImageList::refuseUnlessFree(const QString &key, qint32 index) const
 
 qint32 ImageList::Count() const
 {
-    return static_cast<qint32>(m_entries.size());
+    return static_cast<qint32>(d->entries.size());
 }
 
 QStringList ImageList::Keys() const
 {
     QStringList keys;
-    for (const auto &[index, entry] : m_entries)
+    for (const auto &[index, entry] : d->entries)
         keys << entry.key;
     return keys;
 }
 
 bool ImageList::Contains(const QString &Key) const
 {
-    return m_indexes.contains(Key);
+    return d->indexes.contains(Key);
 }
 
 bool ImageList::Contains(qint32 Index) const
 {
-    return m_entries.contains(Index);
+    return d->entries.contains(Index);
 }
 
 QIcon ImageList::Picture(const QString &Key) const
@@ -97,19 +115,19 @@ QIcon ImageList::Picture(const QString &Key) const
 
 QIcon ImageList::Picture(qint32 Index) const
 {
-    const auto entry = m_entries.find(Index);
-    return entry == m_entries.end() ? QIcon() : entry->second.icon;
+    const auto entry = d->entries.find(Index);
+    return entry == d->entries.end() ? QIcon() : entry->second.icon;
 }
 
 QString ImageList::KeyOf(qint32 Index) const
 {
-    const auto entry = m_entries.find(Index);
-    return entry == m_entries.end() ? QString() : entry->second.key;
+    const auto entry = d->entries.find(Index);
+    return entry == d->entries.end() ? QString() : entry->second.key;
 }
 
 qint32 ImageList::IndexOf(const QString &Key) const
 {
-    return m_indexes.value(Key, 0);
+    return d->indexes.value(Key, 0);
 }
 
 } // namespace ORVTListview

@@ -6,7 +6,6 @@
 #include <QtCore/QString>
 
 #include <memory>
-#include <vector>
 
 namespace ORVTListview {
 
@@ -52,7 +51,8 @@ public:
     const IndexedName *Item(qint32 Index) const override;
 
 private:
-    std::vector<std::unique_ptr<IndexedName>> m_items;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ORVTListview

@@ -2,13 +2,16 @@
 
 #include <ORVTListview/CoreExport.h>
 #include <ORVTListview/HostObject.h>
-#include <ORVTListview/KeyedCollection.h>
 
 #include <QtCore/QString>
 
+#include <memory>
 #include <optional>
 
 namespace ORVTListview {
+
+template <typename T>
+class KeyedCollection;
 
 // A point of the controller: its name as it is to be shown, and a value of the
 // host's own.
@@ -62,8 +65,11 @@ public:
 
 private:
     friend class HostPoints;
+    const KeyedCollection<Point> &contents() const;
 
-    KeyedCollection<Point> m_points; // by name
+
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ORVTListview

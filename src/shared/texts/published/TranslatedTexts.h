@@ -6,6 +6,8 @@
 #include <QtCore/QList>
 #include <QtCore/QLocale>
 
+#include <memory>
+
 namespace ORVTListview {
 
 // A ready provider on Qt's conventions: compiled translations (.qm) named
@@ -25,7 +27,7 @@ public:
     // English and the languages of the files in the folder, by name of the file.
     static QList<QLocale> availableLanguages(const QString &Folder = builtInFolder());
 
-    QLocale Language() const { return m_language; }
+    QLocale Language() const;
 
     // The first of the locale's languages that has a file is loaded; English ends
     // the search. False when the texts are English though the language is not:
@@ -41,14 +43,8 @@ public:
     DisplayFontSettings DisplayFont() override;
 
 private:
-    void markChanged();
-
-    QString m_folder;
-    QLocale m_language;
-    DisplayFontSettings m_font;
-    TextCollection m_texts;
-    QDateTime m_changeTime;
-    QDateTime m_fetchTime;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ORVTListview

@@ -2,9 +2,10 @@
 
 #include <ORVTListview/Export.h>
 
-#include <QtCore/QPointer>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
+
+#include <memory>
 
 class QMimeData;
 
@@ -30,6 +31,7 @@ public:
     enum class Side { Source, Target };
 
     DataObject(QMimeData *data, Side side);
+    ~DataObject();
     Q_DISABLE_COPY_MOVE(DataObject) // good for one event
 
     static qint16 FormatNumber(const QString &MimeType);
@@ -56,8 +58,8 @@ public:
 private:
     QMimeData &sourceData(const QString &member) const;
 
-    QPointer<QMimeData> m_data;
-    Side m_side;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ORVTListview

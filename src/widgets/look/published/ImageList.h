@@ -2,11 +2,10 @@
 
 #include <ORVTListview/Export.h>
 
-#include <QtCore/QHash>
 #include <QtCore/QStringList>
 #include <QtGui/QIcon>
 
-#include <map>
+#include <memory>
 
 namespace ORVTListview {
 
@@ -54,16 +53,10 @@ public:
     qint32 IndexOf(const QString &Key) const;
 
 private:
-    struct Entry
-    {
-        QString key;
-        QIcon icon;
-    };
-
     void refuseUnlessFree(const QString &key, qint32 index) const;
 
-    std::map<qint32, Entry> m_entries;
-    QHash<QString, qint32> m_indexes;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ORVTListview
