@@ -47,8 +47,9 @@ constexpr std::array colourFields = {
 
 std::optional<qint32> systemColour(QStringView name)
 {
-    const auto found = std::find_if(systemColours.cbegin(), systemColours.cend(),
-                                    [name](const auto &colour) { return colour.name == name; });
+    const auto *const found =
+        std::find_if(systemColours.cbegin(), systemColours.cend(),
+                     [name](const auto &colour) { return colour.name == name; });
     if (found == systemColours.cend())
         return std::nullopt;
     return static_cast<qint32>(0x80000000U | static_cast<quint32>(found->index));

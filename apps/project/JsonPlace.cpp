@@ -68,7 +68,7 @@ JsonPlace::JsonPlace(QString file, Root root, QString place, const JsonNode *nod
 JsonPlace JsonPlace::parse(const QByteArray &json, const QString &fileName)
 {
     const Root root = parsed(json, fileName);
-    const JsonPlace place(fileName, root, {}, root.get());
+    JsonPlace place(fileName, root, {}, root.get());
     place.expect(JsonNode::Kind::Object);
     return place;
 }

@@ -19,9 +19,9 @@ bool isPunctuation(QChar c)
 template <typename IsSeparator, typename Take>
 void splitAt(QStringView text, IsSeparator isSeparator, Take take)
 {
-    auto begin = text.begin();
+    const auto *begin = text.begin();
     while (begin != text.end()) {
-        const auto end = std::find_if(begin, text.end(), isSeparator);
+        const auto *const end = std::find_if(begin, text.end(), isSeparator);
         if (end != begin)
             take(QStringView(begin, end));
         begin = end == text.end() ? end : end + 1;

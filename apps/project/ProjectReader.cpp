@@ -26,7 +26,7 @@ constexpr qint32 knownFormat = 1;
 
 QString readName(const JsonPlace &place)
 {
-    const QString name = place.required().text();
+    QString name = place.required().text();
     if (!isPointName(name))
         place.fail(ProjectTexts::tr(
             "a name is expected, without blanks around it and control characters"));
@@ -105,10 +105,9 @@ ControllerInfo readController(const JsonPlace &place)
 ProjectFamily readFamily(const JsonPlace &place)
 {
     place.allowOnly({u"name"_s, u"format"_s, u"lower"_s, u"upper"_s});
-    const ProjectFamily family = {readName(place.member(u"name"_s)),
-                                  place.member(u"format"_s).text(),
-                                  place.member(u"lower"_s).required().integer(),
-                                  place.member(u"upper"_s).required().integer()};
+    ProjectFamily family = {readName(place.member(u"name"_s)), place.member(u"format"_s).text(),
+                            place.member(u"lower"_s).required().integer(),
+                            place.member(u"upper"_s).required().integer()};
     if (qint64(family.upperBound) - family.lowerBound >= mostNamesOfAFamily)
         place.fail(ProjectTexts::tr("has more than %1 names").arg(mostNamesOfAFamily));
     return family;

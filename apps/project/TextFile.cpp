@@ -118,7 +118,7 @@ QByteArray readDevice(QIODevice &device, const QString &name)
 {
     // readAll() keeps quiet about a failure.
     QByteArray bytes;
-    std::array<char, 65536> block;
+    std::array<char, 65536> block{};
     while (true) {
         const qint64 count = device.read(block.data(), block.size());
         if (count < 0)

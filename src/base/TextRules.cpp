@@ -75,7 +75,8 @@ constexpr bool needsCaseTable(char16_t c)
 // The folded form of a character in Latin-1; 0 for one that needs the table.
 constexpr auto foldedLatin1 = [] {
     std::array<char16_t, 256> folded{};
-    for (char16_t c = 0; c < folded.size(); ++c) {
+    constexpr auto size = char16_t(folded.size());
+    for (char16_t c = 0; c < size; ++c) {
         if (!needsCaseTable(c))
             folded[c] = c < 0x80 ? smallAscii(c) : largeLatin1(c);
     }

@@ -18,7 +18,7 @@ int byteOf(char16_t character)
     if (character < firstOwn || (character >= pastOwn && character <= 0xFF))
         return character;
     const auto own = ownCharacters.find(character);
-    return own == ownCharacters.npos ? noByte : firstOwn + int(own);
+    return own == std::u16string_view::npos ? noByte : firstOwn + int(own);
 }
 
 } // namespace

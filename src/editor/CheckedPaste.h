@@ -18,7 +18,7 @@ std::optional<ColouredText> textToPaste(const EditorThread &thread, const RichTe
                                         const QString &data);
 
 // Larger clipboard texts are refused, with a message. Bytes of UTF-16.
-constexpr qsizetype largestPaste = 64 * 1024 * 1024;
+constexpr qsizetype largestPaste = qsizetype{64} * 1024 * 1024;
 
 // False, after the message, for a text that is too large.
 bool acceptPasteSize(const EditorThread &thread, const QString &data);

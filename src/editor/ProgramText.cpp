@@ -84,7 +84,7 @@ QString ProgramText::sampleRtf()
     m_box.setText(QString());
     m_box.setSelText(u"#GetInfo#\r\n#Another word"_s);
     m_box.selectAll();
-    const QString sample = m_box.SelRTF();
+    QString sample = m_box.SelRTF();
     m_box.setText(QString());
     return sample;
 }

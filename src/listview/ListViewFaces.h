@@ -16,7 +16,7 @@ class ORVListView;
 // The control's two faces and the list that it lends to either.
 struct ListViewFaces
 {
-    explicit ListViewFaces(QWidget &control);
+    explicit ListViewFaces(QWidget &owner);
     ~ListViewFaces();
     Q_DISABLE_COPY_MOVE(ListViewFaces) // the parts know one another
 

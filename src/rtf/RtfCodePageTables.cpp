@@ -255,7 +255,7 @@ static_assert(areWhole());
 
 const char16_t *rtfUpperHalf(qint32 codePage)
 {
-    const auto page =
+    const auto *const page =
         std::find_if(std::begin(pages), std::end(pages),
                      [codePage](const Page &each) { return each.number == codePage; });
     return page == std::end(pages) ? nullptr : page->upperHalf.data();

@@ -50,7 +50,7 @@ constexpr PairPage pairPages[] = {{932, "windows-932"},
 
 const PairPage *pairPage(qint32 codePage)
 {
-    const auto page =
+    const auto *const page =
         std::find_if(std::begin(pairPages), std::end(pairPages),
                      [codePage](const PairPage &each) { return each.number == codePage; });
     return page == std::end(pairPages) ? nullptr : page;
@@ -92,7 +92,7 @@ qsizetype pairLength(QByteArrayView bytes, qint32 codePage)
 
 qint32 rtfCodePageOfCharset(qint32 charset)
 {
-    const auto found =
+    const auto *const found =
         std::find_if(std::begin(charsets), std::end(charsets),
                      [charset](const Charset &each) { return each.charset == charset; });
     return found == std::end(charsets) ? 0 : found->codePage;

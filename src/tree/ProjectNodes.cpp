@@ -85,7 +85,7 @@ void ProjectNodes::addCategory(LwType type, const QString &key, Node *page)
 
 QString ProjectNodes::shownText(const QString &key, const QString &english)
 {
-    const QString text = Localise(english);
+    QString text = Localise(english);
     m_shown.insert(key, text);
     return text;
 }

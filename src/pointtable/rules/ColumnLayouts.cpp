@@ -14,8 +14,8 @@ namespace {
 
 struct ColumnLayout
 {
-    LwType type;
-    qint16 numberItems;
+    LwType type = dsInput;
+    qint16 numberItems = 0;
     QStringView columns;
 };
 

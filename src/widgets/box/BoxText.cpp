@@ -129,7 +129,8 @@ QString BoxText::readAtOnce(int from, int to) const
     QString result;
     result.reserve(raw.size() + m_document.blockCount());
     qsizetype start = 0;
-    for (qsizetype end; (end = raw.indexOf(QChar::ParagraphSeparator, start)) >= 0; start = end + 1)
+    for (qsizetype end = 0; (end = raw.indexOf(QChar::ParagraphSeparator, start)) >= 0;
+         start = end + 1)
         result.append(raw.sliced(start, end - start)).append(u"\r\n");
     return result.append(raw.sliced(start));
 }

@@ -99,7 +99,7 @@ bool RichTextBox::isComposing() const
 void RichTextBox::moveFocus(bool forwards)
 {
     // This class keeps Tab, which would end there.
-    QWidget::focusNextPrevChild(forwards);
+    QWidget::focusNextPrevChild(forwards); // NOLINT(bugprone-parent-virtual-call)
 }
 
 bool RichTextBox::event(QEvent *event)

@@ -51,7 +51,7 @@ QString ImageComboAccess::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Value)
         return m_combo.currentText();
-    const QString own = QAccessibleWidget::text(kind);
+    QString own = QAccessibleWidget::text(kind);
     QWidget *around = m_combo.parentWidget();
     // A control that is nothing but the combo has the name for both.
     if (!own.isEmpty() || kind != QAccessible::Name || !around || around->focusProxy() != &m_combo)

@@ -136,13 +136,13 @@ int ColumnWidths::withMargin(int pixels, double twips) const
     return Twips::toPixelsX(Twips::fromPixelsX(pixels, m_view) + twips, m_view);
 }
 
-void ColumnWidths::widenByRows(QList<int> &widths, bool &pictures)
+void ColumnWidths::widenByRows(QList<int> &widest, bool &pictures)
 {
     const int columns = m_model.columns();
     for (int position = 0; position < m_model.rows(); ++position) {
         const ReportRow &row = m_model.row(position);
         for (int column = 0; column < columns; ++column)
-            m_texts->widen(widths[column], m_model.cellText(row, column));
+            m_texts->widen(widest[column], m_model.cellText(row, column));
         pictures = pictures || !row.content.picture.isEmpty();
     }
     m_texts->forgetTexts();

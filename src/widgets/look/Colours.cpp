@@ -9,9 +9,9 @@ namespace {
 
 struct SystemColour
 {
-    quint32 number;
-    QPalette::ColorRole role;
-    QPalette::ColorRole textRole; // what is written on it
+    quint32 number = 0;
+    QPalette::ColorRole role = QPalette::NoRole;
+    QPalette::ColorRole textRole = QPalette::NoRole; // what is written on it
     QPalette::ColorGroup group = QPalette::Current;
 };
 

@@ -53,13 +53,13 @@ void TextWidths::widen(int &widest, const QString &text)
 double TextWidths::sumOfSteps(const QString &text)
 {
     if (text.size() > longestLine)
-        return unpredictable; // it is cut
+        return static_cast<double>(unpredictable); // it is cut
     double sum = 0;
     unsigned from = start;
     for (const QChar character : text) {
         const unsigned to = character.unicode();
         if (!isPlain(to))
-            return unpredictable;
+            return static_cast<double>(unpredictable);
         sum += static_cast<double>(step(from, to));
         from = to;
     }

@@ -60,10 +60,9 @@ void empty(void *memory, std::size_t size)
 } // namespace
 
 HandlePage::HandlePage()
-    : m_memory(nullptr)
-    , m_size(pageSize())
+    : m_size(pageSize())
+    , m_memory(static_cast<std::byte *>(mapped(m_size)))
 {
-    m_memory = static_cast<std::byte *>(mapped(m_size));
 }
 
 HandlePage::~HandlePage()

@@ -24,8 +24,8 @@ public:
 private:
     void giveBack();
 
-    std::byte *m_memory;
     std::size_t m_size;
+    std::byte *m_memory; // as long as m_size says
     std::size_t m_used = 0;
     int m_living = 0;
     bool m_isFull = false;

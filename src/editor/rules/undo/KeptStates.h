@@ -33,7 +33,7 @@ public:
     enum class Way { Back, Forward };
 
     static constexpr std::size_t most = 1000;
-    static constexpr qsizetype defaultMostBytes = 128 * 1024 * 1024;
+    static constexpr qsizetype defaultMostBytes = qsizetype{128} * 1024 * 1024;
 
     explicit KeptStates(qsizetype mostBytes = defaultMostBytes);
     ~KeptStates();

@@ -48,10 +48,10 @@ public:
     static constexpr qint16 slotCount = 50;
 
     // About two milliseconds of compressing.
-    static constexpr qsizetype sliceLength = 64 * 1024;
+    static constexpr qsizetype sliceLength = qsizetype{64} * 1024;
 
     // 49 snapshots of a text of 1 MB take less.
-    static constexpr qsizetype defaultPendingBound = 128 * 1024 * 1024;
+    static constexpr qsizetype defaultPendingBound = qsizetype{128} * 1024 * 1024;
 
     // The bytes of text that may wait to be encoded, besides the newest snapshot.
     // At the bound, storing one looks for what those that wait have in common and

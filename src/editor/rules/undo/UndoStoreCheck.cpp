@@ -35,7 +35,7 @@ QString encodedFault(QStringView slot)
 
 QString UndoStore::unsoundness() const
 {
-    if (const QString fault = indexFault(); !fault.isEmpty())
+    if (QString fault = indexFault(); !fault.isEmpty())
         return fault;
     for (qint16 index = 0; index < slotCount; ++index) {
         if (const QString fault = slotFault(index); !fault.isEmpty())
@@ -68,7 +68,7 @@ QString UndoStore::slotFault(qint16 index) const
         const bool isShort = plain->text.size() + plain->tail.size() < shortestCompressedRecord;
         return plain->isWaiting && isShort ? u"waits to be encoded and is too short"_s : QString();
     }
-    const QString &encoded = std::get<QString>(slot);
+    const auto &encoded = std::get<QString>(slot);
     if (!encoded.isEmpty())
         return encodedFault(encoded);
     const bool isWritten = m_wrapped || (index > 0 && index <= m_newest);

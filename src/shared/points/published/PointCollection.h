@@ -67,7 +67,6 @@ private:
     friend class HostPoints;
     const KeyedCollection<Point> &contents() const;
 
-
     struct Private;
     std::unique_ptr<Private> d;
 };
