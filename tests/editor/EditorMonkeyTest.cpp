@@ -5,6 +5,7 @@
 #include "editor/EditorClock.h"
 #include "editor/EditorHost.h"
 #include "editor/EditorModel.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/ListItem.h>
 
@@ -472,5 +473,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorMonkeyTest)
+ORVT_TEST(EditorMonkeyTest)
 #include "EditorMonkeyTest.moc"

@@ -7,6 +7,7 @@
 #include "editor/EditorHost.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/ThreadColouring.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/box/BoxCommands.h"
 
@@ -289,5 +290,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorReachTest)
+ORVT_TEST(EditorReachTest)
 #include "EditorReachTest.moc"

@@ -4,6 +4,7 @@
 #include "shared/points/DisplayNames.h"
 #include "support/PseudoTexts.h"
 #include "support/Raised.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/look/PictureBox.h"
 #include "widgets/look/PictureButton.h"
@@ -777,5 +778,5 @@ void PointTableTest::bearsRandomCalls()
     }
 }
 
-QTEST_MAIN(PointTableTest)
+ORVT_TEST(PointTableTest)
 #include "PointTableTest.moc"

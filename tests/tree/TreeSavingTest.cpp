@@ -5,6 +5,8 @@
 #include "base/FileLock.h"
 #include "shared/points/DisplayNames.h"
 
+#include "support/TestProgram.h"
+
 #include <QtCore/QThread>
 
 using namespace ORVTListview;
@@ -229,5 +231,5 @@ void TreeSavingTest::waitsForWhoeverHoldsTheFile()
     QCOMPARE(stored(u"Code"_s), u"0"_s);
 }
 
-QTEST_MAIN(TreeSavingTest)
+ORVT_TEST(TreeSavingTest)
 #include "TreeSavingTest.moc"

@@ -1,4 +1,5 @@
 #include "base/ColouredText.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -375,5 +376,5 @@ void BoxLayoutTest::theScrollRangeFollowsTheWidth()
     }
 }
 
-QTEST_MAIN(BoxLayoutTest)
+ORVT_TEST(BoxLayoutTest)
 #include "BoxLayoutTest.moc"

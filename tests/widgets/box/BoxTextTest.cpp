@@ -1,4 +1,5 @@
 #include "widgets/box/BoxText.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QTextBlock>
@@ -195,5 +196,5 @@ void BoxTextTest::changesAreCounted()
     QVERIFY(text.changeCount() > before);
 }
 
-QTEST_MAIN(BoxTextTest)
+ORVT_TEST(BoxTextTest)
 #include "BoxTextTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/box/BoxModel.h"
 #include <ORVTListview/RichTextBox.h>
@@ -300,5 +301,5 @@ void RichTextBoxRandomTest::behavesLikeTheModel()
     }
 }
 
-QTEST_MAIN(RichTextBoxRandomTest)
+ORVT_TEST(RichTextBoxRandomTest)
 #include "RichTextBoxRandomTest.moc"

@@ -1,4 +1,5 @@
 #include "base/ColouredText.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -400,5 +401,5 @@ void RtfInBoxTest::manySoftHyphensAreNotKerned()
     QVERIFY(isKerned(500));
 }
 
-QTEST_MAIN(RtfInBoxTest)
+ORVT_TEST(RtfInBoxTest)
 #include "RtfInBoxTest.moc"

@@ -2,6 +2,7 @@
 // fits together.
 
 #include "support/RandomText.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/combo/ImageComboFixture.h"
 
@@ -150,5 +151,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ImageComboRandomTest)
+ORVT_TEST(ImageComboRandomTest)
 #include "ImageComboRandomTest.moc"

@@ -2,6 +2,7 @@
 
 #include "members/EventDelivery.h"
 #include "support/QtPrinters.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
@@ -371,5 +372,5 @@ void EventDeliveryTest::agreesWithAModel()
     }
 }
 
-QTEST_APPLESS_MAIN(EventDeliveryTest)
+ORVT_TEST_WITHOUT_APPLICATION(EventDeliveryTest)
 #include "EventDeliveryTest.moc"

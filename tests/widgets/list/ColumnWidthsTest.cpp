@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
 #include "widgets/look/CellText.h"
@@ -382,5 +383,5 @@ void ColumnWidthsTest::fitsTheBeginningsOfLongTexts()
     QCOMPARE(width, shown->columnWidth(1));
 }
 
-QTEST_MAIN(ColumnWidthsTest)
+ORVT_TEST(ColumnWidthsTest)
 #include "ColumnWidthsTest.moc"

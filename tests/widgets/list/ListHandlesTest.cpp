@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
 
@@ -385,5 +386,5 @@ void ListHandlesTest::holdsUnderRandomOperations()
         QVERIFY2(!item->isAlive(), qPrintable(u"seed %1"_s.arg(seed)));
 }
 
-QTEST_MAIN(ListHandlesTest)
+ORVT_TEST(ListHandlesTest)
 #include "ListHandlesTest.moc"

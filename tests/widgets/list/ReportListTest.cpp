@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListEvents.h"
 #include "widgets/list/ReportListFixture.h"
@@ -464,5 +465,5 @@ void ReportListTest::holdsThirtyThousandRows()
     QCOMPARE(last->SubItem(13), u" "_s);
 }
 
-QTEST_MAIN(ReportListTest)
+ORVT_TEST(ReportListTest)
 #include "ReportListTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include "widgets/list/ReportModel.h"
@@ -391,5 +392,5 @@ void ReportModelTest::holdsUnderRandomOperations()
     }
 }
 
-QTEST_MAIN(ReportModelTest)
+ORVT_TEST(ReportModelTest)
 #include "ReportModelTest.moc"
