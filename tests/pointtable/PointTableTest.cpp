@@ -4,6 +4,7 @@
 #include "shared/points/DisplayNames.h"
 #include "support/PseudoTexts.h"
 #include "support/Raised.h"
+#include "support/RandomSeed.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/look/PictureBox.h"
@@ -11,7 +12,6 @@
 
 #include <ORVTListview/ORVTListview.h>
 
-#include <QtCore/QRandomGenerator>
 #include <QtTest/QAbstractItemModelTester>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
@@ -717,7 +717,7 @@ void PointTableTest::captionGivesAWithdrawnFontBack()
 
 void PointTableTest::bearsRandomCalls()
 {
-    const unsigned seed = QRandomGenerator::global()->generate();
+    const unsigned seed = randomSeed();
     std::mt19937 random(seed);
     const auto below = [&](int limit) {
         return std::uniform_int_distribution<int>(0, limit - 1)(random);

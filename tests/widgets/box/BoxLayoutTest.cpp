@@ -1,4 +1,5 @@
 #include "base/ColouredText.h"
+#include "support/RandomSeed.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
@@ -155,7 +156,7 @@ void BoxLayoutTest::act(RichTextBox &box)
 void BoxLayoutTest::everyChangeIsPainted_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 6; ++seed)
+    for (const unsigned seed : randomSeeds(6))
         QTest::addRow("seed %u", seed) << seed;
 }
 

@@ -1,3 +1,4 @@
+#include "support/RandomSeed.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
@@ -302,7 +303,7 @@ void ReportModelTest::givesViewsTheirRoles()
 void ReportModelTest::holdsUnderRandomOperations_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 20; ++seed)
+    for (const unsigned seed : randomSeeds(20))
         QTest::addRow("seed %u", seed) << seed;
 }
 
