@@ -19,13 +19,32 @@ function(orvt_add_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()
 
-# DragTests on a virtual display of their own: the offscreen platform cannot drag.
-function(orvt_add_widget_test name program)
-    set(display)
-    if(name MATCHES "DragTest")
-        set(display DISPLAY)
+# What is laid out, drawn or dragged is tested in other places, too: another scale,
+# style and country, whose numbers and letters differ.
+set(locales_dir ${PROJECT_BINARY_DIR}/locales)
+find_program(LOCALEDEF localedef)
+file(MAKE_DIRECTORY ${locales_dir})
+foreach(country IN ITEMS de_DE tr_TR)
+    if(LOCALEDEF AND EXISTS /usr/share/i18n/locales/${country}
+            AND NOT EXISTS ${locales_dir}/${country}.UTF-8)
+        execute_process(COMMAND ${LOCALEDEF} --no-archive -i ${country} -f UTF-8
+            ${locales_dir}/${country}.UTF-8)
     endif()
-    orvt_add_test(${name} ${display} COMMAND $<TARGET_FILE:${program}> ${ARGN})
+endforeach()
+
+function(orvt_add_test_elsewhere name program)
+    foreach(place IN ITEMS "150 windows tr_TR" "200 fusion de_DE")
+        separate_arguments(place)
+        list(GET place 0 percent)
+        list(GET place 1 style)
+        list(GET place 2 country)
+        math(EXPR whole "${percent} / 100")
+        math(EXPR rest "${percent} % 100")
+        orvt_add_test(${name}.${percent}.${style}.${country} ${ARGN}
+            ENVIRONMENT QT_SCALE_FACTOR=${whole}.${rest} QT_STYLE_OVERRIDE=${style}
+                LOCPATH=${locales_dir} LC_ALL=${country}.UTF-8
+            COMMAND $<TARGET_FILE:${program}> ${name})
+    endforeach()
 endfunction()
 
 # One program of several ...Test.cpp, each of which announces its class.
@@ -39,7 +58,14 @@ function(orvt_add_widget_tests program)
     list(FILTER ARGN INCLUDE REGEX "Test\\.cpp$")
     foreach(source IN LISTS ARGN)
         get_filename_component(name ${source} NAME_WE)
-        orvt_add_widget_test(${name} ${program} ${name})
+        set(display)
+        if(name MATCHES "DragTest$") # which the offscreen platform cannot do
+            set(display DISPLAY)
+        endif()
+        orvt_add_test(${name} ${display} COMMAND $<TARGET_FILE:${program}> ${name})
+        if(name MATCHES "(Columns|Drag|Layout|Look|Widths)Test$" AND NOT ORVT_SANITIZE)
+            orvt_add_test_elsewhere(${name} ${program} ${display})
+        endif()
     endforeach()
 endfunction()
 

@@ -44,12 +44,17 @@ private:
     QRegion m_painted;
 };
 
-// A place outside the region where the pictures differ, or a null point.
+// A place outside the region where the pictures, which may have several pixels for one
+// of the region's, differ, or a null point.
 QPoint missed(const QImage &before, const QImage &behind, const QRegion &painted)
 {
+    const qreal scale = before.devicePixelRatio();
+    const auto isPainted = [&](int x, int y) {
+        return painted.contains(QPoint(static_cast<int>(x / scale), static_cast<int>(y / scale)));
+    };
     for (int y = 0; y < before.height(); ++y) {
         for (int x = 0; x < before.width(); ++x) {
-            if (before.pixel(x, y) != behind.pixel(x, y) && !painted.contains(QPoint(x, y)))
+            if (before.pixel(x, y) != behind.pixel(x, y) && !isPainted(x, y))
                 return {x + 1, y + 1};
         }
     }
