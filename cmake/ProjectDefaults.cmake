@@ -26,6 +26,16 @@ if(ORVT_WARNINGS_AS_ERRORS)
     add_compile_options(-Werror)
 endif()
 
+if(ORVT_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined)
+    add_compile_options(${sanitizers} -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(${sanitizers})
+endif()
+find_program(LLD_PROGRAM ld.lld)
+if(ORVT_FAST_LINKER AND LLD_PROGRAM)
+    add_link_options(-fuse-ld=lld)
+endif()
+
 add_compile_definitions(
     QT_NO_KEYWORDS
     QT_NO_CAST_FROM_ASCII

@@ -9,7 +9,7 @@ get_property(reference_headers GLOBAL PROPERTY ORVT_PUBLIC_HEADER_PATHS)
 list(APPEND reference_headers
     ${PROJECT_SOURCE_DIR}/docs/guide
     ${PROJECT_SOURCE_DIR}/examples/README.md)
-list(JOIN reference_headers " " ORVT_REFERENCE_INPUT)
+list(JOIN reference_headers "\" \"" ORVT_REFERENCE_INPUT)
 configure_file(docs/Doxyfile.in ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/reference)
 

@@ -8,8 +8,8 @@ build_packages=(
 
 test_packages=(
     libgtest-dev libgmock-dev python3 qt6-base-private-dev libqt6opengl6-dev dpkg-dev file
-    abigail-tools
-    clang-format clang-tidy doxygen valgrind
+    abigail-tools libreoffice-writer-nogui
+    clang-format clang-tidy doxygen lld locales valgrind
     xvfb xauth xclip xdotool openbox x11-utils)
 
 # What ./bench compares with.

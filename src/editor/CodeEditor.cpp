@@ -91,7 +91,7 @@ void CodeEditor::raiseStatus()
 
 bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_box)
+    if (!qobject_cast<RichTextBox *>(watched)) // nor while it is destroyed
         return QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::FocusIn:

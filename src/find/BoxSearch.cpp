@@ -22,47 +22,47 @@ TextSearch BoxSearch::how() const
 
 bool BoxSearch::findNext(const QString &wanted)
 {
-    if (!m_box || wanted.isEmpty())
+    if (!box() || wanted.isEmpty())
         return false;
     const QString text = asInBox(wanted);
-    const auto place = static_cast<qint32>(findInProgram(m_box->Text(), text, m_start, how()));
+    const auto place = static_cast<qint32>(findInProgram(box()->Text(), text, m_start, how()));
     if (place < 0) {
-        m_box->setSelLength(0);
+        box()->setSelLength(0);
         m_start = 0;
         return false;
     }
     const auto length = static_cast<qint32>(text.size());
-    m_box->setSelStart(place);
-    m_box->setSelLength(length);
-    m_box->ensureCursorVisible();
+    box()->setSelStart(place);
+    box()->setSelLength(length);
+    box()->ensureCursorVisible();
     m_start = place + length;
     return true;
 }
 
 void BoxSearch::replace(const QString &wanted, const QString &text)
 {
-    if (!m_box || wanted.isEmpty() ||
-        m_box->SelText().compare(asInBox(wanted), Qt::CaseInsensitive) != 0)
+    if (!box() || wanted.isEmpty() ||
+        box()->SelText().compare(asInBox(wanted), Qt::CaseInsensitive) != 0)
         return;
-    m_box->commands().replace({{m_box->SelStart(), m_box->SelLength()}}, text);
-    if (m_box)
-        m_start = m_box->SelStart() + 1; // the caret stands behind the new text
+    box()->commands().replace({{box()->SelStart(), box()->SelLength()}}, text);
+    if (box())
+        m_start = box()->SelStart() + 1; // the caret stands behind the new text
 }
 
 qsizetype BoxSearch::replaceAll(const QString &wanted, const QString &text)
 {
-    if (!m_box)
+    if (!box())
         return 0;
     const QString searched = asInBox(wanted);
-    const QList<qsizetype> places = placesToReplace(m_box->Text(), searched, how());
+    const QList<qsizetype> places = placesToReplace(box()->Text(), searched, how());
     QList<TextPiece> pieces;
     pieces.reserve(places.size());
     for (const qsizetype place : places)
         pieces.append({static_cast<qint32>(place), static_cast<qint32>(searched.size())});
     if (!pieces.isEmpty())
-        m_box->commands().replace(pieces, text);
-    if (m_box)
-        m_box->setSelLength(0);
+        box()->commands().replace(pieces, text);
+    if (box())
+        box()->setSelLength(0);
     return places.size();
 }
 

@@ -20,7 +20,8 @@ public:
     void begin(RichTextBox &box);
     void end() { m_box = nullptr; }
 
-    RichTextBox *box() const { return m_box; }
+    // None from the moment on at which its destruction leaves it a mere widget.
+    RichTextBox *box() const { return qobject_cast<RichTextBox *>(m_box.data()); }
 
     void setOption(RichTextBox::FindOption option, bool on) { m_options.setFlag(option, on); }
 
@@ -38,7 +39,7 @@ public:
 private:
     TextSearch how() const;
 
-    QPointer<RichTextBox> m_box;
+    QPointer<QObject> m_box;
     qint32 m_start = 0; // of the next search
     QFlags<RichTextBox::FindOption> m_options;
 };

@@ -3,6 +3,7 @@
 #include "combo/DataComboHost.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "shared/texts/TextTable.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/Error.h>
 
@@ -528,5 +529,5 @@ void DataComboTest::membersAreReachedByName()
         QVERIFY2(host.combo->metaObject()->indexOfMethod(member) >= 0, member);
 }
 
-QTEST_MAIN(DataComboTest)
+ORVT_TEST(DataComboTest)
 #include "DataComboTest.moc"

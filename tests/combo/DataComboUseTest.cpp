@@ -2,6 +2,7 @@
 
 #include "combo/DataComboHost.h"
 #include "support/ShownTexts.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtCore/QMetaMethod>
@@ -457,5 +458,5 @@ void DataComboUseTest::showsNoTextOfItsOwn()
     QCOMPARE(shownWithoutLookup(*host.combo), QStringList());
 }
 
-QTEST_MAIN(DataComboUseTest)
+ORVT_TEST(DataComboUseTest)
 #include "DataComboUseTest.moc"

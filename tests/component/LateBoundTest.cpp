@@ -4,6 +4,7 @@
 #include "SampleArguments.h"
 
 #include "support/TestFolder.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
@@ -155,5 +156,5 @@ void LateBoundTest::takesATreesErrorForItsStatus()
     QVERIFY(!tree.LastError().Description().isEmpty());
 }
 
-QTEST_MAIN(LateBoundTest)
+ORVT_TEST(LateBoundTest)
 #include "LateBoundTest.moc"

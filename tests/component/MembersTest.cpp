@@ -2,6 +2,7 @@
 #include "MemberText.h"
 
 #include "support/TestFolder.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/SettingsStore.h>
 
@@ -201,5 +202,5 @@ void MembersTest::haveEventNumbersInOrder()
     QVERIFY(last > 0);
 }
 
-QTEST_MAIN(MembersTest)
+ORVT_TEST(MembersTest)
 #include "MembersTest.moc"

@@ -4,6 +4,7 @@
 #include "SampleArguments.h"
 
 #include "support/TestFolder.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/DataObject.h>
 #include <ORVTListview/SettingsStore.h>
@@ -178,5 +179,5 @@ void NumberedEventsTest::usersAndHostsRaiseNoneThatAreNeverRaised()
     QCOMPARE(sink.numbers.isEmpty(), name == u"ORVRichText"_s);
 }
 
-QTEST_MAIN(NumberedEventsTest)
+ORVT_TEST(NumberedEventsTest)
 #include "NumberedEventsTest.moc"

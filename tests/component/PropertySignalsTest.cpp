@@ -3,6 +3,7 @@
 #include "AllComponents.h"
 
 #include "support/TestFolder.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/ListItems.h>
@@ -465,5 +466,5 @@ void PropertySignalsTest::bearsAReceiverThatDestroysWhatTheUserWorksWith()
     QTRY_VERIFY(list.isNull());
 }
 
-QTEST_MAIN(PropertySignalsTest)
+ORVT_TEST(PropertySignalsTest)
 #include "PropertySignalsTest.moc"

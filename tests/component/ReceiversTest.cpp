@@ -5,6 +5,7 @@
 #include "EventScenes.h"
 
 #include "support/TestFolder.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/SettingsStore.h>
 
@@ -274,5 +275,5 @@ void ReceiversTest::sinksMayThrow()
     QVERIFY(scene->control);
 }
 
-QTEST_MAIN(ReceiversTest)
+ORVT_TEST(ReceiversTest)
 #include "ReceiversTest.moc"

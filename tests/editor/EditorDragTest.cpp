@@ -2,6 +2,7 @@
 // it was.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/TextDrag.h"
 #include "support/WidgetTest.h"
 
@@ -223,5 +224,5 @@ void EditorDragTest::aRefusedMiddleClickChangesNothing()
     QCOMPARE(messages().size(), 1);
 }
 
-QTEST_MAIN(EditorDragTest)
+ORVT_TEST(EditorDragTest)
 #include "EditorDragTest.moc"

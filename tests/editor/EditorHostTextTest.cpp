@@ -2,6 +2,7 @@
 // inside an event of the user's own edit.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QClipboard>
@@ -426,5 +427,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorHostTextTest)
+ORVT_TEST(EditorHostTextTest)
 #include "EditorHostTextTest.moc"

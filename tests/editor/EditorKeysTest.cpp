@@ -1,6 +1,7 @@
 // What becomes of each key in the editor, driven by real key events.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QClipboard>
@@ -318,5 +319,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorKeysTest)
+ORVT_TEST(EditorKeysTest)
 #include "EditorKeysTest.moc"

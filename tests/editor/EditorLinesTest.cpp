@@ -1,6 +1,7 @@
 // What keys do to lines: indents, line ends, and the way to the line above or below.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QFontMetricsF>
@@ -247,5 +248,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorLinesTest)
+ORVT_TEST(EditorLinesTest)
 #include "EditorLinesTest.moc"

@@ -5,6 +5,8 @@
 #include "editor/EditorClock.h"
 #include "editor/EditorHost.h"
 #include "editor/EditorModel.h"
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/ListItem.h>
 
@@ -443,11 +445,7 @@ private Q_SLOTS:
     {
         QFETCH(const int, lines);
         QFETCH(const int, steps);
-        bool isGiven = false;
-        unsigned seed = qEnvironmentVariable("ORVT_MONKEY_SEED").toUInt(&isGiven);
-        if (!isGiven)
-            seed = 20261120;
-        const int givenSteps = qEnvironmentVariableIntValue("ORVT_MONKEY_STEPS");
+        const unsigned seed = randomSeed(20261120);
         m_random.seed(seed);
         EditorHost host;
         m_host = &host;
@@ -455,7 +453,7 @@ private Q_SLOTS:
         m_model = {};
         m_hostLines = lines;
         host.list->setCodeText(QString());
-        const int last = givenSteps > 0 ? givenSteps : steps;
+        const int last = randomSteps(steps);
         constexpr auto calls = static_cast<int>(hostCalls);
         for (int i = -calls; i < last; ++i) {
             m_log.clear();
@@ -472,5 +470,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorMonkeyTest)
+ORVT_TEST(EditorMonkeyTest)
 #include "EditorMonkeyTest.moc"

@@ -1,6 +1,7 @@
 // The checked paste, by call, key, drop, middle click and menu.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtCore/QMimeData>
@@ -271,5 +272,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorPasteTest)
+ORVT_TEST(EditorPasteTest)
 #include "EditorPasteTest.moc"

@@ -7,6 +7,8 @@
 #include "editor/EditorHost.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/ThreadColouring.h"
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/box/BoxCommands.h"
 
@@ -258,13 +260,8 @@ private:
 private Q_SLOTS:
     void whatStoodStaysInReach()
     {
-        bool isGiven = false;
-        unsigned seed = qEnvironmentVariable("ORVT_REACH_SEED").toUInt(&isGiven);
-        if (!isGiven)
-            seed = 20261121;
-        const int givenSteps = qEnvironmentVariableIntValue("ORVT_REACH_STEPS");
-        const int steps = givenSteps > 0 ? givenSteps : 2000;
-        qInfo("seed %u", seed);
+        const unsigned seed = randomSeed(20261121);
+        const int steps = randomSteps(2000);
         m_random.seed(seed);
         EditorHost host;
         m_host = &host;
@@ -289,5 +286,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorReachTest)
+ORVT_TEST(EditorReachTest)
 #include "EditorReachTest.moc"

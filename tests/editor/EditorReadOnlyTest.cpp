@@ -1,6 +1,7 @@
 // A program that the user may not edit: one that is read-only, and one that is hidden.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtCore/QTimer>
@@ -227,5 +228,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorReadOnlyTest)
+ORVT_TEST(EditorReadOnlyTest)
 #include "EditorReadOnlyTest.moc"

@@ -1,6 +1,7 @@
 // Position, status, highlight, tool tips, events and the tab order.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtCore/QElapsedTimer>
@@ -247,5 +248,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorServicesTest)
+ORVT_TEST(EditorServicesTest)
 #include "EditorServicesTest.moc"

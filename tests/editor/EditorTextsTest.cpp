@@ -3,6 +3,7 @@
 #include "editor/EditorHost.h"
 #include "support/PseudoTexts.h"
 #include "support/ShownTexts.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QContextMenuEvent>
@@ -69,5 +70,5 @@ private:
     PseudoTexts m_pseudo;
 };
 
-QTEST_MAIN(EditorTextsTest)
+ORVT_TEST(EditorTextsTest)
 #include "EditorTextsTest.moc"

@@ -3,6 +3,7 @@
 #include "editor/EditorHost.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/ThreadColouring.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QInputMethodEvent>
@@ -337,5 +338,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorTypingTest)
+ORVT_TEST(EditorTypingTest)
 #include "EditorTypingTest.moc"

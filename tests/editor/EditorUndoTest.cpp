@@ -2,6 +2,7 @@
 
 #include "editor/EditorClock.h"
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QClipboard>
@@ -503,5 +504,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorUndoTest)
+ORVT_TEST(EditorUndoTest)
 #include "EditorUndoTest.moc"

@@ -2,6 +2,7 @@
 // same lines as before, as far as the place in question is among them.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtWidgets/QScrollBar>
@@ -278,5 +279,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditorViewTest)
+ORVT_TEST(EditorViewTest)
 #include "EditorViewTest.moc"

@@ -3,6 +3,7 @@
 #include "editor/EditorHost.h"
 #include "support/MisbehavingHost.h"
 #include "support/Raised.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <ORVTListview/LateCall.h>
@@ -173,5 +174,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FailingHostTest)
+ORVT_TEST(FailingHostTest)
 #include "FailingHostTest.moc"

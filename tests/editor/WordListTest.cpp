@@ -2,6 +2,7 @@
 
 #include "editor/EditorHost.h"
 #include "editor/rules/language/CodeWordList.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
@@ -471,5 +472,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(WordListTest)
+ORVT_TEST(WordListTest)
 #include "WordListTest.moc"

@@ -2,6 +2,7 @@
 // and when it goes.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
@@ -345,5 +346,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(WordListWindowTest)
+ORVT_TEST(WordListWindowTest)
 #include "WordListWindowTest.moc"

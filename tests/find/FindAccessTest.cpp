@@ -2,6 +2,7 @@
 
 #include "find/FindFixture.h"
 #include "support/ActiveAccessibility.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 using namespace ORVTListview;
@@ -68,5 +69,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FindAccessTest)
+ORVT_TEST(FindAccessTest)
 #include "FindAccessTest.moc"

@@ -2,6 +2,7 @@
 // histories.
 
 #include "find/FindFixture.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtWidgets/QAbstractItemView>
@@ -412,5 +413,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FindDialogTest)
+ORVT_TEST(FindDialogTest)
 #include "FindDialogTest.moc"

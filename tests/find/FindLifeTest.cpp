@@ -2,6 +2,7 @@
 // thread, on its screen, and what may happen to its editor.
 
 #include "find/FindFixture.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtCore/QTimer>
@@ -315,5 +316,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FindLifeTest)
+ORVT_TEST(FindLifeTest)
 #include "FindLifeTest.moc"

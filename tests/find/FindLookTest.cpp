@@ -4,6 +4,7 @@
 #include "shared/texts/TextTable.h"
 #include "support/PseudoTexts.h"
 #include "support/ShownTexts.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/look/Twips.h"
 #include <ORVTListview/TranslatedTexts.h>
@@ -358,5 +359,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FindLookTest)
+ORVT_TEST(FindLookTest)
 #include "FindLookTest.moc"

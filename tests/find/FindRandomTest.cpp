@@ -2,6 +2,7 @@
 
 #include "find/FindFixture.h"
 #include "find/SimpleSearch.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 using namespace ORVTListview;
@@ -95,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FindRandomTest)
+ORVT_TEST(FindRandomTest)
 #include "FindRandomTest.moc"

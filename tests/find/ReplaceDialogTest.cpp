@@ -4,6 +4,7 @@
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/ThreadColouring.h"
 #include "find/FindFixture.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/box/PlainCommands.h"
 #include <ORVTListview/Error.h>
@@ -407,5 +408,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ReplaceDialogTest)
+ORVT_TEST(ReplaceDialogTest)
 #include "ReplaceDialogTest.moc"

@@ -3,6 +3,7 @@
 #include "editor/EditorHost.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/ThreadColouring.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/Error.h>
 
@@ -148,5 +149,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ReplaceWordTest)
+ORVT_TEST(ReplaceWordTest)
 #include "ReplaceWordTest.moc"

@@ -4,6 +4,8 @@
 
 #include "base/TextSearch.h"
 
+#include "support/RandomSeed.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -99,7 +101,7 @@ private:
 class RandomPrograms
 {
 public:
-    explicit RandomPrograms(unsigned seed = std::random_device{}())
+    explicit RandomPrograms(unsigned seed = randomSeed())
         : m_seed(seed)
         , m_random(seed)
     {

@@ -4,6 +4,7 @@
 #include "support/Pixels.h"
 #include "support/PseudoTexts.h"
 #include "support/ShownTexts.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/look/PictureBox.h"
 #include "widgets/look/PictureButton.h"
@@ -502,5 +503,5 @@ void CaptionLineTest::disabledPicturesAreGrey()
     }
 }
 
-QTEST_MAIN(CaptionLineTest)
+ORVT_TEST(CaptionLineTest)
 #include "CaptionLineTest.moc"

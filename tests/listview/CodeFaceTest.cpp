@@ -4,6 +4,7 @@
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <ORVTListview/Error.h>
@@ -358,5 +359,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(CodeFaceTest)
+ORVT_TEST(CodeFaceTest)
 #include "CodeFaceTest.moc"

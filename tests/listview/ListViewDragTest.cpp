@@ -1,6 +1,7 @@
 // Real drags of an ORVListView: the toolkit's drag loop runs, fed by mouse events.
 
 #include "listview/ShownListView.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtCore/QTimer>
@@ -214,5 +215,5 @@ void ListViewDragTest::bearsAnythingInADrag()
     QVERIFY(QGuiApplication::mouseButtons() == Qt::NoButton);
 }
 
-QTEST_MAIN(ListViewDragTest)
+ORVT_TEST(ListViewDragTest)
 #include "ListViewDragTest.moc"

@@ -1,6 +1,7 @@
 // The events of ORVListView, raised by what a user does with mouse and keys.
 
 #include "listview/ShownListView.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QClipboard>
@@ -484,5 +485,5 @@ void ListViewEventsTest::bearsAnythingInAnEvent()
         QCoreApplication::processEvents();
 }
 
-QTEST_MAIN(ListViewEventsTest)
+ORVT_TEST(ListViewEventsTest)
 #include "ListViewEventsTest.moc"

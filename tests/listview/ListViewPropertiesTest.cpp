@@ -1,6 +1,7 @@
 // What a host's form keeps of an ORVListView, and what Qt knows of its members.
 
 #include "support/Raised.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <ORVTListview/ORVTListview.h>
@@ -389,5 +390,5 @@ void ListViewPropertiesTest::bearsADestroyingReceiver()
     QVERIFY(guard.isNull());
 }
 
-QTEST_MAIN(ListViewPropertiesTest)
+ORVT_TEST(ListViewPropertiesTest)
 #include "ListViewPropertiesTest.moc"

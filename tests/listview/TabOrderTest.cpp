@@ -1,6 +1,7 @@
 // Tab goes through the control in one order, however a host has put it on its form:
 // table or editor, then the read button.
 
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/ORVTListview.h>
 
@@ -316,5 +317,5 @@ void TabOrderTest::everyComponentTakesAGivenTabStop()
     }
 }
 
-QTEST_MAIN(TabOrderTest)
+ORVT_TEST(TabOrderTest)
 #include "TabOrderTest.moc"

@@ -4,13 +4,14 @@
 #include "shared/points/DisplayNames.h"
 #include "support/PseudoTexts.h"
 #include "support/Raised.h"
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/look/PictureBox.h"
 #include "widgets/look/PictureButton.h"
 
 #include <ORVTListview/ORVTListview.h>
 
-#include <QtCore/QRandomGenerator>
 #include <QtTest/QAbstractItemModelTester>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
@@ -716,7 +717,7 @@ void PointTableTest::captionGivesAWithdrawnFontBack()
 
 void PointTableTest::bearsRandomCalls()
 {
-    const unsigned seed = QRandomGenerator::global()->generate();
+    const unsigned seed = randomSeed();
     std::mt19937 random(seed);
     const auto below = [&](int limit) {
         return std::uniform_int_distribution<int>(0, limit - 1)(random);
@@ -777,5 +778,5 @@ void PointTableTest::bearsRandomCalls()
     }
 }
 
-QTEST_MAIN(PointTableTest)
+ORVT_TEST(PointTableTest)
 #include "PointTableTest.moc"

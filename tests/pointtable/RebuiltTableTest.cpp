@@ -1,6 +1,7 @@
 // A table that is built anew begins afresh, whatever the old one was like.
 
 #include "listview/ShownListView.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtWidgets/QLineEdit>
@@ -340,5 +341,5 @@ void RebuiltTableTest::whatIsSetMeanwhileIsTheTables()
     QVERIFY(!list.listView()->MultiSelect());
 }
 
-QTEST_MAIN(RebuiltTableTest)
+ORVT_TEST(RebuiltTableTest)
 #include "RebuiltTableTest.moc"

@@ -2,6 +2,7 @@
 
 #include "listview/ShownListView.h"
 #include "shared/points/DisplayNames.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/look/Twips.h"
 #include <ORVTListview/LibraryTexts.h>
@@ -311,5 +312,5 @@ void TableColumnsTest::widthsAreToldAsTheyAre()
     QCOMPARE(shown.table().columnWidth(5), actual);
 }
 
-QTEST_MAIN(TableColumnsTest)
+ORVT_TEST(TableColumnsTest)
 #include "TableColumnsTest.moc"

@@ -1,6 +1,7 @@
 // The shell accepts everything, answers nothing and raises no event.
 
 #include "shared/texts/TextTable.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <ORVTListview/ORVRichText.h>
@@ -254,5 +255,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(RichTextShellTest)
+ORVT_TEST(RichTextShellTest)
 #include "RichTextShellTest.moc"

@@ -7,6 +7,7 @@
 #include "rtf/RtfReader.h"
 #include "rtf/RtfWriter.h"
 #include "support/QtPrinters.h"
+#include "support/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -153,7 +154,7 @@ void inspect(const QString &rtf, quint32 seed)
 
 TEST(RtfFuzz, readsTokensInAnyOrder)
 {
-    for (quint32 seed = 1; seed <= 10'000; ++seed) {
+    for (const unsigned seed : randomSeeds(10'000)) {
         RtfRandom random(seed);
         ASSERT_NO_FATAL_FAILURE(inspect(soup(random), seed));
     }
@@ -161,7 +162,7 @@ TEST(RtfFuzz, readsTokensInAnyOrder)
 
 TEST(RtfFuzz, readsDamagedDocuments)
 {
-    for (quint32 seed = 1; seed <= 10'000; ++seed) {
+    for (const unsigned seed : randomSeeds(10'000)) {
         RtfRandom random(seed);
         QString rtf = document(random);
         damage(rtf, random);
@@ -173,7 +174,7 @@ TEST(RtfFuzz, readsDamagedDocuments)
 // units at most, or a line end.
 TEST(RtfFuzz, readsADocumentThatIsCutOffAsFarAsItGoes)
 {
-    for (quint32 seed = 1; seed <= 2000; ++seed) {
+    for (const unsigned seed : randomSeeds(2000)) {
         RtfRandom random(seed);
         const QString rtf = random.below(2) == 0 ? document(random) : soup(random);
         const int length = random.below(static_cast<int>(rtf.size()) + 1);

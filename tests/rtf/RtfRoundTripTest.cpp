@@ -6,6 +6,7 @@
 #include "rtf/RtfReader.h"
 #include "rtf/RtfWriter.h"
 #include "support/QtPrinters.h"
+#include "support/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -65,7 +66,7 @@ bool isSevenBit(const QString &rtf)
 
 TEST(RtfRoundTrip, keepsRandomTextsAndFormats)
 {
-    for (quint32 seed = 1; seed <= 5000; ++seed) {
+    for (const unsigned seed : randomSeeds(5000)) {
         RtfRandom random(seed);
         const RtfFormat base = random.format();
         const QList<RtfPiece> pieces = random.pieces();
@@ -141,7 +142,7 @@ QList<RtfPiece> anyPieces(RtfRandom &random)
 
 TEST(RtfRoundTrip, keepsAnyTextAndWritesItTheSameAgain)
 {
-    for (quint32 seed = 1; seed <= 10'000; ++seed) {
+    for (const unsigned seed : randomSeeds(10'000)) {
         RtfRandom random(seed);
         const RtfFormat base = anyFormat(random);
         QList<RtfPiece> pieces = anyPieces(random);
@@ -162,7 +163,7 @@ TEST(RtfRoundTrip, writesWhatItReadTheSameAgain)
         readRtf(rtf, writer);
         return writer.finish();
     };
-    for (quint32 seed = 1; seed <= 500; ++seed) {
+    for (const unsigned seed : randomSeeds(500)) {
         RtfRandom random(seed);
         const QString once = rewritten(written(random.pieces(), random.format()));
         ASSERT_EQ(rewritten(once), once) << "seed " << seed;

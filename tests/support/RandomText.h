@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/RandomSeed.h"
+
 #include <QtCore/QString>
 
 #include <random>
@@ -11,7 +13,7 @@ namespace ORVTListview {
 class RandomText
 {
 public:
-    explicit RandomText(unsigned seed = std::random_device{}())
+    explicit RandomText(unsigned seed = randomSeed())
         : m_seed(seed)
         , m_random(seed)
     {

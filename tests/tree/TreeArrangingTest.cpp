@@ -3,6 +3,7 @@
 #include "tree/ProjectTree.h"
 
 #include "support/PseudoTexts.h"
+#include "support/TestProgram.h"
 #include "widgets/look/Twips.h"
 #include "widgets/nodes/NodeTreeEvents.h"
 
@@ -342,5 +343,5 @@ void TreeArrangingTest::bearsItsEndInAnyEvent()
     QCOMPARE(stored(u"Code"_s), u"0"_s);
 }
 
-QTEST_MAIN(TreeArrangingTest)
+ORVT_TEST(TreeArrangingTest)
 #include "TreeArrangingTest.moc"

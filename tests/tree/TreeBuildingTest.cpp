@@ -7,6 +7,7 @@
 #include "support/PseudoTexts.h"
 #include "support/Raised.h"
 #include "support/ShownTexts.h"
+#include "support/TestProgram.h"
 #include "tree/rules/PointCounts.h"
 #include "widgets/look/Colours.h"
 
@@ -386,5 +387,5 @@ void TreeBuildingTest::showsNothingThatWasNotLookedUp()
     setTextProvider(nullptr);
 }
 
-QTEST_MAIN(TreeBuildingTest)
+ORVT_TEST(TreeBuildingTest)
 #include "TreeBuildingTest.moc"

@@ -3,6 +3,8 @@
 
 #include "tree/ProjectTree.h"
 
+#include "support/TestProgram.h"
+
 #include <QtCore/QTimer>
 #include <QtWidgets/QLineEdit>
 
@@ -425,5 +427,5 @@ void TreeDragTest::bearsAnythingInADragEvent()
     QVERIFY(QGuiApplication::mouseButtons() == Qt::NoButton);
 }
 
-QTEST_MAIN(TreeDragTest)
+ORVT_TEST(TreeDragTest)
 #include "TreeDragTest.moc"

@@ -4,6 +4,7 @@
 #include "tree/ProjectTree.h"
 
 #include "support/RandomText.h"
+#include "support/TestProgram.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QProcess>
@@ -81,5 +82,5 @@ void TreeKillTest::aKillLeavesTheOldOrTheNewArrangement()
     QVERIFY2(saved > 20, "the kills came too early to meet a saving tree");
 }
 
-QTEST_MAIN(TreeKillTest)
+ORVT_TEST(TreeKillTest)
 #include "TreeKillTest.moc"

@@ -3,6 +3,7 @@
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "shared/points/HostForms.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <ORVTListview/Error.h>
@@ -88,5 +89,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TreeVocabularyTest)
+ORVT_TEST(TreeVocabularyTest)
 #include "TreeVocabularyTest.moc"

@@ -1,5 +1,7 @@
 #include "WorkbenchTest.h"
 
+#include "support/TestProgram.h"
+
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QHeaderView>
 
@@ -144,5 +146,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(CheckResultsTest)
+ORVT_TEST(CheckResultsTest)
 #include "CheckResultsTest.moc"

@@ -1,3 +1,5 @@
+#include "support/TestProgram.h"
+
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QProcessEnvironment>
@@ -130,5 +132,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-QTEST_GUILESS_MAIN(CommandLineTest)
+ORVT_TEST_WITHOUT_WIDGETS(CommandLineTest)
 #include "CommandLineTest.moc"

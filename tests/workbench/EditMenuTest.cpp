@@ -1,5 +1,7 @@
 #include "WorkbenchTest.h"
 
+#include "support/TestProgram.h"
+
 #include <ORVTListview/ReportList.h>
 
 #include <QtCore/QMimeData>
@@ -215,5 +217,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EditMenuTest)
+ORVT_TEST(EditMenuTest)
 #include "EditMenuTest.moc"

@@ -1,4 +1,5 @@
 #include "WorkbenchTest.h"
+#include "support/TestProgram.h"
 #include "support/TranslationFile.h"
 
 #include <QtCore/QRegularExpression>
@@ -92,5 +93,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(LanguagesTest)
+ORVT_TEST(LanguagesTest)
 #include "LanguagesTest.moc"

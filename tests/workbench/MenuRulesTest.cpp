@@ -1,6 +1,8 @@
 #include "WorkbenchTest.h"
 #include "widgets/box/BoxCommands.h"
 
+#include "support/TestProgram.h"
+
 #include <QtCore/QSet>
 
 using namespace Qt::StringLiterals;
@@ -136,5 +138,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MenuRulesTest)
+ORVT_TEST(MenuRulesTest)
 #include "MenuRulesTest.moc"

@@ -1,5 +1,7 @@
 #include "WorkbenchTest.h"
 
+#include "support/TestProgram.h"
+
 #include <ORVTListview/Error.h>
 
 #include <QtCore/QDir>
@@ -270,5 +272,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(OpenAndSaveTest)
+ORVT_TEST(OpenAndSaveTest)
 #include "OpenAndSaveTest.moc"

@@ -1,4 +1,6 @@
 #include "WorkbenchTest.h"
+
+#include "support/TestProgram.h"
 #include <ORVTListview/ReportList.h>
 
 #include <ORVTListview/ColumnHeaders.h>
@@ -274,5 +276,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PointTablesTest)
+ORVT_TEST(PointTablesTest)
 #include "PointTablesTest.moc"

@@ -1,5 +1,7 @@
 #include "workbench/ProgramText.h"
 
+#include "support/TestProgram.h"
+
 #include <QtTest/QTest>
 
 using namespace ORVTListview;
@@ -32,5 +34,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ProgramTextTest)
+ORVT_TEST_WITHOUT_APPLICATION(ProgramTextTest)
 #include "ProgramTextTest.moc"

@@ -1,5 +1,7 @@
 #include "editor/rules/PopupPlace.h"
 
+#include "support/RandomSeed.h"
+
 #include <gtest/gtest.h>
 
 #include <random>
@@ -43,7 +45,7 @@ TEST(PopupPlace, LowerOnTheSideThatHasMoreRoom)
 
 TEST(PopupPlace, NeverOutsideTheScreenAndNeverOverTheWord)
 {
-    std::mt19937 random(7);
+    std::mt19937 random(randomSeed(7));
     const auto between = [&random](int least, int most) {
         return std::uniform_int_distribution(least, most)(random);
     };

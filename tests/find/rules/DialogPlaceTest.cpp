@@ -1,5 +1,7 @@
 #include "find/rules/DialogPlace.h"
 
+#include "support/RandomSeed.h"
+
 #include <QtCore/QRect>
 
 #include <gtest/gtest.h>
@@ -52,7 +54,7 @@ TEST(DialogPlace, OnASmallScreenCoversTheLeast)
 
 TEST(DialogPlace, IsOnTheScreenAndOffThePlaceWheneverThereIsRoom)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = randomSeed();
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     const auto number = [&random](int low, int high) {

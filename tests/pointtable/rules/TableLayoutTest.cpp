@@ -1,5 +1,7 @@
 #include "pointtable/rules/TableLayout.h"
 
+#include "support/RandomSeed.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -55,7 +57,7 @@ TEST(TableLayout, PicturesEndAboveTheBody)
 
 TEST(TableLayout, HoldsForEverySize)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = randomSeed();
     std::mt19937 random(seed);
     std::uniform_real_distribution<double> length(0, 12000);
     std::uniform_real_distribution<double> captionLength(0, 900);

@@ -1,6 +1,7 @@
 #include "shared/texts/AccessKeys.h"
 
 #include "support/QtPrinters.h"
+#include "support/RandomSeed.h"
 
 #include <QtCore/QSet>
 
@@ -113,7 +114,7 @@ TEST(AccessKeys, OfNothingIsNothing)
 
 TEST(AccessKeys, OnRandomCaptionsAsManyAsPossibleGetOneAndNoneClashes)
 {
-    const unsigned seed = std::random_device()();
+    const unsigned seed = randomSeed();
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     const auto upTo = [&](int most) { return std::uniform_int_distribution(1, most)(random); };

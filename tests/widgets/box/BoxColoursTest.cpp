@@ -1,4 +1,5 @@
 #include "base/ColouredText.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -164,5 +165,5 @@ void BoxColoursTest::theDocumentKeepsFewFormats()
              qPrintable(QString::number(box.document()->allFormats().size())));
 }
 
-QTEST_MAIN(BoxColoursTest)
+ORVT_TEST(BoxColoursTest)
 #include "BoxColoursTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/TextDrag.h"
 #include "widgets/box/PlainCommands.h"
 #include <ORVTListview/RichTextBox.h>
@@ -215,5 +216,5 @@ void BoxDragTest::aMiddleClickEndsInPaste()
     QCOMPARE(m_box->Text(), u"onex two three"_s);
 }
 
-QTEST_MAIN(BoxDragTest)
+ORVT_TEST(BoxDragTest)
 #include "BoxDragTest.moc"

@@ -1,5 +1,6 @@
 // What the toolkit makes of a document's formats, from its inner headers.
 
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -89,5 +90,5 @@ void BoxFormatsAccessTest::aRepaintedWordHasTheFormatOfTheOthers()
     QCOMPARE(formats.size(), std::size_t{2}); // with and without highlight
 }
 
-QTEST_MAIN(BoxFormatsAccessTest)
+ORVT_TEST(BoxFormatsAccessTest)
 #include "BoxFormatsAccessTest.moc"

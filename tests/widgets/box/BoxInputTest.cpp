@@ -3,6 +3,8 @@
 #include "base/ColouredText.h"
 #include "widgets/box/PlainCommands.h"
 
+#include "support/TestProgram.h"
+
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
 #include <QtGui/QDropEvent>
@@ -394,5 +396,5 @@ void BoxInputTest::committedTextComesOutTheSame()
     QCOMPARE(m_box->Text(), text + u"\ufdef"_s);
 }
 
-QTEST_MAIN(BoxInputTest)
+ORVT_TEST(BoxInputTest)
 #include "BoxInputTest.moc"

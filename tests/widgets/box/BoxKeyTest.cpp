@@ -2,6 +2,8 @@
 
 #include "base/ColouredText.h"
 
+#include "support/TestProgram.h"
+
 #include <QtGui/QClipboard>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
@@ -221,5 +223,5 @@ void BoxKeyTest::ctrlTabMovesTheFocus()
     layout.removeWidget(&before);
 }
 
-QTEST_MAIN(BoxKeyTest)
+ORVT_TEST(BoxKeyTest)
 #include "BoxKeyTest.moc"

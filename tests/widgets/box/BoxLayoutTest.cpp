@@ -1,4 +1,6 @@
 #include "base/ColouredText.h"
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -42,12 +44,17 @@ private:
     QRegion m_painted;
 };
 
-// A place outside the region where the pictures differ, or a null point.
+// A place outside the region where the pictures, which may have several pixels for one
+// of the region's, differ, or a null point.
 QPoint missed(const QImage &before, const QImage &behind, const QRegion &painted)
 {
+    const qreal scale = before.devicePixelRatio();
+    const auto isPainted = [&](int x, int y) {
+        return painted.contains(QPoint(static_cast<int>(x / scale), static_cast<int>(y / scale)));
+    };
     for (int y = 0; y < before.height(); ++y) {
         for (int x = 0; x < before.width(); ++x) {
-            if (before.pixel(x, y) != behind.pixel(x, y) && !painted.contains(QPoint(x, y)))
+            if (before.pixel(x, y) != behind.pixel(x, y) && !isPainted(x, y))
                 return {x + 1, y + 1};
         }
     }
@@ -154,7 +161,7 @@ void BoxLayoutTest::act(RichTextBox &box)
 void BoxLayoutTest::everyChangeIsPainted_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 6; ++seed)
+    for (const unsigned seed : randomSeeds(6))
         QTest::addRow("seed %u", seed) << seed;
 }
 
@@ -375,5 +382,5 @@ void BoxLayoutTest::theScrollRangeFollowsTheWidth()
     }
 }
 
-QTEST_MAIN(BoxLayoutTest)
+ORVT_TEST(BoxLayoutTest)
 #include "BoxLayoutTest.moc"

@@ -1,4 +1,5 @@
 #include "base/ColouredText.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -245,5 +246,5 @@ void BoxLookTest::screenReadersSeeATextToEdit()
     QCOMPARE(seen->textInterface()->cursorPosition(), 4);
 }
 
-QTEST_MAIN(BoxLookTest)
+ORVT_TEST(BoxLookTest)
 #include "BoxLookTest.moc"

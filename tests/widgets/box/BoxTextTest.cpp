@@ -1,4 +1,6 @@
 #include "widgets/box/BoxText.h"
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QTextBlock>
@@ -134,7 +136,7 @@ void BoxTextTest::edit(QTextCursor &cursor)
 void BoxTextTest::theTextFollowsRandomEdits_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 6; ++seed)
+    for (const unsigned seed : randomSeeds(6))
         QTest::addRow("seed %u", seed) << seed;
 }
 
@@ -195,5 +197,5 @@ void BoxTextTest::changesAreCounted()
     QVERIFY(text.changeCount() > before);
 }
 
-QTEST_MAIN(BoxTextTest)
+ORVT_TEST(BoxTextTest)
 #include "BoxTextTest.moc"

@@ -1,3 +1,5 @@
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/box/BoxModel.h"
 #include <ORVTListview/RichTextBox.h>
@@ -265,7 +267,7 @@ void RichTextBoxRandomTest::compareColours()
 void RichTextBoxRandomTest::behavesLikeTheModel_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 8; ++seed)
+    for (const unsigned seed : randomSeeds(8))
         QTest::addRow("seed %u", seed) << seed;
 }
 
@@ -300,5 +302,5 @@ void RichTextBoxRandomTest::behavesLikeTheModel()
     }
 }
 
-QTEST_MAIN(RichTextBoxRandomTest)
+ORVT_TEST(RichTextBoxRandomTest)
 #include "RichTextBoxRandomTest.moc"

@@ -1,4 +1,5 @@
 #include "base/ColouredText.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -307,5 +308,5 @@ void RichTextBoxTest::findSelectsTheMatch()
     QCOMPARE(box.Find(u"two"_s, 5, -1, RichTextBox::FindMatchCase), -1);
 }
 
-QTEST_MAIN(RichTextBoxTest)
+ORVT_TEST(RichTextBoxTest)
 #include "RichTextBoxTest.moc"

@@ -2,6 +2,7 @@
 
 #include "widgets/combo/ComboMatches.h"
 #include "support/RandomText.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/combo/ComboEntries.h"
 
@@ -161,5 +162,5 @@ private:
     }
 };
 
-QTEST_MAIN(ComboMatchesTest)
+ORVT_TEST(ComboMatchesTest)
 #include "ComboMatchesTest.moc"

@@ -4,6 +4,8 @@
 #include "widgets/combo/ImageComboFixture.h"
 #include "widgets/input/DragEvents.h"
 
+#include "support/TestProgram.h"
+
 #include <QtCore/QMimeData>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
@@ -232,5 +234,5 @@ void ImageComboDragTest::bearsAnythingInADragEvent()
     QVERIFY(QGuiApplication::mouseButtons() == Qt::NoButton);
 }
 
-QTEST_MAIN(ImageComboDragTest)
+ORVT_TEST(ImageComboDragTest)
 #include "ImageComboDragTest.moc"

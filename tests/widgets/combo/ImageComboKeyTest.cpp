@@ -1,5 +1,6 @@
 // The keys of an image combo, and the events on the way.
 
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/combo/ImageComboFixture.h"
 #include <ORVTListview/Error.h>
@@ -293,7 +294,7 @@ void ImageComboKeyTest::keepsErrorsFromTheEventLoop()
     QCOMPARE(shown->text(), u"te"_s);
 }
 
-QTEST_MAIN(ImageComboKeyTest)
+ORVT_TEST(ImageComboKeyTest)
 #include "ImageComboKeyTest.moc"
 
 #include <QtGui/QKeyEvent>

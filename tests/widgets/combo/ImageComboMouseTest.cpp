@@ -1,5 +1,6 @@
 // Choosing with the mouse.
 
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/combo/ImageComboFixture.h"
 
@@ -229,5 +230,5 @@ void ImageComboMouseTest::bearsAnythingInAMouseEvent()
     QVERIFY(!QApplication::activePopupWidget());
 }
 
-QTEST_MAIN(ImageComboMouseTest)
+ORVT_TEST(ImageComboMouseTest)
 #include "ImageComboMouseTest.moc"

@@ -1,5 +1,6 @@
 // What the program does with an image combo.
 
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/combo/ImageComboFixture.h"
 #include <ORVTListview/Error.h>
@@ -325,5 +326,5 @@ void ImageComboTest::theLayoutMayRunFromRightToLeft()
     QCOMPARE(shown->listView()->window()->geometry().right(), combo.right());
 }
 
-QTEST_MAIN(ImageComboTest)
+ORVT_TEST(ImageComboTest)
 #include "ImageComboTest.moc"

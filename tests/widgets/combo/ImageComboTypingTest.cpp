@@ -1,5 +1,6 @@
 // Finding an entry by typing a part of its text.
 
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/combo/ImageComboFixture.h"
 
@@ -271,5 +272,5 @@ void ImageComboTypingTest::undoesTyping()
     QCOMPARE(shown.listed().size(), 4);
 }
 
-QTEST_MAIN(ImageComboTypingTest)
+ORVT_TEST(ImageComboTypingTest)
 #include "ImageComboTypingTest.moc"

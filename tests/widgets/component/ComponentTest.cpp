@@ -1,4 +1,5 @@
 #include "members/MemberEntries.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/Component.h>
 
@@ -125,7 +126,7 @@ void ComponentTest::survivesACallThatDestroysIt()
     QCOMPARE(sink.count, 1);
 }
 
-QTEST_MAIN(ComponentTest)
+ORVT_TEST(ComponentTest)
 #include "ComponentTest.moc"
 
 #include <QtCore/QPointer>

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/input/DragData.h"
 #include "widgets/list/ReportListFixture.h"
@@ -139,5 +140,5 @@ void DataObjectTest::promisesFormats()
     QCOMPARE(asked.size(), 1);
 }
 
-QTEST_MAIN(DataObjectTest)
+ORVT_TEST(DataObjectTest)
 #include "DataObjectTest.moc"

@@ -2,6 +2,7 @@
 // the toolkit.
 
 #include "find/fFind.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/combo/ImageCombo.h"
 #include "widgets/nodes/NodeTree.h"
@@ -250,5 +251,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FieldMenuTest)
+ORVT_TEST(FieldMenuTest)
 #include "FieldMenuTest.moc"

@@ -1,4 +1,5 @@
 #include "widgets/input/VirtualKeys.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QKeyEvent>
@@ -193,5 +194,5 @@ void VirtualKeysTest::typingIsTellable()
     QCOMPARE(isTyping(QKeyEvent(QEvent::KeyPress, key, modifiers, text)), typing);
 }
 
-QTEST_MAIN(VirtualKeysTest)
+ORVT_TEST(VirtualKeysTest)
 #include "VirtualKeysTest.moc"

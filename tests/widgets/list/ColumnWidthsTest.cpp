@@ -1,10 +1,11 @@
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
 #include "widgets/look/CellText.h"
 #include "widgets/look/TextWidths.h"
 #include "widgets/view/LongestText.h"
 
-#include <QtCore/QRandomGenerator>
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QScrollBar>
 
@@ -147,7 +148,7 @@ void ColumnWidthsTest::findsTheWidestText_data()
 void ColumnWidthsTest::findsTheWidestText()
 {
     QFETCH(QFont, font);
-    const unsigned seed = QRandomGenerator::global()->generate();
+    const unsigned seed = randomSeed();
     Random random(seed);
     TextWidths widths(font);
     const QFontMetrics metrics(font);
@@ -169,7 +170,7 @@ void ColumnWidthsTest::findsTheWidestText()
 void ColumnWidthsTest::fitsEveryColumnExactly_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 10; ++seed)
+    for (const unsigned seed : randomSeeds(10))
         QTest::addRow("seed %u", seed) << seed;
 }
 
@@ -382,5 +383,5 @@ void ColumnWidthsTest::fitsTheBeginningsOfLongTexts()
     QCOMPARE(width, shown->columnWidth(1));
 }
 
-QTEST_MAIN(ColumnWidthsTest)
+ORVT_TEST(ColumnWidthsTest)
 #include "ColumnWidthsTest.moc"

@@ -1,8 +1,9 @@
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QRandomGenerator>
 
 #include <cmath>
 #include <random>
@@ -348,7 +349,7 @@ void ListHandlesTest::hidesRowsAndColumns()
 // Handles and rows against a simple list of keys.
 void ListHandlesTest::holdsUnderRandomOperations()
 {
-    const unsigned seed = QRandomGenerator::global()->generate();
+    const unsigned seed = randomSeed();
     std::mt19937 random(seed);
     const auto below = [&random](qsizetype limit) {
         return static_cast<int>(std::uniform_int_distribution<qsizetype>(0, limit - 1)(random));
@@ -385,5 +386,5 @@ void ListHandlesTest::holdsUnderRandomOperations()
         QVERIFY2(!item->isAlive(), qPrintable(u"seed %1"_s.arg(seed)));
 }
 
-QTEST_MAIN(ListHandlesTest)
+ORVT_TEST(ListHandlesTest)
 #include "ListHandlesTest.moc"

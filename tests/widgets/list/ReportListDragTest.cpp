@@ -2,6 +2,8 @@
 
 #include "widgets/list/ReportListFixture.h"
 
+#include "support/TestProgram.h"
+
 #include <QtCore/QMimeData>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
@@ -451,5 +453,5 @@ void ReportListDragTest::bearsAnythingInADragEvent()
     QVERIFY(QGuiApplication::mouseButtons() == Qt::NoButton);
 }
 
-QTEST_MAIN(ReportListDragTest)
+ORVT_TEST(ReportListDragTest)
 #include "ReportListDragTest.moc"

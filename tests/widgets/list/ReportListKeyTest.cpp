@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListEvents.h"
 #include "widgets/list/ReportListFixture.h"
@@ -396,5 +397,5 @@ void ReportListKeyTest::keepsErrorsFromTheEventLoop()
     QTest::keyPress(shown.window, Qt::Key_Down);
 }
 
-QTEST_MAIN(ReportListKeyTest)
+ORVT_TEST(ReportListKeyTest)
 #include "ReportListKeyTest.moc"

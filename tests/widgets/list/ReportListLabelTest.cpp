@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListEvents.h"
 #include "widgets/list/ReportListFixture.h"
@@ -610,5 +611,5 @@ void ReportListLabelTest::keepsErrorsFromTheEventLoop()
     QCoreApplication::processEvents();
 }
 
-QTEST_MAIN(ReportListLabelTest)
+ORVT_TEST(ReportListLabelTest)
 #include "ReportListLabelTest.moc"

@@ -1,5 +1,6 @@
 // What is seen, and what a screen reader hears.
 
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
 #include "widgets/view/LongestText.h"
@@ -395,5 +396,5 @@ void ReportListLookTest::keepsRowsOfOneHeight()
         QCOMPARE(shown->rowHeight(row), height);
 }
 
-QTEST_MAIN(ReportListLookTest)
+ORVT_TEST(ReportListLookTest)
 #include "ReportListLookTest.moc"

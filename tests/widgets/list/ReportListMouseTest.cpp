@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListEvents.h"
 #include "widgets/list/ReportListFixture.h"
@@ -320,5 +321,5 @@ void ReportListMouseTest::keepsErrorsFromTheEventLoop()
     shown.click(shown.header(2));
 }
 
-QTEST_MAIN(ReportListMouseTest)
+ORVT_TEST(ReportListMouseTest)
 #include "ReportListMouseTest.moc"

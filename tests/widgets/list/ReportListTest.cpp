@@ -1,7 +1,10 @@
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListEvents.h"
 #include "widgets/list/ReportListFixture.h"
 
+#include <QtCore/QRandomGenerator>
 #include <QtCore/QSet>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QScrollBar>
@@ -117,7 +120,7 @@ void ReportListTest::selectsScatteredRowsOneByOne()
 void ReportListTest::keepsTheSelectionInOnePlace()
 {
     const ShownList shown(0, 3);
-    QRandomGenerator random(7);
+    QRandomGenerator random(randomSeed(7));
     shown->setMultiSelect(true);
     QSet<ListItem *> chosen; // the same by another way
     const auto any = [&] { return shown.item(1 + random.bounded(shown->ListItems()->Count())); };
@@ -464,5 +467,5 @@ void ReportListTest::holdsThirtyThousandRows()
     QCOMPARE(last->SubItem(13), u" "_s);
 }
 
-QTEST_MAIN(ReportListTest)
+ORVT_TEST(ReportListTest)
 #include "ReportListTest.moc"

@@ -1,3 +1,5 @@
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include "widgets/list/ReportModel.h"
@@ -301,7 +303,7 @@ void ReportModelTest::givesViewsTheirRoles()
 void ReportModelTest::holdsUnderRandomOperations_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 20; ++seed)
+    for (const unsigned seed : randomSeeds(20))
         QTest::addRow("seed %u", seed) << seed;
 }
 
@@ -391,5 +393,5 @@ void ReportModelTest::holdsUnderRandomOperations()
     }
 }
 
-QTEST_MAIN(ReportModelTest)
+ORVT_TEST(ReportModelTest)
 #include "ReportModelTest.moc"

@@ -1,4 +1,5 @@
 #include "widgets/look/Colours.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 using namespace ORVTListview;
@@ -99,5 +100,5 @@ void ColoursTest::textStandsOutFromItsBackground()
     QCOMPARE(Colours::textOn(background, {}), white ? QColor(Qt::white) : QColor(Qt::black));
 }
 
-QTEST_MAIN(ColoursTest)
+ORVT_TEST(ColoursTest)
 #include "ColoursTest.moc"

@@ -1,4 +1,5 @@
 #include "support/Pixels.h"
+#include "support/TestProgram.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>
 
@@ -413,5 +414,5 @@ void ImageListTest::detachedCopyStillDraws()
     QCOMPARE(Pixels::of(copy, 16), Pixels::of(icon, 16));
 }
 
-QTEST_MAIN(ImageListTest)
+ORVT_TEST(ImageListTest)
 #include "ImageListTest.moc"

@@ -1,5 +1,6 @@
 #include "widgets/look/Pictures.h"
 #include "support/Pixels.h"
+#include "support/TestProgram.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>
 
@@ -284,5 +285,5 @@ void PicturesTest::statusPicturesDifferWithoutColour()
     }
 }
 
-QTEST_MAIN(PicturesTest)
+ORVT_TEST(PicturesTest)
 #include "PicturesTest.moc"

@@ -3,6 +3,7 @@
 #include "support/ShownTexts.h"
 #include "shared/texts/TextTable.h"
 #include "support/PseudoTexts.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtWidgets/QCheckBox>
@@ -55,5 +56,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ShownTextsTest)
+ORVT_TEST(ShownTextsTest)
 #include "ShownTextsTest.moc"

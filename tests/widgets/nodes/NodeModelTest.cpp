@@ -3,6 +3,7 @@
 
 #include "support/Raised.h"
 #include "support/RandomText.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/nodes/NodeTree.h"
 #include <ORVTListview/Node.h>
@@ -233,5 +234,5 @@ void NodeModelTest::showsPictures()
     QVERIFY(!index.data(Qt::DecorationRole).isValid());
 }
 
-QTEST_MAIN(NodeModelTest)
+ORVT_TEST(NodeModelTest)
 #include "NodeModelTest.moc"

@@ -1,5 +1,6 @@
 // Keys and mouse in a tree: what happens, and which events tell of it.
 
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/nodes/NodeTreeEvents.h"
 #include "widgets/nodes/NodeTreeFixture.h"
@@ -529,5 +530,5 @@ void NodeTreeInputTest::keepsExceptionsFromTheLoop()
     QCOMPARE(shown.selected(), u"a2"_s);
 }
 
-QTEST_MAIN(NodeTreeInputTest)
+ORVT_TEST(NodeTreeInputTest)
 #include "NodeTreeInputTest.moc"

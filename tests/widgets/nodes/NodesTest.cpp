@@ -1,6 +1,7 @@
 // The nodes of a tree as a host sees them: the collection and the handles.
 
 #include "support/Raised.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/nodes/NodeTreeFixture.h"
 
@@ -471,7 +472,7 @@ void NodesTest::showsColours()
     QVERIFY(!shown.index("a1").data(Qt::ForegroundRole).isValid());
 }
 
-QTEST_MAIN(NodesTest)
+ORVT_TEST(NodesTest)
 #include "NodesTest.moc"
 
 #include <QtTest/QSignalSpy>

@@ -4,6 +4,8 @@
 #include "editor/rules/colouring/ColouringFixture.h"
 #include "rtf/RtfReader.h"
 
+#include "support/RandomSeed.h"
+
 #include <QtCore/QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -78,7 +80,7 @@ bool becomesComment(const QString &program)
 
 TEST(Recolour, WhatTheBoxShowsGivesTheSameDocument)
 {
-    constexpr unsigned seed = 4711;
+    const unsigned seed = randomSeed(4711);
     std::mt19937 random(seed);
     Colouring colouring;
     const QString head = BuildRtfHeader(QString(), defaultColours(), colouring.messages).Header;
@@ -102,7 +104,7 @@ TEST(Recolour, ABracketDirectlyAfterRemMakesACommentOfIt)
 
 TEST(Recolour, RunsAndRtfShowTheSame)
 {
-    constexpr unsigned seed = 4712;
+    const unsigned seed = randomSeed(4712);
     std::mt19937 random(seed);
     Colouring colouring;
     const QString head = BuildRtfHeader(QString(), defaultColours(), colouring.messages).Header;
@@ -119,7 +121,7 @@ TEST(Recolour, RunsAndRtfShowTheSame)
 
 TEST(Recolour, WholeTextAndLineByLineAgree)
 {
-    constexpr unsigned seed = 4713;
+    const unsigned seed = randomSeed(4713);
     std::mt19937 random(seed);
     Colouring colouring;
     for (int round = 0; round < 2000; ++round) {
@@ -136,7 +138,7 @@ TEST(Recolour, WholeTextAndLineByLineAgree)
 
 TEST(Recolour, LfAndCrLfAgreeOnceLineEndsAreCrLf)
 {
-    constexpr unsigned seed = 4714;
+    const unsigned seed = randomSeed(4714);
     std::mt19937 random(seed);
     Colouring colouring;
     for (int round = 0; round < 500; ++round) {

@@ -2,6 +2,7 @@
 
 #include "editor/rules/undo/UndoStore.h"
 #include "support/QtPrinters.h"
+#include "support/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -443,7 +444,7 @@ TEST(KeptStates, EmptiedEditorComesBackEmpty)
 // on the way forward to the end and back to the start.
 TEST(KeptStates, NothingTypedIsEverLost)
 {
-    const unsigned seed = 31337;
+    const unsigned seed = randomSeed(31337);
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     UndoStore ring;
@@ -472,10 +473,7 @@ TEST(KeptStates, NothingTypedIsEverLost)
 // telling it to come back, for 49 snapshots.
 TEST(KeptStates, NoTextThatStoodIsEverOutOfReach)
 {
-    bool isGiven = false;
-    unsigned seed = qEnvironmentVariable("ORVT_KEPT_SEED").toUInt(&isGiven);
-    if (!isGiven)
-        seed = 4711;
+    const unsigned seed = randomSeed(4711);
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     UndoStore ring;

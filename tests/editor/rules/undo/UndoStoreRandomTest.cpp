@@ -2,6 +2,7 @@
 
 #include "shared/compression/Compression.h"
 #include "support/QtPrinters.h"
+#include "support/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -202,4 +203,4 @@ TEST_P(UndoStoreAttack, AgreesWithATapeWhenLittleMayWait)
     Attack(GetParam(), 8'000).run(25'000);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, UndoStoreAttack, testing::Values(1U, 20240611U));
+INSTANTIATE_TEST_SUITE_P(Seeds, UndoStoreAttack, testing::ValuesIn(randomSeeds({1U, 20240611U})));

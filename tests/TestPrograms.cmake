@@ -1,0 +1,101 @@
+# How tests are told to ctest: by the name of a widget test's class or of a core
+# test's suite, whatever program holds it.
+
+# Every test is run by this script, which sees to its environment.
+set(run_test ${Python3_EXECUTABLE} -I -S ${CMAKE_CURRENT_LIST_DIR}/support/run_test.py)
+set(test_folders ${PROJECT_BINARY_DIR}/test_folders)
+
+# NAME [DISPLAY] [ENVIRONMENT NAME=VALUE...] COMMAND ...
+function(orvt_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 test "DISPLAY" "" "ENVIRONMENT;COMMAND")
+    set(options --name ${name} --folder ${test_folders}/${name})
+    if(test_DISPLAY)
+        list(APPEND options --display)
+    endif()
+    foreach(setting IN LISTS test_ENVIRONMENT)
+        list(APPEND options --set ${setting})
+    endforeach()
+    add_test(NAME ${name} COMMAND ${run_test} ${options} -- ${test_COMMAND})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
+
+# What is laid out, drawn or dragged is tested in other places, too: another scale,
+# style and country, whose numbers and letters differ.
+set(locales_dir ${PROJECT_BINARY_DIR}/locales)
+find_program(LOCALEDEF localedef)
+file(MAKE_DIRECTORY ${locales_dir})
+foreach(country IN ITEMS de_DE tr_TR)
+    if(LOCALEDEF AND EXISTS /usr/share/i18n/locales/${country}
+            AND NOT EXISTS ${locales_dir}/${country}.UTF-8)
+        execute_process(COMMAND ${LOCALEDEF} --no-archive -i ${country} -f UTF-8
+            ${locales_dir}/${country}.UTF-8)
+    endif()
+endforeach()
+
+function(orvt_add_test_elsewhere name program)
+    foreach(place IN ITEMS "150 windows tr_TR" "200 fusion de_DE")
+        separate_arguments(place)
+        list(GET place 0 percent)
+        list(GET place 1 style)
+        list(GET place 2 country)
+        math(EXPR whole "${percent} / 100")
+        math(EXPR rest "${percent} % 100")
+        orvt_add_test(${name}.${percent}.${style}.${country} ${ARGN}
+            ENVIRONMENT QT_SCALE_FACTOR=${whole}.${rest} QT_STYLE_OVERRIDE=${style}
+                LOCPATH=${locales_dir} LC_ALL=${country}.UTF-8
+            COMMAND $<TARGET_FILE:${program}> ${name})
+    endforeach()
+endfunction()
+
+# One program of several ...Test.cpp, each of which announces its class.
+function(orvt_add_widget_tests program)
+    add_executable(${program} ${ARGN})
+    target_link_libraries(${program} PRIVATE widget_test_support orvt_inside)
+    # Elsewhere QtTest's definitions, which name the folder, differ.
+    if(CMAKE_CURRENT_SOURCE_DIR STREQUAL PROJECT_SOURCE_DIR/tests)
+        orvt_precompiled_as(${program} widget_test_support)
+    endif()
+    list(FILTER ARGN INCLUDE REGEX "Test\\.cpp$")
+    foreach(source IN LISTS ARGN)
+        get_filename_component(name ${source} NAME_WE)
+        set(display)
+        if(name MATCHES "DragTest$") # which the offscreen platform cannot do
+            set(display DISPLAY)
+        endif()
+        orvt_add_test(${name} ${display} COMMAND $<TARGET_FILE:${program}> ${name})
+        if(name MATCHES "(Columns|Drag|Layout|Look|Widths)Test$" AND NOT ORVT_SANITIZE)
+            orvt_add_test_elsewhere(${name} ${program} ${display})
+        endif()
+    endforeach()
+endfunction()
+
+# A program that has no more of the library than any host.
+function(orvt_add_host_test name)
+    add_executable(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE ORVTListview)
+    orvt_add_test(${name} COMMAND $<TARGET_FILE:${name}>)
+endfunction()
+
+# The suites of a program of core tests, each a process of its own. ctest asks the
+# program for them.
+function(orvt_add_suites program)
+    set(launcher "\"${run_test}\"")
+    string(REPLACE ";" "\" \"" launcher "${launcher}")
+    set(ask ${CMAKE_CURRENT_BINARY_DIR}/${program}_suites.cmake)
+    file(CONFIGURE OUTPUT ${ask}.in CONTENT [[
+execute_process(COMMAND "$<TARGET_FILE:@program@>" --gtest_list_tests
+    OUTPUT_VARIABLE lines
+    COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "(^|\n)[^ \n]+\\." suites "${lines}")
+foreach(suite IN LISTS suites)
+    string(STRIP "${suite}" suite)
+    string(REGEX REPLACE "\\.$" "" suite "${suite}")
+    string(REPLACE "/" "_" folder "${suite}")
+    add_test("${suite}" @launcher@ --name "${suite}" --folder "@test_folders@/${folder}"
+        -- "$<TARGET_FILE:@program@>" "--gtest_filter=${suite}.*")
+    set_tests_properties("${suite}" PROPERTIES TIMEOUT 300)
+endforeach()
+]] @ONLY)
+    file(GENERATE OUTPUT ${ask} INPUT ${ask}.in)
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${ask})
+endfunction()

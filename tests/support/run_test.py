@@ -1,0 +1,83 @@
+#!/usr/bin/env python3
+"""Runs a test in an environment that is the same on every machine, and fails when the
+test skips anything that tests/skips.txt does not name.
+
+    run_test.py --name NAME --folder FOLDER [--display] [--set NAME=VALUE]...
+                -- COMMAND...
+
+FOLDER, emptied, becomes the home folder. With --display the test gets a virtual
+display."""
+
+import argparse
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+
+SKIPS = pathlib.Path(__file__).parent.parent / "skips.txt"
+SKIPPED = 77  # what the tests that are scripts end with
+KEPT = ("PATH", "TMPDIR", "ORVT_TEST_SEED", "ORVT_TEST_STEPS")
+QTEST_SKIP = re.compile(r"^SKIP   : (\S+?)\((.*?)\)", re.MULTILINE)
+GTEST_SKIP = re.compile(r"^\[  SKIPPED \] (\S+\.[^\s,]+)(?:, where| \()", re.MULTILINE)
+
+
+def environment(folder, settings):
+    """Nothing of the caller's that a test could feel, and no memory of earlier runs."""
+    shutil.rmtree(folder, ignore_errors=True)
+    runtime = folder / "runtime"
+    runtime.mkdir(mode=0o700, parents=True)
+    values = {name: os.environ[name] for name in KEPT if name in os.environ}
+    values.update(
+        HOME=str(folder), XDG_RUNTIME_DIR=str(runtime), LC_ALL="C.UTF-8", TZ="UTC",
+        QT_QPA_PLATFORM="offscreen",
+        # Project trees save. This holds nothing and takes nothing.
+        ORVT_SETTINGS_FILE="/dev/null/none",
+        ASAN_OPTIONS="detect_leaks=0", UBSAN_OPTIONS="print_stacktrace=1")
+    values.update(setting.split("=", 1) for setting in settings)
+    return values
+
+
+def with_display(command):
+    return ["xvfb-run", "--auto-servernum", "--server-args=-screen 0 1024x768x24", *command]
+
+
+def skips(name, status, output):
+    """What was skipped: a test, a function of it, or function(row)."""
+    found = {name} if status == SKIPPED else set()
+    for function, row in QTEST_SKIP.findall(output):
+        found.add(function.replace("::", ".") + (f"({row})" if row else ""))
+    return found | set(GTEST_SKIP.findall(output))
+
+
+def allowed():
+    lines = SKIPS.read_text().splitlines()
+    return {line.split()[0] for line in lines if line and not line.startswith("#")}
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--name", required=True)
+    parser.add_argument("--folder", type=pathlib.Path, required=True)
+    parser.add_argument("--display", action="store_true")
+    parser.add_argument("--set", action="append", default=[])
+    parser.add_argument("command", nargs="+")
+    arguments = parser.parse_args()
+    settings = (["QT_QPA_PLATFORM=xcb"] if arguments.display else []) + arguments.set
+    command = with_display(arguments.command) if arguments.display else arguments.command
+    result = subprocess.run(
+        command, env=environment(arguments.folder, settings), check=False,
+        stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    sys.stdout.buffer.write(result.stdout)
+    output = result.stdout.decode(errors="replace")
+    unexplained = skips(arguments.name, result.returncode, output) - allowed()
+    for name in sorted(unexplained):
+        print(f"{name} was skipped, and tests/skips.txt does not say why it may be")
+    if result.returncode < 0:
+        print(f"Ended by signal {-result.returncode}")
+    sys.exit(1 if unexplained or result.returncode not in (0, SKIPPED) else 0)
+
+
+if __name__ == "__main__":
+    main()
