@@ -193,12 +193,7 @@ ListItem *ReportList::SelectedItem() const
 
 void ReportList::setSelectedItem(ListItem *Item)
 {
-    const QString member = u"ReportList.setSelectedItem"_s;
-    if (Item && !Item->isAlive())
-        throw Error(ObjectNotSet, member, u"The row has been removed"_s);
-    if (Item && Item->m_parts != d.get())
-        throw Error(InvalidCall, member, u"The row is another list's"_s);
-    d->rowChoice.select(Item ? Item->m_row : nullptr);
+    d->rowChoice.select(ListItem::heldOf(Item, *d, u"ReportList.setSelectedItem"_s));
 }
 
 void ReportList::goToRow(qint32 Index)

@@ -77,8 +77,8 @@ void NodeTree::keepSelectionShown()
     for (const NodeTreeBody::Folded &folded : std::as_const(d->folded)) {
         const TreeNode *chosen = d->choice.selected();
         if (!folded.expanded && folded.node->isAlive() && chosen &&
-            chosen->isWithin(*folded.node->m_node))
-            d->choice.select(folded.node->m_node);
+            chosen->isWithin(*folded.node->m_held))
+            d->choice.select(folded.node->m_held);
     }
 }
 
