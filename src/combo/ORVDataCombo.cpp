@@ -7,7 +7,7 @@
 #include "shared/texts/TextTable.h"
 #include "widgets/combo/ImageCombo.h"
 #include "widgets/component/ToldProperties.h"
-#include "widgets/input/RaisedDrags.h"
+#include "widgets/input/DragEvents.h"
 #include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Colours.h"
 #include "widgets/look/Pictures.h"
@@ -86,11 +86,10 @@ void ORVDataCombo::relayEvents()
 {
     const ImageCombo *combo = d->combo;
     connect(combo, &ImageCombo::Change, this, &ORVDataCombo::Change);
-    connect(combo, &ImageCombo::Click, this, &ORVDataCombo::Click);
-    connect(combo, &ImageCombo::DblClick, this, &ORVDataCombo::DblClick);
+    relayClicks(combo, this);
     connect(combo, &ImageCombo::picked, this, &ORVDataCombo::picked);
     relayKeys(combo, this);
-    raiseDrags(combo->drags(), *this);
+    relayDrags(&combo->drags(), this);
 }
 
 void ORVDataCombo::FillDataListview(LwType TypeIndex, PointCollection *, QString &ErrMsg)

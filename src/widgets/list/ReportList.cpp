@@ -1,7 +1,7 @@
 #include <ORVTListview/ReportList.h>
 
 #include "base/EventGuard.h"
-#include "widgets/input/RaisedDrags.h"
+#include "widgets/input/RelayedEvents.h"
 #include "widgets/list/FreshRows.h"
 #include "widgets/list/ReportHeader.h"
 #include "widgets/list/ReportListBody.h"
@@ -96,7 +96,7 @@ void ReportList::setUpConnections()
     connect(&d->clicks.slow(), &SlowClick::clicked, this, &ReportList::StartLabelEdit);
     d->surface.drag().setContent(
         [this](QMimeData &rows) { copyRows(*this, d->rowChoice.selectedPositions(), rows); });
-    raiseDrags(d->surface.drag(), *this);
+    relayDrags(&d->surface.drag(), this);
 }
 
 void ReportList::updateRowHeight()

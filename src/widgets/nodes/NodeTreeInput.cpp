@@ -103,13 +103,12 @@ void NodeTree::keyPressEvent(QKeyEvent *event)
         event->ignore();
         return;
     }
-    raiseKeyPress(*this, &NodeTree::KeyDown, &NodeTree::KeyPress, *event,
-                  [this](QKeyEvent &key) { act(key); });
+    raiseKeyPress(*this, *event, [this](QKeyEvent &key) { act(key); });
 }
 
 void NodeTree::keyReleaseEvent(QKeyEvent *event)
 {
-    if (event->isAutoRepeat() || raiseKey(*this, &NodeTree::KeyUp, *event))
+    if (raiseKeyUp(*this, *event))
         QTreeView::keyReleaseEvent(event);
 }
 
