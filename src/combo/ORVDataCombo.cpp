@@ -51,7 +51,7 @@ struct ORVDataCombo::Private
 };
 
 ORVDataCombo::ORVDataCombo(QWidget *parent)
-    : Component(parent)
+    : InputComponent(parent)
 {
     d = std::make_unique<Private>(*this);
     setFocusPolicy(Qt::TabFocus); // else no call puts the control into a tab order

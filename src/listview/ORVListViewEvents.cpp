@@ -98,7 +98,7 @@ void ORVListView::connectNotify(const QMetaMethod &signal)
         d->toldCode = CodeText();
     else if (signal == QMetaMethod::fromSignal(&ORVListView::codeTextRTFChanged) && !d->toldRtf)
         d->toldRtf = d->editor->box().TextRTF();
-    Component::connectNotify(signal);
+    InputComponent::connectNotify(signal);
 }
 
 void ORVListView::tellCode()

@@ -55,7 +55,7 @@ struct ORVTreeview::Private
 };
 
 ORVTreeview::ORVTreeview(QWidget *parent)
-    : Component(parent)
+    : InputComponent(parent)
     , d(std::make_unique<Private>(this))
 {
     setFocusPolicy(Qt::TabFocus); // else no call puts the control into a tab order
