@@ -6,6 +6,7 @@
 #include "shared/texts/TextRoutine.h"
 #include "shared/texts/TextTable.h"
 #include "widgets/combo/ImageCombo.h"
+#include "widgets/component/BagReader.h"
 #include "widgets/component/ToldProperties.h"
 #include "widgets/input/DragEvents.h"
 #include "widgets/input/RelayedEvents.h"
@@ -192,10 +193,7 @@ void ORVDataCombo::ReInitializeStrings()
 
 void ORVDataCombo::ReadProperties(const PropertyBag &Bag)
 {
-    const auto read = [&Bag](const QString &name, const QVariant &other) {
-        return raisingErrors(u"ORVDataCombo.ReadProperties"_s,
-                             [&] { return Bag.ReadProperty(name, other); });
-    };
+    const auto read = bagReader(Bag, u"ORVDataCombo.ReadProperties"_s);
     const QString text = read(u"Text"_s, QString()).toString();
     const bool isEnabled = read(u"Enabled"_s, true).toBool();
     const QPointer<ORVDataCombo> self(this); // the host hears of each
