@@ -6,8 +6,9 @@
 #include "shared/texts/TextRoutine.h"
 #include "shared/texts/TextTable.h"
 #include "widgets/combo/ImageCombo.h"
+#include "widgets/component/BagReader.h"
 #include "widgets/component/ToldProperties.h"
-#include "widgets/input/RaisedDrags.h"
+#include "widgets/input/DragEvents.h"
 #include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Colours.h"
 #include "widgets/look/Pictures.h"
@@ -51,7 +52,7 @@ struct ORVDataCombo::Private
 };
 
 ORVDataCombo::ORVDataCombo(QWidget *parent)
-    : Component(parent)
+    : InputComponent(parent)
 {
     d = std::make_unique<Private>(*this);
     setFocusPolicy(Qt::TabFocus); // else no call puts the control into a tab order
@@ -86,11 +87,10 @@ void ORVDataCombo::relayEvents()
 {
     const ImageCombo *combo = d->combo;
     connect(combo, &ImageCombo::Change, this, &ORVDataCombo::Change);
-    connect(combo, &ImageCombo::Click, this, &ORVDataCombo::Click);
-    connect(combo, &ImageCombo::DblClick, this, &ORVDataCombo::DblClick);
+    relayClicks(combo, this);
     connect(combo, &ImageCombo::picked, this, &ORVDataCombo::picked);
     relayKeys(combo, this);
-    raiseDrags(combo->drags(), *this);
+    relayDrags(&combo->drags(), this);
 }
 
 void ORVDataCombo::FillDataListview(LwType TypeIndex, PointCollection *, QString &ErrMsg)
@@ -193,10 +193,7 @@ void ORVDataCombo::ReInitializeStrings()
 
 void ORVDataCombo::ReadProperties(const PropertyBag &Bag)
 {
-    const auto read = [&Bag](const QString &name, const QVariant &other) {
-        return raisingErrors(u"ORVDataCombo.ReadProperties"_s,
-                             [&] { return Bag.ReadProperty(name, other); });
-    };
+    const auto read = bagReader(Bag, u"ORVDataCombo.ReadProperties"_s);
     const QString text = read(u"Text"_s, QString()).toString();
     const bool isEnabled = read(u"Enabled"_s, true).toBool();
     const QPointer<ORVDataCombo> self(this); // the host hears of each

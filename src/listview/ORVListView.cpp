@@ -15,7 +15,7 @@ namespace ORVTListview {
 using namespace Qt::StringLiterals;
 
 ORVListView::ORVListView(QWidget *parent)
-    : Component(parent)
+    : InputComponent(parent)
     , d(std::make_unique<ListViewFaces>(*this))
 {
     auto *timerWidth = new QTimer(this); // published, without duties

@@ -30,9 +30,8 @@ void ORVListView::connectListEvents()
 {
     connect(d->list, &ReportList::AfterLabelEdit, this, &ORVListView::AfterLabelEdit);
     connect(d->list, &ReportList::BeforeLabelEdit, this, &ORVListView::BeforeLabelEdit);
-    connect(d->list, &ReportList::Click, this, &ORVListView::Click);
+    relayClicks(d->list, this);
     connect(d->list, &ReportList::ColumnClick, this, &ORVListView::ColumnClick);
-    connect(d->list, &ReportList::DblClick, this, &ORVListView::DblClick);
     connect(d->list, &ReportList::ItemCheck, this, &ORVListView::ItemCheck);
     connect(d->list, &ReportList::ItemClick, this, &ORVListView::ItemClick);
     relayMouse(d->list, this);
@@ -99,7 +98,7 @@ void ORVListView::connectNotify(const QMetaMethod &signal)
         d->toldCode = CodeText();
     else if (signal == QMetaMethod::fromSignal(&ORVListView::codeTextRTFChanged) && !d->toldRtf)
         d->toldRtf = d->editor->box().TextRTF();
-    Component::connectNotify(signal);
+    InputComponent::connectNotify(signal);
 }
 
 void ORVListView::tellCode()

@@ -5,6 +5,7 @@
 #include "base/Failure.h"
 #include "listview/ListViewFaces.h"
 #include "shared/points/DisplayNames.h"
+#include "widgets/component/BagReader.h"
 
 #include <ORVTListview/PropertyBag.h>
 
@@ -30,10 +31,7 @@ LwType storedType(const QVariant &value)
 
 void ORVListView::ReadProperties(const PropertyBag &Bag)
 {
-    const auto read = [&Bag](const QString &name, const QVariant &other) {
-        return raisingErrors(u"ORVListView.ReadProperties"_s,
-                             [&] { return Bag.ReadProperty(name, other); });
-    };
+    const auto read = bagReader(Bag, u"ORVListView.ReadProperties"_s);
     const QString caption = read(u"Caption"_s, QString()).toString();
     const bool isEnabled = read(u"Enabled"_s, true).toBool();
     const LwType type = storedType(read(u"ListviewType"_s, qint32{defaultType}));

@@ -6,21 +6,6 @@ namespace ORVTListview::ArgumentValue {
 
 namespace {
 
-bool isWholeNumber(QMetaType type)
-{
-    switch (type.id()) {
-    case QMetaType::SChar:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-        return true;
-    default:
-        return type.flags().testFlag(QMetaType::IsEnumeration);
-    }
-}
-
 bool holds(QMetaType type, qint64 number)
 {
     const auto bits = static_cast<int>(type.sizeOf() * 8);
@@ -53,6 +38,21 @@ bool isPointer(QMetaType type)
 }
 
 } // namespace
+
+bool isWholeNumber(QMetaType type)
+{
+    switch (type.id()) {
+    case QMetaType::SChar:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+        return true;
+    default:
+        return type.flags().testFlag(QMetaType::IsEnumeration);
+    }
+}
 
 std::optional<QVariant> converted(const QVariant &value, QMetaType type)
 {

@@ -14,23 +14,18 @@ enum class Kind { Truth, WholeNumber, Number, Text, Other };
 
 Kind kindOf(QMetaType type)
 {
+    if (ArgumentValue::isWholeNumber(type))
+        return Kind::WholeNumber;
     switch (type.id()) {
     case QMetaType::Bool:
         return Kind::Truth;
-    case QMetaType::SChar:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-        return Kind::WholeNumber;
     case QMetaType::Float:
     case QMetaType::Double:
         return Kind::Number;
     case QMetaType::QString:
         return Kind::Text;
     default:
-        return type.flags().testFlag(QMetaType::IsEnumeration) ? Kind::WholeNumber : Kind::Other;
+        return Kind::Other;
     }
 }
 

@@ -32,7 +32,7 @@ void addIdleTimer(ORVRichText &control, const QString &name)
 } // namespace
 
 ORVRichText::ORVRichText(QWidget *parent)
-    : Component(parent)
+    : InputComponent(parent)
 {
     addHidden<QToolBar>(*this, u"Toolbar1"_s);
     for (const QString &name : {u"PictureBall"_s, u"PictureFuncDef"_s, u"Label1"_s})

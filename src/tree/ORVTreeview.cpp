@@ -13,7 +13,7 @@
 #include "tree/rules/PointCounts.h"
 #include "tree/rules/TypeCollections.h"
 #include "widgets/component/ToldProperties.h"
-#include "widgets/input/RaisedDrags.h"
+#include "widgets/input/DragEvents.h"
 #include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Pictures.h"
 #include "widgets/nodes/NodeTree.h"
@@ -55,7 +55,7 @@ struct ORVTreeview::Private
 };
 
 ORVTreeview::ORVTreeview(QWidget *parent)
-    : Component(parent)
+    : InputComponent(parent)
     , d(std::make_unique<Private>(this))
 {
     setFocusPolicy(Qt::TabFocus); // else no call puts the control into a tab order
@@ -88,16 +88,15 @@ void ORVTreeview::forwardEvents()
     const NodeTree *tree = d->tree;
     connect(tree, &NodeTree::AfterLabelEdit, this, &ORVTreeview::AfterLabelEdit);
     connect(tree, &NodeTree::BeforeLabelEdit, this, &ORVTreeview::BeforeLabelEdit);
-    connect(tree, &NodeTree::Click, this, &ORVTreeview::Click);
+    relayClicks(tree, this);
     connect(tree, &NodeTree::Collapse, this, &ORVTreeview::Collapse);
-    connect(tree, &NodeTree::DblClick, this, &ORVTreeview::DblClick);
     connect(tree, &NodeTree::Expand, this, &ORVTreeview::Expand);
     relayKeys(tree, this);
     relayMouse(tree, this);
     connect(tree, &NodeTree::NodeCheck, this, &ORVTreeview::NodeCheck);
     connect(tree, &NodeTree::NodeClick, this, [this] { d->told.tell(*this); });
     connect(tree, &NodeTree::NodeClick, this, &ORVTreeview::NodeClick);
-    raiseDrags(tree->drags(), *this);
+    relayDrags(&tree->drags(), this);
 }
 
 void ORVTreeview::tellSelection()

@@ -5,6 +5,8 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <ORVTListview/MemberTable.h>
+
 #include <QtCore/QMetaMethod>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QListView>
@@ -87,13 +89,14 @@ private Q_SLOTS:
 
 void DataComboUseTest::hasItsEventsInOrder()
 {
-    const QMetaObject &control = ORVDataCombo::staticMetaObject;
+    const ORVDataCombo control;
     QByteArrayList names;
-    for (int i = control.methodOffset(); i < control.methodCount(); ++i) {
-        const QByteArray name = control.method(i).name();
-        const bool isEvent = QChar::isUpper(static_cast<uint>(name.front()));
-        if (control.method(i).methodType() == QMetaMethod::Signal && isEvent)
-            names.append(name);
+    for (const Member &member : control.Members().members()) {
+        if (member.kind != MemberKind::Event)
+            continue;
+        QCOMPARE(control.metaObject()->method(member.signalIndex).name(), member.name.toLatin1());
+        names.append(member.name.toLatin1());
+        QCOMPARE(member.number, names.size());
     }
     QCOMPARE(names, QByteArrayList({"Change", "Click", "DblClick", "KeyDown", "KeyPress", "KeyUp",
                                     "OLECompleteDrag", "OLEDragDrop", "OLEDragOver",

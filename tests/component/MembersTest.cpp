@@ -4,6 +4,7 @@
 #include "support/TestFolder.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
+#include <ORVTListview/Component.h>
 #include <ORVTListview/SettingsStore.h>
 
 #include <QtCore/QMetaMethod>
@@ -94,15 +95,16 @@ bool isInMetaObject(const QMetaObject &meta, const Member &member)
     return hasMethod(meta, member, QMetaMethod::Method);
 }
 
-// What the class itself adds to its base, spelled as published.
+// What the class adds to every component, spelled as published.
 QSet<QString> publishedNames(const QMetaObject &meta)
 {
     QSet<QString> names;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+    const QMetaObject &base = Component::staticMetaObject;
+    for (int i = base.methodCount(); i < meta.methodCount(); ++i) {
         const QString name = QString::fromLatin1(meta.method(i).name());
         names.insert(name.startsWith(u"set"_s) ? name.mid(3) : name);
     }
-    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
+    for (int i = base.propertyCount(); i < meta.propertyCount(); ++i)
         names.insert(QString::fromLatin1(meta.property(i).name()));
     names.removeIf([](const QString &name) { return name.isEmpty() || name.at(0).isLower(); });
     return names;

@@ -87,11 +87,13 @@ qint32 eventNumber(const EventScene &scene, const char *name)
     return 0;
 }
 
-// The signals that a class itself declares, but for those of properties.
+// The signals that a class itself declares, of a component all that it has as such.
 QStringList declaredSignals(const QMetaObject &meta)
 {
     QStringList names;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+    const QMetaObject &component = Component::staticMetaObject;
+    const int first = meta.inherits(&component) ? component.methodCount() : meta.methodOffset();
+    for (int i = first; i < meta.methodCount(); ++i) {
         if (meta.method(i).methodType() == QMetaMethod::Signal)
             names.append(QString::fromLatin1(meta.method(i).name()));
     }

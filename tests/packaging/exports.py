@@ -21,7 +21,8 @@ def names_in(header):
     if "Q_NAMESPACE_EXPORT" in text:
         names.add("staticMetaObject")
     for _, declaration in EXPORTED.findall(text):
-        words = re.findall(r"\w+", declaration.split(" : ")[0])
+        plain = re.sub(r"<[^;]*>", "", declaration.split(" : ")[0])
+        words = re.findall(r"\w+", plain)
         words = [word for word in words if word != "final"]
         if words:
             names.add(words[-1])

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <ORVTListview/Component.h>
-#include <ORVTListview/DataObject.h>
 #include <ORVTListview/Export.h>
+#include <ORVTListview/InputComponent.h>
 #include <ORVTListview/PointCollection.h>
 #include <ORVTListview/PropertyBag.h>
 #include <ORVTListview/Types.h>
@@ -23,7 +22,7 @@ namespace ORVTListview {
 // Init_RichTextBox, from the choice on. It is the host's business that the colour
 // can be read on the theme's background; before any Init_RichTextBox on the thread
 // the text has the theme's own colour.
-class ORVT_EXPORT ORVDataCombo : public Component
+class ORVT_EXPORT ORVDataCombo : public InputComponent
 {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE setText NOTIFY textChanged)
@@ -100,6 +99,8 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    // The events, with those of InputComponent.
+
     // The text was typed or set; not when a point was chosen.
     void Change();
 
@@ -108,26 +109,6 @@ Q_SIGNALS:
 
     // The left button was pressed twice in the field.
     void DblClick();
-
-    // KeyCode is a virtual-key number; set to 0 it swallows the key. Shift: 1 Shift,
-    // 2 Ctrl, 4 Alt.
-    void KeyDown(qint16 &KeyCode, qint16 &Shift);
-
-    // KeyAscii is the UTF-16 code typed; set to 0 it swallows the key, another
-    // value is typed in its place.
-    void KeyPress(qint16 &KeyAscii);
-    void KeyUp(qint16 &KeyCode, qint16 &Shift);
-
-    // Drag and drop. Effects are 0 none, 1 copy, 2 move, 4 link; X and Y are twips
-    // from the control's corner; State is 0 enter, 1 leave, 2 over.
-    void OLECompleteDrag(qint32 Effect);
-    void OLEDragDrop(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y);
-    void OLEDragOver(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y, qint16 State);
-    void OLEGiveFeedback(qint32 Effect, bool &DefaultCursors);
-    void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
-    void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
 
     // Not events: a property has another value now, whoever changed it.
     void textChanged();

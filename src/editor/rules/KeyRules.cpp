@@ -164,15 +164,8 @@ KeyDecision decideKey(qint16 keyCode, qint16 shift, const KeyState &state)
 
 bool isTakenFromShortcuts(KeyDecision decision)
 {
-    switch (decision) {
-    case KeyDecision::ReachBox:
-    case KeyDecision::PassToHost:
-    case KeyDecision::Swallow:
-    case KeyDecision::RaiseHelp:
-        return false;
-    default:
-        return true;
-    }
+    return decision != KeyDecision::ReachBox && decision != KeyDecision::PassToHost &&
+           decision != KeyDecision::Swallow && decision != KeyDecision::RaiseHelp;
 }
 
 } // namespace ORVTListview

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <ORVTListview/Component.h>
 #include <ORVTListview/Export.h>
+#include <ORVTListview/InputComponent.h>
 #include <ORVTListview/Types.h>
 
 #include <memory>
@@ -10,7 +10,6 @@ namespace ORVTListview {
 
 class ColumnHeader;
 class ColumnHeaders;
-class DataObject;
 class ImageList;
 class ListItem;
 class ListItems;
@@ -29,7 +28,7 @@ struct ListViewFaces;
 // an event may do anything, destroying the control included.
 //
 // Rows and columns count from 1, lengths and places are twips.
-class ORVT_EXPORT ORVListView : public Component
+class ORVT_EXPORT ORVListView : public InputComponent
 {
     Q_OBJECT
     // The type comes first, as forms set properties in this order and a type brings
@@ -349,9 +348,9 @@ public:
     void setIndentUnit(const QString &unit);
 
 Q_SIGNALS:
-    // The events, in the order of their published numbers. What is taken by reference and
-    // changed comes back to the table. Key codes are virtual-key numbers; Shift holds
-    // 1 for Shift, 2 for Ctrl, 4 for Alt.
+    // The events, with those of InputComponent. What is taken by reference and changed
+    // comes back to the table. From the code editor KeyDown tells of F1 only; keys and
+    // drags are the table's else.
 
     // A label was edited. Cancel other than 0 drops NewString.
     void AfterLabelEdit(qint16 &Cancel, QString &NewString);
@@ -362,30 +361,12 @@ Q_SIGNALS:
     void ItemCheck(ORVTListview::ListItem *Item);
     void ItemClick(ORVTListview::ListItem *Item);
 
-    // From the code editor: F1 only. KeyCode set to 0 swallows the key.
-    void KeyDown(qint16 &KeyCode, qint16 &Shift);
-
-    // KeyAscii is the UTF-16 code typed; 0 swallows it, another value is typed instead.
-    void KeyPress(qint16 &KeyAscii);
-    void KeyUp(qint16 &KeyCode, qint16 &Shift);
-
     // X and Y are twips from the corner of the table or the editor. Button: 1 left,
     // 2 right, 4 middle; MouseMove tells the sum of those held. Only the press comes
     // from the editor too.
     void MouseDown(qint16 Button, qint16 Shift, float X, float Y);
     void MouseMove(qint16 Button, qint16 Shift, float X, float Y);
     void MouseUp(qint16 Button, qint16 Shift, float X, float Y);
-
-    // Drag and drop. Effects are 0 none, 1 copy, 2 move, 4 link; State is 0 enter,
-    // 1 leave, 2 over. Data is good only during the event.
-    void OLECompleteDrag(qint32 Effect);
-    void OLEDragDrop(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y);
-    void OLEDragOver(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y, qint16 State);
-    void OLEGiveFeedback(qint32 Effect, bool &DefaultCursors);
-    void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
-    void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
 
     // The user wants the values of this type from the controller: the read button was
     // pressed and let go.

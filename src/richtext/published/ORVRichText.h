@@ -1,15 +1,14 @@
 #pragma once
 
-#include <ORVTListview/Component.h>
-#include <ORVTListview/DataObject.h>
 #include <ORVTListview/Export.h>
+#include <ORVTListview/InputComponent.h>
 
 namespace ORVTListview {
 
 // The interface of a stand-alone code editor, for hosts to be built against. Every
 // member accepts its call and does nothing, and no event is ever raised. The
 // editor that works is ORVListView with the type dsCode.
-class ORVT_EXPORT ORVRichText : public Component
+class ORVT_EXPORT ORVRichText : public InputComponent
 {
     Q_OBJECT
 
@@ -55,20 +54,9 @@ Q_SIGNALS:
     void SelChange();
     void Click();
     void DblClick();
-    void KeyDown(qint16 &KeyCode, qint16 &Shift);
-    void KeyPress(qint16 &KeyAscii);
-    void KeyUp(qint16 &KeyCode, qint16 &Shift);
     void MouseDown(qint16 Button, qint16 Shift, float X, float Y);
     void MouseMove(qint16 Button, qint16 Shift, float X, float Y);
     void MouseUp(qint16 Button, qint16 Shift, float X, float Y);
-    void OLECompleteDrag(qint32 Effect);
-    void OLEDragDrop(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y);
-    void OLEDragOver(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y, qint16 State);
-    void OLEGiveFeedback(qint32 Effect, bool &DefaultCursors);
-    void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
-    void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
     void MessageEvent(QString &MSG, qint32 &Number, QString &Routine);
     void StatusUpdate(QString &Description);
     void UpdateUndoMenu();

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <ORVTListview/Component.h>
-#include <ORVTListview/DataObject.h>
 #include <ORVTListview/Export.h>
 #include <ORVTListview/IndexedName.h>
+#include <ORVTListview/InputComponent.h>
 #include <ORVTListview/KeyedCollection.h>
 #include <ORVTListview/Node.h>
 #include <ORVTListview/Nodes.h>
@@ -28,7 +27,7 @@ namespace ORVTListview {
 // "Device", "Page0" and up, and the untranslated display names.
 //
 // Members raise Error and nothing else. X and Y are twips from the tree's corner.
-class ORVT_EXPORT ORVTreeview : public Component
+class ORVT_EXPORT ORVTreeview : public InputComponent
 {
     Q_OBJECT
     Q_PROPERTY(ORVTListview::Node *SelectedItem READ SelectedItem WRITE setSelectedItem NOTIFY
@@ -130,8 +129,13 @@ public:
     Q_INVOKABLE void setIsSqrtSupported(const QString &Value);
 
 Q_SIGNALS:
-    // What the user does. A receiver may do anything, destroying the tree included.
-    // What is marked & may be changed.
+    // What the user does, beside the events of InputComponent. A receiver may do
+    // anything, destroying the tree included. What is marked & may be changed.
+    //
+    // A drag of a category carries its key, allows copy and move at first, and is told
+    // as a move over the pages that would take it. Set the effects to 0 to refuse, in
+    // any of OLEStartDrag, OLEDragOver and OLEDragDrop. Any other drag comes to
+    // OLEDragOver with the effect 0, which refuses it unless it is changed.
 
     // NewString is what was entered; Cancel other than 0 drops it.
     void AfterLabelEdit(qint16 &Cancel, QString &NewString);
@@ -145,12 +149,6 @@ Q_SIGNALS:
     void DblClick(ORVTListview::Node *Node);
     void Expand(ORVTListview::Node *Node);
 
-    // KeyCode is a virtual-key number, KeyAscii the UTF-16 code typed; set to 0 they
-    // swallow the key. Shift holds 1 for Shift, 2 for Ctrl, 4 for Alt.
-    void KeyDown(qint16 &KeyCode, qint16 &Shift);
-    void KeyPress(qint16 &KeyAscii);
-    void KeyUp(qint16 &KeyCode, qint16 &Shift);
-
     // Button is 1 left, 2 right, 4 middle; MouseMove tells the sum of those held.
     void MouseDown(qint16 Button, qint16 Shift, float X, float Y);
     void MouseMove(qint16 Button, qint16 Shift, float X, float Y);
@@ -162,21 +160,6 @@ Q_SIGNALS:
 
     // A node was pressed, or reached by keyboard.
     void NodeClick(ORVTListview::Node *Node);
-
-    // Drag and drop. Effects are 0 none, 1 copy, 2 move, 4 link; State is 0 enter,
-    // 1 leave, 2 over. A drag of a category carries its key, allows copy and move at
-    // first, and is told as a move over the pages that would take it. Set the
-    // effects to 0 to refuse, in any of OLEStartDrag, OLEDragOver and OLEDragDrop.
-    // Any other drag comes to OLEDragOver with the effect 0, which refuses it unless
-    // it is changed.
-    void OLECompleteDrag(qint32 Effect);
-    void OLEDragDrop(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y);
-    void OLEDragOver(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
-                     float X, float Y, qint16 State);
-    void OLEGiveFeedback(qint32 Effect, bool &DefaultCursors);
-    void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
-    void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
 
     // Published; never raised. GetPageSettings and the nodes tell the pages.
     void UpdatePages(QList<ORVTListview::Pages> &Pages);

@@ -11,6 +11,18 @@
 
 namespace ORVTListview {
 
+namespace {
+
+template <typename Value>
+void setInFont(QWidget &box, void (QFont::*set)(Value), Value value)
+{
+    QFont changed = box.font();
+    (changed.*set)(value);
+    box.setFont(changed);
+}
+
+} // namespace
+
 // The palette that the box has before it sets colours of its own.
 QPalette RichTextBox::paletteAround() const
 {
@@ -53,11 +65,8 @@ QString RichTextBox::FontName() const
 
 void RichTextBox::setFontName(const QString &name)
 {
-    if (name.isEmpty())
-        return;
-    QFont changed = font();
-    changed.setFamily(name);
-    setFont(changed);
+    if (!name.isEmpty())
+        setInFont<const QString &>(*this, &QFont::setFamily, name);
 }
 
 float RichTextBox::FontSize() const
@@ -68,11 +77,8 @@ float RichTextBox::FontSize() const
 void RichTextBox::setFontSize(float points)
 {
     constexpr float largest = 1638; // what RTF programs take
-    if (!(points > 0))
-        return;
-    QFont changed = font();
-    changed.setPointSizeF(static_cast<double>(std::min(points, largest)));
-    setFont(changed);
+    if (points > 0)
+        setInFont(*this, &QFont::setPointSizeF, static_cast<double>(std::min(points, largest)));
 }
 
 bool RichTextBox::FontBold() const
@@ -82,9 +88,7 @@ bool RichTextBox::FontBold() const
 
 void RichTextBox::setFontBold(bool bold)
 {
-    QFont changed = font();
-    changed.setBold(bold);
-    setFont(changed);
+    setInFont(*this, &QFont::setBold, bold);
 }
 
 bool RichTextBox::FontItalic() const
@@ -94,9 +98,7 @@ bool RichTextBox::FontItalic() const
 
 void RichTextBox::setFontItalic(bool italic)
 {
-    QFont changed = font();
-    changed.setItalic(italic);
-    setFont(changed);
+    setInFont(*this, &QFont::setItalic, italic);
 }
 
 bool RichTextBox::FontUnderline() const
@@ -106,9 +108,7 @@ bool RichTextBox::FontUnderline() const
 
 void RichTextBox::setFontUnderline(bool underline)
 {
-    QFont changed = font();
-    changed.setUnderline(underline);
-    setFont(changed);
+    setInFont(*this, &QFont::setUnderline, underline);
 }
 
 bool RichTextBox::FontStrikethrough() const
@@ -118,9 +118,7 @@ bool RichTextBox::FontStrikethrough() const
 
 void RichTextBox::setFontStrikethrough(bool strikethrough)
 {
-    QFont changed = font();
-    changed.setStrikeOut(strikethrough);
-    setFont(changed);
+    setInFont(*this, &QFont::setStrikeOut, strikethrough);
 }
 
 void RichTextBox::changeEvent(QEvent *event)

@@ -155,13 +155,12 @@ void ImageCombo::bringBack()
 
 void ImageCombo::keyPressEvent(QKeyEvent *event)
 {
-    raiseKeyPress(*this, &ImageCombo::KeyDown, &ImageCombo::KeyPress, *event,
-                  [this](QKeyEvent &key) { act(key); });
+    raiseKeyPress(*this, *event, [this](QKeyEvent &key) { act(key); });
 }
 
 void ImageCombo::keyReleaseEvent(QKeyEvent *event)
 {
-    if (event->isAutoRepeat() || raiseKey(*this, &ImageCombo::KeyUp, *event))
+    if (raiseKeyUp(*this, *event))
         QComboBox::keyReleaseEvent(event);
 }
 

@@ -24,9 +24,8 @@ bool raiseKey(Widget &widget, KeySignal signal, const QKeyEvent &event)
 
 // The text that is left to be typed; none when a receiver has swallowed the key or
 // destroyed the widget.
-template <typename Widget, typename CharacterSignal>
-std::optional<QString> raiseCharacter(Widget &widget, CharacterSignal signal,
-                                      const QKeyEvent &event)
+template <typename Widget>
+std::optional<QString> raiseCharacter(Widget &widget, const QKeyEvent &event)
 {
     constexpr char16_t deleteCharacter = 0x7f; // some platforms' text of the Delete key
     constexpr char16_t noCharacter = 0;        // that of Ctrl+Space
@@ -34,7 +33,7 @@ std::optional<QString> raiseCharacter(Widget &widget, CharacterSignal signal,
     if (text.size() != 1 || text.front() == deleteCharacter || text.front() == noCharacter)
         return text;
     auto code = static_cast<qint16>(text.front().unicode());
-    if (!raiseEvent(widget, signal, code) || code == 0)
+    if (!raiseEvent(widget, &Widget::KeyPress, code) || code == 0)
         return std::nullopt;
     return QString(QChar(static_cast<char16_t>(code)));
 }
@@ -46,15 +45,21 @@ inline QKeyEvent retyped(const QKeyEvent &event, const QString &text)
                      event.isAutoRepeat(), static_cast<quint16>(event.count()));
 }
 
+// Whether the widget is to act on a release.
+template <typename Widget>
+bool raiseKeyUp(Widget &widget, const QKeyEvent &event)
+{
+    return event.isAutoRepeat() || raiseKey(widget, &Widget::KeyUp, event);
+}
+
 // Offers a press to both events, and lets the widget act on what they leave of it.
-template <typename Widget, typename KeySignal, typename CharacterSignal, typename Act>
-void raiseKeyPress(Widget &widget, KeySignal keyDown, CharacterSignal keyPress, QKeyEvent &event,
-                   const Act &act)
+template <typename Widget, typename Act>
+void raiseKeyPress(Widget &widget, QKeyEvent &event, const Act &act)
 {
     event.accept();
-    if (!raiseKey(widget, keyDown, event))
+    if (!raiseKey(widget, &Widget::KeyDown, event))
         return;
-    const std::optional<QString> typed = raiseCharacter(widget, keyPress, event);
+    const std::optional<QString> typed = raiseCharacter(widget, event);
     if (!typed)
         return;
     if (*typed == event.text()) {

@@ -1,7 +1,7 @@
 #include <ORVTListview/ReportList.h>
 
 #include "base/EventGuard.h"
-#include "widgets/input/RaisedDrags.h"
+#include "widgets/input/RelayedEvents.h"
 #include "widgets/list/FreshRows.h"
 #include "widgets/list/ReportHeader.h"
 #include "widgets/list/ReportListBody.h"
@@ -96,7 +96,7 @@ void ReportList::setUpConnections()
     connect(&d->clicks.slow(), &SlowClick::clicked, this, &ReportList::StartLabelEdit);
     d->surface.drag().setContent(
         [this](QMimeData &rows) { copyRows(*this, d->rowChoice.selectedPositions(), rows); });
-    raiseDrags(d->surface.drag(), *this);
+    relayDrags(&d->surface.drag(), this);
 }
 
 void ReportList::updateRowHeight()
@@ -193,12 +193,7 @@ ListItem *ReportList::SelectedItem() const
 
 void ReportList::setSelectedItem(ListItem *Item)
 {
-    const QString member = u"ReportList.setSelectedItem"_s;
-    if (Item && !Item->isAlive())
-        throw Error(ObjectNotSet, member, u"The row has been removed"_s);
-    if (Item && Item->m_parts != d.get())
-        throw Error(InvalidCall, member, u"The row is another list's"_s);
-    d->rowChoice.select(Item ? Item->m_row : nullptr);
+    d->rowChoice.select(ListItem::heldOf(Item, *d, u"ReportList.setSelectedItem"_s));
 }
 
 void ReportList::goToRow(qint32 Index)

@@ -101,13 +101,12 @@ void ReportList::keyPressEvent(QKeyEvent *event)
         event->ignore();
         return;
     }
-    raiseKeyPress(*this, &ReportList::KeyDown, &ReportList::KeyPress, *event,
-                  [this](QKeyEvent &key) { act(key); });
+    raiseKeyPress(*this, *event, [this](QKeyEvent &key) { act(key); });
 }
 
 void ReportList::keyReleaseEvent(QKeyEvent *event)
 {
-    if (event->isAutoRepeat() || raiseKey(*this, &ReportList::KeyUp, *event))
+    if (raiseKeyUp(*this, *event))
         QTableView::keyReleaseEvent(event);
 }
 

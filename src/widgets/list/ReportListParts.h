@@ -24,6 +24,12 @@ struct ReportListParts
     }
     Q_DISABLE_COPY_MOVE(ReportListParts) // the parts know one another
 
+    // None of these scrolls the view to another current cell.
+    void removeRow(int position);
+    void clearRows();
+    void removeColumn(int position);
+    void clearColumns();
+
     QTableView &view;
     HandleStore<ListItem, ReportRow> items;
     HandleStore<ColumnHeader, ReportColumn> headers;

@@ -49,6 +49,8 @@ public:
     void appendRows(QList<RowContent> contents);
 
     const QString &cellText(const ReportRow &row, int column) const;
+    static const QString &keyOf(const ReportRow &row) { return row.content.key; }
+    static const QString &textOf(const ReportRow &row) { return row.content.text; }
     void setKey(ReportRow &row, const QString &key);
     void setText(ReportRow &row, const QString &text);
     void setSubItem(ReportRow &row, int column, const QString &text);
@@ -70,7 +72,10 @@ public:
                             Qt::Alignment alignment);
     void deleteColumn(int position);
     void clearColumns();
-    void setColumnText(ReportColumn &column, const QString &text);
+    static const QString &keyOf(const ReportColumn &column) { return column.key; }
+    static const QString &textOf(const ReportColumn &column) { return column.text; }
+    static void setKey(ReportColumn &column, const QString &key) { column.key = key; }
+    void setText(ReportColumn &column, const QString &text);
     void setColumnAlignment(ReportColumn &column, Qt::Alignment alignment);
 
     // Views.

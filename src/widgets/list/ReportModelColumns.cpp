@@ -47,7 +47,7 @@ void ReportModel::clearColumns()
     endRemoveColumns();
 }
 
-void ReportModel::setColumnText(ReportColumn &column, const QString &text)
+void ReportModel::setText(ReportColumn &column, const QString &text)
 {
     if (column.text == text)
         return;

@@ -1,39 +1,19 @@
 #include <ORVTListview/Node.h>
 
+#include "widgets/nodes/NodeKind.h"
 #include "widgets/nodes/NodePlace.h"
-#include "widgets/nodes/NodeTreeParts.h"
-#include "widgets/view/Lookup.h"
+#include "widgets/view/ViewElements.h"
 #include <ORVTListview/Error.h>
 
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
+template class ViewElement<Node, NodeTreeParts, TreeNode>;
+
 Node::Node(NodeTreeParts &parts, TreeNode &node)
-    : m_parts(&parts)
-    , m_node(&node)
+    : ViewElement(parts, node)
 {
-}
-
-Node::~Node() = default;
-
-TreeNode &Node::node(const char *member) const
-{
-    if (!m_node)
-        throw Error(ObjectNotSet, u"Node."_s + QLatin1StringView(member),
-                    u"The node has been removed"_s);
-    return *m_node;
-}
-
-TreeNode *Node::nodeOf(const Node *node, const NodeTreeParts &parts, const QString &source)
-{
-    if (!node)
-        return nullptr;
-    if (!node->isAlive())
-        throw Error(ObjectNotSet, source, u"The node has been removed"_s);
-    if (node->m_parts != &parts)
-        throw Error(InvalidCall, source, u"The node is another tree's"_s);
-    return node->m_node;
 }
 
 // Null for null and for the root, which no caller is to see.
@@ -42,57 +22,29 @@ Node *Node::handleOf(TreeNode *node) const
     return node && node->parent ? m_parts->handles.of(*node, *m_parts) : nullptr;
 }
 
-qint32 Node::Index() const
-{
-    return m_parts->model.positionOf(node("Index")) + 1;
-}
-
-QString Node::Key() const
-{
-    return node("Key").key;
-}
-
-void Node::setKey(const QString &Key)
-{
-    TreeNode &held = node("setKey");
-    const TreeNode *user = m_parts->model.find(Key);
-    Lookup::checkKeyIsFree(u"Node.setKey"_s, Key, user && user != &held);
-    m_parts->model.setKey(held, Key);
-}
-
-QString Node::Text() const
-{
-    return node("Text").text;
-}
-
-void Node::setText(const QString &Text)
-{
-    m_parts->model.setText(node("setText"), Text);
-}
-
 QString Node::Image() const
 {
-    return node("Image").image;
+    return held("Image").image;
 }
 
 void Node::setImage(const QString &Key)
 {
-    m_parts->model.setImage(node("setImage"), Key);
+    m_parts->model.setImage(held("setImage"), Key);
 }
 
 QVariant Node::Tag() const
 {
-    return node("Tag").tag;
+    return held("Tag").tag;
 }
 
 void Node::setTag(const QVariant &Tag)
 {
-    node("setTag").tag = Tag;
+    held("setTag").tag = Tag;
 }
 
 Node *Node::Parent() const
 {
-    return handleOf(node("Parent").parent);
+    return handleOf(held("Parent").parent);
 }
 
 void Node::setParent(Node *Parent)
@@ -102,88 +54,88 @@ void Node::setParent(Node *Parent)
 
 Node *Node::Child() const
 {
-    const TreeNode &held = node("Child");
-    return held.children.empty() ? nullptr : handleOf(held.children.front().get());
+    const TreeNode &node = held("Child");
+    return node.children.empty() ? nullptr : handleOf(node.children.front().get());
 }
 
 qint32 Node::Children() const
 {
-    return static_cast<qint32>(node("Children").children.size());
+    return static_cast<qint32>(held("Children").children.size());
 }
 
 Node *Node::Next() const
 {
-    const TreeNode &held = node("Next");
-    const auto next = static_cast<std::size_t>(held.row) + 1;
-    const auto &siblings = held.parent->children;
+    const TreeNode &node = held("Next");
+    const auto next = static_cast<std::size_t>(node.row) + 1;
+    const auto &siblings = node.parent->children;
     return next < siblings.size() ? handleOf(siblings[next].get()) : nullptr;
 }
 
 Node *Node::Previous() const
 {
-    const TreeNode &held = node("Previous");
-    if (held.row == 0)
+    const TreeNode &node = held("Previous");
+    if (node.row == 0)
         return nullptr;
-    return handleOf(held.parent->children[static_cast<std::size_t>(held.row) - 1].get());
+    return handleOf(node.parent->children[static_cast<std::size_t>(node.row) - 1].get());
 }
 
 void Node::MoveTo(Node *Relative, NodeRelationship Relationship)
 {
-    TreeNode &held = node("MoveTo");
-    TreeNode *relative = nodeOf(Relative, *m_parts, u"Node.MoveTo"_s);
+    TreeNode &node = held("MoveTo");
+    TreeNode *relative = heldOf(Relative, *m_parts, u"Node.MoveTo"_s);
     const NodePlace place = NodePlace::of(m_parts->model, relative, Relationship);
-    if (relative == &held || place.parent->isWithin(held))
+    if (relative == &node || place.parent->isWithin(node))
         throw Error(InvalidCall, u"Node.MoveTo"_s, u"A node cannot be moved below itself"_s);
-    m_parts->model.move(held, *place.parent, place.row);
+    m_parts->model.move(node, *place.parent, place.row);
 }
 
 bool Node::Expanded() const
 {
-    return m_parts->view.isExpanded(m_parts->model.indexOf(node("Expanded")));
+    return m_parts->view.isExpanded(m_parts->model.indexOf(held("Expanded")));
 }
 
 void Node::setExpanded(bool Expanded)
 {
-    m_parts->view.setExpanded(m_parts->model.indexOf(node("setExpanded")), Expanded);
+    m_parts->view.setExpanded(m_parts->model.indexOf(held("setExpanded")), Expanded);
 }
 
 qint32 Node::ForeColor() const
 {
-    return node("ForeColor").foreColor;
+    return held("ForeColor").foreColor;
 }
 
 void Node::setForeColor(qint32 Color)
 {
-    m_parts->model.setForeColor(node("setForeColor"), Color);
+    m_parts->model.setForeColor(held("setForeColor"), Color);
 }
 
 bool Node::Checked() const
 {
-    return node("Checked").checked;
+    return held("Checked").checked;
 }
 
 void Node::setChecked(bool Checked)
 {
-    m_parts->model.setChecked(node("setChecked"), Checked);
+    m_parts->model.setChecked(held("setChecked"), Checked);
 }
 
 bool Node::Selected() const
 {
-    return m_parts->choice.selected() == &node("Selected");
+    return m_parts->choice.selected() == &held("Selected");
 }
 
 void Node::setSelected(bool Selected)
 {
-    TreeNode &held = node("setSelected");
+    TreeNode &node = held("setSelected");
     if (Selected)
-        m_parts->choice.select(&held);
-    else if (m_parts->choice.selected() == &held)
+        m_parts->choice.select(&node);
+    else if (m_parts->choice.selected() == &node)
         m_parts->choice.select(nullptr);
 }
 
 void Node::EnsureVisible()
 {
-    m_parts->choice.ensureVisible(node("EnsureVisible"));
+    m_parts->choice.ensureVisible(held("EnsureVisible"));
 }
 
 } // namespace ORVTListview

@@ -59,6 +59,8 @@ public:
     void beginFilling();
     void endFilling();
 
+    static const QString &keyOf(const TreeNode &node) { return node.key; }
+    static const QString &textOf(const TreeNode &node) { return node.text; }
     void setKey(TreeNode &node, const QString &key);
     void setText(TreeNode &node, const QString &text);
     void setImage(TreeNode &node, const QString &key);

@@ -104,7 +104,7 @@ Node *NodeTree::SelectedItem() const
 
 void NodeTree::setSelectedItem(Node *Item)
 {
-    d->choice.select(Node::nodeOf(Item, *d, u"NodeTree.setSelectedItem"_s));
+    d->choice.select(Node::heldOf(Item, *d, u"NodeTree.setSelectedItem"_s));
 }
 
 Node *NodeTree::HitTest(float X, float Y) const
@@ -156,7 +156,7 @@ Node *NodeTree::dropHighlight() const
 
 void NodeTree::setDropHighlight(Node *node)
 {
-    const TreeNode *marked = Node::nodeOf(node, *d, u"NodeTree.setDropHighlight"_s);
+    const TreeNode *marked = Node::heldOf(node, *d, u"NodeTree.setDropHighlight"_s);
     const QModelIndex index = marked ? d->model.indexOf(*marked) : QModelIndex();
     if (index == d->dropHighlight)
         return;

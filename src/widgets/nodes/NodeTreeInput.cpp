@@ -77,8 +77,8 @@ void NodeTree::keepSelectionShown()
     for (const NodeTreeBody::Folded &folded : std::as_const(d->folded)) {
         const TreeNode *chosen = d->choice.selected();
         if (!folded.expanded && folded.node->isAlive() && chosen &&
-            chosen->isWithin(*folded.node->m_node))
-            d->choice.select(folded.node->m_node);
+            chosen->isWithin(*folded.node->m_held))
+            d->choice.select(folded.node->m_held);
     }
 }
 
@@ -103,13 +103,12 @@ void NodeTree::keyPressEvent(QKeyEvent *event)
         event->ignore();
         return;
     }
-    raiseKeyPress(*this, &NodeTree::KeyDown, &NodeTree::KeyPress, *event,
-                  [this](QKeyEvent &key) { act(key); });
+    raiseKeyPress(*this, *event, [this](QKeyEvent &key) { act(key); });
 }
 
 void NodeTree::keyReleaseEvent(QKeyEvent *event)
 {
-    if (event->isAutoRepeat() || raiseKey(*this, &NodeTree::KeyUp, *event))
+    if (raiseKeyUp(*this, *event))
         QTreeView::keyReleaseEvent(event);
 }
 

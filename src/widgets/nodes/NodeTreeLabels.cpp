@@ -12,7 +12,7 @@ void NodeTree::StartLabelEdit()
     if (!node || !d->labels.announce(*this, &NodeTree::BeforeLabelEdit) || !node->isAlive())
         return;
     node->EnsureVisible();
-    d->labels.open(d->model.indexOf(*node->m_node));
+    d->labels.open(d->model.indexOf(*node->m_held));
 }
 
 void NodeTree::noteLabel(Node &node, const QString &text)

@@ -22,6 +22,9 @@ struct NodeTreeParts
     }
     Q_DISABLE_COPY_MOVE(NodeTreeParts) // the parts know one another
 
+    void removeNode(int position) { model.remove(model.at(position)); }
+    void clearNodes() { model.clear(); }
+
     QTreeView &view;
     HandleStore<Node, TreeNode> handles;
     NodeModel model;

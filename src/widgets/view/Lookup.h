@@ -3,21 +3,36 @@
 #include <QtCore/QString>
 
 // What the collections of a view refuse, in the same words for rows, columns and
-// nodes. The member is the one that a host has called.
+// nodes.
 
-namespace ORVTListview::Lookup {
+namespace ORVTListview {
 
-void checkIndex(const QString &member, const QString &kind, qint32 index, qint32 count);
-void checkKeyIsFree(const QString &member, const QString &key, bool isUsed);
-[[noreturn]] void refuseKey(const QString &member, const QString &kind, const QString &key);
+// The member that a host has called. Its name is put together only to refuse.
+struct CalledMember
+{
+    QStringView object;
+    const char *member;
+
+    QString name() const;
+};
+
+namespace Lookup {
+
+void checkIndex(const CalledMember &member, QStringView kind, qint32 index, qint32 count);
+void checkKeyIsFree(const CalledMember &member, const QString &key, bool isUsed);
+[[noreturn]] void refuseKey(const CalledMember &member, QStringView kind, const QString &key);
 
 // What was found with that key, if anything was.
 template <typename Held>
-Held &required(Held *found, const QString &member, const QString &kind, const QString &key)
+Held &required(Held *found, const CalledMember &member, QStringView kind, const QString &key)
 {
     if (!found)
         refuseKey(member, kind, key);
     return *found;
 }
 
-} // namespace ORVTListview::Lookup
+// The position, from 0, of what is to be put before the one at an index; 0 is the end.
+int newPosition(const CalledMember &member, QStringView kind, qint32 index, qint32 count);
+
+} // namespace Lookup
+} // namespace ORVTListview

@@ -170,7 +170,7 @@ void ReportModelTest::tellsAChangeOfOneCellForThatCell()
     QCOMPARE(notices.take(), u"changed 1,2-1,2;"_s);
     model.setForeground(model.row(0), Qt::red);
     QCOMPARE(notices.take(), u"changed 0,0-0,2;"_s);
-    model.setColumnText(model.column(1), u"new"_s);
+    model.setText(model.column(1), u"new"_s);
     QCOMPARE(notices.take(), u"header 1-1;"_s);
     model.setColumnAlignment(model.column(1), Qt::AlignRight);
     QCOMPARE(notices.take(), u"header 1-1;changed 0,1-1,1;"_s);
@@ -195,7 +195,7 @@ void ReportModelTest::saysNothingWhenNothingChanges()
     model.setForeground(held, QColor());
     model.setChecked(held, false);
     model.setPicture(held, QString());
-    model.setColumnText(model.column(0), u"Header 0"_s);
+    model.setText(model.column(0), u"Header 0"_s);
     QCOMPARE(notices.take(), QString());
 }
 

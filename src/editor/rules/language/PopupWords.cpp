@@ -26,20 +26,8 @@ WordClass reservedClass(const QString &word, const Vocabulary &vocabulary)
 
 WordClass classOf(const WordIndex::Entry &entry, const Vocabulary &vocabulary)
 {
-    switch (entry.data) {
-    case ConstantColour:
-        return WordClass::Constant;
-    case VariableColour:
-        return WordClass::Variable;
-    case InputColour:
-        return WordClass::Input;
-    case OutputColour:
-        return WordClass::Output;
-    case NviColour:
-        return WordClass::Nvi;
-    default:
-        return reservedClass(entry.text, vocabulary);
-    }
+    const WordClass points = classOfColour(entry.data);
+    return points == WordClass::Other ? reservedClass(entry.text, vocabulary) : points;
 }
 
 PopupWords::PopupWords(const WordIndex &index, const Vocabulary &vocabulary,

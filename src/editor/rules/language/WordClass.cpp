@@ -2,25 +2,29 @@
 
 #include "shared/points/PictureNumbers.h"
 
+#include <algorithm>
 #include <array>
 
 namespace ORVTListview {
 namespace {
 
+constexpr qint32 noType = -1;
+
 struct ClassLook
 {
     ColourIndex colour;
     PictureNumber picture;
+    qint32 type = noType; // of the points whose names are of this class
 };
 
 // In the order of WordClass.
 constexpr std::array<ClassLook, 11> looks{{
     {AutomaticColour, NoPicture},
-    {VariableColour, VariablePicture},
-    {ConstantColour, ConstantPicture},
-    {InputColour, InputPicture},
-    {OutputColour, OutputPicture},
-    {NviColour, NviPicture},
+    {VariableColour, VariablePicture, dsVariable},
+    {ConstantColour, ConstantPicture, dsConst},
+    {InputColour, InputPicture, dsInput},
+    {OutputColour, OutputPicture, dsOutput},
+    {NviColour, NviPicture, dsNvi},
     {ReservedWordColour, KeywordPicture},
     {ReservedWordColour, TimeWordPicture},
     {ReservedWordColour, FunctionPicture},
@@ -37,23 +41,14 @@ constexpr std::array<Colour RichTextSettings::*, colourSlots> slotColours{
     &RichTextSettings::VariableColor, &RichTextSettings::nviFPAColor,
 };
 
-// Other for a type whose names are no class of their own.
-WordClass classOfType(qint32 type)
+// The class of points that has this value there; Other for none.
+template <typename Value>
+WordClass pointClass(Value ClassLook::*field, qint32 value)
 {
-    switch (type) {
-    case dsVariable:
-        return WordClass::Variable;
-    case dsConst:
-        return WordClass::Constant;
-    case dsInput:
-        return WordClass::Input;
-    case dsOutput:
-        return WordClass::Output;
-    case dsNvi:
-        return WordClass::Nvi;
-    default:
-        return WordClass::Other;
-    }
+    const auto found = std::find_if(looks.begin(), looks.end(), [=](const ClassLook &look) {
+        return look.type != noType && look.*field == value;
+    });
+    return found == looks.end() ? WordClass::Other : static_cast<WordClass>(found - looks.begin());
 }
 
 } // namespace
@@ -70,9 +65,14 @@ ClassStyle styleOf(WordClass wordClass, const RichTextSettings &settings)
     return {look.colour, colourOfSlot(look.colour, settings), look.picture};
 }
 
+WordClass classOfColour(qint32 colour)
+{
+    return pointClass(&ClassLook::colour, colour);
+}
+
 void ClassStyleForType(qint32 TypeIndex, const RichTextSettings &settings, ClassStyle &Style)
 {
-    const WordClass wordClass = classOfType(TypeIndex);
+    const WordClass wordClass = pointClass(&ClassLook::type, TypeIndex);
     if (wordClass != WordClass::Other)
         Style = styleOf(wordClass, settings);
 }

@@ -47,6 +47,9 @@ struct ClassStyle
 
 ORVT_HOUSE_EXPORT ClassStyle styleOf(WordClass wordClass, const RichTextSettings &settings);
 
+// The class of the points that have this colour; Other for none.
+WordClass classOfColour(qint32 colour);
+
 // The style of a point type's names. For types whose names are no class of their
 // own Style is left as it is.
 ORVT_HOUSE_EXPORT void ClassStyleForType(qint32 TypeIndex, const RichTextSettings &settings,

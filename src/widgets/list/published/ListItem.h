@@ -1,42 +1,21 @@
 #pragma once
 
 #include <ORVTListview/Export.h>
+#include <ORVTListview/ViewElement.h>
 
 #include <QtCore/QString>
 #include <QtGui/QColor>
 
 namespace ORVTListview {
 
-struct ReportListParts;
-struct ReportRow;
-
-// A row of a ReportList, made by the list on request and owned by it. The same
-// row always has the same ListItem; its address stays good until the list is
-// destroyed. Once its row has been removed, every member but isAlive() raises
-// Error (ObjectNotSet): a removed row never comes back, not even one with its key.
+// A row of a ReportList: see ViewElement.
 //
 // SubItem and SubItemTag count from 1, the column after the first, to the number
 // of columns less 1, and raise Error (SubscriptOutOfRange) outside it. None of the
 // setters raises an event.
-class ORVT_EXPORT ListItem
+class ORVT_EXPORT ListItem : public ViewElement<ListItem, ReportListParts, ReportRow>
 {
 public:
-    ~ListItem();
-    Q_DISABLE_COPY_MOVE(ListItem) // its address is what hosts hold
-
-    bool isAlive() const { return m_row != nullptr; }
-
-    // From 1 to the number of rows; changes when rows above it come or go.
-    qint32 Index() const;
-
-    // Empty, or unique in the list: setKey raises Error (InvalidCall) for a key
-    // in use. Case-sensitive.
-    QString Key() const;
-    void setKey(const QString &Key);
-
-    QString Text() const;
-    void setText(const QString &Text);
-
     QString Tag() const;
     void setTag(const QString &Tag);
 
@@ -70,17 +49,12 @@ public:
 
 private:
     friend class ReportList;
-    template <typename Handle, typename Held>
+    template <typename, typename>
     friend class HandleStore;
 
     ListItem(ReportListParts &parts, ReportRow &row);
 
-    void letGo() { m_row = nullptr; }
-    ReportRow &row(const char *member) const;
-    void checkSubItem(const char *member, qint32 index) const;
-
-    ReportListParts *m_parts;
-    ReportRow *m_row; // null once it is gone
+    ReportRow &heldWith(const char *member, qint32 subItem) const;
 };
 
 } // namespace ORVTListview

@@ -2,6 +2,7 @@
 
 #include <ORVTListview/Export.h>
 #include <ORVTListview/NodeRelationship.h>
+#include <ORVTListview/ViewElement.h>
 
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -9,36 +10,14 @@
 namespace ORVTListview {
 
 class NodeTree;
-struct NodeTreeParts;
-struct TreeNode;
 
-// A node of a tree, made by the tree on request and owned by it. The same node
-// always has the same Node; its address stays good until the tree is destroyed.
-// Once the node has been removed, with or without one above it, every member but
-// isAlive() raises Error (ObjectNotSet): a removed node never comes back, not even
-// one with its key.
+// A node of a tree: see ViewElement. Its index is its place in the order of adding, not
+// the place in the tree. It goes with the one above it.
 //
 // None of the setters raises an event.
-class ORVT_EXPORT Node
+class ORVT_EXPORT Node : public ViewElement<Node, NodeTreeParts, TreeNode>
 {
 public:
-    ~Node();
-    Q_DISABLE_COPY_MOVE(Node) // its address is what hosts hold
-
-    bool isAlive() const { return m_node != nullptr; }
-
-    // Its place in the collection, from 1 to Nodes::Count(): the order of adding,
-    // not the place in the tree. Changes when older nodes are removed.
-    qint32 Index() const;
-
-    // Empty, or unique in the tree: setKey raises Error (InvalidCall) for a key in
-    // use. Case-sensitive.
-    QString Key() const;
-    void setKey(const QString &Key);
-
-    QString Text() const;
-    void setText(const QString &Text);
-
     // The key of the picture. A key without a picture shows none.
     QString Image() const;
     void setImage(const QString &Key);
@@ -89,20 +68,12 @@ public:
 private:
     friend class Nodes;
     friend class NodeTree;
-    template <typename Handle, typename Held>
+    template <typename, typename>
     friend class HandleStore;
 
     Node(NodeTreeParts &parts, TreeNode &node);
 
-    // What a caller's node of this tree stands for; null for null.
-    static TreeNode *nodeOf(const Node *node, const NodeTreeParts &parts, const QString &source);
-
-    void letGo() { m_node = nullptr; }
-    TreeNode &node(const char *member) const;
     Node *handleOf(TreeNode *node) const;
-
-    NodeTreeParts *m_parts;
-    TreeNode *m_node; // null once it is gone
 };
 
 } // namespace ORVTListview

@@ -2,27 +2,19 @@
 
 #include <ORVTListview/Export.h>
 #include <ORVTListview/NodeRelationship.h>
+#include <ORVTListview/ViewCollection.h>
 
 #include <QtCore/QString>
 
 namespace ORVTListview {
 
-class Node;
-struct NodeTreeParts;
-
-// All nodes of a tree, in the order of adding. It lives as long as the tree.
-// Indexes count from 1; keys are case-sensitive. An index or key that is not there
-// raises Error (SubscriptOutOfRange, InvalidCall).
-class ORVT_EXPORT Nodes
+// All nodes of a tree, in the order of adding: see ViewCollection. A node is removed
+// with all below it.
+class ORVT_EXPORT Nodes : public ViewCollection<Node, NodeTreeParts>
 {
 public:
     explicit Nodes(NodeTreeParts &parts);
-    Q_DISABLE_COPY_MOVE(Nodes) // the tree's own
 
-    qint32 Count() const;
-
-    Node *Item(qint32 Index) const;
-    Node *Item(const QString &Key) const;
     bool Contains(const QString &Key) const;
 
     // Adds a node beside or below another one, given itself or by its key; a null
@@ -34,14 +26,6 @@ public:
     Node *Add(const QString &Relative, NodeRelationship Relationship,
               const QString &Key = QString(), const QString &Text = QString(),
               const QString &Image = QString());
-
-    // A node goes with all below it.
-    void Remove(qint32 Index);
-    void Remove(const QString &Key);
-    void Clear();
-
-private:
-    NodeTreeParts &m_parts;
 };
 
 } // namespace ORVTListview

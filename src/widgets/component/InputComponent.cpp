@@ -1,0 +1,12 @@
+#include <ORVTListview/InputComponent.h>
+
+namespace ORVTListview {
+
+InputComponent::InputComponent(QWidget *parent)
+    : Component(parent)
+{
+}
+
+InputComponent::~InputComponent() = default;
+
+} // namespace ORVTListview

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <ORVTListview/Component.h>
+#include <ORVTListview/DataObject.h>
+#include <ORVTListview/Export.h>
+
+namespace ORVTListview {
+
+// A component that takes keys, drags and drops, with the events that all of these raise
+// alike. A receiver may do anything in them, destroying the component included; what it
+// makes of an argument taken by reference goes back.
+class ORVT_EXPORT InputComponent : public Component
+{
+    Q_OBJECT
+
+public:
+    explicit InputComponent(QWidget *parent = nullptr);
+    ~InputComponent() override;
+
+Q_SIGNALS:
+    // KeyCode is a virtual-key number; set to 0 it swallows the key. Shift holds 1 for
+    // Shift, 2 for Ctrl, 4 for Alt.
+    void KeyDown(qint16 &KeyCode, qint16 &Shift);
+
+    // KeyAscii is the UTF-16 code typed; set to 0 it swallows the key, another value is
+    // typed in its place.
+    void KeyPress(qint16 &KeyAscii);
+    void KeyUp(qint16 &KeyCode, qint16 &Shift);
+
+    // Drag and drop. Effects are 0 none, 1 copy, 2 move, 4 link; X and Y are twips from
+    // the component's corner, unless the component says from where; State is 0 enter,
+    // 1 leave, 2 over. Data is good only during the event.
+    void OLECompleteDrag(qint32 Effect);
+    void OLEDragDrop(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
+                     float X, float Y);
+    void OLEDragOver(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
+                     float X, float Y, qint16 State);
+    void OLEGiveFeedback(qint32 Effect, bool &DefaultCursors);
+    void OLESetData(ORVTListview::DataObject *Data, qint16 DataFormat);
+    void OLEStartDrag(ORVTListview::DataObject *Data, qint32 &AllowedEffects);
+};
+
+} // namespace ORVTListview
