@@ -21,6 +21,7 @@ endfunction()
 
 # What is laid out, drawn or dragged is tested in other places, too: another scale,
 # style and country, whose numbers and letters differ.
+set(large_screen ${CMAKE_CURRENT_LIST_DIR}/support/large_screen.json)
 set(locales_dir ${PROJECT_BINARY_DIR}/locales)
 find_program(LOCALEDEF localedef)
 file(MAKE_DIRECTORY ${locales_dir})
@@ -40,8 +41,12 @@ function(orvt_add_test_elsewhere name program)
         list(GET place 2 country)
         math(EXPR whole "${percent} / 100")
         math(EXPR rest "${percent} % 100")
+        set(screen) # the offscreen platform's own, of 800 pixels, is small for these scales
+        if(NOT ARGN)
+            set(screen QT_QPA_PLATFORM=offscreen:configfile=${large_screen})
+        endif()
         orvt_add_test(${name}.${percent}.${style}.${country} ${ARGN}
-            ENVIRONMENT QT_SCALE_FACTOR=${whole}.${rest} QT_STYLE_OVERRIDE=${style}
+            ENVIRONMENT ${screen} QT_SCALE_FACTOR=${whole}.${rest} QT_STYLE_OVERRIDE=${style}
                 LOCPATH=${locales_dir} LC_ALL=${country}.UTF-8
             COMMAND $<TARGET_FILE:${program}> ${name})
     endforeach()
@@ -63,7 +68,7 @@ function(orvt_add_widget_tests program)
             set(display DISPLAY)
         endif()
         orvt_add_test(${name} ${display} COMMAND $<TARGET_FILE:${program}> ${name})
-        if(name MATCHES "(Columns|Drag|Layout|Look|Widths)Test$" AND NOT ORVT_SANITIZE)
+        if(name MATCHES "(CaptionLine|Drag|Layout|Look|Widths|Window)Test$" AND NOT ORVT_SANITIZE)
             orvt_add_test_elsewhere(${name} ${program} ${display})
         endif()
     endforeach()
