@@ -4,6 +4,11 @@
 # Every test is run by this script, which sees to its environment.
 set(run_test ${Python3_EXECUTABLE} -I -S ${CMAKE_CURRENT_LIST_DIR}/support/run_test.py)
 set(test_folders ${PROJECT_BINARY_DIR}/test_folders)
+set(seconds_for_a_test 300)
+if(ORVT_SANITIZE)
+    set(seconds_for_a_test 1200)
+    list(APPEND run_test --set QTEST_FUNCTION_TIMEOUT=1200000)
+endif()
 
 # NAME [DISPLAY] [ENVIRONMENT NAME=VALUE...] COMMAND ...
 function(orvt_add_test name)
@@ -16,7 +21,7 @@ function(orvt_add_test name)
         list(APPEND options --set ${setting})
     endforeach()
     add_test(NAME ${name} COMMAND ${run_test} ${options} -- ${test_COMMAND})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${seconds_for_a_test})
 endfunction()
 
 # What is laid out, drawn or dragged is tested in other places, too: another scale,
@@ -98,7 +103,7 @@ foreach(suite IN LISTS suites)
     string(REPLACE "/" "_" folder "${suite}")
     add_test("${suite}" @launcher@ --name "${suite}" --folder "@test_folders@/${folder}"
         -- "$<TARGET_FILE:@program@>" "--gtest_filter=${suite}.*")
-    set_tests_properties("${suite}" PROPERTIES TIMEOUT 300)
+    set_tests_properties("${suite}" PROPERTIES TIMEOUT @seconds_for_a_test@)
 endforeach()
 ]] @ONLY)
     file(GENERATE OUTPUT ${ask} INPUT ${ask}.in)
