@@ -10,6 +10,7 @@
 #include <ORVTListview/TranslatedTexts.h>
 
 #include <QtCore/QSet>
+#include <QtCore/QtMath>
 #include <QtWidgets/QStyleOption>
 
 using namespace ORVTListview;
@@ -53,7 +54,7 @@ int drawnWidth(const QWidget &control)
     for (int x = image.width() - 1; x >= 0; --x) {
         for (int y = 0; y < image.height(); ++y) {
             if (image.pixel(x, y) != ground)
-                return x + 1;
+                return qCeil((x + 1) / image.devicePixelRatio());
         }
     }
     return 0;

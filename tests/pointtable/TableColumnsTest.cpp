@@ -3,6 +3,7 @@
 #include "listview/ShownListView.h"
 #include "shared/points/DisplayNames.h"
 #include "support/TestProgram.h"
+#include "support/WidgetPicture.h"
 #include "support/WidgetTest.h"
 #include "widgets/look/Twips.h"
 #include <ORVTListview/LibraryTexts.h>
@@ -14,11 +15,6 @@ using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QImage pictureOf(QWidget &widget)
-{
-    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
 
 // The first and last column of pixels in an area that a text has touched.
 std::pair<int, int> inked(const QImage &image, const QRect &area)

@@ -40,7 +40,8 @@ def environment(folder, settings):
 
 
 def with_display(command):
-    return ["xvfb-run", "--auto-servernum", "--server-args=-screen 0 1024x768x24", *command]
+    # Of a size that windows fit in at any scale.
+    return ["xvfb-run", "--auto-servernum", "--server-args=-screen 0 2560x1600x24", *command]
 
 
 def skips(name, status, output):

@@ -8,6 +8,8 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 
+#include <utility>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -336,16 +338,22 @@ void ReportListKeyTest::goesToRowsByTheirLabels()
     QCOMPARE(shown->SelectedItem(), shown.item(1));
 }
 
+// With the keys in which each event comes.
 void ReportListKeyTest::bearsAnythingInAKeyEvent_data()
 {
     QTest::addColumn<QString>("event");
     QTest::addColumn<int>("key");
     QTest::addColumn<QString>("deed");
-    for (const QString &event :
-         {u"KeyDown"_s, u"KeyPress"_s, u"KeyUp"_s, u"ItemClick"_s, u"ItemCheck"_s}) {
+    const std::pair<QString, QList<Qt::Key>> events[] = {
+        {u"KeyDown"_s, {Qt::Key_Down, Qt::Key_T, Qt::Key_Space, Qt::Key_F2, Qt::Key_End}},
+        {u"KeyPress"_s, {Qt::Key_T, Qt::Key_Space}},
+        {u"KeyUp"_s, {Qt::Key_Down, Qt::Key_T, Qt::Key_Space, Qt::Key_End}},
+        {u"ItemClick"_s, {Qt::Key_Down, Qt::Key_T, Qt::Key_End}},
+        {u"ItemCheck"_s, {Qt::Key_Space}},
+    };
+    for (const auto &[event, keys] : events) {
         for (const QString &deed : {u"destroy"_s, u"clear"_s, u"columns"_s, u"disable"_s}) {
-            for (const Qt::Key key :
-                 {Qt::Key_Down, Qt::Key_T, Qt::Key_Space, Qt::Key_F2, Qt::Key_End})
+            for (const Qt::Key key : keys)
                 QTest::addRow("%s, %s, key %d", qPrintable(event), qPrintable(deed), int{key})
                     << event << int{key} << deed;
         }
@@ -385,7 +393,8 @@ void ReportListKeyTest::bearsAnythingInAKeyEvent()
         connect(shown.list, &ReportList::ItemCheck, this, act);
     shown.key(static_cast<Qt::Key>(key));
     QCoreApplication::sendPostedEvents();
-    QCOMPARE(shown.list.isNull(), deed == u"destroy"_s && deeds > 0);
+    QVERIFY(deeds > 0);
+    QCOMPARE(shown.list.isNull(), deed == u"destroy"_s);
 }
 
 void ReportListKeyTest::keepsErrorsFromTheEventLoop()

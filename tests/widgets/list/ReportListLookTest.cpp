@@ -1,6 +1,7 @@
 // What is seen, and what a screen reader hears.
 
 #include "support/TestProgram.h"
+#include "support/WidgetPicture.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
 #include "widgets/view/LongestText.h"
@@ -24,11 +25,6 @@ void hover(QWidget &widget, QPoint at)
 {
     QHelpEvent event(QEvent::ToolTip, at, widget.mapToGlobal(at));
     QCoreApplication::sendEvent(&widget, &event);
-}
-
-QImage picture(QWidget &widget)
-{
-    return widget.grab().toImage();
 }
 
 double contrast(const QColor &one, const QColor &other)
@@ -195,13 +191,13 @@ void ReportListLookTest::paintsTheBeginningsOfLongCells()
     const QString beginning = u"The beginning of much "_s;
     const QImage before = [&] {
         shown.item(1)->setText(beginning + QString(500, u'x'));
-        return picture(*shown->viewport());
+        return pictureOf(*shown->viewport());
     }();
     shown.item(1)->setText(beginning + QString(1 << 20, u'x'));
-    QCOMPARE(picture(*shown->viewport()), before);
+    QCOMPARE(pictureOf(*shown->viewport()), before);
     LongestText style;
     shown->setStyle(&style);
-    picture(*shown->viewport());
+    pictureOf(*shown->viewport());
     QVERIFY(style.letters() > beginning.size());
     QVERIFY2(style.letters() < 1000, qPrintable(QString::number(style.letters())));
 }
@@ -231,9 +227,9 @@ void ReportListLookTest::showsWhereTheFocusIs()
         shown->setSelectedItem(shown.item(2));
         shown.item(2)->setSelected(selected);
         shown->setFocus();
-        const QImage with = picture(*shown->viewport());
+        const QImage with = pictureOf(*shown->viewport());
         other.setFocus();
-        const QImage without = picture(*shown->viewport());
+        const QImage without = pictureOf(*shown->viewport());
         const QRect row = shown->visualRect(shown->model()->index(1, 0));
         QVERIFY(with.copy(row) != without.copy(row));
         // The text is as legible as without.
@@ -253,7 +249,7 @@ void ReportListLookTest::showsEachCellOnOneLine()
     shown.item(4)->setText(u"one\ttwo"_s);
     shown.item(5)->setText(QStringLiteral("one\u2028two"));
     shown->setCurrentIndex({});
-    const QImage image = picture(*shown->viewport());
+    const QImage image = pictureOf(*shown->viewport());
     const QImage first = image.copy(shown->visualRect(shown->model()->index(0, 0)));
     for (int row = 1; row < 5; ++row)
         QVERIFY(image.copy(shown->visualRect(shown->model()->index(row, 0))) == first);
@@ -264,7 +260,7 @@ void ReportListLookTest::showsRowColours()
     const ShownList shown;
     shown.item(2)->setForeground(QColor(255, 0, 0));
     const auto reds = [&](int row) {
-        const QImage image = picture(*shown->viewport());
+        const QImage image = pictureOf(*shown->viewport());
         const QRect area = shown->visualRect(shown->model()->index(row - 1, 0));
         int count = 0;
         for (int y = area.top(); y <= area.bottom(); ++y) {
@@ -305,7 +301,7 @@ void ReportListLookTest::isLegibleInEveryPalette()
     shown->setSelectedItem(shown.item(2));
     shown.item(1)->setText(QString(8, u'█'));
     shown.item(2)->setText(QString(8, u'█'));
-    const QImage image = picture(*shown->viewport());
+    const QImage image = pictureOf(*shown->viewport());
     const auto area = [&](int row) {
         return shown->visualRect(shown->model()->index(row - 1, 0)).adjusted(2, 3, -2, -3);
     };
@@ -315,16 +311,16 @@ void ReportListLookTest::isLegibleInEveryPalette()
                             palette.color(QPalette::HighlightedText)));
     QCOMPARE(image.pixelColor(shown->viewport()->width() - 3, shown->viewport()->height() - 3),
              palette.color(QPalette::Base));
-    const QImage header = picture(*shown->horizontalHeader());
+    const QImage header = pictureOf(*shown->horizontalHeader());
     QVERIFY(bestContrast(header, QRect(2, 3, 80, header.height() - 6)) > 3);
 }
 
 void ReportListLookTest::greysOutWhenDisabled()
 {
     const ShownList shown;
-    const QImage enabled = picture(*shown->viewport());
+    const QImage enabled = pictureOf(*shown->viewport());
     shown->setEnabled(false);
-    QVERIFY(picture(*shown->viewport()) != enabled);
+    QVERIFY(pictureOf(*shown->viewport()) != enabled);
 }
 
 void ReportListLookTest::tellsAScreenReaderEachCell()
