@@ -201,6 +201,25 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::EditorViewMenu</name>
+    <message>
+        <source>&amp;Editor</source>
+        <translation>&amp;Editor</translation>
+    </message>
+    <message>
+        <source>Line &amp;Numbers</source>
+        <translation>Zeilen&amp;nummern</translation>
+    </message>
+    <message>
+        <source>&amp;Current Line</source>
+        <translation>&amp;Aktuelle Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Pairs and Uses</source>
+        <translation>&amp;Paare und Vorkommen</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>

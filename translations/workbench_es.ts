@@ -201,6 +201,25 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::EditorViewMenu</name>
+    <message>
+        <source>&amp;Editor</source>
+        <translation>&amp;Editor</translation>
+    </message>
+    <message>
+        <source>Line &amp;Numbers</source>
+        <translation>&amp;Números de línea</translation>
+    </message>
+    <message>
+        <source>&amp;Current Line</source>
+        <translation>Línea &amp;actual</translation>
+    </message>
+    <message>
+        <source>&amp;Pairs and Uses</source>
+        <translation>&amp;Pares y usos</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>

@@ -201,6 +201,25 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::EditorViewMenu</name>
+    <message>
+        <source>&amp;Editor</source>
+        <translation>É&amp;diteur</translation>
+    </message>
+    <message>
+        <source>Line &amp;Numbers</source>
+        <translation>&amp;Numéros de ligne</translation>
+    </message>
+    <message>
+        <source>&amp;Current Line</source>
+        <translation>&amp;Ligne courante</translation>
+    </message>
+    <message>
+        <source>&amp;Pairs and Uses</source>
+        <translation>&amp;Paires et usages</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>

@@ -3,6 +3,7 @@
 #include "Appearance.h"
 #include "CheckResults.h"
 #include "EditMenu.h"
+#include "EditorViewMenu.h"
 #include "LanguageMenu.h"
 #include "Languages.h"
 #include "PointChooser.h"
@@ -52,6 +53,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
+    EditorViewMenu::switchOn(*m_code->codeView());
     buildMenus();
     buildStatusBar();
     connectEditor();
@@ -124,6 +126,7 @@ void MainWindow::buildPointsMenu()
 void MainWindow::buildViewMenu()
 {
     QMenu *view = menuBar()->addMenu(tr("&View"));
+    view->addMenu(new EditorViewMenu(*m_code->codeView(), view));
     view->addMenu(new LanguageMenu(m_languages, view));
 }
 
@@ -142,6 +145,7 @@ void MainWindow::connectEditor()
     connect(m_code->RTextBox(), &QPlainTextEdit::blockCountChanged, this,
             &MainWindow::showProgramInfo);
     m_code->RTextBox()->viewport()->installEventFilter(this);
+    connect(m_code->RTextBox(), &QPlainTextEdit::selectionChanged, this, &MainWindow::showPosition);
     connect(m_results, &CheckResults::chosen, this, &MainWindow::goTo);
 }
 

@@ -28,6 +28,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     , m_editing(*m_box, m_thread, m_undo, m_colouring, m_clipboard)
     , m_places(*m_box, m_thread)
     , m_keys({m_text, m_editing, m_clipboard, m_words, m_undo, m_colouring, *m_status})
+    , m_view(*m_box)
 {
     MessageBoxes::installAsDefault();
     m_box->setObjectName(u"RichTextBox1"_s);
