@@ -215,8 +215,24 @@
         <translation>&amp;Aktuelle Zeile</translation>
     </message>
     <message>
-        <source>&amp;Pairs and Uses</source>
+        <source>Pairs and &amp;Uses</source>
         <translation>&amp;Paare und Vorkommen</translation>
+    </message>
+    <message>
+        <source>Next &amp;Problem</source>
+        <translation>Nächstes P&amp;roblem</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Problem</source>
+        <translation>V&amp;origes Problem</translation>
+    </message>
+    <message>
+        <source>Toggle &amp;Bookmark</source>
+        <translation>&amp;Lesezeichen umschalten</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Bookmark</source>
+        <translation>Nächstes Lesezei&amp;chen</translation>
     </message>
 </context>
 <context>

@@ -215,8 +215,24 @@
         <translation>Línea &amp;actual</translation>
     </message>
     <message>
-        <source>&amp;Pairs and Uses</source>
+        <source>Pairs and &amp;Uses</source>
         <translation>&amp;Pares y usos</translation>
+    </message>
+    <message>
+        <source>Next &amp;Problem</source>
+        <translation>Pro&amp;blema siguiente</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Problem</source>
+        <translation>Problema an&amp;terior</translation>
+    </message>
+    <message>
+        <source>Toggle &amp;Bookmark</source>
+        <translation>Alternar mar&amp;cador</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Bookmark</source>
+        <translation>Marca&amp;dor siguiente</translation>
     </message>
 </context>
 <context>

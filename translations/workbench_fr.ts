@@ -215,8 +215,24 @@
         <translation>&amp;Ligne courante</translation>
     </message>
     <message>
-        <source>&amp;Pairs and Uses</source>
+        <source>Pairs and &amp;Uses</source>
         <translation>&amp;Paires et usages</translation>
+    </message>
+    <message>
+        <source>Next &amp;Problem</source>
+        <translation>Problème &amp;suivant</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Problem</source>
+        <translation>Pr&amp;oblème précédent</translation>
+    </message>
+    <message>
+        <source>Toggle &amp;Bookmark</source>
+        <translation>&amp;Basculer le signet</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Bookmark</source>
+        <translation>Signe&amp;t suivant</translation>
     </message>
 </context>
 <context>

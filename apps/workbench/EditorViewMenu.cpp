@@ -12,7 +12,13 @@ EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
 {
     addSwitch(tr("Line &Numbers"), view.lineNumbersVisible(), &CodeView::setLineNumbersVisible);
     addSwitch(tr("&Current Line"), view.currentLineShown(), &CodeView::setCurrentLineShown);
-    addSwitch(tr("&Pairs and Uses"), view.pairsShown(), &CodeView::setPairsShown);
+    addSwitch(tr("Pairs and &Uses"), view.pairsShown(), &CodeView::setPairsShown);
+    addSeparator();
+    add(tr("Next &Problem"), Qt::Key_F8, [this] { m_view.nextProblem(); });
+    add(tr("P&revious Problem"), Qt::SHIFT | Qt::Key_F8, [this] { m_view.previousProblem(); });
+    addSeparator();
+    add(tr("Toggle &Bookmark"), Qt::CTRL | Qt::Key_F2, [this] { m_view.toggleBookmark(); });
+    add(tr("Ne&xt Bookmark"), Qt::CTRL | Qt::Key_F3, [this] { m_view.nextBookmark(); });
 }
 
 void EditorViewMenu::switchOn(CodeView &view)
@@ -20,6 +26,12 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setLineNumbersVisible(true);
     view.setCurrentLineShown(true);
     view.setPairsShown(true);
+}
+
+void EditorViewMenu::add(const QString &text, const QKeySequence &keys,
+                         const std::function<void()> &command)
+{
+    addAction(text, keys, this, command);
 }
 
 void EditorViewMenu::addSwitch(const QString &text, bool isOn, void (CodeView::*set)(bool))

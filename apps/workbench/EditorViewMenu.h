@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QtGui/QKeySequence>
 #include <QtWidgets/QMenu>
+
+#include <functional>
 
 namespace ORVTListview {
 
@@ -18,6 +21,7 @@ public:
     static void switchOn(CodeView &view);
 
 private:
+    void add(const QString &text, const QKeySequence &keys, const std::function<void()> &command);
     void addSwitch(const QString &text, bool isOn, void (CodeView::*set)(bool));
 
     CodeView &m_view;

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "Appearance.h"
+#include "CheckProblems.h"
 #include "CheckResults.h"
 #include "EditMenu.h"
 #include "EditorViewMenu.h"
@@ -17,6 +18,7 @@
 #include "project/ProgramCheck.h"
 #include "project/Project.h"
 
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>
 
@@ -228,9 +230,13 @@ void MainWindow::applyAppearance()
     m_code->Init_RichTextBox(legibleOn(palette(), m_project->editor()));
 }
 
-ProgramReport MainWindow::checkShownProgram() const
+ProgramReport MainWindow::checkShownProgram()
 {
-    return checkProgram(m_code->CodeText(), threadPart<Vocabulary>(), threadWordList().index());
+    const QString program = m_code->CodeText();
+    ProgramReport report =
+        checkProgram(program, threadPart<Vocabulary>(), threadWordList().index());
+    m_code->codeView()->setProblems(problemsOf(report.findings, program));
+    return report;
 }
 
 void MainWindow::analyse()

@@ -8,6 +8,9 @@ namespace ORVTListview {
 CodeView::CodeView(RichTextBox &box)
     : d(std::make_unique<CodeViewParts>(box))
 {
+    connect(&d->marks, &MarkColumn::chosen, this, [this](const Problem &problem) {
+        raiseEvent(*this, &CodeView::problemChosen, problem);
+    });
 }
 
 CodeView::~CodeView() = default;
@@ -50,6 +53,43 @@ void CodeView::setPairsShown(bool shown)
     d->pairs.setOn(shown);
     d->wordUses.setOn(shown);
     raiseEvent(*this, &CodeView::pairsShownChanged, shown);
+}
+
+void CodeView::setProblems(const QList<Problem> &problems)
+{
+    d->problems.set(problems);
+}
+
+QList<Problem> CodeView::problems() const
+{
+    return d->problems.list();
+}
+
+bool CodeView::tellChosen(const std::optional<Problem> &problem)
+{
+    if (problem)
+        raiseEvent(*this, &CodeView::problemChosen, *problem);
+    return problem.has_value();
+}
+
+bool CodeView::nextProblem()
+{
+    return tellChosen(d->problems.goToNext());
+}
+
+bool CodeView::previousProblem()
+{
+    return tellChosen(d->problems.goToPrevious());
+}
+
+void CodeView::toggleBookmark()
+{
+    d->bookmarks.toggle();
+}
+
+bool CodeView::nextBookmark()
+{
+    return d->bookmarks.goToNext();
 }
 
 } // namespace ORVTListview

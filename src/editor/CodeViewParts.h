@@ -1,9 +1,13 @@
 #pragma once
 
+#include "editor/view/Bookmarks.h"
 #include "editor/view/CurrentLine.h"
 #include "editor/view/EditorMargin.h"
+#include "editor/view/MarkColumn.h"
 #include "editor/view/NumberColumn.h"
 #include "editor/view/PairMarks.h"
+#include "editor/view/Problems.h"
+#include "editor/view/ScrollMarks.h"
 #include "editor/view/WordUses.h"
 
 #include <QtCore/QPointer>
@@ -21,8 +25,12 @@ struct CodeViewParts
 
     const QPointer<RichTextBox> box;
     BoxLayers &layers;
-    const QPointer<EditorMargin> margin; // a child of the box
+    const QPointer<EditorMargin> margin;     // a child of the box
+    const QPointer<ScrollMarks> scrollMarks; // of its scroll bar
+    Problems problems;
+    Bookmarks bookmarks;
     NumberColumn numbers;
+    MarkColumn marks;
     CurrentLine currentLine;
     WordUses wordUses;
     PairMarks pairs;

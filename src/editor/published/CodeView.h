@@ -1,10 +1,13 @@
 #pragma once
 
 #include <ORVTListview/Export.h>
+#include <ORVTListview/Problem.h>
 
+#include <QtCore/QList>
 #include <QtCore/QObject>
 
 #include <memory>
+#include <optional>
 
 namespace ORVTListview {
 
@@ -44,15 +47,41 @@ public:
     bool pairsShown() const;
     void setPairsShown(bool shown);
 
+    // What a check found: underlined, with its sign in the margin and its place on the
+    // scroll bar, with its text as tool tip and told to screen readers on the caret's
+    // line. What lies outside the program counts as the nearest place inside. While the
+    // text is edited a problem moves with it, and goes when its text goes; with another
+    // program all go. The list comes back from the top, with the places of now.
+    Q_INVOKABLE void setProblems(const QList<ORVTListview::Problem> &problems);
+    Q_INVOKABLE QList<ORVTListview::Problem> problems() const;
+
+    // Put the caret to the next problem behind it, or before it, going round at the end,
+    // and raise problemChosen. False without a problem.
+    Q_INVOKABLE bool nextProblem();
+    Q_INVOKABLE bool previousProblem();
+
+    // Marks the line of the caret, or takes its mark away. A mark is shown in the margin
+    // and on the scroll bar, and goes with its line; with another program all go.
+    Q_INVOKABLE void toggleBookmark();
+
+    // Puts the caret to the next marked line, going round at the end. False without one.
+    Q_INVOKABLE bool nextBookmark();
+
 Q_SIGNALS:
     void lineNumbersVisibleChanged(bool visible);
     void currentLineShownChanged(bool shown);
     void pairsShownChanged(bool shown);
 
+    // The caret was put to a problem: by a click on its sign, of which the worst of the
+    // line counts, by nextProblem or by previousProblem.
+    void problemChosen(const ORVTListview::Problem &problem);
+
 private:
     friend class CodeEditor;
 
     explicit CodeView(RichTextBox &box);
+
+    bool tellChosen(const std::optional<Problem> &problem);
 
     std::unique_ptr<CodeViewParts> d;
 };

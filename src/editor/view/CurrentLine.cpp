@@ -4,6 +4,7 @@
 #include "editor/view/ViewColours.h"
 
 #include <QtGui/QPainter>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QPlainTextEdit>
 
 #include <utility>

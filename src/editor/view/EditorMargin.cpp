@@ -2,6 +2,7 @@
 
 #include "editor/view/MarginAccess.h"
 #include "editor/view/ViewColours.h"
+#include "widgets/look/PlainToolTip.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QGuiApplication>
@@ -13,7 +14,6 @@
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyle>
-#include <QtWidgets/QToolTip>
 
 #include <algorithm>
 
@@ -243,7 +243,7 @@ void EditorMargin::showToolTip(const QHelpEvent &event)
 {
     const Hit place = hit(event.pos());
     const QString text = place.column ? place.column->toolTip(place.line) : QString();
-    QToolTip::showText(event.globalPos(), text, this);
+    showPlainToolTip(event, text, *this);
 }
 
 } // namespace ORVTListview

@@ -56,7 +56,6 @@ NumberColumn::NumberColumn(QPlainTextEdit &box, EditorMargin &margin, BoxLayers 
     , m_margin(margin)
     , m_layers(layers)
 {
-    margin.addColumn(*this);
 }
 
 void NumberColumn::setShown(bool on)
@@ -101,7 +100,7 @@ int NumberColumn::width() const
         return 0;
     const QFontMetrics metrics(boldFont(m_box), &m_box);
     const int digit = widestDigit(metrics);
-    return m_digits * digit + digit + gapBehind(metrics);
+    return m_digits * digit + digit / 2 + gapBehind(metrics);
 }
 
 void NumberColumn::paint(QPainter &painter, const ShownLine &line, const QRect &cell)

@@ -5,6 +5,7 @@
 #include "editor/view/ViewColours.h"
 
 #include <QtGui/QPainter>
+#include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QPlainTextEdit>
 
