@@ -234,6 +234,30 @@
         <source>Ne&amp;xt Bookmark</source>
         <translation>Marca&amp;dor siguiente</translation>
     </message>
+    <message>
+        <source>&amp;Indent Guides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blan&amp;ks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Folding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal Si&amp;ze</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fold &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unfold A&amp;ll</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -65,6 +65,8 @@ void CodeEditor::connectEvents()
     connect(&m_keys, &EditorKeys::QueryAnalyze, this, &CodeEditor::QueryAnalyze);
     connect(&m_keys, &EditorKeys::QueryCompile, this, &CodeEditor::QueryCompile);
     connect(&m_clipboard, &ProgramClipboard::UpdateUndoMenu, this, &CodeEditor::UpdateUndoMenu);
+    connect(&m_view, &CodeView::zoomChanged, this,
+            [this](int percent) { m_editing.lines().setZoom(percent > 0 ? percent : 100); });
     connect(m_status, &StatusTimer::quiet, this, &CodeEditor::raiseStatus);
 }
 

@@ -11,6 +11,8 @@ CodeView::CodeView(RichTextBox &box)
     connect(&d->marks, &MarkColumn::chosen, this, [this](const Problem &problem) {
         raiseEvent(*this, &CodeView::problemChosen, problem);
     });
+    connect(&d->zoom, &Zoom::changed, this,
+            [this] { raiseEvent(*this, &CodeView::zoomChanged, d->zoom.percent()); });
 }
 
 CodeView::~CodeView() = default;
@@ -53,6 +55,65 @@ void CodeView::setPairsShown(bool shown)
     d->pairs.setOn(shown);
     d->wordUses.setOn(shown);
     raiseEvent(*this, &CodeView::pairsShownChanged, shown);
+}
+
+bool CodeView::foldingEnabled() const
+{
+    return d->folds.isOn();
+}
+
+void CodeView::setFoldingEnabled(bool enabled)
+{
+    if (enabled == foldingEnabled())
+        return;
+    d->folds.setOn(enabled);
+    raiseEvent(*this, &CodeView::foldingEnabledChanged, enabled);
+}
+
+void CodeView::foldAll()
+{
+    d->folds.foldAll();
+}
+
+void CodeView::unfoldAll()
+{
+    d->folds.unfoldAll();
+}
+
+bool CodeView::indentGuidesShown() const
+{
+    return d->indentGuides.isShown();
+}
+
+void CodeView::setIndentGuidesShown(bool shown)
+{
+    if (shown == indentGuidesShown())
+        return;
+    d->indentGuides.setShown(shown);
+    raiseEvent(*this, &CodeView::indentGuidesShownChanged, shown);
+}
+
+bool CodeView::blanksShown() const
+{
+    return d->blanks.isShown();
+}
+
+void CodeView::setBlanksShown(bool shown)
+{
+    if (shown == blanksShown())
+        return;
+    d->blanks.setShown(shown);
+    raiseEvent(*this, &CodeView::blanksShownChanged, shown);
+}
+
+qint32 CodeView::zoom() const
+{
+    return d->zoom.percent();
+}
+
+void CodeView::setZoom(qint32 percent)
+{
+    d->zoom.setPercent(percent);
 }
 
 void CodeView::setProblems(const QList<Problem> &problems)

@@ -13,12 +13,17 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox)
     , bookmarks(editorBox)
     , numbers(editorBox, *margin, layers)
     , marks(editorBox, *margin, {numbers, problems, bookmarks})
+    , folds(editorBox, *margin, layers)
     , currentLine(editorBox, layers)
     , wordUses(editorBox, layers)
     , pairs(editorBox, layers)
+    , indentGuides(editorBox, layers)
+    , blanks(editorBox, layers)
+    , zoom(editorBox, layers)
 {
     margin->addColumn(marks);
     margin->addColumn(numbers);
+    margin->addColumn(folds);
     scrollMarks->addSource([this] { return bookmarks.marks(); });
     scrollMarks->addSource([this] { return problems.marks(); });
     QObject::connect(&problems, &Problems::changed, scrollMarks, &ScrollMarks::refresh);

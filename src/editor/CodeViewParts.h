@@ -1,14 +1,18 @@
 #pragma once
 
+#include "editor/view/BlankMarks.h"
 #include "editor/view/Bookmarks.h"
 #include "editor/view/CurrentLine.h"
 #include "editor/view/EditorMargin.h"
+#include "editor/view/Folds.h"
+#include "editor/view/IndentGuides.h"
 #include "editor/view/MarkColumn.h"
 #include "editor/view/NumberColumn.h"
 #include "editor/view/PairMarks.h"
 #include "editor/view/Problems.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/WordUses.h"
+#include "editor/view/Zoom.h"
 
 #include <QtCore/QPointer>
 
@@ -31,9 +35,13 @@ struct CodeViewParts
     Bookmarks bookmarks;
     NumberColumn numbers;
     MarkColumn marks;
+    Folds folds;
     CurrentLine currentLine;
     WordUses wordUses;
     PairMarks pairs;
+    IndentGuides indentGuides;
+    BlankMarks blanks;
+    Zoom zoom;
 };
 
 } // namespace ORVTListview

@@ -26,6 +26,12 @@ class ORVT_EXPORT CodeView : public QObject
     Q_PROPERTY(bool currentLineShown READ currentLineShown WRITE setCurrentLineShown NOTIFY
                    currentLineShownChanged)
     Q_PROPERTY(bool pairsShown READ pairsShown WRITE setPairsShown NOTIFY pairsShownChanged)
+    Q_PROPERTY(bool foldingEnabled READ foldingEnabled WRITE setFoldingEnabled NOTIFY
+                   foldingEnabledChanged)
+    Q_PROPERTY(bool indentGuidesShown READ indentGuidesShown WRITE setIndentGuidesShown NOTIFY
+                   indentGuidesShownChanged)
+    Q_PROPERTY(bool blanksShown READ blanksShown WRITE setBlanksShown NOTIFY blanksShownChanged)
+    Q_PROPERTY(qint32 zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
 
 public:
     ~CodeView() override;
@@ -47,6 +53,21 @@ public:
     bool pairsShown() const;
     void setPairsShown(bool shown);
 
+    // Thin lines down the indents, one at each tab stop.
+    bool indentGuidesShown() const;
+    void setIndentGuidesShown(bool shown);
+
+    // Dots for blanks and arrows for tabs.
+    bool blanksShown() const;
+    void setBlanksShown(bool shown);
+
+    // How large the text is shown, in percent of the box's font, which stays as it is,
+    // for RTF, too. From 20 to 500; what lies outside counts as the nearest one. While it
+    // is on, the wheel with Ctrl changes it by 10. 0, as at first, switches it off: the
+    // font's own size, and a wheel that scrolls.
+    qint32 zoom() const;
+    void setZoom(qint32 percent);
+
     // What a check found: underlined, with its sign in the margin and its place on the
     // scroll bar, with its text as tool tip and told to screen readers on the caret's
     // line. What lies outside the program counts as the nearest place inside. While the
@@ -67,10 +88,26 @@ public:
     // Puts the caret to the next marked line, going round at the end. False without one.
     Q_INVOKABLE bool nextBookmark();
 
+    // Whether the lines between an IF and its ENDIF can be hidden, by a click on the sign
+    // in the margin. They stay in the text, for finding, undo and RTF. The caret passes
+    // over them; a fold opens when the caret is put into it, when its text changes, and
+    // when a line at its edge is joined or broken. Switching it off opens all.
+    bool foldingEnabled() const;
+    void setFoldingEnabled(bool enabled);
+
+    // Hide the lines of the outermost blocks, and show all lines. Do nothing unless
+    // folding is enabled. A caret in a block that is hidden goes to the end of its IF's line.
+    Q_INVOKABLE void foldAll();
+    Q_INVOKABLE void unfoldAll();
+
 Q_SIGNALS:
     void lineNumbersVisibleChanged(bool visible);
     void currentLineShownChanged(bool shown);
     void pairsShownChanged(bool shown);
+    void foldingEnabledChanged(bool enabled);
+    void indentGuidesShownChanged(bool shown);
+    void blanksShownChanged(bool shown);
+    void zoomChanged(qint32 percent);
 
     // The caret was put to a problem: by a click on its sign, of which the worst of the
     // line counts, by nextProblem or by previousProblem.

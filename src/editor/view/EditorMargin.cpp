@@ -49,6 +49,7 @@ EditorMargin::EditorMargin(QPlainTextEdit &box, BoxLayers &layers)
         else
             update(0, rect.y(), width(), rect.height());
     });
+    connect(&layers, &BoxLayers::shownFontChanged, this, &EditorMargin::fit);
     connect(&layers, &BoxLayers::marginChanged, this,
             [this](int top, int bottom) { update(0, top, width(), bottom - top + 1); });
 }
@@ -88,9 +89,6 @@ bool EditorMargin::eventFilter(QObject *watched, QEvent *event)
 bool EditorMargin::event(QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::FontChange:
-        fit();
-        break;
     case QEvent::LayoutDirectionChange:
         place();
         break;
@@ -208,7 +206,9 @@ void EditorMargin::timerEvent(QTimerEvent *event)
 // the last line shown would bring another one.
 void EditorMargin::selectTo(const QTextBlock &line)
 {
-    const auto behind = [](const QTextBlock &block) {
+    const auto behind = [](QTextBlock block) {
+        while (block.next().isValid() && !block.next().isVisible())
+            block = block.next();
         return block.next().isValid() ? block.next().position()
                                       : block.position() + block.length() - 1;
     };

@@ -5,7 +5,9 @@
 #include "editor/view/Problems.h"
 #include "editor/view/ViewColours.h"
 
+#include <QtGui/QFontMetrics>
 #include <QtGui/QPainter>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QPlainTextEdit>
 
 #include <algorithm>
@@ -44,7 +46,9 @@ int MarkColumn::width() const
 {
     const bool isThere = m_sources.numbers.isShown() || m_sources.problems.isShown() ||
                          !m_sources.bookmarks.isEmpty();
-    return isThere ? std::max(12, m_box.fontMetrics().height() * 3 / 4) : 0;
+    return isThere ? std::max(12, QFontMetrics(m_box.document()->defaultFont(), &m_box).height() *
+                                      3 / 4)
+                   : 0;
 }
 
 void MarkColumn::paint(QPainter &painter, const ShownLine &line, const QRect &cell)

@@ -15,9 +15,8 @@ namespace {
 
 constexpr int fewestDigits = 2; // so that the text does not jump at the tenth line
 
-QFont boldFont(const QWidget &box)
+QFont bold(QFont font)
 {
-    QFont font = box.font();
     font.setBold(true);
     return font;
 }
@@ -98,7 +97,7 @@ int NumberColumn::width() const
 {
     if (!m_isShown)
         return 0;
-    const QFontMetrics metrics(boldFont(m_box), &m_box);
+    const QFontMetrics metrics(bold(m_layers.shownFont()), &m_box);
     const int digit = widestDigit(metrics);
     return m_digits * digit + digit / 2 + gapBehind(metrics);
 }
@@ -108,7 +107,7 @@ void NumberColumn::paint(QPainter &painter, const ShownLine &line, const QRect &
     const bool isCaretLine = line.block.blockNumber() == m_caretLine;
     const QColor ground = ViewColours::groundOf(m_box);
     const QColor text = ViewColours::textOf(m_box);
-    painter.setFont(isCaretLine ? boldFont(m_box) : m_box.font());
+    painter.setFont(isCaretLine ? bold(m_layers.shownFont()) : m_layers.shownFont());
     painter.setPen(isCaretLine ? ViewColours::onGround(text, ground, ViewColours::readable)
                                : ViewColours::quietText(text, ground));
     const QFontMetrics metrics(painter.font(), &m_box);

@@ -40,6 +40,7 @@ void BoxLayer::paintMargin(QPainter &, const ShownLine &, const QRect &) {}
 
 BoxLayers::BoxLayers(QWidget &box, QWidget &viewport, const Reach &reach)
     : QObject(&box)
+    , m_box(box)
     , m_viewport(viewport)
     , m_reach(reach)
 {
@@ -70,6 +71,19 @@ ShownLines BoxLayers::shownLines() const
     return shownLines(0, m_viewport.height());
 }
 
+namespace {
+
+// Hidden lines count as none, so they are stepped over at once.
+QTextBlock nextShown(const QTextBlock &block)
+{
+    const QTextBlock next = block.next();
+    return !next.isValid() || next.isVisible()
+               ? next
+               : block.document()->findBlockByLineNumber(next.firstLineNumber());
+}
+
+} // namespace
+
 ShownLines BoxLayers::shownLines(int top, int bottom) const
 {
     ShownLines lines;
@@ -77,7 +91,7 @@ ShownLines BoxLayers::shownLines(int top, int bottom) const
     while (line.block.isValid() && line.place.top() < bottom) {
         if (line.block.isVisible() && line.place.bottom() > top)
             lines.append(line);
-        line.block = line.block.next();
+        line.block = nextShown(line.block);
         const QRectF size = m_reach.sizeOf(line.block);
         line.place = QRectF(line.place.left(), line.place.bottom(), size.width(), size.height());
     }
@@ -90,6 +104,33 @@ void BoxLayers::setMargin(int width)
         return;
     m_margin = width;
     m_reach.setMargin(width);
+}
+
+void BoxLayers::setZoom(int percent)
+{
+    if (percent == m_zoom)
+        return;
+    m_zoom = percent;
+    m_reach.showIn(shownFont());
+    Q_EMIT shownFontChanged();
+}
+
+QFont BoxLayers::shownFont() const
+{
+    QFont font = m_box.font();
+    if (m_zoom != 100 && font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * m_zoom / 100);
+    else if (m_zoom != 100)
+        font.setPixelSize(std::max(1, font.pixelSize() * m_zoom / 100));
+    return font;
+}
+
+// The toolkit has just shown the text in the box's own.
+void BoxLayers::fitFont()
+{
+    if (m_zoom != 100)
+        m_reach.showIn(shownFont());
+    Q_EMIT shownFontChanged();
 }
 
 void BoxLayers::updateLines(const std::function<bool(const QTextBlock &block)> &concerns)

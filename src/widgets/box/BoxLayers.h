@@ -4,6 +4,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QRectF>
+#include <QtGui/QFont>
 #include <QtGui/QTextBlock>
 
 #include <functional>
@@ -67,6 +68,7 @@ public:
         std::function<ShownLine()> firstLine;
         std::function<QRectF(const QTextBlock &block)> sizeOf;
         std::function<void(int width)> setMargin;
+        std::function<void(const QFont &font)> showIn;
     };
 
     // Belongs to the box whose viewport this is.
@@ -86,6 +88,17 @@ public:
     void setMargin(int width);
     int margin() const { return m_margin; }
 
+    // The text as large as this, in percent of the box's font, which stays. Text that
+    // states a size of its own keeps it.
+    void setZoom(int percent);
+    int zoom() const { return m_zoom; }
+
+    // The font that text without one of its own is shown in.
+    QFont shownFont() const;
+
+    // To be called when the box has another font.
+    void fitFont();
+
     // Has the lines painted again for which `concerns` is true.
     void updateLines(const std::function<bool(const QTextBlock &block)> &concerns);
 
@@ -94,6 +107,8 @@ public:
     void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip);
 
 Q_SIGNALS:
+    void shownFontChanged();
+
     // The margin of these lines looks other than before.
     void marginChanged(int top, int bottom);
 
@@ -101,10 +116,12 @@ private:
     using Paint = void (BoxLayer::*)(QPainter &painter, const ShownLines &lines);
     void paint(const QRegion &region, Paint how);
 
+    QWidget &m_box;
     QWidget &m_viewport;
     const Reach m_reach;
     QList<BoxLayer *> m_layers;
     int m_margin = 0;
+    int m_zoom = 100;
 };
 
 } // namespace ORVTListview

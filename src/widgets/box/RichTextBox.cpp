@@ -47,7 +47,8 @@ RichTextBox::RichTextBox(QWidget *parent)
              return ShownLine{first, blockBoundingGeometry(first).translated(contentOffset())};
          },
          [this](const QTextBlock &block) { return blockBoundingRect(block); },
-         [this](int width) { setViewportMargins(width, 0, 0, 0); }});
+         [this](int width) { setViewportMargins(width, 0, 0, 0); },
+         [this](const QFont &shown) { document()->setDefaultFont(shown); }});
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
     m_parts->formats.setFont(font());
