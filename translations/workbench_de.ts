@@ -236,27 +236,27 @@
     </message>
     <message>
         <source>&amp;Indent Guides</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einzugslinien</translation>
     </message>
     <message>
         <source>Blan&amp;ks</source>
-        <translation type="unfinished"></translation>
+        <translation>Lee&amp;rzeichen</translation>
     </message>
     <message>
         <source>&amp;Folding</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Falten</translation>
     </message>
     <message>
         <source>Normal Si&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale &amp;Größe</translation>
     </message>
     <message>
         <source>Fold &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles fal&amp;ten</translation>
     </message>
     <message>
         <source>Unfold A&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles a&amp;ufklappen</translation>
     </message>
 </context>
 <context>

@@ -236,27 +236,27 @@
     </message>
     <message>
         <source>&amp;Indent Guides</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guías de sangría</translation>
     </message>
     <message>
         <source>Blan&amp;ks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Espacios</translation>
     </message>
     <message>
         <source>&amp;Folding</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;legado</translation>
     </message>
     <message>
         <source>Normal Si&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>Tama&amp;ño normal</translation>
     </message>
     <message>
         <source>Fold &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Plegar t&amp;odo</translation>
     </message>
     <message>
         <source>Unfold A&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplegar &amp;todo</translation>
     </message>
 </context>
 <context>

@@ -236,27 +236,27 @@
     </message>
     <message>
         <source>&amp;Indent Guides</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guides de retrait</translation>
     </message>
     <message>
         <source>Blan&amp;ks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Espaces</translation>
     </message>
     <message>
         <source>&amp;Folding</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Repliage</translation>
     </message>
     <message>
         <source>Normal Si&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;aille normale</translation>
     </message>
     <message>
         <source>Fold &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout re&amp;plier</translation>
     </message>
     <message>
         <source>Unfold A&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout &amp;déplier</translation>
     </message>
 </context>
 <context>

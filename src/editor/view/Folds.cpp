@@ -255,9 +255,7 @@ void Folds::paintAbove(QPainter &painter, const ShownLines &lines)
     const QColor ground = ViewColours::groundOf(m_box);
     const QColor quiet = ViewColours::quietText(ViewColours::textOf(m_box), ground);
     const QFontMetricsF metrics(layers()->shownFont(), &m_box);
-    const QString dots = QStringLiteral("…");
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(layers()->shownFont());
     for (const ShownLine &line : lines) {
         if (!isFolded(line.block) || line.block.layout()->lineCount() == 0)
             continue;
@@ -265,13 +263,15 @@ void Folds::paintAbove(QPainter &painter, const ShownLines &lines)
         const QTextLine row = layout.lineAt(layout.lineCount() - 1);
         const QRectF text = row.naturalTextRect().translated(line.place.topLeft());
         const qreal gap = metrics.averageCharWidth();
-        const qreal width = metrics.horizontalAdvance(dots) + gap;
+        const qreal width = 3 * gap;
         const QRectF box(m_box.isRightToLeft() ? text.left() - gap - width : text.right() + gap,
                          text.top() + 2, width, text.height() - 4);
         painter.setPen(quiet);
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-        painter.drawText(box, Qt::AlignCenter, dots);
+        painter.setBrush(quiet);
+        for (const qreal place : {-1, 0, 1})
+            painter.drawEllipse(box.center() + QPointF(place * box.width() / 4, 0), 0.7, 0.7);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
