@@ -2,6 +2,7 @@
 
 // All of the library.
 
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/Colour.h>
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>

@@ -462,5 +462,10 @@
         <source>Unknown error during uncompress operation</source>
         <translation>Unbekannter Fehler beim Dekomprimieren</translation>
     </message>
+    <message>
+        <source>Line numbers</source>
+        <extracomment>The strip beside the program, for screen readers</extracomment>
+        <translation>Zeilennummern</translation>
+    </message>
 </context>
 </TS>

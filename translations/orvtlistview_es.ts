@@ -462,5 +462,10 @@
         <source>Unknown error during uncompress operation</source>
         <translation>Error desconocido durante la descompresión</translation>
     </message>
+    <message>
+        <source>Line numbers</source>
+        <extracomment>The strip beside the program, for screen readers</extracomment>
+        <translation>Números de línea</translation>
+    </message>
 </context>
 </TS>

@@ -462,5 +462,10 @@
         <source>Unknown error during uncompress operation</source>
         <translation>Erreur inconnue pendant la décompression</translation>
     </message>
+    <message>
+        <source>Line numbers</source>
+        <extracomment>The strip beside the program, for screen readers</extracomment>
+        <translation>Numéros de ligne</translation>
+    </message>
 </context>
 </TS>

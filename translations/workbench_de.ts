@@ -201,6 +201,65 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::EditorViewMenu</name>
+    <message>
+        <source>&amp;Editor</source>
+        <translation>&amp;Editor</translation>
+    </message>
+    <message>
+        <source>Line &amp;Numbers</source>
+        <translation>Zeilen&amp;nummern</translation>
+    </message>
+    <message>
+        <source>&amp;Current Line</source>
+        <translation>&amp;Aktuelle Zeile</translation>
+    </message>
+    <message>
+        <source>Pairs and &amp;Uses</source>
+        <translation>&amp;Paare und Vorkommen</translation>
+    </message>
+    <message>
+        <source>Next &amp;Problem</source>
+        <translation>Nächstes P&amp;roblem</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Problem</source>
+        <translation>V&amp;origes Problem</translation>
+    </message>
+    <message>
+        <source>Toggle &amp;Bookmark</source>
+        <translation>&amp;Lesezeichen umschalten</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Bookmark</source>
+        <translation>Nächstes Lesezei&amp;chen</translation>
+    </message>
+    <message>
+        <source>&amp;Indent Guides</source>
+        <translation>&amp;Einzugslinien</translation>
+    </message>
+    <message>
+        <source>Blan&amp;ks</source>
+        <translation>Lee&amp;rzeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Folding</source>
+        <translation>&amp;Falten</translation>
+    </message>
+    <message>
+        <source>Normal Si&amp;ze</source>
+        <translation>Normale &amp;Größe</translation>
+    </message>
+    <message>
+        <source>Fold &amp;All</source>
+        <translation>Alles fal&amp;ten</translation>
+    </message>
+    <message>
+        <source>Unfold A&amp;ll</source>
+        <translation>Alles a&amp;ufklappen</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>

@@ -201,6 +201,65 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::EditorViewMenu</name>
+    <message>
+        <source>&amp;Editor</source>
+        <translation>&amp;Editor</translation>
+    </message>
+    <message>
+        <source>Line &amp;Numbers</source>
+        <translation>&amp;Números de línea</translation>
+    </message>
+    <message>
+        <source>&amp;Current Line</source>
+        <translation>Línea &amp;actual</translation>
+    </message>
+    <message>
+        <source>Pairs and &amp;Uses</source>
+        <translation>&amp;Pares y usos</translation>
+    </message>
+    <message>
+        <source>Next &amp;Problem</source>
+        <translation>Pro&amp;blema siguiente</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Problem</source>
+        <translation>Problema an&amp;terior</translation>
+    </message>
+    <message>
+        <source>Toggle &amp;Bookmark</source>
+        <translation>Alternar mar&amp;cador</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Bookmark</source>
+        <translation>Marca&amp;dor siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Indent Guides</source>
+        <translation>&amp;Guías de sangría</translation>
+    </message>
+    <message>
+        <source>Blan&amp;ks</source>
+        <translation>&amp;Espacios</translation>
+    </message>
+    <message>
+        <source>&amp;Folding</source>
+        <translation>P&amp;legado</translation>
+    </message>
+    <message>
+        <source>Normal Si&amp;ze</source>
+        <translation>Tama&amp;ño normal</translation>
+    </message>
+    <message>
+        <source>Fold &amp;All</source>
+        <translation>Plegar t&amp;odo</translation>
+    </message>
+    <message>
+        <source>Unfold A&amp;ll</source>
+        <translation>Desplegar &amp;todo</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>

@@ -201,6 +201,65 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::EditorViewMenu</name>
+    <message>
+        <source>&amp;Editor</source>
+        <translation>É&amp;diteur</translation>
+    </message>
+    <message>
+        <source>Line &amp;Numbers</source>
+        <translation>&amp;Numéros de ligne</translation>
+    </message>
+    <message>
+        <source>&amp;Current Line</source>
+        <translation>&amp;Ligne courante</translation>
+    </message>
+    <message>
+        <source>Pairs and &amp;Uses</source>
+        <translation>&amp;Paires et usages</translation>
+    </message>
+    <message>
+        <source>Next &amp;Problem</source>
+        <translation>Problème &amp;suivant</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Problem</source>
+        <translation>Pr&amp;oblème précédent</translation>
+    </message>
+    <message>
+        <source>Toggle &amp;Bookmark</source>
+        <translation>&amp;Basculer le signet</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Bookmark</source>
+        <translation>Signe&amp;t suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Indent Guides</source>
+        <translation>&amp;Guides de retrait</translation>
+    </message>
+    <message>
+        <source>Blan&amp;ks</source>
+        <translation>&amp;Espaces</translation>
+    </message>
+    <message>
+        <source>&amp;Folding</source>
+        <translation>&amp;Repliage</translation>
+    </message>
+    <message>
+        <source>Normal Si&amp;ze</source>
+        <translation>T&amp;aille normale</translation>
+    </message>
+    <message>
+        <source>Fold &amp;All</source>
+        <translation>Tout re&amp;plier</translation>
+    </message>
+    <message>
+        <source>Unfold A&amp;ll</source>
+        <translation>Tout &amp;déplier</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>

@@ -12,6 +12,8 @@ struct CheckTexts
     Q_DECLARE_TR_FUNCTIONS(CheckTexts)
 };
 
+} // namespace
+
 QString faultText(const ProgramFinding &finding)
 {
     switch (finding.fault) {
@@ -28,8 +30,6 @@ QString faultText(const ProgramFinding &finding)
     }
     return {};
 }
-
-} // namespace
 
 QString findingText(const ProgramFinding &finding)
 {

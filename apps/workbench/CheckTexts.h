@@ -4,6 +4,9 @@
 
 namespace ORVTListview {
 
+// "ENDIF without IF"
+QString faultText(const ProgramFinding &finding);
+
 // "Line 12: ENDIF without IF"
 QString findingText(const ProgramFinding &finding);
 

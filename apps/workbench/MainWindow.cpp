@@ -1,8 +1,10 @@
 #include "MainWindow.h"
 
 #include "Appearance.h"
+#include "CheckProblems.h"
 #include "CheckResults.h"
 #include "EditMenu.h"
+#include "EditorViewMenu.h"
 #include "LanguageMenu.h"
 #include "Languages.h"
 #include "PointChooser.h"
@@ -16,6 +18,7 @@
 #include "project/ProgramCheck.h"
 #include "project/Project.h"
 
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>
 
@@ -52,6 +55,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
+    EditorViewMenu::switchOn(*m_code->codeView());
     buildMenus();
     buildStatusBar();
     connectEditor();
@@ -124,6 +128,7 @@ void MainWindow::buildPointsMenu()
 void MainWindow::buildViewMenu()
 {
     QMenu *view = menuBar()->addMenu(tr("&View"));
+    view->addMenu(new EditorViewMenu(*m_code->codeView(), view));
     view->addMenu(new LanguageMenu(m_languages, view));
 }
 
@@ -142,6 +147,7 @@ void MainWindow::connectEditor()
     connect(m_code->RTextBox(), &QPlainTextEdit::blockCountChanged, this,
             &MainWindow::showProgramInfo);
     m_code->RTextBox()->viewport()->installEventFilter(this);
+    connect(m_code->RTextBox(), &QPlainTextEdit::selectionChanged, this, &MainWindow::showPosition);
     connect(m_results, &CheckResults::chosen, this, &MainWindow::goTo);
 }
 
@@ -224,9 +230,13 @@ void MainWindow::applyAppearance()
     m_code->Init_RichTextBox(legibleOn(palette(), m_project->editor()));
 }
 
-ProgramReport MainWindow::checkShownProgram() const
+ProgramReport MainWindow::checkShownProgram()
 {
-    return checkProgram(m_code->CodeText(), threadPart<Vocabulary>(), threadWordList().index());
+    const QString program = m_code->CodeText();
+    ProgramReport report =
+        checkProgram(program, threadPart<Vocabulary>(), threadWordList().index());
+    m_code->codeView()->setProblems(problemsOf(report.findings, program));
+    return report;
 }
 
 void MainWindow::analyse()

@@ -56,7 +56,7 @@ private:
     void showProgram();
     void applyAppearance();
     void followPalette();
-    ProgramReport checkShownProgram() const;
+    ProgramReport checkShownProgram();
     void analyse();
     void compile();
     void goTo(const QString &word, qint32 line);

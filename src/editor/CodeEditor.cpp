@@ -28,6 +28,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     , m_editing(*m_box, m_thread, m_undo, m_colouring, m_clipboard)
     , m_places(*m_box, m_thread)
     , m_keys({m_text, m_editing, m_clipboard, m_words, m_undo, m_colouring, *m_status})
+    , m_view(*m_box)
 {
     MessageBoxes::installAsDefault();
     m_box->setObjectName(u"RichTextBox1"_s);
@@ -64,6 +65,8 @@ void CodeEditor::connectEvents()
     connect(&m_keys, &EditorKeys::QueryAnalyze, this, &CodeEditor::QueryAnalyze);
     connect(&m_keys, &EditorKeys::QueryCompile, this, &CodeEditor::QueryCompile);
     connect(&m_clipboard, &ProgramClipboard::UpdateUndoMenu, this, &CodeEditor::UpdateUndoMenu);
+    connect(&m_view, &CodeView::zoomChanged, this,
+            [this](int percent) { m_editing.lines().setZoom(percent > 0 ? percent : 100); });
     connect(m_status, &StatusTimer::quiet, this, &CodeEditor::raiseStatus);
 }
 

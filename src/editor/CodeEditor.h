@@ -10,6 +10,7 @@
 #include "editor/TypedColouring.h"
 #include "editor/WordChoice.h"
 #include "widgets/input/TabStops.h"
+#include <ORVTListview/CodeView.h>
 
 #include <QtCore/QPointer>
 
@@ -39,6 +40,7 @@ public:
     ProgramPlaces &places() { return m_places; }
     WordChoice &words() { return m_words; }
     EditorUndo &undo() { return m_undo; }
+    CodeView &view() { return m_view; }
 
     // While the editor has the focus, Tab is typed: the controls of the form are
     // no tab stops. Null stands for the editor's window.
@@ -76,6 +78,7 @@ private:
     ProgramEditing m_editing;
     ProgramPlaces m_places;
     EditorKeys m_keys;
+    CodeView m_view;
     TabStops m_tabStops;
     QPointer<QWidget> m_form;
 };

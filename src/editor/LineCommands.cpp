@@ -34,6 +34,15 @@ Lines selectedLines(const RichTextBox &box)
     return lines;
 }
 
+// What is folded is stepped over.
+QTextBlock nextShownLine(QTextBlock line, int direction)
+{
+    do
+        line = direction < 0 ? line.previous() : line.next();
+    while (line.isValid() && !line.isVisible());
+    return line;
+}
+
 // How far a place in a line moves when the line's beginning changes by `change`.
 qint32 movedBy(qint32 offset, qint32 change)
 {
@@ -60,9 +69,16 @@ void LineCommands::setIndentUnit(const QString &unit)
 void LineCommands::fitTabStops()
 {
     const QString blanks = QString(m_unit).replace(u'\t', QStringLiteral("    "));
-    const qreal width = QFontMetricsF(m_box.font(), &m_box).horizontalAdvance(blanks);
+    const qreal width =
+        QFontMetricsF(m_box.font(), &m_box).horizontalAdvance(blanks) * m_zoom / 100;
     if (m_box.tabStopDistance() != width)
         m_box.setTabStopDistance(width);
+}
+
+void LineCommands::setZoom(int percent)
+{
+    m_zoom = percent;
+    fitTabStops();
 }
 
 // Each line is changed at its beginning only, so its colours move as they are.
@@ -185,12 +201,11 @@ bool LineCommands::deleteBlankBeforeCaret()
 bool LineCommands::moveToSameOffset(int lines)
 {
     const QTextCursor caret = m_box.textCursor();
-    const qint32 target = caret.blockNumber() + lines;
+    const QTextBlock target = nextShownLine(caret.block(), lines);
     const qint32 offset = caret.positionInBlock();
-    if (target < 0 || target >= m_box.lineCount() || offset < 1 ||
-        m_box.lineText(target).size() < offset)
+    if (!target.isValid() || offset < 1 || m_box.lineText(target.blockNumber()).size() < offset)
         return false;
-    m_box.setSelStart(m_box.lineStart(target) + offset);
+    m_box.setSelStart(m_box.lineStart(target.blockNumber()) + offset);
     return true;
 }
 

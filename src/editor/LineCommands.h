@@ -24,6 +24,9 @@ public:
     // Shows a tab as wide as the unit is in the box's font.
     void fitTabStops();
 
+    // In percent of the box's font.
+    void setZoom(int percent);
+
     // The lines that the selection touches; a line at whose very start it ends is
     // not touched, empty lines stay empty. The selection keeps its text and its direction.
     void indentSelectedLines();
@@ -53,6 +56,7 @@ private:
     void select(qint32 anchor, qint32 caret);
 
     RichTextBox &m_box;
+    int m_zoom = 100;
     QString m_unit = QStringLiteral("    ");
 };
 

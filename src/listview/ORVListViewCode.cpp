@@ -66,6 +66,11 @@ RichTextBox *ORVListView::RTextBox() const
     return &d->editor->box();
 }
 
+CodeView *ORVListView::codeView() const
+{
+    return &d->editor->view();
+}
+
 void ORVListView::RefillListviewWithWordList()
 {
     d->editor->words().RefillListviewWithWordList();

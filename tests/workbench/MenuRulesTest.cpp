@@ -52,7 +52,7 @@ private Q_SLOTS:
                  "Find…, Replace…, Select All, Known Words\n"
                  "Program: Analyse, Compile, Results\n"
                  "Points: Read Values, Rename, Fit Columns, Hardware Overrides\n"
-                 "View: Language"_s);
+                 "View: Editor, Language"_s);
     }
 
     void accessKeysDoNotClash_data()

@@ -8,6 +8,7 @@
 
 namespace ORVTListview {
 
+class CodeView;
 class ColumnHeader;
 class ColumnHeaders;
 class ImageList;
@@ -237,6 +238,10 @@ public:
 
     // The editor's box, owned by this control.
     Q_INVOKABLE ORVTListview::RichTextBox *RTextBox() const;
+
+    // What the editor shows beside the colours of its words, such as line numbers; owned
+    // by this control. All of it is off at first.
+    Q_INVOKABLE ORVTListview::CodeView *codeView() const;
 
     // --- Known words ---
 

@@ -50,6 +50,20 @@ void BoxLayout::fitWidth()
     Q_EMIT update(QRectF()); // everything
 }
 
+void BoxLayout::showLines(const QTextBlock &first, const QTextBlock &last, bool on)
+{
+    for (QTextBlock block = first; block.isValid(); block = block.next()) {
+        if (block.isVisible() != on) {
+            block.setVisible(on);
+            block.setLineCount(on ? std::max(1, block.layout()->lineCount()) : 0);
+        }
+        if (block == last)
+            break;
+    }
+    announceSize();
+    Q_EMIT update(QRectF()); // everything
+}
+
 // What a selection of several lines may cover.
 QRectF BoxLayout::frameBoundingRect(QTextFrame *frame) const
 {
@@ -60,6 +74,8 @@ QRectF BoxLayout::frameBoundingRect(QTextFrame *frame) const
 
 QRectF BoxLayout::blockBoundingRect(const QTextBlock &block) const
 {
+    if (block.isValid() && !block.isVisible())
+        return {};
     if (block.isValid())
         ensureLines(block);
     return QPlainTextDocumentLayout::blockBoundingRect(block);

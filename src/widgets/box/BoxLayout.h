@@ -23,6 +23,10 @@ public:
     // would make a layout for every line.
     void fitWidth();
 
+    // Shows lines of the document, or hides them; the text stays as it is, and nobody is
+    // told that it changed.
+    void showLines(const QTextBlock &first, const QTextBlock &last, bool on);
+
     QSizeF documentSize() const override;
     QRectF frameBoundingRect(QTextFrame *frame) const override;
     QRectF blockBoundingRect(const QTextBlock &block) const override;

@@ -16,6 +16,8 @@
 
 namespace ORVTListview {
 
+class BoxLayers;
+
 // What a box is made of, for the files that its class is written in.
 struct BoxParts
 {
@@ -69,6 +71,7 @@ struct BoxParts
     bool isChangeQueued = false;
     EventSurface surface;
     std::unique_ptr<BoxCommands> commands;
+    BoxLayers *layers = nullptr;     // the box owns them
     std::optional<QPoint> dragStart; // where the selection was taken hold of
     QTextCursor dragged;             // while a drag of this box runs
 };

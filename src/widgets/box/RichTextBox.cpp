@@ -5,6 +5,7 @@
 #include "rtf/RtfReader.h"
 #include "rtf/RtfWriter.h"
 #include "widgets/box/BoxColours.h"
+#include "widgets/box/BoxLayers.h"
 #include "widgets/box/BoxLayout.h"
 #include "widgets/box/BoxMarks.h"
 #include "widgets/box/BoxParts.h"
@@ -39,6 +40,15 @@ RichTextBox::RichTextBox(QWidget *parent)
     text->setDocumentLayout(new BoxLayout(*text, *viewport()));
     setDocument(text);
     m_parts = std::make_unique<BoxParts>(*text, *viewport(), plainCommands(*this));
+    m_parts->layers = new BoxLayers(
+        *this, *viewport(),
+        {[this] {
+             const QTextBlock first = firstVisibleBlock();
+             return ShownLine{first, blockBoundingGeometry(first).translated(contentOffset())};
+         },
+         [this](const QTextBlock &block) { return blockBoundingRect(block); },
+         [this](int width) { setViewportMargins(width, 0, 0, 0); },
+         [this](const QFont &shown) { document()->setDefaultFont(shown); }});
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
     m_parts->formats.setFont(font());

@@ -3,6 +3,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include "base/EventGuard.h"
+#include "widgets/box/BoxLayers.h"
 #include "widgets/box/BoxLayout.h"
 #include "widgets/box/BoxMimeData.h"
 #include "widgets/box/BoxParts.h"
@@ -11,6 +12,7 @@
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QPaintEvent>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QMenu>
@@ -118,6 +120,8 @@ bool RichTextBox::viewportEvent(QEvent *event)
         return QPlainTextEdit::viewportEvent(event);
     return m_parts->surface.deliver([this, event] {
         const Changing changing(*this);
+        if (event->type() == QEvent::Paint && !m_parts->layers->isEmpty())
+            return paintLayers(static_cast<QPaintEvent &>(*event));
         auto *layout = qobject_cast<BoxLayout *>(document()->documentLayout());
         if (event->type() != QEvent::Resize || !layout)
             return QPlainTextEdit::viewportEvent(event);
@@ -126,6 +130,14 @@ bool RichTextBox::viewportEvent(QEvent *event)
         QResizeEvent sameWidth(size, size);
         return QPlainTextEdit::viewportEvent(&sameWidth);
     });
+}
+
+bool RichTextBox::paintLayers(QPaintEvent &event)
+{
+    m_parts->layers->paintBelow(event.region());
+    const bool handled = QPlainTextEdit::viewportEvent(&event);
+    m_parts->layers->paintAbove(event.region());
+    return handled;
 }
 
 bool RichTextBox::handle(QEvent *event)

@@ -2,6 +2,7 @@
 
 #include <ORVTListview/RichTextBox.h>
 
+#include "widgets/box/BoxLayers.h"
 #include "widgets/box/BoxParts.h"
 
 #include <QtCore/QEvent>
@@ -124,10 +125,12 @@ void RichTextBox::setFontStrikethrough(bool strikethrough)
 void RichTextBox::changeEvent(QEvent *event)
 {
     QPlainTextEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange) {
         m_parts->formats.setFont(font());
-    else if (event->type() == QEvent::PaletteChange)
+        m_parts->layers->fitFont();
+    } else if (event->type() == QEvent::PaletteChange) {
         applyBackColor();
+    }
 }
 
 } // namespace ORVTListview

@@ -241,6 +241,7 @@ private:
     void noteChange();
     void raiseQueuedChange();
     bool handle(QEvent *event);
+    bool paintLayers(QPaintEvent &event);
     void replaceAll(const std::function<void()> &insert);
     void replaceEach(const QList<TextPiece> &pieces, const PutPiece &put,
                      const std::function<void()> &finish = {});

@@ -1,0 +1,54 @@
+#include "EditorViewMenu.h"
+
+#include <ORVTListview/CodeView.h>
+
+#include <QtGui/QAction>
+
+namespace ORVTListview {
+
+EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
+    : QMenu(tr("&Editor"), parent)
+    , m_view(view)
+{
+    addSwitch(tr("Line &Numbers"), view.lineNumbersVisible(), &CodeView::setLineNumbersVisible);
+    addSwitch(tr("&Current Line"), view.currentLineShown(), &CodeView::setCurrentLineShown);
+    addSwitch(tr("Pairs and &Uses"), view.pairsShown(), &CodeView::setPairsShown);
+    addSwitch(tr("&Indent Guides"), view.indentGuidesShown(), &CodeView::setIndentGuidesShown);
+    addSwitch(tr("Blan&ks"), view.blanksShown(), &CodeView::setBlanksShown);
+    addSwitch(tr("&Folding"), view.foldingEnabled(), &CodeView::setFoldingEnabled);
+    add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0, [this] { m_view.setZoom(100); });
+    add(tr("Fold &All"), {}, [this] { m_view.foldAll(); });
+    add(tr("Unfold A&ll"), {}, [this] { m_view.unfoldAll(); });
+    addSeparator();
+    add(tr("Next &Problem"), Qt::Key_F8, [this] { m_view.nextProblem(); });
+    add(tr("P&revious Problem"), Qt::SHIFT | Qt::Key_F8, [this] { m_view.previousProblem(); });
+    addSeparator();
+    add(tr("Toggle &Bookmark"), Qt::CTRL | Qt::Key_F2, [this] { m_view.toggleBookmark(); });
+    add(tr("Ne&xt Bookmark"), Qt::CTRL | Qt::Key_F3, [this] { m_view.nextBookmark(); });
+}
+
+void EditorViewMenu::switchOn(CodeView &view)
+{
+    view.setLineNumbersVisible(true);
+    view.setCurrentLineShown(true);
+    view.setPairsShown(true);
+    view.setFoldingEnabled(true);
+    view.setIndentGuidesShown(true);
+    view.setZoom(100); // the wheel with Ctrl
+}
+
+void EditorViewMenu::add(const QString &text, const QKeySequence &keys,
+                         const std::function<void()> &command)
+{
+    addAction(text, keys, this, command);
+}
+
+void EditorViewMenu::addSwitch(const QString &text, bool isOn, void (CodeView::*set)(bool))
+{
+    QAction *action = addAction(text);
+    action->setCheckable(true);
+    action->setChecked(isOn);
+    connect(action, &QAction::toggled, &m_view, set);
+}
+
+} // namespace ORVTListview

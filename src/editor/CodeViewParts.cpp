@@ -1,0 +1,39 @@
+#include "editor/CodeViewParts.h"
+
+#include <ORVTListview/RichTextBox.h>
+
+namespace ORVTListview {
+
+CodeViewParts::CodeViewParts(RichTextBox &editorBox)
+    : box(&editorBox)
+    , layers(BoxLayers::of(editorBox))
+    , margin(new EditorMargin(editorBox, layers))
+    , scrollMarks(new ScrollMarks(editorBox))
+    , problems(editorBox, layers)
+    , bookmarks(editorBox)
+    , numbers(editorBox, *margin, layers)
+    , marks(editorBox, *margin, {numbers, problems, bookmarks})
+    , folds(editorBox, *margin, layers)
+    , currentLine(editorBox, layers)
+    , wordUses(editorBox, layers)
+    , pairs(editorBox, layers)
+    , indentGuides(editorBox, layers)
+    , blanks(editorBox, layers)
+    , zoom(editorBox, layers)
+{
+    margin->addColumn(marks);
+    margin->addColumn(numbers);
+    margin->addColumn(folds);
+    scrollMarks->addSource([this] { return bookmarks.marks(); });
+    scrollMarks->addSource([this] { return problems.marks(); });
+    QObject::connect(&problems, &Problems::changed, scrollMarks, &ScrollMarks::refresh);
+    QObject::connect(&bookmarks, &Bookmarks::changed, scrollMarks, &ScrollMarks::refresh);
+}
+
+CodeViewParts::~CodeViewParts()
+{
+    delete margin; // it knows the columns
+    delete scrollMarks;
+}
+
+} // namespace ORVTListview

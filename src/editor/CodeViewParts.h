@@ -1,0 +1,47 @@
+#pragma once
+
+#include "editor/view/BlankMarks.h"
+#include "editor/view/Bookmarks.h"
+#include "editor/view/CurrentLine.h"
+#include "editor/view/EditorMargin.h"
+#include "editor/view/Folds.h"
+#include "editor/view/IndentGuides.h"
+#include "editor/view/MarkColumn.h"
+#include "editor/view/NumberColumn.h"
+#include "editor/view/PairMarks.h"
+#include "editor/view/Problems.h"
+#include "editor/view/ScrollMarks.h"
+#include "editor/view/WordUses.h"
+#include "editor/view/Zoom.h"
+
+#include <QtCore/QPointer>
+
+namespace ORVTListview {
+
+class RichTextBox;
+
+// What a view is made of, a class for each subject.
+struct CodeViewParts
+{
+    explicit CodeViewParts(RichTextBox &box);
+    ~CodeViewParts();
+    Q_DISABLE_COPY_MOVE(CodeViewParts) // the parts know one another
+
+    const QPointer<RichTextBox> box;
+    BoxLayers &layers;
+    const QPointer<EditorMargin> margin;     // a child of the box
+    const QPointer<ScrollMarks> scrollMarks; // of its scroll bar
+    Problems problems;
+    Bookmarks bookmarks;
+    NumberColumn numbers;
+    MarkColumn marks;
+    Folds folds;
+    CurrentLine currentLine;
+    WordUses wordUses;
+    PairMarks pairs;
+    IndentGuides indentGuides;
+    BlankMarks blanks;
+    Zoom zoom;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "widgets/box/BoxLayers.h"
+
+#include <QtCore/QBasicTimer>
+#include <QtCore/QList>
+#include <QtCore/QPoint>
+#include <QtWidgets/QWidget>
+
+class QPlainTextEdit;
+
+namespace ORVTListview {
+
+// One of the columns of the margin, the outermost first.
+class MarginColumn
+{
+public:
+    MarginColumn() = default;
+    MarginColumn(const MarginColumn &) = delete; // known to its margin
+    MarginColumn &operator=(const MarginColumn &) = delete;
+    virtual ~MarginColumn();
+
+    // 0 while there is nothing to show.
+    virtual int width() const = 0;
+    virtual void paint(QPainter &painter, const ShownLine &line, const QRect &cell) = 0;
+
+    // Whether a click on the cell does something else than select the line.
+    virtual bool press(const QTextBlock &line);
+    virtual QString toolTip(const QTextBlock &line) const;
+};
+
+// The strip beside the text of an editor, where its lines begin. A click selects a
+// line with its end, a drag several; the focus stays with the text. It has no width, and
+// is hidden, while none of its columns has one.
+class EditorMargin final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // A child of the box, which scrolls it.
+    EditorMargin(QPlainTextEdit &box, BoxLayers &layers);
+
+    // The columns outlive the margin.
+    void addColumn(MarginColumn &column);
+
+    // To be called when a column may have another width.
+    void fit();
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    struct Hit
+    {
+        MarginColumn *column = nullptr;
+        QTextBlock line;
+    };
+
+    void place();
+    Hit hit(const QPoint &place) const;
+    QTextBlock lineAt(int y) const;
+    void paintLine(QPainter &painter, const ShownLine &line);
+    void selectTo(const QTextBlock &line);
+    void showToolTip(const QHelpEvent &event);
+
+    QPlainTextEdit &m_box;
+    BoxLayers &m_layers;
+    QList<MarginColumn *> m_columns;
+    QTextCursor m_anchor; // on the line where a drag began; null else
+    int m_pointer = 0;    // its height while it drags
+    QBasicTimer m_scrolling;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,279 @@
+#include "editor/view/Folds.h"
+
+#include "editor/rules/structure/Folding.h"
+#include "editor/view/LayerOrder.h"
+#include "editor/view/ViewColours.h"
+#include "widgets/box/BoxLayout.h"
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtCore/QStringList>
+#include <QtGui/QPainter>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace ORVTListview {
+namespace {
+
+bool isFolded(const QTextBlock &line)
+{
+    return line.isVisible() && line.next().isValid() && !line.next().isVisible();
+}
+
+// Both ends are lines that are hidden, with none between them that is not.
+QTextBlock firstHidden(QTextBlock line)
+{
+    while (line.previous().isValid() && !line.previous().isVisible())
+        line = line.previous();
+    return line;
+}
+
+QTextBlock lastHidden(QTextBlock line)
+{
+    while (line.next().isValid() && !line.next().isVisible())
+        line = line.next();
+    return line;
+}
+
+} // namespace
+
+Folds::Folds(RichTextBox &box, EditorMargin &margin, BoxLayers &layers)
+    : BoxLayer(layers, LayerOrder::folds)
+    , m_box(box)
+    , m_margin(margin)
+{
+}
+
+void Folds::setOn(bool on)
+{
+    if (on == isOn())
+        return;
+    if (on) {
+        m_lineCount = m_box.document()->blockCount();
+        m_caret = m_box.textCursor().position();
+        connect(&m_box, &QPlainTextEdit::cursorPositionChanged, this, &Folds::followCaret);
+        connect(m_box.document(), &QTextDocument::contentsChange, this, &Folds::noteChange);
+        connect(m_box.document(), &QTextDocument::contentsChanged, this, &Folds::followChange);
+    } else {
+        m_box.disconnect(this);
+        m_box.document()->disconnect(this);
+        unfoldAll();
+    }
+    setShown(on);
+    m_margin.fit();
+}
+
+// The end of a long block is looked for when it is wanted, not for its sign.
+bool Folds::hasFold(const QTextBlock &line) const
+{
+    const QString text = line.text();
+    if (!line.next().isValid() || !BlockFold::begins(text))
+        return false;
+    BlockFold fold;
+    fold.take(text);
+    return !fold.take(line.next().text());
+}
+
+void Folds::fold(const QTextBlock &head)
+{
+    BlockFold fold;
+    QTextBlock end = head;
+    while (end.isValid() && !fold.take(end.text()))
+        end = end.next();
+    if (!end.isValid() || end.previous() == head)
+        return;
+    const Lines lines{head.next(), end.previous()};
+    stepOutOf(lines);
+    show(lines, false);
+}
+
+void Folds::unfold(const QTextBlock &hidden)
+{
+    show({firstHidden(hidden), lastHidden(hidden)}, true);
+}
+
+// What is selected or has the caret stays to be seen.
+void Folds::stepOutOf(const Lines &lines)
+{
+    const QTextCursor caret = m_box.textCursor();
+    const int from = lines.first.position();
+    const int to = lines.last.position() + lines.last.length();
+    const auto isInside = [=](int position) { return position >= from && position < to; };
+    if (!isInside(caret.position()) && !isInside(caret.anchor()))
+        return;
+    QTextCursor outside = caret;
+    outside.setPosition(from - 1);
+    m_box.setTextCursor(outside);
+}
+
+void Folds::show(const Lines &lines, bool on)
+{
+    m_hasHidden = m_hasHidden || !on;
+    if (auto *layout = qobject_cast<BoxLayout *>(m_box.document()->documentLayout()))
+        layout->showLines(lines.first, lines.last, on);
+    m_margin.update();
+}
+
+void Folds::foldAll()
+{
+    if (!isOn())
+        return;
+    for (QTextBlock line = m_box.document()->firstBlock(); line.isValid(); line = line.next()) {
+        if (!line.isVisible() || !BlockFold::begins(line.text()))
+            continue;
+        BlockFold fold;
+        QTextBlock end = line;
+        while (end.isValid() && !fold.take(end.text()))
+            end = end.next();
+        if (!end.isValid())
+            return; // nothing behind it has an end of its own level
+        if (end.previous() != line) {
+            const Lines lines{line.next(), end.previous()};
+            stepOutOf(lines);
+            show(lines, false);
+        }
+        line = end.previous();
+    }
+}
+
+void Folds::unfoldAll()
+{
+    if (!std::exchange(m_hasHidden, false))
+        return;
+    const QTextDocument &text = *m_box.document();
+    show({text.firstBlock(), text.lastBlock()}, true);
+}
+
+// The toolkit's step to the right ends behind all that is hidden, one to the left in
+// front of it.
+void Folds::followCaret()
+{
+    QTextCursor caret = m_box.textCursor();
+    const int former = std::exchange(m_caret, caret.position());
+    if (caret.block().isVisible())
+        return;
+    const QTextBlock last = lastHidden(caret.block());
+    const int front = firstHidden(caret.block()).position();
+    const int end = last.position() + last.length() - 1;
+    unfold(caret.block());
+    if (former == front - 1 && caret.position() == end)
+        caret.setPosition(front);
+    else if (former == end + 1 && caret.position() == front)
+        caret.setPosition(end);
+    else
+        return;
+    m_box.setTextCursor(caret);
+}
+
+void Folds::noteChange(int from, int, int added)
+{
+    if (m_box.keepsText())
+        return;
+    const bool isFirst = m_changedFrom < 0;
+    m_changedFrom = isFirst ? from : std::min(m_changedFrom, from);
+    m_changedTo = std::max(m_changedTo, from + added);
+}
+
+void Folds::followChange()
+{
+    const int from = std::exchange(m_changedFrom, -1);
+    const int to = std::exchange(m_changedTo, -1);
+    const QTextDocument &text = *m_box.document();
+    const bool sameLines = std::exchange(m_lineCount, text.blockCount()) == text.blockCount();
+    if (from < 0 || !m_hasHidden)
+        return;
+    for (QTextBlock line = text.findBlock(from); line.isValid() && line.position() <= to;
+         line = line.next()) {
+        if (!line.isVisible())
+            unfold(line);
+        else if (isFolded(line) && (!sameLines || !BlockFold::begins(line.text())))
+            unfold(line.next());
+    }
+    followCaret();
+}
+
+int Folds::width() const
+{
+    return isShown() ? std::max(10, QFontMetrics(layers()->shownFont(), &m_box).height() * 3 / 4)
+                     : 0;
+}
+
+// An arrow down, or towards the text while the block is folded.
+void Folds::paint(QPainter &painter, const ShownLine &line, const QRect &cell)
+{
+    const bool folded = isFolded(line.block);
+    if (!folded && !hasFold(line.block))
+        return;
+    const QColor ground = ViewColours::groundOf(m_box);
+    const QColor quiet = ViewColours::quietText(ViewColours::textOf(m_box), ground);
+    const qreal half = std::min(cell.width(), cell.height()) / 4.0;
+    const qreal towards = m_box.isRightToLeft() ? -1 : 1;
+    const QPointF middle = QRectF(cell).center();
+    const QPointF arrow[] = {
+        middle + (folded ? QPointF(-half / 2 * towards, -half) : QPointF(-half, -half / 2)),
+        middle + (folded ? QPointF(half / 2 * towards, 0) : QPointF(0, half / 2)),
+        middle + (folded ? QPointF(-half / 2 * towards, half) : QPointF(half, -half / 2))};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(quiet, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(arrow, 3);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+bool Folds::press(const QTextBlock &line)
+{
+    if (isFolded(line))
+        unfold(line.next());
+    else if (hasFold(line))
+        fold(line);
+    else
+        return false;
+    return true;
+}
+
+QString Folds::toolTip(const QTextBlock &line) const
+{
+    constexpr int most = 12;
+    if (!isFolded(line))
+        return {};
+    QStringList texts;
+    for (QTextBlock hidden = line.next(); hidden.isValid() && !hidden.isVisible();
+         hidden = hidden.next()) {
+        if (texts.size() == most) {
+            texts.append(QStringLiteral("…"));
+            break;
+        }
+        texts.append(hidden.text());
+    }
+    return texts.join(u'\n');
+}
+
+void Folds::paintAbove(QPainter &painter, const ShownLines &lines)
+{
+    const QColor ground = ViewColours::groundOf(m_box);
+    const QColor quiet = ViewColours::quietText(ViewColours::textOf(m_box), ground);
+    const QFontMetricsF metrics(layers()->shownFont(), &m_box);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const ShownLine &line : lines) {
+        if (!isFolded(line.block) || line.block.layout()->lineCount() == 0)
+            continue;
+        const QTextLayout &layout = *line.block.layout();
+        const QTextLine row = layout.lineAt(layout.lineCount() - 1);
+        const QRectF text = row.naturalTextRect().translated(line.place.topLeft());
+        const qreal gap = metrics.averageCharWidth();
+        const qreal width = 3 * gap;
+        const QRectF box(m_box.isRightToLeft() ? text.left() - gap - width : text.right() + gap,
+                         text.top() + 2, width, text.height() - 4);
+        painter.setPen(quiet);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+        painter.setBrush(quiet);
+        for (const qreal place : {-1, 0, 1})
+            painter.drawEllipse(box.center() + QPointF(place * box.width() / 4, 0), 0.7, 0.7);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "editor/view/EditorMargin.h"
+
+namespace ORVTListview {
+
+class BoxLayout;
+class RichTextBox;
+
+// Folds the blocks of a program: the lines between an IF and its ENDIF are hidden, with
+// a sign in the margin and one behind the IF's line. The document's lines know
+// themselves whether they are hidden. A fold opens when the caret comes into it, when its text
+// changes, and when a line at its edge is joined or broken.
+class Folds final : public QObject, public MarginColumn, public BoxLayer
+{
+    Q_OBJECT
+
+public:
+    Folds(RichTextBox &box, EditorMargin &margin, BoxLayers &layers);
+
+    bool isOn() const { return isShown(); }
+    void setOn(bool on);
+
+    // The outermost blocks; what lies in them opens with them.
+    void foldAll();
+    void unfoldAll();
+
+    int width() const override;
+    void paint(QPainter &painter, const ShownLine &line, const QRect &cell) override;
+    bool press(const QTextBlock &line) override;
+    QString toolTip(const QTextBlock &line) const override;
+
+    void paintAbove(QPainter &painter, const ShownLines &lines) override;
+
+private:
+    struct Lines
+    {
+        QTextBlock first;
+        QTextBlock last;
+    };
+
+    bool hasFold(const QTextBlock &line) const;
+    void fold(const QTextBlock &head);
+    void unfold(const QTextBlock &hidden);
+    void show(const Lines &lines, bool on);
+    void stepOutOf(const Lines &lines);
+    void followCaret();
+    void noteChange(int from, int removed, int added);
+    void followChange();
+
+    RichTextBox &m_box;
+    EditorMargin &m_margin;
+    int m_changedFrom = -1; // what changed since it was last looked at; -1 for nothing
+    int m_changedTo = -1;
+    int m_lineCount = 0;
+    int m_caret = 0;          // before it moved
+    bool m_hasHidden = false; // maybe
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,8 @@
+#pragma once
+
+// What is painted above what, the lowest first.
+namespace ORVTListview::LayerOrder {
+
+enum { currentLine, wordUses, pairs, indentGuides, blanks, problems, folds };
+
+} // namespace ORVTListview::LayerOrder

@@ -1,0 +1,27 @@
+#include "editor/view/LinePlaces.h"
+
+#include <QtGui/QTextLayout>
+
+#include <algorithm>
+
+namespace ORVTListview {
+
+QList<QRectF> placesOf(const ShownLine &line, const LinePiece &piece)
+{
+    QList<QRectF> places;
+    const QTextLayout &layout = *line.block.layout();
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine row = layout.lineAt(i);
+        const int from = std::max(row.textStart(), static_cast<int>(piece.offset));
+        const int to = std::min(row.textStart() + row.textLength(), static_cast<int>(piece.end()));
+        if (from >= to)
+            continue;
+        const qreal one = row.cursorToX(from);
+        const qreal other = row.cursorToX(to);
+        places.append(QRectF(line.place.left() + std::min(one, other), line.place.top() + row.y(),
+                             std::abs(other - one), row.height()));
+    }
+    return places;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "editor/view/EditorMargin.h"
+#include <ORVTListview/Problem.h>
+
+namespace ORVTListview {
+
+class Bookmarks;
+class NumberColumn;
+class Problems;
+
+// The signs of problems and bookmarks. There while there are any, and beside numbers,
+// so that the text does not jump when the first one comes.
+class MarkColumn final : public QObject, public MarginColumn
+{
+    Q_OBJECT
+
+public:
+    struct Sources
+    {
+        const NumberColumn &numbers;
+        Problems &problems;
+        const Bookmarks &bookmarks;
+    };
+
+    MarkColumn(QPlainTextEdit &box, EditorMargin &margin, const Sources &sources);
+
+    int width() const override;
+    void paint(QPainter &painter, const ShownLine &line, const QRect &cell) override;
+    bool press(const QTextBlock &line) override;
+    QString toolTip(const QTextBlock &line) const override;
+
+Q_SIGNALS:
+    // Its sign was clicked; the caret is there.
+    void chosen(const ORVTListview::Problem &problem);
+
+private:
+    QPlainTextEdit &m_box;
+    const Sources m_sources;
+};
+
+} // namespace ORVTListview

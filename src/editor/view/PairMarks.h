@@ -1,0 +1,52 @@
+#pragma once
+
+#include "editor/view/BlockSearch.h"
+#include "widgets/box/BoxLayers.h"
+
+class QPlainTextEdit;
+
+namespace ORVTListview {
+
+// Marks the bracket at the caret and its partner, and the IF, ELSE or ENDIF at the
+// caret and what belongs to it, in the margin too. What misses its partner looks wrong.
+class PairMarks final : public QObject, public BoxLayer
+{
+    Q_OBJECT
+
+public:
+    PairMarks(QPlainTextEdit &box, BoxLayers &layers);
+
+    void setOn(bool on);
+
+    void paintBelow(QPainter &painter, const ShownLines &lines) override;
+    void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip) override;
+
+private:
+    struct Mark
+    {
+        BlockSearch::Place place;
+        bool isWrong = false;
+
+        friend bool operator==(const Mark &, const Mark &) = default;
+    };
+
+    // Lines from the first to the last, drawn together in the margin.
+    struct Span
+    {
+        int first = 0;
+        int last = -1;
+
+        friend bool operator==(const Span &, const Span &) = default;
+    };
+
+    void follow();
+    void show();
+    void findBrackets(const QTextCursor &caret, QList<Mark> &marks) const;
+
+    QPlainTextEdit &m_box;
+    BlockSearch m_block;
+    QList<Mark> m_marks;
+    Span m_span;
+};
+
+} // namespace ORVTListview

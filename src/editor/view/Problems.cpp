@@ -1,0 +1,282 @@
+#include "editor/view/Problems.h"
+
+#include "editor/view/LayerOrder.h"
+#include "editor/view/LinePlaces.h"
+#include "editor/view/ScrollMarks.h"
+#include "editor/view/ViewColours.h"
+#include "widgets/box/KeptView.h"
+#include "widgets/look/PlainToolTip.h"
+
+#include <QtCore/QStringList>
+#include <QtGui/QHelpEvent>
+#include <QtGui/QPainter>
+#include <QtGui/QTextDocument>
+#include <QtWidgets/QPlainTextEdit>
+
+#include <algorithm>
+#include <utility>
+
+namespace ORVTListview {
+namespace {
+
+QTextCursor placeOf(const Problem &problem, QTextDocument &text)
+{
+    const QTextBlock line =
+        text.findBlockByNumber(std::clamp(problem.line - 1, 0, text.blockCount() - 1));
+    const int length = line.length() - 1;
+    const int from = std::clamp(problem.from, 0, length);
+    const int rest = length - from;
+    QTextCursor place(line);
+    place.setPosition(line.position() + from);
+    place.setPosition(place.position() +
+                          (problem.length > 0 ? std::min(problem.length, rest) : rest),
+                      QTextCursor::KeepAnchor);
+    return place;
+}
+
+// A wave of the line's own height, whatever the size of a pixel.
+void drawWave(QPainter &painter, const QRectF &place)
+{
+    constexpr qreal step = 2;
+    constexpr qreal height = 2;
+    const qreal bottom = place.bottom() - 0.75;
+    const qreal right = std::max(place.right(), place.left() + 3 * step);
+    QList<QPointF> points;
+    bool isUp = false;
+    for (qreal x = place.left(); x <= right; x += step, isUp = !isUp)
+        points.append({x, isUp ? bottom - height : bottom});
+    painter.drawPolyline(points.constData(), static_cast<int>(points.size()));
+}
+
+} // namespace
+
+bool Problems::Kept::isOn(const QTextBlock &line) const
+{
+    return isThere() && place.selectionStart() < line.position() + line.length() &&
+           place.selectionEnd() >= line.position();
+}
+
+Problem Problems::Kept::now() const
+{
+    Problem now = problem;
+    const QTextBlock line = place.document()->findBlock(place.selectionStart());
+    now.line = line.blockNumber() + 1;
+    now.from = place.selectionStart() - line.position();
+    now.length = place.selectionEnd() - place.selectionStart();
+    return now;
+}
+
+Problems::Problems(QPlainTextEdit &box, BoxLayers &layers)
+    : BoxLayer(layers, LayerOrder::problems)
+    , m_box(box)
+{
+}
+
+void Problems::set(const QList<Problem> &problems)
+{
+    m_kept.clear();
+    for (const Problem &problem : problems) {
+        const QTextCursor place = placeOf(problem, *m_box.document());
+        m_kept.append({problem, place, place.hasSelection()});
+    }
+    std::stable_sort(m_kept.begin(), m_kept.end(), [](const Kept &one, const Kept &other) {
+        return one.place.selectionStart() < other.place.selectionStart();
+    });
+    const bool areThere = !m_kept.isEmpty();
+    if (areThere && !isShown()) {
+        m_box.viewport()->installEventFilter(this);
+        connect(&m_box, &QPlainTextEdit::cursorPositionChanged, this, &Problems::tellScreenReaders);
+        connect(m_box.document(), &QTextDocument::contentsChange, this, &Problems::noteChange);
+    } else if (!areThere && isShown()) {
+        m_box.viewport()->removeEventFilter(this);
+        m_box.disconnect(this);
+        m_box.document()->disconnect(this);
+    }
+    setShown(areThere);
+    if (layers())
+        layers()->updateLines([](const QTextBlock &) { return true; });
+    tellScreenReaders();
+    Q_EMIT changed();
+}
+
+// With the whole text its problems go; what shows them follows when the text is whole.
+void Problems::noteChange(int, int removed, int)
+{
+    if (removed == 0 || m_box.document()->characterCount() > 1)
+        return;
+    m_kept.clear();
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_kept.isEmpty())
+                set({});
+        },
+        Qt::QueuedConnection);
+}
+
+QList<Problem> Problems::list() const
+{
+    QList<Problem> problems;
+    for (const Kept &kept : m_kept) {
+        if (kept.isThere())
+            problems.append(kept.now());
+    }
+    return problems;
+}
+
+Problem Problems::goTo(const Kept &kept)
+{
+    const Problem problem = kept.now();
+    QTextCursor caret = m_box.textCursor();
+    caret.setPosition(kept.place.selectionStart());
+    const KeptView view(m_box);
+    m_box.setTextCursor(caret);
+    return problem;
+}
+
+std::optional<Problem> Problems::goToNext()
+{
+    const int caret = m_box.textCursor().position();
+    const Kept *first = nullptr;
+    for (const Kept &kept : std::as_const(m_kept)) {
+        if (!kept.isThere())
+            continue;
+        if (kept.place.selectionStart() > caret)
+            return goTo(kept);
+        if (!first)
+            first = &kept;
+    }
+    return first ? std::optional(goTo(*first)) : std::nullopt;
+}
+
+std::optional<Problem> Problems::goToPrevious()
+{
+    const int caret = m_box.textCursor().position();
+    const Kept *last = nullptr;
+    for (auto kept = m_kept.crbegin(); kept != m_kept.crend(); ++kept) {
+        if (!kept->isThere())
+            continue;
+        if (kept->place.selectionStart() < caret)
+            return goTo(*kept);
+        if (!last)
+            last = &*kept;
+    }
+    return last ? std::optional(goTo(*last)) : std::nullopt;
+}
+
+const Problems::Kept *Problems::worstOn(const QTextBlock &line) const
+{
+    const Kept *worst = nullptr;
+    for (const Kept &kept : m_kept) {
+        if (kept.isOn(line) && (!worst || kept.problem.severity < worst->problem.severity))
+            worst = &kept;
+    }
+    return worst;
+}
+
+std::optional<ProblemSeverity> Problems::severityOn(const QTextBlock &line) const
+{
+    const Kept *worst = worstOn(line);
+    return worst ? std::optional(worst->problem.severity) : std::nullopt;
+}
+
+std::optional<Problem> Problems::goToWorstOn(const QTextBlock &line)
+{
+    const Kept *worst = worstOn(line);
+    return worst ? std::optional(goTo(*worst)) : std::nullopt;
+}
+
+QString Problems::textOn(const QTextBlock &line) const
+{
+    QStringList texts;
+    for (const Kept &kept : m_kept) {
+        if (kept.isOn(line))
+            texts.append(kept.problem.text);
+    }
+    return texts.join(u'\n');
+}
+
+QList<LineMark> Problems::marks() const
+{
+    const QColor ground = ViewColours::groundOf(m_box);
+    QList<LineMark> marks;
+    for (const Kept &kept : m_kept) {
+        if (kept.isThere())
+            marks.append({kept.place.selectionStart(), colourOf(kept.problem.severity, ground)});
+    }
+    return marks;
+}
+
+QColor Problems::colourOf(ProblemSeverity severity, const QColor &ground)
+{
+    switch (severity) {
+    case ProblemSeverity::Error:
+        return ViewColours::errorOn(ground);
+    case ProblemSeverity::Warning:
+        return ViewColours::warningOn(ground);
+    case ProblemSeverity::Hint:
+        break;
+    }
+    return ViewColours::hintOn(ground);
+}
+
+void Problems::paintAbove(QPainter &painter, const ShownLines &lines)
+{
+    const QColor ground = ViewColours::groundOf(m_box);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const Kept &kept : std::as_const(m_kept)) {
+        for (const ShownLine &line : lines) {
+            if (!kept.isOn(line.block))
+                continue;
+            painter.setPen(QPen(colourOf(kept.problem.severity, ground), 1.25));
+            const LinePiece piece{kept.place.selectionStart() - line.block.position(),
+                                  kept.place.selectionEnd() - kept.place.selectionStart()};
+            for (const QRectF &place : placesOf(line, piece))
+                drawWave(painter, place.intersected(QRectF(m_box.viewport()->rect())));
+        }
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+// What the host says of the box stands there again when the caret leaves the line.
+void Problems::tellScreenReaders()
+{
+    const QString text = textOn(m_box.textCursor().block());
+    const QString said = m_box.accessibleDescription();
+    if (m_told.isEmpty() || said != m_told)
+        m_description = said;
+    const QString wanted = text.isEmpty() ? m_description : text;
+    m_told = text;
+    if (said != wanted)
+        m_box.setAccessibleDescription(wanted);
+}
+
+bool Problems::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip)
+        return showToolTip(static_cast<QHelpEvent &>(*event));
+    return QObject::eventFilter(watched, event);
+}
+
+bool Problems::showToolTip(const QHelpEvent &event)
+{
+    if (!layers())
+        return false;
+    for (const ShownLine &line : layers()->shownLines(event.pos().y(), event.pos().y() + 1)) {
+        for (const Kept &kept : std::as_const(m_kept)) {
+            if (!kept.isOn(line.block))
+                continue;
+            const LinePiece piece{kept.place.selectionStart() - line.block.position(),
+                                  kept.place.selectionEnd() - kept.place.selectionStart()};
+            for (const QRectF &place : placesOf(line, piece)) {
+                if (!place.contains(event.pos()))
+                    continue;
+                showPlainToolTip(event, kept.problem.text, *m_box.viewport());
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "widgets/box/BoxLayers.h"
+#include <ORVTListview/Problem.h>
+
+#include <QtGui/QTextCursor>
+
+#include <optional>
+
+class QHelpEvent;
+class QPlainTextEdit;
+
+namespace ORVTListview {
+
+struct LineMark;
+
+// What a check found, kept with its places while the text is edited, and underlined.
+// What is wrong with a text goes with it. The line of the caret tells screen readers.
+class Problems final : public QObject, public BoxLayer
+{
+    Q_OBJECT
+
+public:
+    Problems(QPlainTextEdit &box, BoxLayers &layers);
+
+    void set(const QList<Problem> &problems);
+    QList<Problem> list() const; // where they are now, from the top
+
+    // The next one behind the caret, or before it, going round; none without one.
+    std::optional<Problem> goToNext();
+    std::optional<Problem> goToPrevious();
+
+    // The worst one of a line, and the way to it.
+    std::optional<ProblemSeverity> severityOn(const QTextBlock &line) const;
+    std::optional<Problem> goToWorstOn(const QTextBlock &line);
+    QString textOn(const QTextBlock &line) const;
+
+    QList<LineMark> marks() const;
+    static QColor colourOf(ProblemSeverity severity, const QColor &ground);
+
+    void paintAbove(QPainter &painter, const ShownLines &lines) override;
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct Kept
+    {
+        Problem problem; // as given
+        QTextCursor place;
+        bool hasText = false; // and is gone when that is
+
+        bool isThere() const { return !hasText || place.hasSelection(); }
+        bool isOn(const QTextBlock &line) const;
+        Problem now() const;
+    };
+
+    const Kept *worstOn(const QTextBlock &line) const;
+    Problem goTo(const Kept &kept);
+    void noteChange(int from, int removed, int added);
+    void tellScreenReaders();
+    bool showToolTip(const QHelpEvent &event);
+
+    QPlainTextEdit &m_box;
+    QList<Kept> m_kept;    // from the top
+    QString m_description; // of the box, by its host
+    QString m_told;        // in its place
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,173 @@
+#include "widgets/box/BoxLayers.h"
+
+#include <QtGui/QPainter>
+#include <QtGui/QRegion>
+#include <QtWidgets/QWidget>
+
+#include <algorithm>
+
+namespace ORVTListview {
+
+BoxLayer::BoxLayer(BoxLayers &layers, int order)
+    : m_layers(&layers)
+    , m_order(order)
+{
+}
+
+BoxLayer::~BoxLayer()
+{
+    setShown(false);
+}
+
+void BoxLayer::setShown(bool on)
+{
+    if (on == m_isShown)
+        return;
+    m_isShown = on;
+    if (!m_layers)
+        return;
+    if (on)
+        m_layers->add(*this);
+    else
+        m_layers->remove(*this);
+}
+
+void BoxLayer::paintBelow(QPainter &, const ShownLines &) {}
+
+void BoxLayer::paintAbove(QPainter &, const ShownLines &) {}
+
+void BoxLayer::paintMargin(QPainter &, const ShownLine &, const QRect &) {}
+
+BoxLayers::BoxLayers(QWidget &box, QWidget &viewport, const Reach &reach)
+    : QObject(&box)
+    , m_box(box)
+    , m_viewport(viewport)
+    , m_reach(reach)
+{
+}
+
+BoxLayers &BoxLayers::of(const QWidget &box)
+{
+    return *box.findChild<BoxLayers *>({}, Qt::FindDirectChildrenOnly);
+}
+
+void BoxLayers::add(BoxLayer &layer)
+{
+    const auto place = std::find_if(m_layers.begin(), m_layers.end(), [&](const BoxLayer *other) {
+        return other->order() > layer.order();
+    });
+    m_layers.insert(place, &layer);
+    updateLines([](const QTextBlock &) { return true; });
+}
+
+void BoxLayers::remove(BoxLayer &layer)
+{
+    m_layers.removeOne(&layer);
+    updateLines([](const QTextBlock &) { return true; });
+}
+
+ShownLines BoxLayers::shownLines() const
+{
+    return shownLines(0, m_viewport.height());
+}
+
+namespace {
+
+// Hidden lines count as none, so they are stepped over at once.
+QTextBlock nextShown(const QTextBlock &block)
+{
+    const QTextBlock next = block.next();
+    return !next.isValid() || next.isVisible()
+               ? next
+               : block.document()->findBlockByLineNumber(next.firstLineNumber());
+}
+
+} // namespace
+
+ShownLines BoxLayers::shownLines(int top, int bottom) const
+{
+    ShownLines lines;
+    ShownLine line = m_reach.firstLine();
+    while (line.block.isValid() && line.place.top() < bottom) {
+        if (line.block.isVisible() && line.place.bottom() > top)
+            lines.append(line);
+        line.block = nextShown(line.block);
+        const QRectF size = m_reach.sizeOf(line.block);
+        line.place = QRectF(line.place.left(), line.place.bottom(), size.width(), size.height());
+    }
+    return lines;
+}
+
+void BoxLayers::setMargin(int width)
+{
+    if (width == m_margin)
+        return;
+    m_margin = width;
+    m_reach.setMargin(width);
+}
+
+void BoxLayers::setZoom(int percent)
+{
+    if (percent == m_zoom)
+        return;
+    m_zoom = percent;
+    m_reach.showIn(shownFont());
+    Q_EMIT shownFontChanged();
+}
+
+QFont BoxLayers::shownFont() const
+{
+    QFont font = m_box.font();
+    if (m_zoom != 100 && font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * m_zoom / 100);
+    else if (m_zoom != 100)
+        font.setPixelSize(std::max(1, font.pixelSize() * m_zoom / 100));
+    return font;
+}
+
+// The toolkit has just shown the text in the box's own.
+void BoxLayers::fitFont()
+{
+    if (m_zoom != 100)
+        m_reach.showIn(shownFont());
+    Q_EMIT shownFontChanged();
+}
+
+void BoxLayers::updateLines(const std::function<bool(const QTextBlock &block)> &concerns)
+{
+    for (const ShownLine &line : shownLines()) {
+        if (!concerns(line.block))
+            continue;
+        const QRect place = line.place.toAlignedRect();
+        m_viewport.update(0, place.top(), m_viewport.width(), place.height());
+        Q_EMIT marginChanged(place.top(), place.bottom());
+    }
+}
+
+void BoxLayers::paint(const QRegion &region, Paint how)
+{
+    QPainter painter(&m_viewport);
+    painter.setClipRegion(region);
+    const QRect area = region.boundingRect();
+    const ShownLines lines = shownLines(area.top(), area.bottom() + 1);
+    for (BoxLayer *layer : std::as_const(m_layers))
+        (layer->*how)(painter, lines);
+}
+
+void BoxLayers::paintBelow(const QRegion &region)
+{
+    paint(region, &BoxLayer::paintBelow);
+}
+
+void BoxLayers::paintAbove(const QRegion &region)
+{
+    paint(region, &BoxLayer::paintAbove);
+}
+
+void BoxLayers::paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip)
+{
+    for (BoxLayer *layer : std::as_const(m_layers))
+        layer->paintMargin(painter, line, strip);
+}
+
+} // namespace ORVTListview

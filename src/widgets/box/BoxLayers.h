@@ -1,0 +1,127 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QRectF>
+#include <QtGui/QFont>
+#include <QtGui/QTextBlock>
+
+#include <functional>
+
+class QPainter;
+class QRegion;
+class QWidget;
+
+namespace ORVTListview {
+
+class BoxLayers;
+
+// A line of a box that is shown, at least in part, and where in the viewport.
+struct ShownLine
+{
+    QTextBlock block;
+    QRectF place; // as wide as the text; a line without wrapping may reach beyond
+};
+using ShownLines = QList<ShownLine>;
+
+// What paints on a box's ground, below or above its text, or in the margin beside it.
+// Nothing of it is part of the text. The order tells what lies lower.
+class BoxLayer
+{
+public:
+    BoxLayer(BoxLayers &layers, int order);
+    virtual ~BoxLayer();
+    Q_DISABLE_COPY_MOVE(BoxLayer) // known to its box
+
+    int order() const { return m_order; }
+    bool isShown() const { return m_isShown; }
+    void setShown(bool on);
+
+    // The lines are those to be painted, from the top.
+    virtual void paintBelow(QPainter &painter, const ShownLines &lines);
+    virtual void paintAbove(QPainter &painter, const ShownLines &lines);
+
+    // `strip` is the line's part of the margin.
+    virtual void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip);
+
+protected:
+    // Null once the box is gone.
+    BoxLayers *layers() const { return m_layers; }
+
+private:
+    const QPointer<BoxLayers> m_layers;
+    const int m_order;
+    bool m_isShown = false;
+};
+
+// The layers of a box, and what the box lets them see of it. Costs nothing while no
+// layer is shown.
+class BoxLayers final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // What only the box can tell or do.
+    struct Reach
+    {
+        std::function<ShownLine()> firstLine;
+        std::function<QRectF(const QTextBlock &block)> sizeOf;
+        std::function<void(int width)> setMargin;
+        std::function<void(const QFont &font)> showIn;
+    };
+
+    // Belongs to the box whose viewport this is.
+    BoxLayers(QWidget &box, QWidget &viewport, const Reach &reach);
+
+    static BoxLayers &of(const QWidget &box);
+
+    bool isEmpty() const { return m_layers.isEmpty(); }
+    void add(BoxLayer &layer);
+    void remove(BoxLayer &layer);
+
+    // From the top; all that are shown, or those of the given height.
+    ShownLines shownLines() const;
+    ShownLines shownLines(int top, int bottom) const;
+
+    // Room beside the text, where its lines begin.
+    void setMargin(int width);
+    int margin() const { return m_margin; }
+
+    // The text as large as this, in percent of the box's font, which stays. Text that
+    // states a size of its own keeps it.
+    void setZoom(int percent);
+    int zoom() const { return m_zoom; }
+
+    // The font that text without one of its own is shown in.
+    QFont shownFont() const;
+
+    // To be called when the box has another font.
+    void fitFont();
+
+    // Has the lines painted again for which `concerns` is true.
+    void updateLines(const std::function<bool(const QTextBlock &block)> &concerns);
+
+    void paintBelow(const QRegion &region);
+    void paintAbove(const QRegion &region);
+    void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip);
+
+Q_SIGNALS:
+    void shownFontChanged();
+
+    // The margin of these lines looks other than before.
+    void marginChanged(int top, int bottom);
+
+private:
+    using Paint = void (BoxLayer::*)(QPainter &painter, const ShownLines &lines);
+    void paint(const QRegion &region, Paint how);
+
+    QWidget &m_box;
+    QWidget &m_viewport;
+    const Reach m_reach;
+    QList<BoxLayer *> m_layers;
+    int m_margin = 0;
+    int m_zoom = 100;
+};
+
+} // namespace ORVTListview
