@@ -1,6 +1,7 @@
 // Folding of blocks: what is hidden, what stays, and what opens a fold.
 
 #include "editor/view/ViewFixture.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 using namespace ORVTListview;
@@ -318,5 +319,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FoldsTest)
+ORVT_TEST(FoldsTest)
 #include "FoldsTest.moc"

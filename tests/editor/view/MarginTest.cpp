@@ -2,6 +2,7 @@
 
 #include "editor/view/ViewColours.h"
 #include "editor/view/ViewFixture.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QAccessible>
@@ -355,5 +356,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MarginTest)
+ORVT_TEST(MarginTest)
 #include "MarginTest.moc"

@@ -3,6 +3,7 @@
 #include "editor/view/BlockSearch.h"
 #include "editor/view/ViewColours.h"
 #include "editor/view/ViewFixture.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtCore/QTimer>
@@ -230,5 +231,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PairMarksTest)
+ORVT_TEST(PairMarksTest)
 #include "PairMarksTest.moc"

@@ -3,6 +3,7 @@
 
 #include "editor/view/Problems.h"
 #include "editor/view/ViewFixture.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QHelpEvent>
@@ -364,5 +365,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ProblemsTest)
+ORVT_TEST(ProblemsTest)
 #include "ProblemsTest.moc"

@@ -1,6 +1,7 @@
 // The size that the text is shown in, indent guides, and marks for blanks.
 
 #include "editor/view/ViewFixture.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtGui/QWheelEvent>
@@ -174,5 +175,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ZoomTest)
+ORVT_TEST(ZoomTest)
 #include "ZoomTest.moc"
