@@ -4,36 +4,24 @@
 
 namespace ORVTListview {
 
-struct JsonPropertyBag::Private
-{
-    QJsonObject object;
-};
-
 JsonPropertyBag::JsonPropertyBag(const QJsonObject &Object)
-    : d(std::make_unique<Private>(Private{Object}))
+    : m_object(Object)
 {
-}
-
-JsonPropertyBag::~JsonPropertyBag() = default;
-
-QJsonObject JsonPropertyBag::Object() const
-{
-    return d->object;
 }
 
 QVariant JsonPropertyBag::ReadProperty(const QString &Name, const QVariant &Default) const
 {
-    const auto kept = d->object.constFind(Name);
-    return kept == d->object.constEnd() ? Default : PropertyValue::read(kept->toVariant(), Default);
+    const auto kept = m_object.constFind(Name);
+    return kept == m_object.constEnd() ? Default : PropertyValue::read(kept->toVariant(), Default);
 }
 
 void JsonPropertyBag::WriteProperty(const QString &Name, const QVariant &Value,
                                     const QVariant &Default)
 {
     if (Value == Default)
-        d->object.remove(Name);
+        m_object.remove(Name);
     else
-        d->object.insert(Name, QJsonValue::fromVariant(PropertyValue::plain(Value)));
+        m_object.insert(Name, QJsonValue::fromVariant(PropertyValue::plain(Value)));
 }
 
 } // namespace ORVTListview

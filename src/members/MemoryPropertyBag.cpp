@@ -4,35 +4,23 @@
 
 namespace ORVTListview {
 
-struct MemoryPropertyBag::Private
-{
-    QVariantMap values;
-};
-
 MemoryPropertyBag::MemoryPropertyBag(const QVariantMap &Values)
-    : d(std::make_unique<Private>(Private{Values}))
+    : m_values(Values)
 {
-}
-
-MemoryPropertyBag::~MemoryPropertyBag() = default;
-
-QVariantMap MemoryPropertyBag::Values() const
-{
-    return d->values;
 }
 
 QVariant MemoryPropertyBag::ReadProperty(const QString &Name, const QVariant &Default) const
 {
-    return PropertyValue::read(d->values.value(Name), Default);
+    return PropertyValue::read(m_values.value(Name), Default);
 }
 
 void MemoryPropertyBag::WriteProperty(const QString &Name, const QVariant &Value,
                                       const QVariant &Default)
 {
     if (Value == Default)
-        d->values.remove(Name);
+        m_values.remove(Name);
     else
-        d->values.insert(Name, Value);
+        m_values.insert(Name, Value);
 }
 
 } // namespace ORVTListview

@@ -22,23 +22,13 @@ int caretLine(const QPlainTextEdit &box)
 } // namespace
 
 CurrentLine::CurrentLine(QPlainTextEdit &box, BoxLayers &layers)
-    : BoxLayer(layers, LayerOrder::currentLine)
-    , m_box(box)
+    : CaretLayer(box, layers, LayerOrder::currentLine)
 {
 }
 
-void CurrentLine::setOn(bool on)
+void CurrentLine::forget()
 {
-    if (on == isShown())
-        return;
-    m_line = caretLine(m_box);
-    if (on) {
-        connect(&m_box, &QPlainTextEdit::cursorPositionChanged, this, &CurrentLine::follow);
-        connect(&m_box, &QPlainTextEdit::selectionChanged, this, &CurrentLine::follow);
-    } else {
-        m_box.disconnect(this);
-    }
-    setShown(on);
+    m_line = -1;
 }
 
 void CurrentLine::follow()

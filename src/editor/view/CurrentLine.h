@@ -1,29 +1,23 @@
 #pragma once
 
-#include "widgets/box/BoxLayers.h"
-
-class QPlainTextEdit;
+#include "editor/view/CaretLayer.h"
 
 namespace ORVTListview {
 
 // The line of the caret on a ground of its own, over the whole width, while nothing is
 // selected beyond it.
-class CurrentLine final : public QObject, public BoxLayer
+class CurrentLine final : public CaretLayer
 {
-    Q_OBJECT
-
 public:
     CurrentLine(QPlainTextEdit &box, BoxLayers &layers);
-
-    void setOn(bool on);
 
     void paintBelow(QPainter &painter, const ShownLines &lines) override;
     void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip) override;
 
 private:
-    void follow();
+    void follow() override;
+    void forget() override;
 
-    QPlainTextEdit &m_box;
     int m_line = -1; // none while several are selected
 };
 

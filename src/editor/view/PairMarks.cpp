@@ -15,28 +15,15 @@
 namespace ORVTListview {
 
 PairMarks::PairMarks(QPlainTextEdit &box, BoxLayers &layers)
-    : BoxLayer(layers, LayerOrder::pairs)
-    , m_box(box)
+    : CaretLayer(box, layers, LayerOrder::pairs)
 {
     connect(&m_block, &BlockSearch::changed, this, &PairMarks::show);
 }
 
-void PairMarks::setOn(bool on)
+void PairMarks::forget()
 {
-    if (on == isShown())
-        return;
-    setShown(on);
-    if (!on) {
-        m_box.disconnect(this);
-        m_box.document()->disconnect(this);
-        m_block.clear();
-        m_marks.clear();
-        return;
-    }
-    connect(&m_box, &QPlainTextEdit::cursorPositionChanged, this, &PairMarks::follow);
-    connect(&m_box, &QPlainTextEdit::selectionChanged, this, &PairMarks::follow);
-    connect(m_box.document(), &QTextDocument::contentsChanged, this, &PairMarks::follow);
-    follow();
+    m_block.clear();
+    m_marks.clear();
 }
 
 void PairMarks::follow()

@@ -1,22 +1,16 @@
 #pragma once
 
 #include "editor/view/BlockSearch.h"
-#include "widgets/box/BoxLayers.h"
-
-class QPlainTextEdit;
+#include "editor/view/CaretLayer.h"
 
 namespace ORVTListview {
 
 // Marks the bracket at the caret and its partner, and the IF, ELSE or ENDIF at the
 // caret and what belongs to it, in the margin too. What misses its partner looks wrong.
-class PairMarks final : public QObject, public BoxLayer
+class PairMarks final : public CaretLayer
 {
-    Q_OBJECT
-
 public:
     PairMarks(QPlainTextEdit &box, BoxLayers &layers);
-
-    void setOn(bool on);
 
     void paintBelow(QPainter &painter, const ShownLines &lines) override;
     void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip) override;
@@ -39,11 +33,11 @@ private:
         friend bool operator==(const Span &, const Span &) = default;
     };
 
-    void follow();
+    void follow() override;
+    void forget() override;
     void show();
     void findBrackets(const QTextCursor &caret, QList<Mark> &marks) const;
 
-    QPlainTextEdit &m_box;
     BlockSearch m_block;
     QList<Mark> m_marks;
     Span m_span;

@@ -31,8 +31,7 @@ bool isAt(const LinePiece &word, qsizetype caret)
 } // namespace
 
 WordUses::WordUses(QPlainTextEdit &box, BoxLayers &layers)
-    : BoxLayer(layers, LayerOrder::wordUses)
-    , m_box(box)
+    : CaretLayer(box, layers, LayerOrder::wordUses)
     , m_rest(new QTimer(&box))
 {
     m_rest->setObjectName(QStringLiteral("WordRest"));
@@ -41,21 +40,10 @@ WordUses::WordUses(QPlainTextEdit &box, BoxLayers &layers)
     connect(m_rest, &QTimer::timeout, this, [this] { show(wordAtCaret()); });
 }
 
-void WordUses::setOn(bool on)
+void WordUses::forget()
 {
-    if (on == isShown())
-        return;
-    setShown(on);
-    if (!on) {
-        m_box.disconnect(this);
-        m_box.document()->disconnect(this);
-        m_rest->stop();
-        m_word.clear();
-        return;
-    }
-    connect(&m_box, &QPlainTextEdit::cursorPositionChanged, this, &WordUses::follow);
-    connect(m_box.document(), &QTextDocument::contentsChanged, this, &WordUses::follow);
-    follow();
+    m_rest->stop();
+    m_word.clear();
 }
 
 QString WordUses::wordAtCaret() const

@@ -4,8 +4,6 @@
 
 #include <QtCore/QJsonObject>
 
-#include <memory>
-
 namespace ORVTListview {
 
 // Keeps properties in a JSON object: enumerations as numbers, everything else as
@@ -15,18 +13,16 @@ class ORVT_CORE_EXPORT JsonPropertyBag : public PropertyBag
 {
 public:
     explicit JsonPropertyBag(const QJsonObject &Object = QJsonObject());
-    ~JsonPropertyBag() override;
 
     QVariant ReadProperty(const QString &Name, const QVariant &Default) const override;
     void WriteProperty(const QString &Name, const QVariant &Value,
                        const QVariant &Default) override;
 
     // What is kept, names that no component knows included.
-    QJsonObject Object() const;
+    QJsonObject Object() const { return m_object; }
 
 private:
-    struct Private;
-    std::unique_ptr<Private> d;
+    QJsonObject m_object;
 };
 
 } // namespace ORVTListview

@@ -4,8 +4,6 @@
 
 #include <QtCore/QVariantMap>
 
-#include <memory>
-
 namespace ORVTListview {
 
 // Keeps properties in memory. A value that equals its default is left out; a value
@@ -14,18 +12,16 @@ class ORVT_CORE_EXPORT MemoryPropertyBag : public PropertyBag
 {
 public:
     explicit MemoryPropertyBag(const QVariantMap &Values = QVariantMap());
-    ~MemoryPropertyBag() override;
 
     QVariant ReadProperty(const QString &Name, const QVariant &Default) const override;
     void WriteProperty(const QString &Name, const QVariant &Value,
                        const QVariant &Default) override;
 
     // What is kept, names that no component knows included.
-    QVariantMap Values() const;
+    QVariantMap Values() const { return m_values; }
 
 private:
-    struct Private;
-    std::unique_ptr<Private> d;
+    QVariantMap m_values;
 };
 
 } // namespace ORVTListview
