@@ -139,12 +139,14 @@ void Node::MoveTo(Node *Relative, NodeRelationship Relationship)
 
 bool Node::Expanded() const
 {
-    return m_parts->view.isExpanded(m_parts->model.indexOf(node("Expanded")));
+    return node("Expanded").expanded;
 }
 
 void Node::setExpanded(bool Expanded)
 {
-    m_parts->view.setExpanded(m_parts->model.indexOf(node("setExpanded")), Expanded);
+    TreeNode &held = node("setExpanded");
+    held.expanded = Expanded;
+    m_parts->showExpanded(held);
 }
 
 qint32 Node::ForeColor() const

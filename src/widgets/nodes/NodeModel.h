@@ -58,6 +58,7 @@ public:
     // Between the two, nodes may be added, and only that; it is one change.
     void beginFilling();
     void endFilling();
+    bool isFilling() const { return m_filling; }
 
     void setKey(TreeNode &node, const QString &key);
     void setText(TreeNode &node, const QString &text);

@@ -22,6 +22,15 @@ struct NodeTreeParts
     }
     Q_DISABLE_COPY_MOVE(NodeTreeParts) // the parts know one another
 
+    // Has the view show a node as it is. What has no children waits for the first: the
+    // view would keep an index of each, which is most of the work on a tree of many.
+    void showExpanded(const TreeNode &node)
+    {
+        const QModelIndex index = model.indexOf(node);
+        if (!model.isFilling() && (!node.children.empty() || view.isExpanded(index)))
+            view.setExpanded(index, node.expanded);
+    }
+
     QTreeView &view;
     HandleStore<Node, TreeNode> handles;
     NodeModel model;
