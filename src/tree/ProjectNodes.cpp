@@ -46,23 +46,18 @@ void ProjectNodes::build(const QList<Pages> &pages)
 {
     Nodes &nodes = *m_tree.Nodes();
     nodes.Clear();
-    QList<Node *> expanded;
-    {
-        const NodeTree::Filling filling(m_tree);
-        Node *device = nodes.Add(nullptr, NodeRelationship::First, deviceName,
-                                 shownText(deviceName, deviceName), deviceName);
-        for (qint32 number = 0; number < pages.size(); ++number) {
-            const Pages &content = pages.at(number);
-            Node *page = addPage(number, device);
-            for (qsizetype i = 0; i < content.Index.size(); ++i)
-                addCategory(content.Index.at(i), content.Key.at(i), page);
-            expanded.append(page);
-        }
-        device->setTag(PageArrangement::deviceTag);
-        expanded.append(device);
+    const NodeTree::Filling filling(m_tree);
+    Node *device = nodes.Add(nullptr, NodeRelationship::First, deviceName,
+                             shownText(deviceName, deviceName), deviceName);
+    for (qint32 number = 0; number < pages.size(); ++number) {
+        const Pages &content = pages.at(number);
+        Node *page = addPage(number, device);
+        for (qsizetype i = 0; i < content.Index.size(); ++i)
+            addCategory(content.Index.at(i), content.Key.at(i), page);
+        page->setExpanded(true);
     }
-    for (Node *node : std::as_const(expanded))
-        node->setExpanded(true);
+    device->setTag(PageArrangement::deviceTag);
+    device->setExpanded(true);
 }
 
 Node *ProjectNodes::addPage(qint32 page, Node *device)

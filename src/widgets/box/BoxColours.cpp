@@ -21,18 +21,20 @@ struct Piece
     Colour colour = ColouredText::automatic;
 };
 
-Piece pieceOf(const QTextFragment &fragment, int from, int to)
+// Calls for each fragment of a line with its part inside a range. A fragment would look
+// for its position in the document.
+template <typename Take>
+void forEachPiece(const QTextBlock &block, int from, int to, const Take &take)
 {
-    const int first = std::max(fragment.position(), from);
-    const int last = std::min(fragment.position() + fragment.length(), to);
-    return {first, last - first, BoxFormats::colour(fragment.charFormat())};
-}
-
-void readLine(const QTextBlock &block, int from, int to, ColouredText &result)
-{
-    for (auto it = block.begin(); it != block.end(); ++it) {
-        const Piece piece = pieceOf(it.fragment(), from, to);
-        result.appendRun(piece.length, piece.colour);
+    int start = block.position();
+    for (auto it = block.begin(); !it.atEnd() && start < to; ++it) {
+        const QTextFragment fragment = it.fragment();
+        const int end = start + fragment.length();
+        const int first = std::max(start, from);
+        const int last = std::min(end, to);
+        if (first < last)
+            take(Piece{first, last - first, BoxFormats::colour(fragment.charFormat())});
+        start = end;
     }
 }
 
@@ -78,8 +80,7 @@ struct Changes
 void compareColours(const QTextBlock &block, int from, int to, qsizetype index, RunReader &runs,
                     Changes &changes)
 {
-    for (auto it = block.begin(); it != block.end(); ++it) {
-        Piece piece = pieceOf(it.fragment(), from, to);
+    forEachPiece(block, from, to, [&](Piece piece) {
         while (piece.length > 0) {
             qsizetype length = piece.length;
             const Colour colour = runs.at(index + piece.position - from, length);
@@ -89,7 +90,7 @@ void compareColours(const QTextBlock &block, int from, int to, qsizetype index, 
             piece.position += step;
             piece.length -= step;
         }
-    }
+    });
 }
 
 void compareLetters(QStringView shown, QStringView wanted, int from, Changes &changes)
@@ -160,15 +161,14 @@ void BoxColours::paint(QTextDocument &document, int from, int to, Colour colour)
     QList<Piece> pieces;
     for (QTextBlock block = document.findBlock(from); block.isValid() && block.position() < to;
          block = block.next()) {
-        for (auto it = block.begin(); it != block.end(); ++it)
-            pieces.append(pieceOf(it.fragment(), from, to));
+        forEachPiece(block, from, to, [&](const Piece &piece) { pieces.append(piece); });
     }
     QTextCursor cursor(&document);
     cursor.beginEditBlock();
     for (Piece &piece : pieces) {
         const bool isRight = piece.colour == colour;
         piece.colour = colour;
-        if (piece.length > 0 && !isRight)
+        if (!isRight)
             setColour(cursor, piece);
     }
     cursor.endEditBlock();
@@ -178,11 +178,14 @@ ColouredText BoxColours::read(const QTextDocument &document, const BoxText &text
                               qint32 length)
 {
     ColouredText result;
-    result.text = text.range(start, length);
-    const int from = text.toDocument(start);
-    const int to = text.toDocument(start + length);
+    const qint32 first = std::clamp(start, 0, text.length());
+    const qint32 last = first + std::clamp(length, 0, text.length() - first);
+    const int from = text.toDocument(first);
+    const int to = text.toDocument(last);
+    result.text = text.read(from, to);
     for (QTextBlock block = document.findBlock(from); block.isValid(); block = block.next()) {
-        readLine(block, from, to, result);
+        forEachPiece(block, from, to,
+                     [&](const Piece &piece) { result.appendRun(piece.length, piece.colour); });
         if (block.position() + block.length() > to)
             break;
         const Colour colour =

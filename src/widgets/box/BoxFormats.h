@@ -35,6 +35,7 @@ public:
 
     // The box is empty.
     void forgetFonts();
+    bool hasFonts() const { return !m_fonts.isEmpty(); }
 
     QTextCharFormat charFormat(const RtfFormat &format);
     RtfFormat rtfFormat(const QTextCharFormat &format) const;

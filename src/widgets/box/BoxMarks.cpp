@@ -104,7 +104,12 @@ void BoxMarks::insert(QTextCursor &cursor, QStringView text, const QTextCharForm
 
 bool BoxMarks::isPlain(QStringView text)
 {
-    return !text.contains(u'\r') && !needsCare(text);
+    // Most text holds nothing that would have to be looked at closely.
+    const auto isOrdinary = [](QChar c) {
+        return c >= u' ' && c != QChar::SoftHyphen && !isMark(c);
+    };
+    return std::all_of(text.begin(), text.end(), isOrdinary) ||
+           (!text.contains(u'\r') && !needsCare(text));
 }
 
 bool BoxMarks::mayBeIn(QStringView text)
@@ -116,7 +121,7 @@ void BoxMarks::restore(const QTextBlock &block, QString &text)
 {
     if (!mayBeIn(text))
         return;
-    for (auto it = block.begin(); it != block.end(); ++it) {
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
         const QVariant mark = fragment.charFormat().property(markProperty);
         if (!mark.isValid())

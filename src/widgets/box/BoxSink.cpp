@@ -35,7 +35,7 @@ BoxSink::BoxSink(QTextCursor &cursor, BoxFormats &formats)
     m_cursor.removeSelectedText();
     if (m_cursor.document()->isEmpty())
         m_formats.forgetFonts();
-    setFormat(m_formats.base());
+    m_current = know(m_formats.base());
 }
 
 BoxSink::~BoxSink()
@@ -44,45 +44,95 @@ BoxSink::~BoxSink()
     m_cursor.endEditBlock();
 }
 
-void BoxSink::setFormat(const RtfFormat &format)
+// Where the format stands among the known ones, of which there are few: a colour tells
+// most of them apart.
+std::size_t BoxSink::know(const RtfFormat &format)
 {
-    m_current = format;
-    m_format = m_formats.charFormat(format);
+    constexpr std::size_t mostKnown = 16;
+    for (std::size_t i = 0; i < m_known.size(); ++i) {
+        if (m_known[i].stated.colour == format.colour && m_known[i].stated == format)
+            return i;
+    }
+    if (m_known.size() + 2 > mostKnown) {
+        flush();
+        m_known.clear();
+    }
     RtfFormat plain = format;
     plain.colour = RtfFormat::automatic;
     plain.backColour = RtfFormat::automatic;
-    if (plain == m_plain)
-        return;
-    m_plain = plain;
-    m_plainFormat = m_formats.charFormat(plain);
+    const bool isPlain = plain == format;
+    const std::size_t plainAt = isPlain ? m_known.size() : know(plain);
+    m_known.push_back({format, m_formats.charFormat(format), plainAt});
+    return m_known.size() - 1;
 }
 
 void BoxSink::text(QStringView text, const RtfFormat &format)
 {
-    if (format != m_current) {
-        flush();
-        setFormat(format);
-    }
-    if (BoxMarks::isPlain(text)) {
-        m_waiting += text;
-    } else {
-        flush();
-        BoxMarks::insert(m_cursor, text, m_format);
-    }
+    const RtfFormat &current = m_known[m_current].stated;
+    if (format.colour != current.colour || format != current)
+        m_current = know(format);
+    if (BoxMarks::isPlain(text))
+        return append(text);
+    flush();
+    BoxMarks::insert(m_cursor, text, m_known[m_current].format);
 }
 
 void BoxSink::lineEnd()
 {
-    flush();
-    m_cursor.insertBlock(m_lineFormat, m_plainFormat);
+    constexpr qsizetype mostWaiting = 0x10000;
+    const std::size_t plain = m_known[m_current].plain;
+    if (plain != m_lineEndFormat || m_text.size() + m_lineEnds >= mostWaiting)
+        flush();
+    m_lineEndFormat = plain;
+    m_pieces.push_back({});
+    ++m_lineEnds;
 }
 
+void BoxSink::append(QStringView text)
+{
+    if (text.isEmpty())
+        return;
+    m_text += text;
+    if (!m_pieces.empty() && m_pieces.back().length > 0 && m_pieces.back().format == m_current)
+        m_pieces.back().length += text.size();
+    else
+        m_pieces.push_back({text.size(), m_current});
+}
+
+// The document keeps its pieces in a search tree, which is deep where it grows at one
+// end. So the lines come first, all of them empty, and then what stands in them: each
+// piece has half the way then.
 void BoxSink::flush()
 {
-    if (m_waiting.isEmpty())
+    if (m_pieces.empty())
         return;
-    m_cursor.insertText(m_waiting, m_format);
-    m_waiting.resize(0); // keeps its memory
+    const int start = m_cursor.position();
+    insertLineEnds();
+    m_cursor.setPosition(start);
+    insertText();
+    m_pieces.clear();
+    m_text.resize(0); // keeps its memory
+    m_lineEnds = 0;
+}
+
+void BoxSink::insertLineEnds()
+{
+    if (m_lineEnds > 0)
+        m_cursor.insertText(QString(m_lineEnds, u'\n'), m_known[m_lineEndFormat].format);
+}
+
+void BoxSink::insertText()
+{
+    const QChar *next = m_text.constData();
+    for (const Piece &piece : m_pieces) {
+        if (piece.length == 0) {
+            m_cursor.setPosition(m_cursor.position() + 1);
+            continue;
+        }
+        // The document copies it.
+        m_cursor.insertText(QString::fromRawData(next, piece.length), m_known[piece.format].format);
+        next += piece.length;
+    }
 }
 
 void putColoured(const ColouredText &text, const RtfFormat &format, RtfSink &sink)

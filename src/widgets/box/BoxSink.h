@@ -3,8 +3,10 @@
 #include "base/ColouredText.h"
 #include "widgets/box/BoxFormats.h"
 
-#include <QtGui/QTextBlockFormat>
 #include <QtGui/QTextCursor>
+
+#include <cstddef>
+#include <vector>
 
 namespace ORVTListview {
 
@@ -23,17 +25,35 @@ public:
     void lineEnd() override;
 
 private:
-    void setFormat(const RtfFormat &format);
+    // A format that came lately, and where the one without its colours stands.
+    struct Known
+    {
+        RtfFormat stated;
+        QTextCharFormat format;
+        std::size_t plain = 0;
+    };
+    struct Piece
+    {
+        qsizetype length = 0; // 0: a line end
+        std::size_t format = 0;
+    };
+
+    std::size_t know(const RtfFormat &format);
+    void append(QStringView text);
     void flush();
+    void insertLineEnds();
+    void insertText();
 
     QTextCursor &m_cursor;
     BoxFormats &m_formats;
-    QTextBlockFormat m_lineFormat;
-    RtfFormat m_current;
-    RtfFormat m_plain;             // m_current without its colours
-    QTextCharFormat m_format;      // of m_current
-    QTextCharFormat m_plainFormat; // of m_plain
-    QString m_waiting;             // text of m_format, not yet inserted
+    std::vector<Known> m_known;
+    std::size_t m_current = 0; // of the text that came last
+
+    // What is not yet inserted.
+    QString m_text; // without line ends
+    std::vector<Piece> m_pieces;
+    qsizetype m_lineEnds = 0;
+    std::size_t m_lineEndFormat = 0;
 };
 
 // Hands coloured text to a sink. All of it gets the format but for the colour.

@@ -23,7 +23,7 @@ public:
 
     void readLine(const QTextBlock &block, int from, int to)
     {
-        for (auto it = block.begin(); it != block.end(); ++it)
+        for (auto it = block.begin(); !it.atEnd(); ++it)
             readFragment(it.fragment(), from, to);
     }
 

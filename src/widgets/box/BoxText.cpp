@@ -48,10 +48,18 @@ qint32 BoxText::lineCount() const
     return m_document.blockCount();
 }
 
-// From where the last answer was, in steps that grow: most questions are about
-// places near each other.
+// Most questions are about places near each other: with as many lines before it as before
+// the last answer, a place is mostly in the line found there. Else from that answer, in
+// steps that grow.
 QTextBlock BoxText::blockAt(qint32 position) const
 {
+    const QTextBlock guess =
+        m_document.findBlock(std::clamp(position - m_nearLine, 0, documentLength()));
+    const qint32 start = startOf(guess);
+    if (start <= position && position <= start + guess.length()) {
+        m_nearLine = guess.blockNumber();
+        return guess;
+    }
     const auto begins = [&](int line) {
         return startOf(m_document.findBlockByNumber(line)) <= position;
     };

@@ -7,6 +7,7 @@
 #include "widgets/box/BoxColours.h"
 #include "widgets/box/BoxLayers.h"
 #include "widgets/box/BoxLayout.h"
+#include "widgets/box/BoxLines.h"
 #include "widgets/box/BoxMarks.h"
 #include "widgets/box/BoxParts.h"
 #include "widgets/box/BoxSink.h"
@@ -105,15 +106,13 @@ void RichTextBox::noteTextChange()
         noteChange();
 }
 
-// A cleared document forgets its formats, and is faster than one emptied. The new
-// text is read at once: nobody feels that here, but in the key that asks first.
+// The new text is read at once: nobody feels that here, but in the key that asks first.
 void RichTextBox::replaceAll(const std::function<void()> &insert)
 {
     const Changing changing(*this);
     m_parts->announceChange(true);
     {
         const QScopedValueRollback quiet(m_parts->isQuiet, true);
-        document()->clear();
         insert();
         m_parts->text.sharedText();
     }
@@ -136,6 +135,7 @@ QString RichTextBox::Text() const
 void RichTextBox::setText(const QString &text)
 {
     replaceAll([&] {
+        document()->clear();
         QTextCursor cursor(document());
         BoxMarks::insert(cursor, text, {});
         setSelStart(0);
@@ -151,7 +151,10 @@ QString RichTextBox::TextRTF() const
 
 void RichTextBox::setTextRTF(const QString &rtf)
 {
-    replaceAll([&] { setSelRTF(rtf); });
+    replaceAll([&] {
+        document()->clear();
+        setSelRTF(rtf);
+    });
 }
 
 qint32 RichTextBox::SelStart() const
@@ -295,8 +298,16 @@ QString RichTextBox::textRange(qint32 start, qint32 length) const
 void RichTextBox::setColoured(const ColouredText &text)
 {
     replaceAll([&] {
-        setSelColoured(text);
-        setSelStart(0);
+        // A cleared document forgets its formats, and is faster than one emptied.
+        BoxLines lines(*document(), m_parts->formats, text);
+        if (!lines.keepUnchanged())
+            document()->clear();
+        QTextCursor cursor = lines.toReplace();
+        {
+            BoxSink sink(cursor, m_parts->formats);
+            putColoured(lines.replacement(), m_parts->formats.base(), sink);
+        }
+        select(0, 0);
     });
 }
 

@@ -9,6 +9,47 @@
 namespace ORVTListview {
 namespace {
 
+constexpr char16_t lower(char16_t c)
+{
+    return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c | 0x20) : c;
+}
+
+bool isAscii(QStringView text)
+{
+    char16_t all = 0;
+    for (const QChar c : text)
+        all |= c.unicode();
+    return all < 0x80;
+}
+
+// A text that others are looked through for, letter case ignored. A key has to get
+// through thousands of names, nearly all of them ASCII.
+class Wanted
+{
+public:
+    explicit Wanted(const QString &text)
+        : m_text(text)
+        , m_isAscii(isAscii(text))
+    {
+    }
+
+    bool isIn(QStringView text) const
+    {
+        if (!m_isAscii || !isAscii(text))
+            return text.contains(m_text, Qt::CaseInsensitive);
+        const auto isAlike = [](QChar a, QChar b) {
+            return lower(a.unicode()) == lower(b.unicode());
+        };
+        const auto *found =
+            std::search(text.begin(), text.end(), m_text.begin(), m_text.end(), isAlike);
+        return found != text.end() || m_text.isEmpty();
+    }
+
+private:
+    QString m_text;
+    bool m_isAscii;
+};
+
 QList<int> allRows(int count)
 {
     QList<int> rows(count);
@@ -56,8 +97,9 @@ void ComboMatches::setFilter(const QString &filter)
     const QList<int> candidates = narrows ? m_rows : allRows(m_entries.size());
     QList<int> rows;
     rows.reserve(candidates.size());
+    const Wanted wanted(filter);
     for (const int row : candidates) {
-        if (m_entries.at(row).text.contains(filter, Qt::CaseInsensitive))
+        if (wanted.isIn(m_entries.at(row).text))
             rows.append(row);
     }
     beginResetModel();

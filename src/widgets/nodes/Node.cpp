@@ -91,12 +91,14 @@ void Node::MoveTo(Node *Relative, NodeRelationship Relationship)
 
 bool Node::Expanded() const
 {
-    return m_parts->view.isExpanded(m_parts->model.indexOf(held("Expanded")));
+    return held("Expanded").expanded;
 }
 
 void Node::setExpanded(bool Expanded)
 {
-    m_parts->view.setExpanded(m_parts->model.indexOf(held("setExpanded")), Expanded);
+    TreeNode &node = held("setExpanded");
+    node.expanded = Expanded;
+    m_parts->showExpanded(node);
 }
 
 qint32 Node::ForeColor() const

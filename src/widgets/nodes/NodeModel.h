@@ -58,6 +58,7 @@ public:
     // Between the two, nodes may be added, and only that; it is one change.
     void beginFilling();
     void endFilling();
+    bool isFilling() const { return m_filling; }
 
     static const QString &keyOf(const TreeNode &node) { return node.key; }
     static const QString &textOf(const TreeNode &node) { return node.text; }

@@ -48,12 +48,22 @@ void NodeTree::setUpConnections()
 {
     const auto noteFolded = [this](bool expanded) {
         return [this, expanded](const QModelIndex &index) {
+            d->model.nodeOf(index).expanded = expanded;
             if (d->userActs && d->model.hasChildren(index))
                 d->folded.append({handleOf(index), expanded});
         };
     };
     connect(this, &QTreeView::expanded, this, noteFolded(true));
     connect(this, &QTreeView::collapsed, this, noteFolded(false));
+    const auto showFirstChild = [this](const QModelIndex &parent) {
+        if (parent.isValid() && d->model.rowCount(parent) == 1)
+            d->showExpanded(d->model.nodeOf(parent));
+    };
+    connect(&d->model, &NodeModel::rowsInserted, this, showFirstChild);
+    connect(&d->model, &NodeModel::rowsMoved, this,
+            [showFirstChild](const QModelIndex &, int, int, const QModelIndex &parent) {
+                showFirstChild(parent);
+            });
     connect(&d->model, &NodeModel::checkedByUser, this,
             [this](TreeNode *node) { d->checkedNode = handleOf(node); });
     connect(&d->delegate, &ReportDelegate::labelEntered, this,
@@ -84,7 +94,12 @@ NodeTree::Filling::Filling(NodeTree &tree)
 
 NodeTree::Filling::~Filling()
 {
+    const NodeModel &model = m_tree.d->model;
     m_tree.d->model.endFilling();
+    for (int i = 0; i < model.count(); ++i) {
+        if (model.at(i).expanded)
+            m_tree.d->showExpanded(model.at(i));
+    }
 }
 
 Node *NodeTree::handleOf(TreeNode *node) const

@@ -47,7 +47,7 @@ public:
     ORVTListview::Nodes *Nodes() const;
 
     // Between its making and its end nodes are added as one change. Nothing but
-    // Nodes::Add and the setters of text and tag may be called meanwhile.
+    // Nodes::Add and the setters of text, tag and Expanded may be called meanwhile.
     class Filling
     {
     public:

@@ -25,6 +25,15 @@ struct NodeTreeParts
     void removeNode(int position) { model.remove(model.at(position)); }
     void clearNodes() { model.clear(); }
 
+    // Has the view show a node as it is. What has no children waits for the first: the
+    // view would keep an index of each, which is most of the work on a tree of many.
+    void showExpanded(const TreeNode &node)
+    {
+        const QModelIndex index = model.indexOf(node);
+        if (!model.isFilling() && (!node.children.empty() || view.isExpanded(index)))
+            view.setExpanded(index, node.expanded);
+    }
+
     QTreeView &view;
     HandleStore<Node, TreeNode> handles;
     NodeModel model;

@@ -28,6 +28,7 @@ struct TreeNode
     QVariant tag;
     qint32 foreColor = Colours::windowText;
     bool checked = false;
+    bool expanded = false; // the view has it only of nodes with children
 
     TreeNode *parent = nullptr; // null for the invisible root alone
     int row = 0;                // among the parent's children

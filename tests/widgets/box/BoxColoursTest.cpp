@@ -3,9 +3,13 @@
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QScrollBar>
+
+#include <random>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -22,7 +26,128 @@ private Q_SLOTS:
     void recolourTouchesOnlyWhatDiffers();
     void recolourKeepsCaretSelectionAndScroll();
     void theDocumentKeepsFewFormats();
+    void theWholeTextChangesWhereItDiffers();
+    void whatWasThereBeforeDoesNotShow();
+    void longTextKeepsItsPlaceAndItsColours();
 };
+
+namespace {
+
+// Lines of few words, so that texts have lines in common.
+ColouredText randomProgram(std::mt19937 &random, int lines)
+{
+    static const QStringList words{u"if"_s, u" "_s, u"x"_s, u"\tT1"_s, u"\u00e4"_s, QString()};
+    const auto below = [&random](auto limit) {
+        return static_cast<qsizetype>(random() % static_cast<unsigned>(limit));
+    };
+    ColouredText program;
+    for (int line = 0; line < lines; ++line) {
+        if (line > 0) {
+            program.text += u"\r\n"_s;
+            program.appendRun(2, below(2) == 0 ? 7 : -1);
+        }
+        for (auto word = below(3); word > 0; --word) {
+            const QString &text = words[below(words.size())];
+            program.text += text;
+            program.appendRun(text.size(), below(3) == 0 ? 7 : -1);
+        }
+    }
+    return program;
+}
+
+// Every piece of a document's text with its format, line ends included.
+QStringList piecesOf(const QTextDocument &document)
+{
+    QStringList pieces;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QStringList line{u"%1"_s.arg(block.charFormat().foreground().color().name())};
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            line.append(u"%1 %2 %3"_s.arg(it.fragment().text(), format.foreground().color().name(),
+                                          QString::number(format.properties().size())));
+        }
+        pieces.append(line.join(u'|'));
+    }
+    return pieces;
+}
+
+} // namespace
+
+void BoxColoursTest::theWholeTextChangesWhereItDiffers()
+{
+    const QString line = u"if T1 > 5 then\r\n"_s;
+    ColouredText text{line.repeated(300), {}};
+    for (int i = 0; i < 300; ++i) {
+        text.appendRun(2, 7);
+        text.appendRun(line.size() - 2, -1);
+    }
+    RichTextBox box;
+    box.setColoured(text);
+    const QSignalSpy edits(box.document(), &QTextDocument::contentsChange);
+    const QSignalSpy changes(&box, &RichTextBox::Change);
+    box.setColoured(text);
+    QCOMPARE(edits.count(), 0);
+    QCOMPARE(changes.count(), 1);
+
+    text.text.replace(100 * line.size(), line.size(), u"IF t1 > 5 then\r\nx\r\n"_s);
+    text.runs.insert(200, {3, 9});
+    box.setColoured(text);
+    QCOMPARE(edits.count(), 1);
+    QVERIFY(edits.first().at(1).toInt() <= 2 * line.size());
+    QVERIFY(edits.first().at(2).toInt() <= 3 * line.size());
+    QCOMPARE(changes.count(), 2);
+    QVERIFY(box.coloured(0, box.TextLength()) == text);
+    QCOMPARE(box.SelStart(), 0);
+}
+
+void BoxColoursTest::whatWasThereBeforeDoesNotShow()
+{
+    std::mt19937 random(5);
+    RichTextBox box;
+    for (int round = 0; round < 400; ++round) {
+        ColouredText text = randomProgram(random, 1 + static_cast<int>(random() % 12));
+        box.setColoured(text);
+        box.setSelStart(static_cast<qint32>(random() % 40));
+        box.setSelLength(static_cast<qint32>(random() % 6));
+        if (round % 3 == 0)
+            box.setSelText(u"a\r\nb"_s);
+        else if (round % 3 == 1)
+            box.setSelColor(7);
+        else
+            box.setSelRTF(uR"({\rtf1\b bold\b0\par\highlight1 x})"_s);
+        if (round % 5 != 0) // most of it stays
+            text = box.coloured(0, box.TextLength());
+        box.setColoured(text);
+        RichTextBox fresh;
+        fresh.setColoured(text);
+        QCOMPARE(box.Text(), text.text);
+        QCOMPARE(piecesOf(*box.document()), piecesOf(*fresh.document()));
+        QCOMPARE(box.TextRTF(), fresh.TextRTF());
+    }
+}
+
+// More than goes into the document at a time.
+void BoxColoursTest::longTextKeepsItsPlaceAndItsColours()
+{
+    std::mt19937 random(7);
+    ColouredText text = randomProgram(random, 40'000);
+    RichTextBox box;
+    box.setText(u"before after"_s);
+    QTextCursor host(box.document());
+    host.setPosition(7); // where the text goes in
+    QTextCursor behind(box.document());
+    behind.setPosition(9);
+    box.setSelStart(7);
+    box.setSelColoured(text);
+    QCOMPARE(box.Text(), u"before "_s + text.text + u"after"_s);
+    QCOMPARE(box.SelStart(), 7 + text.text.size());
+    QCOMPARE(host.position(), box.document()->characterCount() - 1 - 5);
+    QCOMPARE(behind.position(), host.position() + 2);
+    RichTextBox fresh;
+    fresh.setColoured(text);
+    QCOMPARE(box.coloured(7, static_cast<qint32>(text.text.size())),
+             fresh.coloured(0, fresh.TextLength()));
+}
 
 void BoxColoursTest::selColorReadsAndSets()
 {
