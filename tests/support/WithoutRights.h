@@ -15,8 +15,8 @@ public:
     {
         constexpr uid_t nobody = 65534;
         constexpr mode_t open = 0777;
-        if (m_isRoot && (::chmod(QFile::encodeName(folder).constData(), open) != 0 ||
-                         ::seteuid(nobody) != 0))
+        if (m_isRoot &&
+            (::chmod(QFile::encodeName(folder).constData(), open) != 0 || ::seteuid(nobody) != 0))
             qFatal("The rights cannot be dropped");
     }
 

@@ -1,6 +1,6 @@
+#include "widgets/look/Twips.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
-#include "widgets/look/Twips.h"
 
 #include <QtWidgets/QWidget>
 
