@@ -93,6 +93,10 @@ function(orvt_add_suites program)
     string(REPLACE ";" "\" \"" launcher "${launcher}")
     set(ask ${CMAKE_CURRENT_BINARY_DIR}/${program}_suites.cmake)
     file(CONFIGURE OUTPUT ${ask}.in CONTENT [[
+if(NOT EXISTS "$<TARGET_FILE:@program@>")
+    add_test("@program@_NOT_BUILT" "@program@_NOT_BUILT")
+    return()
+endif()
 execute_process(COMMAND "$<TARGET_FILE:@program@>" --gtest_list_tests
     OUTPUT_VARIABLE lines
     COMMAND_ERROR_IS_FATAL ANY)
