@@ -29,6 +29,7 @@
 #include <ORVTListview/ORVRichText.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/PointCollection.h>
+#include <ORVTListview/Problem.h>
 #include <ORVTListview/PropertyBag.h>
 #include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>

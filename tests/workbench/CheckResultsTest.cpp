@@ -1,6 +1,7 @@
 #include "WorkbenchTest.h"
 
 #include "support/TestProgram.h"
+#include <ORVTListview/CodeView.h>
 
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QHeaderView>
@@ -42,6 +43,28 @@ private Q_SLOTS:
         workbench.type(u"x "_s);
         workbench.key(Qt::Key_F6);
         QCOMPARE(workbench.resultTexts(), u"Line 1: x is not known"_s);
+    }
+
+    void theEditorShowsWhatIsFound()
+    {
+        WorkbenchWindow workbench("Fan1 = ON\nIF Temp1 > tmep + tmep\nREM tmep");
+        workbench.key(Qt::Key_F6);
+        const QList<ORVTListview::Problem> problems =
+            workbench.window.findChild<ORVTListview::ORVListView *>()->codeView()->problems();
+        QCOMPARE(problems.size(), 2);
+        QCOMPARE(problems[0], (ORVTListview::Problem{2, 0, 2, ORVTListview::ProblemSeverity::Error,
+                                                     u"IF without ENDIF"_s}));
+        QCOMPARE(problems[1], (ORVTListview::Problem{2, 11, 4, ORVTListview::ProblemSeverity::Error,
+                                                     u"tmep is not known"_s}));
+        workbench.key(Qt::Key_End, Qt::ControlModifier);
+        workbench.key(Qt::Key_Return);
+        workbench.type(u"ENDIF"_s);
+        workbench.key(Qt::Key_F6);
+        QCOMPARE(workbench.window.findChild<ORVTListview::ORVListView *>()
+                     ->codeView()
+                     ->problems()
+                     .size(),
+                 1);
     }
 
     void aClickHighlightsTheWord()

@@ -50,9 +50,9 @@ void drawWave(QPainter &painter, const QRectF &place)
 
 } // namespace
 
-bool Problems::Kept::isOn(const QTextBlock &line) const
+bool Problems::Kept::touches(const QTextBlock &line) const
 {
-    return isThere() && place.selectionStart() < line.position() + line.length() &&
+    return place.selectionStart() < line.position() + line.length() &&
            place.selectionEnd() >= line.position();
 }
 
@@ -164,12 +164,31 @@ std::optional<Problem> Problems::goToPrevious()
     return last ? std::optional(goTo(*last)) : std::nullopt;
 }
 
+// Edits do not change which of two places comes first.
+Problems::Place Problems::from(int position) const
+{
+    return std::partition_point(m_kept.cbegin(), m_kept.cend(), [=](const Kept &kept) {
+        return kept.place.selectionStart() < position;
+    });
+}
+
+QList<const Problems::Kept *> Problems::allOn(const QTextBlock &line) const
+{
+    QList<const Kept *> found;
+    const Place end = from(line.position() + line.length());
+    for (Place kept = from(line.position()); kept != end; ++kept) {
+        if (kept->isThere())
+            found.append(&*kept);
+    }
+    return found;
+}
+
 const Problems::Kept *Problems::worstOn(const QTextBlock &line) const
 {
     const Kept *worst = nullptr;
-    for (const Kept &kept : m_kept) {
-        if (kept.isOn(line) && (!worst || kept.problem.severity < worst->problem.severity))
-            worst = &kept;
+    for (const Kept *kept : allOn(line)) {
+        if (!worst || kept->problem.severity < worst->problem.severity)
+            worst = kept;
     }
     return worst;
 }
@@ -189,10 +208,8 @@ std::optional<Problem> Problems::goToWorstOn(const QTextBlock &line)
 QString Problems::textOn(const QTextBlock &line) const
 {
     QStringList texts;
-    for (const Kept &kept : m_kept) {
-        if (kept.isOn(line))
-            texts.append(kept.problem.text);
-    }
+    for (const Kept *kept : allOn(line))
+        texts.append(kept->problem.text);
     return texts.join(u'\n');
 }
 
@@ -222,20 +239,36 @@ QColor Problems::colourOf(ProblemSeverity severity, const QColor &ground)
 
 void Problems::paintAbove(QPainter &painter, const ShownLines &lines)
 {
+    if (lines.isEmpty())
+        return;
     const QColor ground = ViewColours::groundOf(m_box);
+    const QTextBlock &last = lines.last().block;
+    Place kept = from(lines.first().block.position());
+    const Place end = from(last.position() + last.length());
+    if (kept != m_kept.cbegin())
+        --kept; // an Enter inside may have brought its end down
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const Kept &kept : std::as_const(m_kept)) {
+    for (; kept != end; ++kept) {
+        painter.setPen(QPen(colourOf(kept->problem.severity, ground), 1.25));
         for (const ShownLine &line : lines) {
-            if (!kept.isOn(line.block))
-                continue;
-            painter.setPen(QPen(colourOf(kept.problem.severity, ground), 1.25));
-            const LinePiece piece{kept.place.selectionStart() - line.block.position(),
-                                  kept.place.selectionEnd() - kept.place.selectionStart()};
-            for (const QRectF &place : placesOf(line, piece))
-                drawWave(painter, place.intersected(QRectF(m_box.viewport()->rect())));
+            if (kept->isThere() && kept->touches(line.block))
+                drawWaves(painter, *kept, line);
         }
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+QList<QRectF> Problems::placesIn(const ShownLine &line, const Kept &kept) const
+{
+    const int start = kept.place.selectionStart() - line.block.position();
+    const int end = kept.place.selectionEnd() - line.block.position();
+    return placesOf(line, {start, end - start});
+}
+
+void Problems::drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line) const
+{
+    for (const QRectF &place : placesIn(line, kept))
+        drawWave(painter, place.intersected(QRectF(m_box.viewport()->rect())));
 }
 
 // What the host says of the box stands there again when the caret leaves the line.
@@ -263,17 +296,13 @@ bool Problems::showToolTip(const QHelpEvent &event)
     if (!layers())
         return false;
     for (const ShownLine &line : layers()->shownLines(event.pos().y(), event.pos().y() + 1)) {
-        for (const Kept &kept : std::as_const(m_kept)) {
-            if (!kept.isOn(line.block))
+        for (const Kept *kept : allOn(line.block)) {
+            const QList<QRectF> places = placesIn(line, *kept);
+            if (std::none_of(places.cbegin(), places.cend(),
+                             [&](const QRectF &place) { return place.contains(event.pos()); }))
                 continue;
-            const LinePiece piece{kept.place.selectionStart() - line.block.position(),
-                                  kept.place.selectionEnd() - kept.place.selectionStart()};
-            for (const QRectF &place : placesOf(line, piece)) {
-                if (!place.contains(event.pos()))
-                    continue;
-                showPlainToolTip(event, kept.problem.text, *m_box.viewport());
-                return true;
-            }
+            showPlainToolTip(event, kept->problem.text, *m_box.viewport());
+            return true;
         }
     }
     return false;

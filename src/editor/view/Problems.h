@@ -54,12 +54,21 @@ private:
         bool hasText = false; // and is gone when that is
 
         bool isThere() const { return !hasText || place.hasSelection(); }
-        bool isOn(const QTextBlock &line) const;
+        bool touches(const QTextBlock &line) const;
         Problem now() const;
     };
 
+    using Place = QList<Kept>::const_iterator;
+
+    // The first that begins at a place of the document or behind it.
+    Place from(int position) const;
+
+    // Those that begin on a line.
+    QList<const Kept *> allOn(const QTextBlock &line) const;
     const Kept *worstOn(const QTextBlock &line) const;
     Problem goTo(const Kept &kept);
+    QList<QRectF> placesIn(const ShownLine &line, const Kept &kept) const;
+    void drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line) const;
     void noteChange(int from, int removed, int added);
     void tellScreenReaders();
     bool showToolTip(const QHelpEvent &event);

@@ -1,5 +1,6 @@
 #include "editor/rules/structure/BlockWalk.h"
 #include "editor/rules/structure/Brackets.h"
+#include "editor/rules/structure/Folding.h"
 
 #include <gtest/gtest.h>
 
@@ -109,6 +110,26 @@ TEST(BlockWalk, passesOverComments)
 TEST(BlockWalk, takesAnElseIfForAnIfInsideTheElse)
 {
     EXPECT_EQ(forwards(u"|IF a\nELSE IF b\nELSE\nENDIF\nENDIF"_s), u"1:0 4:0."_s);
+}
+
+TEST(BlockFold, beginsWithAnIfThatDoesNotEndOnItsLine)
+{
+    EXPECT_TRUE(BlockFold::begins(u"if a"));
+    EXPECT_TRUE(BlockFold::begins(u"ENDIF IF a"));
+    EXPECT_TRUE(BlockFold::begins(u"IF a ENDIF IF b"));
+    EXPECT_FALSE(BlockFold::begins(u"IF a ENDIF"));
+    EXPECT_FALSE(BlockFold::begins(u"ELSE"));
+    EXPECT_FALSE(BlockFold::begins(u"REM IF a"));
+}
+
+TEST(BlockFold, endsWithTheOutermostBlock)
+{
+    BlockFold fold;
+    EXPECT_FALSE(fold.take(u"IF a IF b"));
+    EXPECT_FALSE(fold.take(u"ENDIF"));
+    EXPECT_FALSE(fold.take(u"IF c ENDIF ELSE"));
+    EXPECT_FALSE(fold.take(u"REM ENDIF"));
+    EXPECT_TRUE(fold.take(u"ENDIF x"));
 }
 
 TEST(Brackets, arePairedFromEitherSideOfTheCaret)
