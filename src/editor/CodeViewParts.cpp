@@ -4,7 +4,7 @@
 
 namespace ORVTListview {
 
-CodeViewParts::CodeViewParts(RichTextBox &editorBox)
+CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &programCommands)
     : box(&editorBox)
     , layers(BoxLayers::of(editorBox))
     , margin(new EditorMargin(editorBox, layers))
@@ -16,6 +16,8 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox)
     , currentLine(editorBox, layers)
     , wordUses(editorBox, layers)
     , pairs(editorBox, layers)
+    , commands(programCommands)
+    , commandsState(editorBox)
 {
     margin->addColumn(marks);
     margin->addColumn(numbers);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/CommandsState.h"
 #include "editor/view/Bookmarks.h"
 #include "editor/view/CurrentLine.h"
 #include "editor/view/EditorMargin.h"
@@ -15,11 +16,12 @@
 namespace ORVTListview {
 
 class RichTextBox;
+struct ProgramCommands;
 
 // What a view is made of, a class for each subject.
 struct CodeViewParts
 {
-    explicit CodeViewParts(RichTextBox &box);
+    CodeViewParts(RichTextBox &box, const ProgramCommands &commands);
     ~CodeViewParts();
     Q_DISABLE_COPY_MOVE(CodeViewParts) // the parts know one another
 
@@ -34,6 +36,8 @@ struct CodeViewParts
     CurrentLine currentLine;
     WordUses wordUses;
     PairMarks pairs;
+    const ProgramCommands &commands;
+    CommandsState commandsState;
 };
 
 } // namespace ORVTListview
