@@ -117,7 +117,8 @@ void LineBlocks::join() const
     m_tools.carryOut(change);
 }
 
-// The selection keeps its lines and, as far as these are long enough, its offsets there.
+// The selection keeps its lines and, as far as these are long enough, its offsets there;
+// where it reached to a line's end it still does.
 void LineBlocks::sort() const
 {
     if (!m_tools.begin())
@@ -138,10 +139,13 @@ void LineBlocks::sort() const
         const auto source = lines.first + static_cast<qint32>(places[i]);
         const qint32 place = start + static_cast<qint32>(sorted.text.size());
         const ColouredText text = coloured({source, source});
+        const auto length = static_cast<qint32>(text.text.size());
         const auto placed = [&](qint32 from, qint32 &to) {
-            if (box.GetLineFromChar(from) == line)
-                to = place +
-                     std::min(offsetInLine(box, from), static_cast<qint32>(text.text.size()));
+            if (box.GetLineFromChar(from) != line)
+                return;
+            const qint32 offset = offsetInLine(box, from);
+            const bool isAtEnd = offset > 0 && from == lineEnd(box, line);
+            to = place + (isAtEnd ? length : std::min(offset, length));
         };
         placed(now.anchor, then.anchor);
         placed(now.caret, then.caret);

@@ -34,7 +34,7 @@ private Q_SLOTS:
     void withoutASearchNothingIsFound()
     {
         FindHost host;
-        host.histories() = {};
+        host.histories().last = {};
         host.setText(u"a|b"_s);
         QVERIFY(!view(host).findNext());
         QVERIFY(!view(host).findPrevious());
