@@ -199,6 +199,30 @@
         <source>R&amp;eplace…</source>
         <translation>Erset&amp;zen …</translation>
     </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Nächste Fundstelle</translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious</source>
+        <translation>&amp;Vorige Fundstelle</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Use</source>
+        <translation>Nä&amp;chstes Vorkommen</translation>
+    </message>
+    <message>
+        <source>Prev&amp;ious Use</source>
+        <translation>V&amp;origes Vorkommen</translation>
+    </message>
+    <message>
+        <source>Go To &amp;Match</source>
+        <translation>Zum &amp;Partner</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>
@@ -264,6 +288,53 @@
     <message>
         <source>&amp;Language</source>
         <translation>&amp;Sprache</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::LinesMenu</name>
+    <message>
+        <source>&amp;Lines</source>
+        <translation>Ze&amp;ilen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Verdoppeln</translation>
+    </message>
+    <message>
+        <source>D&amp;elete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation>Ver&amp;binden</translation>
+    </message>
+    <message>
+        <source>&amp;Sort</source>
+        <translation>&amp;Sortieren</translation>
+    </message>
+    <message>
+        <source>&amp;Comment</source>
+        <translation>&amp;Kommentar</translation>
+    </message>
+    <message>
+        <source>&amp;Tidy</source>
+        <translation>&amp;Aufräumen</translation>
+    </message>
+    <message>
+        <source>C&amp;apital Letters</source>
+        <translation>&amp;Großbuchstaben</translation>
+    </message>
+    <message>
+        <source>S&amp;mall Letters</source>
+        <translation>Kl&amp;einbuchstaben</translation>
     </message>
 </context>
 <context>

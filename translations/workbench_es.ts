@@ -199,6 +199,30 @@
         <source>R&amp;eplace…</source>
         <translation>Ree&amp;mplazar…</translation>
     </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Buscar sigu&amp;iente</translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious</source>
+        <translation>Buscar an&amp;terior</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Use</source>
+        <translation>Uso si&amp;guiente</translation>
+    </message>
+    <message>
+        <source>Prev&amp;ious Use</source>
+        <translation>Uso pre&amp;vio</translation>
+    </message>
+    <message>
+        <source>Go To &amp;Match</source>
+        <translation>Ir a la pare&amp;ja</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>No se ha encontrado nada.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>
@@ -264,6 +288,53 @@
     <message>
         <source>&amp;Language</source>
         <translation>&amp;Idioma</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::LinesMenu</name>
+    <message>
+        <source>&amp;Lines</source>
+        <translation>Líne&amp;as</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Hacia &amp;arriba</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Hacia a&amp;bajo</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Duplicar</translation>
+    </message>
+    <message>
+        <source>D&amp;elete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation>&amp;Unir</translation>
+    </message>
+    <message>
+        <source>&amp;Sort</source>
+        <translation>&amp;Ordenar</translation>
+    </message>
+    <message>
+        <source>&amp;Comment</source>
+        <translation>&amp;Comentario</translation>
+    </message>
+    <message>
+        <source>&amp;Tidy</source>
+        <translation>&amp;Poner en orden</translation>
+    </message>
+    <message>
+        <source>C&amp;apital Letters</source>
+        <translation>&amp;Mayúsculas</translation>
+    </message>
+    <message>
+        <source>S&amp;mall Letters</source>
+        <translation>M&amp;inúsculas</translation>
     </message>
 </context>
 <context>

@@ -199,6 +199,30 @@
         <source>R&amp;eplace…</source>
         <translation>Rem&amp;placer…</translation>
     </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Rechercher le &amp;suivant</translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious</source>
+        <translation>Rechercher le précé&amp;dent</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Use</source>
+        <translation>Occurre&amp;nce suivante</translation>
+    </message>
+    <message>
+        <source>Prev&amp;ious Use</source>
+        <translation>Occ&amp;urrence précédente</translation>
+    </message>
+    <message>
+        <source>Go To &amp;Match</source>
+        <translation>Aller au part&amp;enaire</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Rien n’a été trouvé.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>
@@ -264,6 +288,53 @@
     <message>
         <source>&amp;Language</source>
         <translation>&amp;Langue</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::LinesMenu</name>
+    <message>
+        <source>&amp;Lines</source>
+        <translation>Li&amp;gnes</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Vers le &amp;haut</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Vers le &amp;bas</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Dupliquer</translation>
+    </message>
+    <message>
+        <source>D&amp;elete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation>&amp;Joindre</translation>
+    </message>
+    <message>
+        <source>&amp;Sort</source>
+        <translation>&amp;Trier</translation>
+    </message>
+    <message>
+        <source>&amp;Comment</source>
+        <translation>&amp;Commentaire</translation>
+    </message>
+    <message>
+        <source>&amp;Tidy</source>
+        <translation>&amp;Mettre en ordre</translation>
+    </message>
+    <message>
+        <source>C&amp;apital Letters</source>
+        <translation>M&amp;ajuscules</translation>
+    </message>
+    <message>
+        <source>S&amp;mall Letters</source>
+        <translation>M&amp;inuscules</translation>
     </message>
 </context>
 <context>

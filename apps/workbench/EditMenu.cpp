@@ -1,8 +1,10 @@
 #include "EditMenu.h"
 
 #include "ColouredCopy.h"
+#include "LinesMenu.h"
 #include "widgets/box/BoxCommands.h"
 
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/RichTextBox.h>
 
@@ -18,6 +20,7 @@ namespace ORVTListview {
 EditMenu::EditMenu(ORVListView &code, QWidget *parent)
     : QMenu(tr("&Edit"), parent)
     , m_code(code)
+    , m_view(*code.codeView())
 {
     addHistory();
     addSeparator();
@@ -27,6 +30,8 @@ EditMenu::EditMenu(ORVListView &code, QWidget *parent)
     addSeparator();
     add(tr("Select &All"), QKeySequence::SelectAll, &EditMenu::selectAll);
     add(tr("&Known Words"), QKeySequence(Qt::CTRL | Qt::Key_Space), &EditMenu::showKnownWords);
+    addSeparator();
+    addCommands();
     connect(this, &QMenu::aboutToShow, this, &EditMenu::refresh);
     connect(&code, &ORVListView::UpdateUndoMenu, this, &EditMenu::refresh);
     connect(&code, &ORVListView::listviewTypeChanged, this, &EditMenu::refresh);
@@ -53,6 +58,31 @@ void EditMenu::addFinding()
 {
     addAction(tr("&Find…"), QKeySequence(Qt::CTRL | Qt::Key_F), this, &EditMenu::find);
     addAction(tr("R&eplace…"), QKeySequence(Qt::CTRL | Qt::Key_H), this, &EditMenu::replace);
+    addAction(tr("Find &Next"), QKeySequence(Qt::Key_F3), this,
+              [this] { tellUnless(m_view.findNext()); });
+    addAction(tr("Find Pre&vious"), QKeySequence(Qt::SHIFT | Qt::Key_F3), this,
+              [this] { tellUnless(m_view.findPrevious()); });
+    addAction(tr("Ne&xt Use"), QKeySequence(Qt::CTRL | Qt::Key_E), this,
+              [this] { tellUnless(m_view.findNextAtCaret()); });
+    addAction(tr("Prev&ious Use"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E), this,
+              [this] { tellUnless(m_view.findPreviousAtCaret()); });
+}
+
+void EditMenu::addCommands()
+{
+    auto *lines = new LinesMenu(m_view, this);
+    connect(lines, &LinesMenu::acted, this, &EditMenu::acted);
+    addMenu(lines);
+    addAction(tr("Go To &Match"), QKeySequence(Qt::CTRL | Qt::Key_B), this,
+              [this] { tellUnless(m_view.goToPartner()); });
+}
+
+void EditMenu::tellUnless(bool isFound)
+{
+    if (isFound)
+        Q_EMIT acted();
+    else
+        Q_EMIT told(tr("Nothing was found."));
 }
 
 // The keys are shown only: the editor acts on them itself, and where something else

@@ -4,6 +4,7 @@
 
 namespace ORVTListview {
 
+class CodeView;
 class ORVListView;
 
 // What the editor offers a host's menu. Its commands can be chosen when they have
@@ -29,6 +30,7 @@ private:
     void addHistory();
     void addClipboard();
     void addFinding();
+    void addCommands();
     void undo();
     void redo();
     void restoreTypedText();
@@ -38,10 +40,12 @@ private:
     void paste();
     void selectAll();
     void showKnownWords();
+    void tellUnless(bool isFound);
     void find();
     void replace();
 
     ORVListView &m_code;
+    CodeView &m_view;
     bool m_hasRestored = false; // something, since the last time there was nothing
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;

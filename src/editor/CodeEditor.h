@@ -4,6 +4,7 @@
 #include "editor/EditorThread.h"
 #include "editor/EditorUndo.h"
 #include "editor/ProgramClipboard.h"
+#include "editor/ProgramCommands.h"
 #include "editor/ProgramEditing.h"
 #include "editor/ProgramPlaces.h"
 #include "editor/ProgramText.h"
@@ -78,6 +79,7 @@ private:
     ProgramEditing m_editing;
     ProgramPlaces m_places;
     EditorKeys m_keys;
+    const ProgramCommands m_commands;
     CodeView m_view;
     TabStops m_tabStops;
     QPointer<QWidget> m_form;

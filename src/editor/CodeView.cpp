@@ -2,12 +2,17 @@
 
 #include "base/EventGuard.h"
 #include "editor/CodeViewParts.h"
+#include "editor/ProgramCommands.h"
+#include <ORVTListview/RichTextBox.h>
 
 namespace ORVTListview {
 
-CodeView::CodeView(RichTextBox &box)
-    : d(std::make_unique<CodeViewParts>(box))
+CodeView::CodeView(RichTextBox &box, const ProgramCommands &commands)
+    : d(std::make_unique<CodeViewParts>(box, commands))
 {
+    connect(&d->commandsState, &CommandsState::changed, this, [this](bool enabled) {
+        raiseEvent(*this, &CodeView::commandsEnabledChanged, enabled);
+    });
     connect(&d->marks, &MarkColumn::chosen, this, [this](const Problem &problem) {
         raiseEvent(*this, &CodeView::problemChosen, problem);
     });
@@ -151,6 +156,86 @@ void CodeView::toggleBookmark()
 bool CodeView::nextBookmark()
 {
     return d->bookmarks.goToNext();
+}
+
+bool CodeView::commandsEnabled() const
+{
+    return d->box && mayChangeIn(*d->box);
+}
+
+void CodeView::goToLine(qint32 line)
+{
+    d->commands.caret.goToLine(line);
+}
+
+bool CodeView::goToPartner()
+{
+    return d->commands.caret.goToPartner();
+}
+
+void CodeView::moveLines(int by)
+{
+    d->commands.lines.move(by);
+}
+
+void CodeView::duplicateLines()
+{
+    d->commands.lines.duplicate();
+}
+
+void CodeView::deleteLines()
+{
+    d->commands.lines.remove();
+}
+
+void CodeView::joinLines()
+{
+    d->commands.lines.join();
+}
+
+void CodeView::sortLines()
+{
+    d->commands.lines.sort();
+}
+
+void CodeView::toggleComment()
+{
+    d->commands.texts.toggleComment();
+}
+
+void CodeView::upperCase()
+{
+    d->commands.texts.upperCase();
+}
+
+void CodeView::lowerCase()
+{
+    d->commands.texts.lowerCase();
+}
+
+void CodeView::tidy()
+{
+    d->commands.texts.tidy();
+}
+
+bool CodeView::findNext()
+{
+    return d->commands.finding.findAgain(ProgramFinding::Way::Forwards);
+}
+
+bool CodeView::findPrevious()
+{
+    return d->commands.finding.findAgain(ProgramFinding::Way::Backwards);
+}
+
+bool CodeView::findNextAtCaret()
+{
+    return d->commands.finding.findWordAtCaret(ProgramFinding::Way::Forwards);
+}
+
+bool CodeView::findPreviousAtCaret()
+{
+    return d->commands.finding.findWordAtCaret(ProgramFinding::Way::Backwards);
 }
 
 } // namespace ORVTListview

@@ -4,7 +4,7 @@
 
 namespace ORVTListview {
 
-CodeViewParts::CodeViewParts(RichTextBox &editorBox)
+CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &programCommands)
     : box(&editorBox)
     , layers(BoxLayers::of(editorBox))
     , margin(new EditorMargin(editorBox, layers))
@@ -20,6 +20,8 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox)
     , indentGuides(editorBox, layers)
     , blanks(editorBox, layers)
     , zoom(editorBox, layers)
+    , commands(programCommands)
+    , commandsState(editorBox)
 {
     margin->addColumn(marks);
     margin->addColumn(numbers);

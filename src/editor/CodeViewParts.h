@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/CommandsState.h"
 #include "editor/view/BlankMarks.h"
 #include "editor/view/Bookmarks.h"
 #include "editor/view/CurrentLine.h"
@@ -19,11 +20,12 @@
 namespace ORVTListview {
 
 class RichTextBox;
+struct ProgramCommands;
 
 // What a view is made of, a class for each subject.
 struct CodeViewParts
 {
-    explicit CodeViewParts(RichTextBox &box);
+    CodeViewParts(RichTextBox &box, const ProgramCommands &commands);
     ~CodeViewParts();
     Q_DISABLE_COPY_MOVE(CodeViewParts) // the parts know one another
 
@@ -42,6 +44,8 @@ struct CodeViewParts
     IndentGuides indentGuides;
     BlankMarks blanks;
     Zoom zoom;
+    const ProgramCommands &commands;
+    CommandsState commandsState;
 };
 
 } // namespace ORVTListview

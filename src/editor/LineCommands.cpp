@@ -2,6 +2,7 @@
 
 #include "base/TextPiece.h"
 #include "base/TextRules.h"
+#include "editor/BoxSelection.h"
 #include "editor/rules/language/CodeText.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -16,22 +17,6 @@ namespace {
 bool isAllBlank(QStringView text)
 {
     return std::all_of(text.begin(), text.end(), isBlank);
-}
-
-struct Lines
-{
-    qint32 first = 0;
-    qint32 last = 0;
-};
-
-Lines selectedLines(const RichTextBox &box)
-{
-    const qint32 start = box.SelStart();
-    const qint32 end = start + box.SelLength();
-    Lines lines{box.GetLineFromChar(start), box.GetLineFromChar(end)};
-    if (lines.last > lines.first && box.lineStart(lines.last) == end)
-        --lines.last;
-    return lines;
 }
 
 // What is folded is stepped over.
@@ -85,7 +70,7 @@ void LineCommands::setZoom(int percent)
 template <typename ChangeLine>
 void LineCommands::changeSelectedLines(ChangeLine changeLine)
 {
-    const Lines lines = selectedLines(m_box);
+    const LineSpan lines = selectedLines(m_box);
     const qint32 selStart = m_box.SelStart();
     const qint32 selEnd = selStart + m_box.SelLength();
     const bool isUpward = m_box.textCursor().position() < m_box.textCursor().anchor();
@@ -112,27 +97,14 @@ void LineCommands::changeSelectedLines(ChangeLine changeLine)
         changed.text += after.first(added) + kept.text;
         changed.runs += kept.runs;
     }
-    const qint32 end =
-        m_box.lineStart(lines.last) + static_cast<qint32>(m_box.lineText(lines.last).size());
+    const qint32 end = lineEnd(m_box, lines.last);
     m_box.setSelStart(begin);
     m_box.setSelLength(end - begin);
     m_box.setSelColoured(changed);
     if (isUpward)
-        select(newEnd, newStart);
+        select(m_box, {newEnd, newStart});
     else
-        select(newStart, newEnd);
-}
-
-void LineCommands::select(qint32 anchor, qint32 caret)
-{
-    const auto inDocument = [this](qint32 place) {
-        const qint32 line = m_box.GetLineFromChar(place);
-        return m_box.document()->findBlockByNumber(line).position() + place - m_box.lineStart(line);
-    };
-    QTextCursor cursor = m_box.textCursor();
-    cursor.setPosition(inDocument(anchor));
-    cursor.setPosition(inDocument(caret), QTextCursor::KeepAnchor);
-    m_box.setTextCursor(cursor);
+        select(m_box, {newStart, newEnd});
 }
 
 void LineCommands::indentSelectedLines()

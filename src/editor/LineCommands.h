@@ -53,7 +53,6 @@ private:
     void changeSelectedLines(ChangeLine changeLine);
 
     QString withoutOneUnit(const QString &line) const;
-    void select(qint32 anchor, qint32 caret);
 
     RichTextBox &m_box;
     int m_zoom = 100;

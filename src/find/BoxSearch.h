@@ -25,6 +25,8 @@ public:
 
     void setOption(RichTextBox::FindOption option, bool on) { m_options.setFlag(option, on); }
 
+    TextSearch how() const;
+
     // Selects the next match and returns true; else takes the selection away, and the
     // next search begins at the front. An empty text changes nothing.
     bool findNext(const QString &wanted);
@@ -37,8 +39,6 @@ public:
     qsizetype replaceAll(const QString &wanted, const QString &text);
 
 private:
-    TextSearch how() const;
-
     QPointer<QObject> m_box;
     qint32 m_start = 0; // of the next search
     QFlags<RichTextBox::FindOption> m_options;

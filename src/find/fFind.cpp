@@ -160,6 +160,7 @@ void fFind::findNext()
 {
     if (searched().isEmpty() || !m_search.box())
         return;
+    noteSearch();
     if (m_search.findNext(searched())) {
         tell([place = caretPosition(*m_search.box())] {
             return Localise(u"Found in"_s) + u' ' + positionDisplay(place);
@@ -169,6 +170,12 @@ void fFind::findNext()
         tell([] { return Localise(u"Not found!"_s); });
     }
     remember(*m_Cbo[0], threadPart<SearchHistories>().searched);
+}
+
+// For searches without the dialog.
+void fFind::noteSearch()
+{
+    threadPart<SearchHistories>().last = {searched(), m_search.how()};
 }
 
 void fFind::replace()
@@ -194,6 +201,7 @@ void fFind::replaceAll()
         m_search.box()->setSelLength(0);
         return;
     }
+    noteSearch();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);

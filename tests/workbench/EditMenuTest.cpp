@@ -30,22 +30,59 @@ private Q_SLOTS:
     void offersWhatCanBeDone()
     {
         WorkbenchWindow workbench("Fan1 = ON");
-        QCOMPARE(enabled(workbench),
-                 u"Restore Typed Text, Find…, Replace…, Select All, Known Words"_s);
+        QCOMPARE(
+            enabled(workbench),
+            u"Restore Typed Text, Find…, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
         workbench.choose(u"Select All"_s);
         QCOMPARE(workbench.box().SelText(), u"Fan1 = ON"_s);
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Cut, Copy, Copy with Colours, Find…, Replace…, Select All, Known Words"_s);
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Find…, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
         workbench.choose(u"Copy"_s);
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Fan1 = ON"_s);
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Cut, Copy, Copy with Colours, Paste, Find…, Replace…, Select All, Known Words"_s);
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Paste, Find…, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
         workbench.choose(u"Cut"_s);
         QCOMPARE(workbench.code().CodeText(), QString());
-        QCOMPARE(enabled(workbench),
-                 u"Undo, Restore Typed Text, Paste, Find…, Replace…, Select All, Known Words"_s);
+        QCOMPARE(
+            enabled(workbench),
+            u"Undo, Restore Typed Text, Paste, Find…, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
+    }
+
+    void commandsHaveTheKeysOfTheWorkbench()
+    {
+        WorkbenchWindow workbench("one = 1\r\nTWO (x)");
+        workbench.key(Qt::Key_Down, Qt::AltModifier);
+        QCOMPARE(workbench.code().CodeText(), u"TWO (x)\r\none = 1"_s);
+        workbench.key(Qt::Key_Up, Qt::AltModifier);
+        workbench.key(Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(workbench.code().CodeText(), u"one = 1\r\none = 1\r\nTWO (x)"_s);
+        workbench.key(Qt::Key_K, Qt::ControlModifier | Qt::ShiftModifier);
+        workbench.key(Qt::Key_K, Qt::ControlModifier);
+        QCOMPARE(workbench.code().CodeText(), u"REM one = 1\r\nTWO (x)"_s);
+        workbench.key(Qt::Key_K, Qt::ControlModifier);
+        workbench.key(Qt::Key_J, Qt::ControlModifier);
+        QCOMPARE(workbench.code().CodeText(), u"one = 1 TWO (x)"_s);
+        workbench.key(Qt::Key_T, Qt::ControlModifier);
+        QCOMPARE(workbench.code().CodeText(), u"one = 1 TWO ( x )"_s);
+        workbench.key(Qt::Key_A, Qt::ControlModifier);
+        workbench.key(Qt::Key_U, Qt::ControlModifier);
+        QCOMPARE(workbench.code().CodeText(), u"ONE = 1 TWO ( X )"_s);
+        workbench.box().setSelStart(12);
+        workbench.key(Qt::Key_B, Qt::ControlModifier);
+        QCOMPARE(workbench.box().SelStart(), 16);
+    }
+
+    void commandsFollowTheEditor()
+    {
+        WorkbenchWindow workbench("one = 1");
+        const QMenu *lines = workbench.command(u"Lines"_s)->menu();
+        QTRY_VERIFY(lines->actions().first()->isEnabled());
+        workbench.box().setReadOnly(true);
+        QTRY_VERIFY(!lines->actions().first()->isEnabled());
+        workbench.box().setReadOnly(false);
+        QTRY_VERIFY(lines->actions().first()->isEnabled());
     }
 
     void copiesWithColours()

@@ -13,6 +13,7 @@ namespace ORVTListview {
 
 class RichTextBox;
 struct CodeViewParts;
+struct ProgramCommands;
 
 // What a code editor shows beside the colours of its words. All of it is off at first,
 // and none of it is part of the text: it changes no text, no RTF, no snapshot, no event
@@ -32,6 +33,7 @@ class ORVT_EXPORT CodeView : public QObject
                    indentGuidesShownChanged)
     Q_PROPERTY(bool blanksShown READ blanksShown WRITE setBlanksShown NOTIFY blanksShownChanged)
     Q_PROPERTY(qint32 zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
+    Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY commandsEnabledChanged)
 
 public:
     ~CodeView() override;
@@ -102,6 +104,60 @@ public:
     Q_INVOKABLE void foldAll();
     Q_INVOKABLE void unfoldAll();
 
+    // What a host binds to its menu; none has a key of its own. The commands that change
+    // the program do nothing while the control shows a table, or the editor is hidden,
+    // disabled or read-only. Each is one change with one snapshot for undo, and none when
+    // there is nothing to do; the selection and the lines in view stay. Those that only
+    // move the caret act in a read-only editor, too.
+
+    // Whether the commands that change the program are possible.
+    bool commandsEnabled() const;
+
+    // Puts the caret to the begin of a line, counted from 1; the nearest line counts. It
+    // comes to the middle when it was out of view.
+    Q_INVOKABLE void goToLine(qint32 line);
+
+    // Puts the caret from a bracket to its partner, from an IF, ELSE or ENDIF to the next
+    // of its block and from the last to the first. False when there is none.
+    Q_INVOKABLE bool goToPartner();
+
+    // On the lines that the selection touches, or that of the caret; one at whose very
+    // beginning the selection ends is not touched. moveLines takes them so many lines down,
+    // or up for a negative number, as far as there are lines. duplicateLines puts a copy
+    // behind them. joinLines makes them one line, words one blank apart, a single line with
+    // the next one. sortLines puts them in order whatever their letter case, 2 before 10.
+    Q_INVOKABLE void moveLines(int by);
+    Q_INVOKABLE void duplicateLines();
+    Q_INVOKABLE void deleteLines();
+    Q_INVOKABLE void joinLines();
+    Q_INVOKABLE void sortLines();
+
+    // Puts "REM " before the first word of each line of the selection, or takes it away
+    // when all of them are comments. Empty lines stay empty.
+    Q_INVOKABLE void toggleComment();
+
+    // The selected text in capital or small letters. Known words are written as listed
+    // again once their line is finished.
+    Q_INVOKABLE void upperCase();
+    Q_INVOKABLE void lowerCase();
+
+    // Indents the lines of the selection, or all without one, by IF, ELSE and ENDIF with
+    // the control's indentUnit, sets brackets off by one blank as GetColorText does, makes
+    // a tab between words a blank, and takes blanks at the end of a line away. Of a comment
+    // only the indent changes.
+    Q_INVOKABLE void tidy();
+
+    // Select the next or previous match of what the find dialog searched for last on this
+    // thread, with the options that it had, going round at the end. False, and nothing
+    // changed, when there is none or nothing has been searched for.
+    Q_INVOKABLE bool findNext();
+    Q_INVOKABLE bool findPrevious();
+
+    // The same for the word at the caret, as a whole word in any letter case. False when
+    // there is no other one.
+    Q_INVOKABLE bool findNextAtCaret();
+    Q_INVOKABLE bool findPreviousAtCaret();
+
 Q_SIGNALS:
     void lineNumbersVisibleChanged(bool visible);
     void currentLineShownChanged(bool shown);
@@ -111,6 +167,9 @@ Q_SIGNALS:
     void blanksShownChanged(bool shown);
     void zoomChanged(qint32 percent);
 
+    // Soon after the editor was shown, hidden, enabled, disabled or made read-only.
+    void commandsEnabledChanged(bool enabled);
+
     // The caret was put to a problem: by a click on its sign, of which the worst of the
     // line counts, by nextProblem or by previousProblem.
     void problemChosen(const ORVTListview::Problem &problem);
@@ -118,7 +177,7 @@ Q_SIGNALS:
 private:
     friend class CodeEditor;
 
-    explicit CodeView(RichTextBox &box);
+    CodeView(RichTextBox &box, const ProgramCommands &commands);
 
     bool tellChosen(const std::optional<Problem> &problem);
 

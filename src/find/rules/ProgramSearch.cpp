@@ -31,6 +31,17 @@ qsizetype findInProgram(QStringView text, QStringView wanted, qsizetype start, T
     return place;
 }
 
+qsizetype findInProgramBefore(QStringView text, QStringView wanted, qsizetype end, TextSearch how)
+{
+    qsizetype last = -1;
+    qsizetype place = findInProgram(text, wanted, 0, how);
+    while (place >= 0 && place + wanted.size() <= end) {
+        last = place;
+        place = findInProgram(text, wanted, place + 1, how);
+    }
+    return last;
+}
+
 QList<qsizetype> placesToReplace(QStringView text, QStringView wanted, TextSearch how)
 {
     QList<qsizetype> places;

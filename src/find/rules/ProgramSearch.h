@@ -13,6 +13,10 @@ namespace ORVTListview {
 ORVT_HOUSE_EXPORT qsizetype findInProgram(QStringView text, QStringView wanted, qsizetype start,
                                           TextSearch how);
 
+// The last match that ends at `end` or before it, or -1.
+ORVT_HOUSE_EXPORT qsizetype findInProgramBefore(QStringView text, QStringView wanted, qsizetype end,
+                                                TextSearch how);
+
 // The places at which all of a program's matches are replaced, from front to back.
 // They do not overlap, and one that begins where another ends is left out: the
 // search goes on one character behind what takes a match's place.

@@ -3,6 +3,7 @@
 #include <ORVTListview/KeyedCollection.h>
 
 #include "base/HouseExport.h"
+#include "base/TextSearch.h"
 
 #include <QtCore/QStringList>
 
@@ -30,6 +31,14 @@ struct SearchHistories
 {
     SearchHistory searched;
     SearchHistory replacements;
+
+    // The last search that the user started, and how; without a text before the first.
+    struct Last
+    {
+        QString text;
+        TextSearch how;
+    };
+    Last last;
 };
 
 } // namespace ORVTListview

@@ -105,3 +105,15 @@ TEST(ProgramSearch, AgreesWithASimpleSearch)
     }
     EXPECT_GT(found, 1'000);
 }
+
+TEST(ProgramSearch, GoesBackwards)
+{
+    const QString text = u"T1 xT1 t1"_s;
+    EXPECT_EQ(findInProgramBefore(text, u"t1"_s, 9, {}), 7);
+    EXPECT_EQ(findInProgramBefore(text, u"t1"_s, 8, {}), 4);
+    EXPECT_EQ(findInProgramBefore(text, u"t1"_s, 8, wholeWord), 0);
+    EXPECT_EQ(findInProgramBefore(text, u"t1"_s, 9, matchCase), 7);
+    EXPECT_EQ(findInProgramBefore(text, u"t1"_s, 1, {}), -1);
+    EXPECT_EQ(findInProgramBefore(u"T1_A"_s, u"T1"_s, 2, wholeWord), -1);
+    EXPECT_EQ(findInProgramBefore(text, QString(), 9, {}), -1);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtGui/QKeySequence>
+#include <QtWidgets/QMenu>
+
+#include <functional>
+
+namespace ORVTListview {
+
+class CodeView;
+
+// What the editor does to lines and to the selection, with the keys that the workbench
+// gives it. It can be chosen while the program may be changed.
+class LinesMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    LinesMenu(CodeView &view, QWidget *parent);
+
+Q_SIGNALS:
+    // A command has been carried out, and the caret may have moved.
+    void acted();
+
+private:
+    void addMoves();
+    void addTexts();
+    void add(const QString &text, const QKeySequence &keys,
+             const std::function<void(CodeView &view)> &command);
+    void setPossible(bool possible);
+
+    CodeView &m_view;
+};
+
+} // namespace ORVTListview

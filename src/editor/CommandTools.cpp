@@ -1,0 +1,46 @@
+#include "editor/CommandTools.h"
+
+#include "base/MessageService.h"
+#include "editor/EditorThread.h"
+#include "editor/EditorUndo.h"
+#include "editor/TypedColouring.h"
+#include "widgets/box/KeptView.h"
+#include "widgets/box/UserEditing.h"
+#include <ORVTListview/RichTextBox.h>
+
+namespace ORVTListview {
+
+bool mayGoIn(const RichTextBox &box)
+{
+    return !box.isHidden() && box.isEnabled();
+}
+
+bool mayChangeIn(const RichTextBox &box)
+{
+    return !box.isHidden() && mayUserEdit(box);
+}
+
+bool CommandTools::begin() const
+{
+    if (!mayChangeIn(box))
+        return false;
+    colouring.finishEdit();
+    return true;
+}
+
+void CommandTools::carryOut(const CommandChange &change) const
+{
+    if (change.pieces.isEmpty())
+        return;
+    const MessagesLater later(thread.messages);
+    const RichTextBox::Changing changing(box);
+    undo.PushUndoSnapshot();
+    const KeptView view(box);
+    box.replacePieces(change.pieces, change.texts, [&] {
+        for (const qint32 line : change.linesToFinish)
+            colouring.finishLine(line);
+    });
+    select(box, change.selection);
+}
+
+} // namespace ORVTListview

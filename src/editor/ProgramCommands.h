@@ -1,0 +1,27 @@
+#pragma once
+
+#include "editor/CaretCommands.h"
+#include "editor/LineBlocks.h"
+#include "editor/ProgramFinding.h"
+#include "editor/TextCommands.h"
+
+namespace ORVTListview {
+
+// What a host binds to its menu beyond the keys, a class for each subject.
+struct ProgramCommands
+{
+    ProgramCommands(const CommandTools &tools, const LineCommands &lineCommands)
+        : caret(tools)
+        , finding(tools)
+        , lines(tools)
+        , texts(tools, lineCommands)
+    {
+    }
+
+    const CaretCommands caret;
+    const ProgramFinding finding;
+    const LineBlocks lines;
+    const TextCommands texts;
+};
+
+} // namespace ORVTListview
