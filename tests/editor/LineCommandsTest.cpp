@@ -248,7 +248,7 @@ private Q_SLOTS:
         QString lines = u"IF Temp1\n"_s;
         for (int i = 0; i < 200; ++i)
             lines += u"x%1 = 1\n"_s.arg(i);
-        m_host->setText((lines + changeable() + lines).replace(u"\n"_s, u"\r\n"_s));
+        m_host->setText(QString(lines + changeable() + lines).replace(u"\n"_s, u"\r\n"_s));
         QCoreApplication::processEvents();
         box().verticalScrollBar()->setValue(195);
         command(view());
