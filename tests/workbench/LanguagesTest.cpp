@@ -39,8 +39,8 @@ private:
 
     // What is the same word in both languages.
     const QHash<QString, QStringList> sameAsEnglish{
-        {u"de"_s, {u"Variable"_s}},
-        {u"es"_s, {u"Variable"_s, u"Variables"_s, u"No"_s}},
+        {u"de"_s, {u"Variable"_s, u"&Editor"_s}},
+        {u"es"_s, {u"Variable"_s, u"Variables"_s, u"No"_s, u"&Editor"_s}},
         {u"fr"_s, {u"Variable"_s, u"Variables"_s, u"Points"_s, u"P&oints"_s}}};
 
 private Q_SLOTS:

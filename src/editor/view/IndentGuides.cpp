@@ -22,7 +22,7 @@ constexpr int farthest = 50; // lines that a blank one looks for another
 std::optional<qreal> indentOf(const QTextBlock &line)
 {
     const QString text = line.text();
-    const auto letter =
+    const auto *const letter =
         std::find_if(text.cbegin(), text.cend(), [](QChar c) { return !isBlank(c); });
     if (letter == text.cend())
         return {};

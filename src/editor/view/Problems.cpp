@@ -126,7 +126,7 @@ QList<Problem> Problems::list() const
 
 Problem Problems::goTo(const Kept &kept)
 {
-    const Problem problem = kept.now();
+    Problem problem = kept.now();
     QTextCursor caret = m_box.textCursor();
     caret.setPosition(kept.place.selectionStart());
     const KeptView view(m_box);

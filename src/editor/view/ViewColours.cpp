@@ -62,9 +62,9 @@ QColor ViewColours::faintGround(const QColor &ground)
 {
     constexpr int noticeable = 9; // of 255
     const QColor away = isLight(ground) ? Qt::white : Qt::black;
-    const QColor farther = mixed(ground, away, 0.5);
-    if (distance(farther, ground) >= noticeable)
-        return farther;
+    const QColor mixture = mixed(ground, away, 0.5);
+    if (distance(ground, mixture) >= noticeable)
+        return mixture;
     // Blue adds next to nothing to what the eye takes for bright.
     return isLight(ground)
                ? QColor(ground.red(), ground.green(), std::max(0, ground.blue() - 30))

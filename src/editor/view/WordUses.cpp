@@ -56,7 +56,7 @@ QString WordUses::wordAtCaret() const
             return {};
     }
     for (const LinePiece &word : wordsOf(line)) {
-        const QString text = line.sliced(word.offset, word.length);
+        QString text = line.sliced(word.offset, word.length);
         if (isAt(word, offset) && holdsLetter(text))
             return text;
     }

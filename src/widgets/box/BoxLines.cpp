@@ -9,7 +9,7 @@
 namespace ORVTListview {
 namespace {
 
-const QStringView lineEnd = u"\r\n";
+const QStringView lineEnding = u"\r\n";
 
 } // namespace
 
@@ -53,7 +53,7 @@ void BoxLines::findLines()
     const QStringView text = m_text.text;
     Line line;
     for (;;) {
-        const qsizetype end = text.indexOf(lineEnd, line.start);
+        const qsizetype end = text.indexOf(lineEnding, line.start);
         line.length = (end < 0 ? text.size() : end) - line.start;
         while (line.run < m_text.runs.size() &&
                line.runStart + m_text.runs[line.run].length <= line.start)
@@ -61,7 +61,7 @@ void BoxLines::findLines()
         m_lines.append(line);
         if (end < 0)
             return;
-        line.start = end + lineEnd.size();
+        line.start = end + lineEnding.size();
     }
 }
 

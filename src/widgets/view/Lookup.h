@@ -11,7 +11,7 @@ namespace ORVTListview {
 struct CalledMember
 {
     QStringView object;
-    const char *member;
+    const char *member = "";
 
     QString name() const;
 };

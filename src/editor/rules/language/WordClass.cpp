@@ -12,8 +12,8 @@ constexpr qint32 noType = -1;
 
 struct ClassLook
 {
-    ColourIndex colour;
-    PictureNumber picture;
+    ColourIndex colour{};
+    PictureNumber picture{};
     qint32 type = noType; // of the points whose names are of this class
 };
 
