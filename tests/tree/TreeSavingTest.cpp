@@ -184,7 +184,8 @@ void TreeSavingTest::aFileOfManyOthersLosesNone()
 void TreeSavingTest::aReadOnlyFileStays()
 {
     store(u"Inputs"_s, u"1"_s);
-    QVERIFY(QFile::setPermissions(settings(), QFileDevice::ReadOwner | QFileDevice::ReadOther));
+    QVERIFY(QFile::setPermissions(settings(), QFileDevice::ReadOwner | QFileDevice::ReadGroup |
+                                                  QFileDevice::ReadOther));
     const QByteArray before = folder().content(u"settings.ini"_s);
     {
         const WithoutRights here(folder().path({}));
