@@ -73,8 +73,9 @@ public:
     // What a check found: underlined, with its sign in the margin and its place on the
     // scroll bar, with its text as tool tip and told to screen readers on the caret's
     // line. What lies outside the program counts as the nearest place inside. While the
-    // text is edited a problem moves with it, and goes when its text goes. With the whole
-    // text, which undo and redo set, too, all go. The list comes back from the top, with the places
+    // text is edited a problem moves with it, and goes when its text goes; with the whole
+    // text all go. Undo and redo leave those on lines that they do not change, or take all
+    // when they change most of the text. The list comes back from the top, with the places
     // of now.
     Q_INVOKABLE void setProblems(const QList<ORVTListview::Problem> &problems);
     Q_INVOKABLE QList<ORVTListview::Problem> problems() const;
@@ -85,8 +86,8 @@ public:
     Q_INVOKABLE bool previousProblem();
 
     // Marks the line of the caret, or takes its mark away. A mark is shown in the margin
-    // and on the scroll bar, and goes with its line; with the whole
-    // text all go, as problems do.
+    // and on the scroll bar, and goes with its line; with the whole text all go, as
+    // problems do.
     Q_INVOKABLE void toggleBookmark();
 
     // Puts the caret to the next marked line, going round at the end. False without one.

@@ -211,6 +211,23 @@ private Q_SLOTS:
         QCOMPARE(shownPlaces(), u"1:6+5 2:0+2"_s);
     }
 
+    void stayOverUndoOnLinesThatItLeaves()
+    {
+        m_host->list->openProgram(QStringList(12, u"one = temp1"_s).join(u"\r\n"_s));
+        view().setProblems({problem(1, 6, 5), problem(5, 6, 5), problem(10, 0, 3)});
+        caretTo(12);
+        view().toggleBookmark();
+        caretTo(5);
+        m_host->type(u"a b\n"_s);
+        QCOMPARE(shownPlaces(), u"1:6+5 6:6+5 11:0+3"_s);
+        m_host->key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(box().lineCount(), 12);
+        QVERIFY(shownPlaces().startsWith(u"1:6+5 "_s));
+        QVERIFY(shownPlaces().endsWith(u" 10:0+3"_s));
+        QVERIFY(view().nextBookmark());
+        QCOMPARE(caret(), u"12:0"_s);
+    }
+
     void areReachedInTurn()
     {
         view().setProblems({problem(1, 6, 4), problem(2, 0, 3), problem(4, 7, 3)});
