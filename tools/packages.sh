@@ -12,6 +12,9 @@ test_packages=(
     clang-format clang-tidy doxygen lld locales valgrind
     xvfb xauth xclip xdotool openbox x11-utils)
 
+# What fuzzes the core.
+fuzz_packages=(clang libclang-rt-14-dev lld python3)
+
 # What ./bench compares with.
 bench_packages=(
     libqscintilla2-qt6-dev libkf5syntaxhighlighting-dev

@@ -170,12 +170,12 @@ SharedText SharedText::replaced(qsizetype start, qsizetype length, const QString
     return result;
 }
 
-qsizetype SharedText::bytes(QSet<const QChar *> &counted) const
+qsizetype SharedText::bytes(CountedStrings &counted) const
 {
     return bytes(counted, {});
 }
 
-qsizetype SharedText::bytes(QSet<const QChar *> &counted, const SharedText &before) const
+qsizetype SharedText::bytes(CountedStrings &counted, const SharedText &before) const
 {
     const auto isSame = [](const Piece &one, const Piece &other) {
         return one.string.constData() == other.string.constData();
@@ -188,10 +188,8 @@ qsizetype SharedText::bytes(QSet<const QChar *> &counted, const SharedText &befo
                           .first.base();
     qsizetype sum = 0;
     for (const Piece &piece : std::span(first, last)) {
-        if (counted.contains(piece.string.constData()))
-            continue;
-        counted.insert(piece.string.constData());
-        sum += piece.string.size() * qsizetype(sizeof(QChar));
+        if (counted.insert(piece.string.constData()).second)
+            sum += piece.string.size() * qsizetype(sizeof(QChar));
     }
     return sum;
 }

@@ -3,9 +3,10 @@
 #include "base/HouseExport.h"
 
 #include <QtCore/QList>
-#include <QtCore/QSet>
 #include <QtCore/QString>
 #include <QtCore/QStringView>
+
+#include <unordered_set>
 
 namespace ORVTListview {
 
@@ -48,10 +49,13 @@ public:
 
     static constexpr qsizetype joinedLength = 4096;
 
+    // The toolkit's set ends the program for want of memory.
+    using CountedStrings = std::unordered_set<const QChar *>;
+
     // The bytes of the strings it holds, without those in counted; adds them to it.
     // The strings of `before`, another state of the text, are in there already.
-    qsizetype bytes(QSet<const QChar *> &counted) const;
-    qsizetype bytes(QSet<const QChar *> &counted, const SharedText &before) const;
+    qsizetype bytes(CountedStrings &counted) const;
+    qsizetype bytes(CountedStrings &counted, const SharedText &before) const;
 
 private:
     struct Piece

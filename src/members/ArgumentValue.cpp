@@ -1,6 +1,7 @@
 #include "members/ArgumentValue.h"
 
 #include <cmath>
+#include <limits>
 
 namespace ORVTListview::ArgumentValue {
 
@@ -26,6 +27,11 @@ bool fits(const QVariant &value, QMetaType type)
         if (!std::isfinite(number) || number < -beyond || number >= beyond)
             return false;
     }
+    // Beyond 63 bits an unsigned number would come out negative.
+    const int kind = value.metaType().id();
+    if ((kind == QMetaType::ULongLong || kind == QMetaType::ULong) &&
+        value.toULongLong() > static_cast<quint64>(std::numeric_limits<qint64>::max()))
+        return false;
     bool isNumber = false;
     const qint64 number = value.toLongLong(&isNumber);
     return !isNumber || holds(type, number);
@@ -68,7 +74,9 @@ std::optional<QVariant> converted(const QVariant &value, QMetaType type)
     QVariant result = value;
     if (!result.convert(type))
         return std::nullopt;
-    return result;
+    const bool isLost = type.id() == QMetaType::Float && !std::isfinite(result.toDouble()) &&
+                        std::isfinite(value.toDouble());
+    return isLost ? std::nullopt : std::optional(result);
 }
 
 QVariant fromVariable(QMetaType type, const void *variable)

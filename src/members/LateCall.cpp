@@ -3,6 +3,7 @@
 #include "members/ArgumentValue.h"
 
 #include <exception>
+#include <utility>
 #include <vector>
 
 namespace ORVTListview {
@@ -78,7 +79,7 @@ QVariantList variablesFor(const Target &target, const QVariantList &given, const
     return variables;
 }
 
-void carryOut(QObject &component, const Target &target, QVariantList &variables, QVariant &result)
+QVariant carryOut(QObject &component, const Target &target, QVariantList &variables)
 {
     QVariant resultVariable;
     std::vector<void *> values{nullptr};
@@ -89,18 +90,21 @@ void carryOut(QObject &component, const Target &target, QVariantList &variables,
     for (QVariant &variable : variables)
         values.push_back(variable.data());
     target.call(component, values.data());
-    result = target.resultType.isValid()
-                 ? ArgumentValue::fromVariable(target.resultType, resultVariable.constData())
-                 : QVariant();
+    return target.resultType.isValid()
+               ? ArgumentValue::fromVariable(target.resultType, resultVariable.constData())
+               : QVariant();
 }
 
-void bringBack(const Target &target, const QVariantList &variables, QVariantList &arguments)
+QVariantList broughtBack(const Target &target, const QVariantList &variables,
+                         const QVariantList &arguments)
 {
-    for (qsizetype i = 0; i < arguments.size(); ++i) {
+    QVariantList changed = arguments;
+    for (qsizetype i = 0; i < changed.size(); ++i) {
         const MemberArgument &argument = target.arguments.at(i);
         if (argument.direction != ArgumentDirection::In)
-            arguments[i] = ArgumentValue::fromVariable(argument.type, variables.at(i).constData());
+            changed[i] = ArgumentValue::fromVariable(argument.type, variables.at(i).constData());
     }
+    return changed;
 }
 
 void call(QObject &component, const MemberTable &members, const QString &name,
@@ -114,8 +118,9 @@ void call(QObject &component, const MemberTable &members, const QString &name,
     const Target target = isProperty ? propertyTarget(*member, place, arguments.size())
                                      : methodTarget(*member, place, arguments.size());
     QVariantList variables = variablesFor(target, arguments, place);
-    carryOut(component, target, variables, result);
-    bringBack(target, variables, arguments);
+    QVariant returned = carryOut(component, target, variables);
+    arguments = broughtBack(target, variables, arguments);
+    result = std::move(returned); // neither changes when anything above fails
 }
 
 } // namespace

@@ -4,10 +4,12 @@
 //   disk FILE        the file's folder has 0 to 16 free pages
 //   limit FILE       no file may grow beyond 0 to 16 pages
 //   powerless FILE   one saving without any rights
+//   forever FILE     numberedProgram(1), (2), (3) ...; prints each number once it is saved
 //
-// Prints a line for each saving: the outcome, what the file then holds and the
+// Else prints a line for each saving: the outcome, what the file then holds and the
 // names in the folder, or why the saving failed.
 
+#include "apps/NumberedProgram.h"
 #include "project/ProjectError.h"
 #include "project/TextFile.h"
 #include "support/DiskLimits.h"
@@ -78,6 +80,14 @@ void savePowerless(const QString &file)
     }
 }
 
+void saveForEver(const QString &file)
+{
+    for (int number = 1;; ++number) {
+        writeFile(file, numberedProgram(number));
+        print(QString::number(number));
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -92,6 +102,8 @@ int main(int argc, char **argv)
         saveInFolder(file, [&folder](qint64 room) { DiskLimits::fill(folder, room); });
     } else if (way == "limit") {
         saveInFolder(file, [](qint64 room) { DiskLimits::limitFiles(room); });
+    } else if (way == "forever") {
+        saveForEver(file);
     } else {
         savePowerless(file);
     }

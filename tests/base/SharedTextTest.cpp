@@ -41,7 +41,7 @@ QString readBackwards(const SharedText &text, qsizetype longest)
 
 qsizetype bytesOf(const QList<SharedText> &texts)
 {
-    QSet<const QChar *> counted;
+    SharedText::CountedStrings counted;
     qsizetype bytes = 0;
     for (const SharedText &text : texts)
         bytes += text.bytes(counted);
@@ -204,7 +204,7 @@ TEST(SharedText, BytesBesideAnotherStateAreThoseItDoesNotHold)
     const SharedText before(u"0123456789"_s.repeated(10'000));
     const SharedText middle = before.replaced(50'000, 0, u"abc"_s);
     const SharedText after = middle.replaced(80'000, 0, u"abcd"_s);
-    QSet<const QChar *> counted;
+    SharedText::CountedStrings counted;
     EXPECT_EQ(before.bytes(counted, {}), 200'000);
     EXPECT_EQ(middle.bytes(counted, before), 6);
     EXPECT_EQ(after.bytes(counted, middle), 8);

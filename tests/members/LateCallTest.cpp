@@ -104,6 +104,7 @@ TEST_F(LateCall, RefusesNumbersThatDoNotFit)
          {QVariant(32768), QVariant(-32769), QVariant(1e300), QVariant(nan), QVariant(u"70000"_s)})
         EXPECT_EQ(call(u"Doubled"_s, {number}), WrongArgumentType) << qPrintable(number.toString());
     EXPECT_EQ(call(u"Type"_s, {Q_INT64_C(1) << 32}), WrongArgumentType);
+    EXPECT_EQ(call(u"Doubled"_s, {Q_UINT64_C(0xFFFFFFFFFFFFFFFF)}), WrongArgumentType);
     EXPECT_EQ(call(u"Doubled"_s, {-16384}), CallSucceeded);
     EXPECT_EQ(arguments.constFirst(), QVariant::fromValue<qint16>(-32768));
     EXPECT_EQ(call(u"Doubled"_s, {16383.4}), CallSucceeded);

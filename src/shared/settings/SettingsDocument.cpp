@@ -36,13 +36,16 @@ std::optional<QStringList> linesOf(const QByteArray &bytes)
     return text.isEmpty() ? QStringList() : text.split(u'\n');
 }
 
-// Takes the lines off that tell a whole file from a cut one; false for a cut one.
+// Takes the lines off that tell a whole file from a cut one; false for a cut one. A file
+// written by hand loses its end lines, too: written again, one would stand in its middle.
 bool takeMarks(QStringList &lines)
 {
-    if (lines.isEmpty() || lines.first().trimmed() != headLine)
-        return true;
-    lines.removeFirst();
-    return lines.removeIf([](const QString &line) { return line.trimmed() == endLine; }) > 0;
+    const bool isOwn = !lines.isEmpty() && lines.first().trimmed() == headLine;
+    if (isOwn)
+        lines.removeFirst();
+    const qsizetype ends =
+        lines.removeIf([](const QString &line) { return line.trimmed() == endLine; });
+    return !isOwn || ends > 0;
 }
 
 // All of that name: an earlier one must not come to light.

@@ -99,6 +99,14 @@ TEST(SettingsDocument, AFileByHandNeedsNoMarks)
     EXPECT_EQ(valueIn(twoSettings() + section + "Code=4\n", u"Code"_s), u"4"_s);
 }
 
+// Else a later cut behind that line would go unnoticed.
+TEST(SettingsDocument, AnEndLineInAFileByHandIsNotWrittenIntoItsMiddle)
+{
+    const auto document = documentOf("[Software/Other]\n; end of settings\nName=1\n");
+    ASSERT_TRUE(document);
+    EXPECT_EQ(document->toBytes().count("; end of settings\n"), 1);
+}
+
 TEST(SettingsDocument, WindowsLineEndsDoNotCutAFile)
 {
     EXPECT_EQ(valueIn(twoSettings().replace("\n", "\r\n"), u"Code"_s), u"12"_s);

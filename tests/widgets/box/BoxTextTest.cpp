@@ -181,7 +181,7 @@ void BoxTextTest::statesOfATextShareIt()
     const SharedText after = text.sharedText();
     QCOMPARE(after.toString(), text.text());
     QVERIFY(!after.equals(before));
-    QSet<const QChar *> counted;
+    SharedText::CountedStrings counted;
     before.bytes(counted);
     QCOMPARE(after.bytes(counted), 2 * 4);
     const BoxText other(document);

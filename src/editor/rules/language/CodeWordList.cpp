@@ -4,6 +4,7 @@
 #include "shared/points/HostPoints.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -29,6 +30,12 @@ constexpr std::array kindsOfPoints{
 const HostReference<PointCollection> &pointsOf(std::size_t kind, const Vocabulary &vocabulary)
 {
     return vocabulary.collections().*kindsOfPoints[kind].points;
+}
+
+void addWords(WordIndex &index, const QStringList &words, qint32 colour)
+{
+    for (const QString &word : words)
+        index.add(word, colour);
 }
 
 QStringList namesOf(const HostReference<PointCollection> &points)
@@ -98,19 +105,19 @@ void CodeWordList::refill(const Choice &which, const Vocabulary &vocabulary,
     for (std::size_t kind = 0; kind < kinds; ++kind)
         names[kind] =
             which[kind] ? namesOf(pointsOf(kind, vocabulary)) : listed(kindsOfPoints[kind].colour);
-    noteContents(which, vocabulary);
-    m_index.clear();
+    WordIndex index;
     for (std::size_t kind = 0; kind < kinds; ++kind)
-        addWords(names[kind], kindsOfPoints[kind].colour);
-    addWords(reserved, ReservedWordColour);
-    m_current = -1;
-    ++m_changes;
+        addWords(index, names[kind], kindsOfPoints[kind].colour);
+    addWords(index, reserved, ReservedWordColour);
+    noteContents(which, vocabulary);
+    replaceIndex(std::move(index));
 }
 
-void CodeWordList::addWords(const QStringList &words, qint32 colour)
+void CodeWordList::replaceIndex(WordIndex index)
 {
-    for (const QString &word : words)
-        m_index.add(word, colour);
+    m_index = std::move(index);
+    m_current = -1;
+    ++m_changes;
 }
 
 QStringList CodeWordList::listed(qint32 colour) const
@@ -130,11 +137,11 @@ void CodeWordList::UpdateWordListItem(const QString &OldName, const QString &New
     ClassStyleForType(TypeIndex, RichTextSettings(), style);
     if (style.ColourIndex == AutomaticColour || NewName.isEmpty())
         return;
-    m_index.remove(OldName, style.ColourIndex);
-    m_index.remove(NewName, style.ColourIndex); // a ready collection may have it already
-    m_index.add(NewName, style.ColourIndex);
-    m_current = -1;
-    ++m_changes;
+    WordIndex index = m_index;
+    index.remove(OldName, style.ColourIndex);
+    index.remove(NewName, style.ColourIndex); // a ready collection may have it already
+    index.add(NewName, style.ColourIndex);
+    replaceIndex(std::move(index));
 }
 
 bool CodeWordList::FindInWordList(QStringView Text, bool Exact)

@@ -52,7 +52,7 @@ private:
     bool isStale(std::size_t kind, const Vocabulary &vocabulary) const;
     void noteContents(const Choice &which, const Vocabulary &vocabulary);
     void refill(const Choice &which, const Vocabulary &vocabulary, const QStringList &reserved);
-    void addWords(const QStringList &words, qint32 colour);
+    void replaceIndex(WordIndex index);
     QStringList listed(qint32 colour) const;
 
     WordIndex m_index;

@@ -52,8 +52,7 @@ void KeptStates::offer(const UndoState &shown)
 bool KeptStates::noteEdit(const UndoStore &ring)
 {
     const bool wasSafe = isShownSafe(ring);
-    if (std::exchange(m_isSafe, false))
-        moveAside(Place::Ahead, anyDepth);
+    const bool hadSafe = m_isSafe;
     const bool isKept = m_offered && (!wasSafe || m_isFromOldSlot);
     if (const auto shown = shownState(); shown != m_states.end())
         renew(ring, shown, Place::Behind);
@@ -61,8 +60,10 @@ bool KeptStates::noteEdit(const UndoStore &ring)
         addOldest(ring, HeldState(*m_offered));
     else if (isKept)
         add(ring, HeldState(*m_offered), Place::Behind);
+    if (hadSafe) // nothing takes memory from here on
+        moveAside(Place::Ahead, anyDepth);
     m_offered.reset();
-    m_isFromOldSlot = false;
+    m_isSafe = m_isFromOldSlot = false;
     m_shown = noId;
     m_nextBelow = fromTheLatest;
     return isKept;
@@ -213,11 +214,16 @@ void KeptStates::addOldest(const UndoStore &ring, HeldState state)
     dropOldest();
 }
 
+// Takes no memory: what is kept stays kept.
 void KeptStates::renew(const UndoStore &ring, States::iterator kept, Place place)
 {
-    HeldState state = std::move(kept->state);
-    m_states.erase(kept);
-    add(ring, std::move(state), place);
+    std::rotate(kept, std::next(kept), m_states.end());
+    Kept &latest = m_states.back();
+    latest.id = ++m_lastId;
+    latest.place = place;
+    latest.depth = ring.depth();
+    latest.snapshots = ring.snapshotCount();
+    dropOldest();
 }
 
 // What is shown comes to lie at the place, unless a step of the ring shows it again.

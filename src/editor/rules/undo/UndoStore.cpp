@@ -72,7 +72,9 @@ qint16 UndoStore::NextUndoSlot()
 
 void UndoStore::StoreUndoSnapshot(const UndoState &state)
 {
-    putPlain(NextUndoSlot(), state);
+    PlainSlot slot = plainSlot(state); // what may fail comes before the ring moves
+    put(NextUndoSlot(), std::move(slot));
+    keepWithinBound();
 }
 
 QString UndoStore::FetchUndoSnapshot(qint16 index) const
@@ -84,7 +86,8 @@ QString UndoStore::FetchUndoSnapshot(qint16 index) const
 
 void UndoStore::ResetUndoBase(const QString &text)
 {
-    putPlain(0, {text, 0, 0});
+    put(0, plainSlot({text, 0, 0}));
+    keepWithinBound();
 }
 
 void UndoStore::ClearUndoHistory()
@@ -154,12 +157,11 @@ void UndoStore::put(qint16 index, Slot slot)
         m_encoder.reset();
 }
 
-void UndoStore::putPlain(qint16 index, const UndoState &state)
+UndoStore::PlainSlot UndoStore::plainSlot(const UndoState &state)
 {
     PlainSlot slot{state.text, undoRecordTail(state)};
     slot.isWaiting = slot.text.size() + slot.tail.size() >= shortestCompressedRecord;
-    put(index, std::move(slot));
-    keepWithinBound();
+    return slot;
 }
 
 const UndoStore::PlainSlot *UndoStore::waitingAt(qint16 index) const
@@ -176,7 +178,7 @@ bool UndoStore::isEncodingPending() const
 qsizetype UndoStore::pendingBytes() const
 {
     qsizetype bytes = 0;
-    QSet<const QChar *> counted;
+    SharedText::CountedStrings counted;
     SharedText before;
     for (int age = 0; age < slotCount - 1; ++age) {
         if (const PlainSlot *waiting = waitingAt(slotOfAge(age))) {
@@ -255,13 +257,18 @@ void UndoStore::share(qint16 index)
     }
 }
 
+// For want of memory more waits than may, until the next snapshot: the state itself is
+// stored.
 void UndoStore::keepWithinBound()
 {
-    while (pendingBytes() > m_pendingBound) {
-        if (const std::optional<qint16> index = oldestNotCompared())
-            share(*index);
-        else // the newest slot comes last, and its bytes are not counted
-            encode(*oldestWaiting(), std::numeric_limits<qsizetype>::max());
+    try {
+        while (pendingBytes() > m_pendingBound) {
+            if (const std::optional<qint16> index = oldestNotCompared())
+                share(*index);
+            else // the newest slot comes last, and its bytes are not counted
+                encode(*oldestWaiting(), std::numeric_limits<qsizetype>::max());
+        }
+    } catch (const std::bad_alloc &) {
     }
 }
 

@@ -158,7 +158,7 @@ private:
     const PlainSlot *waitingAt(qint16 index) const;
     qint16 NextUndoSlot();
     void put(qint16 index, Slot slot);
-    void putPlain(qint16 index, const UndoState &state);
+    static PlainSlot plainSlot(const UndoState &state);
 
     qint16 slotOfAge(int age) const;
     std::optional<qint16> oldestWaiting() const;
