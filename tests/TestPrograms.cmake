@@ -61,6 +61,7 @@ endfunction()
 function(orvt_add_widget_tests program)
     add_executable(${program} ${ARGN})
     target_link_libraries(${program} PRIVATE widget_test_support orvt_inside)
+    orvt_group_sources(${program})
     # Elsewhere QtTest's definitions, which name the folder, differ.
     if(CMAKE_CURRENT_SOURCE_DIR STREQUAL PROJECT_SOURCE_DIR/tests)
         orvt_precompiled_as(${program} widget_test_support)

@@ -1,7 +1,6 @@
 """Runs clang-tidy over the sources as .clang-tidy configures it, and fails on a finding.
 
-Most of its time goes into the toolkit's headers, again for every file. So files are
-read together, as many as have no local name in common.
+Files are read together, as many as have no local name in common.
 """
 import argparse
 import os
@@ -10,37 +9,8 @@ import subprocess
 import sys
 import tempfile
 
-LOCAL_NAMESPACE = re.compile(r"^namespace \{$(.*?)^\} // namespace$", re.MULTILINE | re.DOTALL)
-DECLARED = re.compile(
-    r"^(?:\[\[\w+\]\] )?(?:(?:class|struct|enum(?: class)?|using) (\w+)"
-    r"|[\w:][\w:<>,&* ]*[ &*](\w+)(?:\(|\{|\[| =|;))", re.MULTILINE)
-
-def text_of(path):
-    with open(path, encoding="utf-8") as file:
-        return file.read()
-
-
-def local_names(text):
-    """The names that a file declares for itself alone."""
-    names = set()
-    for block in LOCAL_NAMESPACE.findall(text):
-        names.update(name for pair in DECLARED.findall(block) for name in pair if name)
-    return names
-
-
-def groups(files, most):
-    """The files in groups of at most `most`, without a local name twice in one."""
-    found = []
-    for path in files:
-        names = local_names(text_of(path))
-        for members, taken in found:
-            if len(members) < most and not names & taken:
-                members.append(path)
-                taken |= names
-                break
-        else:
-            found.append(([path], set(names)))
-    return [members for members, taken in found]
+sys.path.append(os.path.join(os.path.dirname(__file__), "../../tools"))
+from together import groups # pylint: disable=wrong-import-position
 
 
 def flags_of(includes, defines, root):

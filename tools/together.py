@@ -1,0 +1,45 @@
+"""Which files can be read together, by a compiler or a checker, as if they were one.
+
+Most of the time of both goes into the toolkit's headers, again for every file. Files
+without a local name in common can share them.
+"""
+import re
+import sys
+
+LOCAL_NAMESPACE = re.compile(r"^namespace \{$(.*?)^\} // namespace$", re.MULTILINE | re.DOTALL)
+DECLARED = re.compile(
+    r"^(?:\[\[\w+\]\] )?(?:(?:class|struct|enum(?: class)?|using) (\w+)"
+    r"|[\w:][\w:<>,&* ]*[ &*](\w+)(?:\(|\{|\[| =|;))", re.MULTILINE)
+
+
+def text_of(path):
+    with open(path, encoding="utf-8") as file:
+        return file.read()
+
+
+def local_names(text):
+    """The names that a file declares for itself alone."""
+    names = set()
+    for block in LOCAL_NAMESPACE.findall(text):
+        names.update(name for pair in DECLARED.findall(block) for name in pair if name)
+    return names
+
+
+def groups(files, most):
+    """The files in groups of at most `most`, without a local name twice in one."""
+    found = []
+    for path in files:
+        names = local_names(text_of(path))
+        for members, taken in found:
+            if len(members) < most and not names & taken:
+                members.append(path)
+                taken |= names
+                break
+        else:
+            found.append(([path], set(names)))
+    return [members for members, taken in found]
+
+
+if __name__ == "__main__":
+    for members in groups(sys.argv[2:], int(sys.argv[1])):
+        print("|".join(members))
