@@ -177,4 +177,42 @@ bool CodeView::findPreviousAtCaret()
     return d->commands.finding.findWordAtCaret(ProgramFinding::Way::Backwards);
 }
 
+void CodeView::setHelp(bool &help, bool on, void (CodeView::*changed)(bool))
+{
+    if (on == help)
+        return;
+    help = on;
+    raiseEvent(*this, changed, on);
+}
+
+bool CodeView::autoIndent() const
+{
+    return d->commands.typing.helps.autoIndent;
+}
+
+void CodeView::setAutoIndent(bool on)
+{
+    setHelp(d->commands.typing.helps.autoIndent, on, &CodeView::autoIndentChanged);
+}
+
+bool CodeView::smartHome() const
+{
+    return d->commands.typing.helps.smartHome;
+}
+
+void CodeView::setSmartHome(bool on)
+{
+    setHelp(d->commands.typing.helps.smartHome, on, &CodeView::smartHomeChanged);
+}
+
+bool CodeView::trimsBlanks() const
+{
+    return d->commands.typing.helps.trimsBlanks;
+}
+
+void CodeView::setTrimsBlanks(bool on)
+{
+    setHelp(d->commands.typing.helps.trimsBlanks, on, &CodeView::trimsBlanksChanged);
+}
+
 } // namespace ORVTListview

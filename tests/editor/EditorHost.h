@@ -7,6 +7,7 @@
 #include "editor/rules/undo/UndoStore.h"
 #include <ORVTListview/ReportList.h>
 
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/RichTextBox.h>
@@ -39,6 +40,11 @@ struct EditorHost
         settings.FontName = QStringLiteral("DejaVu Sans Mono");
         settings.FontSize = 10;
         list->Init_RichTextBox(settings);
+        if (qEnvironmentVariableIsSet("ORVT_TYPING_HELPS")) {
+            list->codeView()->setAutoIndent(true);
+            list->codeView()->setSmartHome(true);
+            list->codeView()->setTrimsBlanks(true);
+        }
         form.show();
         form.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&form));

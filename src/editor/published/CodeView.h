@@ -28,6 +28,9 @@ class ORVT_EXPORT CodeView : public QObject
                    currentLineShownChanged)
     Q_PROPERTY(bool pairsShown READ pairsShown WRITE setPairsShown NOTIFY pairsShownChanged)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY commandsEnabledChanged)
+    Q_PROPERTY(bool autoIndent READ autoIndent WRITE setAutoIndent NOTIFY autoIndentChanged)
+    Q_PROPERTY(bool smartHome READ smartHome WRITE setSmartHome NOTIFY smartHomeChanged)
+    Q_PROPERTY(bool trimsBlanks READ trimsBlanks WRITE setTrimsBlanks NOTIFY trimsBlanksChanged)
 
 public:
     ~CodeView() override;
@@ -123,6 +126,23 @@ public:
     Q_INVOKABLE bool findNextAtCaret();
     Q_INVOKABLE bool findPreviousAtCaret();
 
+    // What the editor does for one who types, all of it off at first. It changes only a
+    // line that the user has typed on, and takes no snapshot of its own.
+
+    // Enter behind an IF or ELSE begins the next line one indentUnit deeper, and a finished
+    // ELSE or ENDIF that begins its line comes below its IF.
+    bool autoIndent() const;
+    void setAutoIndent(bool on);
+
+    // Home goes to the line's first word, and from there to the line's begin.
+    bool smartHome() const;
+    void setSmartHome(bool on);
+
+    // A line that was typed on loses the blanks at its end, on Enter at once, otherwise
+    // soon after the caret has left it.
+    bool trimsBlanks() const;
+    void setTrimsBlanks(bool on);
+
 Q_SIGNALS:
     void lineNumbersVisibleChanged(bool visible);
     void currentLineShownChanged(bool shown);
@@ -130,6 +150,9 @@ Q_SIGNALS:
 
     // Soon after the editor was shown, hidden, enabled, disabled or made read-only.
     void commandsEnabledChanged(bool enabled);
+    void autoIndentChanged(bool on);
+    void smartHomeChanged(bool on);
+    void trimsBlanksChanged(bool on);
 
     // The caret was put to a problem: by a click on its sign, of which the worst of the
     // line counts, by nextProblem or by previousProblem.
@@ -140,6 +163,7 @@ private:
 
     CodeView(RichTextBox &box, const ProgramCommands &commands);
 
+    void setHelp(bool &help, bool on, void (CodeView::*changed)(bool));
     bool tellChosen(const std::optional<Problem> &problem);
 
     std::unique_ptr<CodeViewParts> d;
