@@ -223,6 +223,10 @@
         <source>Nothing was found.</source>
         <translation>Nichts gefunden.</translation>
     </message>
+    <message>
+        <source>&amp;Go To Line</source>
+        <translation>Zur Zei&amp;le</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>

@@ -223,6 +223,10 @@
         <source>Nothing was found.</source>
         <translation>No se ha encontrado nada.</translation>
     </message>
+    <message>
+        <source>&amp;Go To Line</source>
+        <translation>Ir a la lín&amp;ea</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>

@@ -223,6 +223,10 @@
         <source>Nothing was found.</source>
         <translation>Rien n’a été trouvé.</translation>
     </message>
+    <message>
+        <source>&amp;Go To Line</source>
+        <translation>Aller à la l&amp;igne</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>

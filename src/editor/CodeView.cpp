@@ -107,6 +107,15 @@ void CodeView::goToLine(qint32 line)
     d->commands.caret.goToLine(line);
 }
 
+void CodeView::showGoToLine()
+{
+    if (!d->box)
+        return;
+    if (!d->goToLineBar)
+        d->goToLineBar = new GoToLineBar(*d->box, d->commands.caret);
+    d->goToLineBar->ask();
+}
+
 bool CodeView::goToPartner()
 {
     return d->commands.caret.goToPartner();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/CommandsState.h"
+#include "editor/GoToLineBar.h"
 #include "editor/view/Bookmarks.h"
 #include "editor/view/CurrentLine.h"
 #include "editor/view/EditorMargin.h"
@@ -38,6 +39,7 @@ struct CodeViewParts
     PairMarks pairs;
     const ProgramCommands &commands;
     CommandsState commandsState;
+    QPointer<GoToLineBar> goToLineBar; // a child of the box, made when it is first needed
 };
 
 } // namespace ORVTListview

@@ -85,6 +85,11 @@ public:
     // comes to the middle when it was out of view.
     Q_INVOKABLE void goToLine(qint32 line);
 
+    // Asks the user for the line, in a field at the bottom of the editor. Enter goes there,
+    // Esc closes it; then the editor has the focus. Nothing while the editor is not on the
+    // screen.
+    Q_INVOKABLE void showGoToLine();
+
     // Puts the caret from a bracket to its partner, from an IF, ELSE or ENDIF to the next
     // of its block and from the last to the first. False when there is none.
     Q_INVOKABLE bool goToPartner();
