@@ -467,5 +467,10 @@
         <extracomment>The strip beside the program, for screen readers</extracomment>
         <translation>Zeilennummern</translation>
     </message>
+    <message>
+        <source>Go to line:</source>
+        <extracomment>In front of a field for a number</extracomment>
+        <translation>Gehe zu Zeile:</translation>
+    </message>
 </context>
 </TS>

@@ -467,5 +467,10 @@
         <extracomment>The strip beside the program, for screen readers</extracomment>
         <translation>Números de línea</translation>
     </message>
+    <message>
+        <source>Go to line:</source>
+        <extracomment>In front of a field for a number</extracomment>
+        <translation>Ir a la línea:</translation>
+    </message>
 </context>
 </TS>

@@ -467,5 +467,10 @@
         <extracomment>The strip beside the program, for screen readers</extracomment>
         <translation>Numéros de ligne</translation>
     </message>
+    <message>
+        <source>Go to line:</source>
+        <extracomment>In front of a field for a number</extracomment>
+        <translation>Aller à la ligne&#xa0;:</translation>
+    </message>
 </context>
 </TS>

@@ -223,6 +223,10 @@
         <source>Nothing was found.</source>
         <translation>Nichts gefunden.</translation>
     </message>
+    <message>
+        <source>&amp;Go To Line</source>
+        <translation>Zur Zei&amp;le</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>
@@ -281,6 +285,18 @@
     <message>
         <source>Unfold A&amp;ll</source>
         <translation>Alles a&amp;ufklappen</translation>
+    </message>
+    <message>
+        <source>In&amp;dent While Typing</source>
+        <translation>Auto&amp;matisch einrücken</translation>
+    </message>
+    <message>
+        <source>Smart &amp;Home</source>
+        <translation>Pos1 zum ersten &amp;Wort</translation>
+    </message>
+    <message>
+        <source>Drop Blanks at Line &amp;Ends</source>
+        <translation>Leerzeichen am Zeilenen&amp;de entfernen</translation>
     </message>
 </context>
 <context>

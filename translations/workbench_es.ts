@@ -223,6 +223,10 @@
         <source>Nothing was found.</source>
         <translation>No se ha encontrado nada.</translation>
     </message>
+    <message>
+        <source>&amp;Go To Line</source>
+        <translation>Ir a la lín&amp;ea</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>
@@ -281,6 +285,18 @@
     <message>
         <source>Unfold A&amp;ll</source>
         <translation>Desplegar &amp;todo</translation>
+    </message>
+    <message>
+        <source>In&amp;dent While Typing</source>
+        <translation>&amp;Sangrar al escribir</translation>
+    </message>
+    <message>
+        <source>Smart &amp;Home</source>
+        <translation>&amp;Inicio a la primera palabra</translation>
+    </message>
+    <message>
+        <source>Drop Blanks at Line &amp;Ends</source>
+        <translation>&amp;Quitar espacios al final de línea</translation>
     </message>
 </context>
 <context>

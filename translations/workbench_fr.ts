@@ -223,6 +223,10 @@
         <source>Nothing was found.</source>
         <translation>Rien n’a été trouvé.</translation>
     </message>
+    <message>
+        <source>&amp;Go To Line</source>
+        <translation>Aller à la l&amp;igne</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>
@@ -281,6 +285,18 @@
     <message>
         <source>Unfold A&amp;ll</source>
         <translation>Tout &amp;déplier</translation>
+    </message>
+    <message>
+        <source>In&amp;dent While Typing</source>
+        <translation>&amp;Mettre en retrait à la frappe</translation>
+    </message>
+    <message>
+        <source>Smart &amp;Home</source>
+        <translation>Or&amp;igine au premier mot</translation>
+    </message>
+    <message>
+        <source>Drop Blanks at Line &amp;Ends</source>
+        <translation>S&amp;upprimer les espaces en fin de ligne</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,8 @@ void EditMenu::addCommands()
     auto *lines = new LinesMenu(m_view, this);
     connect(lines, &LinesMenu::acted, this, &EditMenu::acted);
     addMenu(lines);
+    addAction(tr("&Go To Line"), QKeySequence(Qt::CTRL | Qt::Key_G), &m_view,
+              &CodeView::showGoToLine);
     addAction(tr("Go To &Match"), QKeySequence(Qt::CTRL | Qt::Key_B), this,
               [this] { tellUnless(m_view.goToPartner()); });
 }

@@ -16,6 +16,11 @@ EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
     addSwitch(tr("&Indent Guides"), view.indentGuidesShown(), &CodeView::setIndentGuidesShown);
     addSwitch(tr("Blan&ks"), view.blanksShown(), &CodeView::setBlanksShown);
     addSwitch(tr("&Folding"), view.foldingEnabled(), &CodeView::setFoldingEnabled);
+    addSeparator();
+    addSwitch(tr("In&dent While Typing"), view.autoIndent(), &CodeView::setAutoIndent);
+    addSwitch(tr("Smart &Home"), view.smartHome(), &CodeView::setSmartHome);
+    addSwitch(tr("Drop Blanks at Line &Ends"), view.trimsBlanks(), &CodeView::setTrimsBlanks);
+    addSeparator();
     add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0, [this] { m_view.setZoom(100); });
     add(tr("Fold &All"), {}, [this] { m_view.foldAll(); });
     add(tr("Unfold A&ll"), {}, [this] { m_view.unfoldAll(); });
@@ -34,6 +39,9 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setPairsShown(true);
     view.setFoldingEnabled(true);
     view.setIndentGuidesShown(true);
+    view.setAutoIndent(true);
+    view.setSmartHome(true);
+    view.setTrimsBlanks(true);
     view.setZoom(100); // the wheel with Ctrl
 }
 

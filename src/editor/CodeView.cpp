@@ -168,6 +168,15 @@ void CodeView::goToLine(qint32 line)
     d->commands.caret.goToLine(line);
 }
 
+void CodeView::showGoToLine()
+{
+    if (!d->box)
+        return;
+    if (!d->goToLineBar)
+        d->goToLineBar = new GoToLineBar(*d->box, d->commands.caret);
+    d->goToLineBar->ask();
+}
+
 bool CodeView::goToPartner()
 {
     return d->commands.caret.goToPartner();
@@ -236,6 +245,44 @@ bool CodeView::findNextAtCaret()
 bool CodeView::findPreviousAtCaret()
 {
     return d->commands.finding.findWordAtCaret(ProgramFinding::Way::Backwards);
+}
+
+void CodeView::setHelp(bool &help, bool on, void (CodeView::*changed)(bool))
+{
+    if (on == help)
+        return;
+    help = on;
+    raiseEvent(*this, changed, on);
+}
+
+bool CodeView::autoIndent() const
+{
+    return d->commands.typing.helps.autoIndent;
+}
+
+void CodeView::setAutoIndent(bool on)
+{
+    setHelp(d->commands.typing.helps.autoIndent, on, &CodeView::autoIndentChanged);
+}
+
+bool CodeView::smartHome() const
+{
+    return d->commands.typing.helps.smartHome;
+}
+
+void CodeView::setSmartHome(bool on)
+{
+    setHelp(d->commands.typing.helps.smartHome, on, &CodeView::smartHomeChanged);
+}
+
+bool CodeView::trimsBlanks() const
+{
+    return d->commands.typing.helps.trimsBlanks;
+}
+
+void CodeView::setTrimsBlanks(bool on)
+{
+    setHelp(d->commands.typing.helps.trimsBlanks, on, &CodeView::trimsBlanksChanged);
 }
 
 } // namespace ORVTListview

@@ -36,6 +36,7 @@ CodeViewParts::~CodeViewParts()
 {
     delete margin; // it knows the columns
     delete scrollMarks;
+    delete goToLineBar;
 }
 
 } // namespace ORVTListview

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/CommandsState.h"
+#include "editor/GoToLineBar.h"
 #include "editor/view/BlankMarks.h"
 #include "editor/view/Bookmarks.h"
 #include "editor/view/CurrentLine.h"
@@ -46,6 +47,7 @@ struct CodeViewParts
     Zoom zoom;
     const ProgramCommands &commands;
     CommandsState commandsState;
+    QPointer<GoToLineBar> goToLineBar; // a child of the box, made when it is first needed
 };
 
 } // namespace ORVTListview

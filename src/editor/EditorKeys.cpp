@@ -141,7 +141,9 @@ bool EditorKeys::movingKey(qint16 keyCode)
         return !m_acts.editing.lines().moveToSameOffset(-1);
     case DownKey:
         return !m_acts.editing.lines().moveToSameOffset(1);
-    default: // Page Up, Page Down, Home, End
+    case HomeKey:
+        return !m_acts.editing.help().goHome();
+    default: // Page Up, Page Down, End
         return true;
     }
 }

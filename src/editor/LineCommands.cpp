@@ -3,7 +3,6 @@
 #include "base/TextPiece.h"
 #include "base/TextRules.h"
 #include "editor/BoxSelection.h"
-#include "editor/rules/language/CodeText.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QFontMetricsF>
@@ -128,15 +127,6 @@ QString LineCommands::withoutOneUnit(const QString &line) const
     while (blanks < std::min(m_unit.size(), line.size()) && line[blanks] == u' ')
         ++blanks;
     return line.sliced(blanks);
-}
-
-void LineCommands::breakLine()
-{
-    const qint32 start = m_box.SelStart();
-    const qint32 line = m_box.GetLineFromChar(start);
-    const QString indent = GetLineIndent(m_box.lineText(line));
-    m_box.setSelText(QStringLiteral("\r\n") + indent.first(std::min<qsizetype>(
-                                                  indent.size(), start - m_box.lineStart(line))));
 }
 
 bool LineCommands::unindentBeforeCaret()

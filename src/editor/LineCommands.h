@@ -8,7 +8,7 @@ namespace ORVTListview {
 
 class RichTextBox;
 
-// What Enter, Tab, Shift+Tab, Backspace, Up and Down do to lines beyond what a
+// What Tab, Shift+Tab, Backspace, Up and Down do to lines beyond what a
 // plain box does. None of them takes a snapshot.
 class LineCommands
 {
@@ -33,9 +33,6 @@ public:
 
     // Takes at most one unit, or one tab, from each line.
     void unindentSelectedLines();
-
-    // Replaces the selection by a line end and the indent of the line.
-    void breakLine();
 
     // In the blanks before a line's first word: goes back to the indent step
     // before. False, and nothing done, anywhere else.

@@ -4,17 +4,19 @@
 #include "editor/LineBlocks.h"
 #include "editor/ProgramFinding.h"
 #include "editor/TextCommands.h"
+#include "editor/TypingHelp.h"
 
 namespace ORVTListview {
 
 // What a host binds to its menu beyond the keys, a class for each subject.
 struct ProgramCommands
 {
-    ProgramCommands(const CommandTools &tools, const LineCommands &lineCommands)
+    ProgramCommands(const CommandTools &tools, const LineCommands &lineCommands, TypingHelp &help)
         : caret(tools)
         , finding(tools)
         , lines(tools)
         , texts(tools, lineCommands)
+        , typing(help)
     {
     }
 
@@ -22,6 +24,7 @@ struct ProgramCommands
     const ProgramFinding finding;
     const LineBlocks lines;
     const TextCommands texts;
+    TypingHelp &typing;
 };
 
 } // namespace ORVTListview

@@ -20,6 +20,7 @@ ProgramEditing::ProgramEditing(RichTextBox &box, const EditorThread &thread, Edi
     , m_colouring(colouring)
     , m_clipboard(clipboard)
     , m_lines(box)
+    , m_help(box, undo, colouring, m_lines)
 {
 }
 
@@ -38,15 +39,18 @@ void ProgramEditing::typeText(const QString &text)
     }
     m_undo.noteTyped(text);
     const bool isTyped = m_colouring.edit([&] { m_colouring.put(text); });
-    if (isTyped && TypedColouring::finishesWord(text))
-        m_colouring.finishEdit();
+    if (!isTyped || !TypedColouring::finishesWord(text))
+        return;
+    m_colouring.finishEdit();
+    m_help.noteWordFinished(text);
 }
 
 void ProgramEditing::breakLine()
 {
     m_undo.PushUndoSnapshot();
     const qint32 line = m_box.GetLineFromChar(m_box.SelStart());
-    if (!m_colouring.edit([this] { m_lines.breakLine(); }))
+    const TypingHelp::LineBreak how = m_help.lineBreak();
+    if (!m_colouring.edit([&] { m_help.breakLine(how); }))
         return;
     m_colouring.finishLine(line);
     m_box.ensureCursorVisible();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/LineCommands.h"
+#include "editor/TypingHelp.h"
 
 #include <QtCore/QList>
 
@@ -25,6 +26,7 @@ public:
 
     RichTextBox &box() const { return m_box; }
     LineCommands &lines() { return m_lines; }
+    TypingHelp &help() { return m_help; }
 
     void typeText(const QString &text);
     void breakLine();
@@ -49,6 +51,7 @@ private:
     TypedColouring &m_colouring;
     ProgramClipboard &m_clipboard;
     LineCommands m_lines;
+    TypingHelp m_help;
 };
 
 } // namespace ORVTListview

@@ -7,6 +7,7 @@
 #include "editor/rules/undo/UndoStore.h"
 #include <ORVTListview/ReportList.h>
 
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/RichTextBox.h>
@@ -39,12 +40,20 @@ struct EditorHost
         settings.FontName = QStringLiteral("DejaVu Sans Mono");
         settings.FontSize = 10;
         list->Init_RichTextBox(settings);
+        if (hasTypingHelps()) {
+            list->codeView()->setAutoIndent(true);
+            list->codeView()->setSmartHome(true);
+            list->codeView()->setTrimsBlanks(true);
+        }
         form.show();
         form.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&form));
         box().setFocus();
         QVERIFY(box().hasFocus());
     }
+
+    // Whether all that the editor can do on its own is on.
+    static bool hasTypingHelps() { return qEnvironmentVariableIsSet("ORVT_TYPING_HELPS"); }
 
     ORVTListview::RichTextBox &box() { return *list->RTextBox(); }
     ORVTListview::UndoStore &ring() { return ORVTListview::threadPart<ORVTListview::UndoStore>(); }

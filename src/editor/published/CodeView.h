@@ -16,9 +16,10 @@ struct CodeViewParts;
 struct ProgramCommands;
 
 // What a code editor shows beside the colours of its words. All of it is off at first,
-// and none of it is part of the text: it changes no text, no RTF, no snapshot, no event
-// and no key. ORVListView::codeView() is the way to it; it lives as long as the control.
-// What is set stays while the control shows a table.
+// and none of it is part of the text: but for the commands and the helps for one who
+// types it changes no text, no RTF, no snapshot, no event and no key.
+// ORVListView::codeView() is the way to it; it lives as long as the control. What is set
+// stays while the control shows a table.
 class ORVT_EXPORT CodeView : public QObject
 {
     Q_OBJECT
@@ -34,6 +35,9 @@ class ORVT_EXPORT CodeView : public QObject
     Q_PROPERTY(bool blanksShown READ blanksShown WRITE setBlanksShown NOTIFY blanksShownChanged)
     Q_PROPERTY(qint32 zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY commandsEnabledChanged)
+    Q_PROPERTY(bool autoIndent READ autoIndent WRITE setAutoIndent NOTIFY autoIndentChanged)
+    Q_PROPERTY(bool smartHome READ smartHome WRITE setSmartHome NOTIFY smartHomeChanged)
+    Q_PROPERTY(bool trimsBlanks READ trimsBlanks WRITE setTrimsBlanks NOTIFY trimsBlanksChanged)
 
 public:
     ~CodeView() override;
@@ -118,6 +122,11 @@ public:
     // comes to the middle when it was out of view.
     Q_INVOKABLE void goToLine(qint32 line);
 
+    // Asks the user for the line, in a field at the bottom of the editor. Enter goes there,
+    // Esc closes it; then the editor has the focus. Nothing while the editor is not on the
+    // screen.
+    Q_INVOKABLE void showGoToLine();
+
     // Puts the caret from a bracket to its partner, from an IF, ELSE or ENDIF to the next
     // of its block and from the last to the first. False when there is none.
     Q_INVOKABLE bool goToPartner();
@@ -159,6 +168,23 @@ public:
     Q_INVOKABLE bool findNextAtCaret();
     Q_INVOKABLE bool findPreviousAtCaret();
 
+    // What the editor does for one who types, all of it off at first. It changes only a
+    // line that the user has typed on, and takes no snapshot of its own.
+
+    // Enter behind an IF or ELSE begins the next line one indentUnit deeper, and a finished
+    // ELSE or ENDIF that begins its line comes below its IF.
+    bool autoIndent() const;
+    void setAutoIndent(bool on);
+
+    // Home goes to the line's first word, and from there to the line's begin.
+    bool smartHome() const;
+    void setSmartHome(bool on);
+
+    // A line that was typed on loses the blanks at its end, on Enter at once, otherwise
+    // soon after the caret has left it.
+    bool trimsBlanks() const;
+    void setTrimsBlanks(bool on);
+
 Q_SIGNALS:
     void lineNumbersVisibleChanged(bool visible);
     void currentLineShownChanged(bool shown);
@@ -170,6 +196,9 @@ Q_SIGNALS:
 
     // Soon after the editor was shown, hidden, enabled, disabled or made read-only.
     void commandsEnabledChanged(bool enabled);
+    void autoIndentChanged(bool on);
+    void smartHomeChanged(bool on);
+    void trimsBlanksChanged(bool on);
 
     // The caret was put to a problem: by a click on its sign, of which the worst of the
     // line counts, by nextProblem or by previousProblem.
@@ -180,6 +209,7 @@ private:
 
     CodeView(RichTextBox &box, const ProgramCommands &commands);
 
+    void setHelp(bool &help, bool on, void (CodeView::*changed)(bool));
     bool tellChosen(const std::optional<Problem> &problem);
 
     std::unique_ptr<CodeViewParts> d;

@@ -17,9 +17,9 @@ private:
 };
 
 // Whether a line begins a block, or the other part of one, that goes on behind it.
-bool opensBlock(QStringView line);
+ORVT_HOUSE_EXPORT bool opensBlock(QStringView line);
 
 // Whether the first word of a line is ELSE or ENDIF, which stand below their IF.
-bool closesBlock(QStringView line);
+ORVT_HOUSE_EXPORT bool closesBlock(QStringView line);
 
 } // namespace ORVTListview

@@ -149,6 +149,8 @@ constexpr LibraryText texts[] = {
     {QT_TRANSLATE_NOOP("ORVTListview", "Select All"), Menu},
     //: The strip beside the program, for screen readers
     {QT_TRANSLATE_NOOP("ORVTListview", "Line numbers"), ToolTip},
+    //: In front of a field for a number
+    {QT_TRANSLATE_NOOP("ORVTListview", "Go to line:"), ToolTip},
     //: The list of known words
     {QT_TRANSLATE_NOOP("ORVTListview", "List not found!"), Message},
     {QT_TRANSLATE_NOOP("ORVTListview", "Invalid letter: '\\' that is reserved to RTF!"), Message},

@@ -1,0 +1,143 @@
+// The field that asks for a line.
+
+#include "editor/view/ViewFixture.h"
+#include "support/TestProgram.h"
+#include "support/WidgetTest.h"
+
+#include <QtWidgets/QSpinBox>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+class GoToLineTest : public WidgetTest
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<ViewHost> m_host;
+
+    RichTextBox &box() { return m_host->box(); }
+    QWidget *bar() { return box().findChild<QWidget *>(u"GoToLineBar"_s); }
+    QSpinBox &field() { return *bar()->findChild<QSpinBox *>(); }
+    bool isShown() { return bar() && bar()->isVisible(); }
+
+    void ask()
+    {
+        m_host->view().showGoToLine();
+        QVERIFY(isShown());
+        QVERIFY(field().hasFocus());
+    }
+
+private Q_SLOTS:
+    void init() override
+    {
+        WidgetTest::init();
+        m_host = std::make_unique<ViewHost>();
+        m_host->setLines(100);
+    }
+    void cleanup() override
+    {
+        m_host.reset();
+        WidgetTest::cleanup();
+    }
+
+    void isNotThereAtFirst() { QVERIFY(!isShown()); }
+
+    void enterGoesThere()
+    {
+        const QString text = box().Text();
+        ask();
+        QTest::keyClicks(&field(), u"57"_s);
+        QTest::keyClick(&field(), Qt::Key_Return);
+        QVERIFY(!isShown());
+        QVERIFY(box().hasFocus());
+        QCOMPARE(box().SelStart(), box().lineStart(56));
+        QVERIFY(box().viewport()->rect().contains(box().cursorRect()));
+        ask(); // a second time, with the line of now
+        QCOMPARE(field().text(), u"57"_s);
+        QTest::keyClicks(&field(), u"3"_s);
+        QTest::keyClick(&field(), Qt::Key_Enter);
+        QCOMPARE(box().textCursor().blockNumber(), 2);
+        QCOMPARE(box().Text(), text);
+    }
+
+    void escCloses()
+    {
+        box().setSelStart(3);
+        ask();
+        QTest::keyClicks(&field(), u"57"_s);
+        QTest::keyClick(&field(), Qt::Key_Escape);
+        QVERIFY(!isShown());
+        QVERIFY(box().hasFocus());
+        QCOMPARE(box().SelStart(), 3);
+    }
+
+    void noKeyOrClickGetsToTheProgram()
+    {
+        const QString text = box().Text();
+        ask();
+        for (const int key : {int(Qt::Key_X), int(Qt::Key_Delete), int(Qt::Key_Backspace),
+                              int(Qt::Key_PageDown), int(Qt::Key_F6)})
+            QTest::keyClick(&field(), static_cast<Qt::Key>(key));
+        QVERIFY(isShown());
+        QTest::mouseClick(bar(), Qt::LeftButton, {}, QPoint(bar()->width() - 5, 5));
+        QCOMPARE(box().Text(), text);
+        QCOMPARE(box().SelStart(), 0);
+        QVERIFY(isShown());
+    }
+
+    void closesWhenTheFocusGoes()
+    {
+        ask();
+        m_host->after->setFocus();
+        QVERIFY(!isShown());
+        QVERIFY(m_host->after->hasFocus());
+    }
+
+    void closesWithItsEditor()
+    {
+        ask();
+        m_host->list->setListviewType(dsInput);
+        m_host->list->setListviewType(dsCode);
+        QVERIFY(!isShown());
+        m_host->list->setListviewType(dsInput);
+        m_host->view().showGoToLine();
+        QVERIFY(!isShown());
+    }
+
+    void staysAtTheBottom()
+    {
+        ask();
+        m_host->form.resize(700, 500);
+        QCoreApplication::processEvents();
+        const QRect text = box().viewport()->geometry();
+        QCOMPARE(bar()->geometry().bottomLeft(), text.bottomLeft());
+        QCOMPARE(bar()->width(), text.width());
+    }
+
+    void asksInAReadOnlyEditor()
+    {
+        box().setReadOnly(true);
+        ask();
+        QTest::keyClicks(&field(), u"9"_s);
+        QTest::keyClick(&field(), Qt::Key_Return);
+        QCOMPARE(box().textCursor().blockNumber(), 8);
+    }
+
+    void aHostMayDestroyTheComponentAsItGoes()
+    {
+        ask();
+        QPointer<ORVListView> list(m_host->list);
+        connect(&box(), &RichTextBox::cursorPositionChanged, this, [this] {
+            QMetaObject::invokeMethod(
+                m_host->list, [list = m_host->list] { delete list; }, Qt::QueuedConnection);
+        });
+        QTest::keyClick(&field(), Qt::Key_Up);
+        QTest::keyClicks(&field(), u"9"_s);
+        QTest::keyClick(&field(), Qt::Key_Return);
+        QTRY_VERIFY(!list);
+    }
+};
+
+ORVT_TEST(GoToLineTest)
+#include "GoToLineTest.moc"
