@@ -49,7 +49,7 @@ void BlankMarks::mark(QPainter &painter, const ShownLine &line) const
 {
     const QString text = line.block.text();
     const QRectF shown(m_box.viewport()->rect());
-    for (qsizetype i = 0; i < text.size(); ++i) {
+    for (qint32 i = 0; i < text.size(); ++i) {
         if (text[i] != u' ' && text[i] != u'\t')
             continue;
         for (const QRectF &place : placesOf(line, {i, 1})) {

@@ -42,9 +42,9 @@ void PairMarks::findBrackets(const QTextCursor &caret, QList<Mark> &marks) const
     if (!pair)
         return;
     const int line = caret.blockNumber();
-    marks.append({{line, {pair->bracket, 1}}, !pair->partner});
+    marks.append({{line, {static_cast<qint32>(pair->bracket), 1}}, !pair->partner});
     if (pair->partner)
-        marks.append({{line, {*pair->partner, 1}}, false});
+        marks.append({{line, {static_cast<qint32>(*pair->partner), 1}}, false});
 }
 
 void PairMarks::show()

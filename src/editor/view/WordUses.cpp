@@ -23,9 +23,9 @@ bool holdsLetter(QStringView word)
     return std::any_of(word.begin(), word.end(), [](QChar c) { return c.isLetter(); });
 }
 
-bool isAt(const LinePiece &word, qsizetype caret)
+bool isAt(const TextPiece &word, qsizetype caret)
 {
-    return word.offset <= caret && caret <= word.end();
+    return word.start <= caret && caret <= word.end();
 }
 
 } // namespace
@@ -55,8 +55,8 @@ QString WordUses::wordAtCaret() const
         if (isAt(word.place, offset))
             return {};
     }
-    for (const LinePiece &word : wordsOf(line)) {
-        QString text = line.sliced(word.offset, word.length);
+    for (const TextPiece &word : wordsOf(line)) {
+        QString text = line.sliced(word.start, word.length);
         if (isAt(word, offset) && holdsLetter(text))
             return text;
     }
@@ -101,8 +101,8 @@ void WordUses::paintBelow(QPainter &painter, const ShownLines &lines)
         if (!text.contains(m_word, Qt::CaseInsensitive))
             continue;
         const bool isCaretLine = line.block == caret.block();
-        for (const LinePiece &word : wordsOf(text)) {
-            const QStringView other = QStringView(text).sliced(word.offset, word.length);
+        for (const TextPiece &word : wordsOf(text)) {
+            const QStringView other = QStringView(text).sliced(word.start, word.length);
             if (other.compare(m_word, Qt::CaseInsensitive) != 0 ||
                 (isCaretLine && isAt(word, caret.positionInBlock())))
                 continue;
