@@ -7,13 +7,13 @@ namespace ORVTListview {
 namespace {
 
 // The first place of a word in a line; the whole line when it is a part of a longer word.
-LinePiece placeOf(QStringView word, QStringView line)
+TextPiece placeOf(QStringView word, QStringView line)
 {
-    for (const LinePiece &piece : wordsOf(line)) {
-        if (line.sliced(piece.offset, piece.length) == word)
+    for (const TextPiece &piece : wordsOf(line)) {
+        if (line.sliced(piece.start, piece.length) == word)
             return piece;
     }
-    return {0, line.size()};
+    return {0, static_cast<qint32>(line.size())};
 }
 
 } // namespace
@@ -23,10 +23,9 @@ QList<Problem> problemsOf(const QList<ProgramFinding> &findings, const QString &
     const QList<QStringView> lines = QStringView(program).split(u"\r\n");
     QList<Problem> problems;
     for (const ProgramFinding &finding : findings) {
-        const LinePiece place = placeOf(finding.word, lines.value(finding.line - 1));
-        problems.append({finding.line, static_cast<qint32>(place.offset),
-                         static_cast<qint32>(place.length), ProblemSeverity::Error,
-                         faultText(finding)});
+        const TextPiece place = placeOf(finding.word, lines.value(finding.line - 1));
+        problems.append(
+            {finding.line, place.start, place.length, ProblemSeverity::Error, faultText(finding)});
     }
     return problems;
 }

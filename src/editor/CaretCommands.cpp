@@ -22,7 +22,7 @@ struct Place
 std::optional<BlockWord> blockWordAt(const QString &line, qsizetype offset)
 {
     for (const BlockWord &word : blockWordsOf(line)) {
-        if (offset >= word.place.offset && offset <= word.place.end())
+        if (offset >= word.place.start && offset <= word.place.end())
             return word;
     }
     return {};
@@ -35,14 +35,14 @@ std::optional<Place> partnerOf(const BlockWord &from, QTextBlock line)
     BlockWalk walk(isForwards ? BlockWalk::Direction::Forwards : BlockWalk::Direction::Backwards);
     QList<BlockWord> words = blockWordsOf(line.text());
     words.removeIf([&](const BlockWord &other) {
-        return isForwards ? other.place.offset <= from.place.offset
-                          : other.place.offset >= from.place.offset;
+        return isForwards ? other.place.start <= from.place.start
+                          : other.place.start >= from.place.start;
     });
     for (;;) {
         const QList<BlockWord> found = walk.take(words);
         if (!found.isEmpty() && (isForwards || walk.isDone())) {
             const BlockWord &word = isForwards ? found.first() : found.last();
-            return Place{line.blockNumber(), static_cast<qint32>(word.place.offset)};
+            return Place{line.blockNumber(), word.place.start};
         }
         line = isForwards ? line.next() : line.previous();
         if (!line.isValid())

@@ -37,28 +37,28 @@ void CodeView::setLineNumbersVisible(bool visible)
 
 bool CodeView::currentLineShown() const
 {
-    return d->currentLine.isShown();
+    return d->currentLine->isShown();
 }
 
 void CodeView::setCurrentLineShown(bool shown)
 {
     if (shown == currentLineShown())
         return;
-    d->currentLine.setOn(shown);
+    d->currentLine->setOn(shown);
     raiseEvent(*this, &CodeView::currentLineShownChanged, shown);
 }
 
 bool CodeView::pairsShown() const
 {
-    return d->pairs.isShown();
+    return d->pairs->isShown();
 }
 
 void CodeView::setPairsShown(bool shown)
 {
     if (shown == pairsShown())
         return;
-    d->pairs.setOn(shown);
-    d->wordUses.setOn(shown);
+    d->pairs->setOn(shown);
+    d->wordUses->setOn(shown);
     raiseEvent(*this, &CodeView::pairsShownChanged, shown);
 }
 

@@ -2,21 +2,20 @@
 
 #include "editor/CommandsState.h"
 #include "editor/GoToLineBar.h"
-#include "editor/view/BlankMarks.h"
 #include "editor/view/Bookmarks.h"
-#include "editor/view/CurrentLine.h"
+#include "editor/view/CaretLayer.h"
 #include "editor/view/EditorMargin.h"
 #include "editor/view/Folds.h"
-#include "editor/view/IndentGuides.h"
+#include "editor/view/LineLayer.h"
 #include "editor/view/MarkColumn.h"
 #include "editor/view/NumberColumn.h"
-#include "editor/view/PairMarks.h"
 #include "editor/view/Problems.h"
 #include "editor/view/ScrollMarks.h"
-#include "editor/view/WordUses.h"
 #include "editor/view/Zoom.h"
 
 #include <QtCore/QPointer>
+
+#include <memory>
 
 namespace ORVTListview {
 
@@ -39,11 +38,11 @@ struct CodeViewParts
     NumberColumn numbers;
     MarkColumn marks;
     Folds folds;
-    CurrentLine currentLine;
-    WordUses wordUses;
-    PairMarks pairs;
-    IndentGuides indentGuides;
-    BlankMarks blanks;
+    const std::unique_ptr<CaretLayer> currentLine;
+    const std::unique_ptr<CaretLayer> wordUses;
+    const std::unique_ptr<CaretLayer> pairs;
+    LineLayer indentGuides;
+    LineLayer blanks;
     Zoom zoom;
     const ProgramCommands &commands;
     CommandsState commandsState;

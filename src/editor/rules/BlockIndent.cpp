@@ -9,7 +9,7 @@ namespace ORVTListview {
 int BlockIndent::take(QStringView line)
 {
     const QList<BlockWord> words = blockWordsOf(line);
-    const QList<LinePiece> all = words.isEmpty() ? QList<LinePiece>() : wordsOf(line);
+    const QList<TextPiece> all = words.isEmpty() ? QList<TextPiece>() : wordsOf(line);
     int own = m_depth;
     bool isLeading = true;
     for (qsizetype i = 0; i < words.size(); ++i) {

@@ -1,6 +1,5 @@
-#include "editor/view/BlankMarks.h"
-
 #include "editor/view/LayerOrder.h"
+#include "editor/view/LineLayer.h"
 #include "editor/view/LinePlaces.h"
 #include "editor/view/ViewColours.h"
 
@@ -24,43 +23,42 @@ void drawArrow(QPainter &painter, const QRectF &place, bool isLeftwards)
     painter.drawLine(QPointF(back, middle + head), QPointF(tip, middle));
 }
 
-} // namespace
-
-BlankMarks::BlankMarks(QPlainTextEdit &box, BoxLayers &layers)
-    : BoxLayer(layers, LayerOrder::blanks)
-    , m_box(box)
-{
-}
-
-void BlankMarks::paintAbove(QPainter &painter, const ShownLines &lines)
-{
-    const QColor ground = ViewColours::groundOf(m_box);
-    const QColor colour = ViewColours::mixed(ground, ViewColours::textOf(m_box), 0.45);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour, 1));
-    painter.setBrush(colour);
-    for (const ShownLine &line : lines)
-        mark(painter, line);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-}
-
 // What stands beside the viewport is passed over: a line may be long.
-void BlankMarks::mark(QPainter &painter, const ShownLine &line) const
+void mark(QPainter &painter, const ShownLine &line, const QPlainTextEdit &box)
 {
     const QString text = line.block.text();
-    const QRectF shown(m_box.viewport()->rect());
-    for (qsizetype i = 0; i < text.size(); ++i) {
+    const QRectF shown(box.viewport()->rect());
+    for (qint32 i = 0; i < text.size(); ++i) {
         if (text[i] != u' ' && text[i] != u'\t')
             continue;
         for (const QRectF &place : placesOf(line, {i, 1})) {
             if (!shown.intersects(place))
                 continue;
             if (text[i] == u'\t')
-                drawArrow(painter, place, m_box.isRightToLeft());
+                drawArrow(painter, place, box.isRightToLeft());
             else
                 painter.drawEllipse(place.center(), 0.6, 0.6);
         }
     }
+}
+
+void paint(QPainter &painter, const ShownLines &lines, const QPlainTextEdit &box)
+{
+    const QColor ground = ViewColours::groundOf(box);
+    const QColor colour = ViewColours::mixed(ground, ViewColours::textOf(box), 0.45);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1));
+    painter.setBrush(colour);
+    for (const ShownLine &line : lines)
+        mark(painter, line, box);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+} // namespace
+
+LineLayer::Look LineLayer::blankMarks()
+{
+    return {.order = LayerOrder::blanks, .above = paint};
 }
 
 } // namespace ORVTListview

@@ -37,7 +37,7 @@ void BlockSearch::start(const QTextBlock &line, int offset)
 {
     clear();
     for (const BlockWord &word : blockWordsOf(line.text())) {
-        if (offset < word.place.offset || offset > word.place.end())
+        if (offset < word.place.start || offset > word.place.end())
             continue;
         m_firstLine = m_lastLine = line.blockNumber();
         m_places.append({m_firstLine, word.place});
@@ -56,8 +56,8 @@ void BlockSearch::begin(std::optional<Way> &way, BlockWalk::Direction direction,
     const bool isForwards = direction == BlockWalk::Direction::Forwards;
     QList<BlockWord> words = blockWordsOf(line.text());
     words.removeIf([&](const BlockWord &other) {
-        return isForwards ? other.place.offset <= word.place.offset
-                          : other.place.offset >= word.place.offset;
+        return isForwards ? other.place.start <= word.place.start
+                          : other.place.start >= word.place.start;
     });
     way.emplace(Way{BlockWalk(direction), QTextCursor(line)});
     take(*way, line, words);

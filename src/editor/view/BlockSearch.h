@@ -21,7 +21,7 @@ public:
     struct Place
     {
         int line = 0; // from 0
-        LinePiece piece;
+        TextPiece piece;
 
         friend bool operator==(const Place &, const Place &) = default;
     };

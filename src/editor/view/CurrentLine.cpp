@@ -1,5 +1,4 @@
-#include "editor/view/CurrentLine.h"
-
+#include "editor/view/CaretLayer.h"
 #include "editor/view/LayerOrder.h"
 #include "editor/view/ViewColours.h"
 
@@ -7,46 +6,48 @@
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QPlainTextEdit>
 
-#include <utility>
-
 namespace ORVTListview {
 namespace {
 
-int caretLine(const QPlainTextEdit &box)
+struct Line
 {
-    const QTextCursor caret = box.textCursor();
-    const QTextBlock line = caret.block();
-    return line.contains(caret.anchor()) ? line.blockNumber() : -1;
-}
+    int number = -1; // none while several are selected
 
-} // namespace
+    bool touches(const QTextBlock &line) const { return line.blockNumber() == number; }
 
-CurrentLine::CurrentLine(QPlainTextEdit &box, BoxLayers &layers)
-    : CaretLayer(box, layers, LayerOrder::currentLine)
+    friend bool operator==(const Line &, const Line &) = default;
+};
+
+class CurrentLine final : public CaretLayer
 {
-}
+public:
+    CurrentLine(QPlainTextEdit &box, BoxLayers &layers)
+        : CaretLayer(box, layers, LayerOrder::currentLine)
+    {
+    }
 
-void CurrentLine::forget()
-{
-    m_line = -1;
-}
+    void paintBelow(QPainter &painter, const ShownLines &lines) override;
+    void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip) override;
+
+private:
+    void follow() override;
+    void forget() override { m_line = {}; }
+
+    Line m_line;
+};
 
 void CurrentLine::follow()
 {
-    const int line = caretLine(m_box);
-    const int former = std::exchange(m_line, line);
-    if (line == former || !layers())
-        return;
-    layers()->updateLines([=](const QTextBlock &block) {
-        return block.blockNumber() == line || block.blockNumber() == former;
-    });
+    const QTextCursor caret = m_box.textCursor();
+    const QTextBlock line = caret.block();
+    show(m_line, line.contains(caret.anchor()) ? Line{line.blockNumber()} : Line{});
 }
 
 void CurrentLine::paintBelow(QPainter &painter, const ShownLines &lines)
 {
     const QColor ground = ViewColours::faintGround(ViewColours::groundOf(m_box));
     for (const ShownLine &line : lines) {
-        if (line.block.blockNumber() == m_line)
+        if (m_line.touches(line.block))
             painter.fillRect(
                 QRectF(0, line.place.top(), m_box.viewport()->width(), line.place.height()),
                 ground);
@@ -55,8 +56,15 @@ void CurrentLine::paintBelow(QPainter &painter, const ShownLines &lines)
 
 void CurrentLine::paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip)
 {
-    if (line.block.blockNumber() == m_line)
+    if (m_line.touches(line.block))
         painter.fillRect(strip, ViewColours::faintGround(ViewColours::groundOf(m_box)));
+}
+
+} // namespace
+
+std::unique_ptr<CaretLayer> currentLineLayer(QPlainTextEdit &box, BoxLayers &layers)
+{
+    return std::make_unique<CurrentLine>(box, layers);
 }
 
 } // namespace ORVTListview

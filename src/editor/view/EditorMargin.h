@@ -16,9 +16,8 @@ class MarginColumn
 {
 public:
     MarginColumn() = default;
-    MarginColumn(const MarginColumn &) = delete; // known to its margin
-    MarginColumn &operator=(const MarginColumn &) = delete;
     virtual ~MarginColumn();
+    Q_DISABLE_COPY_MOVE(MarginColumn) // known to its margin
 
     // 0 while there is nothing to show.
     virtual int width() const = 0;

@@ -1,7 +1,6 @@
-#include "editor/view/IndentGuides.h"
-
 #include "base/TextRules.h"
 #include "editor/view/LayerOrder.h"
+#include "editor/view/LineLayer.h"
 #include "editor/view/ViewColours.h"
 
 #include <QtGui/QAbstractTextDocumentLayout>
@@ -43,21 +42,13 @@ qreal indentBeside(QTextBlock line, QTextBlock (QTextBlock::*next)() const)
     return 0;
 }
 
-} // namespace
-
-IndentGuides::IndentGuides(QPlainTextEdit &box, BoxLayers &layers)
-    : BoxLayer(layers, LayerOrder::indentGuides)
-    , m_box(box)
+void paint(QPainter &painter, const ShownLines &lines, const QPlainTextEdit &box)
 {
-}
-
-void IndentGuides::paintBelow(QPainter &painter, const ShownLines &lines)
-{
-    const qreal step = m_box.tabStopDistance();
+    const qreal step = box.tabStopDistance();
     if (step < 2)
         return;
-    const QColor ground = ViewColours::groundOf(m_box);
-    const QColor colour = ViewColours::mixed(ground, ViewColours::textOf(m_box), 0.22);
+    const QColor ground = ViewColours::groundOf(box);
+    const QColor colour = ViewColours::mixed(ground, ViewColours::textOf(box), 0.22);
     for (const ShownLine &line : lines) {
         const auto own = indentOf(line.block);
         const qreal indent = own ? *own
@@ -67,12 +58,19 @@ void IndentGuides::paintBelow(QPainter &painter, const ShownLines &lines)
         if (layout.lineCount() == 0)
             continue;
         const qreal start = line.place.left() + layout.lineAt(0).cursorToX(0);
-        const qreal towards = m_box.isRightToLeft() ? -1 : 1;
+        const qreal towards = box.isRightToLeft() ? -1 : 1;
         for (qreal at = step; at < indent - 0.5; at += step)
             painter.fillRect(
                 QRectF(qRound(start + towards * at), line.place.top(), 1, line.place.height()),
                 colour);
     }
+}
+
+} // namespace
+
+LineLayer::Look LineLayer::indentGuides()
+{
+    return {.order = LayerOrder::indentGuides, .below = paint};
 }
 
 } // namespace ORVTListview

@@ -6,14 +6,14 @@
 
 namespace ORVTListview {
 
-QList<QRectF> placesOf(const ShownLine &line, const LinePiece &piece)
+QList<QRectF> placesOf(const ShownLine &line, const TextPiece &piece)
 {
     QList<QRectF> places;
     const QTextLayout &layout = *line.block.layout();
     for (int i = 0; i < layout.lineCount(); ++i) {
         const QTextLine row = layout.lineAt(i);
-        const int from = std::max(row.textStart(), static_cast<int>(piece.offset));
-        const int to = std::min(row.textStart() + row.textLength(), static_cast<int>(piece.end()));
+        const int from = std::max(row.textStart(), piece.start);
+        const int to = std::min(row.textStart() + row.textLength(), piece.end());
         if (from >= to)
             continue;
         const qreal one = row.cursorToX(from);

@@ -1,6 +1,6 @@
-#include "editor/view/PairMarks.h"
-
 #include "editor/rules/structure/Brackets.h"
+#include "editor/view/BlockSearch.h"
+#include "editor/view/CaretLayer.h"
 #include "editor/view/LayerOrder.h"
 #include "editor/view/LinePlaces.h"
 #include "editor/view/ViewColours.h"
@@ -13,17 +13,71 @@
 #include <utility>
 
 namespace ORVTListview {
+namespace {
 
-PairMarks::PairMarks(QPlainTextEdit &box, BoxLayers &layers)
-    : CaretLayer(box, layers, LayerOrder::pairs)
+struct Mark
 {
-    connect(&m_block, &BlockSearch::changed, this, &PairMarks::show);
-}
+    BlockSearch::Place place;
+    bool isWrong = false;
+
+    friend bool operator==(const Mark &, const Mark &) = default;
+};
+
+// Lines from the first to the last, drawn together in the margin.
+struct Span
+{
+    int first = 0;
+    int last = -1;
+
+    bool holds(int line) const { return line >= first && line <= last; }
+
+    friend bool operator==(const Span &, const Span &) = default;
+};
+
+struct Marks
+{
+    QList<Mark> words;
+    Span span;
+
+    bool standIn(int line) const
+    {
+        return std::any_of(words.begin(), words.end(),
+                           [line](const Mark &mark) { return mark.place.line == line; });
+    }
+
+    bool touches(const QTextBlock &line) const
+    {
+        return span.holds(line.blockNumber()) || standIn(line.blockNumber());
+    }
+
+    friend bool operator==(const Marks &, const Marks &) = default;
+};
+
+class PairMarks final : public CaretLayer
+{
+public:
+    PairMarks(QPlainTextEdit &box, BoxLayers &layers)
+        : CaretLayer(box, layers, LayerOrder::pairs)
+    {
+        connect(&m_block, &BlockSearch::changed, this, &PairMarks::find);
+    }
+
+    void paintBelow(QPainter &painter, const ShownLines &lines) override;
+    void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip) override;
+
+private:
+    void follow() override;
+    void forget() override;
+    void find();
+
+    BlockSearch m_block;
+    Marks m_marks;
+};
 
 void PairMarks::forget()
 {
     m_block.clear();
-    m_marks.clear();
+    m_marks = {};
 }
 
 void PairMarks::follow()
@@ -33,50 +87,38 @@ void PairMarks::follow()
         m_block.clear();
     else
         m_block.start(caret.block(), caret.positionInBlock());
-    show();
+    find();
 }
 
-void PairMarks::findBrackets(const QTextCursor &caret, QList<Mark> &marks) const
+QList<Mark> bracketsAt(const QTextCursor &caret)
 {
     const auto pair = bracketAt(caret.block().text(), caret.positionInBlock());
     if (!pair)
-        return;
-    const int line = caret.blockNumber();
-    marks.append({{line, {pair->bracket, 1}}, !pair->partner});
-    if (pair->partner)
-        marks.append({{line, {*pair->partner, 1}}, false});
+        return {};
+    const auto mark = [&](qsizetype place, bool isWrong) {
+        return Mark{{caret.blockNumber(), {static_cast<qint32>(place), 1}}, isWrong};
+    };
+    if (!pair->partner)
+        return {mark(pair->bracket, true)};
+    return {mark(pair->bracket, false), mark(*pair->partner, false)};
 }
 
-void PairMarks::show()
+void PairMarks::find()
 {
     const QTextCursor caret = m_box.textCursor();
-    QList<Mark> marks;
+    Marks marks;
     if (!caret.hasSelection())
-        findBrackets(caret, marks);
+        marks.words = bracketsAt(caret);
     for (const BlockSearch::Place &place : m_block.places())
-        marks.append({place, m_block.isBroken() && place == m_block.places().first()});
-    const Span span =
-        m_block.places().isEmpty() ? Span{} : Span{m_block.firstLine(), m_block.lastLine()};
-    if (marks == m_marks && span == m_span)
-        return;
-    const QList<Mark> former = std::exchange(m_marks, marks);
-    const Span formerSpan = std::exchange(m_span, span);
-    if (!layers())
-        return;
-    layers()->updateLines([&](const QTextBlock &block) {
-        const int line = block.blockNumber();
-        const auto isOn = [line](const Mark &mark) { return mark.place.line == line; };
-        const auto isIn = [line](const Span &lines) {
-            return line >= lines.first && line <= lines.last;
-        };
-        return isIn(span) || isIn(formerSpan) || std::any_of(marks.begin(), marks.end(), isOn) ||
-               std::any_of(former.begin(), former.end(), isOn);
-    });
+        marks.words.append({place, m_block.isBroken() && place == m_block.places().first()});
+    if (!m_block.places().isEmpty())
+        marks.span = {m_block.firstLine(), m_block.lastLine()};
+    show(m_marks, std::move(marks));
 }
 
 void PairMarks::paintBelow(QPainter &painter, const ShownLines &lines)
 {
-    if (m_marks.isEmpty())
+    if (m_marks.words.isEmpty())
         return;
     const QColor ground = ViewColours::groundOf(m_box);
     const QColor right = m_box.palette().color(QPalette::Highlight);
@@ -84,7 +126,7 @@ void PairMarks::paintBelow(QPainter &painter, const ShownLines &lines)
     painter.setRenderHint(QPainter::Antialiasing);
     for (const ShownLine &line : lines) {
         const int number = line.block.blockNumber();
-        for (const Mark &mark : std::as_const(m_marks)) {
+        for (const Mark &mark : std::as_const(m_marks.words)) {
             if (mark.place.line != number)
                 continue;
             const QColor colour = mark.isWrong ? wrong : right;
@@ -101,7 +143,7 @@ void PairMarks::paintBelow(QPainter &painter, const ShownLines &lines)
 void PairMarks::paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip)
 {
     const int number = line.block.blockNumber();
-    if (number < m_span.first || number > m_span.last)
+    if (!m_marks.span.holds(number))
         return;
     constexpr int thick = 2;
     constexpr int foot = 5;
@@ -117,12 +159,18 @@ void PairMarks::paintMargin(QPainter &painter, const ShownLine &line, const QRec
         painter.fillRect(left, top, width, height, colour);
     };
     const int middle = strip.center().y();
-    const int top = number == m_span.first ? middle : strip.top();
-    const int bottom = number == m_span.last ? middle + thick : strip.bottom() + 1;
+    const int top = number == m_marks.span.first ? middle : strip.top();
+    const int bottom = number == m_marks.span.last ? middle + thick : strip.bottom() + 1;
     fill(0, top, thick, bottom - top);
-    if (std::any_of(m_marks.cbegin(), m_marks.cend(),
-                    [number](const Mark &mark) { return mark.place.line == number; }))
+    if (m_marks.standIn(number))
         fill(0, middle, foot, thick);
+}
+
+} // namespace
+
+std::unique_ptr<CaretLayer> pairLayer(QPlainTextEdit &box, BoxLayers &layers)
+{
+    return std::make_unique<PairMarks>(box, layers);
 }
 
 } // namespace ORVTListview

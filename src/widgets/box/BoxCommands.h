@@ -34,9 +34,8 @@ class BoxCommands
 {
 public:
     BoxCommands() = default;
-    BoxCommands(const BoxCommands &) = delete; // belongs to one box
-    BoxCommands &operator=(const BoxCommands &) = delete;
     virtual ~BoxCommands();
+    Q_DISABLE_COPY_MOVE(BoxCommands) // belongs to one box
 
     // Whether the box takes a key from the host's shortcuts; without an answer the
     // toolkit's usual choice holds.

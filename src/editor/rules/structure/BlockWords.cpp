@@ -18,12 +18,12 @@ void walkWords(QStringView line, Take take)
 {
     if (IsCommentLine(line))
         return;
-    qsizetype begin = 0;
-    for (qsizetype i = 0; i <= line.size(); ++i) {
+    qint32 begin = 0;
+    for (qint32 i = 0; i <= line.size(); ++i) {
         if (i < line.size() && !endsWord(line[i]))
             continue;
         if (i > begin)
-            take(LinePiece{begin, i - begin});
+            take(TextPiece{begin, i - begin});
         begin = i + 1;
     }
 }
@@ -47,18 +47,18 @@ std::optional<BlockWord::Kind> kindOf(QStringView word)
 
 } // namespace
 
-QList<LinePiece> wordsOf(QStringView line)
+QList<TextPiece> wordsOf(QStringView line)
 {
-    QList<LinePiece> words;
-    walkWords(line, [&](const LinePiece &word) { words.append(word); });
+    QList<TextPiece> words;
+    walkWords(line, [&](const TextPiece &word) { words.append(word); });
     return words;
 }
 
 QList<BlockWord> blockWordsOf(QStringView line)
 {
     QList<BlockWord> words;
-    walkWords(line, [&](const LinePiece &place) {
-        if (const auto kind = kindOf(line.sliced(place.offset, place.length)))
+    walkWords(line, [&](const TextPiece &place) {
+        if (const auto kind = kindOf(line.sliced(place.start, place.length)))
             words.append({*kind, place});
     });
     return words;

@@ -28,10 +28,10 @@ QString walked(const QString &program, BlockWalk::Direction direction)
         QList<BlockWord> words = blockWordsOf(lines[i]);
         if (i == start)
             words.removeIf([=](const BlockWord &word) {
-                return isForwards ? word.place.offset <= offset : word.place.offset >= offset;
+                return isForwards ? word.place.start <= offset : word.place.start >= offset;
             });
         for (const BlockWord &word : walk.take(words))
-            found << u"%1:%2"_s.arg(i).arg(word.place.offset);
+            found << u"%1:%2"_s.arg(i).arg(word.place.start);
     }
     return found.join(u' ') + (walk.isDone() ? u"."_s : QString());
 }
@@ -49,8 +49,8 @@ QString backwards(const QString &program)
 QString words(QStringView line)
 {
     QStringList texts;
-    for (const LinePiece &word : wordsOf(line))
-        texts << line.sliced(word.offset, word.length).toString();
+    for (const TextPiece &word : wordsOf(line))
+        texts << line.sliced(word.start, word.length).toString();
     return texts.join(u'|');
 }
 
