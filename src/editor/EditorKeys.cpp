@@ -13,7 +13,42 @@
 
 #include <QtCore/QPointer>
 
+#include <algorithm>
+#include <iterator>
+
 namespace ORVTListview {
+namespace {
+
+using Acts = EditorKeys::Acts;
+
+template <auto step>
+void stepUndo(const Acts &acts)
+{
+    QString unheard;
+    (acts.undo.*step)(unheard);
+}
+
+// What the editor does in the place of the box.
+struct Command
+{
+    KeyDecision decision;
+    void (*run)(const Acts &acts);
+};
+constexpr Command commands[] = {
+    {KeyDecision::IndentLines, [](const Acts &acts) { acts.editing.indentLines(); }},
+    {KeyDecision::UnindentLines, [](const Acts &acts) { acts.editing.unindentLines(); }},
+    {KeyDecision::DeleteBlankBefore,
+     [](const Acts &acts) { acts.editing.deleteBlankBeforeCaret(); }},
+    {KeyDecision::Cut, [](const Acts &acts) { acts.clipboard.cutByKey(); }},
+    {KeyDecision::Copy, [](const Acts &acts) { acts.clipboard.RTextCopy(); }},
+    {KeyDecision::Paste, [](const Acts &acts) { acts.clipboard.pasteClipboard(); }},
+    {KeyDecision::Undo, stepUndo<&EditorUndo::Undo>},
+    {KeyDecision::Redo, stepUndo<&EditorUndo::Redo>},
+    {KeyDecision::SelectAll, [](const Acts &acts) { acts.text.RTextSelectAll(); }},
+    {KeyDecision::ShowWordList, [](const Acts &acts) { acts.words.TryToPopupList(false); }},
+};
+
+} // namespace
 
 EditorKeys::EditorKeys(const Acts &acts)
     : m_acts(acts)
@@ -67,54 +102,25 @@ bool EditorKeys::carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift)
     case KeyDecision::DeleteWordAfter:
         m_acts.undo.PushUndoSnapshot();
         return true;
+    case KeyDecision::Analyze:
+        raiseEvent(*this, &EditorKeys::QueryAnalyze);
+        return false;
+    case KeyDecision::Compile:
+        raiseEvent(*this, &EditorKeys::QueryCompile);
+        return false;
     default:
         return runCommand(decision);
     }
 }
 
-bool EditorKeys::runCommand(KeyDecision decision)
+bool EditorKeys::runCommand(KeyDecision decision) const
 {
-    QString errMsg;
-    switch (decision) {
-    case KeyDecision::IndentLines:
-        m_acts.editing.indentLines();
-        break;
-    case KeyDecision::UnindentLines:
-        m_acts.editing.unindentLines();
-        break;
-    case KeyDecision::DeleteBlankBefore:
-        m_acts.editing.deleteBlankBeforeCaret();
-        break;
-    case KeyDecision::Cut:
-        m_acts.clipboard.cutByKey();
-        break;
-    case KeyDecision::Copy:
-        m_acts.clipboard.RTextCopy();
-        break;
-    case KeyDecision::Paste:
-        m_acts.clipboard.pasteClipboard();
-        break;
-    case KeyDecision::Undo:
-        m_acts.undo.Undo(errMsg);
-        break;
-    case KeyDecision::Redo:
-        m_acts.undo.Redo(errMsg);
-        break;
-    case KeyDecision::SelectAll:
-        m_acts.text.RTextSelectAll();
-        break;
-    case KeyDecision::ShowWordList:
-        m_acts.words.TryToPopupList(false);
-        break;
-    case KeyDecision::Analyze:
-        raiseEvent(*this, &EditorKeys::QueryAnalyze);
-        break;
-    case KeyDecision::Compile:
-        raiseEvent(*this, &EditorKeys::QueryCompile);
-        break;
-    default:
+    const auto *const command =
+        std::find_if(std::begin(commands), std::end(commands),
+                     [decision](const Command &each) { return each.decision == decision; });
+    if (command == std::end(commands))
         return true;
-    }
+    command->run(m_acts);
     return false;
 }
 

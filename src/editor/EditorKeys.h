@@ -47,7 +47,7 @@ Q_SIGNALS:
 private:
     // Each returns whether the key goes on to the box.
     bool carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift);
-    bool runCommand(KeyDecision decision);
+    bool runCommand(KeyDecision decision) const;
     bool editingKey(qint16 keyCode);
     bool movingKey(qint16 keyCode);
     KeyState state(bool popupListShown) const;

@@ -7,6 +7,15 @@
 namespace ORVTListview::MemberEntries {
 
 template <typename Component>
+QList<Member> clickEvents(qint32 first)
+{
+    return {
+        raises<&Component::Click>(first, u"Click"),
+        raises<&Component::DblClick>(first + 1, u"DblClick"),
+    };
+}
+
+template <typename Component>
 QList<Member> keyEvents(qint32 first)
 {
     return {

@@ -35,10 +35,9 @@ QList<Member> inputEvents()
     const QList<Member> own{
         raises<&Shell::Change>(1, u"Change"),
         raises<&Shell::SelChange>(2, u"SelChange"),
-        raises<&Shell::Click>(3, u"Click"),
-        raises<&Shell::DblClick>(4, u"DblClick"),
     };
-    return own + keyEvents<Shell>(5) + mouseEvents<Shell>(8) + dragEvents<Shell>(11);
+    return own + clickEvents<Shell>(3) + keyEvents<Shell>(5) + mouseEvents<Shell>(8) +
+           dragEvents<Shell>(11);
 }
 
 QList<Member> hostEvents()

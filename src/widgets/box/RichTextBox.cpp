@@ -40,8 +40,8 @@ RichTextBox::RichTextBox(QWidget *parent)
     text->setDefaultFont(font());
     text->setDocumentLayout(new BoxLayout(*text, *viewport()));
     setDocument(text);
-    m_parts = std::make_unique<BoxParts>(*text, *viewport(), plainCommands(*this));
-    m_parts->layers = new BoxLayers(
+    d = std::make_unique<BoxParts>(*text, *viewport(), plainCommands(*this));
+    d->layers = new BoxLayers(
         *this, *viewport(),
         {[this] {
              const QTextBlock first = firstVisibleBlock();
@@ -52,14 +52,14 @@ RichTextBox::RichTextBox(QWidget *parent)
          [this](const QFont &shown) { document()->setDefaultFont(shown); }});
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
-    m_parts->formats.setFont(font());
+    d->formats.setFont(font());
     connect(this, &QPlainTextEdit::textChanged, this, &RichTextBox::noteTextChange);
 }
 
 RichTextBox::~RichTextBox()
 {
     // The toolkit goes on with both when a receiver destroys the box.
-    m_parts->surface.letGo();
+    d->surface.letGo();
     for (QMenu *menu : findChildren<QMenu *>(Qt::FindDirectChildrenOnly)) {
         menu->setParent(nullptr);
         menu->deleteLater();
@@ -69,13 +69,12 @@ RichTextBox::~RichTextBox()
 RichTextBox::Changing::Changing(RichTextBox &box)
     : m_box(&box)
 {
-    ++box.m_parts->changing;
+    ++box.d->changing;
 }
 
 RichTextBox::Changing::~Changing()
 {
-    if (m_box && --m_box->m_parts->changing == 0 &&
-        std::exchange(m_box->m_parts->hasChanged, false))
+    if (m_box && --m_box->d->changing == 0 && std::exchange(m_box->d->hasChanged, false))
         raiseEvent(*m_box, &RichTextBox::Change);
 }
 
@@ -83,26 +82,26 @@ RichTextBox::Changing::~Changing()
 void RichTextBox::noteChange()
 {
     Q_EMIT edited();
-    if (m_parts->changing > 0)
-        m_parts->hasChanged = true;
-    else if (!std::exchange(m_parts->isChangeQueued, true))
+    if (d->changing > 0)
+        d->hasChanged = true;
+    else if (!std::exchange(d->isChangeQueued, true))
         QMetaObject::invokeMethod(this, &RichTextBox::raiseQueuedChange, Qt::QueuedConnection);
 }
 
 void RichTextBox::raiseQueuedChange()
 {
-    m_parts->isChangeQueued = false;
+    d->isChangeQueued = false;
     raiseEvent(*this, &RichTextBox::Change);
 }
 
 // The toolkit tells of edits that changed nothing, too.
 void RichTextBox::noteTextChange()
 {
-    const quint64 changes = m_parts->text.changeCount();
-    if (changes == m_parts->announcedChanges)
+    const quint64 changes = d->text.changeCount();
+    if (changes == d->announcedChanges)
         return;
-    m_parts->announcedChanges = changes;
-    if (!m_parts->isQuiet && !m_parts->keepsText)
+    d->announcedChanges = changes;
+    if (!d->isQuiet && !d->keepsText)
         noteChange();
 }
 
@@ -110,11 +109,11 @@ void RichTextBox::noteTextChange()
 void RichTextBox::replaceAll(const std::function<void()> &insert)
 {
     const Changing changing(*this);
-    m_parts->announceChange(true);
+    d->announceChange(true);
     {
-        const QScopedValueRollback quiet(m_parts->isQuiet, true);
+        const QScopedValueRollback quiet(d->isQuiet, true);
         insert();
-        m_parts->text.sharedText();
+        d->text.sharedText();
     }
     noteChange();
 }
@@ -129,7 +128,7 @@ void RichTextBox::select(int anchor, int position)
 
 QString RichTextBox::Text() const
 {
-    return m_parts->text.text();
+    return d->text.text();
 }
 
 void RichTextBox::setText(const QString &text)
@@ -144,8 +143,8 @@ void RichTextBox::setText(const QString &text)
 
 QString RichTextBox::TextRTF() const
 {
-    RtfWriter writer(m_parts->formats.base());
-    readBox(*document(), m_parts->formats, 0, document()->characterCount() - 1, writer);
+    RtfWriter writer(d->formats.base());
+    readBox(*document(), d->formats, 0, document()->characterCount() - 1, writer);
     return writer.finish();
 }
 
@@ -159,26 +158,25 @@ void RichTextBox::setTextRTF(const QString &rtf)
 
 qint32 RichTextBox::SelStart() const
 {
-    return m_parts->text.toBox(textCursor().selectionStart());
+    return d->text.toBox(textCursor().selectionStart());
 }
 
 void RichTextBox::setSelStart(qint32 position)
 {
-    const int place = m_parts->text.toDocument(position);
+    const int place = d->text.toDocument(position);
     select(place, place);
 }
 
 qint32 RichTextBox::SelLength() const
 {
     const QTextCursor cursor = textCursor();
-    return m_parts->text.toBox(cursor.selectionEnd()) -
-           m_parts->text.toBox(cursor.selectionStart());
+    return d->text.toBox(cursor.selectionEnd()) - d->text.toBox(cursor.selectionStart());
 }
 
 void RichTextBox::setSelLength(qint32 length)
 {
     const int start = textCursor().selectionStart();
-    select(start, m_parts->text.toDocument(advance(m_parts->text.toBox(start), length)));
+    select(start, d->text.toDocument(advance(d->text.toBox(start), length)));
 }
 
 QString RichTextBox::SelText() const
@@ -188,28 +186,28 @@ QString RichTextBox::SelText() const
 
 QString RichTextBox::textOf(const QTextCursor &selection) const
 {
-    return m_parts->text.read(selection.selectionStart(), selection.selectionEnd());
+    return d->text.read(selection.selectionStart(), selection.selectionEnd());
 }
 
 void RichTextBox::setSelText(const QString &text)
 {
     const Changing changing(*this);
-    m_parts->announceChange(textCursor().hasSelection());
+    d->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     const QTextCharFormat format = BoxFormats::formatAt(cursor);
     cursor.beginEditBlock();
     cursor.removeSelectedText();
     BoxMarks::insert(cursor, text, format);
     cursor.endEditBlock();
-    const int place = m_parts->text.whole(cursor.position());
+    const int place = d->text.whole(cursor.position());
     select(place, place);
 }
 
 QString RichTextBox::SelRTF() const
 {
-    RtfWriter writer(m_parts->formats.base());
+    RtfWriter writer(d->formats.base());
     const QTextCursor cursor = textCursor();
-    readBox(*document(), m_parts->formats, cursor.selectionStart(), cursor.selectionEnd(), writer);
+    readBox(*document(), d->formats, cursor.selectionStart(), cursor.selectionEnd(), writer);
     return writer.finish();
 }
 
@@ -220,13 +218,13 @@ void RichTextBox::setSelRTF(const QString &rtf)
         return;
     }
     const Changing changing(*this);
-    m_parts->announceChange(textCursor().hasSelection());
+    d->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     {
-        BoxSink sink(cursor, m_parts->formats);
+        BoxSink sink(cursor, d->formats);
         readRtf(rtf, sink);
     }
-    const int place = m_parts->text.whole(cursor.position());
+    const int place = d->text.whole(cursor.position());
     select(place, place);
 }
 
@@ -237,7 +235,7 @@ qint32 RichTextBox::SelColor() const
 
 void RichTextBox::setSelColor(qint32 colour)
 {
-    const BoxParts::KeepingText keeping(*m_parts);
+    const BoxParts::KeepingText keeping(*d);
     const qint32 shown = colour == ColouredText::automatic
                              ? colour
                              : Colours::fromColor(Colours::toColor(colour, paletteAround()));
@@ -253,13 +251,13 @@ void RichTextBox::setSelColor(qint32 colour)
 
 qint32 RichTextBox::GetLineFromChar(qint32 Position) const
 {
-    return m_parts->text.lineOf(Position);
+    return d->text.lineOf(Position);
 }
 
 qint32 RichTextBox::Find(const QString &Text, qint32 Start, qint32 End, qint32 Options)
 {
     const TextSearch how{(Options & FindWholeWord) != 0, (Options & FindMatchCase) != 0};
-    const QString &text = m_parts->text.text();
+    const QString &text = d->text.text();
     const qsizetype end = End == -1 ? text.size() : End;
     const auto place = static_cast<qint32>(findText(text, Text, Start, end, how));
     if (place >= 0 && (Options & FindNoHighlight) == 0) {
@@ -272,40 +270,40 @@ qint32 RichTextBox::Find(const QString &Text, qint32 Start, qint32 End, qint32 O
 
 qint32 RichTextBox::TextLength() const
 {
-    return m_parts->text.length();
+    return d->text.length();
 }
 
 qint32 RichTextBox::lineCount() const
 {
-    return m_parts->text.lineCount();
+    return d->text.lineCount();
 }
 
 qint32 RichTextBox::lineStart(qint32 line) const
 {
-    return m_parts->text.lineStart(line);
+    return d->text.lineStart(line);
 }
 
 QString RichTextBox::lineText(qint32 line) const
 {
-    return m_parts->text.lineText(line);
+    return d->text.lineText(line);
 }
 
 QString RichTextBox::textRange(qint32 start, qint32 length) const
 {
-    return m_parts->text.range(start, length);
+    return d->text.range(start, length);
 }
 
 void RichTextBox::setColoured(const ColouredText &text)
 {
     replaceAll([&] {
         // A cleared document forgets its formats, and is faster than one emptied.
-        BoxLines lines(*document(), m_parts->formats, text);
+        BoxLines lines(*document(), d->formats, text);
         if (!lines.keepUnchanged())
             document()->clear();
         QTextCursor cursor = lines.toReplace();
         {
-            BoxSink sink(cursor, m_parts->formats);
-            putColoured(lines.replacement(), m_parts->formats.base(), sink);
+            BoxSink sink(cursor, d->formats);
+            putColoured(lines.replacement(), d->formats.base(), sink);
         }
         select(0, 0);
     });
@@ -314,30 +312,30 @@ void RichTextBox::setColoured(const ColouredText &text)
 void RichTextBox::setSelColoured(const ColouredText &text)
 {
     const Changing changing(*this);
-    m_parts->announceChange(textCursor().hasSelection());
+    d->announceChange(textCursor().hasSelection());
     QTextCursor cursor = textCursor();
     {
-        BoxSink sink(cursor, m_parts->formats);
-        putColoured(text, m_parts->formats.base(), sink);
+        BoxSink sink(cursor, d->formats);
+        putColoured(text, d->formats.base(), sink);
     }
-    const int place = m_parts->text.whole(cursor.position());
+    const int place = d->text.whole(cursor.position());
     select(place, place);
 }
 
 void RichTextBox::recolour(qint32 start, const ColouredText &text)
 {
-    const BoxParts::KeepingText keeping(*m_parts);
-    BoxColours::apply(*document(), m_parts->text, start, text);
+    const BoxParts::KeepingText keeping(*d);
+    BoxColours::apply(*document(), d->text, start, text);
 }
 
 bool RichTextBox::keepsText() const
 {
-    return m_parts->keepsText;
+    return d->keepsText;
 }
 
 ColouredText RichTextBox::coloured(qint32 start, qint32 length) const
 {
-    return BoxColours::read(*document(), m_parts->text, start, length);
+    return BoxColours::read(*document(), d->text, start, length);
 }
 
 } // namespace ORVTListview

@@ -28,16 +28,16 @@ void RichTextBox::mousePressEvent(QMouseEvent *event)
     const bool holds = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
                        after.hasSelection() && after.anchor() == before.anchor() &&
                        after.position() == before.position();
-    m_parts->dragStart = holds ? std::optional(event->pos()) : std::nullopt;
+    d->dragStart = holds ? std::optional(event->pos()) : std::nullopt;
 }
 
 void RichTextBox::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_parts->dragStart || !event->buttons().testFlag(Qt::LeftButton)) {
+    if (!d->dragStart || !event->buttons().testFlag(Qt::LeftButton)) {
         QPlainTextEdit::mouseMoveEvent(event);
         return;
     }
-    const QPoint way = event->pos() - *m_parts->dragStart;
+    const QPoint way = event->pos() - *d->dragStart;
     // The selection may have gone with its text since.
     if (way.manhattanLength() >= QApplication::startDragDistance() && textCursor().hasSelection())
         startDrag(*event);
@@ -48,7 +48,7 @@ void RichTextBox::startDrag(const QMouseEvent &event)
     // The toolkit's own drag would remove moved text past the commands, so its
     // press is ended here.
     const QTextCursor dragged = textCursor();
-    m_parts->dragStart.reset();
+    d->dragStart.reset();
     QMouseEvent release(QEvent::MouseButtonRelease, event.position(), event.globalPosition(),
                         Qt::LeftButton, Qt::NoButton, event.modifiers());
     QPlainTextEdit::mouseReleaseEvent(&release);
@@ -62,11 +62,11 @@ void RichTextBox::startDrag(const QMouseEvent &event)
     const Qt::DropActions actions = mayMove ? Qt::CopyAction | Qt::MoveAction : Qt::CopyAction;
     const QPointer<RichTextBox> self(this);
     const QPointer<QDrag> alive(drag);
-    m_parts->dragged = dragged;
+    d->dragged = dragged;
     const Qt::DropAction action = drag->exec(actions, mayMove ? Qt::MoveAction : Qt::CopyAction);
     if (!self)
         return;
-    m_parts->dragged = {};
+    d->dragged = {};
     const bool isGone = alive && action == Qt::MoveAction && alive->target() != viewport();
     if (isGone && mayUserEdit(*this)) {
         setTextCursor(dragged);
@@ -84,7 +84,7 @@ void RichTextBox::dropEvent(QDropEvent *event)
     if (!canInsertFromMimeData(event->mimeData()))
         return;
     const QTextCursor before = textCursor();
-    QTextCursor dragged = m_parts->dragged;
+    QTextCursor dragged = d->dragged;
     const QTextCursor place = cursorForPosition(event->position().toPoint());
     if (moves && place.position() >= dragged.selectionStart() &&
         place.position() <= dragged.selectionEnd())

@@ -85,12 +85,12 @@ bool isAltText(const QKeyEvent &event)
 
 BoxCommands &RichTextBox::commands() const
 {
-    return *m_parts->commands;
+    return *d->commands;
 }
 
 void RichTextBox::setCommands(std::unique_ptr<BoxCommands> commands)
 {
-    m_parts->commands = commands ? std::move(commands) : plainCommands(*this);
+    d->commands = commands ? std::move(commands) : plainCommands(*this);
 }
 
 bool RichTextBox::isComposing() const
@@ -106,7 +106,7 @@ void RichTextBox::moveFocus(bool forwards)
 
 bool RichTextBox::event(QEvent *event)
 {
-    if (!m_parts)
+    if (!d)
         return QPlainTextEdit::event(event);
     return EventGuard::run([this, event] {
         const Changing changing(*this);
@@ -116,11 +116,11 @@ bool RichTextBox::event(QEvent *event)
 
 bool RichTextBox::viewportEvent(QEvent *event)
 {
-    if (!m_parts)
+    if (!d)
         return QPlainTextEdit::viewportEvent(event);
-    return m_parts->surface.deliver([this, event] {
+    return d->surface.deliver([this, event] {
         const Changing changing(*this);
-        if (event->type() == QEvent::Paint && !m_parts->layers->isEmpty())
+        if (event->type() == QEvent::Paint && !d->layers->isEmpty())
             return paintLayers(static_cast<QPaintEvent &>(*event));
         auto *layout = qobject_cast<BoxLayout *>(document()->documentLayout());
         if (event->type() != QEvent::Resize || !layout)
@@ -134,9 +134,9 @@ bool RichTextBox::viewportEvent(QEvent *event)
 
 bool RichTextBox::paintLayers(QPaintEvent &event)
 {
-    m_parts->layers->paintBelow(event.region());
+    d->layers->paintBelow(event.region());
     const bool handled = QPlainTextEdit::viewportEvent(&event);
-    m_parts->layers->paintAbove(event.region());
+    d->layers->paintAbove(event.region());
     return handled;
 }
 
@@ -189,7 +189,7 @@ void RichTextBox::act(QKeyEvent *event)
         event->ignore();
     } else {
         // The key may be one that deletes, in the manner of some platform.
-        m_parts->announceChange(textCursor().hasSelection());
+        d->announceChange(textCursor().hasSelection());
         commands().edit([this, event] {
             QPlainTextEdit::keyPressEvent(event);
             keepCaretWhole();
@@ -201,7 +201,7 @@ void RichTextBox::removeBeside(QTextCursor::MoveOperation step)
 {
     const Changing changing(*this);
     QTextCursor cursor = textCursor();
-    m_parts->announceChange(cursor.hasSelection());
+    d->announceChange(cursor.hasSelection());
     if (cursor.hasSelection())
         cursor.removeSelectedText();
     else
@@ -219,7 +219,7 @@ void RichTextBox::removeStep(QTextCursor &cursor, QTextCursor::MoveOperation ste
     if (step != QTextCursor::PreviousCharacter)
         cursor.movePosition(step, QTextCursor::KeepAnchor);
     else if (!cursor.atStart()) // the toolkit would cut a pair whose halves differ in format
-        cursor.setPosition(m_parts->text.whole(cursor.position() - 1), QTextCursor::KeepAnchor);
+        cursor.setPosition(d->text.whole(cursor.position() - 1), QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
 }
 
@@ -227,8 +227,8 @@ void RichTextBox::removeStep(QTextCursor &cursor, QTextCursor::MoveOperation ste
 void RichTextBox::keepCaretWhole()
 {
     const QTextCursor cursor = textCursor();
-    const int anchor = m_parts->text.whole(cursor.anchor());
-    const int position = m_parts->text.whole(cursor.position());
+    const int anchor = d->text.whole(cursor.anchor());
+    const int position = d->text.whole(cursor.position());
     if (anchor != cursor.anchor() || position != cursor.position())
         select(anchor, position);
 }
@@ -236,7 +236,7 @@ void RichTextBox::keepCaretWhole()
 // The toolkit reports what is being composed as a change of the line.
 void RichTextBox::compose(QInputMethodEvent *event)
 {
-    const BoxParts::KeepingText keeping(*m_parts);
+    const BoxParts::KeepingText keeping(*d);
     QPlainTextEdit::inputMethodEvent(event);
 }
 
@@ -252,13 +252,13 @@ void RichTextBox::commit(const QInputMethodEvent &event)
     QInputMethodEvent endOfComposition;
     compose(&endOfComposition);
     const QTextCursor before = textCursor();
-    const quint64 changes = m_parts->text.changeCount();
+    const quint64 changes = d->text.changeCount();
     if (event.replacementLength() > 0)
         selectReplaced(event);
     const QPointer<RichTextBox> self(this);
     commands().type(event.commitString());
     // Refused text leaves nothing selected that the next key would replace.
-    if (self && event.replacementLength() > 0 && m_parts->text.changeCount() == changes)
+    if (self && event.replacementLength() > 0 && d->text.changeCount() == changes)
         setTextCursor(before);
 }
 

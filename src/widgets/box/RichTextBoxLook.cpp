@@ -33,22 +33,22 @@ QPalette RichTextBox::paletteAround() const
 
 qint32 RichTextBox::BackColor() const
 {
-    return m_parts->backColor;
+    return d->backColor;
 }
 
 void RichTextBox::setBackColor(qint32 colour)
 {
-    m_parts->backColor = colour;
+    d->backColor = colour;
     applyBackColor();
 }
 
 void RichTextBox::applyBackColor()
 {
-    const qint32 colour = m_parts->backColor;
+    const qint32 colour = d->backColor;
     const bool hasOwn = colour != Colours::windowBackground;
-    if (!hasOwn && !m_parts->hasOwnPalette)
+    if (!hasOwn && !d->hasOwnPalette)
         return;
-    m_parts->hasOwnPalette = hasOwn;
+    d->hasOwnPalette = hasOwn;
     QPalette own;
     if (hasOwn) {
         const QPalette around = paletteAround();
@@ -72,7 +72,7 @@ void RichTextBox::setFontName(const QString &name)
 
 float RichTextBox::FontSize() const
 {
-    return static_cast<float>(m_parts->formats.pointSize());
+    return static_cast<float>(d->formats.pointSize());
 }
 
 void RichTextBox::setFontSize(float points)
@@ -126,8 +126,8 @@ void RichTextBox::changeEvent(QEvent *event)
 {
     QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        m_parts->formats.setFont(font());
-        m_parts->layers->fitFont();
+        d->formats.setFont(font());
+        d->layers->fitFont();
     } else if (event->type() == QEvent::PaletteChange) {
         applyBackColor();
     }

@@ -27,12 +27,12 @@ void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &pu
     if (pieces.isEmpty())
         return;
     const Changing changing(*this);
-    m_parts->announceChange(false);
+    d->announceChange(false);
     QTextCursor oneChange(document());
     QTextCursor caret;
     oneChange.beginEditBlock();
     for (qsizetype i = pieces.size() - 1; i >= 0; --i) {
-        QTextCursor cursor = selected(*document(), m_parts->text, pieces[i]);
+        QTextCursor cursor = selected(*document(), d->text, pieces[i]);
         put(cursor, i);
         if (caret.isNull())
             caret = cursor;
@@ -40,7 +40,7 @@ void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &pu
     if (finish)
         finish();
     oneChange.endEditBlock();
-    const int place = m_parts->text.whole(caret.position());
+    const int place = d->text.whole(caret.position());
     select(place, place);
 }
 
@@ -57,8 +57,8 @@ void RichTextBox::replacePieces(const QList<TextPiece> &pieces, const QList<Colo
                                 const std::function<void()> &finish)
 {
     const auto put = [&](QTextCursor &cursor, qsizetype i) {
-        BoxSink sink(cursor, m_parts->formats);
-        putColoured(texts[i], m_parts->formats.base(), sink);
+        BoxSink sink(cursor, d->formats);
+        putColoured(texts[i], d->formats.base(), sink);
     };
     replaceEach(pieces, put, finish);
 }

@@ -24,13 +24,6 @@ QHash<QString, int> rowsByKey(const QList<ComboEntry> &entries)
 
 } // namespace
 
-ComboEntries::ComboEntries(QObject *parent)
-    : QAbstractListModel(parent)
-{
-}
-
-ComboEntries::~ComboEntries() = default;
-
 int ComboEntries::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : size();

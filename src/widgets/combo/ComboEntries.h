@@ -16,8 +16,7 @@ class ComboEntries : public QAbstractListModel
     Q_OBJECT
 
 public:
-    explicit ComboEntries(QObject *parent = nullptr);
-    ~ComboEntries() override;
+    using QAbstractListModel::QAbstractListModel;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;

@@ -67,8 +67,6 @@ ComboMatches::ComboMatches(const ComboEntries &entries, QObject *parent)
     matchAll();
 }
 
-ComboMatches::~ComboMatches() = default;
-
 int ComboMatches::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : size();

@@ -17,7 +17,6 @@ class ComboMatches : public QAbstractListModel
 public:
     // All entries match at first, and again whenever they are replaced.
     explicit ComboMatches(const ComboEntries &entries, QObject *parent = nullptr);
-    ~ComboMatches() override;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;

@@ -14,7 +14,7 @@ struct Entry
     qint16 code;
 };
 
-// Keys that are the same wherever they stand.
+// Keys that are the same wherever they stand, and the signs of the main keyboard.
 constexpr std::array keys{
     Entry{Qt::Key_Backspace, BackspaceKey},
     Entry{Qt::Key_Tab, TabKey},
@@ -51,17 +51,20 @@ constexpr std::array keys{
     Entry{Qt::Key_Menu, MenuKey},
     Entry{Qt::Key_NumLock, NumLockKey},
     Entry{Qt::Key_ScrollLock, ScrollLockKey},
-};
 
-// Signs that share a key with a digit.
-constexpr std::array digitSigns{
-    Entry{Qt::Key_ParenRight, '0'},  Entry{Qt::Key_Exclam, '1'},    Entry{Qt::Key_At, '2'},
-    Entry{Qt::Key_NumberSign, '3'},  Entry{Qt::Key_Dollar, '4'},    Entry{Qt::Key_Percent, '5'},
-    Entry{Qt::Key_AsciiCircum, '6'}, Entry{Qt::Key_Ampersand, '7'}, Entry{Qt::Key_Asterisk, '8'},
+    // Signs that share a key with a digit
+    Entry{Qt::Key_ParenRight, '0'},
+    Entry{Qt::Key_Exclam, '1'},
+    Entry{Qt::Key_At, '2'},
+    Entry{Qt::Key_NumberSign, '3'},
+    Entry{Qt::Key_Dollar, '4'},
+    Entry{Qt::Key_Percent, '5'},
+    Entry{Qt::Key_AsciiCircum, '6'},
+    Entry{Qt::Key_Ampersand, '7'},
+    Entry{Qt::Key_Asterisk, '8'},
     Entry{Qt::Key_ParenLeft, '9'},
-};
 
-constexpr std::array signs{
+    // Other signs, two on a key
     Entry{Qt::Key_Semicolon, SemicolonKey},
     Entry{Qt::Key_Colon, SemicolonKey},
     Entry{Qt::Key_Equal, EqualKey},
@@ -119,8 +122,6 @@ qint16 plainCode(int key)
              inRow(key, Qt::Key_0, Qt::Key_9, '0'),
              inRow(key, Qt::Key_F1, Qt::Key_F24, F1Key),
              find(keys, key),
-             find(digitSigns, key),
-             find(signs, key),
          }) {
         if (code != 0)
             return code;

@@ -19,13 +19,6 @@ namespace {
 
 } // namespace
 
-ReportModel::ReportModel(QObject *parent)
-    : QAbstractTableModel(parent)
-{
-}
-
-ReportModel::~ReportModel() = default;
-
 int ReportModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : rows();

@@ -26,8 +26,7 @@ class ReportModel final : public QAbstractTableModel
 public:
     using PictureProvider = std::function<QIcon(const QString &key)>;
 
-    explicit ReportModel(QObject *parent = nullptr);
-    ~ReportModel() override;
+    using QAbstractTableModel::QAbstractTableModel;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;

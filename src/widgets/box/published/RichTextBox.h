@@ -254,7 +254,7 @@ private:
     void commit(const QInputMethodEvent &event);
     void startDrag(const QMouseEvent &event);
 
-    std::unique_ptr<BoxParts> m_parts;
+    std::unique_ptr<BoxParts> d;
 };
 
 } // namespace ORVTListview
