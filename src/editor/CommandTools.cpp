@@ -34,13 +34,15 @@ void CommandTools::carryOut(const CommandChange &change) const
         return;
     const MessagesLater later(thread.messages);
     const RichTextBox::Changing changing(box);
-    undo.PushUndoSnapshot();
+    if (!undo.isShownInRing())
+        undo.PushUndoSnapshot();
     const KeptView view(box);
     box.replacePieces(change.pieces, change.texts, [&] {
         for (const qint32 line : change.linesToFinish)
             colouring.finishLine(line);
     });
     select(box, change.selection);
+    undo.PushUndoSnapshot(); // without it undo would take two commands back at once
 }
 
 } // namespace ORVTListview

@@ -52,6 +52,11 @@ void EditorUndo::PushUndoSnapshot()
     m_idle.start(idleAfter);
 }
 
+bool EditorUndo::isShownInRing() const
+{
+    return m_thread.ring.holdsText(m_thread.ring.UndoCurrent(), shown().text);
+}
+
 bool EditorUndo::canUndo() const
 {
     return m_thread.ring.CanUndo() || m_kept.canGo(Way::Back);

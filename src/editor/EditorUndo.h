@@ -32,6 +32,9 @@ public:
     // ready, and on an empty text.
     void PushUndoSnapshot();
 
+    // Whether the ring's current slot has the text that is shown.
+    bool isShownInRing() const;
+
     // Show the slot that the ring steps to. ErrMsg is left as it is when nothing
     // failed; on a failure text and selection stay. True when a state was shown.
     bool Undo(QString &ErrMsg) { return step(Way::Back, ErrMsg); }

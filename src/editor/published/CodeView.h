@@ -111,7 +111,7 @@ public:
 
     // What a host binds to its menu; none has a key of its own. The commands that change
     // the program do nothing while the control shows a table, or the editor is hidden,
-    // disabled or read-only. Each is one change with one snapshot for undo, and none when
+    // disabled or read-only. Each is one change and one step of undo, and none when
     // there is nothing to do; the selection and the lines in view stay. Those that only
     // move the caret act in a read-only editor, too.
 

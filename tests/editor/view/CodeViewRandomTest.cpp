@@ -1,0 +1,391 @@
+// A user at work in an editor that shows and does all that it can, at random. After
+// each step its text, caret, bookmarks and folds are those of a simple model.
+
+#include "editor/rules/structure/Folding.h"
+#include "editor/view/ViewFixture.h"
+#include "support/RandomSeed.h"
+#include "support/RandomText.h"
+#include "support/Shrunk.h"
+#include "support/TestProgram.h"
+#include "support/WidgetTest.h"
+
+#include <algorithm>
+#include <functional>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The program as a list of lines, each with its bookmark.
+struct ModelLine
+{
+    QString text;
+    bool isMarked = false;
+
+    qsizetype indent() const
+    {
+        const auto isBlank = [](QChar c) { return c == u' '; };
+        return std::find_if_not(text.begin(), text.end(), isBlank) - text.begin();
+    }
+    bool isPlain() const
+    {
+        const QString words = text.mid(indent());
+        return !words.startsWith(u"IF"_s) && !words.startsWith(u"E"_s);
+    }
+};
+
+using Model = QList<ModelLine>;
+
+Model randomProgram(RandomText &random)
+{
+    Model lines;
+    int depth = 0;
+    for (int i = 0; i < 40; ++i) {
+        const int kind = random.number(6);
+        if (kind == 0 && depth < 4) {
+            lines.append({QString(4 * depth++, u' ') + u"IF q%1"_s.arg(i)});
+        } else if (kind == 1 && depth > 0) {
+            lines.append({QString(4 * --depth, u' ') + u"ENDIF"_s});
+        } else {
+            lines.append({QString(4 * depth, u' ') + u"q%1 = %2"_s.arg(i).arg(random.number(9))});
+        }
+    }
+    while (depth > 0)
+        lines.append({QString(4 * --depth, u' ') + u"ENDIF"_s});
+    return lines;
+}
+
+QString textOf(const Model &lines)
+{
+    QStringList texts;
+    for (const ModelLine &line : lines)
+        texts.append(line.text);
+    return texts.join(u"\r\n"_s);
+}
+
+void switchAllOn(CodeView &view)
+{
+    const QMetaObject &meta = *view.metaObject();
+    for (int i = QObject::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i) {
+        const QMetaProperty property = meta.property(i);
+        if (property.isWritable() && property.metaType() == QMetaType::fromType<bool>())
+            property.write(&view, true);
+    }
+    view.setZoom(110);
+}
+
+class Session
+{
+public:
+    explicit Session(unsigned seed)
+        : m_random(seed)
+        , m_lines(randomProgram(m_random))
+    {
+        switchAllOn(view());
+        m_host.list->openProgram(textOf(m_lines));
+    }
+
+    // What is wrong after the first of these steps, each a seed, that leaves anything
+    // wrong; empty when none does.
+    QString take(const std::vector<unsigned> &steps)
+    {
+        for (const unsigned step : steps) {
+            m_random = RandomText(step);
+            take();
+            QCoreApplication::processEvents();
+            const QString wrong = m_wrong.isEmpty() ? whatIsWrong() : m_wrong;
+            if (!wrong.isEmpty())
+                return wrong;
+        }
+        return {};
+    }
+
+    QString done() const { return m_done.join(u", "_s); }
+
+private:
+    using Act = void (Session::*)();
+
+    RichTextBox &box() { return m_host.box(); }
+    CodeView &view() { return m_host.view(); }
+    int count() const { return static_cast<int>(m_lines.size()); }
+    void note(const QString &act) { m_done.append(act); }
+    void expect(bool isRight, const QString &what)
+    {
+        if (!isRight && m_wrong.isEmpty())
+            m_wrong = what;
+    }
+
+    void take()
+    {
+        static constexpr Act acts[] = {
+            &Session::typeAtEnd,   &Session::breakLine,     &Session::pressHome,
+            &Session::toggleMark,  &Session::nextMark,      &Session::fold,
+            &Session::clickFold,   &Session::moveLines,     &Session::duplicateLines,
+            &Session::deleteLine,  &Session::joinAndUndo,   &Session::sortAndUndo,
+            &Session::newProblems, &Session::zoomAndScroll, &Session::pressArrows};
+        const int act = m_random.number(static_cast<int>(std::size(acts)));
+        (this->*acts[act])();
+    }
+
+    // Some line, from 0, where the caret then stands.
+    int goSomewhere()
+    {
+        const int line = m_random.number(count());
+        note(u"line %1"_s.arg(line + 1));
+        view().goToLine(line + 1);
+        expectCaret(line, 0);
+        return line;
+    }
+    void expectCaret(int line, qsizetype column)
+    {
+        const QTextCursor caret = box().textCursor();
+        expect(caret.blockNumber() == line && caret.positionInBlock() == column,
+               u"the caret is at %1:%2 instead of %3:%4"_s.arg(caret.blockNumber() + 1)
+                   .arg(caret.positionInBlock())
+                   .arg(line + 1)
+                   .arg(column));
+    }
+
+    void typeAtEnd()
+    {
+        const int line = goSomewhere();
+        if (!m_lines[line].isPlain())
+            return;
+        note(u"type"_s);
+        m_host.key(Qt::Key_End);
+        m_host.type(u"7"_s);
+        m_lines[line].text += u"7"_s;
+        expectCaret(line, m_lines[line].text.size());
+    }
+    void breakLine()
+    {
+        const int line = goSomewhere();
+        if (!m_lines[line].isPlain() || count() > 120)
+            return;
+        note(u"Enter"_s);
+        m_host.key(Qt::Key_End);
+        m_host.key(Qt::Key_Return);
+        m_host.type(u"r = 1"_s);
+        const ModelLine added{QString(m_lines[line].indent(), u' ') + u"r = 1"_s};
+        m_lines.insert(line + 1, added);
+        expectCaret(line + 1, added.text.size());
+    }
+    void pressHome()
+    {
+        const int line = goSomewhere();
+        note(u"Home"_s);
+        m_host.key(Qt::Key_End);
+        m_host.key(Qt::Key_Home);
+        expectCaret(line, m_lines[line].indent());
+    }
+    void toggleMark()
+    {
+        const int line = goSomewhere();
+        note(u"mark"_s);
+        view().toggleBookmark();
+        m_lines[line].isMarked = !m_lines[line].isMarked;
+    }
+    void nextMark()
+    {
+        const int line = goSomewhere();
+        int marked = -1;
+        for (int i = 1; i <= count() && marked < 0; ++i) {
+            if (m_lines[(line + i) % count()].isMarked)
+                marked = (line + i) % count();
+        }
+        note(u"next mark"_s);
+        expect(view().nextBookmark() == (marked >= 0), u"a mark is there, or none"_s);
+        const int now = box().textCursor().blockNumber();
+        expect(now == (marked < 0 ? line : marked), u"the next mark is elsewhere"_s);
+    }
+    void fold()
+    {
+        const bool all = m_random.number(2) == 0;
+        note(all ? u"fold all"_s : u"unfold all"_s);
+        all ? view().foldAll() : view().unfoldAll();
+        QList<bool> hidden(count(), false);
+        if (all)
+            foldOutermost(hidden);
+        for (int i = 0; i < count(); ++i) {
+            const bool isHidden = !box().document()->findBlockByNumber(i).isVisible();
+            expect(isHidden == hidden[i], u"line %1 is hidden, or is not"_s.arg(i + 1));
+        }
+    }
+    void foldOutermost(QList<bool> &hidden) const
+    {
+        for (int i = 0; i < count(); ++i) {
+            const int end = endOf(i);
+            if (end < 0)
+                continue;
+            for (int inside = i + 1; inside < end; ++inside)
+                hidden[inside] = true;
+            i = end - 1;
+        }
+    }
+    // The line with the ENDIF of an IF; -1 for a line without one.
+    int endOf(int line) const
+    {
+        int depth = 0;
+        for (int i = line; i < count(); ++i) {
+            const QString words = m_lines[i].text.trimmed();
+            depth += words.startsWith(u"IF"_s) ? 1 : words.startsWith(u"ENDIF"_s) ? -1 : 0;
+            if (i == line && depth != 1)
+                return -1;
+            if (depth == 0)
+                return i;
+        }
+        return -1;
+    }
+    void clickFold()
+    {
+        const int line = goSomewhere();
+        note(u"click the sign"_s);
+        QTest::mouseClick(&m_host.margin(), Qt::LeftButton, {},
+                          {m_host.margin().width() - 5, m_host.inMargin(line).y()});
+    }
+    void moveLines()
+    {
+        const int line = goSomewhere();
+        const int by = m_random.number(7) - 3;
+        note(u"move by %1"_s.arg(by));
+        view().moveLines(by);
+        const int to = std::clamp(line + by, 0, count() - 1);
+        m_lines.move(line, to);
+        expectCaret(to, 0);
+    }
+    void duplicateLines()
+    {
+        const int line = goSomewhere();
+        if (count() > 120)
+            return;
+        note(u"duplicate"_s);
+        view().duplicateLines();
+        m_lines.insert(line + 1, {m_lines[line].text});
+    }
+    void deleteLine()
+    {
+        const int line = goSomewhere();
+        if (count() < 5)
+            return;
+        note(u"delete"_s);
+        view().deleteLines();
+        m_lines.removeAt(line);
+    }
+    // What becomes of marks on lines that become one is nobody's promise; that undo
+    // gives the text back is.
+    void joinAndUndo() { undoneAtOnce(u"join and undo"_s, &CodeView::joinLines); }
+    void sortAndUndo()
+    {
+        note(u"select all"_s);
+        m_host.key(Qt::Key_A, Qt::ControlModifier);
+        undoneAtOnce(u"sort and undo"_s, &CodeView::sortLines);
+    }
+    void undoneAtOnce(const QString &name, void (CodeView::*command)())
+    {
+        note(name);
+        (view().*command)();
+        const bool isChanged = box().Text() != textOf(m_lines);
+        if (isChanged)
+            m_host.key(Qt::Key_Z, Qt::ControlModifier);
+        readMarks();
+    }
+    void readMarks()
+    {
+        for (ModelLine &line : m_lines)
+            line.isMarked = false;
+        view().goToLine(count());
+        while (view().nextBookmark()) {
+            ModelLine &line = m_lines[box().textCursor().blockNumber()];
+            if (std::exchange(line.isMarked, true))
+                return;
+        }
+    }
+    void newProblems()
+    {
+        note(u"problems"_s);
+        QList<Problem> problems;
+        for (int i = m_random.number(5); i > 0; --i) {
+            Problem problem;
+            problem.line = m_random.number(count()) + 1;
+            problem.length = m_random.number(4);
+            problem.text = u"wrong"_s;
+            problems.append(problem);
+        }
+        view().setProblems(problems);
+        expect(view().problems().size() == problems.size(), u"a problem is lost"_s);
+        expect(view().nextProblem() == !problems.isEmpty(), u"there is a problem, or none"_s);
+    }
+    void zoomAndScroll()
+    {
+        note(u"zoom and scroll"_s);
+        view().setZoom(80 + m_random.number(100));
+        box().verticalScrollBar()->setValue(m_random.number(count()));
+        m_host.margin().grab();
+        box().viewport()->grab();
+    }
+    void pressArrows()
+    {
+        static constexpr Qt::Key keys[] = {Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,
+                                           Qt::Key_Right, Qt::Key_PageUp, Qt::Key_PageDown};
+        const Qt::Key key = keys[m_random.number(static_cast<int>(std::size(keys)))];
+        note(QKeySequence(key).toString());
+        for (int i = m_random.number(5); i >= 0; --i)
+            m_host.key(key);
+    }
+
+    QString whatIsWrong()
+    {
+        if (box().Text() != textOf(m_lines))
+            return u"the text is another: "_s + box().Text() + u"\ninstead of: "_s +
+                   textOf(m_lines);
+        if (!box().textCursor().block().isVisible())
+            return u"the caret is hidden"_s;
+        for (int i = 0; i < count(); ++i) {
+            if (!isHidden(i) || (i > 0 && isHidden(i - 1)))
+                continue;
+            if (i == 0 || !BlockFold::begins(m_lines[i - 1].text))
+                return u"line %1 is hidden below no IF"_s.arg(i + 1);
+        }
+        return isHidden(count() - 1) ? u"the last line is hidden"_s : QString();
+    }
+    bool isHidden(int line) { return !box().document()->findBlockByNumber(line).isVisible(); }
+
+    ThreadState::Fresh m_state;
+    RandomText m_random;
+    Model m_lines;
+    ViewHost m_host;
+    QStringList m_done;
+    QString m_wrong;
+};
+
+} // namespace
+
+class CodeViewRandomTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyStepIsThatOfTheModel()
+    {
+        std::mt19937 random(randomSeed());
+        constexpr int sessions = 40;
+        std::vector<unsigned> steps(static_cast<std::size_t>(randomSteps(20'000) / sessions));
+        for (int i = 0; i < sessions; ++i) {
+            const auto seed = static_cast<unsigned>(random());
+            std::generate(steps.begin(), steps.end(), std::ref(random));
+            const auto fails = [seed](const std::vector<unsigned> &some) {
+                return !Session(seed).take(some).isEmpty();
+            };
+            if (!fails(steps))
+                continue;
+            const std::vector<unsigned> fewer = shrunk(steps, fails);
+            Session session(seed);
+            const QString wrong = session.take(fewer);
+            QFAIL(qPrintable(wrong + u" after: "_s + session.done()));
+        }
+    }
+};
+
+ORVT_TEST(CodeViewRandomTest)
+#include "CodeViewRandomTest.moc"
