@@ -467,5 +467,19 @@
         <extracomment>The strip beside the program, for screen readers</extracomment>
         <translation>Numéros de ligne</translation>
     </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>Numbers: the third match of seventeen is selected; %2 may be 17+ for at least 17</extracomment>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <extracomment>A number of matches, of which none is selected; it may be 17+ for at least 17</extracomment>
+        <translation>%1 trouvé(s)</translation>
+    </message>
 </context>
 </TS>

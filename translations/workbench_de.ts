@@ -223,6 +223,10 @@
         <source>Nothing was found.</source>
         <translation>Nichts gefunden.</translation>
     </message>
+    <message>
+        <source>Find as &amp;You Type</source>
+        <translation>Beim &amp;Tippen suchen</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>

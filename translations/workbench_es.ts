@@ -223,6 +223,10 @@
         <source>Nothing was found.</source>
         <translation>No se ha encontrado nada.</translation>
     </message>
+    <message>
+        <source>Find as &amp;You Type</source>
+        <translation>Busc&amp;ar al escribir</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>

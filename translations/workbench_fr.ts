@@ -223,6 +223,10 @@
         <source>Nothing was found.</source>
         <translation>Rien n’a été trouvé.</translation>
     </message>
+    <message>
+        <source>Find as &amp;You Type</source>
+        <translation>Rechercher pendant la &amp;frappe</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>

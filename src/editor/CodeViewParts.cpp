@@ -22,20 +22,24 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , zoom(editorBox, layers)
     , commands(programCommands)
     , commandsState(editorBox)
+    , found(editorBox, layers)
 {
     margin->addColumn(marks);
     margin->addColumn(numbers);
     margin->addColumn(folds);
+    scrollMarks->addSource([this] { return found.marks(); });
     scrollMarks->addSource([this] { return bookmarks.marks(); });
     scrollMarks->addSource([this] { return problems.marks(); });
     QObject::connect(&problems, &Problems::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&bookmarks, &Bookmarks::changed, scrollMarks, &ScrollMarks::refresh);
+    QObject::connect(&found.places(), &FoundPlaces::changed, scrollMarks, &ScrollMarks::refresh);
 }
 
 CodeViewParts::~CodeViewParts()
 {
     delete margin; // it knows the columns
     delete scrollMarks;
+    delete findBar;
 }
 
 } // namespace ORVTListview

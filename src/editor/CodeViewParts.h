@@ -6,6 +6,7 @@
 #include "editor/view/CurrentLine.h"
 #include "editor/view/EditorMargin.h"
 #include "editor/view/Folds.h"
+#include "editor/view/FoundMarks.h"
 #include "editor/view/IndentGuides.h"
 #include "editor/view/MarkColumn.h"
 #include "editor/view/NumberColumn.h"
@@ -14,6 +15,7 @@
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/WordUses.h"
 #include "editor/view/Zoom.h"
+#include "find/FindBar.h"
 
 #include <QtCore/QPointer>
 
@@ -46,6 +48,8 @@ struct CodeViewParts
     Zoom zoom;
     const ProgramCommands &commands;
     CommandsState commandsState;
+    FoundMarks found;
+    QPointer<FindBar> findBar; // a child of the box, made when it is first needed
 };
 
 } // namespace ORVTListview
