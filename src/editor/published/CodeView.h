@@ -156,8 +156,9 @@ public:
     Q_INVOKABLE void showFindBar();
 
     // Select the next or previous match of what the user searched for last on this
-    // thread, in the find dialog or in a find bar, with the options that it had, going round at the end. False, and nothing
-    // changed, when there is none or nothing has been searched for.
+    // thread, in the find dialog or in a find bar, with the options that it had, going round
+    // at the end. False, and nothing changed, when there is none or nothing has been searched
+    // for.
     Q_INVOKABLE bool findNext();
     Q_INVOKABLE bool findPrevious();
 
