@@ -472,5 +472,19 @@
         <extracomment>In front of a field for a number</extracomment>
         <translation>Gehe zu Zeile:</translation>
     </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>Numbers: the third match of seventeen is selected; %2 may be 17+ for at least 17</extracomment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <extracomment>A number of matches, of which none is selected; it may be 17+ for at least 17</extracomment>
+        <translation>%1 gefunden</translation>
+    </message>
 </context>
 </TS>

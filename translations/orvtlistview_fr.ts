@@ -472,5 +472,19 @@
         <extracomment>In front of a field for a number</extracomment>
         <translation>Aller à la ligne&#xa0;:</translation>
     </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>Numbers: the third match of seventeen is selected; %2 may be 17+ for at least 17</extracomment>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <extracomment>A number of matches, of which none is selected; it may be 17+ for at least 17</extracomment>
+        <translation>%1 trouvé(s)</translation>
+    </message>
 </context>
 </TS>

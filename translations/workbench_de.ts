@@ -227,6 +227,10 @@
         <source>&amp;Go To Line</source>
         <translation>Zur Zei&amp;le</translation>
     </message>
+    <message>
+        <source>Find as &amp;You Type</source>
+        <translation>Beim &amp;Tippen suchen</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>

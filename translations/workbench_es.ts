@@ -227,6 +227,10 @@
         <source>&amp;Go To Line</source>
         <translation>Ir a la lín&amp;ea</translation>
     </message>
+    <message>
+        <source>Find as &amp;You Type</source>
+        <translation>Busc&amp;ar al escribir</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>

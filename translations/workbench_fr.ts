@@ -227,6 +227,10 @@
         <source>&amp;Go To Line</source>
         <translation>Aller à la l&amp;igne</translation>
     </message>
+    <message>
+        <source>Find as &amp;You Type</source>
+        <translation>Rechercher pendant la &amp;frappe</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::EditorViewMenu</name>

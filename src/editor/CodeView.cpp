@@ -237,6 +237,16 @@ bool CodeView::findPrevious()
     return d->commands.finding.findAgain(ProgramFinding::Way::Backwards);
 }
 
+void CodeView::showFindBar()
+{
+    if (!d->box)
+        return;
+    if (!d->findBar)
+        d->findBar = new FindBar(
+            *d->box, d->found, {[this] { return findNext(); }, [this] { return findPrevious(); }});
+    d->findBar->ask();
+}
+
 bool CodeView::findNextAtCaret()
 {
     return d->commands.finding.findWordAtCaret(ProgramFinding::Way::Forwards);

@@ -22,14 +22,17 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , zoom(editorBox, layers)
     , commands(programCommands)
     , commandsState(editorBox)
+    , found(editorBox, layers)
 {
     margin->addColumn(marks);
     margin->addColumn(numbers);
     margin->addColumn(folds);
+    scrollMarks->addSource([this] { return found.marks(); });
     scrollMarks->addSource([this] { return bookmarks.marks(); });
     scrollMarks->addSource([this] { return problems.marks(); });
     QObject::connect(&problems, &Problems::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&bookmarks, &Bookmarks::changed, scrollMarks, &ScrollMarks::refresh);
+    QObject::connect(&found.places(), &FoundPlaces::changed, scrollMarks, &ScrollMarks::refresh);
 }
 
 CodeViewParts::~CodeViewParts()
@@ -37,6 +40,7 @@ CodeViewParts::~CodeViewParts()
     delete margin; // it knows the columns
     delete scrollMarks;
     delete goToLineBar;
+    delete findBar;
 }
 
 } // namespace ORVTListview

@@ -6,12 +6,14 @@
 #include "editor/view/CaretLayer.h"
 #include "editor/view/EditorMargin.h"
 #include "editor/view/Folds.h"
+#include "editor/view/FoundMarks.h"
 #include "editor/view/LineLayer.h"
 #include "editor/view/MarkColumn.h"
 #include "editor/view/NumberColumn.h"
 #include "editor/view/Problems.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/Zoom.h"
+#include "find/FindBar.h"
 
 #include <QtCore/QPointer>
 
@@ -47,6 +49,8 @@ struct CodeViewParts
     const ProgramCommands &commands;
     CommandsState commandsState;
     QPointer<GoToLineBar> goToLineBar; // a child of the box, made when it is first needed
+    FoundMarks found;
+    QPointer<FindBar> findBar; // a child of the box, made when it is first needed
 };
 
 } // namespace ORVTListview

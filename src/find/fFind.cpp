@@ -1,8 +1,8 @@
 #include "find/fFind.h"
 
-#include "base/Failure.h"
-#include "base/MessageService.h"
 #include "base/ThreadState.h"
+#include "find/HistoryField.h"
+#include "find/ShownFailure.h"
 #include "find/rules/SearchHistory.h"
 #include "shared/texts/TextTable.h"
 #include "widgets/box/CaretPosition.h"
@@ -29,12 +29,6 @@ QString searchTextOf(const RichTextBox &box)
 {
     const QString selected = box.SelText();
     return selected.contains(u'\n') ? QString() : selected;
-}
-
-void showText(QComboBox &combo, const QString &text)
-{
-    combo.setCurrentIndex(-1);
-    combo.setEditText(text);
 }
 
 } // namespace
@@ -142,13 +136,10 @@ void fFind::setMode(Mode mode)
         stayClear();
 }
 
-// Failures of an action go to the user; the dialog stays open.
+// The dialog stays open.
 void fFind::run(Action action)
 {
-    const QString errMsg = failureOf([&] { (this->*action)(); });
-    if (!errMsg.isEmpty())
-        threadPart<Messages>().service().show(
-            {Message::Icon::Exclamation, Localise(u"Find - Replace"_s), Localise(errMsg)});
+    runShowingFailure([&] { (this->*action)(); });
 }
 
 QString fFind::searched() const
@@ -169,7 +160,7 @@ void fFind::findNext()
     } else {
         tell([] { return Localise(u"Not found!"_s); });
     }
-    remember(*m_Cbo[0], threadPart<SearchHistories>().searched);
+    HistoryField::remember(*m_Cbo[0], threadPart<SearchHistories>().searched);
 }
 
 // For searches without the dialog.
@@ -189,7 +180,7 @@ void fFind::replace()
     if (searched().isEmpty())
         return;
     m_search.replace(searched(), m_Cbo[1]->currentText());
-    remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);
+    HistoryField::remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);
     findNext();
 }
 
@@ -204,7 +195,7 @@ void fFind::replaceAll()
     noteSearch();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);
+    HistoryField::remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);
     const qsizetype count = m_search.replaceAll(searched(), m_Cbo[1]->currentText());
     tell([count] { return QString::number(count) + u' ' + Localise(u"replace(s)!"_s); });
     stayClear();
@@ -232,19 +223,9 @@ void fFind::showResult()
 // Shows the text, which becomes an entry if it is none yet.
 void fFind::fill(QComboBox &combo, SearchHistory &history, const QString &text)
 {
-    combo.clear();
-    combo.addItems(history.texts());
-    showText(combo, text);
-    remember(combo, history);
-}
-
-void fFind::remember(QComboBox &combo, SearchHistory &history)
-{
-    const QString text = combo.currentText();
-    if (!history.add(text))
-        return;
-    combo.addItem(text);
-    combo.setCurrentIndex(combo.count() - 1);
+    HistoryField::list(combo, history);
+    HistoryField::show(combo, text);
+    HistoryField::remember(combo, history);
 }
 
 } // namespace ORVTListview

@@ -79,7 +79,6 @@ private:
     void tell(const Result &result);
     void showResult();
     void fill(QComboBox &combo, SearchHistory &history, const QString &text);
-    void remember(QComboBox &combo, SearchHistory &history);
     QString searched() const;
     void noteReadOnly();
     void stayClear();

@@ -1,12 +1,12 @@
 // How the find dialog looks: its controls, texts, sizes and its place on the screen.
 
 #include "base/ThreadState.h"
+#include "find/HistoryField.h"
 #include "find/fFind.h"
 #include "find/rules/DialogPlace.h"
 #include "shared/texts/AccessKeys.h"
 #include "shared/texts/TextRoutine.h"
 #include "shared/texts/TextTable.h"
-#include "widgets/input/FieldMenu.h"
 #include "widgets/look/Twips.h"
 
 #include <QtCore/QEvent>
@@ -50,19 +50,6 @@ void make(std::array<Widget *, count> &widgets, const QString &name, QWidget *pa
         widgets[i] = new Widget(parent);
         widgets[i]->setObjectName(name + QString::number(i));
     }
-}
-
-// Whatever a history holds, the field keeps its width, and nothing is put into it
-// that was not typed or chosen.
-void makeField(QComboBox &combo)
-{
-    combo.setEditable(true);
-    FieldMenu::installOn(*combo.lineEdit());
-    combo.setInsertPolicy(QComboBox::NoInsert);
-    combo.setCompleter(nullptr);
-    combo.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo.setMinimumContentsLength(16);
-    combo.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 // The marked letter is drawn by itself, without the kerning that the size hint has.
@@ -112,7 +99,7 @@ void fFind::makeControls()
     m_StatusBar1->setObjectName(u"StatusBar1"_s);
     m_StatusBar1->setSizeGripEnabled(false);
     for (std::size_t i = 0; i < m_Cbo.size(); ++i) {
-        makeField(*m_Cbo[i]);
+        HistoryField::make(*m_Cbo[i]);
         m_lbl[i]->setBuddy(m_Cbo[i]);
     }
     m_Cmd[0]->setDefault(true);

@@ -2,6 +2,7 @@
 
 #include "base/ThreadState.h"
 #include "editor/rules/language/Vocabulary.h"
+#include "editor/view/EditorBar.h"
 #include "find/FindDialog.h"
 #include "listview/ListViewFaces.h"
 #include "pointtable/rules/ColumnLayouts.h"
@@ -112,6 +113,7 @@ void ORVListView::ReInitializeStrings()
     InitStrings();
     d->table->translateHeaders();
     FindDialog::initStrings();
+    EditorBar::initStrings(d->editor->box());
     d->told.tell(*this);
 }
 

@@ -157,9 +157,17 @@ public:
     // only the indent changes.
     Q_INVOKABLE void tidy();
 
-    // Select the next or previous match of what the find dialog searched for last on this
-    // thread, with the options that it had, going round at the end. False, and nothing
-    // changed, when there is none or nothing has been searched for.
+    // Shows a bar at the bottom of the editor that finds as the user types, marks all
+    // matches, there and on the scroll bar, and tells how many there are. Enter selects the
+    // next match, Shift+Enter the previous one, Esc closes it; then the editor has the
+    // focus. It begins with the selected text. Nothing while the editor is not on the
+    // screen or disabled.
+    Q_INVOKABLE void showFindBar();
+
+    // Select the next or previous match of what the user searched for last on this
+    // thread, in the find dialog or in a find bar, with the options that it had, going round
+    // at the end. False, and nothing changed, when there is none or nothing has been searched
+    // for.
     Q_INVOKABLE bool findNext();
     Q_INVOKABLE bool findPrevious();
 

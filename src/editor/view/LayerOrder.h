@@ -3,6 +3,6 @@
 // What is painted above what, the lowest first.
 namespace ORVTListview::LayerOrder {
 
-enum { currentLine, wordUses, pairs, indentGuides, blanks, problems, folds };
+enum { currentLine, wordUses, found, pairs, indentGuides, blanks, problems, folds };
 
 } // namespace ORVTListview::LayerOrder

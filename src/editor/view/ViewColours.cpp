@@ -86,6 +86,11 @@ QColor ViewColours::quietText(const QColor &text, const QColor &ground)
     return onGround(text, ground, readable);
 }
 
+QColor ViewColours::foundGround(const QColor &ground)
+{
+    return mixed(ground, QColor(0xff, 0xb3, 0x00), 0.3);
+}
+
 QColor ViewColours::errorOn(const QColor &ground)
 {
     return onGround(QColor(0xe5, 0x39, 0x35), ground, visible);

@@ -35,6 +35,9 @@ QColor tinted(const QColor &ground, const QColor &colour);
 // Text that is there to be looked up and not to be read all the time.
 QColor quietText(const QColor &text, const QColor &ground);
 
+// Under what is searched for, so that text on it reads as before.
+QColor foundGround(const QColor &ground);
+
 // What is wrong, doubtful or worth a look.
 QColor errorOn(const QColor &ground);
 QColor warningOn(const QColor &ground);

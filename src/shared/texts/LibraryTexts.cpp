@@ -112,6 +112,7 @@ constexpr LibraryText texts[] = {
     {QT_TRANSLATE_NOOP("ORVTListview", "Find What"), Label},
     {QT_TRANSLATE_NOOP("ORVTListview", "Replace With"), Label},
     {QT_TRANSLATE_NOOP("ORVTListview", "Find Next"), Button},
+    {QT_TRANSLATE_NOOP("ORVTListview", "Find Previous"), Button},
     {QT_TRANSLATE_NOOP("ORVTListview", "Close"), Button},
     //: Also the title of the window
     {QT_TRANSLATE_NOOP("ORVTListview", "Replace"), Button},
@@ -131,6 +132,10 @@ constexpr LibraryText texts[] = {
     //: Stands before the position: Found in Row: 3, Col: 7
     {QT_TRANSLATE_NOOP("ORVTListview", "Found in"), Status},
     {QT_TRANSLATE_NOOP("ORVTListview", "Not found!"), Status},
+    //: Numbers: the third match of seventeen is selected; %2 may be 17+ for at least 17
+    {QT_TRANSLATE_NOOP("ORVTListview", "%1 of %2"), Status},
+    //: A number of matches, of which none is selected; it may be 17+ for at least 17
+    {QT_TRANSLATE_NOOP("ORVTListview", "%1 found"), Status},
     //: Stands behind a number: 3 replace(s)!
     {QT_TRANSLATE_NOOP("ORVTListview", "replace(s)!"), Status},
 

@@ -103,7 +103,15 @@ void BoxLayers::setMargin(int width)
     if (width == m_margin)
         return;
     m_margin = width;
-    m_reach.setMargin(width);
+    m_reach.setMargins(m_margin, m_roomBelow);
+}
+
+void BoxLayers::setRoomBelow(int height)
+{
+    if (height == m_roomBelow)
+        return;
+    m_roomBelow = height;
+    m_reach.setMargins(m_margin, m_roomBelow);
 }
 
 void BoxLayers::setZoom(int percent)

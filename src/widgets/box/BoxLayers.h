@@ -67,7 +67,7 @@ public:
     {
         std::function<ShownLine()> firstLine;
         std::function<QRectF(const QTextBlock &block)> sizeOf;
-        std::function<void(int width)> setMargin;
+        std::function<void(int beside, int below)> setMargins;
         std::function<void(const QFont &font)> showIn;
     };
 
@@ -87,6 +87,9 @@ public:
     // Room beside the text, where its lines begin.
     void setMargin(int width);
     int margin() const { return m_margin; }
+
+    // Room below the text, above the scroll bar.
+    void setRoomBelow(int height);
 
     // The text as large as this, in percent of the box's font, which stays. Text that
     // states a size of its own keeps it.
@@ -121,6 +124,7 @@ private:
     const Reach m_reach;
     QList<BoxLayer *> m_layers;
     int m_margin = 0;
+    int m_roomBelow = 0;
     int m_zoom = 100;
 };
 

@@ -48,7 +48,7 @@ RichTextBox::RichTextBox(QWidget *parent)
              return ShownLine{first, blockBoundingGeometry(first).translated(contentOffset())};
          },
          [this](const QTextBlock &block) { return blockBoundingRect(block); },
-         [this](int width) { setViewportMargins(width, 0, 0, 0); },
+         [this](int beside, int below) { setViewportMargins(beside, 0, 0, below); },
          [this](const QFont &shown) { document()->setDefaultFont(shown); }});
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);

@@ -1,0 +1,75 @@
+#include "editor/view/FoundMarks.h"
+
+#include "editor/view/LayerOrder.h"
+#include "editor/view/LinePlaces.h"
+#include "editor/view/ScrollMarks.h"
+#include "editor/view/ViewColours.h"
+
+#include <QtGui/QPainter>
+#include <QtGui/QTextDocument>
+#include <QtWidgets/QPlainTextEdit>
+
+namespace ORVTListview {
+
+FoundMarks::FoundMarks(QPlainTextEdit &box, BoxLayers &layers)
+    : BoxLayer(layers, LayerOrder::found)
+    , m_box(box)
+    , m_places(*box.document())
+{
+    connect(&m_places, &FoundPlaces::wantedChanged, this, &FoundMarks::show);
+    connect(&m_places, &FoundPlaces::changed, this, [this] {
+        if (m_places.lineEnds() > 0) // a change elsewhere may end one on this line
+            repaint();
+    });
+}
+
+void FoundMarks::show()
+{
+    setShown(m_places.isLooking());
+    repaint();
+}
+
+void FoundMarks::repaint()
+{
+    if (layers())
+        layers()->updateLines([](const QTextBlock &) { return true; });
+}
+
+QList<LineMark> FoundMarks::marks() const
+{
+    constexpr int rows = 2000; // more than a scroll bar has
+    const QColor ground = ViewColours::groundOf(m_box);
+    const QColor colour =
+        ViewColours::onGround(ViewColours::foundGround(ground), ground, ViewColours::visible);
+    QList<LineMark> marks;
+    for (const int line : m_places.lines(rows))
+        marks.append({m_box.document()->findBlockByNumber(line).position(), colour});
+    return marks;
+}
+
+QList<QRectF> FoundMarks::placesIn(const ShownLine &line) const
+{
+    QList<QRectF> places;
+    QTextBlock begin = line.block;
+    for (int i = 0; i <= m_places.lineEnds() && begin.isValid(); ++i, begin = begin.previous()) {
+        for (const int place : m_places.on(begin))
+            places += placesOf(line, {place - line.block.position(), m_places.length()});
+    }
+    return places;
+}
+
+void FoundMarks::paintBelow(QPainter &painter, const ShownLines &lines)
+{
+    const QColor ground = ViewColours::groundOf(m_box);
+    const QColor colour = ViewColours::foundGround(ground);
+    painter.setPen(ViewColours::onGround(colour, ground, ViewColours::visible));
+    painter.setBrush(colour);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const ShownLine &line : lines) {
+        for (const QRectF &place : placesIn(line))
+            painter.drawRoundedRect(place.adjusted(-0.5, 0.5, 0.5, -0.5), 2, 2);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+} // namespace ORVTListview
