@@ -121,6 +121,24 @@ void CodeView::setZoom(qint32 percent)
     d->zoom.setPercent(percent);
 }
 
+bool CodeView::liveValuesShown() const
+{
+    return d->liveValues.isShown();
+}
+
+void CodeView::setLiveValuesShown(bool shown)
+{
+    if (shown == liveValuesShown())
+        return;
+    d->liveValues.setOn(shown);
+    raiseEvent(*this, &CodeView::liveValuesShownChanged, shown);
+}
+
+void CodeView::setLiveValues(const QHash<QString, QString> &values)
+{
+    d->liveValues.set(values);
+}
+
 void CodeView::setProblems(const QList<Problem> &problems)
 {
     d->problems.set(problems);

@@ -20,6 +20,7 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , indentGuides(editorBox, layers)
     , blanks(editorBox, layers)
     , zoom(editorBox, layers)
+    , liveValues(editorBox, layers)
     , commands(programCommands)
     , commandsState(editorBox)
 {

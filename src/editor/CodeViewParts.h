@@ -7,6 +7,7 @@
 #include "editor/view/EditorMargin.h"
 #include "editor/view/Folds.h"
 #include "editor/view/IndentGuides.h"
+#include "editor/view/LiveValues.h"
 #include "editor/view/MarkColumn.h"
 #include "editor/view/NumberColumn.h"
 #include "editor/view/PairMarks.h"
@@ -44,6 +45,7 @@ struct CodeViewParts
     IndentGuides indentGuides;
     BlankMarks blanks;
     Zoom zoom;
+    LiveValues liveValues;
     const ProgramCommands &commands;
     CommandsState commandsState;
 };

@@ -3,8 +3,10 @@
 #include <ORVTListview/Export.h>
 #include <ORVTListview/Problem.h>
 
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QString>
 
 #include <memory>
 #include <optional>
@@ -33,6 +35,8 @@ class ORVT_EXPORT CodeView : public QObject
                    indentGuidesShownChanged)
     Q_PROPERTY(bool blanksShown READ blanksShown WRITE setBlanksShown NOTIFY blanksShownChanged)
     Q_PROPERTY(qint32 zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
+    Q_PROPERTY(bool liveValuesShown READ liveValuesShown WRITE setLiveValuesShown NOTIFY
+                   liveValuesShownChanged)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY commandsEnabledChanged)
 
 public:
@@ -69,6 +73,16 @@ public:
     // font's own size, and a wheel that scrolls.
     qint32 zoom() const;
     void setZoom(qint32 percent);
+
+    // What setLiveValues told of the names that a line uses, faintly behind its end:
+    // "SupplyTemp 19.4 °C". A comment uses none. What does not fit is cut.
+    bool liveValuesShown() const;
+    void setLiveValuesShown(bool shown);
+
+    // Values by name, in any letter case, each as it is to be shown, with its unit. They
+    // take the place of all former ones, and are kept while they are not shown. Call it as
+    // often as values come; what is shown changes ten times a second at most.
+    Q_INVOKABLE void setLiveValues(const QHash<QString, QString> &values);
 
     // What a check found: underlined, with its sign in the margin and its place on the
     // scroll bar, with its text as tool tip and told to screen readers on the caret's
@@ -167,6 +181,7 @@ Q_SIGNALS:
     void indentGuidesShownChanged(bool shown);
     void blanksShownChanged(bool shown);
     void zoomChanged(qint32 percent);
+    void liveValuesShownChanged(bool shown);
 
     // Soon after the editor was shown, hidden, enabled, disabled or made read-only.
     void commandsEnabledChanged(bool enabled);
