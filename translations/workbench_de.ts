@@ -282,6 +282,10 @@
         <source>Unfold A&amp;ll</source>
         <translation>Alles a&amp;ufklappen</translation>
     </message>
+    <message>
+        <source>Live &amp;Values</source>
+        <translation>Aktuelle &amp;Werte</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

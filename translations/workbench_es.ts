@@ -282,6 +282,10 @@
         <source>Unfold A&amp;ll</source>
         <translation>Desplegar &amp;todo</translation>
     </message>
+    <message>
+        <source>Live &amp;Values</source>
+        <translation>&amp;Valores actuales</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -282,6 +282,10 @@
         <source>Unfold A&amp;ll</source>
         <translation>Tout &amp;déplier</translation>
     </message>
+    <message>
+        <source>Live &amp;Values</source>
+        <translation>&amp;Valeurs actuelles</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

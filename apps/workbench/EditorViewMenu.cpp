@@ -16,6 +16,7 @@ EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
     addSwitch(tr("&Indent Guides"), view.indentGuidesShown(), &CodeView::setIndentGuidesShown);
     addSwitch(tr("Blan&ks"), view.blanksShown(), &CodeView::setBlanksShown);
     addSwitch(tr("&Folding"), view.foldingEnabled(), &CodeView::setFoldingEnabled);
+    addSwitch(tr("Live &Values"), view.liveValuesShown(), &CodeView::setLiveValuesShown);
     add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0, [this] { m_view.setZoom(100); });
     add(tr("Fold &All"), {}, [this] { m_view.foldAll(); });
     add(tr("Unfold A&ll"), {}, [this] { m_view.unfoldAll(); });
@@ -34,6 +35,7 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setPairsShown(true);
     view.setFoldingEnabled(true);
     view.setIndentGuidesShown(true);
+    view.setLiveValuesShown(true);
     view.setZoom(100); // the wheel with Ctrl
 }
 

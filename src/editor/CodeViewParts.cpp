@@ -21,6 +21,7 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , blanks(editorBox, layers)
     , zoom(editorBox, layers)
     , liveValues(editorBox, layers)
+    , hover(editorBox, layers, problems)
     , commands(programCommands)
     , commandsState(editorBox)
 {

@@ -6,6 +6,7 @@
 #include "editor/view/CurrentLine.h"
 #include "editor/view/EditorMargin.h"
 #include "editor/view/Folds.h"
+#include "editor/view/HoverTips.h"
 #include "editor/view/IndentGuides.h"
 #include "editor/view/LiveValues.h"
 #include "editor/view/MarkColumn.h"
@@ -46,6 +47,7 @@ struct CodeViewParts
     BlankMarks blanks;
     Zoom zoom;
     LiveValues liveValues;
+    HoverTips hover;
     const ProgramCommands &commands;
     CommandsState commandsState;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ORVTListview/Export.h>
+#include <ORVTListview/HoverAnswer.h>
 #include <ORVTListview/Problem.h>
 
 #include <QtCore/QHash>
@@ -185,6 +186,14 @@ Q_SIGNALS:
 
     // Soon after the editor was shown, hidden, enabled, disabled or made read-only.
     void commandsEnabledChanged(bool enabled);
+
+    // The mouse has rested on a word, or the choice on an entry of the word list: what there
+    // is to be told of it goes into the answer, which lives until the signal has been
+    // delivered; it is shown beside the word. A word is what stands between blanks, brackets
+    // and commas; a comment has none. `line` is that of the word, from 1, and that of the
+    // caret for the word list. Where a problem is, its text is shown, and nobody is asked.
+    // While nothing is connected the mouse is not followed.
+    void hoverAsked(const QString &word, qint32 line, ORVTListview::HoverAnswer *answer);
 
     // The caret was put to a problem: by a click on its sign, of which the worst of the
     // line counts, by nextProblem or by previousProblem.

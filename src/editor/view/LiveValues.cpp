@@ -138,7 +138,7 @@ QRectF LiveValues::roomBehind(const ShownLine &line) const
         hidesLines(line.block) ? TextEnd{foldSignOf(text, letter), text.isOpenToTheLeft} : text;
     const qreal width = m_box.viewport()->width();
     const qreal free = end.isOpenToTheLeft ? end.text.left() : width - end.text.right();
-    const QRectF room = placeBehind(end, 2 * letter, free - 3 * letter);
+    const QRectF room = placeBehind(end, 4 * letter, free - 5 * letter);
     const QRectF seen(0, room.top(), width, room.height());
     return room.width() < fewestLetters * letter || !seen.contains(room) ? QRectF() : room;
 }
