@@ -11,6 +11,7 @@
 #include <ORVTListview/Error.h>
 #include <ORVTListview/EventSink.h>
 #include <ORVTListview/HostObject.h>
+#include <ORVTListview/HoverAnswer.h>
 #include <ORVTListview/ImageList.h>
 #include <ORVTListview/IndexedName.h>
 #include <ORVTListview/JsonPropertyBag.h>

@@ -302,6 +302,10 @@
         <source>Drop Blanks at Line &amp;Ends</source>
         <translation>Leerzeichen am Zeilenen&amp;de entfernen</translation>
     </message>
+    <message>
+        <source>Live &amp;Values</source>
+        <translation>Aktuelle &amp;Werte</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

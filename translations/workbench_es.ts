@@ -302,6 +302,10 @@
         <source>Drop Blanks at Line &amp;Ends</source>
         <translation>&amp;Quitar espacios al final de línea</translation>
     </message>
+    <message>
+        <source>Live &amp;Values</source>
+        <translation>&amp;Valores actuales</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -302,6 +302,10 @@
         <source>Drop Blanks at Line &amp;Ends</source>
         <translation>S&amp;upprimer les espaces en fin de ligne</translation>
     </message>
+    <message>
+        <source>Live &amp;Values</source>
+        <translation>&amp;Valeurs actuelles</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

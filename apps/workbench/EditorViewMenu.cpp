@@ -16,6 +16,7 @@ EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
     addSwitch(tr("&Indent Guides"), view.indentGuidesShown(), &CodeView::setIndentGuidesShown);
     addSwitch(tr("Blan&ks"), view.blanksShown(), &CodeView::setBlanksShown);
     addSwitch(tr("&Folding"), view.foldingEnabled(), &CodeView::setFoldingEnabled);
+    addSwitch(tr("Live &Values"), view.liveValuesShown(), &CodeView::setLiveValuesShown);
     addSeparator();
     addSwitch(tr("In&dent While Typing"), view.autoIndent(), &CodeView::setAutoIndent);
     addSwitch(tr("Smart &Home"), view.smartHome(), &CodeView::setSmartHome);
@@ -39,6 +40,7 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setPairsShown(true);
     view.setFoldingEnabled(true);
     view.setIndentGuidesShown(true);
+    view.setLiveValuesShown(true);
     view.setAutoIndent(true);
     view.setSmartHome(true);
     view.setTrimsBlanks(true);

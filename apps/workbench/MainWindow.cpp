@@ -9,6 +9,7 @@
 #include "Languages.h"
 #include "PointChooser.h"
 #include "PointTables.h"
+#include "PointValues.h"
 #include "ProgramSaving.h"
 #include "ProgramText.h"
 #include "ProjectView.h"
@@ -45,6 +46,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_view(new ProjectView(this))
     , m_code(&m_view->list())
     , m_saving(new ProgramSaving(*m_code, *this))
+    , m_values(new PointValues(*m_code->codeView(), this))
     , m_results(new CheckResults(*m_code->GetImage(), this))
     , m_programInfo(new QLabel(this))
     , m_position(new QLabel(this))
@@ -163,6 +165,8 @@ void MainWindow::connectPoints()
     connect(&m_view->tables(), &PointTables::readingFinished, this,
             [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
     connect(&m_view->tables(), &PointTables::renamed, m_points, &PointChooser::refill);
+    connect(&m_view->tables(), &PointTables::renamed, m_values, &PointValues::takeProject);
+    connect(&m_view->tables(), &PointTables::readingFinished, m_values, &PointValues::takeProject);
     connect(&m_view->tables(), &PointTables::renamed, m_saving, &ProgramSaving::noteNewNames);
     connect(&m_view->tables(), &PointTables::renamed, this, &MainWindow::followName);
     connect(&m_view->tables(), &PointTables::refused, this,
@@ -203,6 +207,7 @@ void MainWindow::openProject(const QString &fileName)
     auto former = std::exchange(m_project, std::make_unique<Project>(fileName));
     m_view->setProject(*m_project);
     m_points->refill();
+    m_values->setProject(m_project.get());
     setWindowTitle(m_project->name() + u"[*]"_s); // the application's name is added to it
     showProgram();
 }

@@ -15,6 +15,7 @@ class EditMenu;
 class Languages;
 class ProgramSaving;
 class PointChooser;
+class PointValues;
 class Project;
 class ProjectView;
 struct ProgramReport;
@@ -70,6 +71,7 @@ private:
     ProjectView *m_view;
     ORVListView *m_code; // the view owns it
     ProgramSaving *m_saving;
+    PointValues *m_values;
     CheckResults *m_results;
     QLabel *m_programInfo;
     QLabel *m_position;

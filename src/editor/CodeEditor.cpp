@@ -2,6 +2,7 @@
 
 #include "base/EventGuard.h"
 #include "editor/CodeCommands.h"
+#include "editor/CodeViewParts.h"
 #include "editor/StatusTimer.h"
 #include "editor/rules/undo/UndoStore.h"
 #include "shared/points/HostForms.h"
@@ -30,6 +31,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     , m_keys({m_text, m_editing, m_clipboard, m_words, m_undo, m_colouring, *m_status})
     , m_commands({*m_box, m_thread, m_undo, m_colouring}, m_editing.lines(), m_editing.help())
     , m_view(*m_box, m_commands)
+    , m_wordListTips(list, m_view.d->hover)
 {
     MessageBoxes::installAsDefault();
     m_box->setObjectName(u"RichTextBox1"_s);
@@ -44,6 +46,11 @@ CodeEditor::~CodeEditor()
 {
     if (m_box)
         m_box->setCommands(nullptr); // ours know the editor
+}
+
+void CodeEditor::setPictures(const std::function<QIcon(const QString &key)> &pictures)
+{
+    m_view.d->hover.setPictures(pictures);
 }
 
 void CodeEditor::connectBox()

@@ -10,10 +10,14 @@
 #include "editor/ProgramText.h"
 #include "editor/TypedColouring.h"
 #include "editor/WordChoice.h"
+#include "editor/WordListTips.h"
 #include "widgets/input/TabStops.h"
 #include <ORVTListview/CodeView.h>
 
 #include <QtCore/QPointer>
+#include <QtGui/QIcon>
+
+#include <functional>
 
 class QWidget;
 
@@ -42,6 +46,9 @@ public:
     WordChoice &words() { return m_words; }
     EditorUndo &undo() { return m_undo; }
     CodeView &view() { return m_view; }
+
+    // The pictures of the point types, by their display names.
+    void setPictures(const std::function<QIcon(const QString &key)> &pictures);
 
     // While the editor has the focus, Tab is typed: the controls of the form are
     // no tab stops. Null stands for the editor's window.
@@ -81,6 +88,7 @@ private:
     EditorKeys m_keys;
     const ProgramCommands m_commands;
     CodeView m_view;
+    WordListTips m_wordListTips;
     TabStops m_tabStops;
     QPointer<QWidget> m_form;
 };

@@ -5,6 +5,8 @@
 #include "editor/ProgramCommands.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtCore/QMetaMethod>
+
 namespace ORVTListview {
 
 CodeView::CodeView(RichTextBox &box, const ProgramCommands &commands)
@@ -18,6 +20,13 @@ CodeView::CodeView(RichTextBox &box, const ProgramCommands &commands)
     });
     connect(&d->zoom, &Zoom::changed, this,
             [this] { raiseEvent(*this, &CodeView::zoomChanged, d->zoom.percent()); });
+    d->hover.setHost(
+        {.listens =
+             [this] { return isSignalConnected(QMetaMethod::fromSignal(&CodeView::hoverAsked)); },
+         .ask =
+             [this](const QString &word, qint32 line, HoverAnswer *answer) {
+                 raiseEvent(*this, &CodeView::hoverAsked, word, line, answer);
+             }});
 }
 
 CodeView::~CodeView() = default;
@@ -119,6 +128,24 @@ qint32 CodeView::zoom() const
 void CodeView::setZoom(qint32 percent)
 {
     d->zoom.setPercent(percent);
+}
+
+bool CodeView::liveValuesShown() const
+{
+    return d->liveValues.isShown();
+}
+
+void CodeView::setLiveValuesShown(bool shown)
+{
+    if (shown == liveValuesShown())
+        return;
+    d->liveValues.setOn(shown);
+    raiseEvent(*this, &CodeView::liveValuesShownChanged, shown);
+}
+
+void CodeView::setLiveValues(const QHash<QString, QString> &values)
+{
+    d->liveValues.set(values);
 }
 
 void CodeView::setProblems(const QList<Problem> &problems)

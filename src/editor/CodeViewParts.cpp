@@ -20,6 +20,8 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , indentGuides(editorBox, layers, LineLayer::indentGuides())
     , blanks(editorBox, layers, LineLayer::blankMarks())
     , zoom(editorBox, layers)
+    , liveValues(editorBox, layers)
+    , hover(editorBox, layers, problems)
     , commands(programCommands)
     , commandsState(editorBox)
     , found(editorBox, layers)

@@ -6,8 +6,10 @@
 #include "editor/view/CaretLayer.h"
 #include "editor/view/EditorMargin.h"
 #include "editor/view/Folds.h"
+#include "editor/view/HoverTips.h"
 #include "editor/view/FoundMarks.h"
 #include "editor/view/LineLayer.h"
+#include "editor/view/LiveValues.h"
 #include "editor/view/MarkColumn.h"
 #include "editor/view/NumberColumn.h"
 #include "editor/view/Problems.h"
@@ -46,6 +48,8 @@ struct CodeViewParts
     LineLayer indentGuides;
     LineLayer blanks;
     Zoom zoom;
+    LiveValues liveValues;
+    HoverTips hover;
     const ProgramCommands &commands;
     CommandsState commandsState;
     QPointer<GoToLineBar> goToLineBar; // a child of the box, made when it is first needed

@@ -41,6 +41,7 @@ ListViewFaces::ListViewFaces(QWidget &owner)
     Pictures::fillInto(images);
     list->setObjectName(u"ListView1"_s);
     list->setPictureProvider([this](const QString &key) { return picture(key); });
+    editor->setPictures([this](const QString &key) { return picture(key); });
 }
 
 ListViewFaces::~ListViewFaces()

@@ -3,7 +3,9 @@
 #include "support/TestProgram.h"
 #include <ORVTListview/ReportList.h>
 
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/HoverAnswer.h>
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/Node.h>
@@ -260,6 +262,40 @@ private Q_SLOTS:
         QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);
         QVERIFY(label.Width() > labels); // "Bezeichnung" needs more room
         QCOMPARE(number.Width(), numbers);
+    }
+
+    void thePointsAnswerTheEditor()
+    {
+        Points points;
+        CodeView &view = *points.code().codeView();
+        HoverAnswer known;
+        Q_EMIT view.hoverAsked(u"TEMP1"_s, 1, &known);
+        QCOMPARE(known.name(), u"Temp1"_s);
+        QCOMPARE(known.kind(), dsInput);
+        QCOMPARE(known.value(), u"20.5"_s);
+        QCOMPARE(known.unit(), u"°C"_s);
+        HoverAnswer unknown;
+        Q_EMIT view.hoverAsked(u"Temp3"_s, 1, &unknown);
+        QVERIFY(unknown.isEmpty());
+    }
+
+    void theValuesStandBehindTheProgram()
+    {
+        Points points;
+        CodeView &view = *points.code().codeView();
+        QVERIFY(view.liveValuesShown());
+        QWidget &shown = *points.box().viewport();
+        QCoreApplication::processEvents();
+        const QImage with = shown.grab().toImage();
+        view.setLiveValuesShown(false);
+        const QImage without = shown.grab().toImage();
+        const int line = points.box().fontMetrics().height();
+        const auto row = [&](const QImage &image, int number) {
+            return image.copy(0, number * line + 4, image.width(), line);
+        };
+        QVERIFY(row(with, 0) != row(without, 0)); // Temp1
+        QVERIFY(row(with, 1) != row(without, 1)); // Fan1
+        QCOMPARE(row(with, 3), row(without, 3));
     }
 
     void aFindingLeadsBackToTheProgram()

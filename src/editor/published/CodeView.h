@@ -1,10 +1,13 @@
 #pragma once
 
 #include <ORVTListview/Export.h>
+#include <ORVTListview/HoverAnswer.h>
 #include <ORVTListview/Problem.h>
 
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QString>
 
 #include <memory>
 #include <optional>
@@ -34,6 +37,8 @@ class ORVT_EXPORT CodeView : public QObject
                    indentGuidesShownChanged)
     Q_PROPERTY(bool blanksShown READ blanksShown WRITE setBlanksShown NOTIFY blanksShownChanged)
     Q_PROPERTY(qint32 zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
+    Q_PROPERTY(bool liveValuesShown READ liveValuesShown WRITE setLiveValuesShown NOTIFY
+                   liveValuesShownChanged)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY commandsEnabledChanged)
     Q_PROPERTY(bool autoIndent READ autoIndent WRITE setAutoIndent NOTIFY autoIndentChanged)
     Q_PROPERTY(bool smartHome READ smartHome WRITE setSmartHome NOTIFY smartHomeChanged)
@@ -73,6 +78,16 @@ public:
     // font's own size, and a wheel that scrolls.
     qint32 zoom() const;
     void setZoom(qint32 percent);
+
+    // What setLiveValues told of the names that a line uses, faintly behind its end:
+    // "SupplyTemp 19.4 °C". A comment uses none. What does not fit is cut.
+    bool liveValuesShown() const;
+    void setLiveValuesShown(bool shown);
+
+    // Values by name, in any letter case, each as it is to be shown, with its unit. They
+    // take the place of all former ones, and are kept while they are not shown. Call it as
+    // often as values come; what is shown changes ten times a second at most.
+    Q_INVOKABLE void setLiveValues(const QHash<QString, QString> &values);
 
     // What a check found: underlined, with its sign in the margin and its place on the
     // scroll bar, with its text as tool tip and told to screen readers on the caret's
@@ -201,12 +216,21 @@ Q_SIGNALS:
     void indentGuidesShownChanged(bool shown);
     void blanksShownChanged(bool shown);
     void zoomChanged(qint32 percent);
+    void liveValuesShownChanged(bool shown);
 
     // Soon after the editor was shown, hidden, enabled, disabled or made read-only.
     void commandsEnabledChanged(bool enabled);
     void autoIndentChanged(bool on);
     void smartHomeChanged(bool on);
     void trimsBlanksChanged(bool on);
+
+    // The mouse has rested on a word, or the choice on an entry of the word list: what there
+    // is to be told of it goes into the answer, which lives until the signal has been
+    // delivered; it is shown beside the word. A word is what stands between blanks, brackets
+    // and commas; a comment has none. `line` is that of the word, from 1, and that of the
+    // caret for the word list. Where a problem is, its text is shown, and nobody is asked.
+    // While nothing is connected the mouse is not followed.
+    void hoverAsked(const QString &word, qint32 line, ORVTListview::HoverAnswer *answer);
 
     // The caret was put to a problem: by a click on its sign, of which the worst of the
     // line counts, by nextProblem or by previousProblem.

@@ -2,6 +2,7 @@
 
 #include "editor/rules/structure/Folding.h"
 #include "editor/view/LayerOrder.h"
+#include "editor/view/LinePlaces.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/box/BoxLayout.h"
 #include <ORVTListview/RichTextBox.h>
@@ -17,11 +18,6 @@
 
 namespace ORVTListview {
 namespace {
-
-bool isFolded(const QTextBlock &line)
-{
-    return line.isVisible() && line.next().isValid() && !line.next().isVisible();
-}
 
 // Both ends are lines that are hidden, with none between them that is not.
 QTextBlock firstHidden(QTextBlock line)
@@ -189,7 +185,7 @@ void Folds::followChange()
          line = line.next()) {
         if (!line.isVisible())
             unfold(line);
-        else if (isFolded(line) && (!sameLines || !BlockFold::begins(line.text())))
+        else if (hidesLines(line) && (!sameLines || !BlockFold::begins(line.text())))
             unfold(line.next());
     }
     followCaret();
@@ -204,7 +200,7 @@ int Folds::width() const
 // An arrow down, or towards the text while the block is folded.
 void Folds::paint(QPainter &painter, const ShownLine &line, const QRect &cell)
 {
-    const bool folded = isFolded(line.block);
+    const bool folded = hidesLines(line.block);
     if (!folded && !hasFold(line.block))
         return;
     const QColor ground = ViewColours::groundOf(m_box);
@@ -224,7 +220,7 @@ void Folds::paint(QPainter &painter, const ShownLine &line, const QRect &cell)
 
 bool Folds::press(const QTextBlock &line)
 {
-    if (isFolded(line))
+    if (hidesLines(line))
         unfold(line.next());
     else if (hasFold(line))
         fold(line);
@@ -236,7 +232,7 @@ bool Folds::press(const QTextBlock &line)
 QString Folds::toolTip(const QTextBlock &line) const
 {
     constexpr int most = 12;
-    if (!isFolded(line))
+    if (!hidesLines(line))
         return {};
     QStringList texts;
     for (QTextBlock hidden = line.next(); hidden.isValid() && !hidden.isVisible();
@@ -257,15 +253,10 @@ void Folds::paintAbove(QPainter &painter, const ShownLines &lines)
     const QFontMetricsF metrics(layers()->shownFont(), &m_box);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const ShownLine &line : lines) {
-        if (!isFolded(line.block) || line.block.layout()->lineCount() == 0)
+        if (!hidesLines(line.block))
             continue;
-        const QTextLayout &layout = *line.block.layout();
-        const QTextLine row = layout.lineAt(layout.lineCount() - 1);
-        const QRectF text = row.naturalTextRect().translated(line.place.topLeft());
-        const qreal gap = metrics.averageCharWidth();
-        const qreal width = 3 * gap;
-        const QRectF box(m_box.isRightToLeft() ? text.left() - gap - width : text.right() + gap,
-                         text.top() + 2, width, text.height() - 4);
+        const QRectF box =
+            foldSignOf(textEndOf(line), metrics.averageCharWidth()).adjusted(0, 2, 0, -2);
         painter.setPen(quiet);
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);

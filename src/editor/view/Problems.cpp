@@ -5,10 +5,8 @@
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/box/KeptView.h"
-#include "widgets/look/PlainToolTip.h"
 
 #include <QtCore/QStringList>
-#include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QPlainTextEdit>
@@ -84,11 +82,9 @@ void Problems::set(const QList<Problem> &problems)
     });
     const bool areThere = !m_kept.isEmpty();
     if (areThere && !isShown()) {
-        m_box.viewport()->installEventFilter(this);
         connect(&m_box, &QPlainTextEdit::cursorPositionChanged, this, &Problems::tellScreenReaders);
         connect(m_box.document(), &QTextDocument::contentsChange, this, &Problems::noteChange);
     } else if (!areThere && isShown()) {
-        m_box.viewport()->removeEventFilter(this);
         m_box.disconnect(this);
         m_box.document()->disconnect(this);
     }
@@ -284,28 +280,22 @@ void Problems::tellScreenReaders()
         m_box.setAccessibleDescription(wanted);
 }
 
-bool Problems::eventFilter(QObject *watched, QEvent *event)
+QString Problems::textAt(const QPoint &place, QRect *whole) const
 {
-    if (event->type() == QEvent::ToolTip)
-        return showToolTip(static_cast<QHelpEvent &>(*event));
-    return QObject::eventFilter(watched, event);
-}
-
-bool Problems::showToolTip(const QHelpEvent &event)
-{
-    if (!layers())
-        return false;
-    for (const ShownLine &line : layers()->shownLines(event.pos().y(), event.pos().y() + 1)) {
+    if (!layers() || !isShown())
+        return {};
+    for (const ShownLine &line : layers()->shownLines(place.y(), place.y() + 1)) {
         for (const Kept *kept : allOn(line.block)) {
-            const QList<QRectF> places = placesIn(line, *kept);
-            if (std::none_of(places.cbegin(), places.cend(),
-                             [&](const QRectF &place) { return place.contains(event.pos()); }))
-                continue;
-            showPlainToolTip(event, kept->problem.text, *m_box.viewport());
-            return true;
+            for (const QRectF &part : placesIn(line, *kept)) {
+                if (!part.contains(place))
+                    continue;
+                if (whole)
+                    *whole = part.toAlignedRect();
+                return kept->problem.text;
+            }
         }
     }
-    return false;
+    return {};
 }
 
 } // namespace ORVTListview

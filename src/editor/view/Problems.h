@@ -7,7 +7,6 @@
 
 #include <optional>
 
-class QHelpEvent;
 class QPlainTextEdit;
 
 namespace ORVTListview {
@@ -35,6 +34,9 @@ public:
     std::optional<Problem> goToWorstOn(const QTextBlock &line);
     QString textOn(const QTextBlock &line) const;
 
+    // Of the first one at a place of the viewport, and what of it is shown there.
+    QString textAt(const QPoint &place, QRect *whole = nullptr) const;
+
     QList<LineMark> marks() const;
     static QColor colourOf(ProblemSeverity severity, const QColor &ground);
 
@@ -42,9 +44,6 @@ public:
 
 Q_SIGNALS:
     void changed();
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     struct Kept
@@ -71,7 +70,6 @@ private:
     void drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line) const;
     void noteChange(int from, int removed, int added);
     void tellScreenReaders();
-    bool showToolTip(const QHelpEvent &event);
 
     QPlainTextEdit &m_box;
     QList<Kept> m_kept;    // from the top

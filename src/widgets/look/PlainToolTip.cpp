@@ -15,13 +15,6 @@ namespace {
 constexpr qsizetype mostLetters = 1000;
 constexpr qsizetype mostLines = 15;
 
-int widestLine(const QWidget &widget, const QFont &font)
-{
-    constexpr int lettersInALine = 100;
-    return std::min(QFontMetrics(font).averageCharWidth() * lettersInALine,
-                    widget.screen()->availableSize().width() * 3 / 4);
-}
-
 // A word that is wider than a line is broken, too.
 QStringList wrapped(const QString &line, const QFont &font, int width)
 {
@@ -39,8 +32,18 @@ QStringList wrapped(const QString &line, const QFont &font, int width)
     return lines;
 }
 
-QString readable(const QString &text, const QFont &font, int width)
+} // namespace
+
+int widestTip(const QWidget &widget, const QFont &font)
 {
+    constexpr int lettersInALine = 100;
+    return std::min(QFontMetrics(font).averageCharWidth() * lettersInALine,
+                    widget.screen()->availableSize().width() * 3 / 4);
+}
+
+QString readableTip(const QString &text, const QFont &font, const QWidget &widget)
+{
+    const int width = widestTip(widget, font);
     QString beginning = beginningOf(text, mostLetters);
     beginning.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     std::replace_if(
@@ -56,14 +59,13 @@ QString readable(const QString &text, const QFont &font, int width)
     return lines.join(u'\n');
 }
 
-} // namespace
-
-void showPlainToolTip(const QHelpEvent &event, const QString &text, QWidget &widget)
+void showPlainToolTip(const QHelpEvent &event, const QString &text, QWidget &widget,
+                      const QRect &area)
 {
-    const QFont font = QToolTip::font();
-    const QString tip = readable(text, font, widestLine(widget, font));
+    const QString tip = readableTip(text, QToolTip::font(), widget);
     QToolTip::showText(event.globalPos(),
-                       Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip, &widget);
+                       Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip, &widget,
+                       area);
 }
 
 } // namespace ORVTListview

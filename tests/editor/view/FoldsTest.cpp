@@ -131,6 +131,20 @@ private Q_SLOTS:
         QVERIFY(!m_host->list->IsUndoAvailable());
     }
 
+    void theSignStandsWhereTheLineEnds()
+    {
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            m_host->form.setLayoutDirection(direction);
+            view().unfoldAll();
+            const QRect line = m_host->placeOf(1);
+            const QRect behind(line.left() + 4 * box().fontMetrics().averageCharWidth(), line.top(),
+                               6 * box().fontMetrics().averageCharWidth(), line.height());
+            const QImage before = m_host->picture(*box().viewport()).copy(behind);
+            view().foldAll();
+            QVERIFY(m_host->picture(*box().viewport()).copy(behind) != before);
+        }
+    }
+
     void upAndDownStepOver()
     {
         view().foldAll();

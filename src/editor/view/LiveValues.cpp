@@ -1,0 +1,171 @@
+#include "editor/view/LiveValues.h"
+
+#include "base/TextRules.h"
+#include "editor/rules/structure/BlockWords.h"
+#include "editor/view/LayerOrder.h"
+#include "editor/view/LinePlaces.h"
+#include "editor/view/ViewColours.h"
+#include "widgets/look/CellText.h"
+
+#include <QtCore/QSet>
+#include <QtCore/QStringList>
+#include <QtGui/QFontMetricsF>
+#include <QtGui/QPainter>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextLayout>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QScrollBar>
+
+#include <chrono>
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype mostLetters = 400; // of a line's values; no window is wider
+constexpr int fewestLetters = 4;       // an ellipsis alone tells nothing
+
+LiveValues::Values byFoldedName(const LiveValues::Values &given)
+{
+    LiveValues::Values values;
+    values.reserve(given.size());
+    for (auto value = given.cbegin(); value != given.cend(); ++value)
+        values.insert(foldedCase(value.key()), shownText(beginningOf(value.value(), mostLetters)));
+    return values;
+}
+
+} // namespace
+
+LiveValues::LiveValues(QPlainTextEdit &box, BoxLayers &layers)
+    : BoxLayer(layers, LayerOrder::liveValues)
+    , m_box(box)
+    , m_pause(new QTimer(&box))
+{
+    m_pause->setObjectName(u"LiveValuesPause"_s);
+    m_pause->setSingleShot(true);
+    m_pause->setTimerType(Qt::PreciseTimer);
+    m_pause->setInterval(100ms);
+    connect(m_pause, &QTimer::timeout, this, &LiveValues::take);
+}
+
+void LiveValues::setOn(bool on)
+{
+    if (on == isShown())
+        return;
+    setShown(on);
+    if (!on)
+        return clear();
+    connect(m_box.horizontalScrollBar(), &QScrollBar::valueChanged, this, &LiveValues::repaint);
+    connect(m_box.document(), &QTextDocument::contentsChanged, this, &LiveValues::repaint);
+    take();
+}
+
+void LiveValues::clear()
+{
+    m_pause->stop();
+    m_box.horizontalScrollBar()->disconnect(this);
+    m_box.document()->disconnect(this);
+    m_values.clear();
+    m_isTaken = m_given.isEmpty();
+}
+
+void LiveValues::set(const Values &values)
+{
+    m_given = values;
+    m_isTaken = false;
+    if (isShown() && !m_pause->isActive())
+        take();
+}
+
+void LiveValues::take()
+{
+    if (std::exchange(m_isTaken, true))
+        return;
+    m_pause->start();
+    Values former = std::exchange(m_values, byFoldedName(m_given));
+    if (!layers())
+        return;
+    layers()->updateLines([&](const QTextBlock &line) {
+        const QString now = valuesOn(line);
+        m_values.swap(former);
+        const QString before = valuesOn(line);
+        m_values.swap(former);
+        return now != before;
+    });
+}
+
+// What is cut at the edge of the viewport is cut elsewhere once that is scrolled; and of a
+// line that is changed then the box repaints what its text covers.
+void LiveValues::repaint()
+{
+    if (m_box.horizontalScrollBar()->maximum() > 0)
+        m_box.viewport()->update();
+}
+
+QString LiveValues::valuesOn(const QTextBlock &line) const
+{
+    if (m_values.isEmpty())
+        return {};
+    const Qt::LayoutDirection direction = line.textDirection();
+    const QString text = line.text().left(longestLine);
+    QString values;
+    QSet<QString> told;
+    for (const LinePiece &word : wordsOf(text)) {
+        const QString name = text.sliced(word.offset, word.length);
+        const QString folded = foldedCase(name);
+        const auto value = m_values.constFind(folded);
+        if (value == m_values.cend() || told.contains(folded))
+            continue;
+        told.insert(folded);
+        values += (values.isEmpty() ? QString() : u"   "_s) + inOwnDirection(name, direction) +
+                  u' ' + inOwnDirection(*value, direction);
+        if (values.size() > mostLetters)
+            break;
+    }
+    return values;
+}
+
+// Up to the edge of the viewport.
+QRectF LiveValues::roomBehind(const ShownLine &line) const
+{
+    const qreal letter = QFontMetricsF(layers()->shownFont(), &m_box).averageCharWidth();
+    const TextEnd text = textEndOf(line);
+    const TextEnd end =
+        hidesLines(line.block) ? TextEnd{foldSignOf(text, letter), text.isOpenToTheLeft} : text;
+    const qreal width = m_box.viewport()->width();
+    const qreal free = end.isOpenToTheLeft ? end.text.left() : width - end.text.right();
+    const QRectF room = placeBehind(end, 4 * letter, free - 5 * letter);
+    const QRectF seen(0, room.top(), width, room.height());
+    return room.width() < fewestLetters * letter || !seen.contains(room) ? QRectF() : room;
+}
+
+void LiveValues::paintAbove(QPainter &painter, const ShownLines &lines)
+{
+    const QColor ground = ViewColours::groundOf(m_box);
+    const QColor quiet = ViewColours::quietText(ViewColours::textOf(m_box), ground);
+    const QFont font = layers()->shownFont();
+    const QFontMetricsF metrics(font, &m_box);
+    painter.setFont(font);
+    painter.setPen(
+        ViewColours::onGround(quiet, ViewColours::faintGround(ground), ViewColours::readable));
+    for (const ShownLine &line : lines) {
+        const QRectF room = roomBehind(line);
+        const QString values = room.isEmpty() ? QString() : valuesOn(line.block);
+        if (values.isEmpty())
+            continue;
+        const QString shown = metrics.elidedText(values, Qt::ElideRight, room.width());
+        const QTextLayout &layout = *line.block.layout();
+        const qreal baseline = room.top() + layout.lineAt(layout.lineCount() - 1).ascent();
+        const qreal left = textEndOf(line).isOpenToTheLeft
+                               ? room.right() - metrics.horizontalAdvance(shown)
+                               : room.left();
+        painter.setLayoutDirection(line.block.textDirection());
+        painter.drawText(QPointF(left, baseline), shown);
+    }
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "widgets/box/BoxLayers.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QString>
+#include <QtCore/QTimer>
+
+class QPlainTextEdit;
+
+namespace ORVTListview {
+
+// What the host tells of names, faintly behind the end of each line that uses them. New
+// values are taken ten times a second at most, and only lines that are shown are looked at.
+class LiveValues final : public QObject, public BoxLayer
+{
+    Q_OBJECT
+
+public:
+    using Values = QHash<QString, QString>; // by name
+
+    LiveValues(QPlainTextEdit &box, BoxLayers &layers);
+
+    void setOn(bool on);
+
+    // Names in any letter case. Kept while it is off.
+    void set(const Values &values);
+
+    void paintAbove(QPainter &painter, const ShownLines &lines) override;
+
+private:
+    void take();
+    void clear();
+    void repaint();
+    QString valuesOn(const QTextBlock &line) const;
+    QRectF roomBehind(const ShownLine &line) const;
+
+    QPlainTextEdit &m_box;
+    Values m_given;        // as they came
+    bool m_isTaken = true; // what was given is what is shown
+    Values m_values;       // by the folded name; empty while it is off
+    QTimer *const m_pause; // the box's, named LiveValuesPause
+};
+
+} // namespace ORVTListview
