@@ -81,7 +81,7 @@ std::optional<HoverTips::Word> HoverTips::wordAt(const QPoint &place) const
 {
     for (const ShownLine &line : m_layers.shownLines(place.y(), place.y() + 1)) {
         const QString text = line.block.text().left(longestLine);
-        for (const LinePiece &piece : wordsOf(text)) {
+        for (const TextPiece &piece : wordsOf(text)) {
             const Word word{text.sliced(piece.offset, piece.length), line.block.blockNumber() + 1,
                             placesOf(line, piece)};
             if (word.holds(place))

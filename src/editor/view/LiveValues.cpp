@@ -114,7 +114,7 @@ QString LiveValues::valuesOn(const QTextBlock &line) const
     const QString text = line.text().left(longestLine);
     QString values;
     QSet<QString> told;
-    for (const LinePiece &word : wordsOf(text)) {
+    for (const TextPiece &word : wordsOf(text)) {
         const QString name = text.sliced(word.offset, word.length);
         const QString folded = foldedCase(name);
         const auto value = m_values.constFind(folded);
