@@ -286,6 +286,10 @@
         <source>Unfold A&amp;ll</source>
         <translation>Alles a&amp;ufklappen</translation>
     </message>
+    <message>
+        <source>Readable C&amp;olours</source>
+        <translation>Les&amp;bare Farben</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -286,6 +286,10 @@
         <source>Unfold A&amp;ll</source>
         <translation>Desplegar &amp;todo</translation>
     </message>
+    <message>
+        <source>Readable C&amp;olours</source>
+        <translation>Colores leg&amp;ibles</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

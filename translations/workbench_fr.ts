@@ -286,6 +286,10 @@
         <source>Unfold A&amp;ll</source>
         <translation>Tout &amp;déplier</translation>
     </message>
+    <message>
+        <source>Readable C&amp;olours</source>
+        <translation>Couleurs l&amp;isibles</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -15,6 +15,7 @@ EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
     addSwitch(tr("Pairs and &Uses"), view.pairsShown(), &CodeView::setPairsShown);
     addSwitch(tr("&Indent Guides"), view.indentGuidesShown(), &CodeView::setIndentGuidesShown);
     addSwitch(tr("Blan&ks"), view.blanksShown(), &CodeView::setBlanksShown);
+    addSwitch(tr("Readable C&olours"), view.adaptsColours(), &CodeView::setAdaptsColours);
     addSwitch(tr("&Folding"), view.foldingEnabled(), &CodeView::setFoldingEnabled);
     add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0, [this] { m_view.setZoom(100); });
     add(tr("Fold &All"), {}, [this] { m_view.foldAll(); });
@@ -34,6 +35,7 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setPairsShown(true);
     view.setFoldingEnabled(true);
     view.setIndentGuidesShown(true);
+    view.setAdaptsColours(true);
     view.setZoom(100); // the wheel with Ctrl
 }
 

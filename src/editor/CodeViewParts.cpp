@@ -22,7 +22,9 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , zoom(editorBox, layers)
     , commands(programCommands)
     , commandsState(editorBox)
+    , caretLine(editorBox, {numbers, folds, problems})
     , found(editorBox, layers)
+    , readableColours(editorBox, layers)
 {
     margin->addColumn(marks);
     margin->addColumn(numbers);

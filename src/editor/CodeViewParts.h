@@ -3,6 +3,7 @@
 #include "editor/CommandsState.h"
 #include "editor/view/BlankMarks.h"
 #include "editor/view/Bookmarks.h"
+#include "editor/view/CaretLineAccess.h"
 #include "editor/view/CurrentLine.h"
 #include "editor/view/EditorMargin.h"
 #include "editor/view/Folds.h"
@@ -12,6 +13,7 @@
 #include "editor/view/NumberColumn.h"
 #include "editor/view/PairMarks.h"
 #include "editor/view/Problems.h"
+#include "editor/view/ReadableColours.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/WordUses.h"
 #include "editor/view/Zoom.h"
@@ -48,7 +50,9 @@ struct CodeViewParts
     Zoom zoom;
     const ProgramCommands &commands;
     CommandsState commandsState;
+    CaretLineAccess caretLine;
     FoundMarks found;
+    ReadableColours readableColours;
     QPointer<FindBar> findBar; // a child of the box, made when it is first needed
 };
 

@@ -33,6 +33,8 @@ class ORVT_EXPORT CodeView : public QObject
                    indentGuidesShownChanged)
     Q_PROPERTY(bool blanksShown READ blanksShown WRITE setBlanksShown NOTIFY blanksShownChanged)
     Q_PROPERTY(qint32 zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
+    Q_PROPERTY(bool adaptsColours READ adaptsColours WRITE setAdaptsColours NOTIFY
+                   adaptsColoursChanged)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY commandsEnabledChanged)
 
 public:
@@ -62,6 +64,12 @@ public:
     // Dots for blanks and arrows for tabs.
     bool blanksShown() const;
     void setBlanksShown(bool shown);
+
+    // Whether text in a colour that is hard to read on the ground under it, less than 4.5 to
+    // 1 in contrast, is shown lighter or darker, as far as it takes. The text keeps its
+    // colours, for RTF and the clipboard, too.
+    bool adaptsColours() const;
+    void setAdaptsColours(bool on);
 
     // How large the text is shown, in percent of the box's font, which stays as it is,
     // for RTF, too. From 20 to 500; what lies outside counts as the nearest one. While it
@@ -174,6 +182,7 @@ Q_SIGNALS:
     void foldingEnabledChanged(bool enabled);
     void indentGuidesShownChanged(bool shown);
     void blanksShownChanged(bool shown);
+    void adaptsColoursChanged(bool on);
     void zoomChanged(qint32 percent);
 
     // Soon after the editor was shown, hidden, enabled, disabled or made read-only.
