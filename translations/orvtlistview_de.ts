@@ -473,6 +473,16 @@
         <translation>Gehe zu Zeile:</translation>
     </message>
     <message>
+        <source>Line %1</source>
+        <extracomment>The line of the caret, for screen readers; %1 is its number</extracomment>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>%1 lines hidden</source>
+        <extracomment>A number: so many lines of the program are folded away, for screen readers</extracomment>
+        <translation>%1 Zeilen ausgeblendet</translation>
+    </message>
+    <message>
         <source>Find Previous</source>
         <translation>Rückwärts suchen</translation>
     </message>

@@ -306,6 +306,10 @@
         <source>Live &amp;Values</source>
         <translation>Aktuelle &amp;Werte</translation>
     </message>
+    <message>
+        <source>Readable C&amp;olours</source>
+        <translation>Les&amp;bare Farben</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

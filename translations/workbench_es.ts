@@ -306,6 +306,10 @@
         <source>Live &amp;Values</source>
         <translation>&amp;Valores actuales</translation>
     </message>
+    <message>
+        <source>Readable C&amp;olours</source>
+        <translation>Colores leg&amp;ibles</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -306,6 +306,10 @@
         <source>Live &amp;Values</source>
         <translation>&amp;Valeurs actuelles</translation>
     </message>
+    <message>
+        <source>Readable C&amp;olours</source>
+        <translation>Couleurs l&amp;isibles</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

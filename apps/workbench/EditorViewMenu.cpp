@@ -15,6 +15,7 @@ EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
     addSwitch(tr("Pairs and &Uses"), view.pairsShown(), &CodeView::setPairsShown);
     addSwitch(tr("&Indent Guides"), view.indentGuidesShown(), &CodeView::setIndentGuidesShown);
     addSwitch(tr("Blan&ks"), view.blanksShown(), &CodeView::setBlanksShown);
+    addSwitch(tr("Readable C&olours"), view.adaptsColours(), &CodeView::setAdaptsColours);
     addSwitch(tr("&Folding"), view.foldingEnabled(), &CodeView::setFoldingEnabled);
     addSwitch(tr("Live &Values"), view.liveValuesShown(), &CodeView::setLiveValuesShown);
     addSeparator();
@@ -44,6 +45,7 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setAutoIndent(true);
     view.setSmartHome(true);
     view.setTrimsBlanks(true);
+    view.setAdaptsColours(true);
     view.setZoom(100); // the wheel with Ctrl
 }
 

@@ -41,6 +41,7 @@ void CodeView::setLineNumbersVisible(bool visible)
     if (visible == lineNumbersVisible())
         return;
     d->numbers.setShown(visible);
+    d->caretLine.refresh();
     raiseEvent(*this, &CodeView::lineNumbersVisibleChanged, visible);
 }
 
@@ -81,6 +82,7 @@ void CodeView::setFoldingEnabled(bool enabled)
     if (enabled == foldingEnabled())
         return;
     d->folds.setOn(enabled);
+    d->caretLine.refresh();
     raiseEvent(*this, &CodeView::foldingEnabledChanged, enabled);
 }
 
@@ -118,6 +120,19 @@ void CodeView::setBlanksShown(bool shown)
         return;
     d->blanks.setShown(shown);
     raiseEvent(*this, &CodeView::blanksShownChanged, shown);
+}
+
+bool CodeView::adaptsColours() const
+{
+    return d->readableColours.isOn();
+}
+
+void CodeView::setAdaptsColours(bool on)
+{
+    if (on == adaptsColours())
+        return;
+    d->readableColours.setOn(on);
+    raiseEvent(*this, &CodeView::adaptsColoursChanged, on);
 }
 
 qint32 CodeView::zoom() const

@@ -24,7 +24,9 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , hover(editorBox, layers, problems)
     , commands(programCommands)
     , commandsState(editorBox)
+    , caretLine(editorBox, {numbers, folds, problems})
     , found(editorBox, layers)
+    , readableColours(editorBox, layers)
 {
     margin->addColumn(marks);
     margin->addColumn(numbers);

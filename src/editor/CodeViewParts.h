@@ -4,6 +4,7 @@
 #include "editor/GoToLineBar.h"
 #include "editor/view/Bookmarks.h"
 #include "editor/view/CaretLayer.h"
+#include "editor/view/CaretLineAccess.h"
 #include "editor/view/EditorMargin.h"
 #include "editor/view/Folds.h"
 #include "editor/view/FoundMarks.h"
@@ -13,6 +14,7 @@
 #include "editor/view/MarkColumn.h"
 #include "editor/view/NumberColumn.h"
 #include "editor/view/Problems.h"
+#include "editor/view/ReadableColours.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/Zoom.h"
 #include "find/FindBar.h"
@@ -53,7 +55,9 @@ struct CodeViewParts
     const ProgramCommands &commands;
     CommandsState commandsState;
     QPointer<GoToLineBar> goToLineBar; // a child of the box, made when it is first needed
+    CaretLineAccess caretLine;
     FoundMarks found;
+    ReadableColours readableColours;
     QPointer<FindBar> findBar; // a child of the box, made when it is first needed
 };
 

@@ -39,6 +39,8 @@ class ORVT_EXPORT CodeView : public QObject
     Q_PROPERTY(qint32 zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
     Q_PROPERTY(bool liveValuesShown READ liveValuesShown WRITE setLiveValuesShown NOTIFY
                    liveValuesShownChanged)
+    Q_PROPERTY(bool adaptsColours READ adaptsColours WRITE setAdaptsColours NOTIFY
+                   adaptsColoursChanged)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY commandsEnabledChanged)
     Q_PROPERTY(bool autoIndent READ autoIndent WRITE setAutoIndent NOTIFY autoIndentChanged)
     Q_PROPERTY(bool smartHome READ smartHome WRITE setSmartHome NOTIFY smartHomeChanged)
@@ -71,6 +73,12 @@ public:
     // Dots for blanks and arrows for tabs.
     bool blanksShown() const;
     void setBlanksShown(bool shown);
+
+    // Whether text in a colour that is hard to read on the ground under it, less than 4.5 to
+    // 1 in contrast, is shown lighter or darker, as far as it takes. The text keeps its
+    // colours, for RTF and the clipboard, too.
+    bool adaptsColours() const;
+    void setAdaptsColours(bool on);
 
     // How large the text is shown, in percent of the box's font, which stays as it is,
     // for RTF, too. From 20 to 500; what lies outside counts as the nearest one. While it
@@ -215,6 +223,7 @@ Q_SIGNALS:
     void foldingEnabledChanged(bool enabled);
     void indentGuidesShownChanged(bool shown);
     void blanksShownChanged(bool shown);
+    void adaptsColoursChanged(bool on);
     void zoomChanged(qint32 percent);
     void liveValuesShownChanged(bool shown);
 

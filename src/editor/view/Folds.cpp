@@ -111,6 +111,18 @@ void Folds::show(const Lines &lines, bool on)
     if (auto *layout = qobject_cast<BoxLayout *>(m_box.document()->documentLayout()))
         layout->showLines(lines.first, lines.last, on);
     m_margin.update();
+    Q_EMIT changed();
+}
+
+// Hidden lines count as none for the document, so they are stepped over at once.
+int Folds::hiddenBehind(const QTextBlock &line) const
+{
+    if (!isFolded(line))
+        return 0;
+    const QTextDocument &text = *m_box.document();
+    const QTextBlock shown = text.findBlockByLineNumber(line.next().firstLineNumber());
+    const int end = shown.isVisible() ? shown.blockNumber() : text.blockCount();
+    return end - line.blockNumber() - 1;
 }
 
 void Folds::foldAll()

@@ -25,12 +25,18 @@ public:
     void foldAll();
     void unfoldAll();
 
+    // How many lines are hidden between a line and the next one shown.
+    int hiddenBehind(const QTextBlock &line) const;
+
     int width() const override;
     void paint(QPainter &painter, const ShownLine &line, const QRect &cell) override;
     bool press(const QTextBlock &line) override;
     QString toolTip(const QTextBlock &line) const override;
 
     void paintAbove(QPainter &painter, const ShownLines &lines) override;
+
+Q_SIGNALS:
+    void changed();
 
 private:
     struct Lines

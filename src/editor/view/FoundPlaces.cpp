@@ -246,17 +246,22 @@ std::optional<int> FoundPlaces::firstFrom(int position) const
     return {};
 }
 
+// The first one of each of as many parts of the document.
 QList<int> FoundPlaces::lines(int most) const
 {
+    const qint64 all = std::max(1, m_lineCount);
     QList<int> lines;
-    qint64 last = -1;
+    qint64 wanted = 0; // the line from which the next one counts
     int firstLine = 0;
     for (const Part &part : m_parts) {
-        for (const int found : part.found) {
-            const qint64 row = qint64{firstLine + found} * most / std::max(1, m_lineCount);
-            if (row != last)
-                lines.append(firstLine + found);
-            last = row;
+        auto found = part.found.cbegin();
+        for (;;) {
+            found = std::lower_bound(found, part.found.cend(), wanted - firstLine);
+            if (found == part.found.cend())
+                break;
+            const qint64 row = (qint64{firstLine} + *found) * most / all;
+            lines.append(firstLine + *found);
+            wanted = ((row + 1) * all + most - 1) / most;
         }
         firstLine += part.lines;
     }

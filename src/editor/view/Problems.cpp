@@ -82,16 +82,13 @@ void Problems::set(const QList<Problem> &problems)
     });
     const bool areThere = !m_kept.isEmpty();
     if (areThere && !isShown()) {
-        connect(&m_box, &QPlainTextEdit::cursorPositionChanged, this, &Problems::tellScreenReaders);
         connect(m_box.document(), &QTextDocument::contentsChange, this, &Problems::noteChange);
     } else if (!areThere && isShown()) {
-        m_box.disconnect(this);
         m_box.document()->disconnect(this);
     }
     setShown(areThere);
     if (layers())
         layers()->updateLines([](const QTextBlock &) { return true; });
-    tellScreenReaders();
     Q_EMIT changed();
 }
 
@@ -265,19 +262,6 @@ void Problems::drawWaves(QPainter &painter, const Kept &kept, const ShownLine &l
 {
     for (const QRectF &place : placesIn(line, kept))
         drawWave(painter, place.intersected(QRectF(m_box.viewport()->rect())));
-}
-
-// What the host says of the box stands there again when the caret leaves the line.
-void Problems::tellScreenReaders()
-{
-    const QString text = textOn(m_box.textCursor().block());
-    const QString said = m_box.accessibleDescription();
-    if (m_told.isEmpty() || said != m_told)
-        m_description = said;
-    const QString wanted = text.isEmpty() ? m_description : text;
-    m_told = text;
-    if (said != wanted)
-        m_box.setAccessibleDescription(wanted);
 }
 
 QString Problems::textAt(const QPoint &place, QRect *whole) const

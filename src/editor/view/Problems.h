@@ -14,7 +14,7 @@ namespace ORVTListview {
 struct LineMark;
 
 // What a check found, kept with its places while the text is edited, and underlined.
-// What is wrong with a text goes with it. The line of the caret tells screen readers.
+// What is wrong with a text goes with it.
 class Problems final : public QObject, public BoxLayer
 {
     Q_OBJECT
@@ -69,12 +69,9 @@ private:
     QList<QRectF> placesIn(const ShownLine &line, const Kept &kept) const;
     void drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line) const;
     void noteChange(int from, int removed, int added);
-    void tellScreenReaders();
 
     QPlainTextEdit &m_box;
-    QList<Kept> m_kept;    // from the top
-    QString m_description; // of the box, by its host
-    QString m_told;        // in its place
+    QList<Kept> m_kept; // from the top
 };
 
 } // namespace ORVTListview

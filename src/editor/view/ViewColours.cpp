@@ -41,9 +41,18 @@ QColor ViewColours::mixed(const QColor &one, const QColor &other, double share)
 
 QColor ViewColours::onGround(const QColor &wanted, const QColor &ground, double leastContrast)
 {
-    const QColor away = isLight(ground) ? Qt::black : Qt::white;
+    return onGrounds(wanted, {ground}, leastContrast);
+}
+
+QColor ViewColours::onGrounds(const QColor &wanted, const QList<QColor> &grounds,
+                              double leastContrast)
+{
+    const QColor away = isLight(grounds.constFirst()) ? Qt::black : Qt::white;
     QColor colour = wanted;
-    for (int i = 1; i <= steps && contrast(colour, ground) < leastContrast; ++i)
+    const auto isFaint = [&](const QColor &ground) {
+        return contrast(colour, ground) < leastContrast;
+    };
+    for (int i = 1; i <= steps && std::any_of(grounds.cbegin(), grounds.cend(), isFaint); ++i)
         colour = mixed(wanted, away, double(i) / steps);
     return colour;
 }
@@ -88,7 +97,7 @@ QColor ViewColours::quietText(const QColor &text, const QColor &ground)
 
 QColor ViewColours::foundGround(const QColor &ground)
 {
-    return mixed(ground, QColor(0xff, 0xb3, 0x00), 0.3);
+    return mixed(ground, QColor(0xff, 0xb3, 0x00), 0.22);
 }
 
 QColor ViewColours::errorOn(const QColor &ground)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QList>
 #include <QtGui/QColor>
 
 class QPalette;
@@ -21,6 +22,9 @@ QColor mixed(const QColor &one, const QColor &other, double share);
 
 // The colour, as far from the ground as the contrast asks, and no farther.
 QColor onGround(const QColor &wanted, const QColor &ground, double leastContrast);
+
+// The same for several grounds, all of them much like the first one.
+QColor onGrounds(const QColor &wanted, const QList<QColor> &grounds, double leastContrast);
 
 // The ground of a box's text, whoever chose it, and the text of no colour on it.
 QColor groundOf(const QWidget &box);

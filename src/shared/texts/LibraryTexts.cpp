@@ -156,6 +156,10 @@ constexpr LibraryText texts[] = {
     {QT_TRANSLATE_NOOP("ORVTListview", "Line numbers"), ToolTip},
     //: In front of a field for a number
     {QT_TRANSLATE_NOOP("ORVTListview", "Go to line:"), ToolTip},
+    //: The line of the caret, for screen readers; %1 is its number
+    {QT_TRANSLATE_NOOP("ORVTListview", "Line %1"), ToolTip},
+    //: A number: so many lines of the program are folded away, for screen readers
+    {QT_TRANSLATE_NOOP("ORVTListview", "%1 lines hidden"), ToolTip},
     //: The list of known words
     {QT_TRANSLATE_NOOP("ORVTListview", "List not found!"), Message},
     {QT_TRANSLATE_NOOP("ORVTListview", "Invalid letter: '\\' that is reserved to RTF!"), Message},

@@ -133,6 +133,12 @@ QFont BoxLayers::shownFont() const
     return font;
 }
 
+void BoxLayers::setTextColours(const TextColours &colours)
+{
+    m_textColours = colours;
+    m_viewport.update();
+}
+
 // The toolkit has just shown the text in the box's own.
 void BoxLayers::fitFont()
 {

@@ -76,7 +76,7 @@ public:
 
     static BoxLayers &of(const QWidget &box);
 
-    bool isEmpty() const { return m_layers.isEmpty(); }
+    bool isEmpty() const { return m_layers.isEmpty() && !m_textColours; }
     void add(BoxLayer &layer);
     void remove(BoxLayer &layer);
 
@@ -102,6 +102,12 @@ public:
     // To be called when the box has another font.
     void fitFont();
 
+    // In which colour a text of the given one is painted, on a ground of its own, which is
+    // invalid where it has none. Nothing for the colours that the text has.
+    using TextColours = std::function<QColor(const QColor &text, const QColor &ground)>;
+    void setTextColours(const TextColours &colours);
+    const TextColours &textColours() const { return m_textColours; }
+
     // Has the lines painted again for which `concerns` is true.
     void updateLines(const std::function<bool(const QTextBlock &block)> &concerns);
 
@@ -123,6 +129,7 @@ private:
     QWidget &m_viewport;
     const Reach m_reach;
     QList<BoxLayer *> m_layers;
+    TextColours m_textColours;
     int m_margin = 0;
     int m_roomBelow = 0;
     int m_zoom = 100;

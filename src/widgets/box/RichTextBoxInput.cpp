@@ -6,6 +6,7 @@
 #include "widgets/box/BoxLayers.h"
 #include "widgets/box/BoxLayout.h"
 #include "widgets/box/BoxMimeData.h"
+#include "widgets/box/BoxPainting.h"
 #include "widgets/box/BoxParts.h"
 #include "widgets/box/UserEditing.h"
 #include "widgets/input/RaisedKeys.h"
@@ -13,9 +14,12 @@
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPaintEvent>
+#include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QMenu>
+
+#include <algorithm>
 
 namespace ORVTListview {
 namespace {
@@ -134,10 +138,27 @@ bool RichTextBox::viewportEvent(QEvent *event)
 
 bool RichTextBox::paintLayers(QPaintEvent &event)
 {
-    d->layers->paintBelow(event.region());
-    const bool handled = QPlainTextEdit::viewportEvent(&event);
-    d->layers->paintAbove(event.region());
-    return handled;
+    BoxLayers &layers = *d->layers;
+    layers.paintBelow(event.region());
+    if (layers.textColours() && !document()->isEmpty() && !overwriteMode()) {
+        const bool showsCaret =
+            !isReadOnly() || textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard);
+        const BoxPainting painting{layers.textColours(), getPaintContext(), showsCaret,
+                                   cursorWidth()};
+        // What is selected up to the edge leaves the room for the caret.
+        const double text = std::max<double>(viewport()->width(),
+                                             document()->documentLayout()->documentSize().width());
+        QRectF area = event.rect();
+        area.setRight(std::min(area.right(), contentOffset().x() + text -
+                                                 document()->documentMargin() + cursorWidth()));
+        QPainter painter(viewport());
+        painting.paint(painter, layers.shownLines(event.rect().top(), event.rect().bottom() + 1),
+                       area);
+    } else {
+        QPlainTextEdit::viewportEvent(&event);
+    }
+    layers.paintAbove(event.region());
+    return true;
 }
 
 bool RichTextBox::handle(QEvent *event)

@@ -332,6 +332,34 @@ private Q_SLOTS:
         QCOMPARE(box().accessibleDescription(), u"the host's"_s);
     }
 
+    void theCaretsLineTellsItsNumberAndFold()
+    {
+        m_host->list->setCodeText(u"IF a\r\nb = 1\r\nc = 1\r\nENDIF\r\nd"_s);
+        view().setLineNumbersVisible(true);
+        QCOMPARE(box().accessibleDescription(), u"Line 1"_s);
+        view().setFoldingEnabled(true);
+        view().foldAll();
+        QCOMPARE(box().accessibleDescription(), u"Line 1\n2 lines hidden"_s);
+        view().setProblems({problem(1, 0, 2, ProblemSeverity::Error, u"no"_s)});
+        QCOMPARE(box().accessibleDescription(), u"Line 1\n2 lines hidden\nno"_s);
+        m_host->key(Qt::Key_Down);
+        QCOMPARE(box().accessibleDescription(), u"Line 4"_s);
+        m_host->key(Qt::Key_Return);
+        QCOMPARE(box().accessibleDescription(), u"Line 5"_s);
+        m_host->key(Qt::Key_Up);
+        m_host->key(Qt::Key_Up);
+        view().unfoldAll();
+        QCOMPARE(box().accessibleDescription(), u"Line 1\nno"_s);
+        box().setAccessibleDescription(u"the host's"_s);
+        m_host->key(Qt::Key_Down);
+        QCOMPARE(box().accessibleDescription(), u"the host's\nLine 2"_s);
+        view().setLineNumbersVisible(false);
+        QCOMPARE(box().accessibleDescription(), u"the host's"_s);
+        view().setFoldingEnabled(false);
+        view().setProblems({});
+        QCOMPARE(box().accessibleDescription(), u"the host's"_s);
+    }
+
     void aBookmarkComesAndGoes()
     {
         view().toggleBookmark();
