@@ -36,11 +36,14 @@ void CommandTools::carryOut(const CommandChange &change) const
     const RichTextBox::Changing changing(box);
     undo.PushUndoSnapshot();
     const KeptView view(box);
+    Q_EMIT moves.about(change.moved);
     box.replacePieces(change.pieces, change.texts, [&] {
         for (const qint32 line : change.linesToFinish)
             colouring.finishLine(line);
+        Q_EMIT moves.done(change.moved);
     });
     select(box, change.selection);
+    Q_EMIT moves.settled(change.moved);
 }
 
 } // namespace ORVTListview

@@ -11,13 +11,15 @@ namespace ORVTListview {
 struct ProgramCommands
 {
     ProgramCommands(const CommandTools &tools, const LineCommands &lineCommands)
-        : caret(tools)
+        : moves(tools.moves)
+        , caret(tools)
         , finding(tools)
         , lines(tools)
         , texts(tools, lineCommands)
     {
     }
 
+    LineMoves &moves;
     const CaretCommands caret;
     const ProgramFinding finding;
     const LineBlocks lines;
