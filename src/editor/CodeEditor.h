@@ -86,6 +86,7 @@ private:
     ProgramEditing m_editing;
     ProgramPlaces m_places;
     EditorKeys m_keys;
+    LineMoves m_lineMoves;
     const ProgramCommands m_commands;
     CodeView m_view;
     WordListTips m_wordListTips;

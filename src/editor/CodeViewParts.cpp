@@ -1,5 +1,6 @@
 #include "editor/CodeViewParts.h"
 
+#include "editor/ProgramCommands.h"
 #include <ORVTListview/RichTextBox.h>
 
 namespace ORVTListview {
@@ -34,6 +35,12 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     scrollMarks->addSource([this] { return found.marks(); });
     scrollMarks->addSource([this] { return bookmarks.marks(); });
     scrollMarks->addSource([this] { return problems.marks(); });
+    QObject::connect(&commands.moves, &LineMoves::about, &problems, &Problems::holdLines);
+    QObject::connect(&commands.moves, &LineMoves::done, &problems, &Problems::putBack);
+    QObject::connect(&commands.moves, &LineMoves::about, &folds, &Folds::holdLines);
+    QObject::connect(&commands.moves, &LineMoves::settled, &folds, &Folds::putBack);
+    QObject::connect(&commands.moves, &LineMoves::about, &bookmarks, &Bookmarks::holdLines);
+    QObject::connect(&commands.moves, &LineMoves::done, &bookmarks, &Bookmarks::putBack);
     QObject::connect(&problems, &Problems::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&bookmarks, &Bookmarks::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&found.places(), &FoundPlaces::changed, scrollMarks, &ScrollMarks::refresh);

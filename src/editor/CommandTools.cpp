@@ -37,12 +37,15 @@ void CommandTools::carryOut(const CommandChange &change) const
     if (!undo.isShownInRing())
         undo.PushUndoSnapshot();
     const KeptView view(box);
+    Q_EMIT moves.about(change.moved);
     box.replacePieces(change.pieces, change.texts, [&] {
         for (const qint32 line : change.linesToFinish)
             colouring.finishLine(line);
+        Q_EMIT moves.done(change.moved);
     });
     select(box, change.selection);
     undo.PushUndoSnapshot(); // without it undo would take two commands back at once
+    Q_EMIT moves.settled(change.moved);
 }
 
 } // namespace ORVTListview

@@ -3,6 +3,7 @@
 #include "base/ColouredText.h"
 #include "base/TextPiece.h"
 #include "editor/BoxSelection.h"
+#include "editor/view/LineMoves.h"
 
 #include <QtCore/QList>
 
@@ -20,13 +21,15 @@ bool mayGoIn(const RichTextBox &box);
 bool mayChangeIn(const RichTextBox &box);
 
 // What a command changes: pieces of the program, what comes in their place, the lines,
-// counted as they are then, that take their colours anew, and the selection afterwards.
+// counted as they are then, that take their colours anew, the selection afterwards, and
+// lines that change places by it.
 struct CommandChange
 {
     QList<TextPiece> pieces;
     QList<ColouredText> texts;
     QList<qint32> linesToFinish;
     BoxSelection selection;
+    MovedLines moved = {};
 };
 
 // What the commands of an editor work with.
@@ -36,6 +39,7 @@ struct CommandTools
     const EditorThread &thread;
     EditorUndo &undo;
     TypedColouring &colouring;
+    LineMoves &moves;
 
     // Whether a command may begin; what is being typed is finished then.
     bool begin() const;

@@ -3,6 +3,8 @@
 #include "editor/rules/LineTexts.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtGui/QTextBlock>
+
 #include <algorithm>
 
 namespace ORVTListview {
@@ -19,6 +21,43 @@ void append(ColouredText &text, const ColouredText &more)
 {
     text.text += more.text;
     text.runs += more.runs;
+}
+
+// With the lines that are folded behind it.
+qint32 lastOfFold(const RichTextBox &box, qint32 line)
+{
+    QTextBlock block = box.document()->findBlockByNumber(line);
+    while (block.next().isValid() && !block.next().isVisible())
+        block = block.next();
+    return block.blockNumber();
+}
+
+// So many lines that are shown, beside others, with what is folded behind them; fewer where
+// there are no more.
+LineSpan linesBeside(const RichTextBox &box, const LineSpan &lines, qint32 steps)
+{
+    LineSpan beside{lines.last + 1, lines.last};
+    for (qint32 i = 0; i < steps && beside.last < box.lineCount() - 1; ++i)
+        beside.last = lastOfFold(box, beside.last + 1);
+    if (steps < 0)
+        beside = {lines.first, lines.first - 1};
+    for (qint32 i = 0; i > steps && beside.first > 0; --i) {
+        do
+            --beside.first;
+        while (!box.document()->findBlockByNumber(beside.first).isVisible());
+    }
+    return beside;
+}
+
+// The lines and others behind them change places.
+MovedLines exchanged(const LineSpan &lines, const LineSpan &others)
+{
+    MovedLines moved{lines.first, {}};
+    for (qint32 line = others.first; line <= others.last; ++line)
+        moved.from.append(line - lines.first);
+    for (qint32 line = lines.first; line <= lines.last; ++line)
+        moved.from.append(line - lines.first);
+    return moved;
 }
 
 qint32 offsetInLine(const RichTextBox &box, qint32 place)
@@ -40,13 +79,12 @@ void LineBlocks::move(int by) const
     if (!m_tools.begin())
         return;
     const RichTextBox &box = m_tools.box;
-    const LineSpan lines = selectedLines(box);
-    const qint32 steps = std::clamp(by, -lines.first, box.lineCount() - 1 - lines.last);
-    if (steps == 0)
+    LineSpan lines = selectedLines(box);
+    lines.last = lastOfFold(box, lines.last);
+    const LineSpan others = linesBeside(box, lines, by);
+    if (others.first > others.last)
         return;
-    const bool isDown = steps > 0;
-    const LineSpan others = isDown ? LineSpan{lines.last + 1, lines.last + steps}
-                                   : LineSpan{lines.first + steps, lines.first - 1};
+    const bool isDown = by > 0;
     const qint32 start = box.lineStart(lines.first);
     const qint32 end = lineEnd(box, lines.last);
     ColouredText text = isDown ? coloured(others) : lineBreak();
@@ -55,10 +93,12 @@ void LineBlocks::move(int by) const
     const BoxSelection now = selectionOf(box);
     const qint32 shift = isDown ? length : -length;
     const BoxSelection then{now.anchor + shift, now.caret + shift};
+    const MovedLines moved = isDown ? exchanged(lines, others) : exchanged(others, lines);
     if (isDown)
-        m_tools.carryOut({{{start, 0}, {end, length}}, {text, ColouredText()}, {}, then});
+        m_tools.carryOut({{{start, 0}, {end, length}}, {text, ColouredText()}, {}, then, moved});
     else
-        m_tools.carryOut({{{start - length, length}, {end, 0}}, {ColouredText(), text}, {}, then});
+        m_tools.carryOut(
+            {{{start - length, length}, {end, 0}}, {ColouredText(), text}, {}, then, moved});
 }
 
 void LineBlocks::duplicate() const
@@ -151,7 +191,8 @@ void LineBlocks::sort() const
         placed(now.caret, then.caret);
         append(sorted, text);
     }
-    m_tools.carryOut({{{start, lineEnd(box, lines.last) - start}}, {sorted}, {}, then});
+    m_tools.carryOut(
+        {{{start, lineEnd(box, lines.last) - start}}, {sorted}, {}, then, {lines.first, places}});
 }
 
 } // namespace ORVTListview

@@ -12,7 +12,8 @@ namespace ORVTListview {
 struct ProgramCommands
 {
     ProgramCommands(const CommandTools &tools, const LineCommands &lineCommands, TypingHelp &help)
-        : caret(tools)
+        : moves(tools.moves)
+        , caret(tools)
         , finding(tools)
         , lines(tools)
         , texts(tools, lineCommands)
@@ -20,6 +21,7 @@ struct ProgramCommands
     {
     }
 
+    LineMoves &moves;
     const CaretCommands caret;
     const ProgramFinding finding;
     const LineBlocks lines;

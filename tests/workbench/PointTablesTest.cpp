@@ -285,7 +285,8 @@ private Q_SLOTS:
         CodeView &view = *points.code().codeView();
         QVERIFY(view.liveValuesShown());
         QWidget &shown = *points.box().viewport();
-        QCoreApplication::processEvents();
+        auto &pause = *points.box().findChild<QTimer *>(u"LiveValuesPause"_s);
+        QTRY_VERIFY(!pause.isActive());
         const QImage with = shown.grab().toImage();
         view.setLiveValuesShown(false);
         const QImage without = shown.grab().toImage();

@@ -1,5 +1,6 @@
 #include "editor/view/Bookmarks.h"
 
+#include "editor/view/LineMoves.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/box/KeptView.h"
@@ -9,6 +10,7 @@
 #include <QtWidgets/QPlainTextEdit>
 
 #include <algorithm>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -46,6 +48,27 @@ void Bookmarks::noteChange(int, int removed, int)
     m_marks.clear();
     m_box.document()->disconnect(this);
     QMetaObject::invokeMethod(this, &Bookmarks::changed, Qt::QueuedConnection);
+}
+
+void Bookmarks::holdLines(const MovedLines &lines)
+{
+    m_held.clear();
+    if (lines.from.isEmpty())
+        return;
+    for (const QTextCursor &mark : std::as_const(m_marks))
+        m_held.append(mark.blockNumber());
+}
+
+void Bookmarks::putBack(const MovedLines &lines)
+{
+    if (m_held.size() != m_marks.size())
+        return;
+    for (qsizetype i = 0; i < m_marks.size(); ++i) {
+        if (lines.contains(m_held[i]))
+            m_marks[i] = QTextCursor(m_box.document()->findBlockByNumber(lines.placeOf(m_held[i])));
+    }
+    m_held.clear();
+    Q_EMIT changed();
 }
 
 bool Bookmarks::goToNext()

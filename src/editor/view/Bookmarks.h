@@ -9,6 +9,7 @@ class QPlainTextEdit;
 namespace ORVTListview {
 
 struct LineMark;
+struct MovedLines;
 
 // Lines that the user wants to come back to. A mark goes with its line's text.
 class Bookmarks final : public QObject
@@ -27,6 +28,10 @@ public:
     // To the next marked line below that of the caret, going round.
     bool goToNext();
 
+    // When lines change places: before, and when they have.
+    void holdLines(const MovedLines &lines);
+    void putBack(const MovedLines &lines);
+
     QList<LineMark> marks() const;
     static QColor colourOn(const QColor &ground);
 
@@ -38,6 +43,7 @@ private:
 
     QPlainTextEdit &m_box;
     QList<QTextCursor> m_marks; // in no order
+    QList<int> m_held;          // the line of each, from 0
 };
 
 } // namespace ORVTListview

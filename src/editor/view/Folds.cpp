@@ -2,6 +2,7 @@
 
 #include "editor/rules/structure/Folding.h"
 #include "editor/view/LayerOrder.h"
+#include "editor/view/LineMoves.h"
 #include "editor/view/LinePlaces.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/box/BoxLayout.h"
@@ -40,7 +41,9 @@ Folds::Folds(RichTextBox &box, EditorMargin &margin, BoxLayers &layers)
     : BoxLayer(layers, LayerOrder::folds)
     , m_box(box)
     , m_margin(margin)
+    , m_openBlocks(*box.document())
 {
+    connect(&m_openBlocks, &OpenBlocks::changed, &m_margin, qOverload<>(&QWidget::update));
 }
 
 void Folds::setOn(bool on)
@@ -50,10 +53,12 @@ void Folds::setOn(bool on)
     if (on) {
         m_lineCount = m_box.document()->blockCount();
         m_caret = m_box.textCursor().position();
+        m_openBlocks.start();
         connect(&m_box, &QPlainTextEdit::cursorPositionChanged, this, &Folds::followCaret);
         connect(m_box.document(), &QTextDocument::contentsChange, this, &Folds::noteChange);
         connect(m_box.document(), &QTextDocument::contentsChanged, this, &Folds::followChange);
     } else {
+        m_openBlocks.stop();
         m_box.disconnect(this);
         m_box.document()->disconnect(this);
         unfoldAll();
@@ -66,7 +71,7 @@ void Folds::setOn(bool on)
 bool Folds::hasFold(const QTextBlock &line) const
 {
     const QString text = line.text();
-    if (!line.next().isValid() || !BlockFold::begins(text))
+    if (!line.next().isValid() || !BlockFold::begins(text) || m_openBlocks.contains(line))
         return false;
     BlockFold fold;
     fold.take(text);
@@ -199,6 +204,36 @@ void Folds::followChange()
             unfold(line);
         else if (hidesLines(line) && (!sameLines || !BlockFold::begins(line.text())))
             unfold(line.next());
+    }
+    followCaret();
+}
+
+void Folds::holdLines(const MovedLines &lines)
+{
+    m_held.clear();
+    if (!m_hasHidden || lines.from.isEmpty())
+        return;
+    const int end = lines.first + static_cast<int>(lines.from.size());
+    QTextBlock line = m_box.document()->findBlockByNumber(lines.first);
+    for (; line.isValid() && line.blockNumber() < end; line = line.next()) {
+        const QTextBlock last = hidesLines(line) ? lastHidden(line) : line;
+        if (last != line && last.blockNumber() < end)
+            m_held.append({line.blockNumber(), last.blockNumber()});
+    }
+}
+
+// As far as what was folded together still is.
+void Folds::putBack(const MovedLines &lines)
+{
+    const QTextDocument &text = *m_box.document();
+    for (const auto &[head, last] : std::exchange(m_held, {})) {
+        const int place = lines.placeOf(head);
+        bool isWhole = true;
+        for (int line = head; line <= last && isWhole; ++line)
+            isWhole = lines.placeOf(line) - place == line - head;
+        if (isWhole)
+            show({text.findBlockByNumber(place + 1), text.findBlockByNumber(place + last - head)},
+                 false);
     }
     followCaret();
 }

@@ -1,11 +1,17 @@
 #pragma once
 
 #include "editor/view/EditorMargin.h"
+#include "editor/view/OpenBlocks.h"
+
+#include <QtCore/QList>
+
+#include <utility>
 
 namespace ORVTListview {
 
 class BoxLayout;
 class RichTextBox;
+struct MovedLines;
 
 // Folds the blocks of a program: the lines between an IF and its ENDIF are hidden, with
 // a sign in the margin and one behind the IF's line. The document's lines know
@@ -27,6 +33,10 @@ public:
 
     // How many lines are hidden between a line and the next one shown.
     int hiddenBehind(const QTextBlock &line) const;
+
+    // When lines change places: before, and when all is in its place.
+    void holdLines(const MovedLines &lines);
+    void putBack(const MovedLines &lines);
 
     int width() const override;
     void paint(QPainter &painter, const ShownLine &line, const QRect &cell) override;
@@ -56,7 +66,9 @@ private:
 
     RichTextBox &m_box;
     EditorMargin &m_margin;
-    int m_changedFrom = -1; // what changed since it was last looked at; -1 for nothing
+    OpenBlocks m_openBlocks;
+    QList<std::pair<int, int>> m_held; // folded lines, the one shown and the last
+    int m_changedFrom = -1;            // what changed since it was last looked at; -1 for nothing
     int m_changedTo = -1;
     int m_lineCount = 0;
     int m_caret = 0;          // before it moved

@@ -1,6 +1,7 @@
 #include "editor/view/Problems.h"
 
 #include "editor/view/LayerOrder.h"
+#include "editor/view/LineMoves.h"
 #include "editor/view/LinePlaces.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/ViewColours.h"
@@ -77,9 +78,7 @@ void Problems::set(const QList<Problem> &problems)
         const QTextCursor place = placeOf(problem, *m_box.document());
         m_kept.append({problem, place, place.hasSelection()});
     }
-    std::stable_sort(m_kept.begin(), m_kept.end(), [](const Kept &one, const Kept &other) {
-        return one.place.selectionStart() < other.place.selectionStart();
-    });
+    sort();
     const bool areThere = !m_kept.isEmpty();
     if (areThere && !isShown()) {
         connect(m_box.document(), &QTextDocument::contentsChange, this, &Problems::noteChange);
@@ -89,6 +88,40 @@ void Problems::set(const QList<Problem> &problems)
     setShown(areThere);
     if (layers())
         layers()->updateLines([](const QTextBlock &) { return true; });
+    Q_EMIT changed();
+}
+
+void Problems::sort()
+{
+    std::stable_sort(m_kept.begin(), m_kept.end(), [](const Kept &one, const Kept &other) {
+        return one.place.selectionStart() < other.place.selectionStart();
+    });
+}
+
+void Problems::holdLines(const MovedLines &lines)
+{
+    m_held.clear();
+    if (lines.from.isEmpty())
+        return;
+    for (const Kept &kept : std::as_const(m_kept))
+        m_held.append(kept.now());
+}
+
+void Problems::putBack(const MovedLines &lines)
+{
+    if (m_held.size() != m_kept.size())
+        return;
+    for (qsizetype i = 0; i < m_kept.size(); ++i) {
+        const int line = m_held[i].line - 1;
+        if (!lines.contains(line) || (m_kept[i].hasText && m_held[i].length == 0))
+            continue;
+        m_held[i].line = lines.placeOf(line) + 1;
+        m_kept[i].place = placeOf(m_held[i], *m_box.document());
+        if (m_held[i].length == 0)
+            m_kept[i].place.setPosition(m_kept[i].place.anchor());
+    }
+    m_held.clear();
+    sort();
     Q_EMIT changed();
 }
 

@@ -12,6 +12,7 @@ class QPlainTextEdit;
 namespace ORVTListview {
 
 struct LineMark;
+struct MovedLines;
 
 // What a check found, kept with its places while the text is edited, and underlined.
 // What is wrong with a text goes with it.
@@ -36,6 +37,10 @@ public:
 
     // Of the first one at a place of the viewport, and what of it is shown there.
     QString textAt(const QPoint &place, QRect *whole = nullptr) const;
+
+    // When lines change places: before, and when they have.
+    void holdLines(const MovedLines &lines);
+    void putBack(const MovedLines &lines);
 
     QList<LineMark> marks() const;
     static QColor colourOf(ProblemSeverity severity, const QColor &ground);
@@ -68,10 +73,12 @@ private:
     Problem goTo(const Kept &kept);
     QList<QRectF> placesIn(const ShownLine &line, const Kept &kept) const;
     void drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line) const;
+    void sort();
     void noteChange(int from, int removed, int added);
 
     QPlainTextEdit &m_box;
-    QList<Kept> m_kept; // from the top
+    QList<Kept> m_kept;    // from the top
+    QList<Problem> m_held; // where each of them is
 };
 
 } // namespace ORVTListview

@@ -248,7 +248,8 @@ private:
     {
         const int line = goSomewhere();
         const int by = m_random.number(7) - 3;
-        note(u"move by %1"_s.arg(by));
+        note(u"unfold, move by %1"_s.arg(by));
+        view().unfoldAll(); // a folded block counts as one line
         view().moveLines(by);
         const int to = std::clamp(line + by, 0, count() - 1);
         m_lines.move(line, to);

@@ -131,6 +131,66 @@ private Q_SLOTS:
         QVERIFY(!m_host->list->IsUndoAvailable());
     }
 
+    void aBlockWithoutEndHasNoSign()
+    {
+        const auto sign = [this](int line) {
+            const QRect place = m_host->placeOf(line - 1);
+            const QImage margin = m_host->picture(m_host->margin());
+            const QRect cell(margin.width() - box().fontMetrics().height() * 3 / 4, place.top(),
+                             box().fontMetrics().height() * 3 / 4 - 1, place.height());
+            for (int y = cell.top(); y <= cell.bottom(); ++y) {
+                for (int x = cell.left(); x <= cell.right(); ++x) {
+                    if (margin.pixelColor(x, y) != m_host->ground())
+                        return true;
+                }
+            }
+            return false;
+        };
+        QVERIFY(sign(2));
+        m_host->list->setCodeText(u"IF a\r\nx = 1\r\nIF b\r\n y = 1\r\nENDIF\r\nz = 1"_s);
+        QTRY_VERIFY(!sign(1));
+        QVERIFY(sign(3));
+        caretTo(1);
+        m_host->type(u"\n"_s); // before it knows better
+        QVERIFY(!sign(2));
+        QVERIFY(sign(4));
+        caretTo(7, 5);
+        m_host->type(u"\nENDIF"_s);
+        QTRY_VERIFY(sign(2));
+        view().setFoldingEnabled(false);
+        view().setFoldingEnabled(true);
+        QVERIFY(sign(2));
+    }
+
+    void foldsMoveWithTheirLines()
+    {
+        view().foldAll();
+        QCOMPARE(shown(), u"1 2 8 9 10"_s);
+        caretTo(2, 2);
+        view().moveLines(-1);
+        QCOMPARE(box().lineText(0), u"IF a"_s);
+        QCOMPARE(box().lineText(6), u"a = 1"_s);
+        QCOMPARE(shown(), u"1 7 8 9 10"_s);
+        QCOMPARE(caret(), u"1:2"_s);
+        view().moveLines(1);
+        QCOMPARE(shown(), u"1 2 8 9 10"_s);
+        caretTo(1, 1); // a line past a fold, there and back
+        view().moveLines(1);
+        QCOMPARE(box().lineText(6), u"a = 1"_s);
+        QCOMPARE(shown(), u"1 7 8 9 10"_s);
+        QCOMPARE(caret(), u"7:1"_s);
+        view().moveLines(-1);
+        QCOMPARE(box().lineText(0), u"a = 1"_s);
+        QCOMPARE(shown(), u"1 2 8 9 10"_s);
+        view().moveLines(99);
+        QCOMPARE(box().lineText(9), u"a = 1"_s);
+        QCOMPARE(shown(), u"1 7 8 9 10"_s);
+        view().moveLines(-99);
+        QCOMPARE(shown(), u"1 2 8 9 10"_s);
+        view().unfoldAll();
+        QCOMPARE(shown(), u"1 2 3 4 5 6 7 8 9 10"_s);
+    }
+
     void theSignStandsWhereTheLineEnds()
     {
         for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {

@@ -397,6 +397,62 @@ private Q_SLOTS:
         QCOMPARE(box().textCursor().block().text(), u"two = 2"_s);
     }
 
+    void followTheirLines_data()
+    {
+        QTest::addColumn<int>("first"); // of the lines that are moved
+        QTest::addColumn<int>("last");
+        QTest::addColumn<int>("by");
+        QTest::addColumn<QString>("places");
+        QTest::newRow("down") << 1 << 1 << 1 << u"1:0+3 2:2+1 2:6+0 4:0+1"_s;
+        QTest::newRow("far down") << 1 << 1 << 9 << u"1:0+3 3:0+1 4:2+1 4:6+0"_s;
+        QTest::newRow("up") << 4 << 4 << -1 << u"1:2+1 1:6+0 2:0+3 3:0+1"_s;
+        QTest::newRow("several up") << 2 << 4 << -1 << u"1:0+3 3:0+1 4:2+1 4:6+0"_s;
+        QTest::newRow("several down") << 1 << 2 << 1 << u"2:2+1 2:6+0 3:0+3 4:0+1"_s;
+    }
+    void followTheirLines()
+    {
+        QFETCH(const int, first);
+        QFETCH(const int, last);
+        QFETCH(const int, by);
+        QFETCH(const QString, places);
+        m_host->list->setCodeText(u"a = 12\r\nbbb = 2\r\n\r\nd = 1"_s);
+        view().setProblems(
+            {problem(1, 2, 1), problem(1, 6, 1), problem(2, 0, 3), problem(4, 0, 1)});
+        const QString marked[] = {u"a = 12"_s, u"bbb = 2"_s, u"d = 1"_s};
+        for (const int line : {1, 2, 4}) {
+            caretTo(line, 1);
+            view().toggleBookmark();
+        }
+        caretTo(first);
+        box().setSelLength(box().lineStart(last - 1) + 1 - box().SelStart());
+        view().moveLines(by);
+        QCOMPARE(shownPlaces(), places);
+        QStringList found;
+        caretTo(box().lineCount(), 1);
+        for (int i = 0; i < 3; ++i) {
+            QVERIFY(view().nextBookmark());
+            found.append(box().textCursor().block().text());
+        }
+        found.sort();
+        QCOMPARE(found, QStringList(std::begin(marked), std::end(marked)));
+    }
+
+    void followTheirLinesWhenTheseAreSorted()
+    {
+        m_host->list->setCodeText(u"c = 1\r\nb = 1\r\na = 1\r\nx"_s);
+        view().setProblems({problem(1, 4, 1), problem(3, 0, 1), problem(4, 0, 1)});
+        caretTo(1, 2);
+        view().toggleBookmark();
+        caretTo(1);
+        box().setSelLength(box().lineStart(2) + 1);
+        view().sortLines();
+        QCOMPARE(box().lineText(0), u"a = 1"_s);
+        QCOMPARE(shownPlaces(), u"1:0+1 3:4+1 4:0+1"_s);
+        caretTo(1);
+        QVERIFY(view().nextBookmark());
+        QCOMPARE(caret(), u"3:0"_s);
+    }
+
     void nothingOfItIsInTheText()
     {
         const QString rtf = m_host->list->CodeTextRTF();
