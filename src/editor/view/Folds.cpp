@@ -73,15 +73,15 @@ bool Folds::hasFold(const QTextBlock &line) const
     if (!line.next().isValid() || !BlockFold::begins(text))
         return false;
     BlockFold fold;
-    fold.take(text);
-    return !fold.take(line.next().text());
+    fold.read(text);
+    return !fold.read(line.next().text());
 }
 
 void Folds::fold(const QTextBlock &head)
 {
     BlockFold fold;
     QTextBlock end = head;
-    while (end.isValid() && !fold.take(end.text()))
+    while (end.isValid() && !fold.read(end.text()))
         end = end.next();
     if (!end.isValid() || end.previous() == head)
         return;
@@ -126,7 +126,7 @@ void Folds::foldAll()
             continue;
         BlockFold fold;
         QTextBlock end = line;
-        while (end.isValid() && !fold.take(end.text()))
+        while (end.isValid() && !fold.read(end.text()))
             end = end.next();
         if (!end.isValid())
             return; // nothing behind it has an end of its own level

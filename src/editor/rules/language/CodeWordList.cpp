@@ -66,7 +66,7 @@ void CodeWordList::follow(const Vocabulary &vocabulary)
     try {
         refill(stale, vocabulary, listed(ReservedWordColour));
     } catch (const Error &) {
-        noteContents(stale, vocabulary); // a heir that fails is not asked at every word
+        rememberContents(stale, vocabulary); // a heir that fails is not asked at every word
     }
 }
 
@@ -80,7 +80,7 @@ bool CodeWordList::isStale(std::size_t kind, const Vocabulary &vocabulary) const
     return then && !points;
 }
 
-void CodeWordList::noteContents(const Choice &which, const Vocabulary &vocabulary)
+void CodeWordList::rememberContents(const Choice &which, const Vocabulary &vocabulary)
 {
     for (std::size_t kind = 0; kind < kinds; ++kind) {
         if (!which[kind])
@@ -98,7 +98,7 @@ void CodeWordList::refill(const Choice &which, const Vocabulary &vocabulary,
     for (std::size_t kind = 0; kind < kinds; ++kind)
         names[kind] =
             which[kind] ? namesOf(pointsOf(kind, vocabulary)) : listed(kindsOfPoints[kind].colour);
-    noteContents(which, vocabulary);
+    rememberContents(which, vocabulary);
     m_index.clear();
     for (std::size_t kind = 0; kind < kinds; ++kind)
         addWords(names[kind], kindsOfPoints[kind].colour);
