@@ -72,7 +72,7 @@ bool FileReplacement::write(const QByteArray &content)
 {
     if (!isFileOrFree() || !openBeside())
         return false;
-    takeRights();
+    copyRights();
     if (!writeAll(content) || !reachDisk())
         return false;
     m_beside.close();
@@ -145,7 +145,7 @@ bool FileReplacement::reachDisk()
     return true;
 }
 
-void FileReplacement::takeRights()
+void FileReplacement::copyRights()
 {
     if (!QFileInfo::exists(m_fileName))
         return;

@@ -48,7 +48,7 @@ private:
     bool mayReplace();
     bool writeAll(const QByteArray &content);
     bool reachDisk();
-    void takeRights();
+    void copyRights();
     bool fail(Fault fault, const QString &systemText = {});
 
     QString m_fileName;

@@ -39,7 +39,7 @@ std::optional<Place> partnerOf(const BlockWord &from, QTextBlock line)
                           : other.place.start >= from.place.start;
     });
     for (;;) {
-        const QList<BlockWord> found = walk.take(words);
+        const QList<BlockWord> found = walk.read(words);
         if (!found.isEmpty() && (isForwards || walk.isDone())) {
             const BlockWord &word = isForwards ? found.first() : found.last();
             return Place{line.blockNumber(), word.place.start};

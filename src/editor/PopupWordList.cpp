@@ -79,7 +79,7 @@ PopupWordList::PopupWordList(ReportList &list, RichTextBox &box, const EditorThr
     connect(rows, &QAbstractItemModel::dataChanged, this, forget);
 }
 
-void PopupWordList::noteTableManner()
+void PopupWordList::rememberTableManner()
 {
     if (m_hasList)
         m_tableManner.change(popupManner, ListManner::of(m_list)); // the host's doing
@@ -90,7 +90,7 @@ void PopupWordList::noteTableManner()
 void PopupWordList::takeList()
 {
     close();
-    noteTableManner();
+    rememberTableManner();
     m_hasList = true;
     m_list.setParent(m_list.parentWidget(), Qt::ToolTip | Qt::FramelessWindowHint);
     m_list.setAttribute(Qt::WA_ShowWithoutActivating);
@@ -105,7 +105,7 @@ void PopupWordList::giveListBack()
     if (!m_hasList)
         return;
     close();
-    noteTableManner();
+    rememberTableManner();
     m_hasList = false;
     m_words = {};
     m_list.Clear();

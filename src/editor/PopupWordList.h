@@ -65,7 +65,7 @@ protected:
 private:
     bool canStand() const;
     bool isWordInSight() const;
-    void noteTableManner();
+    void rememberTableManner();
     void choose(qsizetype place);
     void chooseForWord(const QString &word);
     void showFirst(int row);

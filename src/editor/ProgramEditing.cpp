@@ -38,7 +38,7 @@ void ProgramEditing::typeText(const QString &text)
         return;
     }
     m_undo.noteTyped(text);
-    const bool isTyped = m_colouring.edit([&] { m_colouring.put(text); });
+    const bool isTyped = m_colouring.edit([&] { m_colouring.type(text); });
     if (!isTyped || !TypedColouring::finishesWord(text))
         return;
     m_colouring.finishEdit();

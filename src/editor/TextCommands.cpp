@@ -91,7 +91,7 @@ void TextCommands::tidy() const
     QStringList texts;
     for (qint32 line = 0; line <= lines.last; ++line) {
         const QString before = box.lineText(line);
-        const int steps = indent.take(before);
+        const int steps = indent.read(before);
         if (line < lines.first)
             continue;
         const QString words = before.sliced(GetLineIndent(before).size());

@@ -76,7 +76,7 @@ bool TypedColouring::edit(const std::function<void()> &change)
 }
 
 // The same cursors all the time: a document that is being cleared may lose none.
-void TypedColouring::noteEdit()
+void TypedColouring::leaveUnfinished()
 {
     m_edited.setPosition(m_box.textCursor().position());
     m_isUnfinished = true;
@@ -89,7 +89,7 @@ void TypedColouring::noteChange(int from, int added)
     if (m_edit == Edit::Begun) {
         m_edit = Edit::Made; // what else changes meanwhile is the host's
         if (touches(m_box.textCursor().block(), from, from + added)) {
-            noteEdit();
+            leaveUnfinished();
         } else {
             m_elsewhere.setPosition(from);
             m_hasElsewhere = true;
@@ -114,7 +114,7 @@ void TypedColouring::followCaret()
         finishEdit();
 }
 
-void TypedColouring::put(const QString &text)
+void TypedColouring::type(const QString &text)
 {
     if (m_box.SelLength() == 0) {
         prepareTyping(text);

@@ -31,8 +31,8 @@ public:
     // a handler of the change may set the text anew or destroy this.
     bool edit(const std::function<void()> &change);
 
-    // The same for what changed colours only.
-    void noteEdit();
+    // The same for what changed colours only: the caret's line is to be finished.
+    void leaveUnfinished();
 
     bool isEditing() const { return m_edit != Edit::None; }
     bool isUnfinished() const { return m_isUnfinished; }
@@ -43,7 +43,7 @@ public:
 
     // Puts typed text in the place of the selection: in the colour that an unfinished
     // word has at the caret, and over a selection without one.
-    void put(const QString &text);
+    void type(const QString &text);
 
     // Whether typing the text finishes the word before it.
     static bool finishesWord(QStringView text);

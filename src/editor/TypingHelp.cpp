@@ -37,7 +37,7 @@ std::optional<QString> indentOfIf(const QTextBlock &closer)
     BlockWalk walk(BlockWalk::Direction::Backwards);
     QTextBlock line = closer.previous();
     for (int i = 0; i < linesLookedAt && line.isValid(); ++i) {
-        walk.take(blockWordsOf(line.text()));
+        walk.read(blockWordsOf(line.text()));
         if (walk.isDone())
             return GetLineIndent(line.text());
         line = line.previous();

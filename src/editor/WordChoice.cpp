@@ -23,7 +23,7 @@ WordChoice::WordChoice(ReportList &list, RichTextBox &box, const EditorThread &t
     , m_popup(list, box, thread)
 {
     QObject::connect(&m_popup, &PopupWordList::picked, &m_popup,
-                     [this](const QString &word, qint32 colour) { takeWord(word, colour); });
+                     [this](const QString &word, qint32 colour) { useWord(word, colour); });
 }
 
 void WordChoice::RefillListviewWithWordList()
@@ -70,7 +70,7 @@ bool WordChoice::rewriteKnownWord()
         colour = m_popup.words().words()[place].style.Colour;
     }
     SetWordAtCaret(m_box, word, colour);
-    m_colouring.noteEdit();
+    m_colouring.leaveUnfinished();
     return true;
 }
 
@@ -80,14 +80,14 @@ void WordChoice::caretToLineEnd()
     m_box.setSelStart(m_box.lineStart(line) + static_cast<qint32>(m_box.lineText(line).size()));
 }
 
-void WordChoice::takeWord(const QString &word, qint32 colour)
+void WordChoice::useWord(const QString &word, qint32 colour)
 {
     if (!mayUserEdit(m_box))
         return;
     const RichTextBox::Changing changing(m_box);
     m_undo.PushUndoSnapshot();
     m_box.setSelStart(m_box.SelStart()); // the word's line, of those selected
-    m_colouring.noteEdit();
+    m_colouring.leaveUnfinished();
     m_colouring.edit([&] { SetWordAtCaret(m_box, word, colour); });
     m_box.setFocus();
 }

@@ -23,7 +23,7 @@ public:
 private:
     bool rewriteKnownWord();
     void caretToLineEnd();
-    void takeWord(const QString &word, qint32 colour);
+    void useWord(const QString &word, qint32 colour);
 
     RichTextBox &m_box;
     const EditorThread &m_thread;

@@ -151,7 +151,7 @@ void fFind::findNext()
 {
     if (searched().isEmpty() || !m_search.box())
         return;
-    noteSearch();
+    rememberSearch();
     if (m_search.findNext(searched())) {
         tell([place = caretPosition(*m_search.box())] {
             return Localise(u"Found in"_s) + u' ' + positionDisplay(place);
@@ -164,7 +164,7 @@ void fFind::findNext()
 }
 
 // For searches without the dialog.
-void fFind::noteSearch()
+void fFind::rememberSearch()
 {
     threadPart<SearchHistories>().last = {searched(), m_search.how()};
 }
@@ -192,7 +192,7 @@ void fFind::replaceAll()
         m_search.box()->setSelLength(0);
         return;
     }
-    noteSearch();
+    rememberSearch();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     HistoryField::remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);

@@ -73,7 +73,7 @@ private:
 
     void run(Action action);
     void findNext();
-    void noteSearch();
+    void rememberSearch();
     void replace();
     void replaceAll();
     void tell(const Result &result);

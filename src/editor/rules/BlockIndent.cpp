@@ -6,7 +6,7 @@
 
 namespace ORVTListview {
 
-int BlockIndent::take(QStringView line)
+int BlockIndent::read(QStringView line)
 {
     const QList<BlockWord> words = blockWordsOf(line);
     const QList<TextPiece> all = words.isEmpty() ? QList<TextPiece>() : wordsOf(line);

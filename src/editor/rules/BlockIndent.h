@@ -10,7 +10,7 @@ namespace ORVTListview {
 class ORVT_HOUSE_EXPORT BlockIndent
 {
 public:
-    int take(QStringView line);
+    int read(QStringView line);
 
 private:
     int m_depth = 0;

@@ -60,15 +60,15 @@ void BlockSearch::begin(std::optional<Way> &way, BlockWalk::Direction direction,
                           : other.place.start >= word.place.start;
     });
     way.emplace(Way{BlockWalk(direction), QTextCursor(line)});
-    take(*way, line, words);
+    read(*way, line, words);
     const QTextBlock next = isForwards ? line.next() : line.previous();
     way->next = next.isValid() ? QTextCursor(next) : QTextCursor();
 }
 
-void BlockSearch::take(Way &way, const QTextBlock &line, const QList<BlockWord> &words)
+void BlockSearch::read(Way &way, const QTextBlock &line, const QList<BlockWord> &words)
 {
     const int number = words.isEmpty() ? 0 : line.blockNumber();
-    for (const BlockWord &word : way.walk.take(words)) {
+    for (const BlockWord &word : way.walk.read(words)) {
         m_places.append({number, word.place});
         m_firstLine = std::min(m_firstLine, number);
         m_lastLine = std::max(m_lastLine, number);
@@ -82,7 +82,7 @@ void BlockSearch::goOn(std::optional<Way> &way, BlockWalk::Direction direction, 
     const bool isForwards = direction == BlockWalk::Direction::Forwards;
     QTextBlock line = way->next.isNull() ? QTextBlock() : way->next.block();
     for (; lines > 0 && line.isValid() && !way->walk.isDone(); --lines) {
-        take(*way, line, blockWordsOf(line.text()));
+        read(*way, line, blockWordsOf(line.text()));
         line = isForwards ? line.next() : line.previous();
     }
     way->next = line.isValid() ? QTextCursor(line) : QTextCursor();

@@ -55,7 +55,7 @@ private:
     void begin(std::optional<Way> &way, BlockWalk::Direction direction, const QTextBlock &line,
                const BlockWord &word);
     void goOn(std::optional<Way> &way, BlockWalk::Direction direction, int lines);
-    void take(Way &way, const QTextBlock &line, const QList<BlockWord> &words);
+    void read(Way &way, const QTextBlock &line, const QList<BlockWord> &words);
     void goOnBothWays(int lines);
 
     QList<Place> m_places;

@@ -74,15 +74,15 @@ bool Folds::hasFold(const QTextBlock &line) const
     if (!line.next().isValid() || !BlockFold::begins(text) || m_openBlocks.contains(line))
         return false;
     BlockFold fold;
-    fold.take(text);
-    return !fold.take(line.next().text());
+    fold.read(text);
+    return !fold.read(line.next().text());
 }
 
 void Folds::fold(const QTextBlock &head)
 {
     BlockFold fold;
     QTextBlock end = head;
-    while (end.isValid() && !fold.take(end.text()))
+    while (end.isValid() && !fold.read(end.text()))
         end = end.next();
     if (!end.isValid() || end.previous() == head)
         return;
@@ -122,7 +122,7 @@ void Folds::show(const Lines &lines, bool on)
 // Hidden lines count as none for the document, so they are stepped over at once.
 int Folds::hiddenBehind(const QTextBlock &line) const
 {
-    if (!isFolded(line))
+    if (!hidesLines(line))
         return 0;
     const QTextDocument &text = *m_box.document();
     const QTextBlock shown = text.findBlockByLineNumber(line.next().firstLineNumber());
@@ -139,7 +139,7 @@ void Folds::foldAll()
             continue;
         BlockFold fold;
         QTextBlock end = line;
-        while (end.isValid() && !fold.take(end.text()))
+        while (end.isValid() && !fold.read(end.text()))
             end = end.next();
         if (!end.isValid())
             return; // nothing behind it has an end of its own level

@@ -1,5 +1,6 @@
 #include "editor/view/HoverTips.h"
 
+#include "editor/rules/structure/BlockWords.h"
 #include "editor/view/LinePlaces.h"
 #include "editor/view/Problems.h"
 #include "shared/points/DisplayNames.h"
@@ -82,7 +83,7 @@ std::optional<HoverTips::Word> HoverTips::wordAt(const QPoint &place) const
     for (const ShownLine &line : m_layers.shownLines(place.y(), place.y() + 1)) {
         const QString text = line.block.text().left(longestLine);
         for (const TextPiece &piece : wordsOf(text)) {
-            const Word word{text.sliced(piece.offset, piece.length), line.block.blockNumber() + 1,
+            const Word word{text.sliced(piece.start, piece.length), line.block.blockNumber() + 1,
                             placesOf(line, piece)};
             if (word.holds(place))
                 return word;

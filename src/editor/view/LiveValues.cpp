@@ -115,7 +115,7 @@ QString LiveValues::valuesOn(const QTextBlock &line) const
     QString values;
     QSet<QString> told;
     for (const TextPiece &word : wordsOf(text)) {
-        const QString name = text.sliced(word.offset, word.length);
+        const QString name = text.sliced(word.start, word.length);
         const QString folded = foldedCase(name);
         const auto value = m_values.constFind(folded);
         if (value == m_values.cend() || told.contains(folded))

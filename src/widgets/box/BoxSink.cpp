@@ -10,7 +10,7 @@
 namespace ORVTListview {
 namespace {
 
-void putLines(QStringView text, const RtfFormat &format, RtfSink &sink)
+void writeLines(QStringView text, const RtfFormat &format, RtfSink &sink)
 {
     const QStringView lineEnd = u"\r\n";
     for (;;) {
@@ -135,7 +135,7 @@ void BoxSink::insertText()
     }
 }
 
-void putColoured(const ColouredText &text, const RtfFormat &format, RtfSink &sink)
+void writeColoured(const ColouredText &text, const RtfFormat &format, RtfSink &sink)
 {
     RtfFormat current = format;
     const QStringView whole = text.text;
@@ -148,11 +148,11 @@ void putColoured(const ColouredText &text, const RtfFormat &format, RtfSink &sin
         if (whole.first(end).endsWith(u'\r') && whole.sliced(end).startsWith(u'\n'))
             ++end;
         current.colour = run.colour;
-        putLines(whole.sliced(begin, end - begin), current, sink);
+        writeLines(whole.sliced(begin, end - begin), current, sink);
         begin = end;
     }
     current.colour = RtfFormat::automatic;
-    putLines(whole.sliced(begin), current, sink);
+    writeLines(whole.sliced(begin), current, sink);
 }
 
 } // namespace ORVTListview

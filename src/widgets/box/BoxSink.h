@@ -58,6 +58,6 @@ private:
 
 // Hands coloured text to a sink. All of it gets the format but for the colour.
 // Text behind the last run is of automatic colour.
-void putColoured(const ColouredText &text, const RtfFormat &format, RtfSink &sink);
+void writeColoured(const ColouredText &text, const RtfFormat &format, RtfSink &sink);
 
 } // namespace ORVTListview

@@ -303,7 +303,7 @@ void RichTextBox::setColoured(const ColouredText &text)
         QTextCursor cursor = lines.toReplace();
         {
             BoxSink sink(cursor, d->formats);
-            putColoured(lines.replacement(), d->formats.base(), sink);
+            writeColoured(lines.replacement(), d->formats.base(), sink);
         }
         select(0, 0);
     });
@@ -316,7 +316,7 @@ void RichTextBox::setSelColoured(const ColouredText &text)
     QTextCursor cursor = textCursor();
     {
         BoxSink sink(cursor, d->formats);
-        putColoured(text, d->formats.base(), sink);
+        writeColoured(text, d->formats.base(), sink);
     }
     const int place = d->text.whole(cursor.position());
     select(place, place);

@@ -58,7 +58,7 @@ void RichTextBox::replacePieces(const QList<TextPiece> &pieces, const QList<Colo
 {
     const auto put = [&](QTextCursor &cursor, qsizetype i) {
         BoxSink sink(cursor, d->formats);
-        putColoured(texts[i], d->formats.base(), sink);
+        writeColoured(texts[i], d->formats.base(), sink);
     };
     replaceEach(pieces, put, finish);
 }

@@ -136,8 +136,8 @@ private:
     void noteEdit(const QString &text);
     void act(QKeyEvent &event);
     bool actOnList(const QKeyEvent &event);
-    void takeMarked();
-    void takeTypedName();
+    void chooseMarked();
+    void chooseTypedName();
     void bringBack();
     void raiseNoted();
     void raiseNotedAfter(const QEvent &event);

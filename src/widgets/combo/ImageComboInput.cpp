@@ -39,7 +39,7 @@ bool ImageCombo::event(QEvent *event)
             handled = EventGuard::run([&] { return QComboBox::event(event); });
         };
         if (isTab(*event)) { // moves the focus before it is seen as a key
-            takeMarked();
+            chooseMarked();
             letWork(work);
         } else {
             work();
@@ -124,7 +124,7 @@ void ImageCombo::pick()
     d->isPicked = currentIndex() >= 0;
 }
 
-void ImageCombo::takeMarked()
+void ImageCombo::chooseMarked()
 {
     const int row = isListOpen() ? d->list->currentRow() : -1;
     hidePopup();
@@ -132,7 +132,7 @@ void ImageCombo::takeMarked()
         choose(row);
 }
 
-void ImageCombo::takeTypedName()
+void ImageCombo::chooseTypedName()
 {
     const bool isUntouched = d->settledRow < 0 && text() == d->settledText;
     if (currentIndex() >= 0 || isUntouched)
@@ -170,7 +170,7 @@ void ImageCombo::act(QKeyEvent &event)
     if (isListOpen() && actOnList(event))
         return;
     if (isEnter) {
-        takeTypedName();
+        chooseTypedName();
         pick();
     }
     letWork([this, &event] { QComboBox::keyPressEvent(&event); });
@@ -182,7 +182,7 @@ bool ImageCombo::actOnList(const QKeyEvent &event)
     switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        takeMarked();
+        chooseMarked();
         pick();
         break;
     case Qt::Key_Escape:
@@ -259,7 +259,7 @@ void ImageCombo::focusOutEvent(QFocusEvent *event)
         return;
     }
     QComboBox::focusOutEvent(event);
-    takeTypedName();
+    chooseTypedName();
     raiseEvent(*this, &ImageCombo::focusLeft);
 }
 

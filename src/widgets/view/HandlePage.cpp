@@ -70,7 +70,7 @@ HandlePage::~HandlePage()
     unmap(m_memory, m_size);
 }
 
-void *HandlePage::take(std::size_t size)
+void *HandlePage::allocate(std::size_t size)
 {
     if (m_used + size > m_size) {
         m_isFull = true;

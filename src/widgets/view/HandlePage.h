@@ -18,7 +18,7 @@ public:
     Q_DISABLE_COPY_MOVE(HandlePage) // handles lie in it
 
     // Null when it is full. Aligned for pointers.
-    void *take(std::size_t size);
+    void *allocate(std::size_t size);
     void letGo();
 
 private:

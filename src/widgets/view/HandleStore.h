@@ -64,10 +64,10 @@ private:
     template <typename Keeper>
     Kept *make(Held &held, Keeper &keeper)
     {
-        void *place = m_pages.empty() ? nullptr : m_pages.back()->take(sizeof(Kept));
+        void *place = m_pages.empty() ? nullptr : m_pages.back()->allocate(sizeof(Kept));
         if (!place) {
             m_pages.push_back(std::make_unique<HandlePage>());
-            place = m_pages.back()->take(sizeof(Kept));
+            place = m_pages.back()->allocate(sizeof(Kept));
         }
         return new (place) Kept(keeper, held, *m_pages.back());
     }

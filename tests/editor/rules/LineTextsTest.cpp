@@ -38,7 +38,7 @@ QString steps(const QString &program)
     BlockIndent indent;
     QString steps;
     for (const QString &line : program.split(u'|'))
-        steps += QString::number(indent.take(line));
+        steps += QString::number(indent.read(line));
     return steps;
 }
 

@@ -73,7 +73,7 @@ void CodeWordList::follow(const Vocabulary &vocabulary)
     try {
         refill(stale, vocabulary, listed(ReservedWordColour));
     } catch (const Error &) {
-        noteContents(stale, vocabulary); // a heir that fails is not asked at every word
+        rememberContents(stale, vocabulary); // a heir that fails is not asked at every word
     }
 }
 
@@ -87,7 +87,7 @@ bool CodeWordList::isStale(std::size_t kind, const Vocabulary &vocabulary) const
     return then && !points;
 }
 
-void CodeWordList::noteContents(const Choice &which, const Vocabulary &vocabulary)
+void CodeWordList::rememberContents(const Choice &which, const Vocabulary &vocabulary)
 {
     for (std::size_t kind = 0; kind < kinds; ++kind) {
         if (!which[kind])
@@ -109,7 +109,7 @@ void CodeWordList::refill(const Choice &which, const Vocabulary &vocabulary,
     for (std::size_t kind = 0; kind < kinds; ++kind)
         addWords(index, names[kind], kindsOfPoints[kind].colour);
     addWords(index, reserved, ReservedWordColour);
-    noteContents(which, vocabulary);
+    rememberContents(which, vocabulary);
     replaceIndex(std::move(index));
 }
 

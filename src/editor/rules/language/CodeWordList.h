@@ -50,7 +50,7 @@ private:
     using Contents = std::optional<KeyedCollection<Point>>;
 
     bool isStale(std::size_t kind, const Vocabulary &vocabulary) const;
-    void noteContents(const Choice &which, const Vocabulary &vocabulary);
+    void rememberContents(const Choice &which, const Vocabulary &vocabulary);
     void refill(const Choice &which, const Vocabulary &vocabulary, const QStringList &reserved);
     void replaceIndex(WordIndex index);
     QStringList listed(qint32 colour) const;

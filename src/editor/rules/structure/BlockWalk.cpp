@@ -4,7 +4,7 @@
 
 namespace ORVTListview {
 
-QList<BlockWord> BlockWalk::take(const QList<BlockWord> &words)
+QList<BlockWord> BlockWalk::read(const QList<BlockWord> &words)
 {
     const bool isForwards = m_direction == Direction::Forwards;
     const BlockWord::Kind inner = isForwards ? BlockWord::If : BlockWord::EndIf;

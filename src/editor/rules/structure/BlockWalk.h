@@ -20,7 +20,7 @@ public:
     // The words of a line that lie in the direction of the walk, from the left. Returns
     // those that belong to the word where the walk began; the last of all is the ENDIF,
     // or backwards the IF, and then the walk is done.
-    QList<BlockWord> take(const QList<BlockWord> &words);
+    QList<BlockWord> read(const QList<BlockWord> &words);
 
     bool isDone() const { return m_isDone; }
 

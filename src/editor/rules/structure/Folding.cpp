@@ -26,7 +26,7 @@ bool BlockFold::begins(QStringView line)
     return depthAfter(line) > 0;
 }
 
-bool BlockFold::take(QStringView line)
+bool BlockFold::read(QStringView line)
 {
     if (!m_hasBegun) {
         m_hasBegun = true;

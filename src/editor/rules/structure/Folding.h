@@ -15,7 +15,7 @@ public:
 
     // The lines follow each other, the one with the IF first; true once the line has the
     // ENDIF.
-    bool take(QStringView line);
+    bool read(QStringView line);
 
 private:
     int m_depth = 0;

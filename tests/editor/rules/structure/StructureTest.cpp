@@ -30,7 +30,7 @@ QString walked(const QString &program, BlockWalk::Direction direction)
             words.removeIf([=](const BlockWord &word) {
                 return isForwards ? word.place.start <= offset : word.place.start >= offset;
             });
-        for (const BlockWord &word : walk.take(words))
+        for (const BlockWord &word : walk.read(words))
             found << u"%1:%2"_s.arg(i).arg(word.place.start);
     }
     return found.join(u' ') + (walk.isDone() ? u"."_s : QString());
@@ -125,11 +125,11 @@ TEST(BlockFold, beginsWithAnIfThatDoesNotEndOnItsLine)
 TEST(BlockFold, endsWithTheOutermostBlock)
 {
     BlockFold fold;
-    EXPECT_FALSE(fold.take(u"IF a IF b"));
-    EXPECT_FALSE(fold.take(u"ENDIF"));
-    EXPECT_FALSE(fold.take(u"IF c ENDIF ELSE"));
-    EXPECT_FALSE(fold.take(u"REM ENDIF"));
-    EXPECT_TRUE(fold.take(u"ENDIF x"));
+    EXPECT_FALSE(fold.read(u"IF a IF b"));
+    EXPECT_FALSE(fold.read(u"ENDIF"));
+    EXPECT_FALSE(fold.read(u"IF c ENDIF ELSE"));
+    EXPECT_FALSE(fold.read(u"REM ENDIF"));
+    EXPECT_TRUE(fold.read(u"ENDIF x"));
 }
 
 TEST(Brackets, arePairedFromEitherSideOfTheCaret)
