@@ -15,6 +15,8 @@
 #include "widgets/box/KeptView.h"
 
 #include <QtCore/QScopedValueRollback>
+#include <QtCore/QSignalBlocker>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QMenu>
 
 #include <algorithm>
@@ -29,6 +31,23 @@ qint32 advance(qint32 position, qint32 length)
 {
     const qint32 first = std::max(position, 0);
     return first + std::clamp(length, 0, std::numeric_limits<qint32>::max() - first);
+}
+
+// While the toolkit clears a document it sets the list of its cursors aside: one that a
+// slot destroys meanwhile is written to later, and one that it makes stays behind when
+// text changes. So everybody hears of it when it is done.
+void clearAll(QTextDocument &document)
+{
+    const int length = document.characterCount();
+    const bool hadLines = document.blockCount() > 1;
+    {
+        const QSignalBlocker quiet(&document);
+        document.clear();
+    }
+    Q_EMIT document.contentsChange(0, length, 0);
+    if (hadLines)
+        Q_EMIT document.blockCountChanged(document.blockCount());
+    Q_EMIT document.contentsChanged();
 }
 
 } // namespace
@@ -134,7 +153,7 @@ QString RichTextBox::Text() const
 void RichTextBox::setText(const QString &text)
 {
     replaceAll([&] {
-        document()->clear();
+        clearAll(*document());
         QTextCursor cursor(document());
         BoxMarks::insert(cursor, text, {});
         setSelStart(0);
@@ -151,7 +170,7 @@ QString RichTextBox::TextRTF() const
 void RichTextBox::setTextRTF(const QString &rtf)
 {
     replaceAll([&] {
-        document()->clear();
+        clearAll(*document());
         setSelRTF(rtf);
     });
 }
@@ -299,7 +318,7 @@ void RichTextBox::setColoured(const ColouredText &text)
         // A cleared document forgets its formats, and is faster than one emptied.
         BoxLines lines(*document(), d->formats, text);
         if (!lines.keepUnchanged())
-            document()->clear();
+            clearAll(*document());
         QTextCursor cursor = lines.toReplace();
         {
             BoxSink sink(cursor, d->formats);

@@ -3,7 +3,12 @@
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
 #include <QtTest/QSignalSpy>
+
+#include <functional>
+#include <vector>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -28,6 +33,8 @@ private Q_SLOTS:
     void positionsAndLinesAgree();
     void changeIsRaisedWhenTheCaretRecoloursOnItsWay();
     void changeIsRaisedForTextOnly();
+    void cursorsMadeWhileTheTextGoesLive_data();
+    void cursorsMadeWhileTheTextGoesLive();
     void findSelectsTheMatch();
 };
 
@@ -289,6 +296,41 @@ void RichTextBoxTest::changeIsRaisedForTextOnly()
     box.setFontBold(true);
     box.setBackColor(0);
     QCOMPARE(spy.count(), 0);
+}
+
+void RichTextBoxTest::cursorsMadeWhileTheTextGoesLive_data()
+{
+    using Set = std::function<void(RichTextBox &)>;
+    QTest::addColumn<Set>("set");
+    QTest::newRow("text") << Set([](RichTextBox &box) { box.setText(u"abc"_s); });
+    QTest::newRow("RTF") << Set([](RichTextBox &box) { box.setTextRTF(u"{\\rtf1 abc}"_s); });
+    QTest::newRow("colours") << Set([](RichTextBox &box) {
+        box.setColoured({u"abc"_s, {{3, 255}}});
+    });
+}
+
+// Whoever looks at the text whenever it changes keeps places in it.
+void RichTextBoxTest::cursorsMadeWhileTheTextGoesLive()
+{
+    QFETCH(std::function<void(RichTextBox &)>, set);
+    RichTextBox box;
+    box.setText(u"one\r\ntwo"_s);
+    std::vector<QTextCursor> made;
+    int lines = box.document()->blockCount();
+    connect(box.document(), &QTextDocument::blockCountChanged, &box,
+            [&](int count) { lines = count; });
+    connect(box.document(), &QTextDocument::contentsChanged, &box, [&] {
+        made.emplace_back(box.document());
+    });
+    set(box);
+    QCOMPARE(lines, 1);
+    QVERIFY(made.size() > 1);
+    for (QTextCursor &cursor : made)
+        cursor.setPosition(2);
+    const std::vector<QTextCursor> places = made;
+    QTextCursor(box.document()).insertText(u"xy"_s);
+    for (const QTextCursor &cursor : places)
+        QCOMPARE(cursor.position(), 4);
 }
 
 void RichTextBoxTest::findSelectsTheMatch()
