@@ -9,6 +9,7 @@
 #include "editor/StatusTimer.h"
 #include "editor/TypedColouring.h"
 #include "shared/texts/MenuTexts.h"
+#include "widgets/input/DraggedNames.h"
 #include "widgets/input/TabStops.h"
 #include <ORVTListview/RichTextBox.h>
 
@@ -61,7 +62,9 @@ void CodeCommands::type(const QString &text)
 
 Pasted CodeCommands::paste(const QMimeData &data)
 {
-    return data.hasText() ? m_acts.clipboard.pasteFromOutside(data.text()) : Pasted::Refused;
+    if (!data.hasText())
+        return Pasted::Refused;
+    return m_acts.clipboard.pasteFromOutside(DraggedNames::in(data).value_or(data.text()));
 }
 
 void CodeCommands::copy()
