@@ -472,5 +472,20 @@
         <extracomment>In front of a field for a number</extracomment>
         <translation>Gehe zu Zeile:</translation>
     </message>
+    <message>
+        <source>Known words</source>
+        <extracomment>The list of known words, for screen readers</extracomment>
+        <translation>Bekannte Wörter</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <extracomment>The kind of a known word, such as AVERAGE</extracomment>
+        <translation>Funktionen</translation>
+    </message>
+    <message>
+        <source>Reserved Words</source>
+        <extracomment>The kind of a known word, such as IF</extracomment>
+        <translation>Reservierte Wörter</translation>
+    </message>
 </context>
 </TS>

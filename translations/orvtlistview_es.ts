@@ -472,5 +472,20 @@
         <extracomment>In front of a field for a number</extracomment>
         <translation>Ir a la línea:</translation>
     </message>
+    <message>
+        <source>Known words</source>
+        <extracomment>The list of known words, for screen readers</extracomment>
+        <translation>Palabras conocidas</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <extracomment>The kind of a known word, such as AVERAGE</extracomment>
+        <translation>Funciones</translation>
+    </message>
+    <message>
+        <source>Reserved Words</source>
+        <extracomment>The kind of a known word, such as IF</extracomment>
+        <translation>Palabras reservadas</translation>
+    </message>
 </context>
 </TS>

@@ -472,5 +472,20 @@
         <extracomment>In front of a field for a number</extracomment>
         <translation>Aller à la ligne&#xa0;:</translation>
     </message>
+    <message>
+        <source>Known words</source>
+        <extracomment>The list of known words, for screen readers</extracomment>
+        <translation>Mots connus</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <extracomment>The kind of a known word, such as AVERAGE</extracomment>
+        <translation>Fonctions</translation>
+    </message>
+    <message>
+        <source>Reserved Words</source>
+        <extracomment>The kind of a known word, such as IF</extracomment>
+        <translation>Mots réservés</translation>
+    </message>
 </context>
 </TS>

@@ -298,6 +298,10 @@
         <source>Drop Blanks at Line &amp;Ends</source>
         <translation>Leerzeichen am Zeilenen&amp;de entfernen</translation>
     </message>
+    <message>
+        <source>&amp;Word List While Typing</source>
+        <translation>Wortliste beim &amp;Schreiben</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

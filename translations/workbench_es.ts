@@ -298,6 +298,10 @@
         <source>Drop Blanks at Line &amp;Ends</source>
         <translation>&amp;Quitar espacios al final de línea</translation>
     </message>
+    <message>
+        <source>&amp;Word List While Typing</source>
+        <translation>Lista de palabras al escribi&amp;r</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

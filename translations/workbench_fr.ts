@@ -298,6 +298,10 @@
         <source>Drop Blanks at Line &amp;Ends</source>
         <translation>S&amp;upprimer les espaces en fin de ligne</translation>
     </message>
+    <message>
+        <source>&amp;Word List While Typing</source>
+        <translation>Liste des &amp;mots à la frappe</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

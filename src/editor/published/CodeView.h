@@ -3,6 +3,7 @@
 #include <ORVTListview/Export.h>
 #include <ORVTListview/Problem.h>
 
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QObject>
 
@@ -38,6 +39,8 @@ class ORVT_EXPORT CodeView : public QObject
     Q_PROPERTY(bool autoIndent READ autoIndent WRITE setAutoIndent NOTIFY autoIndentChanged)
     Q_PROPERTY(bool smartHome READ smartHome WRITE setSmartHome NOTIFY smartHomeChanged)
     Q_PROPERTY(bool trimsBlanks READ trimsBlanks WRITE setTrimsBlanks NOTIFY trimsBlanksChanged)
+    Q_PROPERTY(bool wordListOpensItself READ wordListOpensItself WRITE setWordListOpensItself NOTIFY
+                   wordListOpensItselfChanged)
 
 public:
     ~CodeView() override;
@@ -185,6 +188,16 @@ public:
     bool trimsBlanks() const;
     void setTrimsBlanks(bool on);
 
+    // The list of known words opens by itself behind three letters that begin one. Enter
+    // and Tab take the chosen word, Esc shuts the list for this word, typing goes on. The
+    // list, opened by TryToPopupList, too, then shows the words that hold what is typed,
+    // those that begin so first, with the kind of each.
+    bool wordListOpensItself() const;
+    void setWordListOpensItself(bool on);
+
+    // What that list shows beside words, by their names in any letter case; none at first.
+    void setWordDescriptions(const QHash<QString, QString> &descriptions);
+
 Q_SIGNALS:
     void lineNumbersVisibleChanged(bool visible);
     void currentLineShownChanged(bool shown);
@@ -199,6 +212,7 @@ Q_SIGNALS:
     void autoIndentChanged(bool on);
     void smartHomeChanged(bool on);
     void trimsBlanksChanged(bool on);
+    void wordListOpensItselfChanged(bool on);
 
     // The caret was put to a problem: by a click on its sign, of which the worst of the
     // line counts, by nextProblem or by previousProblem.
