@@ -496,5 +496,20 @@
         <extracomment>A number of matches, of which none is selected; it may be 17+ for at least 17</extracomment>
         <translation>%1 gefunden</translation>
     </message>
+    <message>
+        <source>Known words</source>
+        <extracomment>The list of known words, for screen readers</extracomment>
+        <translation>Bekannte Wörter</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <extracomment>The kind of a known word, such as AVERAGE</extracomment>
+        <translation>Funktionen</translation>
+    </message>
+    <message>
+        <source>Reserved Words</source>
+        <extracomment>The kind of a known word, such as IF</extracomment>
+        <translation>Reservierte Wörter</translation>
+    </message>
 </context>
 </TS>

@@ -496,5 +496,20 @@
         <extracomment>A number of matches, of which none is selected; it may be 17+ for at least 17</extracomment>
         <translation>Encontrados: %1</translation>
     </message>
+    <message>
+        <source>Known words</source>
+        <extracomment>The list of known words, for screen readers</extracomment>
+        <translation>Palabras conocidas</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <extracomment>The kind of a known word, such as AVERAGE</extracomment>
+        <translation>Funciones</translation>
+    </message>
+    <message>
+        <source>Reserved Words</source>
+        <extracomment>The kind of a known word, such as IF</extracomment>
+        <translation>Palabras reservadas</translation>
+    </message>
 </context>
 </TS>

@@ -310,6 +310,10 @@
         <source>Readable C&amp;olours</source>
         <translation>Les&amp;bare Farben</translation>
     </message>
+    <message>
+        <source>&amp;Word List While Typing</source>
+        <translation>Wortliste beim &amp;Schreiben</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -310,6 +310,10 @@
         <source>Readable C&amp;olours</source>
         <translation>Colores leg&amp;ibles</translation>
     </message>
+    <message>
+        <source>&amp;Word List While Typing</source>
+        <translation>Lista de palabras al escribi&amp;r</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

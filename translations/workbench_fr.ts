@@ -310,6 +310,10 @@
         <source>Readable C&amp;olours</source>
         <translation>Couleurs l&amp;isibles</translation>
     </message>
+    <message>
+        <source>&amp;Word List While Typing</source>
+        <translation>Liste des &amp;mots à la frappe</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::LanguageMenu</name>

@@ -22,6 +22,8 @@ EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
     addSwitch(tr("In&dent While Typing"), view.autoIndent(), &CodeView::setAutoIndent);
     addSwitch(tr("Smart &Home"), view.smartHome(), &CodeView::setSmartHome);
     addSwitch(tr("Drop Blanks at Line &Ends"), view.trimsBlanks(), &CodeView::setTrimsBlanks);
+    addSwitch(tr("&Word List While Typing"), view.wordListOpensItself(),
+              &CodeView::setWordListOpensItself);
     addSeparator();
     add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0, [this] { m_view.setZoom(100); });
     add(tr("Fold &All"), {}, [this] { m_view.foldAll(); });
@@ -46,6 +48,7 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setSmartHome(true);
     view.setTrimsBlanks(true);
     view.setAdaptsColours(true);
+    view.setWordListOpensItself(true);
     view.setZoom(100); // the wheel with Ctrl
 }
 

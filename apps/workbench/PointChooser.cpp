@@ -59,6 +59,7 @@ PointChooser::PointChooser(QWidget *parent)
     m_kinds->actions().constFirst()->setChecked(true);
     m_points->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
     m_points->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_points->setDragsEntry(true); // into the program
     addWidget(m_points);
     connect(m_kinds, &QActionGroup::triggered, this, &PointChooser::refill);
     connect(m_points, &ORVDataCombo::picked, this,

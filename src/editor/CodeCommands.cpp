@@ -8,11 +8,14 @@
 #include "editor/ProgramText.h"
 #include "editor/StatusTimer.h"
 #include "editor/TypedColouring.h"
+#include "editor/WordChoice.h"
 #include "shared/texts/MenuTexts.h"
+#include "widgets/input/DraggedNames.h"
 #include "widgets/input/TabStops.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QMimeData>
+#include <QtCore/QPointer>
 #include <QtGui/QAction>
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QMenu>
@@ -56,12 +59,17 @@ std::optional<bool> CodeCommands::takesKey(const VirtualKey &key) const
 void CodeCommands::type(const QString &text)
 {
     m_acts.status.rearm(); // an input method's text comes without a key
+    const QPointer<PopupWordList> words(&m_acts.words.popup()); // the host may destroy it
     m_acts.editing.typeText(text);
+    if (words)
+        words->noteTyped();
 }
 
 Pasted CodeCommands::paste(const QMimeData &data)
 {
-    return data.hasText() ? m_acts.clipboard.pasteFromOutside(data.text()) : Pasted::Refused;
+    if (!data.hasText())
+        return Pasted::Refused;
+    return m_acts.clipboard.pasteFromOutside(DraggedNames::in(data).value_or(data.text()));
 }
 
 void CodeCommands::copy()

@@ -12,6 +12,7 @@ class ProgramText;
 class StatusTimer;
 class TabStops;
 class TypedColouring;
+class WordChoice;
 
 // Every way into and out of the editor's box: typed text, context menu, drag and
 // drop, middle click and input method follow the same rules as the keys.
@@ -29,6 +30,7 @@ public:
         TypedColouring &colouring;
         TabStops &tabStops;
         StatusTimer &status;
+        WordChoice &words;
     };
 
     CodeCommands(RichTextBox &owner, const Acts &acts);

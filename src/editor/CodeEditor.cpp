@@ -30,7 +30,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     , m_places(*m_box, m_thread)
     , m_keys({m_text, m_editing, m_clipboard, m_words, m_undo, m_colouring, *m_status})
     , m_commands({*m_box, m_thread, m_undo, m_colouring, m_lineMoves}, m_editing.lines(),
-                 m_editing.help())
+                 m_editing.help(), m_words.popup())
     , m_view(*m_box, m_commands)
     , m_wordListTips(list, m_view.d->hover)
 {
@@ -38,7 +38,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     m_box->setObjectName(u"RichTextBox1"_s);
     m_box->setCommands(std::make_unique<CodeCommands>(
         *m_box, CodeCommands::Acts{m_text, m_editing, m_clipboard, m_keys, m_undo, m_colouring,
-                                   m_tabStops, *m_status}));
+                                   m_tabStops, *m_status, m_words}));
     connectBox();
     connectEvents();
 }

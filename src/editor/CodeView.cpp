@@ -337,4 +337,22 @@ void CodeView::setTrimsBlanks(bool on)
     setHelp(d->commands.typing.helps.trimsBlanks, on, &CodeView::trimsBlanksChanged);
 }
 
+bool CodeView::wordListOpensItself() const
+{
+    return d->commands.words.opensItself();
+}
+
+void CodeView::setWordListOpensItself(bool on)
+{
+    if (on == wordListOpensItself())
+        return;
+    d->commands.words.setOpensItself(on);
+    raiseEvent(*this, &CodeView::wordListOpensItselfChanged, on);
+}
+
+void CodeView::setWordDescriptions(const QHash<QString, QString> &descriptions)
+{
+    d->commands.words.setDescriptions(descriptions);
+}
+
 } // namespace ORVTListview

@@ -55,7 +55,8 @@ GoToLineBar::GoToLineBar(RichTextBox &box, const CaretCommands &commands)
 void GoToLineBar::showTexts()
 {
     m_label->setText(Localise(u"Go to line:"_s));
-    m_line->setAccessibleName(Localise(u"Go to line:"_s));
+    setAccessibleName(m_label->text());
+    m_line->setAccessibleName(m_label->text());
 }
 
 void GoToLineBar::ask()

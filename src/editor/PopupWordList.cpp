@@ -1,28 +1,29 @@
 #include "editor/PopupWordList.h"
 
 #include "base/KeyCodes.h"
+#include "base/TextRules.h"
 #include "editor/EditorThread.h"
 #include "editor/OpenWordList.h"
 #include "editor/WordInBox.h"
 #include "editor/rules/PopupPlace.h"
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/ThreadColouring.h"
+#include "editor/rules/language/CodeText.h"
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
-#include "widgets/look/TextWidths.h"
+#include "widgets/box/UserEditing.h"
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/ListItem.h>
-#include <ORVTListview/ListItems.h>
 #include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QEvent>
 #include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QInputMethodEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QTextBlock>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 
 #include <algorithm>
@@ -31,10 +32,7 @@ namespace ORVTListview {
 namespace {
 
 constexpr int mostRowsShown = 12;
-
-// Of average width. Texts that are longer end in an ellipsis.
-constexpr int fewestLetters = 12;
-constexpr int mostLetters = 48;
+constexpr int fewestTyped = 3; // letters that open it by themselves
 
 constexpr ListManner popupManner{.editsLabels = false,
                                  .isHeaderVisible = false,
@@ -63,6 +61,8 @@ PopupWordList::PopupWordList(ReportList &list, RichTextBox &box, const EditorThr
     : m_list(list)
     , m_box(box)
     , m_thread(thread)
+    , m_all(list, m_words)
+    , m_matching(list, m_words)
 {
     connect(&m_list, &ReportList::DblClick, this, [this] {
         if (isShown())
@@ -72,11 +72,15 @@ PopupWordList::PopupWordList(ReportList &list, RichTextBox &box, const EditorThr
     connect(&m_placing, &QTimer::timeout, this, &PopupWordList::followOnScreen);
     for (const QScrollBar *bar : {m_box.verticalScrollBar(), m_box.horizontalScrollBar()})
         connect(bar, &QScrollBar::valueChanged, this, &PopupWordList::placeSoon);
-    const auto forget = [this] { m_measured = 0; };
-    const QAbstractItemModel *rows = m_list.model();
-    connect(rows, &QAbstractItemModel::modelReset, this, forget);
-    connect(rows, &QAbstractItemModel::rowsInserted, this, forget);
-    connect(rows, &QAbstractItemModel::dataChanged, this, forget);
+    connect(&m_matching, &MatchingWords::doubleClicked, this, [this] {
+        if (isShown())
+            pickChosen();
+    });
+}
+
+PopupWordList::~PopupWordList()
+{
+    close(); // while the views that it looks at are there
 }
 
 void PopupWordList::rememberTableManner()
@@ -136,6 +140,26 @@ bool PopupWordList::isShown() const
     return m_thread.openList.list.data() == this;
 }
 
+WordListFace &PopupWordList::face()
+{
+    if (m_opensItself)
+        return m_matching;
+    return m_all;
+}
+
+const WordListFace &PopupWordList::face() const
+{
+    return const_cast<PopupWordList *>(this)->face();
+}
+
+void PopupWordList::setOpensItself(bool on)
+{
+    if (on == m_opensItself)
+        return;
+    close();
+    m_opensItself = on;
+}
+
 bool PopupWordList::canStand() const
 {
     return m_hasList && m_box.isVisible() && m_box.isEnabled() && !m_box.isReadOnly();
@@ -156,14 +180,48 @@ void PopupWordList::open()
     m_box.ensureCursorVisible();
     const WordAtCaret word = GetWordAtCaret(m_box);
     m_wordStart = word.WordStart;
+    m_isAsked = true;
+    stand(word.Word);
+}
+
+void PopupWordList::stand(const QString &word)
+{
+    m_matching.setAsked(m_isAsked);
+    if (!face().show(word) && !m_isAsked)
+        return;
+    QAbstractItemView &view = face().view(); // made before its events are looked at
     m_thread.openList.list = this;
     QApplication::instance()->installEventFilter(this);
     place();
-    m_list.show();
-    m_list.raise();
-    chooseForWord(word.Word);
-    if (chosen() < 0)
-        showFirst(0);
+    view.show();
+    view.raise();
+    face().choose();
+    if (face().chosen() < 0)
+        view.scrollToTop();
+}
+
+// The caret stands behind what was typed, and nobody wants anything else of the list.
+bool PopupWordList::canOpenItself() const
+{
+    return m_opensItself && !m_thread.openList.list && canStand() && m_box.hasFocus() &&
+           !m_box.isComposing() && m_box.SelLength() == 0 && mayUserEdit(m_box);
+}
+
+void PopupWordList::noteTyped()
+{
+    if (!canOpenItself())
+        return;
+    const WordAtCaret word = GetWordAtCaret(m_box);
+    const bool isAtEnd = word.Word == word.PartBeforeCaret;
+    if (!isAtEnd || word.Word.size() < fewestTyped || word.WordStart == m_shutStart ||
+        IsCommentLine(m_box.lineText(m_box.GetLineFromChar(m_box.SelStart()))))
+        return;
+    catchUp();
+    if (!m_words.goesOnBehind(word.Word))
+        return;
+    m_wordStart = word.WordStart;
+    m_isAsked = false;
+    stand(word.Word);
 }
 
 void PopupWordList::close()
@@ -173,50 +231,45 @@ void PopupWordList::close()
     m_thread.openList.list.clear();
     m_placing.stop();
     QApplication::instance()->removeEventFilter(this);
-    m_list.hide();
+    face().view().hide();
 }
 
-void PopupWordList::chooseForWord(const QString &word)
+void PopupWordList::shut()
 {
-    const qsizetype exact = word.isEmpty() ? -1 : m_words.find(word);
-    choose(exact >= 0 || word.isEmpty() ? exact : m_words.findBeginning(word));
-    if (const qsizetype place = chosen(); place >= 0)
-        showFirst(static_cast<int>(place)); // what else begins so comes behind it
+    m_shutStart = m_wordStart;
+    close();
 }
 
-void PopupWordList::showFirst(int row)
+// A word that was shut and has gone, or been left, is another one when it comes again.
+void PopupWordList::forgetShut()
 {
-    m_list.scrollTo(m_list.model()->index(row, 0), ReportList::PositionAtTop);
-}
-
-// The host may have taken rows out of the list or put its own there.
-void PopupWordList::choose(qsizetype place)
-{
-    const bool isThere = place < m_list.ListItems()->Count();
-    m_list.goToRow(isThere ? static_cast<qint32>(place + 1) : 0); // 0 chooses none
-}
-
-qsizetype PopupWordList::chosen() const
-{
-    const ListItem *item = m_list.SelectedItem();
-    return item ? item->Index() - 1 : -1;
+    if (m_shutStart == 0)
+        return;
+    const WordAtCaret word = GetWordAtCaret(m_box);
+    if (word.WordStart != m_shutStart || word.Word.isEmpty())
+        m_shutStart = 0;
 }
 
 bool PopupWordList::key(qint16 keyCode)
 {
     switch (keyCode) {
     case EscapeKey:
-        close();
+        shut();
         return true;
     case EnterKey:
     case TabKey:
         return pickChosen();
+    case HomeKey:
+    case EndKey:
+        if (!m_isAsked) { // one who types goes on in the line
+            close();
+            return false;
+        }
+        [[fallthrough]];
     case UpKey:
     case DownKey:
     case PageUpKey:
     case PageDownKey:
-    case HomeKey:
-    case EndKey:
         move(keyCode);
         return true;
     default:
@@ -226,9 +279,10 @@ bool PopupWordList::key(qint16 keyCode)
 
 bool PopupWordList::pickChosen()
 {
-    const ListItem *item = m_list.SelectedItem();
+    const ListItem *item = face().chosen() < 0 ? nullptr : m_list.SelectedItem();
+    const bool isTyped = !m_isAsked && item && isSameWord(item->Text(), GetWordAtCaret(m_box).Word);
     close();
-    if (!item)
+    if (!item || isTyped) // the key has its own use
         return false;
     Q_EMIT picked(item->Text(), item->Tag().toInt());
     return true;
@@ -236,71 +290,61 @@ bool PopupWordList::pickChosen()
 
 void PopupWordList::move(qint16 keyCode)
 {
-    const qsizetype last = m_list.ListItems()->Count() - 1;
-    const qsizetype page = std::max(1, rowsShown() - 1);
-    qsizetype place = chosen();
+    const int last = face().rows() - 1;
+    const int page = std::max(1, rowsShown() - 1);
+    int row = face().chosen();
     switch (keyCode) {
     case UpKey:
-        place -= 1;
+        row -= 1;
         break;
     case DownKey:
-        place += 1;
+        row += 1;
         break;
     case PageUpKey:
-        place -= page;
+        row -= page;
         break;
     case PageDownKey:
-        place += page;
+        row += page;
         break;
     case HomeKey:
-        place = 0;
+        row = 0;
         break;
     default:
-        place = last;
+        row = last;
     }
     if (last >= 0)
-        choose(std::clamp<qsizetype>(place, 0, last));
+        face().choose(std::clamp(row, 0, last));
 }
 
 void PopupWordList::follow()
 {
-    if (!isShown())
+    if (!isShown()) {
+        forgetShut();
         return;
+    }
     const WordAtCaret word = GetWordAtCaret(m_box);
     if (word.WordStart != m_wordStart || m_box.SelLength() > 0)
         close();
     else
-        chooseForWord(word.PartBeforeCaret);
+        showFor(word.PartBeforeCaret);
+}
+
+void PopupWordList::showFor(const QString &word)
+{
+    const int rows = rowsShown();
+    const bool isMore = face().show(word);
+    if (!m_isAsked && (!isMore || word.size() < fewestTyped)) {
+        close();
+        return;
+    }
+    if (rowsShown() != rows)
+        place();
+    face().choose();
 }
 
 int PopupWordList::rowsShown() const
 {
-    return std::clamp(m_list.ListItems()->Count(), 1, mostRowsShown);
-}
-
-int PopupWordList::widestRow() const
-{
-    TextWidths widths(m_list.font());
-    int widest = 0;
-    int row = 0;
-    const QAbstractItemModel &rows = *m_list.model();
-    for (int i = 0; i < rows.rowCount(); ++i) {
-        const int before = widest;
-        widths.widen(widest, rows.index(i, 0).data().toString());
-        if (widest > before)
-            row = i;
-    }
-    return row;
-}
-
-int PopupWordList::wantedWidth()
-{
-    if (m_measured == 0 || m_measuredIn != m_list.font()) {
-        m_measuredIn = m_list.font();
-        m_measured = m_list.sizeHintForIndex(m_list.model()->index(widestRow(), 0)).width();
-    }
-    const int letter = m_list.fontMetrics().averageCharWidth();
-    return std::clamp(m_measured, fewestLetters * letter, mostLetters * letter);
+    return std::clamp(face().rows(), 1, mostRowsShown);
 }
 
 // From the word's beginning, or from the edge of the box that it lies beyond, to the
@@ -322,15 +366,15 @@ void PopupWordList::place()
     const QScreen *screen = QGuiApplication::screenAt(word.center());
     if (!screen)
         screen = m_box.screen();
-    const int frame = 2 * m_list.frameWidth();
-    const int height =
-        rowsShown() * std::max(1, m_list.verticalHeader()->defaultSectionSize()) + frame;
-    const int bar = m_list.verticalScrollBar()->sizeHint().width();
+    QAbstractItemView &view = face().view();
+    const int frame = 2 * view.frameWidth();
+    const int height = rowsShown() * std::max(1, face().rowHeight()) + frame;
+    const int bar = view.verticalScrollBar()->sizeHint().width();
     const QRect place =
-        popupPlace(word, {wantedWidth() + bar + frame, height}, screen->availableGeometry());
-    const bool hasBar = m_list.ListItems()->Count() > rowsShown() || place.height() < height;
-    m_list.setGeometry(place);
-    m_list.setColumnWidth(0, place.width() - frame - (hasBar ? bar : 0));
+        popupPlace(word, {face().wantedWidth() + bar + frame, height}, screen->availableGeometry());
+    const bool hasBar = face().rows() > rowsShown() || place.height() < height;
+    view.setGeometry(place);
+    face().fit(place.width() - frame - (hasBar ? bar : 0));
 }
 
 void PopupWordList::placeSoon()
@@ -352,21 +396,36 @@ void PopupWordList::followOnScreen()
         close();
 }
 
-bool PopupWordList::eventFilter(QObject *watched, QEvent *event)
+// What happens to the box itself.
+void PopupWordList::watchBox(const QEvent &event)
 {
-    const auto *widget = qobject_cast<QWidget *>(watched);
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        if (widget && widget != &m_list && !m_list.isAncestorOf(widget))
-            close();
-        break;
+    switch (event.type()) {
     case QEvent::Hide:
-        if (watched == &m_box)
-            close();
+        close();
         break;
     case QEvent::EnabledChange:
     case QEvent::ReadOnlyChange:
-        if (watched == &m_box && !canStand())
+        if (!canStand())
+            close();
+        break;
+    case QEvent::InputMethod: // whose own list stands there
+        if (!m_isAsked && !static_cast<const QInputMethodEvent &>(event).preeditString().isEmpty())
+            close();
+        break;
+    default:
+        break;
+    }
+}
+
+bool PopupWordList::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    const QAbstractItemView &view = face().view();
+    if (watched == &m_box)
+        watchBox(*event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (widget && widget != &view && !view.isAncestorOf(widget))
             close();
         break;
     case QEvent::WindowDeactivate:

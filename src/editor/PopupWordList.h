@@ -1,11 +1,12 @@
 #pragma once
 
+#include "editor/AllWords.h"
+#include "editor/MatchingWords.h"
 #include "editor/rules/language/PopupWords.h"
 #include "widgets/list/ListManner.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
-#include <QtGui/QFont>
 
 class QRect;
 
@@ -25,6 +26,7 @@ class PopupWordList : public QObject
 
 public:
     PopupWordList(ReportList &list, RichTextBox &box, const EditorThread &thread);
+    ~PopupWordList() override;
 
     // Gives the list the manner of a pop-up, or takes it away again. Without it the
     // list is the host's table, as the host has set it, and the words are discarded.
@@ -50,6 +52,23 @@ public:
     void open();
     void close();
 
+    // Closes it for as long as the caret is in its word.
+    void shut();
+
+    // Whether it opens by itself. It then shows what holds the word, and not all words
+    // with the one that begins so chosen.
+    bool opensItself() const { return m_opensItself; }
+    void setOpensItself(bool on);
+
+    // What it then shows beside the words, by their names in any letter case.
+    void setDescriptions(const QHash<QString, QString> &texts)
+    {
+        m_matching.setDescriptions(texts);
+    }
+
+    // Text was typed, which may have made the begin of a known word.
+    void noteTyped();
+
     // Whether the list acts on a key that comes while it is open.
     bool key(qint16 keyCode);
 
@@ -63,18 +82,19 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    WordListFace &face();
+    const WordListFace &face() const;
     bool canStand() const;
+    bool canOpenItself() const;
+    void stand(const QString &word);
+    void showFor(const QString &word);
+    void watchBox(const QEvent &event);
+    void forgetShut();
     bool isWordInSight() const;
     void rememberTableManner();
-    void choose(qsizetype place);
-    void chooseForWord(const QString &word);
-    void showFirst(int row);
     bool pickChosen();
     void move(qint16 keyCode);
-    qsizetype chosen() const;
     int rowsShown() const;
-    int wantedWidth();
-    int widestRow() const;
     QRect wordOnScreen() const;
     void place();
     void placeSoon();
@@ -84,13 +104,16 @@ private:
     RichTextBox &m_box;
     const EditorThread &m_thread;
     PopupWords m_words;
+    AllWords m_all;
+    MatchingWords m_matching;
     ListManner m_tableManner;
     bool m_hasList = false;
+    bool m_opensItself = false;
+    bool m_isAsked = true;  // what is open was opened by the user or the host
     quint64 m_taken = 0;    // the index's changes that are in the list
     qint32 m_wordStart = 0; // of the word that the list is open for
+    qint32 m_shutStart = 0; // of the word that it stays shut for; 0 for none
     QTimer m_placing;       // once for all that moves
-    QFont m_measuredIn;
-    int m_measured = 0; // the width of all texts in that font; 0 when it is not known
 };
 
 } // namespace ORVTListview

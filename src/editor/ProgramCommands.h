@@ -2,6 +2,7 @@
 
 #include "editor/CaretCommands.h"
 #include "editor/LineBlocks.h"
+#include "editor/PopupWordList.h"
 #include "editor/ProgramFinding.h"
 #include "editor/TextCommands.h"
 #include "editor/TypingHelp.h"
@@ -11,13 +12,15 @@ namespace ORVTListview {
 // What a host binds to its menu beyond the keys, a class for each subject.
 struct ProgramCommands
 {
-    ProgramCommands(const CommandTools &tools, const LineCommands &lineCommands, TypingHelp &help)
+    ProgramCommands(const CommandTools &tools, const LineCommands &lineCommands, TypingHelp &help,
+                    PopupWordList &wordList)
         : moves(tools.moves)
         , caret(tools)
         , finding(tools)
         , lines(tools)
         , texts(tools, lineCommands)
         , typing(help)
+        , words(wordList)
     {
     }
 
@@ -27,6 +30,7 @@ struct ProgramCommands
     const LineBlocks lines;
     const TextCommands texts;
     TypingHelp &typing;
+    PopupWordList &words;
 };
 
 } // namespace ORVTListview

@@ -42,7 +42,7 @@ void WordChoice::UpdateWordListItem(const QString &OldName, const QString &NewNa
 void WordChoice::TryToPopupList(bool IsShowAbsolutely)
 {
     if (PopupWordList *open = m_thread.openList.list) {
-        open->close();
+        open->shut();
         return;
     }
     if (IsCommentLine(m_box.lineText(m_box.GetLineFromChar(m_box.SelStart())))) {

@@ -37,8 +37,11 @@ struct ORVTreeview::Private
         tree->setObjectName(u"TreeView1"_s);
         tree->setPictureProvider([this](const QString &key) { return images.Picture(key); });
         tree->setDragEnabled(true);
-        tree->setDraggable(
-            [](const Node &node) { return ProjectNodes::categoryOf(node).has_value(); });
+        tree->setDraggable([](const Node &node) {
+            return ProjectNodes::categoryOf(node).has_value() || ProjectNodes::isPoint(node);
+        });
+        tree->setDraggedName(
+            [](const Node &node) { return ProjectNodes::isPoint(node) ? node.Text() : QString(); });
         tree->setDragEffects(DragEvents::Copy | DragEvents::Move);
         tree->setAcceptDrops(true);
         tree->setDropTarget(&moves);

@@ -138,6 +138,14 @@ bool ProjectNodes::isPage(const Node &node)
     return tagOf(node).value_or(PageArrangement::deviceTag) >= PageArrangement::pageTag;
 }
 
+bool ProjectNodes::isPoint(const Node &node)
+{
+    const Node *above = node.Parent();
+    while (above && !categoryOf(*above))
+        above = above->Parent();
+    return above;
+}
+
 Node *ProjectNodes::pageOf(Node &node)
 {
     Node *page = categoryOf(node) ? node.Parent() : &node;

@@ -36,6 +36,9 @@ public:
     static std::optional<LwType> categoryOf(const Node &node);
     static bool isPage(const Node &node);
 
+    // A node that a host has put below a category stands for one of its points.
+    static bool isPoint(const Node &node);
+
     // The page that a node is or stands on; null for others.
     static Node *pageOf(Node &node);
 

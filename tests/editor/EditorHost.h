@@ -44,6 +44,7 @@ struct EditorHost
             list->codeView()->setAutoIndent(true);
             list->codeView()->setSmartHome(true);
             list->codeView()->setTrimsBlanks(true);
+            list->codeView()->setWordListOpensItself(true);
         }
         form.show();
         form.activateWindow();

@@ -45,6 +45,8 @@ class ORVT_EXPORT CodeView : public QObject
     Q_PROPERTY(bool autoIndent READ autoIndent WRITE setAutoIndent NOTIFY autoIndentChanged)
     Q_PROPERTY(bool smartHome READ smartHome WRITE setSmartHome NOTIFY smartHomeChanged)
     Q_PROPERTY(bool trimsBlanks READ trimsBlanks WRITE setTrimsBlanks NOTIFY trimsBlanksChanged)
+    Q_PROPERTY(bool wordListOpensItself READ wordListOpensItself WRITE setWordListOpensItself NOTIFY
+                   wordListOpensItselfChanged)
 
 public:
     ~CodeView() override;
@@ -216,6 +218,16 @@ public:
     bool trimsBlanks() const;
     void setTrimsBlanks(bool on);
 
+    // The list of known words opens by itself behind three letters that begin one. Enter
+    // and Tab take the chosen word, Esc shuts the list for this word, typing goes on. The
+    // list, opened by TryToPopupList, too, then shows the words that hold what is typed,
+    // those that begin so first, with the kind of each.
+    bool wordListOpensItself() const;
+    void setWordListOpensItself(bool on);
+
+    // What that list shows beside words, by their names in any letter case; none at first.
+    void setWordDescriptions(const QHash<QString, QString> &descriptions);
+
 Q_SIGNALS:
     void lineNumbersVisibleChanged(bool visible);
     void currentLineShownChanged(bool shown);
@@ -232,6 +244,7 @@ Q_SIGNALS:
     void autoIndentChanged(bool on);
     void smartHomeChanged(bool on);
     void trimsBlanksChanged(bool on);
+    void wordListOpensItselfChanged(bool on);
 
     // The mouse has rested on a word, or the choice on an entry of the word list: what there
     // is to be told of it goes into the answer, which lives until the signal has been

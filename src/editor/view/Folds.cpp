@@ -134,21 +134,17 @@ void Folds::foldAll()
 {
     if (!isOn())
         return;
-    for (QTextBlock line = m_box.document()->firstBlock(); line.isValid(); line = line.next()) {
-        if (!line.isVisible() || !BlockFold::begins(line.text()))
+    const QTextDocument &text = *m_box.document();
+    ProgramBlocks blocks;
+    for (QTextBlock line = text.firstBlock(); line.isValid(); line = line.next())
+        blocks.read(line.text());
+    for (const ProgramBlocks::Lines &block : blocks.outermost()) {
+        const Lines hidden{text.findBlockByNumber(block.first + 1),
+                           text.findBlockByNumber(block.last - 1)};
+        if (block.last - block.first < 2 || !hidden.first.isVisible())
             continue;
-        BlockFold fold;
-        QTextBlock end = line;
-        while (end.isValid() && !fold.read(end.text()))
-            end = end.next();
-        if (!end.isValid())
-            return; // nothing behind it has an end of its own level
-        if (end.previous() != line) {
-            const Lines lines{line.next(), end.previous()};
-            stepOutOf(lines);
-            show(lines, false);
-        }
-        line = end.previous();
+        stepOutOf(hidden);
+        show(hidden, false);
     }
 }
 

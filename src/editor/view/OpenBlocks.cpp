@@ -1,7 +1,5 @@
 #include "editor/view/OpenBlocks.h"
 
-#include "editor/rules/structure/BlockWords.h"
-
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
 
@@ -31,7 +29,7 @@ void OpenBlocks::start()
     connect(&m_text, &QTextDocument::contentsChange, this, &OpenBlocks::noteChange);
     m_lineCount = m_text.blockCount();
     m_next = 0;
-    m_begun.clear();
+    m_blocks = {};
     m_timer.start(0);
 }
 
@@ -61,26 +59,20 @@ void OpenBlocks::noteChange(int from)
             *moved += more;
     }
     m_next = 0;
-    m_begun.clear();
+    m_blocks = {};
     m_timer.start(300ms);
 }
 
 void OpenBlocks::lookOn()
 {
     QTextBlock line = m_text.findBlockByNumber(m_next);
-    for (int i = 0; i < portion && line.isValid(); ++i, ++m_next, line = line.next()) {
-        for (const BlockWord &word : blockWordsOf(line.text())) {
-            if (word.kind == BlockWord::If)
-                m_begun.append(m_next);
-            else if (word.kind == BlockWord::EndIf && !m_begun.isEmpty())
-                m_begun.removeLast();
-        }
-    }
+    for (int i = 0; i < portion && line.isValid(); ++i, ++m_next, line = line.next())
+        m_blocks.read(line.text());
     if (line.isValid()) {
         m_timer.start(0);
         return;
     }
-    const QList<int> former = std::exchange(m_lines, m_begun);
+    const QList<int> former = std::exchange(m_lines, m_blocks.open());
     if (former != m_lines)
         Q_EMIT changed();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editor/rules/structure/Folding.h"
+
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
@@ -33,9 +35,9 @@ private:
 
     QTextDocument &m_text;
     QTimer m_timer;
-    QList<int> m_lines; // counted from 0, from the top
-    QList<int> m_begun; // the line of each IF without an ENDIF so far
-    int m_next = 0;     // to be looked at
+    QList<int> m_lines;     // counted from 0, from the top
+    ProgramBlocks m_blocks; // so far
+    int m_next = 0;         // to be looked at
     int m_lineCount = 0;
 };
 

@@ -160,6 +160,12 @@ constexpr LibraryText texts[] = {
     {QT_TRANSLATE_NOOP("ORVTListview", "Line %1"), ToolTip},
     //: A number: so many lines of the program are folded away, for screen readers
     {QT_TRANSLATE_NOOP("ORVTListview", "%1 lines hidden"), ToolTip},
+    //: The list of known words, for screen readers
+    {QT_TRANSLATE_NOOP("ORVTListview", "Known words"), ToolTip},
+    //: The kind of a known word, such as AVERAGE
+    {QT_TRANSLATE_NOOP("ORVTListview", "Functions"), Caption},
+    //: The kind of a known word, such as IF
+    {QT_TRANSLATE_NOOP("ORVTListview", "Reserved Words"), Caption},
     //: The list of known words
     {QT_TRANSLATE_NOOP("ORVTListview", "List not found!"), Message},
     {QT_TRANSLATE_NOOP("ORVTListview", "Invalid letter: '\\' that is reserved to RTF!"), Message},

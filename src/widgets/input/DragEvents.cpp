@@ -2,6 +2,7 @@
 
 #include "base/EventGuard.h"
 #include "widgets/input/DragData.h"
+#include "widgets/input/DraggedNames.h"
 #include "widgets/input/MouseArguments.h"
 #include <ORVTListview/DataObject.h>
 
@@ -106,7 +107,10 @@ void DragEvents::start()
         m_content(*data);
     DataObject object(data.get(), DataObject::Side::Source);
     qint32 allowed = m_allowed;
+    const QString text = data->text();
     const bool isThere = raiseEvent(*this, &DragEvents::OLEStartDrag, &object, allowed);
+    if (data->text() != text) // the host's goes for the names, too
+        data->removeFormat(DraggedNames::format());
     if (isThere && m_widget.isEnabled() && toActions(allowed) && !data->formats().isEmpty())
         run(std::move(data), allowed);
 }

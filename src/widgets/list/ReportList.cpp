@@ -94,8 +94,11 @@ void ReportList::setUpConnections()
         &d->delegate, &ReportDelegate::labelEntered, this,
         [this](const QModelIndex &label, const QString &text) { noteLabel(*itemOf(label), text); });
     connect(&d->clicks.slow(), &SlowClick::clicked, this, &ReportList::StartLabelEdit);
-    d->surface.drag().setContent(
-        [this](QMimeData &rows) { copyRows(*this, d->rowChoice.selectedPositions(), rows); });
+    d->surface.drag().setContent([this](QMimeData &rows) {
+        const QList<int> positions = d->rowChoice.selectedPositions();
+        copyRows(*this, positions, rows);
+        addNames(*this, d->model, positions, rows);
+    });
     relayDrags(&d->surface.drag(), this);
 }
 

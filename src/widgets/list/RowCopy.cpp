@@ -1,5 +1,7 @@
 #include "widgets/list/RowCopy.h"
 
+#include "widgets/input/DraggedNames.h"
+#include "widgets/list/ReportModel.h"
 #include "widgets/look/CellText.h"
 
 #include <QtCore/QAbstractItemModel>
@@ -7,6 +9,8 @@
 #include <QtCore/QMimeData>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTableView>
+
+#include <optional>
 
 namespace ORVTListview {
 
@@ -25,7 +29,34 @@ QList<int> shownColumns(const QTableView &view)
     return columns;
 }
 
+// None for rows that have numbers and no names.
+std::optional<int> nameColumn(const ReportModel &model)
+{
+    if (model.columns() == 0 || model.labelColumn() > 0)
+        return model.columns() == 0 ? std::nullopt : std::optional(model.labelColumn());
+    for (int column = 0; column < model.columns(); ++column) {
+        const QString &key = ReportModel::keyOf(model.column(column));
+        if (key == u"Label" || key == u"Name")
+            return column;
+    }
+    return ReportModel::keyOf(model.column(0)) == u"#" ? std::nullopt : std::optional(0);
+}
+
 } // namespace
+
+void addNames(const QTableView &view, const ReportModel &model, const QList<int> &positions,
+              QMimeData &data)
+{
+    const std::optional<int> column = nameColumn(model);
+    if (!column)
+        return;
+    QStringList names;
+    for (const int position : positions) {
+        if (!view.isRowHidden(position))
+            names.append(model.index(position, *column).data().toString());
+    }
+    DraggedNames::add(data, names);
+}
 
 void copyRows(const QTableView &view, const QList<int> &positions, QMimeData &data)
 {

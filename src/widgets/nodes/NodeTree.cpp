@@ -76,8 +76,13 @@ void NodeTree::setUpConnections()
 void NodeTree::setUpDrag()
 {
     d->surface.drag().setContent([this](QMimeData &content) {
-        if (const Node *node = draggedNode())
-            content.setData(nodeMimeType(), node->Key().toUtf8());
+        const Node *node = draggedNode();
+        if (!node)
+            return;
+        content.setData(nodeMimeType(), node->Key().toUtf8());
+        const QString name = d->draggedName ? d->draggedName(*node) : QString();
+        if (!name.isEmpty())
+            content.setText(name);
     });
 }
 
@@ -152,6 +157,11 @@ Node *NodeTree::draggedNode() const
 void NodeTree::setDraggable(std::function<bool(const Node &)> test)
 {
     d->draggable = std::move(test);
+}
+
+void NodeTree::setDraggedName(std::function<QString(const Node &)> name)
+{
+    d->draggedName = std::move(name);
 }
 
 void NodeTree::setDragEffects(qint32 effects)

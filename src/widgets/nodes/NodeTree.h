@@ -84,6 +84,9 @@ public:
     // Which nodes users can drag; all by default, if dragEnabled.
     void setDraggable(std::function<bool(const Node &node)> test);
 
+    // What a drag of a node carries as text; an empty text, as at first, is none.
+    void setDraggedName(std::function<QString(const Node &node)> name);
+
     // The effects that a drag allows at first; copy by default.
     void setDragEffects(qint32 effects);
 

@@ -32,6 +32,7 @@ struct NodeTreeBody : NodeTreeParts
     LabelEdit labels;
     std::function<bool(const QKeyEvent &)> keyCommand;
     std::function<bool(const Node &)> draggable;
+    std::function<QString(const Node &)> draggedName;
 
     bool editsLabels = true;
     QPersistentModelIndex dropHighlight;

@@ -2,12 +2,16 @@
 
 #include "base/TextRules.h"
 #include "editor/rules/language/Vocabulary.h"
+#include "shared/points/DisplayNames.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
 
 namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The index knows all reserved words by one colour; the lists tell them apart.
@@ -30,6 +34,30 @@ WordClass classOf(const WordIndex::Entry &entry, const Vocabulary &vocabulary)
     return points == WordClass::Other ? reservedClass(entry.text, vocabulary) : points;
 }
 
+QString nameOf(WordClass wordClass)
+{
+    switch (wordClass) {
+    case WordClass::Variable:
+        return displayName(dsVariable);
+    case WordClass::Constant:
+        return displayName(dsConst);
+    case WordClass::Input:
+        return displayName(dsInput);
+    case WordClass::Output:
+        return displayName(dsOutput);
+    case WordClass::Nvi:
+        return displayName(dsNvi);
+    case WordClass::Function:
+        return u"Functions"_s;
+    case WordClass::Keyword:
+    case WordClass::TimeWord:
+    case WordClass::FanIn:
+        return u"Reserved Words"_s;
+    default:
+        return {};
+    }
+}
+
 PopupWords::PopupWords(const WordIndex &index, const Vocabulary &vocabulary,
                        const RichTextSettings &settings)
 {
@@ -40,7 +68,8 @@ PopupWords::PopupWords(const WordIndex &index, const Vocabulary &vocabulary,
         if (!m_folded.isEmpty() && m_folded.last() == folded)
             continue;
         const WordIndex::Entry &entry = index.at(index.findExact(folded));
-        m_words.append({entry.text, styleOf(classOf(entry, vocabulary), settings)});
+        const WordClass wordClass = classOf(entry, vocabulary);
+        m_words.append({entry.text, styleOf(wordClass, settings), wordClass});
         m_folded.append(folded);
     }
 }
@@ -62,6 +91,15 @@ qsizetype PopupWords::findBeginning(const QString &beginning) const
     const QString folded = foldedCase(beginning);
     const qsizetype place = lowerBound(folded);
     return place < m_folded.size() && m_folded[place].startsWith(folded) ? place : -1;
+}
+
+bool PopupWords::goesOnBehind(const QString &beginning) const
+{
+    const QString folded = foldedCase(beginning);
+    qsizetype place = lowerBound(folded);
+    if (place < m_folded.size() && m_folded[place] == folded)
+        ++place;
+    return place < m_folded.size() && m_folded[place].startsWith(folded);
 }
 
 } // namespace ORVTListview

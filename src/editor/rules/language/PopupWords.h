@@ -19,7 +19,12 @@ struct PopupWord
 {
     QString text;
     ClassStyle style;
+    WordClass wordClass = WordClass::Other;
 };
+
+// What words of a class are called, in English: the name of the point type, or what the
+// language has; empty for a class that is not listed.
+ORVT_HOUSE_EXPORT QString nameOf(WordClass wordClass);
 
 // The words of the index in its order, one for each text without regard to case:
 // the one that a search for the whole text finds.
@@ -36,6 +41,9 @@ public:
     // case; -1 if there is none.
     qsizetype find(const QString &word) const;
     qsizetype findBeginning(const QString &beginning) const;
+
+    // Whether any word goes on behind it.
+    bool goesOnBehind(const QString &beginning) const;
 
 private:
     qsizetype lowerBound(const QString &folded) const;

@@ -42,4 +42,21 @@ bool BlockFold::read(QStringView line)
     return false;
 }
 
+void ProgramBlocks::read(QStringView line)
+{
+    for (const BlockWord &word : blockWordsOf(line)) {
+        if (word.kind == BlockWord::If)
+            m_open.append(m_line);
+        if (word.kind != BlockWord::EndIf || m_open.isEmpty())
+            continue;
+        const int first = m_open.takeLast();
+        if (first == m_line)
+            continue;
+        while (!m_outermost.isEmpty() && m_outermost.constLast().first >= first)
+            m_outermost.removeLast();
+        m_outermost.append({first, m_line});
+    }
+    ++m_line;
+}
+
 } // namespace ORVTListview

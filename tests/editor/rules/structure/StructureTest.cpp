@@ -159,3 +159,35 @@ TEST(Brackets, areNoneInAComment)
 {
     EXPECT_EQ(bracketAt(u"REM (a)", 4), std::nullopt);
 }
+
+using Blocks = QList<ProgramBlocks::Lines>;
+
+ProgramBlocks blocksOf(const QStringList &lines)
+{
+    ProgramBlocks blocks;
+    for (const QString &line : lines)
+        blocks.read(line);
+    return blocks;
+}
+
+TEST(ProgramBlocks, AreThoseInNoOther)
+{
+    const ProgramBlocks blocks = blocksOf({u"IF a"_s, u"IF b"_s, u"x"_s, u"ENDIF"_s, u"ELSE"_s,
+                                           u"ENDIF"_s, u"IF c ENDIF"_s, u"if d"_s, u"endif"_s});
+    EXPECT_EQ(blocks.outermost(), Blocks({{0, 5}, {7, 8}}));
+    EXPECT_TRUE(blocks.open().isEmpty());
+}
+
+TEST(ProgramBlocks, StandInOneThatHasNoEnd)
+{
+    const ProgramBlocks blocks =
+        blocksOf({u"IF a"_s, u"IF b"_s, u"x"_s, u"ENDIF"_s, u"IF c"_s, u"ENDIF IF d"_s});
+    EXPECT_EQ(blocks.outermost(), Blocks({{1, 3}, {4, 5}}));
+    EXPECT_EQ(blocks.open(), QList<int>({0, 5}));
+}
+
+TEST(ProgramBlocks, NeedAnIf)
+{
+    EXPECT_TRUE(blocksOf({u"ENDIF"_s, u"REM IF"_s, u"ENDIF"_s}).outermost().isEmpty());
+    EXPECT_EQ(blocksOf({u"IF a IF b"_s, u"ENDIF"_s, u"ENDIF"_s}).outermost(), Blocks({{0, 2}}));
+}

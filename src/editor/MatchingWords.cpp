@@ -1,0 +1,202 @@
+#include "editor/MatchingWords.h"
+
+#include "base/TextRules.h"
+#include "editor/rules/language/PopupWords.h"
+#include "shared/texts/TextTable.h"
+#include "widgets/look/TextWidths.h"
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/ReportList.h>
+
+#include <QtGui/QAccessible>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QListView>
+
+#include <algorithm>
+#include <array>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int mostDescriptionLetters = 40;
+
+constexpr std::array kinds{WordClass::Variable, WordClass::Constant, WordClass::Input,
+                           WordClass::Output,   WordClass::Nvi,      WordClass::Keyword,
+                           WordClass::Function};
+
+template <typename Texts>
+int widestOf(const Texts &texts, const QFont &font)
+{
+    TextWidths widths(font);
+    int widest = 0;
+    for (const QString &text : texts)
+        widths.widen(widest, text);
+    return widest;
+}
+
+QStringList textsOf(const QAbstractItemModel &entries)
+{
+    QStringList texts;
+    for (int i = 0; i < entries.rowCount(); ++i)
+        texts.append(entries.index(i, 0).data().toString());
+    return texts;
+}
+
+} // namespace
+
+MatchingWords::MatchingWords(ReportList &list, const PopupWords &words)
+    : m_list(list)
+    , m_words(words)
+    , m_model(*list.model(), {[this](const QString &text) { return kindOf(text); },
+                              [this](const QString &text) { return descriptionOf(text); }})
+{
+    const auto forget = [this] { m_isMeasured = false; };
+    const QAbstractItemModel *entries = list.model();
+    connect(entries, &QAbstractItemModel::modelReset, this, forget);
+    connect(entries, &QAbstractItemModel::rowsInserted, this, forget);
+    connect(entries, &QAbstractItemModel::dataChanged, this, forget);
+}
+
+MatchingWords::~MatchingWords()
+{
+    delete m_view; // it knows the model
+}
+
+void MatchingWords::makeView()
+{
+    m_view = new QListView(m_list.parentWidget());
+    m_view->setObjectName(u"WordMatches"_s);
+    m_view->setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint);
+    m_view->setAttribute(Qt::WA_ShowWithoutActivating);
+    m_view->setFocusPolicy(Qt::NoFocus);
+    m_view->setFrameStyle(int{QFrame::Box} | int{QFrame::Plain});
+    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_view->setUniformItemSizes(true);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setItemDelegate(&m_delegate);
+    m_view->setModel(&m_model);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &current) { selectInList(current.row()); });
+    // Later: who takes a word may destroy the view.
+    connect(m_view, &QListView::doubleClicked, this, &MatchingWords::doubleClicked,
+            Qt::QueuedConnection);
+}
+
+QAbstractItemView &MatchingWords::view()
+{
+    if (!m_view)
+        makeView();
+    return *m_view;
+}
+
+bool MatchingWords::show(const QString &word)
+{
+    m_model.show(word);
+    return m_model.isMore();
+}
+
+void MatchingWords::choose()
+{
+    const QString first = m_model.index(0).data().toString();
+    const bool begins = matchedLetters(first, m_model.word()).start == 0;
+    const bool isChosen = !m_model.word().isEmpty() && m_model.isMatched() && (begins || m_isAsked);
+    mark(isChosen ? 0 : -1);
+    if (!isChosen)
+        view().scrollToTop();
+}
+
+// The user has moved to the row: screen readers tell it, though the focus is elsewhere.
+void MatchingWords::choose(int row)
+{
+    mark(row);
+    if (!QAccessible::isActive() || chosen() < 0)
+        return;
+    QAccessibleEvent marked(m_view, QAccessible::Focus);
+    marked.setChild(chosen());
+    QAccessible::updateAccessibility(&marked);
+}
+
+void MatchingWords::mark(int row)
+{
+    view().setCurrentIndex(m_model.index(row));
+    selectInList(row);
+}
+
+void MatchingWords::selectInList(int row)
+{
+    const int entry = m_model.entryOf(row);
+    m_list.goToRow(entry < m_list.ListItems()->Count() ? entry + 1 : 0); // 0 chooses none
+}
+
+int MatchingWords::chosen() const
+{
+    return m_view ? m_view->currentIndex().row() : -1;
+}
+
+int MatchingWords::rows() const
+{
+    return m_model.rowCount();
+}
+
+int MatchingWords::rowHeight() const
+{
+    return m_list.verticalHeader()->defaultSectionSize();
+}
+
+QString MatchingWords::kindOf(const QString &text) const
+{
+    const qsizetype place = m_words.find(text);
+    return place < 0 ? QString() : Localise(nameOf(m_words.words()[place].wordClass));
+}
+
+QString MatchingWords::descriptionOf(const QString &text) const
+{
+    return m_descriptions.isEmpty() ? QString() : m_descriptions.value(foldedCase(text));
+}
+
+void MatchingWords::setDescriptions(const QHash<QString, QString> &descriptions)
+{
+    m_descriptions.clear();
+    for (auto word = descriptions.begin(); word != descriptions.end(); ++word)
+        m_descriptions.insert(foldedCase(word.key()), word.value());
+    m_isMeasured = false;
+}
+
+void MatchingWords::measure()
+{
+    const QFont font = m_list.font();
+    const int letter = QFontMetrics(font).averageCharWidth();
+    m_widths.icon = m_list.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &m_list);
+    m_widths.text = std::clamp(widestOf(textsOf(*m_list.model()), MatchDelegate::strong(font)),
+                               fewestLetters * letter, mostLetters * letter);
+    m_widths.description =
+        std::min(widestOf(m_descriptions, font), mostDescriptionLetters * letter);
+    m_isMeasured = true;
+}
+
+int MatchingWords::wantedWidth()
+{
+    if (!m_isMeasured || view().font() != m_list.font()) {
+        view().setFont(m_list.font());
+        measure();
+    }
+    view().setPalette(m_list.palette());
+    view().setAccessibleName(Localise(u"Known words"_s)); // in the language of now
+    const QFontMetrics metrics(m_list.font());
+    m_widths.kind = 0;
+    for (const WordClass kind : kinds)
+        m_widths.kind = std::max(m_widths.kind, metrics.horizontalAdvance(Localise(nameOf(kind))));
+    m_widths.row = rowHeight();
+    m_delegate.setWidths(m_widths);
+    return m_delegate.rowWidth();
+}
+
+// The rows are drawn into what there is.
+void MatchingWords::fit(int)
+{
+    view().doItemsLayout();
+}
+
+} // namespace ORVTListview

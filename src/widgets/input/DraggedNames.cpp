@@ -1,0 +1,33 @@
+#include "widgets/input/DraggedNames.h"
+
+#include <QtCore/QMimeData>
+#include <QtCore/QStringList>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+QString DraggedNames::format()
+{
+    return u"application/x-orvtlistview-names"_s;
+}
+
+void DraggedNames::add(QMimeData &data, const QStringList &names)
+{
+    QStringList given;
+    for (const QString &name : names) {
+        if (!name.trimmed().isEmpty())
+            given.append(name);
+    }
+    if (!given.isEmpty())
+        data.setData(format(), given.join(u' ').toUtf8());
+}
+
+std::optional<QString> DraggedNames::in(const QMimeData &data)
+{
+    if (!data.hasFormat(format()))
+        return {};
+    return QString::fromUtf8(data.data(format()));
+}
+
+} // namespace ORVTListview

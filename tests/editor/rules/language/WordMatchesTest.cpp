@@ -1,0 +1,52 @@
+#include "editor/rules/language/WordMatches.h"
+
+#include <gtest/gtest.h>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList words{u"ExhaustFan"_s, u"Fan"_s, u"FanAlarm"_s, u"Maß"_s, u"SupplyFan"_s};
+
+QStringList found(const QString &typed)
+{
+    QStringList texts;
+    for (const int place : WordMatches(words).find(typed))
+        texts.append(words[place]);
+    return texts;
+}
+
+} // namespace
+
+TEST(WordMatches, WordsThatBeginSoComeFirst)
+{
+    EXPECT_EQ(found(u"fan"_s),
+              QStringList({u"Fan"_s, u"FanAlarm"_s, u"ExhaustFan"_s, u"SupplyFan"_s}));
+    EXPECT_EQ(found(u"ALARM"_s), QStringList{u"FanAlarm"_s});
+    EXPECT_EQ(found(u"x"_s), QStringList{u"ExhaustFan"_s});
+    EXPECT_EQ(found(u"fans"_s), QStringList());
+}
+
+TEST(WordMatches, NothingTypedIsInAllWords)
+{
+    EXPECT_EQ(found(QString()), words);
+    EXPECT_TRUE(WordMatches().find(QString()).isEmpty());
+}
+
+TEST(WordMatches, LettersThatAreLongerInCapitalsAreFound)
+{
+    EXPECT_EQ(found(u"mass"_s), QStringList{u"Maß"_s});
+    EXPECT_EQ(matchedLetters(u"Maß"_s, u"mass"_s), (MatchedLetters{0, 3}));
+    EXPECT_EQ(matchedLetters(u"Maße"_s, u"se"_s), (MatchedLetters{2, 2}));
+    EXPECT_EQ(matchedLetters(u"ßFan"_s, u"fan"_s), (MatchedLetters{1, 3}));
+}
+
+TEST(WordMatches, LettersAreToldWhereTheyStand)
+{
+    EXPECT_EQ(matchedLetters(u"ExhaustFan"_s, u"FAN"_s), (MatchedLetters{7, 3}));
+    EXPECT_EQ(matchedLetters(u"FanFan"_s, u"fan"_s), (MatchedLetters{0, 3}));
+    EXPECT_EQ(matchedLetters(u"Fan"_s, u"x"_s), MatchedLetters());
+    EXPECT_EQ(matchedLetters(u"Fan"_s, QString()), MatchedLetters());
+    EXPECT_EQ(matchedLetters(u"\U0001D538Fan"_s, u"fan"_s), (MatchedLetters{2, 3}));
+}
