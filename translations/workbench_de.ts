@@ -224,7 +224,7 @@
         <translation>Nichts gefunden.</translation>
     </message>
     <message>
-        <source>Find as &amp;You Type</source>
+        <source>Find While T&amp;yping</source>
         <translation>Beim &amp;Tippen suchen</translation>
     </message>
 </context>

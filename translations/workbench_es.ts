@@ -224,8 +224,8 @@
         <translation>No se ha encontrado nada.</translation>
     </message>
     <message>
-        <source>Find as &amp;You Type</source>
-        <translation>Busc&amp;ar al escribir</translation>
+        <source>Find While T&amp;yping</source>
+        <translation>Bús&amp;queda al escribir</translation>
     </message>
 </context>
 <context>

@@ -224,7 +224,7 @@
         <translation>Rien n’a été trouvé.</translation>
     </message>
     <message>
-        <source>Find as &amp;You Type</source>
+        <source>Find While T&amp;yping</source>
         <translation>Rechercher pendant la &amp;frappe</translation>
     </message>
 </context>

@@ -33,8 +33,8 @@ class ORVT_EXPORT CodeView : public QObject
                    indentGuidesShownChanged)
     Q_PROPERTY(bool blanksShown READ blanksShown WRITE setBlanksShown NOTIFY blanksShownChanged)
     Q_PROPERTY(qint32 zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
-    Q_PROPERTY(bool adaptsColours READ adaptsColours WRITE setAdaptsColours NOTIFY
-                   adaptsColoursChanged)
+    Q_PROPERTY(
+        bool adaptsColours READ adaptsColours WRITE setAdaptsColours NOTIFY adaptsColoursChanged)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY commandsEnabledChanged)
 
 public:
