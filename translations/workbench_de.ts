@@ -228,7 +228,7 @@
         <translation>Zur Zei&amp;le</translation>
     </message>
     <message>
-        <source>Find as &amp;You Type</source>
+        <source>Find While T&amp;yping</source>
         <translation>Beim &amp;Tippen suchen</translation>
     </message>
 </context>

@@ -228,8 +228,8 @@
         <translation>Ir a la lín&amp;ea</translation>
     </message>
     <message>
-        <source>Find as &amp;You Type</source>
-        <translation>Busc&amp;ar al escribir</translation>
+        <source>Find While T&amp;yping</source>
+        <translation>Bús&amp;queda al escribir</translation>
     </message>
 </context>
 <context>

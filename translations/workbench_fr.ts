@@ -228,7 +228,7 @@
         <translation>Aller à la l&amp;igne</translation>
     </message>
     <message>
-        <source>Find as &amp;You Type</source>
+        <source>Find While T&amp;yping</source>
         <translation>Rechercher pendant la &amp;frappe</translation>
     </message>
 </context>

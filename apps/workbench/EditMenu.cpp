@@ -57,7 +57,7 @@ void EditMenu::addClipboard()
 void EditMenu::addFinding()
 {
     addAction(tr("&Find…"), QKeySequence(Qt::CTRL | Qt::Key_F), this, &EditMenu::find);
-    addAction(tr("Find as &You Type"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F), &m_view,
+    addAction(tr("Find While T&yping"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F), &m_view,
               &CodeView::showFindBar);
     addAction(tr("R&eplace…"), QKeySequence(Qt::CTRL | Qt::Key_H), this, &EditMenu::replace);
     addAction(tr("Find &Next"), QKeySequence(Qt::Key_F3), this,

@@ -32,22 +32,22 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = ON");
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Find…, Find as You Type, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
+            u"Restore Typed Text, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
         workbench.choose(u"Select All"_s);
         QCOMPARE(workbench.box().SelText(), u"Fan1 = ON"_s);
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Cut, Copy, Copy with Colours, Find…, Find as You Type, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
         workbench.choose(u"Copy"_s);
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Fan1 = ON"_s);
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Cut, Copy, Copy with Colours, Paste, Find…, Find as You Type, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Paste, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
         workbench.choose(u"Cut"_s);
         QCOMPARE(workbench.code().CodeText(), QString());
         QCOMPARE(
             enabled(workbench),
-            u"Undo, Restore Typed Text, Paste, Find…, Find as You Type, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
+            u"Undo, Restore Typed Text, Paste, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
     }
 
     void commandsHaveTheKeysOfTheWorkbench()

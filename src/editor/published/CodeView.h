@@ -39,8 +39,8 @@ class ORVT_EXPORT CodeView : public QObject
     Q_PROPERTY(qint32 zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
     Q_PROPERTY(bool liveValuesShown READ liveValuesShown WRITE setLiveValuesShown NOTIFY
                    liveValuesShownChanged)
-    Q_PROPERTY(bool adaptsColours READ adaptsColours WRITE setAdaptsColours NOTIFY
-                   adaptsColoursChanged)
+    Q_PROPERTY(
+        bool adaptsColours READ adaptsColours WRITE setAdaptsColours NOTIFY adaptsColoursChanged)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY commandsEnabledChanged)
     Q_PROPERTY(bool autoIndent READ autoIndent WRITE setAutoIndent NOTIFY autoIndentChanged)
     Q_PROPERTY(bool smartHome READ smartHome WRITE setSmartHome NOTIFY smartHomeChanged)

@@ -170,7 +170,7 @@ ProgramBlocks blocksOf(const QStringList &lines)
     return blocks;
 }
 
-TEST(ProgramBlocks, AreThoseInNoOther)
+TEST(ProgramBlocks, areThoseInNoOther)
 {
     const ProgramBlocks blocks = blocksOf({u"IF a"_s, u"IF b"_s, u"x"_s, u"ENDIF"_s, u"ELSE"_s,
                                            u"ENDIF"_s, u"IF c ENDIF"_s, u"if d"_s, u"endif"_s});
@@ -178,7 +178,7 @@ TEST(ProgramBlocks, AreThoseInNoOther)
     EXPECT_TRUE(blocks.open().isEmpty());
 }
 
-TEST(ProgramBlocks, StandInOneThatHasNoEnd)
+TEST(ProgramBlocks, standInOneThatHasNoEnd)
 {
     const ProgramBlocks blocks =
         blocksOf({u"IF a"_s, u"IF b"_s, u"x"_s, u"ENDIF"_s, u"IF c"_s, u"ENDIF IF d"_s});
@@ -186,7 +186,7 @@ TEST(ProgramBlocks, StandInOneThatHasNoEnd)
     EXPECT_EQ(blocks.open(), QList<int>({0, 5}));
 }
 
-TEST(ProgramBlocks, NeedAnIf)
+TEST(ProgramBlocks, needAnIf)
 {
     EXPECT_TRUE(blocksOf({u"ENDIF"_s, u"REM IF"_s, u"ENDIF"_s}).outermost().isEmpty());
     EXPECT_EQ(blocksOf({u"IF a IF b"_s, u"ENDIF"_s, u"ENDIF"_s}).outermost(), Blocks({{0, 2}}));
