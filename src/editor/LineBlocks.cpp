@@ -49,14 +49,14 @@ LineSpan linesBeside(const RichTextBox &box, const LineSpan &lines, qint32 steps
     return beside;
 }
 
-// The lines and others behind them change places.
-MovedLines exchanged(const LineSpan &lines, const LineSpan &others)
+// Lines that follow each other, once they have changed places.
+MovedLines exchanged(const LineSpan &upper, const LineSpan &lower)
 {
-    MovedLines moved{lines.first, {}};
-    for (qint32 line = others.first; line <= others.last; ++line)
-        moved.from.append(line - lines.first);
-    for (qint32 line = lines.first; line <= lines.last; ++line)
-        moved.from.append(line - lines.first);
+    MovedLines moved{upper.first, {}};
+    for (qint32 line = lower.first; line <= lower.last; ++line)
+        moved.from.append(line - upper.first);
+    for (qint32 line = upper.first; line <= upper.last; ++line)
+        moved.from.append(line - upper.first);
     return moved;
 }
 
