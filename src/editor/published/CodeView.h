@@ -115,8 +115,8 @@ public:
     Q_INVOKABLE bool previousProblem();
 
     // Marks the line of the caret, or takes its mark away. A mark is shown in the margin
-    // and on the scroll bar, and goes with its line; with the whole text all go, as
-    // problems do.
+    // and on the scroll bar, moves with its line and is gone when that is; with the whole
+    // text all go, as problems do.
     Q_INVOKABLE void toggleBookmark();
 
     // Puts the caret to the next marked line, going round at the end. False without one.

@@ -4,17 +4,31 @@
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/box/KeptView.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
-#include <QtWidgets/QPlainTextEdit>
 
 #include <algorithm>
 #include <utility>
 
 namespace ORVTListview {
 
-Bookmarks::Bookmarks(QPlainTextEdit &box)
+Bookmarks::Mark::Mark(const QTextBlock &line)
+    : place(line)
+{
+    const int end =
+        std::min(line.position() + line.length(), place.document()->characterCount() - 1);
+    place.setPosition(end, QTextCursor::KeepAnchor);
+    isSeen = place.hasSelection();
+}
+
+QTextBlock Bookmarks::Mark::line() const
+{
+    return place.document()->findBlock(place.selectionStart());
+}
+
+Bookmarks::Bookmarks(RichTextBox &box)
     : m_box(box)
 {
 }
@@ -22,18 +36,16 @@ Bookmarks::Bookmarks(QPlainTextEdit &box)
 bool Bookmarks::isOn(const QTextBlock &line) const
 {
     return std::any_of(m_marks.cbegin(), m_marks.cend(),
-                       [&](const QTextCursor &mark) { return line.contains(mark.position()); });
+                       [&](const Mark &mark) { return mark.line() == line; });
 }
 
-// At the line's first letter: an Enter before it takes the mark along.
 void Bookmarks::toggle()
 {
     const QTextBlock line = m_box.textCursor().block();
-    const auto isHere = [&](const QTextCursor &mark) { return line.contains(mark.position()); };
-    if (m_marks.removeIf(isHere) == 0) {
+    if (m_marks.removeIf([&](const Mark &mark) { return mark.line() == line; }) == 0) {
         if (m_marks.isEmpty())
             connect(m_box.document(), &QTextDocument::contentsChange, this, &Bookmarks::noteChange);
-        m_marks.append(QTextCursor(line));
+        m_marks.append(Mark(line));
     }
     if (m_marks.isEmpty())
         m_box.document()->disconnect(this);
@@ -43,11 +55,23 @@ void Bookmarks::toggle()
 // With the whole text its marks go; what shows them follows when the text is whole.
 void Bookmarks::noteChange(int, int removed, int)
 {
-    if (removed == 0 || m_box.document()->characterCount() > 1)
+    if (m_box.keepsText() || !m_held.isEmpty())
         return;
-    m_marks.clear();
-    m_box.document()->disconnect(this);
-    QMetaObject::invokeMethod(this, &Bookmarks::changed, Qt::QueuedConnection);
+    const qsizetype count = m_marks.size();
+    if (removed > 0 && m_box.document()->characterCount() <= 1)
+        m_marks.clear();
+    else if (removed > 0)
+        m_marks.removeIf([](const Mark &mark) { return mark.isGone(); });
+    for (Mark &mark : m_marks) {
+        const Mark now(mark.line());
+        if (now.place.selectionEnd() != mark.place.selectionEnd() ||
+            now.place.selectionStart() != mark.place.selectionStart())
+            mark = now;
+    }
+    if (m_marks.isEmpty())
+        m_box.document()->disconnect(this);
+    if (m_marks.size() != count)
+        QMetaObject::invokeMethod(this, &Bookmarks::changed, Qt::QueuedConnection);
 }
 
 void Bookmarks::holdLines(const MovedLines &lines)
@@ -55,8 +79,8 @@ void Bookmarks::holdLines(const MovedLines &lines)
     m_held.clear();
     if (lines.from.isEmpty())
         return;
-    for (const QTextCursor &mark : std::as_const(m_marks))
-        m_held.append(mark.blockNumber());
+    for (const Mark &mark : std::as_const(m_marks))
+        m_held.append(mark.line().blockNumber());
 }
 
 void Bookmarks::putBack(const MovedLines &lines)
@@ -64,8 +88,9 @@ void Bookmarks::putBack(const MovedLines &lines)
     if (m_held.size() != m_marks.size())
         return;
     for (qsizetype i = 0; i < m_marks.size(); ++i) {
-        if (lines.contains(m_held[i]))
-            m_marks[i] = QTextCursor(m_box.document()->findBlockByNumber(lines.placeOf(m_held[i])));
+        const int line =
+            lines.contains(m_held[i]) ? lines.placeOf(m_held[i]) : m_marks[i].line().blockNumber();
+        m_marks[i] = Mark(m_box.document()->findBlockByNumber(line));
     }
     m_held.clear();
     Q_EMIT changed();
@@ -79,8 +104,8 @@ bool Bookmarks::goToNext()
     const int behind = line.position() + line.length();
     int first = -1;
     int next = -1;
-    for (const QTextCursor &mark : std::as_const(m_marks)) {
-        const int place = mark.block().position();
+    for (const Mark &mark : std::as_const(m_marks)) {
+        const int place = mark.line().position();
         if (first < 0 || place < first)
             first = place;
         if (place >= behind && (next < 0 || place < next))
@@ -97,8 +122,8 @@ QList<LineMark> Bookmarks::marks() const
 {
     const QColor colour = colourOn(ViewColours::groundOf(m_box));
     QList<LineMark> marks;
-    for (const QTextCursor &mark : m_marks)
-        marks.append({mark.position(), colour});
+    for (const Mark &mark : m_marks)
+        marks.append({mark.place.selectionStart(), colour});
     return marks;
 }
 

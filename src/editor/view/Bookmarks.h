@@ -4,20 +4,20 @@
 #include <QtCore/QObject>
 #include <QtGui/QTextCursor>
 
-class QPlainTextEdit;
-
 namespace ORVTListview {
 
+class RichTextBox;
 struct LineMark;
 struct MovedLines;
 
-// Lines that the user wants to come back to. A mark goes with its line's text.
+// Lines that the user wants to come back to. A mark moves with its line and is gone when
+// that is.
 class Bookmarks final : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit Bookmarks(QPlainTextEdit &box);
+    explicit Bookmarks(RichTextBox &box);
 
     bool isEmpty() const { return m_marks.isEmpty(); }
     bool isOn(const QTextBlock &line) const;
@@ -39,11 +39,24 @@ Q_SIGNALS:
     void changed();
 
 private:
+    // A whole line with its end. The last line has none, so that without a letter
+    // nothing of it is seen to go.
+    struct Mark
+    {
+        explicit Mark(const QTextBlock &line);
+
+        QTextBlock line() const;
+        bool isGone() const { return isSeen && !place.hasSelection(); }
+
+        QTextCursor place;
+        bool isSeen = false;
+    };
+
     void noteChange(int from, int removed, int added);
 
-    QPlainTextEdit &m_box;
-    QList<QTextCursor> m_marks; // in no order
-    QList<int> m_held;          // the line of each, from 0
+    RichTextBox &m_box;
+    QList<Mark> m_marks; // in no order
+    QList<int> m_held;   // the line of each, from 0, while lines change places
 };
 
 } // namespace ORVTListview

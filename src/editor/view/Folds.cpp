@@ -9,6 +9,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QStringList>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
@@ -54,11 +55,13 @@ void Folds::setOn(bool on)
         m_lineCount = m_box.document()->blockCount();
         m_caret = m_box.textCursor().position();
         m_openBlocks.start();
+        m_box.installEventFilter(this);
         connect(&m_box, &QPlainTextEdit::cursorPositionChanged, this, &Folds::followCaret);
         connect(m_box.document(), &QTextDocument::contentsChange, this, &Folds::noteChange);
         connect(m_box.document(), &QTextDocument::contentsChanged, this, &Folds::followChange);
     } else {
         m_openBlocks.stop();
+        m_box.removeEventFilter(this);
         m_box.disconnect(this);
         m_box.document()->disconnect(this);
         unfoldAll();
@@ -139,10 +142,10 @@ void Folds::foldAll()
     for (QTextBlock line = text.firstBlock(); line.isValid(); line = line.next())
         blocks.read(line.text());
     for (const ProgramBlocks::Lines &block : blocks.outermost()) {
+        if (block.last - block.first < 2)
+            continue;
         const Lines hidden{text.findBlockByNumber(block.first + 1),
                            text.findBlockByNumber(block.last - 1)};
-        if (block.last - block.first < 2 || !hidden.first.isVisible())
-            continue;
         stepOutOf(hidden);
         show(hidden, false);
     }
@@ -156,18 +159,30 @@ void Folds::unfoldAll()
     show({text.firstBlock(), text.lastBlock()}, true);
 }
 
+bool Folds::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        m_isStepping = key == Qt::Key_Left || key == Qt::Key_Right;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
 // The toolkit's step to the right ends behind all that is hidden, one to the left in
 // front of it.
 void Folds::followCaret()
 {
     QTextCursor caret = m_box.textCursor();
     const int former = std::exchange(m_caret, caret.position());
+    const bool isStep = std::exchange(m_isStepping, false);
     if (caret.block().isVisible())
         return;
     const QTextBlock last = lastHidden(caret.block());
     const int front = firstHidden(caret.block()).position();
     const int end = last.position() + last.length() - 1;
     unfold(caret.block());
+    if (!isStep)
+        return;
     if (former == front - 1 && caret.position() == end)
         caret.setPosition(front);
     else if (former == end + 1 && caret.position() == front)

@@ -48,6 +48,9 @@ public:
 Q_SIGNALS:
     void changed();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     struct Lines
     {
@@ -71,8 +74,9 @@ private:
     int m_changedFrom = -1;            // what changed since it was last looked at; -1 for nothing
     int m_changedTo = -1;
     int m_lineCount = 0;
-    int m_caret = 0;          // before it moved
-    bool m_hasHidden = false; // maybe
+    int m_caret = 0;           // before it moved
+    bool m_isStepping = false; // by a key, to the left or to the right
+    bool m_hasHidden = false;  // maybe
 };
 
 } // namespace ORVTListview

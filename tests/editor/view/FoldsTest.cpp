@@ -67,6 +67,19 @@ private Q_SLOTS:
         WidgetTest::cleanup();
     }
 
+    void theFrontOfAFoldIsReachedFromBehindIt()
+    {
+        view().foldAll();
+        caretTo(8);
+        view().goToLine(3);
+        QCOMPARE(caret(), u"3:0"_s);
+        view().foldAll();
+        QCOMPARE(caret(), u"2:4"_s);
+        caretTo(8);
+        m_host->key(Qt::Key_Left);
+        QCOMPARE(caret(), u"7:9"_s);
+    }
+
     void aClickFoldsAndUnfolds()
     {
         click(3);
