@@ -34,7 +34,7 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     scrollMarks->addSource([this] { return problems.marks(); });
     QObject::connect(&problems, &Problems::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&bookmarks, &Bookmarks::changed, scrollMarks, &ScrollMarks::refresh);
-    QObject::connect(&found.places(), &FoundPlaces::changed, scrollMarks, &ScrollMarks::refresh);
+    QObject::connect(&found, &FoundMarks::marksChanged, scrollMarks, &ScrollMarks::refresh);
 }
 
 CodeViewParts::~CodeViewParts()

@@ -185,6 +185,20 @@ private Q_SLOTS:
         }
     }
 
+    void linesUnderWordsStay()
+    {
+        const auto painted = [this](const QString &style) {
+            m_host->settings.FontStyle = style;
+            show(0x000000, 0x000000);
+            return Pixels::count(m_host->picture(*box().viewport()), [](QRgb pixel) {
+                return Pixels::contrast(pixel, qRgb(0, 0, 0)) >= 4.5;
+            });
+        };
+        view().setAdaptsColours(true);
+        const int without = painted({});
+        QVERIFY(painted(u"u1"_s) > without + 300);
+    }
+
     void whatCanBeReadStaysAsItIs()
     {
         show(0x800000, 0xffffff);
