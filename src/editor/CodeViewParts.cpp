@@ -43,7 +43,7 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     QObject::connect(&commands.moves, &LineMoves::done, &bookmarks, &Bookmarks::putBack);
     QObject::connect(&problems, &Problems::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&bookmarks, &Bookmarks::changed, scrollMarks, &ScrollMarks::refresh);
-    QObject::connect(&found.places(), &FoundPlaces::changed, scrollMarks, &ScrollMarks::refresh);
+    QObject::connect(&found, &FoundMarks::marksChanged, scrollMarks, &ScrollMarks::refresh);
 }
 
 CodeViewParts::~CodeViewParts()

@@ -9,6 +9,8 @@
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QPlainTextEdit>
 
+#include <utility>
+
 namespace ORVTListview {
 
 FoundMarks::FoundMarks(QPlainTextEdit &box, BoxLayers &layers)
@@ -17,10 +19,18 @@ FoundMarks::FoundMarks(QPlainTextEdit &box, BoxLayers &layers)
     , m_places(*box.document())
 {
     connect(&m_places, &FoundPlaces::wantedChanged, this, &FoundMarks::show);
-    connect(&m_places, &FoundPlaces::changed, this, [this] {
-        if (m_places.lineEnds() > 0) // a change elsewhere may end one on this line
-            repaint();
-    });
+    connect(&m_places, &FoundPlaces::changed, this, &FoundMarks::follow);
+}
+
+// Most changes leave the scroll bar as it is.
+void FoundMarks::follow()
+{
+    constexpr int rows = 1000;
+    if (m_places.lineEnds() > 0) // a change elsewhere may end one on this line
+        repaint();
+    const QList<int> former = std::exchange(m_lines, m_places.lines(rows));
+    if (m_lines != former)
+        Q_EMIT marksChanged();
 }
 
 void FoundMarks::show()
@@ -37,12 +47,11 @@ void FoundMarks::repaint()
 
 QList<LineMark> FoundMarks::marks() const
 {
-    constexpr int rows = 2000; // more than a scroll bar has
     const QColor ground = ViewColours::groundOf(m_box);
     const QColor colour =
         ViewColours::onGround(ViewColours::foundGround(ground), ground, ViewColours::visible);
     QList<LineMark> marks;
-    for (const int line : m_places.lines(rows))
+    for (const int line : m_lines)
         marks.append({m_box.document()->findBlockByNumber(line).position(), colour});
     return marks;
 }

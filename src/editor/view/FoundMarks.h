@@ -22,13 +22,18 @@ public:
 
     void paintBelow(QPainter &painter, const ShownLines &lines) override;
 
+Q_SIGNALS:
+    void marksChanged();
+
 private:
     void show();
     void repaint();
+    void follow();
     QList<QRectF> placesIn(const ShownLine &line) const;
 
     QPlainTextEdit &m_box;
     FoundPlaces m_places;
+    QList<int> m_lines; // that the scroll bar marks
 };
 
 } // namespace ORVTListview

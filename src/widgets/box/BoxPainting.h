@@ -3,6 +3,8 @@
 #include "widgets/box/BoxLayers.h"
 
 #include <QtGui/QAbstractTextDocumentLayout>
+#include <QtGui/QColor>
+#include <QtGui/QTextLayout>
 
 class QPainter;
 
@@ -22,8 +24,18 @@ struct BoxPainting
 private:
     using Ranges = QList<QTextLayout::FormatRange>;
 
-    void addColours(const QTextBlock &block, Ranges &ranges) const;
-    void addSelections(const QTextBlock &block, Ranges &ranges) const;
+    struct Piece
+    {
+        int from = 0; // in the line
+        int to = 0;
+        QColor colour;
+        QColor ground; // of its own; invalid for none
+    };
+
+    QList<Piece> colouredPieces(const QTextBlock &block, const Ranges &selections) const;
+    static void addUnselected(Piece piece, const Ranges &selections, QList<Piece> &pieces);
+    Ranges selectionsIn(const QTextBlock &block) const;
+    void paintLine(QPainter &painter, const ShownLine &line, const QRectF &area) const;
     void paintCaret(QPainter &painter, const ShownLine &line) const;
 };
 

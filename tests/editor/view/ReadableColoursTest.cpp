@@ -83,6 +83,17 @@ private:
         return Pixels::count(shown, [=](QRgb pixel) { return pixel == colour; }) > 0;
     }
 
+    // With so many pixels to each of the layout's.
+    QImage pictureAt(double ratio)
+    {
+        QCoreApplication::processEvents();
+        QWidget &text = *box().viewport();
+        QImage image(text.size() * ratio, QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
+        text.render(&image);
+        return image;
+    }
+
     void useHighContrast()
     {
         QPalette palette;
@@ -155,6 +166,37 @@ private Q_SLOTS:
             box().setFocus();
             QTest::keyClick(box().findChild<QWidget *>(u"FindBarWanted"_s), Qt::Key_Escape);
         }
+    }
+
+    void noWordOfALineIsLeftOut()
+    {
+        view().setAdaptsColours(true);
+        show(0x2b8f8f, 0x2b2b2b);
+        const QString program = u"Temp1      = IF other AND Var1 NetTemp\r\n"
+                                "Temp2  = IF other , NetTemp )\r\n"
+                                "Limit1 = Fan1 Fan1\r\n    AND NetTemp\r\n"_s;
+        m_host->list->openProgram(program.repeated(4));
+        for (const qint32 zoom : {40, 45, 55, 65, 75, 100}) {
+            view().setZoom(zoom);
+            for (const double ratio : {1.0, 1.3, 2.0}) {
+                const QImage shown = pictureAt(ratio);
+                QVERIFY(Pixels::count(shown, [](QRgb pixel) { return pixel == 0xff8f8f2b; }) == 0);
+            }
+        }
+    }
+
+    void linesUnderWordsStay()
+    {
+        const auto painted = [this](const QString &style) {
+            m_host->settings.FontStyle = style;
+            show(0x000000, 0x000000);
+            return Pixels::count(m_host->picture(*box().viewport()), [](QRgb pixel) {
+                return Pixels::contrast(pixel, qRgb(0, 0, 0)) >= 4.5;
+            });
+        };
+        view().setAdaptsColours(true);
+        const int without = painted({});
+        QVERIFY(painted(u"u1"_s) > without + 300);
     }
 
     void whatCanBeReadStaysAsItIs()
