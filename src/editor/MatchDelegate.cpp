@@ -100,7 +100,8 @@ void MatchDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     painter->save();
     painter->setClipRect(item.rect, Qt::IntersectClip);
     Columns columns(item.rect, item.direction);
-    icon.paint(painter, columns.take(m_widths.icon, room));
+    icon.paint(painter, columns.take(m_widths.icon, room), Qt::AlignCenter,
+               isSelected ? QIcon::Selected : QIcon::Normal);
     painter->setPen(colour);
     const auto *model = static_cast<const MatchModel *>(index.model());
     drawText(*painter, columns.take(m_widths.text, gap), item, text,

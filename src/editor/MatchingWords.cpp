@@ -7,7 +7,9 @@
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ReportList.h>
 
+#include <QtCore/QtMath>
 #include <QtGui/QAccessible>
+#include <QtGui/QFontMetricsF>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QListView>
 
@@ -33,7 +35,7 @@ int widestOf(const Texts &texts, const QFont &font)
     int widest = 0;
     for (const QString &text : texts)
         widths.widen(widest, text);
-    return widest;
+    return widest > 0 ? widest + 1 : 0; // what is a part of a pixel too wide would be cut
 }
 
 QStringList textsOf(const QAbstractItemModel &entries)
@@ -184,10 +186,12 @@ int MatchingWords::wantedWidth()
     }
     view().setPalette(m_list.palette());
     view().setAccessibleName(Localise(u"Known words"_s)); // in the language of now
-    const QFontMetrics metrics(m_list.font());
+    const QFontMetricsF metrics(m_list.font());
     m_widths.kind = 0;
-    for (const WordClass kind : kinds)
-        m_widths.kind = std::max(m_widths.kind, metrics.horizontalAdvance(Localise(nameOf(kind))));
+    for (const WordClass kind : kinds) {
+        const qreal width = metrics.horizontalAdvance(Localise(nameOf(kind)));
+        m_widths.kind = std::max(m_widths.kind, qCeil(width) + 1);
+    }
     m_widths.row = rowHeight();
     m_delegate.setWidths(m_widths);
     return m_delegate.rowWidth();

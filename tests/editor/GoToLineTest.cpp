@@ -4,6 +4,7 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <QtGui/QAccessible>
 #include <QtWidgets/QSpinBox>
 
 using namespace ORVTListview;
@@ -59,6 +60,16 @@ private Q_SLOTS:
         QTest::keyClick(&field(), Qt::Key_Enter);
         QCOMPARE(box().textCursor().blockNumber(), 2);
         QCOMPARE(box().Text(), text);
+    }
+
+    void screenReadersAreToldWhatItAsks()
+    {
+        ask();
+        const QAccessibleInterface *access = QAccessible::queryAccessibleInterface(&field());
+        QCOMPARE(access->role(), QAccessible::SpinBox);
+        QCOMPARE(access->text(QAccessible::Name), u"Go to line:"_s);
+        access = QAccessible::queryAccessibleInterface(bar());
+        QCOMPARE(access->text(QAccessible::Name), u"Go to line:"_s);
     }
 
     void escCloses()

@@ -2,9 +2,8 @@
 
 #include "support/TestProgram.h"
 
-#include <ORVTListview/ReportList.h>
-
 #include <QtCore/QMimeData>
+#include <QtWidgets/QListView>
 
 using namespace Qt::StringLiterals;
 
@@ -32,22 +31,22 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = ON");
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
+            u"Restore Typed Text, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Line, Go To Match"_s);
         workbench.choose(u"Select All"_s);
         QCOMPARE(workbench.box().SelText(), u"Fan1 = ON"_s);
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Cut, Copy, Copy with Colours, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Line, Go To Match"_s);
         workbench.choose(u"Copy"_s);
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Fan1 = ON"_s);
         QCOMPARE(
             enabled(workbench),
-            u"Restore Typed Text, Cut, Copy, Copy with Colours, Paste, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
+            u"Restore Typed Text, Cut, Copy, Copy with Colours, Paste, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Line, Go To Match"_s);
         workbench.choose(u"Cut"_s);
         QCOMPARE(workbench.code().CodeText(), QString());
         QCOMPARE(
             enabled(workbench),
-            u"Undo, Restore Typed Text, Paste, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Match"_s);
+            u"Undo, Restore Typed Text, Paste, Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous Use, Select All, Known Words, Lines, Go To Line, Go To Match"_s);
     }
 
     void commandsHaveTheKeysOfTheWorkbench()
@@ -247,7 +246,8 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = ");
         workbench.key(Qt::Key_End);
         workbench.choose(u"Known Words"_s);
-        auto *list = workbench.code().findChild<ORVTListview::ReportList *>(u"ListView1"_s);
+        const auto *list = workbench.code().findChild<QListView *>(u"WordMatches"_s);
+        QVERIFY(list);
         QVERIFY(list->isVisible());
         workbench.choose(u"Known Words"_s);
         QVERIFY(!list->isVisible());
