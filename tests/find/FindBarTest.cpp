@@ -8,6 +8,10 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <ORVTListview/TextProvider.h>
+#include <ORVTListview/TranslatedTexts.h>
+
+#include <QtCore/QLocale>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
@@ -373,6 +377,38 @@ private Q_SLOTS:
         ToldResults::told.clear();
         host.press(Qt::Key_Return); // the same once more
         QCOMPARE(ToldResults::told, QStringList(u"Not found!"_s));
+    }
+
+    void speaksTheLanguageInForce()
+    {
+        BarHost host;
+        host.open(u"|ab ab"_s);
+        host.enter(u"ab"_s);
+        TranslatedTexts texts(QLocale(QLocale::German));
+        setTextProvider(&texts);
+        host.list->ReInitializeStrings();
+        QCOMPARE(host.told(), u"1 von 2"_s);
+        QCOMPARE(host.button("FindBarPrevious").toolTip(), u"Rückwärts suchen"_s);
+        QCOMPARE(host.field().currentText(), u"ab"_s);
+        setTextProvider(nullptr);
+    }
+
+    void twoEditorsShareTheSearchOnly()
+    {
+        BarHost host;
+        host.open(u"|ab ab"_s);
+        host.enter(u"ab"_s);
+        host.press(Qt::Key_Escape);
+        ORVListView other;
+        other.setListviewType(dsCode);
+        other.setCodeText(u"ab ab ab"_s);
+        other.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        other.codeView()->showFindBar(); // with the search of the first
+        auto *result = other.RTextBox()->findChild<QLabel *>(u"FindBarResult"_s);
+        QVERIFY(result);
+        QCOMPARE(result->text(), u"3 found"_s);
+        QVERIFY(!host.isBarShown());
     }
 
     void everyControlHasAName()

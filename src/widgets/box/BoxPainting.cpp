@@ -155,7 +155,7 @@ void BoxPainting::paintLine(QPainter &painter, const ShownLine &line, const QRec
     QList<QRectF> taken;
     for (const Piece &piece : pieces) {
         const QList<QRectF> places = placesOf(line, placeInLayout(piece.from, layout),
-                                              placeInLayout(piece.to, layout), toPixels);
+                                              placeInLayout(piece.to - 1, layout) + 1, toPixels);
         for (const QRectF &place : places) {
             if (piece.ground.isValid())
                 painter.fillRect(place, piece.ground);
@@ -173,7 +173,7 @@ void BoxPainting::paintLine(QPainter &painter, const ShownLine &line, const QRec
         const int from = placeInLayout(piece.from, layout);
         painter.setPen(piece.colour);
         for (const QGlyphRun &glyphs :
-             layout.glyphRuns(from, placeInLayout(piece.to, layout) - from))
+             layout.glyphRuns(from, placeInLayout(piece.to - 1, layout) + 1 - from))
             painter.drawGlyphRun(corner, glyphs);
     }
     painter.setPen(plain);
