@@ -49,8 +49,8 @@ private Q_SLOTS:
         QCOMPARE(all.join(u'\n').remove(u'&'),
                  u"File: Open Project…, Save Program, Quit\n"
                  "Edit: Undo, Redo, Restore Typed Text, Cut, Copy, Copy with Colours, Paste, "
-                  "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
-                  "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
+                 "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
+                 "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
                  "Program: Analyse, Compile, Results\n"
                  "Points: Read Values, Rename, Fit Columns, Hardware Overrides\n"
                  "View: Editor, Language"_s);

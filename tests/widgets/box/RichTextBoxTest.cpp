@@ -319,9 +319,8 @@ void RichTextBoxTest::cursorsMadeWhileTheTextGoesLive()
     int lines = box.document()->blockCount();
     connect(box.document(), &QTextDocument::blockCountChanged, &box,
             [&](int count) { lines = count; });
-    connect(box.document(), &QTextDocument::contentsChanged, &box, [&] {
-        made.emplace_back(box.document());
-    });
+    connect(box.document(), &QTextDocument::contentsChanged, &box,
+            [&] { made.emplace_back(box.document()); });
     set(box);
     QCOMPARE(lines, 1);
     QVERIFY(made.size() > 1);
