@@ -50,6 +50,18 @@ private:
             QTRY_VERIFY(!pause().isActive());
     }
 
+    // What is painted of the viewport.
+    struct Painted : QObject
+    {
+        QRegion region;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            if (event->type() == QEvent::Paint)
+                region += static_cast<QPaintEvent *>(event)->region();
+            return false;
+        }
+    };
+
 private Q_SLOTS:
     void init() override
     {
@@ -144,16 +156,7 @@ private Q_SLOTS:
     {
         show({{u"temp1"_s, u"1"_s}, {u"fan1"_s, u"2"_s}});
         const auto repainted = [this](const Values &values) {
-            struct Region : QObject
-            {
-                QRegion region;
-                bool eventFilter(QObject *, QEvent *event) override
-                {
-                    if (event->type() == QEvent::Paint)
-                        region += static_cast<QPaintEvent *>(event)->region();
-                    return false;
-                }
-            } watcher;
+            Painted watcher;
             QCoreApplication::processEvents();
             box().viewport()->installEventFilter(&watcher);
             pause().stop();
@@ -166,6 +169,23 @@ private Q_SLOTS:
         const QRegion one = repainted({{u"temp1"_s, u"1"_s}, {u"fan1"_s, u"3"_s}});
         QVERIFY(one.contains(m_host->placeOf(2).center()));
         QVERIFY(!one.contains(m_host->placeOf(0).center()));
+    }
+
+    void aKeyPaintsItsLineOnlyHoweverManyNamesThereAre()
+    {
+        Values values{{u"temp1"_s, u"1"_s}};
+        for (int i = 0; i < 10000; ++i)
+            values.insert(u"name"_s + QString::number(i), u"1"_s);
+        show(values);
+        box().setSelStart(1);
+        QCoreApplication::processEvents();
+        Painted watcher;
+        box().viewport()->installEventFilter(&watcher);
+        m_host->type(u"a"_s);
+        QCoreApplication::processEvents();
+        QVERIFY(watcher.region.contains(m_host->placeOf(0).center()));
+        QVERIFY(!watcher.region.contains(m_host->placeOf(2).center()));
+        QVERIFY(!pause().isActive()); // nor were the names read again
     }
 
     void linesOutOfSightAreNotLookedAt()
