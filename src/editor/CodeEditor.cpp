@@ -32,7 +32,7 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     , m_commands({*m_box, m_thread, m_undo, m_colouring, m_lineMoves}, m_editing.lines(),
                  m_editing.help(), m_words.popup())
     , m_view(*m_box, m_commands)
-    , m_wordListTips(list, m_view.d->hover)
+    , m_wordListTips(list, m_words.popup(), m_view.d->hover)
 {
     MessageBoxes::installAsDefault();
     m_box->setObjectName(u"RichTextBox1"_s);

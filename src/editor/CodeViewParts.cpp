@@ -37,10 +37,12 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     scrollMarks->addSource([this] { return problems.marks(); });
     QObject::connect(&commands.moves, &LineMoves::about, &problems, &Problems::holdLines);
     QObject::connect(&commands.moves, &LineMoves::done, &problems, &Problems::putBack);
+    QObject::connect(&commands.moves, &LineMoves::settled, &problems, &Problems::tellMoved);
     QObject::connect(&commands.moves, &LineMoves::about, &folds, &Folds::holdLines);
     QObject::connect(&commands.moves, &LineMoves::settled, &folds, &Folds::putBack);
     QObject::connect(&commands.moves, &LineMoves::about, &bookmarks, &Bookmarks::holdLines);
     QObject::connect(&commands.moves, &LineMoves::done, &bookmarks, &Bookmarks::putBack);
+    QObject::connect(&commands.moves, &LineMoves::settled, &bookmarks, &Bookmarks::tellMoved);
     QObject::connect(&problems, &Problems::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&bookmarks, &Bookmarks::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&found, &FoundMarks::marksChanged, scrollMarks, &ScrollMarks::refresh);

@@ -8,7 +8,23 @@
 #include "widgets/box/UserEditing.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <algorithm>
+#include <numeric>
+
 namespace ORVTListview {
+namespace {
+
+// No snapshot is taken of an empty program, so the step back begins at the one before it.
+bool empties(const CommandChange &change, const RichTextBox &box)
+{
+    const bool addsNothing = std::all_of(change.texts.begin(), change.texts.end(),
+                                         [](const auto &text) { return text.text.isEmpty(); });
+    const auto removed = [](qint32 sum, const TextPiece &piece) { return sum + piece.length; };
+    return addsNothing && std::accumulate(change.pieces.begin(), change.pieces.end(), qint32{0},
+                                          removed) == box.TextLength();
+}
+
+} // namespace
 
 bool mayGoIn(const RichTextBox &box)
 {
@@ -34,7 +50,7 @@ void CommandTools::carryOut(const CommandChange &change) const
         return;
     const MessagesLater later(thread.messages);
     const RichTextBox::Changing changing(box);
-    if (!undo.isShownInRing())
+    if (empties(change, box) || !undo.isShownInRing())
         undo.PushUndoSnapshot();
     const KeptView view(box);
     Q_EMIT moves.about(change.moved);

@@ -44,7 +44,7 @@ struct CommandTools
     // Whether a command may begin; what is being typed is finished then.
     bool begin() const;
 
-    // One change with one snapshot; the box shows the lines that it showed. The host
+    // One change and one step of undo; the box shows the lines that it showed. The host
     // hears of it at the end, and may destroy the editor.
     void carryOut(const CommandChange &change) const;
 };

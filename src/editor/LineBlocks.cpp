@@ -106,7 +106,8 @@ void LineBlocks::duplicate() const
     if (!m_tools.begin())
         return;
     const RichTextBox &box = m_tools.box;
-    const LineSpan lines = selectedLines(box);
+    LineSpan lines = selectedLines(box);
+    lines.last = lastOfFold(box, lines.last);
     ColouredText copy = lineBreak();
     append(copy, coloured(lines));
     m_tools.carryOut({{{lineEnd(box, lines.last), 0}}, {copy}, {}, selectionOf(box)});
@@ -117,7 +118,8 @@ void LineBlocks::remove() const
     if (!m_tools.begin())
         return;
     const RichTextBox &box = m_tools.box;
-    const LineSpan lines = selectedLines(box);
+    LineSpan lines = selectedLines(box);
+    lines.last = lastOfFold(box, lines.last);
     const qint32 offset = offsetInLine(box, selectionOf(box).caret);
     qint32 start = box.lineStart(lines.first);
     qint32 end = lineEnd(box, lines.last);

@@ -198,6 +198,20 @@ void PopupWordList::stand(const QString &word)
     face().choose();
     if (face().chosen() < 0)
         view.scrollToTop();
+    Q_EMIT placed();
+}
+
+QRect PopupWordList::chosenOnScreen() const
+{
+    const WordListFace &shown = face();
+    if (!isShown() || shown.chosen() < 0)
+        return {};
+    const QAbstractItemView &view = const_cast<PopupWordList *>(this)->face().view();
+    const QRect row = view.visualRect(view.model()->index(shown.chosen(), 0));
+    if (!view.viewport()->rect().intersects(row))
+        return {};
+    const int top = view.viewport()->mapToGlobal(row.topLeft()).y();
+    return {view.geometry().left(), top, view.width(), row.height()};
 }
 
 // The caret stands behind what was typed, and nobody wants anything else of the list.
@@ -232,6 +246,7 @@ void PopupWordList::close()
     m_placing.stop();
     QApplication::instance()->removeEventFilter(this);
     face().view().hide();
+    Q_EMIT closed();
 }
 
 void PopupWordList::shut()
@@ -390,10 +405,10 @@ bool PopupWordList::isWordInSight() const
 
 void PopupWordList::followOnScreen()
 {
-    if (canStand() && isWordInSight())
-        place();
-    else
-        close();
+    if (!canStand() || !isWordInSight())
+        return close();
+    place();
+    Q_EMIT placed();
 }
 
 // What happens to the box itself.

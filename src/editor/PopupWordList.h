@@ -46,6 +46,9 @@ public:
 
     bool isShown() const;
 
+    // The chosen entry over the list's whole width, on the screen; empty without one.
+    QRect chosenOnScreen() const;
+
     // Opens it for the word at the caret, which chooses the first entry with that
     // beginning; none for an empty word. The focus goes to the box. Where the user
     // cannot type it stays closed.
@@ -77,6 +80,10 @@ public:
 
 Q_SIGNALS:
     void picked(const QString &word, qint32 colour);
+
+    // The open list stands somewhere, or somewhere else; and it is gone.
+    void placed();
+    void closed();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -1,10 +1,10 @@
 #include "editor/WordListTips.h"
 
+#include "editor/PopupWordList.h"
 #include "editor/view/HoverTips.h"
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ReportList.h>
 
-#include <QtCore/QEvent>
 #include <QtCore/QItemSelectionModel>
 #include <QtCore/QTimer>
 
@@ -14,8 +14,9 @@ namespace ORVTListview {
 
 using namespace std::chrono_literals;
 
-WordListTips::WordListTips(ReportList &list, HoverTips &tips)
+WordListTips::WordListTips(ReportList &list, PopupWordList &words, HoverTips &tips)
     : m_list(list)
+    , m_words(words)
     , m_tips(tips)
     , m_rest(new QTimer(&list))
 {
@@ -25,54 +26,30 @@ WordListTips::WordListTips(ReportList &list, HoverTips &tips)
     connect(m_rest, &QTimer::timeout, this, &WordListTips::tell);
     connect(m_list.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &WordListTips::noteChoice);
-    m_list.installEventFilter(this);
-}
-
-// Else it is the host's table.
-bool WordListTips::isOpen() const
-{
-    return m_list.isWindow() && m_list.isVisible();
+    connect(&m_words, &PopupWordList::placed, this, &WordListTips::noteChoice);
+    connect(&m_words, &PopupWordList::closed, this, &WordListTips::noteClosed);
 }
 
 void WordListTips::noteChoice()
 {
-    if (!isOpen())
+    if (!m_words.isShown())
         return;
     m_tips.hide();
     m_rest->start();
 }
 
-void WordListTips::tell()
+void WordListTips::noteClosed()
 {
-    const ListItem *item = isOpen() ? m_list.SelectedItem() : nullptr;
-    if (!item)
-        return;
-    const QRect row = m_list.visualRect(m_list.model()->index(item->Index() - 1, 0));
-    if (!m_list.viewport()->rect().intersects(row))
-        return;
-    const QPoint top = m_list.viewport()->mapToGlobal(row.topLeft());
-    m_tips.tellBeside({m_list.geometry().left(), top.y(), m_list.width(), row.height()},
-                      item->Text());
+    m_rest->stop();
+    m_tips.hide();
 }
 
-bool WordListTips::eventFilter(QObject *watched, QEvent *event)
+void WordListTips::tell()
 {
-    switch (event->type()) {
-    case QEvent::Show:
-    case QEvent::Move:
-    case QEvent::Resize:
-        noteChoice();
-        break;
-    case QEvent::Hide:
-        if (m_list.isWindow()) {
-            m_rest->stop();
-            m_tips.hide();
-        }
-        break;
-    default:
-        break;
-    }
-    return QObject::eventFilter(watched, event);
+    const ListItem *item = m_words.isShown() ? m_list.SelectedItem() : nullptr;
+    const QRect entry = m_words.chosenOnScreen();
+    if (item && !entry.isEmpty())
+        m_tips.tellBeside(entry, item->Text());
 }
 
 } // namespace ORVTListview

@@ -7,26 +7,25 @@ class QTimer;
 namespace ORVTListview {
 
 class HoverTips;
+class PopupWordList;
 class ReportList;
 
 // Has the card of the chosen entry shown beside the open word list, once the choice has
-// rested.
+// rested. Whatever shows the words, the chosen one is selected in the control's list.
 class WordListTips final : public QObject
 {
     Q_OBJECT
 
 public:
-    WordListTips(ReportList &list, HoverTips &tips);
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    WordListTips(ReportList &list, PopupWordList &words, HoverTips &tips);
 
 private:
-    bool isOpen() const;
     void noteChoice();
+    void noteClosed();
     void tell();
 
     ReportList &m_list;
+    PopupWordList &m_words;
     HoverTips &m_tips;
     QTimer *const m_rest; // the list's, named ChoiceRest
 };

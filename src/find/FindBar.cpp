@@ -71,8 +71,10 @@ void FindBar::connectControls()
     connect(m_replaceAll, &QToolButton::clicked, this,
             [this] { runShowingFailure([this] { replaceAll(); }); });
     connect(&m_marks.places(), &FoundPlaces::changed, this, [this] {
+        const QPointer<FindBar> self(this); // who hears of the selection may do anything
         seek();
-        showCount();
+        if (self)
+            showCount();
     });
     connect(&m_box, &RichTextBox::cursorPositionChanged, this, &FindBar::followCaret);
     connect(&m_box, &RichTextBox::selectionChanged, this, &FindBar::followCaret);
@@ -104,6 +106,7 @@ void FindBar::ask()
     showTexts();
     noteReadOnly();
     open();
+    m_isSeeking = false;
     m_origin = m_box.textCursor();
     m_marks.places().look(asInBox(searched()), how(), m_origin.selectionStart());
     m_wanted->setFocus(Qt::ShortcutFocusReason);
@@ -162,14 +165,19 @@ void FindBar::seek()
 
 void FindBar::select(int from, int to)
 {
-    const QScopedValueRollback own(m_isSelecting, true);
     QTextCursor caret = m_box.textCursor();
     if (caret.anchor() == from && caret.position() == to)
         return;
-    const KeptView view(m_box);
-    caret.setPosition(from);
-    caret.setPosition(to, QTextCursor::KeepAnchor);
-    m_box.setTextCursor(caret);
+    const QPointer<FindBar> self(this);
+    m_isSelecting = true;
+    {
+        const KeptView view(m_box);
+        caret.setPosition(from);
+        caret.setPosition(to, QTextCursor::KeepAnchor);
+        m_box.setTextCursor(caret);
+    }
+    if (self)
+        m_isSelecting = false;
 }
 
 void FindBar::followCaret()
@@ -281,9 +289,10 @@ void FindBar::act(const QKeyEvent &key)
 // F3 is the host's when it has a shortcut for it.
 void FindBar::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_F3)
-        act(*event);
-    EditorBar::keyPressEvent(event);
+    if (event->key() != Qt::Key_F3)
+        return EditorBar::keyPressEvent(event);
+    event->accept();
+    act(*event); // after which the bar may be gone
 }
 
 QString FindBar::countText() const

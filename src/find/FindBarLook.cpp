@@ -100,7 +100,7 @@ void FindBar::showTexts()
     nameButton(*m_previous, Localise(u"Find Previous"_s), {});
     nameButton(*m_next, Localise(u"Find Next"_s), {});
     m_more->setText(Localise(u"..."_s));
-    nameButton(*m_more, Localise(u"Replace"_s), {});
+    nameButton(*m_more, Localise(u"Find - Replace"_s), {});
     nameButton(*m_close, Localise(u"Close"_s), {});
     m_replace->setText(Localise(u"Replace"_s));
     m_replaceAll->setText(Localise(u"Replace All"_s));

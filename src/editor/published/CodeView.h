@@ -201,8 +201,8 @@ public:
     Q_INVOKABLE bool findNextAtCaret();
     Q_INVOKABLE bool findPreviousAtCaret();
 
-    // What the editor does for one who types, all of it off at first. It changes only a
-    // line that the user has typed on, and takes no snapshot of its own.
+    // What the editor does for one who types, all of it off at first. Indents, Home and
+    // blanks change only a line that the user has typed on, and take no snapshot.
 
     // Enter behind an IF or ELSE begins the next line one indentUnit deeper, and a finished
     // ELSE or ENDIF that begins its line comes below its IF.
@@ -226,7 +226,7 @@ public:
     void setWordListOpensItself(bool on);
 
     // What that list shows beside words, by their names in any letter case; none at first.
-    void setWordDescriptions(const QHash<QString, QString> &descriptions);
+    Q_INVOKABLE void setWordDescriptions(const QHash<QString, QString> &descriptions);
 
 Q_SIGNALS:
     void lineNumbersVisibleChanged(bool visible);

@@ -85,15 +85,20 @@ void Bookmarks::holdLines(const MovedLines &lines)
 
 void Bookmarks::putBack(const MovedLines &lines)
 {
-    if (m_held.size() != m_marks.size())
+    const QList<int> held = std::exchange(m_held, {});
+    if (held.size() != m_marks.size())
         return;
     for (qsizetype i = 0; i < m_marks.size(); ++i) {
         const int line =
-            lines.contains(m_held[i]) ? lines.placeOf(m_held[i]) : m_marks[i].line().blockNumber();
+            lines.contains(held[i]) ? lines.placeOf(held[i]) : m_marks[i].line().blockNumber();
         m_marks[i] = Mark(m_box.document()->findBlockByNumber(line));
     }
-    m_held.clear();
-    Q_EMIT changed();
+}
+
+void Bookmarks::tellMoved(const MovedLines &lines)
+{
+    if (!lines.from.isEmpty() && !m_marks.isEmpty())
+        Q_EMIT changed();
 }
 
 bool Bookmarks::goToNext()

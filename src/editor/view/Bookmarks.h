@@ -31,6 +31,7 @@ public:
     // When lines change places: before, and when they have.
     void holdLines(const MovedLines &lines);
     void putBack(const MovedLines &lines);
+    void tellMoved(const MovedLines &lines);
 
     QList<LineMark> marks() const;
     static QColor colourOn(const QColor &ground);

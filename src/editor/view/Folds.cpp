@@ -164,6 +164,8 @@ bool Folds::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         m_isStepping = key == Qt::Key_Left || key == Qt::Key_Right;
+    } else if (event->type() == QEvent::KeyRelease) {
+        m_isStepping = false; // it may have moved nothing
     }
     return QObject::eventFilter(watched, event);
 }
@@ -237,11 +239,13 @@ void Folds::holdLines(const MovedLines &lines)
 void Folds::putBack(const MovedLines &lines)
 {
     const QTextDocument &text = *m_box.document();
+    const QList<int> places = m_held.isEmpty() ? QList<int>() : lines.places();
+    const auto placeOf = [&](int line) { return places[line - lines.first]; };
     for (const auto &[head, last] : std::exchange(m_held, {})) {
-        const int place = lines.placeOf(head);
+        const int place = placeOf(head);
         bool isWhole = true;
         for (int line = head; line <= last && isWhole; ++line)
-            isWhole = lines.placeOf(line) - place == line - head;
+            isWhole = placeOf(line) - place == line - head;
         if (isWhole)
             show({text.findBlockByNumber(place + 1), text.findBlockByNumber(place + last - head)},
                  false);

@@ -4,6 +4,7 @@
 #include "editor/view/LinePlaces.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/ViewColours.h"
+#include "widgets/look/CellText.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QTextDocument>
@@ -61,8 +62,11 @@ QList<QRectF> FoundMarks::placesIn(const ShownLine &line) const
     QList<QRectF> places;
     QTextBlock begin = line.block;
     for (int i = 0; i <= m_places.lineEnds() && begin.isValid(); ++i, begin = begin.previous()) {
-        for (const int place : m_places.on(begin))
-            places += placesOf(line, {place - line.block.position(), m_places.length()});
+        for (const int place : m_places.on(begin)) {
+            const int start = place - line.block.position();
+            if (start < longestLine)
+                places += placesOf(line, {start, m_places.length()});
+        }
     }
     return places;
 }

@@ -17,6 +17,15 @@ struct MovedLines
     {
         return contains(line) ? first + static_cast<int>(from.indexOf(line - first)) : line;
     }
+
+    // Where each of them has come to, from the first on.
+    QList<int> places() const
+    {
+        QList<int> places(from.size());
+        for (qsizetype i = 0; i < from.size(); ++i)
+            places[from[i]] = first + static_cast<int>(i);
+        return places;
+    }
 };
 
 // Tells what is kept beside the text that lines change places; the text itself is taken

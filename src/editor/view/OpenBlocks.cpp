@@ -22,6 +22,7 @@ OpenBlocks::OpenBlocks(QTextDocument &text)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &OpenBlocks::lookOn);
+    connect(&m_text, &QObject::destroyed, &m_timer, &QTimer::stop);
 }
 
 void OpenBlocks::start()

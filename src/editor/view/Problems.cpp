@@ -109,20 +109,26 @@ void Problems::holdLines(const MovedLines &lines)
 
 void Problems::putBack(const MovedLines &lines)
 {
-    if (m_held.size() != m_kept.size())
+    QList<Problem> held = std::exchange(m_held, {});
+    if (held.isEmpty() || held.size() != m_kept.size())
         return;
     for (qsizetype i = 0; i < m_kept.size(); ++i) {
-        const int line = m_held[i].line - 1;
-        if (!lines.contains(line) || (m_kept[i].hasText && m_held[i].length == 0))
+        const int line = held[i].line - 1;
+        if (!lines.contains(line) || (m_kept[i].hasText && held[i].length == 0))
             continue;
-        m_held[i].line = lines.placeOf(line) + 1;
-        m_kept[i].place = placeOf(m_held[i], *m_box.document());
-        if (m_held[i].length == 0)
+        held[i].line = lines.placeOf(line) + 1;
+        m_kept[i].place = placeOf(held[i], *m_box.document());
+        if (held[i].length == 0)
             m_kept[i].place.setPosition(m_kept[i].place.anchor());
     }
-    m_held.clear();
     sort();
-    Q_EMIT changed();
+}
+
+// When the caret is in its place, too.
+void Problems::tellMoved(const MovedLines &lines)
+{
+    if (!lines.from.isEmpty() && !m_kept.isEmpty())
+        Q_EMIT changed();
 }
 
 // With the whole text its problems go; what shows them follows when the text is whole.

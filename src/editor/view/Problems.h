@@ -41,6 +41,7 @@ public:
     // When lines change places: before, and when they have.
     void holdLines(const MovedLines &lines);
     void putBack(const MovedLines &lines);
+    void tellMoved(const MovedLines &lines);
 
     QList<LineMark> marks() const;
     static QColor colourOf(ProblemSeverity severity, const QColor &ground);

@@ -151,11 +151,15 @@ void BoxPainting::paintLine(QPainter &painter, const ShownLine &line, const QRec
     const QTransform toPixels = painter.deviceTransform();
     const QPointF corner = line.place.topLeft();
     const Ranges selections = selectionsIn(line.block);
-    const QList<Piece> pieces = colouredPieces(line.block, selections);
+    QList<Piece> pieces;
     QList<QRectF> taken;
-    for (const Piece &piece : pieces) {
+    for (const Piece &piece : colouredPieces(line.block, selections)) {
         const QList<QRectF> places = placesOf(line, placeInLayout(piece.from, layout),
                                               placeInLayout(piece.to - 1, layout) + 1, toPixels);
+        const auto isSeen = [&](const QRectF &place) { return place.intersects(area); };
+        if (std::none_of(places.begin(), places.end(), isSeen))
+            continue;
+        pieces.append(piece);
         for (const QRectF &place : places) {
             if (piece.ground.isValid())
                 painter.fillRect(place, piece.ground);

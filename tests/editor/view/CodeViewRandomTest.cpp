@@ -260,7 +260,8 @@ private:
         const int line = goSomewhere();
         if (count() > 120)
             return;
-        note(u"duplicate"_s);
+        note(u"unfold, duplicate"_s);
+        view().unfoldAll();
         view().duplicateLines();
         m_lines.insert(line + 1, {m_lines[line].text});
     }
@@ -269,7 +270,8 @@ private:
         const int line = goSomewhere();
         if (count() < 5)
             return;
-        note(u"delete"_s);
+        note(u"unfold, delete"_s);
+        view().unfoldAll();
         view().deleteLines();
         m_lines.removeAt(line);
     }
