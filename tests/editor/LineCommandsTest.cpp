@@ -47,7 +47,7 @@ private:
             QTest::newRow(name) << command;
     }
     // A text that each of them changes.
-    static QString changeable() { return u"IF Temp1\nd |cC\nB (x|)\na"_s; }
+    static QString changeable() { return u"IF Temp1\nd |cC\nB ( x| )\na"_s; }
 
 private Q_SLOTS:
     void init() override
@@ -225,6 +225,22 @@ private Q_SLOTS:
             m_host->key('Y', Qt::ControlModifier);
             QCOMPARE(box().Text(), texts[i]);
         }
+    }
+
+    void undoBringsBackAProgramThatACommandEmptied()
+    {
+        m_host->list->ClearUndoHistory();
+        m_host->setText(u"a|"_s);
+        view().duplicateLines();
+        const QString before = box().Text();
+        m_host->key('A', Qt::ControlModifier);
+        view().deleteLines();
+        QCOMPARE(box().Text(), QString());
+        m_host->key('Z', Qt::ControlModifier);
+        QCOMPARE(box().Text(), before);
+        m_host->key('Z', Qt::ControlModifier);
+        m_host->key('Z', Qt::ControlModifier);
+        QCOMPARE(box().Text(), u"a"_s);
     }
 
     void nothingToDoIsNoStep()

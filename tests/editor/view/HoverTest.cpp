@@ -449,6 +449,27 @@ private Q_SLOTS:
         QVERIFY(box().hasFocus());
     }
 
+    void theChosenEntryOfAListThatOpensItselfIsAskedAbout()
+    {
+        answerByCard();
+        view().setWordListOpensItself(true);
+        m_host->list->setCodeText({});
+        m_host->type(u"tem"_s);
+        auto &choice = *m_host->wordList().findChild<QTimer *>(u"ChoiceRest"_s);
+        QVERIFY(!m_host->wordList().isVisible());
+        QVERIFY(choice.isActive());
+        choice.start(0);
+        QTRY_VERIFY(isShown());
+        QCOMPARE(m_asked, QStringList{m_host->wordList().SelectedItem()->Text() + u":1"_s});
+        m_host->key(Qt::Key_Down);
+        QVERIFY(!isShown());
+        choice.start(0);
+        QTRY_VERIFY(isShown());
+        m_host->key(Qt::Key_Escape);
+        QVERIFY(!isShown());
+        QVERIFY(!choice.isActive());
+    }
+
     void theWordListMayGoWhileTheHostAnswers()
     {
         answerWith([this](HoverAnswer &answer) {
