@@ -1,6 +1,7 @@
 #include <ORVTListview/ORVDataCombo.h>
 
 #include "members/InputEvents.h"
+#include "members/TextMembers.h"
 
 namespace ORVTListview {
 
@@ -24,8 +25,6 @@ QList<Member> comboMembers()
         method<&Combo::ResetbackColor>(u"ResetbackColor", u"Color"),
         method<&Combo::UpdateListWidth>(u"UpdateListWidth"),
         writeOnly<&Combo::setFormParentHandle>(u"FormParentHandle"),
-        method<&Combo::InitStrings>(u"InitStrings"),
-        method<&Combo::ReInitializeStrings>(u"ReInitializeStrings"),
     };
 }
 
@@ -39,7 +38,8 @@ QList<Member> comboEvents()
 
 const MemberTable &ORVDataCombo::Members() const
 {
-    static const MemberTable table(QStringLiteral("ORVDataCombo"), comboMembers() + comboEvents());
+    static const MemberTable table(QStringLiteral("ORVDataCombo"),
+                                   comboMembers() + textMembers<Combo>() + comboEvents());
     return table;
 }
 

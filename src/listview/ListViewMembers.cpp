@@ -1,6 +1,7 @@
 #include <ORVTListview/ORVListView.h>
 
 #include "members/InputEvents.h"
+#include "members/TextMembers.h"
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/DataObject.h>
@@ -35,8 +36,6 @@ QList<Member> shellMembers()
         readWrite<&List::Caption, &List::setCaption>(u"Caption"),
         readWrite<&List::Enabled, &List::setEnabled>(u"Enabled"),
         readWrite<&List::MultiSelect, &List::setMultiSelect>(u"MultiSelect"),
-        method<&List::InitStrings>(u"InitStrings"),
-        method<&List::ReInitializeStrings>(u"ReInitializeStrings"),
     };
 }
 
@@ -134,8 +133,9 @@ QList<Member> hostEvents()
 const MemberTable &ORVListView::Members() const
 {
     static const MemberTable table(QStringLiteral("ORVListView"),
-                                   shellMembers() + rowMembers() + editorMembers() +
-                                       commandMembers() + listEvents() + hostEvents());
+                                   shellMembers() + textMembers<List>() + rowMembers() +
+                                       editorMembers() + commandMembers() + listEvents() +
+                                       hostEvents());
     return table;
 }
 

@@ -1,6 +1,7 @@
 #include <ORVTListview/ORVRichText.h>
 
 #include "members/InputEvents.h"
+#include "members/TextMembers.h"
 
 namespace ORVTListview {
 
@@ -25,8 +26,6 @@ QList<Member> shellMembers()
         method<&Shell::GetData>(u"GetData"),
         method<&Shell::ValidateTextColor>(u"ValidateTextColor"),
         method<&Shell::ReloadData>(u"ReloadData", u"Data"),
-        method<&Shell::InitStrings>(u"InitStrings"),
-        method<&Shell::ReInitializeStrings>(u"ReInitializeStrings"),
     };
 }
 
@@ -56,8 +55,9 @@ QList<Member> hostEvents()
 
 const MemberTable &ORVRichText::Members() const
 {
-    static const MemberTable table(QStringLiteral("ORVRichText"),
-                                   shellMembers() + inputEvents() + hostEvents());
+    static const MemberTable table(QStringLiteral("ORVRichText"), shellMembers() +
+                                                                      textMembers<Shell>() +
+                                                                      inputEvents() + hostEvents());
     return table;
 }
 

@@ -1,6 +1,7 @@
 #include <ORVTListview/ORVTreeview.h>
 
 #include "members/InputEvents.h"
+#include "members/TextMembers.h"
 
 namespace ORVTListview {
 
@@ -18,8 +19,6 @@ QList<Member> treeMembers()
         readWrite<&Tree::SelectedItem, &Tree::setSelectedItem>(u"SelectedItem"),
         method<&Tree::HitTest>(u"HitTest", u"X", u"Y"),
         writeOnly<&Tree::setIsSqrtSupported>(u"IsSqrtSupported"),
-        method<&Tree::InitStrings>(u"InitStrings"),
-        method<&Tree::ReInitializeStrings>(u"ReInitializeStrings"),
         method<&Tree::OLEDrag>(u"OLEDrag"),
     };
 }
@@ -74,7 +73,7 @@ QList<Member> events()
 const MemberTable &ORVTreeview::Members() const
 {
     static const MemberTable table(QStringLiteral("ORVTreeview"),
-                                   treeMembers() + pageMembers() + events());
+                                   treeMembers() + textMembers<Tree>() + pageMembers() + events());
     return table;
 }
 
