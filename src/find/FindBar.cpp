@@ -27,15 +27,6 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool isEnter(const QKeyEvent &key)
-{
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-}
-
-} // namespace
-
 FindBar::FindBar(RichTextBox &box, FoundMarks &marks, const Acts &acts)
     : EditorBar(box, BoxLayers::of(box))
     , m_box(box)
@@ -44,14 +35,13 @@ FindBar::FindBar(RichTextBox &box, FoundMarks &marks, const Acts &acts)
 {
     setObjectName(u"FindBar"_s);
     auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(6, 3, 6, 3);
+    rows->setContentsMargins(inside);
     rows->setSpacing(3);
     rows->addLayout(makeSearchRow());
     rows->addWidget(makeReplaceRow());
     m_replaceRow->hide();
     showTexts();
     connectControls();
-    setFocusPolicy(Qt::ClickFocus); // else a click on a button gives it to the box
     setFocusProxy(m_wanted);
 }
 
