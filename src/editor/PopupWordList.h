@@ -83,7 +83,6 @@ protected:
 
 private:
     WordListFace &face();
-    const WordListFace &face() const;
     bool canStand() const;
     bool canOpenItself() const;
     void stand(const QString &word);
@@ -94,7 +93,7 @@ private:
     void rememberTableManner();
     bool pickChosen();
     void move(qint16 keyCode);
-    int rowsShown() const;
+    int rowsShown();
     QRect wordOnScreen() const;
     void place();
     void placeSoon();
