@@ -39,11 +39,7 @@ FindBar::FindBar(RichTextBox &box, FoundMarks &marks, const Acts &acts)
     rows->setContentsMargins(inside);
     rows->setSpacing(3);
     rows->addLayout(makeSearchRow());
-    m_replaceRow = new ReplaceRow(*this);
-    rows->addWidget(m_replaceRow);
-    m_replaceRow->hide();
-    for (QWidget *control : m_replaceRow->controls())
-        watch(*control);
+    rows->addWidget(makeReplaceRow());
     showTexts();
     connectControls();
     setFocusProxy(m_wanted);

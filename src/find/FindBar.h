@@ -55,6 +55,7 @@ private:
 
     QToolButton *addButton(const QString &name, const QString &text, QBoxLayout &row);
     QLayout *makeSearchRow();
+    QWidget *makeReplaceRow();
     void connectControls();
 
     QString searched() const;

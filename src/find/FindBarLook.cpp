@@ -46,6 +46,15 @@ QLayout *FindBar::makeSearchRow()
     return row;
 }
 
+QWidget *FindBar::makeReplaceRow()
+{
+    m_replaceRow = new ReplaceRow(*this);
+    m_replaceRow->hide();
+    for (QWidget *control : m_replaceRow->controls())
+        watch(*control);
+    return m_replaceRow;
+}
+
 void FindBar::showTexts()
 {
     setAccessibleName(Localise(u"Find"_s));
