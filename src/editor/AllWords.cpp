@@ -3,30 +3,15 @@
 #include "editor/rules/language/PopupWords.h"
 #include "widgets/look/TextWidths.h"
 #include <ORVTListview/ListItem.h>
-#include <ORVTListview/ListItems.h>
 #include <ORVTListview/ReportList.h>
 
 #include <QtCore/QAbstractItemModel>
-#include <QtWidgets/QHeaderView>
-
-#include <algorithm>
 
 namespace ORVTListview {
 
-AllWords::AllWords(ReportList &list, const PopupWords &words)
-    : m_list(list)
-    , m_words(words)
-{
-    const auto forget = [this] { m_measured = 0; };
-    const QAbstractItemModel *rows = m_list.model();
-    connect(rows, &QAbstractItemModel::modelReset, this, forget);
-    connect(rows, &QAbstractItemModel::rowsInserted, this, forget);
-    connect(rows, &QAbstractItemModel::dataChanged, this, forget);
-}
-
 QAbstractItemView &AllWords::view()
 {
-    return m_list;
+    return list();
 }
 
 bool AllWords::show(const QString &word)
@@ -37,8 +22,8 @@ bool AllWords::show(const QString &word)
 
 void AllWords::choose()
 {
-    const qsizetype exact = m_word.isEmpty() ? -1 : m_words.find(m_word);
-    const qsizetype place = exact >= 0 || m_word.isEmpty() ? exact : m_words.findBeginning(m_word);
+    const qsizetype exact = m_word.isEmpty() ? -1 : known().find(m_word);
+    const qsizetype place = exact >= 0 || m_word.isEmpty() ? exact : known().findBeginning(m_word);
     choose(static_cast<int>(place));
     if (const int row = chosen(); row >= 0)
         showFirst(row); // what else begins so comes behind it
@@ -46,37 +31,26 @@ void AllWords::choose()
 
 void AllWords::showFirst(int row)
 {
-    m_list.scrollTo(m_list.model()->index(row, 0), ReportList::PositionAtTop);
+    list().scrollTo(list().model()->index(row, 0), ReportList::PositionAtTop);
 }
 
-// The host may have taken rows out of the list or put its own there.
 void AllWords::choose(int row)
 {
-    m_list.goToRow(row < rows() ? row + 1 : 0); // 0 chooses none
+    selectInList(row);
 }
 
 int AllWords::chosen() const
 {
-    const ListItem *item = m_list.SelectedItem();
+    const ListItem *item = list().SelectedItem();
     return item ? item->Index() - 1 : -1;
-}
-
-int AllWords::rows() const
-{
-    return m_list.ListItems()->Count();
-}
-
-int AllWords::rowHeight() const
-{
-    return m_list.verticalHeader()->defaultSectionSize();
 }
 
 int AllWords::widestRow() const
 {
-    TextWidths widths(m_list.font());
+    TextWidths widths(list().font());
     int widest = 0;
     int row = 0;
-    const QAbstractItemModel &rows = *m_list.model();
+    const QAbstractItemModel &rows = *list().model();
     for (int i = 0; i < rows.rowCount(); ++i) {
         const int before = widest;
         widths.widen(widest, rows.index(i, 0).data().toString());
@@ -86,19 +60,19 @@ int AllWords::widestRow() const
     return row;
 }
 
-int AllWords::wantedWidth()
+void AllWords::measure()
 {
-    if (m_measured == 0 || m_measuredIn != m_list.font()) {
-        m_measuredIn = m_list.font();
-        m_measured = m_list.sizeHintForIndex(m_list.model()->index(widestRow(), 0)).width();
-    }
-    const int letter = m_list.fontMetrics().averageCharWidth();
-    return std::clamp(m_measured, fewestLetters * letter, mostLetters * letter);
+    m_width = list().sizeHintForIndex(list().model()->index(widestRow(), 0)).width();
+}
+
+int AllWords::rowWidth()
+{
+    return limited(m_width);
 }
 
 void AllWords::fit(int width)
 {
-    m_list.setColumnWidth(0, width);
+    list().setColumnWidth(0, width);
 }
 
 } // namespace ORVTListview

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtWidgets/QFrame>
+#include "editor/view/EditorBar.h"
 
 class QLabel;
 class QSpinBox;
@@ -10,9 +10,9 @@ namespace ORVTListview {
 class CaretCommands;
 class RichTextBox;
 
-// A field at the bottom of an editor, over its text, that asks for a line. Enter goes
-// there, Esc and whatever else takes the focus closes it; then the editor has the focus.
-class GoToLineBar final : public QFrame
+// Asks for a line of an editor. Enter goes there, Esc and whatever else takes the focus
+// closes it.
+class GoToLineBar final : public EditorBar
 {
     Q_OBJECT
 
@@ -23,17 +23,12 @@ public:
     void ask();
 
 protected:
-    bool event(QEvent *event) override;
+    void showTexts() override;
+    bool isOwnKey(const QKeyEvent &key) const override;
+    void act(const QKeyEvent &key) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void changeEvent(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void showTexts();
-    void watchBox(const QObject &watched, const QEvent &event);
-    void place();
-    void close(bool goes);
-
     RichTextBox &m_box;
     const CaretCommands &m_commands;
     QLabel *m_label;

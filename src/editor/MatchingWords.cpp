@@ -49,16 +49,10 @@ QStringList textsOf(const QAbstractItemModel &entries)
 } // namespace
 
 MatchingWords::MatchingWords(ReportList &list, const PopupWords &words)
-    : m_list(list)
-    , m_words(words)
+    : WordListFace(list, words)
     , m_model(*list.model(), {[this](const QString &text) { return kindOf(text); },
                               [this](const QString &text) { return descriptionOf(text); }})
 {
-    const auto forget = [this] { m_isMeasured = false; };
-    const QAbstractItemModel *entries = list.model();
-    connect(entries, &QAbstractItemModel::modelReset, this, forget);
-    connect(entries, &QAbstractItemModel::rowsInserted, this, forget);
-    connect(entries, &QAbstractItemModel::dataChanged, this, forget);
 }
 
 MatchingWords::~MatchingWords()
@@ -68,7 +62,7 @@ MatchingWords::~MatchingWords()
 
 void MatchingWords::makeView()
 {
-    m_view = new QListView(m_list.parentWidget());
+    m_view = new QListView(list().parentWidget());
     m_view->setObjectName(u"WordMatches"_s);
     m_view->setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint);
     m_view->setAttribute(Qt::WA_ShowWithoutActivating);
@@ -80,10 +74,11 @@ void MatchingWords::makeView()
     m_view->setItemDelegate(&m_delegate);
     m_view->setModel(&m_model);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex &current) { selectInList(current.row()); });
+            [this](const QModelIndex &current) { selectEntryOf(current.row()); });
     // Later: who takes a word may destroy the view.
     connect(m_view, &QListView::doubleClicked, this, &MatchingWords::doubleClicked,
             Qt::QueuedConnection);
+    forgetWidths(); // it has another font
 }
 
 QAbstractItemView &MatchingWords::view()
@@ -123,13 +118,12 @@ void MatchingWords::choose(int row)
 void MatchingWords::mark(int row)
 {
     view().setCurrentIndex(m_model.index(row));
-    selectInList(row);
+    selectEntryOf(row);
 }
 
-void MatchingWords::selectInList(int row)
+void MatchingWords::selectEntryOf(int row)
 {
-    const int entry = m_model.entryOf(row);
-    m_list.goToRow(entry < m_list.ListItems()->Count() ? entry + 1 : 0); // 0 chooses none
+    selectInList(m_model.entryOf(row));
 }
 
 int MatchingWords::chosen() const
@@ -137,20 +131,10 @@ int MatchingWords::chosen() const
     return m_view ? m_view->currentIndex().row() : -1;
 }
 
-int MatchingWords::rows() const
-{
-    return m_model.rowCount();
-}
-
-int MatchingWords::rowHeight() const
-{
-    return m_list.verticalHeader()->defaultSectionSize();
-}
-
 QString MatchingWords::kindOf(const QString &text) const
 {
-    const qsizetype place = m_words.find(text);
-    return place < 0 ? QString() : Localise(nameOf(m_words.words()[place].wordClass));
+    const qsizetype place = known().find(text);
+    return place < 0 ? QString() : Localise(nameOf(known().words()[place].wordClass));
 }
 
 QString MatchingWords::descriptionOf(const QString &text) const
@@ -163,30 +147,25 @@ void MatchingWords::setDescriptions(const QHash<QString, QString> &descriptions)
     m_descriptions.clear();
     for (auto word = descriptions.begin(); word != descriptions.end(); ++word)
         m_descriptions.insert(foldedCase(word.key()), word.value());
-    m_isMeasured = false;
+    forgetWidths();
 }
 
 void MatchingWords::measure()
 {
-    const QFont font = m_list.font();
+    const QFont font = list().font();
     const int letter = QFontMetrics(font).averageCharWidth();
-    m_widths.icon = m_list.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &m_list);
-    m_widths.text = std::clamp(widestOf(textsOf(*m_list.model()), MatchDelegate::strong(font)),
-                               fewestLetters * letter, mostLetters * letter);
+    view().setFont(font);
+    m_widths.icon = list().style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &list());
+    m_widths.text = limited(widestOf(textsOf(*list().model()), MatchDelegate::strong(font)));
     m_widths.description =
         std::min(widestOf(m_descriptions, font), mostDescriptionLetters * letter);
-    m_isMeasured = true;
 }
 
-int MatchingWords::wantedWidth()
+int MatchingWords::rowWidth()
 {
-    if (!m_isMeasured || view().font() != m_list.font()) {
-        view().setFont(m_list.font());
-        measure();
-    }
-    view().setPalette(m_list.palette());
+    view().setPalette(list().palette());
     view().setAccessibleName(Localise(u"Known words"_s)); // in the language of now
-    const QFontMetricsF metrics(m_list.font());
+    const QFontMetricsF metrics(list().font());
     m_widths.kind = 0;
     for (const WordClass kind : kinds) {
         const qreal width = metrics.horizontalAdvance(Localise(nameOf(kind)));
@@ -195,12 +174,6 @@ int MatchingWords::wantedWidth()
     m_widths.row = rowHeight();
     m_delegate.setWidths(m_widths);
     return m_delegate.rowWidth();
-}
-
-// The rows are drawn into what there is.
-void MatchingWords::fit(int)
-{
-    view().doItemsLayout();
 }
 
 } // namespace ORVTListview

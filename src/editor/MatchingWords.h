@@ -5,20 +5,15 @@
 #include "editor/WordListFace.h"
 
 #include <QtCore/QHash>
-#include <QtCore/QObject>
 #include <QtCore/QPointer>
-#include <QtGui/QFont>
 
 class QListView;
 
 namespace ORVTListview {
 
-class PopupWords;
-class ReportList;
-
 // A word list of the entries of ListView1 that hold the word, with what they are beside
 // them.
-class MatchingWords final : public QObject, public WordListFace
+class MatchingWords final : public WordListFace
 {
     Q_OBJECT
 
@@ -31,10 +26,6 @@ public:
     void choose() override;
     void choose(int row) override;
     int chosen() const override;
-    int rows() const override;
-    int rowHeight() const override;
-    int wantedWidth() override;
-    void fit(int width) override;
 
     // By the words' names, in any letter case.
     void setDescriptions(const QHash<QString, QString> &descriptions);
@@ -45,23 +36,23 @@ public:
 Q_SIGNALS:
     void doubleClicked();
 
+protected:
+    void measure() override;
+    int rowWidth() override;
+
 private:
     void makeView();
     void mark(int row);
-    void selectInList(int row);
-    void measure();
+    void selectEntryOf(int row);
     QString kindOf(const QString &text) const;
     QString descriptionOf(const QString &text) const;
 
-    ReportList &m_list;
-    const PopupWords &m_words;
     MatchModel m_model;
     MatchDelegate m_delegate;
     MatchDelegate::Widths m_widths;
     QPointer<QListView> m_view;             // of the list's parent, made when it is first needed
     QHash<QString, QString> m_descriptions; // by the folded names
     bool m_isAsked = true;
-    bool m_isMeasured = false;
 };
 
 } // namespace ORVTListview

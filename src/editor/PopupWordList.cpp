@@ -147,11 +147,6 @@ WordListFace &PopupWordList::face()
     return m_all;
 }
 
-const WordListFace &PopupWordList::face() const
-{
-    return const_cast<PopupWordList *>(this)->face();
-}
-
 void PopupWordList::setOpensItself(bool on)
 {
     if (on == m_opensItself)
@@ -357,7 +352,7 @@ void PopupWordList::showFor(const QString &word)
     face().choose();
 }
 
-int PopupWordList::rowsShown() const
+int PopupWordList::rowsShown()
 {
     return std::clamp(face().rows(), 1, mostRowsShown);
 }

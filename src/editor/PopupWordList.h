@@ -90,7 +90,6 @@ protected:
 
 private:
     WordListFace &face();
-    const WordListFace &face() const;
     bool canStand() const;
     bool canOpenItself() const;
     void stand(const QString &word);
@@ -101,7 +100,7 @@ private:
     void rememberTableManner();
     bool pickChosen();
     void move(qint16 keyCode);
-    int rowsShown() const;
+    int rowsShown();
     QRect wordOnScreen() const;
     void place();
     void placeSoon();

@@ -1,26 +1,25 @@
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtGui/QFont>
 
 class QAbstractItemView;
-class QString;
 
 namespace ORVTListview {
 
-// How wide a word list is, in letters of average width. Texts that are longer end in an
-// ellipsis.
-constexpr int fewestLetters = 12;
-constexpr int mostLetters = 48;
+class PopupWords;
+class ReportList;
 
 // How a word list looks: what it shows for a word, and which row is chosen. Rows count
 // from 0; -1 stands for none. Whatever the face, the row of ListView1 for what is chosen
 // is selected there.
-class WordListFace
+class WordListFace : public QObject
 {
+    Q_OBJECT
+
 public:
-    WordListFace() = default;
-    Q_DISABLE_COPY_MOVE(WordListFace) // views know it by address
-    virtual ~WordListFace() = default;
+    WordListFace(ReportList &list, const PopupWords &words);
 
     virtual QAbstractItemView &view() = 0;
 
@@ -32,12 +31,35 @@ public:
 
     virtual void choose(int row) = 0;
     virtual int chosen() const = 0;
-    virtual int rows() const = 0;
+    int rows();
 
     // In logical pixels; fit() tells how much a row has got.
-    virtual int rowHeight() const = 0;
-    virtual int wantedWidth() = 0;
-    virtual void fit(int width) = 0;
+    int rowHeight() const;
+    int wantedWidth();
+    virtual void fit(int width);
+
+protected:
+    ReportList &list() const { return m_list; }
+    const PopupWords &known() const { return m_words; }
+
+    // The host may have taken rows out of the list or put its own there.
+    void selectInList(int entry);
+
+    // The width of a text as a word list gives it room; a longer one ends in an ellipsis.
+    int limited(int width) const;
+
+    // Called when the texts or the list's font are others, before rowWidth().
+    virtual void measure() = 0;
+    virtual int rowWidth() = 0;
+
+    // Has it measured again.
+    void forgetWidths() { m_isMeasured = false; }
+
+private:
+    ReportList &m_list;
+    const PopupWords &m_words;
+    QFont m_measuredIn;
+    bool m_isMeasured = false;
 };
 
 } // namespace ORVTListview

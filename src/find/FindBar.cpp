@@ -5,6 +5,7 @@
 #include "editor/view/FoundMarks.h"
 #include "find/BoxSearch.h"
 #include "find/HistoryField.h"
+#include "find/ReplaceRow.h"
 #include "find/ShownFailure.h"
 #include "find/rules/SearchHistory.h"
 #include "shared/texts/TextTable.h"
@@ -27,15 +28,6 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool isEnter(const QKeyEvent &key)
-{
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-}
-
-} // namespace
-
 FindBar::FindBar(RichTextBox &box, FoundMarks &marks, const Acts &acts)
     : EditorBar(box, BoxLayers::of(box))
     , m_box(box)
@@ -44,14 +36,12 @@ FindBar::FindBar(RichTextBox &box, FoundMarks &marks, const Acts &acts)
 {
     setObjectName(u"FindBar"_s);
     auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(6, 3, 6, 3);
+    rows->setContentsMargins(inside);
     rows->setSpacing(3);
     rows->addLayout(makeSearchRow());
     rows->addWidget(makeReplaceRow());
-    m_replaceRow->hide();
     showTexts();
     connectControls();
-    setFocusPolicy(Qt::ClickFocus); // else a click on a button gives it to the box
     setFocusProxy(m_wanted);
 }
 
@@ -66,9 +56,9 @@ void FindBar::connectControls()
     connect(m_previous, &QToolButton::clicked, this, [this] { find(&Acts::findPrevious); });
     connect(m_more, &QToolButton::toggled, this, &FindBar::showReplaceRow);
     connect(m_close, &QToolButton::clicked, this, &FindBar::close);
-    connect(m_replace, &QToolButton::clicked, this,
+    connect(m_replaceRow, &ReplaceRow::replaceAsked, this,
             [this] { runShowingFailure([this] { replace(); }); });
-    connect(m_replaceAll, &QToolButton::clicked, this,
+    connect(m_replaceRow, &ReplaceRow::replaceAllAsked, this,
             [this] { runShowingFailure([this] { replaceAll(); }); });
     connect(&m_marks.places(), &FoundPlaces::changed, this, [this] {
         const QPointer<FindBar> self(this); // who hears of the selection may do anything
@@ -208,58 +198,55 @@ void FindBar::find(Find act)
     showCount();
 }
 
-void FindBar::replace()
+// False where there is nothing to search for.
+bool FindBar::beginReplacing(BoxSearch &search)
 {
     if (searched().isEmpty())
-        return;
+        return false;
     noteSearch();
-    HistoryField::remember(*m_replacement, threadPart<SearchHistories>().replacements);
-    BoxSearch search;
+    m_replaceRow->remember();
     search.begin(m_box);
+    return true;
+}
+
+void FindBar::replace()
+{
+    BoxSearch search;
+    if (!beginReplacing(search))
+        return;
     const QPointer<FindBar> self(this);
-    search.replace(searched(), m_replacement->currentText());
+    search.replace(searched(), m_replaceRow->text());
     if (self)
         find(&Acts::findNext);
 }
 
 void FindBar::replaceAll()
 {
-    if (searched().isEmpty())
-        return;
-    noteSearch();
-    HistoryField::remember(*m_replacement, threadPart<SearchHistories>().replacements);
     BoxSearch search;
-    search.begin(m_box);
+    if (!beginReplacing(search))
+        return;
     search.setOption(RichTextBox::FindWholeWord, how().wholeWord);
     search.setOption(RichTextBox::FindMatchCase, how().matchCase);
     const QPointer<FindBar> self(this);
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    const qsizetype count = search.replaceAll(searched(), m_replacement->currentText());
+    const qsizetype count = search.replaceAll(searched(), m_replaceRow->text());
     if (self)
         tell(QString::number(count) + u' ' + Localise(u"replace(s)!"_s));
 }
 
 void FindBar::showReplaceRow(bool shown)
 {
-    if (shown) {
-        auto &history = threadPart<SearchHistories>().replacements;
-        const QString text = m_replacement->currentText();
-        HistoryField::list(*m_replacement, history);
-        HistoryField::show(*m_replacement, text);
-    }
     m_replaceRow->setVisible(shown);
     layout()->activate();
     fit();
     if (shown)
-        m_replacement->setFocus(Qt::OtherFocusReason);
+        m_replaceRow->ask();
 }
 
 void FindBar::noteReadOnly()
 {
-    const bool canChange = mayUserEdit(m_box);
-    m_replace->setEnabled(canChange);
-    m_replaceAll->setEnabled(canChange);
+    m_replaceRow->setMayReplace(mayUserEdit(m_box));
 }
 
 bool FindBar::eventFilter(QObject *watched, QEvent *event)

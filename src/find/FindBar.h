@@ -7,13 +7,16 @@
 
 #include <functional>
 
+class QBoxLayout;
 class QComboBox;
 class QLabel;
 class QToolButton;
 
 namespace ORVTListview {
 
+class BoxSearch;
 class FoundMarks;
+class ReplaceRow;
 class RichTextBox;
 
 // Searches an editor as one types, marks all places and tells how many there are, and
@@ -50,11 +53,10 @@ protected:
 private:
     using Find = std::function<bool()> Acts::*;
 
-    QToolButton *addButton(const QString &name, const QString &text, QLayout &row);
+    QToolButton *addButton(const QString &name, const QString &text, QBoxLayout &row);
     QLayout *makeSearchRow();
     QWidget *makeReplaceRow();
     void connectControls();
-    void nameButton(QToolButton &button, const QString &name, const QString &toolTip);
 
     QString searched() const;
     TextSearch how() const;
@@ -63,6 +65,7 @@ private:
     void seek();
     void select(int from, int to);
     void find(Find act);
+    bool beginReplacing(BoxSearch &search);
     void replace();
     void replaceAll();
     void followCaret();
@@ -89,10 +92,7 @@ private:
     QLabel *m_result = nullptr;
     QToolButton *m_more = nullptr;
     QToolButton *m_close = nullptr;
-    QWidget *m_replaceRow = nullptr;
-    QComboBox *m_replacement = nullptr;
-    QToolButton *m_replace = nullptr;
-    QToolButton *m_replaceAll = nullptr;
+    ReplaceRow *m_replaceRow = nullptr;
 };
 
 } // namespace ORVTListview

@@ -1,43 +1,24 @@
 // How the find bar looks: its controls and their texts.
 
+#include "find/BarControls.h"
 #include "find/FindBar.h"
-#include "find/HistoryField.h"
+#include "find/ReplaceRow.h"
 #include "shared/texts/TextTable.h"
 
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolButton>
 
 namespace ORVTListview {
 
+using namespace BarControls;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int gap = 3; // pixels
-
-QComboBox *makeField(const QString &name, QWidget &parent)
+QToolButton *FindBar::addButton(const QString &name, const QString &text, QBoxLayout &row)
 {
-    auto *field = new QComboBox(&parent);
-    field->setObjectName(name);
-    HistoryField::make(*field);
-    field->setMinimumContentsLength(6); // editors may be narrow
-    return field;
-}
-
-} // namespace
-
-QToolButton *FindBar::addButton(const QString &name, const QString &text, QLayout &row)
-{
-    auto *button = new QToolButton(this);
-    button->setObjectName(name);
-    button->setText(text);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::TabFocus);
+    QToolButton *button = BarControls::addButton(name, text, row);
     watch(*button);
-    row.addWidget(button);
     return button;
 }
 
@@ -45,9 +26,8 @@ QLayout *FindBar::makeSearchRow()
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(gap);
-    m_wanted = makeField(u"FindBarWanted"_s, *this);
+    m_wanted = addField(u"FindBarWanted"_s, *row);
     watch(*m_wanted);
-    row->addWidget(m_wanted, 1);
     m_matchCase = addButton(u"FindBarMatchCase"_s, u"Aa"_s, *row);
     m_wholeWord = addButton(u"FindBarWholeWord"_s, u"|ab|"_s, *row);
     m_matchCase->setCheckable(true);
@@ -68,31 +48,17 @@ QLayout *FindBar::makeSearchRow()
 
 QWidget *FindBar::makeReplaceRow()
 {
-    m_replaceRow = new QWidget(this);
-    auto *row = new QHBoxLayout(m_replaceRow);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(gap);
-    m_replacement = makeField(u"FindBarReplacement"_s, *m_replaceRow);
-    watch(*m_replacement);
-    row->addWidget(m_replacement, 1);
-    m_replace = addButton(u"FindBarReplace"_s, {}, *row);
-    m_replaceAll = addButton(u"FindBarReplaceAll"_s, {}, *row);
+    m_replaceRow = new ReplaceRow(*this);
+    m_replaceRow->hide();
+    for (QWidget *control : m_replaceRow->controls())
+        watch(*control);
     return m_replaceRow;
-}
-
-void FindBar::nameButton(QToolButton &button, const QString &name, const QString &toolTip)
-{
-    button.setAccessibleName(name);
-    button.setToolTip(toolTip.isEmpty() ? name : toolTip);
 }
 
 void FindBar::showTexts()
 {
     setAccessibleName(Localise(u"Find"_s));
-    m_wanted->setAccessibleName(Localise(u"Find What"_s));
-    m_wanted->lineEdit()->setPlaceholderText(Localise(u"Find What"_s));
-    m_replacement->setAccessibleName(Localise(u"Replace With"_s));
-    m_replacement->lineEdit()->setPlaceholderText(Localise(u"Replace With"_s));
+    nameField(*m_wanted, Localise(u"Find What"_s));
     nameButton(*m_matchCase, Localise(u"Match Case"_s), {});
     nameButton(*m_wholeWord, Localise(u"Find Whole Word Only"_s),
                Localise(u"Searches for the full word by itself and not as part of a larger "
@@ -102,10 +68,7 @@ void FindBar::showTexts()
     m_more->setText(Localise(u"..."_s));
     nameButton(*m_more, Localise(u"Find - Replace"_s), {});
     nameButton(*m_close, Localise(u"Close"_s), {});
-    m_replace->setText(Localise(u"Replace"_s));
-    m_replaceAll->setText(Localise(u"Replace All"_s));
-    nameButton(*m_replace, Localise(u"Replace"_s), {});
-    nameButton(*m_replaceAll, Localise(u"Replace All"_s), {});
+    m_replaceRow->showTexts();
     m_result->setMinimumWidth(m_result->fontMetrics().horizontalAdvance(Localise(u"Not found!"_s)));
     showCount();
 }

@@ -4,6 +4,10 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <ORVTListview/TextProvider.h>
+#include <ORVTListview/TranslatedTexts.h>
+
+#include <QtCore/QLocale>
 #include <QtGui/QAccessible>
 #include <QtWidgets/QSpinBox>
 
@@ -72,6 +76,17 @@ private Q_SLOTS:
         QCOMPARE(access->text(QAccessible::Name), u"Go to line:"_s);
     }
 
+    void speaksTheLanguageInForce()
+    {
+        ask();
+        TranslatedTexts texts(QLocale(QLocale::German));
+        setTextProvider(&texts);
+        m_host->list->ReInitializeStrings();
+        QCOMPARE(bar()->accessibleName(), u"Gehe zu Zeile:"_s);
+        QVERIFY(field().hasFocus());
+        setTextProvider(nullptr);
+    }
+
     void escCloses()
     {
         box().setSelStart(3);
@@ -116,14 +131,43 @@ private Q_SLOTS:
         QVERIFY(!isShown());
     }
 
-    void staysAtTheBottom()
+    void standsBelowTheText()
     {
+        m_host->view().setLineNumbersVisible(true);
+        QCoreApplication::processEvents();
         ask();
         m_host->form.resize(700, 500);
         QCoreApplication::processEvents();
         const QRect text = box().viewport()->geometry();
-        QCOMPARE(bar()->geometry().bottomLeft(), text.bottomLeft());
-        QCOMPARE(bar()->width(), text.width());
+        QCOMPARE(bar()->geometry().top(), text.bottom() + 1);
+        QCOMPARE(bar()->geometry().left(), m_host->margin().geometry().left());
+        QCOMPARE(bar()->geometry().right(), text.right());
+        const int room = text.height();
+        QTest::keyClick(&field(), Qt::Key_Escape);
+        QCOMPARE(box().viewport()->height(), room + bar()->height());
+    }
+
+    void onlyOneBarIsShown()
+    {
+        m_host->view().showFindBar();
+        auto *find = box().findChild<QWidget *>(u"FindBar"_s);
+        QVERIFY(find->isVisible());
+        ask();
+        QVERIFY(!find->isVisible());
+        QCOMPARE(bar()->geometry().top(), box().viewport()->geometry().bottom() + 1);
+        m_host->view().showFindBar();
+        QVERIFY(!isShown());
+        QVERIFY(find->isVisible());
+        QVERIFY(find->isAncestorOf(QApplication::focusWidget()));
+        QCOMPARE(find->geometry().top(), box().viewport()->geometry().bottom() + 1);
+    }
+
+    void noNumberOutsideTheProgramCanBeTyped()
+    {
+        ask();
+        QTest::keyClicks(&field(), u"101"_s);
+        QTest::keyClick(&field(), Qt::Key_Return);
+        QCOMPARE(box().textCursor().blockNumber(), 9); // without the digit too many
     }
 
     void asksInAReadOnlyEditor()

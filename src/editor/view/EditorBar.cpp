@@ -18,6 +18,7 @@ EditorBar::EditorBar(QPlainTextEdit &box, BoxLayers &layers)
     setAutoFillBackground(true);
     setAttribute(Qt::WA_NoMousePropagation);
     setCursor(Qt::ArrowCursor);
+    setFocusPolicy(Qt::ClickFocus); // else a click on it gives the focus to the box
     hide();
     box.installEventFilter(this);
     box.viewport()->installEventFilter(this);
@@ -28,6 +29,11 @@ void EditorBar::initStrings(const QWidget &box)
 {
     for (EditorBar *bar : box.findChildren<EditorBar *>(QString(), Qt::FindDirectChildrenOnly))
         bar->showTexts();
+}
+
+bool EditorBar::isEnter(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
 void EditorBar::watch(QWidget &control)

@@ -2,6 +2,7 @@
 
 #include "widgets/box/BoxLayers.h"
 
+#include <QtCore/QMargins>
 #include <QtCore/QPointer>
 #include <QtWidgets/QFrame>
 
@@ -12,7 +13,7 @@ namespace ORVTListview {
 
 // A strip at the bottom of an editor that asks the user for something. It takes its room
 // from below the text, which stays where it is; one at a time is shown. No key and no
-// click that it has no use for gets to the editor.
+// click that it has no use for gets to the editor. Bars have a focus proxy.
 class EditorBar : public QFrame
 {
     Q_OBJECT
@@ -25,6 +26,11 @@ public:
     void close();
 
 protected:
+    // Around what a bar lays out, in pixels.
+    static constexpr QMargins inside{6, 3, 6, 3};
+
+    static bool isEnter(const QKeyEvent &key);
+
     // A child of the box.
     EditorBar(QPlainTextEdit &box, BoxLayers &layers);
 

@@ -1,15 +1,14 @@
 #include <ORVTListview/HoverAnswer.h>
 
+#include <algorithm>
+#include <array>
+
 namespace ORVTListview {
 
 struct HoverAnswer::Private
 {
-    QString text;
-    QString name;
+    std::array<QString, Description + 1> parts;
     LwType kind = dsCode;
-    QString value;
-    QString unit;
-    QString description;
 };
 
 HoverAnswer::HoverAnswer()
@@ -19,24 +18,14 @@ HoverAnswer::HoverAnswer()
 
 HoverAnswer::~HoverAnswer() = default;
 
-QString HoverAnswer::text() const
+QString HoverAnswer::part(Part part) const
 {
-    return d->text;
+    return d->parts.at(part);
 }
 
-void HoverAnswer::setText(const QString &text)
+void HoverAnswer::setPart(Part part, const QString &text)
 {
-    d->text = text;
-}
-
-QString HoverAnswer::name() const
-{
-    return d->name;
-}
-
-void HoverAnswer::setName(const QString &name)
-{
-    d->name = name;
+    d->parts.at(part) = text;
 }
 
 LwType HoverAnswer::kind() const
@@ -49,39 +38,12 @@ void HoverAnswer::setKind(LwType kind)
     d->kind = kind;
 }
 
-QString HoverAnswer::value() const
-{
-    return d->value;
-}
-
-void HoverAnswer::setValue(const QString &value)
-{
-    d->value = value;
-}
-
-QString HoverAnswer::unit() const
-{
-    return d->unit;
-}
-
-void HoverAnswer::setUnit(const QString &unit)
-{
-    d->unit = unit;
-}
-
-QString HoverAnswer::description() const
-{
-    return d->description;
-}
-
-void HoverAnswer::setDescription(const QString &description)
-{
-    d->description = description;
-}
-
+// A unit alone tells nothing.
 bool HoverAnswer::isEmpty() const
 {
-    return d->text.isEmpty() && d->name.isEmpty() && d->value.isEmpty() && d->description.isEmpty();
+    constexpr std::array telling{Text, Name, Value, Description};
+    return std::all_of(telling.begin(), telling.end(),
+                       [this](Part each) { return part(each).isEmpty(); });
 }
 
 } // namespace ORVTListview

@@ -28,28 +28,33 @@ public:
     ~HoverAnswer() override;
 
     // Shown alone, whatever else is set.
-    QString text() const;
-    void setText(const QString &text);
+    QString text() const { return part(Text); }
+    void setText(const QString &text) { setPart(Text, text); }
 
     // The parts of a card.
-    QString name() const;
-    void setName(const QString &name);
+    QString name() const { return part(Name); }
+    void setName(const QString &name) { setPart(Name, name); }
 
     // The type of the point, shown by its name and its picture; dsCode, as at first, for
     // none.
     LwType kind() const;
     void setKind(LwType kind);
 
-    QString value() const;
-    void setValue(const QString &value);
-    QString unit() const;
-    void setUnit(const QString &unit);
-    QString description() const;
-    void setDescription(const QString &description);
+    QString value() const { return part(Value); }
+    void setValue(const QString &value) { setPart(Value, value); }
+    QString unit() const { return part(Unit); }
+    void setUnit(const QString &unit) { setPart(Unit, unit); }
+    QString description() const { return part(Description); }
+    void setDescription(const QString &description) { setPart(Description, description); }
 
     bool isEmpty() const;
 
 private:
+    enum Part { Text, Name, Value, Unit, Description };
+
+    QString part(Part part) const;
+    void setPart(Part part, const QString &text);
+
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtWidgets/QWidget>
+
+class QComboBox;
+class QToolButton;
+
+namespace ORVTListview {
+
+// The row of a find bar for what is put in the place of what is found. Its history is the
+// thread's (SearchHistories).
+class ReplaceRow final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ReplaceRow(QWidget &bar);
+
+    QList<QWidget *> controls() const;
+
+    // The text stays; the list is the history of now.
+    void ask();
+
+    QString text() const;
+    void remember();
+
+    void setMayReplace(bool mayReplace);
+    void showTexts();
+
+Q_SIGNALS:
+    void replaceAsked();
+    void replaceAllAsked();
+
+private:
+    QComboBox *m_field;
+    QToolButton *m_replace;
+    QToolButton *m_replaceAll;
+};
+
+} // namespace ORVTListview
