@@ -14,13 +14,23 @@
 
 namespace ORVTListview {
 
-Bookmarks::Mark::Mark(const QTextBlock &line)
-    : place(line)
+namespace {
+
+QTextCursor wholeLine(const QTextBlock &line)
 {
+    QTextCursor whole(line);
     const int end =
-        std::min(line.position() + line.length(), place.document()->characterCount() - 1);
-    place.setPosition(end, QTextCursor::KeepAnchor);
-    isSeen = place.hasSelection();
+        std::min(line.position() + line.length(), whole.document()->characterCount() - 1);
+    whole.setPosition(end, QTextCursor::KeepAnchor);
+    return whole;
+}
+
+} // namespace
+
+Bookmarks::Mark::Mark(const QTextBlock &line)
+    : place(wholeLine(line))
+    , isSeen(place.hasSelection())
+{
 }
 
 QTextBlock Bookmarks::Mark::line() const
