@@ -196,12 +196,12 @@ void PopupWordList::stand(const QString &word)
     Q_EMIT placed();
 }
 
-QRect PopupWordList::chosenOnScreen() const
+QRect PopupWordList::chosenOnScreen()
 {
-    const WordListFace &shown = face();
+    WordListFace &shown = face();
     if (!isShown() || shown.chosen() < 0)
         return {};
-    const QAbstractItemView &view = const_cast<PopupWordList *>(this)->face().view();
+    const QAbstractItemView &view = shown.view();
     const QRect row = view.visualRect(view.model()->index(shown.chosen(), 0));
     if (!view.viewport()->rect().intersects(row))
         return {};

@@ -47,7 +47,7 @@ public:
     bool isShown() const;
 
     // The chosen entry over the list's whole width, on the screen; empty without one.
-    QRect chosenOnScreen() const;
+    QRect chosenOnScreen();
 
     // Opens it for the word at the caret, which chooses the first entry with that
     // beginning; none for an empty word. The focus goes to the box. Where the user

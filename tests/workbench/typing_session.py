@@ -133,6 +133,7 @@ class Session:
 
     def run(self):
         self._picture("01-empty")
+        self._switch_helps_off()
         self._word_list()
         self._block_indent()
         self._kept_indent()
@@ -146,6 +147,17 @@ class Session:
         self._menus()
         self._unsaved_changes()
         self._workbench.quit()
+
+    def _switch_helps_off(self):
+        """What the editor does on its own; here every key is to be the user's."""
+        bench = self._workbench
+        for switch in "dhew":
+            bench.keys("alt+v")
+            menu = bench.wait_for_popup()
+            bench.keys("e")
+            bench.wait_for_popup(other_than=menu)
+            bench.keys(switch)
+            bench.wait_for_no_popup()
 
     def _word_list(self):
         bench = self._workbench
