@@ -32,6 +32,14 @@ qint32 lastOfFold(const RichTextBox &box, qint32 line)
     return block.blockNumber();
 }
 
+// The lines that the selection touches, and what is folded behind the last one.
+LineSpan linesToActOn(const RichTextBox &box)
+{
+    LineSpan lines = selectedLines(box);
+    lines.last = lastOfFold(box, lines.last);
+    return lines;
+}
+
 // So many lines that are shown, beside others, with what is folded behind them; fewer where
 // there are no more.
 LineSpan linesBeside(const RichTextBox &box, const LineSpan &lines, qint32 steps)
@@ -79,8 +87,7 @@ void LineBlocks::move(int by) const
     if (!m_tools.begin())
         return;
     const RichTextBox &box = m_tools.box;
-    LineSpan lines = selectedLines(box);
-    lines.last = lastOfFold(box, lines.last);
+    const LineSpan lines = linesToActOn(box);
     const LineSpan others = linesBeside(box, lines, by);
     if (others.first > others.last)
         return;
@@ -106,8 +113,7 @@ void LineBlocks::duplicate() const
     if (!m_tools.begin())
         return;
     const RichTextBox &box = m_tools.box;
-    LineSpan lines = selectedLines(box);
-    lines.last = lastOfFold(box, lines.last);
+    const LineSpan lines = linesToActOn(box);
     ColouredText copy = lineBreak();
     append(copy, coloured(lines));
     m_tools.carryOut({{{lineEnd(box, lines.last), 0}}, {copy}, {}, selectionOf(box)});
@@ -118,8 +124,7 @@ void LineBlocks::remove() const
     if (!m_tools.begin())
         return;
     const RichTextBox &box = m_tools.box;
-    LineSpan lines = selectedLines(box);
-    lines.last = lastOfFold(box, lines.last);
+    const LineSpan lines = linesToActOn(box);
     const qint32 offset = offsetInLine(box, selectionOf(box).caret);
     qint32 start = box.lineStart(lines.first);
     qint32 end = lineEnd(box, lines.last);
