@@ -1,6 +1,7 @@
 # Most of the time of a build goes into the toolkit's headers, again for every file.
 # Compiling files in groups takes a third of it, but one changed file compiles its
-# group again. So only what builds everything once does that.
+# group again. So only what builds everything once does that: releases, and the tests with
+# sanitizers.
 
 option(ORVT_GROUPED_SOURCES "Compile files in groups" OFF)
 if(ORVT_GROUPED_SOURCES)

@@ -1,24 +1,24 @@
 # Sourced by check, demo and bench: installs the Debian packages that are missing.
 
 build_packages=(
-    ca-certificates ccache cmake g++ ninja-build pkg-config
+    ca-certificates ccache cmake g++ ninja-build pkg-config python3
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     qt6-translations-l10n
     libgl-dev zlib1g-dev fonts-dejavu-core)
 
 test_packages=(
-    libgtest-dev libgmock-dev python3 qt6-base-private-dev libqt6opengl6-dev dpkg-dev file
+    libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev dpkg-dev file
     abigail-tools libreoffice-writer-nogui
     clang-format clang-tidy doxygen lld locales valgrind
     xvfb xauth xclip xdotool openbox x11-utils)
 
 # What fuzzes the core.
-fuzz_packages=(clang libclang-rt-14-dev lld python3)
+fuzz_packages=(clang libclang-rt-14-dev lld)
 
 # What ./bench compares with.
 bench_packages=(
     libqscintilla2-qt6-dev libkf5syntaxhighlighting-dev
-    highlight python3-pygments python3)
+    highlight python3-pygments)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
