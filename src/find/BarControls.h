@@ -10,7 +10,7 @@ namespace ORVTListview {
 // The controls that the rows of a find bar are made of.
 namespace BarControls {
 
-constexpr int gap = 3; // pixels, between them
+constexpr int spacing = 3; // pixels, between them
 
 // At the row's end, and the row's parent's.
 QComboBox *addField(const QString &name, QBoxLayout &row);

@@ -25,7 +25,7 @@ QToolButton *FindBar::addButton(const QString &name, const QString &text, QBoxLa
 QLayout *FindBar::makeSearchRow()
 {
     auto *row = new QHBoxLayout;
-    row->setSpacing(BarControls::gap);
+    row->setSpacing(BarControls::spacing);
     m_wanted = addField(u"FindBarWanted"_s, *row);
     watch(*m_wanted);
     m_matchCase = addButton(u"FindBarMatchCase"_s, u"Aa"_s, *row);

@@ -20,7 +20,7 @@ ReplaceRow::ReplaceRow(QWidget &bar)
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(BarControls::gap);
+    row->setSpacing(BarControls::spacing);
     m_field = addField(u"FindBarReplacement"_s, *row);
     m_replace = addButton(u"FindBarReplace"_s, {}, *row);
     m_replaceAll = addButton(u"FindBarReplaceAll"_s, {}, *row);
