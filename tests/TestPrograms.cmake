@@ -5,10 +5,7 @@
 set(run_test ${Python3_EXECUTABLE} -I -S ${CMAKE_CURRENT_LIST_DIR}/support/run_test.py)
 set(test_folders ${PROJECT_BINARY_DIR}/test_folders)
 set(seconds_for_a_test 300)
-if(ORVT_SANITIZE)
-    set(seconds_for_a_test 1200)
-    list(APPEND run_test --set QTEST_FUNCTION_TIMEOUT=1200000)
-endif()
+set(seconds_under_sanitizers 1200)
 
 # NAME [DISPLAY] [ENVIRONMENT NAME=VALUE...] COMMAND ...
 function(orvt_add_test name)
@@ -22,6 +19,17 @@ function(orvt_add_test name)
     endforeach()
     add_test(NAME ${name} COMMAND ${run_test} ${options} -- ${test_COMMAND})
     set_tests_properties(${name} PROPERTIES TIMEOUT ${seconds_for_a_test})
+endfunction()
+
+# PROGRAM NAME [DISPLAY]: the widget test again, with what it tests under sanitizers.
+function(orvt_add_sanitized_test program name)
+    if(ORVT_SANITIZED_TESTS)
+        orvt_add_test(${name}.sanitized ${ARGN}
+            ENVIRONMENT QTEST_FUNCTION_TIMEOUT=${seconds_under_sanitizers}000
+            COMMAND $<TARGET_FILE:${program}_sanitized> ${name})
+        set_tests_properties(${name}.sanitized PROPERTIES
+            TIMEOUT ${seconds_under_sanitizers})
+    endif()
 endfunction()
 
 # What is laid out, drawn or dragged is tested in other places, too: another scale,
@@ -66,6 +74,7 @@ function(orvt_add_widget_tests program)
     if(CMAKE_CURRENT_SOURCE_DIR STREQUAL PROJECT_SOURCE_DIR/tests)
         orvt_precompiled_as(${program} widget_test_support)
     endif()
+    orvt_sanitize_program_later(${program})
     list(FILTER ARGN INCLUDE REGEX "Test\\.cpp$")
     foreach(source IN LISTS ARGN)
         get_filename_component(name ${source} NAME_WE)
@@ -74,7 +83,8 @@ function(orvt_add_widget_tests program)
             set(display DISPLAY)
         endif()
         orvt_add_test(${name} ${display} COMMAND $<TARGET_FILE:${program}> ${name})
-        if(name MATCHES "(CaptionLine|Drag|Layout|Look|Widths|Window)Test$" AND NOT ORVT_SANITIZE)
+        orvt_add_sanitized_test(${program} ${name} ${display})
+        if(name MATCHES "(CaptionLine|Drag|Layout|Look|Widths|Window)Test$")
             orvt_add_test_elsewhere(${name} ${program} ${display})
         endif()
     endforeach()
@@ -87,9 +97,19 @@ function(orvt_add_host_test name)
     orvt_add_test(${name} COMMAND $<TARGET_FILE:${name}>)
 endfunction()
 
-# The suites of a program of core tests, each a process of its own. ctest asks the
-# program for them.
+# The suites of a program of core tests, each a process of its own.
 function(orvt_add_suites program)
+    orvt_add_suites_of(${program} "" ${seconds_for_a_test} "^$")
+    if(ORVT_SANITIZED_TESTS AND NOT "PLAIN" IN_LIST ARGN)
+        orvt_sanitize_program_later(${program})
+        # Under a limit of memory there is no room for the sanitizers' own tables.
+        orvt_add_suites_of(${program}_sanitized ".sanitized" ${seconds_under_sanitizers}
+            "DeathTest$")
+    endif()
+endfunction()
+
+# ctest asks the program for them.
+function(orvt_add_suites_of program behind seconds without)
     set(launcher "\"${run_test}\"")
     string(REPLACE ";" "\" \"" launcher "${launcher}")
     set(ask ${CMAKE_CURRENT_BINARY_DIR}/${program}_suites.cmake)
@@ -105,10 +125,14 @@ string(REGEX MATCHALL "(^|\n)[^ \n]+\\." suites "${lines}")
 foreach(suite IN LISTS suites)
     string(STRIP "${suite}" suite)
     string(REGEX REPLACE "\\.$" "" suite "${suite}")
+    if("${suite}" MATCHES "@without@")
+        continue()
+    endif()
     string(REPLACE "/" "_" folder "${suite}")
-    add_test("${suite}" @launcher@ --name "${suite}" --folder "@test_folders@/${folder}"
+    add_test("${suite}@behind@" @launcher@ --name "${suite}"
+        --folder "@test_folders@/${folder}@behind@"
         -- "$<TARGET_FILE:@program@>" "--gtest_filter=${suite}.*")
-    set_tests_properties("${suite}" PROPERTIES TIMEOUT @seconds_for_a_test@)
+    set_tests_properties("${suite}@behind@" PROPERTIES TIMEOUT @seconds@)
 endforeach()
 ]] @ONLY)
     file(GENERATE OUTPUT ${ask} INPUT ${ask}.in)

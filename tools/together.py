@@ -10,6 +10,7 @@ LOCAL_NAMESPACE = re.compile(r"^namespace \{$(.*?)^\} // namespace$", re.MULTILI
 DECLARED = re.compile(
     r"^(?:\[\[\w+\]\] )?(?:(?:class|struct|enum(?: class)?|using) (\w+)"
     r"|[\w:][\w:<>,&* ]*[ &*](\w+)(?:\(|\{|\[| =|;))", re.MULTILINE)
+WORD = re.compile(r"\w+")
 
 
 def text_of(path):
@@ -26,18 +27,22 @@ def local_names(text):
 
 
 def groups(files, most):
-    """The files in groups of at most `most`, without a local name twice in one."""
+    """The files in groups of at most `most`. No local name of one is a word of another:
+    it would be declared twice, or hide and be hidden."""
     found = []
     for path in files:
-        names = local_names(text_of(path))
-        for members, taken in found:
-            if len(members) < most and not names & taken:
+        text = text_of(path)
+        names = local_names(text)
+        words = set(WORD.findall(text))
+        for members, their_names, their_words in found:
+            if len(members) < most and not names & their_words and not their_names & words:
                 members.append(path)
-                taken |= names
+                their_names |= names
+                their_words |= words
                 break
         else:
-            found.append(([path], set(names)))
-    return [members for members, taken in found]
+            found.append(([path], names, words))
+    return [members for members, *_ in found]
 
 
 if __name__ == "__main__":

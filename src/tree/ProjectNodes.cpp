@@ -46,7 +46,7 @@ void ProjectNodes::build(const QList<Pages> &pages)
 {
     Nodes &nodes = *m_tree.Nodes();
     nodes.Clear();
-    const NodeTree::Filling filling(m_tree);
+    const NodeTree::Filling filling(m_tree, pages.size() + highestType + 1);
     Node *device = nodes.Add(nullptr, NodeRelationship::First, deviceName,
                              shownText(deviceName, deviceName), deviceName);
     for (qint32 number = 0; number < pages.size(); ++number) {

@@ -17,6 +17,8 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QVBoxLayout>
 
+#include <functional>
+
 // A form with a code editor between two other controls, shown and focused.
 struct EditorHost
 {
@@ -114,3 +116,7 @@ struct EditorHost
     QLineEdit *after = nullptr;
     ORVTListview::ORVListView *list = nullptr;
 };
+
+// What is done to an editor, in a row of test data.
+using EditorAct = std::function<void(EditorHost &)>;
+Q_DECLARE_METATYPE(EditorAct)

@@ -21,8 +21,6 @@ constexpr qint32 none = ColouredText::automatic;
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::function<void(EditorHost &)>)
-
 class EditorTypingTest : public WidgetTest
 {
     Q_OBJECT
@@ -148,17 +146,17 @@ private Q_SLOTS:
 
     void aSelectionThatGoesLeavesFinishedWords_data()
     {
-        QTest::addColumn<std::function<void(EditorHost &)>>("remove");
-        using Remove = std::function<void(EditorHost &)>;
-        QTest::newRow("RTextCut") << Remove([](EditorHost &host) { host.list->RTextCut(); });
-        QTest::newRow("Ctrl+X") << Remove(
+        QTest::addColumn<EditorAct>("remove");
+        QTest::newRow("RTextCut") << EditorAct([](EditorHost &host) { host.list->RTextCut(); });
+        QTest::newRow("Ctrl+X") << EditorAct(
             [](EditorHost &host) { host.key('X', Qt::ControlModifier); });
-        QTest::newRow("Delete") << Remove([](EditorHost &host) { host.key(Qt::Key_Delete); });
-        QTest::newRow("Backspace") << Remove([](EditorHost &host) { host.key(Qt::Key_Backspace); });
+        QTest::newRow("Delete") << EditorAct([](EditorHost &host) { host.key(Qt::Key_Delete); });
+        QTest::newRow("Backspace")
+            << EditorAct([](EditorHost &host) { host.key(Qt::Key_Backspace); });
     }
     void aSelectionThatGoesLeavesFinishedWords()
     {
-        QFETCH(const std::function<void(EditorHost &)>, remove);
+        QFETCH(const EditorAct, remove);
         EditorHost host;
         host.setText(u"te|xx|mp1 > fan1"_s);
         remove(host);

@@ -15,9 +15,6 @@ using namespace ORVTListview;
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
-using Take = std::function<void(EditorHost &)>;
-Q_DECLARE_METATYPE(Take)
-
 class EditorUndoTest : public WidgetTest
 {
     Q_OBJECT
@@ -237,10 +234,10 @@ private Q_SLOTS:
 
     void whatTakesASelectionAwayKeepsTheText_data()
     {
-        QTest::addColumn<Take>("take");
+        QTest::addColumn<EditorAct>("take");
         QTest::addColumn<QString>("left");
         const auto row = [](const char *name, const QString &left, auto take) {
-            QTest::newRow(name) << Take(take) << left;
+            QTest::newRow(name) << EditorAct(take) << left;
         };
         row("letter", u"x"_s, [](EditorHost &host) { host.type(u"x"_s); });
         row("blank", u" "_s, [](EditorHost &host) { host.type(u" "_s); });
@@ -262,7 +259,7 @@ private Q_SLOTS:
     }
     void whatTakesASelectionAwayKeepsTheText()
     {
-        QFETCH(const Take, take);
+        QFETCH(const EditorAct, take);
         QFETCH(const QString, left);
         EditorHost host;
         host.setText(u"a program\r\nof two lines"_s);

@@ -17,9 +17,6 @@
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-using Act = std::function<void(EditorHost &)>;
-Q_DECLARE_METATYPE(Act)
-
 class OpeningWordListTest : public WidgetTest
 {
     Q_OBJECT
@@ -224,8 +221,8 @@ private Q_SLOTS:
 
     void itCloses_data()
     {
-        QTest::addColumn<Act>("act");
-        const auto row = [](const char *name, const Act &act) { QTest::newRow(name) << act; };
+        QTest::addColumn<EditorAct>("act");
+        const auto row = [](const char *name, const EditorAct &act) { QTest::newRow(name) << act; };
         row("Backspace", [](EditorHost &host) { host.key(Qt::Key_Backspace); });
         row("the caret leaves", [](EditorHost &host) { host.box().setSelStart(0); });
         row("a selection", [](EditorHost &host) { host.list->RTextSelectAll(); });
@@ -248,7 +245,7 @@ private Q_SLOTS:
     }
     void itCloses()
     {
-        QFETCH(const Act, act);
+        QFETCH(const EditorAct, act);
         typed(u"x |"_s, u"y tem"_s); // undo goes back to the blank
         QVERIFY(isOpen());
         act(*m_host);
@@ -349,11 +346,12 @@ private Q_SLOTS:
 
     void theHostMayDestroyTheControl_data()
     {
-        QTest::addColumn<Act>("act");
-        QTest::newRow("typing") << Act([](EditorHost &host) { host.type(u"m"_s); });
-        QTest::newRow("Enter") << Act([](EditorHost &host) { host.key(Qt::Key_Return); });
-        QTest::newRow("Backspace") << Act([](EditorHost &host) { host.key(Qt::Key_Backspace); });
-        QTest::newRow("a double click") << Act([](EditorHost &host) {
+        QTest::addColumn<EditorAct>("act");
+        QTest::newRow("typing") << EditorAct([](EditorHost &host) { host.type(u"m"_s); });
+        QTest::newRow("Enter") << EditorAct([](EditorHost &host) { host.key(Qt::Key_Return); });
+        QTest::newRow("Backspace")
+            << EditorAct([](EditorHost &host) { host.key(Qt::Key_Backspace); });
+        QTest::newRow("a double click") << EditorAct([](EditorHost &host) {
             auto *matches = host.list->findChild<QListView *>(u"WordMatches"_s);
             const QPoint first = matches->visualRect(matches->model()->index(0, 0)).center();
             QTest::mouseClick(matches->viewport(), Qt::LeftButton, {}, first);
@@ -362,7 +360,7 @@ private Q_SLOTS:
     }
     void theHostMayDestroyTheControl()
     {
-        QFETCH(const Act, act);
+        QFETCH(const EditorAct, act);
         const bool opens = QByteArray(QTest::currentDataTag()) == "typing";
         typed(u"|"_s, opens ? u"te"_s : u"tem"_s);
         QCOMPARE(isOpen(), !opens);

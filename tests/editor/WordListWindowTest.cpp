@@ -18,9 +18,6 @@
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-using Act = std::function<void(EditorHost &)>;
-Q_DECLARE_METATYPE(Act)
-
 class WordListWindowTest : public WidgetTest
 {
     Q_OBJECT
@@ -158,17 +155,17 @@ private Q_SLOTS:
 
     void itFollowsTheWord_data()
     {
-        QTest::addColumn<Act>("move");
-        QTest::newRow("the window moves")
-            << Act([](EditorHost &host) { host.form.move(host.form.pos() + QPoint(60, 40)); });
+        QTest::addColumn<EditorAct>("move");
+        QTest::newRow("the window moves") << EditorAct(
+            [](EditorHost &host) { host.form.move(host.form.pos() + QPoint(60, 40)); });
         QTest::newRow("the layout moves the editor")
-            << Act([](EditorHost &host) { host.before->setMinimumHeight(90); });
+            << EditorAct([](EditorHost &host) { host.before->setMinimumHeight(90); });
         QTest::newRow("the text scrolls")
-            << Act([](EditorHost &host) { host.box().verticalScrollBar()->setValue(1); });
+            << EditorAct([](EditorHost &host) { host.box().verticalScrollBar()->setValue(1); });
     }
     void itFollowsTheWord()
     {
-        QFETCH(const Act, move);
+        QFETCH(const EditorAct, move);
         EditorHost host;
         host.setText(u"a\r\nb\r\nc\r\nx te|"_s + u"\r\n"_s.repeated(100));
         popUp(host);
@@ -209,8 +206,8 @@ private Q_SLOTS:
 
     void itCloses_data()
     {
-        QTest::addColumn<Act>("act");
-        const auto row = [](const char *name, auto act) { QTest::newRow(name) << Act(act); };
+        QTest::addColumn<EditorAct>("act");
+        const auto row = [](const char *name, auto act) { QTest::newRow(name) << EditorAct(act); };
         row("RichTextVisible", [](EditorHost &host) { host.list->setRichTextVisible(false); });
         row("RichTexteNable", [](EditorHost &host) { host.list->setRichTexteNable(false); });
         row("Enabled", [](EditorHost &host) { host.list->setEnabled(false); });
@@ -232,7 +229,7 @@ private Q_SLOTS:
     }
     void itCloses()
     {
-        QFETCH(const Act, act);
+        QFETCH(const EditorAct, act);
         EditorHost host;
         host.setText(u"x|"_s);
         host.type(u"y te"_s);
@@ -264,8 +261,8 @@ private Q_SLOTS:
 
     void itStaysClosedWhereNobodyCanType_data()
     {
-        QTest::addColumn<Act>("act");
-        const auto row = [](const char *name, auto act) { QTest::newRow(name) << Act(act); };
+        QTest::addColumn<EditorAct>("act");
+        const auto row = [](const char *name, auto act) { QTest::newRow(name) << EditorAct(act); };
         row("hidden", [](EditorHost &host) { host.list->setRichTextVisible(false); });
         row("disabled", [](EditorHost &host) { host.list->setRichTexteNable(false); });
         row("read-only", [](EditorHost &host) { host.box().setReadOnly(true); });
@@ -278,7 +275,7 @@ private Q_SLOTS:
     }
     void itStaysClosedWhereNobodyCanType()
     {
-        QFETCH(const Act, act);
+        QFETCH(const EditorAct, act);
         EditorHost host;
         host.setText(u"te|"_s);
         act(host);

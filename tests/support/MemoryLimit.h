@@ -1,11 +1,10 @@
 #pragma once
 
-// Lets a death test run out of memory. The sanitizers' own tables do not fit
-// under a limit on the address space, so there is none with them.
+// Lets a death test run out of memory.
 
 #include <QtCore/qglobal.h>
 
-#if defined(Q_OS_LINUX) && !defined(__SANITIZE_ADDRESS__)
+#ifdef Q_OS_LINUX
 #define ORVT_HAS_MEMORY_LIMIT
 
 #include <sys/resource.h>

@@ -216,9 +216,11 @@ void NodeModel::move(TreeNode &node, TreeNode &parent, int row)
     endMoveRows();
 }
 
-void NodeModel::beginFilling()
+void NodeModel::beginFilling(qsizetype expected)
 {
     beginResetModel();
+    m_order.reserve(m_order.size() + static_cast<std::size_t>(expected));
+    m_keys.reserve(m_keys.size() + expected);
     m_filling = true;
 }
 

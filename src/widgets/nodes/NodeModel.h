@@ -56,7 +56,7 @@ public:
     void move(TreeNode &node, TreeNode &parent, int row);
 
     // Between the two, nodes may be added, and only that; it is one change.
-    void beginFilling();
+    void beginFilling(qsizetype expected);
     void endFilling();
     bool isFilling() const { return m_filling; }
 

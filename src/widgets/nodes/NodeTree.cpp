@@ -91,10 +91,10 @@ Nodes *NodeTree::Nodes() const
     return &d->nodes;
 }
 
-NodeTree::Filling::Filling(NodeTree &tree)
+NodeTree::Filling::Filling(NodeTree &tree, qsizetype expected)
     : m_tree(tree)
 {
-    m_tree.d->model.beginFilling();
+    m_tree.d->model.beginFilling(expected);
 }
 
 NodeTree::Filling::~Filling()

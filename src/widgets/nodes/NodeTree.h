@@ -51,7 +51,7 @@ public:
     class Filling
     {
     public:
-        explicit Filling(NodeTree &tree);
+        Filling(NodeTree &tree, qsizetype expected);
         ~Filling();
         Q_DISABLE_COPY_MOVE(Filling) // one begin, one end
 

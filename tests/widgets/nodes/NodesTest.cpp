@@ -429,7 +429,7 @@ void NodesTest::fillingIsOneChange()
     QSignalSpy resets(tree.model(), &QAbstractItemModel::modelReset);
     QSignalSpy inserts(tree.model(), &QAbstractItemModel::rowsInserted);
     {
-        const NodeTree::Filling filling(tree);
+        const NodeTree::Filling filling(tree, 3);
         Node *top = tree.Nodes()->Add(nullptr, NodeRelationship::Child, u"t"_s, u"t"_s);
         for (int i = 0; i < 10; ++i)
             tree.Nodes()->Add(top, NodeRelationship::Child)->setText(u"c"_s);
