@@ -36,8 +36,10 @@ function(orvt_sanitize_library library)
             set_target_properties(${library}_sanitized PROPERTIES ${property} "${value}")
         endif()
     endforeach()
+    # The toolkit's lists compare empty ones by memcmp() and null.
     target_compile_options(${library}_sanitized PRIVATE
-        ${orvt_sanitizers} -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+        ${orvt_sanitizers} -fno-sanitize=nonnull-attribute
+        -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
 endfunction()
 
 # That of an interface library whose sources are the objects of others.

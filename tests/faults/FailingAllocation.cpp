@@ -27,7 +27,7 @@ bool isToFail()
 
 void *allocated(std::size_t size)
 {
-    void *memory = isToFail() ? nullptr : std::malloc(size == 0 ? 1 : size);
+    void *memory = operator new(size, std::nothrow);
     if (!memory)
         throw std::bad_alloc();
     return memory;
@@ -43,6 +43,11 @@ void *operator new(std::size_t size)
 void *operator new[](std::size_t size)
 {
     return allocated(size);
+}
+
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept
+{
+    return isToFail() ? nullptr : std::malloc(size == 0 ? 1 : size);
 }
 
 void operator delete(void *memory) noexcept

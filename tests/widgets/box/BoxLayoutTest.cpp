@@ -1,4 +1,5 @@
 #include "base/ColouredText.h"
+#include "support/MemoryInUse.h"
 #include "support/RandomSeed.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
@@ -9,8 +10,6 @@
 #include <QtGui/QTextOption>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
-
-#include <malloc.h>
 
 #include <random>
 
@@ -329,18 +328,14 @@ void BoxLayoutTest::linesOutOfSightHaveNoLayout()
     box.resize(300, 200);
     box.show();
     QVERIFY(QTest::qWaitForWindowExposed(&box));
-    const auto used = [] {
-        const auto info = mallinfo2();
-        return info.uordblks + info.hblkhd;
-    };
-    const auto before = used();
+    const qint64 before = memoryInUse();
     box.setText(QString(count, u'\n'));
     QCOMPARE(box.lineCount(), count + 1);
     for (const int width : {500, 200, 300}) {
         box.resize(width, 200);
         QCoreApplication::processEvents();
     }
-    QCOMPARE_LT(used() - before, std::size_t{count} * 200);
+    QCOMPARE_LT(memoryInUse() - before, qint64{count} * 200);
 }
 
 void BoxLayoutTest::anotherWidthAlignsTheLinesAgain()

@@ -1,9 +1,8 @@
+#include "support/MemoryInUse.h"
 #include "support/RandomSeed.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/list/ReportListFixture.h"
-
-#include <QtCore/QFile>
 
 #include <cmath>
 #include <random>
@@ -133,20 +132,6 @@ void ListHandlesTest::failsClearlyOnceItsRowIsGone()
         QVERIFY(!error.Description().isEmpty());
     }
 }
-
-namespace {
-
-// Of the process, in bytes.
-qint64 memoryInUse()
-{
-    QFile file(u"/proc/self/statm"_s);
-    if (!file.open(QFile::ReadOnly))
-        return 0;
-    constexpr qint64 page = 4096;
-    return file.readAll().split(' ').value(1).toLongLong() * page;
-}
-
-} // namespace
 
 void ListHandlesTest::takesNoMemoryForRowsThatAreGone()
 {
