@@ -8,6 +8,8 @@
 #include "widgets/box/UserEditing.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtCore/QPointer>
+
 #include <algorithm>
 #include <numeric>
 
@@ -53,13 +55,17 @@ void CommandTools::carryOut(const CommandChange &change) const
     if (empties(change, box) || !undo.isShownInRing())
         undo.PushUndoSnapshot();
     const KeptView view(box);
+    const QPointer<RichTextBox> alive(&box); // the caret moves, and the host may destroy it
     Q_EMIT moves.about(change.moved);
     box.replacePieces(change.pieces, change.texts, [&] {
         for (const qint32 line : change.linesToFinish)
             colouring.finishLine(line);
         Q_EMIT moves.done(change.moved);
     });
-    select(box, change.selection);
+    if (alive)
+        select(box, change.selection);
+    if (!alive)
+        return;
     undo.PushUndoSnapshot(); // without it undo would take two commands back at once
     Q_EMIT moves.settled(change.moved);
 }

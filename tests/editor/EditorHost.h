@@ -2,6 +2,7 @@
 
 #include "base/ColouredText.h"
 #include "base/ThreadState.h"
+#include "editor/AllOfTheView.h"
 #include "editor/rules/colouring/ColourTable.h"
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/undo/UndoStore.h"
@@ -42,12 +43,8 @@ struct EditorHost
         settings.FontName = QStringLiteral("DejaVu Sans Mono");
         settings.FontSize = 10;
         list->Init_RichTextBox(settings);
-        if (hasTypingHelps()) {
-            list->codeView()->setAutoIndent(true);
-            list->codeView()->setSmartHome(true);
-            list->codeView()->setTrimsBlanks(true);
-            list->codeView()->setWordListOpensItself(true);
-        }
+        if (hasAllOfTheView())
+            switchAllOn();
         form.show();
         form.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&form));
@@ -55,8 +52,10 @@ struct EditorHost
         QVERIFY(box().hasFocus());
     }
 
-    // Whether all that the editor can do on its own is on.
-    static bool hasTypingHelps() { return qEnvironmentVariableIsSet("ORVT_TYPING_HELPS"); }
+    // Whether all that the editor can show and do beside its text is on, and whether the
+    // list that opens by itself is among that.
+    static bool hasAllOfTheView() { return qEnvironmentVariableIsSet("ORVT_CODE_VIEW"); }
+    static bool hasOpeningList() { return qgetenv("ORVT_CODE_VIEW") == "all"; }
 
     ORVTListview::RichTextBox &box() { return *list->RTextBox(); }
     ORVTListview::UndoStore &ring() { return ORVTListview::threadPart<ORVTListview::UndoStore>(); }
@@ -73,6 +72,8 @@ struct EditorHost
         const auto end = static_cast<qint32>(text.indexOf(u'|'));
         text.remove(end, end < 0 ? 0 : 1);
         list->setCodeText(text);
+        if (hasAllOfTheView())
+            markLines();
         box().setSelStart(std::max(start, 0));
         if (end >= 0)
             box().setSelLength(end - start);
@@ -85,6 +86,30 @@ struct EditorHost
         if (length > 0)
             text.insert(start + length, u'|');
         return text.insert(start, u'|');
+    }
+
+    void switchAllOn()
+    {
+        ORVTListview::CodeView &view = *list->codeView();
+        switchView(view, true);
+        view.setWordListOpensItself(hasOpeningList());
+        view.setZoom(100);
+        view.setLiveValues({{QStringLiteral("Temp1"), QStringLiteral("19.4 °C")},
+                            {QStringLiteral("Fan1"), QStringLiteral("On")}});
+    }
+
+    // A problem on each line, and a bookmark on that of the caret.
+    void markLines()
+    {
+        QList<ORVTListview::Problem> problems;
+        for (qint32 line = 1; line <= box().lineCount(); ++line) {
+            ORVTListview::Problem problem;
+            problem.line = line;
+            problem.text = QStringLiteral("To be looked at");
+            problems.append(problem);
+        }
+        list->codeView()->setProblems(problems);
+        list->codeView()->toggleBookmark();
     }
 
     void type(const QString &text)

@@ -204,7 +204,7 @@ private Q_SLOTS:
         QTest::newRow("middle") << u"\t a|b"_s << u"\t a\r\n\t |b"_s;
         QTest::newRow("inside the indent")
             << u"  |  ab"_s
-            << (EditorHost::hasTypingHelps() ? u"\r\n  |  ab"_s : u"  \r\n  |  ab"_s);
+            << (EditorHost::hasAllOfTheView() ? u"\r\n  |  ab"_s : u"  \r\n  |  ab"_s);
         QTest::newRow("line start") << u"|  ab"_s << u"\r\n|  ab"_s;
         QTest::newRow("no indent") << u"ab|\r\n  c"_s << u"ab\r\n|\r\n  c"_s;
         QTest::newRow("selection") << u"  a|b\r\nc|d"_s << u"  a\r\n  |d"_s;

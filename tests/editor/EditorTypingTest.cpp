@@ -59,7 +59,7 @@ private Q_SLOTS:
         EditorHost host;
         host.type(u"if (temp1 > limit1) and x\n"_s);
         const QString line = u"IF (Temp1 > Limit1) AND x\r\n"_s;
-        QCOMPARE(host.box().Text(), EditorHost::hasTypingHelps() ? line + u"    "_s : line);
+        QCOMPARE(host.box().Text(), EditorHost::hasAllOfTheView() ? line + u"    "_s : line);
         QCOMPARE(host.colourOf(u"IF"_s), 0);
         QCOMPARE(host.colourOf(u"Temp1"_s), inputColour);
         QCOMPARE(host.colourOf(u"Limit1"_s), 0x000080);
@@ -216,15 +216,15 @@ private Q_SLOTS:
         QCOMPARE(host.colourOf(u"Temp1"_s), inputColour);
         host.key(Qt::Key_Up);
         QCOMPARE(host.box().Text(),
-                 EditorHost::hasTypingHelps() ? u"Temp1\r\nFan1"_s : u"Temp1 \r\nFan1"_s);
+                 EditorHost::hasAllOfTheView() ? u"Temp1\r\nFan1"_s : u"Temp1 \r\nFan1"_s);
     }
 
     void blanksTabsAndBracketsStay()
     {
         EditorHost host;
         host.type(u"\t if  (temp1  )  \n"_s);
-        QCOMPARE(host.box().Text(), EditorHost::hasTypingHelps() ? u"\t IF  (Temp1  )\r\n\t     "_s
-                                                                 : u"\t IF  (Temp1  )  \r\n\t "_s);
+        QCOMPARE(host.box().Text(), EditorHost::hasAllOfTheView() ? u"\t IF  (Temp1  )\r\n\t     "_s
+                                                                  : u"\t IF  (Temp1  )  \r\n\t "_s);
     }
 
     void onlyTheLineThatChangedIsTouched()

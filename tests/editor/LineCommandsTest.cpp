@@ -319,6 +319,26 @@ private Q_SLOTS:
         QVERIFY(!list);
     }
 
+    void aHostMayDestroyTheComponentWhenTheCaretMoves_data()
+    {
+        QTest::addColumn<int>("move");
+        QTest::newRow("with what is put in") << 1;
+        QTest::newRow("to where it was") << 2;
+    }
+    void aHostMayDestroyTheComponentWhenTheCaretMoves()
+    {
+        QFETCH(const int, move);
+        m_host->setText(u"a|b\r\nc"_s);
+        const QPointer<ORVListView> list(m_host->list);
+        int moves = 0;
+        connect(&box(), &RichTextBox::cursorPositionChanged, this, [&moves, move, list] {
+            if (++moves == move)
+                delete list.data();
+        });
+        view().duplicateLines();
+        QVERIFY(!list);
+    }
+
     void tellsWhetherCommandsArePossible()
     {
         QCoreApplication::processEvents();

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
 """Writes a program of twenty lines in the workbench, with real keys on a virtual
 display: word list, undo and redo, block indent, a refused paste. Checks the file
-that the workbench saves, and leaves pictures of the steps to be looked at.
+that the workbench saves, and leaves pictures of the steps to be looked at. With --helped
+the same program is written with all that the editor does on its own, as the workbench
+has it at first; otherwise every key is the user's.
 
     typing_session.py --workbench PROGRAM --sample FOLDER --pictures FOLDER
-                      [--scale N] [--dark]
+                      [--scale N] [--dark] [--helped]
 """
 
 import argparse
@@ -308,6 +310,80 @@ class Session:
         bench.wait_for_window(TITLE)
 
 
+class HelpedSession(Session):
+    """Indents, words and the begin of a line are left to the editor."""
+
+    def run(self):
+        self._picture("01-empty")
+        self._typed_through()
+        self._words_from_the_list()
+        self._list_shut()
+        self._smart_home()
+        self._undone()
+        self._workbench.quit()
+
+    def _typed_through(self):
+        """One who does not look at the list is not disturbed by it."""
+        bench = self._workbench
+        comment, *lines = HEATING.splitlines()
+        bench.type(comment + "\n" + "".join(line.strip().lower() + "\n" for line in lines))
+        bench.wait_for_no_popup()
+        self._picture("02-typed-through")
+        bench.save(HEATING)
+
+    def _words_from_the_list(self):
+        bench = self._workbench
+        bench.type("REM Fans by the hour\nif hour >= 6 and hour < 18\nsupplyfans")
+        bench.wait_for_popup()
+        self._picture("03-list-that-opens-itself")
+        bench.keys("Return")
+        bench.wait_for_no_popup()
+        bench.type(" = limit ( zonehea")
+        bench.wait_for_popup()
+        bench.keys("Tab")
+        bench.wait_for_no_popup()
+        bench.type(" , fanm")
+        bench.wait_for_popup()
+        bench.keys("Down", "Up", "Return")
+        bench.wait_for_no_popup()
+        bench.type(" , 100 )\nreturnfanspeed = supplyfanspeed * 0.9\nelse\n"
+                   "supplyfanspeed = 0\nreturnfanspeed = 0\nendif\n")
+        bench.keys("BackSpace")
+        self._picture("04-indented")
+        bench.save(HEATING + FANS)
+
+    def _list_shut(self):
+        bench = self._workbench
+        bench.type("\nret")
+        bench.wait_for_popup()
+        bench.keys("Escape")
+        bench.wait_for_no_popup()
+        bench.type("   \n")
+        bench.keys("BackSpace")
+        bench.save(HEATING + FANS + "\nret")
+        bench.keys("BackSpace", "BackSpace", "BackSpace", "BackSpace")
+        bench.save(HEATING + FANS)
+
+    def _smart_home(self):
+        bench = self._workbench
+        bench.keys("Up", "End", "Home")
+        bench.type("q ")
+        place = FANS.rindex("ReturnFanSpeed")
+        bench.save(HEATING + FANS[:place] + "q " + FANS[place:])
+        bench.keys("BackSpace", "BackSpace", "Home")
+        bench.type("q ")
+        bench.keys("BackSpace", "BackSpace", "ctrl+End")
+        bench.save(HEATING + FANS)
+
+    def _undone(self):
+        bench = self._workbench
+        bench.type("\nif a\nb = 1")
+        bench.keys("ctrl+z", "ctrl+z", "ctrl+z")
+        self._picture("05-undone")
+        bench.keys("ctrl+y", "ctrl+y", "ctrl+y", "ctrl+y")
+        bench.save(HEATING + FANS + "\nIF a\n    b = 1")
+
+
 def empty_copy_of(sample, folder):
     shutil.copytree(sample, folder, dirs_exist_ok=True)
     with open(os.path.join(folder, "air-handling-unit.prog"), "w", encoding="utf-8"):
@@ -331,7 +407,8 @@ def run_session(arguments):
             display.write_picture(os.path.join(arguments.pictures, name + ".png"))
 
         try:
-            Session(workbench, take_picture).run()
+            kind = HelpedSession if arguments.helped else Session
+            kind(workbench, take_picture).run()
         except Failed:
             take_picture("failed")
             raise
@@ -343,6 +420,7 @@ def main():
         parser.add_argument(name, required=True)
     parser.add_argument("--scale", type=float, default=1)
     parser.add_argument("--dark", action="store_true")
+    parser.add_argument("--helped", action="store_true")
     try:
         run_session(parser.parse_args())
     except Failed as failure:

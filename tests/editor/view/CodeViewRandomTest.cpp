@@ -1,6 +1,7 @@
 // A user at work in an editor that shows and does all that it can, at random. After
 // each step its text, caret, bookmarks and folds are those of a simple model.
 
+#include "editor/AllOfTheView.h"
 #include "editor/rules/structure/Folding.h"
 #include "editor/view/ViewFixture.h"
 #include "support/RandomSeed.h"
@@ -64,17 +65,6 @@ QString textOf(const Model &lines)
     return texts.join(u"\r\n"_s);
 }
 
-void switchAllOn(CodeView &view)
-{
-    const QMetaObject &meta = *view.metaObject();
-    for (int i = QObject::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i) {
-        const QMetaProperty property = meta.property(i);
-        if (property.isWritable() && property.metaType() == QMetaType::fromType<bool>())
-            property.write(&view, true);
-    }
-    view.setZoom(110);
-}
-
 class Session
 {
 public:
@@ -82,7 +72,8 @@ public:
         : m_random(seed)
         , m_lines(randomProgram(m_random))
     {
-        switchAllOn(view());
+        switchView(view(), true);
+        view().setZoom(110);
         m_host.list->openProgram(textOf(m_lines));
     }
 
