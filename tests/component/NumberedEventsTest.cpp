@@ -2,6 +2,7 @@
 
 #include "AllComponents.h"
 #include "SampleArguments.h"
+#include "WholeUse.h"
 
 #include "support/TestFolder.h"
 #include "support/TestProgram.h"
@@ -69,35 +70,6 @@ QVariantList raised(Component &component, const Member &event)
     return variables;
 }
 
-void callEveryMember(Component &component)
-{
-    for (const Member &member : component.Members().members()) {
-        QVariant result;
-        QVariantList arguments =
-            member.kind == MemberKind::Method ? SampleArguments::all(member) : QVariantList();
-        if (member.kind != MemberKind::Event && member.call)
-            component.Invoke(member.name, arguments, result);
-        QVariantList value{SampleArguments::one(member.type)};
-        if (member.put)
-            component.Invoke(member.name, value, result);
-    }
-}
-
-// Whether the widget takes them or not.
-void useKeysAndMouse(QWidget &widget)
-{
-    for (const int key : {Qt::Key_Down, Qt::Key_A, Qt::Key_Space, Qt::Key_F1, Qt::Key_F6}) {
-        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, Qt::NoModifier, key == Qt::Key_A ? u"a"_s : QString());
-            QCoreApplication::sendEvent(&widget, &event);
-        }
-    }
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton})
-        QTest::mouseClick(&widget, button);
-    QTest::mouseMove(&widget, QPoint(5, 5));
-    QTest::mouseDClick(&widget, Qt::LeftButton);
-}
-
 } // namespace
 
 class NumberedEventsTest : public WidgetTest
@@ -162,12 +134,8 @@ void NumberedEventsTest::usersAndHostsRaiseNoneThatAreNeverRaised()
     component->Advise(&sink);
     component->show();
     QVERIFY(QTest::qWaitForWindowExposed(component.get()));
-    callEveryMember(*component);
-    useKeysAndMouse(*component);
-    for (QWidget *child : component->findChildren<QWidget *>()) {
-        if (child->isVisible())
-            useKeysAndMouse(*child);
-    }
+    WholeUse::callEveryMember(*component);
+    WholeUse::useEveryWidget(*component);
     QStringList heard;
     for (const Member &event : component->Members().members()) {
         const bool isNever =

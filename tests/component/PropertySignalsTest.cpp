@@ -1,6 +1,7 @@
 // A property tells of exactly what has become another value, whoever changed it.
 
 #include "AllComponents.h"
+#include "PropertyValues.h"
 
 #include "support/TestFolder.h"
 #include "support/TestProgram.h"
@@ -23,47 +24,6 @@ using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QList<QMetaProperty> ownProperties(const QObject &component)
-{
-    const QMetaObject &meta = *component.metaObject();
-    QList<QMetaProperty> properties;
-    for (int i = Component::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i) {
-        if (meta.property(i).isReadable() && !meta.property(i).isConstant())
-            properties.append(meta.property(i));
-    }
-    return properties;
-}
-
-QList<QMetaProperty> writableProperties(const QObject &component)
-{
-    QList<QMetaProperty> properties = ownProperties(component);
-    properties.removeIf([](const QMetaProperty &property) { return !property.isWritable(); });
-    return properties;
-}
-
-// Two values that the property can have.
-QVariantList values(QObject &component, const QMetaProperty &property)
-{
-    static const QHash<QByteArray, QVariantList> special{
-        {"indentUnit", {u"  "_s, u"\t"_s}},
-        {"CodeText", {u"IF A = 1"_s, u"ENDIF"_s}},
-        {"CodeTextRTF", {uR"({\rtf1 one})"_s, uR"({\rtf1 two})"_s}},
-        {"labelColumn", {0, 1}},
-    };
-    if (special.contains(property.name()))
-        return special.value(property.name());
-    if (auto *tree = qobject_cast<ORVTreeview *>(&component))
-        return {QVariant::fromValue(tree->Nodes()->Item(1)),
-                QVariant::fromValue(tree->Nodes()->Item(3))};
-    if (property.isEnumType())
-        return {qint32{dsOutput}, qint32{dsTimer}};
-    if (property.metaType().id() == QMetaType::Bool)
-        return {false, true};
-    if (property.metaType().id() == QMetaType::QString)
-        return {u"one"_s, u"two"_s};
-    return {3, 4};
-}
 
 // What a component's properties are, and how often each has told of a change.
 class Watch

@@ -4,6 +4,7 @@
 
 #include "EventScenes.h"
 
+#include "support/AnyReceiver.h"
 #include "support/TestFolder.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
@@ -20,30 +21,6 @@ using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Receives a signal of any kind.
-class Receiver : public QObject
-{
-public:
-    Receiver(QObject &raiser, const QMetaMethod &signal, std::function<void()> act)
-        : m_act(std::move(act))
-    {
-        QMetaObject::connect(&raiser, signal.methodIndex(), this,
-                             QObject::staticMetaObject.methodCount(), Qt::DirectConnection);
-    }
-
-    int qt_metacall(QMetaObject::Call call, int id, void **values) override
-    {
-        id = QObject::qt_metacall(call, id, values);
-        if (id != 0 || call != QMetaObject::InvokeMetaMethod)
-            return id;
-        m_act();
-        return -1;
-    }
-
-private:
-    std::function<void()> m_act;
-};
 
 struct Sink : EventSink
 {
@@ -237,7 +214,7 @@ void ReceiversTest::carryOut()
     const auto scene = subject->make();
     QObject &raiser = *subject->raiser(*scene);
     bool done = false;
-    const Receiver receiver(raiser, signalOf(raiser, source->event), [&] {
+    const AnyReceiver receiver(raiser, signalOf(raiser, source->event), [&] {
         if (!std::exchange(done, true))
             deed->act(*scene);
     });

@@ -140,6 +140,29 @@ private Q_SLOTS:
         QVERIFY(!host.dialog().isModal());
     }
 
+    void itStaysAboveTheWindowOfItsEditor()
+    {
+        FindHost host;
+        FindHost second;
+        const auto above = [](const fFind &dialog) {
+            return dialog.windowHandle()->transientParent();
+        };
+        QString errMsg;
+        for (FindHost *editor : {&host, &second, &host}) {
+            const QWindow *window = editor->form.windowHandle();
+            editor->list->showFind();
+            QCOMPARE(above(editor->dialog()), window);
+            editor->dialog().reject();
+            const QWindow *modallyAbove = nullptr;
+            duringModal([&](fFind &dialog) {
+                modallyAbove = above(dialog);
+                dialog.reject();
+            });
+            editor->list->FindInRichtext(errMsg);
+            QCOMPARE(modallyAbove, window);
+        }
+    }
+
     void besideItTheEditorCanBeUsed()
     {
         FindHost host;

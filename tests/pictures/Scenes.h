@@ -40,6 +40,7 @@ struct Scene
 const QList<Scene> &scenes();
 
 void comboScene(Sheet &sheet);
+void editorScene(Sheet &sheet);
 void findScene(Sheet &sheet);
 void tableStatesScene(Sheet &sheet);
 void tablesScene(Sheet &sheet);

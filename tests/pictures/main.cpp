@@ -1,7 +1,10 @@
 // orvt-widget-pictures FOLDER: shows the library's widgets in every language, light
 // and dark, at 100 % and 200 %, one sheet for each, to be looked at.
+// orvt-widget-pictures compare KEPT FOLDER: draws one sheet of each scene and compares it
+// with the one that is kept.
 
 #include "base/ThreadState.h"
+#include "pictures/Comparison.h"
 #include "pictures/Scenes.h"
 #include "workbench/DarkColours.h"
 #include <ORVTListview/TranslatedTexts.h>
@@ -77,11 +80,13 @@ int main(int argc, char **argv)
     if (argc == 4) {
         const QApplication application(argc, argv);
         const QStringList arguments = QApplication::arguments();
+        if (arguments[1] == u"compare")
+            return compareSheets(QDir(arguments[2]), QDir(arguments[3]));
         return drawSheets(QDir(arguments[1]), arguments[2], arguments[3]);
     }
     const QCoreApplication application(argc, argv);
     if (argc != 2) {
-        QTextStream(stderr) << "usage: orvt-widget-pictures FOLDER\n";
+        QTextStream(stderr) << "usage: orvt-widget-pictures FOLDER | compare KEPT FOLDER\n";
         return 2;
     }
     return drawAll(QCoreApplication::arguments().at(1));

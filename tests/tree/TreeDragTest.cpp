@@ -61,6 +61,7 @@ private Q_SLOTS:
     void raisesItsEvents();
     void takesItsPlaceByType();
     void keepsItsSelectionAndColour();
+    void isSelectedAndSeenThere();
     void isNotDroppedWhereItIs();
     void makesAPageOfTheDevice();
     void marksThePageMeanwhile();
@@ -162,6 +163,20 @@ void TreeDragTest::keepsItsSelectionAndColour()
     QCOMPARE(shown->SelectedItem(), logs);
     QCOMPARE(logs->ForeColor(), 0x008000);
     QCOMPARE(logs->Tag().toInt(), int{dsLog});
+}
+
+void TreeDragTest::isSelectedAndSeenThere()
+{
+    store(u"Inputs"_s, u"1"_s);
+    const ShownProject shown;
+    shown.node(u"Page1"_s)->setExpanded(false);
+    connect(shown.tree, &ORVTreeview::OLEDragDrop, this,
+            [&] { shown->setSelectedItem(shown.node(u"Code"_s)); });
+    drag(shown, shown.place(u"Logs"_s), {shown.place(u"Page1"_s)});
+    QCOMPARE(shown->SelectedItem(), shown.node(u"Logs"_s));
+    QVERIFY(shown.node(u"Page1"_s)->Expanded());
+    const QRect row = shown.view->visualRect(shown.view->currentIndex());
+    QVERIFY(shown.view->viewport()->rect().contains(row));
 }
 
 void TreeDragTest::isNotDroppedWhereItIs()

@@ -30,10 +30,11 @@ void ReportList::noteLabel(ListItem &item, const QString &text)
 
 void ReportList::setLabel(ListItem &item, const QString &label)
 {
-    if (labelColumn() == 0)
+    const int column = d->labels.enteredColumn();
+    if (column == 0)
         item.setText(label);
-    else
-        item.setSubItem(labelColumn(), label);
+    else if (column < d->model.columns())
+        item.setSubItem(column, label);
 }
 
 qint16 ReportList::labelColumn() const

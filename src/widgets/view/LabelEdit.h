@@ -46,12 +46,18 @@ public:
                    const std::function<bool()> &isThere,
                    const std::function<void(const QString &)> &enter)
     {
-        tellSoon([&view, after, label = entered, isThere, enter]() mutable {
+        tellSoon([this, &view, after, label = entered, column = m_label.column(), isThere,
+                  enter]() mutable {
             qint16 cancel = 0;
-            if (isThere() && raiseEvent(view, after, cancel, label) && cancel == 0 && isThere())
-                enter(label);
+            if (!isThere() || !raiseEvent(view, after, cancel, label) || cancel != 0 || !isThere())
+                return;
+            m_enteredColumn = column;
+            enter(label);
         });
     }
+
+    // That of the label that is being entered; the view may name another one meanwhile.
+    int enteredColumn() const { return m_enteredColumn; }
 
     // Whether the press at hand has closed an editor.
     bool wasClosedByPress() const { return m_wasClosedByPress; }
@@ -78,6 +84,7 @@ private:
     ReportDelegate &m_delegate;
     QPersistentModelIndex m_label;
     QQueue<std::function<void()>> m_untold;
+    int m_enteredColumn = 0;
     bool m_isAnnouncing = false;
     bool m_wasClosedByPress = false;
 };

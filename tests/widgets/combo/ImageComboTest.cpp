@@ -38,6 +38,7 @@ private Q_SLOTS:
     void theProgramRaisesNoEvents();
     void setTextRaisesChange();
     void replacingEntriesKeepsTheTextThatWasNotTheirs();
+    void replacingEntriesClosesTheList();
     void thePictureIsThatOfTheSelectedEntry();
     void textColourIsTheFieldsOnly();
     void textColourFollowsTheThemeWhenTakenAway();
@@ -146,6 +147,19 @@ void ImageComboTest::replacingEntriesKeepsTheTextThatWasNotTheirs()
     combo.setEntries(ShownCombo::entriesOf({u"Two"_s}));
     QCOMPARE(combo.text(), QString());
     QCOMPARE(combo.selectedIndex(), 0);
+}
+
+void ImageComboTest::replacingEntriesClosesTheList()
+{
+    const ShownCombo shown;
+    for (const QStringList &texts : {QStringList{u"One"_s, u"Two"_s}, QStringList()}) {
+        shown->setEntries(ShownCombo::entriesOf({u"Former"_s}));
+        shown->showPopup();
+        QVERIFY(shown->isListOpen());
+        shown->setEntries(ShownCombo::entriesOf(texts));
+        QVERIFY(!shown->isListOpen());
+        QVERIFY(!QApplication::activePopupWidget());
+    }
 }
 
 void ImageComboTest::thePictureIsThatOfTheSelectedEntry()

@@ -84,6 +84,7 @@ private Q_SLOTS:
     void dropsWhatIsCancelledAfterwards();
     void takesTheHostsText();
     void entersWithTheFocusGone();
+    void entersWhereItWasEdited();
     void tellsTheLabelBeforeAnythingElse_data();
     void tellsTheLabelBeforeAnythingElse();
     void staysOpenForItsOwnMouse();
@@ -274,6 +275,29 @@ void ReportListLabelTest::entersWithTheFocusGone()
     shown.click(shown.cell(4));
     QTRY_COMPARE(shown.item(2)->Text(), u"new"_s);
     QCOMPARE(shown->SelectedItem(), shown.item(4));
+}
+
+// Whatever column is the labels' by then, and however many columns there are.
+void ReportListLabelTest::entersWhereItWasEdited()
+{
+    const ShownList shown;
+    shown->setSelectedItem(shown.item(2));
+    const QString other = shown.item(2)->SubItem(1);
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"new"_s);
+    shown->setLabelColumn(1);
+    QTest::keyClick(editorOf(shown), Qt::Key_Return);
+    shown->setLabelColumn(0); // before it is told
+    QTRY_COMPARE(shown.item(2)->Text(), u"new"_s);
+    QCOMPARE(shown.item(2)->SubItem(1), other);
+
+    shown->setLabelColumn(1);
+    shown->StartLabelEdit();
+    QTest::keyClicks(editorOf(shown), u"second"_s);
+    QTest::keyClick(editorOf(shown), Qt::Key_Return);
+    shown->setLabelColumn(0);
+    QTRY_COMPARE(shown.item(2)->SubItem(1), u"second"_s);
+    QCOMPARE(shown.item(2)->Text(), u"new"_s);
 }
 
 void ReportListLabelTest::tellsTheLabelBeforeAnythingElse_data()

@@ -97,7 +97,8 @@ TEST(FinishedLine, WordsHaveTheColoursOfTheWholeText)
     const QStringList pieces{u"if"_s, u"Temp1"_s, u"fan1"_s, u"x"_s, u"("_s, u")"_s,   u"(("_s,
                              u" "_s,  u"  "_s,    u"\t"_s,   u"4"_s, u"_"_s, u"day"_s, u">="_s};
     Colouring colouring;
-    for (int round = 0; round < 3000; ++round) {
+    const int rounds = randomSteps(10'000);
+    for (int round = 0; round < rounds; ++round) {
         QString line;
         for (unsigned i = 0; i < random() % 14; ++i)
             line += pieces[static_cast<qsizetype>(random() % pieces.size())];

@@ -84,7 +84,8 @@ TEST(Recolour, WhatTheBoxShowsGivesTheSameDocument)
     std::mt19937 random(seed);
     Colouring colouring;
     const QString head = BuildRtfHeader(QString(), defaultColours(), colouring.messages).Header;
-    for (int round = 0; round < 5000; ++round) {
+    const int rounds = randomSteps(10'000);
+    for (int round = 0; round < rounds; ++round) {
         const QString program = randomProgram(random);
         if (becomesComment(program))
             continue;
@@ -108,7 +109,8 @@ TEST(Recolour, RunsAndRtfShowTheSame)
     std::mt19937 random(seed);
     Colouring colouring;
     const QString head = BuildRtfHeader(QString(), defaultColours(), colouring.messages).Header;
-    for (int round = 0; round < 5000; ++round) {
+    const int rounds = randomSteps(10'000);
+    for (int round = 0; round < rounds; ++round) {
         const QString program = randomProgram(random);
         const ColouredText fromRtf = shown(ColourText(colouring.engine(), program, head, false));
         const ColouredText runs =
@@ -124,7 +126,8 @@ TEST(Recolour, WholeTextAndLineByLineAgree)
     const unsigned seed = randomSeed(4713);
     std::mt19937 random(seed);
     Colouring colouring;
-    for (int round = 0; round < 2000; ++round) {
+    const int rounds = randomSteps(10'000);
+    for (int round = 0; round < rounds; ++round) {
         const QString program = randomProgram(random);
         QStringList bodies;
         if (!program.isEmpty()) {
@@ -141,7 +144,8 @@ TEST(Recolour, LfAndCrLfAgreeOnceLineEndsAreCrLf)
     const unsigned seed = randomSeed(4714);
     std::mt19937 random(seed);
     Colouring colouring;
-    for (int round = 0; round < 500; ++round) {
+    const int rounds = randomSteps(10'000);
+    for (int round = 0; round < rounds; ++round) {
         const QString program = randomProgram(random);
         QString withLf = program;
         withLf.replace(u"\r\n"_s, u"\n"_s);
