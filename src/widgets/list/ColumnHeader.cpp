@@ -17,12 +17,14 @@ ColumnHeader::ColumnHeader(ReportListParts &parts, ReportColumn &column)
 
 float ColumnHeader::Width() const
 {
-    return static_cast<float>(m_parts->widths.width(m_parts->model.positionOf(held("Width"))));
+    auto &column = held("Width");
+    return static_cast<float>(m_parts->widths.width(m_parts->model.positionOf(column)));
 }
 
 void ColumnHeader::setWidth(float Width)
 {
-    const int position = m_parts->model.positionOf(held("setWidth"));
+    auto &column = held("setWidth");
+    const int position = m_parts->model.positionOf(column);
     if (!(Width >= 0))
         throw Error(InvalidCall, u"ColumnHeader.setWidth"_s, u"A width cannot be negative"_s);
     m_parts->widths.setWidth(position, static_cast<double>(Width));
@@ -35,17 +37,20 @@ Qt::Alignment ColumnHeader::alignment() const
 
 void ColumnHeader::setAlignment(Qt::Alignment alignment)
 {
-    m_parts->model.setColumnAlignment(held("setAlignment"), alignment & Qt::AlignHorizontal_Mask);
+    auto &column = held("setAlignment");
+    m_parts->model.setColumnAlignment(column, alignment & Qt::AlignHorizontal_Mask);
 }
 
 bool ColumnHeader::Visible() const
 {
-    return !m_parts->view.isColumnHidden(m_parts->model.positionOf(held("Visible")));
+    auto &column = held("Visible");
+    return !m_parts->view.isColumnHidden(m_parts->model.positionOf(column));
 }
 
 void ColumnHeader::setVisible(bool Visible)
 {
-    m_parts->view.setColumnHidden(m_parts->model.positionOf(held("setVisible")), !Visible);
+    auto &column = held("setVisible");
+    m_parts->view.setColumnHidden(m_parts->model.positionOf(column), !Visible);
 }
 
 } // namespace ORVTListview

@@ -37,12 +37,14 @@ void ListItem::setTag(const QString &Tag)
 
 QString ListItem::SubItem(qint32 Index) const
 {
-    return m_parts->model.cellText(heldWith("SubItem", Index), Index);
+    auto &row = heldWith("SubItem", Index);
+    return m_parts->model.cellText(row, Index);
 }
 
 void ListItem::setSubItem(qint32 Index, const QString &Text)
 {
-    m_parts->model.setSubItem(heldWith("setSubItem", Index), Index, Text);
+    auto &row = heldWith("setSubItem", Index);
+    m_parts->model.setSubItem(row, Index, Text);
 }
 
 QString ListItem::SubItemTag(qint32 Index) const
@@ -52,7 +54,8 @@ QString ListItem::SubItemTag(qint32 Index) const
 
 void ListItem::setSubItemTag(qint32 Index, const QString &Tag)
 {
-    m_parts->model.setSubItemTag(heldWith("setSubItemTag", Index), Index, Tag);
+    auto &row = heldWith("setSubItemTag", Index);
+    m_parts->model.setSubItemTag(row, Index, Tag);
 }
 
 QString ListItem::PictureKey() const
@@ -62,7 +65,8 @@ QString ListItem::PictureKey() const
 
 void ListItem::setPictureKey(const QString &Key)
 {
-    m_parts->model.setPicture(held("setPictureKey"), Key);
+    auto &row = held("setPictureKey");
+    m_parts->model.setPicture(row, Key);
 }
 
 QColor ListItem::foreground() const
@@ -72,17 +76,20 @@ QColor ListItem::foreground() const
 
 void ListItem::setForeground(const QColor &colour)
 {
-    m_parts->model.setForeground(held("setForeground"), colour);
+    auto &row = held("setForeground");
+    m_parts->model.setForeground(row, colour);
 }
 
 bool ListItem::Selected() const
 {
-    return m_parts->rowChoice.isSelected(held("Selected"));
+    auto &row = held("Selected");
+    return m_parts->rowChoice.isSelected(row);
 }
 
 void ListItem::setSelected(bool Selected)
 {
-    m_parts->rowChoice.setSelected(held("setSelected"), Selected);
+    auto &row = held("setSelected");
+    m_parts->rowChoice.setSelected(row, Selected);
 }
 
 bool ListItem::Checked() const
@@ -92,22 +99,26 @@ bool ListItem::Checked() const
 
 void ListItem::setChecked(bool Checked)
 {
-    m_parts->model.setChecked(held("setChecked"), Checked);
+    auto &row = held("setChecked");
+    m_parts->model.setChecked(row, Checked);
 }
 
 bool ListItem::Visible() const
 {
-    return !m_parts->view.isRowHidden(m_parts->model.positionOf(held("Visible")));
+    auto &row = held("Visible");
+    return !m_parts->view.isRowHidden(m_parts->model.positionOf(row));
 }
 
 void ListItem::setVisible(bool Visible)
 {
-    m_parts->view.setRowHidden(m_parts->model.positionOf(held("setVisible")), !Visible);
+    auto &row = held("setVisible");
+    m_parts->view.setRowHidden(m_parts->model.positionOf(row), !Visible);
 }
 
 void ListItem::EnsureVisible()
 {
-    m_parts->rowChoice.ensureVisible(held("EnsureVisible"));
+    auto &row = held("EnsureVisible");
+    m_parts->rowChoice.ensureVisible(row);
 }
 
 } // namespace ORVTListview

@@ -29,7 +29,8 @@ QString Node::Image() const
 
 void Node::setImage(const QString &Key)
 {
-    m_parts->model.setImage(held("setImage"), Key);
+    auto &node = held("setImage");
+    m_parts->model.setImage(node, Key);
 }
 
 QVariant Node::Tag() const
@@ -108,7 +109,8 @@ qint32 Node::ForeColor() const
 
 void Node::setForeColor(qint32 Color)
 {
-    m_parts->model.setForeColor(held("setForeColor"), Color);
+    auto &node = held("setForeColor");
+    m_parts->model.setForeColor(node, Color);
 }
 
 bool Node::Checked() const
@@ -118,12 +120,14 @@ bool Node::Checked() const
 
 void Node::setChecked(bool Checked)
 {
-    m_parts->model.setChecked(held("setChecked"), Checked);
+    auto &node = held("setChecked");
+    m_parts->model.setChecked(node, Checked);
 }
 
 bool Node::Selected() const
 {
-    return m_parts->choice.selected() == &held("Selected");
+    auto &node = held("Selected");
+    return m_parts->choice.selected() == &node;
 }
 
 void Node::setSelected(bool Selected)
@@ -137,7 +141,8 @@ void Node::setSelected(bool Selected)
 
 void Node::EnsureVisible()
 {
-    m_parts->choice.ensureVisible(held("EnsureVisible"));
+    auto &node = held("EnsureVisible");
+    m_parts->choice.ensureVisible(node);
 }
 
 } // namespace ORVTListview

@@ -37,13 +37,15 @@ Held *ViewElement<Handle, Parts, Held>::heldOf(const ViewElement *handle, const 
 template <typename Handle, typename Parts, typename Held>
 qint32 ViewElement<Handle, Parts, Held>::Index() const
 {
-    return m_parts->model.positionOf(held("Index")) + 1;
+    auto &element = held("Index");
+    return m_parts->model.positionOf(element) + 1;
 }
 
 template <typename Handle, typename Parts, typename Held>
 QString ViewElement<Handle, Parts, Held>::Key() const
 {
-    return m_parts->model.keyOf(held("Key"));
+    auto &element = held("Key");
+    return m_parts->model.keyOf(element);
 }
 
 template <typename Handle, typename Parts, typename Held>
@@ -59,13 +61,15 @@ void ViewElement<Handle, Parts, Held>::setKey(const QString &Key)
 template <typename Handle, typename Parts, typename Held>
 QString ViewElement<Handle, Parts, Held>::Text() const
 {
-    return m_parts->model.textOf(held("Text"));
+    auto &element = held("Text");
+    return m_parts->model.textOf(element);
 }
 
 template <typename Handle, typename Parts, typename Held>
 void ViewElement<Handle, Parts, Held>::setText(const QString &Text)
 {
-    m_parts->model.setText(held("setText"), Text);
+    auto &element = held("setText");
+    m_parts->model.setText(element, Text);
 }
 
 } // namespace ORVTListview
