@@ -9,6 +9,7 @@
 #include <Qsci/qscilexer.h>
 #include <Qsci/qsciscintilla.h>
 
+#include <algorithm>
 #include <map>
 
 namespace ORVTListview::bench {
@@ -78,6 +79,8 @@ private:
     std::map<int, QByteArray> m_words;
 };
 
+constexpr int problemIndicator = 8;
+
 int styleAt(const QsciScintilla &editor, qsizetype position)
 {
     return static_cast<int>(
@@ -115,6 +118,59 @@ QString Scintilla::text() const
 void Scintilla::putCaret(qsizetype position) const
 {
     d->editor.SendScintilla(QsciScintilla::SCI_GOTOPOS, static_cast<unsigned long>(position));
+}
+
+void Scintilla::showAll(int problems, int bookmarks) const
+{
+    QsciScintilla &editor = d->editor;
+    editor.setMarginLineNumbers(0, true);
+    editor.setMarginWidth(0, u"00000000"_s);
+    editor.setFolding(QsciScintilla::BoxedTreeFoldStyle);
+    editor.setBraceMatching(QsciScintilla::SloppyBraceMatch);
+    editor.setCaretLineVisible(true);
+    editor.setIndentationGuides(true);
+    editor.setWhitespaceVisibility(QsciScintilla::WsVisible);
+    const int squiggle = editor.indicatorDefine(QsciScintilla::SquiggleIndicator, problemIndicator);
+    const int sign = editor.markerDefine(QsciScintilla::Bookmark);
+    const auto lineOf = [&](int thing, int things) {
+        return static_cast<int>(qint64(thing) * editor.lines() / things);
+    };
+    for (int i = 0; i < problems; ++i) {
+        const int line = lineOf(i, problems);
+        editor.fillIndicatorRange(line, 0, line, std::max(1, editor.lineLength(line) - 2),
+                                  squiggle);
+    }
+    for (int i = 0; i < bookmarks; ++i)
+        editor.markerAdd(lineOf(i, bookmarks), sign);
+}
+
+int Scintilla::problems() const
+{
+    const QsciScintilla &editor = d->editor;
+    const auto isMarked = [&](long position) {
+        return editor.SendScintilla(QsciScintilla::SCI_INDICATORVALUEAT, problemIndicator,
+                                    position) != 0;
+    };
+    int count = 0;
+    for (int line = 0; line < editor.lines(); ++line)
+        count += isMarked(editor.positionFromLineIndex(line, 0)) ? 1 : 0;
+    return count;
+}
+
+int Scintilla::foldDepthAt(qsizetype position) const
+{
+    const long line = d->editor.SendScintilla(QsciScintilla::SCI_LINEFROMPOSITION,
+                                              static_cast<unsigned long>(position));
+    int deepest = 0;
+    constexpr int beside = 50;
+    for (long other = std::max(0L, line - beside); other < line + beside; ++other) {
+        const long level = d->editor.SendScintilla(QsciScintilla::SCI_GETFOLDLEVEL,
+                                                   static_cast<unsigned long>(other));
+        deepest =
+            std::max(deepest, static_cast<int>(level & QsciScintilla::SC_FOLDLEVELNUMBERMASK) -
+                                  static_cast<int>(QsciScintilla::SC_FOLDLEVELBASE));
+    }
+    return deepest;
 }
 
 void Scintilla::restyle() const

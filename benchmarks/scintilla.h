@@ -21,6 +21,13 @@ public:
     QString text() const;
     void putCaret(qsizetype position) const;
 
+    // What it has of what our editor shows beside the text: the lines' numbers, signs and
+    // folds in its margins, the caret's line, pairs, guides, blanks, and so many problems
+    // underlined and lines marked, evenly over the text.
+    void showAll(int problems, int bookmarks) const;
+    int problems() const;
+    int foldDepthAt(qsizetype position) const; // how deep its lines are in blocks
+
     // Styles the whole text anew.
     void restyle() const;
 

@@ -4,15 +4,14 @@
 
 #include "code_editor.h"
 #include "keys.h"
-#include "painting.h"
 #include "program.h"
 #include "report.h"
 #include "scintilla.h"
+#include "typed_into.h"
 
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/ThreadColouring.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtWidgets/QApplication>
 
 using namespace ORVTListview;
@@ -24,67 +23,6 @@ namespace {
 constexpr qsizetype keysTyped = 300;
 constexpr qsizetype keysInTurn = 25;
 constexpr qsizetype keysInARow = 1000;
-
-// The end of the first line without an indent in the second half of a text.
-qsizetype placeToType(const QString &text)
-{
-    static const QRegularExpression line(u"\r\n[A-Za-z][^\r]*"_s);
-    return line.match(text, text.size() / 2).capturedEnd();
-}
-
-// An editor's widgets: the one that takes the keys, the one that shows the text.
-class TypedInto
-{
-public:
-    explicit TypedInto(QAbstractScrollArea &editor)
-        : m_editor(editor)
-        , m_watch(*editor.viewport())
-    {
-        showForBenchmark(*editor.window());
-    }
-
-    // The keys go to one window; the other editor's rests meanwhile.
-    void takeFocus()
-    {
-        m_editor.activateWindow();
-        m_editor.setFocus();
-        QCoreApplication::processEvents();
-        if (!m_editor.hasFocus())
-            qFatal("an editor did not get the focus");
-    }
-
-    void press(const Key &key)
-    {
-        m_watch.forget();
-        sendKey(m_editor, key);
-        if (!m_watch.finishPainting())
-            qFatal("a key was not painted");
-    }
-
-    void timeKeys(const QList<Key> &keys, Times &times)
-    {
-        takeFocus();
-        for (const Key &key : keys)
-            times.add(timed([&] { press(key); }));
-    }
-
-    void timeKeysAtWork(const QList<Key> &keys, Times &times)
-    {
-        takeFocus();
-        for (const Key &key : keys)
-            times.add(timedAtWork([&] { press(key); }));
-    }
-
-private:
-    QAbstractScrollArea &m_editor;
-    PaintWatch m_watch;
-};
-
-void putCaret(RichTextBox &box, qsizetype place)
-{
-    box.setSelStart(static_cast<qint32>(place));
-    box.centerCursor();
-}
 
 class BothEditors
 {

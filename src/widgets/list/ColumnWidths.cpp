@@ -64,6 +64,7 @@ void ColumnWidths::setNeeded(int column, int pixels)
     }
     m_lastNeeded = pixels;
     m_filling = true;
+    m_keptIn = noWidth;
     refill();
 }
 
@@ -83,8 +84,18 @@ void ColumnWidths::refill()
     resize(m_model.columns() - 1, width);
 }
 
+// Another header may bring or take away a scroll bar, too; that is no other list.
+void ColumnWidths::viewportResized()
+{
+    if (m_keptIn == m_view.width())
+        return;
+    m_keptIn = noWidth;
+    refill();
+}
+
 void ColumnWidths::headerReplaced(int column, bool isCut)
 {
+    m_keptIn = m_view.width();
     const int needed = neededForHeader(column);
     if (isCut)
         resize(column, std::max(needed, m_view.columnWidth(column)));

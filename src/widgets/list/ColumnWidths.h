@@ -36,11 +36,13 @@ public:
 
     // What happened to the view: its viewport has another width, there are other
     // columns, a column has another width.
-    void viewportResized() { refill(); }
+    void viewportResized();
     void columnsChanged() { m_filling = false; }
     void columnResized(int column);
 
 private:
+    static constexpr int noWidth = -1;
+
     void refill();
     void setNeeded(int column, int pixels);
     QList<int> neededWidths();
@@ -57,6 +59,7 @@ private:
     QFont m_font;
     bool m_filling = false; // the last column takes the rest of the viewport
     int m_lastNeeded = 0;
+    int m_keptIn = noWidth;  // the list's width in which the last column keeps its own
     int m_beside = 0;        // of the list, beside the viewport, counts to the filling column
     bool m_resizing = false; // it is this class that resizes
 };
