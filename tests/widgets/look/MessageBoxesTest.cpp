@@ -4,6 +4,7 @@
 
 #include "support/TestProgram.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
