@@ -39,7 +39,9 @@ void CheckModel::setWords(const QList<ProgramWord> &words)
 void CheckModel::retranslate()
 {
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
-    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::DisplayRole});
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
+                           {Qt::DisplayRole});
 }
 
 CheckModel::Place CheckModel::place(int row) const
@@ -70,6 +72,8 @@ int CheckModel::columnCount(const QModelIndex &parent) const
 
 QVariant CheckModel::data(const QModelIndex &index, int role) const
 {
+    if (!index.isValid())
+        return {};
     if (role == Qt::DisplayRole)
         return text(index);
     if (role == Qt::DecorationRole)

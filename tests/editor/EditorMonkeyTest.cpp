@@ -1,13 +1,12 @@
-// Random keys, pastes, undos, redos, list openings, word picks and calls of the host,
-// against a simple model of what the editor holds. ORVT_MONKEY_SEED and
-// ORVT_MONKEY_STEPS replay a run.
+// Random keys, pastes, undos, redos, list openings, word picks and calls of a host whose
+// handlers throw, against a simple model of what the editor holds.
 
 #include "editor/EditorClock.h"
 #include "editor/EditorHost.h"
 #include "editor/EditorModel.h"
+#include "support/Disturbances.h"
 #include "support/RandomSeed.h"
 #include "support/TestProgram.h"
-#include "support/WidgetTest.h"
 #include <ORVTListview/ListItem.h>
 
 #include <QtGui/QClipboard>
@@ -19,7 +18,7 @@
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-class EditorMonkeyTest : public WidgetTest
+class EditorMonkeyTest : public ThrowingHostTest
 {
     Q_OBJECT
 
@@ -448,6 +447,7 @@ private Q_SLOTS:
         const unsigned seed = randomSeed(20261120);
         m_random.seed(seed);
         EditorHost host;
+        const ThrowingHost throwing(*host.list);
         m_host = &host;
         threadPart<EditorClock>().now = [time = EditorClock::Time()] { return time; };
         m_model = {};

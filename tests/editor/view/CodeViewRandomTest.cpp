@@ -4,14 +4,11 @@
 #include "editor/AllOfTheView.h"
 #include "editor/rules/structure/Folding.h"
 #include "editor/view/ViewFixture.h"
-#include "support/RandomSeed.h"
-#include "support/RandomText.h"
-#include "support/Shrunk.h"
+#include "support/RandomSession.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <algorithm>
-#include <functional>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -65,11 +62,11 @@ QString textOf(const Model &lines)
     return texts.join(u"\r\n"_s);
 }
 
-class Session
+class Session final : public RandomSession
 {
 public:
     explicit Session(unsigned seed)
-        : m_random(seed)
+        : RandomSession(seed)
         , m_lines(randomProgram(m_random))
     {
         switchView(view(), true);
@@ -77,37 +74,14 @@ public:
         m_host.list->openProgram(textOf(m_lines));
     }
 
-    // What is wrong after the first of these steps, each a seed, that leaves anything
-    // wrong; empty when none does.
-    QString take(const std::vector<unsigned> &steps)
-    {
-        for (const unsigned step : steps) {
-            m_random = RandomText(step);
-            take();
-            QCoreApplication::processEvents();
-            const QString wrong = m_wrong.isEmpty() ? whatIsWrong() : m_wrong;
-            if (!wrong.isEmpty())
-                return wrong;
-        }
-        return {};
-    }
-
-    QString done() const { return m_done.join(u", "_s); }
-
 private:
     using Act = void (Session::*)();
 
     RichTextBox &box() { return m_host.box(); }
     CodeView &view() { return m_host.view(); }
     int count() const { return static_cast<int>(m_lines.size()); }
-    void note(const QString &act) { m_done.append(act); }
-    void expect(bool isRight, const QString &what)
-    {
-        if (!isRight && m_wrong.isEmpty())
-            m_wrong = what;
-    }
 
-    void take()
+    void act() override
     {
         static constexpr Act acts[] = {
             &Session::typeAtEnd,   &Session::breakLine,     &Session::pressHome,
@@ -115,8 +89,8 @@ private:
             &Session::clickFold,   &Session::moveLines,     &Session::duplicateLines,
             &Session::deleteLine,  &Session::joinAndUndo,   &Session::sortAndUndo,
             &Session::newProblems, &Session::zoomAndScroll, &Session::pressArrows};
-        const int act = m_random.number(static_cast<int>(std::size(acts)));
-        (this->*acts[act])();
+        (this->*oneOf(acts))();
+        QCoreApplication::processEvents();
     }
 
     // Some line, from 0, where the caret then stands.
@@ -328,7 +302,7 @@ private:
             m_host.key(key);
     }
 
-    QString whatIsWrong()
+    QString whatIsWrong() override
     {
         if (box().Text() != textOf(m_lines))
             return u"the text is another: "_s + box().Text() + u"\ninstead of: "_s +
@@ -346,11 +320,8 @@ private:
     bool isHidden(int line) { return !box().document()->findBlockByNumber(line).isVisible(); }
 
     ThreadState::Fresh m_state;
-    RandomText m_random;
     Model m_lines;
     ViewHost m_host;
-    QStringList m_done;
-    QString m_wrong;
 };
 
 } // namespace
@@ -362,22 +333,8 @@ class CodeViewRandomTest : public WidgetTest
 private Q_SLOTS:
     void everyStepIsThatOfTheModel()
     {
-        std::mt19937 random(randomSeed());
-        constexpr int sessions = 40;
-        std::vector<unsigned> steps(static_cast<std::size_t>(randomSteps(20'000) / sessions));
-        for (int i = 0; i < sessions; ++i) {
-            const auto seed = static_cast<unsigned>(random());
-            std::generate(steps.begin(), steps.end(), std::ref(random));
-            const auto fails = [seed](const std::vector<unsigned> &some) {
-                return !Session(seed).take(some).isEmpty();
-            };
-            if (!fails(steps))
-                continue;
-            const std::vector<unsigned> fewer = shrunk(steps, fails);
-            Session session(seed);
-            const QString wrong = session.take(fewer);
-            QFAIL(qPrintable(wrong + u" after: "_s + session.done()));
-        }
+        const QString failure = failureIn<Session>(40, 20'000);
+        QVERIFY2(failure.isEmpty(), qPrintable(failure));
     }
 };
 

@@ -1,17 +1,12 @@
-// A user and a program at work on one combo, at random; after each step everything
-// fits together.
+// A user and a program, whose handlers throw, at work on one combo, at random; after each
+// step everything fits together.
 
-#include "support/RandomSeed.h"
-#include "support/RandomText.h"
-#include "support/Shrunk.h"
+#include "support/Disturbances.h"
+#include "support/RandomSession.h"
 #include "support/TestProgram.h"
-#include "support/WidgetTest.h"
 #include "widgets/combo/ImageComboFixture.h"
 
 #include <QtGui/QKeySequence>
-
-#include <algorithm>
-#include <functional>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -40,50 +35,34 @@ struct Told
     int clicks = 0;
 };
 
-class Session
+class Session final : public RandomSession
 {
 public:
     explicit Session(unsigned seed)
-        : m_random(seed)
+        : RandomSession(seed)
         , m_shown(randomTexts(m_random))
         , m_told(m_shown.combo)
     {
     }
 
-    // What is wrong after the first of these steps, each a seed, that leaves anything
-    // wrong; empty when none does.
-    QString take(const std::vector<unsigned> &steps)
-    {
-        for (const unsigned step : steps) {
-            m_random = RandomText(step);
-            const QString wrong = take();
-            if (!wrong.isEmpty())
-                return wrong;
-        }
-        return {};
-    }
-
-    QString done() const { return m_done.join(u", "_s); }
-
 private:
-    QString take()
+    void act() override
     {
         m_told.changes = m_told.clicks = 0;
-        const QString before = m_shown->text();
-        const bool byUser = m_random.number(12) > 0;
-        byUser ? useCombo() : useProgram();
-        return wrong(before, byUser);
+        m_before = m_shown->text();
+        m_isByUser = !oneIn(12);
+        m_isByUser ? useCombo() : useProgram();
     }
 
     void type(QChar letter)
     {
-        m_done.append(u"type "_s + letter);
+        note(u"type "_s + letter);
         m_shown.type(letter);
     }
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
-        m_done.append(QKeySequence(modifiers | key).toString(QKeySequence::PortableText));
+        note(QKeySequence(modifiers | key).toString(QKeySequence::PortableText));
         m_shown.key(key, modifiers);
     }
 
@@ -106,39 +85,42 @@ private:
 
     void useProgram()
     {
-        switch (m_random.number(4)) {
+        switch (m_random.number(5)) {
         case 0:
-            m_done.append(u"set entries"_s);
+            note(u"set entries"_s);
             m_shown->setEntries(ShownCombo::entriesOf(randomTexts(m_random)));
             break;
         case 1:
-            m_done.append(u"set index"_s);
+            note(u"set index"_s);
             m_shown->setSelectedIndex(m_random.number(m_shown->count() + 1));
             break;
         case 2:
-            m_done.append(u"set text"_s);
+            note(u"set text"_s);
             m_shown->setText(m_random.number(2) ? u"temp1"_s : u"host"_s);
             break;
+        case 3:
+            note(m_disturbances.next(m_random));
+            break;
         default:
-            m_done.append(u"open or close"_s);
+            note(u"open or close"_s);
             m_shown->isListOpen() ? m_shown->hidePopup() : m_shown->showPopup();
         }
     }
 
-    QString wrong(const QString &before, bool byUser) const
+    QString whatIsWrong() override
     {
         const qint32 selected = m_shown->selectedIndex();
         const QString text = m_shown->text();
         const int told = m_told.changes + m_told.clicks;
         if (selected != 0 && text != m_shown->entry(selected).text)
             return u"the text is not the selected entry's"_s;
-        if (byUser && text != before && told == 0)
+        if (m_isByUser && text != m_before && told == 0)
             return u"the user's change of text was not told"_s;
         if (told > 1)
             return u"one step was told twice"_s;
-        if (m_told.clicks > 0 && (selected == 0 || !byUser))
+        if (m_told.clicks > 0 && (selected == 0 || !m_isByUser))
             return u"Click without a choice"_s;
-        if (m_told.changes > 0 && text == before && !byUser) // who may type the same anew
+        if (m_told.changes > 0 && text == m_before && !m_isByUser) // who may type the same anew
             return u"Change without a change"_s;
         return wrongInList(text, selected);
     }
@@ -160,35 +142,25 @@ private:
         return listed.isEmpty() ? u"an empty list is open"_s : QString();
     }
 
-    RandomText m_random;
     ShownCombo m_shown;
     Told m_told;
-    QStringList m_done;
+    ThrowingHost m_host{*m_shown.combo, 7, QComboBox::staticMetaObject};
+    Disturbances m_disturbances{m_shown.form};
+    QString m_before;
+    bool m_isByUser = false;
 };
 
 } // namespace
 
-class ImageComboRandomTest : public WidgetTest
+class ImageComboRandomTest : public ThrowingHostTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void everyStepLeavesTheComboInOrder()
     {
-        std::mt19937 random(randomSeed());
-        std::vector<unsigned> steps(static_cast<std::size_t>(randomSteps(300)));
-        for (int i = 0; i < 25; ++i) {
-            const auto seed = static_cast<unsigned>(random());
-            std::generate(steps.begin(), steps.end(), std::ref(random));
-            const auto fails = [seed](const std::vector<unsigned> &some) {
-                return !Session(seed).take(some).isEmpty();
-            };
-            if (!fails(steps))
-                continue;
-            Session session(seed);
-            const QString wrong = session.take(shrunk(steps, fails));
-            QFAIL(qPrintable(wrong + u" after: "_s + session.done()));
-        }
+        const QString failure = failureIn<Session>(25, 7500);
+        QVERIFY2(failure.isEmpty(), qPrintable(failure));
     }
 };
 
