@@ -17,8 +17,7 @@ ColumnHeader::ColumnHeader(ReportListParts &parts, ReportColumn &column)
 
 float ColumnHeader::Width() const
 {
-    auto &column = held("Width");
-    return static_cast<float>(m_parts->widths.width(m_parts->model.positionOf(column)));
+    return static_cast<float>(partsFor("Width").widths.width(m_parts->model.positionOf(*m_held)));
 }
 
 void ColumnHeader::setWidth(float Width)
@@ -37,20 +36,18 @@ Qt::Alignment ColumnHeader::alignment() const
 
 void ColumnHeader::setAlignment(Qt::Alignment alignment)
 {
-    auto &column = held("setAlignment");
-    m_parts->model.setColumnAlignment(column, alignment & Qt::AlignHorizontal_Mask);
+    partsFor("setAlignment")
+        .model.setColumnAlignment(*m_held, alignment & Qt::AlignHorizontal_Mask);
 }
 
 bool ColumnHeader::Visible() const
 {
-    auto &column = held("Visible");
-    return !m_parts->view.isColumnHidden(m_parts->model.positionOf(column));
+    return !partsFor("Visible").view.isColumnHidden(m_parts->model.positionOf(*m_held));
 }
 
 void ColumnHeader::setVisible(bool Visible)
 {
-    auto &column = held("setVisible");
-    m_parts->view.setColumnHidden(m_parts->model.positionOf(column), !Visible);
+    partsFor("setVisible").view.setColumnHidden(m_parts->model.positionOf(*m_held), !Visible);
 }
 
 } // namespace ORVTListview

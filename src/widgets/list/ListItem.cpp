@@ -65,8 +65,7 @@ QString ListItem::PictureKey() const
 
 void ListItem::setPictureKey(const QString &Key)
 {
-    auto &row = held("setPictureKey");
-    m_parts->model.setPicture(row, Key);
+    partsFor("setPictureKey").model.setPicture(*m_held, Key);
 }
 
 QColor ListItem::foreground() const
@@ -76,20 +75,17 @@ QColor ListItem::foreground() const
 
 void ListItem::setForeground(const QColor &colour)
 {
-    auto &row = held("setForeground");
-    m_parts->model.setForeground(row, colour);
+    partsFor("setForeground").model.setForeground(*m_held, colour);
 }
 
 bool ListItem::Selected() const
 {
-    auto &row = held("Selected");
-    return m_parts->rowChoice.isSelected(row);
+    return partsFor("Selected").rowChoice.isSelected(*m_held);
 }
 
 void ListItem::setSelected(bool Selected)
 {
-    auto &row = held("setSelected");
-    m_parts->rowChoice.setSelected(row, Selected);
+    partsFor("setSelected").rowChoice.setSelected(*m_held, Selected);
 }
 
 bool ListItem::Checked() const
@@ -99,26 +95,22 @@ bool ListItem::Checked() const
 
 void ListItem::setChecked(bool Checked)
 {
-    auto &row = held("setChecked");
-    m_parts->model.setChecked(row, Checked);
+    partsFor("setChecked").model.setChecked(*m_held, Checked);
 }
 
 bool ListItem::Visible() const
 {
-    auto &row = held("Visible");
-    return !m_parts->view.isRowHidden(m_parts->model.positionOf(row));
+    return !partsFor("Visible").view.isRowHidden(m_parts->model.positionOf(*m_held));
 }
 
 void ListItem::setVisible(bool Visible)
 {
-    auto &row = held("setVisible");
-    m_parts->view.setRowHidden(m_parts->model.positionOf(row), !Visible);
+    partsFor("setVisible").view.setRowHidden(m_parts->model.positionOf(*m_held), !Visible);
 }
 
 void ListItem::EnsureVisible()
 {
-    auto &row = held("EnsureVisible");
-    m_parts->rowChoice.ensureVisible(row);
+    partsFor("EnsureVisible").rowChoice.ensureVisible(*m_held);
 }
 
 } // namespace ORVTListview

@@ -29,8 +29,7 @@ QString Node::Image() const
 
 void Node::setImage(const QString &Key)
 {
-    auto &node = held("setImage");
-    m_parts->model.setImage(node, Key);
+    partsFor("setImage").model.setImage(*m_held, Key);
 }
 
 QVariant Node::Tag() const
@@ -109,8 +108,7 @@ qint32 Node::ForeColor() const
 
 void Node::setForeColor(qint32 Color)
 {
-    auto &node = held("setForeColor");
-    m_parts->model.setForeColor(node, Color);
+    partsFor("setForeColor").model.setForeColor(*m_held, Color);
 }
 
 bool Node::Checked() const
@@ -120,14 +118,12 @@ bool Node::Checked() const
 
 void Node::setChecked(bool Checked)
 {
-    auto &node = held("setChecked");
-    m_parts->model.setChecked(node, Checked);
+    partsFor("setChecked").model.setChecked(*m_held, Checked);
 }
 
 bool Node::Selected() const
 {
-    auto &node = held("Selected");
-    return m_parts->choice.selected() == &node;
+    return partsFor("Selected").choice.selected() == m_held;
 }
 
 void Node::setSelected(bool Selected)
@@ -141,8 +137,7 @@ void Node::setSelected(bool Selected)
 
 void Node::EnsureVisible()
 {
-    auto &node = held("EnsureVisible");
-    m_parts->choice.ensureVisible(node);
+    partsFor("EnsureVisible").choice.ensureVisible(*m_held);
 }
 
 } // namespace ORVTListview

@@ -20,6 +20,13 @@ Held &ViewElement<Handle, Parts, Held>::held(const char *member) const
 }
 
 template <typename Handle, typename Parts, typename Held>
+Parts &ViewElement<Handle, Parts, Held>::partsFor(const char *member) const
+{
+    held(member);
+    return *m_parts;
+}
+
+template <typename Handle, typename Parts, typename Held>
 Held *ViewElement<Handle, Parts, Held>::heldOf(const ViewElement *handle, const Parts &parts,
                                                const QString &source)
 {
@@ -37,15 +44,13 @@ Held *ViewElement<Handle, Parts, Held>::heldOf(const ViewElement *handle, const 
 template <typename Handle, typename Parts, typename Held>
 qint32 ViewElement<Handle, Parts, Held>::Index() const
 {
-    auto &element = held("Index");
-    return m_parts->model.positionOf(element) + 1;
+    return partsFor("Index").model.positionOf(*m_held) + 1;
 }
 
 template <typename Handle, typename Parts, typename Held>
 QString ViewElement<Handle, Parts, Held>::Key() const
 {
-    auto &element = held("Key");
-    return m_parts->model.keyOf(element);
+    return partsFor("Key").model.keyOf(*m_held);
 }
 
 template <typename Handle, typename Parts, typename Held>
@@ -61,15 +66,13 @@ void ViewElement<Handle, Parts, Held>::setKey(const QString &Key)
 template <typename Handle, typename Parts, typename Held>
 QString ViewElement<Handle, Parts, Held>::Text() const
 {
-    auto &element = held("Text");
-    return m_parts->model.textOf(element);
+    return partsFor("Text").model.textOf(*m_held);
 }
 
 template <typename Handle, typename Parts, typename Held>
 void ViewElement<Handle, Parts, Held>::setText(const QString &Text)
 {
-    auto &element = held("setText");
-    m_parts->model.setText(element, Text);
+    partsFor("setText").model.setText(*m_held, Text);
 }
 
 } // namespace ORVTListview

@@ -45,6 +45,9 @@ protected:
     // Raises Error (ObjectNotSet), named for the member, once it is gone.
     Held &held(const char *member) const;
 
+    // The same of its list's or tree's parts: only what lives may reach for them.
+    Parts &partsFor(const char *member) const;
+
     // What a caller's handle stands for, which is to be one of these parts; null for null.
     static Held *heldOf(const ViewElement *handle, const Parts &parts, const QString &source);
 
