@@ -63,7 +63,7 @@ QHash<QString, QString> values(int count)
 {
     QHash<QString, QString> all;
     for (int i = 0; i < count; ++i)
-        all.insert(pointName(i), u"%1.%2 °C"_s.arg(i % 90).arg(i % 10));
+        all.insert(pointName(i), QString::number(i % 900 / 10., 'f', 1) + u" °C"_s);
     return all;
 }
 
