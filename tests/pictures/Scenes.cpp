@@ -18,7 +18,8 @@ constexpr int captionHeight = 20;
 const QList<Scene> &scenes()
 {
     static const QList<Scene> all{
-        {"combo", &comboScene},   {"find", &findScene}, {"table-states", &tableStatesScene},
+        {"code", &codeScene},     {"combo", &comboScene},
+        {"find", &findScene},     {"table-states", &tableStatesScene},
         {"tables", &tablesScene}, {"tree", &treeScene},
     };
     return all;
