@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -59,7 +60,16 @@ void PointValues::takeProject()
                                  cellOf(row, type, u"Description"_s).toString()});
         }
     }
+    describeWords();
     feed();
+}
+
+void PointValues::describeWords()
+{
+    QHash<QString, QString> descriptions;
+    for (const Told &point : std::as_const(m_points))
+        descriptions.insert(point.name, point.description);
+    m_view.setWordDescriptions(descriptions);
 }
 
 void PointValues::askController()

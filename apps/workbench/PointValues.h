@@ -14,9 +14,9 @@ class CodeView;
 class HoverAnswer;
 class Project;
 
-// Tells the editor of the project's points: the values of now, each second those that the
-// simulated controller has then, and all there is of a point when the mouse asks. The
-// project and its tables keep what was read last.
+// Tells the editor of the project's points: the descriptions for its list of words, the
+// values of now, each second those that the simulated controller has then, and all there is
+// of a point when the mouse asks. The project and its tables keep what was read last.
 class PointValues : public QObject
 {
     Q_OBJECT
@@ -41,6 +41,7 @@ private:
     };
 
     void askController();
+    void describeWords();
     void feed();
     void answer(const QString &word, HoverAnswer *answer) const;
 

@@ -2,18 +2,13 @@
 
 #include "PointTables.h"
 #include "project/Project.h"
-#include "project/ProjectColumns.h"
 #include "widgets/box/BoxCommands.h"
 
-#include <ORVTListview/CodeView.h>
 #include <ORVTListview/Node.h>
 #include <ORVTListview/Nodes.h>
 #include <ORVTListview/RichTextBox.h>
 
-#include <QtCore/QHash>
 #include <QtCore/QMimeData>
-
-#include <algorithm>
 
 namespace ORVTListview {
 
@@ -33,7 +28,6 @@ ProjectView::ProjectView(QWidget *parent)
     m_tree->InitStrings();
     m_list->InitStrings();
     connect(m_tree, &ORVTreeview::NodeClick, this, &ProjectView::followTree);
-    connect(m_tables, &PointTables::renamed, this, &ProjectView::describeWords);
 }
 
 void ProjectView::setProject(Project &project)
@@ -45,24 +39,6 @@ void ProjectView::setProject(Project &project)
                                    project.points(dsNvi));
     m_tree->setStringIndexCollection(project.indexedNames());
     applyFunctionWords();
-    describeWords();
-}
-
-// What the tables say of the points, for the list of known words.
-void ProjectView::describeWords()
-{
-    QHash<QString, QString> descriptions;
-    for (const LwType type : {dsVariable, dsConst, dsInput, dsOutput, dsNvi}) {
-        const QList<ProjectColumn> &columns = projectColumns(type);
-        const auto column = std::find_if(columns.begin(), columns.end(), [](const auto &each) {
-            return each.key == u"Description";
-        });
-        for (const ProjectRow &row : m_project->rows(type)) {
-            if (column != columns.end())
-                descriptions.insert(row.name, row.cells.value(column - columns.begin()).toString());
-        }
-    }
-    m_list->codeView()->setWordDescriptions(descriptions);
 }
 
 void ProjectView::applyFunctionWords()

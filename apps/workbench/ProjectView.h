@@ -41,7 +41,6 @@ Q_SIGNALS:
 private:
     void followTree(const Node *node);
     void applyFunctionWords();
-    void describeWords();
 
     ORVTreeview *m_tree;
     ORVListView *m_list;

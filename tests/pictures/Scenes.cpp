@@ -18,9 +18,13 @@ constexpr int captionHeight = 20;
 const QList<Scene> &scenes()
 {
     static const QList<Scene> all{
-        {"combo", &comboScene},   {"editor", &editorScene},
-        {"find", &findScene},     {"table-states", &tableStatesScene},
-        {"tables", &tablesScene}, {"tree", &treeScene},
+        {"code", &codeScene},
+        {"combo", &comboScene},
+        {"editor", &editorScene},
+        {"find", &findScene},
+        {"table-states", &tableStatesScene},
+        {"tables", &tablesScene},
+        {"tree", &treeScene},
     };
     return all;
 }

@@ -39,6 +39,7 @@ struct Scene
 
 const QList<Scene> &scenes();
 
+void codeScene(Sheet &sheet);
 void comboScene(Sheet &sheet);
 void editorScene(Sheet &sheet);
 void findScene(Sheet &sheet);

@@ -1,12 +1,13 @@
 #include "editor/view/LayerOrder.h"
 #include "editor/view/LineLayer.h"
-#include "editor/view/LinePlaces.h"
 #include "editor/view/ViewColours.h"
+#include "widgets/box/LinePlaces.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QPlainTextEdit>
 
 #include <algorithm>
+#include <cmath>
 
 namespace ORVTListview {
 namespace {
@@ -18,26 +19,39 @@ void drawArrow(QPainter &painter, const QRectF &place, bool isLeftwards)
     const qreal tip = isLeftwards ? place.left() + 2 : place.right() - 2;
     const qreal tail = isLeftwards ? place.right() - 2 : place.left() + 2;
     const qreal back = isLeftwards ? tip + head : tip - head;
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.drawLine(QPointF(tail, middle), QPointF(tip, middle));
     painter.drawLine(QPointF(back, middle - head), QPointF(tip, middle));
     painter.drawLine(QPointF(back, middle + head), QPointF(tip, middle));
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+// Of whole pixels, whatever their size.
+void drawDot(QPainter &painter, const QPointF &middle, const QColor &colour)
+{
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const qreal side = std::round(2 * ratio) / ratio;
+    const auto onPixel = [ratio](qreal place) { return std::round(place * ratio) / ratio; };
+    painter.fillRect(
+        QRectF(onPixel(middle.x() - side / 2), onPixel(middle.y() - side / 2), side, side), colour);
 }
 
 // What stands beside the viewport is passed over: a line may be long.
-void mark(QPainter &painter, const ShownLine &line, const QPlainTextEdit &box)
+void mark(QPainter &painter, const ShownLine &line, const QPlainTextEdit &box, const QColor &colour)
 {
     const QString text = line.block.text();
     const QRectF shown(box.viewport()->rect());
+    const LinePlaces places(line);
     for (qint32 i = 0; i < text.size(); ++i) {
         if (text[i] != u' ' && text[i] != u'\t')
             continue;
-        for (const QRectF &place : placesOf(line, {i, 1})) {
+        for (const QRectF &place : places.of({i, 1})) {
             if (!shown.intersects(place))
                 continue;
             if (text[i] == u'\t')
                 drawArrow(painter, place, box.isRightToLeft());
             else
-                painter.drawEllipse(place.center(), 0.6, 0.6);
+                drawDot(painter, place.center(), colour);
         }
     }
 }
@@ -46,12 +60,9 @@ void paint(QPainter &painter, const ShownLines &lines, const QPlainTextEdit &box
 {
     const QColor ground = ViewColours::groundOf(box);
     const QColor colour = ViewColours::mixed(ground, ViewColours::textOf(box), 0.45);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, 1));
-    painter.setBrush(colour);
     for (const ShownLine &line : lines)
-        mark(painter, line, box);
-    painter.setRenderHint(QPainter::Antialiasing, false);
+        mark(painter, line, box, colour);
 }
 
 } // namespace

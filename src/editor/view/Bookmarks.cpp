@@ -43,10 +43,22 @@ Bookmarks::Bookmarks(RichTextBox &box)
 {
 }
 
-bool Bookmarks::isOn(const QTextBlock &line) const
+// Edits do not change which of two marks comes first.
+Bookmarks::Place Bookmarks::firstOn(const QTextBlock &line) const
 {
-    return std::any_of(m_marks.cbegin(), m_marks.cend(),
-                       [&](const Mark &mark) { return mark.line() == line; });
+    const auto place =
+        std::partition_point(m_marks.cbegin(), m_marks.cend(), [&](const Mark &mark) {
+            return mark.place.selectionStart() < line.position();
+        });
+    const int end = line.position() + line.length();
+    return place != m_marks.cend() && place->place.selectionStart() < end ? place : m_marks.cend();
+}
+
+void Bookmarks::sort()
+{
+    std::stable_sort(m_marks.begin(), m_marks.end(), [](const Mark &one, const Mark &other) {
+        return one.place.selectionStart() < other.place.selectionStart();
+    });
 }
 
 void Bookmarks::toggle()
@@ -56,14 +68,25 @@ void Bookmarks::toggle()
         if (m_marks.isEmpty())
             connect(m_box.document(), &QTextDocument::contentsChange, this, &Bookmarks::noteChange);
         m_marks.append(Mark(line));
+        sort();
     }
     if (m_marks.isEmpty())
         m_box.document()->disconnect(this);
     Q_EMIT changed();
 }
 
+// Those that the change has touched stand for whole lines again.
+void Bookmarks::fit(int from, int to)
+{
+    auto mark = std::partition_point(m_marks.begin(), m_marks.end(), [=](const Mark &above) {
+        return above.place.selectionEnd() < from;
+    });
+    for (; mark != m_marks.end() && mark->place.selectionStart() <= to; ++mark)
+        *mark = Mark(mark->line());
+}
+
 // With the whole text its marks go; what shows them follows when the text is whole.
-void Bookmarks::noteChange(int, int removed, int)
+void Bookmarks::noteChange(int from, int removed, int added)
 {
     if (m_box.keepsText() || !m_held.isEmpty())
         return;
@@ -72,12 +95,7 @@ void Bookmarks::noteChange(int, int removed, int)
         m_marks.clear();
     else if (removed > 0)
         m_marks.removeIf([](const Mark &mark) { return mark.isGone(); });
-    for (Mark &mark : m_marks) {
-        const Mark now(mark.line());
-        if (now.place.selectionEnd() != mark.place.selectionEnd() ||
-            now.place.selectionStart() != mark.place.selectionStart())
-            mark = now;
-    }
+    fit(from, from + added);
     if (m_marks.isEmpty())
         m_box.document()->disconnect(this);
     if (m_marks.size() != count)
@@ -98,11 +116,13 @@ void Bookmarks::putBack(const MovedLines &lines)
     const QList<int> held = std::exchange(m_held, {});
     if (held.size() != m_marks.size())
         return;
+    const QList<int> places = lines.places();
     for (qsizetype i = 0; i < m_marks.size(); ++i) {
-        const int line =
-            lines.contains(held[i]) ? lines.placeOf(held[i]) : m_marks[i].line().blockNumber();
+        const int line = lines.contains(held[i]) ? places[held[i] - lines.first]
+                                                 : m_marks[i].line().blockNumber();
         m_marks[i] = Mark(m_box.document()->findBlockByNumber(line));
     }
+    sort();
 }
 
 void Bookmarks::tellMoved(const MovedLines &lines)
@@ -117,17 +137,13 @@ bool Bookmarks::goToNext()
         return false;
     const QTextBlock line = m_box.textCursor().block();
     const int behind = line.position() + line.length();
-    int first = -1;
-    int next = -1;
-    for (const Mark &mark : std::as_const(m_marks)) {
-        const int place = mark.line().position();
-        if (first < 0 || place < first)
-            first = place;
-        if (place >= behind && (next < 0 || place < next))
-            next = place;
-    }
+    auto next = std::find_if(m_marks.cbegin(), m_marks.cend(), [=](const Mark &mark) {
+        return mark.place.selectionStart() >= behind;
+    });
+    if (next == m_marks.cend())
+        next = m_marks.cbegin();
     QTextCursor caret = m_box.textCursor();
-    caret.setPosition(next < 0 ? first : next);
+    caret.setPosition(next->line().position());
     const KeptView view(m_box);
     m_box.setTextCursor(caret);
     return true;

@@ -20,7 +20,7 @@ public:
     explicit Bookmarks(RichTextBox &box);
 
     bool isEmpty() const { return m_marks.isEmpty(); }
-    bool isOn(const QTextBlock &line) const;
+    bool isOn(const QTextBlock &line) const { return firstOn(line) != m_marks.cend(); }
 
     // On the line of the caret.
     void toggle();
@@ -53,10 +53,15 @@ private:
         bool isSeen = false;
     };
 
+    using Place = QList<Mark>::const_iterator;
+
+    Place firstOn(const QTextBlock &line) const; // the end for none
+    void fit(int from, int to);
+    void sort();
     void noteChange(int from, int removed, int added);
 
     RichTextBox &m_box;
-    QList<Mark> m_marks; // in no order
+    QList<Mark> m_marks; // from the top
     QList<int> m_held;   // the line of each, from 0, while lines change places
 };
 

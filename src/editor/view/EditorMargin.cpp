@@ -21,6 +21,11 @@ namespace ORVTListview {
 
 MarginColumn::~MarginColumn() = default;
 
+int MarginColumn::look(const QTextBlock &) const
+{
+    return 0;
+}
+
 bool MarginColumn::press(const QTextBlock &)
 {
     return false;
@@ -47,7 +52,7 @@ EditorMargin::EditorMargin(QPlainTextEdit &box, BoxLayers &layers)
         if (dy != 0)
             scroll(0, dy);
         else
-            update(0, rect.y(), width(), rect.height());
+            followText(rect);
     });
     connect(&layers, &BoxLayers::shownFontChanged, this, &EditorMargin::fit);
     connect(&layers, &BoxLayers::marginChanged, this,
@@ -101,11 +106,44 @@ bool EditorMargin::event(QEvent *event)
     return QWidget::event(event);
 }
 
+EditorMargin::Painted EditorMargin::toPaint(const ShownLine &line) const
+{
+    Painted painted{
+        QRect(0, line.place.toAlignedRect().top(), width(), line.place.toAlignedRect().height())};
+    for (const MarginColumn *column : m_columns)
+        painted.look = 8 * painted.look + column->look(line.block);
+    return painted;
+}
+
+// The box repaints text at each key, and a caret that blinks; beside it hardly anything
+// changes by that.
+void EditorMargin::followText(const QRect &rect)
+{
+    if (!isVisible())
+        return;
+    if (rect.height() >= height()) {
+        update();
+        return;
+    }
+    int bottom = rect.top();
+    for (const ShownLine &line : m_layers.shownLines(rect.top() - 1, rect.bottom() + 1)) {
+        const Painted now = toPaint(line);
+        if (m_painted.value(line.block.blockNumber()) != now)
+            update(now.place);
+        bottom = now.place.bottom() + 1;
+    }
+    if (bottom <= rect.bottom())
+        update(0, bottom, width(), rect.bottom() + 1 - bottom);
+}
+
 void EditorMargin::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     const QColor ground = ViewColours::groundOf(m_box);
     painter.fillRect(event->rect(), ground);
+    constexpr qsizetype most = 1000; // more than are shown
+    if (m_painted.size() > most)
+        m_painted.clear();
     for (const ShownLine &line :
          m_layers.shownLines(event->rect().top(), event->rect().bottom() + 1))
         paintLine(painter, line);
@@ -118,6 +156,7 @@ void EditorMargin::paintLine(QPainter &painter, const ShownLine &line)
 {
     const QRect place = line.place.toAlignedRect();
     const QRect strip(0, place.top(), width(), place.height());
+    m_painted.insert(line.block.blockNumber(), toPaint(line));
     m_layers.paintMargin(painter, line, strip);
     int left = 0;
     for (MarginColumn *column : std::as_const(m_columns)) {

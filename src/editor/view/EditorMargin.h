@@ -3,8 +3,10 @@
 #include "widgets/box/BoxLayers.h"
 
 #include <QtCore/QBasicTimer>
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QPoint>
+#include <QtCore/QRect>
 #include <QtWidgets/QWidget>
 
 class QPlainTextEdit;
@@ -22,6 +24,9 @@ public:
     // 0 while there is nothing to show.
     virtual int width() const = 0;
     virtual void paint(QPainter &painter, const ShownLine &line, const QRect &cell) = 0;
+
+    // Another number, from 0 to 7, for each look that a cell may take when text changes.
+    virtual int look(const QTextBlock &line) const;
 
     // Whether a click on the cell does something else than select the line.
     virtual bool press(const QTextBlock &line);
@@ -62,7 +67,18 @@ private:
         QTextBlock line;
     };
 
+    // What was painted of a line, and where.
+    struct Painted
+    {
+        QRect place;
+        int look = 0;
+
+        friend bool operator==(const Painted &, const Painted &) = default;
+    };
+
     void place();
+    void followText(const QRect &rect);
+    Painted toPaint(const ShownLine &line) const;
     Hit hit(const QPoint &place) const;
     QTextBlock lineAt(int y) const;
     void paintLine(QPainter &painter, const ShownLine &line);
@@ -72,8 +88,9 @@ private:
     QPlainTextEdit &m_box;
     BoxLayers &m_layers;
     QList<MarginColumn *> m_columns;
-    QTextCursor m_anchor; // on the line where a drag began; null else
-    int m_pointer = 0;    // its height while it drags
+    QHash<int, Painted> m_painted; // by the line's number
+    QTextCursor m_anchor;          // on the line where a drag began; null else
+    int m_pointer = 0;             // its height while it drags
     QBasicTimer m_scrolling;
 };
 

@@ -2,8 +2,8 @@
 
 #include "editor/rules/structure/Folding.h"
 #include "editor/view/LayerOrder.h"
+#include "editor/view/LineEnds.h"
 #include "editor/view/LineMoves.h"
-#include "editor/view/LinePlaces.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/box/BoxLayout.h"
 #include <ORVTListview/RichTextBox.h>
@@ -198,21 +198,18 @@ void Folds::noteChange(int from, int, int added)
 {
     if (m_box.keepsText())
         return;
-    const bool isFirst = m_changedFrom < 0;
-    m_changedFrom = isFirst ? from : std::min(m_changedFrom, from);
-    m_changedTo = std::max(m_changedTo, from + added);
+    m_changed.note(from, added);
 }
 
 void Folds::followChange()
 {
-    const int from = std::exchange(m_changedFrom, -1);
-    const int to = std::exchange(m_changedTo, -1);
+    const ChangedPart::Span changed = m_changed.take();
     const QTextDocument &text = *m_box.document();
     const bool sameLines = std::exchange(m_lineCount, text.blockCount()) == text.blockCount();
-    if (from < 0 || !m_hasHidden)
+    if (changed.isEmpty() || !m_hasHidden)
         return;
-    for (QTextBlock line = text.findBlock(from); line.isValid() && line.position() <= to;
-         line = line.next()) {
+    for (QTextBlock line = text.findBlock(changed.from);
+         line.isValid() && line.position() <= changed.to; line = line.next()) {
         if (!line.isVisible())
             unfold(line);
         else if (hidesLines(line) && (!sameLines || !BlockFold::begins(line.text())))
@@ -278,6 +275,11 @@ void Folds::paint(QPainter &painter, const ShownLine &line, const QRect &cell)
     painter.setPen(QPen(quiet, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(arrow, 3);
     painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+int Folds::look(const QTextBlock &line) const
+{
+    return !isShown() ? 0 : hidesLines(line) ? 2 : hasFold(line) ? 1 : 0;
 }
 
 bool Folds::press(const QTextBlock &line)

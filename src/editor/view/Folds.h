@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/view/ChangedPart.h"
 #include "editor/view/EditorMargin.h"
 #include "editor/view/OpenBlocks.h"
 
@@ -40,6 +41,7 @@ public:
 
     int width() const override;
     void paint(QPainter &painter, const ShownLine &line, const QRect &cell) override;
+    int look(const QTextBlock &line) const override;
     bool press(const QTextBlock &line) override;
     QString toolTip(const QTextBlock &line) const override;
 
@@ -71,8 +73,7 @@ private:
     EditorMargin &m_margin;
     OpenBlocks m_openBlocks;
     QList<std::pair<int, int>> m_held; // folded lines, the one shown and the last
-    int m_changedFrom = -1;            // what changed since it was last looked at; -1 for nothing
-    int m_changedTo = -1;
+    ChangedPart m_changed;             // since it was last looked at
     int m_lineCount = 0;
     int m_caret = 0;           // before it moved
     bool m_isStepping = false; // by a key, to the left or to the right

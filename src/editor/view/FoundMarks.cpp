@@ -1,9 +1,9 @@
 #include "editor/view/FoundMarks.h"
 
 #include "editor/view/LayerOrder.h"
-#include "editor/view/LinePlaces.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/ViewColours.h"
+#include "widgets/box/LinePlaces.h"
 #include "widgets/look/CellText.h"
 
 #include <QtGui/QPainter>

@@ -1,11 +1,11 @@
 #include "editor/view/HoverTips.h"
 
 #include "editor/rules/structure/BlockWords.h"
-#include "editor/view/LinePlaces.h"
 #include "editor/view/Problems.h"
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
 #include "widgets/box/BoxLayers.h"
+#include "widgets/box/LinePlaces.h"
 #include "widgets/look/CellText.h"
 #include "widgets/look/PlainToolTip.h"
 #include "widgets/look/TipCard.h"

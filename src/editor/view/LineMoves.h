@@ -13,10 +13,6 @@ struct MovedLines
     QList<qsizetype> from;
 
     bool contains(int line) const { return line >= first && line - first < from.size(); }
-    int placeOf(int line) const
-    {
-        return contains(line) ? first + static_cast<int>(from.indexOf(line - first)) : line;
-    }
 
     // Where each of them has come to, from the first on.
     QList<int> places() const

@@ -3,7 +3,7 @@
 #include "base/TextRules.h"
 #include "editor/rules/structure/BlockWords.h"
 #include "editor/view/LayerOrder.h"
-#include "editor/view/LinePlaces.h"
+#include "editor/view/LineEnds.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/look/CellText.h"
 
@@ -13,6 +13,7 @@
 #include <QtGui/QPainter>
 #include <QtGui/QTextDocument>
 #include <QtGui/QTextLayout>
+#include <QtGui/QTextOption>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QScrollBar>
 
@@ -60,7 +61,8 @@ void LiveValues::setOn(bool on)
     if (!on)
         return clear();
     connect(m_box.horizontalScrollBar(), &QScrollBar::valueChanged, this, &LiveValues::repaint);
-    connect(m_box.document(), &QTextDocument::contentsChanged, this, &LiveValues::repaint);
+    connect(m_box.document(), &QTextDocument::contentsChange, this, &LiveValues::noteChange);
+    connect(m_box.document(), &QTextDocument::contentsChanged, this, &LiveValues::followChange);
     take();
 }
 
@@ -69,6 +71,8 @@ void LiveValues::clear()
     m_pause->stop();
     m_box.horizontalScrollBar()->disconnect(this);
     m_box.document()->disconnect(this);
+    m_changed = {};
+    m_laidOut.clear();
     m_values.clear();
     m_isTaken = m_given.isEmpty();
 }
@@ -98,12 +102,31 @@ void LiveValues::take()
     });
 }
 
-// What is cut at the edge of the viewport is cut elsewhere once that is scrolled; and of a
-// line that is changed then the box repaints what its text covers.
+// What is cut at the edge of the viewport is cut elsewhere once that is scrolled.
 void LiveValues::repaint()
 {
-    if (m_box.horizontalScrollBar()->maximum() > 0)
-        m_box.viewport()->update();
+    m_box.viewport()->update();
+}
+
+void LiveValues::noteChange(int from, int, int added)
+{
+    m_changed.note(from, added);
+}
+
+// Of a line that is changed while others are longer than the viewport the box repaints no
+// more than the text covers.
+void LiveValues::followChange()
+{
+    const ChangedPart::Span changed = m_changed.take();
+    if (changed.isEmpty() || !layers() || m_box.horizontalScrollBar()->maximum() == 0)
+        return;
+    QWidget &text = *m_box.viewport();
+    for (const ShownLine &line : layers()->shownLines()) {
+        const int from = line.block.position();
+        const QRect place = line.place.toAlignedRect();
+        if (from <= changed.to && from + line.block.length() > changed.from)
+            text.update(0, place.top(), text.width(), place.height());
+    }
 }
 
 QString LiveValues::valuesOn(const QTextBlock &line) const
@@ -157,15 +180,40 @@ void LiveValues::paintAbove(QPainter &painter, const ShownLines &lines)
         const QString values = room.isEmpty() ? QString() : valuesOn(line.block);
         if (values.isEmpty())
             continue;
-        const QString shown = metrics.elidedText(values, Qt::ElideRight, room.width());
+        const QStaticText &shown = laidOut(values, line.block.textDirection(), font, room.width());
         const QTextLayout &layout = *line.block.layout();
         const qreal baseline = room.top() + layout.lineAt(layout.lineCount() - 1).ascent();
-        const qreal left = textEndOf(line).isOpenToTheLeft
-                               ? room.right() - metrics.horizontalAdvance(shown)
-                               : room.left();
-        painter.setLayoutDirection(line.block.textDirection());
-        painter.drawText(QPointF(left, baseline), shown);
+        const qreal left =
+            textEndOf(line).isOpenToTheLeft ? room.right() - shown.size().width() : room.left();
+        painter.drawStaticText(QPointF(left, baseline - metrics.ascent()), shown);
     }
+}
+
+// While one types on a line its values stay, and need not be laid out again.
+const QStaticText &LiveValues::laidOut(const QString &values, Qt::LayoutDirection direction,
+                                       const QFont &font, qreal room)
+{
+    constexpr qsizetype most = 500; // texts; more than lines are shown
+    if (m_laidOut.size() >= most || font != m_font)
+        m_laidOut.clear();
+    m_font = font;
+    const auto textFor = [&](const QString &shown) -> const QStaticText & {
+        const auto key = std::pair(shown, direction);
+        if (auto known = m_laidOut.constFind(key); known != m_laidOut.constEnd())
+            return *known;
+        QStaticText text(shown);
+        QTextOption option;
+        option.setTextDirection(direction);
+        option.setWrapMode(QTextOption::NoWrap);
+        text.setTextOption(option);
+        text.setTextFormat(Qt::PlainText);
+        text.prepare({}, font);
+        return *m_laidOut.insert(key, text);
+    };
+    const QStaticText &whole = textFor(values);
+    if (whole.size().width() <= room)
+        return whole;
+    return textFor(QFontMetricsF(font, &m_box).elidedText(values, Qt::ElideRight, room));
 }
 
 } // namespace ORVTListview

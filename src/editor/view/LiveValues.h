@@ -1,10 +1,15 @@
 #pragma once
 
+#include "editor/view/ChangedPart.h"
 #include "widgets/box/BoxLayers.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QTimer>
+#include <QtGui/QFont>
+#include <QtGui/QStaticText>
+
+#include <utility>
 
 class QPlainTextEdit;
 
@@ -32,13 +37,20 @@ private:
     void take();
     void clear();
     void repaint();
+    void noteChange(int from, int removed, int added);
+    void followChange();
     QString valuesOn(const QTextBlock &line) const;
     QRectF roomBehind(const ShownLine &line) const;
+    const QStaticText &laidOut(const QString &values, Qt::LayoutDirection direction,
+                               const QFont &font, qreal room);
 
     QPlainTextEdit &m_box;
     Values m_given;        // as they came
     bool m_isTaken = true; // what was given is what is shown
     Values m_values;       // by the folded name; empty while it is off
+    ChangedPart m_changed;
+    QHash<std::pair<QString, Qt::LayoutDirection>, QStaticText> m_laidOut; // in this font
+    QFont m_font;
     QTimer *const m_pause; // the box's, named LiveValuesPause
 };
 

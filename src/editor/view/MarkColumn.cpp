@@ -72,6 +72,13 @@ void MarkColumn::paint(QPainter &painter, const ShownLine &line, const QRect &ce
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
+int MarkColumn::look(const QTextBlock &line) const
+{
+    const auto severity = m_sources.problems.severityOn(line);
+    const int sign = severity ? 1 + static_cast<int>(*severity) : 0;
+    return 2 * sign + (m_sources.bookmarks.isOn(line) ? 1 : 0);
+}
+
 bool MarkColumn::press(const QTextBlock &line)
 {
     const auto problem = m_sources.problems.goToWorstOn(line);

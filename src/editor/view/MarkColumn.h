@@ -27,6 +27,7 @@ public:
 
     int width() const override;
     void paint(QPainter &painter, const ShownLine &line, const QRect &cell) override;
+    int look(const QTextBlock &line) const override;
     bool press(const QTextBlock &line) override;
     QString toolTip(const QTextBlock &line) const override;
 

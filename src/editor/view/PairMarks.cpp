@@ -2,8 +2,8 @@
 #include "editor/view/BlockSearch.h"
 #include "editor/view/CaretLayer.h"
 #include "editor/view/LayerOrder.h"
-#include "editor/view/LinePlaces.h"
 #include "editor/view/ViewColours.h"
+#include "widgets/box/LinePlaces.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QTextDocument>

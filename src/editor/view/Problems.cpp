@@ -2,10 +2,10 @@
 
 #include "editor/view/LayerOrder.h"
 #include "editor/view/LineMoves.h"
-#include "editor/view/LinePlaces.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/box/KeptView.h"
+#include "widgets/box/LinePlaces.h"
 
 #include <QtCore/QStringList>
 #include <QtGui/QPainter>
@@ -33,18 +33,24 @@ QTextCursor placeOf(const Problem &problem, QTextDocument &text)
     return place;
 }
 
-// A wave of the line's own height, whatever the size of a pixel.
-void drawWave(QPainter &painter, const QRectF &place)
+constexpr int waveStep = 2;
+constexpr int waveHeight = 4; // with the width of its line
+
+// A long wave, of which others are cut: drawn each by itself they cost much.
+QPixmap waveOf(const QColor &colour, qreal ratio)
 {
-    constexpr qreal step = 2;
-    constexpr qreal height = 2;
-    const qreal bottom = place.bottom() - 0.75;
-    const qreal right = std::max(place.right(), place.left() + 3 * step);
+    constexpr int length = 100 * waveStep;
+    QPixmap wave((QSizeF(length, waveHeight) * ratio).toSize());
+    wave.setDevicePixelRatio(ratio);
+    wave.fill(Qt::transparent);
     QList<QPointF> points;
-    bool isUp = false;
-    for (qreal x = place.left(); x <= right; x += step, isUp = !isUp)
-        points.append({x, isUp ? bottom - height : bottom});
+    for (int x = -waveStep; x <= length + waveStep; x += waveStep)
+        points.append({qreal(x), points.size() % 2 == 0 ? 0.75 : waveHeight - 1.25});
+    QPainter painter(&wave);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.25));
     painter.drawPolyline(points.constData(), static_cast<int>(points.size()));
+    return wave;
 }
 
 } // namespace
@@ -112,11 +118,12 @@ void Problems::putBack(const MovedLines &lines)
     QList<Problem> held = std::exchange(m_held, {});
     if (held.isEmpty() || held.size() != m_kept.size())
         return;
+    const QList<int> places = lines.places();
     for (qsizetype i = 0; i < m_kept.size(); ++i) {
         const int line = held[i].line - 1;
         if (!lines.contains(line) || (m_kept[i].hasText && held[i].length == 0))
             continue;
-        held[i].line = lines.placeOf(line) + 1;
+        held[i].line = places[line - lines.first] + 1;
         m_kept[i].place = placeOf(held[i], *m_box.document());
         if (held[i].length == 0)
             m_kept[i].place.setPosition(m_kept[i].place.anchor());
@@ -248,10 +255,18 @@ QString Problems::textOn(const QTextBlock &line) const
 QList<LineMark> Problems::marks() const
 {
     const QColor ground = ViewColours::groundOf(m_box);
+    const QColor error = colourOf(ProblemSeverity::Error, ground);
+    const QColor warning = colourOf(ProblemSeverity::Warning, ground);
+    const QColor hint = colourOf(ProblemSeverity::Hint, ground);
+    const auto of = [&](ProblemSeverity severity) {
+        return severity == ProblemSeverity::Error     ? error
+               : severity == ProblemSeverity::Warning ? warning
+                                                      : hint;
+    };
     QList<LineMark> marks;
     for (const Kept &kept : m_kept) {
         if (kept.isThere())
-            marks.append({kept.place.selectionStart(), colourOf(kept.problem.severity, ground)});
+            marks.append({kept.place.selectionStart(), of(kept.problem.severity)});
     }
     return marks;
 }
@@ -279,15 +294,12 @@ void Problems::paintAbove(QPainter &painter, const ShownLines &lines)
     const Place end = from(last.position() + last.length());
     if (kept != m_kept.cbegin())
         --kept; // an Enter inside may have brought its end down
-    painter.setRenderHint(QPainter::Antialiasing);
     for (; kept != end; ++kept) {
-        painter.setPen(QPen(colourOf(kept->problem.severity, ground), 1.25));
         for (const ShownLine &line : lines) {
             if (kept->isThere() && kept->touches(line.block))
-                drawWaves(painter, *kept, line);
+                drawWaves(painter, *kept, line, colourOf(kept->problem.severity, ground));
         }
     }
-    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 QList<QRectF> Problems::placesIn(const ShownLine &line, const Kept &kept) const
@@ -297,10 +309,19 @@ QList<QRectF> Problems::placesIn(const ShownLine &line, const Kept &kept) const
     return placesOf(line, {start, end - start});
 }
 
-void Problems::drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line) const
+void Problems::drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line,
+                         const QColor &colour)
 {
-    for (const QRectF &place : placesIn(line, kept))
-        drawWave(painter, place.intersected(QRectF(m_box.viewport()->rect())));
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    auto wave = m_waves.constFind(colour.rgb());
+    if (wave == m_waves.constEnd() || wave->devicePixelRatio() != ratio)
+        wave = m_waves.insert(colour.rgb(), waveOf(colour, ratio));
+    for (const QRectF &place : placesIn(line, kept)) {
+        const QRectF shown = place.intersected(QRectF(m_box.viewport()->rect()));
+        painter.drawTiledPixmap(QRectF(shown.left(), shown.bottom() - waveHeight,
+                                       std::max<qreal>(shown.width(), 3 * waveStep), waveHeight),
+                                *wave);
+    }
 }
 
 QString Problems::textAt(const QPoint &place, QRect *whole) const

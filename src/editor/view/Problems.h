@@ -3,6 +3,8 @@
 #include "widgets/box/BoxLayers.h"
 #include <ORVTListview/Problem.h>
 
+#include <QtCore/QHash>
+#include <QtGui/QPixmap>
 #include <QtGui/QTextCursor>
 
 #include <optional>
@@ -73,13 +75,15 @@ private:
     const Kept *worstOn(const QTextBlock &line) const;
     Problem goTo(const Kept &kept);
     QList<QRectF> placesIn(const ShownLine &line, const Kept &kept) const;
-    void drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line) const;
+    void drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line,
+                   const QColor &colour);
     void sort();
     void noteChange(int from, int removed, int added);
 
     QPlainTextEdit &m_box;
     QList<Kept> m_kept;    // from the top
     QList<Problem> m_held; // where each of them is
+    QHash<QRgb, QPixmap> m_waves;
 };
 
 } // namespace ORVTListview

@@ -1,8 +1,8 @@
 #include "editor/rules/structure/BlockWords.h"
 #include "editor/view/CaretLayer.h"
 #include "editor/view/LayerOrder.h"
-#include "editor/view/LinePlaces.h"
 #include "editor/view/ViewColours.h"
+#include "widgets/box/LinePlaces.h"
 
 #include <QtCore/QTimer>
 #include <QtGui/QPainter>

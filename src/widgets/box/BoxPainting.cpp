@@ -1,5 +1,8 @@
 #include "widgets/box/BoxPainting.h"
 
+#include "widgets/box/LinePlaces.h"
+
+#include <QtCore/QMap>
 #include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
@@ -27,26 +30,15 @@ int placeInLayout(int place, const QTextLayout &layout)
                : place + static_cast<int>(layout.preeditAreaText().size());
 }
 
-// Where a piece of a line stands, a rectangle for each row, its sides between two pixels,
-// so that pieces side by side share none.
-QList<QRectF> placesOf(const ShownLine &line, int from, int to, const QTransform &toPixels)
+// With their sides between two pixels, so that pieces side by side share none.
+QList<QRectF> onPixels(QList<QRectF> places, const QTransform &toPixels)
 {
-    QList<QRectF> places;
-    const QTextLayout &layout = *line.block.layout();
-    const auto sideAt = [&](const QTextLine &row, int place) {
-        const double x = line.place.left() + row.cursorToX(place);
-        const double pixel = std::round(x * toPixels.m11() + toPixels.dx());
-        return (pixel - toPixels.dx()) / toPixels.m11();
+    const auto side = [&](double x) {
+        return (std::round(x * toPixels.m11() + toPixels.dx()) - toPixels.dx()) / toPixels.m11();
     };
-    for (int i = 0; i < layout.lineCount(); ++i) {
-        const QTextLine row = layout.lineAt(i);
-        const int first = std::max(row.textStart(), from);
-        const int last = std::min(row.textStart() + row.textLength(), to);
-        if (first >= last)
-            continue;
-        const auto [left, right] = std::minmax({sideAt(row, first), sideAt(row, last)});
-        places.append(
-            QRectF(left, line.place.top() + row.y(), right - left, std::ceil(row.height())));
+    for (QRectF &place : places) {
+        const double left = side(place.left());
+        place = QRectF(left, place.top(), side(place.right()) - left, std::ceil(place.height()));
     }
     return places;
 }
@@ -76,7 +68,57 @@ QPainterPath without(QRectF area, QList<QRectF> places)
     return rest;
 }
 
+// Each glyph in the colour of its place.
+template <typename ColourAt>
+void drawInColours(QPainter &painter, const QPointF &corner, const QGlyphRun &glyphs,
+                   ColourAt colourAt)
+{
+    struct Part
+    {
+        QList<quint32> indexes;
+        QList<QPointF> places;
+    };
+    QMap<QRgb, Part> parts;
+    const QList<quint32> indexes = glyphs.glyphIndexes();
+    const QList<QPointF> places = glyphs.positions();
+    for (qsizetype i = 0; i < places.size(); ++i) {
+        Part &part = parts[colourAt(places[i]).rgba()];
+        part.indexes.append(indexes[i]);
+        part.places.append(places[i]);
+    }
+    for (auto part = parts.cbegin(); part != parts.cend(); ++part) {
+        QGlyphRun some = glyphs;
+        some.setGlyphIndexes(part->indexes);
+        some.setPositions(part->places);
+        painter.setPen(QColor::fromRgba(part.key()));
+        painter.drawGlyphRun(corner, some);
+    }
+}
+
+bool isDecorated(const QTextCharFormat &format)
+{
+    return format.hasProperty(QTextFormat::BackgroundBrush) || format.fontUnderline() ||
+           format.fontOverline() || format.fontStrikeOut() ||
+           format.underlineStyle() != QTextCharFormat::NoUnderline || format.isAnchor();
+}
+
 } // namespace
+
+std::optional<BoxPainting::ColouredEnds> BoxPainting::colouredEnds(const QTextBlock &block) const
+{
+    ColouredEnds ends;
+    int end = 0;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        const QTextCharFormat format = fragment.charFormat();
+        if (isDecorated(format))
+            return {};
+        const QColor colour = colourOf(format, QTextFormat::ForegroundBrush);
+        end += fragment.length();
+        ends.append({end, colours(colour.isValid() ? colour : context.palette.text().color(), {})});
+    }
+    return ends;
+}
 
 // Pieces of the line that are shown in another colour; what is selected is not among them.
 QList<BoxPainting::Piece> BoxPainting::colouredPieces(const QTextBlock &block,
@@ -143,6 +185,37 @@ BoxPainting::Ranges BoxPainting::selectionsIn(const QTextBlock &block) const
     return ranges;
 }
 
+// Of a line of even letters all glyphs are looked up at once, and each goes to the colour of
+// its letter. False for a line that has more to be drawn.
+bool BoxPainting::paintEvenLetters(QPainter &painter, const ShownLine &line,
+                                   const LinePlaces &places, const QRectF &area) const
+{
+    const QList<RowSides> &rows = places.rows();
+    const bool areEven =
+        std::all_of(rows.begin(), rows.end(), [](const auto &row) { return row.areEven(); });
+    const std::optional<ColouredEnds> ends = areEven ? colouredEnds(line.block) : std::nullopt;
+    if (!ends)
+        return false;
+    const QPen plain = painter.pen();
+    const QPointF corner = line.place.topLeft();
+    for (const RowSides &row : rows) {
+        const int start = row.row().textStart();
+        const int end = start + row.row().textLength();
+        const int from = std::clamp(row.letterAt(area.left() - corner.x()) - 1, start, end);
+        const int to = std::clamp(row.letterAt(area.right() - corner.x()) + 1, from, end);
+        for (const QGlyphRun &glyphs : row.row().glyphRuns(from, to - from))
+            drawInColours(painter, corner, glyphs, [&](const QPointF &place) {
+                const int letter = row.letterAt(place.x());
+                const auto part = std::upper_bound(
+                    ends->begin(), ends->end(), letter,
+                    [](int one, const std::pair<int, QColor> &other) { return one < other.first; });
+                return part == ends->end() ? plain.color() : part->second;
+            });
+    }
+    painter.setPen(plain);
+    return true;
+}
+
 // The pieces are drawn by their glyphs: handed over as selections of the line, the toolkit
 // leaves some of them out where their sides are not whole numbers.
 void BoxPainting::paintLine(QPainter &painter, const ShownLine &line, const QRectF &area) const
@@ -153,9 +226,13 @@ void BoxPainting::paintLine(QPainter &painter, const ShownLine &line, const QRec
     const Ranges selections = selectionsIn(line.block);
     QList<Piece> pieces;
     QList<QRectF> taken;
+    const LinePlaces standing(line);
+    if (selections.isEmpty() && paintEvenLetters(painter, line, standing, area))
+        return;
     for (const Piece &piece : colouredPieces(line.block, selections)) {
-        const QList<QRectF> places = placesOf(line, placeInLayout(piece.from, layout),
-                                              placeInLayout(piece.to - 1, layout) + 1, toPixels);
+        const int from = placeInLayout(piece.from, layout);
+        const int to = placeInLayout(piece.to - 1, layout) + 1;
+        const QList<QRectF> places = onPixels(standing.of({from, to - from}), toPixels);
         const auto isSeen = [&](const QRectF &place) { return place.intersects(area); };
         if (std::none_of(places.begin(), places.end(), isSeen))
             continue;

@@ -2,18 +2,33 @@
 
 #include <QtGui/QColor>
 
+#include <array>
 #include <cmath>
 
 namespace ORVTListview {
 
+// Of each of the 256 values of a channel.
+inline const std::array<double, 256> &linearChannel()
+{
+    static const std::array<double, 256> all = [] {
+        std::array<double, 256> values{};
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            const double value = static_cast<double>(i) / 255;
+            values[i] = value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        }
+        return values;
+    }();
+    return all;
+}
+
 // Relative luminance, 0 to 1, as the web accessibility guidelines define it.
 inline double luminance(const QColor &colour)
 {
-    const auto linear = [](double channel) {
-        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    const auto linear = [](int channel) {
+        return linearChannel()[static_cast<std::size_t>(channel)];
     };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
+    return 0.2126 * linear(colour.red()) + 0.7152 * linear(colour.green()) +
+           0.0722 * linear(colour.blue());
 }
 
 } // namespace ORVTListview

@@ -50,18 +50,6 @@ private:
             QTRY_VERIFY(!pause().isActive());
     }
 
-    // What is painted of the viewport.
-    struct Painted : QObject
-    {
-        QRegion region;
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            if (event->type() == QEvent::Paint)
-                region += static_cast<QPaintEvent *>(event)->region();
-            return false;
-        }
-    };
-
 private Q_SLOTS:
     void init() override
     {
@@ -90,6 +78,28 @@ private Q_SLOTS:
         QCOMPARE(end(4), ends[4]);
         view().setLiveValuesShown(false);
         QCOMPARE(picture(), before);
+    }
+
+    void typingRepaintsItsLineOnly()
+    {
+        m_host->setLines(12);
+        box().setSelStart(box().lineStart(8));
+        m_host->type(u"long "_s.repeated(60)); // the view scrolls sideways
+        box().setSelStart(box().lineStart(3) + 2);
+        switchView(view(), true, {"wordListOpensItself"});
+        show({{u"x4"_s, u"19.4 °C"_s}});
+        m_host->markLines();
+        m_host->type(u"7"_s); // its line is changed for the first time
+        QCoreApplication::processEvents();
+        Painted text;
+        Painted beside;
+        box().viewport()->installEventFilter(&text);
+        m_host->margin().installEventFilter(&beside);
+        m_host->type(u"7"_s);
+        QCoreApplication::processEvents();
+        QVERIFY(!text.region.isEmpty());
+        QVERIFY(text.region.boundingRect().height() < 2 * m_host->placeOf(3).height());
+        QVERIFY(beside.region.isEmpty());
     }
 
     void areFoundInAnyLetterCase()

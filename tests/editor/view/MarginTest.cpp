@@ -71,6 +71,36 @@ private Q_SLOTS:
         QCOMPARE(box().viewport()->x(), box().frameWidth());
     }
 
+    void followsTheTextOfItsLines()
+    {
+        view().setLineNumbersVisible(true);
+        view().setFoldingEnabled(true);
+        m_host->list->setCodeText(u"one = 1\r\nI x\r\ntwo = 2\r\nENDIF"_s);
+        Problem problem;
+        problem.length = 3;
+        view().setProblems({problem});
+        QCoreApplication::processEvents();
+        Painted beside;
+        margin().installEventFilter(&beside);
+        const auto isPainted = [&](int line) {
+            QCoreApplication::processEvents();
+            const QRegion region = std::exchange(beside.region, {});
+            return region.contains(m_host->inMargin(line));
+        };
+        box().setSelStart(box().lineStart(1) + 1);
+        QVERIFY(isPainted(1)); // its number stands out
+        m_host->type(u"F"_s);  // and has a sign
+        QVERIFY(isPainted(1));
+        m_host->key(Qt::Key_End);
+        m_host->type(u"x"_s);
+        QVERIFY(!isPainted(1));
+        box().setSelStart(3);
+        QVERIFY(isPainted(0));
+        for (int i = 0; i < 3; ++i)
+            m_host->key(Qt::Key_Backspace);
+        QVERIFY(isPainted(0)); // the problem went with its text
+    }
+
     void leavesNothingBehindWhenSwitchedOff()
     {
         const QImage before = m_host->picture(box());

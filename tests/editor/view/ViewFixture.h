@@ -5,8 +5,22 @@
 #include <ORVTListview/CodeView.h>
 
 #include <QtGui/QImage>
+#include <QtGui/QPaintEvent>
+#include <QtGui/QRegion>
 #include <QtGui/QTextBlock>
 #include <QtWidgets/QScrollBar>
+
+// What is painted of a widget whose events it filters.
+struct Painted : QObject
+{
+    QRegion region;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region += static_cast<QPaintEvent *>(event)->region();
+        return false;
+    }
+};
 
 // A shown editor whose view is looked at.
 struct ViewHost : EditorHost

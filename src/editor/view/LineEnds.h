@@ -1,13 +1,8 @@
 #pragma once
 
-#include "base/TextPiece.h"
 #include "widgets/box/BoxLayers.h"
 
 namespace ORVTListview {
-
-// Where a piece of a shown line stands in the viewport: one rectangle, or several where
-// the line is broken by a separator or its text changes direction.
-QList<QRectF> placesOf(const ShownLine &line, const TextPiece &piece);
 
 // Where the text of a shown line's last row stands in the viewport, and on which side of
 // it there is room: the right one, but for a row that is aligned to the right. Null while
