@@ -72,7 +72,7 @@ protected:
     RandomText m_random;
 
 private:
-    static constexpr qsizetype mostNoted = 20'000;
+    static constexpr qsizetype mostNoted = 2000;
 
     QString takeOne()
     {

@@ -5,8 +5,8 @@ test skips anything that tests/skips.txt does not name.
     run_test.py --name NAME --folder FOLDER [--display] [--set NAME=VALUE]...
                 -- COMMAND...
 
-FOLDER, emptied, becomes the home folder. With --display the test gets a virtual
-display."""
+FOLDER, emptied, becomes the home folder; FOLDER.log keeps what the test said. With
+--display the test gets a virtual display."""
 
 import argparse
 import os
@@ -77,7 +77,10 @@ def main():
         print(f"{name} was skipped, and tests/skips.txt does not say why it may be")
     if result.returncode < 0:
         print(f"Ended by signal {-result.returncode}")
-    sys.exit(1 if unexplained or result.returncode not in (0, SKIPPED) else 0)
+    failed = bool(unexplained) or result.returncode not in (0, SKIPPED)
+    log = arguments.folder.parent / f"{arguments.folder.name}.log"
+    log.write_text(output + ("\nFAILED\n" if failed else "\nPASSED\n"))
+    sys.exit(1 if failed else 0)
 
 
 if __name__ == "__main__":
