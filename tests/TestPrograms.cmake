@@ -25,7 +25,7 @@ endfunction()
 function(orvt_add_sanitized_test program name)
     if(ORVT_SANITIZED_TESTS)
         orvt_add_test(${name}.sanitized ${ARGN}
-            ENVIRONMENT QTEST_FUNCTION_TIMEOUT=${seconds_under_sanitizers}000
+            ENVIRONMENT ORVT_TEST_PART=4 QTEST_FUNCTION_TIMEOUT=${seconds_under_sanitizers}000
             COMMAND $<TARGET_FILE:${program}_sanitized> ${name})
         set_tests_properties(${name}.sanitized PROPERTIES
             TIMEOUT ${seconds_under_sanitizers})
@@ -99,18 +99,18 @@ endfunction()
 
 # The suites of a program of core tests, each a process of its own.
 function(orvt_add_suites program)
-    orvt_add_suites_of(${program} "" ${seconds_for_a_test} "^$")
+    orvt_add_suites_of(${program} "" ${seconds_for_a_test} "^$" 1)
     if(ORVT_SANITIZED_TESTS AND NOT "PLAIN" IN_LIST ARGN)
         orvt_sanitize_program_later(${program})
         # Under a limit of memory there is no room for the sanitizers' own tables.
         orvt_add_suites_of(${program}_sanitized ".sanitized" ${seconds_under_sanitizers}
-            "DeathTest$")
+            "DeathTest$" 4)
     endif()
 endfunction()
 
 # ctest asks the program for them.
-function(orvt_add_suites_of program behind seconds without)
-    set(launcher "\"${run_test}\"")
+function(orvt_add_suites_of program behind seconds without part)
+    set(launcher "\"${run_test};--set;ORVT_TEST_PART=${part}\"")
     string(REPLACE ";" "\" \"" launcher "${launcher}")
     set(ask ${CMAKE_CURRENT_BINARY_DIR}/${program}_suites.cmake)
     file(CONFIGURE OUTPUT ${ask}.in CONTENT [[

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -45,7 +46,12 @@ inline std::vector<unsigned> randomSeeds(unsigned count)
     return randomSeeds(std::move(usual));
 }
 
+// A part of the usual ones (ORVT_TEST_PART=4: a quarter) where a step takes long, as under
+// sanitizers.
 inline int randomSteps(int usual)
 {
-    return static_cast<int>(givenNumber("ORVT_TEST_STEPS").value_or(static_cast<unsigned>(usual)));
+    if (const std::optional<unsigned> given = givenNumber("ORVT_TEST_STEPS"))
+        return static_cast<int>(*given);
+    const auto part = static_cast<int>(givenNumber("ORVT_TEST_PART").value_or(1));
+    return std::max(1, usual / std::max(1, part));
 }
