@@ -27,6 +27,10 @@ void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &pu
     if (pieces.isEmpty())
         return;
     const Changing changing(*this);
+    if (d->late.areWaiting()) {
+        for (const TextPiece &piece : pieces)
+            d->late.giveAround(selected(*document(), d->text, piece));
+    }
     d->announceChange(false);
     QTextCursor oneChange(document());
     QTextCursor caret;
