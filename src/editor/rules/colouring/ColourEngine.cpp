@@ -69,11 +69,22 @@ ColourEngine::ColourEngine(const CodeWordList &words, MessageService &messages)
 {
 }
 
+bool ColourEngine::isForThreads() const
+{
+    m_words.findExact({}); // puts them in order
+    return !m_words.isEmpty();
+}
+
 void ColourEngine::colourText(QStringView text, bool firstLineIsComment, ColourSink &sink) const
+{
+    const MessageBatch oneBox(m_messages);
+    colourLines(text, firstLineIsComment, sink);
+}
+
+void ColourEngine::colourLines(QStringView text, bool firstLineIsComment, ColourSink &sink) const
 {
     if (text.isEmpty())
         return;
-    const MessageBatch oneBox(m_messages);
     qsizetype from = 0;
     while (true) {
         const qsizetype found = findCrLf(text, from);

@@ -3,9 +3,13 @@
 #include "base/TextRules.h"
 #include "base/TextSearch.h"
 #include "editor/rules/colouring/ColourTable.h"
+#include "editor/rules/colouring/TextParts.h"
 #include "editor/rules/language/CodeText.h"
 
 #include <array>
+#include <span>
+#include <utility>
+#include <vector>
 
 namespace ORVTListview {
 namespace {
@@ -91,7 +95,9 @@ ColouredText finishedLine(const ColourEngine &engine, QStringView line,
     return result;
 }
 
-ColouredText finishedText(const ColourEngine &engine, QStringView text,
+namespace {
+
+ColouredText finishedPart(const ColourEngine &engine, QStringView text,
                           const RichTextSettings &settings, Spelling spelling)
 {
     ColouredText result;
@@ -103,6 +109,28 @@ ColouredText finishedText(const ColourEngine &engine, QStringView text,
         lines.appendLineEnd();
     }
     lines.append(engine, text.sliced(start));
+    return result;
+}
+
+} // namespace
+
+ColouredText finishedText(const ColourEngine &engine, QStringView text,
+                          const RichTextSettings &settings, Spelling spelling)
+{
+    const QList<QStringView> parts =
+        engine.isForThreads() ? partsOfLines(text) : QList<QStringView>{text};
+    std::vector<ColouredText> finished(static_cast<std::size_t>(parts.size()));
+    atTheSameTime(parts.size(), [&](qsizetype part) {
+        finished[static_cast<std::size_t>(part)] =
+            finishedPart(engine, parts[part], settings, spelling);
+    });
+    ColouredText result = std::move(finished.front());
+    result.text.reserve(text.size());
+    for (const ColouredText &next : std::span(finished).subspan(1)) {
+        result.text += QStringLiteral("\r\n") + next.text;
+        result.runs.append({2, ColouredText::automatic});
+        result.runs += next.runs;
+    }
     return result;
 }
 
