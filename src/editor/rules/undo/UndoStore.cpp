@@ -49,9 +49,7 @@ QString UndoStore::UndoSlots(qint16 index) const
 {
     const Slot &slot = slotAt(index);
     const auto *plain = std::get_if<PlainSlot>(&slot);
-    if (!plain)
-        return std::get<QString>(slot);
-    return plain->encoded.isEmpty() ? encodeUndoSlot(plain->record()) : plain->encoded;
+    return plain ? encodeUndoSlot(plain->record()) : std::get<QString>(slot);
 }
 
 void UndoStore::setUndoSlot(qint16 index, const QString &slot)
@@ -134,8 +132,8 @@ HeldState UndoStore::held(qint16 index) const
 {
     const Slot &slot = slotAt(index);
     const auto *plain = std::get_if<PlainSlot>(&slot);
-    if (!plain || !plain->encoded.isEmpty())
-        return HeldState(plain ? plain->encoded : std::get<QString>(slot));
+    if (!plain)
+        return HeldState(std::get<QString>(slot));
     const UndoRecord selection = joinedUndoRecord(plain->tail);
     return HeldState({plain->text, selection.selectionStart, selection.selectionLength});
 }
@@ -161,7 +159,7 @@ void UndoStore::put(qint16 index, Slot slot)
 
 UndoStore::PlainSlot UndoStore::plainSlot(const UndoState &state)
 {
-    PlainSlot slot{state.text, undoRecordTail(state), {}};
+    PlainSlot slot{state.text, undoRecordTail(state)};
     slot.isWaiting = slot.text.size() + slot.tail.size() >= shortestCompressedRecord;
     return slot;
 }
@@ -239,31 +237,11 @@ void UndoStore::encode(qint16 index, qsizetype characters)
     } catch (const std::bad_alloc &) {
     }
     if (progress == Progress::Done) {
-        slot.encoded = m_encoder->slot();
-        slot.isWaiting = false;
-        m_encoder.reset();
-        dropFarTexts();
+        put(index, m_encoder->slot());
     } else if (progress == Progress::Impossible) {
         m_encoder.reset();
         slot.isWaiting = false;
         share(index);
-    }
-}
-
-// From the slots that take the most steps to reach, and so those of both ways in turn.
-void UndoStore::dropFarTexts()
-{
-    SharedText::CountedStrings counted;
-    qsizetype bytes = 0;
-    for (int distance = 0; distance < slotCount; ++distance) {
-        const int steps = distance % 2 == 0 ? -distance / 2 : (distance + 1) / 2;
-        Slot &slot = m_slots[static_cast<std::size_t>((m_current + steps + slotCount) % slotCount)];
-        auto *plain = std::get_if<PlainSlot>(&slot);
-        if (!plain || plain->encoded.isEmpty())
-            continue;
-        bytes += plain->text.bytes(counted);
-        if (bytes > keptBound)
-            slot = QString(std::exchange(plain->encoded, {}));
     }
 }
 

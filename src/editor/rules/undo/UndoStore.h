@@ -50,10 +50,6 @@ public:
     // About two milliseconds of compressing.
     static constexpr qsizetype sliceLength = qsizetype{64} * 1024;
 
-    // The bytes of text that are kept beside their encodings, those next to the current
-    // slot first: a step there, and the question what it holds, uncompresses nothing.
-    static constexpr qsizetype keptBound = qsizetype{64} * 1024 * 1024;
-
     // 49 snapshots of a text of 1 MB take less.
     static constexpr qsizetype defaultPendingBound = qsizetype{128} * 1024 * 1024;
 
@@ -150,7 +146,6 @@ private:
     {
         SharedText text;
         QString tail;            // of the joined record
-        QString encoded;         // empty before it was
         bool isWaiting = false;  // to be compressed
         bool isCompared = false; // with the slot before, for what they share
 
@@ -172,7 +167,6 @@ private:
     void encode(qint16 index, qsizetype characters);
     void share(qint16 index);
     void keepWithinBound();
-    void dropFarTexts();
 
     QString indexFault() const;
     QString slotFault(qint16 index) const;

@@ -66,9 +66,6 @@ QString UndoStore::slotFault(qint16 index) const
         return u"is being encoded and does not wait for it"_s;
     if (const auto *plain = std::get_if<PlainSlot>(&slot)) {
         const bool isShort = plain->text.size() + plain->tail.size() < shortestCompressedRecord;
-        if (!plain->encoded.isEmpty())
-            return plain->isWaiting ? u"waits though it is encoded"_s
-                                    : encodedFault(plain->encoded);
         return plain->isWaiting && isShort ? u"waits to be encoded and is too short"_s : QString();
     }
     const auto &encoded = std::get<QString>(slot);

@@ -58,7 +58,7 @@ TEST(TextParts, AreWholeLinesOfTheText)
         EXPECT_EQ(parts.size(), std::min(processors, 4));
         QString joined = parts.first().toString();
         for (const QStringView part : parts.sliced(1))
-            joined += u"\r\n" + part;
+            joined.append(u"\r\n").append(part);
         EXPECT_TRUE(joined == text);
     }
 }
