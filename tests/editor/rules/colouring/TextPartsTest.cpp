@@ -57,8 +57,8 @@ TEST(TextParts, AreWholeLinesOfTheText)
         const QList<QStringView> parts = partsOfLines(text, processors);
         EXPECT_EQ(parts.size(), std::min(processors, 4));
         QString joined = parts.first().toString();
-        for (const QStringView part : parts.sliced(1))
-            joined.append(u"\r\n").append(part);
+        for (qsizetype i = 1; i < parts.size(); ++i)
+            joined.append(u"\r\n").append(parts[i]);
         EXPECT_TRUE(joined == text);
     }
 }
