@@ -167,6 +167,7 @@ void BoxLayout::colourLines(const QTextBlock &first, const QTextBlock &last)
         if (block == last)
             break;
     }
+    announceSize(); // bold that goes makes a line narrower
 }
 
 void BoxLayout::documentChanged(int from, int, int charsAdded)
