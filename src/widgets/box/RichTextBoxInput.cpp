@@ -84,9 +84,9 @@ void colourShownLines(BoxParts &parts)
 {
     if (!parts.late.areWaiting())
         return;
-    const ShownLines lines = parts.layers->shownLines();
-    if (!lines.isEmpty())
-        parts.late.give(lines.first().block.position(), lines.last().block.position());
+    // Each by itself: those between them may be folded away.
+    for (const ShownLine &line : parts.layers->shownLines())
+        parts.late.give(line.block.position(), line.block.position());
 }
 
 // The toolkit would type a letter that is held with Alt.
