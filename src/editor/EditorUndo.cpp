@@ -129,7 +129,7 @@ bool EditorUndo::showKept(const std::optional<UndoRecord> &kept)
 
 void EditorUndo::show(const UndoRecord &record, const ColouredText &text)
 {
-    const LateColours::Allowed late(LateColours::of(*m_box.document()));
+    const LateColours::Allowed late(LateColours::of(*m_box.document()), LateColours::Lines::Former);
     const KeptView view(m_box);
     m_box.setColoured(text);
     m_changed = now();

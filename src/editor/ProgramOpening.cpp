@@ -4,6 +4,8 @@
 #include "widgets/box/LateColours.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <algorithm>
+
 namespace ORVTListview {
 
 ProgramOpening::ProgramOpening(RichTextBox &box, ProgramText &text)
@@ -16,13 +18,11 @@ ProgramOpening::ProgramOpening(RichTextBox &box, ProgramText &text)
 void ProgramOpening::open(const QString &text)
 {
     const QPointer<ProgramOpening> self(this); // Change is the host's
-    {
-        const LateColours::Allowed late(*m_colours);
-        m_text.openProgram(text);
-    }
+    const LateColours::Allowed late(*m_colours, LateColours::Lines::New);
+    m_text.openProgram(text);
     if (!self)
         return;
-    m_serial = m_colours->serial();
+    m_serial = std::max(m_serial, late.serial()); // in Change, the host may have opened another
     m_told = -1;
     m_isToBeTold = true;
     if (!isRunning()) // a short one, or another text since

@@ -1,16 +1,14 @@
 // Programs that are opened with their colours to come later.
 
-#include "editor/EditorHost.h"
+#include "editor/OpeningHost.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/ThreadColouring.h"
 #include "editor/rules/undo/UndoRecord.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
-#include "widgets/box/LateColours.h"
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QTextBlock>
 #include <QtWidgets/QScrollBar>
 
 #include <functional>
@@ -24,73 +22,6 @@ using Act = std::function<void(EditorHost &)>;
 Q_DECLARE_METATYPE(Act)
 
 namespace {
-
-constexpr int lineCount = 4000;
-
-// Long enough to have its colours late; each line in words of several classes.
-QString longProgram()
-{
-    QStringList lines;
-    for (int i = 0; i < lineCount; ++i) {
-        lines << (i % 5 == 0   ? u"\tif ( temp1 > limit1 ) and var1 = %1"_s.arg(i)
-                  : i % 5 == 1 ? u"  REM temp1 of %1"_s.arg(i)
-                  : i % 5 == 2 ? u"fan1 = (nettemp)\t%1 "_s.arg(i)
-                  : i % 5 == 3 ? u""_s
-                               : u"endif"_s);
-    }
-    return lines.join(u"\r\n"_s);
-}
-
-// All that a document shows, a line each.
-QStringList pictureOf(const RichTextBox &box)
-{
-    const auto told = [](const QTextCharFormat &format) {
-        QString text;
-        const auto properties = format.properties();
-        for (auto it = properties.begin(); it != properties.end(); ++it)
-            text += u" %1"_s.arg(it.key());
-        return u'<' + format.foreground().color().name() + text + u'>';
-    };
-    QStringList lines;
-    for (QTextBlock block = box.document()->firstBlock(); block.isValid(); block = block.next()) {
-        QString line = told(block.charFormat());
-        for (auto it = block.begin(); !it.atEnd(); ++it)
-            line += it.fragment().text() + told(it.fragment().charFormat());
-        lines << line;
-    }
-    return lines;
-}
-
-// An editor whose clock moves on by a millisecond each time it is looked at: the lines
-// coloured at once can be counted.
-struct OpeningHost : EditorHost
-{
-    OpeningHost()
-    {
-        colours().setClock([this] { return now += 1ms; });
-    }
-
-    LateColours &colours() { return LateColours::of(*box().document()); }
-    CodeView &view() { return *list->codeView(); }
-    void open(const QString &program = longProgram()) { view().openProgram(program); }
-    void pass()
-    {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-    void finish() { QTRY_VERIFY(!view().isOpening()); }
-    bool hasColours(int line)
-    {
-        const QTextBlock block = box().document()->findBlockByNumber(line);
-        auto it = block.begin();
-        bool isPlain = true;
-        for (; !it.atEnd(); ++it)
-            isPlain = isPlain && it.fragment().charFormat().isEmpty();
-        return !isPlain;
-    }
-
-    LateColours::Time now;
-};
 
 struct Case
 {
@@ -228,6 +159,18 @@ QList<Case> acts()
          }},
         {"new words",
          [](EditorHost &host) { host.list->UpdateWordListItem(u"Temp1"_s, u"Heat"_s, dsInput); }},
+        {"another language",
+         [](EditorHost &host) {
+             QEvent change(QEvent::LanguageChange);
+             QCoreApplication::sendEvent(host.list, &change);
+         }},
+        {"another palette", [](EditorHost &host) { host.form.setPalette(QPalette(Qt::black)); }},
+        {"disabled", [](EditorHost &host) { host.list->setEnabled(false); }},
+        {"typing where nothing may be typed", at(3002, 4,
+                                                 [](EditorHost &host) {
+                                                     host.box().setReadOnly(true);
+                                                     host.type(u"x y "_s);
+                                                 })},
         {"read-only", [](EditorHost &host) { host.box().setReadOnly(true); }},
         {"hidden", [](EditorHost &host) { host.form.hide(); }},
         {"another program",
@@ -282,9 +225,7 @@ private:
     static void compare(const Result &late, const Result &atOnce)
     {
         QCOMPARE(late.text, atOnce.text);
-        QCOMPARE(late.picture.size(), atOnce.picture.size());
-        for (qsizetype i = 0; i < late.picture.size(); ++i)
-            QCOMPARE(late.picture[i], atOnce.picture[i]);
+        comparePictures(late.picture, atOnce.picture);
         QVERIFY(late.rtf == atOnce.rtf);
         QCOMPARE(late.start, atOnce.start);
         QCOMPARE(late.length, atOnce.length);
@@ -305,7 +246,7 @@ private Q_SLOTS:
         QVERIFY(host.view().isOpening());
         QVERIFY(host.list->CodeText() == text);
         QCOMPARE(host.box().TextLength(), static_cast<qint32>(text.size()));
-        QCOMPARE(host.box().lineCount(), lineCount);
+        QCOMPARE(host.box().lineCount(), programLines);
         QCOMPARE(host.box().Find(u"VAR1 = 3995"_s),
                  static_cast<qint32>(text.indexOf(u"Var1 = 3995")));
         QCOMPARE(changes.size(), 1);
@@ -328,7 +269,7 @@ private Q_SLOTS:
         host.open();
         host.pass();
         int left = host.colours().linesLeft();
-        QVERIFY(left > lineCount / 2);
+        QVERIFY(left > programLines / 2);
         for (int i = 0; i < 20; ++i) {
             host.pass();
             const int now = host.colours().linesLeft();
@@ -368,7 +309,7 @@ private Q_SLOTS:
             OpeningHost host;
             open(host);
             act(host);
-            static_cast<OpeningHost &>(host).finish();
+            host.finish();
             return resultOf(host);
         };
         const Result atOnce = run([](EditorHost &host) { host.list->openProgram(longProgram()); });
@@ -522,8 +463,19 @@ private Q_SLOTS:
         QCOMPARE(late, pictureOf(host.box()));
     }
 
+    void whatUndoBringsBackGetsItsColoursLate_data()
+    {
+        QTest::addColumn<int>("back");
+        QTest::addColumn<int>("forth");
+        QTest::newRow("undo") << 1 << 0;
+        QTest::newRow("undo twice") << 2 << 0;
+        QTest::newRow("undo and redo") << 2 << 1;
+    }
+
     void whatUndoBringsBackGetsItsColoursLate()
     {
+        QFETCH(int, back);
+        QFETCH(int, forth);
         OpeningHost host;
         host.open();
         host.finish();
@@ -531,7 +483,10 @@ private Q_SLOTS:
         host.box().setSelRTF(u"{\\rtf1{\\b bold} \\i i\\par x}"_s);
         host.type(u"x y z "_s);
         QString errMsg;
-        host.list->Undo(errMsg);
+        for (int i = 0; i < back; ++i)
+            host.list->Undo(errMsg);
+        for (int i = 0; i < forth; ++i)
+            host.list->Redo(errMsg);
         QVERIFY(host.colours().areWaiting());
         QVERIFY(!host.view().isOpening());
         host.view().cancelOpening(); // not this
@@ -543,15 +498,11 @@ private Q_SLOTS:
         host.box().viewport()->repaint();
         const int line = host.box().textCursor().blockNumber();
         QVERIFY2(host.hasColours(line), qPrintable(host.box().lineText(line)));
-        QTRY_VERIFY(!host.colours().areWaiting());
+        host.finish();
         RichTextBox box;
         box.setFont(host.box().font());
         box.setColoured(expected);
-        const QStringList late = pictureOf(host.box());
-        const QStringList atOnce = pictureOf(box);
-        QCOMPARE(late.size(), atOnce.size());
-        for (qsizetype i = 0; i < late.size(); ++i)
-            QCOMPARE(late[i], atOnce[i]);
+        comparePictures(pictureOf(host.box()), pictureOf(box));
         QVERIFY(host.box().TextRTF() == box.TextRTF());
     }
 

@@ -190,12 +190,13 @@ const SharedText &BoxText::sharedText() const
 }
 
 // A text that did not go in as it is stays unknown.
-void BoxText::know(const QString &text)
+void BoxText::know(const QString &text, bool isOtherState)
 {
     if (text.size() != length() || text.contains(QChar(u'\0')))
         return;
     m_text = text;
-    m_sharedText = SharedText(text);
+    const SharedText shared(text);
+    m_sharedText = isOtherState ? shared.sharedWith(m_sharedText) : shared;
     m_keptText = m_keptSharedText = {m_length, 0, 0, false};
 }
 

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace ORVTListview {
@@ -21,24 +22,51 @@ namespace {
 
 constexpr int noMark = -1; // what the toolkit gives a new line
 
-// Whether the text between two places of a line has a format and no other. A fragment
-// would look for its position in the document.
-bool hasFormat(const QTextBlock &block, int from, int to, const QTextCharFormat &format)
+bool isWithoutFormat(const QTextBlock &block)
 {
-    int start = block.position();
-    for (auto it = block.begin(); !it.atEnd() && start < to; ++it) {
-        const int end = start + it.fragment().length();
-        if (end > from && it.fragment().charFormat() != format)
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        if (!it.fragment().charFormat().isEmpty())
             return false;
-        start = end;
     }
     return true;
 }
 
+struct FormatPiece
+{
+    int from = 0;
+    int to = 0;
+    QTextCharFormat format;
+};
+
+void setFormats(QTextCursor &cursor, const QList<FormatPiece> &pieces)
+{
+    for (const FormatPiece &piece : pieces) {
+        cursor.setPosition(piece.from);
+        cursor.setPosition(piece.to, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(piece.format);
+    }
+}
+
+// Leaves what tells which characters stand there, and nothing else.
+void stripFormats(QTextCursor &cursor, const QTextBlock &block)
+{
+    QList<FormatPiece> pieces;
+    int start = block.position();
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextCharFormat format = it.fragment().charFormat();
+        const QTextCharFormat kept = BoxMarks::onlyMarks(format);
+        const int end = start + it.fragment().length();
+        if (format != kept)
+            pieces.append({start, end, kept});
+        start = end;
+    }
+    setFormats(cursor, pieces);
+}
+
 } // namespace
 
-// Lines next to each other that are coloured together. The text stays, so nobody is told
-// of a change but the layout, and the document is as modified as it was.
+// Lines that are coloured together. The text stays, so nobody is told of a change but the
+// layout, and the document is as modified as it was.
 class LateColours::Group
 {
 public:
@@ -85,24 +113,35 @@ LateColours &LateColours::of(const QTextDocument &document)
     return *document.findChild<LateColours *>({}, Qt::FindDirectChildrenOnly);
 }
 
-bool LateColours::begin(const ColouredText &text, Lines lines)
+bool LateColours::suits(QStringView text)
+{
+    if (text.size() < shortest)
+        return false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c > u'\r' && c != QChar::ParagraphSeparator)
+            continue;
+        const bool isCrLf = c == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
+        if (isCrLf)
+            ++i;
+        else if (c.isNull() || c == u'\r' || c == u'\n' || c == QChar::ParagraphSeparator)
+            return false;
+    }
+    return true;
+}
+
+void LateColours::begin(const ColouredText &text, Lines lines, Allowed &permission)
 {
     stop();
     m_text = text;
     m_isWaiting = true;
     findLines();
-    if (static_cast<int>(m_lines.size()) != m_document.blockCount()) {
-        stop();
-        return false;
-    }
     markAll();
-    ++m_serial;
-    m_left = m_document.blockCount();
+    permission.m_serial = ++m_serial;
+    m_left = static_cast<int>(m_lines.size());
     m_hasFormerLines = lines == Lines::Former;
-    m_next = m_passed = 0;
     m_view = -1;
     m_timer.start(0);
-    return true;
 }
 
 void LateColours::stop()
@@ -183,20 +222,32 @@ const QTextCharFormat &LateColours::formatOf(Colour colour)
     return format;
 }
 
+// Found out in one go through the line, and then set: what is set cuts it into other
+// pieces.
 void LateColours::colourPlain(QTextCursor &cursor, const QTextBlock &block,
                               const QList<ColouredText::Run> &runs)
 {
-    int start = block.position();
+    QList<FormatPiece> pieces;
+    auto it = block.begin();
+    int start = block.position(); // of the fragment, which would look for it
+    FormatPiece piece{start, start, {}};
     for (const ColouredText::Run &run : runs) {
-        const int end = start + static_cast<int>(run.length);
-        const QTextCharFormat format = run.colour < 0 ? QTextCharFormat() : formatOf(run.colour);
-        if (!hasFormat(block, start, end, format)) {
-            cursor.setPosition(start);
-            cursor.setPosition(end, QTextCursor::KeepAnchor);
-            cursor.setCharFormat(format);
+        piece.from = piece.to;
+        piece.to += static_cast<int>(run.length);
+        piece.format = run.colour < 0 ? QTextCharFormat() : formatOf(run.colour);
+        bool isRight = true;
+        while (!it.atEnd() && start < piece.to) {
+            isRight = isRight && it.fragment().charFormat() == piece.format;
+            const int end = start + it.fragment().length();
+            if (end > piece.to)
+                break; // the rest of it is in the next run
+            start = end;
+            ++it;
         }
-        start = end;
+        if (!isRight)
+            pieces.append(piece);
     }
+    setFormats(cursor, pieces);
 }
 
 void LateColours::colour(QTextCursor &cursor, QTextBlock &block)
@@ -204,57 +255,77 @@ void LateColours::colour(QTextCursor &cursor, QTextBlock &block)
     const auto line = static_cast<std::size_t>(block.userState() - m_firstMark);
     block.setUserState(noMark);
     --m_left;
-    if (block.length() - 1 != lengthOf(line))
+    const ColouredText wanted{m_text.text.sliced(m_lines[line].start, lengthOf(line)),
+                              runsOf(line)};
+    QString shown = block.text();
+    BoxMarks::restore(block, shown);
+    if (shown != wanted.text)
         return; // changed past the box
+    const bool isNew = !m_hasFormerLines;
+    const bool isPlain = BoxMarks::isPlain(wanted.text) && (!isNew || isWithoutFormat(block));
     if (!block.charFormat().isEmpty()) {
         cursor.setPosition(block.position());
         cursor.setBlockCharFormat({});
     }
-    const ColouredText wanted{m_text.text.sliced(m_lines[line].start, lengthOf(line)),
-                              runsOf(line)};
-    const bool isPlain = BoxMarks::isPlain(wanted.text);
-    const int start = block.position();
-    if (isPlain && (m_hasFormerLines || hasFormat(block, start, start + block.length(), {})))
+    if (isPlain)
         return colourPlain(cursor, block, wanted.runs);
+    if (!isNew)
+        stripFormats(cursor, block);
     BoxColours::apply(m_document, m_boxText, m_boxText.toBox(block.position()), wanted);
 }
 
-void LateColours::give(int from, int to)
+void LateColours::give(const QList<Range> &ranges)
 {
     if (!m_isWaiting)
         return;
-    QTextBlock block = m_document.findBlock(from);
-    const QTextBlock last = m_document.findBlock(std::min(to, m_document.characterCount() - 1));
-    const int end = last.blockNumber();
-    for (int number = block.blockNumber(); number <= end && block.isValid(); ++number) {
-        if (waits(block)) {
-            Group group(m_document);
-            for (; number <= end && block.isValid() && waits(block); ++number) {
-                colour(group.cursor, block);
-                block = block.next();
-            }
+    std::optional<Group> group;
+    for (const Range &range : ranges) {
+        const int end = std::min(range.to, m_document.characterCount() - 1);
+        QTextBlock block = m_document.findBlock(range.from);
+        for (; block.isValid() && block.position() <= end; block = block.next()) {
+            if (!waits(block))
+                continue;
+            if (!group)
+                group.emplace(m_document);
+            colour(group->cursor, block);
         }
-        block = block.next();
     }
+}
+
+void LateColours::giveAround(const QList<Range> &selections)
+{
+    if (!m_isWaiting)
+        return;
+    QList<Range> ranges;
+    for (const Range &selection : selections) {
+        for (const int place : {selection.from, selection.to}) {
+            const QTextBlock block = m_document.findBlock(place);
+            const QTextBlock before = block.previous().isValid() ? block.previous() : block;
+            ranges.append({before.position(), block.position() + block.length()});
+        }
+    }
+    give(ranges);
 }
 
 void LateColours::giveAround(const QTextCursor &selection)
 {
-    if (!m_isWaiting)
-        return;
-    const auto around = [this](int place) {
-        const QTextBlock block = m_document.findBlock(place);
-        const QTextBlock before = block.previous().isValid() ? block.previous() : block;
-        give(before.position(), block.position() + block.length());
-    };
-    around(selection.selectionStart());
-    around(selection.selectionEnd());
+    giveAround({{selection.selectionStart(), selection.selectionEnd()}});
 }
 
 void LateColours::giveAll()
 {
-    if (m_isWaiting)
-        giveUntil([] { return false; });
+    if (!m_isWaiting)
+        return;
+    beginRoundAt(0);
+    giveUntil([] { return false; });
+}
+
+// What was passed on the way to another line says nothing of the lines from this one on.
+void LateColours::beginRoundAt(int line)
+{
+    m_next = line;
+    m_passed = 0;
+    m_changes = m_boxText.changeCount();
 }
 
 // Whether there is time left.
@@ -302,15 +373,14 @@ bool LateColours::giveUntil(const std::function<bool()> &isTimeUp)
     return !isOver;
 }
 
-// Lines that came or went may have taken some that wait past the one looked at next.
+// A change may have taken lines that wait past the one looked at next.
 void LateColours::followDocument()
 {
     const int view = m_firstShown ? m_firstShown() : 0;
-    if (view != m_view)
-        m_view = m_next = view;
-    const int count = m_document.blockCount();
-    if (std::exchange(m_lineCount, count) != count)
-        m_passed = 0;
+    if (view != std::exchange(m_view, view))
+        beginRoundAt(view);
+    else if (m_boxText.changeCount() != m_changes)
+        beginRoundAt(m_next);
 }
 
 void LateColours::goOn()

@@ -3,6 +3,7 @@
 #include "base/ColouredText.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
@@ -10,6 +11,7 @@
 
 #include <chrono>
 #include <functional>
+#include <utility>
 #include <vector>
 
 class QTextBlock;
@@ -44,35 +46,47 @@ public:
     // Those of a box's document, for those who build on the box.
     static LateColours &of(const QTextDocument &document);
 
-    // While one lives, setColoured of the box gives a long text its colours late.
+    // Former lines may have any formats, which go; of new ones what somebody has set since
+    // stays beside the colours.
+    enum class Lines { New, Former };
+
+    // While one lives, the next setColoured of the box may give a long text its colours
+    // late, and keep former lines whose text is the same. It takes the permission before it
+    // tells anybody of anything: those have none.
     class Allowed
     {
     public:
-        explicit Allowed(LateColours &colours)
+        Allowed(LateColours &colours, Lines lines)
             : m_colours(&colours)
+            , m_lines(lines)
         {
-            ++colours.m_allowed;
+            colours.m_permission = this;
         }
         ~Allowed()
         {
-            if (m_colours)
-                --m_colours->m_allowed;
+            if (m_colours && m_colours->m_permission == this)
+                m_colours->m_permission = nullptr;
         }
-        Q_DISABLE_COPY_MOVE(Allowed) // one begin, one end
+        Q_DISABLE_COPY_MOVE(Allowed) // known to the colours
+
+        Lines lines() const { return m_lines; }
+
+        // That of the colours which it has brought about; 0 when they came at once.
+        int serial() const { return m_serial; }
 
     private:
+        friend LateColours;
         QPointer<LateColours> m_colours;
+        Lines m_lines;
+        int m_serial = 0;
     };
-    bool mayTake(const ColouredText &text) const
-    {
-        return m_allowed > 0 && text.text.size() >= shortest;
-    }
+    Allowed *takePermission() { return std::exchange(m_permission, nullptr); }
 
-    // The document has just got the lines of this text; from now on all of them wait.
-    // False, and none does, when it has other lines. Former lines may have any formats,
-    // which go; of new ones what somebody has set since stays beside the colours.
-    enum class Lines { New, Former };
-    bool begin(const ColouredText &text, Lines lines);
+    // Whether the text is long, and has the same characters and lines in a document.
+    static bool suits(QStringView text);
+
+    // The document has just got the lines of a text that suits; all of them wait now.
+    void begin(const ColouredText &text, Lines lines, Allowed &permission);
 
     // The lines that wait are left as they are.
     void stop();
@@ -84,11 +98,20 @@ public:
     // Grows with each begin.
     int serial() const { return m_serial; }
 
-    // Colour the lines that wait between two places of the document, or all.
-    void give(int from, int to);
+    // A part of the document.
+    struct Range
+    {
+        int from = 0;
+        int to = 0;
+    };
+
+    // Colour the lines that wait in parts of the document, or all.
+    void give(const QList<Range> &ranges);
+    void give(int from, int to) { give({{from, to}}); }
     void giveAll();
 
-    // The lines that a change at a selection, or beside a caret, may touch.
+    // The lines that a change of selections, or beside a caret, may touch.
+    void giveAround(const QList<Range> &selections);
     void giveAround(const QTextCursor &selection);
 
     // Tells where the idle work is to go on, and what time it is.
@@ -110,6 +133,7 @@ private:
 
     void findLines();
     void markAll();
+    void beginRoundAt(int line);
     bool waits(const QTextBlock &block) const;
     int lengthOf(std::size_t line) const;
     QList<ColouredText::Run> runsOf(std::size_t line) const;
@@ -131,17 +155,17 @@ private:
     QTimer m_timer;
     std::function<int()> m_firstShown;
     std::function<Time()> m_now = std::chrono::steady_clock::now;
-    int m_allowed = 0;
+    Allowed *m_permission = nullptr;
     int m_serial = 0;
     bool m_isWaiting = false;
     bool m_hasFormerLines = false;
-    int m_firstMark = 0; // of the first line; the others' follow
-    int m_lastCount = 0; // of marks
-    int m_left = 0;      // how many lines wait, or have gone
-    int m_next = 0;      // the line that is looked at next
-    int m_passed = 0;    // lines that did not wait, one after the other
-    int m_lineCount = 0; // of the document, when that began
-    int m_view = -1;     // the first line shown then
+    int m_firstMark = 0;   // of the first line; the others' follow
+    int m_lastCount = 0;   // of marks
+    int m_left = 0;        // how many lines wait, or have gone
+    int m_next = 0;        // the line that is looked at next
+    int m_passed = 0;      // lines that did not wait, one after the other, up to there
+    quint64 m_changes = 0; // of the document, when that began
+    int m_view = -1;       // the first line shown then
 };
 
 } // namespace ORVTListview

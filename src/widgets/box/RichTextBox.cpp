@@ -320,23 +320,28 @@ QString RichTextBox::textRange(qint32 start, qint32 length) const
 
 void RichTextBox::setColoured(const ColouredText &text)
 {
+    using Lines = LateColours::Lines;
+    LateColours::Allowed *const allowed = d->late.takePermission();
+    const bool isLate = allowed && LateColours::suits(text.text);
+    const bool mayKeepFormer = isLate && allowed->lines() == Lines::Former;
     replaceAll([&] {
-        const bool isLate = d->late.mayTake(text);
-        const ColouredText now = isLate ? ColouredText{text.text, {}} : text;
         // A cleared document forgets its formats, and is faster than one emptied.
-        BoxLines lines(*document(), d->formats, now);
-        const bool keepsLines = isLate ? lines.keepSameText(d->text.text()) : lines.keepUnchanged();
+        BoxLines lines(*document(), d->formats, text);
+        const bool keepsLines =
+            mayKeepFormer ? lines.keepSameText(d->text.text()) : lines.keepUnchanged();
         if (!keepsLines)
             clearAll(*document());
+        ColouredText now = lines.replacement();
+        if (isLate)
+            now.runs.clear();
         QTextCursor cursor = lines.toReplace();
         {
             BoxSink sink(cursor, d->formats);
-            writeColoured(lines.replacement(), d->formats.base(), sink);
+            writeColoured(now, d->formats.base(), sink);
         }
-        d->text.know(text.text);
-        using Lines = LateColours::Lines;
-        if (isLate && !d->late.begin(text, keepsLines ? Lines::Former : Lines::New))
-            recolour(0, text);
+        d->text.know(text.text, mayKeepFormer);
+        if (isLate)
+            d->late.begin(text, mayKeepFormer && keepsLines ? Lines::Former : Lines::New, *allowed);
         select(0, 0);
     });
 }

@@ -28,8 +28,10 @@ void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &pu
         return;
     const Changing changing(*this);
     if (d->late.areWaiting()) {
+        QList<LateColours::Range> places;
         for (const TextPiece &piece : pieces)
-            d->late.giveAround(selected(*document(), d->text, piece));
+            places.append({d->text.toDocument(piece.start), d->text.toDocument(piece.end())});
+        d->late.giveAround(places);
     }
     d->announceChange(false);
     QTextCursor oneChange(document());
