@@ -457,6 +457,25 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::OpeningProgress</name>
+    <message>
+        <source>Colouring: %p %</source>
+        <translation>%p % eingefärbt</translation>
+    </message>
+    <message>
+        <source>Colouring the program</source>
+        <translation>Programm wird eingefärbt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The program stays, the rest of it without colours</source>
+        <translation>Das Programm bleibt, der Rest davon ohne Farben</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointChooser</name>
     <message>
         <source>Inputs</source>

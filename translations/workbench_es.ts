@@ -457,6 +457,25 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::OpeningProgress</name>
+    <message>
+        <source>Colouring: %p %</source>
+        <translation>Coloreado: %p %</translation>
+    </message>
+    <message>
+        <source>Colouring the program</source>
+        <translation>Coloreando el programa</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The program stays, the rest of it without colours</source>
+        <translation>El programa se queda, el resto sin colores</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointChooser</name>
     <message>
         <source>Inputs</source>

@@ -457,6 +457,25 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::OpeningProgress</name>
+    <message>
+        <source>Colouring: %p %</source>
+        <translation>Coloration : %p %</translation>
+    </message>
+    <message>
+        <source>Colouring the program</source>
+        <translation>Coloration du programme</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The program stays, the rest of it without colours</source>
+        <translation>Le programme reste, sa suite sans couleurs</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointChooser</name>
     <message>
         <source>Inputs</source>

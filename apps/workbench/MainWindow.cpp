@@ -7,6 +7,7 @@
 #include "EditorViewMenu.h"
 #include "LanguageMenu.h"
 #include "Languages.h"
+#include "OpeningProgress.h"
 #include "PointChooser.h"
 #include "PointTables.h"
 #include "PointValues.h"
@@ -49,6 +50,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_values(new PointValues(*m_code->codeView(), this))
     , m_results(new CheckResults(*m_code->GetImage(), this))
     , m_programInfo(new QLabel(this))
+    , m_opening(new OpeningProgress(*m_code->codeView(), this))
     , m_position(new QLabel(this))
 {
     m_points->setPictures(*m_code->GetImage());
@@ -138,6 +140,8 @@ void MainWindow::buildStatusBar()
 {
     m_programInfo->setContentsMargins(3, 0, 0, 0); // in line with the program
     statusBar()->addWidget(m_programInfo);
+    statusBar()->addPermanentWidget(m_opening);
+    m_opening->hide(); // the bar shows what it takes
     statusBar()->addPermanentWidget(m_position);
 }
 
@@ -223,7 +227,7 @@ void MainWindow::showProgram()
     m_view->showType(dsCode);
     m_code->Clear();
     applyAppearance();
-    m_code->openProgram(withWordsApart(m_project->program()));
+    m_code->codeView()->openProgram(withWordsApart(m_project->program()));
     m_saving->setProject(m_project.get());
     m_code->setFocus();
     showPosition();
@@ -304,6 +308,7 @@ void MainWindow::followPalette()
 void MainWindow::retranslate()
 {
     m_results->retranslate();
+    m_opening->retranslate();
     qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
     menuBar()->clear();
     buildMenus();

@@ -13,6 +13,7 @@ namespace ORVTListview {
 class CheckResults;
 class EditMenu;
 class Languages;
+class OpeningProgress;
 class ProgramSaving;
 class PointChooser;
 class PointValues;
@@ -74,6 +75,7 @@ private:
     PointValues *m_values;
     CheckResults *m_results;
     QLabel *m_programInfo;
+    OpeningProgress *m_opening;
     QLabel *m_position;
 };
 

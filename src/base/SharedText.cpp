@@ -1,5 +1,7 @@
 #include "base/SharedText.h"
 
+#include "base/TextSearch.h"
+
 #include <algorithm>
 #include <iterator>
 #include <span>
@@ -96,8 +98,7 @@ qsizetype SharedText::alikeAtStart(const SharedText &other) const
         const QStringView theirs = other.behind(alike, blockLength);
         const QStringView mine = behind(alike, theirs.size());
         if (!areAlike(mine, theirs.first(mine.size())))
-            return alike +
-                   (std::mismatch(mine.begin(), mine.end(), theirs.begin()).first - mine.begin());
+            return alike + ORVTListview::alikeAtStart(mine, theirs);
         alike += mine.size();
     }
     return alike;
@@ -111,8 +112,7 @@ qsizetype SharedText::alikeAtEnd(const SharedText &other, qsizetype most) const
         const QStringView theirs = other.before(other.m_size - alike, longest);
         const QStringView mine = before(m_size - alike, theirs.size());
         if (!areAlike(mine, theirs.last(mine.size())))
-            return alike + (std::mismatch(mine.rbegin(), mine.rend(), theirs.rbegin()).first -
-                            mine.rbegin());
+            return alike + ORVTListview::alikeAtEnd(mine, theirs, mine.size());
         alike += mine.size();
     }
     return alike;

@@ -20,4 +20,12 @@ struct TextSearch
 ORVT_HOUSE_EXPORT qsizetype findText(QStringView text, QStringView wanted, qsizetype start,
                                      qsizetype end, TextSearch how = {});
 
+// How many characters two texts have in common at their starts, or at their ends and not
+// more than so many.
+ORVT_HOUSE_EXPORT qsizetype alikeAtStart(QStringView one, QStringView other);
+ORVT_HOUSE_EXPORT qsizetype alikeAtEnd(QStringView one, QStringView other, qsizetype most);
+
+// Where the next CR LF stands, or -1.
+ORVT_HOUSE_EXPORT qsizetype findCrLf(QStringView text, qsizetype from);
+
 } // namespace ORVTListview

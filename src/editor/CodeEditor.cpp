@@ -29,8 +29,9 @@ CodeEditor::CodeEditor(QWidget *host, ReportList &list)
     , m_editing(*m_box, m_thread, m_undo, m_colouring, m_clipboard)
     , m_places(*m_box, m_thread)
     , m_keys({m_text, m_editing, m_clipboard, m_words, m_undo, m_colouring, *m_status})
+    , m_opening(*m_box, m_text)
     , m_commands({*m_box, m_thread, m_undo, m_colouring, m_lineMoves}, m_editing.lines(),
-                 m_editing.help(), m_words.popup())
+                 m_editing.help(), m_words.popup(), m_opening)
     , m_view(*m_box, m_commands)
     , m_wordListTips(list, m_words.popup(), m_view.d->hover)
 {

@@ -6,6 +6,7 @@
 #include "editor/ProgramClipboard.h"
 #include "editor/ProgramCommands.h"
 #include "editor/ProgramEditing.h"
+#include "editor/ProgramOpening.h"
 #include "editor/ProgramPlaces.h"
 #include "editor/ProgramText.h"
 #include "editor/TypedColouring.h"
@@ -87,6 +88,7 @@ private:
     ProgramPlaces m_places;
     EditorKeys m_keys;
     LineMoves m_lineMoves;
+    ProgramOpening m_opening;
     const ProgramCommands m_commands;
     CodeView m_view;
     WordListTips m_wordListTips;

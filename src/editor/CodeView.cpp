@@ -3,6 +3,7 @@
 #include "base/EventGuard.h"
 #include "editor/CodeViewParts.h"
 #include "editor/ProgramCommands.h"
+#include "editor/ProgramOpening.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QMetaMethod>
@@ -15,6 +16,8 @@ CodeView::CodeView(RichTextBox &box, const ProgramCommands &commands)
     connect(&d->commandsState, &CommandsState::changed, this, [this](bool enabled) {
         raiseEvent(*this, &CodeView::commandsEnabledChanged, enabled);
     });
+    connect(&d->commands.opening, &ProgramOpening::progressed, this,
+            [this](int percent) { raiseEvent(*this, &CodeView::openingProgress, percent); });
     connect(&d->marks, &MarkColumn::chosen, this, [this](const Problem &problem) {
         raiseEvent(*this, &CodeView::problemChosen, problem);
     });
@@ -30,6 +33,21 @@ CodeView::CodeView(RichTextBox &box, const ProgramCommands &commands)
 }
 
 CodeView::~CodeView() = default;
+
+void CodeView::openProgram(const QString &text)
+{
+    d->commands.opening.open(text);
+}
+
+void CodeView::cancelOpening()
+{
+    d->commands.opening.cancel();
+}
+
+bool CodeView::isOpening() const
+{
+    return d->commands.opening.isRunning();
+}
 
 bool CodeView::lineNumbersVisible() const
 {

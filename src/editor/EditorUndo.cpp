@@ -7,6 +7,7 @@
 #include "shared/texts/TextTable.h"
 #include "widgets/box/BoxText.h"
 #include "widgets/box/KeptView.h"
+#include "widgets/box/LateColours.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>
 
@@ -128,6 +129,7 @@ bool EditorUndo::showKept(const std::optional<UndoRecord> &kept)
 
 void EditorUndo::show(const UndoRecord &record, const ColouredText &text)
 {
+    const LateColours::Allowed late(LateColours::of(*m_box.document()), LateColours::Lines::Former);
     const KeptView view(m_box);
     m_box.setColoured(text);
     m_changed = now();

@@ -9,11 +9,13 @@
 
 namespace ORVTListview {
 
+class ProgramOpening;
+
 // What a host binds to its menu beyond the keys, a class for each subject.
 struct ProgramCommands
 {
     ProgramCommands(const CommandTools &tools, const LineCommands &lineCommands, TypingHelp &help,
-                    PopupWordList &wordList)
+                    PopupWordList &wordList, ProgramOpening &programOpening)
         : moves(tools.moves)
         , caret(tools)
         , finding(tools)
@@ -21,6 +23,7 @@ struct ProgramCommands
         , texts(tools, lineCommands)
         , typing(help)
         , words(wordList)
+        , opening(programOpening)
     {
     }
 
@@ -31,6 +34,7 @@ struct ProgramCommands
     const TextCommands texts;
     TypingHelp &typing;
     PopupWordList &words;
+    ProgramOpening &opening;
 };
 
 } // namespace ORVTListview

@@ -1,12 +1,18 @@
 #include "WorkbenchTest.h"
 
 #include "support/TestProgram.h"
+#include "widgets/box/LateColours.h"
 
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QToolButton>
+
+#include <chrono>
 
 using namespace Qt::StringLiterals;
 
@@ -259,6 +265,38 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = ON");
         workbench.window.openProject(workbench.writeProject(u"two%2%1"_s, "Temp1 > 3"));
         QCOMPARE(workbench.statusTexts(), u"two%2%1.prog, lines: 1|Row: 1, Col: 1"_s);
+    }
+
+    void showsHowFarALongProgramHasItsColours()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        const ORVTListview::CodeView &view = *workbench.code().codeView();
+        auto &bar = *workbench.window.statusBar()->findChild<QProgressBar *>();
+        auto &cancel = *bar.parentWidget()->findChild<QToolButton *>();
+        auto &colours = ORVTListview::LateColours::of(*workbench.box().document());
+        colours.setClock([now = ORVTListview::LateColours::Time()]() mutable {
+            return now += std::chrono::milliseconds(1); // a few lines at once
+        });
+        const QByteArray program = QByteArray("IF Temp1 > 3\r\n").repeated(8000);
+        const QString project = workbench.writeProject(u"two"_s, program);
+        workbench.window.openProject(project);
+        QVERIFY(!bar.isVisible());
+        QTRY_VERIFY(bar.isVisible());
+        QVERIFY(view.isOpening());
+        QCOMPARE(bar.accessibleName(), u"Colouring the program"_s);
+        workbench.speak(QLocale::German);
+        QCOMPARE(bar.accessibleName(), u"Programm wird eingefärbt"_s);
+        QTest::mouseClick(&cancel, Qt::LeftButton);
+        QVERIFY(!view.isOpening());
+        QTRY_VERIFY(!bar.isVisible());
+        QVERIFY(workbench.box().hasFocus());
+        QVERIFY(!workbench.window.isWindowModified());
+        QVERIFY(workbench.code().CodeText() == QString::fromLatin1(program));
+
+        workbench.window.openProject(project);
+        QTRY_VERIFY(bar.value() > 50);
+        QTRY_VERIFY(!bar.isVisible());
+        QVERIFY(!view.isOpening());
     }
 
     void countsLinesAndFollowsTheCaret()

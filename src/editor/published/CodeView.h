@@ -228,7 +228,26 @@ public:
     // What that list shows beside words, by their names in any letter case; none at first.
     Q_INVOKABLE void setWordDescriptions(const QHash<QString, QString> &descriptions);
 
+    // Opens a program as ORVListView::openProgram does, but for the time: the text is
+    // there, to be scrolled, edited and saved, when this returns, in colours as far as it
+    // is in view; the rest of a long one gets them while the program is idle. Whoever asks
+    // for colours or RTF has them, at once. What the words are, and their colours, is
+    // decided here. Nothing can tell afterwards which of the two has opened it.
+    Q_INVOKABLE void openProgram(const QString &text);
+
+    // Gives up colouring what openProgram opened: the text stays, lines without colours
+    // stay so until they are worked on, or the appearance is applied.
+    Q_INVOKABLE void cancelOpening();
+
+    // Whether lines of what openProgram opened still wait for their colours.
+    Q_INVOKABLE bool isOpening() const;
+
 Q_SIGNALS:
+    // How much of the program that openProgram opens has its colours, from the event
+    // loop, each percentage once. 100 is the last one, and comes whatever the end is:
+    // all is done, cancelOpening, another text in its place.
+    void openingProgress(qint32 percent);
+
     void lineNumbersVisibleChanged(bool visible);
     void currentLineShownChanged(bool shown);
     void pairsShownChanged(bool shown);

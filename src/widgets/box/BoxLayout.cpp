@@ -156,6 +156,20 @@ void BoxLayout::clearLines(const QTextBlock &first, const QTextBlock &last) cons
     }
 }
 
+// Those without a width have no layout, and have not been painted.
+void BoxLayout::colourLines(const QTextBlock &first, const QTextBlock &last)
+{
+    for (QTextBlock block = first; block.isValid(); block = block.next()) {
+        if (block.userData()) {
+            block.setUserData(new LineWidth(m_widths, makeLines(block)));
+            Q_EMIT updateBlock(block);
+        }
+        if (block == last)
+            break;
+    }
+    announceSize(); // bold that goes makes a line narrower
+}
+
 void BoxLayout::documentChanged(int from, int, int charsAdded)
 {
     constexpr int few = 8;
@@ -164,6 +178,8 @@ void BoxLayout::documentChanged(int from, int, int charsAdded)
     const QTextBlock first = text.findBlock(std::min(from, lastPlace));
     // The line behind a changed line end may be another one than before.
     const QTextBlock last = text.findBlock(std::min(from + charsAdded, lastPlace));
+    if (m_onlyColours)
+        return colourLines(first, last);
     const bool areFew = last.blockNumber() - first.blockNumber() < few;
     const bool sameLines = text.blockCount() == m_lineCount;
     m_lineCount = text.blockCount();

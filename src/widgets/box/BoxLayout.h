@@ -27,6 +27,9 @@ public:
     // told that it changed.
     void showLines(const QTextBlock &first, const QTextBlock &last, bool on);
 
+    // While it is so, what changes is the colours of text: lines keep their places.
+    void setOnlyColours(bool on) { m_onlyColours = on; }
+
     QSizeF documentSize() const override;
     QRectF frameBoundingRect(QTextFrame *frame) const override;
     QRectF blockBoundingRect(const QTextBlock &block) const override;
@@ -43,10 +46,12 @@ private:
     bool changeLine(QTextBlock block) const;
     bool changeLines(const QTextBlock &first, const QTextBlock &last) const;
     void clearLines(const QTextBlock &first, const QTextBlock &last) const;
+    void colourLines(const QTextBlock &first, const QTextBlock &last);
     void announceSize() const;
 
     const QWidget &m_viewport;
     int m_lineCount = 1;
+    bool m_onlyColours = false;
     int m_width = 0;                  // that the lines are aligned in
     std::shared_ptr<Widths> m_widths; // of the lines laid out so far
     mutable QSizeF m_announcedSize;

@@ -1,5 +1,6 @@
 #include "widgets/box/BoxLines.h"
 
+#include "base/TextSearch.h"
 #include "widgets/box/BoxMarks.h"
 
 #include <QtGui/QTextDocument>
@@ -34,6 +35,34 @@ bool BoxLines::keepUnchanged()
     const int mostBehind = std::max(0, most - std::max(1, m_front));
     for (; m_back < mostBehind && isSame(block, m_lines[m_lines.size() - 1 - m_back]); ++m_back)
         block = block.previous();
+    return keepsMany();
+}
+
+bool BoxLines::keepSameText(const QString &shown)
+{
+    if (!mayKeep())
+        return false;
+    findLines();
+    const qsizetype most = std::min(shown.size(), m_text.text.size());
+    const qsizetype atStart = alikeAtStart(shown, m_text.text);
+    const qsizetype atEnd = alikeAtEnd(shown, m_text.text, most - atStart);
+    const auto lineOf = [this](qsizetype place) {
+        const auto behind = std::upper_bound(
+            m_lines.cbegin(), m_lines.cend(), place,
+            [](qsizetype wanted, const Line &line) { return wanted < line.start; });
+        return static_cast<int>(behind - m_lines.cbegin()) - 1;
+    };
+    // A line counts whose beginning is alike with the line end before it, and so is its end.
+    const auto count = static_cast<int>(m_lines.size());
+    m_front = lineOf(atStart);
+    m_back = count - 1 - lineOf(m_text.text.size() - atEnd);
+    const int lines = std::min(count, m_document.blockCount());
+    m_back = std::clamp(m_back, 0, std::max(0, lines - std::max(1, m_front)));
+    return keepsMany();
+}
+
+bool BoxLines::keepsMany()
+{
     const bool areMany = m_front + m_back >= m_document.blockCount() / 2;
     if (!areMany)
         m_front = m_back = 0;

@@ -22,6 +22,10 @@ public:
     // replaced, when these are few or the document better begins anew.
     bool keepUnchanged();
 
+    // The same for lines whose text is as it shall be, whatever their colours. `shown` is
+    // the document's text as BoxText has it.
+    bool keepSameText(const QString &shown);
+
     // Where the replacement goes, a selection.
     QTextCursor toReplace() const;
     ColouredText replacement() const;
@@ -37,6 +41,7 @@ private:
     };
 
     bool mayKeep();
+    bool keepsMany();
     void findLines();
     bool beginsPlain(const QTextBlock &block);
     bool isSame(const QTextBlock &block, const Line &line);

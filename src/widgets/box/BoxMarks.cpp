@@ -117,6 +117,16 @@ bool BoxMarks::mayBeIn(QStringView text)
     return text.contains(QChar(standIn));
 }
 
+QTextCharFormat BoxMarks::onlyMarks(const QTextCharFormat &format)
+{
+    QTextCharFormat result;
+    for (const int property : {markProperty, int{QTextFormat::FontKerning}}) {
+        if (format.hasProperty(property))
+            result.setProperty(property, format.property(property));
+    }
+    return result;
+}
+
 void BoxMarks::restore(const QTextBlock &block, QString &text)
 {
     if (!mayBeIn(text))

@@ -24,6 +24,9 @@ bool isPlain(QStringView text);
 // back.
 bool mayBeIn(QStringView text);
 
+// What of a format is there for such characters, and none of its looks.
+QTextCharFormat onlyMarks(const QTextCharFormat &format);
+
 // Puts the characters stood for back into a block's text.
 void restore(const QTextBlock &block, QString &text);
 

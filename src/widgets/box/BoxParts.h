@@ -3,6 +3,7 @@
 #include "widgets/box/BoxCommands.h"
 #include "widgets/box/BoxFormats.h"
 #include "widgets/box/BoxText.h"
+#include "widgets/box/LateColours.h"
 #include "widgets/input/EventSurface.h"
 #include "widgets/look/Colours.h"
 
@@ -23,6 +24,7 @@ struct BoxParts
 {
     BoxParts(QTextDocument &document, QWidget &viewport, std::unique_ptr<BoxCommands> plain)
         : text(document)
+        , late(document, text)
         , surface(viewport)
         , commands(std::move(plain))
     {
@@ -59,7 +61,15 @@ struct BoxParts
             commands->beforeChange(losesPart);
     }
 
+    // The same for a change at a selection, or beside a caret.
+    void announceChange(const QTextCursor &place)
+    {
+        late.giveAround(place);
+        announceChange(place.hasSelection());
+    }
+
     BoxText text;
+    LateColours late;
     BoxFormats formats;
     qint32 backColor = Colours::windowBackground;
     bool hasOwnPalette = false;   // set for backColor

@@ -189,6 +189,17 @@ const SharedText &BoxText::sharedText() const
     return m_sharedText;
 }
 
+// A text that did not go in as it is stays unknown.
+void BoxText::know(const QString &text, bool isOtherState)
+{
+    if (text.size() != length() || text.contains(QChar(u'\0')))
+        return;
+    m_text = text;
+    const SharedText shared(text);
+    m_sharedText = isOtherState ? shared.sharedWith(m_sharedText) : shared;
+    m_keptText = m_keptSharedText = {m_length, 0, 0, false};
+}
+
 void BoxText::noteChange(int from, int removed, int added)
 {
     // The announced lengths may count the document's last, invisible separator;

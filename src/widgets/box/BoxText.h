@@ -41,6 +41,10 @@ public:
     // has not changed, and takes time in what has.
     const SharedText &sharedText() const;
 
+    // Saves reading a text that has just been put in as a whole. One that is another state
+    // of the text before has in common with that what sharedText() gave.
+    void know(const QString &text, bool isOtherState);
+
     QString range(qint32 start, qint32 length) const;
     QString read(int from, int to) const; // between two document positions
 

@@ -69,6 +69,7 @@ RichTextBox::RichTextBox(QWidget *parent)
          [this](const QTextBlock &block) { return blockBoundingRect(block); },
          [this](int beside, int below) { setViewportMargins(beside, 0, 0, below); },
          [this](const QFont &shown) { document()->setDefaultFont(shown); }});
+    d->late.setFirstShown([this] { return firstVisibleBlock().blockNumber(); });
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
     d->formats.setFont(font());
@@ -131,6 +132,7 @@ void RichTextBox::replaceAll(const std::function<void()> &insert)
     d->announceChange(true);
     {
         const QScopedValueRollback quiet(d->isQuiet, true);
+        d->late.stop();
         insert();
         d->text.sharedText();
     }
@@ -162,6 +164,7 @@ void RichTextBox::setText(const QString &text)
 
 QString RichTextBox::TextRTF() const
 {
+    d->late.giveAll();
     RtfWriter writer(d->formats.base());
     readBox(*document(), d->formats, 0, document()->characterCount() - 1, writer);
     return writer.finish();
@@ -211,7 +214,7 @@ QString RichTextBox::textOf(const QTextCursor &selection) const
 void RichTextBox::setSelText(const QString &text)
 {
     const Changing changing(*this);
-    d->announceChange(textCursor().hasSelection());
+    d->announceChange(textCursor());
     QTextCursor cursor = textCursor();
     const QTextCharFormat format = BoxFormats::formatAt(cursor);
     cursor.beginEditBlock();
@@ -226,6 +229,7 @@ QString RichTextBox::SelRTF() const
 {
     RtfWriter writer(d->formats.base());
     const QTextCursor cursor = textCursor();
+    d->late.give(cursor.selectionStart(), cursor.selectionEnd());
     readBox(*document(), d->formats, cursor.selectionStart(), cursor.selectionEnd(), writer);
     return writer.finish();
 }
@@ -237,7 +241,7 @@ void RichTextBox::setSelRTF(const QString &rtf)
         return;
     }
     const Changing changing(*this);
-    d->announceChange(textCursor().hasSelection());
+    d->announceChange(textCursor());
     QTextCursor cursor = textCursor();
     {
         BoxSink sink(cursor, d->formats);
@@ -249,6 +253,7 @@ void RichTextBox::setSelRTF(const QString &rtf)
 
 qint32 RichTextBox::SelColor() const
 {
+    d->late.giveAround(textCursor());
     return std::max(0, BoxFormats::colour(BoxFormats::formatAt(textCursor())));
 }
 
@@ -259,6 +264,7 @@ void RichTextBox::setSelColor(qint32 colour)
                              ? colour
                              : Colours::fromColor(Colours::toColor(colour, paletteAround()));
     QTextCursor cursor = textCursor();
+    d->late.give(cursor.selectionStart(), cursor.selectionEnd());
     if (cursor.hasSelection()) {
         BoxColours::paint(*document(), cursor.selectionStart(), cursor.selectionEnd(), shown);
         return;
@@ -314,16 +320,28 @@ QString RichTextBox::textRange(qint32 start, qint32 length) const
 
 void RichTextBox::setColoured(const ColouredText &text)
 {
+    using Lines = LateColours::Lines;
+    LateColours::Allowed *const allowed = d->late.takePermission();
+    const bool isLate = allowed && LateColours::suits(text.text);
+    const bool mayKeepFormer = isLate && allowed->lines() == Lines::Former;
     replaceAll([&] {
         // A cleared document forgets its formats, and is faster than one emptied.
         BoxLines lines(*document(), d->formats, text);
-        if (!lines.keepUnchanged())
+        const bool keepsLines =
+            mayKeepFormer ? lines.keepSameText(d->text.text()) : lines.keepUnchanged();
+        if (!keepsLines)
             clearAll(*document());
+        ColouredText now = lines.replacement();
+        if (isLate)
+            now.runs.clear();
         QTextCursor cursor = lines.toReplace();
         {
             BoxSink sink(cursor, d->formats);
-            writeColoured(lines.replacement(), d->formats.base(), sink);
+            writeColoured(now, d->formats.base(), sink);
         }
+        d->text.know(text.text, mayKeepFormer);
+        if (isLate)
+            d->late.begin(text, mayKeepFormer && keepsLines ? Lines::Former : Lines::New, *allowed);
         select(0, 0);
     });
 }
@@ -331,7 +349,7 @@ void RichTextBox::setColoured(const ColouredText &text)
 void RichTextBox::setSelColoured(const ColouredText &text)
 {
     const Changing changing(*this);
-    d->announceChange(textCursor().hasSelection());
+    d->announceChange(textCursor());
     QTextCursor cursor = textCursor();
     {
         BoxSink sink(cursor, d->formats);
@@ -344,6 +362,9 @@ void RichTextBox::setSelColoured(const ColouredText &text)
 void RichTextBox::recolour(qint32 start, const ColouredText &text)
 {
     const BoxParts::KeepingText keeping(*d);
+    const auto end = start + static_cast<qint32>(text.text.size());
+    if (d->late.areWaiting())
+        d->late.give(d->text.toDocument(start), d->text.toDocument(end));
     BoxColours::apply(*document(), d->text, start, text);
 }
 
@@ -354,6 +375,8 @@ bool RichTextBox::keepsText() const
 
 ColouredText RichTextBox::coloured(qint32 start, qint32 length) const
 {
+    if (d->late.areWaiting())
+        d->late.give(d->text.toDocument(start), d->text.toDocument(advance(start, length)));
     return BoxColours::read(*document(), d->text, start, length);
 }
 

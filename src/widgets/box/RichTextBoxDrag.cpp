@@ -98,8 +98,10 @@ void RichTextBox::dropEvent(QDropEvent *event)
         setTextCursor(before);
         return;
     }
-    if (moves)
+    if (moves) {
+        d->late.giveAround(dragged);
         commands().edit([&dragged] { dragged.removeSelectedText(); });
+    }
     event->acceptProposedAction();
 }
 

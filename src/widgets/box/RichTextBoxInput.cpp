@@ -79,6 +79,16 @@ bool removes(const QKeyEvent &event, BoxCommands &commands)
     return true;
 }
 
+// What is in view is never painted without its colours.
+void colourShownLines(BoxParts &parts)
+{
+    if (!parts.late.areWaiting())
+        return;
+    // Each by itself: those between them may be folded away.
+    for (const ShownLine &line : parts.layers->shownLines())
+        parts.late.give(line.block.position(), line.block.position());
+}
+
 // The toolkit would type a letter that is held with Alt.
 bool isAltText(const QKeyEvent &event)
 {
@@ -124,6 +134,8 @@ bool RichTextBox::viewportEvent(QEvent *event)
         return QPlainTextEdit::viewportEvent(event);
     return d->surface.deliver([this, event] {
         const Changing changing(*this);
+        if (event->type() == QEvent::Paint)
+            colourShownLines(*d);
         if (event->type() == QEvent::Paint && !d->layers->isEmpty())
             return paintLayers(static_cast<QPaintEvent &>(*event));
         auto *layout = qobject_cast<BoxLayout *>(document()->documentLayout());
@@ -210,7 +222,7 @@ void RichTextBox::act(QKeyEvent *event)
         event->ignore();
     } else {
         // The key may be one that deletes, in the manner of some platform.
-        d->announceChange(textCursor().hasSelection());
+        d->announceChange(textCursor());
         commands().edit([this, event] {
             QPlainTextEdit::keyPressEvent(event);
             keepCaretWhole();
@@ -222,7 +234,7 @@ void RichTextBox::removeBeside(QTextCursor::MoveOperation step)
 {
     const Changing changing(*this);
     QTextCursor cursor = textCursor();
-    d->announceChange(cursor.hasSelection());
+    d->announceChange(cursor);
     if (cursor.hasSelection())
         cursor.removeSelectedText();
     else

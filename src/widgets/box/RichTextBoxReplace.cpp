@@ -27,6 +27,12 @@ void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &pu
     if (pieces.isEmpty())
         return;
     const Changing changing(*this);
+    if (d->late.areWaiting()) {
+        QList<LateColours::Range> places;
+        for (const TextPiece &piece : pieces)
+            places.append({d->text.toDocument(piece.start), d->text.toDocument(piece.end())});
+        d->late.giveAround(places);
+    }
     d->announceChange(false);
     QTextCursor oneChange(document());
     QTextCursor caret;

@@ -1,5 +1,6 @@
 #include "editor/rules/colouring/ColourEngine.h"
 
+#include "base/TextSearch.h"
 #include "editor/rules/language/CodeText.h"
 #include "shared/texts/TextTable.h"
 
@@ -7,15 +8,6 @@
 
 namespace ORVTListview {
 namespace {
-
-// Looking for one character is several times faster than for a text of two.
-qsizetype findLineBreak(QStringView text, qsizetype from)
-{
-    qsizetype cr = text.indexOf(u'\r', from);
-    while (cr >= 0 && !(cr + 1 < text.size() && text[cr + 1] == u'\n'))
-        cr = text.indexOf(u'\r', cr + 1);
-    return cr;
-}
 
 bool hasBlankBeforeBracket(QStringView line)
 {
@@ -77,14 +69,25 @@ ColourEngine::ColourEngine(const CodeWordList &words, MessageService &messages)
 {
 }
 
+bool ColourEngine::isForThreads() const
+{
+    m_words.findExact({}); // puts them in order
+    return !m_words.isEmpty();
+}
+
 void ColourEngine::colourText(QStringView text, bool firstLineIsComment, ColourSink &sink) const
+{
+    const MessageBatch oneBox(m_messages);
+    colourLines(text, firstLineIsComment, sink);
+}
+
+void ColourEngine::colourLines(QStringView text, bool firstLineIsComment, ColourSink &sink) const
 {
     if (text.isEmpty())
         return;
-    const MessageBatch oneBox(m_messages);
     qsizetype from = 0;
     while (true) {
-        const qsizetype found = findLineBreak(text, from);
+        const qsizetype found = findCrLf(text, from);
         const qsizetype end = found < 0 ? text.size() : found;
         const QStringView line = text.sliced(from, end - from);
         const bool isComment = (firstLineIsComment && from == 0) || IsCommentLine(line);

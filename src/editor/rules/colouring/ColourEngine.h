@@ -16,7 +16,14 @@ public:
     ColourEngine(const CodeWordList &words, MessageService &messages);
 
     // Lines are separated by CR LF; a CR or LF alone is a character like any other.
+    // Whether several threads may colour lines at the same time from now on: with known
+    // words there is nothing to tell the user.
+    bool isForThreads() const;
+
     void colourText(QStringView text, bool firstLineIsComment, ColourSink &sink) const;
+
+    // The same without a batch of messages.
+    void colourLines(QStringView text, bool firstLineIsComment, ColourSink &sink) const;
 
     // A line that is no comment.
     void colourLine(QStringView line, ColourSink &sink) const;

@@ -1,9 +1,12 @@
 #include "editor/rules/colouring/ColourText.h"
 
 #include "editor/rules/colouring/ColourTable.h"
+#include "editor/rules/colouring/TextParts.h"
 
 #include <algorithm>
 #include <array>
+#include <span>
+#include <vector>
 
 namespace ORVTListview {
 
@@ -73,6 +76,7 @@ public:
 
     void run(const ColourRun &run) override
     {
+        m_hasRun = true;
         m_colour = m_colours[static_cast<std::size_t>(run.colourIndex)];
         append(run.shown);
     }
@@ -82,15 +86,36 @@ public:
 
     ColouredText result;
 
+    // Adds what is made of the lines behind. What stands before their first word continues
+    // in the colour here.
+    void join(const ColouredTextBuilder &next)
+    {
+        lineEnd();
+        qsizetype before = next.m_beforeRuns;
+        result.text.append(next.result.text);
+        result.appendRun(before, m_colour);
+        for (const ColouredText::Run &run : next.result.runs) {
+            const qsizetype taken = std::min(before, run.length);
+            before -= taken;
+            result.appendRun(run.length - taken, run.colour);
+        }
+        if (next.m_hasRun)
+            m_colour = next.m_colour;
+    }
+
 private:
     void append(QStringView text)
     {
         result.text.append(text);
         result.appendRun(text.size(), m_colour);
+        if (!m_hasRun)
+            m_beforeRuns += text.size();
     }
 
     std::array<Colour, colourSlots + 1> m_colours{ColouredText::automatic};
     Colour m_colour = ColouredText::automatic;
+    bool m_hasRun = false;
+    qsizetype m_beforeRuns = 0;
 };
 
 } // namespace
@@ -129,10 +154,22 @@ QString ColourToken(const ColourEngine &engine, QStringView Token)
 ColouredText colouredText(const ColourEngine &engine, QStringView text, bool firstLineIsComment,
                           const RichTextSettings &settings)
 {
-    ColouredTextBuilder builder(settings);
-    builder.result.text.reserve(text.size() * 9 / 8);
-    engine.colourText(text, firstLineIsComment, builder);
-    return builder.result;
+    if (!engine.isForThreads()) {
+        ColouredTextBuilder builder(settings);
+        engine.colourText(text, firstLineIsComment, builder);
+        return builder.result;
+    }
+    const QList<QStringView> parts = partsOfLines(text);
+    std::vector<ColouredTextBuilder> builders(static_cast<std::size_t>(parts.size()),
+                                              ColouredTextBuilder(settings));
+    atTheSameTime(parts.size(), [&](qsizetype part) {
+        ColouredTextBuilder &builder = builders[static_cast<std::size_t>(part)];
+        builder.result.text.reserve(parts[part].size() * 9 / 8);
+        engine.colourLines(parts[part], firstLineIsComment && part == 0, builder);
+    });
+    for (const ColouredTextBuilder &next : std::span(builders).subspan(1))
+        builders.front().join(next);
+    return builders.front().result;
 }
 
 } // namespace ORVTListview

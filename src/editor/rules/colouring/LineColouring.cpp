@@ -1,41 +1,66 @@
 #include "editor/rules/colouring/LineColouring.h"
 
 #include "base/TextRules.h"
+#include "base/TextSearch.h"
 #include "editor/rules/colouring/ColourTable.h"
+#include "editor/rules/colouring/TextParts.h"
 #include "editor/rules/language/CodeText.h"
+
+#include <array>
+#include <span>
+#include <utility>
+#include <vector>
 
 namespace ORVTListview {
 namespace {
 
+// Appends finished lines to a text.
 class LineColours final : public ColourSink
 {
 public:
-    LineColours(QStringView line, const RichTextSettings &settings)
-        : m_settings(settings)
+    LineColours(ColouredText &result, const RichTextSettings &settings, Spelling spelling)
+        : m_result(result)
+        , m_spelling(spelling)
     {
-        m_result.text = line.toString();
+        for (int slot = 1; slot <= colourSlots; ++slot)
+            m_colours[static_cast<std::size_t>(slot)] = shownColour(colourOfSlot(slot, settings));
     }
 
     void run(const ColourRun &run) override
     {
         colourUpTo(run.offset); // blanks continue in the colour before them
-        m_colour = run.colourIndex == AutomaticColour
-                       ? ColouredText::automatic
-                       : shownColour(colourOfSlot(run.colourIndex, m_settings));
+        m_colour = m_colours[static_cast<std::size_t>(run.colourIndex)];
         colourUpTo(run.offset + run.length);
-        const QStringView typed = QStringView(m_result.text).sliced(run.offset, run.length);
+        const QStringView typed = m_line.sliced(run.offset, run.length);
         // Only letter case may change, so a listed spelling of another length stays out.
-        if (typed.size() == run.shown.size() && isSameWord(typed, run.shown))
-            m_result.text.replace(run.offset, run.length, run.shown.data(), run.shown.size());
+        if (m_spelling == Spelling::Listed && typed.size() == run.shown.size() &&
+            typed != run.shown && isSameWord(typed, run.shown))
+            m_result.text.replace(m_start + run.offset, run.length, run.shown.data(),
+                                  run.shown.size());
     }
     void blank() override {}
     void tab() override {}
     void lineEnd() override {}
 
-    ColouredText finish()
+    void append(const ColourEngine &engine, QStringView line)
     {
-        colourUpTo(m_result.text.size());
-        return std::move(m_result);
+        m_line = line;
+        m_start = m_result.text.size();
+        m_result.text += line;
+        m_coloured = 0;
+        m_colour = ColouredText::automatic;
+        if (IsCommentLine(line))
+            run({0, line.size(), CommentColour, line});
+        else
+            engine.colourLine(line, *this);
+        colourUpTo(line.size());
+    }
+
+    // A line end has a run of its own.
+    void appendLineEnd()
+    {
+        m_result.text += QStringLiteral("\r\n");
+        m_result.runs.append({2, ColouredText::automatic});
     }
 
 private:
@@ -43,12 +68,19 @@ private:
     {
         if (end <= m_coloured)
             return;
-        m_result.appendRun(end - m_coloured, m_colour);
+        const qsizetype length = end - m_coloured;
+        if (m_coloured > 0)
+            m_result.appendRun(length, m_colour);
+        else
+            m_result.runs.append({length, m_colour});
         m_coloured = end;
     }
 
-    const RichTextSettings &m_settings;
-    ColouredText m_result;
+    ColouredText &m_result;
+    const Spelling m_spelling;
+    std::array<Colour, colourSlots + 1> m_colours{ColouredText::automatic};
+    QStringView m_line;
+    qsizetype m_start = 0; // of the line in the result
     qsizetype m_coloured = 0;
     Colour m_colour = ColouredText::automatic;
 };
@@ -58,28 +90,46 @@ private:
 ColouredText finishedLine(const ColourEngine &engine, QStringView line,
                           const RichTextSettings &settings)
 {
-    LineColours colours(line, settings);
-    if (IsCommentLine(line))
-        colours.run({0, line.size(), CommentColour, line});
-    else
-        engine.colourLine(line, colours);
-    return colours.finish();
+    ColouredText result;
+    LineColours(result, settings, Spelling::Listed).append(engine, line);
+    return result;
 }
 
-ColouredText finishedText(const ColourEngine &engine, QStringView text,
+namespace {
+
+ColouredText finishedPart(const ColourEngine &engine, QStringView text,
                           const RichTextSettings &settings, Spelling spelling)
 {
     ColouredText result;
     result.text.reserve(text.size());
-    const QList<QStringView> lines = text.split(u"\r\n");
-    for (qsizetype i = 0; i < lines.size(); ++i) {
-        if (i > 0) {
-            result.text += QStringLiteral("\r\n");
-            result.runs.append({2, ColouredText::automatic});
-        }
-        const ColouredText line = finishedLine(engine, lines[i], settings);
-        result.text += spelling == Spelling::Listed ? QStringView(line.text) : lines[i];
-        result.runs += line.runs;
+    LineColours lines(result, settings, spelling);
+    qsizetype start = 0;
+    for (qsizetype end = 0; (end = findCrLf(text, start)) >= 0; start = end + 2) {
+        lines.append(engine, text.sliced(start, end - start));
+        lines.appendLineEnd();
+    }
+    lines.append(engine, text.sliced(start));
+    return result;
+}
+
+} // namespace
+
+ColouredText finishedText(const ColourEngine &engine, QStringView text,
+                          const RichTextSettings &settings, Spelling spelling)
+{
+    const QList<QStringView> parts =
+        engine.isForThreads() ? partsOfLines(text) : QList<QStringView>{text};
+    std::vector<ColouredText> finished(static_cast<std::size_t>(parts.size()));
+    atTheSameTime(parts.size(), [&](qsizetype part) {
+        finished[static_cast<std::size_t>(part)] =
+            finishedPart(engine, parts[part], settings, spelling);
+    });
+    ColouredText result = std::move(finished.front());
+    result.text.reserve(text.size());
+    for (const ColouredText &next : std::span(finished).subspan(1)) {
+        result.text += QStringLiteral("\r\n") + next.text;
+        result.runs.append({2, ColouredText::automatic});
+        result.runs += next.runs;
     }
     return result;
 }

@@ -1,0 +1,55 @@
+#include "editor/rules/colouring/TextParts.h"
+
+#include "base/TextSearch.h"
+
+#include <QtCore/QThread>
+
+#include <algorithm>
+#include <future>
+#include <system_error>
+#include <vector>
+
+namespace ORVTListview {
+
+QList<QStringView> partsOfLines(QStringView text, int processors)
+{
+    constexpr qsizetype most = 4;
+    const qsizetype count =
+        std::clamp<qsizetype>(std::min<qsizetype>(processors, text.size() / shortestPart), 1, most);
+    QList<QStringView> parts;
+    qsizetype start = 0;
+    for (qsizetype part = 1; part < count; ++part) {
+        const qsizetype end = findCrLf(text, std::max(start, text.size() / count * part));
+        if (end < 0)
+            break;
+        parts.append(text.sliced(start, end - start));
+        start = end + 2;
+    }
+    parts.append(text.sliced(start));
+    return parts;
+}
+
+QList<QStringView> partsOfLines(QStringView text)
+{
+    return partsOfLines(text, QThread::idealThreadCount());
+}
+
+void atTheSameTime(qsizetype count, const std::function<void(qsizetype)> &call)
+{
+    std::vector<std::future<void>> others; // each waits for its end
+    others.reserve(static_cast<std::size_t>(count));
+    qsizetype next = 1;
+    try {
+        for (; next < count; ++next)
+            others.push_back(std::async(std::launch::async, call, next));
+    } catch (const std::system_error &) { // no thread is to be had
+    }
+    if (count > 0)
+        call(0);
+    for (; next < count; ++next)
+        call(next);
+    for (std::future<void> &other : others)
+        other.get();
+}
+
+} // namespace ORVTListview
