@@ -59,10 +59,23 @@ void RowSelection::note(const QItemSelection &changed, bool selected)
     }
 }
 
+void RowSelection::noteTouched(const QItemSelection &changed)
+{
+    for (const QItemSelectionRange &range : changed) {
+        for (int position = range.top(); position <= range.bottom(); ++position)
+            note(m_model.row(position), rowIntersectsSelection(position));
+    }
+}
+
 void RowSelection::noteChange(const QItemSelection &selected, const QItemSelection &deselected)
 {
     if (m_isSettling)
         return;
+    if (m_isByCells) {
+        noteTouched(deselected);
+        noteTouched(selected);
+        return;
+    }
     note(deselected, false);
     note(selected, true);
 }
@@ -78,6 +91,15 @@ void RowSelection::setSelected(ReportRow &row, bool selected)
     }
     note(row, selected);
     settleSoon();
+}
+
+// Rows stay selected, as a whole.
+void RowSelection::setByCells(bool on)
+{
+    settle();
+    m_isByCells = on;
+    if (!on && m_count > 0 && m_model.columns() > 0)
+        select(ranges(), ClearAndSelect);
 }
 
 QList<int> RowSelection::positions(int most) const

@@ -53,6 +53,9 @@ public:
         });
     }
 
+    // The editor is being closed while this is called: tells as events are told.
+    void tellSoon(const std::function<void()> &tell);
+
     // Whether the press at hand has closed an editor.
     bool wasClosedByPress() const { return m_wasClosedByPress; }
 
@@ -70,7 +73,6 @@ protected:
 private:
     QWidget *editor() const;
     void closeFor(const QObject &receiver, const QEvent &event);
-    void tellSoon(const std::function<void()> &tell);
     void tellNow();
     void watchTheUser();
 

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <ORVTListview/CellChange.h>
+
+#include <QtCore/QList>
+#include <QtCore/QPointer>
+
+#include <memory>
+
+class QUndoStack;
+
+namespace ORVTListview {
+
+class CellWriter;
+
+// The steps of undo of a grid's cells, on a stack of their own or on the host's.
+class CellSteps
+{
+public:
+    explicit CellSteps(CellWriter &writer);
+    ~CellSteps();
+    Q_DISABLE_COPY_MOVE(CellSteps) // keeps for one writer
+
+    QUndoStack &stack();
+    void setStack(QUndoStack *host);
+
+    void undo();
+    void redo();
+
+    // No row of before is there any more.
+    void forget();
+
+private:
+    CellWriter &m_writer;
+    QPointer<QUndoStack> m_own; // made when it is first needed
+    QPointer<QUndoStack> m_host;
+    const std::shared_ptr<bool> m_isStepping; // shared with the steps
+};
+
+} // namespace ORVTListview
