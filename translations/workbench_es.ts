@@ -452,8 +452,19 @@
         <translation>¿Cambiar también %1 por %2 en el programa?</translation>
     </message>
     <message>
+        <source>&amp;Edit Cells</source>
+        <translation>&amp;Editar celdas</translation>
+    </message>
+    <message>
         <source>&amp;Hardware Overrides</source>
         <translation>&amp;Mandos manuales</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointCells</name>
+    <message>
+        <source>This row has no point.</source>
+        <translation>En esta fila no hay ningún punto.</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "ProjectView.h"
 
+#include "PointCells.h"
 #include "PointTables.h"
 #include "project/Project.h"
 #include "project/ProjectColumns.h"
@@ -24,6 +25,7 @@ ProjectView::ProjectView(QWidget *parent)
     , m_tree(new ORVTreeview(this))
     , m_list(new ORVListView(this))
     , m_tables(new PointTables(*m_list))
+    , m_cells(new PointCells(*m_list))
 {
     setChildrenCollapsible(false);
     setStretchFactor(1, 1);
@@ -34,12 +36,14 @@ ProjectView::ProjectView(QWidget *parent)
     m_list->InitStrings();
     connect(m_tree, &ORVTreeview::NodeClick, this, &ProjectView::followTree);
     connect(m_tables, &PointTables::renamed, this, &ProjectView::describeWords);
+    connect(m_cells, &PointCells::changed, this, &ProjectView::describeWords);
 }
 
 void ProjectView::setProject(Project &project)
 {
     m_project = &project;
     m_tables->setProject(&project);
+    m_cells->setProject(&project);
     m_tree->SetCollectionRenamable(window(), project.points(dsVariable), project.points(dsConst),
                                    project.points(dsInput), project.points(dsOutput),
                                    project.points(dsNvi));
@@ -109,6 +113,7 @@ void ProjectView::retranslate()
 {
     m_tree->ReInitializeStrings();
     m_list->ReInitializeStrings();
+    m_cells->setRules();
     if (m_project && m_list->CurrentType() != dsCode)
         m_tables->fill();
 }
