@@ -11,6 +11,8 @@ CheckField::CheckField(const CellRule &rule, QWidget *parent)
     , m_rule(rule)
 {
     setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base); // as other fields
+    setForegroundRole(QPalette::Text);
     connect(this, &QCheckBox::toggled, this, &CheckField::showWord);
     connect(this, &QCheckBox::clicked, this, [this] { m_isChosen = true; });
     showWord();
