@@ -82,6 +82,23 @@ std::optional<QString> choiceOf(const QStringList &choices, const QString &typed
     return found == choices.cend() ? std::nullopt : std::optional(*found);
 }
 
+// Cells keep the words of the language that was spoken when they were entered, so those of
+// all the library's languages are known, beside those of a host's.
+QStringList yesWords()
+{
+    return {Localise(u"Yes"_s), u"Yes"_s, u"Ja"_s, u"Oui"_s, u"S\u00ed"_s};
+}
+
+QStringList noWords()
+{
+    return {Localise(u"No"_s), u"No"_s, u"Nein"_s, u"Non"_s};
+}
+
+bool hasOwnWords(const CellRule &rule)
+{
+    return rule.kind == CellRule::YesNo && rule.choices.size() < 2;
+}
+
 CellAnswer checkedText(const CellRule &rule, const QString &typed)
 {
     if (rule.maxLength > 0 && typed.size() > rule.maxLength)
@@ -124,9 +141,8 @@ CellAnswer checkedChoice(const CellRule &rule, const QString &typed)
     const QStringList choices = cellChoices(rule);
     if (const std::optional<QString> choice = choiceOf(choices, typed))
         return taken(*choice);
-    if (rule.kind == CellRule::YesNo && rule.choices.size() < 2 &&
-        choiceOf({u"Yes"_s, u"No"_s}, typed))
-        return taken(choices.value(isYes(rule, typed) ? 0 : 1)); // from before the language changed
+    if (hasOwnWords(rule) && choiceOf(yesWords() + noWords(), typed))
+        return taken(choices.value(isYes(rule, typed) ? 0 : 1));
     if (rule.kind == CellRule::YesNo)
         return refused(
             Localise(u"This is neither %1 nor %2."_s).arg(choices.value(0), choices.value(1)));
@@ -148,8 +164,10 @@ CellAnswer checkedCell(const CellRule &rule, const QString &typed, const QLocale
     if (rule.kind == CellRule::NotEdited)
         return refused(Localise(u"This cell cannot be edited."_s));
     const QString text = rule.kind == CellRule::Text ? typed : typed.trimmed();
+    if (!rule.canBeEmpty && text.trimmed().isEmpty())
+        return refused(Localise(u"This cell must not be empty."_s));
     if (text.isEmpty())
-        return rule.canBeEmpty ? taken(text) : refused(Localise(u"This cell must not be empty."_s));
+        return taken(text);
     switch (rule.kind) {
     case CellRule::Text:
         return checkedText(rule, text);
@@ -167,7 +185,7 @@ CellAnswer checkedCell(const CellRule &rule, const QString &typed, const QLocale
 
 QStringList cellChoices(const CellRule &rule)
 {
-    if (rule.kind == CellRule::YesNo && rule.choices.size() < 2)
+    if (hasOwnWords(rule))
         return {Localise(u"Yes"_s), Localise(u"No"_s)};
     return rule.kind == CellRule::Text ? QStringList() : rule.choices;
 }
@@ -175,8 +193,7 @@ QStringList cellChoices(const CellRule &rule)
 bool isYes(const CellRule &rule, const QString &text)
 {
     const QString word = text.trimmed();
-    return word.compare(cellChoices(rule).value(0), Qt::CaseInsensitive) == 0 ||
-           (rule.choices.size() < 2 && word.compare(u"Yes"_s, Qt::CaseInsensitive) == 0);
+    return choiceOf(hasOwnWords(rule) ? yesWords() : cellChoices(rule).mid(0, 1), word).has_value();
 }
 
 QString steppedNumber(const CellRule &rule, const QString &text, int steps, const QLocale &locale)

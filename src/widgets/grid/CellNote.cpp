@@ -5,6 +5,7 @@
 #include <QtCore/QEvent>
 #include <QtGui/QAccessible>
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
@@ -22,6 +23,16 @@ CellNote::CellNote(QTableView &view)
 {
     for (const QScrollBar *bar : {view.verticalScrollBar(), view.horizontalScrollBar()})
         connect(bar, &QScrollBar::valueChanged, this, &CellNote::place);
+    for (const QHeaderView *header : {view.verticalHeader(), view.horizontalHeader()}) {
+        connect(header, &QHeaderView::sectionResized, this, &CellNote::place);
+        connect(header, &QHeaderView::sectionMoved, this, &CellNote::place);
+    }
+    const QAbstractItemModel *model = view.model();
+    connect(model, &QAbstractItemModel::rowsInserted, this, &CellNote::place);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &CellNote::place);
+    connect(model, &QAbstractItemModel::columnsInserted, this, &CellNote::place);
+    connect(model, &QAbstractItemModel::columnsRemoved, this, &CellNote::place);
+    connect(model, &QAbstractItemModel::layoutChanged, this, &CellNote::place);
 }
 
 CellNote::~CellNote()
@@ -102,7 +113,7 @@ void CellNote::place()
     const int left =
         std::clamp(start, room.left(), std::max(room.left(), room.right() + 1 - size.width()));
     m_label->setGeometry(QRect(QPoint(left, top), size));
-    m_label->setVisible(room.intersects(cell));
+    m_label->setVisible(cell.isValid() && room.intersects(cell)); // or hidden
 }
 
 bool CellNote::eventFilter(QObject *watched, QEvent *event)

@@ -1,8 +1,13 @@
 #include "grid/rules/CellRules.h"
+#include "base/ThreadState.h"
 #include "pointtable/rules/ColumnLayouts.h"
 #include "pointtable/rules/ReadyCellRules.h"
+#include "shared/texts/TextTable.h"
 #include "support/QtPrinters.h"
+#include <ORVTListview/TranslatedTexts.h>
 #include <ORVTListview/Types.h>
+
+#include <QtCore/QDir>
 
 #include <gtest/gtest.h>
 
@@ -61,6 +66,7 @@ TEST(CellRules, EmptyCellsCanBeForbidden)
         EXPECT_EQ(entered(rule, QString()), QString()) << kind;
         rule.canBeEmpty = false;
         EXPECT_EQ(entered(rule, QString()), u"[This cell must not be empty.]"_s) << kind;
+        EXPECT_EQ(entered(rule, u"   "_s), u"[This cell must not be empty.]"_s) << kind;
     }
 }
 
@@ -122,6 +128,32 @@ TEST(CellRules, ChoicesAreFoundInAnyLetterCase)
     EXPECT_EQ(entered(rule, u" MANUAL"_s), u"Manual"_s);
     EXPECT_EQ(entered(rule, u"Man"_s), u"[This is not in the list.]"_s);
     EXPECT_EQ(cellChoices(rule), rule.choices);
+}
+
+// A cell keeps the word of the language that was spoken when it was entered.
+TEST(CellRules, YesAndNoAreUnderstoodInAllLanguages)
+{
+    const ThreadState::Fresh fresh;
+    const CellRule rule{.kind = CellRule::YesNo};
+    QStringList languages{u"en"_s};
+    for (const QString &file : QDir(TranslatedTexts::builtInFolder()).entryList({u"orvt*.qm"_s}))
+        languages.append(file.section(u'_', 1).section(u'.', 0, 0));
+    ASSERT_GE(languages.size(), 4);
+    for (const QString &stored : std::as_const(languages)) {
+        TranslatedTexts then{QLocale(stored)};
+        setTextProvider(&then);
+        const QString yes = Localise(u"Yes"_s);
+        const QString no = Localise(u"No"_s);
+        for (const QString &spoken : std::as_const(languages)) {
+            TranslatedTexts now{QLocale(spoken)};
+            setTextProvider(&now);
+            EXPECT_TRUE(isYes(rule, yes)) << qPrintable(yes + spoken);
+            EXPECT_FALSE(isYes(rule, no)) << qPrintable(no + spoken);
+            EXPECT_EQ(entered(rule, yes.toUpper()), Localise(u"Yes"_s)) << qPrintable(spoken);
+            EXPECT_EQ(entered(rule, no), Localise(u"No"_s)) << qPrintable(spoken);
+            setTextProvider(nullptr);
+        }
+    }
 }
 
 TEST(CellRules, YesAndNoHaveTheirWords)
