@@ -25,7 +25,10 @@ RowSelection::RowSelection(ReportModel &model)
                 for (int position = first; position <= last && m_count > 0; ++position)
                     note(m_model.row(position), false);
             });
-    connect(&model, &ReportModel::columnsInserted, this, &RowSelection::settleSoon);
+    connect(&model, &ReportModel::columnsInserted, this, [this] {
+        if (!m_isByCells) // whole rows have the new one, too
+            settleSoon();
+    });
     connect(&model, &ReportModel::columnsRemoved, this, [this] {
         if (m_model.columns() == 0)
             noteNone();
@@ -82,9 +85,10 @@ void RowSelection::noteChange(const QItemSelection &selected, const QItemSelecti
 
 void RowSelection::setSelected(ReportRow &row, bool selected)
 {
-    if (row.selected == selected || m_model.columns() == 0)
+    const bool isPart = m_isByCells && row.selected && selected; // the whole row is meant
+    if ((row.selected == selected && !isPart) || m_model.columns() == 0)
         return;
-    if (!m_lagsBehind && m_count < few) {
+    if (isPart || (!m_lagsBehind && m_count < few)) {
         const int position = m_model.positionOf(row);
         select(rowsFrom(position, position), selected ? Select : Deselect);
         return;
@@ -126,9 +130,10 @@ void RowSelection::settle()
 {
     if (!std::exchange(m_lagsBehind, false))
         return;
+    const QItemSelection wanted = m_isByCells ? rangesOfCells() : ranges();
     const QScopedValueRollback settling(m_isSettling, true);
     QItemSelectionModel::select(QItemSelection(), Clear);
-    QItemSelectionModel::select(ranges(), Select);
+    QItemSelectionModel::select(wanted, Select);
 }
 
 QItemSelection RowSelection::rowsFrom(int first, int last) const
@@ -147,6 +152,22 @@ QItemSelection RowSelection::ranges() const
         ranges += rowsFrom(chosen.at(first), chosen.at(last));
     }
     return ranges;
+}
+
+// What is selected in rows that stay so, and the whole of those that have come to it.
+QItemSelection RowSelection::rangesOfCells() const
+{
+    QItemSelection wanted;
+    for (const int position : positions()) {
+        const bool isNew = !rowIntersectsSelection(position);
+        for (const QItemSelectionRange &range :
+             isNew ? rowsFrom(position, position) : selection()) {
+            if (range.top() <= position && position <= range.bottom())
+                wanted.append(QItemSelectionRange(m_model.index(position, range.left()),
+                                                  m_model.index(position, range.right())));
+        }
+    }
+    return wanted;
 }
 
 void RowSelection::select(const QItemSelection &selection, SelectionFlags command)

@@ -48,6 +48,7 @@ private:
     void settleSoon();
     QItemSelection rowsFrom(int first, int last) const;
     QItemSelection ranges() const;
+    QItemSelection rangesOfCells() const;
 
     ReportModel &m_model;
     int m_count = 0;
