@@ -1,12 +1,16 @@
 #include "widgets/grid/CellSteps.h"
 
+#include "base/EventGuard.h"
+#include "base/ThreadState.h"
 #include "shared/texts/TextTable.h"
 #include "widgets/grid/CellWriter.h"
 
+#include <QtCore/QHash>
+#include <QtCore/QMetaObject>
 #include <QtGui/QUndoCommand>
 #include <QtGui/QUndoStack>
 
-#include <memory>
+#include <functional>
 #include <utility>
 
 namespace ORVTListview {
@@ -15,17 +19,62 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A host may destroy the list, and with it the stack, while it is told: the flag is held
-// by whoever still needs it.
+// The stacks that are within a step or a push, with what is to come when that is over:
+// a stack bears no push by those whom it tells.
+struct StacksInUse
+{
+    struct Later
+    {
+        QPointer<QObject> context;
+        std::function<void()> act;
+    };
+
+    QHash<const QUndoStack *, QList<Later>> later;
+};
+
+class StackUse
+{
+public:
+    explicit StackUse(const QUndoStack *stack)
+        : m_stack(stack)
+        , m_isOutermost(!isUsed(stack))
+    {
+        if (m_isOutermost)
+            threadPart<StacksInUse>().later.insert(stack, {});
+    }
+    ~StackUse()
+    {
+        if (!m_isOutermost)
+            return;
+        for (const StacksInUse::Later &each : threadPart<StacksInUse>().later.take(m_stack)) {
+            if (each.context)
+                QMetaObject::invokeMethod(each.context.data(), each.act, Qt::QueuedConnection);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(StackUse) // lasts for a block
+
+    static bool isUsed(const QUndoStack *stack)
+    {
+        return threadPart<StacksInUse>().later.contains(stack);
+    }
+    static void afterwards(const QUndoStack *stack, const StacksInUse::Later &later)
+    {
+        threadPart<StacksInUse>().later[stack].append(later);
+    }
+
+private:
+    const QUndoStack *const m_stack;
+    const bool m_isOutermost;
+};
+
 class CellStep final : public QUndoCommand
 {
 public:
-    CellStep(CellWriter &writer, const QList<CellChange> &changes,
-             const std::shared_ptr<bool> &isStepping)
+    CellStep(CellWriter &writer, const QList<CellChange> &changes, const QUndoStack &stack)
         : QUndoCommand(Localise(changes.size() == 1 ? u"Edit Cell"_s : u"Edit Cells"_s))
         , m_writer(&writer)
         , m_changes(changes)
-        , m_isStepping(isStepping)
+        , m_stack(&stack)
     {
     }
 
@@ -41,15 +90,13 @@ public:
 private:
     void step(bool (CellWriter::*change)(const QList<CellChange> &))
     {
-        const bool before = std::exchange(*m_isStepping, true);
-        const bool isDone = m_writer && (m_writer.data()->*change)(m_changes);
-        *m_isStepping = before;
-        setObsolete(!isDone);
+        const StackUse use(m_stack);
+        setObsolete(!m_writer || !(m_writer.data()->*change)(m_changes));
     }
 
     const QPointer<CellWriter> m_writer;
     const QList<CellChange> m_changes;
-    const std::shared_ptr<bool> m_isStepping;
+    const QUndoStack *const m_stack; // which owns it
     bool m_isFirst = true;
 };
 
@@ -57,19 +104,37 @@ private:
 
 CellSteps::CellSteps(CellWriter &writer)
     : m_writer(writer)
-    , m_isStepping(std::make_shared<bool>(false))
 {
     writer.setKeeper([this](const QList<CellChange> &changes) {
-        stack().push(new CellStep(m_writer, changes, m_isStepping));
+        m_unkept.enqueue(changes);
+        keep();
     });
 }
 
 CellSteps::~CellSteps()
 {
-    if (m_own && *m_isStepping) // one of its steps is being done
+    if (StackUse::isUsed(m_own)) // it is what has led here
         m_own->deleteLater();
     else
         delete m_own.data();
+}
+
+// One push after the other, each of which may end the list.
+void CellSteps::keep()
+{
+    const QPointer<CellWriter> alive(&m_writer);
+    while (alive && !m_unkept.isEmpty()) {
+        QUndoStack &to = stack();
+        if (StackUse::isUsed(&to)) {
+            StackUse::afterwards(&to, {&m_writer, [this] { keep(); }});
+            return;
+        }
+        const StackUse use(&to);
+        EventGuard::run([&] { // whom the stack tells may throw
+            to.push(new CellStep(m_writer, m_unkept.dequeue(), to));
+            return true;
+        });
+    }
 }
 
 QUndoStack &CellSteps::stack()
@@ -88,19 +153,30 @@ void CellSteps::setStack(QUndoStack *host)
 
 void CellSteps::undo()
 {
-    if (!*m_isStepping)
-        stack().undo();
+    step(&QUndoStack::undo);
 }
 
 void CellSteps::redo()
 {
-    if (!*m_isStepping)
-        stack().redo();
+    step(&QUndoStack::redo);
+}
+
+void CellSteps::step(void (QUndoStack::*act)())
+{
+    const QPointer<CellWriter> alive(&m_writer);
+    keep();
+    if (alive && !StackUse::isUsed(&stack())) {
+        const StackUse use(&stack());
+        (stack().*act)();
+    }
+    if (alive)
+        keep();
 }
 
 void CellSteps::forget()
 {
-    if (m_own && !*m_isStepping)
+    m_unkept.clear();
+    if (m_own && !StackUse::isUsed(m_own))
         m_own->clear();
 }
 

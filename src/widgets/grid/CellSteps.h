@@ -4,8 +4,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QPointer>
-
-#include <memory>
+#include <QtCore/QQueue>
 
 class QUndoStack;
 
@@ -31,10 +30,13 @@ public:
     void forget();
 
 private:
+    void keep();
+    void step(void (QUndoStack::*act)());
+
     CellWriter &m_writer;
     QPointer<QUndoStack> m_own; // made when it is first needed
     QPointer<QUndoStack> m_host;
-    const std::shared_ptr<bool> m_isStepping; // shared with the steps
+    QQueue<QList<CellChange>> m_unkept; // made while the stack was within a step
 };
 
 } // namespace ORVTListview

@@ -3,8 +3,7 @@
 #include "grid/rules/CellRules.h"
 
 #include <QtCore/QPointer>
-
-#include <utility>
+#include <QtCore/QScopeGuard>
 
 namespace ORVTListview {
 
@@ -42,29 +41,53 @@ CellRule CellWriter::ruleOf(int column, QHash<int, CellRule> &known) const
 
 std::optional<QList<CellRefusal>> CellWriter::enter(const QList<CellEntry> &entries)
 {
-    if (std::exchange(m_isAsking, true))
+    if (m_isAsking)
         return std::nullopt;
     const QPointer<CellWriter> self(this);
     QList<CellEntry> wanted = entries;
-    QList<CellRefusal> refusals;
-    QHash<int, CellRule> known;
-    for (CellEntry &entry : wanted) {
-        const QString reason =
-            isThere(entry) ? refusalOf(entry, ruleOf(entry.column, known)) : QString();
-        if (!self)
-            return std::nullopt;
-        if (!reason.isEmpty())
-            refusals.append({entry.item, static_cast<qint16>(entry.column), reason});
-    }
-    m_isAsking = false;
+    const QList<CellRefusal> refusals = ask(wanted);
+    if (!self)
+        return std::nullopt;
     if (!refusals.isEmpty())
         return refusals;
     const QList<CellChange> changes = write(changesOf(wanted));
-    if (!changes.isEmpty() && m_keep)
+    if (self && !changes.isEmpty() && m_keep)
         m_keep(changes);
+    if (self)
+        tell(changes);
+    return self ? std::optional(refusals) : std::nullopt;
+}
+
+// Being asked for names or texts a host may remove rows, or the list.
+QList<CellRefusal> CellWriter::ask(QList<CellEntry> &wanted)
+{
+    const QPointer<CellWriter> self(this);
+    m_isAsking = true;
+    const auto asked = qScopeGuard([self] {
+        if (self)
+            self->m_isAsking = false;
+    });
+    QList<CellRefusal> refusals;
+    QHash<int, CellRule> known;
+    for (CellEntry &entry : wanted) {
+        const CellRule rule = ruleOf(entry.column, known);
+        const QString reason = self && isThere(entry) ? refusalOf(entry, rule) : QString();
+        if (!self)
+            return {};
+        if (!reason.isEmpty())
+            refusals.append({entry.item, static_cast<qint16>(entry.column), reason});
+    }
+    return refusals;
+}
+
+// What is still there.
+void CellWriter::tell(QList<CellChange> changes) const
+{
+    changes.removeIf([this](const CellChange &change) {
+        return !m_table.placeOf(change.item, change.column).isValid();
+    });
     if (!changes.isEmpty() && m_host.tell)
         m_host.tell(changes);
-    return self ? std::optional(refusals) : std::nullopt;
 }
 
 QList<CellChange> CellWriter::changesOf(const QList<CellEntry> &entries) const
@@ -81,8 +104,11 @@ QList<CellChange> CellWriter::changesOf(const QList<CellEntry> &entries) const
 // What there was to be done.
 QList<CellChange> CellWriter::write(const QList<CellChange> &changes)
 {
+    const QPointer<CellWriter> self(this);
     QList<CellChange> written;
     for (const CellChange &change : changes) {
+        if (!self)
+            break;
         const bool isThere = m_table.placeOf(change.item, change.column).isValid();
         if (!isThere || change.text == change.former ||
             m_table.text(*change.item, change.column) != change.former)
@@ -103,9 +129,10 @@ bool CellWriter::revert(const QList<CellChange> &changes)
 
 bool CellWriter::repeat(const QList<CellChange> &changes)
 {
+    const QPointer<CellWriter> self(this);
     const QList<CellChange> written = write(changes);
-    if (!written.isEmpty() && m_host.tell)
-        m_host.tell(written);
+    if (self)
+        tell(written);
     return !written.isEmpty();
 }
 

@@ -41,6 +41,9 @@ public:
     // What gets the changes that a user has made, to undo them; they are done already.
     void setKeeper(const std::function<void(const QList<CellChange> &)> &keep) { m_keep = keep; }
 
+    // Whether a host is being asked, which may take as long as it likes.
+    bool isAsking() const { return m_isAsking; }
+
     // The refusals, after which nothing is changed. None at all when the list is gone, or
     // the host is still being asked.
     std::optional<QList<CellRefusal>> enter(const QList<CellEntry> &entries);
@@ -51,6 +54,8 @@ public:
     bool repeat(const QList<CellChange> &changes);
 
 private:
+    QList<CellRefusal> ask(QList<CellEntry> &wanted);
+    void tell(QList<CellChange> changes) const;
     QString refusalOf(CellEntry &entry, const CellRule &rule);
     CellRule ruleOf(int column, QHash<int, CellRule> &known) const;
     bool isThere(const CellEntry &entry) const;

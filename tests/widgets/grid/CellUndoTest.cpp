@@ -3,6 +3,7 @@
 #include "widgets/grid/GridFixture.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include <QtGui/QUndoStack>
 
@@ -134,6 +135,118 @@ private Q_SLOTS:
         QVERIFY(shown.grid->enterText(shown.item(1), 2, u"1"_s));
         shown->setRows({RowContent{.text = u"new"_s}});
         QCOMPARE(shown.grid->undoStack()->count(), 0);
+    }
+
+    // A host that keeps a cell up to date with another.
+    void whatIsEnteredWithinAStepComesAfterIt()
+    {
+        ShownGrid one;
+        ShownGrid other;
+        QUndoStack stack;
+        one.grid->setUndoStack(&stack);
+        other.grid->setUndoStack(&stack);
+        QVERIFY(one.grid->enterText(one.item(1), 2, u"1"_s));
+        QVERIFY(one.grid->enterText(one.item(1), 2, u"2"_s));
+        QVERIFY(one.grid->enterText(one.item(1), 2, u"3"_s));
+        stack.undo();
+        stack.undo();
+        const QMetaObject::Connection follow =
+            connect(one.grid, &ListGrid::cellsChanged, this, [&](const QList<CellChange> &changes) {
+                if (changes.constFirst().column != 2)
+                    return;
+                one.grid->enterText(one.item(2), 1, u"is "_s + one.text(1, 2));
+                other.grid->enterText(other.item(2), 1, u"is "_s + one.text(1, 2));
+            });
+        stack.redo();
+        QCOMPARE(one.text(1, 2) + one.text(2, 1) + other.text(2, 1), u"2is 2is 2"_s);
+        QCoreApplication::processEvents();
+        QCOMPARE(stack.count(), 4); // what there was to redo is another past
+        QCOMPARE(stack.index(), 4);
+        disconnect(follow);
+        stack.undo();
+        stack.undo();
+        QCOMPARE(one.text(1, 2) + one.text(2, 1) + other.text(2, 1), u"2"_s);
+        stack.undo();
+        QCOMPARE(one.text(1, 2), u"1"_s);
+        stack.redo();
+        stack.redo();
+        QCOMPARE(one.text(1, 2) + one.text(2, 1), u"2is 2"_s);
+    }
+
+    void aKeyMayCauseOtherEntries()
+    {
+        ShownGrid shown;
+        QVERIFY(shown.grid->enterText(shown.item(1), 2, u"1"_s));
+        connect(shown.grid, &ListGrid::cellsChanged, this, [&](const QList<CellChange> &changes) {
+            if (changes.constFirst().column == 2)
+                shown.grid->enterText(shown.item(2), 1, u"is "_s + shown.text(1, 2));
+        });
+        shown.goTo(1, 2);
+        shown.key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(shown.text(2, 1), u"is "_s);
+        QCOMPARE(shown.grid->undoStack()->count(), 1);
+        shown.key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(shown.text(2, 1), QString());
+    }
+
+    void whoFollowsTheStackMayDoAnything_data()
+    {
+        QTest::addColumn<QString>("deed");
+        QTest::addColumn<bool>("isHosts");
+        for (const char *deed : {"destroy", "rows", "remove", "throw", "enter"}) {
+            QTest::addRow("%s own", deed) << deed << false;
+            QTest::addRow("%s host's", deed) << deed << true;
+        }
+    }
+    void whoFollowsTheStackMayDoAnything()
+    {
+        QFETCH(const QString, deed);
+        QFETCH(const bool, isHosts);
+        QUndoStack stack;
+        ShownGrid shown;
+        if (isHosts)
+            shown.grid->setUndoStack(&stack);
+        int alive = 0;
+        connect(shown.grid, &ListGrid::cellsChanged, this, [&](const QList<CellChange> &changes) {
+            for (const CellChange &change : changes)
+                alive += change.item->isAlive() ? 1 : -100;
+        });
+        connect(shown.grid->undoStack(), &QUndoStack::indexChanged, this,
+                [&shown, deed, isFirst = true]() mutable {
+                    if (!std::exchange(isFirst, false))
+                        return;
+                    if (deed == u"destroy"_s)
+                        delete shown.list.data();
+                    else if (deed == u"rows"_s)
+                        shown->setRows({RowContent{.text = u"new"_s}});
+                    else if (deed == u"remove"_s)
+                        shown->ListItems()->Remove(2);
+                    else if (deed == u"throw"_s)
+                        failUndo();
+                    else
+                        shown.grid->enterText(shown.item(3), 2, u"6"_s);
+                });
+        shown.goTo(2, 2);
+        shown.type(u"5"_s);
+        shown.key(Qt::Key_Return);
+        QCoreApplication::processEvents();
+        const bool isThere = deed == u"throw"_s || deed == u"enter"_s;
+        QCOMPARE(alive, deed == u"enter"_s ? 2 : isThere ? 1 : 0);
+        if (!isThere)
+            return;
+        QCOMPARE(shown.text(2, 2), u"5"_s);
+        QCOMPARE(shown.grid->undoStack()->count(), deed == u"enter"_s ? 2 : 1);
+    }
+
+    void aListMayGoWhileItsStackTells()
+    {
+        ShownGrid shown;
+        QVERIFY(shown.grid->enterText(shown.item(1), 2, u"1"_s));
+        shown.goTo(1, 2);
+        connect(shown.grid->undoStack(), &QUndoStack::indexChanged, this,
+                [&shown] { delete shown.list.data(); });
+        shown.key(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(!shown.list);
     }
 
     void theHostMayDoAnythingWhenItIsTold_data()
