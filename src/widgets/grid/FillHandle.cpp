@@ -49,6 +49,9 @@ bool FillHandle::isNeeded() const
     const QItemSelection selection = m_tools.view.selectionModel()->selection();
     if (!m_tools.selection.isByCells() || selection.size() != 1)
         return false;
+    const Block block = selected();
+    if (block.rows.isEmpty() || block.columns.isEmpty()) // all hidden
+        return false;
     for (int column = selection.first().left(); column <= selection.first().right(); ++column) {
         if (m_tools.rules.isEdited(column))
             return true;
@@ -72,15 +75,21 @@ QRect FillHandle::placeOf(const Block &block) const
 
 void FillHandle::refresh()
 {
-    const Block block = isNeeded() ? selected() : Block();
-    const bool isThere = !block.rows.isEmpty() && !block.columns.isEmpty();
+    const bool isThere = isNeeded();
     setVisible(isThere);
     if (!isThere)
         return;
-    const QRect place = placeOf(block);
+    const QRect place = placeOf(selected());
     const int end = m_tools.view.isRightToLeft() ? place.left() : place.right();
     setGeometry(end - handleSize / 2, place.bottom() - handleSize / 2, handleSize, handleSize);
     raise();
+}
+
+// In the middle of a drag no release follows.
+void FillHandle::hideEvent(QHideEvent *event)
+{
+    delete m_outline.data();
+    QWidget::hideEvent(event);
 }
 
 void FillHandle::paintEvent(QPaintEvent *)
@@ -169,8 +178,8 @@ void FillHandle::fill(const Block &from, const Block &to)
     }
     const CellPlace first{to.rows.first(), to.columns.first()};
     const CellPlace last{to.rows.last(), to.columns.last()};
-    if (!entries.isEmpty() && m_tools.edit.enter(entries)) // else the list may be gone
-        m_tools.selection.select(first, last);
+    if (!entries.isEmpty())
+        m_tools.selection.selectAfter([&] { return m_tools.edit.enter(entries); }, first, last);
 }
 
 } // namespace ORVTListview

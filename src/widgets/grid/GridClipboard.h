@@ -9,6 +9,7 @@ namespace ORVTListview {
 
 class CellEdit;
 class CellTable;
+struct CellEntry;
 
 // Copies the selected cells of a grid, and pastes what programs have copied.
 class GridClipboard
@@ -28,13 +29,21 @@ public:
     }
     Q_DISABLE_COPY_MOVE(GridClipboard) // the part of a grid
 
-    void copy(bool withHeaders) const;
+    // False when nothing is selected; the clipboard is then as it was.
+    bool copy(bool withHeaders) const;
 
     // False when nothing was entered.
     bool paste();
 
 private:
-    bool enter(const CellBlock &cells, CellPlace first);
+    struct Place
+    {
+        QList<int> rows;
+        QList<int> columns;
+    };
+
+    bool enterBlock(const CellBlock &copied, const QList<CellPlace> &chosen);
+    QList<CellEntry> entriesFor(const CellBlock &cells, const Place &place) const;
     bool refuseForRoom(CellPlace first);
 
     Tools m_tools;

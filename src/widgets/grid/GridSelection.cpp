@@ -1,6 +1,7 @@
 #include "widgets/grid/GridSelection.h"
 
 #include <QtCore/QItemSelectionModel>
+#include <QtCore/QPersistentModelIndex>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTableView>
 
@@ -86,6 +87,8 @@ QList<int> GridSelection::columnsFrom(int column) const
 // In one piece, unless users have moved the columns.
 void GridSelection::select(CellPlace first, CellPlace last)
 {
+    if (first.row != last.row && m_view.selectionMode() == QAbstractItemView::SingleSelection)
+        return;
     const QAbstractItemModel &model = *m_view.model();
     QList<int> columns = columnsFrom(first.column);
     columns.resize(columns.indexOf(last.column) + 1);
@@ -97,6 +100,21 @@ void GridSelection::select(CellPlace first, CellPlace last)
                                          model.index(last.row, columns.at(end - 1))));
     }
     m_view.selectionModel()->select(cells, QItemSelectionModel::ClearAndSelect);
+}
+
+bool GridSelection::selectAfter(const std::function<bool()> &act, CellPlace first, CellPlace last)
+{
+    const QAbstractItemModel &model = *m_view.model();
+    const QPersistentModelIndex begin(model.index(first.row, first.column));
+    const QPersistentModelIndex end(model.index(last.row, last.column));
+    if (!act())
+        return false;
+    const bool isAsItWas = begin.isValid() && end.isValid() &&
+                           end.row() - begin.row() == last.row - first.row &&
+                           end.column() - begin.column() == last.column - first.column;
+    if (isAsItWas)
+        select({begin.row(), begin.column()}, {end.row(), end.column()});
+    return true;
 }
 
 void GridSelection::selectColumn()

@@ -4,6 +4,8 @@
 
 #include <QtCore/QList>
 
+#include <functional>
+
 class QTableView;
 
 namespace ORVTListview {
@@ -44,8 +46,14 @@ public:
     QList<int> rowsFrom(int row) const;
     QList<int> columnsFrom(int column) const;
 
-    // The cells between two, which become the selection.
+    // The cells between two, which become the selection; where only one row may be selected
+    // none of several rows do.
     void select(CellPlace first, CellPlace last);
+
+    // The same once act has succeeded, with whom a host may change rows and columns: where
+    // the cells are by then, and only if there is neither more nor less between them. False
+    // when act is, by which the list may be gone.
+    bool selectAfter(const std::function<bool()> &act, CellPlace first, CellPlace last);
 
     // The whole column or row of the current cell.
     void selectColumn();
