@@ -10,6 +10,8 @@
 #include "widgets/view/OpenView.h"
 #include "widgets/view/ReportDelegate.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLineEdit>
@@ -58,6 +60,7 @@ CellEdit::CellEdit(const Tools &tools)
     m_tools.delegate.setEditorMaker([this](QWidget *parent, const QModelIndex &cell) {
         return m_isOpening ? makeField(parent, cell) : nullptr;
     });
+    m_tools.view.installEventFilter(this);
 }
 
 CellEdit::~CellEdit()
@@ -101,8 +104,30 @@ bool CellEdit::open(const QModelIndex &cell, const std::optional<QString> &typed
         return false;
     m_field->setAccessibleName(m_tools.table.columnText(cell.column()));
     m_field->installEventFilter(this);
-    fill(typed);
+    const bool hasKept = isKept(m_tools.table.itemAt(cell), cell.column());
+    fill(hasKept && !typed ? std::optional(m_kept->text) : typed);
+    if (hasKept)
+        m_kept.reset();
     return true;
+}
+
+// The editor goes on with what is not chosen yet.
+bool CellEdit::compose(const QModelIndex &cell, QInputMethodEvent &event)
+{
+    if (!open(cell, event.commitString()))
+        return false;
+    QLineEdit *line = lineOf(*m_field);
+    if (line && !event.preeditString().isEmpty()) {
+        QInputMethodEvent begun(event.preeditString(), event.attributes());
+        QCoreApplication::sendEvent(line, &begun);
+    }
+    return true;
+}
+
+void CellEdit::closed()
+{
+    m_field = nullptr;
+    goOnSoon();
 }
 
 bool CellEdit::openFor(const ListItem *item, int column)
@@ -134,6 +159,14 @@ void CellEdit::fill(const std::optional<QString> &typed)
 
 bool CellEdit::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == &m_tools.view && event->type() == QEvent::EnabledChange && m_kept)
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (m_kept && m_tools.view.isEnabled())
+                    openAgain(Kept(*m_kept));
+            },
+            Qt::QueuedConnection);
     if (watched != m_field || event->type() != QEvent::KeyPress)
         return QObject::eventFilter(watched, event);
     const std::optional<Then> then = thenOf(*static_cast<const QKeyEvent *>(event));
@@ -157,44 +190,109 @@ void CellEdit::take(const Entered &entered)
     if (!cell.isValid())
         return;
     const bool fills = entered.then == Then::Fill;
-    const QList<CellEntry> entries =
-        fills ? forChosen(entered.text)
-              : QList<CellEntry>{{entered.item, entered.column, entered.text}};
+    QList<CellEntry> entries = fills ? forChosen(entered.text) : QList<CellEntry>();
+    const bool isAmong =
+        std::any_of(entries.cbegin(), entries.cend(), [&entered](const CellEntry &entry) {
+            return entry.item == entered.item && entry.column == entered.column;
+        });
+    if (!isAmong)
+        entries.prepend({entered.item, entered.column, entered.text});
     const bool isSame = !fills && m_tools.table.text(*entered.item, entered.column) == entered.text;
+    takeFor(entered, isSame ? QList<CellEntry>() : entries);
+}
+
+void CellEdit::takeFor(const Entered &entered, const QList<CellEntry> &entries)
+{
+    Entered later = entered;
+    later.then = Then::Stay; // the user is elsewhere by then
+    if (!entries.isEmpty() && waits([this, later, entries] { takeFor(later, entries); }))
+        return;
     const QPointer<CellEdit> self(this);
-    const auto refusals = isSame ? QList<CellRefusal>() : asked(entries);
+    const auto refusals = entries.isEmpty() ? QList<CellRefusal>() : asked(entries);
     if (!self || !refusals)
         return;
     if (!refusals->isEmpty())
-        correct(entered, refusals->constFirst().reason);
-    else if (entered.then != Then::Stay && !fills)
+        correct(entered, *refusals);
+    else if (entered.then != Then::Stay && entered.then != Then::Fill)
         go(entered.then);
+}
+
+// While a host is asked, it may let the user go on.
+bool CellEdit::waits(const std::function<void()> &act)
+{
+    if (m_tools.writer.isAsking())
+        m_waiting.enqueue(act);
+    return m_tools.writer.isAsking();
+}
+
+void CellEdit::goOnSoon()
+{
+    if (!m_waiting.isEmpty())
+        QMetaObject::invokeMethod(
+            this, [this] { goOn(); }, Qt::QueuedConnection);
+}
+
+// One after the other, and none beside an open editor, which a refusal would close.
+void CellEdit::goOn()
+{
+    if (m_waiting.isEmpty() || m_tools.writer.isAsking() || OpenView::isEditing(m_tools.view))
+        return;
+    const QPointer<CellEdit> self(this);
+    m_waiting.dequeue()();
+    if (self)
+        goOnSoon();
 }
 
 // What the writer says, told to the host; none when the list is gone.
 std::optional<QList<CellRefusal>> CellEdit::asked(const QList<CellEntry> &entries)
 {
+    for (const CellEntry &entry : entries) {
+        if (isKept(entry.item, entry.column))
+            m_kept.reset();
+    }
     const QPointer<CellEdit> self(this);
     const auto refusals = m_tools.writer.enter(entries);
     if (self && refusals && !refusals->isEmpty() && m_tellRefusals)
         m_tellRefusals(*refusals);
+    if (self)
+        goOnSoon();
     return self ? refusals : std::nullopt;
 }
 
 // Opens the editor again, with what was typed.
-void CellEdit::correct(const Entered &entered, const QString &reason)
+void CellEdit::correct(const Entered &entered, const QList<CellRefusal> &refusals)
 {
     const QModelIndex cell = m_tools.table.placeOf(entered.item, entered.column);
     if (!cell.isValid())
         return;
     const QPointer<CellEdit> self(this);
+    const QString reason = sentence(refusals, entered.item, entered.column);
     makeCurrent(cell);
-    if (self && open(m_tools.table.placeOf(entered.item, entered.column), entered.text))
-        m_tools.note.show(m_cell, reason, m_field);
+    if (self)
+        openAgain({entered.item, entered.column, entered.text, reason});
+}
+
+// Where no editor can be open, as in a list that is disabled, the text waits for one.
+void CellEdit::openAgain(const Kept &kept)
+{
+    const QModelIndex cell = m_tools.table.placeOf(kept.item, kept.column);
+    if (!cell.isValid())
+        return;
+    const bool isOpen = open(cell, kept.text);
+    if (!isOpen)
+        m_kept = kept;
+    m_tools.note.show(cell, kept.reason, isOpen ? m_field : nullptr);
+}
+
+bool CellEdit::isKept(const ListItem *item, int column) const
+{
+    return m_kept && m_kept->item == item && m_kept->column == column;
 }
 
 bool CellEdit::enter(const QList<CellEntry> &entries)
 {
+    if (waits([this, entries] { enter(entries); }))
+        return false;
     const auto refusals = asked(entries);
     if (refusals && !refusals->isEmpty())
         show(*refusals);
@@ -218,15 +316,18 @@ void CellEdit::show(const QList<CellRefusal> &refusals)
     if (!cell.isValid())
         return;
     m_tools.view.scrollTo(cell);
-    m_tools.note.show(cell, sentence(refusals), nullptr);
+    m_tools.note.show(cell, sentence(refusals, first.item, first.column), nullptr);
 }
 
-// The reason, or for several cells a line for each.
-QString CellEdit::sentence(const QList<CellRefusal> &refusals) const
+// The reason, or for several cells, and for another one than it is shown at, a line for
+// each.
+QString CellEdit::sentence(const QList<CellRefusal> &refusals, const ListItem *item,
+                           int column) const
 {
     constexpr qsizetype most = 5;
-    if (refusals.size() == 1)
-        return refusals.constFirst().reason;
+    const CellRefusal &first = refusals.constFirst();
+    if (refusals.size() == 1 && first.item == item && first.column == column)
+        return first.reason;
     QStringList lines;
     for (const CellRefusal &refusal : refusals.first(std::min(most, refusals.size()))) {
         const QModelIndex row = m_tools.table.placeOf(refusal.item, 0);

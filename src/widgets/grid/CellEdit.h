@@ -4,7 +4,9 @@
 
 #include <QtCore/QPersistentModelIndex>
 #include <QtCore/QPointer>
+#include <QtCore/QQueue>
 
+class QInputMethodEvent;
 class QTableView;
 class QWidget;
 
@@ -51,6 +53,9 @@ public:
     // Also makes the cell the current one.
     bool openFor(const ListItem *item, int column);
 
+    // Begins to edit as typing does, with what an input method tells.
+    bool compose(const QModelIndex &cell, QInputMethodEvent &event);
+
     // Whether the text that an editor is closed with is that of a cell.
     bool isOpenAt(const QModelIndex &cell) const { return m_field && m_cell == cell; }
 
@@ -58,10 +63,11 @@ public:
     void enterSoon(const QString &text);
 
     // The view's editor, whichever it was, is gone.
-    void closed() { m_field = nullptr; }
+    void closed();
 
-    // Enters texts, and tells and shows what keeps them from being taken. False then, and
-    // when a host has destroyed the list.
+    // Enters texts, and tells and shows what keeps them from being taken. False then, when a
+    // host has destroyed the list, and while it is being asked: then they are entered
+    // afterwards.
     bool enter(const QList<CellEntry> &entries);
     void refuse(const QList<CellRefusal> &refusals);
 
@@ -86,13 +92,28 @@ private:
         Then then;
     };
 
+    // What could not be taken, and no editor shows.
+    struct Kept
+    {
+        ListItem *item;
+        int column;
+        QString text;
+        QString reason;
+    };
+
     QWidget *makeField(QWidget *parent, const QModelIndex &cell) const;
     void fill(const std::optional<QString> &typed);
     void take(const Entered &entered);
+    void takeFor(const Entered &entered, const QList<CellEntry> &entries);
+    bool waits(const std::function<void()> &act);
+    void goOnSoon();
+    void goOn();
     std::optional<QList<CellRefusal>> asked(const QList<CellEntry> &entries);
     void show(const QList<CellRefusal> &refusals);
-    QString sentence(const QList<CellRefusal> &refusals) const;
-    void correct(const Entered &entered, const QString &reason);
+    QString sentence(const QList<CellRefusal> &refusals, const ListItem *item, int column) const;
+    void correct(const Entered &entered, const QList<CellRefusal> &refusals);
+    void openAgain(const Kept &kept);
+    bool isKept(const ListItem *item, int column) const;
     void makeCurrent(const QModelIndex &cell);
 
     Tools m_tools;
@@ -100,6 +121,8 @@ private:
     TellRefusals m_tellRefusals;
     QPersistentModelIndex m_cell;
     QPointer<QWidget> m_field;
+    QQueue<std::function<void()>> m_waiting; // until the host has answered
+    std::optional<Kept> m_kept;
     Then m_then = Then::Stay;
     bool m_isOpening = false;
 };

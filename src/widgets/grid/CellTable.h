@@ -20,8 +20,12 @@ public:
     // Null for no place.
     virtual ListItem *itemAt(const QModelIndex &place) const = 0;
 
-    // Invalid when the row or the column is gone.
+    // Invalid when the row or the column is gone, or the row another list's.
     virtual QModelIndex placeOf(const ListItem *item, int column) const = 0;
+
+    // Raises Error, named for the member that was called, for a row that is gone or another
+    // list's.
+    virtual void check(const ListItem *item, const QString &member) const = 0;
 
     // The row and the column are there.
     virtual QString text(const ListItem &item, int column) const = 0;

@@ -26,11 +26,24 @@ bool isTyped(const QKeyEvent &event)
 
 } // namespace
 
+bool GridKeys::isCopying(const QKeyEvent &event)
+{
+    return event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Cut) ||
+           (event.key() == Qt::Key_C &&
+            modifiersOf(event) == (Qt::ControlModifier | Qt::ShiftModifier));
+}
+
+bool GridKeys::compose(QInputMethodEvent &event)
+{
+    const bool isTold = !event.commitString().isEmpty() || !event.preeditString().isEmpty();
+    return isTold && m_tools.edit.compose(m_tools.view.currentIndex(), event);
+}
+
 bool GridKeys::act(QKeyEvent &event)
 {
     if (m_tools.selection.isByCells() && actOnSelection(event))
         return true;
-    if (!m_tools.rules.isOn())
+    if (!m_tools.rules.isUsed())
         return false;
     const QModelIndex cell = m_tools.view.currentIndex();
     if (actOnSteps(event) || move(event))
@@ -109,8 +122,8 @@ bool GridKeys::actOnCell(QKeyEvent &event, const QModelIndex &cell)
 
 void GridKeys::cut()
 {
-    m_tools.clipboard.copy(false);
-    m_tools.edit.enter(m_tools.edit.forChosen({}));
+    if (m_tools.clipboard.copy(false))
+        m_tools.edit.enter(m_tools.edit.forChosen({}));
 }
 
 void GridKeys::toggle(const QModelIndex &cell)

@@ -2,6 +2,7 @@
 
 #include <QtCore/Qt>
 
+class QInputMethodEvent;
 class QKeyEvent;
 class QModelIndex;
 class QTableView;
@@ -38,6 +39,12 @@ public:
 
     // False for a key that is the list's. A key that leads out of the list is ignored.
     bool act(QKeyEvent &event);
+
+    // Whether a key is one of those that put cells on the clipboard.
+    static bool isCopying(const QKeyEvent &event);
+
+    // What an input method begins with in the current cell. False where none is edited.
+    bool compose(QInputMethodEvent &event);
 
 private:
     bool actOnSelection(const QKeyEvent &event);

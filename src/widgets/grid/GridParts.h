@@ -11,6 +11,8 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QTableView>
 
+#include <optional>
+
 namespace ORVTListview {
 
 // What a grid is made of, a class for each subject.
@@ -33,6 +35,16 @@ struct GridParts
     ~GridParts() { delete handle.data(); }
     Q_DISABLE_COPY_MOVE(GridParts) // the parts know one another
 
+    // Tab comes as a key only where the view goes through its cells with it.
+    void followRules()
+    {
+        if (rules.isUsed() == formerTab.has_value())
+            return;
+        const bool goes = formerTab.value_or(true);
+        formerTab = formerTab ? std::nullopt : std::optional(view.tabKeyNavigation());
+        view.setTabKeyNavigation(goes);
+    }
+
     QTableView &view;
     CellTable &table;
     GridRules rules;
@@ -44,6 +56,7 @@ struct GridParts
     GridClipboard clipboard;
     const QPointer<FillHandle> handle; // a child of the viewport
     GridKeys keys;
+    std::optional<bool> formerTab; // the host's, while cells are edited
 };
 
 } // namespace ORVTListview

@@ -3,6 +3,8 @@
 #include "base/EventGuard.h"
 #include "widgets/grid/CellTable.h"
 
+#include <algorithm>
+
 namespace ORVTListview {
 
 GridRules::GridRules(CellTable &table, const QAbstractItemModel &model)
@@ -39,18 +41,27 @@ void GridRules::resolve()
         m_columns.append(rules.value(m_table.columnKey(column)));
         m_table.setEdited(column, isEdited(column));
     }
+    if (m_follow)
+        m_follow();
 }
 
 CellRule GridRules::completeRule(int column) const
 {
     CellRule complete = rule(column);
     if (complete.kind == CellRule::PointName && complete.choices.isEmpty() && m_pointNames) {
-        EventGuard::run([&] {
-            complete.choices = m_pointNames();
+        EventGuard::run([&complete, names = m_pointNames] { // which may destroy the list
+            complete.choices = names();
             return true;
         });
     }
     return complete;
+}
+
+bool GridRules::isUsed() const
+{
+    return m_isOn && std::any_of(m_columns.cbegin(), m_columns.cend(), [](const CellRule &rule) {
+               return rule.kind != CellRule::NotEdited;
+           });
 }
 
 bool GridRules::isEdited(int column) const

@@ -24,6 +24,13 @@ public:
     Q_DISABLE_COPY_MOVE(GridRules) // follows one model
 
     bool isOn() const { return m_isOn; }
+
+    // Whether it is on, and there is a column that users edit.
+    bool isUsed() const;
+
+    // Called when any of it may have changed.
+    void setFollower(const std::function<void()> &follow) { m_follow = follow; }
+
     void setOn(bool on);
 
     const QString &tableName() const { return m_tableName; }
@@ -52,6 +59,7 @@ private:
     QList<CellRule> m_columns; // of the table shown
     std::function<QStringList()> m_pointNames;
     QString m_tableName;
+    std::function<void()> m_follow;
     bool m_isOn = false;
 };
 

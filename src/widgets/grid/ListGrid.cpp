@@ -9,6 +9,8 @@
 
 namespace ORVTListview {
 
+using namespace Qt::StringLiterals;
+
 ListGrid::ListGrid(std::unique_ptr<GridParts> parts)
     : d(std::move(parts))
 {
@@ -24,6 +26,7 @@ ListGrid::ListGrid(std::unique_ptr<GridParts> parts)
     d->edit.setRefusal([this](const QList<CellRefusal> &refusals) {
         raiseEvent(*this, &ListGrid::cellsRefused, refusals);
     });
+    d->rules.setFollower([this] { d->followRules(); });
     connect(d->view.model(), &QAbstractItemModel::modelReset, this, [this] {
         d->note.hide();
         d->steps.forget();
@@ -42,7 +45,6 @@ void ListGrid::setEditsCells(bool on)
     if (on == editsCells())
         return;
     d->rules.setOn(on);
-    d->view.setTabKeyNavigation(on); // else Tab never comes as a key
     d->handle->refresh();
     raiseEvent(*this, &ListGrid::editsCellsChanged, on);
 }
@@ -70,7 +72,7 @@ void ListGrid::copyCells(bool withHeaders) const
 bool ListGrid::pasteCells()
 {
     d->table.settle();
-    return d->rules.isOn() && d->clipboard.paste();
+    return d->rules.isOn() && !d->writer.isAsking() && d->clipboard.paste();
 }
 
 QString ListGrid::table() const
@@ -112,12 +114,15 @@ void ListGrid::setPointNames(const PointNames &names)
 
 bool ListGrid::editCell(ListItem *item, qint16 column)
 {
+    d->table.check(item, u"ListGrid.editCell"_s);
     return d->edit.openFor(item, column);
 }
 
 bool ListGrid::enterText(ListItem *item, qint16 column, const QString &text)
 {
-    return d->table.placeOf(item, column).isValid() && d->edit.enter({{item, column, text}});
+    d->table.check(item, u"ListGrid.enterText"_s);
+    return d->table.placeOf(item, column).isValid() && !d->writer.isAsking() &&
+           d->edit.enter({{item, column, text}});
 }
 
 QUndoStack *ListGrid::undoStack() const

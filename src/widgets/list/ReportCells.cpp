@@ -4,6 +4,17 @@
 
 namespace ORVTListview {
 
+namespace {
+
+// A handle that a host gives is looked at as by the list's own members.
+class GivenRow final : public ViewElement<ListItem, ReportListParts, ReportRow>
+{
+public:
+    using ViewElement::heldOf;
+};
+
+} // namespace
+
 ReportCells::ReportCells(ReportListParts &parts)
     : m_parts(parts)
 {
@@ -16,9 +27,19 @@ ListItem *ReportCells::itemAt(const QModelIndex &place) const
 
 QModelIndex ReportCells::placeOf(const ListItem *item, int column) const
 {
-    const bool isThere = item && item->isAlive() && column >= 0 && column < m_parts.model.columns();
-    return isThere ? m_parts.model.indexOf(m_parts.model.row(item->Index() - 1), column)
-                   : QModelIndex();
+    if (!item || !item->isAlive() || column < 0 || column >= m_parts.model.columns())
+        return {};
+    const int position = item->Index() - 1; // among its own list's rows
+    if (position >= m_parts.model.rows())
+        return {};
+    ReportRow &row = m_parts.model.row(position);
+    return m_parts.items.of(row, m_parts) == item ? m_parts.model.indexOf(row, column)
+                                                  : QModelIndex();
+}
+
+void ReportCells::check(const ListItem *item, const QString &member) const
+{
+    GivenRow::heldOf(item, m_parts, member);
 }
 
 QString ReportCells::text(const ListItem &item, int column) const

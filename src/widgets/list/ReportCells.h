@@ -13,6 +13,7 @@ public:
 
     ListItem *itemAt(const QModelIndex &place) const override;
     QModelIndex placeOf(const ListItem *item, int column) const override;
+    void check(const ListItem *item, const QString &member) const override;
     QString text(const ListItem &item, int column) const override;
     void setText(ListItem &item, int column, const QString &text) override;
     int columns() const override;

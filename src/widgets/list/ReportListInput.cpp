@@ -36,6 +36,9 @@ bool ReportList::event(QEvent *event)
     return EventGuard::run([this, event] {
         const QEvent::Type type = event->type();
         const QPointer<ReportList> self(this);
+        if (type == QEvent::InputMethod && d && state() != EditingState &&
+            d->gridParts().keys.compose(*static_cast<QInputMethodEvent *>(event)))
+            return true;
         const bool handled = QTableView::event(event);
         if (!self)
             return handled;
@@ -113,7 +116,7 @@ void ReportList::keyReleaseEvent(QKeyEvent *event)
 void ReportList::act(QKeyEvent &event)
 {
     d->rowChoice.settle();
-    if (d->gridParts().keys.act(event))
+    if ((d->copies || !GridKeys::isCopying(event)) && d->gridParts().keys.act(event))
         return;
     if (event.matches(QKeySequence::Copy) && !d->copies)
         event.ignore();

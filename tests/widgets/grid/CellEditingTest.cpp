@@ -2,7 +2,11 @@
 #include "support/WidgetTest.h"
 #include "widgets/grid/GridFixture.h"
 
+#include <QtGui/QClipboard>
+#include <QtGui/QInputMethodEvent>
+
 #include <stdexcept>
+#include <utility>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -323,6 +327,218 @@ private Q_SLOTS:
         QVERIFY(!model.setData(model.index(1, 2), u"x"_s));
         QCOMPARE(shown.texts(2), u"12||||"_s);
         QCOMPARE(shown.take(), u"ask 1 2 12, 1 2 >12, told, refused 2 2 This is not a number."_s);
+    }
+
+    void rowsOfOtherListsAreNone()
+    {
+        ShownGrid shown;
+        const ShownGrid other(9);
+        const auto enter = [&](ListItem *item, qint16 column) {
+            return errorOf([&] { shown.grid->enterText(item, column, u"x"_s); });
+        };
+        QCOMPARE(enter(other.item(2), 1), InvalidCall);
+        QCOMPARE(enter(other.item(9), 1), InvalidCall);
+        QCOMPARE(errorOf([&] { shown.grid->editCell(other.item(2), 1); }), InvalidCall);
+        ListItem *gone = shown.item(5);
+        shown->ListItems()->Remove(5);
+        QCOMPARE(enter(gone, 1), ObjectNotSet);
+        QCOMPARE(errorOf([&] { shown.grid->editCell(gone, 1); }), ObjectNotSet);
+        QVERIFY(!shown.grid->enterText(nullptr, 1, u"x"_s));
+        QVERIFY(!shown.grid->enterText(shown.item(1), 6, u"x"_s));
+        QVERIFY(!shown.grid->editCell(nullptr, 1));
+        QVERIFY(!shown.grid->editCell(shown.item(1), -1));
+        QCOMPARE(shown.texts(1) + other.texts(1), u"|||"_s + u"||||||||"_s);
+        QCOMPARE(shown.typed(), u"(closed)"_s);
+    }
+
+    // A host that lets the user go on while it asks somebody.
+    void whatIsEnteredWhileTheHostIsAskedComesAfterwards()
+    {
+        ShownGrid shown;
+        shown.answer = [&shown, isFirst = true](QString &, QString &refusal) mutable {
+            if (!std::exchange(isFirst, false))
+                return;
+            shown.goTo(3, 1);
+            shown.type(u"Fan"_s);
+            shown.key(Qt::Key_Return);
+            QCoreApplication::processEvents();
+            shown.goTo(4, 4);
+            shown.key(Qt::Key_Space);
+            refusal = u"Not this."_s;
+            QVERIFY(!shown.grid->enterText(shown.item(5), 1, u"no"_s));
+        };
+        shown.goTo(1, 1);
+        shown.type(u"Pump"_s);
+        shown.key(Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.typed(), u"Pump"_s);
+        QCOMPARE(shown.note(), u"Not this."_s);
+        QCOMPARE(shown.texts(1), u"||||"_s);
+        shown.key(Qt::Key_Escape);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.texts(1), u"||Fan||"_s);
+        QCOMPARE(shown.text(4, 4), u"Yes"_s);
+    }
+
+    void whatIsRefusedIsKeptWhereNoEditorCanOpen()
+    {
+        ShownGrid shown;
+        shown.answer = [&shown](QString &, QString &refusal) {
+            shown->setEnabled(false);
+            refusal = u"Not now."_s;
+        };
+        shown.goTo(2, 1);
+        shown.type(u"Pump"_s);
+        shown.key(Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.typed(), u"(closed)"_s);
+        QCOMPARE(shown.note(), u"Not now."_s);
+        shown.answer = {};
+        shown->setEnabled(true);
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the former note
+        QCOMPARE(shown.typed(), u"Pump"_s);
+        QCOMPARE(shown.note(), u"Not now."_s);
+        shown->setFocus();
+        shown.key(Qt::Key_Escape);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.text(2, 1), QString());
+    }
+
+    void whatIsRefusedIsKeptWhileNothingIsEdited()
+    {
+        ShownGrid shown;
+        shown.goTo(2, 2);
+        shown.type(u"120"_s);
+        shown.grid->setEditsCells(false);
+        shown.key(Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.note(), u"This cell cannot be edited."_s);
+        shown.grid->setEditsCells(true);
+        shown.key(Qt::Key_F2);
+        QCOMPARE(shown.typed(), u"120"_s);
+        shown.key(Qt::Key_Escape);
+        shown.key(Qt::Key_F2);
+        QCOMPARE(shown.typed(), QString());
+    }
+
+    void fillingTellsWhichCellIsNotEdited()
+    {
+        ShownGrid shown;
+        shown.grid->setSelectsCells(true);
+        shown.goTo(2, 1);
+        shown.key(Qt::Key_Space, Qt::ShiftModifier);
+        shown->selectionModel()->setCurrentIndex(shown->model()->index(1, 1),
+                                                 QItemSelectionModel::NoUpdate);
+        shown.type(u"7"_s);
+        shown.key(Qt::Key_Return, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.typed(), u"7"_s);
+        QCOMPARE(shown.note(), u"Text 2, Header 1: This cell cannot be edited.\n"
+                               "Text 2, Header 4: This is not in the list.\n"
+                               "Text 2, Header 5: This is neither Yes nor No."_s);
+        QCOMPARE(shown.text(2, 1), QString());
+    }
+
+    void fillingTakesTheEditedCellToo()
+    {
+        ShownGrid shown;
+        shown->setMultiSelect(true);
+        shown.goTo(4, 1);
+        shown->selectionModel()->setCurrentIndex(shown->model()->index(1, 1),
+                                                 QItemSelectionModel::NoUpdate);
+        shown.type(u"Fan"_s);
+        shown.key(Qt::Key_Return, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.texts(1), u"|Fan||Fan|"_s);
+    }
+
+    void anInputMethodBeginsToo()
+    {
+        ShownGrid shown;
+        const auto tell = [&shown](const QString &begun, const QString &chosen) {
+            QInputMethodEvent event(begun, {});
+            event.setCommitString(chosen);
+            QCoreApplication::sendEvent(shown.list, &event);
+        };
+        shown.goTo(2, 1);
+        tell({}, u"\u00e9"_s);
+        QCOMPARE(shown.typed(), u"\u00e9"_s);
+        shown.type(u"t"_s);
+        shown.key(Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.text(2, 1), u"\u00e9t"_s);
+        tell(u"ka"_s, {});
+        QCOMPARE(shown.typed(), QString());
+        QInputMethodEvent chosen;
+        chosen.setCommitString(u"\u304b"_s);
+        QCoreApplication::sendEvent(QApplication::focusWidget(), &chosen);
+        QCOMPARE(shown.typed(), u"\u304b"_s);
+        shown.key(Qt::Key_Escape);
+        shown.goTo(2, 0);
+        tell({}, u"T"_s);
+        QCOMPARE(shown.typed(), u"(closed)"_s);
+    }
+
+    void theNoteStaysAtItsCell()
+    {
+        ShownGrid shown;
+        QVERIFY(!shown.grid->enterText(shown.item(2), 2, u"x"_s));
+        const auto place = [&shown] {
+            return shown->findChild<QLabel *>(u"CellNote"_s)->mapTo(&shown.form, QPoint());
+        };
+        const auto below = [&shown](int row) {
+            const QRect cell = shown->visualRect(shown->model()->index(row - 1, 2));
+            return shown.inForm(QPoint(cell.left(), cell.bottom() + 1));
+        };
+        QCOMPARE(place(), below(2));
+        shown->Add(1, u"New"_s, u"above"_s);
+        QCOMPARE(place(), below(3));
+        shown->setColumnWidth(0, 40);
+        QCOMPARE(place(), below(3));
+        shown.item(3)->setVisible(false);
+        QCOMPARE(shown.note(), QString());
+        shown.item(3)->setVisible(true);
+        QCOMPARE(shown.note(), u"This is not a number."_s);
+        shown->ListItems()->Remove(3);
+        QCOMPARE(shown.note(), QString());
+    }
+
+    void aTableWithoutRulesIsNoGrid()
+    {
+        ShownGrid shown;
+        QVERIFY(shown.grid->enterText(shown.item(1), 1, u"a"_s));
+        QVERIFY(shown->tabKeyNavigation());
+        shown.grid->setTable(u"Code"_s);
+        QVERIFY(!shown->tabKeyNavigation());
+        QLineEdit next(&shown.form);
+        next.show();
+        QWidget::setTabOrder(shown.list, &next);
+        QGuiApplication::clipboard()->setText(u"b"_s);
+        shown.goTo(1, 1);
+        shown.take();
+        shown.key(Qt::Key_Return);
+        shown.key(Qt::Key_Z, Qt::ControlModifier);
+        shown.key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(shown.current(), u"1 1"_s);
+        QCOMPARE(shown.take(), QString());
+        QCOMPARE(shown.note(), QString());
+        shown.key(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), &next);
+        shown.grid->setTable(u"Points"_s);
+        QVERIFY(shown->tabKeyNavigation());
+    }
+
+    void tabIsTheHostsAgain()
+    {
+        ShownGrid shown;
+        shown.grid->setEditsCells(false);
+        QVERIFY(!shown->tabKeyNavigation());
+        shown->setTabKeyNavigation(true);
+        shown.grid->setEditsCells(true);
+        QVERIFY(shown->tabKeyNavigation());
+        shown.grid->setEditsCells(false);
+        QVERIFY(shown->tabKeyNavigation());
     }
 
     void theHostMayDoAnything_data()

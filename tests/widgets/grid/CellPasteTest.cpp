@@ -6,6 +6,7 @@
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
 #include <QtGui/QUndoStack>
+#include <QtWidgets/QRubberBand>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -178,6 +179,128 @@ private Q_SLOTS:
         QCOMPARE(shown.texts(2), u"8|8|8|8|"_s);
     }
 
+    void rowsThatLieApartGetWhatIsPasted()
+    {
+        CellGrid shown;
+        shown.set(2, 2, u"2"_s);
+        putOnClipboard(u"7"_s);
+        shown.click(shown.cell(1, 3));
+        shown.click(shown.cell(5, 3), Qt::LeftButton, Qt::ControlModifier);
+        shown.key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(shown.texts(2), u"7|2|||7"_s);
+        QCOMPARE(shown.selected(), u"C1 C5"_s);
+        putOnClipboard(u"8\n9"_s);
+        QVERIFY(shown.grid->pasteCells());
+        QCOMPARE(shown.texts(2), u"8|2|||9"_s);
+        shown.take();
+        putOnClipboard(u"1\n2\n3"_s); // would reach cells that nobody has chosen
+        QVERIFY(!shown.grid->pasteCells());
+        QCOMPARE(shown.take(), u"refused 1 2 There is not enough room here."_s);
+        shown.click(shown.cell(2, 2), Qt::LeftButton, Qt::ControlModifier); // no rectangle
+        putOnClipboard(u"5"_s);
+        shown.key(Qt::Key_Delete);
+        QVERIFY(shown.grid->pasteCells());
+        QCOMPARE(shown.texts(1) + u" "_s + shown.texts(2), u"|5||| 5|2|||5"_s);
+        shown.grid->setSelectsCells(false);
+        shown->setSelectedItem(nullptr);
+        shown.goTo(1, 2);
+        shown.item(4)->setSelected(true);
+        putOnClipboard(u"6"_s);
+        QVERIFY(shown.grid->pasteCells());
+        QCOMPARE(shown.texts(2), u"6|2||6|5"_s);
+    }
+
+    void columnsThatLieApartGetWhatIsPasted()
+    {
+        CellGrid shown(2);
+        shown.set(1, 2, u"2"_s);
+        shown.click(shown.cell(1, 2));
+        shown.click(shown.cell(1, 6), Qt::LeftButton, Qt::ControlModifier);
+        putOnClipboard(u"a\tb"_s);
+        QVERIFY(shown.grid->pasteCells());
+        QCOMPARE(shown.texts(1) + shown.texts(2) + shown.texts(5), u"a|2|b|"_s);
+    }
+
+    void theBlockThatWasPastedIsSelectedWhereverItIsByThen()
+    {
+        CellGrid shown(8);
+        const QMetaObject::Connection above =
+            connect(shown.grid, &ListGrid::cellsChanged, shown.grid,
+                    [&shown] { shown->Add(1, u"New"_s, u"above"_s); });
+        putOnClipboard(u"1\n2"_s);
+        shown.choose(2, 2, 2, 2);
+        QVERIFY(shown.grid->pasteCells());
+        QCOMPARE(shown.selected(), u"C3 C4"_s);
+        disconnect(above);
+        connect(shown.grid, &ListGrid::cellsChanged, shown.grid,
+                [&shown] { shown->ListItems()->Remove(7); });
+        shown.choose(6, 2, 6, 2);
+        putOnClipboard(u"3\n4"_s);
+        QVERIFY(shown.grid->pasteCells());
+        QCOMPARE(shown.selected(), u"C6"_s); // the second is gone
+    }
+
+    void withoutMultiSelectOneRowIsSelected()
+    {
+        CellGrid shown(4);
+        shown->setMultiSelect(false);
+        shown.goTo(2, 2);
+        shown.key(Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(shown.selected(), u"C2"_s);
+        putOnClipboard(u"1\n2"_s);
+        QVERIFY(shown.grid->pasteCells());
+        QCOMPARE(shown.texts(2), u"|1|2|"_s);
+        QCOMPARE(shown.selected(), u"C2"_s);
+        QVERIFY(shown.item(2)->Selected() && !shown.item(3)->Selected());
+        shown.key(Qt::Key_Space, Qt::ShiftModifier);
+        QCOMPARE(shown.selected(), u"A2 B2 C2 D2 E2 F2"_s);
+    }
+
+    void onlyWhatWasCopiedIsCut()
+    {
+        CellGrid shown;
+        shown.set(2, 2, u"2"_s);
+        putOnClipboard(u"before"_s);
+        shown.goTo(2, 2);
+        shown->selectionModel()->clearSelection();
+        shown.key(Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"before"_s);
+        QCOMPARE(shown.text(2, 2), u"2"_s);
+        shown->setCopiesRows(false);
+        shown.goTo(2, 2);
+        shown.key(Qt::Key_X, Qt::ControlModifier);
+        shown.key(Qt::Key_C, Qt::ControlModifier);
+        shown.key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"before"_s);
+        QCOMPARE(shown.text(2, 2), u"2"_s);
+    }
+
+    void selectedCellsStayThoseWhenAColumnComes()
+    {
+        CellGrid shown;
+        shown.choose(2, 1, 3, 1);
+        shown->ColumnHeaders()->Add(0, u"Column7"_s, u"Header 7"_s);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.selected(), u"B2 B3"_s);
+        shown.item(2)->setSelected(true); // the whole row
+        QCOMPARE(shown.selected(), u"A2 B2 C2 D2 E2 F2 G2 B3"_s);
+    }
+
+    void selectedCellsStayThoseWhenManyRowsAreSelected()
+    {
+        CellGrid shown(100);
+        shown.choose(2, 1, 2, 1);
+        for (int row = 3; row <= 90; ++row)
+            shown.item(row)->setSelected(true);
+        shown.item(90)->setSelected(false);
+        QCoreApplication::processEvents();
+        const QItemSelectionModel &selection = *shown->selectionModel();
+        QVERIFY(!selection.isSelected(shown->model()->index(1, 0)));
+        QVERIFY(selection.isSelected(shown->model()->index(1, 1)));
+        QVERIFY(selection.isRowSelected(88));
+        QVERIFY(!selection.rowIntersectsSelection(89));
+    }
+
     void whatDoesNotFitIsRefusedAsAWhole()
     {
         CellGrid shown;
@@ -259,6 +382,36 @@ private Q_SLOTS:
         dragTo(shown.cell(1, 4));
         QCOMPARE(shown.take(), u"refused 1 3 This is not in the list."_s);
         QCOMPARE(shown.text(1, 3), QString());
+    }
+
+    void aDragEndsWithItsRows()
+    {
+        CellGrid shown;
+        shown.choose(2, 2, 2, 2);
+        const auto *handle = shown->viewport()->findChild<QWidget *>(u"FillHandle"_s);
+        const QPoint from = handle->mapTo(&shown.form, QPoint(3, 3));
+        shown.press(from);
+        shown.move(shown.cell(4, 3));
+        QVERIFY(shown->viewport()->findChild<QRubberBand *>());
+        shown->setRows({RowContent{.text = u"new"_s}});
+        QVERIFY(!shown->viewport()->findChild<QRubberBand *>());
+        shown.move(shown.cell(1, 3));
+        shown.release(shown.cell(1, 3));
+        QCOMPARE(shown.take(), QString());
+    }
+
+    void aDragEndsWhenAllOfItIsHidden()
+    {
+        CellGrid shown;
+        shown.choose(2, 2, 2, 2);
+        const auto *handle = shown->viewport()->findChild<QWidget *>(u"FillHandle"_s);
+        shown.press(handle->mapTo(&shown.form, QPoint(3, 3)));
+        shown.move(shown.cell(4, 3));
+        shown->setColumnHidden(2, true);
+        shown.move(shown.cell(4, 2));
+        shown.release(shown.cell(4, 2));
+        QVERIFY(!shown->viewport()->findChild<QRubberBand *>());
+        QCOMPARE(shown.take(), QString());
     }
 
     void manyCellsArePastedAtOnce()

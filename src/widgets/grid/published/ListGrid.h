@@ -51,20 +51,22 @@ public:
     bool editsCells() const;
     void setEditsCells(bool on);
 
-    // Whether cells are selected instead of rows: by the mouse, with Shift and, where
-    // MultiSelect is on, with Ctrl; whole columns by a click on their header or Ctrl+Space,
-    // rows by Shift+Space. A ListItem then is Selected when one of its cells is.
+    // Whether cells are selected instead of rows. Cells of several rows need MultiSelect, as
+    // several rows do; with it ranges are selected by the mouse, with Shift and Ctrl, whole
+    // columns by a click on their header or Ctrl+Space. Without it only one cell is, or by
+    // Shift+Space its row. A ListItem then is Selected when one of its cells is.
     bool selectsCells() const;
     void setSelectsCells(bool on);
 
     // Puts the selected cells on the clipboard, as text with tabs, as an HTML table and as
     // text/csv, with the headers of their columns or without; nothing when none is selected.
     // While cells are selected Ctrl+C does so without, Ctrl+Shift+C with them, and Ctrl+X
-    // clears the cells, too.
+    // clears the cells, too; none of these keys does where the list's copiesRows is off.
     Q_INVOKABLE void copyCells(bool withHeaders = false) const;
 
-    // Enters the text of the clipboard into the cells from the first selected one on, as
-    // often as it fits into the selected ones. False when it is refused, or there is none.
+    // Enters the text of the clipboard into the selected cells, as often as they hold it
+    // without rest, otherwise once, from the first of them on; if they lie apart, it is then
+    // refused. False when it is refused, there is none, or cellEntering is being raised.
     Q_INVOKABLE bool pasteCells();
 
     // Which table the list shows; rules belong to tables. ORVListView sets it to its Key,
@@ -88,11 +90,14 @@ public:
     // needed. Without it any name is taken.
     void setPointNames(const PointNames &names);
 
-    // Opens the editor of a cell, as F2 does. False when users cannot edit it.
+    // Opens the editor of a cell, as F2 does. False when users cannot edit it, and for null
+    // or a column that is not there. Raises Error for a row that has been removed
+    // (ObjectNotSet) or is another list's (InvalidCall).
     Q_INVOKABLE bool editCell(ORVTListview::ListItem *item, qint16 column);
 
     // Enters a text as a user does, with all that belongs to it. False when it is refused;
-    // the reason is then shown at the cell.
+    // the reason is then shown at the cell. False, too, for null or a column that is not
+    // there, and while cellEntering is being raised. Raises Error as editCell does.
     Q_INVOKABLE bool enterText(ORVTListview::ListItem *item, qint16 column, const QString &text);
 
     // Where the steps of undo go: a stack of its own, or the host's, which several lists
@@ -105,7 +110,8 @@ Q_SIGNALS:
     // Before a text is taken that fits the rule: a changed text is taken in its place, a
     // refusal, a sentence, refuses it. It is shown at the cell, whose editor opens again
     // with what was typed. For several cells at once, all are asked for before any is
-    // written, and one refusal refuses all.
+    // written, and one refusal refuses all. What the user enters while it is raised, as when
+    // a receiver waits for somebody else, is asked for afterwards.
     void cellEntering(ORVTListview::ListItem *item, qint16 column, QString &text, QString &refusal);
 
     // The user has changed cells, undo and redo included; one signal for all of them.
