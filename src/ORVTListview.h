@@ -2,6 +2,9 @@
 
 // All of the library.
 
+#include <ORVTListview/CellChange.h>
+#include <ORVTListview/CellRefusal.h>
+#include <ORVTListview/CellRule.h>
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/Colour.h>
 #include <ORVTListview/ColumnHeader.h>
@@ -18,6 +21,7 @@
 #include <ORVTListview/KeyedCollection.h>
 #include <ORVTListview/LateCall.h>
 #include <ORVTListview/LibraryTexts.h>
+#include <ORVTListview/ListGrid.h>
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/MemberTable.h>

@@ -415,6 +415,88 @@
         <translation>Ungültige Farbe %1 für den Programmeditor!</translation>
     </message>
     <message>
+        <source>Yes</source>
+        <extracomment>The content of a cell of yes or no</extracomment>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <extracomment>The content of a cell of yes or no</extracomment>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>This cell cannot be edited.</source>
+        <translation>Diese Zelle kann nicht bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>This cell must not be empty.</source>
+        <translation>Diese Zelle darf nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>Characters at most: %1.</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation>Zeichen höchstens: %1.</translation>
+    </message>
+    <message>
+        <source>This text does not fit here.</source>
+        <translation>Dieser Text passt hier nicht.</translation>
+    </message>
+    <message>
+        <source>This is not a number.</source>
+        <translation>Das ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Only a whole number fits here.</source>
+        <translation>Hier passt nur eine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>Decimals at most: %1.</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation>Nachkommastellen höchstens: %1.</translation>
+    </message>
+    <message>
+        <source>The number must not be below %1.</source>
+        <extracomment>%1 is a number with its unit</extracomment>
+        <translation>Die Zahl darf nicht kleiner als %1 sein.</translation>
+    </message>
+    <message>
+        <source>The number must not be above %1.</source>
+        <extracomment>%1 is a number with its unit</extracomment>
+        <translation>Die Zahl darf nicht größer als %1 sein.</translation>
+    </message>
+    <message>
+        <source>This is not in the list.</source>
+        <translation>Das steht nicht in der Liste.</translation>
+    </message>
+    <message>
+        <source>This is neither %1 nor %2.</source>
+        <extracomment>%1 and %2 are the words for yes and no</extracomment>
+        <translation>Das ist weder %1 noch %2.</translation>
+    </message>
+    <message>
+        <source>There is no point of this name.</source>
+        <translation>Es gibt keinen Punkt dieses Namens.</translation>
+    </message>
+    <message>
+        <source>There is not enough room here.</source>
+        <translation>Hier ist nicht genug Platz.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <extracomment>Behind a list of cells: so many are not listed</extracomment>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Edit Cell</source>
+        <extracomment>A step of undo</extracomment>
+        <translation>Zelle bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit Cells</source>
+        <extracomment>A step of undo: several cells at once</extracomment>
+        <translation>Zellen bearbeiten</translation>
+    </message>
+    <message>
         <source>The undo snapshot&apos;s selection is not a number</source>
         <translation>Beschädigter Undo-Schritt: Die Auswahl ist keine Zahl</translation>
     </message>

@@ -415,6 +415,88 @@
         <translation>¡Color %1 no válido para el editor de programas!</translation>
     </message>
     <message>
+        <source>Yes</source>
+        <extracomment>The content of a cell of yes or no</extracomment>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <extracomment>The content of a cell of yes or no</extracomment>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>This cell cannot be edited.</source>
+        <translation>Esta celda no se puede editar.</translation>
+    </message>
+    <message>
+        <source>This cell must not be empty.</source>
+        <translation>Esta celda no debe quedar vacía.</translation>
+    </message>
+    <message>
+        <source>Characters at most: %1.</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation>Caracteres como máximo: %1.</translation>
+    </message>
+    <message>
+        <source>This text does not fit here.</source>
+        <translation>Este texto no es adecuado aquí.</translation>
+    </message>
+    <message>
+        <source>This is not a number.</source>
+        <translation>Esto no es un número.</translation>
+    </message>
+    <message>
+        <source>Only a whole number fits here.</source>
+        <translation>Aquí solo cabe un número entero.</translation>
+    </message>
+    <message>
+        <source>Decimals at most: %1.</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation>Decimales como máximo: %1.</translation>
+    </message>
+    <message>
+        <source>The number must not be below %1.</source>
+        <extracomment>%1 is a number with its unit</extracomment>
+        <translation>El número no debe ser menor que %1.</translation>
+    </message>
+    <message>
+        <source>The number must not be above %1.</source>
+        <extracomment>%1 is a number with its unit</extracomment>
+        <translation>El número no debe ser mayor que %1.</translation>
+    </message>
+    <message>
+        <source>This is not in the list.</source>
+        <translation>Esto no está en la lista.</translation>
+    </message>
+    <message>
+        <source>This is neither %1 nor %2.</source>
+        <extracomment>%1 and %2 are the words for yes and no</extracomment>
+        <translation>Esto no es ni %1 ni %2.</translation>
+    </message>
+    <message>
+        <source>There is no point of this name.</source>
+        <translation>No hay ningún punto con este nombre.</translation>
+    </message>
+    <message>
+        <source>There is not enough room here.</source>
+        <translation>Aquí no hay espacio suficiente.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <extracomment>Behind a list of cells: so many are not listed</extracomment>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>Edit Cell</source>
+        <extracomment>A step of undo</extracomment>
+        <translation>Editar celda</translation>
+    </message>
+    <message>
+        <source>Edit Cells</source>
+        <extracomment>A step of undo: several cells at once</extracomment>
+        <translation>Editar celdas</translation>
+    </message>
+    <message>
         <source>The undo snapshot&apos;s selection is not a number</source>
         <translation>Paso de deshacer dañado: la selección no es un número</translation>
     </message>

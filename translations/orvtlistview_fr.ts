@@ -415,6 +415,88 @@
         <translation>Couleur %1 non valide pour l’éditeur de programme&#xa0;!</translation>
     </message>
     <message>
+        <source>Yes</source>
+        <extracomment>The content of a cell of yes or no</extracomment>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <extracomment>The content of a cell of yes or no</extracomment>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>This cell cannot be edited.</source>
+        <translation>Cette cellule ne peut pas être modifiée.</translation>
+    </message>
+    <message>
+        <source>This cell must not be empty.</source>
+        <translation>Cette cellule ne doit pas être vide.</translation>
+    </message>
+    <message>
+        <source>Characters at most: %1.</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation>Caractères au plus : %1.</translation>
+    </message>
+    <message>
+        <source>This text does not fit here.</source>
+        <translation>Ce texte ne convient pas ici.</translation>
+    </message>
+    <message>
+        <source>This is not a number.</source>
+        <translation>Ce n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Only a whole number fits here.</source>
+        <translation>Seul un nombre entier convient ici.</translation>
+    </message>
+    <message>
+        <source>Decimals at most: %1.</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation>Décimales au plus : %1.</translation>
+    </message>
+    <message>
+        <source>The number must not be below %1.</source>
+        <extracomment>%1 is a number with its unit</extracomment>
+        <translation>Le nombre ne doit pas être inférieur à %1.</translation>
+    </message>
+    <message>
+        <source>The number must not be above %1.</source>
+        <extracomment>%1 is a number with its unit</extracomment>
+        <translation>Le nombre ne doit pas être supérieur à %1.</translation>
+    </message>
+    <message>
+        <source>This is not in the list.</source>
+        <translation>Cela ne figure pas dans la liste.</translation>
+    </message>
+    <message>
+        <source>This is neither %1 nor %2.</source>
+        <extracomment>%1 and %2 are the words for yes and no</extracomment>
+        <translation>Ce n’est ni %1 ni %2.</translation>
+    </message>
+    <message>
+        <source>There is no point of this name.</source>
+        <translation>Il n’y a aucun point de ce nom.</translation>
+    </message>
+    <message>
+        <source>There is not enough room here.</source>
+        <translation>Il n’y a pas assez de place ici.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <extracomment>Behind a list of cells: so many are not listed</extracomment>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>Edit Cell</source>
+        <extracomment>A step of undo</extracomment>
+        <translation>Modifier la cellule</translation>
+    </message>
+    <message>
+        <source>Edit Cells</source>
+        <extracomment>A step of undo: several cells at once</extracomment>
+        <translation>Modifier des cellules</translation>
+    </message>
+    <message>
         <source>The undo snapshot&apos;s selection is not a number</source>
         <translation>Étape d’annulation endommagée&#xa0;: la sélection n’est pas un nombre</translation>
     </message>

@@ -452,6 +452,10 @@
         <translation>%1 auch im Programm in %2 umbenennen?</translation>
     </message>
     <message>
+        <source>&amp;Edit Cells</source>
+        <translation>&amp;Zellen bearbeiten</translation>
+    </message>
+    <message>
         <source>&amp;Hardware Overrides</source>
         <translation>&amp;Handübersteuerungen</translation>
     </message>
@@ -473,6 +477,13 @@
     <message>
         <source>The program stays, the rest of it without colours</source>
         <translation>Das Programm bleibt, der Rest davon ohne Farben</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointCells</name>
+    <message>
+        <source>This row has no point.</source>
+        <translation>In dieser Zeile ist kein Punkt.</translation>
     </message>
 </context>
 <context>

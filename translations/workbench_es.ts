@@ -452,6 +452,10 @@
         <translation>¿Cambiar también %1 por %2 en el programa?</translation>
     </message>
     <message>
+        <source>&amp;Edit Cells</source>
+        <translation>&amp;Editar celdas</translation>
+    </message>
+    <message>
         <source>&amp;Hardware Overrides</source>
         <translation>&amp;Mandos manuales</translation>
     </message>
@@ -473,6 +477,13 @@
     <message>
         <source>The program stays, the rest of it without colours</source>
         <translation>El programa se queda, el resto sin colores</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointCells</name>
+    <message>
+        <source>This row has no point.</source>
+        <translation>En esta fila no hay ningún punto.</translation>
     </message>
 </context>
 <context>

@@ -452,6 +452,10 @@
         <translation>Renommer aussi %1 en %2 dans le programme&#xa0;?</translation>
     </message>
     <message>
+        <source>&amp;Edit Cells</source>
+        <translation>Modifier les &amp;cellules</translation>
+    </message>
+    <message>
         <source>&amp;Hardware Overrides</source>
         <translation>Forçages &amp;matériels</translation>
     </message>
@@ -473,6 +477,13 @@
     <message>
         <source>The program stays, the rest of it without colours</source>
         <translation>Le programme reste, sa suite sans couleurs</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointCells</name>
+    <message>
+        <source>This row has no point.</source>
+        <translation>Il n’y a aucun point dans cette ligne.</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,7 @@
 #include "LanguageMenu.h"
 #include "Languages.h"
 #include "OpeningProgress.h"
+#include "PointCells.h"
 #include "PointChooser.h"
 #include "PointTables.h"
 #include "PointValues.h"
@@ -122,6 +123,10 @@ void MainWindow::buildPointsMenu()
     rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
     points->addAction(tr("&Fit Columns"), &m_view->tables(), &PointTables::fitColumns);
     points->addSeparator();
+    QAction *cells = points->addAction(tr("&Edit Cells"));
+    cells->setCheckable(true);
+    cells->setChecked(m_view->cells().isOn());
+    connect(cells, &QAction::triggered, &m_view->cells(), &PointCells::setOn);
     QAction *overrides = points->addAction(tr("&Hardware Overrides"));
     overrides->setCheckable(true);
     connect(overrides, &QAction::triggered, &m_view->tables(), &PointTables::setShowsOverrides);
@@ -171,6 +176,7 @@ void MainWindow::connectPoints()
     connect(&m_view->tables(), &PointTables::renamed, m_points, &PointChooser::refill);
     connect(&m_view->tables(), &PointTables::renamed, m_values, &PointValues::takeProject);
     connect(&m_view->tables(), &PointTables::readingFinished, m_values, &PointValues::takeProject);
+    connect(&m_view->cells(), &PointCells::changed, m_values, &PointValues::takeProject);
     connect(&m_view->tables(), &PointTables::renamed, m_saving, &ProgramSaving::noteNewNames);
     connect(&m_view->tables(), &PointTables::renamed, this, &MainWindow::followName);
     connect(&m_view->tables(), &PointTables::refused, this,

@@ -1,5 +1,6 @@
 #include "ProjectView.h"
 
+#include "PointCells.h"
 #include "PointTables.h"
 #include "project/Project.h"
 #include "widgets/box/BoxCommands.h"
@@ -19,6 +20,7 @@ ProjectView::ProjectView(QWidget *parent)
     , m_tree(new ORVTreeview(this))
     , m_list(new ORVListView(this))
     , m_tables(new PointTables(*m_list))
+    , m_cells(new PointCells(*m_list))
 {
     setChildrenCollapsible(false);
     setStretchFactor(1, 1);
@@ -34,6 +36,7 @@ void ProjectView::setProject(Project &project)
 {
     m_project = &project;
     m_tables->setProject(&project);
+    m_cells->setProject(&project);
     m_tree->SetCollectionRenamable(window(), project.points(dsVariable), project.points(dsConst),
                                    project.points(dsInput), project.points(dsOutput),
                                    project.points(dsNvi));
@@ -85,6 +88,7 @@ void ProjectView::retranslate()
 {
     m_tree->ReInitializeStrings();
     m_list->ReInitializeStrings();
+    m_cells->setRules();
     if (m_project && m_list->CurrentType() != dsCode)
         m_tables->fill();
 }

@@ -7,6 +7,7 @@
 
 namespace ORVTListview {
 
+class PointCells;
 class PointTables;
 class Project;
 
@@ -21,6 +22,7 @@ public:
 
     ORVListView &list() const { return *m_list; }
     PointTables &tables() const { return *m_tables; }
+    PointCells &cells() const { return *m_cells; }
 
     // Hands the project's names to the components. The project must live until the
     // next call.
@@ -45,6 +47,7 @@ private:
     ORVTreeview *m_tree;
     ORVListView *m_list;
     PointTables *m_tables;
+    PointCells *m_cells;
     Project *m_project = nullptr;
 };
 

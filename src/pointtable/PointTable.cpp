@@ -16,6 +16,7 @@
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/Error.h>
+#include <ORVTListview/ListGrid.h>
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ReportList.h>
 
@@ -70,6 +71,7 @@ QString PointTable::key() const
 void PointTable::switchTo(LwType type)
 {
     m_type = type;
+    m_list.grid()->setTable(key());
     setCaption(Localise(key()));
     m_read->setPictureKeys(key(), Pictures::pressedKey(key()));
     m_read->setTag(key());

@@ -52,7 +52,7 @@ private Q_SLOTS:
                  "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
                  "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
                  "Program: Analyse, Compile, Results\n"
-                 "Points: Read Values, Rename, Fit Columns, Hardware Overrides\n"
+                 "Points: Read Values, Rename, Fit Columns, Edit Cells, Hardware Overrides\n"
                  "View: Editor, Language"_s);
     }
 

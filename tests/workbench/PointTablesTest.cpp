@@ -188,6 +188,36 @@ private Q_SLOTS:
         QVERIFY(!points.window.isWindowModified());
     }
 
+    void cellsAreEditedOnceThatIsOn()
+    {
+        Points points;
+        points.open(u"Inputs"_s);
+        points.list().setFocus();
+        const auto enter = [&points](int row, int column, const QString &text) {
+            ReportList &list = points.list();
+            list.setCurrentIndex(list.model()->index(row - 1, column));
+            QTest::keyClicks(&list, text.first(1)); // begins
+            if (QWidget *field = list.indexWidget(list.currentIndex())) {
+                QTest::keyClicks(field, text.sliced(1));
+                QTest::keyClick(field, Qt::Key_Return);
+            }
+            QCoreApplication::processEvents();
+        };
+        enter(2, 3, u"7"_s);
+        QCOMPARE(points.cell(2, u"Value"_s), u"3"_s);
+        points.choose(u"Edit Cells"_s);
+        enter(2, 3, u"7"_s);
+        enter(2, 6, u"y"_s);
+        enter(2, 5, u"Frost"_s);
+        points.open(u"Outputs"_s);
+        points.open(u"Inputs"_s);
+        QCOMPARE(points.cell(2, u"Value"_s), u"7"_s);
+        QCOMPARE(points.cell(2, u"Commissioned"_s), u"Yes"_s);
+        QCOMPARE(points.cell(2, u"Description"_s), u"Frost"_s);
+        enter(5, 3, u"1"_s); // has no point
+        QCOMPARE(points.cell(5, u"Value"_s), QString());
+    }
+
     void whatHasNoNameIsNotEdited()
     {
         Points points;

@@ -175,6 +175,36 @@ constexpr LibraryText texts[] = {
     //: %1 is the name of a colour setting, such as BackColor
     {QT_TRANSLATE_NOOP("ORVTListview", "Bad %1 for Editer of Code!"), Message},
 
+    // Cells of tables that users edit
+    //: The content of a cell of yes or no
+    {QT_TRANSLATE_NOOP("ORVTListview", "Yes"), Status},
+    //: The content of a cell of yes or no
+    {QT_TRANSLATE_NOOP("ORVTListview", "No"), Status},
+    {QT_TRANSLATE_NOOP("ORVTListview", "This cell cannot be edited."), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "This cell must not be empty."), Message},
+    //: %1 is a number
+    {QT_TRANSLATE_NOOP("ORVTListview", "Characters at most: %1."), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "This text does not fit here."), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "This is not a number."), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "Only a whole number fits here."), Message},
+    //: %1 is a number
+    {QT_TRANSLATE_NOOP("ORVTListview", "Decimals at most: %1."), Message},
+    //: %1 is a number with its unit
+    {QT_TRANSLATE_NOOP("ORVTListview", "The number must not be below %1."), Message},
+    //: %1 is a number with its unit
+    {QT_TRANSLATE_NOOP("ORVTListview", "The number must not be above %1."), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "This is not in the list."), Message},
+    //: %1 and %2 are the words for yes and no
+    {QT_TRANSLATE_NOOP("ORVTListview", "This is neither %1 nor %2."), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "There is no point of this name."), Message},
+    {QT_TRANSLATE_NOOP("ORVTListview", "There is not enough room here."), Message},
+    //: Behind a list of cells: so many are not listed
+    {QT_TRANSLATE_NOOP("ORVTListview", "and %1 more"), Status},
+    //: A step of undo
+    {QT_TRANSLATE_NOOP("ORVTListview", "Edit Cell"), Menu},
+    //: A step of undo: several cells at once
+    {QT_TRANSLATE_NOOP("ORVTListview", "Edit Cells"), Menu},
+
     // Failures of undo and redo
     {QT_TRANSLATE_NOOP("ORVTListview", "The undo snapshot's selection is not a number"), Message},
     {QT_TRANSLATE_NOOP("ORVTListview", "The undo snapshot's selection is too large a number"),

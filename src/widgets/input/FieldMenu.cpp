@@ -6,6 +6,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QGuiApplication>
+#include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
@@ -53,9 +54,10 @@ FieldMenu::FieldMenu(QLineEdit &field)
     , m_field(field)
 {
     field.installEventFilter(this);
-    // A combo box keeps the event from its field, and hands it on past all filters.
-    if (auto *combo = qobject_cast<QComboBox *>(field.parent()))
-        combo->installEventFilter(this);
+    // Boxes keep the event from their field, or hand it on past all filters.
+    QObject *box = field.parent();
+    if (qobject_cast<QComboBox *>(box) || qobject_cast<QAbstractSpinBox *>(box))
+        box->installEventFilter(this);
 }
 
 void FieldMenu::installOn(QLineEdit &field)

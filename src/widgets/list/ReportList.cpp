@@ -30,6 +30,7 @@ ReportList::ReportList(QWidget *parent)
     QTableView::setModel(&d->model);
     const std::unique_ptr<QItemSelectionModel> itsOwn(selectionModel());
     setSelectionModel(&d->rowChoice.selection());
+    d->makeGrid();
     setUpLook();
     setUpConnections();
 }
@@ -90,9 +91,17 @@ void ReportList::setUpConnections()
     });
     connect(&d->model, &ReportModel::checkedByUser, this,
             [this](int position) { d->checkedItem = itemOf(position); });
-    connect(
-        &d->delegate, &ReportDelegate::labelEntered, this,
-        [this](const QModelIndex &label, const QString &text) { noteLabel(*itemOf(label), text); });
+    connect(&d->delegate, &ReportDelegate::labelEntered, this,
+            [this](const QModelIndex &label, const QString &text) {
+                if (d->gridParts().edit.isOpenAt(label))
+                    d->gridParts().edit.enterSoon(text);
+                else
+                    noteLabel(*itemOf(label), text);
+            });
+    d->gridParts().edit.setPick([this](const std::function<void()> &act) { pick(act); });
+    d->model.setEntry([this](const QModelIndex &cell, const QString &text) {
+        return d->grid->enterText(itemOf(cell), static_cast<qint16>(cell.column()), text);
+    });
     connect(&d->clicks.slow(), &SlowClick::clicked, this, &ReportList::StartLabelEdit);
     d->surface.drag().setContent([this](QMimeData &rows) {
         const QList<int> positions = d->rowChoice.selectedPositions();
@@ -170,7 +179,7 @@ ListItem *ReportList::itemOf(int position) const
 
 ListItem *ReportList::itemOf(const QModelIndex &index) const
 {
-    return itemOf(index.row());
+    return index.isValid() ? itemOf(&d->model.rowAt(index)) : nullptr;
 }
 
 ListItem *ReportList::GetFirstVisible() const
@@ -247,6 +256,11 @@ qint32 ReportList::GetSubItemWidth(qint16 Index) const
     if (Index < 0 || Index >= d->model.columns())
         return 0;
     return static_cast<qint32>(std::nearbyint(d->widths.width(Index)));
+}
+
+ListGrid *ReportList::grid() const
+{
+    return d->grid.get();
 }
 
 void ReportList::setPictureProvider(PictureProvider provider)

@@ -36,6 +36,9 @@ bool ReportList::event(QEvent *event)
     return EventGuard::run([this, event] {
         const QEvent::Type type = event->type();
         const QPointer<ReportList> self(this);
+        if (type == QEvent::InputMethod && d && state() != EditingState &&
+            d->gridParts().keys.compose(*static_cast<QInputMethodEvent *>(event)))
+            return true;
         const bool handled = QTableView::event(event);
         if (!self)
             return handled;
@@ -113,6 +116,8 @@ void ReportList::keyReleaseEvent(QKeyEvent *event)
 void ReportList::act(QKeyEvent &event)
 {
     d->rowChoice.settle();
+    if ((d->copies || !GridKeys::isCopying(event)) && d->gridParts().keys.act(event))
+        return;
     if (event.matches(QKeySequence::Copy) && !d->copies)
         event.ignore();
     else if (!runCommand(event))
@@ -175,6 +180,7 @@ void ReportList::toggleCurrent()
 bool ReportList::isChosenLabel(const QModelIndex &index) const
 {
     return d->editsLabels && index.isValid() && index.column() == labelColumn() &&
+           !d->gridParts().rules.isEdited(index.column()) &&
            d->rowChoice.selectedPositions() == QList<int>{index.row()};
 }
 
@@ -231,8 +237,12 @@ void ReportList::raiseItemCheck()
 void ReportList::mouseDoubleClickEvent(QMouseEvent *event)
 {
     d->clicks.doubleClick();
-    if (event->button() != Qt::LeftButton || raiseEvent(*this, &ReportList::DblClick))
-        QTableView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && !raiseEvent(*this, &ReportList::DblClick))
+        return;
+    const QPointer<ReportList> self(this);
+    QTableView::mouseDoubleClickEvent(event);
+    if (self && event->button() == Qt::LeftButton)
+        d->gridParts().edit.open(indexAt(event->position().toPoint()));
 }
 
 // The view cannot bear to be destroyed within this call, so the drag comes later.

@@ -54,6 +54,7 @@ void ReportList::setLabelColumn(qint16 Index)
 
 void ReportList::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
+    d->gridParts().edit.closed();
     QTableView::closeEditor(editor, LabelEdit::withoutNext(hint));
 }
 

@@ -38,7 +38,7 @@ QVariant ReportModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    const ReportRow &held = row(index.row());
+    const ReportRow &held = rowAt(index);
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
@@ -63,9 +63,13 @@ QVariant ReportModel::data(const QModelIndex &index, int role) const
 // Only views come this way; what the program changes has functions of its own.
 bool ReportModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!index.isValid() || index.column() != 0)
+    if (!index.isValid())
         return false;
-    ReportRow &held = row(index.row());
+    if (role == Qt::EditRole && column(index.column()).isEdited && m_entry)
+        return m_entry(index, value.toString());
+    if (index.column() != 0)
+        return false;
+    ReportRow &held = rowAt(index);
     if (role == Qt::EditRole) {
         setText(held, value.toString());
         return true;
@@ -95,7 +99,7 @@ Qt::ItemFlags ReportModel::flags(const QModelIndex &index) const
         return Qt::NoItemFlags;
     Qt::ItemFlags flags =
         Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
-    if (index.column() == labelColumn())
+    if (index.column() == labelColumn() || column(index.column()).isEdited)
         flags |= Qt::ItemIsEditable;
     if (index.column() == 0 && m_checkBoxes)
         flags |= Qt::ItemIsUserCheckable;

@@ -40,6 +40,13 @@ public:
     ReportRow &row(int position) const { return *m_rows[static_cast<std::size_t>(position)]; }
     ReportRow *find(const QString &key) const;
     int positionOf(const ReportRow &row) const;
+
+    // The one way from a place in the views to its row and back.
+    ReportRow &rowAt(const QModelIndex &place) const { return row(place.row()); }
+    QModelIndex indexOf(const ReportRow &row, int column) const
+    {
+        return index(positionOf(row), column);
+    }
     ReportRow &addRow(int position, RowContent content);
     void deleteRow(int position);
 
@@ -84,6 +91,10 @@ public:
     // The column whose cells can be edited; 0 while the one that was set is not there.
     int labelColumn() const { return m_labelColumn < columns() ? m_labelColumn : 0; }
     void setLabelColumn(int column) { m_labelColumn = column; }
+    // What takes a text that a view sets in a column that users edit: screen readers do.
+    using Entry = std::function<bool(const QModelIndex &cell, const QString &text)>;
+    void setEntry(const Entry &entry) { m_entry = entry; }
+
     void setPictureProvider(PictureProvider provider);
     QIcon pictureOf(const ReportRow &row) const;
 
@@ -104,6 +115,7 @@ private:
     Keys m_keys;
     std::vector<std::unique_ptr<ReportColumn>> m_columns;
     PictureProvider m_pictures;
+    Entry m_entry;
     bool m_checkBoxes = false;
     int m_labelColumn = 0;
 };

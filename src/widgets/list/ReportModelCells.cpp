@@ -29,7 +29,7 @@ void ReportModel::touch(const ReportRow &row, int column, const QList<int> &role
 {
     if (column >= columns())
         return;
-    const QModelIndex changed = index(positionOf(row), column);
+    const QModelIndex changed = indexOf(row, column);
     Q_EMIT dataChanged(changed, changed, roles);
 }
 
@@ -88,8 +88,7 @@ void ReportModel::setForeground(ReportRow &row, const QColor &colour)
     row.content.foreground = colour;
     if (columns() == 0)
         return;
-    const int position = positionOf(row);
-    Q_EMIT dataChanged(index(position, 0), index(position, columns() - 1), {Qt::ForegroundRole});
+    Q_EMIT dataChanged(indexOf(row, 0), indexOf(row, columns() - 1), {Qt::ForegroundRole});
 }
 
 void ReportModel::setChecked(ReportRow &row, bool checked)

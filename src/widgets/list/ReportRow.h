@@ -31,6 +31,7 @@ struct ReportColumn
     QString key;
     QString text;
     Qt::Alignment alignment;
+    bool isEdited = false; // by users, cell by cell
     HandedOut *handle = nullptr;
 };
 

@@ -82,6 +82,13 @@ void RowChoice::setMultiple(bool multiple)
         select(kept);
 }
 
+void RowChoice::setByCells(bool on)
+{
+    m_view.setSelectionBehavior(on ? QAbstractItemView::SelectItems
+                                   : QAbstractItemView::SelectRows);
+    m_selection.setByCells(on);
+}
+
 void RowChoice::ensureVisible(const ReportRow &row)
 {
     m_scroll.ensureVisible(m_model.index(m_model.positionOf(row), 0));

@@ -43,6 +43,10 @@ public:
     bool isMultiple() const;
     void setMultiple(bool multiple);
 
+    // Whether the user selects cells; a row counts as selected with any of them.
+    bool isByCells() const { return m_selection.isByCells(); }
+    void setByCells(bool on);
+
     // A hidden view catches up when it is shown.
     void ensureVisible(const ReportRow &row);
     void viewShown();

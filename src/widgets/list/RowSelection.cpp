@@ -25,7 +25,10 @@ RowSelection::RowSelection(ReportModel &model)
                 for (int position = first; position <= last && m_count > 0; ++position)
                     note(m_model.row(position), false);
             });
-    connect(&model, &ReportModel::columnsInserted, this, &RowSelection::settleSoon);
+    connect(&model, &ReportModel::columnsInserted, this, [this] {
+        if (!m_isByCells) // whole rows have the new one, too
+            settleSoon();
+    });
     connect(&model, &ReportModel::columnsRemoved, this, [this] {
         if (m_model.columns() == 0)
             noteNone();
@@ -59,25 +62,48 @@ void RowSelection::note(const QItemSelection &changed, bool selected)
     }
 }
 
+void RowSelection::noteTouched(const QItemSelection &changed)
+{
+    for (const QItemSelectionRange &range : changed) {
+        for (int position = range.top(); position <= range.bottom(); ++position)
+            note(m_model.row(position), rowIntersectsSelection(position));
+    }
+}
+
 void RowSelection::noteChange(const QItemSelection &selected, const QItemSelection &deselected)
 {
     if (m_isSettling)
         return;
+    if (m_isByCells) {
+        noteTouched(deselected);
+        noteTouched(selected);
+        return;
+    }
     note(deselected, false);
     note(selected, true);
 }
 
 void RowSelection::setSelected(ReportRow &row, bool selected)
 {
-    if (row.selected == selected || m_model.columns() == 0)
+    const bool isPart = m_isByCells && row.selected && selected; // the whole row is meant
+    if ((row.selected == selected && !isPart) || m_model.columns() == 0)
         return;
-    if (!m_lagsBehind && m_count < few) {
+    if (isPart || (!m_lagsBehind && m_count < few)) {
         const int position = m_model.positionOf(row);
         select(rowsFrom(position, position), selected ? Select : Deselect);
         return;
     }
     note(row, selected);
     settleSoon();
+}
+
+// Rows stay selected, as a whole.
+void RowSelection::setByCells(bool on)
+{
+    settle();
+    m_isByCells = on;
+    if (!on && m_count > 0 && m_model.columns() > 0)
+        select(ranges(), ClearAndSelect);
 }
 
 QList<int> RowSelection::positions(int most) const
@@ -104,9 +130,10 @@ void RowSelection::settle()
 {
     if (!std::exchange(m_lagsBehind, false))
         return;
+    const QItemSelection wanted = m_isByCells ? rangesOfCells() : ranges();
     const QScopedValueRollback settling(m_isSettling, true);
     QItemSelectionModel::select(QItemSelection(), Clear);
-    QItemSelectionModel::select(ranges(), Select);
+    QItemSelectionModel::select(wanted, Select);
 }
 
 QItemSelection RowSelection::rowsFrom(int first, int last) const
@@ -125,6 +152,22 @@ QItemSelection RowSelection::ranges() const
         ranges += rowsFrom(chosen.at(first), chosen.at(last));
     }
     return ranges;
+}
+
+// What is selected in rows that stay so, and the whole of those that have come to it.
+QItemSelection RowSelection::rangesOfCells() const
+{
+    QItemSelection wanted;
+    for (const int position : positions()) {
+        const bool isNew = !rowIntersectsSelection(position);
+        for (const QItemSelectionRange &range :
+             isNew ? rowsFrom(position, position) : selection()) {
+            if (range.top() <= position && position <= range.bottom())
+                wanted.append(QItemSelectionRange(m_model.index(position, range.left()),
+                                                  m_model.index(position, range.right())));
+        }
+    }
+    return wanted;
 }
 
 void RowSelection::select(const QItemSelection &selection, SelectionFlags command)

@@ -28,6 +28,10 @@ public:
     // In ascending order; no more than so many.
     QList<int> positions(int most = std::numeric_limits<int>::max()) const;
 
+    // Whether parts of rows can be selected: then a row is when one of its cells is.
+    bool isByCells() const { return m_isByCells; }
+    void setByCells(bool on);
+
     // Lets the ranges catch up.
     void settle();
 
@@ -39,15 +43,18 @@ private:
     void note(ReportRow &row, bool selected);
     void noteNone();
     void note(const QItemSelection &changed, bool selected);
+    void noteTouched(const QItemSelection &changed);
     void noteChange(const QItemSelection &selected, const QItemSelection &deselected);
     void settleSoon();
     QItemSelection rowsFrom(int first, int last) const;
     QItemSelection ranges() const;
+    QItemSelection rangesOfCells() const;
 
     ReportModel &m_model;
     int m_count = 0;
     bool m_lagsBehind = false; // the ranges do
     bool m_isSettling = false;
+    bool m_isByCells = false;
 };
 
 } // namespace ORVTListview

@@ -59,6 +59,9 @@ public:
     // That of the label that is being entered; the view may name another one meanwhile.
     int enteredColumn() const { return m_enteredColumn; }
 
+    // The editor is being closed while this is called: tells as events are told.
+    void tellSoon(const std::function<void()> &tell);
+
     // Whether the press at hand has closed an editor.
     bool wasClosedByPress() const { return m_wasClosedByPress; }
 
@@ -76,7 +79,6 @@ protected:
 private:
     QWidget *editor() const;
     void closeFor(const QObject &receiver, const QEvent &event);
-    void tellSoon(const std::function<void()> &tell);
     void tellNow();
     void watchTheUser();
 

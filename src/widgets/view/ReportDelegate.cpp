@@ -3,6 +3,7 @@
 #include "widgets/input/FieldMenu.h"
 #include "widgets/look/CellText.h"
 
+#include <QtCore/QMetaProperty>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QLineEdit>
@@ -44,6 +45,8 @@ void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
 QWidget *ReportDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                       const QModelIndex &index) const
 {
+    if (QWidget *made = m_maker ? m_maker(parent, index) : nullptr)
+        return made;
     QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
     if (auto *line = qobject_cast<QLineEdit *>(editor)) {
         FieldMenu::installOn(*line);
@@ -61,7 +64,13 @@ QString ReportDelegate::displayText(const QVariant &value, const QLocale &) cons
 void ReportDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
     auto *line = qobject_cast<QLineEdit *>(editor);
-    if (!line || line->isModified() || line->text() == index.data(Qt::EditRole).toString())
+    if (!line) // or the one in it
+        line = editor->findChild<QLineEdit *>();
+    if (!line) {
+        QStyledItemDelegate::setEditorData(editor, index);
+        return;
+    }
+    if (line->isModified() || line->text() == index.data(Qt::EditRole).toString())
         return;
     const bool isAllSelected = line->selectedText() == line->text();
     QStyledItemDelegate::setEditorData(editor, index);
@@ -78,8 +87,24 @@ void ReportDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelI
 void ReportDelegate::setModelData(QWidget *editor, QAbstractItemModel *,
                                   const QModelIndex &index) const
 {
-    if (const auto *line = qobject_cast<QLineEdit *>(editor))
-        Q_EMIT labelEntered(index, line->text());
+    const QMetaProperty entered = editor->metaObject()->userProperty();
+    if (entered.isValid())
+        Q_EMIT labelEntered(index, entered.read(editor).toString());
+}
+
+// What has a button beside its field needs the room for both.
+void ReportDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                          const QModelIndex &index) const
+{
+    QStyledItemDelegate::updateEditorGeometry(editor, option, index);
+    if (qobject_cast<QLineEdit *>(editor))
+        return;
+    QRect place = option.rect;
+    const int wider = editor->minimumSizeHint().width() - place.width();
+    if (wider > 0)
+        place.adjust(option.direction == Qt::RightToLeft ? -wider : 0, 0,
+                     option.direction == Qt::RightToLeft ? 0 : wider, 0);
+    editor->setGeometry(place);
 }
 
 void ReportDelegate::finish(QWidget &editor)

@@ -2,6 +2,8 @@
 
 #include <QtWidgets/QStyledItemDelegate>
 
+#include <functional>
+
 namespace ORVTListview {
 
 // Draws the cells of a list or a tree by the style, each on one line, and hands the
@@ -13,7 +15,12 @@ class ReportDelegate final : public QStyledItemDelegate
     Q_OBJECT
 
 public:
+    // An editor for a cell, whose text is its user property; null for a plain field.
+    using EditorMaker = std::function<QWidget *(QWidget *parent, const QModelIndex &index)>;
+
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void setEditorMaker(const EditorMaker &maker) { m_maker = maker; }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
@@ -23,6 +30,8 @@ public:
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;
+    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                              const QModelIndex &index) const override;
 
     // Enters what is in an editor, and closes it.
     void finish(QWidget &editor);
@@ -36,6 +45,9 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
+private:
+    EditorMaker m_maker;
 };
 
 } // namespace ORVTListview

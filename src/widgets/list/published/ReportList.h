@@ -15,6 +15,7 @@
 namespace ORVTListview {
 
 class ColumnHeaders;
+class ListGrid;
 class ListItems;
 struct ReportListBody;
 struct ReportRow;
@@ -123,6 +124,9 @@ public:
     // The width in twips of the column at Index, here counted from 0, as a whole
     // number (a half goes to the even one); 0 for an index outside the columns.
     qint32 GetSubItemWidth(qint16 Index) const;
+
+    // The cells as a grid that users edit, off at first. It lives as long as the list.
+    ListGrid *grid() const;
 
     void setPictureProvider(PictureProvider provider);
 

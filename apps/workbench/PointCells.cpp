@@ -1,0 +1,117 @@
+#include "PointCells.h"
+
+#include "PointTables.h"
+#include "project/Project.h"
+#include "project/ProjectColumns.h"
+#include "shared/points/DisplayNames.h"
+
+#include <ORVTListview/ListGrid.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ReportList.h>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// As the project has such a cell.
+QVariant projectCell(const QString &text, CellKind kind, const CellRule &rule)
+{
+    if (text.isEmpty())
+        return {};
+    if (kind == CellKind::YesNo)
+        return text == rule.choices.value(0);
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    const bool isValue = kind == CellKind::Number || kind == CellKind::Value;
+    return isValue && isNumber ? QVariant(number) : QVariant(text);
+}
+
+} // namespace
+
+PointCells::PointCells(ORVListView &list)
+    : QObject(&list)
+    , m_list(list)
+    , m_grid(*list.listView()->grid())
+{
+    m_grid.setPointNames([this] { return names(); });
+    connect(&m_grid, &ListGrid::cellEntering, this,
+            [this](const ListItem *item, qint16, const QString &, QString &refusal) {
+                answer(*item, refusal);
+            });
+    connect(&m_grid, &ListGrid::cellsChanged, this, &PointCells::take);
+}
+
+bool PointCells::isOn() const
+{
+    return m_grid.editsCells();
+}
+
+void PointCells::setOn(bool on)
+{
+    setRules();
+    m_grid.setEditsCells(on);
+    m_grid.setSelectsCells(on);
+    m_list.setMultiSelect(on);
+}
+
+void PointCells::setRules()
+{
+    m_grid.useReadyRules();
+    for (const LwType type : projectTypes()) {
+        const QString table = displayName(type);
+        QHash<QString, CellRule> rules = m_grid.rules(table);
+        for (const ProjectColumn &column : projectColumns(type)) {
+            if (column.kind == CellKind::Name)
+                rules.remove(column.key);
+            else if (column.kind == CellKind::YesNo)
+                rules[column.key].choices = {PointTables::tr("Yes"), PointTables::tr("No")};
+        }
+        m_grid.setRules(table, rules);
+    }
+}
+
+// -1 for a row without a point.
+qsizetype PointCells::pointOf(const ListItem &item) const
+{
+    const bool isPoint = m_project && item.Index() <= m_project->rows(m_list.CurrentType()).size();
+    return isPoint ? item.Index() - 1 : -1;
+}
+
+void PointCells::answer(const ListItem &item, QString &refusal) const
+{
+    if (pointOf(item) < 0)
+        refusal = tr("This row has no point.");
+}
+
+void PointCells::take(const QList<CellChange> &changes)
+{
+    const LwType type = m_list.CurrentType();
+    for (const CellChange &change : changes) {
+        const qsizetype row = pointOf(*change.item);
+        const qsizetype column = change.column - 1;
+        if (row < 0 || column < 0 || column >= projectColumns(type).size())
+            continue;
+        m_project->setCell(type, row, column,
+                           projectCell(change.text, projectColumns(type).at(column).kind,
+                                       m_grid.rule(change.column)));
+    }
+    Q_EMIT changed();
+}
+
+QStringList PointCells::names() const
+{
+    QStringList names;
+    for (const LwType type : projectTypes()) {
+        for (const ProjectRow &row : m_project ? m_project->rows(type) : QList<ProjectRow>()) {
+            if (isVocabularyType(type) && !row.name.isEmpty())
+                names.append(row.name);
+        }
+    }
+    names.sort(Qt::CaseInsensitive);
+    return names;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,97 @@
+#include "grid/rules/RowFilter.h"
+
+#include "grid/rules/NaturalOrder.h"
+
+#include <QtCore/QStringMatcher>
+
+#include <algorithm>
+#include <vector>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isBlank(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
+}
+
+// A filter made ready to look at many rows.
+class ReadyFilter
+{
+public:
+    explicit ReadyFilter(const CellFilter &filter)
+        : m_filter(filter)
+        , m_matcher(filter.text, Qt::CaseInsensitive)
+        , m_key(filter.text)
+    {
+    }
+
+    bool passes(int row, const QList<int> &columns, const CellTexts &texts) const
+    {
+        if (m_filter.column != CellFilter::anyColumn)
+            return passesCell(texts(row, m_filter.column));
+        return std::any_of(columns.cbegin(), columns.cend(),
+                           [&](int column) { return passesCell(texts(row, column)); });
+    }
+
+private:
+    bool passesCell(const QString &text) const
+    {
+        switch (m_filter.way) {
+        case CellFilter::Contains:
+            return m_matcher.indexIn(text) >= 0;
+        case CellFilter::Differs:
+            return text != m_filter.text && !NaturalKey::isSame(NaturalKey(text), m_key);
+        case CellFilter::IsEmpty:
+            return isBlank(text);
+        case CellFilter::IsNotEmpty:
+            return !isBlank(text);
+        }
+        return true;
+    }
+
+    CellFilter m_filter;
+    QStringMatcher m_matcher;
+    NaturalKey m_key;
+};
+
+} // namespace
+
+CellFilter typedFilter(const QString &typed, int column)
+{
+    const QString text = typed.trimmed();
+    if (column == CellFilter::anyColumn)
+        return {column, CellFilter::Contains, text};
+    if (text == u"="_s)
+        return {column, CellFilter::IsEmpty, QString()};
+    if (text == u"<>"_s)
+        return {column, CellFilter::IsNotEmpty, QString()};
+    if (text.startsWith(u"<>"_s))
+        return {column, CellFilter::Differs, text.sliced(2).trimmed()};
+    return {column, CellFilter::Contains, text};
+}
+
+QList<int> filteredRows(int rows, const QList<int> &columns, const QList<CellFilter> &filters,
+                        const CellTexts &texts)
+{
+    std::vector<ReadyFilter> ready;
+    for (const CellFilter &filter : filters) {
+        if (filter.way != CellFilter::Contains || !filter.text.isEmpty())
+            ready.emplace_back(filter);
+    }
+    QList<int> passed;
+    passed.reserve(rows);
+    for (int row = 0; row < rows; ++row) {
+        const bool passes = std::all_of(ready.cbegin(), ready.cend(), [&](const ReadyFilter &each) {
+            return each.passes(row, columns, texts);
+        });
+        if (passes)
+            passed.append(row);
+    }
+    return passed;
+}
+
+} // namespace ORVTListview

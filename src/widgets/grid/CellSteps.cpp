@@ -1,0 +1,183 @@
+#include "widgets/grid/CellSteps.h"
+
+#include "base/EventGuard.h"
+#include "base/ThreadState.h"
+#include "shared/texts/TextTable.h"
+#include "widgets/grid/CellWriter.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QMetaObject>
+#include <QtGui/QUndoCommand>
+#include <QtGui/QUndoStack>
+
+#include <functional>
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The stacks that are within a step or a push, with what is to come when that is over:
+// a stack bears no push by those whom it tells.
+struct StacksInUse
+{
+    struct Later
+    {
+        QPointer<QObject> context;
+        std::function<void()> act;
+    };
+
+    QHash<const QUndoStack *, QList<Later>> later;
+};
+
+class StackUse
+{
+public:
+    explicit StackUse(const QUndoStack *stack)
+        : m_stack(stack)
+        , m_isOutermost(!isUsed(stack))
+    {
+        if (m_isOutermost)
+            threadPart<StacksInUse>().later.insert(stack, {});
+    }
+    ~StackUse()
+    {
+        if (!m_isOutermost)
+            return;
+        for (const StacksInUse::Later &each : threadPart<StacksInUse>().later.take(m_stack)) {
+            if (each.context)
+                QMetaObject::invokeMethod(each.context.data(), each.act, Qt::QueuedConnection);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(StackUse) // lasts for a block
+
+    static bool isUsed(const QUndoStack *stack)
+    {
+        return threadPart<StacksInUse>().later.contains(stack);
+    }
+    static void afterwards(const QUndoStack *stack, const StacksInUse::Later &later)
+    {
+        threadPart<StacksInUse>().later[stack].append(later);
+    }
+
+private:
+    const QUndoStack *const m_stack;
+    const bool m_isOutermost;
+};
+
+class CellStep final : public QUndoCommand
+{
+public:
+    CellStep(CellWriter &writer, const QList<CellChange> &changes, const QUndoStack &stack)
+        : QUndoCommand(Localise(changes.size() == 1 ? u"Edit Cell"_s : u"Edit Cells"_s))
+        , m_writer(&writer)
+        , m_changes(changes)
+        , m_stack(&stack)
+    {
+    }
+
+    void undo() override { step(&CellWriter::revert); }
+
+    // The first time it is done already.
+    void redo() override
+    {
+        if (!std::exchange(m_isFirst, false))
+            step(&CellWriter::repeat);
+    }
+
+private:
+    void step(bool (CellWriter::*change)(const QList<CellChange> &))
+    {
+        const StackUse use(m_stack);
+        setObsolete(!m_writer || !(m_writer.data()->*change)(m_changes));
+    }
+
+    const QPointer<CellWriter> m_writer;
+    const QList<CellChange> m_changes;
+    const QUndoStack *const m_stack; // which owns it
+    bool m_isFirst = true;
+};
+
+} // namespace
+
+CellSteps::CellSteps(CellWriter &writer)
+    : m_writer(writer)
+{
+    writer.setKeeper([this](const QList<CellChange> &changes) {
+        m_unkept.enqueue(changes);
+        keep();
+    });
+}
+
+CellSteps::~CellSteps()
+{
+    if (StackUse::isUsed(m_own)) // it is what has led here
+        m_own->deleteLater();
+    else
+        delete m_own.data();
+}
+
+// One push after the other, each of which may end the list.
+void CellSteps::keep()
+{
+    const QPointer<CellWriter> alive(&m_writer);
+    while (alive && !m_unkept.isEmpty()) {
+        QUndoStack &to = stack();
+        if (StackUse::isUsed(&to)) {
+            StackUse::afterwards(&to, {&m_writer, [this] { keep(); }});
+            return;
+        }
+        const StackUse use(&to);
+        EventGuard::run([&] { // whom the stack tells may throw
+            to.push(new CellStep(m_writer, m_unkept.dequeue(), to));
+            return true;
+        });
+    }
+}
+
+QUndoStack &CellSteps::stack()
+{
+    if (m_host)
+        return *m_host;
+    if (!m_own)
+        m_own = new QUndoStack;
+    return *m_own;
+}
+
+void CellSteps::setStack(QUndoStack *host)
+{
+    m_host = host;
+}
+
+void CellSteps::undo()
+{
+    step(&QUndoStack::undo);
+}
+
+void CellSteps::redo()
+{
+    step(&QUndoStack::redo);
+}
+
+void CellSteps::step(void (QUndoStack::*act)())
+{
+    const QPointer<CellWriter> alive(&m_writer);
+    keep();
+    if (alive && !StackUse::isUsed(&stack())) {
+        const StackUse use(&stack());
+        (stack().*act)();
+    }
+    if (alive)
+        keep();
+}
+
+void CellSteps::forget()
+{
+    m_unkept.clear();
+    if (m_own && !StackUse::isUsed(m_own))
+        m_own->clear();
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,139 @@
+#include "widgets/grid/CellWriter.h"
+
+#include "grid/rules/CellRules.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QScopeGuard>
+
+namespace ORVTListview {
+
+CellWriter::CellWriter(CellTable &table, const GridRules &rules)
+    : m_table(table)
+    , m_rules(rules)
+{
+}
+
+bool CellWriter::isThere(const CellEntry &entry) const
+{
+    return m_table.placeOf(entry.item, entry.column).isValid();
+}
+
+// By the rule first, which may write the text in another way; then by the host.
+QString CellWriter::refusalOf(CellEntry &entry, const CellRule &rule)
+{
+    const CellAnswer answer = checkedCell(rule, entry.text, QLocale());
+    if (!answer.isTaken())
+        return answer.refusal;
+    entry.text = answer.text;
+    QString refusal;
+    if (m_table.text(*entry.item, entry.column) != entry.text && m_host.ask)
+        m_host.ask(entry.item, entry.column, entry.text, refusal);
+    return refusal;
+}
+
+// Asking a host for names, once for each column.
+CellRule CellWriter::ruleOf(int column, QHash<int, CellRule> &known) const
+{
+    if (!known.contains(column))
+        known.insert(column, m_rules.isEdited(column) ? m_rules.completeRule(column) : CellRule());
+    return known.value(column);
+}
+
+std::optional<QList<CellRefusal>> CellWriter::enter(const QList<CellEntry> &entries)
+{
+    if (m_isAsking)
+        return std::nullopt;
+    const QPointer<CellWriter> self(this);
+    QList<CellEntry> wanted = entries;
+    const QList<CellRefusal> refusals = ask(wanted);
+    if (!self)
+        return std::nullopt;
+    if (!refusals.isEmpty())
+        return refusals;
+    const QList<CellChange> changes = write(changesOf(wanted));
+    if (self && !changes.isEmpty() && m_keep)
+        m_keep(changes);
+    if (self)
+        tell(changes);
+    return self ? std::optional(refusals) : std::nullopt;
+}
+
+// Being asked for names or texts a host may remove rows, or the list.
+QList<CellRefusal> CellWriter::ask(QList<CellEntry> &wanted)
+{
+    const QPointer<CellWriter> self(this);
+    m_isAsking = true;
+    const auto asked = qScopeGuard([self] {
+        if (self)
+            self->m_isAsking = false;
+    });
+    QList<CellRefusal> refusals;
+    QHash<int, CellRule> known;
+    for (CellEntry &entry : wanted) {
+        const CellRule rule = ruleOf(entry.column, known);
+        const QString reason = self && isThere(entry) ? refusalOf(entry, rule) : QString();
+        if (!self)
+            return {};
+        if (!reason.isEmpty())
+            refusals.append({entry.item, static_cast<qint16>(entry.column), reason});
+    }
+    return refusals;
+}
+
+// What is still there.
+void CellWriter::tell(QList<CellChange> changes) const
+{
+    changes.removeIf([this](const CellChange &change) {
+        return !m_table.placeOf(change.item, change.column).isValid();
+    });
+    if (!changes.isEmpty() && m_host.tell)
+        m_host.tell(changes);
+}
+
+QList<CellChange> CellWriter::changesOf(const QList<CellEntry> &entries) const
+{
+    QList<CellChange> changes;
+    for (const CellEntry &entry : entries) {
+        if (isThere(entry))
+            changes.append({entry.item, static_cast<qint16>(entry.column),
+                            m_table.text(*entry.item, entry.column), entry.text});
+    }
+    return changes;
+}
+
+// What there was to be done.
+QList<CellChange> CellWriter::write(const QList<CellChange> &changes)
+{
+    const QPointer<CellWriter> self(this);
+    QList<CellChange> written;
+    for (const CellChange &change : changes) {
+        if (!self)
+            break;
+        const bool isThere = m_table.placeOf(change.item, change.column).isValid();
+        if (!isThere || change.text == change.former ||
+            m_table.text(*change.item, change.column) != change.former)
+            continue;
+        m_table.setText(*change.item, change.column, change.text);
+        written.append(change);
+    }
+    return written;
+}
+
+bool CellWriter::revert(const QList<CellChange> &changes)
+{
+    QList<CellChange> back;
+    for (auto change = changes.crbegin(); change != changes.crend(); ++change)
+        back.append({change->item, change->column, change->text, change->former});
+    return repeat(back);
+}
+
+bool CellWriter::repeat(const QList<CellChange> &changes)
+{
+    const QPointer<CellWriter> self(this);
+    const QList<CellChange> written = write(changes);
+    if (self)
+        tell(written);
+    return !written.isEmpty();
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "widgets/grid/CellTable.h"
+#include "widgets/grid/GridRules.h"
+#include <ORVTListview/CellChange.h>
+#include <ORVTListview/CellRefusal.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QList>
+#include <QtCore/QObject>
+
+#include <functional>
+#include <optional>
+
+namespace ORVTListview {
+
+// What the user wants in a cell.
+struct CellEntry
+{
+    ListItem *item = nullptr;
+    int column = 0;
+    QString text;
+};
+
+// The one way in which cells change by the user: by the rules, with the host's consent,
+// all at once or none, and told afterwards. A host may destroy the list meanwhile.
+class CellWriter final : public QObject
+{
+public:
+    // What the host is asked and told by; ask is false when it has destroyed the list.
+    struct Host
+    {
+        std::function<bool(ListItem *, int, QString &, QString &)> ask;
+        std::function<void(const QList<CellChange> &)> tell;
+    };
+
+    CellWriter(CellTable &table, const GridRules &rules);
+
+    void setHost(const Host &host) { m_host = host; }
+
+    // What gets the changes that a user has made, to undo them; they are done already.
+    void setKeeper(const std::function<void(const QList<CellChange> &)> &keep) { m_keep = keep; }
+
+    // Whether a host is being asked, which may take as long as it likes.
+    bool isAsking() const { return m_isAsking; }
+
+    // The refusals, after which nothing is changed. None at all when the list is gone, or
+    // the host is still being asked.
+    std::optional<QList<CellRefusal>> enter(const QList<CellEntry> &entries);
+
+    // Puts back what changes have changed, or does it again, and tells the host. What is
+    // gone or holds another text by now stays. False when nothing was changed.
+    bool revert(const QList<CellChange> &changes);
+    bool repeat(const QList<CellChange> &changes);
+
+private:
+    QList<CellRefusal> ask(QList<CellEntry> &wanted);
+    void tell(QList<CellChange> changes) const;
+    QString refusalOf(CellEntry &entry, const CellRule &rule);
+    CellRule ruleOf(int column, QHash<int, CellRule> &known) const;
+    bool isThere(const CellEntry &entry) const;
+    QList<CellChange> write(const QList<CellChange> &changes);
+    QList<CellChange> changesOf(const QList<CellEntry> &entries) const;
+
+    CellTable &m_table;
+    const GridRules &m_rules;
+    Host m_host;
+    std::function<void(const QList<CellChange> &)> m_keep;
+    bool m_isAsking = false;
+};
+
+} // namespace ORVTListview

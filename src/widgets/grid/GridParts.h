@@ -1,0 +1,62 @@
+#pragma once
+
+#include "widgets/grid/CellEdit.h"
+#include "widgets/grid/CellNote.h"
+#include "widgets/grid/CellSteps.h"
+#include "widgets/grid/FillHandle.h"
+#include "widgets/grid/GridClipboard.h"
+#include "widgets/grid/GridKeys.h"
+#include "widgets/grid/GridSelection.h"
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QTableView>
+
+#include <optional>
+
+namespace ORVTListview {
+
+// What a grid is made of, a class for each subject.
+struct GridParts
+{
+    GridParts(QTableView &shownBy, CellTable &cells, LabelEdit &labels, ReportDelegate &delegate)
+        : view(shownBy)
+        , table(cells)
+        , rules(cells, *shownBy.model())
+        , writer(cells, rules)
+        , steps(writer)
+        , note(shownBy)
+        , selection(shownBy, cells)
+        , edit({shownBy, cells, rules, writer, labels, delegate, note, selection})
+        , clipboard({shownBy, cells, selection, edit})
+        , handle(new FillHandle({shownBy, cells, rules, selection, edit}))
+        , keys({shownBy, cells, rules, edit, steps, selection, clipboard})
+    {
+    }
+    ~GridParts() { delete handle.data(); }
+    Q_DISABLE_COPY_MOVE(GridParts) // the parts know one another
+
+    // Tab comes as a key only where the view goes through its cells with it.
+    void followRules()
+    {
+        if (rules.isUsed() == formerTab.has_value())
+            return;
+        const bool goes = formerTab.value_or(true);
+        formerTab = formerTab ? std::nullopt : std::optional(view.tabKeyNavigation());
+        view.setTabKeyNavigation(goes);
+    }
+
+    QTableView &view;
+    CellTable &table;
+    GridRules rules;
+    CellWriter writer;
+    CellSteps steps;
+    CellNote note;
+    GridSelection selection;
+    CellEdit edit;
+    GridClipboard clipboard;
+    const QPointer<FillHandle> handle; // a child of the viewport
+    GridKeys keys;
+    std::optional<bool> formerTab; // the host's, while cells are edited
+};
+
+} // namespace ORVTListview
