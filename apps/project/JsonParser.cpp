@@ -4,6 +4,7 @@
 #include "project/TextFile.h"
 
 #include <QtCore/QJsonParseError>
+#include <QtCore/QStringConverter>
 
 #include <algorithm>
 
@@ -165,7 +166,9 @@ QString JsonParser::plainText()
     const QByteArrayView bytes = QByteArrayView(m_json).sliced(start, m_at - start);
     if (!QUtf8StringView(bytes).isValidUtf8())
         throw JsonFault{start, errorText(QJsonParseError::IllegalUTF8String)};
-    return QUtf8StringView(bytes).toString();
+    // Otherwise a byte order mark, which is a character here, would be taken away.
+    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
+    return decoder.decode(bytes);
 }
 
 QChar JsonParser::escapedCharacter()

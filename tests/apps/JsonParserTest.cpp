@@ -214,6 +214,14 @@ TEST(JsonParser, RefusesWhatIsNoJson)
         EXPECT_TRUE(faultIn(json)) << json.left(20).constData();
 }
 
+TEST(JsonParser, AByteOrderMarkInATextIsACharacter)
+{
+    const JsonNode root = JsonParser::parse("{\"\xEF\xBB\xBF\": \"\xEF\xBB\xBF\\n\xEF\xBB\xBF\"}");
+    EXPECT_EQ(root.names, QStringList{QChar(QChar::ByteOrderMark)});
+    ASSERT_EQ(root.items.size(), 1U);
+    EXPECT_EQ(root.items[0].text, u"\uFEFF\n\uFEFF"_s);
+}
+
 TEST(JsonParser, TakesManyValuesInOneAnother)
 {
     const QByteArray json = QByteArray("[").repeated(1000) + QByteArray("]").repeated(1000);
