@@ -10,6 +10,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
+#include <algorithm>
 #include <optional>
 
 using namespace ORVTListview;
@@ -30,8 +31,16 @@ std::optional<JsonNode> parsed(const QByteArray &json)
 
 void compare(const JsonNode &node, const QJsonValue &value);
 
+// The toolkit takes a byte order mark that begins a text or a name away, ours does not.
+bool hasMark(const QString &text)
+{
+    return text.startsWith(QChar(QChar::ByteOrderMark));
+}
+
 void compareMembers(const JsonNode &node, const QJsonObject &object)
 {
+    if (std::any_of(node.names.begin(), node.names.end(), hasMark))
+        return;
     demand(object.size() == node.names.size(), "an object has the members");
     for (qsizetype i = 0; i < node.names.size(); ++i)
         compare(node.items[static_cast<std::size_t>(i)], object.value(node.names[i]));
@@ -51,7 +60,10 @@ void compare(const JsonNode &node, const QJsonValue &value)
         demand(value.isDouble() && value.toDouble() == node.number, "a number");
         break;
     case JsonNode::Kind::Text:
-        demand(value.isString() && value.toString() == node.text, "a text");
+        demand(value.isString() &&
+                   (value.toString() == node.text ||
+                    (hasMark(node.text) && value.toString() == node.text.sliced(1))),
+               "a text");
         break;
     case JsonNode::Kind::Array:
         demand(value.toArray().size() == qsizetype(node.items.size()), "an array has the elements");
@@ -70,7 +82,7 @@ void checkBag(const QJsonObject &object)
     const QVariant defaults[] = {true, qint16(7), 8, qint64(9), 1.5F, 2.5, QStringLiteral("d")};
     for (auto member = object.begin(); member != object.end(); ++member) {
         if (!object.contains(member.key()))
-            continue; // the toolkit takes a byte order mark from its keys
+            continue; // its name begins with a byte order mark
         for (const QVariant &Default : defaults) {
             const QVariant read = bag.ReadProperty(member.key(), Default);
             demand(read.metaType() == Default.metaType(), "a property has the kind of its default");

@@ -49,7 +49,7 @@ std::optional<QByteArray> contentOf(const QString &fileName)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly) || file.size() > largestFile)
         return std::nullopt;
-    QByteArray content = file.read(largestFile + 1);
+    QByteArray content = file.readAll();
     if (file.error() != QFile::NoError || content.size() > largestFile)
         return std::nullopt;
     return content;
