@@ -56,9 +56,9 @@ bool GridKeys::actOnSelection(const QKeyEvent &event)
     const Qt::KeyboardModifiers modifiers = modifiersOf(event);
     const bool isSpace = event.key() == Qt::Key_Space;
     if (event.matches(QKeySequence::Copy))
-        m_tools.clipboard.copy(false);
+        m_clipboard.copy(false);
     else if (event.key() == Qt::Key_C && modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
-        m_tools.clipboard.copy(true);
+        m_clipboard.copy(true);
     else if (isSpace && modifiers == Qt::ControlModifier)
         m_tools.selection.selectColumn();
     else if (isSpace && modifiers == Qt::ShiftModifier)
@@ -71,12 +71,12 @@ bool GridKeys::actOnSelection(const QKeyEvent &event)
 bool GridKeys::actOnSteps(const QKeyEvent &event)
 {
     if (event.matches(QKeySequence::Undo))
-        m_tools.steps.undo();
+        m_steps.undo();
     else if (event.matches(QKeySequence::Redo) ||
              (event.key() == Qt::Key_Y && modifiersOf(event) == Qt::ControlModifier))
-        m_tools.steps.redo();
+        m_steps.redo();
     else if (event.matches(QKeySequence::Paste))
-        m_tools.clipboard.paste();
+        m_clipboard.paste();
     else if (event.matches(QKeySequence::Cut) && m_tools.selection.isByCells())
         cut();
     else
@@ -122,7 +122,7 @@ bool GridKeys::actOnCell(QKeyEvent &event, const QModelIndex &cell)
 
 void GridKeys::cut()
 {
-    if (m_tools.clipboard.copy(false))
+    if (m_clipboard.copy(false))
         m_tools.edit.enter(m_tools.edit.forChosen({}));
 }
 

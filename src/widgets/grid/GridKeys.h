@@ -1,38 +1,26 @@
 #pragma once
 
+#include "widgets/grid/GridTools.h"
+
 #include <QtCore/Qt>
 
 class QInputMethodEvent;
 class QKeyEvent;
 class QModelIndex;
-class QTableView;
 
 namespace ORVTListview {
 
-class CellEdit;
 class CellSteps;
-class CellTable;
 class GridClipboard;
-class GridRules;
-class GridSelection;
 
 // What the keys of a grid do outside an editor.
 class GridKeys
 {
 public:
-    struct Tools
-    {
-        QTableView &view;
-        const CellTable &table;
-        const GridRules &rules;
-        CellEdit &edit;
-        CellSteps &steps;
-        GridSelection &selection;
-        GridClipboard &clipboard;
-    };
-
-    explicit GridKeys(const Tools &tools)
+    GridKeys(const GridTools &tools, CellSteps &steps, GridClipboard &clipboard)
         : m_tools(tools)
+        , m_steps(steps)
+        , m_clipboard(clipboard)
     {
     }
     Q_DISABLE_COPY_MOVE(GridKeys) // the part of a grid
@@ -55,7 +43,9 @@ private:
     void toggle(const QModelIndex &cell);
     void fillDown();
 
-    Tools m_tools;
+    GridTools m_tools;
+    CellSteps &m_steps;
+    GridClipboard &m_clipboard;
 };
 
 } // namespace ORVTListview
