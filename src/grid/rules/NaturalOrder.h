@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/HouseExport.h"
-
 #include <QtCore/QString>
 
 namespace ORVTListview {
@@ -10,7 +8,7 @@ namespace ORVTListview {
 // their value, whatever unit stands behind them; then texts, in which digits that follow one
 // another count as a number ("Fan2" before "Fan10"); what is empty comes last. Letter case
 // decides only between texts that are the same but for it. The same in every country.
-class ORVT_HOUSE_EXPORT NaturalKey
+class NaturalKey
 {
 public:
     explicit NaturalKey(const QString &text);
