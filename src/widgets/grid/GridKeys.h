@@ -15,6 +15,7 @@ class CellTable;
 class GridClipboard;
 class GridRules;
 class GridSelection;
+class RowEditing;
 
 // What the keys of a grid do outside an editor.
 class GridKeys
@@ -29,6 +30,7 @@ public:
         CellSteps &steps;
         GridSelection &selection;
         GridClipboard &clipboard;
+        RowEditing &rows;
     };
 
     explicit GridKeys(const Tools &tools)
@@ -46,14 +48,17 @@ public:
     // What an input method begins with in the current cell. False where none is edited.
     bool compose(QInputMethodEvent &event);
 
+    // Below the topmost chosen cell of each column; a single one gets the text above it.
+    void fillDown();
+
 private:
+    bool actOnRows(const QKeyEvent &event);
     bool actOnSelection(const QKeyEvent &event);
     bool actOnSteps(const QKeyEvent &event);
     bool actOnCell(QKeyEvent &event, const QModelIndex &cell);
     bool move(QKeyEvent &event);
     void cut();
     void toggle(const QModelIndex &cell);
-    void fillDown();
 
     Tools m_tools;
 };
