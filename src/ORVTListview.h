@@ -5,6 +5,7 @@
 #include <ORVTListview/CellChange.h>
 #include <ORVTListview/CellRefusal.h>
 #include <ORVTListview/CellRule.h>
+#include <ORVTListview/CellState.h>
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/Colour.h>
 #include <ORVTListview/ColumnHeader.h>

@@ -487,6 +487,116 @@
         <translation>und %1 weitere</translation>
     </message>
     <message>
+        <source>%1, sorted upwards</source>
+        <extracomment>The header of a column, for screen readers; %1 is its text</extracomment>
+        <translation>%1, aufsteigend sortiert</translation>
+    </message>
+    <message>
+        <source>%1, sorted downwards</source>
+        <extracomment>The header of a column, for screen readers; %1 is its text</extracomment>
+        <translation>%1, absteigend sortiert</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <extracomment>The value of a cell has changed</extracomment>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>Old</source>
+        <extracomment>The value of a cell was read a while ago</extracomment>
+        <translation>veraltet</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <extracomment>The value of a cell is set by hand</extracomment>
+        <translation>von Hand</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <extracomment>The value of a cell is an alarm</extracomment>
+        <translation>im Alarm</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <extracomment>A command: the current cell of a table</extracomment>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <extracomment>A command: the selected cells of a table, and the headers of their columns</extracomment>
+        <translation>Mit Kopf kopieren</translation>
+    </message>
+    <message>
+        <source>Fill Down</source>
+        <extracomment>A command: the topmost selected cell into those below</extracomment>
+        <translation>Nach unten ausfüllen</translation>
+    </message>
+    <message>
+        <source>Sort Upwards</source>
+        <extracomment>A command: the rows of a table by a column</extracomment>
+        <translation>Aufsteigend ordnen</translation>
+    </message>
+    <message>
+        <source>Sort Downwards</source>
+        <extracomment>A command: the rows of a table by a column</extracomment>
+        <translation>Absteigend ordnen</translation>
+    </message>
+    <message>
+        <source>Not Sorted</source>
+        <extracomment>A command: the rows of a table</extracomment>
+        <translation>Nicht sortiert</translation>
+    </message>
+    <message>
+        <source>All Rows</source>
+        <extracomment>A command: no filter of the rows of a table</extracomment>
+        <translation>Alle Zeilen</translation>
+    </message>
+    <message>
+        <source>Add Row</source>
+        <extracomment>A command: to a table</extracomment>
+        <translation>Zeile hinzufügen</translation>
+    </message>
+    <message>
+        <source>Duplicate Rows</source>
+        <extracomment>A command: of a table</extracomment>
+        <translation>Zeilen verdoppeln</translation>
+    </message>
+    <message>
+        <source>Remove Rows</source>
+        <extracomment>A command: of a table</extracomment>
+        <translation>Zeilen entfernen</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <extracomment>A command: rows of a table</extracomment>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <extracomment>A command: rows of a table</extracomment>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Fit Column</source>
+        <extracomment>A command: as wide as its texts</extracomment>
+        <translation>Spalte anpassen</translation>
+    </message>
+    <message>
+        <source>Fit All Columns</source>
+        <extracomment>A command: as wide as their texts</extracomment>
+        <translation>Spalten anpassen</translation>
+    </message>
+    <message>
+        <source>Hide Column</source>
+        <extracomment>A command: of a table</extracomment>
+        <translation>Spalte ausblenden</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <extracomment>A menu: those of a table that are seen</extracomment>
+        <translation>Spalten</translation>
+    </message>
+    <message>
         <source>Edit Cell</source>
         <extracomment>A step of undo</extracomment>
         <translation>Zelle bearbeiten</translation>

@@ -487,6 +487,116 @@
         <translation>y %1 más</translation>
     </message>
     <message>
+        <source>%1, sorted upwards</source>
+        <extracomment>The header of a column, for screen readers; %1 is its text</extracomment>
+        <translation>%1, orden ascendente</translation>
+    </message>
+    <message>
+        <source>%1, sorted downwards</source>
+        <extracomment>The header of a column, for screen readers; %1 is its text</extracomment>
+        <translation>%1, orden descendente</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <extracomment>The value of a cell has changed</extracomment>
+        <translation>modificado</translation>
+    </message>
+    <message>
+        <source>Old</source>
+        <extracomment>The value of a cell was read a while ago</extracomment>
+        <translation>antiguo</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <extracomment>The value of a cell is set by hand</extracomment>
+        <translation>a mano</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <extracomment>The value of a cell is an alarm</extracomment>
+        <translation>alarma</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <extracomment>A command: the current cell of a table</extracomment>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <extracomment>A command: the selected cells of a table, and the headers of their columns</extracomment>
+        <translation>Copiar con títulos</translation>
+    </message>
+    <message>
+        <source>Fill Down</source>
+        <extracomment>A command: the topmost selected cell into those below</extracomment>
+        <translation>Rellenar hacia abajo</translation>
+    </message>
+    <message>
+        <source>Sort Upwards</source>
+        <extracomment>A command: the rows of a table by a column</extracomment>
+        <translation>Orden ascendente</translation>
+    </message>
+    <message>
+        <source>Sort Downwards</source>
+        <extracomment>A command: the rows of a table by a column</extracomment>
+        <translation>Orden descendente</translation>
+    </message>
+    <message>
+        <source>Not Sorted</source>
+        <extracomment>A command: the rows of a table</extracomment>
+        <translation>Sin ordenar</translation>
+    </message>
+    <message>
+        <source>All Rows</source>
+        <extracomment>A command: no filter of the rows of a table</extracomment>
+        <translation>Todas las filas</translation>
+    </message>
+    <message>
+        <source>Add Row</source>
+        <extracomment>A command: to a table</extracomment>
+        <translation>Añadir fila</translation>
+    </message>
+    <message>
+        <source>Duplicate Rows</source>
+        <extracomment>A command: of a table</extracomment>
+        <translation>Duplicar filas</translation>
+    </message>
+    <message>
+        <source>Remove Rows</source>
+        <extracomment>A command: of a table</extracomment>
+        <translation>Quitar filas</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <extracomment>A command: rows of a table</extracomment>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <extracomment>A command: rows of a table</extracomment>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Fit Column</source>
+        <extracomment>A command: as wide as its texts</extracomment>
+        <translation>Ajustar columna</translation>
+    </message>
+    <message>
+        <source>Fit All Columns</source>
+        <extracomment>A command: as wide as their texts</extracomment>
+        <translation>Ajustar columnas</translation>
+    </message>
+    <message>
+        <source>Hide Column</source>
+        <extracomment>A command: of a table</extracomment>
+        <translation>Ocultar columna</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <extracomment>A menu: those of a table that are seen</extracomment>
+        <translation>Columnas</translation>
+    </message>
+    <message>
         <source>Edit Cell</source>
         <extracomment>A step of undo</extracomment>
         <translation>Editar celda</translation>

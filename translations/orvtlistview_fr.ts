@@ -487,6 +487,116 @@
         <translation>et %1 de plus</translation>
     </message>
     <message>
+        <source>%1, sorted upwards</source>
+        <extracomment>The header of a column, for screen readers; %1 is its text</extracomment>
+        <translation>%1, tri croissant</translation>
+    </message>
+    <message>
+        <source>%1, sorted downwards</source>
+        <extracomment>The header of a column, for screen readers; %1 is its text</extracomment>
+        <translation>%1, tri décroissant</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <extracomment>The value of a cell has changed</extracomment>
+        <translation>modifié</translation>
+    </message>
+    <message>
+        <source>Old</source>
+        <extracomment>The value of a cell was read a while ago</extracomment>
+        <translation>ancien</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <extracomment>The value of a cell is set by hand</extracomment>
+        <translation>manuel</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <extracomment>The value of a cell is an alarm</extracomment>
+        <translation>alarme</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <extracomment>A command: the current cell of a table</extracomment>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <extracomment>A command: the selected cells of a table, and the headers of their columns</extracomment>
+        <translation>Copier avec en-têtes</translation>
+    </message>
+    <message>
+        <source>Fill Down</source>
+        <extracomment>A command: the topmost selected cell into those below</extracomment>
+        <translation>Recopier vers le bas</translation>
+    </message>
+    <message>
+        <source>Sort Upwards</source>
+        <extracomment>A command: the rows of a table by a column</extracomment>
+        <translation>Tri croissant</translation>
+    </message>
+    <message>
+        <source>Sort Downwards</source>
+        <extracomment>A command: the rows of a table by a column</extracomment>
+        <translation>Tri décroissant</translation>
+    </message>
+    <message>
+        <source>Not Sorted</source>
+        <extracomment>A command: the rows of a table</extracomment>
+        <translation>Sans tri</translation>
+    </message>
+    <message>
+        <source>All Rows</source>
+        <extracomment>A command: no filter of the rows of a table</extracomment>
+        <translation>Toutes les lignes</translation>
+    </message>
+    <message>
+        <source>Add Row</source>
+        <extracomment>A command: to a table</extracomment>
+        <translation>Ajouter une ligne</translation>
+    </message>
+    <message>
+        <source>Duplicate Rows</source>
+        <extracomment>A command: of a table</extracomment>
+        <translation>Dupliquer les lignes</translation>
+    </message>
+    <message>
+        <source>Remove Rows</source>
+        <extracomment>A command: of a table</extracomment>
+        <translation>Supprimer les lignes</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <extracomment>A command: rows of a table</extracomment>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <extracomment>A command: rows of a table</extracomment>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Fit Column</source>
+        <extracomment>A command: as wide as its texts</extracomment>
+        <translation>Ajuster la colonne</translation>
+    </message>
+    <message>
+        <source>Fit All Columns</source>
+        <extracomment>A command: as wide as their texts</extracomment>
+        <translation>Ajuster les colonnes</translation>
+    </message>
+    <message>
+        <source>Hide Column</source>
+        <extracomment>A command: of a table</extracomment>
+        <translation>Masquer la colonne</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <extracomment>A menu: those of a table that are seen</extracomment>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
         <source>Edit Cell</source>
         <extracomment>A step of undo</extracomment>
         <translation>Modifier la cellule</translation>

@@ -54,6 +54,13 @@ void PointCells::setOn(bool on)
     setRules();
     m_grid.setEditsCells(on);
     m_grid.setSelectsCells(on);
+    m_grid.setSortsRows(on);
+    m_grid.setSortKeys({});
+    m_grid.setFilterPlace(on ? ListGrid::FilterInColumns : ListGrid::NoFilter);
+    m_grid.setShowsLocalNumbers(on);
+    m_grid.setFlashesChanges(on);
+    m_grid.setArrangesColumns(on);
+    m_grid.setHasMenu(on);
     m_list.setMultiSelect(on);
 }
 

@@ -1,7 +1,5 @@
 #include "grid/rules/NaturalOrder.h"
 
-#include <QtCore/QStringView>
-
 namespace ORVTListview {
 namespace {
 
@@ -15,24 +13,6 @@ qsizetype endOfDigits(QStringView text, qsizetype from)
     while (from < text.size() && isDigit(text.at(from)))
         ++from;
     return from;
-}
-
-// How much of a text is a number that it begins with, decimals included; 0 for none. What
-// has letters or digits right behind it is the beginning of a name, as "2ndFan" or "3.4.5".
-qsizetype lengthOfNumber(QStringView text)
-{
-    const qsizetype sign =
-        !text.isEmpty() && (text.front() == u'-' || text.front() == u'+') ? 1 : 0;
-    qsizetype end = endOfDigits(text, sign);
-    if (end == sign)
-        return 0;
-    const bool hasDecimals =
-        end + 1 < text.size() && text.at(end) == u'.' && isDigit(text.at(end + 1));
-    if (hasDecimals)
-        end = endOfDigits(text, end + 1);
-    const bool isName = end < text.size() &&
-                        (text.at(end).isLetter() || text.at(end) == u'.' || text.at(end) == u'_');
-    return isName ? 0 : end;
 }
 
 // Digits as a number of any length: without zeros before them the longer one is larger.
@@ -73,6 +53,22 @@ int comparedTexts(QStringView first, QStringView second)
 }
 
 } // namespace
+
+qsizetype lengthOfNumber(QStringView text)
+{
+    const qsizetype sign =
+        !text.isEmpty() && (text.front() == u'-' || text.front() == u'+') ? 1 : 0;
+    qsizetype end = endOfDigits(text, sign);
+    if (end == sign)
+        return 0;
+    const bool hasDecimals =
+        end + 1 < text.size() && text.at(end) == u'.' && isDigit(text.at(end + 1));
+    if (hasDecimals)
+        end = endOfDigits(text, end + 1);
+    const bool isName = end < text.size() &&
+                        (text.at(end).isLetter() || text.at(end) == u'.' || text.at(end) == u'_');
+    return isName ? 0 : end;
+}
 
 NaturalKey::NaturalKey(const QString &text)
 {

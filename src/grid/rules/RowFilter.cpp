@@ -42,7 +42,7 @@ private:
     {
         switch (m_filter.way) {
         case CellFilter::Contains:
-            return m_matcher.indexIn(text) >= 0;
+            return text.size() >= m_filter.text.size() && m_matcher.indexIn(text) >= 0;
         case CellFilter::Differs:
             return text != m_filter.text && !NaturalKey::isSame(NaturalKey(text), m_key);
         case CellFilter::IsEmpty:

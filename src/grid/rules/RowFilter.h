@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include "grid/rules/RowOrder.h"
 
 #include <QtCore/QList>
@@ -25,11 +26,11 @@ struct CellFilter
 // case; in that of a column also "<>On" for what says something else, "=" for what is empty
 // and "<>" for what is not. Outer blanks count for nothing; without a text every row is
 // shown.
-CellFilter typedFilter(const QString &typed, int column);
+ORVT_HOUSE_EXPORT CellFilter typedFilter(const QString &typed, int column);
 
 // The rows, of so many, that pass all filters, in their order. Columns are those that
 // count for a filter of any.
-QList<int> filteredRows(int rows, const QList<int> &columns, const QList<CellFilter> &filters,
-                        const CellTexts &texts);
+ORVT_HOUSE_EXPORT QList<int> filteredRows(int rows, const QList<int> &columns,
+                                          const QList<CellFilter> &filters, const CellTexts &texts);
 
 } // namespace ORVTListview

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/HouseExport.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 
@@ -22,10 +24,11 @@ using CellTexts = std::function<const QString &(int row, int column)>;
 // The given rows in natural order (see NaturalKey) by the keys, the first of which decides
 // first. Rows that are alike in all keep the order that they are given in. Empty cells come
 // last in either direction.
-QList<int> sortedRows(const QList<int> &rows, const QList<SortKey> &keys, const CellTexts &texts);
+ORVT_HOUSE_EXPORT QList<int> sortedRows(const QList<int> &rows, const QList<SortKey> &keys,
+                                        const CellTexts &texts);
 
 // What a click on a header makes of the keys: the column alone, up; then down; then none.
 // One that adds puts it behind the others, turns it round, and takes it out.
-QList<SortKey> clickedKeys(const QList<SortKey> &keys, int column, bool adds);
+ORVT_HOUSE_EXPORT QList<SortKey> clickedKeys(const QList<SortKey> &keys, int column, bool adds);
 
 } // namespace ORVTListview

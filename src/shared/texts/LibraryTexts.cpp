@@ -200,6 +200,50 @@ constexpr LibraryText texts[] = {
     {QT_TRANSLATE_NOOP("ORVTListview", "There is not enough room here."), Message},
     //: Behind a list of cells: so many are not listed
     {QT_TRANSLATE_NOOP("ORVTListview", "and %1 more"), Status},
+    //: The header of a column, for screen readers; %1 is its text
+    {QT_TRANSLATE_NOOP("ORVTListview", "%1, sorted upwards"), ToolTip},
+    //: The header of a column, for screen readers; %1 is its text
+    {QT_TRANSLATE_NOOP("ORVTListview", "%1, sorted downwards"), ToolTip},
+    //: The value of a cell has changed
+    {QT_TRANSLATE_NOOP("ORVTListview", "Changed"), Status},
+    //: The value of a cell was read a while ago
+    {QT_TRANSLATE_NOOP("ORVTListview", "Old"), Status},
+    //: The value of a cell is set by hand
+    {QT_TRANSLATE_NOOP("ORVTListview", "By hand"), Status},
+    //: The value of a cell is an alarm
+    {QT_TRANSLATE_NOOP("ORVTListview", "Alarm"), Status},
+    //: A command: the current cell of a table
+    {QT_TRANSLATE_NOOP("ORVTListview", "Edit"), Menu},
+    //: A command: the selected cells of a table, and the headers of their columns
+    {QT_TRANSLATE_NOOP("ORVTListview", "Copy with Headers"), Menu},
+    //: A command: the topmost selected cell into those below
+    {QT_TRANSLATE_NOOP("ORVTListview", "Fill Down"), Menu},
+    //: A command: the rows of a table by a column
+    {QT_TRANSLATE_NOOP("ORVTListview", "Sort Upwards"), Menu},
+    //: A command: the rows of a table by a column
+    {QT_TRANSLATE_NOOP("ORVTListview", "Sort Downwards"), Menu},
+    //: A command: the rows of a table
+    {QT_TRANSLATE_NOOP("ORVTListview", "Not Sorted"), Menu},
+    //: A command: no filter of the rows of a table
+    {QT_TRANSLATE_NOOP("ORVTListview", "All Rows"), Menu},
+    //: A command: to a table
+    {QT_TRANSLATE_NOOP("ORVTListview", "Add Row"), Menu},
+    //: A command: of a table
+    {QT_TRANSLATE_NOOP("ORVTListview", "Duplicate Rows"), Menu},
+    //: A command: of a table
+    {QT_TRANSLATE_NOOP("ORVTListview", "Remove Rows"), Menu},
+    //: A command: rows of a table
+    {QT_TRANSLATE_NOOP("ORVTListview", "Move Up"), Menu},
+    //: A command: rows of a table
+    {QT_TRANSLATE_NOOP("ORVTListview", "Move Down"), Menu},
+    //: A command: as wide as its texts
+    {QT_TRANSLATE_NOOP("ORVTListview", "Fit Column"), Menu},
+    //: A command: as wide as their texts
+    {QT_TRANSLATE_NOOP("ORVTListview", "Fit All Columns"), Menu},
+    //: A command: of a table
+    {QT_TRANSLATE_NOOP("ORVTListview", "Hide Column"), Menu},
+    //: A menu: those of a table that are seen
+    {QT_TRANSLATE_NOOP("ORVTListview", "Columns"), Menu},
     //: A step of undo
     {QT_TRANSLATE_NOOP("ORVTListview", "Edit Cell"), Menu},
     //: A step of undo: several cells at once

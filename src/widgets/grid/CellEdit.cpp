@@ -177,6 +177,12 @@ bool CellEdit::eventFilter(QObject *watched, QEvent *event)
     return true;
 }
 
+void CellEdit::finish()
+{
+    if (m_field)
+        m_tools.delegate.finish(*m_field);
+}
+
 void CellEdit::enterSoon(const QString &text)
 {
     const Entered entered{m_tools.table.itemAt(m_cell), m_cell.column(), text,
@@ -186,8 +192,7 @@ void CellEdit::enterSoon(const QString &text)
 
 void CellEdit::take(const Entered &entered)
 {
-    const QModelIndex cell = m_tools.table.placeOf(entered.item, entered.column);
-    if (!cell.isValid())
+    if (!m_tools.table.isThere(entered.item, entered.column))
         return;
     const bool fills = entered.then == Then::Fill;
     QList<CellEntry> entries = fills ? forChosen(entered.text) : QList<CellEntry>();
@@ -330,10 +335,10 @@ QString CellEdit::sentence(const QList<CellRefusal> &refusals, const ListItem *i
         return first.reason;
     QStringList lines;
     for (const CellRefusal &refusal : refusals.first(std::min(most, refusals.size()))) {
-        const QModelIndex row = m_tools.table.placeOf(refusal.item, 0);
-        if (row.isValid())
-            lines.append(u"%1, %2: %3"_s.arg(
-                row.data().toString(), m_tools.table.columnText(refusal.column), refusal.reason));
+        if (m_tools.table.isThere(refusal.item, 0))
+            lines.append(u"%1, %2: %3"_s.arg(m_tools.table.text(*refusal.item, 0),
+                                             m_tools.table.columnText(refusal.column),
+                                             refusal.reason));
     }
     if (refusals.size() > most)
         lines.append(Localise(u"and %1 more"_s).arg(refusals.size() - most));

@@ -59,6 +59,9 @@ public:
     // Whether the text that an editor is closed with is that of a cell.
     bool isOpenAt(const QModelIndex &cell) const { return m_field && m_cell == cell; }
 
+    // Enters what is in an open editor.
+    void finish();
+
     // The editor is being closed while this is called.
     void enterSoon(const QString &text);
 

@@ -1,7 +1,13 @@
 #pragma once
 
+#include <ORVTListview/CellState.h>
+
 #include <QtCore/QAbstractItemModel>
+#include <QtCore/QList>
 #include <QtCore/QString>
+
+#include <functional>
+#include <optional>
 
 namespace ORVTListview {
 
@@ -9,7 +15,8 @@ class ListItem;
 
 // The rows and columns of a list as its grid sees them: a row is its handle, whatever
 // place it has in the view, a column is counted from 0. This is the only way from a row to
-// its place in the view and back.
+// its place in the view and back. A row's position, from 0, is that among all rows as the
+// host has put them.
 class CellTable
 {
 public:
@@ -20,8 +27,11 @@ public:
     // Null for no place.
     virtual ListItem *itemAt(const QModelIndex &place) const = 0;
 
-    // Invalid when the row or the column is gone, or the row another list's.
+    // Invalid when the view does not have the row, and when isThere is false.
     virtual QModelIndex placeOf(const ListItem *item, int column) const = 0;
+
+    // False when the row or the column is gone, or the row another list's.
+    virtual bool isThere(const ListItem *item, int column) const = 0;
 
     // Raises Error, named for the member that was called, for a row that is gone or another
     // list's.
@@ -34,6 +44,45 @@ public:
     virtual int columns() const = 0;
     virtual QString columnKey(int column) const = 0;
     virtual QString columnText(int column) const = 0;
+
+    // Plain for what is not there. Cells tell theirs as an int of this role, too.
+    static constexpr int stateRole = Qt::UserRole;
+    virtual CellState state(const ListItem *item, int column) const = 0;
+    virtual void setState(const ListItem *item, int column, CellState state) = 0;
+
+    // Rows by their positions.
+    virtual int rows() const = 0;
+    virtual const QString &textOf(int position, int column) const = 0;
+
+    // The row is there.
+    virtual int positionOf(const ListItem &item) const = 0;
+
+    // Before the row at a position, or behind all; with the texts and states of another one,
+    // or empty, and without a key.
+    virtual ListItem *insertRow(int position, const ListItem *like) = 0;
+    virtual void removeRow(int position) = 0;
+
+    // Not while isOrdered.
+    virtual void moveRow(int from, int to) = 0;
+
+    // Whether the view has other rows than all in their own order.
+    virtual bool isOrdered() const = 0;
+
+    // Which rows the view has, and in which order; without it all in their own. An orderer
+    // tells it for rows that replace all others.
+    using Order = std::optional<QList<int>>;
+    virtual void show(const Order &positions) = 0;
+    virtual void setOrderer(const std::function<Order()> &order) = 0;
+
+    // How the header shows that rows are sorted by a column: from 1, below zero for
+    // downwards, 0 for not at all.
+    virtual void setSortRank(int column, int rank) = 0;
+
+    // As wide as its header and its cells need; -1 for all columns.
+    virtual void fitColumn(int column) = 0;
+
+    // Pixels that the header keeps free over its sections, and under them.
+    virtual void setHeaderRoom(int above, int below) = 0;
 
     // Whether the view may open an editor in a column, and tells screen readers so.
     virtual void setEdited(int column, bool edited) = 0;

@@ -15,7 +15,7 @@ CellWriter::CellWriter(CellTable &table, const GridRules &rules)
 
 bool CellWriter::isThere(const CellEntry &entry) const
 {
-    return m_table.placeOf(entry.item, entry.column).isValid();
+    return m_table.isThere(entry.item, entry.column);
 }
 
 // By the rule first, which may write the text in another way; then by the host.
@@ -83,9 +83,8 @@ QList<CellRefusal> CellWriter::ask(QList<CellEntry> &wanted)
 // What is still there.
 void CellWriter::tell(QList<CellChange> changes) const
 {
-    changes.removeIf([this](const CellChange &change) {
-        return !m_table.placeOf(change.item, change.column).isValid();
-    });
+    changes.removeIf(
+        [this](const CellChange &change) { return !m_table.isThere(change.item, change.column); });
     if (!changes.isEmpty() && m_host.tell)
         m_host.tell(changes);
 }
@@ -109,7 +108,7 @@ QList<CellChange> CellWriter::write(const QList<CellChange> &changes)
     for (const CellChange &change : changes) {
         if (!self)
             break;
-        const bool isThere = m_table.placeOf(change.item, change.column).isValid();
+        const bool isThere = m_table.isThere(change.item, change.column);
         if (!isThere || change.text == change.former ||
             m_table.text(*change.item, change.column) != change.former)
             continue;

@@ -4,6 +4,7 @@
 #include "widgets/grid/CellEdit.h"
 #include "widgets/grid/CellSteps.h"
 #include "widgets/grid/GridClipboard.h"
+#include "widgets/grid/RowEditing.h"
 
 #include <QtCore/QHash>
 #include <QtGui/QKeyEvent>
@@ -41,6 +42,8 @@ bool GridKeys::compose(QInputMethodEvent &event)
 
 bool GridKeys::act(QKeyEvent &event)
 {
+    if (m_rows.isOn() && actOnRows(event))
+        return true;
     if (m_tools.selection.isByCells() && actOnSelection(event))
         return true;
     if (!m_tools.rules.isUsed())
@@ -49,6 +52,26 @@ bool GridKeys::act(QKeyEvent &event)
     if (actOnSteps(event) || move(event))
         return true;
     return cell.isValid() && m_tools.rules.isEdited(cell.column()) && actOnCell(event, cell);
+}
+
+bool GridKeys::actOnRows(const QKeyEvent &event)
+{
+    // A plus may need Shift.
+    const Qt::KeyboardModifiers modifiers = modifiersOf(event);
+    const bool isControl = (modifiers & ~Qt::ShiftModifier) == Qt::ControlModifier;
+    if (isControl && event.key() == Qt::Key_Plus)
+        m_rows.add();
+    else if (isControl && event.key() == Qt::Key_Minus)
+        m_rows.remove();
+    else if (event.key() == Qt::Key_D && modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
+        m_rows.duplicate();
+    else if (modifiers == Qt::AltModifier && event.key() == Qt::Key_Up)
+        m_rows.move(-1);
+    else if (modifiers == Qt::AltModifier && event.key() == Qt::Key_Down)
+        m_rows.move(1);
+    else
+        return false;
+    return true;
 }
 
 bool GridKeys::actOnSelection(const QKeyEvent &event)
@@ -60,7 +83,7 @@ bool GridKeys::actOnSelection(const QKeyEvent &event)
     else if (event.key() == Qt::Key_C && modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
         m_clipboard.copy(true);
     else if (isSpace && modifiers == Qt::ControlModifier)
-        m_tools.selection.selectColumn();
+        m_tools.selection.selectColumn(m_tools.view.currentIndex().column());
     else if (isSpace && modifiers == Qt::ShiftModifier)
         m_tools.selection.selectRow();
     else
@@ -134,7 +157,6 @@ void GridKeys::toggle(const QModelIndex &cell)
         {{m_tools.table.itemAt(cell), cell.column(), cellChoices(rule).value(yes ? 1 : 0)}});
 }
 
-// Below the topmost chosen cell of each column; a single one gets the text above it.
 void GridKeys::fillDown()
 {
     QHash<int, QString> tops;

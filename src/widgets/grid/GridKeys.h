@@ -12,15 +12,17 @@ namespace ORVTListview {
 
 class CellSteps;
 class GridClipboard;
+class RowEditing;
 
 // What the keys of a grid do outside an editor.
 class GridKeys
 {
 public:
-    GridKeys(const GridTools &tools, CellSteps &steps, GridClipboard &clipboard)
+    GridKeys(const GridTools &tools, CellSteps &steps, GridClipboard &clipboard, RowEditing &rows)
         : m_tools(tools)
         , m_steps(steps)
         , m_clipboard(clipboard)
+        , m_rows(rows)
     {
     }
     Q_DISABLE_COPY_MOVE(GridKeys) // the part of a grid
@@ -34,18 +36,22 @@ public:
     // What an input method begins with in the current cell. False where none is edited.
     bool compose(QInputMethodEvent &event);
 
+    // Below the topmost chosen cell of each column; a single one gets the text above it.
+    void fillDown();
+
 private:
+    bool actOnRows(const QKeyEvent &event);
     bool actOnSelection(const QKeyEvent &event);
     bool actOnSteps(const QKeyEvent &event);
     bool actOnCell(QKeyEvent &event, const QModelIndex &cell);
     bool move(QKeyEvent &event);
     void cut();
     void toggle(const QModelIndex &cell);
-    void fillDown();
 
     GridTools m_tools;
     CellSteps &m_steps;
     GridClipboard &m_clipboard;
+    RowEditing &m_rows;
 };
 
 } // namespace ORVTListview

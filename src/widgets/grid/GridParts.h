@@ -1,12 +1,18 @@
 #pragma once
 
 #include "widgets/grid/CellEdit.h"
+#include "widgets/grid/CellLook.h"
 #include "widgets/grid/CellNote.h"
 #include "widgets/grid/CellSteps.h"
+#include "widgets/grid/ColumnArranging.h"
 #include "widgets/grid/FillHandle.h"
+#include "widgets/grid/FilterFields.h"
 #include "widgets/grid/GridClipboard.h"
 #include "widgets/grid/GridKeys.h"
+#include "widgets/grid/GridMenu.h"
+#include "widgets/grid/GridOrder.h"
 #include "widgets/grid/GridSelection.h"
+#include "widgets/grid/RowEditing.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QTableView>
@@ -29,7 +35,14 @@ struct GridParts
         , edit({shownBy, cells, rules, writer, labels, delegate, note, selection})
         , tools{shownBy, cells, rules, selection, edit}
         , clipboard(tools)
-        , keys(tools, steps, clipboard)
+        , rows({shownBy, cells, selection, edit, note})
+        , keys(tools, steps, clipboard, rows)
+        , order({shownBy, cells, [this] { edit.finish(); }})
+        , filters({shownBy, cells, order})
+        , look({shownBy, rules, delegate})
+        , columns(shownBy, cells)
+        , menu({shownBy, cells, rules, edit, steps, selection, clipboard, keys, rows, order,
+                filters, columns})
     {
     }
     ~GridParts() { delete handle.data(); }
@@ -54,6 +67,18 @@ struct GridParts
         view.setTabKeyNavigation(goes);
     }
 
+    // Sorts by the column, with Shift behind the others; with Ctrl, where cells are selected,
+    // selects it.
+    void headerClicked(int column, Qt::KeyboardModifiers modifiers)
+    {
+        if (!order.isByHeader())
+            return;
+        if (modifiers.testFlag(Qt::ControlModifier) && selection.isByCells())
+            selection.selectColumn(column);
+        else
+            order.click(column, modifiers.testFlag(Qt::ShiftModifier));
+    }
+
     QTableView &view;
     CellTable &table;
     GridRules rules;
@@ -65,7 +90,13 @@ struct GridParts
     const GridTools tools;
     GridClipboard clipboard;
     QPointer<FillHandle> handle; // a child of the viewport
+    RowEditing rows;
     GridKeys keys;
+    GridOrder order;
+    FilterFields filters;
+    CellLook look;
+    ColumnArranging columns;
+    GridMenu menu;
     std::optional<bool> formerTab; // the host's, while cells are edited
 };
 

@@ -117,9 +117,8 @@ bool GridSelection::selectAfter(const std::function<bool()> &act, CellPlace firs
     return true;
 }
 
-void GridSelection::selectColumn()
+void GridSelection::selectColumn(int column)
 {
-    const int column = m_view.currentIndex().column();
     const QList<int> rows = rowsFrom(0);
     if (column >= 0 && !rows.isEmpty())
         select({rows.first(), column}, {rows.last(), column});

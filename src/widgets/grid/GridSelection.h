@@ -55,8 +55,8 @@ public:
     // when act is, by which the list may be gone.
     bool selectAfter(const std::function<bool()> &act, CellPlace first, CellPlace last);
 
-    // The whole column or row of the current cell.
-    void selectColumn();
+    // A whole column, and the row of the current cell.
+    void selectColumn(int column);
     void selectRow();
 
 private:

@@ -4,12 +4,23 @@
 #include "pointtable/rules/ReadyCellRules.h"
 #include "shared/points/DisplayNames.h"
 #include "widgets/grid/GridParts.h"
+#include <ORVTListview/PropertyBag.h>
 
 #include <QtCore/QPointer>
+#include <QtWidgets/QMenu>
 
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString layoutName(const QString &table)
+{
+    return u"ColumnLayouts."_s + table;
+}
+
+} // namespace
 
 ListGrid::ListGrid(std::unique_ptr<GridParts> parts)
     : d(std::move(parts))
@@ -25,6 +36,22 @@ ListGrid::ListGrid(std::unique_ptr<GridParts> parts)
                            }});
     d->edit.setRefusal([this](const QList<CellRefusal> &refusals) {
         raiseEvent(*this, &ListGrid::cellsRefused, refusals);
+    });
+    d->rows.setHost(
+        {.ask =
+             [this](RowEditing::Deed deed, const QList<qint32> &rows, QString &refusal) {
+                 return raiseEvent(*this, &ListGrid::rowsEditing, static_cast<RowDeed>(deed), rows,
+                                   refusal);
+             },
+         .tell =
+             [this](RowEditing::Deed deed, const QList<qint32> &rows) {
+                 raiseEvent(*this, &ListGrid::rowsEdited, static_cast<RowDeed>(deed), rows);
+             }});
+    d->columns.setFollower([this] { raiseEvent(*this, &ListGrid::columnsArranged); });
+    d->menu.setFollower([this](QMenu &menu) { raiseEvent(*this, &ListGrid::menuOpening, &menu); });
+    d->order.setFollower([this] {
+        d->filters.refresh();
+        raiseEvent(*this, &ListGrid::rowsArranged);
     });
     d->rules.setFollower([this] { d->followRules(); });
     connect(d->view.model(), &QAbstractItemModel::modelReset, this, [this] {
@@ -82,8 +109,10 @@ QString ListGrid::table() const
 
 void ListGrid::setTable(const QString &table)
 {
-    if (table != this->table())
+    if (table != this->table()) {
         d->rules.setTableName(table);
+        d->columns.switchTable(table);
+    }
 }
 
 void ListGrid::setRules(const QString &table, const QHash<QString, CellRule> &rules)
@@ -121,8 +150,208 @@ bool ListGrid::editCell(ListItem *item, qint16 column)
 bool ListGrid::enterText(ListItem *item, qint16 column, const QString &text)
 {
     d->table.check(item, u"ListGrid.enterText"_s);
-    return d->table.placeOf(item, column).isValid() && !d->writer.isAsking() &&
+    return d->table.isThere(item, column) && !d->writer.isAsking() &&
            d->edit.enter({{item, column, text}});
+}
+
+bool ListGrid::sortsRows() const
+{
+    return d->order.isByHeader();
+}
+
+void ListGrid::setSortsRows(bool on)
+{
+    if (on == sortsRows())
+        return;
+    d->order.setByHeader(on);
+    raiseEvent(*this, &ListGrid::sortsRowsChanged, on);
+}
+
+ListGrid::SortKeys ListGrid::sortKeys() const
+{
+    SortKeys keys;
+    for (const SortKey &key : d->order.keys())
+        keys.append({static_cast<qint16>(key.column),
+                     key.isDescending ? Qt::DescendingOrder : Qt::AscendingOrder});
+    return keys;
+}
+
+void ListGrid::setSortKeys(const SortKeys &keys)
+{
+    QList<SortKey> wanted;
+    for (const auto &[column, order] : keys)
+        wanted.append({column, order == Qt::DescendingOrder});
+    d->order.setKeys(wanted);
+}
+
+ListGrid::FilterPlace ListGrid::filterPlace() const
+{
+    return static_cast<FilterPlace>(d->filters.where());
+}
+
+void ListGrid::setFilterPlace(FilterPlace place)
+{
+    if (place == filterPlace())
+        return;
+    d->filters.setWhere(static_cast<FilterFields::Where>(place));
+    const QPointer<ListGrid> self(this);
+    d->order.clearFilters();
+    if (self)
+        raiseEvent(*this, &ListGrid::filterPlaceChanged, place);
+}
+
+QString ListGrid::filterText(qint16 column) const
+{
+    return d->order.filter(column);
+}
+
+void ListGrid::setFilterText(qint16 column, const QString &text)
+{
+    if (column >= anyColumn)
+        d->order.setFilter(column, text);
+}
+
+qint32 ListGrid::rowsShown() const
+{
+    return d->view.model()->rowCount();
+}
+
+void ListGrid::arrangeRows()
+{
+    d->order.apply();
+}
+
+CellState ListGrid::cellState(const ListItem *item, qint16 column) const
+{
+    d->table.check(item, u"ListGrid.cellState"_s);
+    return d->table.state(item, column);
+}
+
+void ListGrid::setCellState(const ListItem *item, qint16 column, CellState state)
+{
+    d->table.check(item, u"ListGrid.setCellState"_s);
+    d->table.setState(item, column, state);
+}
+
+bool ListGrid::showsLocalNumbers() const
+{
+    return d->look.hasLocalNumbers();
+}
+
+void ListGrid::setShowsLocalNumbers(bool on)
+{
+    if (on == showsLocalNumbers())
+        return;
+    d->look.setLocalNumbers(on);
+    raiseEvent(*this, &ListGrid::showsLocalNumbersChanged, on);
+}
+
+bool ListGrid::flashesChanges() const
+{
+    return d->look.flash().isOn();
+}
+
+void ListGrid::setFlashesChanges(bool on)
+{
+    if (on == flashesChanges())
+        return;
+    d->look.flash().setOn(on);
+    raiseEvent(*this, &ListGrid::flashesChangesChanged, on);
+}
+
+bool ListGrid::editsRows() const
+{
+    return d->rows.isOn();
+}
+
+void ListGrid::setEditsRows(bool on)
+{
+    if (on == editsRows())
+        return;
+    d->rows.setOn(on);
+    raiseEvent(*this, &ListGrid::editsRowsChanged, on);
+}
+
+bool ListGrid::addRow()
+{
+    return d->rows.add();
+}
+
+bool ListGrid::removeRows()
+{
+    return d->rows.remove();
+}
+
+bool ListGrid::duplicateRows()
+{
+    return d->rows.duplicate();
+}
+
+bool ListGrid::moveRowsUp()
+{
+    return d->rows.move(-1);
+}
+
+bool ListGrid::moveRowsDown()
+{
+    return d->rows.move(1);
+}
+
+bool ListGrid::arrangesColumns() const
+{
+    return d->columns.isOn();
+}
+
+void ListGrid::setArrangesColumns(bool on)
+{
+    if (on == arrangesColumns())
+        return;
+    d->columns.setOn(on);
+    raiseEvent(*this, &ListGrid::arrangesColumnsChanged, on);
+}
+
+QString ListGrid::columnLayout(const QString &table) const
+{
+    return d->columns.layout(table);
+}
+
+void ListGrid::setColumnLayout(const QString &table, const QString &layout)
+{
+    d->columns.setLayout(table, layout);
+}
+
+void ListGrid::readColumnLayouts(const PropertyBag &bag)
+{
+    for (qint32 type = lowestType; type <= highestType; ++type) {
+        const QString name = displayName(type);
+        d->columns.setLayout(name, bag.ReadProperty(layoutName(name), QString()).toString());
+    }
+}
+
+void ListGrid::writeColumnLayouts(PropertyBag &bag) const
+{
+    for (qint32 type = lowestType; type <= highestType; ++type)
+        bag.WriteProperty(layoutName(displayName(type)), columnLayout(displayName(type)),
+                          QString());
+}
+
+void ListGrid::fitColumn(qint16 column)
+{
+    if (column >= 0 && column < d->table.columns())
+        d->table.fitColumn(column);
+}
+
+bool ListGrid::hasMenu() const
+{
+    return d->menu.isOn();
+}
+
+void ListGrid::setHasMenu(bool on)
+{
+    if (on == hasMenu())
+        return;
+    d->menu.setOn(on);
+    raiseEvent(*this, &ListGrid::hasMenuChanged, on);
 }
 
 QUndoStack *ListGrid::undoStack() const

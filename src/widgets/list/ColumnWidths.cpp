@@ -19,6 +19,12 @@ constexpr double margin = 200;
 constexpr double firstMargin = 375;
 constexpr double maxTwips = 1'000'000;
 
+// Between a picture or a box and what is behind it.
+int gap(const QWidget &view)
+{
+    return 2 * (view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1);
+}
+
 } // namespace
 
 ColumnWidths::ColumnWidths(QTableView &view, const ReportModel &model)
@@ -123,14 +129,15 @@ QList<int> ColumnWidths::neededWidths()
     QList<int> needed;
     for (int column = 0; column < m_model.columns(); ++column)
         needed.append(neededForHeader(column));
-    QList<int> texts(m_model.columns(), 0);
-    bool pictures = false;
-    widenByRows(texts, pictures);
-    const int decoration = decorationWidth(pictures);
+    const Asked asked = askedByRows();
     for (int column = 0; column < needed.size(); ++column) {
-        int cells = withMargin(texts.at(column), column == 0 ? firstMargin : margin);
+        const bool hasPictures = asked.hasStates.at(column) || (column == 0 && asked.hasPictures);
+        int beside = hasPictures ? pictureWidth() : 0;
+        if (column == 0 && m_model.hasCheckBoxes())
+            beside += boxWidth();
+        int cells = withMargin(asked.texts.at(column), margin) + beside;
         if (column == 0)
-            cells = std::max(cells, withMargin(texts.at(0), margin) + decoration);
+            cells = std::max(cells, withMargin(asked.texts.at(0), firstMargin));
         needed[column] = std::max(needed.at(column), cells);
     }
     return needed;
@@ -147,28 +154,30 @@ int ColumnWidths::withMargin(int pixels, double twips) const
     return Twips::toPixelsX(Twips::fromPixelsX(pixels, m_view) + twips, m_view);
 }
 
-void ColumnWidths::widenByRows(QList<int> &widest, bool &pictures)
+ColumnWidths::Asked ColumnWidths::askedByRows()
 {
     const int columns = m_model.columns();
+    Asked asked{QList<int>(columns, 0), QList<bool>(columns, false)};
     for (int position = 0; position < m_model.rows(); ++position) {
         const ReportRow &row = m_model.row(position);
         for (int column = 0; column < columns; ++column)
-            m_texts->widen(widest[column], m_model.cellText(row, column));
-        pictures = pictures || !row.content.picture.isEmpty();
+            m_texts->widen(asked.texts[column], m_model.cellText(row, column));
+        for (qsizetype column = std::min<qsizetype>(columns, row.states.size()); column-- > 0;)
+            asked.hasStates[column] = asked.hasStates.at(column) || row.states.at(column) != 0;
+        asked.hasPictures = asked.hasPictures || !row.content.picture.isEmpty();
     }
     m_texts->forgetTexts();
+    return asked;
 }
 
-int ColumnWidths::decorationWidth(bool pictures) const
+int ColumnWidths::pictureWidth() const
 {
-    const QStyle &style = *m_view.style();
-    const int gap = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &m_view) + 1);
-    int width = 0;
-    if (pictures)
-        width += style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &m_view) + gap;
-    if (m_model.hasCheckBoxes())
-        width += style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &m_view) + gap;
-    return width;
+    return m_view.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &m_view) + gap(m_view);
+}
+
+int ColumnWidths::boxWidth() const
+{
+    return m_view.style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &m_view) + gap(m_view);
 }
 
 } // namespace ORVTListview

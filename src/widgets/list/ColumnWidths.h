@@ -48,8 +48,17 @@ private:
     QList<int> neededWidths();
     int neededForHeader(int column) const;
     int withMargin(int pixels, double twips) const;
-    void widenByRows(QList<int> &widest, bool &pictures);
-    int decorationWidth(bool pictures) const;
+    // What the rows ask for.
+    struct Asked
+    {
+        QList<int> texts;      // the widest of each column
+        QList<bool> hasStates; // of cells, for each column
+        bool hasPictures = false;
+    };
+
+    Asked askedByRows();
+    int pictureWidth() const;
+    int boxWidth() const;
     int widthOfOthers() const;
     void resize(int column, int pixels);
 

@@ -100,12 +100,12 @@ void ListItem::setChecked(bool Checked)
 
 bool ListItem::Visible() const
 {
-    return !partsFor("Visible").view.isRowHidden(m_parts->model.positionOf(*m_held));
+    return !partsFor("Visible").isHidden(*m_held);
 }
 
 void ListItem::setVisible(bool Visible)
 {
-    partsFor("setVisible").view.setRowHidden(m_parts->model.positionOf(*m_held), !Visible);
+    partsFor("setVisible").setHidden(*m_held, !Visible);
 }
 
 void ListItem::EnsureVisible()

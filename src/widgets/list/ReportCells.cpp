@@ -1,5 +1,6 @@
 #include "widgets/list/ReportCells.h"
 
+#include "widgets/list/ReportHeader.h"
 #include <ORVTListview/ListItem.h>
 
 namespace ORVTListview {
@@ -25,16 +26,27 @@ ListItem *ReportCells::itemAt(const QModelIndex &place) const
     return place.isValid() ? m_parts.items.of(m_parts.model.rowAt(place), m_parts) : nullptr;
 }
 
-QModelIndex ReportCells::placeOf(const ListItem *item, int column) const
+// Null for one that is gone, and for another list's.
+ReportRow *ReportCells::rowOf(const ListItem *item) const
 {
-    if (!item || !item->isAlive() || column < 0 || column >= m_parts.model.columns())
-        return {};
+    if (!item || !item->isAlive())
+        return nullptr;
     const int position = item->Index() - 1; // among its own list's rows
     if (position >= m_parts.model.rows())
-        return {};
+        return nullptr;
     ReportRow &row = m_parts.model.row(position);
-    return m_parts.items.of(row, m_parts) == item ? m_parts.model.indexOf(row, column)
-                                                  : QModelIndex();
+    return m_parts.items.of(row, m_parts) == item ? &row : nullptr;
+}
+
+QModelIndex ReportCells::placeOf(const ListItem *item, int column) const
+{
+    const ReportRow *row = rowOf(item);
+    return row ? m_parts.model.indexOf(*row, column) : QModelIndex();
+}
+
+bool ReportCells::isThere(const ListItem *item, int column) const
+{
+    return column >= 0 && column < m_parts.model.columns() && rowOf(item);
 }
 
 void ReportCells::check(const ListItem *item, const QString &member) const
@@ -68,6 +80,86 @@ QString ReportCells::columnKey(int column) const
 QString ReportCells::columnText(int column) const
 {
     return m_parts.model.column(column).text;
+}
+
+CellState ReportCells::state(const ListItem *item, int column) const
+{
+    return isThere(item, column) ? ReportModel::state(*rowOf(item), column) : CellState::Plain;
+}
+
+void ReportCells::setState(const ListItem *item, int column, CellState state)
+{
+    if (isThere(item, column))
+        m_parts.model.setState(*rowOf(item), column, state);
+}
+
+int ReportCells::rows() const
+{
+    return m_parts.model.rows();
+}
+
+const QString &ReportCells::textOf(int position, int column) const
+{
+    return m_parts.model.cellText(m_parts.model.row(position), column);
+}
+
+int ReportCells::positionOf(const ListItem &item) const
+{
+    return item.Index() - 1;
+}
+
+ListItem *ReportCells::insertRow(int position, const ListItem *like)
+{
+    const ReportRow *source = rowOf(like);
+    RowContent content = source ? source->content : RowContent();
+    content.key.clear();
+    ReportRow &row = m_parts.model.addRow(position, std::move(content));
+    if (source)
+        row.states = source->states;
+    return m_parts.items.of(row, m_parts);
+}
+
+void ReportCells::removeRow(int position)
+{
+    m_parts.removeRow(position);
+}
+
+void ReportCells::moveRow(int from, int to)
+{
+    m_parts.model.moveRow(from, to);
+}
+
+bool ReportCells::isOrdered() const
+{
+    return m_parts.model.isOrdered();
+}
+
+void ReportCells::show(const Order &positions)
+{
+    m_parts.show(positions);
+}
+
+void ReportCells::setOrderer(const std::function<Order()> &order)
+{
+    m_parts.model.setOrderer(order);
+}
+
+void ReportCells::setSortRank(int column, int rank)
+{
+    m_parts.model.setSortRank(column, rank);
+}
+
+void ReportCells::fitColumn(int column)
+{
+    if (column < 0)
+        m_parts.widths.fit();
+    else
+        m_parts.widths.fit(column);
+}
+
+void ReportCells::setHeaderRoom(int above, int below)
+{
+    static_cast<ReportHeader *>(m_parts.view.horizontalHeader())->setRoom(above, below);
 }
 
 void ReportCells::setEdited(int column, bool edited)

@@ -13,18 +13,35 @@ public:
 
     ListItem *itemAt(const QModelIndex &place) const override;
     QModelIndex placeOf(const ListItem *item, int column) const override;
+    bool isThere(const ListItem *item, int column) const override;
     void check(const ListItem *item, const QString &member) const override;
     QString text(const ListItem &item, int column) const override;
     void setText(ListItem &item, int column, const QString &text) override;
     int columns() const override;
     QString columnKey(int column) const override;
     QString columnText(int column) const override;
+    CellState state(const ListItem *item, int column) const override;
+    void setState(const ListItem *item, int column, CellState state) override;
+    int rows() const override;
+    const QString &textOf(int position, int column) const override;
+    int positionOf(const ListItem &item) const override;
+    ListItem *insertRow(int position, const ListItem *like) override;
+    void removeRow(int position) override;
+    void moveRow(int from, int to) override;
+    bool isOrdered() const override;
+    void show(const Order &positions) override;
+    void setOrderer(const std::function<Order()> &order) override;
+    void setSortRank(int column, int rank) override;
+    void fitColumn(int column) override;
+    void setHeaderRoom(int above, int below) override;
     void setEdited(int column, bool edited) override;
     bool selectsCells() const override;
     void setSelectsCells(bool on) override;
     void settle() override;
 
 private:
+    ReportRow *rowOf(const ListItem *item) const;
+
     ReportListParts &m_parts;
 };
 

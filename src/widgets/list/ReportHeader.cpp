@@ -1,6 +1,7 @@
 #include "widgets/list/ReportHeader.h"
 
 #include "base/EventGuard.h"
+#include "widgets/list/ReportModel.h"
 #include "widgets/look/CellText.h"
 #include "widgets/look/PlainToolTip.h"
 
@@ -9,6 +10,7 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOption>
 
+#include <cstdlib>
 #include <utility>
 
 namespace ORVTListview {
@@ -36,7 +38,7 @@ void ReportHeader::mouseReleaseEvent(QMouseEvent *event)
     const QPointer<ReportHeader> self(this);
     QHeaderView::mouseReleaseEvent(event);
     if (self)
-        Q_EMIT released(); // may destroy this header
+        Q_EMIT released(event->modifiers()); // may destroy this header
 }
 
 bool ReportHeader::viewportEvent(QEvent *event)
@@ -71,7 +73,8 @@ QRect ReportHeader::roomForText(const QRect &section, int column) const
 {
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     QRect room = section.adjusted(margin, 0, -margin, 0);
-    if (!isSortIndicatorShown() || sortIndicatorSection() != column)
+    const bool hasArrow = isSortIndicatorShown() && sortIndicatorSection() == column;
+    if (!hasArrow && rank(column) == 0)
         return room;
     QStyleOptionHeaderV2 option;
     initStyleOption(&option);
@@ -99,12 +102,59 @@ void ReportHeader::paintSection(QPainter *painter, const QRect &rect, int column
         inOwnDirection(fontMetrics().elidedText(text(column), Qt::ElideRight, label.rect.width()),
                        label.direction);
     style()->drawControl(QStyle::CE_HeaderLabel, &label, painter, this);
+    if (std::abs(rank(column)) > 1)
+        paintRank(*painter, label, rect, std::abs(rank(column)));
+}
+
+int ReportHeader::rank(int column) const
+{
+    return model() ? model()->headerData(column, Qt::Horizontal, ReportModel::sortRankRole).toInt()
+                   : 0;
+}
+
+// Over the arrow, of a column by which rows are sorted after others.
+void ReportHeader::paintRank(QPainter &painter, QStyleOptionHeaderV2 option, const QRect &section,
+                             int rank) const
+{
+    option.rect = section;
+    const QRect arrow = style()->subElementRect(QStyle::SE_HeaderArrow, &option, this);
+    QFont small = font();
+    small.setPointSizeF(font().pointSizeF() * 0.7);
+    painter.save();
+    painter.setFont(small);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    const QRect place = option.direction == Qt::RightToLeft ? arrow.translated(arrow.width(), 0)
+                                                            : arrow.translated(-arrow.width(), 0);
+    painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, QString::number(rank));
+    painter.restore();
+}
+
+void ReportHeader::setRoom(int above, int below)
+{
+    m_above = above;
+    m_below = below;
+    updateGeometries();
+    Q_EMIT geometriesChanged();
+}
+
+QSize ReportHeader::sizeHint() const
+{
+    return QHeaderView::sizeHint() + QSize(0, m_above + m_below);
+}
+
+void ReportHeader::updateGeometries()
+{
+    setViewportMargins(0, m_above, 0, m_below);
+    QHeaderView::updateGeometries();
 }
 
 void ReportHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int column) const
 {
     QHeaderView::initStyleOptionForIndex(option, column);
     option->text.clear(); // see paintSection
+    if (const int place = rank(column))
+        option->sortIndicator =
+            place > 0 ? QStyleOptionHeader::SortDown : QStyleOptionHeader::SortUp;
 }
 
 } // namespace ORVTListview

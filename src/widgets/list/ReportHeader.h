@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QStyleOption>
 
 namespace ORVTListview {
 
@@ -17,11 +18,15 @@ public:
     // Whether a shown column has room for a part of its text only.
     bool isElided(int column) const;
 
+    // For what stands over the sections, or under them, in the header.
+    void setRoom(int above, int below);
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     // The text stands in another language, and the column is to have room for it.
     void textReplaced(int column);
 
-    void released();
+    void released(Qt::KeyboardModifiers modifiers);
 
 protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
@@ -29,12 +34,20 @@ protected:
     bool viewportEvent(QEvent *event) override;
     void paintSection(QPainter *painter, const QRect &rect, int column) const override;
     void initStyleOptionForIndex(QStyleOptionHeader *option, int column) const override;
+    void updateGeometries() override;
 
 private:
     QString text(int column) const;
     QRect roomForText(const QRect &section, int column) const;
 
+    // That by which rows are sorted: see ReportColumn.
+    int rank(int column) const;
+    void paintRank(QPainter &painter, QStyleOptionHeaderV2 option, const QRect &section,
+                   int rank) const;
+
     bool m_isSecondClick = false;
+    int m_above = 0;
+    int m_below = 0;
 };
 
 } // namespace ORVTListview

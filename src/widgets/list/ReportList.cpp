@@ -68,7 +68,13 @@ void ReportList::setUpConnections()
         d->clickedColumn =
             d->headers.of(d->model.column(column), static_cast<ReportListParts &>(*d));
     });
-    connect(header, &ReportHeader::released, this, [this] { raiseColumnClick(); });
+    connect(header, &ReportHeader::released, this, [this](Qt::KeyboardModifiers modifiers) {
+        const QPointer<ReportList> self(this);
+        if (d->clickedColumn && d->clickedColumn->isAlive())
+            d->gridParts().headerClicked(d->clickedColumn->Index() - 1, modifiers);
+        if (self)
+            raiseColumnClick();
+    });
     // The toolkit's own looks at the rows near by only, with other margins.
     disconnect(header, &QHeaderView::sectionHandleDoubleClicked, this, nullptr);
     connect(header, &QHeaderView::sectionHandleDoubleClicked, this,
@@ -104,9 +110,9 @@ void ReportList::setUpConnections()
     });
     connect(&d->clicks.slow(), &SlowClick::clicked, this, &ReportList::StartLabelEdit);
     d->surface.drag().setContent([this](QMimeData &rows) {
-        const QList<int> positions = d->rowChoice.selectedPositions();
-        copyRows(*this, positions, rows);
-        addNames(*this, d->model, positions, rows);
+        const QList<int> places = d->rowChoice.selectedPlaces();
+        copyRows(*this, places, rows);
+        addNames(*this, d->model, places, rows);
     });
     relayDrags(&d->surface.drag(), this);
 }
@@ -186,11 +192,11 @@ ListItem *ReportList::GetFirstVisible() const
 {
     OpenView::layOutItems(d->view);
     int top = rowAt(0);
-    if (top >= 0)
-        return itemOf(top);
-    for (top = d->model.rows() - 1; top >= 0 && isRowHidden(top);)
+    if (top < 0) // a list without height may stand behind its last row
+        top = d->model.rowCount() - 1;
+    while (top >= 0 && isRowHidden(top))
         --top;
-    return itemOf(top); // a list without height may stand behind its last row
+    return top < 0 ? nullptr : itemOf(&d->model.rowAt(top));
 }
 
 ListItem *ReportList::HitTest(float X, float Y) const

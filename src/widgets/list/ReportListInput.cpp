@@ -89,10 +89,10 @@ QModelIndex ReportList::moveCursor(CursorAction action, Qt::KeyboardModifiers mo
         return QTableView::moveCursor(action, modifiers);
     const int column = std::max(0, currentIndex().column());
     const int step = action == MoveHome ? 1 : -1;
-    int position = action == MoveHome ? 0 : d->model.rows() - 1;
-    while (position >= 0 && position < d->model.rows() && isRowHidden(position))
-        position += step;
-    return d->model.index(position, column);
+    int place = action == MoveHome ? 0 : d->model.rowCount() - 1;
+    while (place >= 0 && place < d->model.rowCount() && isRowHidden(place))
+        place += step;
+    return d->model.index(place, column);
 }
 
 // Keys.
@@ -159,7 +159,7 @@ void ReportList::pick(const std::function<void()> &act)
 void ReportList::copySelection() const
 {
     auto rows = std::make_unique<QMimeData>();
-    copyRows(*this, d->rowChoice.selectedPositions(), *rows);
+    copyRows(*this, d->rowChoice.selectedPlaces(), *rows);
     if (rows->hasText())
         QGuiApplication::clipboard()->setMimeData(rows.release());
 }
@@ -169,7 +169,7 @@ void ReportList::toggleCurrent()
     const QModelIndex current = currentIndex();
     if (!current.isValid())
         return;
-    ReportRow &row = d->model.row(current.row());
+    ReportRow &row = d->model.rowAt(current);
     d->model.setChecked(row, !row.content.checked);
     raiseEvent(*this, &ReportList::ItemCheck, itemOf(&row));
 }
@@ -181,7 +181,7 @@ bool ReportList::isChosenLabel(const QModelIndex &index) const
 {
     return d->editsLabels && index.isValid() && index.column() == labelColumn() &&
            !d->gridParts().rules.isEdited(index.column()) &&
-           d->rowChoice.selectedPositions() == QList<int>{index.row()};
+           d->rowChoice.isOnlySelected(d->model.rowAt(index));
 }
 
 void ReportList::mousePressEvent(QMouseEvent *event)

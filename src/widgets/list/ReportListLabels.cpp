@@ -16,7 +16,9 @@ void ReportList::StartLabelEdit()
         d->model.columns() == 0)
         return;
     item->EnsureVisible();
-    const QModelIndex label = d->model.index(item->Index() - 1, labelColumn());
+    const QModelIndex label = d->cells.placeOf(item, labelColumn());
+    if (!label.isValid()) // filtered out
+        return;
     scrollTo(label);
     d->labels.open(label);
 }

@@ -1,10 +1,67 @@
 #include "widgets/list/ReportListParts.h"
 
+#include <QtWidgets/QHeaderView>
+
+#include <utility>
+
 namespace ORVTListview {
+namespace {
+
+// The view forgets what it has hidden of rows that it has no more.
+void keepHidden(QTableView &view, const ReportModel &model)
+{
+    if (!view.verticalHeader()->sectionsHidden())
+        return;
+    for (int place = 0; place < model.rowCount(); ++place) {
+        model.rowAt(place).isHidden = view.isRowHidden(place);
+        if (model.rowAt(place).isHidden)
+            view.showRow(place);
+    }
+}
+
+void hideKept(QTableView &view, const ReportModel &model)
+{
+    for (int place = 0; place < model.rowCount(); ++place) {
+        if (std::exchange(model.rowAt(place).isHidden, false))
+            view.hideRow(place);
+    }
+}
+
+} // namespace
+
+void ReportListParts::show(const ReportModel::Order &positions)
+{
+    const StillView still(view);
+    const QModelIndex current = view.currentIndex();
+    keepHidden(view, model);
+    model.show(positions);
+    hideKept(view, model);
+    rowChoice.selection().followOrder();
+    if (current.isValid() && !view.currentIndex().isValid())
+        view.selectionModel()->setCurrentIndex(model.index(0, current.column()),
+                                               QItemSelectionModel::NoUpdate);
+}
+
+bool ReportListParts::isHidden(const ReportRow &row) const
+{
+    const int place = model.placeOf(row);
+    return place < 0 ? row.isHidden : view.isRowHidden(place);
+}
+
+void ReportListParts::setHidden(ReportRow &row, bool hidden)
+{
+    const int place = model.placeOf(row);
+    if (place < 0)
+        row.isHidden = hidden;
+    else
+        view.setRowHidden(place, hidden);
+}
 
 void ReportListParts::removeRow(int position)
 {
     const StillView still(view);
+    if (model.isOrdered() && model.placeOf(model.row(position)) < 0) // nobody is told
+        rowChoice.setSelected(model.row(position), false);
     model.deleteRow(position);
 }
 

@@ -30,6 +30,13 @@ struct ReportListParts
     void removeColumn(int position);
     void clearColumns();
 
+    // See ReportModel::show. What the host has hidden stays so, and a cell is current.
+    void show(const ReportModel::Order &positions);
+
+    // Of a row, by the host.
+    bool isHidden(const ReportRow &row) const;
+    void setHidden(ReportRow &row, bool hidden);
+
     QTableView &view;
     HandleStore<ListItem, ReportRow> items;
     HandleStore<ColumnHeader, ReportColumn> headers;

@@ -1,5 +1,7 @@
 #include "widgets/list/ReportModel.h"
 
+#include "grid/rules/ShownCell.h"
+#include "shared/texts/TextTable.h"
 #include <ORVTListview/Error.h>
 
 #include <algorithm>
@@ -17,11 +19,33 @@ namespace {
     throw Error(InvalidCall, u"ReportList"_s, u"The key \"%1\" is in use already"_s.arg(key));
 }
 
+// Nothing of a plain cell.
+QVariant stateData(const QString &text, CellState state, int role)
+{
+    if (state == CellState::Plain)
+        return {};
+    if (role == CellTable::stateRole)
+        return static_cast<int>(state);
+    return role == Qt::ToolTipRole ? stateWord(state) : spokenCell(text, state);
+}
+
+// Its text, and whether rows are sorted by it.
+QString spokenHeader(const ReportColumn &column)
+{
+    if (column.sortRank == 0)
+        return column.text;
+    const QString how =
+        Localise(column.sortRank > 0 ? u"%1, sorted upwards"_s : u"%1, sorted downwards"_s);
+    return how.arg(column.text);
+}
+
 } // namespace
 
 int ReportModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : rows();
+    if (parent.isValid())
+        return 0;
+    return m_isOrdered ? static_cast<int>(m_shown.size()) : rows();
 }
 
 int ReportModel::columnCount(const QModelIndex &parent) const
@@ -55,6 +79,10 @@ QVariant ReportModel::data(const QModelIndex &index, int role) const
         if (index.column() != 0 || !m_checkBoxes)
             return {};
         return QVariant::fromValue(held.content.checked ? Qt::Checked : Qt::Unchecked);
+    case CellTable::stateRole:
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+        return stateData(cellText(held, index.column()), state(held, index.column()), role);
     default:
         return {};
     }
@@ -76,7 +104,7 @@ bool ReportModel::setData(const QModelIndex &index, const QVariant &value, int r
     }
     if (role == Qt::CheckStateRole && m_checkBoxes) {
         setChecked(held, value.toInt() == Qt::Checked);
-        Q_EMIT checkedByUser(index.row());
+        Q_EMIT checkedByUser(positionOf(held));
         return true;
     }
     return false;
@@ -90,6 +118,10 @@ QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int r
         return column(section).text;
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(column(section).alignment | Qt::AlignVCenter);
+    if (role == sortRankRole)
+        return column(section).sortRank;
+    if (role == Qt::AccessibleTextRole)
+        return spokenHeader(column(section));
     return {};
 }
 
@@ -118,11 +150,14 @@ int ReportModel::positionOf(const ReportRow &row) const
 
 ReportRow &ReportModel::addRow(int position, RowContent content)
 {
-    beginInsertRows({}, position, position);
+    const int place = m_isOrdered ? rowCount() : position;
+    beginInsertRows({}, place, place);
     auto made = std::make_unique<ReportRow>(std::move(content));
     ReportRow &row = *made;
     m_rows.insert(m_rows.begin() + position, std::move(made));
     m_positions.forgetFrom(position);
+    if (m_isOrdered)
+        m_shown.push_back(&row);
     if (!row.content.key.isEmpty())
         m_keys.insert(row.content.key, &row);
     endInsertRows();
@@ -131,11 +166,18 @@ ReportRow &ReportModel::addRow(int position, RowContent content)
 
 void ReportModel::deleteRow(int position)
 {
-    beginRemoveRows({}, position, position);
+    const int place = m_isOrdered ? placeOf(row(position)) : position;
+    if (place >= 0)
+        beginRemoveRows({}, place, place);
+    if (place >= 0 && m_isOrdered) {
+        m_shown.erase(m_shown.begin() + place);
+        m_places.forgetFrom(place);
+    }
     m_keys.remove(row(position).content.key);
     m_rows.erase(m_rows.begin() + position);
     m_positions.forgetFrom(position);
-    endRemoveRows();
+    if (place >= 0)
+        endRemoveRows();
 }
 
 ReportModel::Rows ReportModel::rowsOf(QList<RowContent> contents)
@@ -171,6 +213,7 @@ void ReportModel::setRows(QList<RowContent> contents)
     m_rows = std::move(rows);
     m_keys = std::move(keys);
     m_positions.forgetFrom(0);
+    order(m_orderer ? m_orderer() : std::nullopt);
     endResetModel();
 }
 
@@ -184,7 +227,11 @@ void ReportModel::appendRows(QList<RowContent> contents)
         if (m_keys.contains(*key))
             refuseKey(*key);
     }
-    beginInsertRows({}, rows(), rows() + static_cast<int>(added.size()) - 1);
+    beginInsertRows({}, rowCount(), rowCount() + static_cast<int>(added.size()) - 1);
+    if (m_isOrdered) {
+        for (const std::unique_ptr<ReportRow> &row : added)
+            m_shown.push_back(row.get());
+    }
     std::move(added.begin(), added.end(), std::back_inserter(m_rows));
     m_keys.insert(keys);
     endInsertRows();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "widgets/grid/CellTable.h"
 #include "widgets/list/ReportRow.h"
 #include "widgets/view/Positions.h"
 
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace ORVTListview {
@@ -17,6 +19,9 @@ namespace ORVTListview {
 // The rows and columns of a report list. Positions count from 0 here; column 0 is
 // a row's own text, column i its sub-item i. Cells belong to positions: a column
 // is a heading over them, and rows keep the sub-items that no column shows.
+//
+// Views may have the rows in another order, or fewer of them: what they call a row is a
+// place here. A row that is added then stands last.
 //
 // A change of many rows is one notice to the views.
 class ReportModel final : public QAbstractTableModel
@@ -41,14 +46,34 @@ public:
     ReportRow *find(const QString &key) const;
     int positionOf(const ReportRow &row) const;
 
-    // The one way from a place in the views to its row and back.
-    ReportRow &rowAt(const QModelIndex &place) const { return row(place.row()); }
+    // The one way from a place in the views to its row and back. A row that views do not
+    // have is at -1, an invalid index.
+    ReportRow &rowAt(const QModelIndex &index) const { return rowAt(index.row()); }
+    ReportRow &rowAt(int place) const
+    {
+        return m_isOrdered ? *m_shown[static_cast<std::size_t>(place)] : row(place);
+    }
+    int placeOf(const ReportRow &row) const
+    {
+        return m_isOrdered ? m_places.of(m_shown, row, &ReportRow::place) : positionOf(row);
+    }
     QModelIndex indexOf(const ReportRow &row, int column) const
     {
-        return index(positionOf(row), column);
+        return index(placeOf(row), column);
     }
+
+    // The positions of the rows that views have, in their order; without it all in their
+    // own. Views keep what they know of rows that stay.
+    using Order = std::optional<QList<int>>;
+    void show(const Order &positions);
+    bool isOrdered() const { return m_isOrdered; }
+
+    // What tells the order of rows that replace all others.
+    void setOrderer(const std::function<Order()> &order) { m_orderer = order; }
+
     ReportRow &addRow(int position, RowContent content);
     void deleteRow(int position);
+    void moveRow(int from, int to); // while views have all rows in their own order
 
     // Both raise Error (InvalidCall) when a key is used twice and then change nothing.
     void setRows(QList<RowContent> contents);
@@ -65,6 +90,13 @@ public:
     void setForeground(ReportRow &row, const QColor &colour);
     void setChecked(ReportRow &row, bool checked);
     void setSubItemOfAll(int column, const QString &text, const QString &tag);
+
+    // Shown by views that know of it, and told to screen readers.
+    static CellState state(const ReportRow &row, int column)
+    {
+        return static_cast<CellState>(row.states.size() > column ? row.states.at(column) : 0);
+    }
+    void setState(ReportRow &row, int column, CellState state);
 
     // Columns.
     int columns() const { return static_cast<int>(m_columns.size()); }
@@ -83,6 +115,10 @@ public:
     static void setKey(ReportColumn &column, const QString &key) { column.key = key; }
     void setText(ReportColumn &column, const QString &text);
     void setColumnAlignment(ReportColumn &column, Qt::Alignment alignment);
+
+    // See ReportColumn; it is header data of this role, too, and told to screen readers.
+    static constexpr int sortRankRole = CellTable::stateRole + 1;
+    void setSortRank(int column, int rank);
 
     // Views.
     bool hasCheckBoxes() const { return m_checkBoxes; }
@@ -109,8 +145,14 @@ private:
     static Keys keysOf(const Rows &rows);
     void touch(const ReportRow &row, int column, const QList<int> &roles);
     void touchAll(int firstColumn, int lastColumn, const QList<int> &roles);
+    void order(const Order &positions);
+    void layOut(const std::function<void()> &change);
 
     Rows m_rows;
+    std::vector<ReportRow *> m_shown; // in the views' order, while they have one
+    Positions m_places;               // in it
+    std::function<Order()> m_orderer;
+    bool m_isOrdered = false;
     Positions m_positions;
     Keys m_keys;
     std::vector<std::unique_ptr<ReportColumn>> m_columns;

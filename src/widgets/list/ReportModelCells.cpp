@@ -30,13 +30,14 @@ void ReportModel::touch(const ReportRow &row, int column, const QList<int> &role
     if (column >= columns())
         return;
     const QModelIndex changed = indexOf(row, column);
-    Q_EMIT dataChanged(changed, changed, roles);
+    if (changed.isValid())
+        Q_EMIT dataChanged(changed, changed, roles);
 }
 
 void ReportModel::touchAll(int firstColumn, int lastColumn, const QList<int> &roles)
 {
-    if (rows() > 0 && firstColumn <= lastColumn && lastColumn < columns())
-        Q_EMIT dataChanged(index(0, firstColumn), index(rows() - 1, lastColumn), roles);
+    if (rowCount() > 0 && firstColumn <= lastColumn && lastColumn < columns())
+        Q_EMIT dataChanged(index(0, firstColumn), index(rowCount() - 1, lastColumn), roles);
 }
 
 void ReportModel::setKey(ReportRow &row, const QString &key)
@@ -86,7 +87,7 @@ void ReportModel::setForeground(ReportRow &row, const QColor &colour)
     if (row.content.foreground == colour)
         return;
     row.content.foreground = colour;
-    if (columns() == 0)
+    if (columns() == 0 || placeOf(row) < 0)
         return;
     Q_EMIT dataChanged(indexOf(row, 0), indexOf(row, columns() - 1), {Qt::ForegroundRole});
 }
@@ -107,6 +108,16 @@ void ReportModel::setSubItemOfAll(int column, const QString &text, const QString
         setSubItemTag(*row, column, tag);
     }
     touchAll(column, column, {Qt::DisplayRole, Qt::EditRole});
+}
+
+void ReportModel::setState(ReportRow &row, int column, CellState state)
+{
+    if (ReportModel::state(row, column) == state)
+        return;
+    if (row.states.size() <= column)
+        row.states.resize(column + 1, '\0');
+    row.states[column] = static_cast<char>(state);
+    touch(row, column, {CellTable::stateRole, Qt::AccessibleTextRole, Qt::ToolTipRole});
 }
 
 } // namespace ORVTListview

@@ -1,6 +1,7 @@
 #include "widgets/list/ReportModel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -64,6 +65,12 @@ void ReportModel::setColumnAlignment(ReportColumn &column, Qt::Alignment alignme
     const int position = positionOf(column);
     Q_EMIT headerDataChanged(Qt::Horizontal, position, position);
     touchAll(position, position, {Qt::TextAlignmentRole});
+}
+
+void ReportModel::setSortRank(int column, int rank)
+{
+    if (std::exchange(this->column(column).sortRank, rank) != rank)
+        Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
 }
 
 } // namespace ORVTListview

@@ -2,6 +2,7 @@
 
 #include <ORVTListview/RowContent.h>
 
+#include <QtCore/QByteArray>
 #include <QtCore/Qt>
 
 namespace ORVTListview {
@@ -18,7 +19,10 @@ struct ReportRow
 
     RowContent content;
     int position = 0;      // ask ReportModel::positionOf instead
+    int place = 0;         // likewise, placeOf
     bool selected = false; // RowSelection's
+    bool isHidden = false; // by the host, while views do not have it
+    QByteArray states;     // of cells, by position: a CellState each; may be shorter
     HandedOut *handle = nullptr;
 };
 
@@ -32,6 +36,7 @@ struct ReportColumn
     QString text;
     Qt::Alignment alignment;
     bool isEdited = false; // by users, cell by cell
+    int sortRank = 0;      // from 1; below zero for downwards, 0 when rows are not sorted by it
     HandedOut *handle = nullptr;
 };
 

@@ -33,15 +33,15 @@ void RowChoice::toggleCurrent()
     const QModelIndex current = m_view.currentIndex();
     if (!current.isValid())
         return;
-    ReportRow &row = m_model.row(current.row());
+    ReportRow &row = m_model.rowAt(current);
     setSelected(row, !row.selected);
 }
 
 ReportRow *RowChoice::selected() const
 {
     const QModelIndex current = m_view.currentIndex();
-    if (current.isValid() && isSelected(m_model.row(current.row())))
-        return &m_model.row(current.row());
+    if (current.isValid() && isSelected(m_model.rowAt(current)))
+        return &m_model.rowAt(current);
     const QList<int> positions = m_selection.positions(1);
     return positions.isEmpty() ? nullptr : &m_model.row(positions.first());
 }
@@ -52,8 +52,9 @@ void RowChoice::select(const ReportRow *row)
     if (!row)
         return;
     const int column = std::max(0, m_view.currentIndex().column());
-    const QModelIndex index = m_model.index(m_model.positionOf(*row), column);
-    m_scroll.makeCurrent(index, QItemSelectionModel::NoUpdate);
+    const QModelIndex index = m_model.indexOf(*row, column);
+    if (index.isValid() || m_model.columns() == 0)
+        m_scroll.makeCurrent(index, QItemSelectionModel::NoUpdate);
     m_selection.setSelected(m_model.row(m_model.positionOf(*row)), true);
 }
 
@@ -63,9 +64,9 @@ void RowChoice::setCurrentColumn(int column)
                          QItemSelectionModel::NoUpdate);
 }
 
-QList<int> RowChoice::selectedPositions() const
+bool RowChoice::isOnlySelected(const ReportRow &row) const
 {
-    return m_selection.positions();
+    return row.selected && m_selection.positions(2).size() == 1;
 }
 
 bool RowChoice::isMultiple() const
@@ -91,7 +92,9 @@ void RowChoice::setByCells(bool on)
 
 void RowChoice::ensureVisible(const ReportRow &row)
 {
-    m_scroll.ensureVisible(m_model.index(m_model.positionOf(row), 0));
+    const QModelIndex index = m_model.indexOf(row, 0);
+    if (index.isValid() || m_model.columns() == 0)
+        m_scroll.ensureVisible(index);
 }
 
 void RowChoice::viewShown()

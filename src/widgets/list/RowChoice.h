@@ -37,8 +37,11 @@ public:
     // Of the current cell; the row stays.
     void setCurrentColumn(int column);
 
-    // In ascending order.
-    QList<int> selectedPositions() const;
+    // As the view has them.
+    QList<int> selectedPlaces() const { return m_selection.places(); }
+
+    // Whether it is the only one.
+    bool isOnlySelected(const ReportRow &row) const;
 
     bool isMultiple() const;
     void setMultiple(bool multiple);

@@ -44,31 +44,31 @@ std::optional<int> nameColumn(const ReportModel &model)
 
 } // namespace
 
-void addNames(const QTableView &view, const ReportModel &model, const QList<int> &positions,
+void addNames(const QTableView &view, const ReportModel &model, const QList<int> &places,
               QMimeData &data)
 {
     const std::optional<int> column = nameColumn(model);
     if (!column)
         return;
     QStringList names;
-    for (const int position : positions) {
-        if (!view.isRowHidden(position))
-            names.append(model.index(position, *column).data().toString());
+    for (const int place : places) {
+        if (!view.isRowHidden(place))
+            names.append(model.index(place, *column).data().toString());
     }
     DraggedNames::add(data, names);
 }
 
-void copyRows(const QTableView &view, const QList<int> &positions, QMimeData &data)
+void copyRows(const QTableView &view, const QList<int> &places, QMimeData &data)
 {
     const QList<int> columns = shownColumns(view);
     QString text;
     QString html = u"<table>\n"_s;
-    for (const int position : positions) {
-        if (view.isRowHidden(position))
+    for (const int place : places) {
+        if (view.isRowHidden(place))
             continue;
         QStringList cells;
         for (const int column : columns)
-            cells.append(shownText(view.model()->index(position, column).data().toString()));
+            cells.append(shownText(view.model()->index(place, column).data().toString()));
         text += cells.join(u'\t') + u'\n';
         html += u"<tr>"_s;
         for (const QString &cell : std::as_const(cells))

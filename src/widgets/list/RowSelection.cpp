@@ -22,8 +22,8 @@ RowSelection::RowSelection(ReportModel &model)
     connect(this, &RowSelection::selectionChanged, this, &RowSelection::noteChange);
     connect(&model, &ReportModel::rowsAboutToBeRemoved, this,
             [this](const QModelIndex &, int first, int last) {
-                for (int position = first; position <= last && m_count > 0; ++position)
-                    note(m_model.row(position), false);
+                for (int place = first; place <= last && m_count > 0; ++place)
+                    note(m_model.rowAt(place), false);
             });
     connect(&model, &ReportModel::columnsInserted, this, [this] {
         if (!m_isByCells) // whole rows have the new one, too
@@ -57,17 +57,33 @@ void RowSelection::note(const QItemSelection &changed, bool selected)
     for (const QItemSelectionRange &range : changed) {
         if (range.left() > 0 || range.right() < m_model.columns() - 1)
             continue;
-        for (int position = range.top(); position <= range.bottom(); ++position)
-            note(m_model.row(position), selected);
+        for (int place = range.top(); place <= range.bottom(); ++place)
+            note(m_model.rowAt(place), selected);
     }
 }
 
 void RowSelection::noteTouched(const QItemSelection &changed)
 {
     for (const QItemSelectionRange &range : changed) {
-        for (int position = range.top(); position <= range.bottom(); ++position)
-            note(m_model.row(position), rowIntersectsSelection(position));
+        for (int place = range.top(); place <= range.bottom(); ++place)
+            note(m_model.rowAt(place), rowIntersectsSelection(place));
     }
+}
+
+void RowSelection::noteUnseen()
+{
+    for (int position = 0; m_model.isOrdered() && position < m_model.rows() && m_count > 0;
+         ++position) {
+        if (m_model.row(position).selected && m_model.placeOf(m_model.row(position)) < 0)
+            note(m_model.row(position), false);
+    }
+}
+
+void RowSelection::followOrder()
+{
+    noteUnseen();
+    if (!m_isByCells)
+        settleSoon();
 }
 
 void RowSelection::noteChange(const QItemSelection &selected, const QItemSelection &deselected)
@@ -88,9 +104,10 @@ void RowSelection::setSelected(ReportRow &row, bool selected)
     const bool isPart = m_isByCells && row.selected && selected; // the whole row is meant
     if ((row.selected == selected && !isPart) || m_model.columns() == 0)
         return;
-    if (isPart || (!m_lagsBehind && m_count < few)) {
-        const int position = m_model.positionOf(row);
-        select(rowsFrom(position, position), selected ? Select : Deselect);
+    const bool isAtOnce = isPart || (!m_lagsBehind && m_count < few);
+    const int place = isAtOnce ? m_model.placeOf(row) : -1;
+    if (place >= 0) {
+        select(rowsFrom(place, place), selected ? Select : Deselect);
         return;
     }
     note(row, selected);
@@ -115,6 +132,16 @@ QList<int> RowSelection::positions(int most) const
             positions.append(position);
     }
     return positions;
+}
+
+QList<int> RowSelection::places() const
+{
+    QList<int> places;
+    for (int place = 0; place < m_model.rowCount() && places.size() < m_count; ++place) {
+        if (m_model.rowAt(place).selected)
+            places.append(place);
+    }
+    return places;
 }
 
 void RowSelection::settleSoon()
@@ -144,7 +171,7 @@ QItemSelection RowSelection::rowsFrom(int first, int last) const
 QItemSelection RowSelection::ranges() const
 {
     QItemSelection ranges;
-    const QList<int> chosen = positions();
+    const QList<int> chosen = places();
     for (qsizetype first = 0, last = 0; first < chosen.size(); first = last + 1) {
         last = first;
         while (last + 1 < chosen.size() && chosen.at(last + 1) == chosen.at(last) + 1)
@@ -158,13 +185,12 @@ QItemSelection RowSelection::ranges() const
 QItemSelection RowSelection::rangesOfCells() const
 {
     QItemSelection wanted;
-    for (const int position : positions()) {
-        const bool isNew = !rowIntersectsSelection(position);
-        for (const QItemSelectionRange &range :
-             isNew ? rowsFrom(position, position) : selection()) {
-            if (range.top() <= position && position <= range.bottom())
-                wanted.append(QItemSelectionRange(m_model.index(position, range.left()),
-                                                  m_model.index(position, range.right())));
+    for (const int place : places()) {
+        const bool isNew = !rowIntersectsSelection(place);
+        for (const QItemSelectionRange &range : isNew ? rowsFrom(place, place) : selection()) {
+            if (range.top() <= place && place <= range.bottom())
+                wanted.append(QItemSelectionRange(m_model.index(place, range.left()),
+                                                  m_model.index(place, range.right())));
         }
     }
     return wanted;
@@ -173,6 +199,8 @@ QItemSelection RowSelection::rangesOfCells() const
 void RowSelection::select(const QItemSelection &selection, SelectionFlags command)
 {
     settle();
+    if (command.testFlag(Clear))
+        noteUnseen(); // that the program has selected
     if (command.testFlag(Clear) && m_count > few && !selection.isEmpty()) {
         QItemSelectionModel::select(QItemSelection(), Clear);
         command.setFlag(Clear, false);

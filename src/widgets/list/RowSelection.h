@@ -28,6 +28,12 @@ public:
     // In ascending order; no more than so many.
     QList<int> positions(int most = std::numeric_limits<int>::max()) const;
 
+    // Of those that the view has, their places in it, in ascending order.
+    QList<int> places() const;
+
+    // The view has other rows, or in another order. What it has no more is not selected.
+    void followOrder();
+
     // Whether parts of rows can be selected: then a row is when one of its cells is.
     bool isByCells() const { return m_isByCells; }
     void setByCells(bool on);
@@ -44,6 +50,7 @@ private:
     void noteNone();
     void note(const QItemSelection &changed, bool selected);
     void noteTouched(const QItemSelection &changed);
+    void noteUnseen();
     void noteChange(const QItemSelection &selected, const QItemSelection &deselected);
     void settleSoon();
     QItemSelection rowsFrom(int first, int last) const;

@@ -10,16 +10,17 @@ namespace ORVTListview {
 class Positions
 {
 public:
-    // Order is a sequence of pointers to what has a member `position`.
+    // Order is a sequence of pointers to what has the member. What is not in the order has
+    // a negative one, which it keeps.
     template <typename Order, typename Held>
-    int of(const Order &order, const Held &held) const
+    int of(const Order &order, const Held &held, int Held::*member = &Held::position) const
     {
-        const auto known = static_cast<std::size_t>(held.position);
+        const auto known = static_cast<std::size_t>(held.*member);
         if (known >= m_numbered || &*order[known] != &held) {
             for (; m_numbered < order.size(); ++m_numbered)
-                order[m_numbered]->position = static_cast<int>(m_numbered);
+                (*order[m_numbered]).*member = static_cast<int>(m_numbered);
         }
-        return held.position;
+        return held.*member;
     }
 
     void forgetFrom(int position)

@@ -81,6 +81,8 @@ void ReportDelegate::setEditorData(QWidget *editor, const QModelIndex &index) co
 void ReportDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    if (m_dresser)
+        m_dresser(*option, index);
     option->text = inOwnDirection(option->text, option->direction);
 }
 

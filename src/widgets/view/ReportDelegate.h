@@ -22,6 +22,10 @@ public:
 
     void setEditorMaker(const EditorMaker &maker) { m_maker = maker; }
 
+    // What changes how a cell looks, from what the model says.
+    using Dresser = std::function<void(QStyleOptionViewItem &cell, const QModelIndex &index)>;
+    void setDresser(const Dresser &dresser) { m_dresser = dresser; }
+
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
@@ -48,6 +52,7 @@ protected:
 
 private:
     EditorMaker m_maker;
+    Dresser m_dresser;
 };
 
 } // namespace ORVTListview

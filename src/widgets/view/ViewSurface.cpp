@@ -49,10 +49,13 @@ void ViewSurface::followDrag(const QEvent &event)
 void ViewSurface::showToolTip(const QHelpEvent &event)
 {
     const QModelIndex index = m_view.indexAt(event.pos());
-    QString text;
+    QStringList lines;
     if (index.isValid() && m_delegate.isElided(OpenView::cellOption(m_view, index), index))
-        text = index.data().toString();
-    showPlainToolTip(event, text, *m_view.viewport());
+        lines.append(index.data().toString());
+    const QString told = index.data(Qt::ToolTipRole).toString();
+    if (!told.isEmpty())
+        lines.append(told);
+    showPlainToolTip(event, lines.join(u'\n'), *m_view.viewport());
 }
 
 QModelIndex ViewSurface::indexAt(QPoint place) const

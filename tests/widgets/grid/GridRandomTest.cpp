@@ -8,12 +8,14 @@
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ReportList.h>
 
+#include <QtCore/QMap>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QUndoStack>
 #include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QtTest>
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <optional>
@@ -123,7 +125,82 @@ struct PlainTable
             done.append(step);
     }
 
+    // Texts in natural order; what is empty comes last.
+    static int rank(const QString &text)
+    {
+        static const QStringList order{u"7"_s,    u"07.5"_s, u"7.5"_s,      u"ab"_s,
+                                       u"AUTO"_s, u"Auto"_s, u"long text"_s};
+        return text.isEmpty() ? 99 : static_cast<int>(order.indexOf(text));
+    }
+    static bool passes(const QString &text, const QString &filter)
+    {
+        if (filter == u"="_s || filter == u"<>"_s)
+            return text.isEmpty() == (filter == u"="_s);
+        if (filter == u"<>7.5"_s)
+            return text != u"7.5"_s && text != u"07.5"_s;
+        return text.contains(filter, Qt::CaseInsensitive);
+    }
+    bool passes(const Row &row, const QList<int> &columnsSeen) const
+    {
+        for (auto filter = filters.cbegin(); filter != filters.cend(); ++filter) {
+            const bool isAny = filter.key() == ListGrid::anyColumn;
+            const QList<int> among = isAny ? columnsSeen : QList<int>{filter.key()};
+            const bool found = std::any_of(among.begin(), among.end(), [&](int column) {
+                return passes(row.cells.at(static_cast<std::size_t>(column)), filter.value());
+            });
+            if (!found)
+                return false;
+        }
+        return true;
+    }
+    bool isBefore(int first, int second) const
+    {
+        for (const auto &[column, order] : keys) {
+            const auto at = static_cast<std::size_t>(column);
+            const QString &one = rowNamed(first).cells.at(at);
+            const QString &other = rowNamed(second).cells.at(at);
+            if (one == other)
+                continue;
+            const bool isUp = rank(one) < rank(other);
+            const bool hasEmpty = one.isEmpty() || other.isEmpty();
+            return order == Qt::AscendingOrder || hasEmpty ? isUp : !isUp;
+        }
+        return false;
+    }
+    const Row &rowNamed(int name) const
+    {
+        return *std::find_if(rows.begin(), rows.end(),
+                             [name](const Row &row) { return row.name == name; });
+    }
+
+    // The rows that are seen, in their order.
+    bool isArranged() const { return !keys.isEmpty() || !filters.isEmpty(); }
+    void arrange(const QList<int> &columnsSeen)
+    {
+        shown.clear();
+        for (const Row &row : rows) {
+            if (passes(row, columnsSeen))
+                shown.append(row.name);
+        }
+        std::stable_sort(shown.begin(), shown.end(),
+                         [this](int first, int second) { return isBefore(first, second); });
+    }
+    void insert(int position)
+    {
+        rows.insert(position, {nextName, {}});
+        shown.insert(isArranged() ? shown.size() : position, nextName++);
+    }
+    void remove(int position)
+    {
+        shown.removeOne(rows.at(position).name);
+        rows.removeAt(position);
+    }
+    Row &seen(int place) { return *named(shown.at(place)); }
+
     QList<Row> rows;
+    QList<int> shown; // by name
+    ListGrid::SortKeys keys;
+    QMap<int, QString> filters;
     QList<Step> done;
     QList<Step> undone;
     int nextName = 0;
@@ -145,6 +222,7 @@ public:
                                   {u"3"_s, {.kind = CellRule::Choice, .choices = {u"Auto"_s}}}});
         grid.setEditsCells(true);
         grid.setSelectsCells(true);
+        grid.setEditsRows(true);
         m_list.setMultiSelect(true);
         for (int row = 0; row < 12; ++row)
             insertRow();
@@ -157,20 +235,17 @@ public:
             const char *name;
             void (TwoTables::*act)();
         };
-        static constexpr std::array<Deed, 14> deeds{{{"enterText", &TwoTables::enterText},
-                                                     {"enterText", &TwoTables::enterText},
-                                                     {"clear", &TwoTables::clear},
-                                                     {"fillDown", &TwoTables::fillDown},
-                                                     {"paste", &TwoTables::paste},
-                                                     {"paste", &TwoTables::paste},
-                                                     {"undo", &TwoTables::undo},
-                                                     {"undo", &TwoTables::undo},
-                                                     {"redo", &TwoTables::redo},
-                                                     {"setText", &TwoTables::setText},
-                                                     {"hide", &TwoTables::hide},
-                                                     {"insertRow", &TwoTables::insertRow},
-                                                     {"removeRow", &TwoTables::removeRow},
-                                                     {"hideColumn", &TwoTables::hideColumn}}};
+        static constexpr std::array<Deed, 20> deeds{
+            {{"enterText", &TwoTables::enterText}, {"enterText", &TwoTables::enterText},
+             {"clear", &TwoTables::clear},         {"fillDown", &TwoTables::fillDown},
+             {"paste", &TwoTables::paste},         {"paste", &TwoTables::paste},
+             {"undo", &TwoTables::undo},           {"undo", &TwoTables::undo},
+             {"redo", &TwoTables::redo},           {"setText", &TwoTables::setText},
+             {"hide", &TwoTables::hide},           {"insertRow", &TwoTables::insertRow},
+             {"removeRow", &TwoTables::removeRow}, {"hideColumn", &TwoTables::hideColumn},
+             {"sort", &TwoTables::sort},           {"sort", &TwoTables::sort},
+             {"filter", &TwoTables::filter},       {"filter", &TwoTables::filter},
+             {"arrange", &TwoTables::arrange},     {"moveRows", &TwoTables::moveRows}}};
         const Deed &deed =
             deeds.at(static_cast<std::size_t>(below(static_cast<int>(deeds.size()))));
         m_deeds = m_deeds.last(std::min<qsizetype>(m_deeds.size(), 9));
@@ -186,15 +261,22 @@ public:
             QStringList cells;
             for (int column = 0; column < columns; ++column)
                 cells.append(m_list.model()->index(row, column).data().toString());
-            lines.append(cells.join(u'|'));
+            lines.append(cells.join(u'|') + (m_list.isRowHidden(row) ? u" hidden"_s : QString()));
         }
+        for (int row = 1; row <= m_list.ListItems()->Count(); ++row)
+            lines.append(m_list.ListItems()->Item(row)->Tag());
         return lines.join(u'\n');
     }
     QString expected() const
     {
         QStringList lines;
+        for (const int name : m_plain.shown) {
+            const PlainTable::Row &row = m_plain.rowNamed(name);
+            lines.append(QStringList(row.cells.begin(), row.cells.end()).join(u'|') +
+                         (row.isHidden ? u" hidden"_s : QString()));
+        }
         for (const PlainTable::Row &row : m_plain.rows)
-            lines.append(QStringList(row.cells.begin(), row.cells.end()).join(u'|'));
+            lines.append(QString::number(row.name));
         return lines.join(u'\n');
     }
 
@@ -202,6 +284,7 @@ private:
     int below(int bound) { return std::uniform_int_distribution(0, bound - 1)(m_random); }
     QString text() { return texts.at(static_cast<std::size_t>(below(texts.size()))); }
     int rowCount() const { return static_cast<int>(m_plain.rows.size()); }
+    int seenCount() const { return static_cast<int>(m_plain.shown.size()); }
 
     // A block of cells that are seen.
     struct Place
@@ -212,9 +295,11 @@ private:
     std::optional<Place> choose()
     {
         Place place;
-        for (int row = below(rowCount()), left = 1 + below(3); row < rowCount() && left > 0;
+        if (seenCount() == 0)
+            return std::nullopt;
+        for (int row = below(seenCount()), left = 1 + below(3); row < seenCount() && left > 0;
              ++row) {
-            if (!m_plain.rows.at(row).isHidden) {
+            if (!m_plain.seen(row).isHidden) {
                 place.rows.append(row);
                 --left;
             }
@@ -241,7 +326,7 @@ private:
     }
     PlainTable::Cell cell(int row, int column, const QString &text) const
     {
-        return {m_plain.rows.at(row).name, column, QString(), text};
+        return {m_plain.shown.at(row), column, QString(), text};
     }
 
     void enterText()
@@ -252,7 +337,7 @@ private:
         m_deeds.last() += u" %1,%2 '%3'"_s.arg(row).arg(column).arg(entered);
         m_list.grid()->enterText(m_list.ListItems()->Item(row + 1), static_cast<qint16>(column),
                                  entered);
-        m_plain.enter({cell(row, column, entered)});
+        m_plain.enter({{m_plain.rows.at(row).name, column, QString(), entered}});
     }
     void clear()
     {
@@ -276,7 +361,7 @@ private:
         QTest::keyClick(&m_list, Qt::Key_D, Qt::ControlModifier);
         int from = place->rows.first();
         if (place->rows.size() == 1) {
-            for (--from; from >= 0 && m_plain.rows.at(from).isHidden;)
+            for (--from; from >= 0 && m_plain.seen(from).isHidden;)
                 --from;
         }
         PlainTable::Step step;
@@ -285,7 +370,7 @@ private:
                 if (from >= 0 && row != from)
                     step.append(
                         cell(row, column,
-                             m_plain.rows.at(from).cells.at(static_cast<std::size_t>(column))));
+                             m_plain.seen(from).cells.at(static_cast<std::size_t>(column))));
             }
         }
         m_plain.enter(step);
@@ -313,12 +398,12 @@ private:
         const int across = repeats ? static_cast<int>(place->columns.size()) : width;
         PlainTable::Step step;
         for (int y = 0, row = place->rows.first(); y < rows; ++y, ++row) {
-            while (row < rowCount() && m_plain.rows.at(row).isHidden)
+            while (row < seenCount() && m_plain.seen(row).isHidden)
                 ++row;
             for (int x = 0, column = place->columns.first(); x < across; ++x, ++column) {
                 while (column < columns && m_list.isColumnHidden(column))
                     ++column;
-                if (row >= rowCount() || column >= columns)
+                if (row >= seenCount() || column >= columns)
                     return; // no room
                 step.append(cell(row, column, block.at(y % height).at(x % width)));
             }
@@ -363,8 +448,8 @@ private:
     void insertRow()
     {
         const int row = below(rowCount() + 1);
-        m_list.Add(row + 1);
-        m_plain.rows.insert(row, {m_plain.nextName++, {}});
+        m_list.Add(row + 1)->setTag(QString::number(m_plain.nextName));
+        m_plain.insert(row);
     }
     void removeRow()
     {
@@ -372,7 +457,60 @@ private:
             return;
         const int row = below(rowCount());
         m_list.ListItems()->Remove(row + 1);
-        m_plain.rows.removeAt(row);
+        m_plain.remove(row);
+    }
+    QList<int> columnsSeen() const
+    {
+        QList<int> seen;
+        for (int column = 0; column < columns; ++column) {
+            if (!m_list.isColumnHidden(column))
+                seen.append(column);
+        }
+        return seen;
+    }
+    void sort()
+    {
+        m_plain.keys.clear();
+        for (int left = below(3); left > 0; --left)
+            m_plain.keys.append({static_cast<qint16>(below(columns)),
+                                 below(2) == 0 ? Qt::AscendingOrder : Qt::DescendingOrder});
+        m_list.grid()->setSortKeys(m_plain.keys);
+        m_plain.arrange(columnsSeen());
+    }
+    void filter()
+    {
+        static const std::array filters{u"a"_s, u"7"_s, u"="_s, u"<>"_s, u"<>7.5"_s};
+        const int column = below(columns + 1) - 1;
+        const QString typed =
+            below(2) == 0 ? QString()
+                          : filters.at(static_cast<std::size_t>(column < 0 ? below(2) : below(5)));
+        m_deeds.last() += u" %1 '%2'"_s.arg(column).arg(typed);
+        const bool isOther = m_plain.filters.value(column) != typed;
+        if (typed.isEmpty())
+            m_plain.filters.remove(column);
+        else
+            m_plain.filters.insert(column, typed);
+        m_list.grid()->setFilterText(static_cast<qint16>(column), typed);
+        if (isOther)
+            m_plain.arrange(columnsSeen());
+    }
+    void arrange()
+    {
+        m_list.grid()->arrangeRows();
+        m_plain.arrange(columnsSeen());
+    }
+    void moveRows()
+    {
+        const std::optional<Place> place = choose();
+        if (!place)
+            return;
+        m_list.grid()->moveRowsDown();
+        if (m_plain.isArranged() || place->rows.last() + 1 >= rowCount()) {
+            return;
+        }
+        for (auto row = place->rows.crbegin(); row != place->rows.crend(); ++row)
+            m_plain.rows.swapItemsAt(*row, *row + 1);
+        m_plain.arrange(columnsSeen());
     }
 
     std::mt19937 m_random;
@@ -393,7 +531,7 @@ private Q_SLOTS:
     {
         const unsigned seed = randomSeed();
         TwoTables tables(seed);
-        const int steps = randomSteps(10'000);
+        const int steps = randomSteps(50'000);
         for (int step = 0; step < steps; ++step) {
             tables.step();
             QVERIFY2(tables.shown() == tables.expected(),

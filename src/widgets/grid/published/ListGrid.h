@@ -3,6 +3,7 @@
 #include <ORVTListview/CellChange.h>
 #include <ORVTListview/CellRefusal.h>
 #include <ORVTListview/CellRule.h>
+#include <ORVTListview/CellState.h>
 #include <ORVTListview/Export.h>
 
 #include <QtCore/QHash>
@@ -13,12 +14,15 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
+class QMenu;
 class QUndoStack;
 
 namespace ORVTListview {
 
 class ListItem;
+class PropertyBag;
 struct GridParts;
 
 // The cells of a list as a grid that users edit. All of it is off at first, and a list
@@ -29,9 +33,36 @@ class ORVT_EXPORT ListGrid : public QObject
     Q_OBJECT
     Q_PROPERTY(bool editsCells READ editsCells WRITE setEditsCells NOTIFY editsCellsChanged)
     Q_PROPERTY(bool selectsCells READ selectsCells WRITE setSelectsCells NOTIFY selectsCellsChanged)
+    Q_PROPERTY(bool sortsRows READ sortsRows WRITE setSortsRows NOTIFY sortsRowsChanged)
+    Q_PROPERTY(bool showsLocalNumbers READ showsLocalNumbers WRITE setShowsLocalNumbers NOTIFY
+                   showsLocalNumbersChanged)
+    Q_PROPERTY(bool flashesChanges READ flashesChanges WRITE setFlashesChanges NOTIFY
+                   flashesChangesChanged)
+    Q_PROPERTY(bool editsRows READ editsRows WRITE setEditsRows NOTIFY editsRowsChanged)
+    Q_PROPERTY(bool arrangesColumns READ arrangesColumns WRITE setArrangesColumns NOTIFY
+                   arrangesColumnsChanged)
+    Q_PROPERTY(bool hasMenu READ hasMenu WRITE setHasMenu NOTIFY hasMenuChanged)
+    Q_PROPERTY(
+        FilterPlace filterPlace READ filterPlace WRITE setFilterPlace NOTIFY filterPlaceChanged)
 
 public:
     using PointNames = std::function<QStringList()>;
+    using SortKeys = QList<std::pair<qint16, Qt::SortOrder>>;
+
+    // Where users say which rows they want to see.
+    enum FilterPlace : qint32 {
+        NoFilter,
+        FilterAbove,    // in a field over the header, for any cell
+        FilterInColumns // in a field under the header of each column
+    };
+    Q_ENUM(FilterPlace)
+
+    // What users do with whole rows.
+    enum RowDeed : qint32 { AddRows, RemoveRows, DuplicateRows, MoveRows };
+    Q_ENUM(RowDeed)
+
+    // In place of a column: any that is shown.
+    static constexpr qint16 anyColumn = -1;
 
     ~ListGrid() override;
 
@@ -106,7 +137,112 @@ public:
     QUndoStack *undoStack() const;
     void setUndoStack(QUndoStack *stack);
 
+    // Whether a click on a header sorts the rows by it: upwards, then downwards, then as the
+    // host has put them; with Shift behind the columns that they are sorted by already. Where
+    // cells are selected a click with Ctrl then selects the column. Off again, the rows stay
+    // as they are sorted.
+    //
+    // It is what the user sees that is sorted and filtered: Index and the order of ListItems
+    // stay, a ListItem its row, and selected and current ones so, but for those that a filter
+    // takes away, which are not selected. Rows that are added stand last, and rows whose cells
+    // change stay where they are, until the user sorts or filters again; rows that replace
+    // all others come sorted and filtered. Columns that go take their part with them.
+    bool sortsRows() const;
+    void setSortsRows(bool on);
+
+    // The columns that rows are sorted by, the first of which decides first. Digits within
+    // names count as numbers, numbers by their value whatever their unit is, and what is
+    // empty comes last. Columns that are not there are left out.
+    SortKeys sortKeys() const;
+    void setSortKeys(const ORVTListview::ListGrid::SortKeys &keys);
+
+    // Another place empties the filters. No field is seen while the header is not.
+    FilterPlace filterPlace() const;
+    void setFilterPlace(FilterPlace place);
+
+    // What a column, or anyColumn, must hold in any letter case; for a column also "<>Auto"
+    // for what says something else, "=" for what is empty and "<>" for what is not. Empty
+    // for no filter; nothing for a column that is not there.
+    QString filterText(qint16 column) const;
+    void setFilterText(qint16 column, const QString &text);
+
+    // How many rows are to be seen, those included that the host has hidden.
+    qint32 rowsShown() const;
+
+    // Sorts and filters anew, by what the cells hold now.
+    Q_INVOKABLE void arrangeRows();
+
+    // What there is to know of a cell's value: a picture, a colour and, where there is room,
+    // a word beside its text; in the tool tip and for screen readers, too. It stays with the
+    // row and the column's position until it is set anew. Both raise Error as editCell does;
+    // nothing is set for null or a column that is not there.
+    ORVTListview::CellState cellState(const ORVTListview::ListItem *item, qint16 column) const;
+    void setCellState(const ORVTListview::ListItem *item, qint16 column,
+                      ORVTListview::CellState state);
+
+    // Whether numbers stand at the right and with the list's locale's decimal sign, in the
+    // columns whose rule is Number. The texts of the cells stay.
+    bool showsLocalNumbers() const;
+    void setShowsLocalNumbers(bool on);
+
+    // Whether a cell that is seen flashes once when its text changes. A style without
+    // animations has none.
+    bool flashesChanges() const;
+    void setFlashesChanges(bool on);
+
+    // Whether users add rows (Ctrl++), remove (Ctrl+-), duplicate (Ctrl+Shift+D) and move them
+    // (Alt+Up and Alt+Down). None of that can be undone. New rows come behind the chosen
+    // ones, without a key; a duplicate has their texts, states, picture and tags. Rows that
+    // are sorted or filtered are not moved.
+    bool editsRows() const;
+    void setEditsRows(bool on);
+
+    // As those keys do. False when it is refused, nothing is to do or editsRows is off.
+    Q_INVOKABLE bool addRow();
+    Q_INVOKABLE bool removeRows();
+    Q_INVOKABLE bool duplicateRows();
+    Q_INVOKABLE bool moveRowsUp();
+    Q_INVOKABLE bool moveRowsDown();
+
+    // Whether users drag columns by their headers, and hide them by the menu. What they do,
+    // their widths included, is kept for each table and comes back with it.
+    bool arrangesColumns() const;
+    void setArrangesColumns(bool on);
+
+    // How users have arranged a table's columns, as a short text for the host to keep; empty
+    // for a table that nobody has arranged. Keys of columns that are not there are passed
+    // over, columns that it does not name come last. The bag gets a text for each table under
+    // "ColumnLayouts.Inputs" and so on.
+    QString columnLayout(const QString &table) const;
+    void setColumnLayout(const QString &table, const QString &layout);
+    void readColumnLayouts(const PropertyBag &bag);
+    void writeColumnLayouts(PropertyBag &bag) const;
+
+    // As wide as the header and all cells need.
+    Q_INVOKABLE void fitColumn(qint16 column);
+
+    // A context menu with what is possible where it is opened, on a cell or a header.
+    bool hasMenu() const;
+    void setHasMenu(bool on);
+
 Q_SIGNALS:
+    // Before users do something with whole rows: the Index of each chosen one, in ascending
+    // order. A refusal, a sentence, refuses it and is shown.
+    void rowsEditing(ORVTListview::ListGrid::RowDeed deed, const QList<qint32> &rows,
+                     QString &refusal);
+
+    // They have: the Index that each row has by now, and for those removed had before.
+    void rowsEdited(ORVTListview::ListGrid::RowDeed deed, const QList<qint32> &rows);
+
+    // The user has arranged the columns of the table shown.
+    void columnsArranged();
+
+    // The menu is about to open, and may get actions of the host.
+    void menuOpening(QMenu *menu);
+
+    // The rows are sorted or filtered, by the user or the program.
+    void rowsArranged();
+
     // Before a text is taken that fits the rule: a changed text is taken in its place, a
     // refusal, a sentence, refuses it. It is shown at the cell, whose editor opens again
     // with what was typed. For several cells at once, all are asked for before any is
@@ -122,6 +258,13 @@ Q_SIGNALS:
 
     void editsCellsChanged(bool on);
     void selectsCellsChanged(bool on);
+    void sortsRowsChanged(bool on);
+    void editsRowsChanged(bool on);
+    void arrangesColumnsChanged(bool on);
+    void hasMenuChanged(bool on);
+    void showsLocalNumbersChanged(bool on);
+    void flashesChangesChanged(bool on);
+    void filterPlaceChanged(ORVTListview::ListGrid::FilterPlace place);
 
 private:
     friend class ReportList;

@@ -1,0 +1,78 @@
+#include "widgets/grid/CellLook.h"
+
+#include "grid/rules/ShownCell.h"
+#include "widgets/grid/CellTable.h"
+#include "widgets/grid/GridRules.h"
+#include "widgets/grid/StatePicture.h"
+#include "widgets/view/ReportDelegate.h"
+
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QTableView>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+CellLook::CellLook(const Tools &tools)
+    : m_tools(tools)
+    , m_flash(tools.view)
+{
+    m_tools.delegate.setDresser(
+        [this](QStyleOptionViewItem &cell, const QModelIndex &index) { dress(cell, index); });
+}
+
+CellLook::~CellLook()
+{
+    m_tools.delegate.setDresser({});
+}
+
+void CellLook::setLocalNumbers(bool on)
+{
+    m_hasLocalNumbers = on;
+    m_tools.view.viewport()->update();
+}
+
+void CellLook::dress(QStyleOptionViewItem &cell, const QModelIndex &index) const
+{
+    if (m_hasLocalNumbers && m_tools.rules.rule(index.column()).kind == CellRule::Number)
+        dressNumber(cell, index);
+    dressState(cell, index);
+    const qreal strength = m_flash.strength(index);
+    if (strength <= 0)
+        return;
+    QColor ground = cell.palette.color(QPalette::Highlight);
+    ground.setAlphaF(static_cast<float>(strength));
+    cell.backgroundBrush = ground;
+}
+
+void CellLook::dressNumber(QStyleOptionViewItem &cell, const QModelIndex &) const
+{
+    cell.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+    cell.text = shownNumber(cell.text, m_tools.view.locale());
+}
+
+// The word only where there is room for it: a tool tip has it, too. Beside a number it
+// stands where numbers do not.
+void CellLook::dressState(QStyleOptionViewItem &cell, const QModelIndex &index) const
+{
+    const auto state = static_cast<CellState>(index.data(CellTable::stateRole).toInt());
+    if (state == CellState::Plain)
+        return;
+    const QStyle &style = *m_tools.view.style();
+    const int side = style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &m_tools.view);
+    cell.features |= QStyleOptionViewItem::HasDecoration;
+    cell.icon = statePicture(state);
+    cell.decorationSize = QSize(side, side);
+    const QColor ink = stateInk(state, cell.palette);
+    if (ink.isValid() && !index.data(Qt::ForegroundRole).isValid())
+        cell.palette.setColor(QPalette::Text, ink);
+    const bool isRight = cell.displayAlignment.testFlag(Qt::AlignRight);
+    const QString both = isRight ? u"%2  %1"_s : u"%1  %2"_s;
+    const QString text =
+        cell.text.isEmpty() ? stateWord(state) : both.arg(cell.text, stateWord(state));
+    const int gap = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, &m_tools.view) + 1;
+    if (cell.fontMetrics.horizontalAdvance(text) + side + 4 * gap <= cell.rect.width())
+        cell.text = text;
+}
+
+} // namespace ORVTListview

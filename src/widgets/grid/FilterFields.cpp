@@ -1,0 +1,220 @@
+#include "widgets/grid/FilterFields.h"
+
+#include "grid/rules/RowFilter.h"
+#include "shared/texts/TextTable.h"
+#include "widgets/grid/CellTable.h"
+#include "widgets/grid/GridOrder.h"
+#include "widgets/input/FieldMenu.h"
+
+#include <QtGui/QAccessible>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QTableView>
+
+#include <algorithm>
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+FilterFields::FilterFields(const Tools &tools)
+    : m_tools(tools)
+{
+    const QHeaderView *header = tools.view.horizontalHeader();
+    connect(header, &QHeaderView::sectionResized, this, &FilterFields::place);
+    connect(header, &QHeaderView::sectionMoved, this, &FilterFields::place);
+    connect(header, &QHeaderView::geometriesChanged, this, &FilterFields::place);
+    connect(tools.view.horizontalScrollBar(), &QScrollBar::valueChanged, this,
+            &FilterFields::place);
+    const QAbstractItemModel *model = tools.view.model();
+    for (const auto changed :
+         {&QAbstractItemModel::columnsInserted, &QAbstractItemModel::columnsRemoved})
+        connect(model, changed, this, &FilterFields::make);
+    for (const auto changed : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(model, changed, this, &FilterFields::tellCount);
+    connect(model, &QAbstractItemModel::modelReset, this, &FilterFields::tellCount);
+    connect(model, &QAbstractItemModel::headerDataChanged, this, &FilterFields::refresh);
+}
+
+FilterFields::~FilterFields()
+{
+    for (const Field &field : std::as_const(m_fields))
+        delete field.line.data();
+}
+
+void FilterFields::setWhere(Where where)
+{
+    m_where = where;
+    m_tools.view.horizontalHeader()->removeEventFilter(this);
+    if (where != Where::Nowhere)
+        m_tools.view.horizontalHeader()->installEventFilter(this);
+    make();
+}
+
+// Those of columns that stay keep what is typed in them by the order's filters.
+void FilterFields::make()
+{
+    if (m_where == Where::Nowhere && m_fields.isEmpty())
+        return;
+    for (const Field &field : std::as_const(m_fields)) {
+        field.line->hide();
+        field.line->deleteLater(); // it may be what has led here
+    }
+    m_fields.clear();
+    m_used = nullptr;
+    if (m_where == Where::Above)
+        m_fields.append({makeField(), CellFilter::anyColumn});
+    for (int column = 0; m_where == Where::InColumns && column < m_tools.table.columns(); ++column)
+        m_fields.append({makeField(), column});
+    QWidget *before = &m_tools.view;
+    for (const Field &field : std::as_const(m_fields)) {
+        QWidget::setTabOrder(before, field.line);
+        before = field.line;
+    }
+    const int room = m_fields.isEmpty() ? 0 : m_fields.constFirst().line->sizeHint().height();
+    m_tools.table.setHeaderRoom(m_where == Where::Above ? room : 0,
+                                m_where == Where::InColumns ? room : 0);
+    refresh();
+    place();
+}
+
+QLineEdit *FilterFields::makeField()
+{
+    auto *line = new QLineEdit(m_tools.view.horizontalHeader());
+    line->setObjectName(u"FilterField"_s);
+    line->setClearButtonEnabled(true);
+    line->setCursor(Qt::IBeamCursor);
+    FieldMenu::installOn(*line);
+    line->installEventFilter(this);
+    connect(line, &QLineEdit::textEdited, this, [this, line] { useSoon(line); });
+    return line;
+}
+
+// A host that is told of it may destroy the field. Several letters at once are one change.
+void FilterFields::useSoon(const QLineEdit *line)
+{
+    Field *field = fieldOf(line);
+    if (!field || std::exchange(field->isWaiting, true))
+        return;
+    QMetaObject::invokeMethod(
+        this, [this, line] { use(line); }, Qt::QueuedConnection);
+}
+
+// A line that has gone meanwhile is found no more.
+void FilterFields::use(const QLineEdit *line)
+{
+    Field *field = fieldOf(line);
+    if (!field)
+        return;
+    field->isWaiting = false;
+    m_used = field->line;
+    m_tools.order.setFilter(field->column, field->line->text());
+}
+
+void FilterFields::refresh()
+{
+    for (const Field &field : std::as_const(m_fields)) {
+        const bool isAny = field.column == CellFilter::anyColumn;
+        const QString name = Localise(u"Filter"_s);
+        field.line->setPlaceholderText(name);
+        field.line->setAccessibleName(
+            isAny ? name : u"%1: %2"_s.arg(name, m_tools.table.columnText(field.column)));
+        const QString text = m_tools.order.filter(field.column);
+        if (field.line->text() != text && !field.isWaiting)
+            field.line->setText(text);
+    }
+    tellCount();
+}
+
+void FilterFields::tellCount()
+{
+    for (const Field &field : std::as_const(m_fields)) {
+        field.line->setTextMargins({});
+        field.line->setAccessibleDescription({});
+        if (!m_used && !field.line->text().isEmpty())
+            m_used = field.line;
+    }
+    if (!m_used || !m_tools.order.isFiltered()) {
+        delete m_count.data();
+        return;
+    }
+    const QString count = Localise(u"%1 of %2"_s)
+                              .arg(QString::number(m_tools.view.model()->rowCount()),
+                                   QString::number(m_tools.table.rows()));
+    m_used->setAccessibleDescription(count);
+    QAccessibleEvent told(m_used, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&told);
+    if (!m_count) {
+        m_count = new QLabel;
+        m_count->setObjectName(u"FilterCount"_s);
+        m_count->setForegroundRole(QPalette::PlaceholderText);
+        m_count->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+    if (m_count->parentWidget() != m_used)
+        m_count->setParent(m_used);
+    m_count->setText(count);
+    place();
+}
+
+// The fields, and in one the count, where there is room for it beside some letters.
+void FilterFields::place()
+{
+    const QHeaderView &header = *m_tools.view.horizontalHeader();
+    for (const Field &field : std::as_const(m_fields)) {
+        const int height = field.line->sizeHint().height();
+        const bool isAny = field.column == CellFilter::anyColumn;
+        const int left = isAny ? 0 : header.sectionViewportPosition(field.column);
+        const int width = isAny ? header.width() : header.sectionSize(field.column);
+        field.line->setGeometry(left, isAny ? 0 : header.height() - height, width, height);
+        field.line->setVisible(isAny || !header.isSectionHidden(field.column));
+    }
+    if (!m_count || !m_used)
+        return;
+    constexpr int clearButton = 28;
+    const QSize size = m_count->sizeHint();
+    const bool hasRoom = m_used->width() > 2 * size.width() + clearButton;
+    m_count->setVisible(hasRoom);
+    const bool isReverse = m_used->isRightToLeft();
+    const int margin = hasRoom ? size.width() + 4 : 0;
+    m_used->setTextMargins(isReverse ? margin : 0, 0, isReverse ? 0 : margin, 0);
+    const int left = isReverse ? clearButton : m_used->width() - size.width() - clearButton;
+    m_count->setGeometry(left, (m_used->height() - size.height()) / 2, size.width(), size.height());
+}
+
+FilterFields::Field *FilterFields::fieldOf(const QObject *line)
+{
+    const auto found = std::find_if(m_fields.begin(), m_fields.end(), [line](const Field &field) {
+        return field.line.data() == line;
+    });
+    return found == m_fields.end() ? nullptr : &*found;
+}
+
+bool FilterFields::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize && watched == m_tools.view.horizontalHeader())
+        place();
+    const Field *field = event->type() == QEvent::KeyPress ? fieldOf(watched) : nullptr;
+    if (field && act(*field->line, static_cast<const QKeyEvent *>(event)->key()))
+        return true;
+    return QObject::eventFilter(watched, event);
+}
+
+bool FilterFields::act(QLineEdit &line, int key)
+{
+    const bool isEmpty = line.text().isEmpty();
+    if (key == Qt::Key_Escape && !isEmpty) {
+        line.clear();
+        Q_EMIT line.textEdited({});
+        return true;
+    }
+    const bool leaves = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Down;
+    if (leaves || key == Qt::Key_Escape)
+        m_tools.view.setFocus(Qt::OtherFocusReason);
+    return leaves || key == Qt::Key_Escape;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+
+class QLabel;
+class QLineEdit;
+class QTableView;
+
+namespace ORVTListview {
+
+class CellTable;
+class GridOrder;
+
+// The fields in a grid's header by which users choose the rows that they see: one over the
+// columns, or one under the header of each. The field that was used last tells how many
+// rows there are. Esc empties a field, Enter and Down go to the rows.
+class FilterFields final : public QObject
+{
+public:
+    enum class Where { Nowhere, Above, InColumns };
+
+    struct Tools
+    {
+        QTableView &view;
+        CellTable &table;
+        GridOrder &order;
+    };
+
+    explicit FilterFields(const Tools &tools);
+    ~FilterFields() override;
+
+    Where where() const { return m_where; }
+    void setWhere(Where where);
+
+    // Filters, headers or rows are others.
+    void refresh();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct Field
+    {
+        QPointer<QLineEdit> line; // a child of the header
+        int column = 0;
+        bool isWaiting = false; // what was typed is not looked at yet
+    };
+
+    void make();
+    QLineEdit *makeField();
+    void place();
+    void useSoon(const QLineEdit *line);
+    void use(const QLineEdit *line);
+    void tellCount();
+    bool act(QLineEdit &line, int key);
+    Field *fieldOf(const QObject *line);
+
+    Tools m_tools;
+    Where m_where = Where::Nowhere;
+    QList<Field> m_fields;
+    QPointer<QLineEdit> m_used;
+    QPointer<QLabel> m_count; // in the one that was used last
+};
+
+} // namespace ORVTListview

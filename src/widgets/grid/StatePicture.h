@@ -1,0 +1,18 @@
+#pragma once
+
+#include <ORVTListview/CellState.h>
+
+#include <QtGui/QColor>
+#include <QtGui/QIcon>
+#include <QtGui/QPalette>
+
+namespace ORVTListview {
+
+// Each state has a shape of its own, in a colour that is seen on light and on dark grounds,
+// and on a selected cell in that of its text. A null icon for a plain cell.
+QIcon statePicture(CellState state);
+
+// That of the text beside it; invalid where it is the palette's.
+QColor stateInk(CellState state, const QPalette &palette);
+
+} // namespace ORVTListview

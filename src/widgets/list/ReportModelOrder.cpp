@@ -1,0 +1,62 @@
+// In which order views have the rows.
+
+#include "widgets/list/ReportModel.h"
+
+#include <QtCore/QPersistentModelIndex>
+
+#include <algorithm>
+
+namespace ORVTListview {
+
+void ReportModel::order(const Order &positions)
+{
+    m_shown.clear();
+    m_places.forgetFrom(0);
+    m_isOrdered = positions.has_value();
+    if (!m_isOrdered)
+        return;
+    for (const std::unique_ptr<ReportRow> &row : m_rows)
+        row->place = -1;
+    m_shown.reserve(static_cast<std::size_t>(positions->size()));
+    for (const int position : *positions) {
+        m_shown.push_back(&row(position));
+        m_shown.back()->place = static_cast<int>(m_shown.size()) - 1;
+    }
+}
+
+void ReportModel::show(const Order &positions)
+{
+    if (positions || m_isOrdered)
+        layOut([&] { order(positions); });
+}
+
+void ReportModel::moveRow(int from, int to)
+{
+    layOut([&] {
+        const auto at = [this](int position) { return m_rows.begin() + position; };
+        if (from < to)
+            std::rotate(at(from), at(from + 1), at(to + 1));
+        else
+            std::rotate(at(to), at(from), at(from + 1));
+        m_positions.forgetFrom(std::min(from, to));
+    });
+}
+
+void ReportModel::layOut(const std::function<void()> &change)
+{
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    QList<const ReportRow *> rows;
+    rows.reserve(before.size());
+    for (const QModelIndex &index : before)
+        rows.append(&rowAt(index));
+    change();
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (qsizetype i = 0; i < before.size(); ++i)
+        after.append(indexOf(*rows.at(i), before.at(i).column()));
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,310 @@
+#include "support/TestProgram.h"
+#include "support/WidgetTest.h"
+#include "widgets/grid/GridFixture.h"
+#include <ORVTListview/ColumnHeader.h>
+#include <ORVTListview/ListItem.h>
+
+#include <QtGui/QClipboard>
+#include <QtGui/QUndoStack>
+#include <QtTest/QAbstractItemModelTester>
+#include <QtTest/QtTest>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A grid with filters; in the second column Fan1, Fan2, Pump, nothing, Fan10.
+class FilteredGrid : public ShownGrid
+{
+public:
+    explicit FilteredGrid(ListGrid::FilterPlace place = ListGrid::FilterInColumns)
+    {
+        grid->setFilterPlace(place);
+        const QStringList names{u"Fan1"_s, u"Fan2"_s, u"Pump"_s, u""_s, u"Fan10"_s};
+        for (int row = 1; row <= 5; ++row)
+            set(row, 1, names.at(row - 1));
+        QCoreApplication::processEvents();
+    }
+    QList<QLineEdit *> fields() const
+    {
+        return list->horizontalHeader()->findChildren<QLineEdit *>(u"FilterField"_s);
+    }
+    QLineEdit *field(int column) const
+    {
+        for (QLineEdit *each : fields()) {
+            const QPoint middle = each->geometry().center();
+            if (each->isVisible() && list->horizontalHeader()->logicalIndexAt(middle.x()) == column)
+                return each;
+        }
+        return nullptr;
+    }
+    // By mouse and keys.
+    void typeInto(const QLineEdit *into, const QString &text) const
+    {
+        click(into->mapTo(&form, into->rect().center()));
+        key(Qt::Key_A, Qt::ControlModifier);
+        key(Qt::Key_Delete);
+        type(text);
+        QCoreApplication::processEvents();
+    }
+    QString count() const
+    {
+        const auto *label = list->findChild<QLabel *>(u"FilterCount"_s);
+        return label ? label->text() : QString();
+    }
+};
+
+} // namespace
+
+class GridFilterTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFieldOverTheRowsLooksIntoAllColumns()
+    {
+        FilteredGrid shown(ListGrid::FilterAbove);
+        const QAbstractItemModelTester tester(shown->model());
+        QCOMPARE(shown.fields().size(), 1);
+        shown.typeInto(shown.fields().first(), u"fAN1"_s);
+        QCOMPARE(shown.texts(0), u"Text 1|Text 5"_s);
+        QCOMPARE(shown.count(), u"2 of 5"_s);
+        QCOMPARE(shown.fields().first()->accessibleDescription(), u"2 of 5"_s);
+        QCOMPARE(shown.grid->rowsShown(), 2);
+        shown.typeInto(shown.fields().first(), u"text 3"_s);
+        QCOMPARE(shown.texts(0), u"Text 3"_s);
+        shown.key(Qt::Key_Escape);
+        QTRY_COMPARE(shown.grid->rowsShown(), 5);
+        QCOMPARE(shown.count(), QString());
+        shown.key(Qt::Key_Escape);
+        QVERIFY(shown->hasFocus());
+    }
+
+    void columnsHaveFieldsOfTheirOwn_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("names");
+
+        QTest::newRow("a part") << u"an1"_s << u"Fan1|Fan10"_s;
+        QTest::newRow("differs") << u"<>fan2"_s << u"Fan1|Pump||Fan10"_s;
+        QTest::newRow("empty") << u"="_s << u""_s;
+        QTest::newRow("not empty") << u"<>"_s << u"Fan1|Fan2|Pump|Fan10"_s;
+        QTest::newRow("blanks") << u"  "_s << u"Fan1|Fan2|Pump||Fan10"_s;
+    }
+    void columnsHaveFieldsOfTheirOwn()
+    {
+        QFETCH(const QString, typed);
+        QFETCH(const QString, names);
+        FilteredGrid shown;
+        QCOMPARE(shown.fields().size(), 6);
+        shown.typeInto(shown.field(1), typed);
+        QCOMPARE(shown.texts(1), names);
+        QCOMPARE(shown.grid->filterText(1), typed);
+    }
+
+    void allFiltersCount()
+    {
+        FilteredGrid shown;
+        shown.typeInto(shown.field(1), u"Fan"_s);
+        shown.typeInto(shown.field(0), u"5"_s);
+        QCOMPARE(shown.texts(1), u"Fan10"_s);
+        QCOMPARE(shown.count(), u"1 of 5"_s);
+        shown.grid->setFilterText(0, {});
+        QCOMPARE(shown.texts(1), u"Fan1|Fan2|Fan10"_s);
+        QCOMPARE(shown.field(0)->text(), QString());
+    }
+
+    void fieldsStandUnderTheirHeaders()
+    {
+        FilteredGrid shown;
+        const QHeaderView &header = *shown->horizontalHeader();
+        for (int column = 0; column < 5; ++column) {
+            const QRect place = shown.field(column)->geometry();
+            QCOMPARE(place.left(), header.sectionViewportPosition(column));
+            QCOMPARE(place.width(), header.sectionSize(column));
+            QVERIFY(place.top() >= header.viewport()->geometry().bottom());
+            QVERIFY(place.bottom() < header.height());
+        }
+        shown->setColumnWidth(0, 100);
+        QCOMPARE(shown.field(0)->width(), 100);
+        QCOMPARE(shown.field(1)->x(), 100);
+        shown->setColumnHidden(1, true);
+        QCOMPARE(shown.field(2)->x(), 100);
+        QVERIFY(shown->viewport()->y() >= header.geometry().bottom());
+    }
+
+    void withoutFiltersTheHeaderIsAsBefore()
+    {
+        ShownGrid shown;
+        const int height = shown->horizontalHeader()->height();
+        shown.grid->setFilterPlace(ListGrid::FilterInColumns);
+        QVERIFY(shown->horizontalHeader()->height() > height);
+        shown.grid->setFilterText(0, u"5"_s);
+        QCOMPARE(shown.grid->rowsShown(), 1);
+        shown.grid->setFilterPlace(ListGrid::NoFilter);
+        QCOMPARE(shown->horizontalHeader()->height(), height);
+        QCOMPARE(shown.grid->rowsShown(), 5);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!shown->findChild<QLineEdit *>());
+    }
+
+    void enterAndDownGoToTheRows()
+    {
+        FilteredGrid shown;
+        shown.typeInto(shown.field(1), u"Fan"_s);
+        shown.key(Qt::Key_Return);
+        QVERIFY(shown->hasFocus());
+        shown.key(Qt::Key_Down);
+        shown.key(Qt::Key_End);
+        QCOMPARE(shown->SelectedItem(), shown.item(5));
+    }
+
+    void fieldsAreReachedByTab()
+    {
+        FilteredGrid shown;
+        shown.grid->setEditsCells(false);
+        shown->setFocus();
+        shown.key(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), shown.field(0));
+        shown.key(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), shown.field(1));
+        QCOMPARE(shown.field(1)->accessibleName(), u"Filter: Header 2"_s);
+    }
+
+    void rowsThatAreNotSeenAreNotSelected()
+    {
+        FilteredGrid shown;
+        shown->setMultiSelect(true);
+        shown.click(shown.cell(2));
+        shown.click(shown.cell(3), Qt::LeftButton, Qt::ControlModifier);
+        shown.grid->setFilterText(1, u"Fan"_s);
+        QVERIFY(shown.item(2)->Selected() && !shown.item(3)->Selected());
+        QCOMPARE(shown.current(), u"1 0"_s); // the current one has gone
+        shown.grid->setFilterText(1, {});
+        QVERIFY(shown.item(2)->Selected() && !shown.item(3)->Selected());
+        QTRY_COMPARE(shown->selectionModel()->selectedRows().size(), 1);
+    }
+
+    void theProgramHasAllRows()
+    {
+        FilteredGrid shown;
+        shown.grid->setFilterText(1, u"Pump"_s);
+        QCOMPARE(shown->ListItems()->Count(), 5);
+        shown.set(1, 1, u"changed"_s);
+        shown.item(1)->setForeground(Qt::red);
+        shown.item(1)->setChecked(true);
+        QCOMPARE(shown.item(1)->SubItem(1), u"changed"_s);
+        shown->UpdateSubItems(u"v"_s, {}, 2);
+        shown->setSelectedItem(shown.item(1));
+        QVERIFY(shown.item(1)->Selected());
+        QCOMPARE(shown->SelectedItem(), shown.item(1));
+        shown.item(1)->EnsureVisible();
+        shown->StartLabelEdit();
+        shown.click(shown.cell(1));
+        QVERIFY(!shown.item(1)->Selected() && shown.item(3)->Selected());
+        shown->setSelectedItem(shown.item(1));
+        shown->ListItems()->Remove(1);
+        QCOMPARE(shown->ListItems()->Count(), 4);
+        QCOMPARE(shown->SelectedItem(), nullptr);
+        shown.grid->setFilterText(1, {});
+        QCOMPARE(shown.texts(1), u"Fan2|Pump||Fan10"_s);
+        QCOMPARE(shown.text(1, 2), u"v"_s);
+    }
+
+    void rowsHiddenByTheHostStaySo()
+    {
+        FilteredGrid shown;
+        shown.item(2)->setVisible(false);
+        shown.item(3)->setVisible(false);
+        shown->setRowHeight(4, 40);
+        shown.grid->setFilterText(1, u"Pump"_s);
+        QCOMPARE(shown->verticalHeader()->count(), 1);
+        QVERIFY(!shown.item(2)->Visible() && !shown.item(3)->Visible());
+        shown.item(2)->setVisible(true);
+        shown.item(1)->setVisible(false);
+        shown.grid->setFilterText(1, {});
+        QCOMPARE(shown->verticalHeader()->count(), 5);
+        QVERIFY(!shown.item(1)->Visible() && shown.item(2)->Visible());
+        QVERIFY(!shown.item(3)->Visible() && shown.item(4)->Visible());
+    }
+
+    void undoReachesRowsThatAreNotSeen()
+    {
+        FilteredGrid shown;
+        shown.goTo(1, 1);
+        shown.type(u"Zone"_s);
+        shown.key(Qt::Key_Return);
+        shown.grid->setFilterText(1, u"Fan"_s);
+        shown.key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(shown.item(1)->SubItem(1), u"Fan1"_s);
+        QCOMPARE(shown.grid->rowsShown(), 2);
+        QVERIFY(shown.grid->enterText(shown.item(3), 1, u"Air"_s));
+        QCOMPARE(shown.item(3)->SubItem(1), u"Air"_s);
+    }
+
+    void whatIsPastedGoesIntoRowsThatAreSeen()
+    {
+        FilteredGrid shown;
+        shown->setMultiSelect(true);
+        shown.grid->setSelectsCells(true);
+        shown.grid->setFilterText(1, u"Fan"_s);
+        shown.goTo(2, 1);
+        QGuiApplication::clipboard()->setText(u"A\nB\n"_s);
+        shown.key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(shown.item(2)->SubItem(1) + shown.item(5)->SubItem(1), u"AB"_s);
+        QCOMPARE(shown.item(3)->SubItem(1), u"Pump"_s);
+    }
+
+    void newRowsAreFiltered()
+    {
+        FilteredGrid shown;
+        shown.typeInto(shown.field(0), u"a"_s);
+        shown->setRows({{.text = u"b"_s}, {.text = u"a"_s}, {.text = u"Ab"_s}});
+        QCOMPARE(shown.texts(0), u"a|Ab"_s);
+        QCOMPARE(shown.count(), u"2 of 3"_s);
+        shown->Add(0, {}, u"new"_s);
+        QCOMPARE(shown.texts(0), u"a|Ab|new"_s);
+        QCOMPARE(shown.count(), u"3 of 4"_s);
+        shown->Clear();
+        QCOMPARE(shown.count(), u"0 of 0"_s);
+    }
+
+    void otherColumnsHaveOtherFields()
+    {
+        FilteredGrid shown;
+        shown.typeInto(shown.field(1), u"Fan"_s);
+        shown->ColumnHeaders()->Remove(1);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.grid->filterText(0), u"Fan"_s);
+        QCOMPARE(shown.field(0)->text(), u"Fan"_s);
+        shown->ColumnHeaders()->Remove(1);
+        QTRY_COMPARE(shown.grid->rowsShown(), 5);
+        shown->ColumnHeaders()->Clear();
+        shown->ColumnHeaders()->Add(0, u"x"_s, u"X"_s);
+        QCoreApplication::processEvents();
+        QVERIFY(shown.field(0));
+    }
+
+    void filtersWorkOnSortedRows()
+    {
+        FilteredGrid shown;
+        shown.grid->setSortKeys({{1, Qt::DescendingOrder}});
+        shown.typeInto(shown.field(1), u"Fan"_s);
+        QCOMPARE(shown.texts(1), u"Fan10|Fan2|Fan1"_s);
+        shown.grid->setSortKeys({});
+        QCOMPARE(shown.texts(1), u"Fan1|Fan2|Fan10"_s);
+    }
+
+    void theHostMayDestroyTheListAsTheUserTypes()
+    {
+        FilteredGrid shown;
+        QObject::connect(shown.grid, &ListGrid::rowsArranged, shown.grid,
+                         [&shown] { delete shown.list.data(); });
+        shown.typeInto(shown.field(1), u"Fan"_s);
+        QVERIFY(!shown.list);
+    }
+};
+
+ORVT_TEST(GridFilterTest)
+#include "GridFilterTest.moc"
