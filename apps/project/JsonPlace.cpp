@@ -3,6 +3,9 @@
 #include "project/JsonParser.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
+#include "project/TextFile.h"
+
+#include "base/Utf8Text.h"
 
 #include <cmath>
 #include <limits>
@@ -19,11 +22,13 @@ using namespace Qt::StringLiterals;
     throw Error(ProjectNotValid, u"readProject"_s, u"%1: %2"_s.arg(where, reason));
 }
 
-// Columns count characters.
+// Columns count characters, of which the file's byte order mark is none.
 QString lineAndColumn(const QByteArray &json, qsizetype offset)
 {
-    const QByteArrayView before = QByteArrayView(json).first(offset);
-    const QString line = QString::fromUtf8(before.sliced(before.lastIndexOf('\n') + 1));
+    QByteArrayView before = QByteArrayView(json).first(offset);
+    if (before.startsWith(byteOrderMark))
+        before = before.sliced(byteOrderMark.size());
+    const QString line = utf8Text(before.sliced(before.lastIndexOf('\n') + 1));
     return ProjectTexts::tr("line %1, column %2")
         .arg(QString::number(before.count('\n') + 1), QString::number(line.size() + 1));
 }
@@ -46,10 +51,10 @@ QString expectation(JsonNode::Kind kind)
     return ProjectTexts::tr("a number is expected");
 }
 
-std::shared_ptr<const JsonNode> parsed(const QByteArray &json, const QString &fileName)
+std::shared_ptr<const JsonTree> parsed(const QByteArray &json, const QString &fileName)
 {
     try {
-        return std::make_shared<const JsonNode>(JsonParser::parse(json));
+        return std::make_shared<const JsonTree>(JsonParser::parse(json));
     } catch (const JsonFault &fault) {
         failAt(fileName, lineAndColumn(json, fault.offset), fault.reason);
     }
@@ -57,7 +62,7 @@ std::shared_ptr<const JsonNode> parsed(const QByteArray &json, const QString &fi
 
 } // namespace
 
-JsonPlace::JsonPlace(QString file, Root root, QString place, const JsonNode *node)
+JsonPlace::JsonPlace(QString file, Root root, QString place, JsonNode node)
     : m_file(std::move(file))
     , m_root(std::move(root))
     , m_place(std::move(place))
@@ -68,7 +73,7 @@ JsonPlace::JsonPlace(QString file, Root root, QString place, const JsonNode *nod
 JsonPlace JsonPlace::parse(const QByteArray &json, const QString &fileName)
 {
     const Root root = parsed(json, fileName);
-    JsonPlace place(fileName, root, {}, root.get());
+    JsonPlace place(fileName, root, {}, JsonNode::rootOf(*root));
     place.expect(JsonNode::Kind::Object);
     return place;
 }
@@ -84,37 +89,36 @@ JsonPlace JsonPlace::member(const QString &name) const
 {
     expect(JsonNode::Kind::Object);
     const QString place = m_place.isEmpty() ? name : u"%1, %2"_s.arg(m_place, name);
-    const qsizetype index = isPresent() ? m_node->names.indexOf(name) : -1;
-    return below(place, index < 0 ? nullptr : &m_node->items[static_cast<std::size_t>(index)]);
+    return below(place, isPresent() ? m_node.member(name) : JsonNode());
 }
 
 void JsonPlace::allowOnly(const QStringList &members) const
 {
     expect(JsonNode::Kind::Object);
-    const QStringList present = isPresent() ? m_node->names : QStringList();
-    for (const QString &name : present) {
-        if (!members.contains(name))
-            member(name).fail(ProjectTexts::tr("is not known here"));
+    for (JsonNode node = firstInside(); node.isThere(); node = node.next()) {
+        if (!members.contains(node.name()))
+            member(node.name()).fail(ProjectTexts::tr("is not known here"));
     }
 }
 
 JsonPlace JsonPlace::item(qsizetype index) const
 {
     expect(JsonNode::Kind::Array);
-    const auto at = static_cast<std::size_t>(index);
-    return element(index, isPresent() && at < m_node->items.size() ? &m_node->items[at] : nullptr);
+    JsonNode node = index < 0 ? JsonNode() : firstInside();
+    for (qsizetype i = 0; i < index && node.isThere(); ++i)
+        node = node.next();
+    return element(index, node);
 }
 
 QList<JsonPlace> JsonPlace::items(qsizetype atMost) const
 {
     expect(JsonNode::Kind::Array);
-    if (!isPresent())
-        return {};
-    if (m_node->items.size() > static_cast<std::size_t>(atMost))
-        fail(ProjectTexts::tr("holds more than %1 elements").arg(atMost));
     QList<JsonPlace> result;
-    for (const JsonNode &node : m_node->items)
-        result.append(element(result.size(), &node));
+    for (JsonNode node = firstInside(); node.isThere(); node = node.next()) {
+        if (result.size() == atMost)
+            fail(ProjectTexts::tr("holds more than %1 elements").arg(atMost));
+        result.append(element(result.size(), node));
+    }
     return result;
 }
 
@@ -123,7 +127,7 @@ QString JsonPlace::text(const QString &absent) const
     if (!isPresent())
         return absent;
     expect(JsonNode::Kind::Text);
-    return m_node->text;
+    return m_node.text();
 }
 
 bool JsonPlace::boolean(bool absent) const
@@ -131,7 +135,7 @@ bool JsonPlace::boolean(bool absent) const
     if (!isPresent())
         return absent;
     expect(JsonNode::Kind::Boolean);
-    return m_node->boolean;
+    return m_node.boolean();
 }
 
 qint32 JsonPlace::integer(qint32 absent) const
@@ -139,7 +143,7 @@ qint32 JsonPlace::integer(qint32 absent) const
     using Limits = std::numeric_limits<qint32>;
     if (!isPresent())
         return absent;
-    const double value = isNumber() ? m_node->number : std::nan("");
+    const double value = isNumber() ? m_node.number() : std::nan("");
     if (!(value >= Limits::min() && value <= Limits::max()) || value != std::floor(value))
         fail(ProjectTexts::tr("a whole number of 32 bits is expected"));
     return static_cast<qint32>(value);
@@ -148,7 +152,7 @@ qint32 JsonPlace::integer(qint32 absent) const
 double JsonPlace::number() const
 {
     required().expect(JsonNode::Kind::Number);
-    return m_node->number;
+    return m_node.number();
 }
 
 void JsonPlace::fail(const QString &reason) const
@@ -156,14 +160,19 @@ void JsonPlace::fail(const QString &reason) const
     failAt(m_file, m_place, reason);
 }
 
-JsonPlace JsonPlace::below(const QString &place, const JsonNode *node) const
+JsonPlace JsonPlace::below(const QString &place, JsonNode node) const
 {
     return {m_file, m_root, place, node};
 }
 
-JsonPlace JsonPlace::element(qsizetype index, const JsonNode *node) const
+JsonPlace JsonPlace::element(qsizetype index, JsonNode node) const
 {
     return below(u"%1 #%2"_s.arg(m_place, QString::number(index + 1)), node);
+}
+
+JsonNode JsonPlace::firstInside() const
+{
+    return isPresent() ? m_node.first() : JsonNode();
 }
 
 void JsonPlace::expect(JsonNode::Kind kind) const

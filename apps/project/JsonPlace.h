@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/JsonNode.h"
+#include "project/JsonTree.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -19,7 +19,7 @@ public:
     // The root of a file's text.
     static JsonPlace parse(const QByteArray &json, const QString &fileName);
 
-    bool isPresent() const { return m_node; }
+    bool isPresent() const { return m_node.isThere(); }
     const JsonPlace &required() const;
 
     // A member of an object, absent if the object is absent or has none.
@@ -43,8 +43,8 @@ public:
     bool isNumber() const { return isA(JsonNode::Kind::Number); }
 
     // The bytes of a value that is present.
-    qsizetype start() const { return m_node->start; }
-    qsizetype end() const { return m_node->end; }
+    qsizetype start() const { return m_node.start(); }
+    qsizetype end() const { return m_node.end(); }
 
     [[noreturn]] void fail(const QString &reason) const;
 
@@ -52,19 +52,20 @@ public:
     QString place() const { return m_place; }
 
 private:
-    using Root = std::shared_ptr<const JsonNode>;
+    using Root = std::shared_ptr<const JsonTree>;
 
-    JsonPlace(QString file, Root root, QString place, const JsonNode *node);
+    JsonPlace(QString file, Root root, QString place, JsonNode node);
 
-    bool isA(JsonNode::Kind kind) const { return m_node && m_node->kind == kind; }
-    JsonPlace below(const QString &place, const JsonNode *node) const;
-    JsonPlace element(qsizetype index, const JsonNode *node) const;
+    bool isA(JsonNode::Kind kind) const { return isPresent() && m_node.kind() == kind; }
+    JsonPlace below(const QString &place, JsonNode node) const;
+    JsonPlace element(qsizetype index, JsonNode node) const;
+    JsonNode firstInside() const;
     void expect(JsonNode::Kind kind) const;
 
     QString m_file;
     Root m_root;
-    QString m_place;        // empty for the root
-    const JsonNode *m_node; // of the root's; null for one that is absent
+    QString m_place; // empty for the root
+    JsonNode m_node; // none for a value that is absent
 };
 
 } // namespace ORVTListview

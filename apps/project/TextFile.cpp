@@ -167,7 +167,9 @@ QByteArray encodeProgram(const QString &program, ProgramFormat format, const QSt
     if (format.lineEnd != LineEnd::CrLf)
         text.replace("\r\n"_L1, lineEndText(format.lineEnd));
     const QByteArray bytes = text.toUtf8();
-    return format.hasByteOrderMark ? byteOrderMark.toByteArray() + bytes : bytes;
+    // A program's own first character would be taken for a mark.
+    const bool needsMark = format.hasByteOrderMark || bytes.startsWith(byteOrderMark);
+    return needsMark ? byteOrderMark.toByteArray() + bytes : bytes;
 }
 
 } // namespace ORVTListview

@@ -39,7 +39,8 @@ ProgramFormat programFormat(QByteArrayView bytes);
 QString decodeProgram(const QByteArray &bytes, const QString &name);
 
 // The bytes of a program, whose lines are separated by CR LF. Raises TextNotUtf8,
-// naming the line, for a text with half a character in it.
+// naming the line, for a text with half a character in it. A text that begins with a byte
+// order mark gets another before it.
 QByteArray encodeProgram(const QString &program, ProgramFormat format, const QString &name);
 
 } // namespace ORVTListview

@@ -25,17 +25,22 @@ decltype(auto) raisingErrors(const QString &source, Call &&call)
     }
 }
 
-// The description of what the call throws; empty when it throws nothing.
+// The description of what the call throws, which may be that there is no memory; empty
+// when it throws nothing.
 template <typename Call>
 QString failureOf(Call &&call)
 {
+    QString description;
     try {
-        raisingErrors({}, std::forward<Call>(call));
+        std::forward<Call>(call)();
+        return {};
     } catch (const Error &error) {
-        const QString description = error.Description();
-        return description.isEmpty() ? QStringLiteral("Unknown failure") : description;
+        description = error.Description();
+    } catch (const std::exception &error) {
+        description = QString::fromUtf8(error.what());
+    } catch (...) {
     }
-    return {};
+    return description.isEmpty() ? QStringLiteral("Unknown failure") : description;
 }
 
 } // namespace ORVTListview

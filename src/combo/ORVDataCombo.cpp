@@ -1,10 +1,10 @@
 #include <ORVTListview/ORVDataCombo.h>
 
-#include "base/Failure.h"
 #include "base/ThreadState.h"
 #include "combo/PointEntries.h"
 #include "shared/texts/TextRoutine.h"
 #include "shared/texts/TextTable.h"
+#include "shared/texts/ToldFailure.h"
 #include "widgets/combo/ImageCombo.h"
 #include "widgets/component/BagReader.h"
 #include "widgets/component/ToldProperties.h"
@@ -12,7 +12,6 @@
 #include "widgets/input/RelayedEvents.h"
 #include "widgets/look/Colours.h"
 #include "widgets/look/Pictures.h"
-#include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>
 
 #include <QtCore/QEvent>
@@ -97,9 +96,7 @@ void ORVDataCombo::FillDataListview(LwType TypeIndex, PointCollection *, QString
 {
     if (!hasPointEntries(TypeIndex))
         return;
-    const QString failure = failureOf([&] { d->combo->setEntries(pointEntries(TypeIndex)); });
-    if (!failure.isEmpty())
-        ErrMsg = failure;
+    tellingFailure(ErrMsg, [&] { d->combo->setEntries(pointEntries(TypeIndex)); });
     tell();
 }
 

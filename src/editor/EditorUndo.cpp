@@ -4,7 +4,7 @@
 #include "editor/EditorThread.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/LineColouring.h"
-#include "shared/texts/TextTable.h"
+#include "shared/texts/ToldFailure.h"
 #include "widgets/box/BoxText.h"
 #include "widgets/box/KeptView.h"
 #include "widgets/box/LateColours.h"
@@ -74,14 +74,13 @@ bool EditorUndo::step(Way way, QString &ErrMsg)
     const RichTextBox::Changing changing(m_box);
     beforeEdit(false);
     const UndoStore::Restoring restoring(m_thread.ring);
-    try {
+    bool done = false;
+    tellingFailure(ErrMsg, [&] {
         const bool canStep =
             way == Way::Forward ? m_thread.ring.CanRedo() : m_thread.ring.CanUndo();
-        return canStep ? stepInRing(way) : showKept(m_kept.go(m_thread.ring, shown(), way));
-    } catch (const Error &error) {
-        ErrMsg = Localise(error.Description());
-        return false;
-    }
+        done = canStep ? stepInRing(way) : showKept(m_kept.go(m_thread.ring, shown(), way));
+    });
+    return done;
 }
 
 bool EditorUndo::stepInRing(Way way)

@@ -55,7 +55,6 @@ void ProgramText::Init_RichTextBox(const RichTextSettings &Setting)
     const QString kept = m_box.Text();
     m_box.setUpdatesEnabled(false);
     const auto finish = qScopeGuard([this] {
-        m_box.setSelStart(0);
         m_box.setUpdatesEnabled(true);
         m_undo.setReady(true);
     });
@@ -66,6 +65,7 @@ void ProgramText::Init_RichTextBox(const RichTextSettings &Setting)
     } catch (const std::exception &) {
         m_box.setText(kept); // uncoloured is better than lost
     }
+    m_box.setSelStart(0);
 }
 
 void ProgramText::applyAppearance(const RichTextSettings &setting)

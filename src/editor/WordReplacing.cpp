@@ -1,11 +1,10 @@
 #include "editor/WordReplacing.h"
 
-#include "base/Failure.h"
 #include "base/TextPiece.h"
 #include "base/TextRules.h"
 #include "editor/ProgramEditing.h"
 #include "find/rules/ProgramSearch.h"
-#include "shared/texts/TextTable.h"
+#include "shared/texts/ToldFailure.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QScopeGuard>
@@ -33,10 +32,7 @@ void replaceWord(ProgramEditing &editing, const QString &word, const QString &te
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     const auto how = inColours ? ProgramEditing::Replacing::InColours
                                : ProgramEditing::Replacing::InTheColoursThere;
-    const QString failure =
-        failureOf([&] { replaceThroughout(editing, asInBox(word), text, how); });
-    if (!failure.isEmpty())
-        ErrMsg = Localise(failure);
+    tellingFailure(ErrMsg, [&] { replaceThroughout(editing, asInBox(word), text, how); });
 }
 
 } // namespace ORVTListview

@@ -1,9 +1,8 @@
 #include "find/FindDialog.h"
 
-#include "base/Failure.h"
 #include "base/ThreadState.h"
 #include "find/fFind.h"
-#include "shared/texts/TextTable.h"
+#include "shared/texts/ToldFailure.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QScopeGuard>
@@ -77,9 +76,7 @@ fFind &FindDialog::shared()
 
 void FindDialog::showModally(RichTextBox &box, bool isReplace, QString &ErrMsg)
 {
-    const QString failure = failureOf([&] { openModally(box, isReplace); });
-    if (!failure.isEmpty())
-        ErrMsg = Localise(failure);
+    tellingFailure(ErrMsg, [&] { openModally(box, isReplace); });
 }
 
 void FindDialog::showBeside(RichTextBox &box, bool isReplace)

@@ -7,6 +7,7 @@
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextRoutine.h"
 #include "shared/texts/TextTable.h"
+#include "shared/texts/ToldFailure.h"
 #include "widgets/list/ReportHeader.h"
 #include "widgets/look/ElidedLabel.h"
 #include "widgets/look/PictureBox.h"
@@ -15,7 +16,6 @@
 #include "widgets/look/Twips.h"
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>
-#include <ORVTListview/Error.h>
 #include <ORVTListview/ListGrid.h>
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ReportList.h>
@@ -135,11 +135,7 @@ void PointTable::UpdateSubItems(const QString &Value, const QString &TagValue, q
 
 void PointTable::UpdateListViewWidth(QString &ErrMsg)
 {
-    try {
-        m_list.fitColumns();
-    } catch (const Error &error) {
-        ErrMsg = error.Description();
-    }
+    tellingFailure(ErrMsg, [this] { m_list.fitColumns(); });
 }
 
 void PointTable::SetImage(bool Busy)

@@ -1,5 +1,7 @@
 #include "rtf/RtfCodePages.h"
 
+#include "base/Utf8Text.h"
+
 #include <algorithm>
 
 namespace ORVTListview {
@@ -117,7 +119,7 @@ QStringView RtfBytes::take(qint32 codePage)
 {
     m_text.resize(0);
     if (codePage == utf8Page)
-        m_text = QString::fromUtf8(m_bytes);
+        m_text = utf8Text(m_bytes);
     else if (pairPage(codePage))
         decodePairs(codePage);
     else

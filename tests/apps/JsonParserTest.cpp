@@ -9,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <optional>
 
 using namespace ORVTListview;
@@ -31,31 +30,34 @@ bool agrees(const JsonNode &node, const QJsonValue &value);
 
 bool elementsAgree(const JsonNode &node, const QJsonArray &array)
 {
-    return std::equal(
-        node.items.cbegin(), node.items.cend(), array.cbegin(), array.cend(),
-        [](const JsonNode &item, const QJsonValue &value) { return agrees(item, value); });
+    qsizetype count = 0;
+    JsonNode item = node.first();
+    for (; item.isThere() && agrees(item, array.at(count)); item = item.next())
+        ++count;
+    return !item.isThere() && count == array.size();
 }
 
 bool membersAgree(const JsonNode &node, const QJsonObject &object)
 {
-    bool agree = node.names.size() == object.size();
-    for (qsizetype i = 0; agree && i < node.names.size(); ++i)
-        agree = agrees(node.items.at(static_cast<std::size_t>(i)), object[node.names.at(i)]);
-    return agree;
+    qsizetype count = 0;
+    JsonNode member = node.first();
+    for (; member.isThere() && agrees(member, object[member.name()]); member = member.next())
+        ++count;
+    return !member.isThere() && count == object.size();
 }
 
 // Whether the toolkit has read the same.
 bool agrees(const JsonNode &node, const QJsonValue &value)
 {
-    switch (node.kind) {
+    switch (node.kind()) {
     case JsonNode::Kind::Null:
         return value.isNull();
     case JsonNode::Kind::Boolean:
-        return value.isBool() && value.toBool() == node.boolean;
+        return value.isBool() && value.toBool() == node.boolean();
     case JsonNode::Kind::Number:
-        return value.isDouble() && value.toDouble() == node.number;
+        return value.isDouble() && value.toDouble() == node.number();
     case JsonNode::Kind::Text:
-        return value.isString() && value.toString() == node.text;
+        return value.isString() && value.toString() == node.text();
     case JsonNode::Kind::Array:
         return value.isArray() && elementsAgree(node, value.toArray());
     case JsonNode::Kind::Object:
@@ -67,10 +69,10 @@ bool agrees(const JsonNode &node, const QJsonValue &value)
 // Every value's bytes are that value by themselves.
 void expectPlaces(const JsonNode &node, const QByteArray &json)
 {
-    const QByteArray own = json.sliced(node.start, node.end - node.start);
+    const QByteArray own = json.sliced(node.start(), node.end() - node.start());
     ASSERT_TRUE(agrees(node, QJsonDocument::fromJson('[' + own + ']').array().at(0)))
         << own.constData();
-    for (const JsonNode &item : node.items)
+    for (JsonNode item = node.first(); item.isThere(); item = item.next())
         expectPlaces(item, json);
 }
 
@@ -156,14 +158,18 @@ private:
 TEST(JsonParser, KnowsWhereValuesStand)
 {
     const QByteArray json = "\xEF\xBB\xBF {\"a\" : [1, \"\xC2\xB0\\u0041\" ] }";
-    const JsonNode root = JsonParser::parse(json);
-    EXPECT_EQ(root.start, 4);
-    EXPECT_EQ(root.end, json.size());
-    EXPECT_EQ(root.names, QStringList(u"a"_s));
-    const JsonNode &array = root.items.at(0);
-    EXPECT_EQ(json.sliced(array.start, array.end - array.start), "[1, \"\xC2\xB0\\u0041\" ]");
-    EXPECT_EQ(array.items.at(1).text, u"°A"_s);
-    EXPECT_EQ(array.items.at(1).start, json.indexOf("\"\xC2"));
+    const JsonTree tree = JsonParser::parse(json);
+    const JsonNode root = JsonNode::rootOf(tree);
+    EXPECT_EQ(root.start(), 4);
+    EXPECT_EQ(root.end(), json.size());
+    const JsonNode array = root.first();
+    EXPECT_EQ(array.name(), u"a"_s);
+    EXPECT_FALSE(array.next().isThere());
+    EXPECT_EQ(json.sliced(array.start(), array.end() - array.start()), "[1, \"\xC2\xB0\\u0041\" ]");
+    const JsonNode text = array.first().next();
+    EXPECT_EQ(text.text(), u"°A"_s);
+    EXPECT_EQ(text.start(), json.indexOf("\"\xC2"));
+    EXPECT_FALSE(text.next().isThere());
 }
 
 TEST(JsonParser, AMemberThatStandsTwiceIsAFault)
@@ -216,10 +222,32 @@ TEST(JsonParser, RefusesWhatIsNoJson)
 
 TEST(JsonParser, AByteOrderMarkInATextIsACharacter)
 {
-    const JsonNode root = JsonParser::parse("{\"\xEF\xBB\xBF\": \"\xEF\xBB\xBF\\n\xEF\xBB\xBF\"}");
-    EXPECT_EQ(root.names, QStringList{QChar(QChar::ByteOrderMark)});
-    ASSERT_EQ(root.items.size(), 1U);
-    EXPECT_EQ(root.items[0].text, u"\uFEFF\n\uFEFF"_s);
+    const JsonTree tree = JsonParser::parse("{\"\xEF\xBB\xBF\": \"\xEF\xBB\xBF\\n\xEF\xBB\xBF\"}");
+    const JsonNode text = JsonNode::rootOf(tree).first();
+    EXPECT_EQ(text.name(), QString(QChar::ByteOrderMark));
+    EXPECT_EQ(text.text(), u"\uFEFF\n\uFEFF"_s);
+}
+
+TEST(JsonParser, FindsMembersByTheNamesThatAreMeant)
+{
+    const JsonTree tree =
+        JsonParser::parse(R"({"": 0, "a\"b": 1, "\u0061": 2, "a\\": 3, "\ufeffa": 4, "ab": 5})");
+    const JsonNode root = JsonNode::rootOf(tree);
+    const QStringList names{u""_s, u"a\"b"_s, u"a"_s, u"a\\"_s, u"\uFEFFa"_s, u"ab"_s};
+    for (const QString &name : names)
+        EXPECT_EQ(root.member(name).number(), names.indexOf(name)) << name.toStdString();
+    for (const QString &name : {u"b"_s, u"A"_s, u"abc"_s, u"\\u0061"_s, u"a\\\"b"_s})
+        EXPECT_FALSE(root.member(name).isThere()) << name.toStdString();
+    EXPECT_FALSE(root.first().member(u""_s).isThere());
+}
+
+// Places have 32 bits.
+TEST(JsonParser, RefusesWhatIsTooLargeUnread)
+{
+    const auto fault = faultIn(QByteArray::fromRawData("{}", qsizetype(1) << 32));
+    ASSERT_TRUE(fault);
+    EXPECT_EQ(fault->offset, 0);
+    EXPECT_EQ(fault->reason, u"too large document"_s);
 }
 
 TEST(JsonParser, TakesManyValuesInOneAnother)
@@ -235,7 +263,8 @@ TEST(JsonParser, AgreesWithTheToolkitOnRandomDocuments)
     RandomJson random(seed);
     for (int round = 0; round < 2000; ++round) {
         const QByteArray json = random.document();
-        const JsonNode root = JsonParser::parse(json);
+        const JsonTree tree = JsonParser::parse(json);
+        const JsonNode root = JsonNode::rootOf(tree);
         ASSERT_TRUE(agrees(root, QJsonDocument::fromJson(json).object())) << json.constData();
         expectPlaces(root, json);
     }
@@ -257,7 +286,8 @@ TEST(JsonParser, TakesNoSpoiltDocumentThatTheToolkitRefuses)
         QJsonParseError error;
         const QJsonDocument document = QJsonDocument::fromJson(json, &error);
         ASSERT_EQ(error.error, QJsonParseError::NoError) << json.constData();
-        ASSERT_TRUE(agrees(JsonParser::parse(json), document.object())) << json.constData();
+        const JsonTree tree = JsonParser::parse(json);
+        ASSERT_TRUE(agrees(JsonNode::rootOf(tree), document.object())) << json.constData();
     }
     EXPECT_GT(taken, 1000);
     EXPECT_LT(taken, 15000);

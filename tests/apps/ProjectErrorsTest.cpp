@@ -126,6 +126,9 @@ TEST(ProjectErrors, BadJsonIsNamedWithLineAndColumn)
     const Fault fault = loadJson("{\n  \"format\": 1,\n  \"name\" \"T\"\n}");
     EXPECT_EQ(fault.number, ProjectNotValid);
     EXPECT_TRUE(fault.text.startsWith(u"p.json: line 3, column "_s)) << fault.text.toStdString();
+    const QByteArray mark = "\xEF\xBB\xBF";
+    EXPECT_TRUE(loadJson(mark + "x").text.startsWith(u"p.json: line 1, column 1: "_s));
+    EXPECT_TRUE(loadJson("[\"\n" + mark + "x\\y").text.startsWith(u"p.json: line 2, column 4: "_s));
     EXPECT_TRUE(loadJson({}).text.startsWith(u"p.json: line 1, column 1: "_s));
     EXPECT_EQ(loadJson("[]").text, u"p.json: an object is expected"_s);
     EXPECT_EQ(loadJson("\xFF").number, ProjectNotValid);

@@ -58,6 +58,16 @@ TEST(ProgramText, DropsAByteOrderMark)
     EXPECT_EQ(decoded("A\xEF\xBB\xBF"), u"A\uFEFF"_s);
 }
 
+TEST(ProgramText, WhatIsSavedComesBackWhateverItBeginsWith)
+{
+    for (const bool hasMark : {false, true}) {
+        for (const QString &program : {u""_s, u"A"_s, u"\uFEFF"_s, u"\uFEFF\uFEFFA"_s}) {
+            const QByteArray bytes = encodeProgram(program, {LineEnd::Lf, hasMark}, u"p"_s);
+            EXPECT_EQ(decoded(bytes), program) << hasMark;
+        }
+    }
+}
+
 TEST(ProgramText, KeepsEveryOtherCharacter)
 {
     EXPECT_EQ(decoded("\t\xC2\xA0 \xE2\x80\xA8 \xF0\x9F\x98\x80 \x01\x7F"),

@@ -8,6 +8,7 @@
 #include "find/rules/ProgramSearch.h"
 #include "project/JsonParser.h"
 #include "project/ProgramCheck.h"
+#include "project/ProjectReader.h"
 #include "project/TextFile.h"
 #include "rtf/RtfReader.h"
 #include "rtf/RtfWriter.h"
@@ -176,9 +177,6 @@ Operation settings(const char *name, const QString &line)
             1};
 }
 
-// Each value of a document is kept with its place, however short it is.
-constexpr int mostMemoryOfJson = 100;
-
 Operation parsing(const char *name, const std::function<QString(int)> &document)
 {
     return {std::string("JSON: ") + name,
@@ -191,7 +189,22 @@ Operation parsing(const char *name, const std::function<QString(int)> &document)
                     }
                 };
             },
-            1, mostMemoryOfJson};
+            1};
+}
+
+// With the same number of rows in every table, the shortest that there are.
+QByteArray projectOf(int size)
+{
+    constexpr int ofOneRowEach = 150;
+    QString json = u"{\"format\":1,\"name\":\"P\",\"program\":\"p\""_s;
+    for (const LwType type : projectTypes()) {
+        const QString row = nameColumn(type) < 0 ? u"{}"_s : u"{\"name\":\"N%1\"}"_s;
+        QStringList rows;
+        for (int i = 0; i < size / ofOneRowEach; ++i)
+            rows.append(row.contains(u'%') ? row.arg(i) : row);
+        json += u",\"%1\":[%2]"_s.arg(projectMember(type), rows.join(u','));
+    }
+    return json.toUtf8() + '}';
 }
 
 std::vector<Operation> projects()
@@ -203,6 +216,13 @@ std::vector<Operation> projects()
         parsing("open brackets", [](int size) { return filled(u"["_s, size); }),
         parsing("one text",
                 [](int size) { return u"[\""_s + filled(u"\\u20ac"_s, size) + u"\"]"_s; }),
+        {"read a project",
+         [](int size) {
+             return [json = projectOf(size)] {
+                 static_cast<void>(readContents(JsonPlace::parse(json, u"p"_s)));
+             };
+         },
+         1},
         {"read a program",
          [](int size) {
              return [bytes = filled(programLine, size).toUtf8()] {

@@ -13,7 +13,6 @@ struct Operation
     std::string name;
     std::function<Prepared(int size)> prepare;
     int bytesOfAUnit = 2; // 1 for what is read from files
-    int mostMemory = 40;  // times its input, beside what everything may take
 };
 
 const std::vector<Operation> &operations();

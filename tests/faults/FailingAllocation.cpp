@@ -2,8 +2,15 @@
 
 #include <ORVTListview/Error.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <new>
+
+extern "C" {
+// Where the program itself, without its libraries, stands: the linker's.
+extern const char __executable_start; // NOLINT(bugprone-reserved-identifier)
+extern const char etext;
+}
 
 namespace {
 
@@ -11,9 +18,17 @@ thread_local int callsLeft = 0; // 0: none fails
 thread_local bool staysShort = false;
 thread_local bool failed = false;
 
-bool isToFail()
+// The libraries' and ours are told apart by who has called.
+bool isOurs(const void *caller)
 {
-    if (callsLeft == 0)
+    const auto place = reinterpret_cast<std::uintptr_t>(caller);
+    return place >= reinterpret_cast<std::uintptr_t>(&__executable_start) &&
+           place < reinterpret_cast<std::uintptr_t>(&etext);
+}
+
+bool isToFail(const void *caller)
+{
+    if (callsLeft == 0 || !isOurs(caller))
         return false;
     if (callsLeft > 1) {
         --callsLeft;
@@ -25,9 +40,14 @@ bool isToFail()
     return true;
 }
 
-void *allocated(std::size_t size)
+void *allocated(std::size_t size, const void *caller)
 {
-    void *memory = operator new(size, std::nothrow);
+    return isToFail(caller) ? nullptr : std::malloc(size == 0 ? 1 : size);
+}
+
+void *allocatedOrRaised(std::size_t size, const void *caller)
+{
+    void *memory = allocated(size, caller);
     if (!memory)
         throw std::bad_alloc();
     return memory;
@@ -37,17 +57,18 @@ void *allocated(std::size_t size)
 
 void *operator new(std::size_t size)
 {
-    return allocated(size);
+    return allocatedOrRaised(size, __builtin_return_address(0));
 }
 
+// What the toolkit's hashes are made of, which end the program for want of it.
 void *operator new[](std::size_t size)
 {
-    return allocated(size);
+    return allocatedOrRaised(size, nullptr);
 }
 
 void *operator new(std::size_t size, const std::nothrow_t &) noexcept
 {
-    return isToFail() ? nullptr : std::malloc(size == 0 ? 1 : size);
+    return allocated(size, __builtin_return_address(0));
 }
 
 void operator delete(void *memory) noexcept

@@ -10,7 +10,6 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
-#include <algorithm>
 #include <optional>
 
 using namespace ORVTListview;
@@ -18,7 +17,7 @@ using namespace ORVTListview::Fuzzing;
 
 namespace {
 
-std::optional<JsonNode> parsed(const QByteArray &json)
+std::optional<JsonTree> parsed(const QByteArray &json)
 {
     try {
         return JsonParser::parse(json);
@@ -39,36 +38,50 @@ bool hasMark(const QString &text)
 
 void compareMembers(const JsonNode &node, const QJsonObject &object)
 {
-    if (std::any_of(node.names.begin(), node.names.end(), hasMark))
+    qsizetype count = 0;
+    bool isSame = true;
+    for (JsonNode member = node.first(); member.isThere(); member = member.next()) {
+        const QString name = member.name();
+        demand(node.member(name).start() == member.start(), "a member is found by its name");
+        isSame = isSame && !hasMark(name);
+        ++count;
+    }
+    if (!isSame)
         return;
-    demand(object.size() == node.names.size(), "an object has the members");
-    for (qsizetype i = 0; i < node.names.size(); ++i)
-        compare(node.items[static_cast<std::size_t>(i)], object.value(node.names[i]));
+    demand(object.size() == count, "an object has the members");
+    for (JsonNode member = node.first(); member.isThere(); member = member.next())
+        compare(member, object.value(member.name()));
+}
+
+void compareElements(const JsonNode &node, const QJsonArray &array)
+{
+    qsizetype count = 0;
+    for (JsonNode item = node.first(); item.isThere(); item = item.next())
+        compare(item, array.at(count++));
+    demand(array.size() == count, "an array has the elements");
 }
 
 void compare(const JsonNode &node, const QJsonValue &value)
 {
-    demand(node.start >= 0 && node.start < node.end, "a value has a place");
-    switch (node.kind) {
+    demand(node.start() >= 0 && node.start() < node.end(), "a value has a place");
+    switch (node.kind()) {
     case JsonNode::Kind::Null:
         demand(value.isNull(), "null");
         break;
     case JsonNode::Kind::Boolean:
-        demand(value.isBool() && value.toBool() == node.boolean, "true or false");
+        demand(value.isBool() && value.toBool() == node.boolean(), "true or false");
         break;
     case JsonNode::Kind::Number:
-        demand(value.isDouble() && value.toDouble() == node.number, "a number");
+        demand(value.isDouble() && value.toDouble() == node.number(), "a number");
         break;
     case JsonNode::Kind::Text:
         demand(value.isString() &&
-                   (value.toString() == node.text ||
-                    (hasMark(node.text) && value.toString() == node.text.sliced(1))),
+                   (value.toString() == node.text() ||
+                    (hasMark(node.text()) && value.toString() == node.text().sliced(1))),
                "a text");
         break;
     case JsonNode::Kind::Array:
-        demand(value.toArray().size() == qsizetype(node.items.size()), "an array has the elements");
-        for (std::size_t i = 0; i < node.items.size(); ++i)
-            compare(node.items[i], value.toArray().at(qsizetype(i)));
+        compareElements(node, value.toArray());
         break;
     case JsonNode::Kind::Object:
         compareMembers(node, value.toObject());
@@ -101,11 +114,12 @@ void checkBag(const QJsonObject &object)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray json(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    const std::optional<JsonNode> root = parsed(json);
+    const std::optional<JsonTree> tree = parsed(json);
+    const JsonNode root = tree ? JsonNode::rootOf(*tree) : JsonNode();
     const QJsonDocument document = QJsonDocument::fromJson(json);
-    if (root && (root->kind == JsonNode::Kind::Object || root->kind == JsonNode::Kind::Array)) {
+    if (tree && (root.kind() == JsonNode::Kind::Object || root.kind() == JsonNode::Kind::Array)) {
         demand(!document.isNull(), "what our parser takes the toolkit's takes");
-        compare(*root,
+        compare(root,
                 document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object()));
     }
     if (document.isObject())

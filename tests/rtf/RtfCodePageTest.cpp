@@ -71,6 +71,12 @@ TEST(RtfCodePages, takesTheCharacterSetOfAFontOfAPageThatItDoesNotKnow)
         u"\u03b0"_s);
 }
 
+TEST(RtfCodePages, takesAByteOrderMarkForTheCharacterThatItIs)
+{
+    EXPECT_EQ(plainText(u"{\\rtf1\\ansi\\ansicpg65001 \\'ef\\'bb\\'bfa{\\b\\'ef\\'bb\\'bf}b}"),
+              u"\uFEFFa\uFEFFb"_s);
+}
+
 TEST(RtfCodePages, readsUtf8)
 {
     EXPECT_EQ(

@@ -170,8 +170,9 @@ QString BoxText::range(qint32 start, qint32 length) const
 const QString &BoxText::text() const
 {
     if (m_keptText.isStale) {
-        const Change change = takeChange(m_keptText, m_text.size());
+        const Change change = changeSince(m_keptText, m_text.size());
         m_text.replace(change.start, change.length, change.text);
+        m_keptText = asItIs();
     }
     return m_text;
 }
@@ -183,8 +184,9 @@ const SharedText &BoxText::sharedText() const
         m_sharedText = SharedText(text());
         kept = m_keptText;
     } else if (kept.isStale) {
-        const Change change = takeChange(kept, m_sharedText.size());
+        const Change change = changeSince(kept, m_sharedText.size());
         m_sharedText = m_sharedText.replaced(change.start, change.length, change.text);
+        kept = asItIs();
     }
     return m_sharedText;
 }
@@ -194,10 +196,10 @@ void BoxText::know(const QString &text, bool isOtherState)
 {
     if (text.size() != length() || text.contains(QChar(u'\0')))
         return;
-    m_text = text;
-    const SharedText shared(text);
+    const SharedText shared(text); // there may be no memory for it
     m_sharedText = isOtherState ? shared.sharedWith(m_sharedText) : shared;
-    m_keptText = m_keptSharedText = {m_length, 0, 0, false};
+    m_text = text;
+    m_keptText = m_keptSharedText = asItIs();
 }
 
 void BoxText::noteChange(int from, int removed, int added)
@@ -216,14 +218,13 @@ void BoxText::noteChange(int from, int removed, int added)
 }
 
 // What has changed since, with which the text of this size is right again.
-BoxText::Change BoxText::takeChange(Kept &kept, qsizetype size) const
+BoxText::Change BoxText::changeSince(const Kept &kept, qsizetype size) const
 {
     const int shorter = std::max(0, std::min(kept.length, m_length));
     const int prefix = std::clamp(kept.prefix, 0, shorter);
     const int suffix = std::clamp(kept.suffix, 0, shorter - prefix);
     const qint32 front = toBox(prefix);
     const qint32 back = length() - toBox(m_length - suffix);
-    kept = {m_length, 0, 0, false};
     return {front, size - front - back, read(prefix, m_length - suffix)};
 }
 

@@ -74,7 +74,8 @@ private:
     };
 
     void noteChange(int from, int removed, int added);
-    Change takeChange(Kept &kept, qsizetype size) const;
+    Kept asItIs() const { return {m_length, 0, 0, false}; }
+    Change changeSince(const Kept &kept, qsizetype size) const;
     QTextBlock blockAt(qint32 position) const;
     int documentLength() const;
     QString readAtOnce(int from, int to) const;

@@ -1,5 +1,7 @@
 #include "widgets/input/DraggedNames.h"
 
+#include "base/Utf8Text.h"
+
 #include <QtCore/QMimeData>
 #include <QtCore/QStringList>
 
@@ -27,7 +29,7 @@ std::optional<QString> DraggedNames::in(const QMimeData &data)
 {
     if (!data.hasFormat(format()))
         return {};
-    return QString::fromUtf8(data.data(format()));
+    return utf8Text(data.data(format()));
 }
 
 } // namespace ORVTListview

@@ -15,8 +15,17 @@ NodeModel::NodeModel(const QWidget &view)
 
 NodeModel::~NodeModel()
 {
-    while (!m_root.children.empty())
-        flattened(take(*m_root.children.back()));
+    // One by one from the ends: no depth of nodes makes a depth of calls, and no memory
+    // is wanted.
+    TreeNode *node = &m_root;
+    while (node != &m_root || !node->children.empty()) {
+        if (!node->children.empty()) {
+            node = node->children.back().get();
+            continue;
+        }
+        node = node->parent;
+        node->children.pop_back();
+    }
 }
 
 QModelIndex NodeModel::index(int row, int column, const QModelIndex &parent) const

@@ -99,6 +99,18 @@ TEST(SettingsDocument, AFileByHandNeedsNoMarks)
     EXPECT_EQ(valueIn(twoSettings() + section + "Code=4\n", u"Code"_s), u"4"_s);
 }
 
+TEST(SettingsDocument, AByteOrderMarkInAValueIsACharacter)
+{
+    const QString value = u"\uFEFF1\uFEFF"_s;
+    SettingsDocument document;
+    document.apply({{key(value), value}});
+    EXPECT_EQ(valueIn(document.toBytes(), value), value);
+    EXPECT_EQ(valueIn("[Software/Morvane Systems Inc/Quillbox]\nCode=\xef\xbb\xbf"
+                      "1\n",
+                      u"Code"_s),
+              u"\uFEFF1"_s);
+}
+
 // Else a later cut behind that line would go unnoticed.
 TEST(SettingsDocument, AnEndLineInAFileByHandIsNotWrittenIntoItsMiddle)
 {
