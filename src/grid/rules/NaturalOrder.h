@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/HouseExport.h"
-
 #include <QtCore/QString>
 #include <QtCore/QStringView>
 
@@ -9,7 +7,7 @@ namespace ORVTListview {
 
 // How much of a text is a number that it begins with, decimals included; 0 for none. What
 // has letters or digits right behind it is the beginning of a name, as "2ndFan" or "3.4.5".
-ORVT_HOUSE_EXPORT qsizetype lengthOfNumber(QStringView text);
+qsizetype lengthOfNumber(QStringView text);
 
 // A text as it is sorted, made once so that it is compared often. Numbers come first, by
 // their value, whatever unit stands behind them; then texts, in which digits that follow one

@@ -58,7 +58,7 @@ std::optional<QByteArray> contentOf(const QString &fileName)
 Loaded load(const QString &fileName)
 {
     const QFileInfo info(fileName); // a link leads nowhere but in a circle
-    if (!info.isFile()) { // reading could wait for ever
+    if (!info.isFile()) {           // reading could wait for ever
         const bool isThere = info.exists() || info.isSymLink();
         return {isThere ? Loaded::State::NoFile : Loaded::State::Absent};
     }
