@@ -54,15 +54,6 @@ TEST(FollowingWords, ReadyCollectionsAreFollowed)
     EXPECT_EQ(project.colourOf(u"if"_s), ReservedWordColour);
 }
 
-TEST(FollowingWords, TheFirstOfTheListIsFoundAsAnyOther)
-{
-    Project project;
-    project.inputs.Add(u"!a"_s);
-    EXPECT_EQ(project.colourOf(u"fan1"_s), OutputColour);
-    EXPECT_EQ(project.colourOf(u"!a"_s), InputColour);
-    EXPECT_EQ(project.words.current()->text, u"!a"_s);
-}
-
 TEST(FollowingWords, OneRefillTakesAllChangesAndNoneWhenNothingChanged)
 {
     Project project;
