@@ -5,6 +5,7 @@
 #include "base/FileLock.h"
 #include "shared/points/DisplayNames.h"
 
+#include "support/DiskLimits.h"
 #include "support/TestProgram.h"
 #include "support/WithoutRights.h"
 
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void aFileOfManyOthersLosesNone();
     void aReadOnlyFileStays();
     void aFolderInItsPlaceStays();
+    void aFullDiskKeepsWhatWasSaved();
     void mayGoWithItsWindow();
     void waitsForWhoeverHoldsTheFile();
 };
@@ -205,6 +207,27 @@ void TreeSavingTest::aFolderInItsPlaceStays()
         QCOMPARE(keysOn(tree, 0).size(), 13);
     }
     QCOMPARE(folder().content(u"settings.ini/precious"_s), "x");
+}
+
+void TreeSavingTest::aFullDiskKeepsWhatWasSaved()
+{
+    store(u"Inputs"_s, u"1"_s);
+    const QByteArray before = folder().content(u"settings.ini"_s);
+    const QStringList names = folder().names();
+    {
+        const ORVTreeview tree;
+        node(tree, u"Logs"_s)->setParent(node(tree, u"Page1"_s));
+        DiskLimits::limitFiles(before.size());
+    }
+    DiskLimits::limitFiles(-1); // as much as there is
+    QCOMPARE(folder().content(u"settings.ini"_s), before);
+    QCOMPARE(folder().names(), names);
+    {
+        const ORVTreeview tree;
+        QCOMPARE(keysOn(tree, 1), QStringList{u"Inputs"_s});
+        node(tree, u"Logs"_s)->setParent(node(tree, u"Page1"_s));
+    }
+    QCOMPARE(stored(u"Logs"_s), u"1"_s);
 }
 
 void TreeSavingTest::mayGoWithItsWindow()

@@ -12,8 +12,9 @@ TEST(CommentLine, BeginsWithRemAndABlank)
                                    u" \t rem\t"_s, u"REM REM"_s})
         EXPECT_TRUE(IsCommentLine(comment)) << comment.toStdString();
     for (const QString &code : {u"REMARK"_s, u"REM_X"_s, u"REMOTE"_s, u""_s, u"   "_s, u"X REM"_s,
-                                u"(REM x)"_s, u"RE"_s, u"REM:"_s})
+                                u"(REM x)"_s, u"RE"_s, u"REM:"_s, u"REMX"_s})
         EXPECT_FALSE(IsCommentLine(code)) << code.toStdString();
+    EXPECT_TRUE(IsCommentLine(QStringView(u"REMX").first(3)));
 }
 
 TEST(LineBounds, OfEveryCaret)
@@ -57,6 +58,7 @@ TEST(WordBounds, BackwardsStopAtBlankTabOpeningBracketAndLf)
     EXPECT_EQ(FindWordStart(u"ab\rcd", 5), 1);
     EXPECT_EQ(FindWordStart(u"ab cd", 3), 4);
     EXPECT_EQ(FindWordStart(u"ab", 0), 1);
+    EXPECT_EQ(FindWordStart(u"(ab", 1), 2);
     EXPECT_EQ(FindWordStart(u"", 0), 1);
 }
 

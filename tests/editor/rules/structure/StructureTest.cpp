@@ -190,4 +190,5 @@ TEST(ProgramBlocks, needAnIf)
 {
     EXPECT_TRUE(blocksOf({u"ENDIF"_s, u"REM IF"_s, u"ENDIF"_s}).outermost().isEmpty());
     EXPECT_EQ(blocksOf({u"IF a IF b"_s, u"ENDIF"_s, u"ENDIF"_s}).outermost(), Blocks({{0, 2}}));
+    EXPECT_EQ(blocksOf({u"IF a ENDIF IF b"_s, u"ENDIF"_s}).outermost(), Blocks({{0, 1}}));
 }
