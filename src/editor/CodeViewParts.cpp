@@ -25,7 +25,7 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , hover(editorBox, layers, problems)
     , commands(programCommands)
     , commandsState(editorBox)
-    , caretLine(editorBox, {numbers, folds, problems})
+    , caretLine(editorBox, {numbers, folds, problems, liveValues})
     , found(editorBox, layers)
     , readableColours(editorBox, layers)
 {

@@ -1,7 +1,7 @@
 // Text dragged inside the editor, into it and out of it: what is refused stays where
 // it was.
 
-#include "editor/EditorHost.h"
+#include "editor/OpeningHost.h"
 #include "support/TestProgram.h"
 #include "support/TextDrag.h"
 #include "support/WidgetTest.h"
@@ -12,6 +12,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void aReadOnlyEditorGivesCopies();
     void theMessageIsShownInTheMiddleOfADrag();
     void aRefusedMiddleClickChangesNothing();
+    void aMoveWhileColoursAreToComeIsAsEver();
 };
 
 void EditorDragTest::aMoveInsideTheEditorMovesText()
@@ -222,6 +224,32 @@ void EditorDragTest::aRefusedMiddleClickChangesNothing()
     QTest::mouseClick(host.form.windowHandle(), Qt::MiddleButton, {}, inWindow(host.box(), 1));
     QCOMPARE(host.box().Text(), u"x = 1"_s);
     QCOMPARE(messages().size(), 1);
+}
+
+// From lines that wait to one that does. One editor at a time: one that loses the focus
+// finishes its line.
+void EditorDragTest::aMoveWhileColoursAreToComeIsAsEver()
+{
+    const auto shownAfter = [](bool isLate) {
+        OpeningHost host;
+        if (isLate)
+            host.open();
+        else
+            host.list->openProgram(longProgram());
+        RichTextBox &box = host.box();
+        box.verticalScrollBar()->setValue(1998);
+        box.setSelStart(box.lineStart(2000) + 3);
+        box.setSelLength(box.lineStart(2002) + 4 - box.SelStart());
+        TextDrag::drag(host.form, inWindow(box, box.SelStart() + 3),
+                       inWindow(box, box.lineStart(2005) + 7));
+        const bool waits = host.colours().areWaiting();
+        host.colours().giveAll();
+        return waits == isLate ? QStringList(host.marked()) + pictureOf(box) : QStringList();
+    };
+    const QStringList atOnce = shownAfter(false);
+    QVERIFY(atOnce.size() > 3000);
+    QVERIFY(!atOnce.first().contains(longProgram()));
+    comparePictures(shownAfter(true), atOnce);
 }
 
 ORVT_TEST(EditorDragTest)

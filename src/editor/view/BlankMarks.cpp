@@ -27,9 +27,8 @@ void drawArrow(QPainter &painter, const QRectF &place, bool isLeftwards)
 }
 
 // Of whole pixels, whatever their size.
-void drawDot(QPainter &painter, const QPointF &middle, const QColor &colour)
+void drawDot(QPainter &painter, const QPointF &middle, qreal ratio, const QColor &colour)
 {
-    const qreal ratio = painter.device()->devicePixelRatioF();
     const qreal side = std::round(2 * ratio) / ratio;
     const auto onPixel = [ratio](qreal place) { return std::round(place * ratio) / ratio; };
     painter.fillRect(
@@ -41,17 +40,21 @@ void mark(QPainter &painter, const ShownLine &line, const QPlainTextEdit &box, c
 {
     const QString text = line.block.text();
     const QRectF shown(box.viewport()->rect());
+    const qreal ratio = painter.device()->devicePixelRatioF();
     const LinePlaces places(line);
-    for (qint32 i = 0; i < text.size(); ++i) {
-        if (text[i] != u' ' && text[i] != u'\t')
-            continue;
-        for (const QRectF &place : places.of({i, 1})) {
+    for (const RowSides &sides : places.rows()) {
+        const QTextLine &row = sides.row();
+        const int end = std::min(row.textStart() + row.textLength(), static_cast<int>(text.size()));
+        for (int i = row.textStart(); i < end; ++i) {
+            if (text[i] != u' ' && text[i] != u'\t')
+                continue;
+            const QRectF place = places.between(sides, i, i + 1);
             if (!shown.intersects(place))
                 continue;
             if (text[i] == u'\t')
                 drawArrow(painter, place, box.isRightToLeft());
             else
-                drawDot(painter, place.center(), colour);
+                drawDot(painter, place.center(), ratio, colour);
         }
     }
 }

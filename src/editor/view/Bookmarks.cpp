@@ -7,6 +7,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
 
 #include <algorithm>
@@ -16,89 +17,66 @@ namespace ORVTListview {
 
 namespace {
 
-QTextCursor wholeLine(const QTextBlock &line)
+// That of the whole line.
+KeptPlaces::Span placeOf(const QTextBlock &line)
 {
-    QTextCursor whole(line);
-    const int end =
-        std::min(line.position() + line.length(), whole.document()->characterCount() - 1);
-    whole.setPosition(end, QTextCursor::KeepAnchor);
-    return whole;
+    return {line.position(), line.position()};
 }
 
 } // namespace
 
-Bookmarks::Mark::Mark(const QTextBlock &line)
-    : place(wholeLine(line))
-    , isSeen(place.hasSelection())
-{
-}
-
-QTextBlock Bookmarks::Mark::line() const
-{
-    return place.document()->findBlock(place.selectionStart());
-}
-
 Bookmarks::Bookmarks(RichTextBox &box)
     : m_box(box)
+    , m_places(*box.document(), KeptPlaces::Kind::Lines)
 {
 }
 
-// Edits do not change which of two marks comes first.
-Bookmarks::Place Bookmarks::firstOn(const QTextBlock &line) const
+bool Bookmarks::isOn(const QTextBlock &line) const
 {
-    const auto place =
-        std::partition_point(m_marks.cbegin(), m_marks.cend(), [&](const Mark &mark) {
-            return mark.place.selectionStart() < line.position();
-        });
-    const int end = line.position() + line.length();
-    return place != m_marks.cend() && place->place.selectionStart() < end ? place : m_marks.cend();
+    const qsizetype first = m_places.firstFrom(line.position());
+    return first < m_places.size() && m_places.at(first).from < line.position() + line.length();
 }
 
-void Bookmarks::sort()
+// Returns whether there were any.
+template <typename IsToGo>
+bool Bookmarks::remove(const IsToGo &isToGo)
 {
-    std::stable_sort(m_marks.begin(), m_marks.end(), [](const Mark &one, const Mark &other) {
-        return one.place.selectionStart() < other.place.selectionStart();
-    });
+    QList<KeptPlaces::Span> left;
+    for (qsizetype i = 0; i < m_places.size(); ++i) {
+        if (!isToGo(i))
+            left.append(m_places.at(i));
+    }
+    const bool wereThere = left.size() < m_places.size();
+    if (wereThere)
+        m_places.set(left);
+    if (m_places.isEmpty())
+        m_box.document()->disconnect(this);
+    return wereThere;
 }
 
 void Bookmarks::toggle()
 {
     const QTextBlock line = m_box.textCursor().block();
-    if (m_marks.removeIf([&](const Mark &mark) { return mark.line() == line; }) == 0) {
-        if (m_marks.isEmpty())
+    if (!remove([&](qsizetype i) { return m_places.lineAt(i) == line; })) {
+        if (m_places.isEmpty())
             connect(m_box.document(), &QTextDocument::contentsChange, this, &Bookmarks::noteChange);
-        m_marks.append(Mark(line));
-        sort();
+        m_places.set(m_places.byName() << placeOf(line));
     }
-    if (m_marks.isEmpty())
-        m_box.document()->disconnect(this);
     Q_EMIT changed();
-}
-
-// Those that the change has touched stand for whole lines again.
-void Bookmarks::fit(int from, int to)
-{
-    auto mark = std::partition_point(m_marks.begin(), m_marks.end(), [=](const Mark &above) {
-        return above.place.selectionEnd() < from;
-    });
-    for (; mark != m_marks.end() && mark->place.selectionStart() <= to; ++mark)
-        *mark = Mark(mark->line());
 }
 
 // With the whole text its marks go; what shows them follows when the text is whole.
 void Bookmarks::noteChange(int from, int removed, int added)
 {
-    if (m_box.keepsText() || !m_held.isEmpty())
+    if (m_box.keepsText())
+        return m_places.noteLetters(from, added);
+    m_places.noteChange(from, removed, added);
+    if (removed == 0 || !m_held.isEmpty())
         return;
-    const qsizetype count = m_marks.size();
-    if (removed > 0 && m_box.document()->characterCount() <= 1)
-        m_marks.clear();
-    else if (removed > 0)
-        m_marks.removeIf([](const Mark &mark) { return mark.isGone(); });
-    fit(from, from + added);
-    if (m_marks.isEmpty())
-        m_box.document()->disconnect(this);
-    if (m_marks.size() != count)
+    const bool isEmpty = m_box.document()->characterCount() <= 1;
+    if (!isEmpty && !m_places.areGone(from, from + added))
+        return;
+    if (remove([&](qsizetype i) { return isEmpty || m_places.isGone(i); }))
         QMetaObject::invokeMethod(this, &Bookmarks::changed, Qt::QueuedConnection);
 }
 
@@ -107,43 +85,40 @@ void Bookmarks::holdLines(const MovedLines &lines)
     m_held.clear();
     if (lines.from.isEmpty())
         return;
-    for (const Mark &mark : std::as_const(m_marks))
-        m_held.append(mark.line().blockNumber());
+    m_held.resize(m_places.size());
+    for (qsizetype i = 0; i < m_places.size(); ++i)
+        m_held[m_places.nameAt(i)] = m_places.lineAt(i).blockNumber();
 }
 
 void Bookmarks::putBack(const MovedLines &lines)
 {
     const QList<int> held = std::exchange(m_held, {});
-    if (held.size() != m_marks.size())
+    if (held.size() != m_places.size())
         return;
-    const QList<int> places = lines.places();
-    for (qsizetype i = 0; i < m_marks.size(); ++i) {
-        const int line = lines.contains(held[i]) ? places[held[i] - lines.first]
-                                                 : m_marks[i].line().blockNumber();
-        m_marks[i] = Mark(m_box.document()->findBlockByNumber(line));
+    const QList<int> newLines = lines.places();
+    QList<KeptPlaces::Span> places = m_places.byName();
+    for (qsizetype i = 0; i < places.size(); ++i) {
+        if (lines.contains(held[i]))
+            places[i] =
+                placeOf(m_box.document()->findBlockByNumber(newLines[held[i] - lines.first]));
     }
-    sort();
+    m_places.put(places);
 }
 
 void Bookmarks::tellMoved(const MovedLines &lines)
 {
-    if (!lines.from.isEmpty() && !m_marks.isEmpty())
+    if (!lines.from.isEmpty() && !m_places.isEmpty())
         Q_EMIT changed();
 }
 
 bool Bookmarks::goToNext()
 {
-    if (m_marks.isEmpty())
+    if (m_places.isEmpty())
         return false;
-    const QTextBlock line = m_box.textCursor().block();
-    const int behind = line.position() + line.length();
-    auto next = std::find_if(m_marks.cbegin(), m_marks.cend(), [=](const Mark &mark) {
-        return mark.place.selectionStart() >= behind;
-    });
-    if (next == m_marks.cend())
-        next = m_marks.cbegin();
     QTextCursor caret = m_box.textCursor();
-    caret.setPosition(next->line().position());
+    const QTextBlock line = caret.block();
+    const qsizetype next = m_places.firstFrom(line.position() + line.length());
+    caret.setPosition(m_places.lineAt(next % m_places.size()).position());
     const KeptView view(m_box);
     m_box.setTextCursor(caret);
     return true;
@@ -153,8 +128,8 @@ QList<LineMark> Bookmarks::marks() const
 {
     const QColor colour = colourOn(ViewColours::groundOf(m_box));
     QList<LineMark> marks;
-    for (const Mark &mark : m_marks)
-        marks.append({mark.place.selectionStart(), colour});
+    for (qsizetype i = 0; i < m_places.size(); ++i)
+        marks.append({m_places.at(i).from, colour});
     return marks;
 }
 

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "editor/view/KeptPlaces.h"
+
 #include <QtCore/QList>
 #include <QtCore/QObject>
-#include <QtGui/QTextCursor>
 
 namespace ORVTListview {
 
@@ -19,8 +20,8 @@ class Bookmarks final : public QObject
 public:
     explicit Bookmarks(RichTextBox &box);
 
-    bool isEmpty() const { return m_marks.isEmpty(); }
-    bool isOn(const QTextBlock &line) const { return firstOn(line) != m_marks.cend(); }
+    bool isEmpty() const { return m_places.isEmpty(); }
+    bool isOn(const QTextBlock &line) const;
 
     // On the line of the caret.
     void toggle();
@@ -40,29 +41,13 @@ Q_SIGNALS:
     void changed();
 
 private:
-    // A whole line with its end. The last line has none, so that without a letter
-    // nothing of it is seen to go.
-    struct Mark
-    {
-        explicit Mark(const QTextBlock &line);
-
-        QTextBlock line() const;
-        bool isGone() const { return isSeen && !place.hasSelection(); }
-
-        QTextCursor place;
-        bool isSeen = false;
-    };
-
-    using Place = QList<Mark>::const_iterator;
-
-    Place firstOn(const QTextBlock &line) const; // the end for none
-    void fit(int from, int to);
-    void sort();
+    template <typename IsToGo>
+    bool remove(const IsToGo &isToGo);
     void noteChange(int from, int removed, int added);
 
     RichTextBox &m_box;
-    QList<Mark> m_marks; // from the top
-    QList<int> m_held;   // the line of each, from 0, while lines change places
+    KeptPlaces m_places;
+    QList<int> m_held; // the line of each, from 0, by its name, while lines change places
 };
 
 } // namespace ORVTListview

@@ -1,6 +1,7 @@
 #include "editor/view/CaretLineAccess.h"
 
 #include "editor/view/Folds.h"
+#include "editor/view/LiveValues.h"
 #include "editor/view/NumberColumn.h"
 #include "editor/view/Problems.h"
 #include "shared/texts/TextTable.h"
@@ -20,11 +21,13 @@ CaretLineAccess::CaretLineAccess(QPlainTextEdit &box, const Sources &sources)
 {
     connect(&sources.problems, &Problems::changed, this, &CaretLineAccess::refresh);
     connect(&sources.folds, &Folds::changed, this, &CaretLineAccess::refresh);
+    connect(&sources.values, &LiveValues::changed, this, &CaretLineAccess::refresh);
 }
 
 bool CaretLineAccess::isNeeded() const
 {
-    return m_sources.numbers.isShown() || m_sources.folds.isOn() || m_sources.problems.isShown();
+    return m_sources.numbers.isShown() || m_sources.folds.isOn() || m_sources.problems.isShown() ||
+           m_sources.values.isShown();
 }
 
 void CaretLineAccess::refresh()
@@ -49,6 +52,8 @@ QString CaretLineAccess::lineText() const
         texts << Localise(u"%1 lines hidden"_s).arg(hidden);
     if (const QString problems = m_sources.problems.textOn(line); !problems.isEmpty())
         texts << problems;
+    if (const QString values = m_sources.values.textOn(line); !values.isEmpty())
+        texts << values;
     return texts.join(u'\n');
 }
 

@@ -7,12 +7,13 @@ class QPlainTextEdit;
 namespace ORVTListview {
 
 class Folds;
+class LiveValues;
 class NumberColumn;
 class Problems;
 
 // Tells screen readers what is shown beside the line of the caret: its number, how many
-// lines are hidden behind it, and its problems. What the host says of the box stands
-// there again when there is nothing to tell.
+// lines are hidden behind it, its problems, and the values shown behind it. What the host says of
+// the box stands there again when there is nothing to tell.
 class CaretLineAccess final : public QObject
 {
     Q_OBJECT
@@ -23,6 +24,7 @@ public:
         const NumberColumn &numbers;
         const Folds &folds;
         const Problems &problems;
+        const LiveValues &values;
     };
 
     CaretLineAccess(QPlainTextEdit &box, const Sources &sources);

@@ -30,6 +30,16 @@ namespace {
 constexpr qsizetype mostLetters = 400; // of a line's values; no window is wider
 constexpr int fewestLetters = 4;       // an ellipsis alone tells nothing
 
+// As the font's metrics do it, but of so many letters only as may be seen: to lay out all
+// the values of a line takes long.
+QString cutToFit(const QString &text, const QFontMetricsF &metrics, qreal room)
+{
+    auto letters = static_cast<qsizetype>(room / metrics.averageCharWidth()) + 2;
+    while (letters < text.size() && metrics.horizontalAdvance(text.left(letters)) <= room)
+        letters *= 2;
+    return metrics.elidedText(text.left(letters), Qt::ElideRight, room);
+}
+
 LiveValues::Values byFoldedName(const LiveValues::Values &given)
 {
     LiveValues::Values values;
@@ -58,8 +68,11 @@ void LiveValues::setOn(bool on)
     if (on == isShown())
         return;
     setShown(on);
-    if (!on)
-        return clear();
+    if (!on) {
+        clear();
+        Q_EMIT changed();
+        return;
+    }
     connect(m_box.horizontalScrollBar(), &QScrollBar::valueChanged, this, &LiveValues::repaint);
     connect(m_box.document(), &QTextDocument::contentsChange, this, &LiveValues::noteChange);
     connect(m_box.document(), &QTextDocument::contentsChanged, this, &LiveValues::followChange);
@@ -94,12 +107,13 @@ void LiveValues::take()
     if (!layers())
         return;
     layers()->updateLines([&](const QTextBlock &line) {
-        const QString now = valuesOn(line);
+        const QString now = textOn(line);
         m_values.swap(former);
-        const QString before = valuesOn(line);
+        const QString before = textOn(line);
         m_values.swap(former);
         return now != before;
     });
+    Q_EMIT changed();
 }
 
 // What is cut at the edge of the viewport is cut elsewhere once that is scrolled.
@@ -129,7 +143,7 @@ void LiveValues::followChange()
     }
 }
 
-QString LiveValues::valuesOn(const QTextBlock &line) const
+QString LiveValues::textOn(const QTextBlock &line) const
 {
     if (m_values.isEmpty())
         return {};
@@ -177,7 +191,7 @@ void LiveValues::paintAbove(QPainter &painter, const ShownLines &lines)
         ViewColours::onGround(quiet, ViewColours::faintGround(ground), ViewColours::readable));
     for (const ShownLine &line : lines) {
         const QRectF room = roomBehind(line);
-        const QString values = room.isEmpty() ? QString() : valuesOn(line.block);
+        const QString values = room.isEmpty() ? QString() : textOn(line.block);
         if (values.isEmpty())
             continue;
         const QStaticText &shown = laidOut(values, line.block.textDirection(), font, room.width());
@@ -213,7 +227,7 @@ const QStaticText &LiveValues::laidOut(const QString &values, Qt::LayoutDirectio
     const QStaticText &whole = textFor(values);
     if (whole.size().width() <= room)
         return whole;
-    return textFor(QFontMetricsF(font, &m_box).elidedText(values, Qt::ElideRight, room));
+    return textFor(cutToFit(values, QFontMetricsF(font, &m_box), room));
 }
 
 } // namespace ORVTListview

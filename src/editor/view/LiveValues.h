@@ -31,7 +31,13 @@ public:
     // Names in any letter case. Kept while it is off.
     void set(const Values &values);
 
+    // What is shown behind a line, all of it; nothing while it is off.
+    QString textOn(const QTextBlock &line) const;
+
     void paintAbove(QPainter &painter, const ShownLines &lines) override;
+
+Q_SIGNALS:
+    void changed();
 
 private:
     void take();
@@ -39,7 +45,6 @@ private:
     void repaint();
     void noteChange(int from, int removed, int added);
     void followChange();
-    QString valuesOn(const QTextBlock &line) const;
     QRectF roomBehind(const ShownLine &line) const;
     const QStaticText &laidOut(const QString &values, Qt::LayoutDirection direction,
                                const QFont &font, qreal room);

@@ -6,11 +6,12 @@
 #include "editor/view/ViewColours.h"
 #include "widgets/box/KeptView.h"
 #include "widgets/box/LinePlaces.h"
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QStringList>
 #include <QtGui/QPainter>
+#include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
-#include <QtWidgets/QPlainTextEdit>
 
 #include <algorithm>
 #include <utility>
@@ -18,19 +19,15 @@
 namespace ORVTListview {
 namespace {
 
-QTextCursor placeOf(const Problem &problem, QTextDocument &text)
+KeptPlaces::Span placeOf(const Problem &problem, const QTextDocument &text)
 {
     const QTextBlock line =
         text.findBlockByNumber(std::clamp(problem.line - 1, 0, text.blockCount() - 1));
     const int length = line.length() - 1;
     const int from = std::clamp(problem.from, 0, length);
     const int rest = length - from;
-    QTextCursor place(line);
-    place.setPosition(line.position() + from);
-    place.setPosition(place.position() +
-                          (problem.length > 0 ? std::min(problem.length, rest) : rest),
-                      QTextCursor::KeepAnchor);
-    return place;
+    const int start = line.position() + from;
+    return {start, start + (problem.length > 0 ? std::min(problem.length, rest) : rest)};
 }
 
 constexpr int waveStep = 2;
@@ -55,37 +52,33 @@ QPixmap waveOf(const QColor &colour, qreal ratio)
 
 } // namespace
 
-bool Problems::Kept::touches(const QTextBlock &line) const
-{
-    return place.selectionStart() < line.position() + line.length() &&
-           place.selectionEnd() >= line.position();
-}
-
-Problem Problems::Kept::now() const
-{
-    Problem now = problem;
-    const QTextBlock line = place.document()->findBlock(place.selectionStart());
-    now.line = line.blockNumber() + 1;
-    now.from = place.selectionStart() - line.position();
-    now.length = place.selectionEnd() - place.selectionStart();
-    return now;
-}
-
-Problems::Problems(QPlainTextEdit &box, BoxLayers &layers)
+Problems::Problems(RichTextBox &box, BoxLayers &layers)
     : BoxLayer(layers, LayerOrder::problems)
     , m_box(box)
+    , m_places(*box.document(), KeptPlaces::Kind::Texts)
 {
+}
+
+Problem Problems::now(qsizetype i) const
+{
+    Problem now = given(i);
+    const KeptPlaces::Span place = m_places.at(i);
+    const QTextBlock line = m_places.lineAt(i);
+    now.line = line.blockNumber() + 1;
+    now.from = place.from - line.position();
+    now.length = place.to - place.from;
+    return now;
 }
 
 void Problems::set(const QList<Problem> &problems)
 {
-    m_kept.clear();
-    for (const Problem &problem : problems) {
-        const QTextCursor place = placeOf(problem, *m_box.document());
-        m_kept.append({problem, place, place.hasSelection()});
-    }
-    sort();
-    const bool areThere = !m_kept.isEmpty();
+    m_given = problems;
+    QList<KeptPlaces::Span> places;
+    places.reserve(problems.size());
+    for (const Problem &problem : problems)
+        places.append(placeOf(problem, *m_box.document()));
+    m_places.set(places);
+    const bool areThere = !problems.isEmpty();
     if (areThere && !isShown()) {
         connect(m_box.document(), &QTextDocument::contentsChange, this, &Problems::noteChange);
     } else if (!areThere && isShown()) {
@@ -97,57 +90,55 @@ void Problems::set(const QList<Problem> &problems)
     Q_EMIT changed();
 }
 
-void Problems::sort()
-{
-    std::stable_sort(m_kept.begin(), m_kept.end(), [](const Kept &one, const Kept &other) {
-        return one.place.selectionStart() < other.place.selectionStart();
-    });
-}
-
 void Problems::holdLines(const MovedLines &lines)
 {
     m_held.clear();
     if (lines.from.isEmpty())
         return;
-    for (const Kept &kept : std::as_const(m_kept))
-        m_held.append(kept.now());
+    m_held.resize(m_given.size());
+    for (qsizetype i = 0; i < m_places.size(); ++i)
+        m_held[m_places.nameAt(i)] = now(i);
 }
 
 void Problems::putBack(const MovedLines &lines)
 {
     QList<Problem> held = std::exchange(m_held, {});
-    if (held.isEmpty() || held.size() != m_kept.size())
+    if (held.isEmpty() || held.size() != m_places.size())
         return;
-    const QList<int> places = lines.places();
-    for (qsizetype i = 0; i < m_kept.size(); ++i) {
-        const int line = held[i].line - 1;
-        if (!lines.contains(line) || (m_kept[i].hasText && held[i].length == 0))
+    const QList<int> newLines = lines.places();
+    QList<KeptPlaces::Span> places = m_places.byName();
+    for (qsizetype i = 0; i < held.size(); ++i) {
+        Problem &problem = held[i];
+        if (!lines.contains(problem.line - 1))
             continue;
-        held[i].line = places[line - lines.first] + 1;
-        m_kept[i].place = placeOf(held[i], *m_box.document());
-        if (held[i].length == 0)
-            m_kept[i].place.setPosition(m_kept[i].place.anchor());
+        problem.line = newLines[problem.line - 1 - lines.first] + 1;
+        places[i] = placeOf(problem, *m_box.document());
+        if (problem.length == 0)
+            places[i].to = places[i].from;
     }
-    sort();
+    m_places.put(places);
 }
 
 // When the caret is in its place, too.
 void Problems::tellMoved(const MovedLines &lines)
 {
-    if (!lines.from.isEmpty() && !m_kept.isEmpty())
+    if (!lines.from.isEmpty() && !m_places.isEmpty())
         Q_EMIT changed();
 }
 
 // With the whole text its problems go; what shows them follows when the text is whole.
-void Problems::noteChange(int, int removed, int)
+void Problems::noteChange(int from, int removed, int added)
 {
+    if (m_box.keepsText())
+        return m_places.noteLetters(from, added);
     if (removed == 0 || m_box.document()->characterCount() > 1)
-        return;
-    m_kept.clear();
+        return m_places.noteChange(from, removed, added);
+    m_given.clear();
+    m_places.set({});
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (m_kept.isEmpty())
+            if (m_given.isEmpty())
                 set({});
         },
         Qt::QueuedConnection);
@@ -156,18 +147,18 @@ void Problems::noteChange(int, int removed, int)
 QList<Problem> Problems::list() const
 {
     QList<Problem> problems;
-    for (const Kept &kept : m_kept) {
-        if (kept.isThere())
-            problems.append(kept.now());
+    for (qsizetype i = 0; i < m_places.size(); ++i) {
+        if (isThere(i))
+            problems.append(now(i));
     }
     return problems;
 }
 
-Problem Problems::goTo(const Kept &kept)
+Problem Problems::goTo(qsizetype i)
 {
-    Problem problem = kept.now();
+    Problem problem = now(i);
     QTextCursor caret = m_box.textCursor();
-    caret.setPosition(kept.place.selectionStart());
+    caret.setPosition(m_places.at(i).from);
     const KeptView view(m_box);
     m_box.setTextCursor(caret);
     return problem;
@@ -175,80 +166,64 @@ Problem Problems::goTo(const Kept &kept)
 
 std::optional<Problem> Problems::goToNext()
 {
-    const int caret = m_box.textCursor().position();
-    const Kept *first = nullptr;
-    for (const Kept &kept : std::as_const(m_kept)) {
-        if (!kept.isThere())
-            continue;
-        if (kept.place.selectionStart() > caret)
-            return goTo(kept);
-        if (!first)
-            first = &kept;
+    const qsizetype count = m_places.size();
+    const qsizetype next = m_places.firstFrom(m_box.textCursor().position() + 1);
+    for (qsizetype i = 0; i < count; ++i) {
+        if (const qsizetype place = (next + i) % count; isThere(place))
+            return goTo(place);
     }
-    return first ? std::optional(goTo(*first)) : std::nullopt;
+    return {};
 }
 
 std::optional<Problem> Problems::goToPrevious()
 {
-    const int caret = m_box.textCursor().position();
-    const Kept *last = nullptr;
-    for (auto kept = m_kept.crbegin(); kept != m_kept.crend(); ++kept) {
-        if (!kept->isThere())
-            continue;
-        if (kept->place.selectionStart() < caret)
-            return goTo(*kept);
-        if (!last)
-            last = &*kept;
+    const qsizetype count = m_places.size();
+    const qsizetype behind = m_places.firstFrom(m_box.textCursor().position());
+    for (qsizetype i = 1; i <= count; ++i) {
+        if (const qsizetype place = (behind - i + count) % count; isThere(place))
+            return goTo(place);
     }
-    return last ? std::optional(goTo(*last)) : std::nullopt;
+    return {};
 }
 
-// Edits do not change which of two places comes first.
-Problems::Place Problems::from(int position) const
+QList<qsizetype> Problems::allOn(const QTextBlock &line) const
 {
-    return std::partition_point(m_kept.cbegin(), m_kept.cend(), [=](const Kept &kept) {
-        return kept.place.selectionStart() < position;
-    });
-}
-
-QList<const Problems::Kept *> Problems::allOn(const QTextBlock &line) const
-{
-    QList<const Kept *> found;
-    const Place end = from(line.position() + line.length());
-    for (Place kept = from(line.position()); kept != end; ++kept) {
-        if (kept->isThere())
-            found.append(&*kept);
+    QList<qsizetype> found;
+    const qsizetype end = m_places.firstFrom(line.position() + line.length());
+    for (qsizetype i = m_places.firstFrom(line.position()); i < end; ++i) {
+        if (isThere(i))
+            found.append(i);
     }
     return found;
 }
 
-const Problems::Kept *Problems::worstOn(const QTextBlock &line) const
+std::optional<qsizetype> Problems::worstOn(const QTextBlock &line) const
 {
-    const Kept *worst = nullptr;
-    for (const Kept *kept : allOn(line)) {
-        if (!worst || kept->problem.severity < worst->problem.severity)
-            worst = kept;
+    std::optional<qsizetype> worst;
+    for (const qsizetype i : allOn(line)) {
+        if (!worst || given(i).severity < given(*worst).severity)
+            worst = i;
     }
     return worst;
 }
 
 std::optional<ProblemSeverity> Problems::severityOn(const QTextBlock &line) const
 {
-    const Kept *worst = worstOn(line);
-    return worst ? std::optional(worst->problem.severity) : std::nullopt;
+    const auto worst = worstOn(line);
+    return worst ? std::optional(given(*worst).severity) : std::nullopt;
 }
 
 std::optional<Problem> Problems::goToWorstOn(const QTextBlock &line)
 {
-    const Kept *worst = worstOn(line);
+    const auto worst = worstOn(line);
     return worst ? std::optional(goTo(*worst)) : std::nullopt;
 }
 
 QString Problems::textOn(const QTextBlock &line) const
 {
     QStringList texts;
-    for (const Kept *kept : allOn(line))
-        texts.append(kept->problem.text);
+    for (const qsizetype i : allOn(line))
+        texts.append(given(i).text);
     return texts.join(u'\n');
 }
 
@@ -264,9 +239,9 @@ QList<LineMark> Problems::marks() const
                                                       : hint;
     };
     QList<LineMark> marks;
-    for (const Kept &kept : m_kept) {
-        if (kept.isThere())
-            marks.append({kept.place.selectionStart(), of(kept.problem.severity)});
+    for (qsizetype i = 0; i < m_places.size(); ++i) {
+        if (isThere(i))
+            marks.append({m_places.at(i).from, of(given(i).severity)});
     }
     return marks;
 }
@@ -290,33 +265,36 @@ void Problems::paintAbove(QPainter &painter, const ShownLines &lines)
         return;
     const QColor ground = ViewColours::groundOf(m_box);
     const QTextBlock &last = lines.last().block;
-    Place kept = from(lines.first().block.position());
-    const Place end = from(last.position() + last.length());
-    if (kept != m_kept.cbegin())
-        --kept; // an Enter inside may have brought its end down
-    for (; kept != end; ++kept) {
-        for (const ShownLine &line : lines) {
-            if (kept->isThere() && kept->touches(line.block))
-                drawWaves(painter, *kept, line, colourOf(kept->problem.severity, ground));
-        }
+    qsizetype i = m_places.firstFrom(lines.first().block.position());
+    const qsizetype end = m_places.firstFrom(last.position() + last.length());
+    i = std::max<qsizetype>(i - 1, 0); // an Enter inside may have brought its end down
+    for (; i < end; ++i) {
+        for (const ShownLine &line : lines)
+            paint(painter, line, i, ground);
     }
 }
 
-QList<QRectF> Problems::placesIn(const ShownLine &line, const Kept &kept) const
+void Problems::paint(QPainter &painter, const ShownLine &line, qsizetype i, const QColor &ground)
 {
-    const int start = kept.place.selectionStart() - line.block.position();
-    const int end = kept.place.selectionEnd() - line.block.position();
-    return placesOf(line, {start, end - start});
+    const int start = line.block.position();
+    const KeptPlaces::Span place = m_places.at(i);
+    if (isThere(i) && place.from < start + line.block.length() && place.to >= start)
+        drawWaves(painter, placesIn(line, i), colourOf(given(i).severity, ground));
 }
 
-void Problems::drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line,
-                         const QColor &colour)
+QList<QRectF> Problems::placesIn(const ShownLine &line, qsizetype i) const
+{
+    const KeptPlaces::Span place = m_places.at(i);
+    return placesOf(line, {place.from - line.block.position(), place.to - place.from});
+}
+
+void Problems::drawWaves(QPainter &painter, const QList<QRectF> &places, const QColor &colour)
 {
     const qreal ratio = painter.device()->devicePixelRatioF();
     auto wave = m_waves.constFind(colour.rgb());
     if (wave == m_waves.constEnd() || wave->devicePixelRatio() != ratio)
         wave = m_waves.insert(colour.rgb(), waveOf(colour, ratio));
-    for (const QRectF &place : placesIn(line, kept)) {
+    for (const QRectF &place : places) {
         const QRectF shown = place.intersected(QRectF(m_box.viewport()->rect()));
         painter.drawTiledPixmap(QRectF(shown.left(), shown.bottom() - waveHeight,
                                        std::max<qreal>(shown.width(), 3 * waveStep), waveHeight),
@@ -329,13 +307,13 @@ QString Problems::textAt(const QPoint &place, QRect *whole) const
     if (!layers() || !isShown())
         return {};
     for (const ShownLine &line : layers()->shownLines(place.y(), place.y() + 1)) {
-        for (const Kept *kept : allOn(line.block)) {
-            for (const QRectF &part : placesIn(line, *kept)) {
+        for (const qsizetype i : allOn(line.block)) {
+            for (const QRectF &part : placesIn(line, i)) {
                 if (!part.contains(place))
                     continue;
                 if (whole)
                     *whole = part.toAlignedRect();
-                return kept->problem.text;
+                return given(i).text;
             }
         }
     }

@@ -1,18 +1,17 @@
 #pragma once
 
+#include "editor/view/KeptPlaces.h"
 #include "widgets/box/BoxLayers.h"
 #include <ORVTListview/Problem.h>
 
 #include <QtCore/QHash>
 #include <QtGui/QPixmap>
-#include <QtGui/QTextCursor>
 
 #include <optional>
 
-class QPlainTextEdit;
-
 namespace ORVTListview {
 
+class RichTextBox;
 struct LineMark;
 struct MovedLines;
 
@@ -23,7 +22,7 @@ class Problems final : public QObject, public BoxLayer
     Q_OBJECT
 
 public:
-    Problems(QPlainTextEdit &box, BoxLayers &layers);
+    Problems(RichTextBox &box, BoxLayers &layers);
 
     void set(const QList<Problem> &problems);
     QList<Problem> list() const; // where they are now, from the top
@@ -54,35 +53,24 @@ Q_SIGNALS:
     void changed();
 
 private:
-    struct Kept
-    {
-        Problem problem; // as given
-        QTextCursor place;
-        bool hasText = false; // and is gone when that is
-
-        bool isThere() const { return !hasText || place.hasSelection(); }
-        bool touches(const QTextBlock &line) const;
-        Problem now() const;
-    };
-
-    using Place = QList<Kept>::const_iterator;
-
-    // The first that begins at a place of the document or behind it.
-    Place from(int position) const;
+    // Of those in their order from the top.
+    bool isThere(qsizetype i) const { return !m_places.isGone(i); }
+    const Problem &given(qsizetype i) const { return m_given[m_places.nameAt(i)]; }
+    Problem now(qsizetype i) const;
 
     // Those that begin on a line.
-    QList<const Kept *> allOn(const QTextBlock &line) const;
-    const Kept *worstOn(const QTextBlock &line) const;
-    Problem goTo(const Kept &kept);
-    QList<QRectF> placesIn(const ShownLine &line, const Kept &kept) const;
-    void drawWaves(QPainter &painter, const Kept &kept, const ShownLine &line,
-                   const QColor &colour);
-    void sort();
+    QList<qsizetype> allOn(const QTextBlock &line) const;
+    std::optional<qsizetype> worstOn(const QTextBlock &line) const;
+    Problem goTo(qsizetype i);
+    QList<QRectF> placesIn(const ShownLine &line, qsizetype i) const;
+    void paint(QPainter &painter, const ShownLine &line, qsizetype i, const QColor &ground);
+    void drawWaves(QPainter &painter, const QList<QRectF> &places, const QColor &colour);
     void noteChange(int from, int removed, int added);
 
-    QPlainTextEdit &m_box;
-    QList<Kept> m_kept;    // from the top
-    QList<Problem> m_held; // where each of them is
+    RichTextBox &m_box;
+    KeptPlaces m_places;
+    QList<Problem> m_given; // by the names of their places
+    QList<Problem> m_held;  // the same, where they were
     QHash<QRgb, QPixmap> m_waves;
 };
 

@@ -2,7 +2,7 @@
 
 #include "widgets/box/LinePlaces.h"
 
-#include <QtCore/QMap>
+#include <QtCore/QVarLengthArray>
 #include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
@@ -68,29 +68,47 @@ QPainterPath without(QRectF area, QList<QRectF> places)
     return rest;
 }
 
-// Each glyph in the colour of its place.
+struct ColouredGlyphs
+{
+    QRgb colour = 0;
+    QList<quint32> indexes;
+    QList<QPointF> places;
+};
+using GlyphColours = QVarLengthArray<ColouredGlyphs, 8>;
+
+ColouredGlyphs &glyphsOf(QRgb colour, GlyphColours &parts, qsizetype most)
+{
+    for (ColouredGlyphs &part : parts) {
+        if (part.colour == colour)
+            return part;
+    }
+    parts.append({colour, {}, {}});
+    parts.last().indexes.reserve(most);
+    parts.last().places.reserve(most);
+    return parts.last();
+}
+
+// Each glyph in the colour of its place, those of a colour together.
 template <typename ColourAt>
 void drawInColours(QPainter &painter, const QPointF &corner, const QGlyphRun &glyphs,
                    ColourAt colourAt)
 {
-    struct Part
-    {
-        QList<quint32> indexes;
-        QList<QPointF> places;
-    };
-    QMap<QRgb, Part> parts;
+    GlyphColours parts;
     const QList<quint32> indexes = glyphs.glyphIndexes();
     const QList<QPointF> places = glyphs.positions();
+    ColouredGlyphs *part = nullptr;
     for (qsizetype i = 0; i < places.size(); ++i) {
-        Part &part = parts[colourAt(places[i]).rgba()];
-        part.indexes.append(indexes[i]);
-        part.places.append(places[i]);
+        const QRgb colour = colourAt(places[i]).rgba();
+        if (!part || part->colour != colour)
+            part = &glyphsOf(colour, parts, places.size() - i);
+        part->indexes.append(indexes[i]);
+        part->places.append(places[i]);
     }
-    for (auto part = parts.cbegin(); part != parts.cend(); ++part) {
+    for (const ColouredGlyphs &each : parts) {
         QGlyphRun some = glyphs;
-        some.setGlyphIndexes(part->indexes);
-        some.setPositions(part->places);
-        painter.setPen(QColor::fromRgba(part.key()));
+        some.setGlyphIndexes(each.indexes);
+        some.setPositions(each.places);
+        painter.setPen(QColor::fromRgba(each.colour));
         painter.drawGlyphRun(corner, some);
     }
 }
@@ -224,12 +242,15 @@ void BoxPainting::paintLine(QPainter &painter, const ShownLine &line, const QRec
     const QTransform toPixels = painter.deviceTransform();
     const QPointF corner = line.place.topLeft();
     const Ranges selections = selectionsIn(line.block);
+    const QList<Piece> others = colouredPieces(line.block, selections);
+    if (others.isEmpty())
+        return layout.draw(&painter, corner, selections, area);
     QList<Piece> pieces;
     QList<QRectF> taken;
     const LinePlaces standing(line);
     if (selections.isEmpty() && paintEvenLetters(painter, line, standing, area))
         return;
-    for (const Piece &piece : colouredPieces(line.block, selections)) {
+    for (const Piece &piece : others) {
         const int from = placeInLayout(piece.from, layout);
         const int to = placeInLayout(piece.to - 1, layout) + 1;
         const QList<QRectF> places = onPixels(standing.of({from, to - from}), toPixels);

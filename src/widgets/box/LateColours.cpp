@@ -115,8 +115,6 @@ LateColours &LateColours::of(const QTextDocument &document)
 
 bool LateColours::suits(QStringView text)
 {
-    if (text.size() < shortest)
-        return false;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
         if (c > u'\r' && c != QChar::ParagraphSeparator)

@@ -38,7 +38,7 @@ public:
     // The box's thread goes back to its events after this time.
     static constexpr std::chrono::milliseconds slice{6};
 
-    // A text below this length has its colours in one slice anyway.
+    // A text below this length is given its colours at once.
     static constexpr qsizetype shortest = 0x10000;
 
     LateColours(QTextDocument &document, const BoxText &text);
@@ -82,7 +82,7 @@ public:
     };
     Allowed *takePermission() { return std::exchange(m_permission, nullptr); }
 
-    // Whether the text is long, and has the same characters and lines in a document.
+    // Whether the text has the same characters and lines in a document.
     static bool suits(QStringView text);
 
     // The document has just got the lines of a text that suits; all of them wait now.

@@ -49,19 +49,23 @@ LinePlaces::LinePlaces(const ShownLine &line)
         m_rows.append(RowSides(layout.lineAt(i), line.block));
 }
 
+QRectF LinePlaces::between(const RowSides &sides, int from, int to) const
+{
+    const qreal one = sides.at(from);
+    const qreal other = sides.at(to);
+    return {m_corner.x() + std::min(one, other), m_corner.y() + sides.row().y(),
+            std::abs(other - one), sides.row().height()};
+}
+
 QList<QRectF> LinePlaces::of(const TextPiece &piece) const
 {
     QList<QRectF> places;
     for (const RowSides &sides : m_rows) {
-        const QTextLine &row = sides.row();
-        const int from = std::max(row.textStart(), piece.start);
-        const int to = std::min(row.textStart() + row.textLength(), piece.end());
-        if (from >= to)
-            continue;
-        const qreal one = sides.at(from);
-        const qreal other = sides.at(to);
-        places.append(QRectF(m_corner.x() + std::min(one, other), m_corner.y() + row.y(),
-                             std::abs(other - one), row.height()));
+        const int start = sides.row().textStart();
+        const int from = std::max(start, piece.start);
+        const int to = std::min(start + sides.row().textLength(), piece.end());
+        if (from < to)
+            places.append(between(sides, from, to));
     }
     return places;
 }

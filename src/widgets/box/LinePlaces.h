@@ -42,6 +42,7 @@ public:
     QList<QRectF> of(const TextPiece &piece) const;
 
     const QList<RowSides> &rows() const { return m_rows; }
+    QRectF between(const RowSides &sides, int from, int to) const; // of one of them
 
 private:
     QPointF m_corner;

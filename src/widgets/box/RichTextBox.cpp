@@ -322,13 +322,15 @@ void RichTextBox::setColoured(const ColouredText &text)
 {
     using Lines = LateColours::Lines;
     LateColours::Allowed *const allowed = d->late.takePermission();
-    const bool isLate = allowed && LateColours::suits(text.text);
-    const bool mayKeepFormer = isLate && allowed->lines() == Lines::Former;
+    const bool mayBeLate = allowed && LateColours::suits(text.text);
+    const bool mayKeepFormer = mayBeLate && allowed->lines() == Lines::Former;
+    const bool isShort = text.text.size() < LateColours::shortest;
     replaceAll([&] {
         // A cleared document forgets its formats, and is faster than one emptied.
         BoxLines lines(*document(), d->formats, text);
         const bool keepsLines =
             mayKeepFormer ? lines.keepSameText(d->text.text()) : lines.keepUnchanged();
+        const bool isLate = isShort ? mayKeepFormer && keepsLines : mayBeLate;
         if (!keepsLines)
             clearAll(*document());
         ColouredText now = lines.replacement();
@@ -342,6 +344,8 @@ void RichTextBox::setColoured(const ColouredText &text)
         d->text.know(text.text, mayKeepFormer);
         if (isLate)
             d->late.begin(text, mayKeepFormer && keepsLines ? Lines::Former : Lines::New, *allowed);
+        if (isShort)
+            d->late.giveAll();
         select(0, 0);
     });
 }

@@ -1,5 +1,5 @@
 // A user at work in an editor that shows and does all that it can, at random. After
-// each step its text, caret, bookmarks and folds are those of a simple model.
+// each step its text, caret, bookmarks, problems and folds are those of a simple model.
 
 #include "editor/AllOfTheView.h"
 #include "editor/rules/structure/Folding.h"
@@ -15,11 +15,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The program as a list of lines, each with its bookmark.
+// The program as a list of lines, each with what is kept of it.
 struct ModelLine
 {
+    ModelLine() = default;
+    explicit ModelLine(const QString &line)
+        : text(line)
+    {
+    }
+
     QString text;
     bool isMarked = false;
+    bool isHidden = false;
+    QList<Problem> problems; // whose line is the model's
 
     qsizetype indent() const
     {
@@ -42,15 +50,16 @@ Model randomProgram(RandomText &random)
     for (int i = 0; i < 40; ++i) {
         const int kind = random.number(6);
         if (kind == 0 && depth < 4) {
-            lines.append({QString(4 * depth++, u' ') + u"IF q%1"_s.arg(i)});
+            lines.append(ModelLine(QString(4 * depth++, u' ') + u"IF q%1"_s.arg(i)));
         } else if (kind == 1 && depth > 0) {
-            lines.append({QString(4 * --depth, u' ') + u"ENDIF"_s});
+            lines.append(ModelLine(QString(4 * --depth, u' ') + u"ENDIF"_s));
         } else {
-            lines.append({QString(4 * depth, u' ') + u"q%1 = %2"_s.arg(i).arg(random.number(9))});
+            lines.append(
+                ModelLine(QString(4 * depth, u' ') + u"q%1 = %2"_s.arg(i).arg(random.number(9))));
         }
     }
     while (depth > 0)
-        lines.append({QString(4 * --depth, u' ') + u"ENDIF"_s});
+        lines.append(ModelLine(QString(4 * --depth, u' ') + u"ENDIF"_s));
     return lines;
 }
 
@@ -88,7 +97,8 @@ private:
             &Session::toggleMark,  &Session::nextMark,      &Session::fold,
             &Session::clickFold,   &Session::moveLines,     &Session::duplicateLines,
             &Session::deleteLine,  &Session::joinAndUndo,   &Session::sortAndUndo,
-            &Session::newProblems, &Session::zoomAndScroll, &Session::pressArrows};
+            &Session::newProblems, &Session::zoomAndScroll, &Session::pressArrows,
+            &Session::typeBefore,  &Session::moveAndUndo,   &Session::allMarks};
         (this->*oneOf(acts))();
         QCoreApplication::processEvents();
     }
@@ -99,8 +109,26 @@ private:
         const int line = m_random.number(count());
         note(u"line %1"_s.arg(line + 1));
         view().goToLine(line + 1);
+        noteCaret();
         expectCaret(line, 0);
         return line;
+    }
+    // A fold opens when the caret comes into it.
+    void noteCaret()
+    {
+        int first = box().textCursor().blockNumber();
+        if (!m_lines[first].isHidden)
+            return;
+        while (m_lines[first - 1].isHidden)
+            --first;
+        for (int i = first; m_lines[i].isHidden; ++i)
+            m_lines[i].isHidden = false;
+    }
+    void unfoldAll()
+    {
+        view().unfoldAll();
+        for (ModelLine &line : m_lines)
+            line.isHidden = false;
     }
     void expectCaret(int line, qsizetype column)
     {
@@ -132,7 +160,7 @@ private:
         m_host.key(Qt::Key_End);
         m_host.key(Qt::Key_Return);
         m_host.type(u"r = 1"_s);
-        const ModelLine added{QString(m_lines[line].indent(), u' ') + u"r = 1"_s};
+        const ModelLine added(QString(m_lines[line].indent(), u' ') + u"r = 1"_s);
         m_lines.insert(line + 1, added);
         expectCaret(line + 1, added.text.size());
     }
@@ -161,30 +189,44 @@ private:
         }
         note(u"next mark"_s);
         expect(view().nextBookmark() == (marked >= 0), u"a mark is there, or none"_s);
+        noteCaret();
         const int now = box().textCursor().blockNumber();
         expect(now == (marked < 0 ? line : marked), u"the next mark is elsewhere"_s);
+    }
+    void allMarks()
+    {
+        note(u"all marks"_s);
+        QStringList expected;
+        for (int i = 0; i < count(); ++i) {
+            if (m_lines[i].isMarked)
+                expected.append(QString::number(i + 1));
+        }
+        readMarks();
+        QStringList shown;
+        for (int i = 0; i < count(); ++i) {
+            if (m_lines[i].isMarked)
+                shown.append(QString::number(i + 1));
+        }
+        expect(shown == expected,
+               u"marks on lines "_s + shown.join(u' ') + u" instead of "_s + expected.join(u' '));
     }
     void fold()
     {
         const bool all = m_random.number(2) == 0;
         note(all ? u"fold all"_s : u"unfold all"_s);
-        all ? view().foldAll() : view().unfoldAll();
-        QList<bool> hidden(count(), false);
-        if (all)
-            foldOutermost(hidden);
-        for (int i = 0; i < count(); ++i) {
-            const bool isHidden = !box().document()->findBlockByNumber(i).isVisible();
-            expect(isHidden == hidden[i], u"line %1 is hidden, or is not"_s.arg(i + 1));
-        }
+        if (!all)
+            return unfoldAll();
+        view().foldAll();
+        foldOutermost();
     }
-    void foldOutermost(QList<bool> &hidden) const
+    void foldOutermost()
     {
         for (int i = 0; i < count(); ++i) {
             const int end = endOf(i);
             if (end < 0)
                 continue;
             for (int inside = i + 1; inside < end; ++inside)
-                hidden[inside] = true;
+                m_lines[inside].isHidden = true;
             i = end - 1;
         }
     }
@@ -206,15 +248,27 @@ private:
     {
         const int line = goSomewhere();
         note(u"click the sign"_s);
+        QList<bool> former;
+        for (int i = 0; i < count(); ++i)
+            former.append(isHidden(i));
         QTest::mouseClick(&m_host.margin(), Qt::LeftButton, {},
                           {m_host.margin().width() - 5, m_host.inMargin(line).y()});
+        // An IF is known to have no ENDIF only after a while, as it is to have one again.
+        const int end = endOf(line);
+        for (int i = 0; i < count(); ++i) {
+            const bool isOfBlock = line < i && i < end;
+            expect(isHidden(i) == former[i] || isOfBlock,
+                   u"line %1 is hidden, or is not"_s.arg(i + 1));
+            m_lines[i].isHidden = isHidden(i);
+        }
+        noteCaret();
     }
     void moveLines()
     {
         const int line = goSomewhere();
         const int by = m_random.number(7) - 3;
         note(u"unfold, move by %1"_s.arg(by));
-        view().unfoldAll(); // a folded block counts as one line
+        unfoldAll(); // a folded block counts as one line
         view().moveLines(by);
         const int to = std::clamp(line + by, 0, count() - 1);
         m_lines.move(line, to);
@@ -226,9 +280,9 @@ private:
         if (count() > 120)
             return;
         note(u"unfold, duplicate"_s);
-        view().unfoldAll();
+        unfoldAll();
         view().duplicateLines();
-        m_lines.insert(line + 1, {m_lines[line].text});
+        m_lines.insert(line + 1, ModelLine(m_lines[line].text));
     }
     void deleteLine()
     {
@@ -236,7 +290,7 @@ private:
         if (count() < 5)
             return;
         note(u"unfold, delete"_s);
-        view().unfoldAll();
+        unfoldAll();
         view().deleteLines();
         m_lines.removeAt(line);
     }
@@ -257,6 +311,30 @@ private:
         if (isChanged)
             m_host.key(Qt::Key_Z, Qt::ControlModifier);
         readMarks();
+        readProblems();
+    }
+    // What is kept comes back with the line, where it is known by its text.
+    void moveAndUndo()
+    {
+        constexpr int farthest = 3;
+        const int line = goSomewhere();
+        const int to = std::clamp(line + m_random.number(7) - farthest, 0, count() - 1);
+        note(u"unfold, move to %1 and undo"_s.arg(to + 1));
+        unfoldAll();
+        QStringList texts;
+        for (int i = line - 2 * farthest; i <= line + 2 * farthest; ++i)
+            texts.append(i >= 0 && i < count() ? m_lines[i].text : QString::number(i));
+        if (to == line || texts.removeDuplicates() > 0 || count() < 20)
+            return;
+        view().moveLines(to - line);
+        m_host.key(Qt::Key_Z, Qt::ControlModifier);
+    }
+    void readProblems()
+    {
+        for (ModelLine &line : m_lines)
+            line.problems.clear();
+        for (const Problem &problem : view().problems())
+            m_lines[problem.line - 1].problems.append(problem);
     }
     void readMarks()
     {
@@ -266,8 +344,10 @@ private:
         while (view().nextBookmark()) {
             ModelLine &line = m_lines[box().textCursor().blockNumber()];
             if (std::exchange(line.isMarked, true))
-                return;
+                break;
         }
+        for (int i = 0; i < count(); ++i)
+            m_lines[i].isHidden = isHidden(i); // the caret has been at all marks
     }
     void newProblems()
     {
@@ -276,13 +356,30 @@ private:
         for (int i = m_random.number(5); i > 0; --i) {
             Problem problem;
             problem.line = m_random.number(count()) + 1;
-            problem.length = m_random.number(4);
+            problem.from = m_random.number(3);
+            problem.length = 1 + m_random.number(2); // no line is as short
             problem.text = u"wrong"_s;
             problems.append(problem);
         }
         view().setProblems(problems);
-        expect(view().problems().size() == problems.size(), u"a problem is lost"_s);
+        for (ModelLine &line : m_lines)
+            line.problems.clear();
+        for (const Problem &problem : std::as_const(problems))
+            m_lines[problem.line - 1].problems.append(problem);
         expect(view().nextProblem() == !problems.isEmpty(), u"there is a problem, or none"_s);
+        noteCaret();
+    }
+    void typeBefore()
+    {
+        const int line = goSomewhere();
+        if (!m_lines[line].isPlain() || m_lines[line].indent() > 12)
+            return;
+        note(u"type before"_s);
+        m_host.type(u" "_s);
+        m_lines[line].text.prepend(u' ');
+        for (Problem &problem : m_lines[line].problems)
+            ++problem.from;
+        expectCaret(line, 1);
     }
     void zoomAndScroll()
     {
@@ -298,8 +395,10 @@ private:
                                            Qt::Key_Right, Qt::Key_PageUp, Qt::Key_PageDown};
         const Qt::Key key = keys[m_random.number(static_cast<int>(std::size(keys)))];
         note(QKeySequence(key).toString());
-        for (int i = m_random.number(5); i >= 0; --i)
+        for (int i = m_random.number(5); i >= 0; --i) {
             m_host.key(key);
+            noteCaret();
+        }
     }
 
     QString whatIsWrong() override
@@ -310,14 +409,41 @@ private:
         if (!box().textCursor().block().isVisible())
             return u"the caret is hidden"_s;
         for (int i = 0; i < count(); ++i) {
-            if (!isHidden(i) || (i > 0 && isHidden(i - 1)))
-                continue;
-            if (i == 0 || !BlockFold::begins(m_lines[i - 1].text))
+            if (isHidden(i) != m_lines[i].isHidden)
+                return u"line %1 is hidden, or is not"_s.arg(i + 1);
+            if (isHidden(i) && !isHidden(i - 1) && !BlockFold::begins(m_lines[i - 1].text))
                 return u"line %1 is hidden below no IF"_s.arg(i + 1);
         }
-        return isHidden(count() - 1) ? u"the last line is hidden"_s : QString();
+        if (isHidden(count() - 1))
+            return u"the last line is hidden"_s;
+        const QString shown = placesOf(view().problems());
+        const QString expected = placesOf(modelProblems());
+        return shown == expected ? QString()
+                                 : u"problems at "_s + shown + u" instead of "_s + expected;
     }
-    bool isHidden(int line) { return !box().document()->findBlockByNumber(line).isVisible(); }
+    QList<Problem> modelProblems() const
+    {
+        QList<Problem> problems;
+        for (int i = 0; i < count(); ++i) {
+            for (Problem problem : m_lines[i].problems) {
+                problem.line = i + 1;
+                problems.append(problem);
+            }
+        }
+        return problems;
+    }
+    static QString placesOf(const QList<Problem> &problems)
+    {
+        QStringList places;
+        for (const Problem &each : problems)
+            places << u"%1:%2+%3"_s.arg(each.line).arg(each.from).arg(each.length);
+        places.sort();
+        return places.join(u' ');
+    }
+    bool isHidden(int line)
+    {
+        return line >= 0 && !box().document()->findBlockByNumber(line).isVisible();
+    }
 
     ThreadState::Fresh m_state;
     Model m_lines;

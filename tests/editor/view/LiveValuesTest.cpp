@@ -80,6 +80,27 @@ private Q_SLOTS:
         QCOMPARE(picture(), before);
     }
 
+    void thoseOfTheCaretsLineAreToldToScreenReaders()
+    {
+        box().setAccessibleDescription(u"the host's"_s);
+        show({{u"Temp1"_s, u"19.4 °C"_s}});
+        QCOMPARE(box().accessibleDescription(), u"temp1 19.4 °C"_s);
+        show({{u"Temp1"_s, u"19.5 °C"_s}});
+        QCOMPARE(box().accessibleDescription(), u"temp1 19.5 °C"_s);
+        m_host->key(Qt::Key_Down); // a comment
+        QCOMPARE(box().accessibleDescription(), u"the host's"_s);
+        m_host->key(Qt::Key_Down);
+        view().setLineNumbersVisible(true);
+        QCOMPARE(box().accessibleDescription(), u"the host's\nLine 3\nTEMP1 19.5 °C"_s);
+        view().setLiveValuesShown(false);
+        QCOMPARE(box().accessibleDescription(), u"the host's\nLine 3"_s);
+        view().setLiveValuesShown(true);
+        QCOMPARE(box().accessibleDescription(), u"the host's\nLine 3\nTEMP1 19.5 °C"_s);
+        view().setLineNumbersVisible(false);
+        view().setLiveValues({});
+        QTRY_COMPARE(box().accessibleDescription(), u"the host's"_s);
+    }
+
     void typingRepaintsItsLineOnly()
     {
         m_host->setLines(12);
