@@ -435,7 +435,7 @@
     <message>
         <source>Characters at most: %1.</source>
         <extracomment>%1 is a number</extracomment>
-        <translation>Caractères au plus : %1.</translation>
+        <translation>Caractères au plus&#xa0;: %1.</translation>
     </message>
     <message>
         <source>This text does not fit here.</source>
@@ -452,7 +452,7 @@
     <message>
         <source>Decimals at most: %1.</source>
         <extracomment>%1 is a number</extracomment>
-        <translation>Décimales au plus : %1.</translation>
+        <translation>Décimales au plus&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The number must not be below %1.</source>
@@ -604,7 +604,7 @@
     <message>
         <source>Edit Cells</source>
         <extracomment>A step of undo: several cells at once</extracomment>
-        <translation>Modifier cellules</translation>
+        <translation>Saisie de cellules</translation>
     </message>
     <message>
         <source>The undo snapshot&apos;s selection is not a number</source>

@@ -464,7 +464,7 @@
     <name>ORVTListview::OpeningProgress</name>
     <message>
         <source>Colouring: %p %</source>
-        <translation>Coloration : %p %</translation>
+        <translation>Coloration&#xa0;: %p %</translation>
     </message>
     <message>
         <source>Colouring the program</source>

@@ -106,22 +106,15 @@ bool CodeEditor::eventFilter(QObject *watched, QEvent *event)
 {
     if (!qobject_cast<RichTextBox *>(watched)) // nor while it is destroyed
         return QObject::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::FocusIn:
+    const QEvent::Type type = event->type();
+    if (type == QEvent::FocusIn)
         m_tabStops.takeFrom(form());
-        break;
-    case QEvent::FocusOut:
+    else if (type == QEvent::FocusOut)
         leaveFocus();
-        break;
-    case QEvent::Hide:
+    else if (type == QEvent::Hide)
         noteHidden();
-        break;
-    case QEvent::FontChange:
+    else if (type == QEvent::FontChange)
         m_editing.lines().fitTabStops();
-        break;
-    default:
-        break;
-    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -18,15 +18,12 @@ using namespace ORVTListview;
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
-using Act = std::function<void(EditorHost &)>;
-Q_DECLARE_METATYPE(Act)
-
 namespace {
 
 struct Case
 {
     const char *name;
-    Act act;
+    EditorAct act;
 };
 
 void putCaret(EditorHost &host, int line, int column = 0)
@@ -296,15 +293,15 @@ private Q_SLOTS:
 
     void theEndIsThatOfOpeningInOneGo_data()
     {
-        QTest::addColumn<Act>("act");
+        QTest::addColumn<EditorAct>("act");
         for (const Case &one : acts())
             QTest::newRow(one.name) << one.act;
     }
 
     void theEndIsThatOfOpeningInOneGo()
     {
-        QFETCH(Act, act);
-        const auto run = [&](const Act &open) {
+        QFETCH(EditorAct, act);
+        const auto run = [&](const EditorAct &open) {
             renewState();
             OpeningHost host;
             open(host);

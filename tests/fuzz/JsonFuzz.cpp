@@ -81,8 +81,8 @@ void checkBag(const QJsonObject &object)
     JsonPropertyBag bag(object);
     const QVariant defaults[] = {true, qint16(7), 8, qint64(9), 1.5F, 2.5, QStringLiteral("d")};
     for (auto member = object.begin(); member != object.end(); ++member) {
-        if (!object.contains(member.key()))
-            continue; // its name begins with a byte order mark
+        if (object.value(member.key()) != member.value())
+            continue; // the toolkit has taken a byte order mark from its name
         for (const QVariant &Default : defaults) {
             const QVariant read = bag.ReadProperty(member.key(), Default);
             demand(read.metaType() == Default.metaType(), "a property has the kind of its default");

@@ -294,6 +294,7 @@ private Q_SLOTS:
         QVERIFY(workbench.code().CodeText() == QString::fromLatin1(program));
 
         workbench.window.openProject(project);
+        QTRY_VERIFY(bar.isVisible());
         QTRY_VERIFY(bar.value() > 50);
         QTRY_VERIFY(!bar.isVisible());
         QVERIFY(!view.isOpening());

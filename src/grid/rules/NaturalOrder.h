@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/HouseExport.h"
-
 #include <QtCore/QString>
 #include <QtCore/QStringView>
 
@@ -9,13 +7,13 @@ namespace ORVTListview {
 
 // How much of a text is a number that it begins with, decimals included; 0 for none. What
 // has letters or digits right behind it is the beginning of a name, as "2ndFan" or "3.4.5".
-ORVT_HOUSE_EXPORT qsizetype lengthOfNumber(QStringView text);
+qsizetype lengthOfNumber(QStringView text);
 
 // A text as it is sorted, made once so that it is compared often. Numbers come first, by
 // their value, whatever unit stands behind them; then texts, in which digits that follow one
 // another count as a number ("Fan2" before "Fan10"); what is empty comes last. Letter case
 // decides only between texts that are the same but for it. The same in every country.
-class ORVT_HOUSE_EXPORT NaturalKey
+class NaturalKey
 {
 public:
     explicit NaturalKey(const QString &text);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/HouseExport.h"
-
 #include <QtCore/QList>
 #include <QtCore/QString>
 

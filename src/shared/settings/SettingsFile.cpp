@@ -58,10 +58,10 @@ std::optional<QByteArray> contentOf(const QString &fileName)
 Loaded load(const QString &fileName)
 {
     const QFileInfo info(fileName); // a link leads nowhere but in a circle
-    if (!info.exists() && !info.isSymLink())
-        return {Loaded::State::Absent};
-    if (!info.isFile()) // reading could wait for ever
-        return {Loaded::State::NoFile};
+    if (!info.isFile()) { // reading could wait for ever
+        const bool isThere = info.exists() || info.isSymLink();
+        return {isThere ? Loaded::State::NoFile : Loaded::State::Absent};
+    }
     const std::optional<QByteArray> content = contentOf(fileName);
     std::optional<SettingsDocument> document;
     if (content)

@@ -189,6 +189,12 @@ bool ComboList::event(QEvent *event)
             event->accept();
             return true;
         });
+    case QEvent::Show:
+    case QEvent::Hide:
+        m_isPressed = false;
+        QFrame::event(event);
+        Q_EMIT toggled();
+        return true;
     default:
         return QFrame::event(event);
     }
@@ -230,19 +236,6 @@ void ComboList::mousePressEvent(QMouseEvent *event)
     // A press on the arrow shall close the list, not open it again.
     setAttribute(Qt::WA_NoMouseReplay, m_pressesArrow(event->globalPosition().toPoint()));
     QFrame::mousePressEvent(event);
-}
-
-void ComboList::showEvent(QShowEvent *event)
-{
-    QFrame::showEvent(event);
-    m_isPressed = false;
-    Q_EMIT toggled();
-}
-
-void ComboList::hideEvent(QHideEvent *event)
-{
-    QFrame::hideEvent(event);
-    Q_EMIT toggled();
 }
 
 } // namespace ORVTListview

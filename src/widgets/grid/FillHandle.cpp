@@ -2,6 +2,7 @@
 
 #include "widgets/grid/CellEdit.h"
 #include "widgets/grid/GridRules.h"
+#include "widgets/grid/GridSelection.h"
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
@@ -22,7 +23,7 @@ constexpr int handleSize = 7;
 
 } // namespace
 
-FillHandle::FillHandle(const Tools &tools)
+FillHandle::FillHandle(const GridTools &tools)
     : QWidget(tools.view.viewport())
     , m_tools(tools)
 {
@@ -80,19 +81,36 @@ void FillHandle::refresh()
     if (!isThere)
         return;
     const QRect place = placeOf(selected());
-    const int end = m_tools.view.isRightToLeft() ? place.left() : place.right();
-    setGeometry(end - handleSize / 2, place.bottom() - handleSize / 2, handleSize, handleSize);
+    const int corner = m_tools.view.isRightToLeft() ? place.left() : place.right();
+    setGeometry(corner - handleSize / 2, place.bottom() - handleSize / 2, handleSize, handleSize);
     raise();
 }
 
-// In the middle of a drag no release follows.
-void FillHandle::hideEvent(QHideEvent *event)
+bool FillHandle::event(QEvent *event)
 {
-    delete m_outline.data();
-    QWidget::hideEvent(event);
+    if (event->type() == QEvent::Paint)
+        paint();
+    else if (event->type() == QEvent::Hide)
+        delete m_outline.data(); // in the middle of a drag no release follows
+    const auto *mouse = dynamic_cast<QMouseEvent *>(event);
+    if (!mouse || !isEnabled())
+        return QWidget::event(event);
+    actOnMouse(*mouse);
+    return true;
 }
 
-void FillHandle::paintEvent(QPaintEvent *)
+void FillHandle::actOnMouse(const QMouseEvent &event)
+{
+    const QPoint at = mapToParent(event.position().toPoint());
+    if (event.type() == QEvent::MouseMove)
+        follow(at);
+    else if (event.button() == Qt::LeftButton && event.type() == QEvent::MouseButtonRelease)
+        end(at);
+    else if (event.button() == Qt::LeftButton)
+        begin();
+}
+
+void FillHandle::paint()
 {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::Base));
@@ -129,33 +147,33 @@ FillHandle::Block FillHandle::reached(QPoint inViewport) const
     return block;
 }
 
-void FillHandle::mousePressEvent(QMouseEvent *event)
+void FillHandle::begin()
 {
-    if (event->button() != Qt::LeftButton || !isNeeded())
+    if (!isNeeded())
         return;
+    delete m_outline.data();
     m_outline = new QRubberBand(QRubberBand::Rectangle, m_tools.view.viewport());
     m_outline->setGeometry(placeOf(selected()));
     m_outline->show();
 }
 
-void FillHandle::mouseMoveEvent(QMouseEvent *event)
+void FillHandle::follow(QPoint inViewport)
 {
     if (!m_outline || !isNeeded())
         return;
-    const QPoint at = mapToParent(event->position().toPoint());
-    const QModelIndex cell = m_tools.view.indexAt(at);
+    const QModelIndex cell = m_tools.view.indexAt(inViewport);
     if (cell.isValid())
         m_tools.view.scrollTo(cell);
-    m_outline->setGeometry(placeOf(reached(at)));
+    m_outline->setGeometry(placeOf(reached(inViewport)));
 }
 
-void FillHandle::mouseReleaseEvent(QMouseEvent *event)
+void FillHandle::end(QPoint inViewport)
 {
-    if (event->button() != Qt::LeftButton || !m_outline)
+    if (!m_outline)
         return;
     delete m_outline.data();
     if (isNeeded())
-        fill(selected(), reached(mapToParent(event->position().toPoint())));
+        fill(selected(), reached(inViewport));
 }
 
 // A place before the selected cells gets their end, one behind them their begin.

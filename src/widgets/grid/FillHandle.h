@@ -1,16 +1,14 @@
 #pragma once
 
-#include "widgets/grid/GridSelection.h"
+#include "widgets/grid/GridTools.h"
 
+#include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
 class QRubberBand;
 
 namespace ORVTListview {
-
-class CellEdit;
-class GridRules;
 
 // The corner of the selected cells: dragged away from them, it enters their texts into the
 // cells on the way, from the first again when they come to an end. Shown while one block
@@ -20,27 +18,14 @@ class FillHandle final : public QWidget
     Q_OBJECT
 
 public:
-    struct Tools
-    {
-        QTableView &view;
-        const CellTable &table;
-        const GridRules &rules;
-        GridSelection &selection;
-        CellEdit &edit;
-    };
-
     // A child of the view's viewport, named FillHandle.
-    explicit FillHandle(const Tools &tools);
+    explicit FillHandle(const GridTools &tools);
     ~FillHandle() override;
 
     void refresh();
 
 protected:
-    void hideEvent(QHideEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     struct Block
@@ -53,9 +38,14 @@ private:
     Block reached(QPoint inViewport) const;
     bool isNeeded() const;
     QRect placeOf(const Block &block) const;
+    void actOnMouse(const QMouseEvent &event);
+    void paint();
+    void begin();
+    void follow(QPoint inViewport);
+    void end(QPoint inViewport);
     void fill(const Block &from, const Block &to);
 
-    const Tools m_tools;
+    const GridTools m_tools;
     QPointer<QRubberBand> m_outline; // while it is dragged
 };
 

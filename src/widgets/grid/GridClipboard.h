@@ -2,28 +2,17 @@
 
 #include "grid/rules/CellTexts.h"
 #include "widgets/grid/GridSelection.h"
-
-class QTableView;
+#include "widgets/grid/GridTools.h"
 
 namespace ORVTListview {
 
-class CellEdit;
-class CellTable;
 struct CellEntry;
 
 // Copies the selected cells of a grid, and pastes what programs have copied.
 class GridClipboard
 {
 public:
-    struct Tools
-    {
-        QTableView &view;
-        const CellTable &table;
-        GridSelection &selection;
-        CellEdit &edit;
-    };
-
-    explicit GridClipboard(const Tools &tools)
+    explicit GridClipboard(const GridTools &tools)
         : m_tools(tools)
     {
     }
@@ -46,7 +35,7 @@ private:
     QList<CellEntry> entriesFor(const CellBlock &cells, const Place &place) const;
     bool refuseForRoom(CellPlace first);
 
-    Tools m_tools;
+    GridTools m_tools;
 };
 
 } // namespace ORVTListview

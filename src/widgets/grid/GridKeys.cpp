@@ -42,7 +42,7 @@ bool GridKeys::compose(QInputMethodEvent &event)
 
 bool GridKeys::act(QKeyEvent &event)
 {
-    if (m_tools.rows.isOn() && actOnRows(event))
+    if (m_rows.isOn() && actOnRows(event))
         return true;
     if (m_tools.selection.isByCells() && actOnSelection(event))
         return true;
@@ -60,15 +60,15 @@ bool GridKeys::actOnRows(const QKeyEvent &event)
     const Qt::KeyboardModifiers modifiers = modifiersOf(event);
     const bool isControl = (modifiers & ~Qt::ShiftModifier) == Qt::ControlModifier;
     if (isControl && event.key() == Qt::Key_Plus)
-        m_tools.rows.add();
+        m_rows.add();
     else if (isControl && event.key() == Qt::Key_Minus)
-        m_tools.rows.remove();
+        m_rows.remove();
     else if (event.key() == Qt::Key_D && modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
-        m_tools.rows.duplicate();
+        m_rows.duplicate();
     else if (modifiers == Qt::AltModifier && event.key() == Qt::Key_Up)
-        m_tools.rows.move(-1);
+        m_rows.move(-1);
     else if (modifiers == Qt::AltModifier && event.key() == Qt::Key_Down)
-        m_tools.rows.move(1);
+        m_rows.move(1);
     else
         return false;
     return true;
@@ -79,9 +79,9 @@ bool GridKeys::actOnSelection(const QKeyEvent &event)
     const Qt::KeyboardModifiers modifiers = modifiersOf(event);
     const bool isSpace = event.key() == Qt::Key_Space;
     if (event.matches(QKeySequence::Copy))
-        m_tools.clipboard.copy(false);
+        m_clipboard.copy(false);
     else if (event.key() == Qt::Key_C && modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
-        m_tools.clipboard.copy(true);
+        m_clipboard.copy(true);
     else if (isSpace && modifiers == Qt::ControlModifier)
         m_tools.selection.selectColumn(m_tools.view.currentIndex().column());
     else if (isSpace && modifiers == Qt::ShiftModifier)
@@ -94,12 +94,12 @@ bool GridKeys::actOnSelection(const QKeyEvent &event)
 bool GridKeys::actOnSteps(const QKeyEvent &event)
 {
     if (event.matches(QKeySequence::Undo))
-        m_tools.steps.undo();
+        m_steps.undo();
     else if (event.matches(QKeySequence::Redo) ||
              (event.key() == Qt::Key_Y && modifiersOf(event) == Qt::ControlModifier))
-        m_tools.steps.redo();
+        m_steps.redo();
     else if (event.matches(QKeySequence::Paste))
-        m_tools.clipboard.paste();
+        m_clipboard.paste();
     else if (event.matches(QKeySequence::Cut) && m_tools.selection.isByCells())
         cut();
     else
@@ -145,7 +145,7 @@ bool GridKeys::actOnCell(QKeyEvent &event, const QModelIndex &cell)
 
 void GridKeys::cut()
 {
-    if (m_tools.clipboard.copy(false))
+    if (m_clipboard.copy(false))
         m_tools.edit.enter(m_tools.edit.forChosen({}));
 }
 

@@ -1,40 +1,28 @@
 #pragma once
 
+#include "widgets/grid/GridTools.h"
+
 #include <QtCore/Qt>
 
 class QInputMethodEvent;
 class QKeyEvent;
 class QModelIndex;
-class QTableView;
 
 namespace ORVTListview {
 
-class CellEdit;
 class CellSteps;
-class CellTable;
 class GridClipboard;
-class GridRules;
-class GridSelection;
 class RowEditing;
 
 // What the keys of a grid do outside an editor.
 class GridKeys
 {
 public:
-    struct Tools
-    {
-        QTableView &view;
-        const CellTable &table;
-        const GridRules &rules;
-        CellEdit &edit;
-        CellSteps &steps;
-        GridSelection &selection;
-        GridClipboard &clipboard;
-        RowEditing &rows;
-    };
-
-    explicit GridKeys(const Tools &tools)
+    GridKeys(const GridTools &tools, CellSteps &steps, GridClipboard &clipboard, RowEditing &rows)
         : m_tools(tools)
+        , m_steps(steps)
+        , m_clipboard(clipboard)
+        , m_rows(rows)
     {
     }
     Q_DISABLE_COPY_MOVE(GridKeys) // the part of a grid
@@ -60,7 +48,10 @@ private:
     void cut();
     void toggle(const QModelIndex &cell);
 
-    Tools m_tools;
+    GridTools m_tools;
+    CellSteps &m_steps;
+    GridClipboard &m_clipboard;
+    RowEditing &m_rows;
 };
 
 } // namespace ORVTListview

@@ -33,10 +33,10 @@ struct GridParts
         , note(shownBy)
         , selection(shownBy, cells)
         , edit({shownBy, cells, rules, writer, labels, delegate, note, selection})
-        , clipboard({shownBy, cells, selection, edit})
-        , handle(new FillHandle({shownBy, cells, rules, selection, edit}))
+        , tools{shownBy, cells, rules, selection, edit}
+        , clipboard(tools)
         , rows({shownBy, cells, selection, edit, note})
-        , keys({shownBy, cells, rules, edit, steps, selection, clipboard, rows})
+        , keys(tools, steps, clipboard, rows)
         , order({shownBy, cells, [this] { edit.finish(); }})
         , filters({shownBy, cells, order})
         , look({shownBy, rules, delegate})
@@ -47,6 +47,15 @@ struct GridParts
     }
     ~GridParts() { delete handle.data(); }
     Q_DISABLE_COPY_MOVE(GridParts) // the parts know one another
+
+    // None for a list whose cells were never selected to be edited.
+    void fitHandle()
+    {
+        if (!handle && rules.isOn() && selection.isByCells())
+            handle = new FillHandle(tools);
+        if (handle)
+            handle->refresh();
+    }
 
     // Tab comes as a key only where the view goes through its cells with it.
     void followRules()
@@ -78,8 +87,9 @@ struct GridParts
     CellNote note;
     GridSelection selection;
     CellEdit edit;
+    const GridTools tools;
     GridClipboard clipboard;
-    const QPointer<FillHandle> handle; // a child of the viewport
+    QPointer<FillHandle> handle; // a child of the viewport
     RowEditing rows;
     GridKeys keys;
     GridOrder order;

@@ -72,7 +72,7 @@ void ListGrid::setEditsCells(bool on)
     if (on == editsCells())
         return;
     d->rules.setOn(on);
-    d->handle->refresh();
+    d->fitHandle();
     raiseEvent(*this, &ListGrid::editsCellsChanged, on);
 }
 
@@ -86,7 +86,7 @@ void ListGrid::setSelectsCells(bool on)
     if (on == selectsCells())
         return;
     d->selection.setByCells(on);
-    d->handle->refresh();
+    d->fitHandle();
     raiseEvent(*this, &ListGrid::selectsCellsChanged, on);
 }
 

@@ -59,17 +59,6 @@ void empty(void *memory, std::size_t size)
 
 } // namespace
 
-HandlePage::HandlePage()
-    : m_size(pageSize())
-    , m_memory(static_cast<std::byte *>(mapped(m_size)))
-{
-}
-
-HandlePage::~HandlePage()
-{
-    unmap(m_memory, m_size);
-}
-
 void *HandlePage::allocate(std::size_t size)
 {
     if (m_used + size > m_size) {
@@ -93,6 +82,39 @@ void HandlePage::giveBack()
 {
     if (m_isFull && m_living == 0)
         empty(m_memory, m_size);
+}
+
+HandlePages::~HandlePages()
+{
+    for (const Run &run : m_runs) {
+        if (run.memory)
+            unmap(run.memory, run.pages * pageSize());
+    }
+}
+
+HandlePages::Place HandlePages::allocate(std::size_t size)
+{
+    void *memory = m_pages.empty() ? nullptr : m_pages.back().allocate(size);
+    if (!memory)
+        memory = newPage().allocate(size);
+    return {memory, m_pages.back()};
+}
+
+// One at first: most views have few handles.
+HandlePage &HandlePages::newPage()
+{
+    constexpr std::size_t pagesAtOnce = 16;
+    const std::size_t size = pageSize();
+    if (m_unused == 0) {
+        const std::size_t pages = m_runs.empty() ? 1 : pagesAtOnce;
+        Run &added = m_runs.emplace_back(); // first, lest mapped memory be lost
+        added.memory = static_cast<std::byte *>(mapped(pages * size));
+        added.pages = m_unused = pages;
+    }
+    const Run &run = m_runs.back();
+    HandlePage &page = m_pages.emplace_back(run.memory + (run.pages - m_unused) * size, size);
+    --m_unused;
+    return page;
 }
 
 } // namespace ORVTListview

@@ -4,9 +4,7 @@
 
 #include <QtCore/QtGlobal>
 
-#include <memory>
 #include <new>
-#include <vector>
 
 namespace ORVTListview {
 
@@ -64,15 +62,11 @@ private:
     template <typename Keeper>
     Kept *make(Held &held, Keeper &keeper)
     {
-        void *place = m_pages.empty() ? nullptr : m_pages.back()->allocate(sizeof(Kept));
-        if (!place) {
-            m_pages.push_back(std::make_unique<HandlePage>());
-            place = m_pages.back()->allocate(sizeof(Kept));
-        }
-        return new (place) Kept(keeper, held, *m_pages.back());
+        const HandlePages::Place place = m_pages.allocate(sizeof(Kept));
+        return new (place.memory) Kept(keeper, held, place.page);
     }
 
-    std::vector<std::unique_ptr<HandlePage>> m_pages;
+    HandlePages m_pages;
 };
 
 } // namespace ORVTListview

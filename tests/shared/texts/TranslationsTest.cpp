@@ -45,7 +45,7 @@ protected:
 // What is the same word in both languages.
 const QHash<QString, QStringList> sameAsEnglish{
     {u"de"_s, {u"..."_s, u"Filter"_s, u"Format"_s, u"Name"_s}},
-    {u"es"_s, {u"..."_s, u"Variables"_s}},
+    {u"es"_s, {u"..."_s, u"No"_s, u"Variables"_s}},
     {u"fr"_s,
      {u"..."_s, u"Correction"_s, u"Description"_s, u"Format"_s, u"Mode"_s, u"Type"_s,
       u"Variables"_s}},

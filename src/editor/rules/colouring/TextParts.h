@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/HouseExport.h"
-
 #include <QtCore/QList>
 #include <QtCore/QStringView>
 
@@ -12,11 +10,11 @@ namespace ORVTListview {
 // A long text in parts of whole lines, as many as there are processors but few; the CR LF
 // between two parts is in neither. A text of less than two shortest parts is one.
 inline constexpr qsizetype shortestPart = qsizetype{256} * 1024;
-ORVT_HOUSE_EXPORT QList<QStringView> partsOfLines(QStringView text, int processors);
+QList<QStringView> partsOfLines(QStringView text, int processors);
 QList<QStringView> partsOfLines(QStringView text);
 
 // Calls for each number below the count, at the same time if there are threads to be had,
 // and returns when all are done. Raises what a call has raised.
-ORVT_HOUSE_EXPORT void atTheSameTime(qsizetype count, const std::function<void(qsizetype)> &call);
+void atTheSameTime(qsizetype count, const std::function<void(qsizetype)> &call);
 
 } // namespace ORVTListview

@@ -28,18 +28,6 @@ struct GridParts;
 // The cells of a list as a grid that users edit. All of it is off at first, and a list
 // whose grid is off is as if it had none. ReportList::grid() is the way to it; it lives as
 // long as the list. Columns count from 0, the row's own text.
-//
-// Keys while cells are edited: a letter begins to edit the current cell with it, F2 and a
-// double click with what it holds; Enter takes what was typed and goes down, with Shift up,
-// Tab to the right, with Shift to the left, and from the last column out of the list; Esc
-// leaves the cell as it was. Delete clears the chosen cells, Ctrl+Enter takes the text for
-// all of them, Ctrl+D copies the topmost of them in each column to the others, or the one
-// above to a single one. Space changes yes and no. Ctrl+V pastes, Ctrl+Z undoes, Ctrl+Y and
-// Ctrl+Shift+Z redo. In a cell that is not edited only Enter, Tab and these last do so; all
-// other keys are the list's.
-//
-// The chosen cells are the selected ones, or while rows are selected as a whole those of
-// the current column in them.
 class ORVT_EXPORT ListGrid : public QObject
 {
     Q_OBJECT
@@ -79,6 +67,18 @@ public:
     ~ListGrid() override;
 
     // Whether users edit the cells that have a rule.
+    //
+    // Keys while cells are edited: a letter begins to edit the current cell with it, F2 and a
+    // double click with what it holds; Enter takes what was typed and goes down, with Shift
+    // up, Tab to the right, with Shift to the left, and from the last column out of the list;
+    // Esc leaves the cell as it was. Delete clears the chosen cells, Ctrl+Enter takes the text
+    // for all of them, Ctrl+D copies the topmost of them in each column to the others, or the
+    // one above to a single one. Space changes yes and no. Ctrl+V pastes, Ctrl+Z undoes,
+    // Ctrl+Y and Ctrl+Shift+Z redo. In a cell that is not edited only Enter, Tab and these
+    // last do so; all other keys are the list's.
+    //
+    // The chosen cells are the selected ones, or while rows are selected as a whole those of
+    // the current column in them.
     bool editsCells() const;
     void setEditsCells(bool on);
 
