@@ -21,6 +21,12 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int clearButton = 28; // what a field keeps free for it, at most
+
+} // namespace
+
 FilterFields::FilterFields(const Tools &tools)
     : m_tools(tools)
 {
@@ -133,7 +139,7 @@ void FilterFields::refresh()
 void FilterFields::tellCount()
 {
     for (const Field &field : std::as_const(m_fields)) {
-        field.line->setTextMargins({});
+        field.line->setToolTip({});
         field.line->setAccessibleDescription({});
         if (!m_used && !field.line->text().isEmpty())
             m_used = field.line;
@@ -148,14 +154,13 @@ void FilterFields::tellCount()
     m_used->setAccessibleDescription(count);
     QAccessibleEvent told(m_used, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&told);
+    m_used->setToolTip(count);
     if (!m_count) {
-        m_count = new QLabel;
+        m_count = new QLabel(m_tools.view.horizontalHeader());
         m_count->setObjectName(u"FilterCount"_s);
         m_count->setForegroundRole(QPalette::PlaceholderText);
         m_count->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
-    if (m_count->parentWidget() != m_used)
-        m_count->setParent(m_used);
     m_count->setText(count);
     place();
 }
@@ -172,17 +177,36 @@ void FilterFields::place()
         field.line->setGeometry(left, isAny ? 0 : header.height() - height, width, height);
         field.line->setVisible(isAny || !header.isSectionHidden(field.column));
     }
-    if (!m_count || !m_used)
+    if (!m_count)
         return;
-    constexpr int clearButton = 28;
     const QSize size = m_count->sizeHint();
-    const bool hasRoom = m_used->width() > 2 * size.width() + clearButton;
-    m_count->setVisible(hasRoom);
-    const bool isReverse = m_used->isRightToLeft();
-    const int margin = hasRoom ? size.width() + 4 : 0;
-    m_used->setTextMargins(isReverse ? margin : 0, 0, isReverse ? 0 : margin, 0);
-    const int left = isReverse ? clearButton : m_used->width() - size.width() - clearButton;
-    m_count->setGeometry(left, (m_used->height() - size.height()) / 2, size.width(), size.height());
+    const QLineEdit *field = fieldForCount(size);
+    m_count->setVisible(field);
+    if (!field)
+        return;
+    const QRect room = field->geometry();
+    const int left = field->isRightToLeft() ? room.left() + clearButton
+                                            : room.right() - size.width() - clearButton;
+    m_count->setGeometry(left, room.center().y() - size.height() / 2, size.width(), size.height());
+    m_count->raise();
+}
+
+// The one that was used, or the last one that is empty and seen whole.
+QLineEdit *FilterFields::fieldForCount(const QSize &count) const
+{
+    const auto hasRoom = [this, &count](const QLineEdit *line) {
+        const int text = line->fontMetrics().horizontalAdvance(
+            line->text().isEmpty() ? line->placeholderText() : line->text());
+        return line->isVisible() && text + count.width() + 2 * clearButton <= line->width() &&
+               m_tools.view.horizontalHeader()->rect().contains(line->geometry());
+    };
+    if (m_used && hasRoom(m_used))
+        return m_used;
+    for (auto field = m_fields.crbegin(); field != m_fields.crend(); ++field) {
+        if (field->line->text().isEmpty() && hasRoom(field->line))
+            return field->line;
+    }
+    return nullptr;
 }
 
 FilterFields::Field *FilterFields::fieldOf(const QObject *line)

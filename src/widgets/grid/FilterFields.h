@@ -6,6 +6,7 @@
 
 class QLabel;
 class QLineEdit;
+class QSize;
 class QTableView;
 
 namespace ORVTListview {
@@ -14,8 +15,9 @@ class CellTable;
 class GridOrder;
 
 // The fields in a grid's header by which users choose the rows that they see: one over the
-// columns, or one under the header of each. The field that was used last tells how many
-// rows there are. Esc empties a field, Enter and Down go to the rows.
+// columns, or one under the header of each. The field that was used last, or where that is
+// too narrow another one, tells how many rows there are. Esc empties a field, Enter and Down go to
+// the rows.
 class FilterFields final : public QObject
 {
 public:
@@ -50,6 +52,7 @@ private:
 
     void make();
     QLineEdit *makeField();
+    QLineEdit *fieldForCount(const QSize &count) const;
     void place();
     void useSoon(const QLineEdit *line);
     void use(const QLineEdit *line);
@@ -61,7 +64,7 @@ private:
     Where m_where = Where::Nowhere;
     QList<Field> m_fields;
     QPointer<QLineEdit> m_used;
-    QPointer<QLabel> m_count; // in the one that was used last
+    QPointer<QLabel> m_count; // in one of them, or a child of the header
 };
 
 } // namespace ORVTListview
