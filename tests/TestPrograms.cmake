@@ -35,6 +35,7 @@ endfunction()
 # What is laid out, drawn or dragged is tested in other places, too: another scale,
 # style and country, whose numbers and letters differ.
 set(large_screen ${CMAKE_CURRENT_LIST_DIR}/support/large_screen.json)
+set(two_screens ${CMAKE_CURRENT_LIST_DIR}/support/two_screens.json)
 set(locales_dir ${PROJECT_BINARY_DIR}/locales)
 find_program(LOCALEDEF localedef)
 file(MAKE_DIRECTORY ${locales_dir})
@@ -82,7 +83,12 @@ function(orvt_add_widget_tests program)
         if(name MATCHES "DragTest$") # which the offscreen platform cannot do
             set(display DISPLAY)
         endif()
-        orvt_add_test(${name} ${display} COMMAND $<TARGET_FILE:${program}> ${name})
+        set(screens)
+        if(name MATCHES "^(Find|Table|Tree)MonkeyTest$") # whose windows change their screen
+            set(screens ENVIRONMENT QT_QPA_PLATFORM=offscreen:configfile=${two_screens})
+        endif()
+        orvt_add_test(${name} ${display} ${screens}
+            COMMAND $<TARGET_FILE:${program}> ${name})
         orvt_add_sanitized_test(${program} ${name} ${display})
         if(name MATCHES "(CaptionLine|Drag|Layout|Look|Widths|Window)Test$")
             orvt_add_test_elsewhere(${name} ${program} ${display})

@@ -7,7 +7,9 @@
 #include <ORVTListview/Component.h>
 #include <ORVTListview/TextProvider.h>
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPalette>
+#include <QtGui/QScreen>
 #include <QtWidgets/QWidget>
 
 #include <memory>
@@ -30,7 +32,7 @@ public:
     // Does one of them; its name.
     QString next(RandomText &random)
     {
-        switch (random.number(7)) {
+        switch (random.number(8)) {
         case 0:
             return resized(random);
         case 1:
@@ -43,6 +45,8 @@ public:
             return mirrored();
         case 5:
             return disabledForAWhile();
+        case 6:
+            return movedToAnotherScreen();
         default:
             return hiddenForAWhile();
         }
@@ -86,6 +90,17 @@ private:
         const bool isUsual = m_form.layoutDirection() == Qt::LeftToRight;
         m_form.setLayoutDirection(isUsual ? Qt::RightToLeft : Qt::LeftToRight);
         return QStringLiteral("direction");
+    }
+    // Of another density, where the test has several (support/two_screens.json).
+    QString movedToAnotherScreen()
+    {
+        const QList<QScreen *> screens = QGuiApplication::screens();
+        const QScreen *other = screens[(screens.indexOf(m_form.screen()) + 1) % screens.size()];
+        m_form.move(other->geometry().topLeft() + QPoint(10, 10));
+        QCoreApplication::processEvents();
+        if (m_form.isVisible() && m_form.devicePixelRatio() != other->devicePixelRatio())
+            qFatal("the window has not changed its screen");
+        return QStringLiteral("screen ") + other->name();
     }
     QString disabledForAWhile()
     {

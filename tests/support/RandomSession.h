@@ -5,6 +5,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>
+#include <QtTest/QTest>
 
 #include <algorithm>
 #include <cstdio>
@@ -113,6 +114,14 @@ QString failureIn(int sessions, int allSteps)
         return wrong + QStringLiteral(" after: ") + session.done();
     }
     return {};
+}
+
+// The same as a test.
+template <typename Session>
+void runSessions(int sessions, int allSteps)
+{
+    const QString failure = failureIn<Session>(sessions, allSteps);
+    QVERIFY2(failure.isEmpty(), qPrintable(failure));
 }
 
 } // namespace ORVTListview
