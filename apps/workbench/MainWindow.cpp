@@ -137,7 +137,9 @@ void MainWindow::buildPointsMenu()
 void MainWindow::buildViewMenu()
 {
     QMenu *view = menuBar()->addMenu(tr("&View"));
-    view->addMenu(new EditorViewMenu(*m_code->codeView(), view));
+    auto *editor = new EditorViewMenu(*m_code->codeView(), view);
+    view->addMenu(editor);
+    connect(editor, &QMenu::triggered, this, &MainWindow::showPosition);
     view->addMenu(new LanguageMenu(m_languages, view));
 }
 
@@ -158,6 +160,7 @@ void MainWindow::connectEditor()
     connect(m_code->RTextBox(), &QPlainTextEdit::blockCountChanged, this,
             &MainWindow::showProgramInfo);
     m_code->RTextBox()->viewport()->installEventFilter(this);
+    connect(m_code->codeView(), &CodeView::problemChosen, this, &MainWindow::showPosition);
     connect(m_code->RTextBox(), &QPlainTextEdit::selectionChanged, this, &MainWindow::showPosition);
     connect(m_results, &CheckResults::chosen, this, &MainWindow::goTo);
 }

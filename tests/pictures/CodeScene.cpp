@@ -5,6 +5,7 @@
 #include "workbench/Appearance.h"
 
 #include <ORVTListview/CodeView.h>
+#include <ORVTListview/HoverAnswer.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/RichTextBox.h>
@@ -12,7 +13,9 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
 #include <QtGui/QPalette>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QApplication>
 
 using namespace ORVTListview;
@@ -86,6 +89,19 @@ public:
             QKeyEvent press(QEvent::KeyPress, c.toUpper().unicode(), Qt::NoModifier, QString(c));
             QApplication::sendEvent(receiver ? receiver : &box(), &press);
         }
+    }
+    // Lets the mouse rest on the letter at a place of the text.
+    void restAt(qint32 place)
+    {
+        QTextCursor letter(box().document());
+        letter.setPosition(place);
+        const QPointF there = box().cursorRect(letter).center() + QPointF(2, 0);
+        const QPointF onScreen = box().viewport()->mapToGlobal(there);
+        QEnterEvent enter(there, there, onScreen);
+        QApplication::sendEvent(box().viewport(), &enter);
+        QMouseEvent move(QEvent::MouseMove, there, onScreen, Qt::NoButton, Qt::NoButton, {});
+        QApplication::sendEvent(box().viewport(), &move);
+        settle();
     }
     // What comes later has come then.
     static void settle()
@@ -176,6 +192,25 @@ void addBars(CodePicture &code)
     QApplication::sendEvent(QApplication::focusWidget(), &escape);
 }
 
+void addCard(CodePicture &code)
+{
+    const QObject asked;
+    QObject::connect(&code.view(), &CodeView::hoverAsked, &asked,
+                     [](const QString &word, qint32, HoverAnswer *answer) {
+                         answer->setName(word);
+                         answer->setKind(dsInput);
+                         answer->setValue(u"19.4"_s);
+                         answer->setUnit(u"°C"_s);
+                         answer->setDescription(u"Supply air, duct after fan"_s);
+                     });
+    code.restAt(static_cast<qint32>(code.box().document()->toPlainText().indexOf(u"SupplyTemp"_s)) +
+                1);
+    code.add(u"The card of the word that the mouse rests on"_s,
+             code.box().findChild<QWidget *>(u"TipCard"_s));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(code.box().viewport(), &leave);
+}
+
 void addReadableColours(CodePicture &code)
 {
     RichTextSettings light = code.settings(); // made for a light ground
@@ -200,4 +235,5 @@ void codeScene(Sheet &sheet)
     addReadableColours(code);
     CodePicture words(sheet);
     addList(words);
+    addCard(words);
 }

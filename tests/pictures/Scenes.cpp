@@ -64,9 +64,9 @@ QImage Sheet::image() const
     QImage image(all.size() * ratio, QImage::Format_RGB32);
     image.setDevicePixelRatio(ratio);
     const QPalette palette = QGuiApplication::palette();
-    image.fill(palette.color(QPalette::Dark));
+    image.fill(palette.color(QPalette::Window));
     QPainter painter(&image);
-    painter.setPen(palette.color(QPalette::BrightText));
+    painter.setPen(palette.color(QPalette::WindowText));
     for (qsizetype place = 0; place < m_pictures.size(); ++place) {
         const QRect cell = cells.at(place);
         painter.drawText(QRect(cell.topLeft(), QSize(cell.width(), captionHeight)),

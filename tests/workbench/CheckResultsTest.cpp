@@ -3,6 +3,7 @@
 #include "support/TestProgram.h"
 #include <ORVTListview/CodeView.h>
 
+#include <QtGui/QAction>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QHeaderView>
 
@@ -65,6 +66,22 @@ private Q_SLOTS:
                      ->problems()
                      .size(),
                  1);
+    }
+
+    void theWayToAProblemTellsThePosition()
+    {
+        WorkbenchWindow workbench("Fan1 = ON\n\nIF tmep > 3\nENDIF\nENDIF");
+        workbench.key(Qt::Key_F6);
+        const auto goToNext = [&] {
+            for (QAction *action : workbench.window.findChildren<QAction *>()) {
+                if (action->text() == u"Next &Problem"_s)
+                    action->trigger();
+            }
+        };
+        goToNext();
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 3, Col: 4"_s));
+        goToNext();
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 5, Col: 1"_s));
     }
 
     void aClickHighlightsTheWord()
