@@ -63,7 +63,7 @@ void GridMenu::open(int column, bool isHeader, QPoint place)
         for (const Command &command : group)
             captions.append(command.caption);
     }
-    captions = menuTexts(captions);
+    captions = menuTexts(captions << u"Columns"_s); // no two with one access key
     auto *menu = new QMenu(&m_grid.view);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const QList<Command> &group : std::as_const(groups)) {
@@ -75,8 +75,9 @@ void GridMenu::open(int column, bool isHeader, QPoint place)
             action->setShortcutContext(Qt::WidgetShortcut); // shown; the grid's own
         }
     }
+    menu->addSeparator();
     if (m_grid.columns.isOn())
-        addColumns(*menu);
+        addColumns(*menu->addMenu(captions.constLast()));
     const QPointer<QMenu> alive(menu);
     if (m_follow)
         m_follow(*menu);
@@ -165,11 +166,9 @@ QList<GridMenu::Command> GridMenu::columnCommands(int column) const
 void GridMenu::addColumns(QMenu &menu) const
 {
     ColumnArranging &columns = m_grid.columns;
-    menu.addSeparator();
-    QMenu *all = menu.addMenu(menuTexts({u"Columns"_s}).constFirst());
     for (int column = 0; column < m_grid.table.columns(); ++column) {
         QString text = m_grid.table.columnText(column);
-        QAction *action = all->addAction(text.replace(u'&', u"&&"_s));
+        QAction *action = menu.addAction(text.replace(u'&', u"&&"_s));
         const bool isHidden = m_grid.view.isColumnHidden(column);
         action->setCheckable(true);
         action->setChecked(!isHidden);
