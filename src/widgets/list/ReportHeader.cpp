@@ -29,7 +29,7 @@ ReportHeader::ReportHeader(QWidget *parent)
 
 bool ReportHeader::isHeld() const
 {
-    return m_isHeld && QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+    return m_isHeld;
 }
 
 void ReportHeader::mousePressEvent(QMouseEvent *event)
@@ -60,6 +60,9 @@ void ReportHeader::mouseReleaseEvent(QMouseEvent *event)
 bool ReportHeader::viewportEvent(QEvent *event)
 {
     return EventGuard::run([this, event] {
+        const bool isUp = !QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+        if (isUp && (event->type() == QEvent::MouseMove || event->type() == QEvent::Leave))
+            m_isHeld = false; // its release went elsewhere
         if (event->type() != QEvent::ToolTip)
             return QHeaderView::viewportEvent(event);
         const auto *help = static_cast<QHelpEvent *>(event);

@@ -344,6 +344,7 @@ private Q_SLOTS:
             shown->setColumnWidth(column, 150);
         QLineEdit *last = shown.fields().constLast();
         QVERIFY(last->x() > shown->horizontalHeader()->width());
+        QCoreApplication::processEvents();
         last->setFocus();
         QVERIFY(shown->horizontalHeader()->rect().contains(last->geometry()));
     }
