@@ -22,12 +22,13 @@ QString columnLayoutText(const QList<ColumnPlace> &columns)
 
 QList<ColumnPlace> columnsOfLayoutText(const QString &text)
 {
+    constexpr int widest = 1'000'000; // as columns are at most
     QList<ColumnPlace> columns;
     for (const QString &part : text.split(u';', Qt::SkipEmptyParts)) {
         const qsizetype colon = part.indexOf(u':');
         bool isNumber = false;
         const int width = part.mid(colon + 1).toInt(&isNumber);
-        if (colon > 0 && isNumber && width != 0)
+        if (colon > 0 && isNumber && width != 0 && width >= -widest && width <= widest)
             columns.append({QUrl::fromPercentEncoding(part.first(colon).toUtf8()), std::abs(width),
                             width < 0});
     }

@@ -71,7 +71,7 @@ QList<SortKey> clickedKeys(const QList<SortKey> &keys, int column, bool adds)
     const auto found = std::find_if(keys.cbegin(), keys.cend(),
                                     [column](const SortKey &key) { return key.column == column; });
     QList<SortKey> clicked = adds ? keys : QList<SortKey>();
-    if (found == keys.cend())
+    if (found == keys.cend() || (!adds && found != keys.cbegin()))
         return clicked << SortKey{column, false};
     const auto isIt = [column](const SortKey &key) { return key.column == column; };
     if (found->isDescending)

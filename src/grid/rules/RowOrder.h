@@ -27,7 +27,8 @@ using CellTexts = std::function<const QString &(int row, int column)>;
 ORVT_HOUSE_EXPORT QList<int> sortedRows(const QList<int> &rows, const QList<SortKey> &keys,
                                         const CellTexts &texts);
 
-// What a click on a header makes of the keys: the column alone, up; then down; then none.
+// What a click on a header makes of the keys: the column alone, up; then down; then none. One
+// that was behind others begins anew.
 // One that adds puts it behind the others, turns it round, and takes it out.
 ORVT_HOUSE_EXPORT QList<SortKey> clickedKeys(const QList<SortKey> &keys, int column, bool adds);
 

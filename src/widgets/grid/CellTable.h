@@ -11,6 +11,7 @@
 
 namespace ORVTListview {
 
+class ColumnHeader;
 class ListItem;
 
 // The rows and columns of a list as its grid sees them: a row is its handle, whatever
@@ -44,6 +45,10 @@ public:
     virtual int columns() const = 0;
     virtual QString columnKey(int column) const = 0;
     virtual QString columnText(int column) const = 0;
+
+    // What stays with a column wherever it is, and where it is now: -1 when it is gone.
+    virtual const ColumnHeader *headerOf(int column) const = 0;
+    virtual int columnOf(const ColumnHeader *header) const = 0;
 
     // Plain for what is not there. Cells tell theirs as an int of this role, too.
     static constexpr int stateRole = Qt::UserRole;
@@ -80,6 +85,11 @@ public:
 
     // As wide as its header and its cells need; -1 for all columns.
     virtual void fitColumn(int column) = 0;
+
+    // Whether the user holds a section or a divider of the header. False for a host's own
+    // header, which keeps no room free either.
+    virtual bool isHeaderHeld() const = 0;
+    virtual bool hasHeaderRoom() const = 0;
 
     // Pixels that the header keeps free over its sections, and under them.
     virtual void setHeaderRoom(int above, int below) = 0;

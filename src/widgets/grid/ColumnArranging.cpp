@@ -5,7 +5,7 @@
 #include "widgets/look/Twips.h"
 
 #include <QtCore/QScopedValueRollback>
-#include <QtGui/QGuiApplication>
+#include <QtCore/QTimer>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTableView>
 
@@ -20,19 +20,20 @@ ColumnArranging::ColumnArranging(QTableView &view, CellTable &table)
     , m_table(table)
 {
     const QHeaderView *header = view.horizontalHeader();
-    connect(header, &QHeaderView::sectionMoved, this, &ColumnArranging::note);
+    connect(header, &QHeaderView::sectionMoved, this, &ColumnArranging::noteByMouse);
     connect(header, &QHeaderView::sectionResized, this, &ColumnArranging::noteByMouse);
     connect(view.model(), &QAbstractItemModel::columnsInserted, this, &ColumnArranging::applySoon);
 }
 
-bool ColumnArranging::isOn() const
-{
-    return m_view.horizontalHeader()->sectionsMovable();
-}
-
 void ColumnArranging::setOn(bool on)
 {
-    m_view.horizontalHeader()->setSectionsMovable(on);
+    if (on == m_isOn)
+        return;
+    m_isOn = on;
+    QHeaderView &header = *m_view.horizontalHeader();
+    if (on)
+        m_wasMovable = header.sectionsMovable();
+    header.setSectionsMovable(on || m_wasMovable);
 }
 
 void ColumnArranging::switchTable(const QString &name)
@@ -48,18 +49,23 @@ QString ColumnArranging::layout(const QString &table) const
 
 void ColumnArranging::setLayout(const QString &table, const QString &layout)
 {
+    const QString former = this->layout(table);
     if (layout.isEmpty())
         m_layouts.remove(table);
     else
         m_layouts.insert(table, layout);
-    if (table == m_shown)
-        apply();
+    if (table != m_shown)
+        return;
+    takeOff(former);
+    apply();
 }
 
 void ColumnArranging::setHidden(int column, bool hidden)
 {
     if (hidden && !canHide(column))
         return;
+    if (m_isWaiting)
+        apply();
     m_layouts.insert(m_shown, layoutNow()); // knows its width
     m_view.setColumnHidden(column, hidden);
     note();
@@ -73,6 +79,8 @@ bool ColumnArranging::canHide(int column) const
 
 void ColumnArranging::fit(int column)
 {
+    if (m_isWaiting)
+        apply();
     m_table.fitColumn(column);
     note();
 }
@@ -80,7 +88,7 @@ void ColumnArranging::fit(int column)
 // What the program does is not the user's.
 void ColumnArranging::noteByMouse()
 {
-    if (QGuiApplication::mouseButtons().testFlag(Qt::LeftButton))
+    if (!m_isWaiting && m_table.isHeaderHeld())
         note();
 }
 
@@ -89,8 +97,36 @@ void ColumnArranging::note()
     if (!isOn() || m_isApplying)
         return;
     m_layouts.insert(m_shown, layoutNow());
+    if (!std::exchange(m_isTelling, true))
+        QMetaObject::invokeMethod(
+            this, [this] { tell(); }, Qt::QueuedConnection);
+}
+
+// Once the user has let go: the header is at work till then, and cannot bear to be destroyed.
+void ColumnArranging::tell()
+{
+    if (m_table.isHeaderHeld()) {
+        QTimer::singleShot(100, this, &ColumnArranging::tell);
+        return;
+    }
+    m_isTelling = false;
     if (m_follow)
         m_follow();
+}
+
+// What it has hidden is seen again, in the columns' own order.
+void ColumnArranging::takeOff(const QString &layout)
+{
+    const QScopedValueRollback applying(m_isApplying, true);
+    QHeaderView &header = *m_view.horizontalHeader();
+    const QList<ColumnPlace> places = columnsOfLayoutText(layout);
+    for (const ColumnPlace &place : places) {
+        const int column = columnOf(place.key);
+        if (column >= 0 && place.isHidden)
+            header.setSectionHidden(column, false);
+    }
+    for (int column = 0; !places.isEmpty() && column < header.count(); ++column)
+        header.moveSection(header.visualIndex(column), column);
 }
 
 void ColumnArranging::applySoon()
@@ -100,8 +136,8 @@ void ColumnArranging::applySoon()
     QMetaObject::invokeMethod(
         this,
         [this] {
-            m_isWaiting = false;
-            apply();
+            if (m_isWaiting)
+                apply();
         },
         Qt::QueuedConnection);
 }
@@ -138,6 +174,7 @@ int ColumnArranging::columnOf(const QString &key) const
 // Columns that the text does not name come behind the others.
 void ColumnArranging::apply()
 {
+    m_isWaiting = false;
     const QScopedValueRollback applying(m_isApplying, true);
     QHeaderView &header = *m_view.horizontalHeader();
     int visual = 0;

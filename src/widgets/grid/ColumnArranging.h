@@ -23,13 +23,13 @@ public:
     void setFollower(const std::function<void()> &follow) { m_follow = follow; }
 
     // Whether users drag columns, and hide them.
-    bool isOn() const;
+    bool isOn() const { return m_isOn; }
     void setOn(bool on);
 
     // Another table is shown; its columns come soon after.
     void switchTable(const QString &name);
 
-    // Empty for a table that no user has arranged.
+    // Empty for a table that no user has arranged; its columns stand in their own order.
     QString layout(const QString &table) const;
     void setLayout(const QString &table, const QString &layout);
     const QHash<QString, QString> &layouts() const { return m_layouts; }
@@ -42,6 +42,8 @@ public:
 private:
     void noteByMouse();
     void note();
+    void tell();
+    void takeOff(const QString &layout);
     void applySoon();
     void apply();
     QString layoutNow() const;
@@ -52,8 +54,11 @@ private:
     std::function<void()> m_follow;
     QHash<QString, QString> m_layouts; // by table
     QString m_shown;
+    bool m_isOn = false;
+    bool m_wasMovable = false; // the header, by the host
     bool m_isApplying = false;
-    bool m_isWaiting = false;
+    bool m_isWaiting = false; // a layout, for the columns
+    bool m_isTelling = false;
 };
 
 } // namespace ORVTListview

@@ -39,11 +39,13 @@ FilterFields::FilterFields(const Tools &tools)
     const QAbstractItemModel *model = tools.view.model();
     for (const auto changed :
          {&QAbstractItemModel::columnsInserted, &QAbstractItemModel::columnsRemoved})
-        connect(model, changed, this, &FilterFields::make);
+        connect(model, changed, this, &FilterFields::makeSoon);
     for (const auto changed : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(model, changed, this, &FilterFields::tellCount);
     connect(model, &QAbstractItemModel::modelReset, this, &FilterFields::tellCount);
-    connect(model, &QAbstractItemModel::headerDataChanged, this, &FilterFields::refresh);
+    connect(model, &QAbstractItemModel::headerDataChanged, this, &FilterFields::refreshSoon);
+    // A host may give the view another header; the fields go with this one.
+    connect(header, &QObject::destroyed, this, [this] { m_fields.clear(); });
 }
 
 FilterFields::~FilterFields()
@@ -55,15 +57,46 @@ FilterFields::~FilterFields()
 void FilterFields::setWhere(Where where)
 {
     m_where = where;
-    m_tools.view.horizontalHeader()->removeEventFilter(this);
-    if (where != Where::Nowhere)
-        m_tools.view.horizontalHeader()->installEventFilter(this);
+    for (QWidget *widget : {static_cast<QWidget *>(&m_tools.view),
+                            static_cast<QWidget *>(m_tools.view.horizontalHeader())}) {
+        widget->removeEventFilter(this);
+        if (where != Where::Nowhere)
+            widget->installEventFilter(this);
+    }
     make();
+}
+
+void FilterFields::makeSoon()
+{
+    if (std::exchange(m_isStale, true))
+        return;
+    QMetaObject::invokeMethod(
+        this, [this] { make(); }, Qt::QueuedConnection);
+}
+
+void FilterFields::refreshSoon()
+{
+    if (std::exchange(m_isWaiting, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isWaiting = false;
+            refresh();
+        },
+        Qt::QueuedConnection);
+}
+
+// Its column may have gone, and the fields are made anew soon after.
+bool FilterFields::isThere(const Field &field) const
+{
+    return field.line && !m_isStale && field.column < m_tools.table.columns();
 }
 
 // Those of columns that stay keep what is typed in them by the order's filters.
 void FilterFields::make()
 {
+    m_isStale = false;
     if (m_where == Where::Nowhere && m_fields.isEmpty())
         return;
     for (const Field &field : std::as_const(m_fields)) {
@@ -72,20 +105,28 @@ void FilterFields::make()
     }
     m_fields.clear();
     m_used = nullptr;
-    if (m_where == Where::Above)
+    const Where where = m_tools.table.hasHeaderRoom() ? m_where : Where::Nowhere;
+    if (where == Where::Above)
         m_fields.append({makeField(), CellFilter::anyColumn});
-    for (int column = 0; m_where == Where::InColumns && column < m_tools.table.columns(); ++column)
+    for (int column = 0; where == Where::InColumns && column < m_tools.table.columns(); ++column)
         m_fields.append({makeField(), column});
     QWidget *before = &m_tools.view;
     for (const Field &field : std::as_const(m_fields)) {
         QWidget::setTabOrder(before, field.line);
         before = field.line;
     }
-    const int room = m_fields.isEmpty() ? 0 : m_fields.constFirst().line->sizeHint().height();
-    m_tools.table.setHeaderRoom(m_where == Where::Above ? room : 0,
-                                m_where == Where::InColumns ? room : 0);
+    m_room = -1;
     refresh();
     place();
+}
+
+// Fonts and styles change.
+void FilterFields::fitRoom()
+{
+    const int room = m_fields.isEmpty() ? 0 : m_fields.constFirst().line->sizeHint().height();
+    if (std::exchange(m_room, room) != room)
+        m_tools.table.setHeaderRoom(m_where == Where::Above ? room : 0,
+                                    m_where == Where::InColumns ? room : 0);
 }
 
 QLineEdit *FilterFields::makeField()
@@ -117,6 +158,8 @@ void FilterFields::use(const QLineEdit *line)
     if (!field)
         return;
     field->isWaiting = false;
+    if (!isThere(*field))
+        return;
     m_used = field->line;
     m_tools.order.setFilter(field->column, field->line->text());
 }
@@ -124,6 +167,8 @@ void FilterFields::use(const QLineEdit *line)
 void FilterFields::refresh()
 {
     for (const Field &field : std::as_const(m_fields)) {
+        if (!isThere(field))
+            continue;
         const bool isAny = field.column == CellFilter::anyColumn;
         const QString name = Localise(u"Filter"_s);
         field.line->setPlaceholderText(name);
@@ -169,7 +214,10 @@ void FilterFields::tellCount()
 void FilterFields::place()
 {
     const QHeaderView &header = *m_tools.view.horizontalHeader();
+    fitRoom();
     for (const Field &field : std::as_const(m_fields)) {
+        if (!isThere(field))
+            continue;
         const int height = field.line->sizeHint().height();
         const bool isAny = field.column == CellFilter::anyColumn;
         const int left = isAny ? 0 : header.sectionViewportPosition(field.column);
@@ -219,12 +267,41 @@ FilterFields::Field *FilterFields::fieldOf(const QObject *line)
 
 bool FilterFields::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize && watched == m_tools.view.horizontalHeader())
+    const QEvent::Type type = event->type();
+    const bool isHeader = watched == m_tools.view.horizontalHeader();
+    const bool isKey = type == QEvent::KeyPress || type == QEvent::KeyRelease;
+    if (isHeader && isKey)
+        return true; // what a field has no use for; no key of the rows
+    if (isHeader && type == QEvent::Resize)
         place();
-    const Field *field = event->type() == QEvent::KeyPress ? fieldOf(watched) : nullptr;
-    if (field && act(*field->line, static_cast<const QKeyEvent *>(event)->key()))
+    if (type == QEvent::FontChange || type == QEvent::StyleChange)
+        QMetaObject::invokeMethod(
+            this, [this] { place(); }, Qt::QueuedConnection);
+    if (type == QEvent::LanguageChange)
+        refreshSoon();
+    const Field *field = fieldOf(watched);
+    if (field && type == QEvent::FocusIn)
+        scrollTo(*field);
+    if (field && type == QEvent::KeyPress &&
+        act(*field->line, static_cast<const QKeyEvent *>(event)->key()))
         return true;
     return QObject::eventFilter(watched, event);
+}
+
+// A field over the rows is always seen.
+void FilterFields::scrollTo(const Field &field)
+{
+    if (field.column == CellFilter::anyColumn || !isThere(field))
+        return;
+    const QHeaderView &header = *m_tools.view.horizontalHeader();
+    const int left = header.sectionViewportPosition(field.column);
+    const int beyond = left + header.sectionSize(field.column) - header.viewport()->width();
+    const int by = left < 0 ? left : std::clamp(beyond, 0, left);
+    QScrollBar &bar = *m_tools.view.horizontalScrollBar();
+    if (by != 0 && m_tools.view.horizontalScrollMode() == QAbstractItemView::ScrollPerItem)
+        bar.setValue(header.visualIndex(field.column));
+    else
+        bar.setValue(bar.value() + (header.isRightToLeft() ? -by : by));
 }
 
 bool FilterFields::act(QLineEdit &line, int key)

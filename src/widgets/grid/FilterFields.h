@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QEvent>
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
@@ -50,6 +51,11 @@ private:
         bool isWaiting = false; // what was typed is not looked at yet
     };
 
+    bool isThere(const Field &field) const;
+    void makeSoon();
+    void refreshSoon();
+    void fitRoom();
+    void scrollTo(const Field &field);
     void make();
     QLineEdit *makeField();
     QLineEdit *fieldForCount(const QSize &count) const;
@@ -62,6 +68,9 @@ private:
 
     Tools m_tools;
     Where m_where = Where::Nowhere;
+    bool m_isStale = false;   // other columns than the fields
+    bool m_isWaiting = false; // to be refreshed
+    int m_room = 0;
     QList<Field> m_fields;
     QPointer<QLineEdit> m_used;
     QPointer<QLabel> m_count; // in one of them, or a child of the header

@@ -39,7 +39,8 @@ void GridMenu::setOn(bool on)
 bool GridMenu::eventFilter(QObject *watched, QEvent *event)
 {
     const QTableView &view = m_grid.view;
-    if (event->type() != QEvent::ContextMenu || view.contextMenuPolicy() != Qt::DefaultContextMenu)
+    if (event->type() != QEvent::ContextMenu ||
+        view.contextMenuPolicy() != Qt::DefaultContextMenu || m_grid.rules.isAtRest(view))
         return QObject::eventFilter(watched, event);
     const auto &asked = *static_cast<const QContextMenuEvent *>(event);
     const QHeaderView *header = view.horizontalHeader();
@@ -69,10 +70,7 @@ void GridMenu::open(int column, bool isHeader, QPoint place)
     for (const QList<Command> &group : std::as_const(groups)) {
         menu->addSeparator();
         for (const Command &command : group) {
-            QAction *action = menu->addAction(captions.takeFirst(), menu, command.act);
-            action->setEnabled(command.isPossible);
-            action->setShortcut(QKeySequence(command.keys));
-            action->setShortcutContext(Qt::WidgetShortcut); // shown; the grid's own
+            addTo(*menu, command, captions.takeFirst());
         }
     }
     menu->addSeparator();
@@ -81,8 +79,34 @@ void GridMenu::open(int column, bool isHeader, QPoint place)
     const QPointer<QMenu> alive(menu);
     if (m_follow)
         m_follow(*menu);
-    if (alive)
+    if (alive && menu->isEmpty())
+        menu->deleteLater();
+    else if (alive)
         menu->popup(place);
+}
+
+// Done when the menu has closed, which the list owns and a host may destroy with it.
+void GridMenu::addTo(QMenu &menu, const Command &command, const QString &caption)
+{
+    QAction *action = menu.addAction(caption);
+    action->setEnabled(command.isPossible);
+    action->setShortcut(QKeySequence(command.keys));
+    action->setShortcutContext(Qt::WidgetShortcut); // shown; the grid's own
+    const auto act = [this, act = command.act] {
+        m_grid.table.settle();
+        act();
+    };
+    connect(action, &QAction::triggered, this, act, Qt::QueuedConnection);
+}
+
+// Nothing where the column has gone since.
+std::function<void()> GridMenu::forColumn(int column, const std::function<void(int)> &act) const
+{
+    return [&table = m_grid.table, header = m_grid.table.headerOf(column), act] {
+        const int now = table.columnOf(header);
+        if (now >= 0)
+            act(now);
+    };
 }
 
 QList<GridMenu::Command> GridMenu::cellCommands() const
@@ -90,7 +114,6 @@ QList<GridMenu::Command> GridMenu::cellCommands() const
     const Tools &grid = m_grid;
     const QModelIndex cell = grid.view.currentIndex();
     const bool isEdited = cell.isValid() && grid.rules.isEdited(cell.column());
-    const bool hasCells = grid.selection.isByCells() && cell.isValid();
     QList<Command> commands;
     if (grid.rules.isUsed()) {
         const QUndoStack &stack = grid.steps.stack();
@@ -101,11 +124,7 @@ QList<GridMenu::Command> GridMenu::cellCommands() const
                  << Command{u"Edit"_s, isEdited,
                             [grid = m_grid] { grid.edit.open(grid.view.currentIndex()); }, u"F2"_s};
     }
-    if (hasCells)
-        commands << Command{u"Copy"_s, true, [grid = m_grid] { grid.clipboard.copy(false); },
-                            u"Ctrl+C"_s}
-                 << Command{u"Copy with Headers"_s, true,
-                            [grid = m_grid] { grid.clipboard.copy(true); }, u"Ctrl+Shift+C"_s};
+    commands << copyCommands();
     if (grid.rules.isUsed()) {
         const QMimeData *data = QGuiApplication::clipboard()->mimeData();
         commands << Command{u"Paste"_s, isEdited && data && data->hasText(),
@@ -116,6 +135,20 @@ QList<GridMenu::Command> GridMenu::cellCommands() const
                             u"Ctrl+D"_s};
     }
     return commands;
+}
+
+QList<GridMenu::Command> GridMenu::copyCommands() const
+{
+    if (!m_copying.isAllowed || !m_copying.isAllowed())
+        return {};
+    if (!m_grid.selection.isByCells())
+        return {{u"Copy"_s, m_grid.view.selectionModel()->hasSelection(), m_copying.copyRows,
+                 u"Ctrl+C"_s}};
+    if (!m_grid.view.currentIndex().isValid())
+        return {};
+    return {{u"Copy"_s, true, [grid = m_grid] { grid.clipboard.copy(false); }, u"Ctrl+C"_s},
+            {u"Copy with Headers"_s, true, [grid = m_grid] { grid.clipboard.copy(true); },
+             u"Ctrl+Shift+C"_s}};
 }
 
 QList<GridMenu::Command> GridMenu::rowCommands() const
@@ -137,13 +170,15 @@ QList<GridMenu::Command> GridMenu::orderCommands(int column) const
     QList<Command> commands;
     if (column >= 0 && order.isByHeader())
         commands << Command{u"Sort Upwards"_s, true,
-                            [&order, column] {
-                                order.setKeys({{column, false}});
-                            }}
+                            forColumn(column,
+                                      [&order](int now) {
+                                          order.setKeys({{now, false}});
+                                      })}
                  << Command{u"Sort Downwards"_s, true,
-                            [&order, column] {
-                                order.setKeys({{column, true}});
-                            }}
+                            forColumn(column,
+                                      [&order](int now) {
+                                          order.setKeys({{now, true}});
+                                      })}
                  << Command{u"Not Sorted"_s, !order.keys().isEmpty(),
                             [&order] { order.setKeys({}); }};
     if (m_grid.filters.where() != FilterFields::Where::Nowhere)
@@ -156,14 +191,14 @@ QList<GridMenu::Command> GridMenu::columnCommands(int column) const
     ColumnArranging &columns = m_grid.columns;
     if (!columns.isOn() || column < 0)
         return {};
-    return {{u"Fit Column"_s, true, [&columns, column] { columns.fit(column); }},
+    return {{u"Fit Column"_s, true, forColumn(column, [&columns](int now) { columns.fit(now); })},
             {u"Fit All Columns"_s, true, [&columns] { columns.fit(-1); }},
             {u"Hide Column"_s, columns.canHide(column),
-             [&columns, column] { columns.setHidden(column, true); }}};
+             forColumn(column, [&columns](int now) { columns.setHidden(now, true); })}};
 }
 
 // Each with a mark while it is seen.
-void GridMenu::addColumns(QMenu &menu) const
+void GridMenu::addColumns(QMenu &menu)
 {
     ColumnArranging &columns = m_grid.columns;
     for (int column = 0; column < m_grid.table.columns(); ++column) {
@@ -173,8 +208,9 @@ void GridMenu::addColumns(QMenu &menu) const
         action->setCheckable(true);
         action->setChecked(!isHidden);
         action->setEnabled(isHidden || columns.canHide(column));
-        connect(action, &QAction::triggered, &columns,
-                [&columns, column](bool seen) { columns.setHidden(column, !seen); });
+        const bool hides = !isHidden;
+        const auto act = [&columns, hides](int now) { columns.setHidden(now, hides); };
+        connect(action, &QAction::triggered, this, forColumn(column, act), Qt::QueuedConnection);
     }
 }
 

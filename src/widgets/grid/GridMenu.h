@@ -51,6 +51,14 @@ public:
     // What may add to a menu before it opens.
     void setFollower(const std::function<void(QMenu &)> &follow) { m_follow = follow; }
 
+    // How rows are copied, and whether anything may be.
+    struct Copying
+    {
+        std::function<bool()> isAllowed;
+        std::function<void()> copyRows;
+    };
+    void setCopying(const Copying &copying) { m_copying = copying; }
+
     bool isOn() const { return m_isOn; }
     void setOn(bool on);
 
@@ -66,15 +74,19 @@ private:
         QString keys = {};
     };
 
+    std::function<void()> forColumn(int column, const std::function<void(int)> &act) const;
+    void addTo(QMenu &menu, const Command &command, const QString &caption);
     void open(int column, bool isHeader, QPoint place);
     QList<Command> cellCommands() const;
+    QList<Command> copyCommands() const;
     QList<Command> orderCommands(int column) const;
     QList<Command> rowCommands() const;
     QList<Command> columnCommands(int column) const;
-    void addColumns(QMenu &menu) const;
+    void addColumns(QMenu &menu);
 
     const Tools m_grid;
     std::function<void(QMenu &)> m_follow;
+    Copying m_copying;
     bool m_isOn = false;
 };
 

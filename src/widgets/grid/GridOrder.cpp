@@ -110,7 +110,8 @@ void GridOrder::markHeader()
         ++rank;
         ranks[key.column] = key.isDescending ? -rank : rank;
     }
-    for (int column = 0; column < ranks.size(); ++column)
+    // Who is told may take columns away.
+    for (int column = 0; column < ranks.size() && column < m_tools.table.columns(); ++column)
         m_tools.table.setSortRank(column, ranks.at(column));
 }
 

@@ -71,7 +71,7 @@ struct GridParts
     // selects it.
     void headerClicked(int column, Qt::KeyboardModifiers modifiers)
     {
-        if (!order.isByHeader())
+        if (!order.isByHeader() || rules.isAtRest(view))
             return;
         if (modifiers.testFlag(Qt::ControlModifier) && selection.isByCells())
             selection.selectColumn(column);

@@ -1,7 +1,10 @@
 #include "widgets/grid/GridRules.h"
 
 #include "base/EventGuard.h"
+#include "shared/points/DisplayNames.h"
 #include "widgets/grid/CellTable.h"
+
+#include <QtWidgets/QWidget>
 
 #include <algorithm>
 
@@ -13,6 +16,11 @@ GridRules::GridRules(CellTable &table, const QAbstractItemModel &model)
     const auto follow = [this] { resolve(); };
     QObject::connect(&model, &QAbstractItemModel::columnsInserted, &m_connections, follow);
     QObject::connect(&model, &QAbstractItemModel::columnsRemoved, &m_connections, follow);
+}
+
+bool GridRules::isAtRest(const QWidget &view) const
+{
+    return view.windowType() == Qt::ToolTip || m_tableName == displayName(dsCode);
 }
 
 void GridRules::setOn(bool on)

@@ -10,6 +10,8 @@
 
 class QAbstractItemModel;
 
+class QWidget;
+
 namespace ORVTListview {
 
 class CellTable;
@@ -24,6 +26,9 @@ public:
     Q_DISABLE_COPY_MOVE(GridRules) // follows one model
 
     bool isOn() const { return m_isOn; }
+
+    // The list of known words is no grid, shown as a popup or as the table that has no rules.
+    bool isAtRest(const QWidget &view) const;
 
     // Whether it is on, and there is a column that users edit.
     bool isUsed() const;

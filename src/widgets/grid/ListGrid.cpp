@@ -7,6 +7,8 @@
 #include <ORVTListview/PropertyBag.h>
 
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
+#include <QtCore/QUrl>
 #include <QtWidgets/QMenu>
 
 namespace ORVTListview {
@@ -14,6 +16,21 @@ namespace ORVTListview {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr QLatin1String otherLayouts("ColumnLayouts"); // which tables there are besides the types
+
+// Those of the types, of layouts and of a text of otherLayouts.
+QSet<QString> tableNames(const QHash<QString, QString> &layouts, const QString &others)
+{
+    QSet<QString> names{QString()};
+    for (qint32 type = lowestType; type <= highestType; ++type)
+        names.insert(displayName(type));
+    for (auto layout = layouts.cbegin(); layout != layouts.cend(); ++layout)
+        names.insert(layout.key());
+    for (const QString &name : others.split(u';', Qt::SkipEmptyParts))
+        names.insert(QUrl::fromPercentEncoding(name.toUtf8()));
+    return names;
+}
 
 QString layoutName(const QString &table)
 {
@@ -322,17 +339,22 @@ void ListGrid::setColumnLayout(const QString &table, const QString &layout)
 
 void ListGrid::readColumnLayouts(const PropertyBag &bag)
 {
-    for (qint32 type = lowestType; type <= highestType; ++type) {
-        const QString name = displayName(type);
+    const QString others = bag.ReadProperty(otherLayouts, QString()).toString();
+    for (const QString &name : tableNames(d->columns.layouts(), others))
         d->columns.setLayout(name, bag.ReadProperty(layoutName(name), QString()).toString());
-    }
 }
 
 void ListGrid::writeColumnLayouts(PropertyBag &bag) const
 {
-    for (qint32 type = lowestType; type <= highestType; ++type)
-        bag.WriteProperty(layoutName(displayName(type)), columnLayout(displayName(type)),
-                          QString());
+    QSet<QString> names = tableNames(d->columns.layouts(), {});
+    for (const QString &name : std::as_const(names))
+        bag.WriteProperty(layoutName(name), columnLayout(name), QString());
+    names.subtract(tableNames({}, {}));
+    QStringList others;
+    for (const QString &name : std::as_const(names))
+        others.append(QString::fromLatin1(QUrl::toPercentEncoding(name)));
+    others.sort();
+    bag.WriteProperty(otherLayouts, others.join(u';'), QString());
 }
 
 void ListGrid::fitColumn(qint16 column)

@@ -1,6 +1,7 @@
 #include "widgets/list/ReportCells.h"
 
 #include "widgets/list/ReportHeader.h"
+#include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ListItem.h>
 
 namespace ORVTListview {
@@ -82,6 +83,16 @@ QString ReportCells::columnText(int column) const
     return m_parts.model.column(column).text;
 }
 
+const ColumnHeader *ReportCells::headerOf(int column) const
+{
+    return m_parts.headers.of(m_parts.model.column(column), m_parts);
+}
+
+int ReportCells::columnOf(const ColumnHeader *header) const
+{
+    return header && header->isAlive() ? header->Index() - 1 : -1;
+}
+
 CellState ReportCells::state(const ListItem *item, int column) const
 {
     return isThere(item, column) ? ReportModel::state(*rowOf(item), column) : CellState::Plain;
@@ -157,9 +168,27 @@ void ReportCells::fitColumn(int column)
         m_parts.widths.fit(column);
 }
 
+// A host may have given the view another one.
+ReportHeader *ReportCells::header() const
+{
+    return qobject_cast<ReportHeader *>(m_parts.view.horizontalHeader());
+}
+
+bool ReportCells::isHeaderHeld() const
+{
+    const ReportHeader *own = header();
+    return own && own->isHeld();
+}
+
+bool ReportCells::hasHeaderRoom() const
+{
+    return header();
+}
+
 void ReportCells::setHeaderRoom(int above, int below)
 {
-    static_cast<ReportHeader *>(m_parts.view.horizontalHeader())->setRoom(above, below);
+    if (ReportHeader *own = header())
+        own->setRoom(above, below);
 }
 
 void ReportCells::setEdited(int column, bool edited)

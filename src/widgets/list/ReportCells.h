@@ -5,6 +5,8 @@
 
 namespace ORVTListview {
 
+class ReportHeader;
+
 // The rows and columns of a report list, for its grid.
 class ReportCells final : public CellTable
 {
@@ -20,6 +22,8 @@ public:
     int columns() const override;
     QString columnKey(int column) const override;
     QString columnText(int column) const override;
+    const ColumnHeader *headerOf(int column) const override;
+    int columnOf(const ColumnHeader *header) const override;
     CellState state(const ListItem *item, int column) const override;
     void setState(const ListItem *item, int column, CellState state) override;
     int rows() const override;
@@ -33,6 +37,8 @@ public:
     void setOrderer(const std::function<Order()> &order) override;
     void setSortRank(int column, int rank) override;
     void fitColumn(int column) override;
+    bool isHeaderHeld() const override;
+    bool hasHeaderRoom() const override;
     void setHeaderRoom(int above, int below) override;
     void setEdited(int column, bool edited) override;
     bool selectsCells() const override;
@@ -40,6 +46,7 @@ public:
     void settle() override;
 
 private:
+    ReportHeader *header() const;
     ReportRow *rowOf(const ListItem *item) const;
 
     ReportListParts &m_parts;

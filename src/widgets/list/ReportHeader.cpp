@@ -5,11 +5,13 @@
 #include "widgets/look/CellText.h"
 #include "widgets/look/PlainToolTip.h"
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOption>
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -25,9 +27,21 @@ ReportHeader::ReportHeader(QWidget *parent)
     connect(this, &QHeaderView::sectionDoubleClicked, this, [this] { m_isSecondClick = true; });
 }
 
+bool ReportHeader::isHeld() const
+{
+    return m_isHeld;
+}
+
+void ReportHeader::mousePressEvent(QMouseEvent *event)
+{
+    m_isHeld = event->button() == Qt::LeftButton;
+    QHeaderView::mousePressEvent(event);
+}
+
 // On a section, not on a divider, it is a second click, which is to be told as well.
 void ReportHeader::mouseDoubleClickEvent(QMouseEvent *event)
 {
+    m_isHeld = event->button() == Qt::LeftButton;
     QHeaderView::mouseDoubleClickEvent(event);
     if (std::exchange(m_isSecondClick, false))
         QHeaderView::mousePressEvent(event);
@@ -37,13 +51,18 @@ void ReportHeader::mouseReleaseEvent(QMouseEvent *event)
 {
     const QPointer<ReportHeader> self(this);
     QHeaderView::mouseReleaseEvent(event);
-    if (self)
-        Q_EMIT released(event->modifiers()); // may destroy this header
+    if (!self)
+        return;
+    m_isHeld = false;
+    Q_EMIT released(event->modifiers()); // may destroy this header
 }
 
 bool ReportHeader::viewportEvent(QEvent *event)
 {
     return EventGuard::run([this, event] {
+        const bool isUp = !QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+        if (isUp && (event->type() == QEvent::MouseMove || event->type() == QEvent::Leave))
+            m_isHeld = false; // its release went elsewhere
         if (event->type() != QEvent::ToolTip)
             return QHeaderView::viewportEvent(event);
         const auto *help = static_cast<QHelpEvent *>(event);
@@ -119,7 +138,10 @@ void ReportHeader::paintRank(QPainter &painter, QStyleOptionHeaderV2 option, con
     option.rect = section;
     const QRect arrow = style()->subElementRect(QStyle::SE_HeaderArrow, &option, this);
     QFont small = font();
-    small.setPointSizeF(font().pointSizeF() * 0.7);
+    if (font().pixelSize() > 0)
+        small.setPixelSize(std::max(1, font().pixelSize() * 7 / 10));
+    else
+        small.setPointSizeF(font().pointSizeF() * 0.7);
     painter.save();
     painter.setFont(small);
     painter.setPen(palette().color(QPalette::ButtonText));

@@ -18,6 +18,9 @@ public:
     // Whether a shown column has room for a part of its text only.
     bool isElided(int column) const;
 
+    // Whether the left button that was pressed on it is still down.
+    bool isHeld() const;
+
     // For what stands over the sections, or under them, in the header.
     void setRoom(int above, int below);
     QSize sizeHint() const override;
@@ -29,6 +32,7 @@ Q_SIGNALS:
     void released(Qt::KeyboardModifiers modifiers);
 
 protected:
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     bool viewportEvent(QEvent *event) override;
@@ -45,6 +49,7 @@ private:
     void paintRank(QPainter &painter, QStyleOptionHeaderV2 option, const QRect &section,
                    int rank) const;
 
+    bool m_isHeld = false;
     bool m_isSecondClick = false;
     int m_above = 0;
     int m_below = 0;

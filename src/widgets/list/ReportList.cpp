@@ -105,6 +105,7 @@ void ReportList::setUpConnections()
                     noteLabel(*itemOf(label), text);
             });
     d->gridParts().edit.setPick([this](const std::function<void()> &act) { pick(act); });
+    d->gridParts().menu.setCopying({[this] { return d->copies; }, [this] { copySelection(); }});
     d->model.setEntry([this](const QModelIndex &cell, const QString &text) {
         return d->grid->enterText(itemOf(cell), static_cast<qint16>(cell.column()), text);
     });

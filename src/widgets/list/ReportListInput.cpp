@@ -116,7 +116,9 @@ void ReportList::keyReleaseEvent(QKeyEvent *event)
 void ReportList::act(QKeyEvent &event)
 {
     d->rowChoice.settle();
-    if ((d->copies || !GridKeys::isCopying(event)) && d->gridParts().keys.act(event))
+    GridParts &grid = d->gridParts();
+    if (!grid.rules.isAtRest(*this) && (d->copies || !GridKeys::isCopying(event)) &&
+        grid.keys.act(event))
         return;
     if (event.matches(QKeySequence::Copy) && !d->copies)
         event.ignore();

@@ -286,6 +286,69 @@ private Q_SLOTS:
         QVERIFY(shown.field(0));
     }
 
+    void sortedColumnsGoWithFieldsInTheHeader()
+    {
+        FilteredGrid shown;
+        shown.grid->setSortKeys({{0, Qt::AscendingOrder}, {1, Qt::AscendingOrder}});
+        shown->ColumnHeaders()->Remove(1);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.grid->sortKeys(), (ListGrid::SortKeys{{0, Qt::AscendingOrder}}));
+        QVERIFY(shown.field(4));
+    }
+
+    void keysInAFieldAreNoKeysOfTheRows()
+    {
+        FilteredGrid shown;
+        shown.grid->setEditsRows(true);
+        shown.goTo(2, 1);
+        shown.click(shown.field(1)->mapTo(&shown.form, shown.field(1)->rect().center()));
+        shown.key(Qt::Key_Minus, Qt::ControlModifier);
+        shown.key(Qt::Key_D, Qt::ControlModifier);
+        shown.key(Qt::Key_F2);
+        QCOMPARE(shown->ListItems()->Count(), 5);
+        QCOMPARE(shown.text(2, 1), u"Fan2"_s);
+        QCOMPARE(QApplication::focusWidget(), shown.field(1));
+    }
+
+    void aHostsOwnHeaderHasNoFields()
+    {
+        ShownGrid shown;
+        shown->setHorizontalHeader(new QHeaderView(Qt::Horizontal, shown.list));
+        shown.grid->setFilterPlace(ListGrid::FilterInColumns);
+        shown.grid->setFilterText(0, u"5"_s);
+        QCOMPARE(shown.grid->rowsShown(), 1);
+        QVERIFY(!shown->findChild<QLineEdit *>(u"FilterField"_s));
+        FilteredGrid other;
+        other->setHorizontalHeader(new QHeaderView(Qt::Horizontal, other.list));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        other.grid->setFilterText(0, u"5"_s);
+        other->ColumnHeaders()->Add(0, u"x"_s, u"X"_s);
+        QCoreApplication::processEvents();
+        QCOMPARE(other.grid->rowsShown(), 1);
+    }
+
+    void fieldsKeepTheirRoomInALargerFont()
+    {
+        FilteredGrid shown;
+        QFont font = shown->font();
+        font.setPixelSize(40);
+        shown->setFont(font);
+        QCoreApplication::processEvents();
+        QVERIFY(shown.field(0)->y() >= shown->horizontalHeader()->viewport()->geometry().bottom());
+    }
+
+    void aFieldThatIsReachedIsSeen()
+    {
+        FilteredGrid shown;
+        for (int column = 0; column < 6; ++column)
+            shown->setColumnWidth(column, 150);
+        QLineEdit *last = shown.fields().constLast();
+        QVERIFY(last->x() > shown->horizontalHeader()->width());
+        QCoreApplication::processEvents();
+        last->setFocus();
+        QVERIFY(shown->horizontalHeader()->rect().contains(last->geometry()));
+    }
+
     void filtersWorkOnSortedRows()
     {
         FilteredGrid shown;

@@ -212,7 +212,8 @@ public:
     // How users have arranged a table's columns, as a short text for the host to keep; empty
     // for a table that nobody has arranged. Keys of columns that are not there are passed
     // over, columns that it does not name come last. The bag gets a text for each table under
-    // "ColumnLayouts.Inputs" and so on.
+    // "ColumnLayouts.Inputs" and so on, and under "ColumnLayouts" which tables there are besides
+    // those of the types. An empty layout gives the shown columns their own order back.
     QString columnLayout(const QString &table) const;
     void setColumnLayout(const QString &table, const QString &layout);
     void readColumnLayouts(const PropertyBag &bag);
