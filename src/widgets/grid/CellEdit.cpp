@@ -62,8 +62,8 @@ CellEdit::CellEdit(const Tools &tools)
     });
     m_tools.view.installEventFilter(this);
     connect(m_tools.view.horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this](int column, int, int size) {
-                if (size == 0 && column == m_tools.view.currentIndex().column())
+            [this](int column) { // which hiding does, too
+                if (column == m_tools.view.currentIndex().column())
                     QMetaObject::invokeMethod(
                         this, [this] { leaveHidden(); }, Qt::QueuedConnection);
             });
