@@ -22,8 +22,9 @@ bool isBlank(const QString &text)
 class ReadyFilter
 {
 public:
-    explicit ReadyFilter(const CellFilter &filter)
+    ReadyFilter(const CellFilter &filter, const ShownText &shown)
         : m_filter(filter)
+        , m_shown(shown)
         , m_matcher(filter.text, Qt::CaseInsensitive)
         , m_key(filter.text)
     {
@@ -32,13 +33,23 @@ public:
     bool passes(int row, const QList<int> &columns, const CellTexts &texts) const
     {
         if (m_filter.column != CellFilter::anyColumn)
-            return passesCell(texts(row, m_filter.column));
+            return passesCell(m_filter.column, texts(row, m_filter.column));
         return std::any_of(columns.cbegin(), columns.cend(),
-                           [&](int column) { return passesCell(texts(row, column)); });
+                           [&](int column) { return passesCell(column, texts(row, column)); });
     }
 
 private:
-    bool passesCell(const QString &text) const
+    bool passesCell(int column, const QString &text) const
+    {
+        const bool passes = passesText(text);
+        const QString seen = m_shown ? m_shown(column, text) : text;
+        if (seen == text)
+            return passes;
+        return m_filter.way == CellFilter::Differs ? passes && passesText(seen)
+                                                   : passes || passesText(seen);
+    }
+
+    bool passesText(const QString &text) const
     {
         switch (m_filter.way) {
         case CellFilter::Contains:
@@ -54,6 +65,7 @@ private:
     }
 
     CellFilter m_filter;
+    const ShownText &m_shown;
     QStringMatcher m_matcher;
     NaturalKey m_key;
 };
@@ -75,12 +87,12 @@ CellFilter typedFilter(const QString &typed, int column)
 }
 
 QList<int> filteredRows(int rows, const QList<int> &columns, const QList<CellFilter> &filters,
-                        const CellTexts &texts)
+                        const CellTexts &texts, const ShownText &shown)
 {
     std::vector<ReadyFilter> ready;
     for (const CellFilter &filter : filters) {
         if (filter.way != CellFilter::Contains || !filter.text.isEmpty())
-            ready.emplace_back(filter);
+            ready.emplace_back(filter, shown);
     }
     QList<int> passed;
     passed.reserve(rows);

@@ -6,6 +6,8 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
+#include <functional>
+
 namespace ORVTListview {
 
 // What a row must have in a column, or in any of them, to be shown.
@@ -28,9 +30,13 @@ struct CellFilter
 // shown.
 ORVT_HOUSE_EXPORT CellFilter typedFilter(const QString &typed, int column);
 
+// What is seen of a text in a column, where it may be another one: a filter finds both.
+using ShownText = std::function<QString(int column, const QString &text)>;
+
 // The rows, of so many, that pass all filters, in their order. Columns are those that
 // count for a filter of any.
 ORVT_HOUSE_EXPORT QList<int> filteredRows(int rows, const QList<int> &columns,
-                                          const QList<CellFilter> &filters, const CellTexts &texts);
+                                          const QList<CellFilter> &filters, const CellTexts &texts,
+                                          const ShownText &shown = {});
 
 } // namespace ORVTListview

@@ -61,6 +61,25 @@ CellEdit::CellEdit(const Tools &tools)
         return m_isOpening ? makeField(parent, cell) : nullptr;
     });
     m_tools.view.installEventFilter(this);
+    connect(m_tools.view.horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int column) { // which hiding does, too
+                if (column == m_tools.view.currentIndex().column())
+                    QMetaObject::invokeMethod(
+                        this, [this] { leaveHidden(); }, Qt::QueuedConnection);
+            });
+}
+
+// What is hidden is not to be edited; the selection stays.
+void CellEdit::leaveHidden()
+{
+    const QModelIndex current = m_tools.view.currentIndex();
+    if (!m_tools.rules.isUsed() || !current.isValid() ||
+        !m_tools.view.isColumnHidden(current.column()))
+        return;
+    const QModelIndex right = neighbour(current, Then::Right);
+    const QModelIndex next = right.isValid() ? right : neighbour(current, Then::Left);
+    if (next.isValid())
+        m_tools.view.selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
 }
 
 CellEdit::~CellEdit()
@@ -90,7 +109,7 @@ QWidget *CellEdit::makeField(QWidget *parent, const QModelIndex &cell) const
 bool CellEdit::open(const QModelIndex &cell, const std::optional<QString> &typed)
 {
     if (!cell.isValid() || !m_tools.rules.isEdited(cell.column()) || !m_tools.view.isEnabled() ||
-        OpenView::isEditing(m_tools.view))
+        m_tools.view.isColumnHidden(cell.column()) || OpenView::isEditing(m_tools.view))
         return false;
     m_tools.note.hide();
     m_cell = cell;
@@ -181,6 +200,20 @@ void CellEdit::finish()
 {
     if (m_field)
         m_tools.delegate.finish(*m_field);
+    else if (QWidget *label = labelField())
+        m_tools.delegate.finish(*label);
+}
+
+// The editor of a label, which is in the current row.
+QWidget *CellEdit::labelField() const
+{
+    const QModelIndex current = m_tools.view.currentIndex();
+    for (int column = 0; OpenView::isEditing(m_tools.view) && column < m_tools.table.columns();
+         ++column) {
+        if (QWidget *open = m_tools.view.indexWidget(current.siblingAtColumn(column)))
+            return open;
+    }
+    return nullptr;
 }
 
 void CellEdit::enterSoon(const QString &text)
@@ -268,13 +301,25 @@ std::optional<QList<CellRefusal>> CellEdit::asked(const QList<CellEntry> &entrie
 void CellEdit::correct(const Entered &entered, const QList<CellRefusal> &refusals)
 {
     const QModelIndex cell = m_tools.table.placeOf(entered.item, entered.column);
-    if (!cell.isValid())
+    if (!cell.isValid()) {
+        keepUnseen(entered, refusals);
         return;
+    }
     const QPointer<CellEdit> self(this);
     const QString reason = sentence(refusals, entered.item, entered.column);
     makeCurrent(cell);
     if (self)
         openAgain({entered.item, entered.column, entered.text, reason});
+}
+
+// A row that a filter has taken away meanwhile has its text when it is edited again.
+void CellEdit::keepUnseen(const Entered &entered, const QList<CellRefusal> &refusals)
+{
+    if (!m_tools.table.isThere(entered.item, entered.column))
+        return;
+    const QString reason = sentence(refusals, nullptr, -1);
+    m_kept = Kept{entered.item, entered.column, entered.text, reason};
+    m_tools.note.show({}, reason, nullptr);
 }
 
 // Where no editor can be open, as in a list that is disabled, the text waits for one.
@@ -318,8 +363,10 @@ void CellEdit::show(const QList<CellRefusal> &refusals)
 {
     const CellRefusal &first = refusals.constFirst();
     const QModelIndex cell = m_tools.table.placeOf(first.item, first.column);
-    if (!cell.isValid())
+    if (!cell.isValid()) {
+        m_tools.note.show({}, sentence(refusals, nullptr, -1), nullptr);
         return;
+    }
     m_tools.view.scrollTo(cell);
     m_tools.note.show(cell, sentence(refusals, first.item, first.column), nullptr);
 }

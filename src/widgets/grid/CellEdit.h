@@ -59,7 +59,7 @@ public:
     // Whether the text that an editor is closed with is that of a cell.
     bool isOpenAt(const QModelIndex &cell) const { return m_field && m_cell == cell; }
 
-    // Enters what is in an open editor.
+    // Enters what is in an open editor, that of a label too.
     void finish();
 
     // The editor is being closed while this is called.
@@ -104,6 +104,8 @@ private:
         QString reason;
     };
 
+    void leaveHidden();
+    QWidget *labelField() const;
     QWidget *makeField(QWidget *parent, const QModelIndex &cell) const;
     void fill(const std::optional<QString> &typed);
     void take(const Entered &entered);
@@ -115,6 +117,7 @@ private:
     void show(const QList<CellRefusal> &refusals);
     QString sentence(const QList<CellRefusal> &refusals, const ListItem *item, int column) const;
     void correct(const Entered &entered, const QList<CellRefusal> &refusals);
+    void keepUnseen(const Entered &entered, const QList<CellRefusal> &refusals);
     void openAgain(const Kept &kept);
     bool isKept(const ListItem *item, int column) const;
     void makeCurrent(const QModelIndex &cell);

@@ -5,6 +5,7 @@
 #include <QtWidgets/QTableView>
 
 #include <algorithm>
+#include <utility>
 
 namespace ORVTListview {
 namespace {
@@ -27,7 +28,8 @@ CellFlash::CellFlash(QTableView &view)
 void CellFlash::setOn(bool on)
 {
     m_isOn = on;
-    m_changed.clear();
+    if (!std::exchange(m_changed, {}).isEmpty())
+        m_view.viewport()->update();
 }
 
 // The style's own animations are short ones.

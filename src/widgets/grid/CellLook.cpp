@@ -34,8 +34,10 @@ void CellLook::setLocalNumbers(bool on)
 
 void CellLook::dress(QStyleOptionViewItem &cell, const QModelIndex &index) const
 {
-    if (m_hasLocalNumbers && m_tools.rules.rule(index.column()).kind == CellRule::Number)
-        dressNumber(cell, index);
+    if (isLocal(index.column())) {
+        cell.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+        cell.text = shown(index.column(), cell.text);
+    }
     dressState(cell, index);
     const qreal strength = m_flash.strength(index);
     if (strength <= 0)
@@ -45,10 +47,14 @@ void CellLook::dress(QStyleOptionViewItem &cell, const QModelIndex &index) const
     cell.backgroundBrush = ground;
 }
 
-void CellLook::dressNumber(QStyleOptionViewItem &cell, const QModelIndex &) const
+bool CellLook::isLocal(int column) const
 {
-    cell.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
-    cell.text = shownNumber(cell.text, m_tools.view.locale());
+    return m_hasLocalNumbers && m_tools.rules.rule(column).kind == CellRule::Number;
+}
+
+QString CellLook::shown(int column, const QString &text) const
+{
+    return isLocal(column) ? shownNumber(text, m_tools.view.locale()) : text;
 }
 
 // The word only where there is room for it: a tool tip has it, too. Beside a number it
@@ -61,7 +67,8 @@ void CellLook::dressState(QStyleOptionViewItem &cell, const QModelIndex &index) 
     const QStyle &style = *m_tools.view.style();
     const int side = style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &m_tools.view);
     cell.features |= QStyleOptionViewItem::HasDecoration;
-    cell.icon = statePicture(state);
+    const auto group = m_tools.view.isEnabled() ? QPalette::Active : QPalette::Disabled;
+    cell.icon = statePicture(state, cell.palette.color(group, QPalette::HighlightedText));
     cell.decorationSize = QSize(side, side);
     const QColor ink = stateInk(state, cell.palette);
     if (ink.isValid() && !index.data(Qt::ForegroundRole).isValid())

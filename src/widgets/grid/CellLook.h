@@ -30,11 +30,14 @@ public:
     bool hasLocalNumbers() const { return m_hasLocalNumbers; }
     void setLocalNumbers(bool on);
 
+    // What is seen of a text in a column.
+    QString shown(int column, const QString &text) const;
+
     CellFlash &flash() { return m_flash; }
 
 private:
     void dress(QStyleOptionViewItem &cell, const QModelIndex &index) const;
-    void dressNumber(QStyleOptionViewItem &cell, const QModelIndex &index) const;
+    bool isLocal(int column) const;
     void dressState(QStyleOptionViewItem &cell, const QModelIndex &index) const;
 
     Tools m_tools;

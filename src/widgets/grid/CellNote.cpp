@@ -44,6 +44,7 @@ void CellNote::show(const QModelIndex &cell, const QString &sentence, QWidget *e
 {
     hide();
     m_cell = cell;
+    m_isAtCorner = m_view.visualRect(cell).isEmpty();
     m_editor = editor;
     m_label = new QLabel(&m_view);
     m_label->setObjectName(u"CellNote"_s);
@@ -96,16 +97,25 @@ void CellNote::hide()
     }
 }
 
+// In the view.
+QRect CellNote::anchor() const
+{
+    const QRect room = m_view.viewport()->geometry();
+    if (!m_isAtCorner)
+        return m_view.visualRect(m_cell).translated(room.topLeft());
+    return {m_view.isRightToLeft() ? room.topRight() : room.topLeft(), QSize(1, 0)};
+}
+
 void CellNote::place()
 {
     if (!m_label)
         return;
-    if (!m_cell.isValid()) {
+    if (!m_isAtCorner && !m_cell.isValid()) {
         hide();
         return;
     }
     const QRect room = m_view.viewport()->geometry();
-    const QRect cell = m_view.visualRect(m_cell).translated(room.topLeft());
+    const QRect cell = anchor();
     const QSize size = m_label->sizeHint();
     const bool isBelow = cell.bottom() + 1 + size.height() <= room.bottom();
     const int top = isBelow ? cell.bottom() + 1 : cell.top() - size.height();
@@ -113,7 +123,7 @@ void CellNote::place()
     const int left =
         std::clamp(start, room.left(), std::max(room.left(), room.right() + 1 - size.width()));
     m_label->setGeometry(QRect(QPoint(left, top), size));
-    m_label->setVisible(cell.isValid() && room.intersects(cell)); // or hidden
+    m_label->setVisible(m_isAtCorner || (cell.isValid() && room.intersects(cell))); // or hidden
 }
 
 bool CellNote::eventFilter(QObject *watched, QEvent *event)

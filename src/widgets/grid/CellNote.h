@@ -19,7 +19,7 @@ public:
     explicit CellNote(QTableView &view);
     ~CellNote() override;
 
-    // The editor, if there is one, is in the cell.
+    // The editor, if there is one, is in the cell. At the corner for a cell that is not seen.
     void show(const QModelIndex &cell, const QString &sentence, QWidget *editor);
     void hide();
 
@@ -28,12 +28,14 @@ protected:
 
 private:
     void place();
+    QRect anchor() const;
     void followEditor();
 
     QTableView &m_view;
     QPointer<QLabel> m_label; // a child of the view, made when it is first needed
     QPersistentModelIndex m_cell;
     QPointer<QWidget> m_editor;
+    bool m_isAtCorner = false;
 };
 
 } // namespace ORVTListview

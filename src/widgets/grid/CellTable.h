@@ -62,13 +62,17 @@ public:
     // The row is there.
     virtual int positionOf(const ListItem &item) const = 0;
 
-    // Before the row at a position, or behind all; with the texts and states of another one,
-    // or empty, and without a key.
-    virtual ListItem *insertRow(int position, const ListItem *like) = 0;
-    virtual void removeRow(int position) = 0;
+    // A row for each, before the row at a position, or behind all; with the texts and states
+    // of another one, or empty for null, and without a key. What is told of it may take rows
+    // away again, and end all this.
+    virtual QList<ListItem *> insertRows(int position, const QList<ListItem *> &likes) = 0;
+    virtual void removeRows(int position, int count) = 0;
 
-    // Not while isOrdered.
-    virtual void moveRow(int from, int to) = 0;
+    // All by one place, up (-1) or down (1), in ascending order. Not while isOrdered.
+    virtual void moveRows(const QList<int> &positions, int step) = 0;
+
+    // What is told when a row has gone that the view does not have.
+    virtual void setUnseenFollower(const std::function<void()> &follow) = 0;
 
     // Whether the view has other rows than all in their own order.
     virtual bool isOrdered() const = 0;

@@ -51,7 +51,8 @@ bool GridKeys::act(QKeyEvent &event)
     const QModelIndex cell = m_tools.view.currentIndex();
     if (actOnSteps(event) || move(event))
         return true;
-    return cell.isValid() && m_tools.rules.isEdited(cell.column()) && actOnCell(event, cell);
+    return cell.isValid() && !m_tools.view.isColumnHidden(cell.column()) &&
+           m_tools.rules.isEdited(cell.column()) && actOnCell(event, cell);
 }
 
 bool GridKeys::actOnRows(const QKeyEvent &event)
@@ -62,7 +63,7 @@ bool GridKeys::actOnRows(const QKeyEvent &event)
     if (isControl && event.key() == Qt::Key_Plus)
         m_rows.add();
     else if (isControl && event.key() == Qt::Key_Minus)
-        m_rows.remove();
+        removeOnce(event);
     else if (event.key() == Qt::Key_D && modifiers == (Qt::ControlModifier | Qt::ShiftModifier))
         m_rows.duplicate();
     else if (modifiers == Qt::AltModifier && event.key() == Qt::Key_Up)
@@ -72,6 +73,13 @@ bool GridKeys::actOnRows(const QKeyEvent &event)
     else
         return false;
     return true;
+}
+
+// A key that is held would take away row after row.
+void GridKeys::removeOnce(const QKeyEvent &event)
+{
+    if (!event.isAutoRepeat())
+        m_rows.remove();
 }
 
 bool GridKeys::actOnSelection(const QKeyEvent &event)

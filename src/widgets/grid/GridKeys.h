@@ -41,6 +41,7 @@ public:
 
 private:
     bool actOnRows(const QKeyEvent &event);
+    void removeOnce(const QKeyEvent &event);
     bool actOnSelection(const QKeyEvent &event);
     bool actOnSteps(const QKeyEvent &event);
     bool actOnCell(QKeyEvent &event, const QModelIndex &cell);

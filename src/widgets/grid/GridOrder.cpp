@@ -16,6 +16,8 @@ GridOrder::GridOrder(const Tools &tools)
 {
     m_tools.table.setOrderer([this] { return order(); });
     const QAbstractItemModel *model = m_tools.view.model();
+    connect(model, &QAbstractItemModel::modelReset, this, &GridOrder::noteReset);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &GridOrder::noteRows);
     connect(model, &QAbstractItemModel::columnsInserted, this,
             [this](const QModelIndex &, int first, int last) {
                 moveColumns([&](int column) {
@@ -30,6 +32,29 @@ GridOrder::GridOrder(const Tools &tools)
                     return column < first ? column : m_tools.table.columns(); // gone
                 });
             });
+}
+
+void GridOrder::noteReset()
+{
+    m_awaitsRows = m_tools.table.rows() == 0;
+}
+
+void GridOrder::noteRows()
+{
+    if (!m_awaitsRows || !m_tools.table.isOrdered() || std::exchange(m_isRefilled, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_isRefilled)
+                apply();
+        },
+        Qt::QueuedConnection);
+}
+
+void GridOrder::keepRows()
+{
+    m_awaitsRows = m_isRefilled = false;
 }
 
 // The view's own sorting does nothing but to give up the header's clicks.
@@ -78,8 +103,9 @@ void GridOrder::apply()
     m_tools.before();
     if (!self)
         return;
+    m_awaitsRows = m_isRefilled = false;
     m_tools.table.show(order());
-    if (m_follow)
+    if (self && m_follow)
         m_follow();
 }
 
@@ -99,7 +125,8 @@ CellTable::Order GridOrder::order() const
     const auto texts = [&table](int row, int column) -> const QString & {
         return table.textOf(row, column);
     };
-    return sortedRows(filteredRows(table.rows(), seen, filters, texts), m_keys, texts);
+    return sortedRows(filteredRows(table.rows(), seen, filters, texts, m_tools.shown), m_keys,
+                      texts);
 }
 
 void GridOrder::markHeader()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grid/rules/RowFilter.h"
 #include "grid/rules/RowOrder.h"
 #include "widgets/grid/CellTable.h"
 
@@ -14,16 +15,19 @@ namespace ORVTListview {
 
 // Which rows of a grid are seen, and in which order. Rows that replace all others are
 // sorted and filtered likewise; those that are added stand last, and those whose cells
-// change stay where they are, until somebody sorts or filters again.
+// change stay where they are, until somebody sorts or filters again. Rows that fill an
+// emptied table are sorted and filtered once, when the event loop comes to it.
 class GridOrder final : public QObject
 {
 public:
-    // Calls before, which may change cells, before the rows are looked at.
+    // Calls before, which may change cells, before the rows are looked at. Shown tells what
+    // is seen of a cell's text.
     struct Tools
     {
         QTableView &view;
         CellTable &table;
         std::function<void()> before;
+        ShownText shown;
     };
 
     explicit GridOrder(const Tools &tools);
@@ -49,8 +53,13 @@ public:
     // By what the cells hold now.
     void apply();
 
+    // The rows that have come to an emptied table are the user's, and stay as they are.
+    void keepRows();
+
 private:
     CellTable::Order order() const;
+    void noteReset();
+    void noteRows();
     void markHeader();
     void moveColumns(const std::function<int(int)> &newColumn);
 
@@ -59,6 +68,8 @@ private:
     QList<SortKey> m_keys;
     QMap<int, QString> m_filters;
     bool m_isByHeader = false;
+    bool m_awaitsRows = false; // all have gone
+    bool m_isRefilled = false; // arranged when the event loop comes to it
 };
 
 } // namespace ORVTListview

@@ -37,7 +37,8 @@ struct GridParts
         , clipboard(tools)
         , rows({shownBy, cells, selection, edit, note})
         , keys(tools, steps, clipboard, rows)
-        , order({shownBy, cells, [this] { edit.finish(); }})
+        , order({shownBy, cells, [this] { edit.finish(); },
+                 [this](int column, const QString &text) { return look.shown(column, text); }})
         , filters({shownBy, cells, order})
         , look({shownBy, rules, delegate})
         , columns(shownBy, cells)

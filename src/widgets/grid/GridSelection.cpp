@@ -28,7 +28,7 @@ QList<int> GridSelection::columns() const
 {
     const QModelIndex current = m_view.currentIndex();
     if (m_view.selectionModel()->selection().isEmpty())
-        return current.isValid() ? QList<int>{current.column()} : QList<int>();
+        return isSeen(current) ? QList<int>{current.column()} : QList<int>();
     QList<int> columns;
     for (const int column : columnsFrom(m_view.horizontalHeader()->logicalIndex(0))) {
         const QItemSelection ranges = m_view.selectionModel()->selection();
@@ -46,15 +46,24 @@ QList<CellPlace> GridSelection::chosen() const
 {
     const QModelIndex current = m_view.currentIndex();
     const bool isOne = m_view.selectionModel()->selection().isEmpty();
-    const QList<int> among = isByCells() ? columns() : QList<int>{current.column()};
+    QList<int> among;
+    if (isByCells())
+        among = columns();
+    else if (isSeen(current))
+        among.append(current.column());
     QList<CellPlace> cells;
     for (const int row : rows()) {
         for (const int column : among) {
-            if (column >= 0 && (isOne || isSelected({row, column})))
+            if ((isOne || isSelected({row, column})))
                 cells.append({row, column});
         }
     }
     return cells;
+}
+
+bool GridSelection::isSeen(const QModelIndex &cell) const
+{
+    return cell.isValid() && !m_view.isColumnHidden(cell.column());
 }
 
 bool GridSelection::isSelected(CellPlace cell) const
@@ -99,7 +108,10 @@ void GridSelection::select(CellPlace first, CellPlace last)
         cells.append(QItemSelectionRange(model.index(first.row, columns.at(begin)),
                                          model.index(last.row, columns.at(end - 1))));
     }
-    m_view.selectionModel()->select(cells, QItemSelectionModel::ClearAndSelect);
+    const bool isRows = m_view.selectionBehavior() == QAbstractItemView::SelectRows;
+    m_view.selectionModel()->select(cells, isRows ? QItemSelectionModel::ClearAndSelect |
+                                                        QItemSelectionModel::Rows
+                                                  : QItemSelectionModel::ClearAndSelect);
 }
 
 bool GridSelection::selectAfter(const std::function<bool()> &act, CellPlace first, CellPlace last)

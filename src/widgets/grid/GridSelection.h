@@ -60,6 +60,8 @@ public:
     void selectRow();
 
 private:
+    bool isSeen(const QModelIndex &cell) const;
+
     QTableView &m_view;
     CellTable &m_table;
 };

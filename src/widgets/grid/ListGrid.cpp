@@ -62,6 +62,7 @@ ListGrid::ListGrid(std::unique_ptr<GridParts> parts)
              },
          .tell =
              [this](RowEditing::Deed deed, const QList<qint32> &rows) {
+                 d->order.keepRows();
                  raiseEvent(*this, &ListGrid::rowsEdited, static_cast<RowDeed>(deed), rows);
              }});
     d->columns.setFollower([this] { raiseEvent(*this, &ListGrid::columnsArranged); });
@@ -70,6 +71,7 @@ ListGrid::ListGrid(std::unique_ptr<GridParts> parts)
         d->filters.refresh();
         raiseEvent(*this, &ListGrid::rowsArranged);
     });
+    d->table.setUnseenFollower([this] { d->filters.refresh(); });
     d->rules.setFollower([this] { d->followRules(); });
     connect(d->view.model(), &QAbstractItemModel::modelReset, this, [this] {
         d->note.hide();
@@ -77,7 +79,10 @@ ListGrid::ListGrid(std::unique_ptr<GridParts> parts)
     });
 }
 
-ListGrid::~ListGrid() = default;
+ListGrid::~ListGrid()
+{
+    d->table.setUnseenFollower({});
+}
 
 bool ListGrid::editsCells() const
 {

@@ -5,7 +5,11 @@
 #include "widgets/grid/CellTable.h"
 #include "widgets/grid/GridSelection.h"
 
+#include <QtCore/QItemSelectionModel>
+#include <QtCore/QPersistentModelIndex>
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTableView>
 
 #include <algorithm>
@@ -25,6 +29,7 @@ QList<qint32> indexesOf(QList<int> positions)
 
 QList<ListItem *> RowEditing::chosen() const
 {
+    m_tools.table.settle();
     QList<ListItem *> items;
     for (const int row : m_tools.selection.rows())
         items.append(m_tools.table.itemAt(m_tools.view.model()->index(row, 0)));
@@ -53,9 +58,12 @@ bool RowEditing::isAllowed(Deed deed, const QList<ListItem *> &items)
     if (!m_host.ask(deed, indexesOf(positions(items)), refusal) || !alive)
         return false;
     m_isAsking = false;
-    if (!refusal.isEmpty() && m_tools.view.currentIndex().isValid())
-        m_tools.note.show(m_tools.view.currentIndex(), refusal, nullptr);
-    return refusal.isEmpty();
+    if (refusal.isEmpty())
+        return true;
+    const QModelIndex current = m_tools.view.currentIndex();
+    m_tools.view.scrollTo(current);
+    m_tools.note.show(current, refusal, nullptr);
+    return false;
 }
 
 bool RowEditing::finish(Deed deed, const QList<int> &positions)
@@ -64,27 +72,49 @@ bool RowEditing::finish(Deed deed, const QList<int> &positions)
     return true;
 }
 
-// Behind the last of the chosen rows, or at the end; the first new one becomes current.
-bool RowEditing::insert(Deed deed, const QList<ListItem *> &likes)
+// Behind the last of the chosen rows, or at the end.
+bool RowEditing::insert(Deed deed, QList<ListItem *> likes)
 {
     const QList<ListItem *> before = chosen();
     if (!isAllowed(deed, before))
         return false;
-    const QList<int> places = positions(before);
-    int position = places.isEmpty() ? m_tools.table.rows() : places.last() + 1;
-    QList<ListItem *> made;
-    for (const ListItem *like : likes) {
-        if (!like || m_tools.table.isThere(like, 0))
-            made.append(m_tools.table.insertRow(position++, like));
-    }
-    if (made.isEmpty())
+    likes.removeIf(
+        [this](const ListItem *like) { return like && !m_tools.table.isThere(like, 0); });
+    if (likes.isEmpty())
         return false;
-    const int column = std::max(0, m_tools.view.currentIndex().column());
-    const QModelIndex first = m_tools.table.placeOf(made.constFirst(), column);
-    m_tools.view.setCurrentIndex(first);
-    const QModelIndex last = m_tools.table.placeOf(made.constLast(), column);
-    m_tools.selection.select({first.row(), column}, {last.row(), column});
-    return finish(deed, positions(made));
+    const QList<int> places = positions(before);
+    const int position = places.isEmpty() ? m_tools.table.rows() : places.last() + 1;
+    const QPointer<CellEdit> alive(&m_tools.edit);
+    const QList<ListItem *> made = m_tools.table.insertRows(position, likes);
+    if (alive)
+        choose(made);
+    return alive && finish(deed, positions(made));
+}
+
+// The first one becomes current. What is told of it may end all this.
+void RowEditing::choose(const QList<ListItem *> &made)
+{
+    const int column = seenColumn();
+    const auto place = [&](const ListItem *item) { return m_tools.table.placeOf(item, column); };
+    const QPointer<CellEdit> alive(&m_tools.edit);
+    m_tools.view.selectionModel()->setCurrentIndex(place(made.constFirst()),
+                                                   QItemSelectionModel::NoUpdate);
+    if (!alive)
+        return;
+    const QModelIndex first = place(made.constFirst());
+    const QModelIndex last = place(made.constLast());
+    if (first.isValid() && last.isValid())
+        m_tools.selection.select({first.row(), column}, {last.row(), column});
+}
+
+// The current one, or the first where that is hidden.
+int RowEditing::seenColumn() const
+{
+    const int column = m_tools.view.currentIndex().column();
+    if (column >= 0 && !m_tools.view.isColumnHidden(column))
+        return column;
+    const QHeaderView &header = *m_tools.view.horizontalHeader();
+    return m_tools.selection.columnsFrom(header.logicalIndex(0)).value(0, 0);
 }
 
 bool RowEditing::add()
@@ -94,38 +124,108 @@ bool RowEditing::add()
 
 bool RowEditing::duplicate()
 {
+    if (!m_isOn)
+        return false;
     const QList<ListItem *> likes = chosen();
-    return m_isOn && !likes.isEmpty() && insert(Deed::Duplicate, likes);
+    return !likes.isEmpty() && insert(Deed::Duplicate, likes);
 }
 
 bool RowEditing::remove()
 {
-    const QList<ListItem *> items = chosen();
-    if (!m_isOn || items.isEmpty() || !isAllowed(Deed::Remove, items))
+    const QList<ListItem *> items = m_isOn ? chosen() : QList<ListItem *>();
+    if (items.isEmpty() || !isAllowed(Deed::Remove, items))
         return false;
+    const QPointer<CellEdit> alive(&m_tools.edit);
     const QList<int> places = positions(items);
-    for (auto place = places.crbegin(); place != places.crend(); ++place)
-        m_tools.table.removeRow(*place);
-    return finish(Deed::Remove, places);
+    leave(items);
+    if (alive)
+        take(items);
+    return alive && finish(Deed::Remove, places);
+}
+
+// From the last on, in as few notices as the view's order allows; each may take others away.
+void RowEditing::take(QList<ListItem *> items)
+{
+    CellTable &table = m_tools.table;
+    items.removeIf([&](const ListItem *item) { return !table.isThere(item, 0); });
+    std::sort(items.begin(), items.end(), [&](const ListItem *one, const ListItem *other) {
+        return table.positionOf(*one) < table.positionOf(*other);
+    });
+    const auto isAt = [&](const ListItem *item, int position) {
+        return table.isThere(item, 0) && table.positionOf(*item) == position;
+    };
+    const QPointer<CellEdit> alive(&m_tools.edit);
+    while (alive && !items.isEmpty()) {
+        const ListItem *last = items.takeLast();
+        if (!table.isThere(last, 0))
+            continue;
+        int first = table.positionOf(*last);
+        const int end = first + 1;
+        for (; !table.isOrdered() && !items.isEmpty() && isAt(items.constLast(), first - 1);
+             --first)
+            items.removeLast();
+        table.removeRows(first, end - first);
+    }
+}
+
+// Below, or above where none is seen below.
+QModelIndex RowEditing::stayingBeside(const QModelIndex &current,
+                                      const QList<ListItem *> &items) const
+{
+    const QSet<ListItem *> going(items.cbegin(), items.cend());
+    for (const int step : {1, -1}) {
+        for (QModelIndex cell = current; cell.isValid();
+             cell = cell.siblingAtRow(cell.row() + step)) {
+            if (!going.contains(m_tools.table.itemAt(cell)) &&
+                !m_tools.view.isRowHidden(cell.row()))
+                return cell;
+        }
+    }
+    return {};
+}
+
+// The current cell goes beforehand: what is told of it may change rows, which nobody may
+// while some are going.
+void RowEditing::leave(const QList<ListItem *> &items)
+{
+    QItemSelectionModel &selection = *m_tools.view.selectionModel();
+    const QModelIndex current = m_tools.view.currentIndex();
+    const QPersistentModelIndex next = stayingBeside(current, items);
+    const bool isSingle = m_tools.view.selectionMode() == QAbstractItemView::SingleSelection;
+    const QPointer<CellEdit> alive(&m_tools.edit);
+    selection.clearSelection();
+    if (alive && !next.isValid())
+        selection.clearCurrentIndex();
+    else if (alive && next != m_tools.view.currentIndex() && isSingle)
+        m_tools.view.setCurrentIndex(next); // which selects it
+    else if (alive)
+        selection.setCurrentIndex(next, QItemSelectionModel::NoUpdate);
 }
 
 bool RowEditing::canMove(int step) const
 {
-    const QList<int> places = positions(chosen());
+    return fits(positions(chosen()), step);
+}
+
+bool RowEditing::fits(const QList<int> &places, int step) const
+{
     return m_isOn && !m_tools.table.isOrdered() && !places.isEmpty() &&
            places.first() + step >= 0 && places.last() + step < m_tools.table.rows();
 }
 
+// The host may have changed rows and selection when it was asked.
 bool RowEditing::move(int step)
 {
     const QList<ListItem *> items = chosen();
-    if (!canMove(step) || !isAllowed(Deed::Move, items) || !canMove(step))
+    if (!fits(positions(items), step) || !isAllowed(Deed::Move, items))
         return false;
-    QList<int> places = positions(items);
-    if (step > 0)
-        std::reverse(places.begin(), places.end());
-    for (const int place : std::as_const(places))
-        m_tools.table.moveRow(place, place + step);
+    const QList<int> places = positions(items);
+    if (!fits(places, step))
+        return false;
+    const QPointer<CellEdit> alive(&m_tools.edit);
+    m_tools.table.moveRows(places, step);
+    if (!alive)
+        return false;
     m_tools.view.scrollTo(m_tools.view.currentIndex());
     return finish(Deed::Move, positions(items));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QAbstractItemModel>
 #include <QtCore/QList>
 #include <QtCore/QString>
 
@@ -64,7 +65,13 @@ private:
     QList<ListItem *> chosen() const;
     QList<int> positions(const QList<ListItem *> &items) const;
     bool isAllowed(Deed deed, const QList<ListItem *> &items);
-    bool insert(Deed deed, const QList<ListItem *> &likes);
+    bool insert(Deed deed, QList<ListItem *> likes);
+    void choose(const QList<ListItem *> &made);
+    int seenColumn() const;
+    void leave(const QList<ListItem *> &items);
+    void take(QList<ListItem *> items);
+    QModelIndex stayingBeside(const QModelIndex &current, const QList<ListItem *> &items) const;
+    bool fits(const QList<int> &places, int step) const;
     bool finish(Deed deed, const QList<int> &positions);
 
     Tools m_tools;

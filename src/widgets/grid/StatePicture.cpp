@@ -6,7 +6,6 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <QtGui/QPalette>
-#include <QtWidgets/QApplication>
 
 namespace ORVTListview {
 namespace {
@@ -67,16 +66,15 @@ QPainterPath shapeOf(CellState state)
 class StateEngine final : public QIconEngine
 {
 public:
-    explicit StateEngine(CellState state)
+    StateEngine(CellState state, const QColor &selected)
         : m_state(state)
+        , m_selected(selected)
     {
     }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
-        const QColor colour = mode == QIcon::Selected
-                                  ? QApplication::palette().color(QPalette::HighlightedText)
-                                  : colourOf(m_state);
+        const QColor colour = mode == QIcon::Selected ? m_selected : colourOf(m_state);
         const int side = std::min(rect.width(), rect.height());
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
@@ -100,17 +98,18 @@ public:
         return drawn;
     }
 
-    QIconEngine *clone() const override { return new StateEngine(m_state); }
+    QIconEngine *clone() const override { return new StateEngine(m_state, m_selected); }
 
 private:
     const CellState m_state;
+    const QColor m_selected;
 };
 
 } // namespace
 
-QIcon statePicture(CellState state)
+QIcon statePicture(CellState state, const QColor &selected)
 {
-    return state == CellState::Plain ? QIcon() : QIcon(new StateEngine(state));
+    return state == CellState::Plain ? QIcon() : QIcon(new StateEngine(state, selected));
 }
 
 QColor stateInk(CellState state, const QPalette &palette)

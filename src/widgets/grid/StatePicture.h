@@ -9,8 +9,8 @@
 namespace ORVTListview {
 
 // Each state has a shape of its own, in a colour that is seen on light and on dark grounds,
-// and on a selected cell in that of its text. A null icon for a plain cell.
-QIcon statePicture(CellState state);
+// and on a selected cell in the one given. A null icon for a plain cell.
+QIcon statePicture(CellState state, const QColor &selected);
 
 // That of the text beside it; invalid where it is the palette's.
 QColor stateInk(CellState state, const QPalette &palette);

@@ -4,6 +4,7 @@
 #include "widgets/view/ViewCollections.h"
 #include <ORVTListview/ListItem.h>
 
+#include <memory>
 #include <utility>
 
 namespace ORVTListview {
@@ -23,7 +24,9 @@ ListItem *ListItems::Add(qint32 Index, const QString &Key, const QString &Text)
     RowContent content;
     content.key = Key;
     content.text = Text;
-    return m_parts.items.of(m_parts.model.addRow(position, std::move(content)), m_parts);
+    ReportModel::Rows rows;
+    rows.push_back(std::make_unique<ReportRow>(std::move(content)));
+    return m_parts.addRows(position, std::move(rows)).constFirst();
 }
 
 } // namespace ORVTListview

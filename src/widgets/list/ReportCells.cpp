@@ -4,6 +4,9 @@
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ListItem.h>
 
+#include <memory>
+#include <utility>
+
 namespace ORVTListview {
 
 namespace {
@@ -119,25 +122,33 @@ int ReportCells::positionOf(const ListItem &item) const
     return item.Index() - 1;
 }
 
-ListItem *ReportCells::insertRow(int position, const ListItem *like)
+QList<ListItem *> ReportCells::insertRows(int position, const QList<ListItem *> &likes)
 {
-    const ReportRow *source = rowOf(like);
-    RowContent content = source ? source->content : RowContent();
-    content.key.clear();
-    ReportRow &row = m_parts.model.addRow(position, std::move(content));
-    if (source)
-        row.states = source->states;
-    return m_parts.items.of(row, m_parts);
+    ReportModel::Rows rows;
+    for (const ListItem *like : likes) {
+        const ReportRow *source = rowOf(like);
+        RowContent content = source ? source->content : RowContent();
+        content.key.clear();
+        rows.push_back(std::make_unique<ReportRow>(std::move(content)));
+        if (source)
+            rows.back()->states = source->states;
+    }
+    return m_parts.addRows(position, std::move(rows));
 }
 
-void ReportCells::removeRow(int position)
+void ReportCells::removeRows(int position, int count)
 {
-    m_parts.removeRow(position);
+    m_parts.removeRows(position, count);
 }
 
-void ReportCells::moveRow(int from, int to)
+void ReportCells::moveRows(const QList<int> &positions, int step)
 {
-    m_parts.model.moveRow(from, to);
+    m_parts.model.moveRows(positions, step);
+}
+
+void ReportCells::setUnseenFollower(const std::function<void()> &follow)
+{
+    m_parts.unseenFollower = follow;
 }
 
 bool ReportCells::isOrdered() const

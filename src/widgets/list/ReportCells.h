@@ -29,9 +29,10 @@ public:
     int rows() const override;
     const QString &textOf(int position, int column) const override;
     int positionOf(const ListItem &item) const override;
-    ListItem *insertRow(int position, const ListItem *like) override;
-    void removeRow(int position) override;
-    void moveRow(int from, int to) override;
+    QList<ListItem *> insertRows(int position, const QList<ListItem *> &likes) override;
+    void removeRows(int position, int count) override;
+    void moveRows(const QList<int> &positions, int step) override;
+    void setUnseenFollower(const std::function<void()> &follow) override;
     bool isOrdered() const override;
     void show(const Order &positions) override;
     void setOrderer(const std::function<Order()> &order) override;

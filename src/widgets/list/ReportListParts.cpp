@@ -1,7 +1,11 @@
 #include "widgets/list/ReportListParts.h"
 
+#include <ORVTListview/ListItem.h>
+
+#include <QtCore/QPointer>
 #include <QtWidgets/QHeaderView>
 
+#include <memory>
 #include <utility>
 
 namespace ORVTListview {
@@ -27,18 +31,35 @@ void hideKept(QTableView &view, const ReportModel &model)
     }
 }
 
+// -1 when all are hidden.
+int firstSeen(const QTableView &view)
+{
+    for (int place = 0; place < view.model()->rowCount(); ++place) {
+        if (!view.isRowHidden(place))
+            return place;
+    }
+    return -1;
+}
+
 } // namespace
 
+// What is told in between may destroy the list.
 void ReportListParts::show(const ReportModel::Order &positions)
 {
     const StillView still(view);
+    const QPointer<QTableView> alive(&view);
     const QModelIndex current = view.currentIndex();
+    const int column = current.column();
+    if (!rowChoice.selection().releaseAll())
+        return;
     keepHidden(view, model);
     model.show(positions);
+    if (!alive)
+        return;
     hideKept(view, model);
     rowChoice.selection().followOrder();
-    if (current.isValid() && !view.currentIndex().isValid())
-        view.selectionModel()->setCurrentIndex(model.index(0, current.column()),
+    if (alive && current.isValid() && !view.currentIndex().isValid())
+        view.selectionModel()->setCurrentIndex(model.index(firstSeen(view), column),
                                                QItemSelectionModel::NoUpdate);
 }
 
@@ -57,12 +78,24 @@ void ReportListParts::setHidden(ReportRow &row, bool hidden)
         view.setRowHidden(place, hidden);
 }
 
-void ReportListParts::removeRow(int position)
+QList<ListItem *> ReportListParts::addRows(int position, ReportModel::Rows rows)
+{
+    QList<ListItem *> added;
+    for (const std::unique_ptr<ReportRow> &row : rows)
+        added.append(items.of(*row, *this));
+    model.addRows(position, std::move(rows));
+    return added;
+}
+
+void ReportListParts::removeRows(int position, int count)
 {
     const StillView still(view);
-    if (model.isOrdered() && model.placeOf(model.row(position)) < 0) // nobody is told
+    const bool isUnseen = model.isOrdered() && model.placeOf(model.row(position)) < 0;
+    if (isUnseen) // nobody is told
         rowChoice.setSelected(model.row(position), false);
-    model.deleteRow(position);
+    model.deleteRows(position, count);
+    if (isUnseen && unseenFollower)
+        unseenFollower();
 }
 
 void ReportListParts::clearRows()

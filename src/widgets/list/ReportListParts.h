@@ -5,7 +5,10 @@
 #include "widgets/list/RowChoice.h"
 #include "widgets/view/HandleStore.h"
 
+#include <QtCore/QList>
 #include <QtWidgets/QTableView>
+
+#include <functional>
 
 namespace ORVTListview {
 
@@ -24,8 +27,13 @@ struct ReportListParts
     }
     Q_DISABLE_COPY_MOVE(ReportListParts) // the parts know one another
 
+    // Their handles, which know when what is told of it takes rows away again. Afterwards
+    // all this may have ended.
+    QList<ListItem *> addRows(int position, ReportModel::Rows rows);
+
     // None of these scrolls the view to another current cell.
-    void removeRow(int position);
+    void removeRow(int position) { removeRows(position, 1); }
+    void removeRows(int position, int count); // several only of rows in their own order
     void clearRows();
     void removeColumn(int position);
     void clearColumns();
@@ -43,6 +51,7 @@ struct ReportListParts
     ReportModel model;
     RowChoice rowChoice;
     ColumnWidths widths;
+    std::function<void()> unseenFollower; // told when a row that the view does not have goes
 };
 
 } // namespace ORVTListview

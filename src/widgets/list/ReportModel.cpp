@@ -150,31 +150,41 @@ int ReportModel::positionOf(const ReportRow &row) const
 
 ReportRow &ReportModel::addRow(int position, RowContent content)
 {
-    const int place = m_isOrdered ? rowCount() : position;
-    beginInsertRows({}, place, place);
-    auto made = std::make_unique<ReportRow>(std::move(content));
-    ReportRow &row = *made;
-    m_rows.insert(m_rows.begin() + position, std::move(made));
-    m_positions.forgetFrom(position);
-    if (m_isOrdered)
-        m_shown.push_back(&row);
-    if (!row.content.key.isEmpty())
-        m_keys.insert(row.content.key, &row);
-    endInsertRows();
+    Rows added;
+    added.push_back(std::make_unique<ReportRow>(std::move(content)));
+    ReportRow &row = *added.front();
+    addRows(position, std::move(added));
     return row;
 }
 
-void ReportModel::deleteRow(int position)
+void ReportModel::addRows(int position, Rows rows)
+{
+    const int place = m_isOrdered ? rowCount() : position;
+    beginInsertRows({}, place, place + static_cast<int>(rows.size()) - 1);
+    for (const std::unique_ptr<ReportRow> &row : rows) {
+        if (m_isOrdered)
+            m_shown.push_back(row.get());
+        if (!row->content.key.isEmpty())
+            m_keys.insert(row->content.key, row.get());
+    }
+    m_rows.insert(m_rows.begin() + position, std::make_move_iterator(rows.begin()),
+                  std::make_move_iterator(rows.end()));
+    m_positions.forgetFrom(position);
+    endInsertRows();
+}
+
+void ReportModel::deleteRows(int position, int count)
 {
     const int place = m_isOrdered ? placeOf(row(position)) : position;
     if (place >= 0)
-        beginRemoveRows({}, place, place);
+        beginRemoveRows({}, place, place + count - 1);
     if (place >= 0 && m_isOrdered) {
         m_shown.erase(m_shown.begin() + place);
         m_places.forgetFrom(place);
     }
-    m_keys.remove(row(position).content.key);
-    m_rows.erase(m_rows.begin() + position);
+    for (int gone = position; gone < position + count; ++gone)
+        m_keys.remove(row(gone).content.key);
+    m_rows.erase(m_rows.begin() + position, m_rows.begin() + position + count);
     m_positions.forgetFrom(position);
     if (place >= 0)
         endRemoveRows();
@@ -227,14 +237,7 @@ void ReportModel::appendRows(QList<RowContent> contents)
         if (m_keys.contains(*key))
             refuseKey(*key);
     }
-    beginInsertRows({}, rowCount(), rowCount() + static_cast<int>(added.size()) - 1);
-    if (m_isOrdered) {
-        for (const std::unique_ptr<ReportRow> &row : added)
-            m_shown.push_back(row.get());
-    }
-    std::move(added.begin(), added.end(), std::back_inserter(m_rows));
-    m_keys.insert(keys);
-    endInsertRows();
+    addRows(rows(), std::move(added));
 }
 
 void ReportModel::setCheckBoxes(bool on)

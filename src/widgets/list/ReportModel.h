@@ -71,9 +71,15 @@ public:
     // What tells the order of rows that replace all others.
     void setOrderer(const std::function<Order()> &order) { m_orderer = order; }
 
+    using Rows = std::vector<std::unique_ptr<ReportRow>>;
     ReportRow &addRow(int position, RowContent content);
-    void deleteRow(int position);
-    void moveRow(int from, int to); // while views have all rows in their own order
+    void addRows(int position, Rows rows);
+    void deleteRow(int position) { deleteRows(position, 1); }
+
+    // Only while views have all rows in their own order: several that follow one another,
+    // and, in ascending order, all by one place.
+    void deleteRows(int position, int count);
+    void moveRows(const QList<int> &positions, int step);
 
     // Both raise Error (InvalidCall) when a key is used twice and then change nothing.
     void setRows(QList<RowContent> contents);
@@ -138,7 +144,6 @@ Q_SIGNALS:
     void checkedByUser(int position);
 
 private:
-    using Rows = std::vector<std::unique_ptr<ReportRow>>;
     using Keys = QHash<QString, ReportRow *>;
 
     static Rows rowsOf(QList<RowContent> contents);

@@ -5,6 +5,8 @@
 #include <QtCore/QPersistentModelIndex>
 
 #include <algorithm>
+#include <cstddef>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -30,15 +32,18 @@ void ReportModel::show(const Order &positions)
         layOut([&] { order(positions); });
 }
 
-void ReportModel::moveRow(int from, int to)
+void ReportModel::moveRows(const QList<int> &positions, int step)
 {
     layOut([&] {
-        const auto at = [this](int position) { return m_rows.begin() + position; };
-        if (from < to)
-            std::rotate(at(from), at(from + 1), at(to + 1));
+        const auto moveOne = [&](int position) {
+            std::swap(m_rows[static_cast<std::size_t>(position)],
+                      m_rows[static_cast<std::size_t>(position + step)]);
+        };
+        if (step < 0)
+            std::for_each(positions.cbegin(), positions.cend(), moveOne);
         else
-            std::rotate(at(to), at(from), at(from + 1));
-        m_positions.forgetFrom(std::min(from, to));
+            std::for_each(positions.crbegin(), positions.crend(), moveOne);
+        m_positions.forgetFrom(positions.constFirst() + std::min(step, 0));
     });
 }
 

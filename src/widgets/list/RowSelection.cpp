@@ -2,10 +2,12 @@
 
 #include "widgets/list/ReportModel.h"
 
-#include <QtCore/QScopedValueRollback>
+#include <QtCore/QPointer>
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
+#include <vector>
 
 namespace ORVTListview {
 namespace {
@@ -82,8 +84,43 @@ void RowSelection::noteUnseen()
 void RowSelection::followOrder()
 {
     noteUnseen();
-    if (!m_isByCells)
-        settleSoon();
+    if (m_lagsBehind || m_count == 0)
+        return;
+    const QList<int> missing = untouched();
+    if (!missing.isEmpty())
+        choose(rangesOf(missing), Select);
+}
+
+bool RowSelection::releaseAll()
+{
+    const QItemSelection chosen = selection();
+    const bool isAll = chosen.size() == 1 && chosen.constFirst().height() == m_model.rowCount() &&
+                       chosen.constFirst().width() == m_model.columns();
+    return !isAll || choose({}, Clear);
+}
+
+// What the rows know already. False when a receiver has destroyed all this.
+bool RowSelection::choose(const QItemSelection &wanted, SelectionFlags command)
+{
+    const QPointer<RowSelection> self(this);
+    m_isSettling = true;
+    QItemSelectionModel::select(wanted, command);
+    if (self)
+        m_isSettling = false;
+    return self;
+}
+
+// The places of rows that are selected and have no range.
+QList<int> RowSelection::untouched() const
+{
+    std::vector<bool> isTouched(static_cast<std::size_t>(m_model.rowCount()), false);
+    for (const QItemSelectionRange &range : selection()) {
+        for (int place = range.top(); range.isValid() && place <= range.bottom(); ++place)
+            isTouched[static_cast<std::size_t>(place)] = true;
+    }
+    QList<int> places = this->places();
+    places.removeIf([&](int place) { return isTouched[static_cast<std::size_t>(place)]; });
+    return places;
 }
 
 void RowSelection::noteChange(const QItemSelection &selected, const QItemSelection &deselected)
@@ -158,9 +195,8 @@ void RowSelection::settle()
     if (!std::exchange(m_lagsBehind, false))
         return;
     const QItemSelection wanted = m_isByCells ? rangesOfCells() : ranges();
-    const QScopedValueRollback settling(m_isSettling, true);
-    QItemSelectionModel::select(QItemSelection(), Clear);
-    QItemSelectionModel::select(wanted, Select);
+    if (choose({}, Clear))
+        choose(wanted, Select);
 }
 
 QItemSelection RowSelection::rowsFrom(int first, int last) const
@@ -168,10 +204,9 @@ QItemSelection RowSelection::rowsFrom(int first, int last) const
     return {m_model.index(first, 0), m_model.index(last, m_model.columns() - 1)};
 }
 
-QItemSelection RowSelection::ranges() const
+QItemSelection RowSelection::rangesOf(const QList<int> &chosen) const
 {
     QItemSelection ranges;
-    const QList<int> chosen = places();
     for (qsizetype first = 0, last = 0; first < chosen.size(); first = last + 1) {
         last = first;
         while (last + 1 < chosen.size() && chosen.at(last + 1) == chosen.at(last) + 1)

@@ -34,6 +34,10 @@ public:
     // The view has other rows, or in another order. What it has no more is not selected.
     void followOrder();
 
+    // Before that: the toolkit does not bring a selection of all cells along. False when a
+    // receiver has destroyed all this.
+    bool releaseAll();
+
     // Whether parts of rows can be selected: then a row is when one of its cells is.
     bool isByCells() const { return m_isByCells; }
     void setByCells(bool on);
@@ -53,8 +57,11 @@ private:
     void noteUnseen();
     void noteChange(const QItemSelection &selected, const QItemSelection &deselected);
     void settleSoon();
+    bool choose(const QItemSelection &wanted, SelectionFlags command);
+    QList<int> untouched() const;
     QItemSelection rowsFrom(int first, int last) const;
-    QItemSelection ranges() const;
+    QItemSelection rangesOf(const QList<int> &places) const;
+    QItemSelection ranges() const { return rangesOf(places()); }
     QItemSelection rangesOfCells() const;
 
     ReportModel &m_model;

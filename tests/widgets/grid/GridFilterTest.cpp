@@ -3,6 +3,7 @@
 #include "widgets/grid/GridFixture.h"
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
 
 #include <QtGui/QClipboard>
 #include <QtGui/QUndoStack>
@@ -101,6 +102,104 @@ private Q_SLOTS:
         shown.typeInto(shown.field(1), typed);
         QCOMPARE(shown.texts(1), names);
         QCOMPARE(shown.grid->filterText(1), typed);
+    }
+
+    void allCellsSelectedAndFiltered()
+    {
+        ShownGrid shown(300);
+        shown->setMultiSelect(true);
+        shown.grid->setSelectsCells(true);
+        shown->selectAll();
+        shown.grid->setFilterText(0, u"Text 29"_s);
+        for (const QItemSelectionRange &range : shown->selectionModel()->selection())
+            QVERIFY(range.isValid() && range.top() <= range.bottom());
+        QCOMPARE(shown->selectionModel()->selectedRows(1).size(), 11);
+        shown.grid->setFilterText(0, {});
+        QCOMPARE(shown->selectionModel()->selectedRows(1).size(), 11);
+        QVERIFY(shown.item(29)->Selected() && !shown.item(1)->Selected());
+    }
+
+    void whatTheProgramSelectsUnseenIsSelectedWhenItIsSeen()
+    {
+        ShownGrid shown;
+        shown->setMultiSelect(true);
+        shown.grid->setSelectsCells(true);
+        shown.grid->setFilterText(0, u"Text 2"_s);
+        shown.item(4)->setSelected(true);
+        shown.grid->setFilterText(0, {});
+        QCoreApplication::processEvents();
+        QVERIFY(shown.item(4)->Selected() && shown->selectionModel()->isRowSelected(3));
+    }
+
+    void sortingTellsOfNoOtherSelection()
+    {
+        ShownGrid shown;
+        shown.goTo(2, 0);
+        QSignalSpy changed(shown->selectionModel(), &QItemSelectionModel::selectionChanged);
+        shown.grid->setSortKeys({{0, Qt::DescendingOrder}});
+        QCoreApplication::processEvents();
+        QCOMPARE(changed.size(), 0);
+        QVERIFY(shown->selectionModel()->isRowSelected(3));
+    }
+
+    void theCountFollowsARowThatIsNotSeen()
+    {
+        FilteredGrid shown(ListGrid::FilterAbove);
+        shown.typeInto(shown.fields().first(), u"Fan1"_s);
+        QCOMPARE(shown.count(), u"2 of 5"_s);
+        shown->ListItems()->Remove(3);
+        QCOMPARE(shown.count(), u"2 of 4"_s);
+    }
+
+    void aRefilledTableIsArrangedOnce()
+    {
+        FilteredGrid shown;
+        shown.grid->setSortKeys({{0, Qt::DescendingOrder}});
+        shown->Clear();
+        QSignalSpy arranged(shown.grid, &ListGrid::rowsArranged);
+        for (int row = 1; row <= 3; ++row)
+            shown->ListItems()->Add(row, QString(), QString::number(row));
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.texts(0), u"3|2|1"_s);
+        QCOMPARE(arranged.size(), 1);
+    }
+
+    void whatIsSeenIsFound()
+    {
+        FilteredGrid shown;
+        shown->setLocale(QLocale(QLocale::German, QLocale::Germany));
+        shown.set(2, 2, u"21.5 K"_s);
+        shown.set(3, 2, u"20"_s);
+        shown.grid->setShowsLocalNumbers(true);
+        for (const QString &typed : {u"21,5"_s, u"21.5"_s}) {
+            shown.grid->setFilterText(2, typed);
+            QCOMPARE(shown.texts(2), u"21.5 K"_s);
+        }
+    }
+
+    void aRowHiddenByTheHostDoesNotBecomeCurrent()
+    {
+        ShownGrid shown;
+        shown->setRowHidden(1, true);
+        shown.goTo(5, 0);
+        shown.grid->setFilterText(ListGrid::anyColumn, u"Text"_s);
+        shown->setRowHidden(0, true);
+        shown.set(5, 1, u"gone"_s);
+        shown.item(5)->setText(u"Other"_s);
+        shown.grid->arrangeRows();
+        QVERIFY(shown->currentIndex().isValid());
+        QVERIFY(!shown->isRowHidden(shown->currentIndex().row()));
+    }
+
+    void aHiddenColumnIsNotEdited()
+    {
+        FilteredGrid shown;
+        shown.goTo(1, 1);
+        shown->setColumnHidden(1, true);
+        shown.key(Qt::Key_Delete);
+        QCOMPARE(shown.text(1, 1), u"Fan1"_s);
+        QVERIFY(!shown.grid->editCell(shown.item(1), 1));
+        QTRY_VERIFY(!shown->isColumnHidden(shown->currentIndex().column()));
     }
 
     void allFiltersCount()

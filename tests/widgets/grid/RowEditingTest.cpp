@@ -1,7 +1,10 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/grid/GridFixture.h"
+#include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/ReportList.h>
 
 #include <QtGui/QUndoStack>
 #include <QtTest/QAbstractItemModelTester>
@@ -15,8 +18,9 @@ namespace {
 class RowGrid : public ShownGrid
 {
 public:
-    RowGrid()
-        : tester(list->model())
+    explicit RowGrid(int count = 5)
+        : ShownGrid(count)
+        , tester(list->model())
     {
         list->setMultiSelect(true);
         grid->setEditsRows(true);
@@ -184,6 +188,136 @@ private Q_SLOTS:
             shown.key(key, Qt::ControlModifier);
             QCOMPARE(shown.list.isNull(), destroys);
         }
+    }
+
+    void aHostChangesRowsWhileItIsAskedToMove()
+    {
+        RowGrid shown;
+        QObject::connect(shown.grid, &ListGrid::rowsEditing, shown.grid, [&] {
+            shown->ListItems()->Remove(1);
+            shown.goTo(4, 0);
+        });
+        shown.click(shown.cell(2));
+        QVERIFY(!shown.grid->moveRowsUp()); // it is the first by now
+        QCOMPARE(shown.texts(0), u"Text 2|Text 3|Text 4|Text 5"_s);
+    }
+
+    void aHostChangesRowsWhileSomeGo_data()
+    {
+        QTest::addColumn<bool>("clears");
+
+        QTest::newRow("removes") << false;
+        QTest::newRow("clears") << true;
+    }
+    void aHostChangesRowsWhileSomeGo()
+    {
+        QFETCH(const bool, clears);
+        RowGrid shown;
+        const auto act = [&] {
+            if (clears)
+                shown->Clear();
+            else if (shown->ListItems()->Count() > 1)
+                shown->ListItems()->Remove(1);
+        };
+        shown.click(shown.cell(2));
+        shown.click(shown.cell(4), Qt::LeftButton, Qt::ControlModifier);
+        QObject::connect(shown->selectionModel(), &QItemSelectionModel::currentChanged, shown.grid,
+                         act, Qt::SingleShotConnection);
+        QObject::connect(shown->model(), &QAbstractItemModel::rowsRemoved, shown.grid, act,
+                         Qt::SingleShotConnection);
+        QVERIFY(shown.grid->removeRows());
+        QVERIFY(!clears || shown->ListItems()->Count() == 0);
+        QVERIFY(!shown.texts(0).contains(u"Text 2"_s) && !shown.texts(0).contains(u"Text 4"_s));
+    }
+
+    void aHostDestroysTheListMeanwhile_data()
+    {
+        QTest::addColumn<QString>("deed");
+
+        for (const char *deed : {"add", "remove", "move", "sort", "filter"})
+            QTest::newRow(deed) << QString::fromLatin1(deed);
+    }
+    void aHostDestroysTheListMeanwhile()
+    {
+        QFETCH(const QString, deed);
+        for (const bool isCurrent : {false, true}) {
+            auto *list = new ReportList;
+            list->ColumnHeaders()->Add(1, u"A"_s, u"A"_s);
+            for (int row = 1; row <= 3; ++row)
+                list->ListItems()->Add(row, QString(), QString::number(row));
+            ListGrid *grid = list->grid();
+            grid->setEditsRows(true);
+            list->setCurrentIndex(list->model()->index(1, 0));
+            const QPointer<ReportList> alive(list);
+            const auto destroy = [&] { delete alive.data(); };
+            if (isCurrent)
+                QObject::connect(list->selectionModel(), &QItemSelectionModel::currentChanged, list,
+                                 destroy);
+            else
+                QObject::connect(list->model(), &QAbstractItemModel::layoutChanged, list, destroy);
+            if (deed == u"add"_s)
+                grid->addRow();
+            else if (deed == u"remove"_s)
+                grid->removeRows();
+            else if (deed == u"move"_s)
+                grid->moveRowsUp();
+            else if (deed == u"sort"_s)
+                grid->setSortKeys({{0, Qt::DescendingOrder}});
+            else
+                grid->setFilterText(ListGrid::anyColumn, u"3"_s);
+            delete alive.data();
+        }
+    }
+
+    void newRowsAreSelectedAsAWhole()
+    {
+        RowGrid shown;
+        shown.click(shown.cell(2));
+        shown.click(shown.cell(3), Qt::LeftButton, Qt::ShiftModifier);
+        QVERIFY(shown.grid->duplicateRows());
+        QVERIFY(shown->selectionModel()->isRowSelected(3) &&
+                shown->selectionModel()->isRowSelected(4));
+        QVERIFY(shown.item(4)->Selected() && shown.item(5)->Selected());
+        QVERIFY(!shown.item(2)->Selected());
+    }
+
+    void whatTheProgramHasSelectedCounts()
+    {
+        RowGrid shown(200);
+        for (int row = 1; row <= 150; ++row)
+            shown.item(row)->setSelected(true);
+        QVERIFY(shown.grid->removeRows());
+        QCOMPARE(shown->ListItems()->Count(), 50);
+    }
+
+    void rowsThatFollowOneAnotherGoInOneNotice()
+    {
+        RowGrid shown(200);
+        shown->selectAll();
+        shown.item(100)->setSelected(false);
+        QSignalSpy removed(shown->model(), &QAbstractItemModel::rowsRemoved);
+        QVERIFY(shown.grid->removeRows());
+        QCOMPARE(shown.texts(0), u"Text 100"_s);
+        QCOMPARE(removed.size(), 2);
+    }
+
+    void aHeldKeyRemovesOnce()
+    {
+        RowGrid shown;
+        shown.click(shown.cell(2));
+        shown.key(Qt::Key_Minus, Qt::ControlModifier);
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Minus, Qt::ControlModifier, QString(), true);
+        QCoreApplication::sendEvent(shown.list, &repeated);
+        QCOMPARE(shown->ListItems()->Count(), 4);
+    }
+
+    void aRefusalIsShownInAnEmptyTable()
+    {
+        RowGrid shown;
+        shown.refused = u"The controller has no more inputs."_s;
+        shown->Clear();
+        QVERIFY(!shown.grid->addRow());
+        QCOMPARE(shown.note(), shown.refused);
     }
 
     void undoLeavesRowsThatHaveGone()
