@@ -152,7 +152,7 @@ void CellEdit::closed()
 bool CellEdit::openFor(const ListItem *item, int column)
 {
     const QModelIndex cell = m_tools.table.placeOf(item, column);
-    if (!cell.isValid() || !m_tools.rules.isEdited(column))
+    if (!cell.isValid() || !m_tools.rules.isEdited(column) || m_tools.view.isColumnHidden(column))
         return false;
     const QPointer<CellEdit> self(this);
     makeCurrent(cell);
