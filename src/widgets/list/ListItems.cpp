@@ -1,5 +1,6 @@
 #include <ORVTListview/ListItems.h>
 
+#include "widgets/list/AddedRows.h"
 #include "widgets/list/ListKinds.h"
 #include "widgets/view/ViewCollections.h"
 #include <ORVTListview/ListItem.h>
@@ -26,7 +27,7 @@ ListItem *ListItems::Add(qint32 Index, const QString &Key, const QString &Text)
     content.text = Text;
     ReportModel::Rows rows;
     rows.push_back(std::make_unique<ReportRow>(std::move(content)));
-    return m_parts.addRows(position, std::move(rows)).constFirst();
+    return addRows(m_parts, position, std::move(rows)).constFirst();
 }
 
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #include "widgets/list/ReportCells.h"
 
+#include "widgets/list/AddedRows.h"
 #include "widgets/list/ReportHeader.h"
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ListItem.h>
@@ -133,7 +134,7 @@ QList<ListItem *> ReportCells::insertRows(int position, const QList<ListItem *> 
         if (source)
             rows.back()->states = source->states;
     }
-    return m_parts.addRows(position, std::move(rows));
+    return addRows(m_parts, position, std::move(rows));
 }
 
 void ReportCells::removeRows(int position, int count)

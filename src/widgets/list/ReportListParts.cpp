@@ -1,11 +1,8 @@
 #include "widgets/list/ReportListParts.h"
 
-#include <ORVTListview/ListItem.h>
-
 #include <QtCore/QPointer>
 #include <QtWidgets/QHeaderView>
 
-#include <memory>
 #include <utility>
 
 namespace ORVTListview {
@@ -76,15 +73,6 @@ void ReportListParts::setHidden(ReportRow &row, bool hidden)
         row.isHidden = hidden;
     else
         view.setRowHidden(place, hidden);
-}
-
-QList<ListItem *> ReportListParts::addRows(int position, ReportModel::Rows rows)
-{
-    QList<ListItem *> added;
-    for (const std::unique_ptr<ReportRow> &row : rows)
-        added.append(items.of(*row, *this));
-    model.addRows(position, std::move(rows));
-    return added;
 }
 
 void ReportListParts::removeRows(int position, int count)

@@ -27,10 +27,6 @@ struct ReportListParts
     }
     Q_DISABLE_COPY_MOVE(ReportListParts) // the parts know one another
 
-    // Their handles, which know when what is told of it takes rows away again. Afterwards
-    // all this may have ended.
-    QList<ListItem *> addRows(int position, ReportModel::Rows rows);
-
     // None of these scrolls the view to another current cell.
     void removeRow(int position) { removeRows(position, 1); }
     void removeRows(int position, int count); // several only of rows in their own order

@@ -8,6 +8,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QUndoStack>
 #include <QtTest/QAbstractItemModelTester>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QtTest>
 
 using namespace ORVTListview;

@@ -6,8 +6,11 @@
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ReportList.h>
 
+#include <QtCore/QPointer>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QUndoStack>
 #include <QtTest/QAbstractItemModelTester>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QtTest>
 
 using namespace ORVTListview;
