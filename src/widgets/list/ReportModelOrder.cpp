@@ -36,8 +36,8 @@ void ReportModel::moveRows(const QList<int> &positions, int step)
 {
     layOut([&] {
         const auto moveOne = [&](int position) {
-            std::swap(m_rows[static_cast<std::size_t>(position)],
-                      m_rows[static_cast<std::size_t>(position + step)]);
+            const auto row = m_rows.begin() + position;
+            std::iter_swap(row, row + step);
         };
         if (step < 0)
             std::for_each(positions.cbegin(), positions.cend(), moveOne);

@@ -60,7 +60,7 @@ private:
     bool choose(const QItemSelection &wanted, SelectionFlags command);
     QList<int> untouched() const;
     QItemSelection rowsFrom(int first, int last) const;
-    QItemSelection rangesOf(const QList<int> &places) const;
+    QItemSelection rangesOf(const QList<int> &chosen) const;
     QItemSelection ranges() const { return rangesOf(places()); }
     QItemSelection rangesOfCells() const;
 
