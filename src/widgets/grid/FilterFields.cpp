@@ -279,7 +279,8 @@ bool FilterFields::eventFilter(QObject *watched, QEvent *event)
             this, [this] { place(); }, Qt::QueuedConnection);
     if (type == QEvent::LanguageChange)
         refreshSoon();
-    const Field *field = fieldOf(watched);
+    const auto *line = qobject_cast<QLineEdit *>(watched); // none while it is destroyed
+    const Field *field = line ? fieldOf(line) : nullptr;
     if (field && type == QEvent::FocusIn)
         scrollTo(*field);
     if (field && type == QEvent::KeyPress &&
