@@ -2,6 +2,7 @@
 // standard model, each doing the same work: 32,767 rows of 14 columns. Times run until the
 // view is painted.
 
+#include "lists.h"
 #include "painting.h"
 #include "report.h"
 
@@ -18,8 +19,6 @@
 #include <QtGui/QUndoStack>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
-
-#include <malloc.h>
 
 #include <memory>
 #include <vector>
@@ -221,23 +220,6 @@ private:
     QSortFilterProxyModel m_proxy;
     QUndoStack m_undo;
 };
-
-double heap()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
-}
-
-template <typename List>
-double timedPainted(List &list, void (List::*work)())
-{
-    PaintWatch watch(*list.viewport());
-    return timed([&] {
-        (list.*work)();
-        if (!watch.finishPainting())
-            qFatal("the list was not painted");
-    });
-}
 
 struct Costs
 {

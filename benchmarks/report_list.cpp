@@ -1,6 +1,7 @@
 // A point table of ORVListView beside the toolkit's own two lists, each doing the same
 // work: 32,767 rows of 14 columns. Every time runs until the list is painted.
 
+#include "lists.h"
 #include "painting.h"
 #include "report.h"
 
@@ -14,8 +15,6 @@
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTableWidget>
 #include <QtWidgets/QTreeWidget>
-
-#include <malloc.h>
 
 #include <memory>
 
@@ -211,23 +210,6 @@ public:
     QString key(int row) const { return item(row, 0)->data(Qt::UserRole).toString(); }
     QString tag(int row) const { return item(row, updatedColumn)->data(Qt::UserRole).toString(); }
 };
-
-double heap()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
-}
-
-template <typename List>
-double timedPainted(List &list, void (List::*work)())
-{
-    PaintWatch watch(*list.viewport());
-    return timed([&] {
-        (list.*work)();
-        if (!watch.finishPainting())
-            qFatal("the list was not painted");
-    });
-}
 
 struct Costs
 {
