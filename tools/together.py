@@ -8,8 +8,9 @@ import sys
 
 LOCAL_NAMESPACE = re.compile(r"^namespace \{$(.*?)^\} // namespace$", re.MULTILINE | re.DOTALL)
 DECLARED = re.compile(
-    r"^(?:\[\[\w+\]\] )?(?:(?:class|struct|enum(?: class)?|using) (\w+)"
+    r"^(?:\[\[\w+\]\] )?(?:(?:class|struct|enum(?: class)?|using) (?!class |namespace )(\w+)"
     r"|[\w:][\w:<>,&* ]*[ &*](\w+)(?:\(|\{|\[| =|;))", re.MULTILINE)
+PROGRAM = re.compile(r"^int main\(", re.MULTILINE)
 WORD = re.compile(r"\w+")
 
 
@@ -20,7 +21,7 @@ def text_of(path):
 
 def local_names(text):
     """The names that a file declares for itself alone."""
-    names = set()
+    names = {"main"} if PROGRAM.search(text) else set()
     for block in LOCAL_NAMESPACE.findall(text):
         names.update(name for pair in DECLARED.findall(block) for name in pair if name)
     return names
