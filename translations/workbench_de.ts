@@ -316,6 +316,37 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::Exporting</name>
+    <message>
+        <source>%1: the name ends with none of the kinds that can be written</source>
+        <translation>%1: Der Name endet mit keiner der Arten, die geschrieben werden können</translation>
+    </message>
+    <message>
+        <source>Web page (*.html)</source>
+        <translation>Webseite (*.html)</translation>
+    </message>
+    <message>
+        <source>Table with commas (*.csv)</source>
+        <translation>Tabelle mit Kommas (*.csv)</translation>
+    </message>
+    <message>
+        <source>Table with tabs (*.tsv)</source>
+        <translation>Tabelle mit Tabulatoren (*.tsv)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>The printer does not take the program.</source>
+        <translation>Der Drucker nimmt das Programm nicht an.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -459,6 +490,14 @@
         <source>&amp;Hardware Overrides</source>
         <translation>&amp;Handübersteuerungen</translation>
     </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>E&amp;xportieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken…</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::OpeningProgress</name>
@@ -545,6 +584,13 @@ Speichern?</translation>
 Overwrite those changes?</source>
         <translation>Die Datei %1 wurde seit dem Öffnen anderswo geändert.
 Diese Änderungen überschreiben?</translation>
+    </message>
+</context>
+<context>
+    <name>PrintedPages</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
     </message>
 </context>
 <context>

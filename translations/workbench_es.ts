@@ -316,6 +316,37 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::Exporting</name>
+    <message>
+        <source>%1: the name ends with none of the kinds that can be written</source>
+        <translation>%1: el nombre no termina en ninguno de los tipos que se pueden escribir</translation>
+    </message>
+    <message>
+        <source>Web page (*.html)</source>
+        <translation>Página web (*.html)</translation>
+    </message>
+    <message>
+        <source>Table with commas (*.csv)</source>
+        <translation>Tabla con comas (*.csv)</translation>
+    </message>
+    <message>
+        <source>Table with tabs (*.tsv)</source>
+        <translation>Tabla con tabuladores (*.tsv)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>The printer does not take the program.</source>
+        <translation>La impresora no acepta el programa.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -459,6 +490,14 @@
         <source>&amp;Hardware Overrides</source>
         <translation>&amp;Mandos manuales</translation>
     </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportar…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Imprimir…</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::OpeningProgress</name>
@@ -545,6 +584,13 @@ Save them?</source>
 Overwrite those changes?</source>
         <translation>El archivo %1 ha sido modificado en otro lugar desde que se abrió.
 ¿Sobrescribir esos cambios?</translation>
+    </message>
+</context>
+<context>
+    <name>PrintedPages</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
     </message>
 </context>
 <context>

@@ -316,6 +316,37 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::Exporting</name>
+    <message>
+        <source>%1: the name ends with none of the kinds that can be written</source>
+        <translation>%1&#xa0;: le nom ne se termine par aucun des types qui peuvent être écrits</translation>
+    </message>
+    <message>
+        <source>Web page (*.html)</source>
+        <translation>Page web (*.html)</translation>
+    </message>
+    <message>
+        <source>Table with commas (*.csv)</source>
+        <translation>Tableau avec virgules (*.csv)</translation>
+    </message>
+    <message>
+        <source>Table with tabs (*.tsv)</source>
+        <translation>Tableau avec tabulations (*.tsv)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>The printer does not take the program.</source>
+        <translation>L&apos;imprimante n&apos;accepte pas le programme.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
@@ -459,6 +490,14 @@
         <source>&amp;Hardware Overrides</source>
         <translation>Forçages &amp;matériels</translation>
     </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>E&amp;xporter…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Imprimer…</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::OpeningProgress</name>
@@ -545,6 +584,13 @@ Les enregistrer&#xa0;?</translation>
 Overwrite those changes?</source>
         <translation>Le fichier %1 a été modifié ailleurs depuis son ouverture.
 Écraser ces modifications&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>PrintedPages</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "widgets/look/Luminance.h"
 
+#include <QtCore/QSet>
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
 
@@ -26,6 +27,16 @@ qint32 madeLight(qint32 colour, const QColor &ground)
     return light.blue() << 16 | light.green() << 8 | light.red();
 }
 
+// A shade that nobody tells from it, where the colour itself is taken.
+qint32 freeNear(qint32 colour, QSet<qint32> &taken)
+{
+    qint32 change = 0;
+    while (taken.contains(colour ^ change))
+        ++change;
+    taken.insert(colour ^ change);
+    return colour ^ change;
+}
+
 } // namespace
 
 RichTextSettings legibleOn(const QPalette &palette, RichTextSettings settings)
@@ -33,10 +44,12 @@ RichTextSettings legibleOn(const QPalette &palette, RichTextSettings settings)
     const QColor ground = palette.color(QPalette::Base);
     if (settings.BackColor >= 0 || ground.lightness() >= 128)
         return settings;
+    // One for each, so that what is copied and printed can be told back.
+    QSet<qint32> taken;
     for (qint32 *colour : {&settings.VariableColor, &settings.ConstantColor, &settings.InputColor,
                            &settings.OutputColor, &settings.ReservedWordColor,
                            &settings.CommentColor, &settings.nviFPAColor, &settings.nvoFPAColor})
-        *colour = madeLight(*colour, ground);
+        *colour = freeNear(madeLight(*colour, ground), taken);
     return settings;
 }
 

@@ -1,8 +1,8 @@
 #include "EditMenu.h"
 
-#include "ColouredCopy.h"
 #include "LinesMenu.h"
 #include "widgets/box/BoxCommands.h"
+#include "workbench/export/ColouredCopy.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>
@@ -17,10 +17,11 @@
 
 namespace ORVTListview {
 
-EditMenu::EditMenu(ORVListView &code, QWidget *parent)
+EditMenu::EditMenu(ORVListView &code, const PaperColours &paper, QWidget *parent)
     : QMenu(tr("&Edit"), parent)
     , m_code(code)
     , m_view(*code.codeView())
+    , m_paper(paper)
 {
     addHistory();
     addSeparator();
@@ -157,7 +158,7 @@ void EditMenu::copy()
 
 void EditMenu::copyColoured()
 {
-    copyWithColours(*m_code.RTextBox());
+    copyWithColours(*m_code.RTextBox(), m_paper);
 }
 
 void EditMenu::paste()

@@ -6,6 +6,7 @@ namespace ORVTListview {
 
 class CodeView;
 class ORVListView;
+class PaperColours;
 
 // What the editor offers a host's menu. Its commands can be chosen when they have
 // something to do; the keys beside them are the editor's own.
@@ -14,7 +15,8 @@ class EditMenu : public QMenu
     Q_OBJECT
 
 public:
-    EditMenu(ORVListView &code, QWidget *parent);
+    // The colours outlive the menu.
+    EditMenu(ORVListView &code, const PaperColours &paper, QWidget *parent);
 
     void refresh();
 
@@ -46,6 +48,7 @@ private:
 
     ORVListView &m_code;
     CodeView &m_view;
+    const PaperColours &m_paper;
     bool m_hasRestored = false; // something, since the last time there was nothing
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;

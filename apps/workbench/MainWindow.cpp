@@ -20,6 +20,7 @@
 #include "editor/rules/language/Vocabulary.h"
 #include "project/ProgramCheck.h"
 #include "project/Project.h"
+#include "workbench/export/Exporting.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
@@ -48,6 +49,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_view(new ProjectView(this))
     , m_code(&m_view->list())
     , m_saving(new ProgramSaving(*m_code, *this))
+    , m_export(new Exporting(*m_code, *this))
     , m_values(new PointValues(*m_code->codeView(), this))
     , m_results(new CheckResults(*m_code->GetImage(), this))
     , m_programInfo(new QLabel(this))
@@ -87,12 +89,18 @@ void MainWindow::buildFileMenu()
     file->addAction(tr("&Open Project…"), QKeySequence::Open, this, &MainWindow::chooseProject);
     file->addAction(tr("&Save Program"), QKeySequence::Save, m_saving, &ProgramSaving::save);
     file->addSeparator();
+    file->addAction(tr("&Export…"), m_export, &Exporting::exportShown);
+    QAction *print =
+        file->addAction(tr("&Print…"), QKeySequence::Print, m_export, &Exporting::print);
+    connect(file, &QMenu::aboutToShow, print,
+            [this, print] { print->setEnabled(m_code->CurrentType() == dsCode); });
+    file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 }
 
 void MainWindow::buildEditMenu()
 {
-    auto *edit = new EditMenu(*m_code, menuBar());
+    auto *edit = new EditMenu(*m_code, m_export->colours(), menuBar());
     menuBar()->addMenu(edit);
     connect(edit, &EditMenu::acted, this, &MainWindow::showPosition);
     connect(edit, &EditMenu::told, this,
@@ -221,6 +229,7 @@ void MainWindow::openProject(const QString &fileName)
     m_view->setProject(*m_project);
     m_points->refill();
     m_values->setProject(m_project.get());
+    m_export->setProject(m_project.get());
     setWindowTitle(m_project->name() + u"[*]"_s); // the application's name is added to it
     showProgram();
 }
@@ -245,7 +254,9 @@ void MainWindow::showProgram()
 
 void MainWindow::applyAppearance()
 {
-    m_code->Init_RichTextBox(legibleOn(palette(), m_project->editor()));
+    const RichTextSettings shown = legibleOn(palette(), m_project->editor());
+    m_code->Init_RichTextBox(shown);
+    m_export->setColours(PaperColours(m_project->editor(), shown));
 }
 
 ProgramReport MainWindow::checkShownProgram()

@@ -12,6 +12,7 @@ namespace ORVTListview {
 
 class CheckResults;
 class EditMenu;
+class Exporting;
 class Languages;
 class OpeningProgress;
 class ProgramSaving;
@@ -72,6 +73,7 @@ private:
     ProjectView *m_view;
     ORVListView *m_code; // the view owns it
     ProgramSaving *m_saving;
+    Exporting *m_export;
     PointValues *m_values;
     CheckResults *m_results;
     QLabel *m_programInfo;

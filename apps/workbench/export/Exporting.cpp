@@ -1,0 +1,150 @@
+#include "workbench/export/Exporting.h"
+
+#include "grid/rules/CellTexts.h"
+#include "project/Project.h"
+#include "project/ProjectError.h"
+#include "project/TextFile.h"
+#include "workbench/export/PaperText.h"
+#include "workbench/export/ProgramPrint.h"
+
+#include <ORVTListview/ColumnHeader.h>
+#include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtCore/QBuffer>
+#include <QtCore/QFileInfo>
+#include <QtGui/QPdfWriter>
+#include <QtGui/QTextDocument>
+#include <QtPrintSupport/QPrintDialog>
+#include <QtPrintSupport/QPrinter>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+
+#include <algorithm>
+
+namespace ORVTListview {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Empty for other kinds than the three.
+QByteArray programBytes(const PaperText &program, const QString &title, const QString &kind)
+{
+    if (kind == "rtf"_L1)
+        return program.rtf().toLatin1(); // 7-bit
+    if (kind == "html"_L1)
+        return program.html(title).toUtf8();
+    QBuffer pdf;
+    pdf.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&pdf);
+    writer.setTitle(title);
+    const bool isMetric = QLocale().measurementSystem() == QLocale::MetricSystem;
+    writer.setPageSize(QPageSize(isMetric ? QPageSize::A4 : QPageSize::Letter));
+    writer.setPageMargins(QMarginsF(20, 15, 15, 15), QPageLayout::Millimeter);
+    return kind == "pdf"_L1 && printProgram(program.document(), title, writer) ? pdf.data()
+                                                                               : QByteArray();
+}
+
+// The heads, then the first so many rows in the table's own order.
+CellBlock cellsOf(const ORVListView &list, qsizetype rows)
+{
+    CellBlock cells{{}};
+    const qint32 columns = list.ColumnHerders()->Count();
+    for (qint32 column = 1; column <= columns; ++column)
+        cells.first().append(list.ColumnHerders()->Item(column)->Text());
+    const qsizetype count = std::min<qsizetype>(rows, list.ListItems()->Count());
+    for (qint32 row = 1; row <= count; ++row) {
+        const ListItem &item = *list.ListItems()->Item(row);
+        QStringList texts{item.Text()};
+        for (qint32 column = 1; column < columns; ++column)
+            texts.append(item.SubItem(column));
+        cells.append(texts);
+    }
+    return cells;
+}
+
+} // namespace
+
+Exporting::Exporting(ORVListView &list, QWidget &window)
+    : QObject(&window)
+    , m_list(list)
+    , m_window(window)
+{
+}
+
+QString Exporting::title() const
+{
+    return m_project ? QFileInfo(m_project->programFile()).completeBaseName() : QString();
+}
+
+QByteArray Exporting::programAs(const QString &kind) const
+{
+    const PaperText program(*m_list.RTextBox(), m_colours, PaperText::All);
+    return programBytes(program, title(), kind);
+}
+
+// Spreadsheets take UTF-8 for it only when it begins with the mark.
+QByteArray Exporting::tableAs(const QString &kind) const
+{
+    const qsizetype points = m_project ? m_project->rows(m_list.CurrentType()).size() : 0;
+    const CellBlock cells = cellsOf(m_list, points);
+    if (kind == "csv"_L1)
+        return byteOrderMark.toByteArray() + commaText(cells).toUtf8();
+    return kind == "tsv"_L1 ? byteOrderMark.toByteArray() + tabbedText(cells).toUtf8()
+                            : QByteArray();
+}
+
+void Exporting::exportTo(const QString &fileName)
+{
+    const QString kind = QFileInfo(fileName).suffix().toLower();
+    const QByteArray bytes = m_list.CurrentType() == dsCode ? programAs(kind) : tableAs(kind);
+    if (bytes.isEmpty())
+        throw Error(
+            FileNotWritable, u"Exporting"_s,
+            tr("%1: the name ends with none of the kinds that can be written").arg(fileName));
+    writeFile(fileName, bytes);
+}
+
+void Exporting::exportShown()
+{
+    const bool isCode = m_list.CurrentType() == dsCode;
+    const QStringList kinds =
+        isCode ? QStringList{u"RTF (*.rtf)"_s, tr("Web page (*.html)"), u"PDF (*.pdf)"_s}
+               : QStringList{tr("Table with commas (*.csv)"), tr("Table with tabs (*.tsv)")};
+    QFileDialog dialog(&m_window, tr("Export"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(kinds);
+    const auto takeKind = [&dialog](const QString &filter) {
+        dialog.setDefaultSuffix(filter.section(u"(*."_s, 1).chopped(1));
+    };
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, takeKind);
+    takeKind(kinds.first());
+    if (m_project)
+        dialog.setDirectory(QFileInfo(m_project->fileName()).path());
+    dialog.selectFile(isCode ? title() : m_list.Caption());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    try {
+        exportTo(dialog.selectedFiles().constFirst());
+    } catch (const Error &error) {
+        QMessageBox::warning(&m_window, tr("Export"), error.Description());
+    }
+}
+
+void Exporting::print()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(title());
+    printer.setPageMargins(QMarginsF(20, 15, 15, 15), QPageLayout::Millimeter);
+    QPrintDialog dialog(&printer, &m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const PaperText program(*m_list.RTextBox(), m_colours, PaperText::All);
+    if (!printProgram(program.document(), title(), printer))
+        QMessageBox::warning(&m_window, tr("Print"), tr("The printer does not take the program."));
+}
+
+} // namespace ORVTListview

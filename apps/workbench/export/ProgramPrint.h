@@ -1,0 +1,13 @@
+#pragma once
+
+class QPagedPaintDevice;
+class QString;
+class QTextDocument;
+
+namespace ORVTListview {
+
+// Prints a program in its colours, with the numbers of its lines, the title above and the
+// page's number below each page. False when nothing can be drawn on the device.
+bool printProgram(const QTextDocument &program, const QString &title, QPagedPaintDevice &device);
+
+} // namespace ORVTListview
