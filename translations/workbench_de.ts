@@ -142,6 +142,13 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ColourPreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -498,6 +505,10 @@
         <source>&amp;Print…</source>
         <translation>&amp;Drucken…</translation>
     </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>Ei&amp;nstellungen…</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::OpeningProgress</name>
@@ -584,6 +595,109 @@ Speichern?</translation>
 Overwrite those changes?</source>
         <translation>Die Datei %1 wurde seit dem Öffnen anderswo geändert.
 Diese Änderungen überschreiben?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::SettingsDialog</name>
+    <message>
+        <source>Own &amp;font:</source>
+        <translation>Eigene Schrift&amp;art:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>The system&apos;s</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Erscheinungsbild:</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>The project&apos;s</source>
+        <translation>Wie im Projekt</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>&amp;Colours:</source>
+        <translation>&amp;Farben:</translation>
+    </message>
+    <message>
+        <source>Font &amp;size:</source>
+        <translation>Schrift&amp;größe:</translation>
+    </message>
+    <message>
+        <source>Reserved words</source>
+        <translation>Reservierte Wörter</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Konstanten</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Eingänge</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Ausgänge</translation>
+    </message>
+    <message>
+        <source>Network inputs</source>
+        <translation>Netzwerkeingänge</translation>
+    </message>
+    <message>
+        <source>Network outputs</source>
+        <translation>Netzwerkausgänge</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Kommentare</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Hard to read on this ground: %1. The editor shows them stronger while Readable Colours is on.</source>
+        <translation>Auf diesem Hintergrund schlecht zu lesen: %1. Der Editor zeigt sie kräftiger, solange Lesbare Farben eingeschaltet ist.</translation>
     </message>
 </context>
 <context>

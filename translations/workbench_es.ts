@@ -142,6 +142,13 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ColourPreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -498,6 +505,10 @@
         <source>&amp;Print…</source>
         <translation>&amp;Imprimir…</translation>
     </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>A&amp;justes…</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::OpeningProgress</name>
@@ -584,6 +595,109 @@ Save them?</source>
 Overwrite those changes?</source>
         <translation>El archivo %1 ha sido modificado en otro lugar desde que se abrió.
 ¿Sobrescribir esos cambios?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::SettingsDialog</name>
+    <message>
+        <source>Own &amp;font:</source>
+        <translation>&amp;Fuente propia:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Ventana</translation>
+    </message>
+    <message>
+        <source>The system&apos;s</source>
+        <translation>La del sistema</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Como el sistema</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Idioma:</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Tema:</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>The project&apos;s</source>
+        <translation>Como en el proyecto</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Contraste alto</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Propios</translation>
+    </message>
+    <message>
+        <source>&amp;Colours:</source>
+        <translation>&amp;Colores:</translation>
+    </message>
+    <message>
+        <source>Font &amp;size:</source>
+        <translation>Tama&amp;ño de fuente:</translation>
+    </message>
+    <message>
+        <source>Reserved words</source>
+        <translation>Palabras reservadas</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Constantes</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Entradas</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Salidas</translation>
+    </message>
+    <message>
+        <source>Network inputs</source>
+        <translation>Entradas de red</translation>
+    </message>
+    <message>
+        <source>Network outputs</source>
+        <translation>Salidas de red</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Comentarios</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Hard to read on this ground: %1. The editor shows them stronger while Readable Colours is on.</source>
+        <translation>Difícil de leer sobre este fondo: %1. El editor los muestra más intensos mientras Colores legibles esté activado.</translation>
     </message>
 </context>
 <context>

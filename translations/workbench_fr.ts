@@ -142,6 +142,13 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ColourPreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -498,6 +505,10 @@
         <source>&amp;Print…</source>
         <translation>&amp;Imprimer…</translation>
     </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>Pa&amp;ramètres…</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::OpeningProgress</name>
@@ -584,6 +595,109 @@ Les enregistrer&#xa0;?</translation>
 Overwrite those changes?</source>
         <translation>Le fichier %1 a été modifié ailleurs depuis son ouverture.
 Écraser ces modifications&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::SettingsDialog</name>
+    <message>
+        <source>Own &amp;font:</source>
+        <translation>P&amp;olice propre :</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>The system&apos;s</source>
+        <translation>Celle du système</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Comme le système</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Langue :</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Thème :</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>The project&apos;s</source>
+        <translation>Comme dans le projet</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Propres</translation>
+    </message>
+    <message>
+        <source>&amp;Colours:</source>
+        <translation>&amp;Couleurs :</translation>
+    </message>
+    <message>
+        <source>Font &amp;size:</source>
+        <translation>T&amp;aille de police :</translation>
+    </message>
+    <message>
+        <source>Reserved words</source>
+        <translation>Mots réservés</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Constantes</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Entrées</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Sorties</translation>
+    </message>
+    <message>
+        <source>Network inputs</source>
+        <translation>Entrées réseau</translation>
+    </message>
+    <message>
+        <source>Network outputs</source>
+        <translation>Sorties réseau</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Commentaires</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>Fond</translation>
+    </message>
+    <message>
+        <source>Hard to read on this ground: %1. The editor shows them stronger while Readable Colours is on.</source>
+        <translation>Difficile à lire sur ce fond : %1. L&apos;éditeur les renforce tant que Couleurs lisibles est activé.</translation>
     </message>
 </context>
 <context>

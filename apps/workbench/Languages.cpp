@@ -33,6 +33,17 @@ Languages::Languages(const QLocale &locale, QObject *parent)
     setLanguage(locale);
 }
 
+QString Languages::nameOf(const QLocale &language)
+{
+    if (language.language() == QLocale::English)
+        return u"English"_s; // and not "American English"
+    QString name = language.nativeLanguageName();
+    if (name.contains(language.nativeTerritoryName()))
+        name = name.section(u' ', 0, 0); // "español de España"; there is one of each
+    name[0] = name[0].toUpper();
+    return name;
+}
+
 Languages::~Languages()
 {
     setTextProvider(nullptr);

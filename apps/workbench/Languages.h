@@ -22,6 +22,9 @@ public:
     // English and those with a translation.
     static QList<QLocale> available() { return TranslatedTexts::availableLanguages(); }
 
+    // As its speakers write it.
+    static QString nameOf(const QLocale &language);
+
     // What is shown.
     QLocale language() const { return m_language; }
     void setLanguage(const QLocale &language);

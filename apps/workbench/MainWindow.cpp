@@ -16,11 +16,13 @@
 #include "ProgramText.h"
 #include "ProjectView.h"
 #include "base/ThreadState.h"
+#include "editor/rules/colouring/ColourTable.h"
 #include "editor/rules/colouring/ThreadColouring.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "project/ProgramCheck.h"
 #include "project/Project.h"
 #include "workbench/export/Exporting.h"
+#include "workbench/settings/SettingsDialog.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
@@ -37,6 +39,7 @@
 #include <QtWidgets/QStatusBar>
 
 #include <limits>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -149,6 +152,9 @@ void MainWindow::buildViewMenu()
     view->addMenu(editor);
     connect(editor, &QMenu::triggered, this, &MainWindow::showPosition);
     view->addMenu(new LanguageMenu(m_languages, view));
+    view->addSeparator();
+    view->addAction(tr("&Settings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
+                    &MainWindow::chooseSettings);
 }
 
 void MainWindow::buildStatusBar()
@@ -252,9 +258,29 @@ void MainWindow::showProgram()
     showProgramInfo();
 }
 
+void MainWindow::chooseSettings()
+{
+    const RichTextSettings project = m_project ? m_project->editor() : defaultColours();
+    SettingsDialog dialog(m_settings, project, this);
+    if (dialog.exec() != QDialog::Accepted || dialog.settings() == m_settings)
+        return;
+    setSettings(dialog.settings());
+    Q_EMIT settingsChosen();
+}
+
+void MainWindow::setSettings(const Settings &settings)
+{
+    const Settings former = std::exchange(m_settings, settings);
+    if (settings.language != former.language)
+        m_languages.setLanguage(settings.language.value_or(QLocale::system()));
+    useTheme(settings.theme);
+    if (settings.look != former.look && m_project)
+        renewAppearance();
+}
+
 void MainWindow::applyAppearance()
 {
-    const RichTextSettings shown = legibleOn(palette(), m_project->editor());
+    const RichTextSettings shown = legibleOn(palette(), m_settings.look.over(m_project->editor()));
     m_code->Init_RichTextBox(shown);
     m_export->setColours(PaperColours(m_project->editor(), shown));
 }
@@ -313,7 +339,7 @@ void MainWindow::showProgramInfo()
 }
 
 // The appearance is applied anew, which takes the caret to the start.
-void MainWindow::followPalette()
+void MainWindow::renewAppearance()
 {
     RichTextBox *box = m_code->RTextBox();
     const qint32 start = box->SelStart();
@@ -341,7 +367,7 @@ void MainWindow::retranslate()
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::PaletteChange && m_project)
-        followPalette();
+        renewAppearance();
     QMainWindow::changeEvent(event);
 }
 

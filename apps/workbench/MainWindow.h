@@ -1,5 +1,7 @@
 #pragma once
 
+#include "workbench/settings/Settings.h"
+
 #include <ORVTListview/ORVListView.h>
 
 #include <QtWidgets/QMainWindow>
@@ -36,8 +38,17 @@ public:
     // keeps what is shown when the file cannot be read.
     void openProject(const QString &fileName);
 
+    // What the user has decided for all projects; at first the theme and the language that
+    // are in use.
+    const Settings &settings() const { return m_settings; }
+    void setSettings(const Settings &settings);
+
     // Shows the program, or the table of a type.
     void showType(LwType type);
+
+Q_SIGNALS:
+    // The user has decided anew.
+    void settingsChosen();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -57,8 +68,9 @@ private:
     void followName(LwType type, const QString &former, const QString &name);
     void chooseProject();
     void showProgram();
+    void chooseSettings();
     void applyAppearance();
-    void followPalette();
+    void renewAppearance();
     ProgramReport checkShownProgram();
     void analyse();
     void compile();
@@ -68,6 +80,7 @@ private:
     void retranslate();
 
     Languages &m_languages;
+    Settings m_settings;
     std::unique_ptr<Project> m_project;
     PointChooser *m_points; // made in the order of the Tab key
     ProjectView *m_view;

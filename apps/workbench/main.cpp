@@ -1,15 +1,18 @@
 #include "CommandLine.h"
-#include "DarkColours.h"
 #include "Languages.h"
 #include "MainWindow.h"
 
 #include "project/TextFile.h"
+#include "workbench/settings/KeptWindow.h"
 
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
 
 #include <QtCore/QBuffer>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QSettings>
+#include <QtCore/QStandardPaths>
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
@@ -39,12 +42,32 @@ int writeScreenshot(QWidget &window, const QString &file)
     return 0;
 }
 
-void prepareLook(const Options &options)
+QString storeFile()
 {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           u"/orvtlistview/workbench.ini"_s;
+}
+
+// What the options say goes before what the user has decided once.
+Settings settingsFor(const Options &options, const QSettings &store)
+{
+    Settings settings;
+    settings.read(store);
     if (options.isDark)
-        useDarkColours();
-    if (!options.screenshot.isEmpty())
-        QApplication::setCursorFlashTime(0); // one picture is like the other
+        settings.theme = Theme::Dark;
+    if (!options.language.isEmpty())
+        settings.language = QLocale(options.language);
+    return settings;
+}
+
+// What the user leaves is there again the next time.
+void keep(MainWindow &window, QSettings &store)
+{
+    CodeView &view = *window.findChild<ORVListView *>()->codeView();
+    readWindow(store, window, view);
+    QObject::connect(&window, &MainWindow::settingsChosen, [&] { window.settings().write(store); });
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window,
+                     [&] { writeWindow(store, window, view); });
 }
 
 // Nobody is there to close a message box while a picture is made.
@@ -73,16 +96,25 @@ int main(int argc, char **argv)
     const std::optional<Options> options = readOptions(application);
     if (!options)
         return 1;
-    if (!options->language.isEmpty())
-        languages.setLanguage(QLocale(options->language));
+    // One picture is like the other, whoever's settings these are.
+    const bool isPicture = !options->screenshot.isEmpty();
+    QSettings store(isPicture ? QString() : storeFile(), QSettings::IniFormat);
+    const Settings settings = settingsFor(*options, store);
+    useTheme(settings.theme);
+    if (settings.language)
+        languages.setLanguage(*settings.language);
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
-    prepareLook(*options);
 
     MainWindow window(languages);
+    window.setSettings(settings);
+    if (isPicture)
+        QApplication::setCursorFlashTime(0);
+    else
+        keep(window, store);
     window.show();
     if (!open(window, *options))
         return 1;
-    if (!options->screenshot.isEmpty()) {
+    if (isPicture) {
         QTimer::singleShot(0, &window, [&] {
             QCoreApplication::exit(writeScreenshot(window, options->screenshot));
         });

@@ -6,7 +6,7 @@
 #include "base/ThreadState.h"
 #include "pictures/Comparison.h"
 #include "pictures/Scenes.h"
-#include "workbench/DarkColours.h"
+#include "workbench/settings/Theme.h"
 #include <ORVTListview/TranslatedTexts.h>
 
 #include <QtCore/QDir>
@@ -24,7 +24,7 @@ const QStringList themes{u"light"_s, u"dark"_s};
 int drawSheets(const QDir &folder, const QString &theme, const QString &scale)
 {
     if (theme == u"dark")
-        useDarkColours();
+        useTheme(Theme::Dark);
     else
         QApplication::setStyle(u"Fusion"_s);
     for (const QLocale &language : TranslatedTexts::availableLanguages()) {

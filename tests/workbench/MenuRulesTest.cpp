@@ -53,7 +53,7 @@ private Q_SLOTS:
                  "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
                  "Program: Analyse, Compile, Results\n"
                  "Points: Read Values, Rename, Fit Columns, Edit Cells, Hardware Overrides\n"
-                 "View: Editor, Language"_s);
+                 "View: Editor, Language, Settings…"_s);
     }
 
     void accessKeysDoNotClash_data()
@@ -116,7 +116,7 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(promising, QStringList({u"Open Project…"_s, u"Export…"_s, u"Print…"_s, u"Find…"_s,
-                                         u"Replace…"_s}));
+                                         u"Replace…"_s, u"Settings…"_s}));
     }
 
     void keysDoNotClash()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HouseExport.h"
 #include <ORVTListview/Colour.h>
 
 #include <QtGui/QColor>
@@ -15,14 +16,14 @@ constexpr Colour windowText = static_cast<qint32>(0x80000008U);
 
 // System colours are looked up in the palette; an unknown number is the palette's
 // text colour. Bits 24 to 30 of other values are ignored.
-QColor toColor(Colour colour, const QPalette &palette);
+ORVT_HOUSE_EXPORT QColor toColor(Colour colour, const QPalette &palette);
 
 // Never negative. Transparency is dropped.
-Colour fromColor(const QColor &colour);
+ORVT_HOUSE_EXPORT Colour fromColor(const QColor &colour);
 
 // What the palette pairs with a background: the text colour that belongs to a
 // system colour, else black or white, whichever stands out more.
-QColor textOn(Colour background, const QPalette &palette);
+ORVT_HOUSE_EXPORT QColor textOn(Colour background, const QPalette &palette);
 
 } // namespace Colours
 } // namespace ORVTListview

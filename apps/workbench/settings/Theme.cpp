@@ -1,8 +1,11 @@
-#include "DarkColours.h"
+#include "workbench/settings/Theme.h"
 
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QStyle>
+
+#include <utility>
 
 namespace ORVTListview {
 namespace {
@@ -12,6 +15,8 @@ constexpr QRgb darkWindow = 0x2b2d30;
 constexpr QRgb darkRaised = 0x393b40; // what stands over the window
 constexpr QRgb lightText = 0xdfe1e5;
 constexpr QRgb dimmedText = 0x80838a;
+constexpr QRgb lightWindow = 0xefefef;
+constexpr QRgb greyText = 0x767676;
 
 QPalette darkPalette()
 {
@@ -34,16 +39,55 @@ QPalette darkPalette()
     return palette;
 }
 
-} // namespace
-
-void useDarkColours()
+QPalette lightPalette()
 {
-    QApplication::setStyle(QStringLiteral("Fusion")); // which draws with the palette
+    const QColor window(lightWindow);
+    QPalette palette(Qt::black, window, Qt::white, window.darker(160), window.darker(130),
+                     Qt::black, Qt::white, Qt::white, window);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::PlaceholderText, QColor(greyText));
+    palette.setColor(QPalette::Highlight, QColor(0x308cc6));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
+        palette.setColor(QPalette::Disabled, role, QColor(greyText));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, window.darker(120));
+    return palette;
+}
+
+void useSystem(const QString &style)
+{
+    QApplication::setStyle(style);
+    QApplication::setPalette(QPalette(), "QMenu");
+    QApplication::setPalette(QPalette()); // one that says nothing leaves it to the desktop
+}
+
+void useDark()
+{
     QPalette palette = darkPalette();
     QApplication::setPalette(palette);
     palette.setColor(QPalette::Base, QColor(darkRaised));
     palette.setColor(QPalette::Disabled, QPalette::Light, QColor(darkRaised)); // no etching
     QApplication::setPalette(palette, "QMenu");
+}
+
+} // namespace
+
+void useTheme(Theme theme)
+{
+    static const QString style = QApplication::style()->name();
+    static Theme shown = Theme::System;
+    if (theme == shown)
+        return;
+    if (std::exchange(shown, theme) != Theme::System)
+        useSystem(style);
+    if (theme == Theme::System)
+        return;
+    QApplication::setStyle(QStringLiteral("Fusion")); // which draws with the palette
+    if (theme == Theme::Dark)
+        useDark();
+    else
+        QApplication::setPalette(lightPalette());
 }
 
 } // namespace ORVTListview

@@ -1,0 +1,57 @@
+#include "workbench/settings/KeptWindow.h"
+
+#include <ORVTListview/CodeView.h>
+
+#include <QtCore/QMetaProperty>
+#include <QtCore/QSettings>
+#include <QtWidgets/QMainWindow>
+#include <QtWidgets/QSplitter>
+
+namespace ORVTListview {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr auto geometry = "window/geometry"_L1;
+constexpr auto arrangement = "window/arrangement"_L1;
+constexpr auto division = "window/division"_L1;
+
+// The switches of the View menu are these properties; what is added there is kept, too.
+template <typename Act>
+void forEachSwitch(const Act &act)
+{
+    const QMetaObject &meta = CodeView::staticMetaObject;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+        const QMetaProperty property = meta.property(i);
+        if (property.isWritable())
+            act(property, "editor/"_L1 + QLatin1StringView(property.name()));
+    }
+}
+
+} // namespace
+
+void readWindow(const QSettings &store, QMainWindow &window, CodeView &view)
+{
+    window.restoreGeometry(store.value(geometry).toByteArray());
+    window.restoreState(store.value(arrangement).toByteArray());
+    if (auto *splitter = qobject_cast<QSplitter *>(window.centralWidget()))
+        splitter->restoreState(store.value(division).toByteArray());
+    forEachSwitch([&](const QMetaProperty &property, const QString &key) {
+        const QVariant value = store.value(key);
+        if (value.isValid())
+            property.write(&view, value);
+    });
+}
+
+void writeWindow(QSettings &store, const QMainWindow &window, const CodeView &view)
+{
+    store.setValue(geometry, window.saveGeometry());
+    store.setValue(arrangement, window.saveState());
+    if (const auto *splitter = qobject_cast<QSplitter *>(window.centralWidget()))
+        store.setValue(division, splitter->saveState());
+    forEachSwitch([&](const QMetaProperty &property, const QString &key) {
+        store.setValue(key, property.read(&view));
+    });
+}
+
+} // namespace ORVTListview
