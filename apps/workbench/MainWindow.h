@@ -2,9 +2,11 @@
 
 #include <ORVTListview/ORVListView.h>
 
+#include <QtCore/QList>
 #include <QtWidgets/QMainWindow>
 
 #include <memory>
+#include <optional>
 
 class QLabel;
 
@@ -13,13 +15,15 @@ namespace ORVTListview {
 class CheckResults;
 class EditMenu;
 class Languages;
+class LiveAnalysis;
 class OpeningProgress;
+class ProgramNavigation;
 class ProgramSaving;
 class PointChooser;
 class PointValues;
 class Project;
 class ProjectView;
-struct ProgramReport;
+struct ListedStatement;
 
 // A small host: shows a project in the library's components.
 class MainWindow : public QMainWindow
@@ -58,10 +62,12 @@ private:
     void showProgram();
     void applyAppearance();
     void followPalette();
-    ProgramReport checkShownProgram();
+    void connectAnalysis();
+    void takePoints();
     void analyse();
     void compile();
-    void goTo(const QString &word, qint32 line);
+    std::optional<QList<ListedStatement>> compiled();
+    void exportListing();
     void showPosition();
     void showProgramInfo();
     void retranslate();
@@ -74,6 +80,8 @@ private:
     ProgramSaving *m_saving;
     PointValues *m_values;
     CheckResults *m_results;
+    LiveAnalysis *m_analysis;
+    ProgramNavigation *m_navigation;
     QLabel *m_programInfo;
     OpeningProgress *m_opening;
     QLabel *m_position;
