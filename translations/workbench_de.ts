@@ -28,48 +28,100 @@
         <translation>Zeile %1: %2</translation>
     </message>
     <message>
-        <source>Variable</source>
-        <translation>Variable</translation>
+        <source>%1 needs %2 values or more and has %3</source>
+        <translation>%1 braucht %2 oder mehr Werte und hat %3</translation>
     </message>
     <message>
-        <source>Constant</source>
-        <translation>Konstante</translation>
+        <source>Values that %1 needs: %2, values that it has: %3</source>
+        <translation>Werte, die %1 braucht: %2, Werte, die es hat: %3</translation>
     </message>
     <message>
-        <source>Input</source>
-        <translation>Eingang</translation>
+        <source>Blanks are missing in %1</source>
+        <translation>In %1 fehlen Leerzeichen</translation>
     </message>
     <message>
-        <source>Output</source>
-        <translation>Ausgang</translation>
+        <source>%1 begins no statement</source>
+        <translation>Mit %1 beginnt keine Anweisung</translation>
     </message>
     <message>
-        <source>Network variable input</source>
-        <translation>Netzwerkvariable (Eingang)</translation>
+        <source>%1 cannot stand here</source>
+        <translation>%1 kann hier nicht stehen</translation>
     </message>
     <message>
-        <source>Reserved word</source>
-        <translation>Reserviertes Wort</translation>
+        <source>A value is missing behind %1</source>
+        <translation>Hinter %1 fehlt ein Wert</translation>
     </message>
     <message>
-        <source>Time word</source>
-        <translation>Zeitangabe</translation>
+        <source>An operator is missing before %1</source>
+        <translation>Vor %1 fehlt ein Operator</translation>
     </message>
     <message>
-        <source>Function</source>
-        <translation>Funktion</translation>
+        <source>%1 needs its values in brackets</source>
+        <translation>%1 braucht seine Werte in Klammern</translation>
     </message>
     <message>
-        <source>Fan-in word</source>
-        <translation>Fan-in-Wort</translation>
+        <source>%1 is no network variable input</source>
+        <translation>%1 ist kein Netzwerkvariablen-Eingang</translation>
     </message>
     <message>
-        <source>Indexed name</source>
-        <translation>Nummerierter Name</translation>
+        <source>%1 is an input, which no program can set</source>
+        <translation>%1 ist ein Eingang, den kein Programm setzen kann</translation>
     </message>
     <message>
-        <source>Number</source>
-        <translation>Zahl</translation>
+        <source>%1 is a constant, which no program can set</source>
+        <translation>%1 ist eine Konstante, die kein Programm setzen kann</translation>
+    </message>
+    <message>
+        <source>%1 cannot be set</source>
+        <translation>%1 kann nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>%1 is read, but never set</source>
+        <translation>%1 wird gelesen, aber nie gesetzt</translation>
+    </message>
+    <message>
+        <source>%1 is set, but never read</source>
+        <translation>%1 wird gesetzt, aber nie gelesen</translation>
+    </message>
+    <message>
+        <source>Nothing closes this bracket</source>
+        <translation>Diese Klammer wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>This bracket closes nothing</source>
+        <translation>Diese Klammer schließt nichts</translation>
+    </message>
+    <message>
+        <source>There are too many brackets in brackets</source>
+        <translation>Zu viele Klammern in Klammern</translation>
+    </message>
+    <message>
+        <source>= sets a value, == compares</source>
+        <translation>= setzt einen Wert, == vergleicht</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>Zuweisung</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>Otherwise</source>
+        <translation>Sonst-Zweig</translation>
+    </message>
+    <message>
+        <source>End of a condition</source>
+        <translation>Ende einer Bedingung</translation>
+    </message>
+    <message>
+        <source>End of the program</source>
+        <translation>Programmende</translation>
+    </message>
+    <message>
+        <source>Deletion of network values</source>
+        <translation>Löschen von Netzwerkwerten</translation>
     </message>
 </context>
 <context>
@@ -126,12 +178,28 @@
         <translation>Zeile</translation>
     </message>
     <message>
-        <source>Word</source>
-        <translation>Wort</translation>
+        <source>Problems that are not listed: %1</source>
+        <translation>Probleme, die nicht aufgeführt sind: %1</translation>
     </message>
     <message>
-        <source>Class</source>
-        <translation>Klasse</translation>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Anweisung</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Verwendung</translation>
     </message>
 </context>
 <context>
@@ -506,8 +574,12 @@
         <translation>&amp;Drucken…</translation>
     </message>
     <message>
+        <source>&amp;Export Statements…</source>
+        <translation>Anweisungen e&amp;xportieren…</translation>
+    </message>
+    <message>
         <source>&amp;Settings…</source>
-        <translation>Ei&amp;nstellungen…</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -572,6 +644,29 @@
     <message>
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramNavigation</name>
+    <message>
+        <source>&amp;Go To Point</source>
+        <translation>&amp;Gehe zum Punkt</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Z&amp;urück</translation>
+    </message>
+    <message>
+        <source>All &amp;Uses</source>
+        <translation>&amp;Alle Verwendungen</translation>
+    </message>
+    <message>
+        <source>%1 is no point of the project.</source>
+        <translation>%1 ist kein Punkt des Projekts.</translation>
+    </message>
+    <message>
+        <source>There is no place to go back to.</source>
+        <translation>Es gibt keine Stelle, zu der es zurückginge.</translation>
     </message>
 </context>
 <context>
@@ -824,6 +919,29 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>&quot;%1&quot; is a word of the language</source>
         <translation>„%1“ ist ein Wort der Sprache</translation>
+    </message>
+</context>
+<context>
+    <name>StatementExport</name>
+    <message>
+        <source>Export Statements</source>
+        <translation>Anweisungen exportieren</translation>
+    </message>
+    <message>
+        <source>Text (*.txt);;Values separated by commas (*.csv)</source>
+        <translation>Text (*.txt);;Durch Kommas getrennte Werte (*.csv)</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Anweisung</translation>
     </message>
 </context>
 <context>

@@ -28,48 +28,100 @@
         <translation>Línea %1: %2</translation>
     </message>
     <message>
-        <source>Variable</source>
-        <translation>Variable</translation>
+        <source>%1 needs %2 values or more and has %3</source>
+        <translation>%1 necesita %2 valores o más y tiene %3</translation>
     </message>
     <message>
-        <source>Constant</source>
-        <translation>Constante</translation>
+        <source>Values that %1 needs: %2, values that it has: %3</source>
+        <translation>Valores que %1 necesita: %2, valores que tiene: %3</translation>
     </message>
     <message>
-        <source>Input</source>
-        <translation>Entrada</translation>
+        <source>Blanks are missing in %1</source>
+        <translation>Faltan espacios en %1</translation>
     </message>
     <message>
-        <source>Output</source>
-        <translation>Salida</translation>
+        <source>%1 begins no statement</source>
+        <translation>Ninguna instrucción empieza con %1</translation>
     </message>
     <message>
-        <source>Network variable input</source>
-        <translation>Entrada de variable de red</translation>
+        <source>%1 cannot stand here</source>
+        <translation>%1 no puede estar aquí</translation>
     </message>
     <message>
-        <source>Reserved word</source>
-        <translation>Palabra reservada</translation>
+        <source>A value is missing behind %1</source>
+        <translation>Falta un valor detrás de %1</translation>
     </message>
     <message>
-        <source>Time word</source>
-        <translation>Palabra de reloj</translation>
+        <source>An operator is missing before %1</source>
+        <translation>Falta un operador delante de %1</translation>
     </message>
     <message>
-        <source>Function</source>
-        <translation>Función</translation>
+        <source>%1 needs its values in brackets</source>
+        <translation>%1 necesita sus valores entre paréntesis</translation>
     </message>
     <message>
-        <source>Fan-in word</source>
-        <translation>Palabra fan-in</translation>
+        <source>%1 is no network variable input</source>
+        <translation>%1 no es una entrada de variable de red</translation>
     </message>
     <message>
-        <source>Indexed name</source>
-        <translation>Nombre numerado</translation>
+        <source>%1 is an input, which no program can set</source>
+        <translation>%1 es una entrada, que ningún programa puede escribir</translation>
     </message>
     <message>
-        <source>Number</source>
-        <translation>Número</translation>
+        <source>%1 is a constant, which no program can set</source>
+        <translation>%1 es una constante, que ningún programa puede escribir</translation>
+    </message>
+    <message>
+        <source>%1 cannot be set</source>
+        <translation>%1 no se puede escribir</translation>
+    </message>
+    <message>
+        <source>%1 is read, but never set</source>
+        <translation>%1 se lee, pero nunca se escribe</translation>
+    </message>
+    <message>
+        <source>%1 is set, but never read</source>
+        <translation>%1 se escribe, pero nunca se lee</translation>
+    </message>
+    <message>
+        <source>Nothing closes this bracket</source>
+        <translation>Nada cierra este paréntesis</translation>
+    </message>
+    <message>
+        <source>This bracket closes nothing</source>
+        <translation>Este paréntesis no cierra nada</translation>
+    </message>
+    <message>
+        <source>There are too many brackets in brackets</source>
+        <translation>Demasiados paréntesis entre paréntesis</translation>
+    </message>
+    <message>
+        <source>= sets a value, == compares</source>
+        <translation>= escribe un valor, == compara</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>Asignación</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Condición</translation>
+    </message>
+    <message>
+        <source>Otherwise</source>
+        <translation>Si no</translation>
+    </message>
+    <message>
+        <source>End of a condition</source>
+        <translation>Fin de una condición</translation>
+    </message>
+    <message>
+        <source>End of the program</source>
+        <translation>Fin del programa</translation>
+    </message>
+    <message>
+        <source>Deletion of network values</source>
+        <translation>Borrado de valores de red</translation>
     </message>
 </context>
 <context>
@@ -126,12 +178,28 @@
         <translation>Línea</translation>
     </message>
     <message>
-        <source>Word</source>
-        <translation>Palabra</translation>
+        <source>Problems that are not listed: %1</source>
+        <translation>Problemas que no se muestran: %1</translation>
     </message>
     <message>
-        <source>Class</source>
+        <source>Line %1</source>
+        <translation>Línea %1</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Instrucción</translation>
+    </message>
+    <message>
+        <source>Kind</source>
         <translation>Clase</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Uso</translation>
     </message>
 </context>
 <context>
@@ -506,8 +574,12 @@
         <translation>&amp;Imprimir…</translation>
     </message>
     <message>
+        <source>&amp;Export Statements…</source>
+        <translation>&amp;Exportar instrucciones…</translation>
+    </message>
+    <message>
         <source>&amp;Settings…</source>
-        <translation>A&amp;justes…</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -572,6 +644,29 @@
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramNavigation</name>
+    <message>
+        <source>&amp;Go To Point</source>
+        <translation>Ir al &amp;punto</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Volver</translation>
+    </message>
+    <message>
+        <source>All &amp;Uses</source>
+        <translation>Todos los &amp;usos</translation>
+    </message>
+    <message>
+        <source>%1 is no point of the project.</source>
+        <translation>%1 no es un punto del proyecto.</translation>
+    </message>
+    <message>
+        <source>There is no place to go back to.</source>
+        <translation>No hay ningún lugar al que volver.</translation>
     </message>
 </context>
 <context>
@@ -824,6 +919,29 @@ Overwrite those changes?</source>
     <message>
         <source>&quot;%1&quot; is a word of the language</source>
         <translation>«%1» es una palabra del lenguaje</translation>
+    </message>
+</context>
+<context>
+    <name>StatementExport</name>
+    <message>
+        <source>Export Statements</source>
+        <translation>Exportar instrucciones</translation>
+    </message>
+    <message>
+        <source>Text (*.txt);;Values separated by commas (*.csv)</source>
+        <translation>Texto (*.txt);;Valores separados por comas (*.csv)</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Clase</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Instrucción</translation>
     </message>
 </context>
 <context>

@@ -28,48 +28,100 @@
         <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>Variable</source>
-        <translation>Variable</translation>
+        <source>%1 needs %2 values or more and has %3</source>
+        <translation>%1 demande au moins %2 valeurs et en a %3</translation>
     </message>
     <message>
-        <source>Constant</source>
-        <translation>Constante</translation>
+        <source>Values that %1 needs: %2, values that it has: %3</source>
+        <translation>Valeurs que %1 demande&#xa0;: %2, valeurs données&#xa0;: %3</translation>
     </message>
     <message>
-        <source>Input</source>
-        <translation>Entrée</translation>
+        <source>Blanks are missing in %1</source>
+        <translation>Il manque des espaces dans %1</translation>
     </message>
     <message>
-        <source>Output</source>
-        <translation>Sortie</translation>
+        <source>%1 begins no statement</source>
+        <translation>%1 ne commence aucune instruction</translation>
     </message>
     <message>
-        <source>Network variable input</source>
-        <translation>Entrée de variable réseau</translation>
+        <source>%1 cannot stand here</source>
+        <translation>%1 ne peut pas se trouver ici</translation>
     </message>
     <message>
-        <source>Reserved word</source>
-        <translation>Mot réservé</translation>
+        <source>A value is missing behind %1</source>
+        <translation>Il manque une valeur après %1</translation>
     </message>
     <message>
-        <source>Time word</source>
-        <translation>Mot d’horloge</translation>
+        <source>An operator is missing before %1</source>
+        <translation>Il manque un opérateur avant %1</translation>
     </message>
     <message>
-        <source>Function</source>
-        <translation>Fonction</translation>
+        <source>%1 needs its values in brackets</source>
+        <translation>%1 demande ses valeurs entre parenthèses</translation>
     </message>
     <message>
-        <source>Fan-in word</source>
-        <translation>Mot fan-in</translation>
+        <source>%1 is no network variable input</source>
+        <translation>%1 n’est pas une entrée de variable réseau</translation>
     </message>
     <message>
-        <source>Indexed name</source>
-        <translation>Nom numéroté</translation>
+        <source>%1 is an input, which no program can set</source>
+        <translation>%1 est une entrée, qu’aucun programme ne peut écrire</translation>
     </message>
     <message>
-        <source>Number</source>
-        <translation>Nombre</translation>
+        <source>%1 is a constant, which no program can set</source>
+        <translation>%1 est une constante, qu’aucun programme ne peut écrire</translation>
+    </message>
+    <message>
+        <source>%1 cannot be set</source>
+        <translation>%1 ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>%1 is read, but never set</source>
+        <translation>%1 est lu, mais jamais écrit</translation>
+    </message>
+    <message>
+        <source>%1 is set, but never read</source>
+        <translation>%1 est écrit, mais jamais lu</translation>
+    </message>
+    <message>
+        <source>Nothing closes this bracket</source>
+        <translation>Rien ne ferme cette parenthèse</translation>
+    </message>
+    <message>
+        <source>This bracket closes nothing</source>
+        <translation>Cette parenthèse ne ferme rien</translation>
+    </message>
+    <message>
+        <source>There are too many brackets in brackets</source>
+        <translation>Trop de parenthèses entre parenthèses</translation>
+    </message>
+    <message>
+        <source>= sets a value, == compares</source>
+        <translation>= écrit une valeur, == compare</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>Affectation</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Condition</translation>
+    </message>
+    <message>
+        <source>Otherwise</source>
+        <translation>Sinon</translation>
+    </message>
+    <message>
+        <source>End of a condition</source>
+        <translation>Fin d’une condition</translation>
+    </message>
+    <message>
+        <source>End of the program</source>
+        <translation>Fin du programme</translation>
+    </message>
+    <message>
+        <source>Deletion of network values</source>
+        <translation>Effacement de valeurs réseau</translation>
     </message>
 </context>
 <context>
@@ -126,12 +178,28 @@
         <translation>Ligne</translation>
     </message>
     <message>
-        <source>Word</source>
-        <translation>Mot</translation>
+        <source>Problems that are not listed: %1</source>
+        <translation>Problèmes qui ne sont pas listés&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Class</source>
-        <translation>Classe</translation>
+        <source>Line %1</source>
+        <translation>Ligne %1</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Instruction</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Endroit</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Utilisation</translation>
     </message>
 </context>
 <context>
@@ -506,8 +574,12 @@
         <translation>&amp;Imprimer…</translation>
     </message>
     <message>
+        <source>&amp;Export Statements…</source>
+        <translation>&amp;Exporter les instructions…</translation>
+    </message>
+    <message>
         <source>&amp;Settings…</source>
-        <translation>Pa&amp;ramètres…</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -575,6 +647,29 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ProgramNavigation</name>
+    <message>
+        <source>&amp;Go To Point</source>
+        <translation>Aller au &amp;point</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Re&amp;tour</translation>
+    </message>
+    <message>
+        <source>All &amp;Uses</source>
+        <translation>Toutes les &amp;utilisations</translation>
+    </message>
+    <message>
+        <source>%1 is no point of the project.</source>
+        <translation>%1 n’est pas un point du projet.</translation>
+    </message>
+    <message>
+        <source>There is no place to go back to.</source>
+        <translation>Il n’y a aucun endroit où retourner.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::ProgramSaving</name>
     <message>
         <source>Save Program</source>
@@ -601,7 +696,7 @@ Overwrite those changes?</source>
     <name>ORVTListview::SettingsDialog</name>
     <message>
         <source>Own &amp;font:</source>
-        <translation>P&amp;olice propre :</translation>
+        <translation>P&amp;olice propre&#xa0;:</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -629,11 +724,11 @@ Overwrite those changes?</source>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation>&amp;Langue :</translation>
+        <translation>&amp;Langue&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Theme:</source>
-        <translation>&amp;Thème :</translation>
+        <translation>&amp;Thème&#xa0;:</translation>
     </message>
     <message>
         <source>Program</source>
@@ -653,11 +748,11 @@ Overwrite those changes?</source>
     </message>
     <message>
         <source>&amp;Colours:</source>
-        <translation>&amp;Couleurs :</translation>
+        <translation>&amp;Couleurs&#xa0;:</translation>
     </message>
     <message>
         <source>Font &amp;size:</source>
-        <translation>T&amp;aille de police :</translation>
+        <translation>T&amp;aille de police&#xa0;:</translation>
     </message>
     <message>
         <source>Reserved words</source>
@@ -697,7 +792,7 @@ Overwrite those changes?</source>
     </message>
     <message>
         <source>Hard to read on this ground: %1. The editor shows them stronger while Readable Colours is on.</source>
-        <translation>Difficile à lire sur ce fond : %1. L&apos;éditeur les renforce tant que Couleurs lisibles est activé.</translation>
+        <translation>Difficile à lire sur ce fond&#xa0;: %1. L&apos;éditeur les renforce tant que Couleurs lisibles est activé.</translation>
     </message>
 </context>
 <context>
@@ -824,6 +919,29 @@ Overwrite those changes?</source>
     <message>
         <source>&quot;%1&quot; is a word of the language</source>
         <translation>«&#xa0;%1&#xa0;» est un mot du langage</translation>
+    </message>
+</context>
+<context>
+    <name>StatementExport</name>
+    <message>
+        <source>Export Statements</source>
+        <translation>Exporter les instructions</translation>
+    </message>
+    <message>
+        <source>Text (*.txt);;Values separated by commas (*.csv)</source>
+        <translation>Texte (*.txt);;Valeurs séparées par des virgules (*.csv)</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Instruction</translation>
     </message>
 </context>
 <context>

@@ -1,8 +1,8 @@
 #include "CheckModel.h"
 
 #include "CheckTexts.h"
-
-#include <ORVTListview/ImageList.h>
+#include "shared/points/DisplayNames.h"
+#include "shared/texts/TextTable.h"
 
 #include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
@@ -12,28 +12,40 @@
 
 namespace ORVTListview {
 
-CheckModel::CheckModel(const ImageList &pictures, QObject *parent)
-    : QAbstractTableModel(parent)
-    , m_pictures(pictures)
+void CheckModel::setProblems(const QList<ProgramProblem> &problems, qsizetype count)
 {
-}
-
-void CheckModel::setFindings(const QList<ProgramFinding> &findings)
-{
+    if (m_content == Content::Problems && m_problems == problems && m_problemCount == count)
+        return;
     beginResetModel();
-    m_findings = findings;
-    m_words.clear();
-    m_isListOfWords = false;
+    setContent(Content::Problems);
+    m_problems = problems;
+    m_problemCount = count;
     endResetModel();
 }
 
-void CheckModel::setWords(const QList<ProgramWord> &words)
+void CheckModel::setStatements(const QList<ListedStatement> &statements)
 {
     beginResetModel();
-    m_findings.clear();
-    m_words = words;
-    m_isListOfWords = true;
+    setContent(Content::Statements);
+    m_statements = statements;
     endResetModel();
+}
+
+void CheckModel::setUses(const QList<ShownUse> &uses)
+{
+    beginResetModel();
+    setContent(Content::Uses);
+    m_uses = uses;
+    endResetModel();
+}
+
+void CheckModel::setContent(Content content)
+{
+    m_content = content;
+    m_problems.clear();
+    m_problemCount = 0;
+    m_statements.clear();
+    m_uses.clear();
 }
 
 void CheckModel::retranslate()
@@ -44,30 +56,52 @@ void CheckModel::retranslate()
                            {Qt::DisplayRole});
 }
 
-CheckModel::Place CheckModel::place(int row) const
+void CheckModel::moveLines(qint32 behind, qint32 by)
 {
-    if (m_isListOfWords)
-        return {m_words[row].word, m_words[row].line};
-    if (m_findings.isEmpty())
-        return {};
-    return {m_findings[row].word, m_findings[row].line};
+    const auto move = [&](qint32 &line) {
+        line = line > behind ? std::max(behind, line + by) : line;
+    };
+    for (ProgramProblem &problem : m_problems)
+        move(problem.line);
+    for (ListedStatement &statement : m_statements)
+        move(statement.line);
+    for (ShownUse &use : m_uses)
+        move(use.place.line);
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::DisplayRole});
 }
 
-// Without findings there is a row that says so.
+ResultPlace CheckModel::place(int row) const
+{
+    switch (m_content) {
+    case Content::Statements:
+        return {m_statements[row].line};
+    case Content::Uses:
+        return m_uses[row].place;
+    case Content::Problems:
+        break;
+    }
+    if (row >= m_problems.size())
+        return {};
+    return {m_problems[row].line, m_problems[row].found.place};
+}
+
+// Without problems there is a row that says so, and one for those that are too many.
 int CheckModel::rowCount(const QModelIndex &parent) const
 {
     if (parent.isValid())
         return 0;
-    const qsizetype rows =
-        m_isListOfWords ? m_words.size() : std::max<qsizetype>(m_findings.size(), 1);
+    const qsizetype problems =
+        m_problems.size() + (m_problems.isEmpty() || m_problemCount > m_problems.size() ? 1 : 0);
+    const qsizetype rows = m_content == Content::Statements ? m_statements.size()
+                           : m_content == Content::Uses     ? m_uses.size()
+                                                            : problems;
     return static_cast<int>(rows);
 }
 
 int CheckModel::columnCount(const QModelIndex &parent) const
 {
-    if (parent.isValid())
-        return 0;
-    return m_isListOfWords ? ColumnCount : 1;
+    return parent.isValid() ? 0 : static_cast<int>(std::max<qsizetype>(titles().size(), 1));
 }
 
 QVariant CheckModel::data(const QModelIndex &index, int role) const
@@ -76,55 +110,80 @@ QVariant CheckModel::data(const QModelIndex &index, int role) const
         return {};
     if (role == Qt::DisplayRole)
         return text(index);
-    if (role == Qt::DecorationRole)
-        return picture(index);
-    if (role == Qt::TextAlignmentRole && m_isListOfWords && index.column() == Line)
+    if (role == Qt::DecorationRole && m_content == Content::Problems)
+        return picture(index.row());
+    if (role == Qt::TextAlignmentRole && m_content == Content::Statements && index.column() == 0)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     return {};
 }
 
 QString CheckModel::text(const QModelIndex &index) const
 {
-    if (!m_isListOfWords)
-        return m_findings.isEmpty() ? tr("Nothing found.") : findingText(m_findings[index.row()]);
-    const ProgramWord &word = m_words[index.row()];
+    if (m_content == Content::Problems)
+        return problemRow(index.row());
+    if (m_content == Content::Uses)
+        return useText(m_uses[index.row()], index.column());
+    const ListedStatement &statement = m_statements[index.row()];
     switch (index.column()) {
-    case Line:
-        return QString::number(word.line);
-    case Word:
-        return word.word;
+    case 0:
+        return QString::number(statement.line);
+    case 1:
+        return indentedText(statement);
     default:
-        return classText(word);
+        return statementName(statement.kind);
     }
 }
 
-QVariant CheckModel::picture(const QModelIndex &index) const
+QString CheckModel::problemRow(int row) const
 {
-    if (m_isListOfWords && index.column() == Class) {
-        const WordClass wordClass = m_words[index.row()].wordClass;
-        return m_pictures.Picture(styleOf(wordClass, RichTextSettings()).ImageIndex);
+    if (row < m_problems.size())
+        return problemText(m_problems[row]);
+    if (m_problems.isEmpty())
+        return tr("Nothing found.");
+    return tr("Problems that are not listed: %1").arg(m_problemCount - m_problems.size());
+}
+
+QString CheckModel::useText(const ShownUse &use, int column) const
+{
+    if (column == 1)
+        return use.text;
+    if (use.place.line > 0)
+        return tr("Line %1").arg(use.place.line);
+    return Localise(displayName(use.place.type)) + u' ' + QString::number(use.place.row + 1);
+}
+
+QVariant CheckModel::picture(int row) const
+{
+    if (row >= m_problems.size())
+        return {};
+    const ProblemSeverity severity = severityOf(m_problems[row].found.fault);
+    return QApplication::style()->standardIcon(
+        severity == ProblemSeverity::Error     ? QStyle::SP_MessageBoxCritical
+        : severity == ProblemSeverity::Warning ? QStyle::SP_MessageBoxWarning
+                                               : QStyle::SP_MessageBoxInformation);
+}
+
+QStringList CheckModel::titles() const
+{
+    switch (m_content) {
+    case Content::Statements:
+        return {tr("Line"), tr("Statement"), tr("Kind")};
+    case Content::Uses:
+        return {tr("Place"), tr("Use")};
+    case Content::Problems:
+        break;
     }
-    if (!m_findings.isEmpty())
-        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
     return {};
 }
 
 QVariant CheckModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || !m_isListOfWords)
+    const bool isNumber = m_content == Content::Statements && section == 0;
+    if (orientation != Qt::Horizontal || m_content == Content::Problems)
         return {};
     if (role == Qt::TextAlignmentRole)
-        return QVariant((section == Line ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case Line:
-        return tr("Line");
-    case Word:
-        return tr("Word");
-    default:
-        return tr("Class");
-    }
+        return QVariant((isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return role == Qt::DisplayRole ? QVariant(titles().value(section)) : QVariant();
 }
 
 } // namespace ORVTListview

@@ -1,38 +1,38 @@
 #pragma once
 
-#include "project/ProgramCheck.h"
+#include "ResultPlace.h"
+#include "project/analysis/ProgramAnalysis.h"
+#include "project/analysis/ProgramListing.h"
 
 #include <QtCore/QAbstractTableModel>
 
 namespace ORVTListview {
 
-class ImageList;
-
-// What a check of the program brought to light: findings, a sentence each, or
-// words with their lines and classes. Holds a program of any size.
+// What a check of the program brought to light: problems, a sentence each, statements
+// with their lines, or the uses of a point. Holds a program of any size.
 class CheckModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    enum Column { Line, Word, Class, ColumnCount };
+    enum class Content { Problems, Statements, Uses };
 
-    // The pictures are those of the word classes; the list must outlive the model.
-    explicit CheckModel(const ImageList &pictures, QObject *parent = nullptr);
+    using QAbstractTableModel::QAbstractTableModel;
 
-    void setFindings(const QList<ProgramFinding> &findings);
-    void setWords(const QList<ProgramWord> &words);
+    // Of so many problems in all. What is shown already stays as it is.
+    void setProblems(const QList<ProgramProblem> &problems, qsizetype count);
+    void setStatements(const QList<ListedStatement> &statements);
+    void setUses(const QList<ShownUse> &uses);
     // After a change of language.
     void retranslate();
-    bool isListOfWords() const { return m_isListOfWords; }
 
-    // Where a row stands in the program; line 0 for nowhere.
-    struct Place
-    {
-        QString word;
-        qint32 line = 0;
-    };
-    Place place(int row) const;
+    Content content() const { return m_content; }
+    const QList<ListedStatement> &statements() const { return m_statements; }
+
+    // Lines were added behind one, or fewer for a negative number; what stands below moves.
+    void moveLines(qint32 behind, qint32 by);
+
+    ResultPlace place(int row) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -41,13 +41,18 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
+    void setContent(Content content);
     QString text(const QModelIndex &index) const;
-    QVariant picture(const QModelIndex &index) const;
+    QString problemRow(int row) const;
+    QString useText(const ShownUse &use, int column) const;
+    QVariant picture(int row) const;
+    QStringList titles() const;
 
-    const ImageList &m_pictures;
-    QList<ProgramFinding> m_findings;
-    QList<ProgramWord> m_words;
-    bool m_isListOfWords = false;
+    Content m_content = Content::Problems;
+    QList<ProgramProblem> m_problems;
+    qsizetype m_problemCount = 0;
+    QList<ListedStatement> m_statements;
+    QList<ShownUse> m_uses;
 };
 
 } // namespace ORVTListview

@@ -3,15 +3,18 @@
 #include "CheckModel.h"
 
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTreeView>
+
+#include <algorithm>
 
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-CheckResults::CheckResults(const ImageList &pictures, QWidget *parent)
+CheckResults::CheckResults(QWidget *parent)
     : QDockWidget(parent)
-    , m_model(new CheckModel(pictures, this))
+    , m_model(new CheckModel(this))
     , m_view(new QTreeView(this))
 {
     setObjectName(u"CheckResults"_s);
@@ -28,28 +31,54 @@ CheckResults::CheckResults(const ImageList &pictures, QWidget *parent)
     retranslate();
 }
 
-void CheckResults::showFindings(const QList<ProgramFinding> &findings)
+void CheckResults::showProblems(const ProgramAnalysis &analysis)
 {
-    m_model->setFindings(findings);
+    m_model->setProblems(analysis.problems(), analysis.problemCount());
     showModel();
 }
 
-void CheckResults::showWords(const QList<ProgramWord> &words)
+void CheckResults::showStatements(const QList<ListedStatement> &statements)
 {
-    m_model->setWords(words);
+    m_model->setStatements(statements);
     showModel();
+}
+
+void CheckResults::showUses(const QList<ShownUse> &uses)
+{
+    m_model->setUses(uses);
+    showModel();
+}
+
+void CheckResults::followProblems(const ProgramAnalysis &analysis)
+{
+    if (isHidden() || m_model->content() != CheckModel::Content::Problems)
+        return;
+    const int row = m_view->currentIndex().row();
+    const int scrolled = m_view->verticalScrollBar()->value();
+    m_model->setProblems(analysis.problems(), analysis.problemCount());
+    if (row >= 0 && !m_view->currentIndex().isValid())
+        m_view->setCurrentIndex(m_model->index(std::min(row, m_model->rowCount() - 1), 0));
+    m_view->verticalScrollBar()->setValue(scrolled);
+    fitColumns();
+}
+
+void CheckResults::moveLines(qint32 behind, qint32 by)
+{
+    if (!isHidden() && by != 0)
+        m_model->moveLines(behind, by);
 }
 
 void CheckResults::retranslate()
 {
     setWindowTitle(tr("Results"));
+    m_view->setAccessibleName(tr("Results"));
     m_model->retranslate();
     fitColumns();
 }
 
 void CheckResults::showModel()
 {
-    m_view->setHeaderHidden(!m_model->isListOfWords());
+    m_view->setHeaderHidden(m_model->content() == CheckModel::Content::Problems);
     fitColumns();
     m_view->scrollToTop();
     show();
@@ -63,9 +92,9 @@ void CheckResults::fitColumns()
 
 void CheckResults::choose(const QModelIndex &index)
 {
-    const CheckModel::Place place = m_model->place(index.row());
-    if (place.line > 0)
-        Q_EMIT chosen(place.word, place.line);
+    const ResultPlace place = m_model->place(index.row());
+    if (place.line > 0 || place.row >= 0)
+        Q_EMIT chosen(place);
 }
 
 } // namespace ORVTListview

@@ -1,16 +1,20 @@
 #pragma once
 
-#include "project/ProgramCheck.h"
+#include "project/analysis/LineParser.h"
+
+#include <ORVTListview/Problem.h>
 
 namespace ORVTListview {
 
+ProblemSeverity severityOf(Fault fault);
+
 // "ENDIF without IF"
-QString faultText(const ProgramFinding &finding);
+QString faultText(const LineProblem &problem);
 
 // "Line 12: ENDIF without IF"
-QString findingText(const ProgramFinding &finding);
+QString problemText(const ProgramProblem &problem);
 
-// "Input", "Reserved word"
-QString classText(const ProgramWord &word);
+// "Assignment"
+QString statementName(StatementKind kind);
 
 } // namespace ORVTListview

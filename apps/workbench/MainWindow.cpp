@@ -1,25 +1,25 @@
 #include "MainWindow.h"
 
 #include "Appearance.h"
-#include "CheckProblems.h"
 #include "CheckResults.h"
+#include "CheckTexts.h"
 #include "EditMenu.h"
 #include "EditorViewMenu.h"
 #include "LanguageMenu.h"
 #include "Languages.h"
+#include "LiveAnalysis.h"
 #include "OpeningProgress.h"
 #include "PointCells.h"
 #include "PointChooser.h"
 #include "PointTables.h"
 #include "PointValues.h"
+#include "ProgramNavigation.h"
 #include "ProgramSaving.h"
 #include "ProgramText.h"
 #include "ProjectView.h"
-#include "base/ThreadState.h"
+#include "StatementExport.h"
 #include "editor/rules/colouring/ColourTable.h"
-#include "editor/rules/colouring/ThreadColouring.h"
-#include "editor/rules/language/Vocabulary.h"
-#include "project/ProgramCheck.h"
+#include "project/PointReferences.h"
 #include "project/Project.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/settings/SettingsDialog.h"
@@ -38,7 +38,7 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
 
-#include <limits>
+#include <algorithm>
 #include <utility>
 
 namespace ORVTListview {
@@ -54,7 +54,9 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_saving(new ProgramSaving(*m_code, *this))
     , m_export(new Exporting(*m_code, *this))
     , m_values(new PointValues(*m_code->codeView(), this))
-    , m_results(new CheckResults(*m_code->GetImage(), this))
+    , m_results(new CheckResults(this))
+    , m_analysis(new LiveAnalysis(*m_code->codeView(), *m_code->RTextBox(), this))
+    , m_navigation(new ProgramNavigation(*m_view, *m_analysis, *m_results, this))
     , m_programInfo(new QLabel(this))
     , m_opening(new OpeningProgress(*m_code->codeView(), this))
     , m_position(new QLabel(this))
@@ -118,6 +120,9 @@ void MainWindow::buildProgramMenu()
     program->addAction(tr("&Analyse"), QKeySequence(Qt::Key_F6), this, &MainWindow::analyse);
     program->addAction(tr("&Compile"), QKeySequence(Qt::CTRL | Qt::Key_F6), this,
                        &MainWindow::compile);
+    program->addAction(tr("&Export Statements…"), this, &MainWindow::exportListing);
+    program->addSeparator();
+    m_navigation->fillMenu(*program);
     program->addSeparator();
     QAction *results = m_results->toggleViewAction();
     results->setText(tr("&Results"));
@@ -176,7 +181,25 @@ void MainWindow::connectEditor()
     m_code->RTextBox()->viewport()->installEventFilter(this);
     connect(m_code->codeView(), &CodeView::problemChosen, this, &MainWindow::showPosition);
     connect(m_code->RTextBox(), &QPlainTextEdit::selectionChanged, this, &MainWindow::showPosition);
-    connect(m_results, &CheckResults::chosen, this, &MainWindow::goTo);
+    connectAnalysis();
+}
+
+void MainWindow::connectAnalysis()
+{
+    connect(m_analysis, &LiveAnalysis::analysed, this,
+            [this] { m_results->followProblems(m_analysis->found()); });
+    connect(m_analysis, &LiveAnalysis::linesMoved, m_results, &CheckResults::moveLines);
+    connect(m_navigation, &ProgramNavigation::moved, this, &MainWindow::showPosition);
+    connect(m_navigation, &ProgramNavigation::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
+    connect(&m_view->tables(), &PointTables::renamed, this, &MainWindow::takePoints);
+    connect(&m_view->cells(), &PointCells::changed, this, &MainWindow::takePoints);
+}
+
+void MainWindow::takePoints()
+{
+    m_analysis->takeWords();
+    m_analysis->setOtherUses(otherUsesOf(*m_project));
 }
 
 void MainWindow::connectPoints()
@@ -236,6 +259,7 @@ void MainWindow::openProject(const QString &fileName)
     m_points->refill();
     m_values->setProject(m_project.get());
     m_export->setProject(m_project.get());
+    m_navigation->setProject(m_project.get());
     setWindowTitle(m_project->name() + u"[*]"_s); // the application's name is added to it
     showProgram();
 }
@@ -253,6 +277,7 @@ void MainWindow::showProgram()
     applyAppearance();
     m_code->codeView()->openProgram(withWordsApart(m_project->program()));
     m_saving->setProject(m_project.get());
+    takePoints();
     m_code->setFocus();
     showPosition();
     showProgramInfo();
@@ -285,44 +310,40 @@ void MainWindow::applyAppearance()
     m_export->setColours(PaperColours(m_project->editor(), shown));
 }
 
-ProgramReport MainWindow::checkShownProgram()
-{
-    const QString program = m_code->CodeText();
-    ProgramReport report =
-        checkProgram(program, threadPart<Vocabulary>(), threadWordList().index());
-    m_code->codeView()->setProblems(problemsOf(report.findings, program));
-    return report;
-}
-
 void MainWindow::analyse()
 {
-    m_results->showFindings(checkShownProgram().findings);
+    m_results->showProblems(m_analysis->finished());
 }
 
 void MainWindow::compile()
 {
-    const ProgramReport report = checkShownProgram();
-    if (report.findings.isEmpty())
-        m_results->showWords(report.words);
-    else
-        m_results->showFindings(report.findings.first(1));
+    if (const auto statements = compiled())
+        m_results->showStatements(*statements);
 }
 
-// The editor's own member counts lines with 16 bits.
-void MainWindow::goTo(const QString &word, qint32 line)
+// None, and the problems are shown, for a program with errors.
+std::optional<QList<ListedStatement>> MainWindow::compiled()
 {
-    if (m_code->CurrentType() != dsCode)
-        m_view->showType(dsCode);
-    if (line <= std::numeric_limits<qint16>::max()) {
-        QString text = word;
-        auto number = static_cast<qint16>(line);
-        m_code->HighLightText(text, number);
-    } else {
-        m_code->RTextBox()->setSelStart(m_code->RTextBox()->lineStart(line - 1));
-        m_code->RTextBox()->ensureCursorVisible();
+    const ProgramAnalysis &found = m_analysis->finished();
+    const QList<ProgramProblem> &problems = found.problems();
+    const bool hasErrors = found.problemCount() > problems.size() ||
+                           std::any_of(problems.cbegin(), problems.cend(), [](const auto &each) {
+                               return severityOf(each.found.fault) == ProblemSeverity::Error;
+                           });
+    if (hasErrors) {
+        m_results->showProblems(found);
+        return {};
     }
-    m_code->setFocus();
-    showPosition();
+    const RichTextBox &box = *m_code->RTextBox();
+    return listStatements(
+        box.lineCount(), [&box](qint32 line) { return box.lineText(line); }, m_analysis->words());
+}
+
+void MainWindow::exportListing()
+{
+    if (const auto statements = compiled())
+        exportStatements(*this, *statements,
+                         m_project ? m_project->programFile() + u".txt"_s : QString());
 }
 
 void MainWindow::showPosition()
@@ -354,6 +375,7 @@ void MainWindow::renewAppearance()
 void MainWindow::retranslate()
 {
     m_results->retranslate();
+    m_analysis->retranslate();
     m_opening->retranslate();
     qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
     menuBar()->clear();

@@ -4,9 +4,11 @@
 
 #include <ORVTListview/ORVListView.h>
 
+#include <QtCore/QList>
 #include <QtWidgets/QMainWindow>
 
 #include <memory>
+#include <optional>
 
 class QLabel;
 
@@ -16,13 +18,15 @@ class CheckResults;
 class EditMenu;
 class Exporting;
 class Languages;
+class LiveAnalysis;
 class OpeningProgress;
+class ProgramNavigation;
 class ProgramSaving;
 class PointChooser;
 class PointValues;
 class Project;
 class ProjectView;
-struct ProgramReport;
+struct ListedStatement;
 
 // A small host: shows a project in the library's components.
 class MainWindow : public QMainWindow
@@ -71,10 +75,12 @@ private:
     void chooseSettings();
     void applyAppearance();
     void renewAppearance();
-    ProgramReport checkShownProgram();
+    void connectAnalysis();
+    void takePoints();
     void analyse();
     void compile();
-    void goTo(const QString &word, qint32 line);
+    std::optional<QList<ListedStatement>> compiled();
+    void exportListing();
     void showPosition();
     void showProgramInfo();
     void retranslate();
@@ -89,6 +95,8 @@ private:
     Exporting *m_export;
     PointValues *m_values;
     CheckResults *m_results;
+    LiveAnalysis *m_analysis;
+    ProgramNavigation *m_navigation;
     QLabel *m_programInfo;
     OpeningProgress *m_opening;
     QLabel *m_position;

@@ -4,9 +4,6 @@
 #include "support/RandomText.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
-#include "widgets/look/Pictures.h"
-
-#include <ORVTListview/ImageList.h>
 
 #include <QtTest/QAbstractItemModelTester>
 
@@ -23,18 +20,20 @@ private Q_SLOTS:
     void holdsUnderRandomChecks()
     {
         RandomText random;
-        ImageList pictures;
-        Pictures::fillInto(pictures);
-        CheckModel model(pictures);
+        CheckModel model;
         const QAbstractItemModelTester tester(
             &model, QAbstractItemModelTester::FailureReportingMode::Fatal);
         for (int i = randomSteps(10'000); i > 0; --i) {
             const int rows = random.number(8);
-            const int how = random.number(3);
+            const int how = random.number(5);
             if (how == 0)
-                checkFindings(random, model, rows);
+                checkProblems(random, model, rows);
             else if (how == 1)
-                checkWords(random, model, rows);
+                checkStatements(random, model, rows);
+            else if (how == 2)
+                checkUses(random, model, rows);
+            else if (how == 3)
+                model.moveLines(random.number(99) + 1, random.number(9) - 4);
             else
                 model.retranslate();
             QVERIFY(!model.data({}).isValid());
@@ -44,30 +43,51 @@ private Q_SLOTS:
     }
 
 private:
-    static void checkFindings(RandomText &random, CheckModel &model, int rows)
+    static void checkProblems(RandomText &random, CheckModel &model, int rows)
     {
-        QList<ProgramFinding> findings(rows);
-        for (ProgramFinding &finding : findings)
-            finding = {static_cast<Fault>(random.number(5)), random.number(99) + 1, random.text(4)};
-        model.setFindings(findings);
-        QVERIFY(!model.isListOfWords());
-        QCOMPARE(model.rowCount(), std::max(rows, 1)); // one that says that there are none
+        QList<ProgramProblem> problems(rows);
+        for (ProgramProblem &problem : problems)
+            problem = {random.number(99) + 1,
+                       {static_cast<Fault>(random.number(22)), {1, 2}, random.text(4), 3}};
+        const int more = random.number(2);
+        model.setProblems(problems, rows + more);
+        QCOMPARE(model.content(), CheckModel::Content::Problems);
+        // One that says that there are none, or that there are more.
+        QCOMPARE(model.rowCount(), rows == 0 ? 1 : rows + more);
         for (int row = 0; row < rows; ++row) {
-            QCOMPARE(model.place(row).line, findings[row].line);
-            QCOMPARE(model.place(row).word, findings[row].word);
+            QCOMPARE(model.place(row).line, problems[row].line);
+            QCOMPARE(model.place(row).piece, problems[row].found.place);
+            QVERIFY(!model.index(row, 0).data().toString().isEmpty());
         }
     }
-    static void checkWords(RandomText &random, CheckModel &model, int rows)
+    static void checkStatements(RandomText &random, CheckModel &model, int rows)
     {
-        QList<ProgramWord> words(rows);
-        for (ProgramWord &word : words)
-            word = {random.number(99) + 1, random.text(4),
-                    static_cast<WordClass>(random.number(5))};
-        model.setWords(words);
-        QVERIFY(model.isListOfWords());
+        QList<ListedStatement> statements(rows);
+        for (ListedStatement &statement : statements)
+            statement = {random.number(99) + 1, static_cast<StatementKind>(random.number(6)),
+                         random.number(3), random.text(4)};
+        model.setStatements(statements);
+        QCOMPARE(model.content(), CheckModel::Content::Statements);
         QCOMPARE(model.rowCount(), rows);
-        for (int row = 0; row < rows; ++row)
-            QCOMPARE(model.index(row, CheckModel::Word).data().toString(), words[row].word);
+        for (int row = 0; row < rows; ++row) {
+            QCOMPARE(model.index(row, 1).data().toString(), indentedText(statements[row]));
+            QCOMPARE(model.place(row).line, statements[row].line);
+        }
+    }
+    static void checkUses(RandomText &random, CheckModel &model, int rows)
+    {
+        QList<ShownUse> uses(rows);
+        for (ShownUse &use : uses)
+            use = {random.number(2) == 0 ? ResultPlace{random.number(99) + 1, {3, 4}}
+                                         : ResultPlace{.type = dsLog, .row = random.number(9)},
+                   random.text(4)};
+        model.setUses(uses);
+        QCOMPARE(model.content(), CheckModel::Content::Uses);
+        QCOMPARE(model.rowCount(), rows);
+        for (int row = 0; row < rows; ++row) {
+            QCOMPARE(model.place(row), uses[row].place);
+            QCOMPARE(model.index(row, 1).data().toString(), uses[row].text);
+        }
     }
 };
 

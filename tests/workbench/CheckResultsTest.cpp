@@ -5,6 +5,7 @@
 
 #include <QtGui/QAction>
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHeaderView>
 
 using namespace Qt::StringLiterals;
@@ -125,32 +126,35 @@ private Q_SLOTS:
         QByteArray program;
         for (int i = 0; i < 32'767; ++i)
             program += "Fan1 = ON\n";
-        WorkbenchWindow workbench(program + "tmep");
+        WorkbenchWindow workbench(program + "Fan1 = tmep");
         workbench.key(Qt::Key_F6);
         QCOMPARE(workbench.resultTexts(), u"Line 32768: tmep is not known"_s);
         click(workbench, 0);
-        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 32768, Col: 1"_s));
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 32768, Col: 8"_s));
     }
 
-    void compilationListsTheWordsWithTheirClasses()
+    void compilationListsTheStatements()
     {
-        WorkbenchWindow workbench("IF temp1 > 3\nREM no\nFan1 = FAN_IN_AV HOUR\nENDIF");
+        WorkbenchWindow workbench("IF temp1 > 3\nREM no\n  Fan1 = LIMIT(temp1,3,4)\nENDIF");
         workbench.key(Qt::Key_F6, Qt::ControlModifier);
-        QCOMPARE(workbench.resultTexts(), u"1 IF Reserved word|1 Temp1 Input|1 > Reserved word|"
-                                          "1 3 Number|3 Fan1 Output|3 = Reserved word|"
-                                          "3 FAN_IN_AV Fan-in word|3 HOUR Time word|"
-                                          "4 ENDIF Reserved word"_s);
-        const QModelIndex inputClass = workbench.results().model()->index(1, 2);
-        QVERIFY(!inputClass.data(Qt::DecorationRole).value<QIcon>().isNull());
-        click(workbench, 4);
-        QCOMPARE(workbench.box().SelText(), u"Fan1"_s);
+        QCOMPARE(workbench.resultTexts(), u"1 IF Temp1 > 3 Condition|"
+                                          "3     Fan1 = LIMIT ( Temp1 , 3 , 4 ) Assignment|"
+                                          "4 ENDIF End of a condition"_s);
+        click(workbench, 1);
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 3, Col: 1"_s));
+        QVERIFY(workbench.box().hasFocus());
     }
 
-    void compilationEndsAtTheFirstFault()
+    void compilationEndsWithErrorsButNotWithHints()
     {
         WorkbenchWindow workbench("Fan1 = ON\nFan1 = tmep\nENDIF");
         workbench.key(Qt::Key_F6, Qt::ControlModifier);
-        QCOMPARE(workbench.resultTexts(), u"Line 2: tmep is not known"_s);
+        QCOMPARE(workbench.resultTexts(), u"Line 2: tmep is not known|Line 3: ENDIF without IF"_s);
+        workbench.code().setCodeText(u"IF Temp1 = 3\r\nENDIF"_s);
+        workbench.key(Qt::Key_F6, Qt::ControlModifier);
+        QCOMPARE(workbench.resultTexts(), u"1 IF Temp1 = 3 Condition|2 ENDIF End of a condition"_s);
+        workbench.key(Qt::Key_F6);
+        QCOMPARE(workbench.resultTexts(), u"Line 1: = sets a value, == compares"_s);
     }
 
     void theMenuDoesTheSame()
@@ -158,9 +162,9 @@ private Q_SLOTS:
         WorkbenchWindow workbench("ENDIF");
         workbench.choose(u"Analyse"_s);
         QCOMPARE(workbench.resultTexts(), u"Line 1: ENDIF without IF"_s);
-        workbench.code().setCodeText(u"Fan1"_s);
+        workbench.code().setCodeText(u"END"_s);
         workbench.choose(u"Compile"_s);
-        QCOMPARE(workbench.resultTexts(), u"1 Fan1 Output"_s);
+        QCOMPARE(workbench.resultTexts(), u"1 END End of the program"_s);
         workbench.choose(u"Results"_s);
         QVERIFY(!workbench.results().isVisible());
         workbench.choose(u"Results"_s);
@@ -172,9 +176,43 @@ private Q_SLOTS:
         WorkbenchWindow workbench("ENDIF");
         workbench.key(Qt::Key_F6);
         workbench.results().setFocus();
-        workbench.code().setCodeText(u"Fan1"_s);
+        workbench.code().setCodeText(u"END"_s);
         QTest::keyClick(&workbench.results(), Qt::Key_F6);
         QCOMPARE(workbench.resultTexts(), u"Nothing found."_s);
+    }
+
+    void statementsAreExported_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("text") << u"listing.txt"_s
+                              << "1  IF Temp1 > 3\r\n2      Fan1 = LIMIT ( 1 , 3 , 4 )\r\n"
+                                 "3  ENDIF\r\n"_ba;
+        QTest::newRow("values") << u"listing.csv"_s
+                                << "Line,Kind,Statement\r\n1,Condition,IF Temp1 > 3\r\n"
+                                   "2,Assignment,\"Fan1 = LIMIT ( 1 , 3 , 4 )\"\r\n"
+                                   "3,End of a condition,ENDIF\r\n"_ba;
+    }
+    void statementsAreExported()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, content);
+        WorkbenchWindow workbench("IF temp1 > 3\nFan1 = LIMIT(1,3,4)\nENDIF");
+        const QString path = workbench.folder.filePath(file);
+        NextDialog<QFileDialog> chosen([&](QFileDialog &dialog) {
+            dialog.selectFile(path);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        workbench.choose(u"Export Statements…"_s);
+        QVERIFY(chosen.wasThere());
+        QCOMPARE(ORVTListview::readFile(path), content);
+    }
+
+    void nothingIsExportedOfAProgramWithErrors()
+    {
+        WorkbenchWindow workbench("ENDIF");
+        workbench.choose(u"Export Statements…"_s);
+        QCOMPARE(workbench.resultTexts(), u"Line 1: ENDIF without IF"_s);
     }
 
     void anotherProjectTakesTheResultsAway()

@@ -1,0 +1,68 @@
+#include "project/analysis/ProgramWords.h"
+
+#include "editor/rules/language/PopupWords.h"
+#include "editor/rules/language/Vocabulary.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ORVTListview {
+namespace {
+
+struct FixedWord
+{
+    QStringView text;
+    TokenKind kind;
+};
+constexpr std::array fixedWords = {
+    FixedWord{u"IF", TokenKind::If},       FixedWord{u"ELSE", TokenKind::Else},
+    FixedWord{u"ENDIF", TokenKind::EndIf}, FixedWord{u"END", TokenKind::End},
+    FixedWord{u"AND", TokenKind::And},     FixedWord{u"OR", TokenKind::Or},
+    FixedWord{u"=", TokenKind::Equals},    FixedWord{u"+", TokenKind::Sign},
+    FixedWord{u"-", TokenKind::Sign},      FixedWord{u"*", TokenKind::Product},
+    FixedWord{u"/", TokenKind::Product},   FixedWord{u"CLEAR", TokenKind::Clear},
+};
+
+// A function stays one until the index is filled anew, whatever the vocabulary says.
+TokenKind kindOfFanIn(const QString &text, const Vocabulary &vocabulary)
+{
+    if (Vocabulary::FanInWordList().contains(text))
+        return TokenKind::FanIn;
+    return vocabulary.IndexedNameList().contains(text) ? TokenKind::Name : TokenKind::Function;
+}
+
+TokenKind kindOf(WordClass wordClass, const QString &text, const Vocabulary &vocabulary)
+{
+    if (wordClass >= WordClass::Variable && wordClass <= WordClass::Nvi)
+        return TokenKind::Name;
+    const auto *const fixed =
+        std::find_if(fixedWords.begin(), fixedWords.end(),
+                     [&](const FixedWord &each) { return each.text == text; });
+    if (fixed != fixedWords.end())
+        return fixed->kind;
+    switch (wordClass) {
+    case WordClass::Keyword:
+        return TokenKind::Comparison;
+    case WordClass::TimeWord:
+        return TokenKind::TimeWord;
+    case WordClass::Function:
+        return TokenKind::Function;
+    default:
+        return kindOfFanIn(text, vocabulary);
+    }
+}
+
+} // namespace
+
+ProgramWords::ProgramWords(const Vocabulary &vocabulary, const WordIndex &index)
+    : m_index(index)
+{
+    m_words.reserve(static_cast<std::size_t>(index.count()));
+    for (qsizetype i = 0; i < index.count(); ++i) {
+        const WordIndex::Entry &entry = m_index.at(i);
+        const WordClass wordClass = classOf(entry, vocabulary);
+        m_words.push_back({kindOf(wordClass, entry.text, vocabulary), wordClass});
+    }
+}
+
+} // namespace ORVTListview

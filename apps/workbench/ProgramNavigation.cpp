@@ -1,0 +1,220 @@
+#include "ProgramNavigation.h"
+
+#include "CheckResults.h"
+#include "LiveAnalysis.h"
+#include "ProjectView.h"
+#include "base/TextRules.h"
+#include "project/PointReferences.h"
+#include "project/Project.h"
+#include "shared/texts/TextTable.h"
+
+#include <ORVTListview/CodeView.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtGui/QKeySequence>
+#include <QtWidgets/QMenu>
+
+#include <algorithm>
+
+namespace ORVTListview {
+namespace {
+
+constexpr qsizetype mostFormer = 50;
+
+LwType typeOf(WordClass wordClass)
+{
+    switch (wordClass) {
+    case WordClass::Variable:
+        return dsVariable;
+    case WordClass::Constant:
+        return dsConst;
+    case WordClass::Input:
+        return dsInput;
+    case WordClass::Output:
+        return dsOutput;
+    case WordClass::Nvi:
+        return dsNvi;
+    default:
+        return dsCode;
+    }
+}
+
+} // namespace
+
+ProgramNavigation::ProgramNavigation(ProjectView &view, LiveAnalysis &analysis,
+                                     CheckResults &results, QObject *parent)
+    : QObject(parent)
+    , m_view(view)
+    , m_analysis(analysis)
+    , m_results(results)
+{
+    connect(&results, &CheckResults::chosen, this, &ProgramNavigation::goTo);
+    connect(&analysis, &LiveAnalysis::linesMoved, this, &ProgramNavigation::moveLines);
+}
+
+void ProgramNavigation::setProject(const Project *project)
+{
+    m_project = project;
+    m_former.clear();
+}
+
+void ProgramNavigation::fillMenu(QMenu &menu)
+{
+    menu.addAction(tr("&Go To Point"), QKeySequence(Qt::Key_F12), this,
+                   &ProgramNavigation::goToPoint);
+    menu.addAction(tr("&Back"), QKeySequence(Qt::ALT | Qt::Key_Left), this,
+                   &ProgramNavigation::back);
+    menu.addAction(tr("All &Uses"), QKeySequence(Qt::SHIFT | Qt::Key_F12), this,
+                   &ProgramNavigation::findUses);
+}
+
+void ProgramNavigation::goTo(const ResultPlace &place)
+{
+    remember();
+    show(place);
+}
+
+void ProgramNavigation::goToPoint()
+{
+    const NamedPoint at = pointInProgram();
+    const qsizetype row = rowOf(at);
+    if (row >= 0)
+        goTo({.type = at.type, .row = row});
+    else if (!at.name.isEmpty())
+        Q_EMIT told(tr("%1 is no point of the project.").arg(at.name));
+}
+
+void ProgramNavigation::back()
+{
+    if (m_former.isEmpty())
+        Q_EMIT told(tr("There is no place to go back to."));
+    else
+        show(m_former.takeLast());
+}
+
+void ProgramNavigation::findUses()
+{
+    const NamedPoint at = point();
+    if (!at.name.isEmpty())
+        m_results.showUses(usesOf(at));
+}
+
+void ProgramNavigation::moveLines(qint32 behind, qint32 by)
+{
+    for (ResultPlace &place : m_former)
+        place.line = place.line > behind ? std::max(behind, place.line + by) : place.line;
+}
+
+void ProgramNavigation::remember()
+{
+    const ResultPlace place = current();
+    if (place == ResultPlace())
+        return;
+    m_former.removeOne(place);
+    m_former.append(place);
+    if (m_former.size() > mostFormer)
+        m_former.removeFirst();
+}
+
+ResultPlace ProgramNavigation::current() const
+{
+    const ORVListView &list = m_view.list();
+    const LwType type = list.CurrentType();
+    if (type != dsCode) {
+        const ListItem *item = list.SelectedItem();
+        return {.type = type, .row = item ? item->Index() - 1 : 0};
+    }
+    const RichTextBox &box = *list.RTextBox();
+    const qint32 line = box.GetLineFromChar(box.SelStart());
+    return {line + 1, {box.SelStart() - box.lineStart(line), box.SelLength()}};
+}
+
+void ProgramNavigation::show(const ResultPlace &place)
+{
+    ORVListView &list = m_view.list();
+    const LwType type = place.line > 0 ? dsCode : place.type;
+    if (list.CurrentType() != type)
+        m_view.showType(type);
+    if (place.line > 0) {
+        showLine(place);
+    } else if (place.row < list.ListItems()->Count()) {
+        ListItem *item = list.ListItems()->Item(static_cast<qint32>(place.row) + 1);
+        list.setSelectedItem(item);
+        item->EnsureVisible();
+    }
+    list.setFocus();
+    Q_EMIT moved();
+}
+
+void ProgramNavigation::showLine(const ResultPlace &place)
+{
+    ORVListView &list = m_view.list();
+    RichTextBox &box = *list.RTextBox();
+    list.codeView()->goToLine(place.line);
+    const qint32 line = std::min(place.line, box.lineCount()) - 1;
+    const auto length = static_cast<qint32>(box.lineText(line).size());
+    const qint32 start = std::min(place.piece.start, length);
+    box.setSelStart(box.lineStart(line) + start);
+    box.setSelLength(std::min(place.piece.length, length - start));
+}
+
+ProgramNavigation::NamedPoint ProgramNavigation::pointInProgram() const
+{
+    const ORVListView &list = m_view.list();
+    if (list.CurrentType() != dsCode)
+        return {};
+    m_analysis.takeWords();
+    const RichTextBox &box = *list.RTextBox();
+    const qint32 line = box.GetLineFromChar(box.SelStart());
+    const qint32 caret = box.SelStart() - box.lineStart(line);
+    const QString text = box.lineText(line);
+    QList<LineProblem> problems;
+    for (const ProgramToken &token : tokensOf(text, m_analysis.words(), problems)) {
+        const bool isName = token.kind == TokenKind::Name || token.kind == TokenKind::Unknown;
+        if (isName && token.place.start <= caret && caret <= token.place.end())
+            return {typeOf(token.wordClass), text.mid(token.place.start, token.place.length)};
+    }
+    return {};
+}
+
+ProgramNavigation::NamedPoint ProgramNavigation::pointInTable() const
+{
+    const ResultPlace place = current();
+    if (!m_project || place.row < 0 || !isVocabularyType(place.type))
+        return {};
+    return {place.type, m_project->rows(place.type).value(place.row).name};
+}
+
+ProgramNavigation::NamedPoint ProgramNavigation::point() const
+{
+    return m_view.list().CurrentType() == dsCode ? pointInProgram() : pointInTable();
+}
+
+qsizetype ProgramNavigation::rowOf(const NamedPoint &point) const
+{
+    if (!m_project || point.type == dsCode)
+        return -1;
+    const QList<ProjectRow> &rows = m_project->rows(point.type);
+    const auto found = std::find_if(rows.cbegin(), rows.cend(), [&](const ProjectRow &row) {
+        return isSameWord(row.name, point.name);
+    });
+    return found == rows.cend() ? -1 : found - rows.cbegin();
+}
+
+QList<ShownUse> ProgramNavigation::usesOf(const NamedPoint &point) const
+{
+    QList<ShownUse> uses;
+    const RichTextBox &box = *m_view.list().RTextBox();
+    for (const UsePlace &use : m_analysis.usesOf(point.name))
+        uses.append({{use.line, use.place}, box.lineText(use.line - 1).trimmed()});
+    if (!m_project)
+        return uses;
+    for (const PointReference &at : referencesTo(*m_project, point.name))
+        uses.append(
+            {{.type = at.type, .row = at.row}, Localise(projectColumns(at.type)[at.column].key)});
+    return uses;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "ResultPlace.h"
+#include "project/analysis/ProgramTokens.h"
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+class QMenu;
+
+namespace ORVTListview {
+
+class CheckResults;
+class LiveAnalysis;
+class Project;
+class ProjectView;
+
+// The ways from a name of the program to its point, to its other uses, and back.
+class ProgramNavigation : public QObject
+{
+    Q_OBJECT
+
+public:
+    ProgramNavigation(ProjectView &view, LiveAnalysis &analysis, CheckResults &results,
+                      QObject *parent);
+
+    // The project must live until the next call. There is no way back to a former one.
+    void setProject(const Project *project);
+
+    void fillMenu(QMenu &menu);
+
+    // To a place of the program, or a row of a table; back() comes from there.
+    void goTo(const ResultPlace &place);
+
+Q_SIGNALS:
+    // The caret may have moved.
+    void moved();
+
+    // Why there is no way.
+    void told(const QString &text);
+
+private:
+    struct NamedPoint
+    {
+        LwType type = dsCode; // for none of the project
+        QString name;
+    };
+
+    void goToPoint();
+    void back();
+    void findUses();
+    void moveLines(qint32 behind, qint32 by);
+
+    void show(const ResultPlace &place);
+    void showLine(const ResultPlace &place);
+    void remember();
+    ResultPlace current() const;
+    NamedPoint pointInProgram() const;
+    NamedPoint pointInTable() const;
+    NamedPoint point() const;
+    qsizetype rowOf(const NamedPoint &point) const;
+    QList<ShownUse> usesOf(const NamedPoint &point) const;
+
+    ProjectView &m_view;
+    LiveAnalysis &m_analysis;
+    CheckResults &m_results;
+    const Project *m_project = nullptr;
+    QList<ResultPlace> m_former; // the last one is the next to go back to
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,149 @@
+#include "WorkbenchTest.h"
+
+#include "support/TestProgram.h"
+#include <ORVTListview/CodeView.h>
+
+#include <QtTest/QSignalSpy>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+class LiveAnalysisTest : public WidgetTest
+{
+    Q_OBJECT
+
+private:
+    // "1:7+4 tmep is not known"
+    static QString problems(WorkbenchWindow &workbench)
+    {
+        QStringList texts;
+        for (const Problem &problem : workbench.code().codeView()->problems())
+            texts.append(u"%1:%2+%3 %4"_s.arg(problem.line)
+                             .arg(problem.from)
+                             .arg(problem.length)
+                             .arg(problem.text));
+        return texts.join(u'|');
+    }
+
+private Q_SLOTS:
+    void problemsComeAndGoWithTheText()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.key(Qt::Key_End);
+        workbench.type(u" + tmep"_s);
+        QTRY_COMPARE(problems(workbench), u"1:12+4 tmep is not known"_s);
+        QVERIFY(!workbench.results().isVisible()); // unasked
+        QVERIFY(workbench.box().hasFocus());
+        QCOMPARE(workbench.box().SelStart(), 16);
+        for (int i = 0; i < 7; ++i)
+            workbench.key(Qt::Key_Backspace);
+        QTRY_COMPARE(problems(workbench), QString());
+    }
+
+    void nothingComesWhileKeysDo()
+    {
+        WorkbenchWindow workbench;
+        workbench.type(u"Fan1=3"_s);
+        QCOMPARE(problems(workbench), QString());
+        QTRY_COMPARE(problems(workbench), u"1:0+6 Blanks are missing in Fan1=3"_s);
+    }
+
+    void whatIsOpenedAndWhatIsUndoneIsAnalysed()
+    {
+        WorkbenchWindow workbench("Temp1 = 3");
+        QTRY_COMPARE(problems(workbench), u"1:0+5 Temp1 is an input, which no program can set"_s);
+        workbench.key(Qt::Key_End);
+        workbench.type(u" 4 "_s);
+        QTRY_COMPARE(workbench.code().codeView()->problems().size(), 2);
+        while (workbench.code().IsUndoAvailable())
+            workbench.key(Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(problems(workbench), u"1:0+5 Temp1 is an input, which no program can set"_s);
+        workbench.window.openProject(workbench.writeProject(u"two"_s, "CLEAR Temp1"));
+        QTRY_COMPARE(problems(workbench), u"1:6+5 Temp1 is no network variable input"_s);
+    }
+
+    void aNewNameIsKnownAtOnce()
+    {
+        WorkbenchWindow workbench("Fan1 = Temp9");
+        QTRY_COMPARE(problems(workbench), u"1:7+5 Temp9 is not known"_s);
+        workbench.window.showType(dsInput);
+        NextDialog<QMessageBox> asked(
+            [](QMessageBox &box) { box.button(QMessageBox::No)->click(); });
+        workbench.code().setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+        workbench.choose(u"Rename"_s);
+        QTest::keyClicks(QApplication::focusWidget(), u"Temp9"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QTRY_COMPARE(problems(workbench), QString());
+        QVERIFY(asked.wasThere());
+    }
+
+    void theListFollowsTheText()
+    {
+        WorkbenchWindow workbench("Fan1 = ON\nFan1 = tmep\nFan1 = tmep2");
+        workbench.key(Qt::Key_F6);
+        QCOMPARE(workbench.resultTexts(),
+                 u"Line 2: tmep is not known|Line 3: tmep2 is not known"_s);
+        workbench.results().setCurrentIndex(workbench.results().model()->index(1, 0));
+        workbench.key(Qt::Key_End);
+        workbench.key(Qt::Key_Return);
+        QCOMPARE(workbench.resultTexts(), // before the analysis
+                 u"Line 3: tmep is not known|Line 4: tmep2 is not known"_s);
+        workbench.type(u"tmep3"_s);
+        QTRY_COMPARE(workbench.resultTexts(),
+                     u"Line 2: tmep3 is not known|Line 3: tmep is not known|"
+                     "Line 4: tmep2 is not known"_s);
+        QCOMPARE(workbench.results().currentIndex().row(), 1);
+        QVERIFY(workbench.box().hasFocus());
+    }
+
+    void theListOfStatementsStays()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.key(Qt::Key_F6, Qt::ControlModifier);
+        workbench.key(Qt::Key_End);
+        workbench.type(u" tmep"_s);
+        QTRY_COMPARE(workbench.code().codeView()->problems().size(), 2);
+        QCOMPARE(workbench.resultTexts(), u"1 Fan1 = ON Assignment"_s);
+    }
+
+    void f8WalksThroughTheProblems()
+    {
+        WorkbenchWindow workbench("Fan1 = tmep\nIF Temp1 = 3\nENDIF");
+        QTRY_COMPARE(workbench.code().codeView()->problems().size(), 2);
+        workbench.key(Qt::Key_F8);
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 1, Col: 8"_s));
+        workbench.key(Qt::Key_F8);
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 2, Col: 10"_s));
+        workbench.key(Qt::Key_F8, Qt::ShiftModifier);
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 1, Col: 8"_s));
+    }
+
+    void problemsSpeakTheLanguageOfTheWindow()
+    {
+        WorkbenchWindow workbench("Fan1 = tmep");
+        QTRY_COMPARE(problems(workbench), u"1:7+4 tmep is not known"_s);
+        workbench.speak(QLocale(QLocale::German));
+        QCOMPARE(problems(workbench), u"1:7+4 tmep ist nicht bekannt"_s);
+        workbench.speak(QLocale(QLocale::English));
+        QCOMPARE(problems(workbench), u"1:7+4 tmep is not known"_s);
+    }
+
+    // The same problems are not shown anew, so that nothing flickers or is told twice.
+    void whatIsShownStays()
+    {
+        WorkbenchWindow workbench("Fan1 = tmep\n");
+        workbench.key(Qt::Key_F6);
+        QSignalSpy resets(workbench.results().model(), &QAbstractItemModel::modelReset);
+        workbench.key(Qt::Key_End, Qt::ControlModifier);
+        workbench.type(u"Fan1 = 3"_s);
+        QTest::qWait(0);
+        workbench.key(Qt::Key_F6);
+        QCOMPARE(resets.size(), 0);
+        QCOMPARE(workbench.resultTexts(), u"Line 1: tmep is not known"_s);
+    }
+};
+
+ORVT_TEST(LiveAnalysisTest)
+#include "LiveAnalysisTest.moc"
