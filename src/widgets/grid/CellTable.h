@@ -39,8 +39,12 @@ public:
     virtual void check(const ListItem *item, const QString &member) const = 0;
 
     // The row and the column are there.
-    virtual QString text(const ListItem &item, int column) const = 0;
+    virtual const QString &text(const ListItem &item, int column) const = 0;
     virtual void setText(ListItem &item, int column, const QString &text) = 0;
+
+    // What changes texts only: the views are told when it is done, of cells side by side at
+    // once. They may then end all this.
+    virtual void setTexts(const std::function<void()> &change) = 0;
 
     virtual int columns() const = 0;
     virtual QString columnKey(int column) const = 0;

@@ -59,9 +59,9 @@ void ReportCells::check(const ListItem *item, const QString &member) const
     GivenRow::heldOf(item, m_parts, member);
 }
 
-QString ReportCells::text(const ListItem &item, int column) const
+const QString &ReportCells::text(const ListItem &item, int column) const
 {
-    return column == 0 ? item.Text() : item.SubItem(column);
+    return m_parts.model.cellText(*rowOf(&item), column);
 }
 
 void ReportCells::setText(ListItem &item, int column, const QString &text)
@@ -70,6 +70,11 @@ void ReportCells::setText(ListItem &item, int column, const QString &text)
         item.setText(text);
     else
         item.setSubItem(column, text);
+}
+
+void ReportCells::setTexts(const std::function<void()> &change)
+{
+    m_parts.model.gather(change);
 }
 
 int ReportCells::columns() const

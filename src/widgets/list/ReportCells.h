@@ -17,8 +17,9 @@ public:
     QModelIndex placeOf(const ListItem *item, int column) const override;
     bool isThere(const ListItem *item, int column) const override;
     void check(const ListItem *item, const QString &member) const override;
-    QString text(const ListItem &item, int column) const override;
+    const QString &text(const ListItem &item, int column) const override;
     void setText(ListItem &item, int column, const QString &text) override;
+    void setTexts(const std::function<void()> &change) override;
     int columns() const override;
     QString columnKey(int column) const override;
     QString columnText(int column) const override;

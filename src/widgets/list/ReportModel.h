@@ -1,6 +1,7 @@
 #pragma once
 
 #include "widgets/grid/CellTable.h"
+#include "widgets/list/ChangedCells.h"
 #include "widgets/list/ReportRow.h"
 #include "widgets/view/Positions.h"
 
@@ -85,6 +86,10 @@ public:
     void setRows(QList<RowContent> contents);
     void appendRows(QList<RowContent> contents);
 
+    // Views are told of the cells that a change of texts touches when it is done, and of those
+    // that are side by side at once. What they tell others may end all this.
+    void gather(const std::function<void()> &change);
+
     const QString &cellText(const ReportRow &row, int column) const;
     static const QString &keyOf(const ReportRow &row) { return row.content.key; }
     static const QString &textOf(const ReportRow &row) { return row.content.text; }
@@ -149,6 +154,7 @@ private:
     static Rows rowsOf(QList<RowContent> contents);
     static Keys keysOf(const Rows &rows);
     void touch(const ReportRow &row, int column, const QList<int> &roles);
+    void tell(const QList<ChangedCells::Block> &blocks);
     void touchAll(int firstColumn, int lastColumn, const QList<int> &roles);
     void order(const Order &positions);
     void layOut(const std::function<void()> &change);
@@ -165,6 +171,7 @@ private:
     Entry m_entry;
     bool m_checkBoxes = false;
     int m_labelColumn = 0;
+    std::optional<ChangedCells> m_touched; // while they are gathered
 };
 
 } // namespace ORVTListview
