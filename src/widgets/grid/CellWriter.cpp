@@ -131,8 +131,15 @@ bool CellWriter::repeat(const QList<CellChange> &changes)
     const QPointer<CellWriter> self(this);
     const QList<CellChange> written = write(changes);
     if (self)
-        tell(written);
+        m_repeated.enqueue(written);
     return !written.isEmpty();
+}
+
+void CellWriter::tellRepeated()
+{
+    const QPointer<CellWriter> self(this);
+    while (self && !m_repeated.isEmpty())
+        tell(m_repeated.dequeue());
 }
 
 } // namespace ORVTListview
