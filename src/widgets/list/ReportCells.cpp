@@ -142,9 +142,9 @@ QList<ListItem *> ReportCells::insertRows(int position, const QList<ListItem *> 
     return addRows(m_parts, position, std::move(rows));
 }
 
-void ReportCells::removeRows(int position, int count)
+void ReportCells::removeShown(int place, int count)
 {
-    m_parts.removeRows(position, count);
+    m_parts.removeShown(place, count);
 }
 
 void ReportCells::moveRows(const QList<int> &positions, int step)
@@ -206,6 +206,31 @@ void ReportCells::setHeaderRoom(int above, int below)
 {
     if (ReportHeader *own = header())
         own->setRoom(above, below);
+}
+
+bool ReportCells::keepsColumns() const
+{
+    return m_parts.kept.isOn();
+}
+
+void ReportCells::setKeepsColumns(bool on)
+{
+    m_parts.kept.setOn(on);
+}
+
+int ReportCells::shift(int column) const
+{
+    return m_parts.kept.shift(column);
+}
+
+QRect ReportCells::keptArea() const
+{
+    return m_parts.kept.area();
+}
+
+int ReportCells::columnAt(int x) const
+{
+    return m_parts.view.horizontalHeader()->logicalIndexAt(x - m_parts.kept.shiftAt(x));
 }
 
 void ReportCells::setEdited(int column, bool edited)
