@@ -60,6 +60,7 @@ void PointCells::setOn(bool on)
     m_grid.setShowsLocalNumbers(on);
     m_grid.setFlashesChanges(on);
     m_grid.setArrangesColumns(on);
+    m_grid.setKeepsFirstColumns(on);
     m_grid.setHasMenu(on);
     m_list.setMultiSelect(on);
 }

@@ -9,6 +9,8 @@
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
 #include <QtCore/QTimer>
 
 namespace ORVTListview {
@@ -112,6 +114,8 @@ void ORVListView::ReInitializeStrings()
     threadPart<TextTable>().refresh();
     InitStrings();
     d->table->translateHeaders();
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(d->list, &change);
     FindDialog::initStrings();
     EditorBar::initStrings(d->editor->box());
     d->told.tell(*this);

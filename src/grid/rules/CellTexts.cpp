@@ -99,6 +99,12 @@ private:
     qsizetype m_place = 0;
 };
 
+QString htmlLines(const QString &text)
+{
+    QString html = text.toHtmlEscaped();
+    return html.replace(u"\r\n"_s, u"\n"_s).replace(u'\n', u"<br>"_s);
+}
+
 } // namespace
 
 QString tabbedText(const CellBlock &cells)
@@ -139,7 +145,7 @@ QString htmlTable(const CellBlock &cells, qsizetype heads)
         const QString tag = row < heads ? u"th"_s : u"td"_s;
         html += u"<tr>"_s;
         for (const QString &cell : cells.at(row))
-            html += u"<%1>"_s.arg(tag) + cell.toHtmlEscaped() + u"</%1>"_s.arg(tag);
+            html += u"<%1>"_s.arg(tag) + htmlLines(cell) + u"</%1>"_s.arg(tag);
         html += u"</tr>\n"_s;
     }
     return html + u"</table>\n"_s;

@@ -1,5 +1,9 @@
 #include "grid/rules/NaturalOrder.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
+
 namespace ORVTListview {
 namespace {
 
@@ -15,41 +19,86 @@ qsizetype endOfDigits(QStringView text, qsizetype from)
     return from;
 }
 
-// Digits as a number of any length: without zeros before them the longer one is larger.
-int comparedDigits(QStringView first, QStringView second)
+// Letter case taken away; texts of ASCII, as most are, without a look at any table.
+QString folded(QStringView text)
 {
-    while (first.size() > 1 && first.front() == u'0')
-        first = first.mid(1);
-    while (second.size() > 1 && second.front() == u'0')
-        second = second.mid(1);
-    if (first.size() != second.size())
-        return first.size() < second.size() ? -1 : 1;
-    return first.compare(second);
+    QString lower = text.toString();
+    if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c >= u'\u0080'; }))
+        return lower.toCaseFolded();
+    for (QChar &c : lower) {
+        if (c >= u'A' && c <= u'Z')
+            c = QChar(c.unicode() + ('a' - 'A'));
+    }
+    return lower;
 }
 
-int comparedTexts(QStringView first, QStringView second)
+// So that texts compare naturally unit by unit: digits that follow one another stand behind a
+// zero, which keeps their place among other letters, and their number, since without zeros
+// before them the longer number is larger.
+QString unitsOf(QStringView text)
 {
-    qsizetype i = 0;
-    qsizetype j = 0;
-    while (i < first.size() && j < second.size()) {
-        if (isDigit(first.at(i)) && isDigit(second.at(j))) {
-            const qsizetype firstEnd = endOfDigits(first, i);
-            const qsizetype secondEnd = endOfDigits(second, j);
-            if (const int order =
-                    comparedDigits(first.sliced(i, firstEnd - i), second.sliced(j, secondEnd - j)))
-                return order;
-            i = firstEnd;
-            j = secondEnd;
-        } else if (first.at(i) != second.at(j)) {
-            return first.at(i) < second.at(j) ? -1 : 1;
-        } else {
-            ++i;
-            ++j;
+    const QString lower = folded(text);
+    if (std::none_of(lower.cbegin(), lower.cend(), isDigit))
+        return lower;
+    QString units;
+    units.reserve(lower.size() + 8);
+    for (qsizetype i = 0; i < lower.size();) {
+        const qsizetype end = endOfDigits(lower, i);
+        if (end == i) {
+            units += lower.at(i++);
+            continue;
         }
+        while (i + 1 < end && lower.at(i) == u'0')
+            ++i;
+        units += u'0';
+        for (qsizetype left = end - i; left >= 0; left -= 0xFFFF)
+            units += QChar(static_cast<char16_t>(std::min<qsizetype>(left, 0xFFFF)));
+        units += QStringView(lower).sliced(i, end - i);
+        i = end;
     }
-    const qsizetype left = first.size() - i;
-    const qsizetype right = second.size() - j;
-    return left == right ? 0 : left < right ? -1 : 1;
+    return units;
+}
+
+// As whole numbers are, in the same order.
+quint64 ordered(double number)
+{
+    constexpr quint64 sign = quint64(1) << 63;
+    const auto bits = std::bit_cast<quint64>(number + 0.0); // for which there are two zeros
+    return (bits & sign) != 0 ? ~bits : bits | sign;
+}
+
+// Of what lengthOfNumber has measured. Exact as long as both parts of the fraction are; longer
+// numbers, which are few, take the toolkit's slow way.
+double valueOf(QStringView number)
+{
+    constexpr std::array tens{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                              1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    if (number.size() > 15)
+        return number.toDouble();
+    quint64 digits = 0;
+    std::size_t decimals = 0;
+    bool isBehindPoint = false;
+    for (const QChar c : number) {
+        if (isDigit(c)) {
+            digits = digits * 10 + (c.unicode() - u'0');
+            decimals += isBehindPoint ? 1 : 0;
+        }
+        isBehindPoint = isBehindPoint || c == u'.';
+    }
+    const double value = static_cast<double>(digits) / tens.at(decimals);
+    return number.front() == u'-' ? -value : value;
+}
+
+// "kW" or "VDC" right behind digits, but not "ndFan" of "2ndFan".
+bool isUnit(QStringView text)
+{
+    constexpr qsizetype longest = 4;
+    qsizetype end = 0;
+    while (end < text.size() && text.at(end).isLetter())
+        ++end;
+    const bool goesOn = end < text.size() &&
+                        (isDigit(text.at(end)) || text.at(end) == u'_' || text.at(end) == u'.');
+    return end > 0 && end <= longest && !goesOn;
 }
 
 } // namespace
@@ -65,9 +114,10 @@ qsizetype lengthOfNumber(QStringView text)
         end + 1 < text.size() && text.at(end) == u'.' && isDigit(text.at(end + 1));
     if (hasDecimals)
         end = endOfDigits(text, end + 1);
-    const bool isName = end < text.size() &&
-                        (text.at(end).isLetter() || text.at(end) == u'.' || text.at(end) == u'_');
-    return isName ? 0 : end;
+    if (end == text.size() || isUnit(text.sliced(end)))
+        return end;
+    const QChar next = text.at(end);
+    return next.isLetter() || next == u'.' || next == u'_' ? 0 : end;
 }
 
 NaturalKey::NaturalKey(const QString &text)
@@ -78,8 +128,8 @@ NaturalKey::NaturalKey(const QString &text)
     const qsizetype number = lengthOfNumber(seen);
     m_kind = number > 0 ? Number : Text;
     if (number > 0)
-        m_number = seen.first(number).toDouble();
-    m_folded = seen.sliced(number).toString().toCaseFolded();
+        m_number = valueOf(seen.first(number));
+    m_units = unitsOf(seen.sliced(number).trimmed());
     m_text = text;
 }
 
@@ -89,7 +139,24 @@ int NaturalKey::comparedMeanings(const NaturalKey &first, const NaturalKey &seco
         return first.m_kind < second.m_kind ? -1 : 1;
     if (first.m_number < second.m_number || first.m_number > second.m_number)
         return first.m_number < second.m_number ? -1 : 1;
-    return comparedTexts(first.m_folded, second.m_folded);
+    return first.m_units.compare(second.m_units);
+}
+
+qsizetype NaturalKey::sharedBegin(const NaturalKey &other) const
+{
+    const auto parting = std::mismatch(m_units.cbegin(), m_units.cend(), other.m_units.cbegin(),
+                                       other.m_units.cend());
+    return parting.first - m_units.cbegin();
+}
+
+NaturalKey::Rank NaturalKey::rank(qsizetype from) const
+{
+    if (m_kind == Number)
+        return {m_kind, ordered(m_number)};
+    quint64 units = 0;
+    for (qsizetype i = from; i < from + 4; ++i)
+        units = units << 16 | (i < m_units.size() ? m_units.at(i).unicode() : 0);
+    return {m_kind, units};
 }
 
 int NaturalKey::compared(const NaturalKey &first, const NaturalKey &second)

@@ -2,11 +2,15 @@
 
 #include <QtCore/QString>
 #include <QtCore/QStringView>
+#include <QtCore/QtGlobal>
+
+#include <compare>
 
 namespace ORVTListview {
 
-// How much of a text is a number that it begins with, decimals included; 0 for none. What
-// has letters or digits right behind it is the beginning of a name, as "2ndFan" or "3.4.5".
+// How much of a text is a number that it begins with, decimals included; 0 for none. Up to four
+// letters right behind it are its unit, as in "1.3kW"; more of them, and digits, make it the
+// beginning of a name, as "2ndFan" or "3.4.5".
 qsizetype lengthOfNumber(QStringView text);
 
 // A text as it is sorted, made once so that it is compared often. Numbers come first, by
@@ -26,14 +30,30 @@ public:
     // Whether they say the same: "21.50" and "21.5", "on" and "On".
     static bool isSame(const NaturalKey &first, const NaturalKey &second);
 
-private:
     enum Kind { Number, Text, Empty };
 
+    // What decides between most keys without a look at their texts: the one with the lower
+    // rank comes first; those of one rank are to be compared. Of texts it tells from a place
+    // on before which all that are ranked are alike.
+    struct Rank
+    {
+        Kind kind;
+        quint64 value;
+
+        friend auto operator<=>(const Rank &, const Rank &) = default;
+    };
+    Rank rank(qsizetype from) const;
+
+    // How far two texts are alike, as rank counts it.
+    qsizetype sharedBegin(const NaturalKey &other) const;
+    Kind kind() const { return m_kind; }
+
+private:
     static int comparedMeanings(const NaturalKey &first, const NaturalKey &second);
 
     Kind m_kind = Empty;
     double m_number = 0;
-    QString m_folded; // behind the number, or all of it
+    QString m_units; // what is behind the number, or all of it, made to be compared
     QString m_text;
 };
 

@@ -3,6 +3,8 @@
 #include "grid/rules/NaturalOrder.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace ORVTListview {
@@ -22,6 +24,62 @@ public:
         }
     }
 
+    // In their order, counted from 0.
+    std::vector<std::size_t> sorted() const
+    {
+        std::vector<Place> places = ranked();
+        std::sort(places.begin(), places.end(), [this](const Place &first, const Place &second) {
+            return first.rank != second.rank ? first.rank < second.rank
+                                             : isBefore(first.row, second.row);
+        });
+        std::vector<std::size_t> rows;
+        rows.reserve(places.size());
+        for (const Place &place : places)
+            rows.push_back(place.row);
+        return rows;
+    }
+
+private:
+    // A row by its first key.
+    struct Place
+    {
+        NaturalKey::Rank rank;
+        std::size_t row;
+    };
+
+    std::vector<Place> ranked() const
+    {
+        const auto count = static_cast<std::size_t>(m_keys.size());
+        const qsizetype shared = sharedBegin();
+        std::vector<Place> places;
+        places.reserve(m_naturals.size() / count);
+        for (std::size_t row = 0; row * count < m_naturals.size(); ++row) {
+            NaturalKey::Rank rank = m_naturals[row * count].rank(shared);
+            if (m_keys.first().isDescending && rank.kind != NaturalKey::Empty)
+                rank = {rank.kind == NaturalKey::Text ? NaturalKey::Number : NaturalKey::Text,
+                        ~rank.value};
+            places.push_back({rank, row});
+        }
+        return places;
+    }
+
+    // Of all texts by which rows are sorted first.
+    qsizetype sharedBegin() const
+    {
+        std::optional<qsizetype> shared;
+        const NaturalKey *text = nullptr;
+        const auto count = static_cast<std::size_t>(m_keys.size());
+        for (std::size_t i = 0; i < m_naturals.size() && shared != 0; i += count) {
+            if (m_naturals[i].kind() != NaturalKey::Text)
+                continue;
+            if (const NaturalKey *before = std::exchange(text, &m_naturals[i])) {
+                const qsizetype begin = before->sharedBegin(*text);
+                shared = std::min(begin, shared.value_or(begin));
+            }
+        }
+        return shared.value_or(0);
+    }
+
     bool isBefore(std::size_t first, std::size_t second) const
     {
         const auto count = static_cast<std::size_t>(m_keys.size());
@@ -35,7 +93,6 @@ public:
         return first < second;
     }
 
-private:
     static int compared(const NaturalKey &first, const NaturalKey &second, bool isDescending)
     {
         const int order = NaturalKey::compared(first, second);
@@ -53,15 +110,9 @@ QList<int> sortedRows(const QList<int> &rows, const QList<SortKey> &keys, const 
     if (keys.isEmpty())
         return rows;
     const RowKeys naturals(rows, keys, texts);
-    std::vector<std::size_t> places(static_cast<std::size_t>(rows.size()));
-    for (std::size_t place = 0; place < places.size(); ++place)
-        places[place] = place;
-    std::sort(places.begin(), places.end(), [&naturals](std::size_t first, std::size_t second) {
-        return naturals.isBefore(first, second);
-    });
     QList<int> sorted;
     sorted.reserve(rows.size());
-    for (const std::size_t place : places)
+    for (const std::size_t place : naturals.sorted())
         sorted.append(rows.at(static_cast<qsizetype>(place)));
     return sorted;
 }

@@ -66,10 +66,13 @@ void CellLook::dressState(QStyleOptionViewItem &cell, const QModelIndex &index) 
         return;
     const QStyle &style = *m_tools.view.style();
     const int side = style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &m_tools.view);
-    cell.features |= QStyleOptionViewItem::HasDecoration;
+    const int gap = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, &m_tools.view) + 1;
+    const bool hasOwn = cell.features.testFlag(QStyleOptionViewItem::HasDecoration);
     const auto group = m_tools.view.isEnabled() ? QPalette::Active : QPalette::Disabled;
-    cell.icon = statePicture(state, cell.palette.color(group, QPalette::HighlightedText));
-    cell.decorationSize = QSize(side, side);
+    const QIcon told = statePicture(state, cell.palette.color(group, QPalette::HighlightedText));
+    cell.icon = hasOwn ? besideOneAnother(cell.icon, told, cell.direction) : told;
+    cell.decorationSize = QSize(hasOwn ? 2 * (side + gap) : side, side);
+    cell.features |= QStyleOptionViewItem::HasDecoration;
     const QColor ink = stateInk(state, cell.palette);
     if (ink.isValid() && !index.data(Qt::ForegroundRole).isValid())
         cell.palette.setColor(QPalette::Text, ink);
@@ -77,8 +80,8 @@ void CellLook::dressState(QStyleOptionViewItem &cell, const QModelIndex &index) 
     const QString both = isRight ? u"%2  %1"_s : u"%1  %2"_s;
     const QString text =
         cell.text.isEmpty() ? stateWord(state) : both.arg(cell.text, stateWord(state));
-    const int gap = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, &m_tools.view) + 1;
-    if (cell.fontMetrics.horizontalAdvance(text) + side + 4 * gap <= cell.rect.width())
+    const int pictures = cell.decorationSize.width();
+    if (cell.fontMetrics.horizontalAdvance(text) + pictures + 4 * gap <= cell.rect.width())
         cell.text = text;
 }
 

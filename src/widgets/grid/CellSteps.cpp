@@ -29,7 +29,13 @@ struct StacksInUse
         std::function<void()> act;
     };
 
-    QHash<const QUndoStack *, QList<Later>> later;
+    struct Waiting
+    {
+        QList<Later> next;  // when the stack is done, though it still counts as used
+        QList<Later> later; // when the event loop comes to it
+    };
+
+    QHash<const QUndoStack *, Waiting> waiting;
 };
 
 class StackUse
@@ -40,26 +46,38 @@ public:
         , m_isOutermost(!isUsed(stack))
     {
         if (m_isOutermost)
-            threadPart<StacksInUse>().later.insert(stack, {});
+            threadPart<StacksInUse>().waiting.insert(stack, {});
     }
     ~StackUse()
     {
         if (!m_isOutermost)
             return;
-        for (const StacksInUse::Later &each : threadPart<StacksInUse>().later.take(m_stack)) {
+        auto &waiting = threadPart<StacksInUse>().waiting;
+        while (!waiting[m_stack].next.isEmpty()) {
+            const StacksInUse::Later next = waiting[m_stack].next.takeFirst();
+            if (next.context)
+                next.act();
+        }
+        for (const StacksInUse::Later &each : waiting.take(m_stack).later) {
             if (each.context)
                 QMetaObject::invokeMethod(each.context.data(), each.act, Qt::QueuedConnection);
         }
     }
     Q_DISABLE_COPY_MOVE(StackUse) // lasts for a block
 
+    bool isOutermost() const { return m_isOutermost; }
+
     static bool isUsed(const QUndoStack *stack)
     {
-        return threadPart<StacksInUse>().later.contains(stack);
+        return threadPart<StacksInUse>().waiting.contains(stack);
     }
     static void afterwards(const QUndoStack *stack, const StacksInUse::Later &later)
     {
-        threadPart<StacksInUse>().later[stack].append(later);
+        threadPart<StacksInUse>().waiting[stack].later.append(later);
+    }
+    static void next(const QUndoStack *stack, const StacksInUse::Later &next)
+    {
+        threadPart<StacksInUse>().waiting[stack].next.append(next);
     }
 
 private:
@@ -92,6 +110,25 @@ private:
     {
         const StackUse use(m_stack);
         setObsolete(!m_writer || !(m_writer.data()->*change)(m_changes));
+        if (m_writer)
+            tellSoon(use.isOutermost());
+    }
+
+    // Of a step that the host has asked for, the stack says when it is done.
+    void tellSoon(bool isHosts)
+    {
+        const auto tell = [writer = m_writer.data(), stack = m_stack] {
+            const StackUse use(stack);
+            writer->tellRepeated();
+        };
+        if (!isHosts) {
+            StackUse::next(m_stack, {m_writer.data(), tell});
+            return;
+        }
+        const auto onceOnly =
+            static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::SingleShotConnection);
+        QObject::connect(m_stack, &QUndoStack::indexChanged, m_writer.data(), tell, onceOnly);
+        QMetaObject::invokeMethod(m_writer.data(), tell, Qt::QueuedConnection);
     }
 
     const QPointer<CellWriter> m_writer;

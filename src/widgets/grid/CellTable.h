@@ -4,6 +4,7 @@
 
 #include <QtCore/QAbstractItemModel>
 #include <QtCore/QList>
+#include <QtCore/QRect>
 #include <QtCore/QString>
 
 #include <functional>
@@ -39,8 +40,12 @@ public:
     virtual void check(const ListItem *item, const QString &member) const = 0;
 
     // The row and the column are there.
-    virtual QString text(const ListItem &item, int column) const = 0;
+    virtual const QString &text(const ListItem &item, int column) const = 0;
     virtual void setText(ListItem &item, int column, const QString &text) = 0;
+
+    // What changes texts only: the views are told when it is done, of cells side by side at
+    // once. They may then end all this.
+    virtual void setTexts(const std::function<void()> &change) = 0;
 
     virtual int columns() const = 0;
     virtual QString columnKey(int column) const = 0;
@@ -66,7 +71,9 @@ public:
     // of another one, or empty for null, and without a key. What is told of it may take rows
     // away again, and end all this.
     virtual QList<ListItem *> insertRows(int position, const QList<ListItem *> &likes) = 0;
-    virtual void removeRows(int position, int count) = 0;
+
+    // That follow one another in the view.
+    virtual void removeShown(int place, int count) = 0;
 
     // All by one place, up (-1) or down (1), in ascending order. Not while isOrdered.
     virtual void moveRows(const QList<int> &positions, int step) = 0;
@@ -97,6 +104,16 @@ public:
 
     // Pixels that the header keeps free over its sections, and under them.
     virtual void setHeaderRoom(int above, int below) = 0;
+
+    // Whether the first two columns stay in sight while others are scrolled sideways; by how
+    // many pixels to the right a column is then seen, and which part of the viewport is theirs.
+    virtual bool keepsColumns() const = 0;
+    virtual void setKeepsColumns(bool on) = 0;
+    virtual int shift(int column) const = 0;
+    virtual QRect keptArea() const = 0;
+
+    // The one that is seen at a place of the header, or -1.
+    virtual int columnAt(int x) const = 0;
 
     // Whether the view may open an editor in a column, and tells screen readers so.
     virtual void setEdited(int column, bool edited) = 0;

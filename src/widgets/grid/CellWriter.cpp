@@ -92,6 +92,7 @@ void CellWriter::tell(QList<CellChange> changes) const
 QList<CellChange> CellWriter::changesOf(const QList<CellEntry> &entries) const
 {
     QList<CellChange> changes;
+    changes.reserve(entries.size());
     for (const CellEntry &entry : entries) {
         if (isThere(entry))
             changes.append({entry.item, static_cast<qint16>(entry.column),
@@ -103,18 +104,17 @@ QList<CellChange> CellWriter::changesOf(const QList<CellEntry> &entries) const
 // What there was to be done.
 QList<CellChange> CellWriter::write(const QList<CellChange> &changes)
 {
-    const QPointer<CellWriter> self(this);
     QList<CellChange> written;
-    for (const CellChange &change : changes) {
-        if (!self)
-            break;
-        const bool isThere = m_table.isThere(change.item, change.column);
-        if (!isThere || change.text == change.former ||
-            m_table.text(*change.item, change.column) != change.former)
-            continue;
-        m_table.setText(*change.item, change.column, change.text);
-        written.append(change);
-    }
+    m_table.setTexts([&] {
+        for (const CellChange &change : changes) {
+            const bool isThere = m_table.isThere(change.item, change.column);
+            if (!isThere || change.text == change.former ||
+                m_table.text(*change.item, change.column) != change.former)
+                continue;
+            m_table.setText(*change.item, change.column, change.text);
+            written.append(change);
+        }
+    });
     return written;
 }
 
@@ -131,8 +131,15 @@ bool CellWriter::repeat(const QList<CellChange> &changes)
     const QPointer<CellWriter> self(this);
     const QList<CellChange> written = write(changes);
     if (self)
-        tell(written);
+        m_repeated.enqueue(written);
     return !written.isEmpty();
+}
+
+void CellWriter::tellRepeated()
+{
+    const QPointer<CellWriter> self(this);
+    while (self && !m_repeated.isEmpty())
+        tell(m_repeated.dequeue());
 }
 
 } // namespace ORVTListview

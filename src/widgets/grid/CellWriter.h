@@ -8,6 +8,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QQueue>
 
 #include <functional>
 #include <optional>
@@ -48,10 +49,12 @@ public:
     // the host is still being asked.
     std::optional<QList<CellRefusal>> enter(const QList<CellEntry> &entries);
 
-    // Puts back what changes have changed, or does it again, and tells the host. What is
-    // gone or holds another text by now stays. False when nothing was changed.
+    // Puts back what changes have changed, or does it again. What is gone or holds another
+    // text by now stays. False when nothing was changed. The host is told by tellRepeated,
+    // since nobody may touch a stack that is within a step.
     bool revert(const QList<CellChange> &changes);
     bool repeat(const QList<CellChange> &changes);
+    void tellRepeated();
 
 private:
     QList<CellRefusal> ask(QList<CellEntry> &wanted);
@@ -66,6 +69,7 @@ private:
     const GridRules &m_rules;
     Host m_host;
     std::function<void(const QList<CellChange> &)> m_keep;
+    QQueue<QList<CellChange>> m_repeated; // and not told
     bool m_isAsking = false;
 };
 

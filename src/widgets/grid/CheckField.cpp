@@ -50,6 +50,13 @@ void CheckField::showWord()
     setText(cellChoices(m_rule).value(isChecked() ? 0 : 1));
 }
 
+void CheckField::changeEvent(QEvent *event)
+{
+    QCheckBox::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        showWord();
+}
+
 void CheckField::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Space || !choose(event->text()))

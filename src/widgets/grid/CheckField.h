@@ -24,6 +24,7 @@ public:
     bool choose(const QString &beginning);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -82,6 +82,9 @@ void FillHandle::refresh()
         return;
     const QRect place = placeOf(selected());
     const int corner = m_tools.view.isRightToLeft() ? place.left() : place.right();
+    const QRect kept = m_tools.table.keptArea();
+    const bool isKept = m_tools.table.shift(selected().columns.last()) != 0;
+    setVisible(isKept || kept.left() > corner || corner > kept.right());
     setGeometry(corner - handleSize / 2, place.bottom() - handleSize / 2, handleSize, handleSize);
     raise();
 }

@@ -220,10 +220,13 @@ void FilterFields::place()
             continue;
         const int height = field.line->sizeHint().height();
         const bool isAny = field.column == CellFilter::anyColumn;
-        const int left = isAny ? 0 : header.sectionViewportPosition(field.column);
+        const int shift = isAny ? 0 : m_tools.table.shift(field.column);
+        const int left = isAny ? 0 : header.sectionViewportPosition(field.column) + shift;
         const int width = isAny ? header.width() : header.sectionSize(field.column);
         field.line->setGeometry(left, isAny ? 0 : header.height() - height, width, height);
         field.line->setVisible(isAny || !header.isSectionHidden(field.column));
+        if (shift != 0) // those that are scrolled lie under it
+            field.line->raise();
     }
     if (!m_count)
         return;
@@ -295,9 +298,14 @@ void FilterFields::scrollTo(const Field &field)
     if (field.column == CellFilter::anyColumn || !isThere(field))
         return;
     const QHeaderView &header = *m_tools.view.horizontalHeader();
+    if (m_tools.table.shift(field.column) != 0)
+        return;
+    const QRect kept = m_tools.table.keptArea();
+    const int begin = header.isRightToLeft() ? 0 : kept.width();
+    const int end = header.viewport()->width() - (header.isRightToLeft() ? kept.width() : 0);
     const int left = header.sectionViewportPosition(field.column);
-    const int beyond = left + header.sectionSize(field.column) - header.viewport()->width();
-    const int by = left < 0 ? left : std::clamp(beyond, 0, left);
+    const int beyond = left + header.sectionSize(field.column) - end;
+    const int by = left < begin ? left - begin : std::clamp(beyond, 0, left - begin);
     QScrollBar &bar = *m_tools.view.horizontalScrollBar();
     if (by != 0 && m_tools.view.horizontalScrollMode() == QAbstractItemView::ScrollPerItem)
         bar.setValue(header.visualIndex(field.column));

@@ -40,6 +40,9 @@ public:
     // Filters, headers or rows are others.
     void refresh();
 
+    // Columns are elsewhere.
+    void place();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -59,7 +62,6 @@ private:
     void make();
     QLineEdit *makeField();
     QLineEdit *fieldForCount(const QSize &count) const;
-    void place();
     void useSoon(const QLineEdit *line);
     void use(const QLineEdit *line);
     void tellCount();

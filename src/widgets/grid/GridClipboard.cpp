@@ -82,7 +82,8 @@ bool GridClipboard::enterBlock(const CellBlock &copied, const QList<CellPlace> &
     const CellBlock cells = fittedBlock(copied, taken.rows.size(), taken.columns.size());
     if (cells.size() == taken.rows.size() && widthOf(cells) == taken.columns.size())
         return m_tools.edit.enter(entriesFor(cells, taken));
-    const Place next{selection.rowsFrom(first.row), selection.columnsFrom(first.column)};
+    const qsizetype most = std::max(cells.size(), taken.rows.size());
+    const Place next{selection.rowsFrom(first.row, most), selection.columnsFrom(first.column)};
     const bool isInOnePiece = next.rows.first(taken.rows.size()) == taken.rows &&
                               next.columns.first(taken.columns.size()) == taken.columns;
     if (!isInOnePiece || cells.size() > next.rows.size() || widthOf(cells) > next.columns.size())

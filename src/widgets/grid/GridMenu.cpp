@@ -48,7 +48,7 @@ bool GridMenu::eventFilter(QObject *watched, QEvent *event)
     const QModelIndex current = view.currentIndex();
     const bool isKey = asked.reason() == QContextMenuEvent::Keyboard;
     const QPoint atCell = view.viewport()->mapToGlobal(view.visualRect(current).center());
-    const int column = isHeader ? header->logicalIndexAt(asked.pos()) : current.column();
+    const int column = isHeader ? m_grid.table.columnAt(asked.pos().x()) : current.column();
     open(column, isHeader, isKey && current.isValid() ? atCell : asked.globalPos());
     return true;
 }

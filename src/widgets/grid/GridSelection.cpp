@@ -71,10 +71,11 @@ bool GridSelection::isSelected(CellPlace cell) const
     return m_view.selectionModel()->isSelected(m_view.model()->index(cell.row, cell.column));
 }
 
-QList<int> GridSelection::rowsFrom(int row) const
+QList<int> GridSelection::rowsFrom(int row, qsizetype most) const
 {
     QList<int> rows;
-    for (; row >= 0 && row < m_view.model()->rowCount(); ++row) {
+    const int end = m_view.model()->rowCount();
+    for (; row >= 0 && row < end && rows.size() < most; ++row) {
         if (!m_view.isRowHidden(row))
             rows.append(row);
     }

@@ -5,6 +5,7 @@
 #include <QtCore/QList>
 
 #include <functional>
+#include <limits>
 
 class QTableView;
 
@@ -42,8 +43,8 @@ public:
 
     bool isSelected(CellPlace cell) const;
 
-    // The rows or columns that are seen, from this one on.
-    QList<int> rowsFrom(int row) const;
+    // The rows or columns that are seen, from this one on; of rows no more than so many.
+    QList<int> rowsFrom(int row, qsizetype most = std::numeric_limits<qsizetype>::max()) const;
     QList<int> columnsFrom(int column) const;
 
     // The cells between two, which become the selection; where only one row may be selected

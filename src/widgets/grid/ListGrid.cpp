@@ -319,6 +319,20 @@ bool ListGrid::moveRowsDown()
     return d->rows.move(1);
 }
 
+bool ListGrid::keepsFirstColumns() const
+{
+    return d->table.keepsColumns();
+}
+
+void ListGrid::setKeepsFirstColumns(bool on)
+{
+    if (on == keepsFirstColumns())
+        return;
+    d->table.setKeepsColumns(on);
+    d->filters.place();
+    raiseEvent(*this, &ListGrid::keepsFirstColumnsChanged, on);
+}
+
 bool ListGrid::arrangesColumns() const
 {
     return d->columns.isOn();

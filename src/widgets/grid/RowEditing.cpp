@@ -143,28 +143,24 @@ bool RowEditing::remove()
     return alive && finish(Deed::Remove, places);
 }
 
-// From the last on, in as few notices as the view's order allows; each may take others away.
+// From the last on, in as few notices as there are gaps; each may take others away, or put
+// them elsewhere.
 void RowEditing::take(QList<ListItem *> items)
 {
     CellTable &table = m_tools.table;
-    items.removeIf([&](const ListItem *item) { return !table.isThere(item, 0); });
-    std::sort(items.begin(), items.end(), [&](const ListItem *one, const ListItem *other) {
-        return table.positionOf(*one) < table.positionOf(*other);
-    });
-    const auto isAt = [&](const ListItem *item, int position) {
-        return table.isThere(item, 0) && table.positionOf(*item) == position;
-    };
+    const auto place = [&](const ListItem *item) { return table.placeOf(item, 0).row(); };
     const QPointer<CellEdit> alive(&m_tools.edit);
+    std::sort(items.begin(), items.end(), [&](const ListItem *one, const ListItem *other) {
+        return place(one) < place(other);
+    });
     while (alive && !items.isEmpty()) {
-        const ListItem *last = items.takeLast();
-        if (!table.isThere(last, 0))
+        int first = place(items.takeLast());
+        if (first < 0)
             continue;
-        int first = table.positionOf(*last);
         const int end = first + 1;
-        for (; !table.isOrdered() && !items.isEmpty() && isAt(items.constLast(), first - 1);
-             --first)
+        for (; !items.isEmpty() && place(items.constLast()) == first - 1; --first)
             items.removeLast();
-        table.removeRows(first, end - first);
+        table.removeShown(first, end - first);
     }
 }
 

@@ -105,7 +105,37 @@ private:
     const QColor m_selected;
 };
 
+class PairEngine final : public QIconEngine
+{
+public:
+    PairEngine(const QIcon &left, const QIcon &right)
+        : m_left(left)
+        , m_right(right)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const QSize square(rect.height(), rect.height());
+        m_left.paint(painter, QRect(rect.topLeft(), square), Qt::AlignCenter, mode, state);
+        const QPoint second(rect.right() + 1 - square.width(), rect.top());
+        m_right.paint(painter, QRect(second, square), Qt::AlignCenter, mode, state);
+    }
+
+    QIconEngine *clone() const override { return new PairEngine(m_left, m_right); }
+
+private:
+    const QIcon m_left;
+    const QIcon m_right;
+};
+
 } // namespace
+
+QIcon besideOneAnother(const QIcon &first, const QIcon &second, Qt::LayoutDirection direction)
+{
+    const bool isTurned = direction == Qt::RightToLeft;
+    return QIcon(new PairEngine(isTurned ? second : first, isTurned ? first : second));
+}
 
 QIcon statePicture(CellState state, const QColor &selected)
 {

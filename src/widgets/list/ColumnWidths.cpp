@@ -131,8 +131,9 @@ QList<int> ColumnWidths::neededWidths()
         needed.append(neededForHeader(column));
     const Asked asked = askedByRows();
     for (int column = 0; column < needed.size(); ++column) {
-        const bool hasPictures = asked.hasStates.at(column) || (column == 0 && asked.hasPictures);
-        int beside = hasPictures ? pictureWidth() : 0;
+        int beside = asked.hasStates.at(column) ? pictureWidth() : 0;
+        if (column == 0 && asked.hasPictures)
+            beside += pictureWidth();
         if (column == 0 && m_model.hasCheckBoxes())
             beside += boxWidth();
         int cells = withMargin(asked.texts.at(column), margin) + beside;

@@ -59,9 +59,9 @@ void ReportCells::check(const ListItem *item, const QString &member) const
     GivenRow::heldOf(item, m_parts, member);
 }
 
-QString ReportCells::text(const ListItem &item, int column) const
+const QString &ReportCells::text(const ListItem &item, int column) const
 {
-    return column == 0 ? item.Text() : item.SubItem(column);
+    return m_parts.model.cellText(*rowOf(&item), column);
 }
 
 void ReportCells::setText(ListItem &item, int column, const QString &text)
@@ -70,6 +70,11 @@ void ReportCells::setText(ListItem &item, int column, const QString &text)
         item.setText(text);
     else
         item.setSubItem(column, text);
+}
+
+void ReportCells::setTexts(const std::function<void()> &change)
+{
+    m_parts.model.gather(change);
 }
 
 int ReportCells::columns() const
@@ -137,9 +142,9 @@ QList<ListItem *> ReportCells::insertRows(int position, const QList<ListItem *> 
     return addRows(m_parts, position, std::move(rows));
 }
 
-void ReportCells::removeRows(int position, int count)
+void ReportCells::removeShown(int place, int count)
 {
-    m_parts.removeRows(position, count);
+    m_parts.removeShown(place, count);
 }
 
 void ReportCells::moveRows(const QList<int> &positions, int step)
@@ -201,6 +206,31 @@ void ReportCells::setHeaderRoom(int above, int below)
 {
     if (ReportHeader *own = header())
         own->setRoom(above, below);
+}
+
+bool ReportCells::keepsColumns() const
+{
+    return m_parts.kept.isOn();
+}
+
+void ReportCells::setKeepsColumns(bool on)
+{
+    m_parts.kept.setOn(on);
+}
+
+int ReportCells::shift(int column) const
+{
+    return m_parts.kept.shift(column);
+}
+
+QRect ReportCells::keptArea() const
+{
+    return m_parts.kept.area();
+}
+
+int ReportCells::columnAt(int x) const
+{
+    return m_parts.view.horizontalHeader()->logicalIndexAt(x - m_parts.kept.shiftAt(x));
 }
 
 void ReportCells::setEdited(int column, bool edited)

@@ -17,8 +17,9 @@ public:
     QModelIndex placeOf(const ListItem *item, int column) const override;
     bool isThere(const ListItem *item, int column) const override;
     void check(const ListItem *item, const QString &member) const override;
-    QString text(const ListItem &item, int column) const override;
+    const QString &text(const ListItem &item, int column) const override;
     void setText(ListItem &item, int column, const QString &text) override;
+    void setTexts(const std::function<void()> &change) override;
     int columns() const override;
     QString columnKey(int column) const override;
     QString columnText(int column) const override;
@@ -30,7 +31,7 @@ public:
     const QString &textOf(int position, int column) const override;
     int positionOf(const ListItem &item) const override;
     QList<ListItem *> insertRows(int position, const QList<ListItem *> &likes) override;
-    void removeRows(int position, int count) override;
+    void removeShown(int place, int count) override;
     void moveRows(const QList<int> &positions, int step) override;
     void setUnseenFollower(const std::function<void()> &follow) override;
     bool isOrdered() const override;
@@ -41,6 +42,11 @@ public:
     bool isHeaderHeld() const override;
     bool hasHeaderRoom() const override;
     void setHeaderRoom(int above, int below) override;
+    bool keepsColumns() const override;
+    void setKeepsColumns(bool on) override;
+    int shift(int column) const override;
+    QRect keptArea() const override;
+    int columnAt(int x) const override;
     void setEdited(int column, bool edited) override;
     bool selectsCells() const override;
     void setSelectsCells(bool on) override;

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QStyleOption>
 
 namespace ORVTListview {
+
+class KeptColumns;
 
 // The header of a report list: says when a click is over and done with, so that a
 // receiver may do anything. Texts stand over those of the cells; one that its column
@@ -13,7 +16,7 @@ class ReportHeader final : public QHeaderView
     Q_OBJECT
 
 public:
-    explicit ReportHeader(QWidget *parent);
+    ReportHeader(QWidget *parent, const KeptColumns &kept);
 
     // Whether a shown column has room for a part of its text only.
     bool isElided(int column) const;
@@ -36,11 +39,16 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     bool viewportEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void paintSection(QPainter *painter, const QRect &rect, int column) const override;
     void initStyleOptionForIndex(QStyleOptionHeader *option, int column) const override;
     void updateGeometries() override;
 
 private:
+    int columnAt(QPoint place) const;
+    bool deliverShifted(QMouseEvent &event);
+    int keptDividerAt(int x) const;
+    bool actOnDivider(const QMouseEvent &event);
     QString text(int column) const;
     QRect roomForText(const QRect &section, int column) const;
 
@@ -49,6 +57,10 @@ private:
     void paintRank(QPainter &painter, QStyleOptionHeaderV2 option, const QRect &section,
                    int rank) const;
 
+    const QPointer<const KeptColumns> m_kept;
+    int m_pressedShift = 0;
+    int m_resized = -1; // a column that stays in sight, while the user resizes it
+    int m_beside = 0;   // how much wider it is than the place of the mouse says
     bool m_isHeld = false;
     bool m_isSecondClick = false;
     int m_above = 0;

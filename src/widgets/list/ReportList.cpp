@@ -12,6 +12,7 @@
 #include <ORVTListview/Error.h>
 
 #include <QtCore/QMimeData>
+#include <QtGui/QPaintEvent>
 #include <QtWidgets/QScrollBar>
 
 #include <algorithm>
@@ -26,7 +27,7 @@ ReportList::ReportList(QWidget *parent)
     : QTableView(parent)
     , d(std::make_unique<ReportListBody>(*this))
 {
-    setHorizontalHeader(new ReportHeader(this));
+    setHorizontalHeader(new ReportHeader(this, d->kept));
     QTableView::setModel(&d->model);
     const std::unique_ptr<QItemSelectionModel> itsOwn(selectionModel());
     setSelectionModel(&d->rowChoice.selection());
@@ -116,6 +117,38 @@ void ReportList::setUpConnections()
         addNames(*this, d->model, places, rows);
     });
     relayDrags(&d->surface.drag(), this);
+}
+
+// Where columns are that stay in sight.
+
+QRect ReportList::visualRect(const QModelIndex &index) const
+{
+    const QRect place = QTableView::visualRect(index);
+    return place.isEmpty() ? place : place.translated(d->kept.shift(index.column()), 0);
+}
+
+QModelIndex ReportList::indexAt(const QPoint &place) const
+{
+    return QTableView::indexAt(place - QPoint(d->kept.shiftAt(place.x()), 0));
+}
+
+// One that is always in sight is not scrolled to sideways.
+void ReportList::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    const bool isKept = d->kept.columns().contains(index.column());
+    const int offset = horizontalScrollBar()->value();
+    QTableView::scrollTo(index, hint);
+    if (isKept)
+        horizontalScrollBar()->setValue(offset);
+    else
+        d->kept.uncover(index);
+}
+
+void ReportList::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (d->kept.isOn())
+        d->kept.paint(event->region());
 }
 
 void ReportList::updateRowHeight()

@@ -46,6 +46,8 @@ bool ReportList::event(QEvent *event)
             updateRowHeight();
         else if (type == QEvent::Show)
             d->rowChoice.viewShown();
+        else if (type == QEvent::LanguageChange)
+            d->model.retellStates();
         return handled;
     });
 }
@@ -69,6 +71,10 @@ void ReportList::scrollContentsBy(int dx, int dy)
 {
     d->clicks.slow().stop();
     QTableView::scrollContentsBy(dx, dy);
+    if (dx == 0 || !d->kept.isOn())
+        return;
+    updateEditorGeometries();
+    d->kept.refresh();
 }
 
 void ReportList::focusInEvent(QFocusEvent *event)

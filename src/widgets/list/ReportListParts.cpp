@@ -75,15 +75,21 @@ void ReportListParts::setHidden(ReportRow &row, bool hidden)
         view.setRowHidden(place, hidden);
 }
 
-void ReportListParts::removeRows(int position, int count)
+void ReportListParts::removeRow(int position)
 {
     const StillView still(view);
     const bool isUnseen = model.isOrdered() && model.placeOf(model.row(position)) < 0;
     if (isUnseen) // nobody is told
         rowChoice.setSelected(model.row(position), false);
-    model.deleteRows(position, count);
+    model.deleteRow(position);
     if (isUnseen && unseenFollower)
         unseenFollower();
+}
+
+void ReportListParts::removeShown(int place, int count)
+{
+    const StillView still(view);
+    model.deleteShown(place, count);
 }
 
 void ReportListParts::clearRows()

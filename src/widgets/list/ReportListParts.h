@@ -1,6 +1,7 @@
 #pragma once
 
 #include "widgets/list/ColumnWidths.h"
+#include "widgets/list/KeptColumns.h"
 #include "widgets/list/ReportModel.h"
 #include "widgets/list/RowChoice.h"
 #include "widgets/view/HandleStore.h"
@@ -23,13 +24,14 @@ struct ReportListParts
         : view(shownBy)
         , rowChoice(shownBy, model)
         , widths(shownBy, model)
+        , kept(shownBy)
     {
     }
     Q_DISABLE_COPY_MOVE(ReportListParts) // the parts know one another
 
     // None of these scrolls the view to another current cell.
-    void removeRow(int position) { removeRows(position, 1); }
-    void removeRows(int position, int count); // several only of rows in their own order
+    void removeRow(int position);
+    void removeShown(int place, int count);
     void clearRows();
     void removeColumn(int position);
     void clearColumns();
@@ -47,6 +49,7 @@ struct ReportListParts
     ReportModel model;
     RowChoice rowChoice;
     ColumnWidths widths;
+    KeptColumns kept;
     std::function<void()> unseenFollower; // told when a row that the view does not have goes
 };
 

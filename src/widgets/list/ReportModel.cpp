@@ -4,6 +4,8 @@
 #include "shared/texts/TextTable.h"
 #include <ORVTListview/Error.h>
 
+#include <QtCore/QScopedValueRollback>
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -160,7 +162,7 @@ ReportRow &ReportModel::addRow(int position, RowContent content)
 void ReportModel::addRows(int position, Rows rows)
 {
     const int place = m_isOrdered ? rowCount() : position;
-    beginInsertRows({}, place, place + static_cast<int>(rows.size()) - 1);
+    announce([&] { beginInsertRows({}, place, place + static_cast<int>(rows.size()) - 1); });
     for (const std::unique_ptr<ReportRow> &row : rows) {
         if (m_isOrdered)
             m_shown.push_back(row.get());
@@ -173,21 +175,55 @@ void ReportModel::addRows(int position, Rows rows)
     endInsertRows();
 }
 
-void ReportModel::deleteRows(int position, int count)
+void ReportModel::deleteRow(int position)
 {
-    const int place = m_isOrdered ? placeOf(row(position)) : position;
-    if (place >= 0)
-        beginRemoveRows({}, place, place + count - 1);
-    if (place >= 0 && m_isOrdered) {
-        m_shown.erase(m_shown.begin() + place);
+    const int place = placeOf(row(position));
+    if (place >= 0) {
+        deleteShown(place, 1);
+        return;
+    }
+    m_keys.remove(row(position).content.key);
+    m_rows.erase(m_rows.begin() + position);
+    m_positions.forgetFrom(position);
+}
+
+void ReportModel::deleteShown(int place, int count)
+{
+    announce([&] { beginRemoveRows({}, place, place + count - 1); });
+    takeShown(place, count);
+    endRemoveRows();
+}
+
+// In one pass, however far apart they are among all.
+void ReportModel::takeShown(int place, int count)
+{
+    int first = rows();
+    int last = -1;
+    for (int gone = place; gone < place + count; ++gone) {
+        ReportRow &going = rowAt(gone);
+        going.isGoing = true;
+        m_keys.remove(going.content.key);
+        first = std::min(first, positionOf(going));
+        last = std::max(last, positionOf(going));
+    }
+    if (m_isOrdered) {
+        m_shown.erase(m_shown.begin() + place, m_shown.begin() + place + count);
         m_places.forgetFrom(place);
     }
-    for (int gone = position; gone < position + count; ++gone)
-        m_keys.remove(row(gone).content.key);
-    m_rows.erase(m_rows.begin() + position, m_rows.begin() + position + count);
-    m_positions.forgetFrom(position);
-    if (place >= 0)
-        endRemoveRows();
+    const auto end = m_rows.begin() + last + 1;
+    m_rows.erase(
+        std::remove_if(m_rows.begin() + first, end, [](const auto &row) { return row->isGoing; }),
+        end);
+    m_positions.forgetFrom(first);
+}
+
+void ReportModel::announce(const std::function<void()> &begin)
+{
+    if (m_isAnnouncing)
+        throw Error(InvalidCall, u"ReportList"_s,
+                    u"Another change of rows or columns is about to come"_s);
+    const QScopedValueRollback announcing(m_isAnnouncing, true);
+    begin();
 }
 
 ReportModel::Rows ReportModel::rowsOf(QList<RowContent> contents)
@@ -219,7 +255,7 @@ void ReportModel::setRows(QList<RowContent> contents)
 {
     Rows rows = rowsOf(std::move(contents));
     Keys keys = keysOf(rows);
-    beginResetModel();
+    announce([&] { beginResetModel(); });
     m_rows = std::move(rows);
     m_keys = std::move(keys);
     m_positions.forgetFrom(0);

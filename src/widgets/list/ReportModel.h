@@ -1,6 +1,7 @@
 #pragma once
 
 #include "widgets/grid/CellTable.h"
+#include "widgets/list/ChangedCells.h"
 #include "widgets/list/ReportRow.h"
 #include "widgets/view/Positions.h"
 
@@ -74,16 +75,21 @@ public:
     using Rows = std::vector<std::unique_ptr<ReportRow>>;
     ReportRow &addRow(int position, RowContent content);
     void addRows(int position, Rows rows);
-    void deleteRow(int position) { deleteRows(position, 1); }
+    void deleteRow(int position);
 
-    // Only while views have all rows in their own order: several that follow one another,
-    // and, in ascending order, all by one place.
-    void deleteRows(int position, int count);
+    // That follow one another in the views.
+    void deleteShown(int place, int count);
+
+    // In ascending order, all by one place; only while views have all rows in their own order.
     void moveRows(const QList<int> &positions, int step);
 
     // Both raise Error (InvalidCall) when a key is used twice and then change nothing.
     void setRows(QList<RowContent> contents);
     void appendRows(QList<RowContent> contents);
+
+    // Views are told of the cells that a change of texts touches when it is done, and of those
+    // that are side by side at once. What they tell others may end all this.
+    void gather(const std::function<void()> &change);
 
     const QString &cellText(const ReportRow &row, int column) const;
     static const QString &keyOf(const ReportRow &row) { return row.content.key; }
@@ -103,6 +109,9 @@ public:
         return static_cast<CellState>(row.states.size() > column ? row.states.at(column) : 0);
     }
     void setState(ReportRow &row, int column, CellState state);
+
+    // The words of states are others by now.
+    void retellStates() { touchAll(0, columns() - 1, {Qt::ToolTipRole, Qt::AccessibleTextRole}); }
 
     // Columns.
     int columns() const { return static_cast<int>(m_columns.size()); }
@@ -146,9 +155,15 @@ Q_SIGNALS:
 private:
     using Keys = QHash<QString, ReportRow *>;
 
+    // Begins a change: who is told that it is about to come cannot make another one within
+    // it, which raises Error (InvalidCall).
+    void announce(const std::function<void()> &begin);
+
     static Rows rowsOf(QList<RowContent> contents);
     static Keys keysOf(const Rows &rows);
+    void takeShown(int place, int count);
     void touch(const ReportRow &row, int column, const QList<int> &roles);
+    void tell(const QList<ChangedCells::Block> &blocks);
     void touchAll(int firstColumn, int lastColumn, const QList<int> &roles);
     void order(const Order &positions);
     void layOut(const std::function<void()> &change);
@@ -163,8 +178,10 @@ private:
     std::vector<std::unique_ptr<ReportColumn>> m_columns;
     PictureProvider m_pictures;
     Entry m_entry;
+    bool m_isAnnouncing = false;
     bool m_checkBoxes = false;
     int m_labelColumn = 0;
+    std::optional<ChangedCells> m_touched; // while they are gathered
 };
 
 } // namespace ORVTListview

@@ -1,6 +1,10 @@
 #include "widgets/list/ReportModel.h"
 
+#include <QtCore/QPersistentModelIndex>
+#include <QtCore/QPointer>
+
 #include <algorithm>
+#include <utility>
 
 namespace ORVTListview {
 namespace {
@@ -30,8 +34,42 @@ void ReportModel::touch(const ReportRow &row, int column, const QList<int> &role
     if (column >= columns())
         return;
     const QModelIndex changed = indexOf(row, column);
-    if (changed.isValid())
+    if (changed.isValid() && m_touched)
+        m_touched->add(changed.row(), column);
+    else if (changed.isValid())
         Q_EMIT dataChanged(changed, changed, roles);
+}
+
+void ReportModel::gather(const std::function<void()> &change)
+{
+    m_touched.emplace();
+    change();
+    const QList<ChangedCells::Block> blocks = m_touched->take();
+    m_touched.reset();
+    tell(blocks);
+}
+
+// Whom it is told may change rows and columns, after which nobody knows what a block was.
+void ReportModel::tell(const QList<ChangedCells::Block> &blocks)
+{
+    using Corner = QPersistentModelIndex;
+    QList<std::pair<Corner, Corner>> corners;
+    for (const ChangedCells::Block &block : blocks)
+        corners.append(
+            {Corner(index(block.top, block.left)), Corner(index(block.bottom, block.right))});
+    const QPointer<ReportModel> self(this);
+    for (qsizetype i = 0; self && i < blocks.size(); ++i) {
+        const auto &[first, last] = corners.at(i);
+        const ChangedCells::Block &block = blocks.at(i);
+        const bool isWhole = first.isValid() && last.isValid() &&
+                             last.row() - first.row() == block.bottom - block.top &&
+                             last.column() - first.column() == block.right - block.left;
+        if (!isWhole) {
+            touchAll(0, columns() - 1, {Qt::DisplayRole, Qt::EditRole});
+            return;
+        }
+        Q_EMIT dataChanged(first, last, {Qt::DisplayRole, Qt::EditRole});
+    }
 }
 
 void ReportModel::touchAll(int firstColumn, int lastColumn, const QList<int> &roles)

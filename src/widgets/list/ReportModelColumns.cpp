@@ -23,7 +23,7 @@ int ReportModel::positionOf(const ReportColumn &column) const
 ReportColumn &ReportModel::addColumn(int position, const QString &key, const QString &text,
                                      Qt::Alignment alignment)
 {
-    beginInsertColumns({}, position, position);
+    announce([&] { beginInsertColumns({}, position, position); });
     m_columns.insert(m_columns.begin() + position,
                      std::make_unique<ReportColumn>(key, text, alignment));
     endInsertColumns();
@@ -33,7 +33,7 @@ ReportColumn &ReportModel::addColumn(int position, const QString &key, const QSt
 
 void ReportModel::deleteColumn(int position)
 {
-    beginRemoveColumns({}, position, position);
+    announce([&] { beginRemoveColumns({}, position, position); });
     m_columns.erase(m_columns.begin() + position);
     endRemoveColumns();
     touchAll(position, columns() - 1, {});
@@ -43,7 +43,7 @@ void ReportModel::clearColumns()
 {
     if (m_columns.empty())
         return;
-    beginRemoveColumns({}, 0, columns() - 1);
+    announce([&] { beginRemoveColumns({}, 0, columns() - 1); });
     m_columns.clear();
     endRemoveColumns();
 }

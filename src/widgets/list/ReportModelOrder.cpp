@@ -49,7 +49,7 @@ void ReportModel::moveRows(const QList<int> &positions, int step)
 
 void ReportModel::layOut(const std::function<void()> &change)
 {
-    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    announce([&] { Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint); });
     const QModelIndexList before = persistentIndexList();
     QList<const ReportRow *> rows;
     rows.reserve(before.size());

@@ -22,6 +22,7 @@ struct ReportRow
     int place = 0;         // likewise, placeOf
     bool selected = false; // RowSelection's
     bool isHidden = false; // by the host, while views do not have it
+    bool isGoing = false;  // ReportModel's, while it takes rows away
     QByteArray states;     // of cells, by position: a CellState each; may be shorter
     HandedOut *handle = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include "widgets/input/FieldMenu.h"
 #include "widgets/look/CellText.h"
+#include "widgets/view/PlainCell.h"
 
 #include <QtCore/QMetaProperty>
 #include <QtGui/QKeyEvent>
@@ -30,7 +31,7 @@ void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     cell.state &= ~QStyle::State_HasFocus;
     initStyleOption(&cell, index);
     cell.text = beginningOf(cell.text, lettersWithin(cell.rect.width()));
-    cell.widget->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    drawCell(*painter, cell);
     if (!option.state.testFlag(QStyle::State_HasFocus))
         return;
     const bool selected = option.state.testFlag(QStyle::State_Selected);

@@ -51,6 +51,13 @@ TEST(CellTexts, HeadsOfATableAreHeads)
               u"<table>\n<tr><th>A&amp;B</th></tr>\n<tr><td>&lt;1&gt;</td></tr>\n</table>\n"_s);
 }
 
+// Which else would be blanks there.
+TEST(CellTexts, LinesOfACellAreLinesInATable)
+{
+    EXPECT_EQ(htmlTable({{u"a\nb\r\n<c>"_s}}, 0),
+              u"<table>\n<tr><td>a<br>b<br>&lt;c&gt;</td></tr>\n</table>\n"_s);
+}
+
 TEST(CellTexts, ABlockFillsAPlaceThatItFitsSeveralTimes)
 {
     const CellBlock block{{u"a"_s, u"b"_s}};

@@ -41,8 +41,51 @@ TEST(NaturalOrder, NumbersComeByTheirValue)
 {
     EXPECT_EQ(sortedTexts({u"21.5"_s, u"-3"_s, u"100"_s, u"9"_s, u"-10"_s, u"+2"_s, u"0.5"_s}),
               u"-10|-3|0.5|+2|9|21.5|100"_s);
+    EXPECT_EQ(sortedTexts({u"0.30000000000000004"_s, u"0.3"_s, u"0.29999999999999999"_s,
+                           u"12345678901234567"_s, u"12345678901234"_s, u"-0.0"_s, u"-0.01"_s}),
+              u"-0.01|-0.0|0.29999999999999999|0.3|0.30000000000000004|12345678901234|"
+              "12345678901234567"_s);
     EXPECT_EQ(sortedTexts({u"100 °C"_s, u"21.5 °C"_s, u"21.5 K"_s, u"3 %"_s, u"3"_s}),
               u"3|3 %|21.5 K|21.5 °C|100 °C"_s);
+}
+
+TEST(NaturalOrder, AUnitMayStandRightBehindItsNumber)
+{
+    EXPECT_EQ(sortedTexts({u"10kW"_s, u"1.3kW"_s, u"2 kW"_s, u"-4.5kWh/m²"_s, u"24VDC"_s}),
+              u"-4.5kWh/m²|1.3kW|2 kW|10kW|24VDC"_s);
+    EXPECT_EQ(lengthOfNumber(u"1.3kW"), 3);
+    for (const QStringView name : {u"2ndFan", u"3.4.5", u"4a7", u"5_a", u"6a_b", u"7a.b"})
+        EXPECT_EQ(lengthOfNumber(name), 0) << name.toString().toStdString();
+    EXPECT_TRUE(NaturalKey::isSame(NaturalKey(u"1.3kW"_s), NaturalKey(u"1.30 kW"_s)));
+}
+
+// What decides between most texts at once agrees with what compares them as a whole.
+TEST(NaturalOrder, RowsAreSortedAsTheirTextsCompare)
+{
+    const QStringList parts{u""_s,  u"0"_s, u"7"_s, u"12"_s,      u"120"_s,
+                            u"a"_s, u"B"_s, u"ä"_s, u"Supply "_s, u"Supply Air "_s,
+                            u"."_s, u"-"_s, u" "_s, u"\uffff"_s};
+    QStringList texts;
+    for (const QString &first : parts) {
+        for (const QString &second : parts) {
+            for (const QString &third : parts)
+                texts.append(first + second + third);
+        }
+    }
+    for (const QStringList &some : {texts, texts.filter(u"Supply Air "_s), QStringList{u"a"_s}}) {
+        for (const bool isDescending : {false, true}) {
+            QStringList expected = some;
+            std::stable_sort(expected.begin(), expected.end(),
+                             [&](const QString &one, const QString &other) {
+                                 const NaturalKey first(one);
+                                 const NaturalKey second(other);
+                                 if (first.isEmpty() || second.isEmpty() || !isDescending)
+                                     return NaturalKey::compared(first, second) < 0;
+                                 return NaturalKey::compared(second, first) < 0;
+                             });
+            EXPECT_EQ(sortedTexts(some, isDescending), expected.join(u'|'));
+        }
+    }
 }
 
 TEST(NaturalOrder, NumbersStandBeforeNamesAndNothingComesLast)

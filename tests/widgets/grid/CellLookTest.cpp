@@ -1,10 +1,15 @@
+#include "support/PseudoTexts.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/grid/GridFixture.h"
 #include <ORVTListview/ListItem.h>
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/TextProvider.h>
 
+#include <QtCore/QScopeGuard>
 #include <QtGui/QAccessible>
 #include <QtGui/QHelpEvent>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QtTest>
 #include <QtWidgets/QProxyStyle>
 
@@ -117,6 +122,75 @@ private Q_SLOTS:
         shown->setColumnWidth(1, 200);
         const int word = shown->fontMetrics().horizontalAdvance(u"By hand"_s);
         QVERIFY(inkOf(shown.picture(1, 1)).second > narrow + word / 2);
+    }
+
+    void aRowKeepsItsPictureBesideItsState()
+    {
+        QPixmap red(16, 16);
+        red.fill(Qt::red);
+        PaintedGrid shown;
+        shown->setPictureProvider([&red](const QString &) { return QIcon(red); });
+        const auto reds = [&shown] {
+            const QImage image = shown.picture(1, 0);
+            int first = -1;
+            int count = 0;
+            for (int x = 0; x < image.width(); ++x) {
+                for (int y = 0; y < image.height(); ++y) {
+                    const bool isRed = image.pixelColor(x, y) == Qt::red;
+                    first = isRed && first < 0 ? x : first;
+                    count += isRed ? 1 : 0;
+                }
+            }
+            return std::pair(first, count);
+        };
+        shown.item(1)->setPictureKey(u"red"_s);
+        shown->fitColumns();
+        const int fitting = shown->columnWidth(0);
+        const QImage without = shown.picture(1, 0);
+        const std::pair own = reds();
+        QCOMPARE(own.second, 16 * 16);
+        shown.grid->setCellState(shown.item(1), 0, CellState::Manual);
+        shown->fitColumns();
+        QCOMPARE(reds(), own);
+        QVERIFY(shown->columnWidth(0) >= fitting + 16);
+        const QRect behind(own.first + 16, 0, 24, without.height());
+        QVERIFY(shown.picture(1, 0).copy(behind) != without.copy(behind)); // the state's
+        shown->setLayoutDirection(Qt::RightToLeft);
+        QCOMPARE(reds().first, shown->columnWidth(0) - own.first - 16);
+    }
+
+    void wordsFollowTheLanguage()
+    {
+        PaintedGrid shown;
+        shown.set(1, 1, u"x"_s);
+        shown->setColumnWidth(1, 200);
+        shown.grid->setCellState(shown.item(1), 1, CellState::Manual);
+        shown.goTo(2, 4);
+        shown.key(Qt::Key_F2);
+        const auto *box = shown.field<QCheckBox>();
+        QVERIFY(box);
+        QCOMPARE(box->text(), u"No"_s);
+        QSignalSpy changed(shown->model(), &QAbstractItemModel::dataChanged);
+        const QImage english = shown.picture(1, 1);
+        PseudoTexts pseudo;
+        const auto former = qScopeGuard([] { setTextProvider(nullptr); });
+        setTextProvider(&pseudo);
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&shown.form, &change);
+        QCOMPARE(shown.spoken(1, 1), u"x, "_s + PseudoTexts::inBrackets(u"By hand"_s));
+        QVERIFY(shown.picture(1, 1) != english);
+        QCOMPARE(box->text(), PseudoTexts::inBrackets(u"No"_s));
+        QVERIFY(!changed.isEmpty()); // for who has been told of the words
+    }
+
+    void aPointTableTellsItsCellsOfAnotherLanguage()
+    {
+        ORVListView table;
+        table.setListviewType(dsInput);
+        table.listView()->grid()->setCellState(table.ListItems()->Item(1), 1, CellState::Old);
+        QSignalSpy changed(table.listView()->model(), &QAbstractItemModel::dataChanged);
+        table.ReInitializeStrings();
+        QVERIFY(!changed.isEmpty());
     }
 
     void aStateStaysWithItsRow()

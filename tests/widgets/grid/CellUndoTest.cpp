@@ -238,6 +238,75 @@ private Q_SLOTS:
         QCOMPARE(shown.grid->undoStack()->count(), deed == u"enter"_s ? 2 : 1);
     }
 
+    void aHostMayChangeItsStackWhenItIsTold_data()
+    {
+        QTest::addColumn<QString>("deed");
+        QTest::addColumn<bool>("isKey");
+        for (const char *deed : {"clear", "push", "undo", "redo"}) {
+            QTest::addRow("%s, by key", deed) << deed << true;
+            QTest::addRow("%s, by the host", deed) << deed << false;
+        }
+        QTest::newRow("destroy, by key") << u"destroy"_s << true;
+    }
+    void aHostMayChangeItsStackWhenItIsTold()
+    {
+        QFETCH(const QString, deed);
+        QFETCH(const bool, isKey);
+        QPointer<QUndoStack> stack(new QUndoStack(this));
+        ShownGrid shown;
+        shown.grid->setUndoStack(stack);
+        for (const QString &text : {u"1"_s, u"2"_s, u"3"_s})
+            QVERIFY(shown.grid->enterText(shown.item(1), 2, text));
+        shown.goTo(1, 2);
+        int told = 0;
+        connect(shown.grid, &ListGrid::cellsChanged, this, [&, isFirst = true]() mutable {
+            ++told;
+            if (!std::exchange(isFirst, false))
+                return;
+            if (deed == u"clear"_s)
+                stack->clear();
+            else if (deed == u"push"_s)
+                stack->push(new QUndoCommand(u"the host's"_s));
+            else if (deed == u"destroy"_s)
+                delete stack.data();
+            else if (deed == u"undo"_s)
+                stack->undo();
+            else
+                stack->redo();
+        });
+        if (isKey)
+            shown.key(Qt::Key_Z, Qt::ControlModifier);
+        else
+            stack->undo();
+        const bool isTwice = deed == u"undo"_s || deed == u"redo"_s;
+        QCOMPARE(told, isTwice ? 2 : 1);
+        QCOMPARE(shown.text(1, 2), deed == u"undo"_s   ? u"1"_s
+                                   : deed == u"redo"_s ? u"3"_s
+                                                       : u"2"_s);
+        if (deed == u"destroy"_s)
+            QVERIFY(!stack);
+        else
+            QCOMPARE(stack->count(), deed == u"clear"_s ? 0 : 3);
+        QCoreApplication::processEvents();
+        QCOMPARE(told, isTwice ? 2 : 1);
+        QVERIFY(shown.grid->enterText(shown.item(1), 2, u"9"_s));
+        QVERIFY(shown.grid->undoStack()->canUndo());
+    }
+
+    void aMacroIsToldWhenItIsDone()
+    {
+        QUndoStack stack;
+        ShownGrid shown;
+        shown.grid->setUndoStack(&stack);
+        stack.beginMacro(u"both"_s);
+        QVERIFY(shown.grid->enterText(shown.item(1), 2, u"1"_s));
+        QVERIFY(shown.grid->enterText(shown.item(2), 2, u"2"_s));
+        stack.endMacro();
+        shown.take();
+        stack.undo();
+        QCOMPARE(shown.take(), u"2 2 2>, told, 1 2 1>, told"_s);
+    }
+
     void aListMayGoWhileItsStackTells()
     {
         ShownGrid shown;

@@ -185,6 +185,10 @@ struct PlainTable
         std::stable_sort(shown.begin(), shown.end(),
                          [this](int first, int second) { return isBefore(first, second); });
     }
+    int positionOf(int name) const
+    {
+        return static_cast<int>(&rowNamed(name) - &rows.constFirst());
+    }
     void insert(int position)
     {
         rows.insert(position, {nextName, {}});
@@ -235,17 +239,31 @@ public:
             const char *name;
             void (TwoTables::*act)();
         };
-        static constexpr std::array<Deed, 20> deeds{
-            {{"enterText", &TwoTables::enterText}, {"enterText", &TwoTables::enterText},
-             {"clear", &TwoTables::clear},         {"fillDown", &TwoTables::fillDown},
-             {"paste", &TwoTables::paste},         {"paste", &TwoTables::paste},
-             {"undo", &TwoTables::undo},           {"undo", &TwoTables::undo},
-             {"redo", &TwoTables::redo},           {"setText", &TwoTables::setText},
-             {"hide", &TwoTables::hide},           {"insertRow", &TwoTables::insertRow},
-             {"removeRow", &TwoTables::removeRow}, {"hideColumn", &TwoTables::hideColumn},
-             {"sort", &TwoTables::sort},           {"sort", &TwoTables::sort},
-             {"filter", &TwoTables::filter},       {"filter", &TwoTables::filter},
-             {"arrange", &TwoTables::arrange},     {"moveRows", &TwoTables::moveRows}}};
+        static constexpr std::array<Deed, 25> deeds{{{"enterText", &TwoTables::enterText},
+                                                     {"enterText", &TwoTables::enterText},
+                                                     {"clear", &TwoTables::clear},
+                                                     {"fillDown", &TwoTables::fillDown},
+                                                     {"paste", &TwoTables::paste},
+                                                     {"paste", &TwoTables::paste},
+                                                     {"undo", &TwoTables::undo},
+                                                     {"undo", &TwoTables::undo},
+                                                     {"redo", &TwoTables::redo},
+                                                     {"setText", &TwoTables::setText},
+                                                     {"hide", &TwoTables::hide},
+                                                     {"insertRow", &TwoTables::insertRow},
+                                                     {"removeRow", &TwoTables::removeRow},
+                                                     {"hideColumn", &TwoTables::hideColumn},
+                                                     {"sort", &TwoTables::sort},
+                                                     {"sort", &TwoTables::sort},
+                                                     {"filter", &TwoTables::filter},
+                                                     {"filter", &TwoTables::filter},
+                                                     {"arrange", &TwoTables::arrange},
+                                                     {"moveRows", &TwoTables::moveRows},
+                                                     {"removeRows", &TwoTables::removeRows},
+                                                     {"removeRows", &TwoTables::removeRows},
+                                                     {"duplicate", &TwoTables::duplicate},
+                                                     {"duplicate", &TwoTables::duplicate},
+                                                     {"replace", &TwoTables::replace}}};
         const Deed &deed =
             deeds.at(static_cast<std::size_t>(below(static_cast<int>(deeds.size()))));
         m_deeds = m_deeds.last(std::min<qsizetype>(m_deeds.size(), 9));
@@ -510,6 +528,58 @@ private:
         }
         for (auto row = place->rows.crbegin(); row != place->rows.crend(); ++row)
             m_plain.rows.swapItemsAt(*row, *row + 1);
+        m_plain.arrange(columnsSeen());
+    }
+
+    // As the user does.
+    void removeRows()
+    {
+        const std::optional<Place> place = rowCount() < 12 ? std::nullopt : choose();
+        if (!place)
+            return;
+        QList<int> names;
+        for (const int row : place->rows)
+            names.append(m_plain.shown.at(row));
+        QTest::keyClick(&m_list, Qt::Key_Minus, Qt::ControlModifier);
+        for (const int name : names)
+            m_plain.remove(m_plain.positionOf(name));
+    }
+    void duplicate()
+    {
+        const std::optional<Place> place = rowCount() > 20 ? std::nullopt : choose();
+        if (!place)
+            return;
+        int position = 0;
+        QList<PlainTable::Row> likes;
+        for (const int row : place->rows) {
+            likes.append(m_plain.seen(row));
+            position = std::max(position, m_plain.positionOf(likes.constLast().name) + 1);
+        }
+        m_list.grid()->duplicateRows();
+        for (const PlainTable::Row &like : std::as_const(likes)) {
+            m_list.ListItems()->Item(position + 1)->setTag(QString::number(m_plain.nextName));
+            m_plain.insert(position);
+            m_plain.rows[position++].cells = like.cells;
+        }
+    }
+    // By the host, of all.
+    void replace()
+    {
+        m_plain.rows.clear();
+        m_plain.done.clear();
+        m_plain.undone.clear();
+        QList<RowContent> contents;
+        for (int row = 0; row < 12; ++row) {
+            PlainTable::Row &made = m_plain.rows.emplaceBack();
+            made.name = m_plain.nextName++;
+            RowContent &content = contents.emplaceBack();
+            content.tag = QString::number(made.name);
+            for (QString &cell : made.cells)
+                cell = text();
+            content.text = made.cells.front();
+            content.subItems = QStringList(made.cells.begin() + 1, made.cells.end());
+        }
+        m_list.setRows(contents);
         m_plain.arrange(columnsSeen());
     }
 

@@ -233,6 +233,61 @@ private Q_SLOTS:
         QVERIFY(!shown.texts(0).contains(u"Text 2"_s) && !shown.texts(0).contains(u"Text 4"_s));
     }
 
+    void manyRowsOfASortedTableGoAtOnce()
+    {
+        RowGrid shown(40);
+        for (int row = 1; row <= 40; ++row)
+            shown.set(row, 1, QString::number(row * 7 % 41));
+        shown.grid->setSortKeys({{1, Qt::AscendingOrder}});
+        QSignalSpy removed(shown->model(), &QAbstractItemModel::rowsRemoved);
+        shown.key(Qt::Key_A, Qt::ControlModifier);
+        shown.release(shown.cell(3), Qt::LeftButton, {});
+        shown.click(shown.cell(3), Qt::LeftButton, Qt::ControlModifier); // stays
+        const ListItem *stays = shown->ListItems()->Item(shown.item(1)->Index());
+        QVERIFY(stays->isAlive());
+        const QString text = shown.text(3, 1);
+        shown.key(Qt::Key_Minus, Qt::ControlModifier);
+        QCOMPARE(removed.size(), 2); // above and below
+        QCOMPARE(shown.texts(1), text);
+        QCOMPARE(shown->ListItems()->Count(), 1);
+        QCOMPARE(shown.item(1)->SubItem(1), text);
+    }
+
+    void noRowChangesWhileAnotherChangeIsAnnounced_data()
+    {
+        QTest::addColumn<bool>("sorted");
+        QTest::newRow("in their own order") << false;
+        QTest::newRow("sorted") << true;
+    }
+    void noRowChangesWhileAnotherChangeIsAnnounced()
+    {
+        QFETCH(const bool, sorted);
+        RowGrid shown;
+        if (sorted)
+            shown.grid->setSortKeys({{0, Qt::DescendingOrder}});
+        QList<qint32> errors;
+        const auto meddle = [&] {
+            errors.append(errorOf([&] { shown->Add(1); }));
+            errors.append(errorOf([&] { shown->ListItems()->Remove(1); }));
+            errors.append(errorOf([&] { shown->Clear(); }));
+            errors.append(errorOf([&] { shown->ColumnHeaders()->Add(0, u"x"_s); }));
+            errors.append(errorOf([&] { shown->ColumnHeaders()->Remove(1); }));
+        };
+        const QAbstractItemModel *model = shown->model();
+        connect(model, &QAbstractItemModel::rowsAboutToBeInserted, this, meddle);
+        connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, meddle);
+        connect(model, &QAbstractItemModel::modelAboutToBeReset, this, meddle);
+        connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this, meddle);
+        shown->Add(1);
+        shown->ListItems()->Remove(2);
+        shown.grid->setSortKeys({{0, Qt::AscendingOrder}});
+        QCOMPARE(shown->ListItems()->Count(), 5);
+        shown->setRows({RowContent{.text = u"new"_s}});
+        QCOMPARE(errors, QList<qint32>(20, qint32(InvalidCall)));
+        QCOMPARE(shown.texts(0), u"new"_s);
+        QCOMPARE(shown->ColumnHeaders()->Count(), 6);
+    }
+
     void aHostDestroysTheListMeanwhile_data()
     {
         QTest::addColumn<QString>("deed");

@@ -11,6 +11,7 @@
 #include <QtGui/QScreen>
 #include <QtGui/QTextDocumentFragment>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QToolTip>
 
@@ -93,6 +94,8 @@ private Q_SLOTS:
     void wrapsAndCutsLongTips_data();
     void wrapsAndCutsLongTips();
     void paintsTheBeginningsOfLongCells();
+    void drawsTextsAsTheStyleDoes_data();
+    void drawsTextsAsTheStyleDoes();
     void tipsLongHeaders();
     void showsWhereTheFocusIs();
     void showsEachCellOnOneLine();
@@ -200,6 +203,45 @@ void ReportListLookTest::paintsTheBeginningsOfLongCells()
     pictureOf(*shown->viewport());
     QVERIFY(style.letters() > beginning.size());
     QVERIFY2(style.letters() < 1000, qPrintable(QString::number(style.letters())));
+}
+
+void ReportListLookTest::drawsTextsAsTheStyleDoes_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("from the left") << Qt::LeftToRight << true;
+    QTest::newRow("from the right") << Qt::RightToLeft << true;
+    QTest::newRow("disabled") << Qt::LeftToRight << false;
+}
+
+// The list draws most texts by itself, under a style that it does not know none.
+void ReportListLookTest::drawsTextsAsTheStyleDoes()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const bool, enabled);
+    const ShownList shown(8, 3);
+    QCOMPARE(shown->style()->metaObject()->className(), "QFusionStyle");
+    const QStringList texts{u"short"_s,      u"a text that is much too long for its column"_s,
+                            u"Grüße gypq"_s, u"שלום עולם"_s,
+                            u"-5 °C"_s,      u"W"_s,
+                            u" x "_s};
+    for (int row = 1; row <= texts.size(); ++row) {
+        for (int column = 1; column <= 2; ++column)
+            shown.item(row)->setSubItem(column, texts.at(row - 1));
+    }
+    shown->ColumnHeaders()->Item(2)->setAlignment(Qt::AlignRight);
+    shown->ColumnHeaders()->Item(3)->setAlignment(Qt::AlignHCenter);
+    shown.item(3)->setForeground(Qt::red);
+    shown->setSelectedItem(shown.item(2));
+    shown->setLayoutDirection(direction);
+    shown->setEnabled(enabled);
+    const QImage drawn = pictureOf(*shown->viewport());
+    QProxyStyle other(u"fusion"_s);
+    shown->setStyle(&other);
+    QCOMPARE(drawn, pictureOf(*shown->viewport()));
+    shown->setStyle(nullptr);
+    shown.item(1)->setSubItem(1, u"other"_s);
+    QVERIFY(drawn != pictureOf(*shown->viewport()));
 }
 
 void ReportListLookTest::tipsLongHeaders()

@@ -41,6 +41,8 @@ class ORVT_EXPORT ListGrid : public QObject
     Q_PROPERTY(bool editsRows READ editsRows WRITE setEditsRows NOTIFY editsRowsChanged)
     Q_PROPERTY(bool arrangesColumns READ arrangesColumns WRITE setArrangesColumns NOTIFY
                    arrangesColumnsChanged)
+    Q_PROPERTY(bool keepsFirstColumns READ keepsFirstColumns WRITE setKeepsFirstColumns NOTIFY
+                   keepsFirstColumnsChanged)
     Q_PROPERTY(bool hasMenu READ hasMenu WRITE setHasMenu NOTIFY hasMenuChanged)
     Q_PROPERTY(
         FilterPlace filterPlace READ filterPlace WRITE setFilterPlace NOTIFY filterPlaceChanged)
@@ -219,6 +221,11 @@ public:
     void readColumnLayouts(const PropertyBag &bag);
     void writeColumnLayouts(PropertyBag &bag) const;
 
+    // Whether the first two columns that are seen stay in sight while the others are scrolled
+    // sideways under them; not while they would take more than two thirds of the list.
+    bool keepsFirstColumns() const;
+    void setKeepsFirstColumns(bool on);
+
     // As wide as the header and all cells need.
     Q_INVOKABLE void fitColumn(qint16 column);
 
@@ -263,6 +270,7 @@ Q_SIGNALS:
     void editsRowsChanged(bool on);
     void arrangesColumnsChanged(bool on);
     void hasMenuChanged(bool on);
+    void keepsFirstColumnsChanged(bool on);
     void showsLocalNumbersChanged(bool on);
     void flashesChangesChanged(bool on);
     void filterPlaceChanged(ORVTListview::ListGrid::FilterPlace place);

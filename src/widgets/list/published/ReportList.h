@@ -150,6 +150,10 @@ public:
     bool isHeaderVisible() const;
     void setHeaderVisible(bool visible);
 
+    QRect visualRect(const QModelIndex &index) const override;
+    QModelIndex indexAt(const QPoint &place) const override;
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+
 Q_SIGNALS:
     // NewString is what was entered. Cancel other than 0 drops it; a changed
     // NewString is used in its place. Raised soon after the editor has closed, and
@@ -204,6 +208,7 @@ protected:
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;

@@ -1,0 +1,97 @@
+#include "widgets/view/PlainCell.h"
+
+#include <QtGui/QPainter>
+#include <QtGui/QTextLayout>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOption>
+#include <QtWidgets/QWidget>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace ORVTListview {
+namespace {
+
+// How other styles draw a text, a style sheet's among them, nobody knows.
+bool isCommon(const QStyle &style)
+{
+    static constexpr std::array names{"QFusionStyle", "QWindowsStyle"};
+    return std::any_of(names.begin(), names.end(), [&style](const char *name) {
+        return std::strcmp(style.metaObject()->className(), name) == 0;
+    });
+}
+
+// Nothing beside the text, which is not being edited or broken into lines.
+bool isPlain(const QStyleOptionViewItem &cell)
+{
+    using Option = QStyleOptionViewItem;
+    constexpr auto others = Option::HasCheckIndicator | Option::HasDecoration | Option::WrapText;
+    return cell.showDecorationSelected && (cell.features & others) == 0 &&
+           cell.features.testFlag(Option::HasDisplay) && !cell.text.isEmpty() &&
+           !cell.state.testFlag(QStyle::State_Editing);
+}
+
+QPalette::ColorGroup groupOf(const QStyleOptionViewItem &cell)
+{
+    if (!cell.state.testFlag(QStyle::State_Enabled))
+        return QPalette::Disabled;
+    return cell.state.testFlag(QStyle::State_Active) ? QPalette::Normal : QPalette::Inactive;
+}
+
+// A text on its one line. Kept, for else it is shaped again to be drawn.
+QTextLine laidOut(QTextLayout &layout, const QStyleOptionViewItem &cell, int width)
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::ManualWrap);
+    option.setTextDirection(cell.direction);
+    option.setAlignment(QStyle::visualAlignment(cell.direction, cell.displayAlignment));
+    layout.setTextOption(option);
+    layout.setCacheEnabled(true);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(width);
+    line.setPosition({});
+    layout.endLayout();
+    return line;
+}
+
+void drawText(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &room)
+{
+    QTextLayout layout(cell.text, cell.font);
+    QTextLine line = laidOut(layout, cell, room.width());
+    if (line.naturalTextWidth() > room.width()) {
+        layout.setText(
+            QFontMetrics(cell.font).elidedText(cell.text, cell.textElideMode, room.width()));
+        line = laidOut(layout, cell, room.width());
+    }
+    const QSize size(room.width(), static_cast<int>(line.height()));
+    layout.draw(&painter,
+                QStyle::alignedRect(cell.direction, cell.displayAlignment, size, room).topLeft());
+}
+
+} // namespace
+
+void drawCell(QPainter &painter, const QStyleOptionViewItem &cell)
+{
+    const QStyle &style = *cell.widget->style();
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
+    const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
+    if (!isPlain(cell) || !isCommon(style) || room.width() <= 0) {
+        style.drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
+        return;
+    }
+    QStyleOptionViewItem ground = cell;
+    ground.features.setFlag(QStyleOptionViewItem::HasDisplay, false);
+    ground.text.clear();
+    style.drawControl(QStyle::CE_ItemViewItem, &ground, &painter, cell.widget);
+    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+    painter.save();
+    painter.setClipRect(cell.rect);
+    painter.setPen(
+        cell.palette.color(groupOf(cell), isSelected ? QPalette::HighlightedText : QPalette::Text));
+    drawText(painter, cell, room);
+    painter.restore();
+}
+
+} // namespace ORVTListview

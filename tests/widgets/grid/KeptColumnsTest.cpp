@@ -1,0 +1,273 @@
+// The first two columns stay in sight while the others are scrolled sideways under them.
+
+#include "support/TestProgram.h"
+#include "support/WidgetPicture.h"
+#include "support/WidgetTest.h"
+#include "widgets/grid/GridFixture.h"
+#include <ORVTListview/ColumnHeader.h>
+#include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/ListItem.h>
+
+#include <QtGui/QAccessible>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QtTest>
+#include <QtWidgets/QScrollBar>
+
+#include <algorithm>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Six columns of 120 pixels, of which three and a half are seen, scrolled by one and a half.
+class KeptGrid : public ShownGrid
+{
+public:
+    explicit KeptGrid(Qt::LayoutDirection direction = Qt::LeftToRight)
+    {
+        list->setLayoutDirection(direction);
+        for (int column = 0; column < 6; ++column)
+            list->setColumnWidth(column, 120);
+        for (int column = 1; column < 6; ++column)
+            set(1, column, QStringLiteral("In %1").arg(column));
+        list->setMultiSelect(true);
+        grid->setSelectsCells(true);
+        grid->setKeepsFirstColumns(true);
+        QCoreApplication::processEvents(); // the scroll bar knows the widths by then
+        scroll(180);
+    }
+    void scroll(int to) const { list->horizontalScrollBar()->setValue(to); }
+    int scrolled() const { return list->horizontalScrollBar()->value(); }
+    int width() const { return list->viewport()->width(); }
+
+    // From the edge where one begins to read.
+    QPoint at(int x, int row) const
+    {
+        const int y = list->rowViewportPosition(row - 1) + list->rowHeight(row - 1) / 2;
+        return inForm({list->isRightToLeft() ? width() - 1 - x : x, y});
+    }
+    QString under(int x, int row) const
+    {
+        const QModelIndex cell = list->indexAt(at(x, row) - inForm({}));
+        return u"%1 %2"_s.arg(cell.row() + 1).arg(cell.column());
+    }
+    int begin(int row, int column) const
+    {
+        const QRect place = list->visualRect(list->model()->index(row - 1, column));
+        return list->isRightToLeft() ? width() - 1 - place.right() : place.left();
+    }
+    QPoint head(int x) const
+    {
+        const QWidget *header = list->horizontalHeader()->viewport();
+        return header->mapTo(&form, QPoint(list->isRightToLeft() ? width() - 1 - x : x, 10));
+    }
+    QImage picture(int x, int size) const
+    {
+        const int left = list->isRightToLeft() ? width() - x - size : x;
+        return pictureOf(*list->viewport()).copy(left, 0, size, list->viewport()->height());
+    }
+};
+
+} // namespace
+
+class KeptColumnsTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itIsOffAtFirst()
+    {
+        ShownGrid shown;
+        QVERIFY(!shown.grid->keepsFirstColumns());
+        QSignalSpy told(shown.grid, &ListGrid::keepsFirstColumnsChanged);
+        shown.grid->setKeepsFirstColumns(true);
+        shown.grid->setKeepsFirstColumns(true);
+        QCOMPARE(told.size(), 1);
+        QVERIFY(shown.grid->property("keepsFirstColumns").toBool());
+    }
+
+    void theyStayWhereTheyAre_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("from the left") << Qt::LeftToRight;
+        QTest::newRow("from the right") << Qt::RightToLeft;
+    }
+    void theyStayWhereTheyAre()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        KeptGrid shown(direction);
+        shown.scroll(0);
+        const QImage before = shown.picture(0, 239);
+        const QImage third = shown.picture(240, 120);
+        shown.scroll(120);
+        QCOMPARE(shown.scrolled(), 120);
+        QCOMPARE(shown.picture(0, 239), before);
+        QVERIFY(shown.picture(240, 120) != third);
+        QCOMPARE(shown.begin(1, 0), 0);
+        QCOMPARE(shown.begin(1, 1), 120);
+        QCOMPARE(shown.begin(1, 2), 120);
+        QCOMPARE(shown.begin(1, 3), 240);
+        QCOMPARE(shown.under(10, 2), u"2 0"_s);
+        QCOMPARE(shown.under(130, 2), u"2 1"_s);
+        QCOMPARE(shown.under(250, 2), u"2 3"_s);
+        shown.grid->setKeepsFirstColumns(false);
+        QCOMPARE(shown.under(10, 2), u"2 1"_s);
+        QVERIFY(shown.picture(0, 239) != before);
+    }
+
+    void theyAreClickedChosenAndEdited_data() { theyStayWhereTheyAre_data(); }
+    void theyAreClickedChosenAndEdited()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        KeptGrid shown(direction);
+        shown.click(shown.at(130, 2));
+        QCOMPARE(shown.current(), u"2 1"_s);
+        QCOMPARE(shown.scrolled(), 180);
+        const QImage one = shown.picture(0, 239);
+        shown.click(shown.at(130, 3));
+        QVERIFY(shown.picture(0, 239) != one);
+        shown.key(Qt::Key_F2);
+        const auto *field = shown.field<QLineEdit>();
+        QVERIFY(field);
+        const auto begin = [&] {
+            return direction == Qt::LeftToRight ? field->x()
+                                                : shown.width() - 1 - field->geometry().right();
+        };
+        QCOMPARE(begin(), 120);
+        shown.scroll(60);
+        QCOMPARE(begin(), 120);
+        shown.type(u"text"_s);
+        shown.key(Qt::Key_Return);
+        QCOMPARE(shown.text(3, 1), u"text"_s);
+        QCOMPARE(shown.scrolled(), 60);
+        // A range from one that stays to one that is scrolled.
+        shown.scroll(180);
+        shown.press(shown.at(10, 1));
+        shown.move(shown.at(300, 2));
+        shown.release(shown.at(300, 2));
+        QCOMPARE(shown->selectionModel()->selectedIndexes().size(), 10); // 0 to 4 in two rows
+    }
+
+    void keysDoNotHideACellUnderThem_data() { theyStayWhereTheyAre_data(); }
+    void keysDoNotHideACellUnderThem()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        KeptGrid shown(direction);
+        shown.goTo(1, 5);
+        const Qt::Key back = direction == Qt::LeftToRight ? Qt::Key_Left : Qt::Key_Right;
+        for (int column = 4; column >= 2; --column) {
+            shown.key(back);
+            QCOMPARE(shown.current(), u"1 %1"_s.arg(column));
+            QVERIFY2(shown.begin(1, column) >= 240, qPrintable(QString::number(column)));
+            QVERIFY(shown.begin(1, column) + 120 <= shown.width());
+        }
+        shown.scroll(180);
+        shown.goTo(1, 1);
+        QCOMPARE(shown.scrolled(), 180);
+    }
+
+    void anEditorIsScrolledUnderThem()
+    {
+        KeptGrid shown;
+        shown.scroll(0);
+        shown.goTo(1, 2);
+        shown.key(Qt::Key_F2);
+        QWidget *field = shown->indexWidget(shown->currentIndex());
+        QVERIFY(field && field->mask().isEmpty());
+        shown.scroll(60);
+        QCOMPARE(field->x(), 180);
+        QVERIFY(!field->mask().contains(QPoint(59, 5)) && field->mask().contains(QPoint(60, 5)));
+        shown.scroll(0);
+        QVERIFY(field->mask().isEmpty());
+    }
+
+    void theirHeadersStayToo_data() { theyStayWhereTheyAre_data(); }
+    void theirHeadersStayToo()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        KeptGrid shown(direction);
+        QWidget &header = *shown->horizontalHeader()->viewport();
+        const auto begin = [&] {
+            const QImage image = pictureOf(header);
+            return direction == Qt::LeftToRight
+                       ? image.copy(0, 0, 230, image.height())
+                       : image.copy(image.width() - 230, 0, 230, image.height());
+        };
+        const QImage scrolled = begin();
+        shown.scroll(60);
+        QCOMPARE(begin(), scrolled);
+        shown.scroll(180);
+        QStringList clicked;
+        connect(shown.list, &ReportList::ColumnClick, this,
+                [&](ColumnHeader *column) { clicked.append(column->Key()); });
+        shown.click(shown.head(60));
+        shown.click(shown.head(180));
+        shown.click(shown.head(330));
+        QCOMPARE(clicked.join(u' '), u"Column1 Column2 Column5"_s);
+        shown.press(shown.head(118)); // the divider behind the first
+        shown.move(shown.head(128));
+        shown.move(shown.head(138));
+        shown.release(shown.head(138));
+        QCOMPARE(shown->columnWidth(0), 140);
+        QCOMPARE(shown.begin(1, 1), 140);
+    }
+
+    void filterFieldsStayAboveThem()
+    {
+        KeptGrid shown;
+        shown.grid->setFilterPlace(ListGrid::FilterInColumns);
+        QCoreApplication::processEvents();
+        QList<QLineEdit *> fields = shown->horizontalHeader()->findChildren<QLineEdit *>();
+        QCOMPARE(fields.size(), 6);
+        std::sort(fields.begin(), fields.end(), [](const QLineEdit *one, const QLineEdit *other) {
+            return one->accessibleName() < other->accessibleName();
+        });
+        QCOMPARE(fields.at(0)->x(), 0);
+        QCOMPARE(fields.at(1)->x(), 120);
+        QCOMPARE(fields.at(3)->x(), 180);
+        const QWidget *header = shown->horizontalHeader();
+        QCOMPARE(header->childAt(200, header->height() - 5), fields.at(1));
+        fields.at(2)->setFocus();
+        QCOMPARE(fields.at(2)->x(), 240);
+    }
+
+    void theFirstTwoThatAreSeenAreKept()
+    {
+        KeptGrid shown;
+        shown->setColumnHidden(0, true);
+        shown->horizontalHeader()->moveSection(5, 1); // the last one comes first
+        QCoreApplication::processEvents();
+        shown.scroll(130);
+        QCOMPARE(shown.under(10, 1), u"1 5"_s);
+        QCOMPARE(shown.under(130, 1), u"1 1"_s);
+        QCOMPARE(shown.under(250, 1), u"1 3"_s);
+    }
+
+    void theyLeaveRoomForOthers()
+    {
+        KeptGrid shown;
+        shown->setColumnWidth(1, 300);
+        shown.scroll(120);
+        QCOMPARE(shown.under(10, 1), u"1 1"_s);
+        QCOMPARE(shown.begin(1, 0), -120);
+        shown->setColumnWidth(1, 60);
+        QCOMPARE(shown.under(10, 1), u"1 0"_s);
+    }
+
+    void aScreenReaderIsToldWhereTheyAre()
+    {
+        KeptGrid shown;
+        QAccessibleInterface *table = QAccessible::queryAccessibleInterface(shown.list);
+        QVERIFY(table && table->tableInterface());
+        const QAccessibleInterface *cell = table->tableInterface()->cellAt(1, 1);
+        const QPoint corner =
+            shown->viewport()->mapToGlobal(QPoint(120, shown->rowViewportPosition(1)));
+        QCOMPARE(cell->rect().topLeft(), corner);
+        QCOMPARE(table->childAt(corner.x() + 5, corner.y() + 5)->text(QAccessible::Name),
+                 cell->text(QAccessible::Name));
+    }
+};
+
+ORVT_TEST(KeptColumnsTest)
+#include "KeptColumnsTest.moc"
