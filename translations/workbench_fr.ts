@@ -579,7 +579,7 @@
     </message>
     <message>
         <source>&amp;Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa&amp;ramètres…</translation>
     </message>
 </context>
 <context>

@@ -22,11 +22,11 @@ bool isCommon(const QStyle &style)
     });
 }
 
-// Nothing beside the text, which is not being edited or broken into lines.
+// At most a picture beside the text, which is not being edited or broken into lines.
 bool isPlain(const QStyleOptionViewItem &cell)
 {
     using Option = QStyleOptionViewItem;
-    constexpr auto others = Option::HasCheckIndicator | Option::HasDecoration | Option::WrapText;
+    constexpr auto others = Option::HasCheckIndicator | Option::WrapText;
     return cell.showDecorationSelected && (cell.features & others) == 0 &&
            cell.features.testFlag(Option::HasDisplay) && !cell.text.isEmpty() &&
            !cell.state.testFlag(QStyle::State_Editing);
@@ -75,15 +75,16 @@ void drawText(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &
 void drawCell(QPainter &painter, const QStyleOptionViewItem &cell)
 {
     const QStyle &style = *cell.widget->style();
+    QStyleOptionViewItem ground = cell;
+    ground.features.setFlag(QStyleOptionViewItem::HasDisplay, false);
+    ground.text.clear();
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
-    const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
+    const QRect room = style.subElementRect(QStyle::SE_ItemViewItemText, &ground, cell.widget)
+                           .adjusted(margin, 0, -margin, 0);
     if (!isPlain(cell) || !isCommon(style) || room.width() <= 0) {
         style.drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
         return;
     }
-    QStyleOptionViewItem ground = cell;
-    ground.features.setFlag(QStyleOptionViewItem::HasDisplay, false);
-    ground.text.clear();
     style.drawControl(QStyle::CE_ItemViewItem, &ground, &painter, cell.widget);
     const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
     painter.save();
