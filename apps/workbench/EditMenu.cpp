@@ -2,6 +2,7 @@
 
 #include "ColouredCopy.h"
 #include "LinesMenu.h"
+#include "renaming/ProjectHistory.h"
 #include "widgets/box/BoxCommands.h"
 
 #include <ORVTListview/CodeView.h>
@@ -17,10 +18,11 @@
 
 namespace ORVTListview {
 
-EditMenu::EditMenu(ORVListView &code, QWidget *parent)
+EditMenu::EditMenu(ORVListView &code, ProjectHistory &history, QWidget *parent)
     : QMenu(tr("&Edit"), parent)
     , m_code(code)
     , m_view(*code.codeView())
+    , m_history(history)
 {
     addHistory();
     addSeparator();
@@ -107,11 +109,11 @@ void EditMenu::refresh()
     const bool isCode = m_code.CurrentType() == dsCode;
     for (QAction *action : actions())
         action->setEnabled(isCode);
+    m_undo->setEnabled(m_history.canUndo());
+    m_redo->setEnabled(m_history.canRedo());
     if (!isCode)
         return;
     const bool hasSelection = m_code.RTextBox()->SelLength() > 0;
-    m_undo->setEnabled(m_code.IsUndoAvailable());
-    m_redo->setEnabled(m_code.IsRedoAvailable());
     m_cut->setEnabled(hasSelection);
     m_copy->setEnabled(hasSelection);
     m_colouredCopy->setEnabled(hasSelection);
@@ -121,18 +123,12 @@ void EditMenu::refresh()
 
 void EditMenu::undo()
 {
-    QString errMsg;
-    m_code.Undo(errMsg);
-    if (!errMsg.isEmpty())
-        Q_EMIT told(errMsg);
+    m_history.undo();
 }
 
 void EditMenu::redo()
 {
-    QString errMsg;
-    m_code.Redo(errMsg);
-    if (!errMsg.isEmpty())
-        Q_EMIT told(errMsg);
+    m_history.redo();
 }
 
 void EditMenu::restoreTypedText()

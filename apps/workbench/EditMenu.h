@@ -6,6 +6,7 @@ namespace ORVTListview {
 
 class CodeView;
 class ORVListView;
+class ProjectHistory;
 
 // What the editor offers a host's menu. Its commands can be chosen when they have
 // something to do; the keys beside them are the editor's own.
@@ -14,7 +15,7 @@ class EditMenu : public QMenu
     Q_OBJECT
 
 public:
-    EditMenu(ORVListView &code, QWidget *parent);
+    EditMenu(ORVListView &code, ProjectHistory &history, QWidget *parent);
 
     void refresh();
 
@@ -46,6 +47,7 @@ private:
 
     ORVListView &m_code;
     CodeView &m_view;
+    ProjectHistory &m_history;
     bool m_hasRestored = false; // something, since the last time there was nothing
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;

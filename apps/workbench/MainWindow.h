@@ -4,9 +4,8 @@
 
 #include <QtWidgets/QMainWindow>
 
-#include <memory>
-
 class QLabel;
+class QStackedWidget;
 
 namespace ORVTListview {
 
@@ -14,11 +13,16 @@ class CheckResults;
 class EditMenu;
 class Languages;
 class OpeningProgress;
-class ProgramSaving;
+class OpeningFault;
 class PointChooser;
+class PointRenaming;
 class PointValues;
-class Project;
+class ProjectDocument;
+class ProjectHistory;
+class ProjectSaving;
 class ProjectView;
+class RecoveryKeeper;
+class RecoveryOffer;
 struct ProgramReport;
 
 // A small host: shows a project in the library's components.
@@ -34,6 +38,10 @@ public:
     // Shows the project. What is shown goes without a question. Raises Error and
     // keeps what is shown when the file cannot be read.
     void openProject(const QString &fileName);
+
+    // The same for a user who is there: tells in the window what is wrong, and what can be
+    // done, and offers work that was not saved the last time.
+    void openForUser(const QString &fileName);
 
     // Shows the program, or the table of a type.
     void showType(LwType type);
@@ -53,8 +61,9 @@ private:
     void buildStatusBar();
     void connectEditor();
     void connectPoints();
-    void followName(LwType type, const QString &former, const QString &name);
+    void connectSaving();
     void chooseProject();
+    void openByHand(const QString &fileName);
     void showProgram();
     void applyAppearance();
     void followPalette();
@@ -67,11 +76,17 @@ private:
     void retranslate();
 
     Languages &m_languages;
-    std::unique_ptr<Project> m_project;
     PointChooser *m_points; // made in the order of the Tab key
+    QStackedWidget *m_pages;
+    ProjectDocument *m_document;
     ProjectView *m_view;
+    OpeningFault *m_fault;
     ORVListView *m_code; // the view owns it
-    ProgramSaving *m_saving;
+    ProjectHistory *m_history;
+    PointRenaming *m_renaming;
+    ProjectSaving *m_saving;
+    RecoveryKeeper *m_recovery;
+    RecoveryOffer *m_offer;
     PointValues *m_values;
     CheckResults *m_results;
     QLabel *m_programInfo;

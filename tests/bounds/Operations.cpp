@@ -8,6 +8,7 @@
 #include "find/rules/ProgramSearch.h"
 #include "project/JsonParser.h"
 #include "project/ProgramCheck.h"
+#include "project/ProjectColumns.h"
 #include "project/ProjectReader.h"
 #include "project/TextFile.h"
 #include "rtf/RtfReader.h"

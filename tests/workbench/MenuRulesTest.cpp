@@ -47,12 +47,13 @@ private Q_SLOTS:
         for (const QMenu *menu : workbench.menus())
             all.append(menu->title() + u": "_s + captions(*menu).join(u", "_s));
         QCOMPARE(all.join(u'\n').remove(u'&'),
-                 u"File: Open Project…, Save Program, Quit\n"
+                 u"File: Open Project…, Save, Save Elsewhere…, Quit\n"
                  "Edit: Undo, Redo, Restore Typed Text, Cut, Copy, Copy with Colours, Paste, "
                  "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
                  "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
                  "Program: Analyse, Compile, Results\n"
-                 "Points: Read Values, Rename, Fit Columns, Edit Cells, Hardware Overrides\n"
+                 "Points: Read Values, Rename, Add Point…, Remove Point, Fit Columns, Edit Cells, "
+                 "Hardware Overrides\n"
                  "View: Editor, Language"_s);
     }
 
@@ -115,7 +116,8 @@ private Q_SLOTS:
                     promising << QString(caption).remove(u'&');
             }
         }
-        QCOMPARE(promising, QStringList({u"Open Project…"_s, u"Find…"_s, u"Replace…"_s}));
+        QCOMPARE(promising, QStringList({u"Open Project…"_s, u"Save Elsewhere…"_s, u"Find…"_s,
+                                         u"Replace…"_s, u"Add Point…"_s}));
     }
 
     void keysDoNotClash()
