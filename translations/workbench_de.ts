@@ -217,6 +217,17 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ComparisonView</name>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -486,10 +497,6 @@
         <translation>Projekt ö&amp;ffnen …</translation>
     </message>
     <message>
-        <source>&amp;Save Program</source>
-        <translation>Programm &amp;speichern</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
     </message>
@@ -554,10 +561,6 @@
         <translation>Umbenennen</translation>
     </message>
     <message>
-        <source>Rename %1 to %2 in the program, too?</source>
-        <translation>%1 auch im Programm in %2 umbenennen?</translation>
-    </message>
-    <message>
         <source>&amp;Edit Cells</source>
         <translation>&amp;Zellen bearbeiten</translation>
     </message>
@@ -580,6 +583,53 @@
     <message>
         <source>&amp;Settings…</source>
         <translation>Ei&amp;nstellungen…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;Elsewhere…</source>
+        <translation>&amp;Woanders speichern…</translation>
+    </message>
+    <message>
+        <source>&amp;Add Point…</source>
+        <translation>P&amp;unkt hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Point</source>
+        <translation>Punkt &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>What you type cannot be kept for recovery: %1</source>
+        <translation>Was Sie tippen, kann nicht zur Wiederherstellung gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>Another workbench has this project open, too.</source>
+        <translation>Auch eine andere Werkbank hat dieses Projekt geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::OpeningFault</name>
+    <message>
+        <source>The project cannot be opened</source>
+        <translation>Das Projekt kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Mend the file and try again, or open another project. The file has been left as it is.</source>
+        <translation>Berichtigen Sie die Datei und versuchen Sie es erneut, oder öffnen Sie ein anderes Projekt. Die Datei wurde nicht verändert.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Another…</source>
+        <translation>&amp;Anderes öffnen…</translation>
+    </message>
+    <message>
+        <source>Try A&amp;gain</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Open the Version &amp;Before</source>
+        <translation>&amp;Vorherige Fassung öffnen</translation>
     </message>
 </context>
 <context>
@@ -636,6 +686,41 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::PointRenaming</name>
+    <message>
+        <source>Add Point</source>
+        <translation>Punkt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Name of the new point:</source>
+        <translation>Name des neuen Punkts:</translation>
+    </message>
+    <message>
+        <source>The table is full.</source>
+        <translation>Die Tabelle ist voll.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Remove Point</source>
+        <translation>Punkt entfernen</translation>
+    </message>
+    <message>
+        <source>%1 is still named here, where it will be unknown:
+
+%2
+
+Remove it?</source>
+        <translation>%1 wird hier noch genannt und wäre dort unbekannt:
+
+%2
+
+Entfernen?</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointTables</name>
     <message>
         <source>Yes</source>
@@ -670,14 +755,30 @@
     </message>
 </context>
 <context>
-    <name>ORVTListview::ProgramSaving</name>
+    <name>ORVTListview::ProjectSaving</name>
     <message>
-        <source>Save Program</source>
-        <translation>Programm speichern</translation>
+        <source>Save</source>
+        <translation>Speichern</translation>
     </message>
     <message>
-        <source>Unsaved Changes</source>
-        <translation>Ungespeicherte Änderungen</translation>
+        <source>Save as &amp;UTF-8</source>
+        <translation>Als &amp;UTF-8 speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;Elsewhere…</source>
+        <translation>&amp;Woanders speichern…</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: what was typed stays in the window and is kept for recovery.</source>
+        <translation>Nichts ist verloren: Das Getippte bleibt im Fenster und wird zur Wiederherstellung gesichert.</translation>
+    </message>
+    <message>
+        <source>Save Elsewhere</source>
+        <translation>Woanders speichern</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>Projekte (*.json)</translation>
     </message>
     <message>
         <source>The program %1 has changes that are not saved.
@@ -686,10 +787,97 @@ Save them?</source>
 Speichern?</translation>
     </message>
     <message>
+        <source>The points of %1 have changes that are not saved.
+Save them?</source>
+        <translation>Die Punkte von %1 haben ungespeicherte Änderungen.
+Speichern?</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
         <source>The file %1 has been changed elsewhere since it was opened.
 Overwrite those changes?</source>
         <translation>Die Datei %1 wurde seit dem Öffnen anderswo geändert.
 Diese Änderungen überschreiben?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RecoveryDialog</name>
+    <message>
+        <source>Recover Unsaved Work</source>
+        <translation>Nicht Gespeichertes wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The workbench ended without saving this work of %1. What differs from the files is shown below.</source>
+        <translation>Die Werkbank wurde beendet, ohne diese Arbeit vom %1 zu speichern. Unten steht, was sich von den Dateien unterscheidet.</translation>
+    </message>
+    <message>
+        <source>Before, in the files</source>
+        <translation>Vorher, in den Dateien</translation>
+    </message>
+    <message>
+        <source>After, not saved</source>
+        <translation>Nachher, nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>Decide &amp;Later</source>
+        <translation>&amp;Später entscheiden</translation>
+    </message>
+    <message>
+        <source>%1 holds work that was not saved, but cannot be read as a whole. It stays there; a text editor shows what it holds.</source>
+        <translation>%1 enthält nicht gespeicherte Arbeit, lässt sich aber nicht ganz lesen. Die Datei bleibt; ein Texteditor zeigt, was sie enthält.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RecoveryKeeper</name>
+    <message>
+        <source>Too many workbenches have this project open.</source>
+        <translation>Zu viele Werkbänke haben dieses Projekt geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RenameDialog</name>
+    <message>
+        <source>Program, line %1</source>
+        <translation>Programm, Zeile %1</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>%1 becomes %2 in the places that have a tick:</source>
+        <translation>%1 wird an den angehakten Stellen zu %2:</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Keine</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
     </message>
 </context>
 <context>
@@ -889,10 +1077,6 @@ Diese Änderungen überschreiben?</translation>
         <translation>Ein anderer Punkt heißt schon „%1“</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; is no longer where it was</source>
-        <translation>%1: „%2“ steht nicht mehr an seinem Platz</translation>
-    </message>
-    <message>
         <source>is not a file</source>
         <translation>ist keine Datei</translation>
     </message>
@@ -919,6 +1103,18 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>&quot;%1&quot; is a word of the language</source>
         <translation>„%1“ ist ein Wort der Sprache</translation>
+    </message>
+    <message>
+        <source>%1: line %2 holds &quot;%3&quot;, which the file&apos;s encoding (Windows-1252) does not have</source>
+        <translation>%1: Zeile %2 enthält „%3“, was die Kodierung der Datei (Windows-1252) nicht hat</translation>
+    </message>
+    <message>
+        <source>%1: its %2 have been changed elsewhere</source>
+        <translation>%1: „%2“ wurde woanders geändert</translation>
+    </message>
+    <message>
+        <source>Work on %1 that is not saved. The workbench offers it when the project is opened the next time.</source>
+        <translation>Nicht gespeicherte Arbeit an %1. Die Werkbank bietet sie an, wenn das Projekt das nächste Mal geöffnet wird.</translation>
     </message>
 </context>
 <context>

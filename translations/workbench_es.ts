@@ -217,6 +217,17 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ComparisonView</name>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Cambio</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -486,10 +497,6 @@
         <translation>&amp;Abrir proyecto…</translation>
     </message>
     <message>
-        <source>&amp;Save Program</source>
-        <translation>&amp;Guardar programa</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
     </message>
@@ -554,10 +561,6 @@
         <translation>Cambiar nombre</translation>
     </message>
     <message>
-        <source>Rename %1 to %2 in the program, too?</source>
-        <translation>¿Cambiar también %1 por %2 en el programa?</translation>
-    </message>
-    <message>
         <source>&amp;Edit Cells</source>
         <translation>&amp;Editar celdas</translation>
     </message>
@@ -580,6 +583,53 @@
     <message>
         <source>&amp;Settings…</source>
         <translation>A&amp;justes…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Save &amp;Elsewhere…</source>
+        <translation>Guardar en o&amp;tro lugar…</translation>
+    </message>
+    <message>
+        <source>&amp;Add Point…</source>
+        <translation>Añadir &amp;punto…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Point</source>
+        <translation>&amp;Quitar punto</translation>
+    </message>
+    <message>
+        <source>What you type cannot be kept for recovery: %1</source>
+        <translation>Lo que escribe no se puede guardar para su recuperación: %1</translation>
+    </message>
+    <message>
+        <source>Another workbench has this project open, too.</source>
+        <translation>Otro banco de trabajo también tiene abierto este proyecto.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::OpeningFault</name>
+    <message>
+        <source>The project cannot be opened</source>
+        <translation>No se puede abrir el proyecto</translation>
+    </message>
+    <message>
+        <source>Mend the file and try again, or open another project. The file has been left as it is.</source>
+        <translation>Corrija el archivo e inténtelo de nuevo, o abra otro proyecto. El archivo no se ha modificado.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Another…</source>
+        <translation>Abrir &amp;otro…</translation>
+    </message>
+    <message>
+        <source>Try A&amp;gain</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>Open the Version &amp;Before</source>
+        <translation>Abrir la &amp;versión anterior</translation>
     </message>
 </context>
 <context>
@@ -636,6 +686,41 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::PointRenaming</name>
+    <message>
+        <source>Add Point</source>
+        <translation>Añadir punto</translation>
+    </message>
+    <message>
+        <source>Name of the new point:</source>
+        <translation>Nombre del nuevo punto:</translation>
+    </message>
+    <message>
+        <source>The table is full.</source>
+        <translation>La tabla está llena.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>Remove Point</source>
+        <translation>Quitar punto</translation>
+    </message>
+    <message>
+        <source>%1 is still named here, where it will be unknown:
+
+%2
+
+Remove it?</source>
+        <translation>%1 todavía se nombra aquí, donde será desconocido:
+
+%2
+
+¿Quitarlo?</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointTables</name>
     <message>
         <source>Yes</source>
@@ -670,14 +755,30 @@
     </message>
 </context>
 <context>
-    <name>ORVTListview::ProgramSaving</name>
+    <name>ORVTListview::ProjectSaving</name>
     <message>
-        <source>Save Program</source>
-        <translation>Guardar programa</translation>
+        <source>Save</source>
+        <translation>Guardar</translation>
     </message>
     <message>
-        <source>Unsaved Changes</source>
-        <translation>Cambios sin guardar</translation>
+        <source>Save as &amp;UTF-8</source>
+        <translation>Guardar como &amp;UTF-8</translation>
+    </message>
+    <message>
+        <source>Save &amp;Elsewhere…</source>
+        <translation>Guardar en o&amp;tro lugar…</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: what was typed stays in the window and is kept for recovery.</source>
+        <translation>No se ha perdido nada: lo escrito sigue en la ventana y se guarda para su recuperación.</translation>
+    </message>
+    <message>
+        <source>Save Elsewhere</source>
+        <translation>Guardar en otro lugar</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>Proyectos (*.json)</translation>
     </message>
     <message>
         <source>The program %1 has changes that are not saved.
@@ -686,10 +787,97 @@ Save them?</source>
 ¿Guardarlos?</translation>
     </message>
     <message>
+        <source>The points of %1 have changes that are not saved.
+Save them?</source>
+        <translation>Los puntos de %1 tienen cambios sin guardar.
+¿Guardarlos?</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
         <source>The file %1 has been changed elsewhere since it was opened.
 Overwrite those changes?</source>
         <translation>El archivo %1 ha sido modificado en otro lugar desde que se abrió.
 ¿Sobrescribir esos cambios?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RecoveryDialog</name>
+    <message>
+        <source>Recover Unsaved Work</source>
+        <translation>Recuperar trabajo sin guardar</translation>
+    </message>
+    <message>
+        <source>The workbench ended without saving this work of %1. What differs from the files is shown below.</source>
+        <translation>El banco de trabajo terminó sin guardar este trabajo del %1. Abajo se muestra en qué difiere de los archivos.</translation>
+    </message>
+    <message>
+        <source>Before, in the files</source>
+        <translation>Antes, en los archivos</translation>
+    </message>
+    <message>
+        <source>After, not saved</source>
+        <translation>Después, sin guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>Decide &amp;Later</source>
+        <translation>Decidir &amp;luego</translation>
+    </message>
+    <message>
+        <source>%1 holds work that was not saved, but cannot be read as a whole. It stays there; a text editor shows what it holds.</source>
+        <translation>%1 contiene trabajo sin guardar, pero no se puede leer por completo. Se queda ahí; un editor de texto muestra lo que contiene.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RecoveryKeeper</name>
+    <message>
+        <source>Too many workbenches have this project open.</source>
+        <translation>Demasiados bancos de trabajo tienen abierto este proyecto.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RenameDialog</name>
+    <message>
+        <source>Program, line %1</source>
+        <translation>Programa, línea %1</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>%1 becomes %2 in the places that have a tick:</source>
+        <translation>%1 pasa a ser %2 en los lugares marcados:</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Todos</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Ninguno</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
     </message>
 </context>
 <context>
@@ -889,10 +1077,6 @@ Overwrite those changes?</source>
         <translation>Otro punto se llama ya «%1»</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; is no longer where it was</source>
-        <translation>%1: «%2» ya no está en su sitio</translation>
-    </message>
-    <message>
         <source>is not a file</source>
         <translation>no es un archivo</translation>
     </message>
@@ -919,6 +1103,18 @@ Overwrite those changes?</source>
     <message>
         <source>&quot;%1&quot; is a word of the language</source>
         <translation>«%1» es una palabra del lenguaje</translation>
+    </message>
+    <message>
+        <source>%1: line %2 holds &quot;%3&quot;, which the file&apos;s encoding (Windows-1252) does not have</source>
+        <translation>%1: la línea %2 contiene «%3», que la codificación del archivo (Windows-1252) no tiene</translation>
+    </message>
+    <message>
+        <source>%1: its %2 have been changed elsewhere</source>
+        <translation>%1: «%2» se ha cambiado en otro lugar</translation>
+    </message>
+    <message>
+        <source>Work on %1 that is not saved. The workbench offers it when the project is opened the next time.</source>
+        <translation>Trabajo en %1 sin guardar. El banco de trabajo lo ofrece la próxima vez que se abra el proyecto.</translation>
     </message>
 </context>
 <context>

@@ -217,6 +217,17 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ComparisonView</name>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modification</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -486,10 +497,6 @@
         <translation>&amp;Ouvrir un projet…</translation>
     </message>
     <message>
-        <source>&amp;Save Program</source>
-        <translation>&amp;Enregistrer le programme</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
     </message>
@@ -554,10 +561,6 @@
         <translation>Renommer</translation>
     </message>
     <message>
-        <source>Rename %1 to %2 in the program, too?</source>
-        <translation>Renommer aussi %1 en %2 dans le programme&#xa0;?</translation>
-    </message>
-    <message>
         <source>&amp;Edit Cells</source>
         <translation>Modifier les &amp;cellules</translation>
     </message>
@@ -580,6 +583,53 @@
     <message>
         <source>&amp;Settings…</source>
         <translation>Pa&amp;ramètres…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save &amp;Elsewhere…</source>
+        <translation>Enregistrer &amp;ailleurs…</translation>
+    </message>
+    <message>
+        <source>&amp;Add Point…</source>
+        <translation>A&amp;jouter un point…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Point</source>
+        <translation>S&amp;upprimer le point</translation>
+    </message>
+    <message>
+        <source>What you type cannot be kept for recovery: %1</source>
+        <translation>Ce que vous tapez ne peut pas être gardé pour la récupération&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Another workbench has this project open, too.</source>
+        <translation>Un autre atelier a aussi ouvert ce projet.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::OpeningFault</name>
+    <message>
+        <source>The project cannot be opened</source>
+        <translation>Impossible d’ouvrir le projet</translation>
+    </message>
+    <message>
+        <source>Mend the file and try again, or open another project. The file has been left as it is.</source>
+        <translation>Corrigez le fichier et réessayez, ou ouvrez un autre projet. Le fichier n’a pas été modifié.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Another…</source>
+        <translation>Ouvrir un &amp;autre…</translation>
+    </message>
+    <message>
+        <source>Try A&amp;gain</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>Open the Version &amp;Before</source>
+        <translation>Ouvrir la &amp;version précédente</translation>
     </message>
 </context>
 <context>
@@ -636,6 +686,41 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::PointRenaming</name>
+    <message>
+        <source>Add Point</source>
+        <translation>Ajouter un point</translation>
+    </message>
+    <message>
+        <source>Name of the new point:</source>
+        <translation>Nom du nouveau point&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The table is full.</source>
+        <translation>La table est pleine.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>Remove Point</source>
+        <translation>Supprimer le point</translation>
+    </message>
+    <message>
+        <source>%1 is still named here, where it will be unknown:
+
+%2
+
+Remove it?</source>
+        <translation>%1 est encore nommé ici, où il sera inconnu&#xa0;:
+
+%2
+
+Le supprimer&#xa0;?</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointTables</name>
     <message>
         <source>Yes</source>
@@ -670,14 +755,30 @@
     </message>
 </context>
 <context>
-    <name>ORVTListview::ProgramSaving</name>
+    <name>ORVTListview::ProjectSaving</name>
     <message>
-        <source>Save Program</source>
-        <translation>Enregistrer le programme</translation>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
     </message>
     <message>
-        <source>Unsaved Changes</source>
-        <translation>Modifications non enregistrées</translation>
+        <source>Save as &amp;UTF-8</source>
+        <translation>Enregistrer en &amp;UTF-8</translation>
+    </message>
+    <message>
+        <source>Save &amp;Elsewhere…</source>
+        <translation>Enregistrer &amp;ailleurs…</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: what was typed stays in the window and is kept for recovery.</source>
+        <translation>Rien n’est perdu&#xa0;: ce qui a été tapé reste dans la fenêtre et est gardé pour la récupération.</translation>
+    </message>
+    <message>
+        <source>Save Elsewhere</source>
+        <translation>Enregistrer ailleurs</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>Projets (*.json)</translation>
     </message>
     <message>
         <source>The program %1 has changes that are not saved.
@@ -686,10 +787,97 @@ Save them?</source>
 Les enregistrer&#xa0;?</translation>
     </message>
     <message>
+        <source>The points of %1 have changes that are not saved.
+Save them?</source>
+        <translation>Les points de %1 ont des modifications non enregistrées.
+Les enregistrer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
         <source>The file %1 has been changed elsewhere since it was opened.
 Overwrite those changes?</source>
         <translation>Le fichier %1 a été modifié ailleurs depuis son ouverture.
 Écraser ces modifications&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RecoveryDialog</name>
+    <message>
+        <source>Recover Unsaved Work</source>
+        <translation>Récupérer le travail non enregistré</translation>
+    </message>
+    <message>
+        <source>The workbench ended without saving this work of %1. What differs from the files is shown below.</source>
+        <translation>L’atelier s’est terminé sans enregistrer ce travail du %1. Ce qui diffère des fichiers est montré ci-dessous.</translation>
+    </message>
+    <message>
+        <source>Before, in the files</source>
+        <translation>Avant, dans les fichiers</translation>
+    </message>
+    <message>
+        <source>After, not saved</source>
+        <translation>Après, non enregistré</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Abandonner</translation>
+    </message>
+    <message>
+        <source>Decide &amp;Later</source>
+        <translation>&amp;Décider plus tard</translation>
+    </message>
+    <message>
+        <source>%1 holds work that was not saved, but cannot be read as a whole. It stays there; a text editor shows what it holds.</source>
+        <translation>%1 contient du travail non enregistré, mais ne peut pas être lu en entier. Le fichier reste là&#xa0;; un éditeur de texte montre ce qu’il contient.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RecoveryKeeper</name>
+    <message>
+        <source>Too many workbenches have this project open.</source>
+        <translation>Trop d’ateliers ont ouvert ce projet.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RenameDialog</name>
+    <message>
+        <source>Program, line %1</source>
+        <translation>Programme, ligne %1</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>%1 becomes %2 in the places that have a tick:</source>
+        <translation>%1 devient %2 aux endroits cochés&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Endroit</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Tous</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Aucun</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenu</translation>
     </message>
 </context>
 <context>
@@ -889,10 +1077,6 @@ Overwrite those changes?</source>
         <translation>Un autre point s’appelle déjà «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; is no longer where it was</source>
-        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» n’est plus à sa place</translation>
-    </message>
-    <message>
         <source>is not a file</source>
         <translation>n’est pas un fichier</translation>
     </message>
@@ -919,6 +1103,18 @@ Overwrite those changes?</source>
     <message>
         <source>&quot;%1&quot; is a word of the language</source>
         <translation>«&#xa0;%1&#xa0;» est un mot du langage</translation>
+    </message>
+    <message>
+        <source>%1: line %2 holds &quot;%3&quot;, which the file&apos;s encoding (Windows-1252) does not have</source>
+        <translation>%1&#xa0;: la ligne %2 contient «&#xa0;%3&#xa0;», que l’encodage du fichier (Windows-1252) n’a pas</translation>
+    </message>
+    <message>
+        <source>%1: its %2 have been changed elsewhere</source>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» a été modifié ailleurs</translation>
+    </message>
+    <message>
+        <source>Work on %1 that is not saved. The workbench offers it when the project is opened the next time.</source>
+        <translation>Travail non enregistré sur %1. L’atelier le propose à la prochaine ouverture du projet.</translation>
     </message>
 </context>
 <context>

@@ -6,31 +6,35 @@
 #include <algorithm>
 
 namespace ORVTListview {
-namespace {
 
-// As JSON writes it, with its quotes.
-QByteArray quoted(const QString &text)
+QByteArray jsonText(const QVariant &value)
 {
-    const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return array.sliced(1, array.size() - 2);
+    const QJsonArray array{QJsonValue::fromVariant(value)};
+    const QByteArray text = QJsonDocument(array).toJson(QJsonDocument::Compact);
+    return text.sliced(1, text.size() - 2);
 }
 
-} // namespace
-
-void JsonEdit::replace(const JsonPlace &place, const QString &text)
+void JsonEdit::replace(const JsonPlace &place, const QVariant &value)
 {
-    m_changes.append({place.start(), place.end(), quoted(text)});
+    replaceBytes(place.start(), place.end(), jsonText(value));
 }
 
-// From the last to the first, so that the places before stay true.
+void JsonEdit::replaceBytes(qsizetype start, qsizetype end, const QByteArray &bytes)
+{
+    m_changes.append({start - m_first, end - m_first, bytes});
+}
+
 QByteArray JsonEdit::bytes() const
 {
     QList<Change> changes = m_changes;
-    std::ranges::sort(changes, std::greater(), &Change::start);
-    QByteArray bytes = m_json;
-    for (const Change &change : std::as_const(changes))
-        bytes.replace(change.start, change.end - change.start, change.value);
-    return bytes;
+    std::ranges::stable_sort(changes, {}, &Change::start);
+    QByteArray bytes;
+    qsizetype done = 0;
+    for (const Change &change : std::as_const(changes)) {
+        bytes += m_json.sliced(done, change.start - done) + change.bytes;
+        done = change.end;
+    }
+    return bytes + m_json.sliced(done);
 }
 
 } // namespace ORVTListview

@@ -4,23 +4,32 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
-#include <QtCore/QString>
+#include <QtCore/QVariant>
 
 namespace ORVTListview {
 
-// Texts put in place of values of a JSON text, while everything else stays as its
-// author laid it out.
+// A text, a number or yes and no as JSON writes it.
+QByteArray jsonText(const QVariant &value);
+
+// Values put in place of those of a JSON text, and beside them, while everything else
+// stays as its author laid it out.
 class JsonEdit
 {
 public:
-    // The places of the changes are places of that text.
-    explicit JsonEdit(const QByteArray &json)
+    // The places of the changes are places of a text that this one is a part of, from a
+    // byte on.
+    explicit JsonEdit(const QByteArray &json, qsizetype first = 0)
         : m_json(json)
+        , m_first(first)
     {
     }
 
     // Every place once.
-    void replace(const JsonPlace &place, const QString &text);
+    void replace(const JsonPlace &place, const QVariant &value);
+    void replaceBytes(qsizetype start, qsizetype end, const QByteArray &bytes);
+
+    // Several at one place come in their order.
+    void insert(qsizetype at, const QByteArray &bytes) { replaceBytes(at, at, bytes); }
 
     QByteArray bytes() const;
 
@@ -29,10 +38,11 @@ private:
     {
         qsizetype start;
         qsizetype end;
-        QByteArray value;
+        QByteArray bytes;
     };
 
     QByteArray m_json;
+    qsizetype m_first;
     QList<Change> m_changes;
 };
 

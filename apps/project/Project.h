@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/ProjectChange.h"
 #include "project/ProjectReader.h"
 
 #include <ORVTListview/IndexedName.h>
@@ -23,37 +24,77 @@ public:
     const ControllerInfo &controller() const { return m_contents.controller; }
     const RichTextSettings &editor() const { return m_contents.editor; }
 
-    // Lines separated by CR LF.
-    QString program() const { return m_contents.program; }
+    // The program as its file has it, lines separated by CR LF.
+    QString program() const { return m_contents.program.text(); }
     QString programFile() const { return m_contents.programFile; }
 
-    // Puts the text, lines separated by CR LF, into the program's file, with the
-    // line ends and the byte order mark that the file had. Raises Error and leaves
-    // file and program() as they were.
+    // What an editor makes of program() when it shows it; the same at first. Saving takes
+    // a line that is still so from the file.
+    void setShownProgram(const QString &shown) { m_shown = shown; }
+    const QString &shownProgram() const { return m_shown; }
+
+    // The bytes that the program's file has with this text, lines separated by CR LF:
+    // ProgramFile::with.
+    QByteArray programBytes(const QString &program) const;
+
+    // Puts the text into the program's file. Raises Error and leaves file and program()
+    // as they were.
     void saveProgram(const QString &program);
 
-    // Whether somebody else has changed the program's file since it was read or
-    // saved here. A file that is gone counts as unchanged.
-    bool isProgramChangedOutside() const;
+    // Characters that its encoding lacks can be saved afterwards.
+    void useUtf8() { m_contents.program = m_contents.program.inUtf8(); }
 
-    // Gives a point another name, here and in its collection; saveNames() takes it
-    // into the file. Raises Error (NameNotUsable) and changes nothing when the type's points
-    // have no names, the name is not one (pointNameFault), or another point has it: one of
-    // the type, for a word of the program one of any type whose points are such words.
+    // Whether somebody else has changed the program's file, or the project's, since it was
+    // read or saved here. A file that is gone counts as unchanged.
+    bool isProgramChangedOutside() const;
+    bool isChangedOutside() const;
+
+    // Why a point cannot be given this name, as a sentence; empty when it can. Not a name
+    // (pointNameFault), no names in such a table, or another point has it: one of the type,
+    // for a word of the program one of any type whose points are such words. A row behind
+    // the last stands for a new point.
+    QString nameFault(LwType type, qsizetype row, const QString &name) const;
+
+    // The row with another name. Raises Error (NameNotUsable) with that sentence.
+    ProjectRow renamed(LwType type, qsizetype row, const QString &name) const;
+
+    // Gives a point another name, here and in its collection; saveTables() takes it into
+    // the file. Raises Error (NameNotUsable) and changes nothing.
     void rename(LwType type, qsizetype row, const QString &name);
 
-    // Whether names wait for being saved.
-    bool hasNewNames() const { return !m_newNames.isEmpty(); }
+    // Carries changes out one after the other, here and in the collections.
+    void apply(const RowChanges &changes);
 
-    // Puts the new names into the project's file, which keeps its layout. Raises Error
-    // and leaves the file when it cannot be written or is another one meanwhile.
-    void saveNames();
+    // Whether changes of the tables wait for being saved.
+    bool hasChangedTables() const { return m_contents.rows != m_saved; }
 
-    // Keeps what the controller answered for a cell of projectColumns(type).
-    void setCell(LwType type, qsizetype row, qsizetype column, const QVariant &cell);
+    // The project's file with the tables of now; it keeps its layout. A table that is
+    // another one in the file meanwhile raises Error, unless it is to be overwritten.
+    enum class Theirs { Kept, Overwritten };
+    QByteArray tableBytes(const QByteArray &json, Theirs theirs = Theirs::Kept) const;
+
+    // The project's file as it was read or saved, and as it would be saved now.
+    const QByteArray &json() const { return m_contents.json; }
+    QByteArray kept() const { return tableBytes(m_contents.json, Theirs::Overwritten); }
+
+    // Puts the changed tables into the project's file. Raises Error and leaves the file when
+    // it cannot be written or would be none that can be read.
+    void saveTables(Theirs theirs = Theirs::Kept);
+
+    // Both, each of them only if it has changed. The version that a file had before stays
+    // beside it, with a "~" behind its name. Raises Error; what was saved by then is.
+    void save(const QString &program, Theirs theirs);
+
+    // Both at another place, the program beside the project's file; the project goes on
+    // there.
+    void saveAt(const QString &fileName, const QString &program);
+
+    // Keeps what the controller answered for a cell of projectColumns(type). Not saved.
+    void setReading(LwType type, qsizetype row, qsizetype column, const QVariant &cell);
 
     // The rows of a type's table in the order of the file; none for other types.
     const QList<ProjectRow> &rows(LwType type) const;
+    const ProjectTables &tables() const { return m_contents.rows; }
 
     // The names of a type's points: dsVariable, dsConst, dsInput, dsOutput and
     // dsNvi have a collection, perhaps an empty one; null for any other type.
@@ -62,23 +103,16 @@ public:
     const QList<ProjectFamily> &families() const { return m_contents.indexedNames; }
 
 private:
-    struct NewName
-    {
-        LwType type;
-        qsizetype row;
-        QString former; // as the file has it
-    };
-
     void fillPoints(LwType type);
+    void renumber(LwType type, qsizetype from, qint32 by);
     bool hasAnother(LwType type, qsizetype row, const QString &name) const;
-    void noteNewName(LwType type, qsizetype row, const QString &former);
-    QByteArray withNewNames(const QByteArray &json) const;
 
     QString m_fileName;
-    QList<NewName> m_newNames;
     ProjectContents m_contents;
+    ProjectTables m_saved;
+    QString m_shown;
     std::map<LwType, PointList> m_points;
-    IndexedNameList m_indexedNames;
+    mutable IndexedNameList m_indexedNames; // those who look at it share their interface
 };
 
 } // namespace ORVTListview

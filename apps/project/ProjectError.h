@@ -12,6 +12,7 @@ enum ProjectErrorNumber : qint32 {
     ProjectNotValid = ObjectErrorBase + 3,
     FileNotWritable = ObjectErrorBase + 4,
     NameNotUsable = ObjectErrorBase + 5,
+    TextNotEncodable = ObjectErrorBase + 6,
 };
 
 } // namespace ORVTListview

@@ -1,6 +1,8 @@
 #include "project/ProjectReader.h"
 
+#include "project/ProjectColumns.h"
 #include "project/ProjectTexts.h"
+#include "project/TextFile.h"
 
 #include "base/TextRules.h"
 #include "project/EditorAppearance.h"
@@ -144,11 +146,11 @@ ProjectContents readContents(const JsonPlace &root)
 
 ProjectContents readProject(const QString &fileName)
 {
-    ProjectContents contents = readContents(JsonPlace::parse(readFile(fileName), fileName));
+    const QByteArray json = readFile(fileName);
+    ProjectContents contents = readContents(JsonPlace::parse(json, fileName));
+    contents.json = json;
     contents.programFile = QFileInfo(fileName).dir().filePath(contents.programFile);
-    const QByteArray bytes = readFile(contents.programFile);
-    contents.programFormat = programFormat(bytes);
-    contents.program = decodeProgram(bytes, contents.programFile);
+    contents.program = ProgramFile(readFile(contents.programFile));
     return contents;
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "project/JsonPlace.h"
-#include "project/ProjectColumns.h"
-#include "project/TextFile.h"
+#include "project/ProgramFile.h"
+#include "project/ProjectRow.h"
 
 #include <ORVTListview/Types.h>
 
-#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QString>
 
@@ -21,16 +20,6 @@ struct ControllerInfo
     bool isHOASupported = false; // outputs have hardware overrides
 
     friend bool operator==(const ControllerInfo &, const ControllerInfo &) = default;
-};
-
-// One row of a point table.
-struct ProjectRow
-{
-    QString name;       // empty where the type's points have none
-    qint32 data = 0;    // the host's value of a point
-    QVariantList cells; // one for each of projectColumns(): QString, double, bool or invalid
-
-    friend bool operator==(const ProjectRow &, const ProjectRow &) = default;
 };
 
 // A family of indexed names.
@@ -49,12 +38,12 @@ struct ProjectContents
 {
     QString name;
     ControllerInfo controller;
-    QHash<LwType, QList<ProjectRow>> rows;
+    ProjectTables rows;
     QList<ProjectFamily> indexedNames;
     RichTextSettings editor;
     QString programFile; // as it can be opened; as the file has it without the program
-    ProgramFormat programFormat;
-    QString program; // lines separated by CR LF
+    ProgramFile program;
+    QByteArray json; // the project file itself
 };
 
 // What a project file says, without its program. Raises Error as readProject does.

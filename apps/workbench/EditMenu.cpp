@@ -1,6 +1,7 @@
 #include "EditMenu.h"
 
 #include "LinesMenu.h"
+#include "renaming/ProjectHistory.h"
 #include "widgets/box/BoxCommands.h"
 #include "workbench/export/ColouredCopy.h"
 
@@ -17,11 +18,13 @@
 
 namespace ORVTListview {
 
-EditMenu::EditMenu(ORVListView &code, const PaperColours &paper, QWidget *parent)
+EditMenu::EditMenu(ORVListView &code, ProjectHistory &history, const PaperColours &paper,
+                   QWidget *parent)
     : QMenu(tr("&Edit"), parent)
     , m_code(code)
     , m_view(*code.codeView())
     , m_paper(paper)
+    , m_history(history)
 {
     addHistory();
     addSeparator();
@@ -108,11 +111,11 @@ void EditMenu::refresh()
     const bool isCode = m_code.CurrentType() == dsCode;
     for (QAction *action : actions())
         action->setEnabled(isCode);
+    m_undo->setEnabled(m_history.canUndo());
+    m_redo->setEnabled(m_history.canRedo());
     if (!isCode)
         return;
     const bool hasSelection = m_code.RTextBox()->SelLength() > 0;
-    m_undo->setEnabled(m_code.IsUndoAvailable());
-    m_redo->setEnabled(m_code.IsRedoAvailable());
     m_cut->setEnabled(hasSelection);
     m_copy->setEnabled(hasSelection);
     m_colouredCopy->setEnabled(hasSelection);
@@ -122,18 +125,12 @@ void EditMenu::refresh()
 
 void EditMenu::undo()
 {
-    QString errMsg;
-    m_code.Undo(errMsg);
-    if (!errMsg.isEmpty())
-        Q_EMIT told(errMsg);
+    m_history.undo();
 }
 
 void EditMenu::redo()
 {
-    QString errMsg;
-    m_code.Redo(errMsg);
-    if (!errMsg.isEmpty())
-        Q_EMIT told(errMsg);
+    m_history.redo();
 }
 
 void EditMenu::restoreTypedText()

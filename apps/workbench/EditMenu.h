@@ -7,6 +7,7 @@ namespace ORVTListview {
 class CodeView;
 class ORVListView;
 class PaperColours;
+class ProjectHistory;
 
 // What the editor offers a host's menu. Its commands can be chosen when they have
 // something to do; the keys beside them are the editor's own.
@@ -15,8 +16,9 @@ class EditMenu : public QMenu
     Q_OBJECT
 
 public:
-    // The colours outlive the menu.
-    EditMenu(ORVListView &code, const PaperColours &paper, QWidget *parent);
+    // Both outlive the menu.
+    EditMenu(ORVListView &code, ProjectHistory &history, const PaperColours &paper,
+             QWidget *parent);
 
     void refresh();
 
@@ -49,6 +51,7 @@ private:
     ORVListView &m_code;
     CodeView &m_view;
     const PaperColours &m_paper;
+    ProjectHistory &m_history;
     bool m_hasRestored = false; // something, since the last time there was nothing
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;

@@ -49,7 +49,8 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setTrimsBlanks(true);
     view.setAdaptsColours(true);
     view.setWordListOpensItself(true);
-    view.setZoom(100); // the wheel with Ctrl
+    view.setKeepsText(true); // what is saved is what was typed
+    view.setZoom(100);       // the wheel with Ctrl
 }
 
 void EditorViewMenu::add(const QString &text, const QKeySequence &keys,

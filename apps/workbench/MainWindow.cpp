@@ -8,19 +8,24 @@
 #include "LanguageMenu.h"
 #include "Languages.h"
 #include "LiveAnalysis.h"
+#include "OpeningFault.h"
 #include "OpeningProgress.h"
 #include "PointCells.h"
 #include "PointChooser.h"
 #include "PointTables.h"
 #include "PointValues.h"
 #include "ProgramNavigation.h"
-#include "ProgramSaving.h"
-#include "ProgramText.h"
 #include "ProjectView.h"
 #include "StatementExport.h"
 #include "editor/rules/colouring/ColourTable.h"
 #include "project/PointReferences.h"
-#include "project/Project.h"
+#include "project/ProjectColumns.h"
+#include "project/ProjectDocument.h"
+#include "renaming/PointRenaming.h"
+#include "renaming/ProjectHistory.h"
+#include "saving/ProjectSaving.h"
+#include "saving/RecoveryKeeper.h"
+#include "saving/RecoveryOffer.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/settings/SettingsDialog.h"
 
@@ -36,6 +41,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QStatusBar>
 
 #include <algorithm>
@@ -49,9 +55,18 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     : QMainWindow(parent)
     , m_languages(languages)
     , m_points(new PointChooser(this))
-    , m_view(new ProjectView(this))
+    , m_pages(new QStackedWidget(this))
+    , m_document(new ProjectDocument({[this] { return m_code->CodeText(); },
+                                      [this] { return m_code->RTextBox()->TextLength(); }},
+                                     this))
+    , m_view(new ProjectView(*m_document, this))
+    , m_fault(new OpeningFault(this))
     , m_code(&m_view->list())
-    , m_saving(new ProgramSaving(*m_code, *this))
+    , m_history(new ProjectHistory(*m_document, *m_code))
+    , m_renaming(new PointRenaming(*m_document, *m_code, *this))
+    , m_saving(new ProjectSaving(*m_document, *this))
+    , m_recovery(new RecoveryKeeper(*m_document, this))
+    , m_offer(new RecoveryOffer(*m_document, *m_recovery, *m_code, *this))
     , m_export(new Exporting(*m_code, *this))
     , m_values(new PointValues(*m_code->codeView(), this))
     , m_results(new CheckResults(this))
@@ -63,7 +78,9 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
 {
     m_points->setPictures(*m_code->GetImage());
     addToolBar(m_points);
-    setCentralWidget(m_view);
+    m_pages->addWidget(m_view);
+    m_pages->addWidget(m_fault);
+    setCentralWidget(m_pages);
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
@@ -72,6 +89,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     buildStatusBar();
     connectEditor();
     connectPoints();
+    connectSaving();
     // Queued: the menu that the language was chosen in is made anew.
     connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
     resize(1100, 700);
@@ -92,7 +110,8 @@ void MainWindow::buildFileMenu()
 {
     QMenu *file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open Project…"), QKeySequence::Open, this, &MainWindow::chooseProject);
-    file->addAction(tr("&Save Program"), QKeySequence::Save, m_saving, &ProgramSaving::save);
+    file->addAction(tr("&Save"), QKeySequence::Save, m_saving, &ProjectSaving::save);
+    file->addAction(tr("Save &Elsewhere…"), m_saving, &ProjectSaving::saveElsewhere);
     file->addSeparator();
     file->addAction(tr("&Export…"), m_export, &Exporting::exportShown);
     QAction *print =
@@ -105,9 +124,10 @@ void MainWindow::buildFileMenu()
 
 void MainWindow::buildEditMenu()
 {
-    auto *edit = new EditMenu(*m_code, m_export->colours(), menuBar());
+    auto *edit = new EditMenu(*m_code, *m_history, m_export->colours(), menuBar());
     menuBar()->addMenu(edit);
     connect(edit, &EditMenu::acted, this, &MainWindow::showPosition);
+    connect(m_document, &ProjectDocument::tablesChanged, edit, &EditMenu::refresh);
     connect(edit, &EditMenu::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
 }
@@ -137,6 +157,18 @@ void MainWindow::buildPointsMenu()
     QAction *rename = points->addAction(tr("Re&name"), &m_view->tables(), &PointTables::editName);
     rename->setShortcut(QKeySequence(Qt::Key_F2));
     rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
+    QAction *add = points->addAction(tr("&Add Point…"), m_renaming,
+                                     [this] { m_renaming->add(m_code->CurrentType()); });
+    QAction *remove = points->addAction(tr("Re&move Point"), m_renaming, [this] {
+        m_renaming->remove(m_code->CurrentType(), m_view->tables().selectedPoint());
+    });
+    connect(points, &QMenu::aboutToShow, this, [this, add, remove, rename] {
+        const bool isTable = m_document->project() && m_code->CurrentType() != dsCode;
+        const bool isPoint = isTable && m_view->tables().selectedPoint() >= 0;
+        add->setEnabled(isTable);
+        remove->setEnabled(isPoint);
+        rename->setEnabled(isPoint && nameColumn(m_code->CurrentType()) >= 0);
+    });
     points->addAction(tr("&Fit Columns"), &m_view->tables(), &PointTables::fitColumns);
     points->addSeparator();
     QAction *cells = points->addAction(tr("&Edit Cells"));
@@ -192,14 +224,13 @@ void MainWindow::connectAnalysis()
     connect(m_navigation, &ProgramNavigation::moved, this, &MainWindow::showPosition);
     connect(m_navigation, &ProgramNavigation::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(&m_view->tables(), &PointTables::renamed, this, &MainWindow::takePoints);
-    connect(&m_view->cells(), &PointCells::changed, this, &MainWindow::takePoints);
+    connect(m_document, &ProjectDocument::tablesChanged, this, &MainWindow::takePoints);
 }
 
 void MainWindow::takePoints()
 {
     m_analysis->takeWords();
-    m_analysis->setOtherUses(otherUsesOf(*m_project));
+    m_analysis->setOtherUses(otherUsesOf(*m_document->project()));
 }
 
 void MainWindow::connectPoints()
@@ -213,55 +244,85 @@ void MainWindow::connectPoints()
             [this] { statusBar()->showMessage(tr("Reading the values…")); });
     connect(&m_view->tables(), &PointTables::readingFinished, this,
             [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
-    connect(&m_view->tables(), &PointTables::renamed, m_points, &PointChooser::refill);
-    connect(&m_view->tables(), &PointTables::renamed, m_values, &PointValues::takeProject);
     connect(&m_view->tables(), &PointTables::readingFinished, m_values, &PointValues::takeProject);
-    connect(&m_view->cells(), &PointCells::changed, m_values, &PointValues::takeProject);
-    connect(&m_view->tables(), &PointTables::renamed, m_saving, &ProgramSaving::noteNewNames);
-    connect(&m_view->tables(), &PointTables::renamed, this, &MainWindow::followName);
+    connect(&m_view->tables(), &PointTables::renameWanted, m_renaming, &PointRenaming::rename);
+    connect(m_history, &ProjectHistory::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
     connect(&m_view->tables(), &PointTables::refused, this,
             [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
 }
 
-void MainWindow::followName(LwType type, const QString &former, const QString &name)
+void MainWindow::connectSaving()
 {
-    m_code->UpdateWordListItem(former, name, type);
-    if (!isVocabularyType(type))
-        return;
-    const auto answer = QMessageBox::question(
-        this, tr("Rename"), tr("Rename %1 to %2 in the program, too?").arg(former, name));
-    if (answer != QMessageBox::Yes)
-        return;
-    QString errMsg;
-    m_code->ReplaceRichTextBox(former, name, errMsg, true);
-    if (!errMsg.isEmpty())
-        QMessageBox::warning(this, tr("Rename"), errMsg);
+    connect(m_code->RTextBox(), &RichTextBox::Change, m_document,
+            &ProjectDocument::noteProgramChange);
+    connect(m_document, &ProjectDocument::tablesChanged, m_points, &PointChooser::refill);
+    connect(m_document, &ProjectDocument::tablesChanged, m_values, &PointValues::takeProject);
+    connect(m_document, &ProjectDocument::tablesChanged, m_view, &ProjectView::refresh);
+    connect(m_saving, &ProjectSaving::settled, m_recovery, &RecoveryKeeper::drop);
+    connect(m_saving, &ProjectSaving::movedElsewhere, this, [this] {
+        m_recovery->begin();
+        showProgramInfo();
+    });
+    connect(m_recovery, &RecoveryKeeper::failed, this, [this](const QString &reason) {
+        statusBar()->showMessage(tr("What you type cannot be kept for recovery: %1").arg(reason));
+    });
+    connect(m_recovery, &RecoveryKeeper::recovered, statusBar(), &QStatusBar::clearMessage);
+    connect(m_fault, &OpeningFault::projectWanted, this, &MainWindow::openForUser);
+    connect(m_fault, &OpeningFault::choiceWanted, this, &MainWindow::chooseProject);
 }
 
 void MainWindow::chooseProject()
 {
-    const QString folder = m_project ? QFileInfo(m_project->fileName()).path() : QString();
+    const Project *project = m_document->project();
+    const QString folder = project ? QFileInfo(project->fileName()).path() : QString();
     const QString fileName =
         QFileDialog::getOpenFileName(this, tr("Open Project"), folder, tr("Projects (*.json)"));
     if (fileName.isEmpty() || !m_saving->mayLeave())
         return;
+    if (project)
+        openByHand(fileName);
+    else
+        openForUser(fileName);
+}
+
+// What is shown stays when the other one cannot be opened.
+void MainWindow::openByHand(const QString &fileName)
+{
     try {
         openProject(fileName);
+        m_offer->makeAll();
     } catch (const Error &error) {
+        m_document->noteProgramChange(); // it is still to be kept
         QMessageBox::warning(this, tr("Open Project"), error.Description());
+    }
+}
+
+void MainWindow::openForUser(const QString &fileName)
+{
+    try {
+        openProject(fileName);
+        m_offer->makeAll();
+    } catch (const Error &error) {
+        m_pages->setCurrentWidget(m_fault);
+        m_fault->show(fileName, error.Description());
     }
 }
 
 void MainWindow::openProject(const QString &fileName)
 {
-    auto former = std::exchange(m_project, std::make_unique<Project>(fileName));
-    m_view->setProject(*m_project);
+    auto project = std::make_unique<Project>(fileName);
+    m_view->setProject(*project);
+    m_values->setProject(project.get());
+    m_export->setProject(project.get());
+    m_navigation->setProject(project.get());
+    m_document->setProject(std::move(project));
     m_points->refill();
-    m_values->setProject(m_project.get());
-    m_export->setProject(m_project.get());
-    m_navigation->setProject(m_project.get());
-    setWindowTitle(m_project->name() + u"[*]"_s); // the application's name is added to it
+    setWindowTitle(m_document->project()->name() + u"[*]"_s); // the application's name is added
     showProgram();
+    m_recovery->begin();
+    if (m_recovery->isOpenElsewhere())
+        statusBar()->showMessage(tr("Another workbench has this project open, too."), 10000);
 }
 
 void MainWindow::showType(LwType type)
@@ -272,11 +333,12 @@ void MainWindow::showType(LwType type)
 void MainWindow::showProgram()
 {
     m_results->hide();
+    m_pages->setCurrentWidget(m_view);
     m_view->showType(dsCode);
     m_code->Clear();
     applyAppearance();
-    m_code->codeView()->openProgram(withWordsApart(m_project->program()));
-    m_saving->setProject(m_project.get());
+    m_code->codeView()->openProgram(m_document->project()->program());
+    m_document->noteShown();
     takePoints();
     m_code->setFocus();
     showPosition();
@@ -285,7 +347,8 @@ void MainWindow::showProgram()
 
 void MainWindow::chooseSettings()
 {
-    const RichTextSettings project = m_project ? m_project->editor() : defaultColours();
+    const RichTextSettings project =
+        m_document->project() ? m_document->project()->editor() : defaultColours();
     SettingsDialog dialog(m_settings, project, this);
     if (dialog.exec() != QDialog::Accepted || dialog.settings() == m_settings)
         return;
@@ -299,15 +362,16 @@ void MainWindow::setSettings(const Settings &settings)
     if (settings.language != former.language)
         m_languages.setLanguage(settings.language.value_or(QLocale::system()));
     useTheme(settings.theme);
-    if (settings.look != former.look && m_project)
+    if (settings.look != former.look && m_document->project())
         renewAppearance();
 }
 
 void MainWindow::applyAppearance()
 {
-    const RichTextSettings shown = legibleOn(palette(), m_settings.look.over(m_project->editor()));
+    const RichTextSettings paper = m_document->project()->editor();
+    const RichTextSettings shown = legibleOn(palette(), m_settings.look.over(paper));
     m_code->Init_RichTextBox(shown);
-    m_export->setColours(PaperColours(m_project->editor(), shown));
+    m_export->setColours(PaperColours(paper, shown));
 }
 
 void MainWindow::analyse()
@@ -343,7 +407,8 @@ void MainWindow::exportListing()
 {
     if (const auto statements = compiled())
         exportStatements(*this, *statements,
-                         m_project ? m_project->programFile() + u".txt"_s : QString());
+                         m_document->project() ? m_document->project()->programFile() + u".txt"_s
+                                               : QString());
 }
 
 void MainWindow::showPosition()
@@ -353,10 +418,11 @@ void MainWindow::showPosition()
 
 void MainWindow::showProgramInfo()
 {
-    const QString file = m_project ? QFileInfo(m_project->programFile()).fileName() : QString();
-    if (m_project)
-        m_programInfo->setText(
-            tr("%1, lines: %2").arg(file, QString::number(m_code->RTextBox()->lineCount())));
+    const Project *project = m_document->project();
+    if (project)
+        m_programInfo->setText(tr("%1, lines: %2")
+                                   .arg(QFileInfo(project->programFile()).fileName(),
+                                        QString::number(m_code->RTextBox()->lineCount())));
 }
 
 // The appearance is applied anew, which takes the caret to the start.
@@ -381,6 +447,7 @@ void MainWindow::retranslate()
     menuBar()->clear();
     buildMenus();
     m_view->retranslate();
+    m_fault->retranslate();
     m_points->retranslate();
     showPosition();
     showProgramInfo();
@@ -388,7 +455,7 @@ void MainWindow::retranslate()
 
 void MainWindow::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange && m_project)
+    if (event->type() == QEvent::PaletteChange && m_document->project())
         renewAppearance();
     QMainWindow::changeEvent(event);
 }

@@ -7,10 +7,10 @@
 #include <QtCore/QList>
 #include <QtWidgets/QMainWindow>
 
-#include <memory>
 #include <optional>
 
 class QLabel;
+class QStackedWidget;
 
 namespace ORVTListview {
 
@@ -20,12 +20,17 @@ class Exporting;
 class Languages;
 class LiveAnalysis;
 class OpeningProgress;
+class OpeningFault;
 class ProgramNavigation;
-class ProgramSaving;
 class PointChooser;
+class PointRenaming;
 class PointValues;
-class Project;
+class ProjectDocument;
+class ProjectHistory;
+class ProjectSaving;
 class ProjectView;
+class RecoveryKeeper;
+class RecoveryOffer;
 struct ListedStatement;
 
 // A small host: shows a project in the library's components.
@@ -41,6 +46,10 @@ public:
     // Shows the project. What is shown goes without a question. Raises Error and
     // keeps what is shown when the file cannot be read.
     void openProject(const QString &fileName);
+
+    // The same for a user who is there: tells in the window what is wrong, and what can be
+    // done, and offers work that was not saved the last time.
+    void openForUser(const QString &fileName);
 
     // What the user has decided for all projects; at first the theme and the language that
     // are in use.
@@ -69,8 +78,9 @@ private:
     void buildStatusBar();
     void connectEditor();
     void connectPoints();
-    void followName(LwType type, const QString &former, const QString &name);
+    void connectSaving();
     void chooseProject();
+    void openByHand(const QString &fileName);
     void showProgram();
     void chooseSettings();
     void applyAppearance();
@@ -87,11 +97,17 @@ private:
 
     Languages &m_languages;
     Settings m_settings;
-    std::unique_ptr<Project> m_project;
     PointChooser *m_points; // made in the order of the Tab key
+    QStackedWidget *m_pages;
+    ProjectDocument *m_document;
     ProjectView *m_view;
+    OpeningFault *m_fault;
     ORVListView *m_code; // the view owns it
-    ProgramSaving *m_saving;
+    ProjectHistory *m_history;
+    PointRenaming *m_renaming;
+    ProjectSaving *m_saving;
+    RecoveryKeeper *m_recovery;
+    RecoveryOffer *m_offer;
     Exporting *m_export;
     PointValues *m_values;
     CheckResults *m_results;

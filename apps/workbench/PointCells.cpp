@@ -1,14 +1,16 @@
 #include "PointCells.h"
 
 #include "PointTables.h"
-#include "project/Project.h"
 #include "project/ProjectColumns.h"
+#include "project/ProjectDocument.h"
 #include "shared/points/DisplayNames.h"
 
 #include <ORVTListview/ListGrid.h>
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ReportList.h>
+
+#include <QtCore/QMap>
 
 namespace ORVTListview {
 
@@ -31,10 +33,11 @@ QVariant projectCell(const QString &text, CellKind kind, const CellRule &rule)
 
 } // namespace
 
-PointCells::PointCells(ORVListView &list)
+PointCells::PointCells(ORVListView &list, ProjectDocument &document)
     : QObject(&list)
     , m_list(list)
     , m_grid(*list.listView()->grid())
+    , m_document(document)
 {
     m_grid.setPointNames([this] { return names(); });
     connect(&m_grid, &ListGrid::cellEntering, this,
@@ -42,6 +45,11 @@ PointCells::PointCells(ORVListView &list)
                 answer(*item, refusal);
             });
     connect(&m_grid, &ListGrid::cellsChanged, this, &PointCells::take);
+}
+
+const Project *PointCells::project() const
+{
+    return m_document.project();
 }
 
 bool PointCells::isOn() const
@@ -84,7 +92,7 @@ void PointCells::setRules()
 // -1 for a row without a point.
 qsizetype PointCells::pointOf(const ListItem &item) const
 {
-    const bool isPoint = m_project && item.Index() <= m_project->rows(m_list.CurrentType()).size();
+    const bool isPoint = project() && item.Index() <= project()->rows(m_list.CurrentType()).size();
     return isPoint ? item.Index() - 1 : -1;
 }
 
@@ -97,23 +105,33 @@ void PointCells::answer(const ListItem &item, QString &refusal) const
 void PointCells::take(const QList<CellChange> &changes)
 {
     const LwType type = m_list.CurrentType();
+    QMap<qsizetype, ProjectRow> rows;
     for (const CellChange &change : changes) {
         const qsizetype row = pointOf(*change.item);
         const qsizetype column = change.column - 1;
         if (row < 0 || column < 0 || column >= projectColumns(type).size())
             continue;
-        m_project->setCell(type, row, column,
-                           projectCell(change.text, projectColumns(type).at(column).kind,
-                                       m_grid.rule(change.column)));
+        auto changed = rows.find(row);
+        if (changed == rows.end())
+            changed = rows.insert(row, project()->rows(type).at(row));
+        changed->setCell(column, projectCell(change.text, projectColumns(type).at(column).kind,
+                                             m_grid.rule(change.column)));
     }
-    Q_EMIT changed();
+    RowChanges step;
+    for (auto row = rows.cbegin(); row != rows.cend(); ++row) {
+        const ProjectRow &before = project()->rows(type).at(row.key());
+        if (!(before == row.value()))
+            step.append({type, row.key(), before, row.value()});
+    }
+    if (!step.isEmpty())
+        m_document.carryOut(step);
 }
 
 QStringList PointCells::names() const
 {
     QStringList names;
     for (const LwType type : projectTypes()) {
-        for (const ProjectRow &row : m_project ? m_project->rows(type) : QList<ProjectRow>()) {
+        for (const ProjectRow &row : project() ? project()->rows(type) : QList<ProjectRow>()) {
             if (isVocabularyType(type) && !row.name.isEmpty())
                 names.append(row.name);
         }

@@ -12,18 +12,16 @@ class ListGrid;
 class ListItem;
 class ORVListView;
 class Project;
+class ProjectDocument;
 
 // The cells of the point tables as users edit them; names excepted, which are changed by
-// renaming. What is entered is in the project until it is closed.
+// renaming. What is entered at once is one step.
 class PointCells : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit PointCells(ORVListView &list);
-
-    // The project must live until the next call.
-    void setProject(Project *project) { m_project = project; }
+    PointCells(ORVListView &list, ProjectDocument &document);
 
     bool isOn() const;
     void setOn(bool on);
@@ -31,10 +29,8 @@ public:
     // Also after a change of language.
     void setRules();
 
-Q_SIGNALS:
-    void changed();
-
 private:
+    const Project *project() const;
     qsizetype pointOf(const ListItem &item) const;
     void answer(const ListItem &item, QString &refusal) const;
     void take(const QList<CellChange> &changes);
@@ -42,7 +38,7 @@ private:
 
     ORVListView &m_list;
     ListGrid &m_grid;
-    Project *m_project = nullptr;
+    ProjectDocument &m_document;
 };
 
 } // namespace ORVTListview

@@ -1,9 +1,9 @@
 #include "PointTables.h"
 
 #include "project/Project.h"
+#include "project/ProjectColumns.h"
 
 #include <ORVTListview/ColumnHeaders.h>
-#include <ORVTListview/Error.h>
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ORVListView.h>
@@ -53,21 +53,37 @@ void PointTables::show(LwType type)
     m_list.SetImage(isReading());
     if (type == dsCode)
         return;
-    const qsizetype points = m_project->rows(type).size(); // 16 bits hold them all
-    if (points > m_list.NumberItems())
-        m_list.ChangeListviewNumber(static_cast<qint16>(points));
     const auto names = static_cast<qint16>(nameColumn(type) + 1);
     m_list.setLabelColumn(names);
-    fill();
+    showRows();
     fitColumns();
 }
 
+void PointTables::showRows()
+{
+    const qsizetype points = m_project->rows(m_list.CurrentType()).size(); // 16 bits hold them all
+    if (points > m_list.NumberItems())
+        m_list.ChangeListviewNumber(static_cast<qint16>(points));
+    fill();
+}
+
+// Rows behind the points are empty.
 void PointTables::fill()
 {
     const qsizetype points = m_project->rows(m_list.CurrentType()).size();
-    const qsizetype rows = std::min<qsizetype>(points, m_list.ListItems()->Count());
-    for (qsizetype row = 0; row < rows; ++row)
-        fillRow(*m_list.ListItems()->Item(static_cast<qint32>(row) + 1), row);
+    for (qsizetype row = 0; row < m_list.ListItems()->Count(); ++row) {
+        ListItem &item = *m_list.ListItems()->Item(static_cast<qint32>(row) + 1);
+        if (row < points)
+            fillRow(item, row);
+        else
+            clearRow(item);
+    }
+}
+
+void PointTables::clearRow(ListItem &item)
+{
+    for (qint32 column = 1; column < m_list.ColumnHerders()->Count(); ++column)
+        item.setSubItem(column, QString());
 }
 
 void PointTables::fillRow(ListItem &item, qsizetype row)
@@ -123,7 +139,7 @@ void PointTables::finishReading()
             continue;
         for (qsizetype row = 0; row < m_project->rows(m_readType).size(); ++row) {
             const QVariant &last = m_project->rows(m_readType).at(row).cells.at(column);
-            m_project->setCell(m_readType, row, column, m_controller.reading(last));
+            m_project->setReading(m_readType, row, column, m_controller.reading(last));
         }
     }
     if (m_list.CurrentType() == m_readType)
@@ -161,20 +177,27 @@ void PointTables::takeName(qint16 &cancel, const QString &name)
     cancel = 1;
     if (row < 0)
         return;
-    const QString former = m_project->rows(type).at(row).name;
-    if (name == former)
+    if (name == m_project->rows(type).at(row).name)
         return;
-    try {
-        m_project->rename(type, row, name);
-        cancel = 0;
-        Q_EMIT renamed(type, former, name);
-    } catch (const Error &error) {
-        const QPointer<PointTables> self(this); // while the user reads the reason
-        Q_EMIT refused(error.Description());
-        if (self)
-            QMetaObject::invokeMethod(
-                this, [this, type, name] { correctName(type, name); }, Qt::QueuedConnection);
-    }
+    const QString fault = m_project->nameFault(type, row, name);
+    const QPointer<PointTables> self(this); // while the user reads
+    if (!fault.isEmpty())
+        Q_EMIT refused(fault);
+    if (!self)
+        return;
+    // Queued: the field for the name is still open.
+    if (fault.isEmpty())
+        QMetaObject::invokeMethod(
+            this, [this, type, row, name] { Q_EMIT renameWanted(type, row, name); },
+            Qt::QueuedConnection);
+    else
+        QMetaObject::invokeMethod(
+            this, [this, type, name] { correctName(type, name); }, Qt::QueuedConnection);
+}
+
+qsizetype PointTables::selectedPoint() const
+{
+    return pointOf(m_list.SelectedItem());
 }
 
 // Edits the same name again, as it was typed.

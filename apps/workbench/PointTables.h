@@ -33,12 +33,18 @@ public:
     // Shows the type's table; none for dsCode.
     void show(LwType type);
 
+    // The points that there are now, in the table that is shown.
+    void showRows();
+
     // The rows of the table that is shown, anew.
     void fill();
     void fitColumns();
 
     // Selects the point's row in the table that is shown.
     void goTo(const QString &name);
+
+    // The point of the selected row, from 0; -1 for none.
+    qsizetype selectedPoint() const;
 
     // Asks the controller, which answers after a while; one question at a time.
     void read(LwType type);
@@ -51,14 +57,15 @@ Q_SIGNALS:
     void readingStarted();
     void readingFinished();
 
-    // The name is in the project; the former one may be in the program.
-    void renamed(ORVTListview::LwType type, const QString &former, const QString &name);
+    // A point is to have another name, which it can have.
+    void renameWanted(ORVTListview::LwType type, qsizetype row, const QString &name);
 
     // A name was not taken.
     void refused(const QString &reason);
 
 private:
     void fillRow(ListItem &item, qsizetype row);
+    void clearRow(ListItem &item);
     void finishReading();
     void allowEditing(qint16 &cancel);
     void takeName(qint16 &cancel, const QString &name);

@@ -15,12 +15,12 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-ProjectView::ProjectView(QWidget *parent)
+ProjectView::ProjectView(ProjectDocument &document, QWidget *parent)
     : QSplitter(parent)
     , m_tree(new ORVTreeview(this))
     , m_list(new ORVListView(this))
     , m_tables(new PointTables(*m_list))
-    , m_cells(new PointCells(*m_list))
+    , m_cells(new PointCells(*m_list, document))
 {
     setChildrenCollapsible(false);
     setStretchFactor(1, 1);
@@ -36,7 +36,6 @@ void ProjectView::setProject(Project &project)
 {
     m_project = &project;
     m_tables->setProject(&project);
-    m_cells->setProject(&project);
     m_tree->SetCollectionRenamable(window(), project.points(dsVariable), project.points(dsConst),
                                    project.points(dsInput), project.points(dsOutput),
                                    project.points(dsNvi));
@@ -69,6 +68,13 @@ void ProjectView::showType(LwType type)
     m_tree->setSelectedItem(category);
     category->EnsureVisible();
     Q_EMIT shown(type);
+}
+
+void ProjectView::refresh()
+{
+    m_list->RefillListviewWithWordList();
+    if (m_project && m_list->CurrentType() != dsCode)
+        m_tables->showRows();
 }
 
 void ProjectView::takePoint(LwType type, const QString &name)

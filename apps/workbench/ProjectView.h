@@ -10,6 +10,7 @@ namespace ORVTListview {
 class PointCells;
 class PointTables;
 class Project;
+class ProjectDocument;
 
 // A project's tree, and beside it the program or the table of the category that is
 // chosen in the tree.
@@ -18,7 +19,7 @@ class ProjectView : public QSplitter
     Q_OBJECT
 
 public:
-    explicit ProjectView(QWidget *parent);
+    ProjectView(ProjectDocument &document, QWidget *parent);
 
     ORVListView &list() const { return *m_list; }
     PointTables &tables() const { return *m_tables; }
@@ -29,6 +30,9 @@ public:
     void setProject(Project &project);
 
     void showType(LwType type);
+
+    // The project's tables have changed.
+    void refresh();
 
     // Puts the point's name into the program at the caret, or shows its row where a
     // table is shown.

@@ -16,7 +16,6 @@
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QMessageBox>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -70,17 +69,20 @@ void keep(MainWindow &window, QSettings &store)
                      [&] { writeWindow(store, window, view); });
 }
 
-// Nobody is there to close a message box while a picture is made.
+// Nobody is there to answer while a picture is made.
 bool open(MainWindow &window, const Options &options)
 {
+    if (options.screenshot.isEmpty()) {
+        window.openForUser(options.project);
+        window.showType(options.shown);
+        return true;
+    }
     try {
         window.openProject(options.project);
         window.showType(options.shown);
         return true;
     } catch (const Error &error) {
         QTextStream(stderr) << error.Description() << Qt::endl;
-        if (options.screenshot.isEmpty())
-            QMessageBox::warning(&window, QString(), error.Description());
         return false;
     }
 }

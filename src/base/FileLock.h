@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/HouseExport.h"
+
 #include <QtCore/QString>
 
 #include <chrono>
@@ -11,7 +13,7 @@ namespace ORVTListview {
 // lock ends with the process that holds it, however that ends. Its file is
 // created where missing, stays empty and is never removed: removing it could
 // leave two holders.
-class FileLock
+class ORVT_HOUSE_EXPORT FileLock
 {
 public:
     // Waits for a lock held elsewhere, but no longer than patience.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/HouseExport.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QByteArrayView>
 #include <QtCore/QString>
@@ -33,10 +35,10 @@ inline constexpr std::u16string_view windows1252UpperHalf =
     u"\u00F0\u00F1\u00F2\u00F3\u00F4\u00F5\u00F6\u00F7"
     u"\u00F8\u00F9\u00FA\u00FB\u00FC\u00FD\u00FE\u00FF";
 
-QString fromWindows1252(QByteArrayView bytes);
+ORVT_HOUSE_EXPORT QString fromWindows1252(QByteArrayView bytes);
 
 // None when the code page lacks one of the characters; nothing is ever replaced
 // by a similar one.
-std::optional<QByteArray> toWindows1252(QStringView text);
+ORVT_HOUSE_EXPORT std::optional<QByteArray> toWindows1252(QStringView text);
 
 } // namespace ORVTListview

@@ -4,6 +4,7 @@
 #include "base/TextRules.h"
 #include "editor/EditorThread.h"
 #include "editor/rules/colouring/ColourText.h"
+#include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/language/CodeText.h"
 #include "editor/rules/language/CodeWordList.h"
 #include "shared/texts/TextTable.h"
@@ -23,13 +24,16 @@ void warn(const EditorThread &thread, const QString &text)
 } // namespace
 
 std::optional<ColouredText> textToPaste(const EditorThread &thread, const RichTextBox &box,
-                                        const QString &data)
+                                        const QString &data, Pasting how)
 {
     if (data.contains(u'\\')) {
         warn(thread, Localise(u"Invalid letter: '\\' that is reserved to RTF!"_s));
         return std::nullopt;
     }
     const bool continuesComment = IsCommentLine(box.lineText(box.GetLineFromChar(box.SelStart())));
+    if (how == Pasting::AsItIs)
+        return thread.finished(withCrLf(data),
+                               continuesComment ? Spelling::AsTyped : Spelling::Listed);
     return colouredText(thread.colouring(), withCrLf(data), continuesComment, thread.settings());
 }
 

@@ -127,6 +127,11 @@ void CodeCommands::edit(const std::function<void()> &change)
     m_acts.colouring.edit(change);
 }
 
+void CodeCommands::keepState()
+{
+    m_acts.undo.PushUndoSnapshot();
+}
+
 void CodeCommands::undo()
 {
     QString errMsg;

@@ -47,6 +47,7 @@ public:
     void replace(const QList<TextPiece> &pieces, const QString &text) override;
     void beforeChange(bool losesPart) override;
     void edit(const std::function<void()> &change) override;
+    void keepState() override;
     void undo() override;
     void redo() override;
     void leave(bool forwards) override;

@@ -2,6 +2,7 @@
 
 #include "base/EventGuard.h"
 #include "editor/CodeViewParts.h"
+#include "editor/EditorUndo.h"
 #include "editor/ProgramCommands.h"
 #include "editor/ProgramOpening.h"
 #include <ORVTListview/RichTextBox.h>
@@ -366,6 +367,19 @@ void CodeView::setWordListOpensItself(bool on)
         return;
     d->commands.words.setOpensItself(on);
     raiseEvent(*this, &CodeView::wordListOpensItselfChanged, on);
+}
+
+bool CodeView::keepsText() const
+{
+    return d->commands.undo.keepsText();
+}
+
+void CodeView::setKeepsText(bool on)
+{
+    if (on == keepsText())
+        return;
+    d->commands.undo.setKeepsText(on);
+    raiseEvent(*this, &CodeView::keepsTextChanged, on);
 }
 
 void CodeView::setWordDescriptions(const QHash<QString, QString> &descriptions)

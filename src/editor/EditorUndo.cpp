@@ -99,9 +99,16 @@ bool EditorUndo::stepInRing(Way way)
         m_kept.keepUnreachable(m_thread.ring, joinedUndoRecord(record));
         throw;
     }
-    show(state, colouredText(m_thread.colouring(), state.text, false, m_thread.settings()));
+    show(state, coloured(state.text));
     m_kept.afterStep(m_thread.ring);
     return true;
+}
+
+ColouredText EditorUndo::coloured(const QString &text) const
+{
+    if (m_keepsText)
+        return m_thread.finished(text, Spelling::AsTyped);
+    return colouredText(m_thread.colouring(), text, false, m_thread.settings());
 }
 
 bool EditorUndo::bringBackKeptText()

@@ -24,6 +24,11 @@ public:
     // An editor that is not ready takes no snapshots.
     void setReady(bool isReady) { m_isReady = isReady; }
 
+    // Whether a text that is coloured as a whole stays as it is.
+    bool keepsText() const { return m_keepsText; }
+    void setKeepsText(bool on) { m_keepsText = on; }
+    ColouredText coloured(const QString &text) const;
+
     // A character was typed, before it is inserted. A blank takes a snapshot when
     // something else was typed since the last one.
     void noteTyped(QStringView text);
@@ -77,6 +82,7 @@ private:
     QTimer m_idle;
     bool m_isReady = false;
     bool m_isTypedSinceSnapshot = false;
+    bool m_keepsText = false;
 };
 
 } // namespace ORVTListview

@@ -100,7 +100,9 @@ Pasted ProgramClipboard::pasteChecked(const QString &data)
     const RichTextBox::Changing changing(m_box);
     const bool hasColours = isRtf(data);
     const std::optional<ColouredText> text =
-        hasColours ? std::nullopt : textToPaste(m_thread, m_box, data);
+        hasColours ? std::nullopt
+                   : textToPaste(m_thread, m_box, data,
+                                 m_undo.keepsText() ? Pasting::AsItIs : Pasting::AsColoured);
     if (!text && !hasColours)
         return Pasted::Refused;
     const QPointer<RichTextBox> box(&m_box); // the host may destroy it

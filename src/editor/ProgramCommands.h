@@ -9,6 +9,7 @@
 
 namespace ORVTListview {
 
+class EditorUndo;
 class ProgramOpening;
 
 // What a host binds to its menu beyond the keys, a class for each subject.
@@ -17,6 +18,7 @@ struct ProgramCommands
     ProgramCommands(const CommandTools &tools, const LineCommands &lineCommands, TypingHelp &help,
                     PopupWordList &wordList, ProgramOpening &programOpening)
         : moves(tools.moves)
+        , undo(tools.undo)
         , caret(tools)
         , finding(tools)
         , lines(tools)
@@ -28,6 +30,7 @@ struct ProgramCommands
     }
 
     LineMoves &moves;
+    EditorUndo &undo;
     const CaretCommands caret;
     const ProgramFinding finding;
     const LineBlocks lines;

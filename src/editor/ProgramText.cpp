@@ -61,7 +61,7 @@ void ProgramText::Init_RichTextBox(const RichTextSettings &Setting)
     try {
         state.RtfHeader =
             BuildRtfHeader(sampleRtf(), state.EditorSettings, m_thread.messages.service()).Header;
-        m_box.setColoured(coloured(kept));
+        m_box.setColoured(m_undo.coloured(kept));
     } catch (const std::exception &) {
         m_box.setText(kept); // uncoloured is better than lost
     }
@@ -125,11 +125,6 @@ void ProgramText::setCodeTextRTF(const QString &rtf)
 QString ProgramText::GetColorText(const QString &Text) const
 {
     return ColourText(m_thread.colouring(), withCrLf(Text), m_thread.state.RtfHeader, false);
-}
-
-ColouredText ProgramText::coloured(const QString &text) const
-{
-    return colouredText(m_thread.colouring(), text, false, m_thread.settings());
 }
 
 void ProgramText::Clear()

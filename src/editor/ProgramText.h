@@ -7,7 +7,6 @@ namespace ORVTListview {
 class EditorUndo;
 class RichTextBox;
 class WordChoice;
-struct ColouredText;
 struct EditorThread;
 struct RichTextSettings;
 
@@ -39,7 +38,6 @@ public:
 private:
     void applyAppearance(const RichTextSettings &setting);
     QString sampleRtf();
-    ColouredText coloured(const QString &text) const;
 
     RichTextBox &m_box;
     const EditorThread &m_thread;

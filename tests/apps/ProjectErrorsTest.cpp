@@ -171,12 +171,11 @@ TEST(ProjectErrors, MissingProgram)
     EXPECT_TRUE(fault.text.startsWith(u"other.txt: "_s)) << fault.text.toStdString();
 }
 
-TEST(ProjectErrors, ProgramThatIsNotUtf8)
+TEST(ProjectErrors, AProgramThatIsNotUtf8IsReadAsWindows1252)
 {
     const ProjectFolder folder;
     folder.write(u"code.txt"_s, "A\nB \xFC\n");
     folder.write(u"p.json"_s, R"({"format": 1, "name": "T", "program": "code.txt"})");
-    const Fault fault = load(folder, u"p.json"_s);
-    EXPECT_EQ(fault.number, TextNotUtf8);
-    EXPECT_EQ(fault.text, u"code.txt: line 2 is not valid UTF-8"_s);
+    const Project project(folder.path(u"p.json"_s));
+    EXPECT_EQ(project.program(), u"A\r\nB ü\r\n"_s);
 }

@@ -1,4 +1,6 @@
 #include "project/Project.h"
+#include "project/ProjectColumns.h"
+#include "project/TextFile.h"
 
 #include "ProjectFolder.h"
 #include "project/ProjectError.h"
@@ -296,12 +298,12 @@ TEST(Project, RenamesAPointHereAndInItsFile)
     EXPECT_EQ(inputs->Item(2)->Name, u"Größe"_s);
     EXPECT_EQ(inputs->Item(2)->Data, 7);
     EXPECT_EQ(project.rows(dsInput).at(1).cells.at(0), QVariant(u"Größe"_s));
-    EXPECT_TRUE(project.hasNewNames());
+    EXPECT_TRUE(project.hasChangedTables());
     project.rename(dsInput, 1, u"Another"_s);
 
     const QByteArray before = readFile(project.fileName());
-    project.saveNames();
-    EXPECT_FALSE(project.hasNewNames());
+    project.saveTables();
+    EXPECT_FALSE(project.hasChangedTables());
     EXPECT_EQ(readFile(project.fileName()), QByteArray(before).replace("\"I2\"", "\"Another\""));
     EXPECT_EQ(Project(project.fileName()).rows(dsInput).at(1).name, u"Another"_s);
 }
@@ -314,23 +316,30 @@ TEST(Project, SavesNamesBehindAByteOrderMark)
     folder.write(u"p.json"_s, marked);
     Project project(file);
     project.rename(dsInput, 0, u"First"_s);
-    project.saveNames();
+    project.saveTables();
     EXPECT_EQ(readFile(file), QByteArray(marked).replace("\"I1\"", "\"First\""));
     EXPECT_EQ(Project(file).rows(dsInput).at(0).name, u"First"_s);
 }
 
-TEST(Project, DoesNotMakeAFileThatCannotBeOpened)
+TEST(Project, DoesNotOverwriteTablesUnasked)
 {
     const ProjectFolder folder;
     Project project(writeProject(folder, R"("inputs": [{"name": "I1"}])"));
     project.rename(dsInput, 0, u"I9"_s);
-    writeProject(folder, R"("inputs": [{"name": "I1"}, {"name": "I9"}])");
+    EXPECT_FALSE(project.isChangedOutside());
+    writeProject(folder, R"("inputs": [{"name": "I1"}, {"name": "I9"}], "logs": [{"data": "x"}])");
+    EXPECT_TRUE(project.isChangedOutside());
     const QByteArray theirs = readFile(project.fileName());
-    const auto error = raisedBy([&] { project.saveNames(); });
+    const auto error = raisedBy([&] { project.saveTables(); });
     ASSERT_TRUE(error);
-    EXPECT_EQ(error->Number(), ProjectNotValid);
+    EXPECT_EQ(error->Number(), FileNotWritable);
     EXPECT_EQ(readFile(project.fileName()), theirs);
-    EXPECT_TRUE(project.hasNewNames());
+    EXPECT_TRUE(project.hasChangedTables());
+
+    project.saveTables(Project::Theirs::Overwritten);
+    const Project saved(project.fileName());
+    EXPECT_EQ(saved.rows(dsInput), project.rows(dsInput));
+    EXPECT_EQ(saved.rows(dsLog).size(), 1); // nobody changed it here
 }
 
 TEST(Project, RefusesNamesThatCannotBeUsed)
@@ -353,7 +362,7 @@ TEST(Project, RefusesNamesThatCannotBeUsed)
         EXPECT_EQ(numberOf(dsInput, 0, name), qint32{NameNotUsable}) << name.toStdString();
     EXPECT_EQ(numberOf(dsInput, 2, u"x"_s), qint32{NameNotUsable});
     EXPECT_EQ(numberOf(dsTimer, 0, u"x"_s), qint32{NameNotUsable});
-    EXPECT_FALSE(project.hasNewNames());
+    EXPECT_FALSE(project.hasChangedTables());
     EXPECT_EQ(numberOf(dsInput, 0, u"i1"_s), 0); // another letter case of its own
     EXPECT_EQ(numberOf(dsInput, 0, u"Maß"_s), 0);
     EXPECT_EQ(numberOf(dsInput, 1, u"MASS"_s), qint32{NameNotUsable});
@@ -373,9 +382,9 @@ TEST(Project, DoesNotWriteNamesIntoAFileThatIsAnotherOne)
     project.rename(dsInput, 0, u"I9"_s);
     writeProject(folder, R"("inputs": [{"name": "Another"}])");
     const QByteArray theirs = readFile(project.fileName());
-    const auto error = raisedBy([&] { project.saveNames(); });
+    const auto error = raisedBy([&] { project.saveTables(); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), FileNotWritable);
     EXPECT_EQ(readFile(project.fileName()), theirs);
-    EXPECT_TRUE(project.hasNewNames());
+    EXPECT_TRUE(project.hasChangedTables());
 }

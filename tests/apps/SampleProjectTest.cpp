@@ -4,6 +4,7 @@
 #include "editor/rules/language/CodeWordList.h"
 #include "editor/rules/language/Vocabulary.h"
 #include "project/Project.h"
+#include "project/ProjectColumns.h"
 #include "support/QtPrinters.h"
 
 #include <QtCore/QSet>

@@ -7,9 +7,10 @@
 #include "editor/rules/undo/UndoStore.h"
 #include "find/rules/ProgramSearch.h"
 #include "project/JsonParser.h"
-#include "project/ProgramCheck.h"
+#include "project/ProjectColumns.h"
 #include "project/ProjectReader.h"
 #include "project/TextFile.h"
+#include "project/analysis/ProgramAnalysis.h"
 #include "rtf/RtfReader.h"
 #include "rtf/RtfWriter.h"
 #include "shared/compression/Compression.h"
@@ -248,8 +249,12 @@ Operation blocks(const char *name, const QString &part)
 Operation checking(const char *name, const QString &part)
 {
     return {std::string("check: ") + name, [part](int size) {
-                return [text = filled(part, size), host = std::make_shared<Colouring>()] {
-                    static_cast<void>(checkProgram(text, host->vocabulary, host->words.index()));
+                return [lines = filled(part, size).split(u"\r\n"_s),
+                        host = std::make_shared<Colouring>()] {
+                    ProgramAnalysis analysis([&lines](qint32 line) { return lines.at(line); });
+                    analysis.setWords(ProgramWords(host->vocabulary, host->words.index()));
+                    analysis.reset(static_cast<qint32>(lines.size()));
+                    analysis.finish();
                 };
             }};
 }

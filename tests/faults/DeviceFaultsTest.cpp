@@ -156,14 +156,14 @@ TEST_F(SavingFaults, NamesThatStopAtAnyByteAreTheOldOnes)
     project.rename(dsInput, 1, u"Supply"_s);
     for (qint64 room = 0; room < projectText.size() + 4; ++room) {
         const FileLimit limit(room);
-        const auto error = raisedBy([&] { project.saveNames(); });
+        const auto error = raisedBy([&] { project.saveTables(); });
         ASSERT_TRUE(error && error->Number() == FileNotWritable) << room;
         ASSERT_EQ(readFile(path(u"j"_s)), projectText) << room;
-        ASSERT_TRUE(project.hasNewNames()) << room;
+        ASSERT_TRUE(project.hasChangedTables()) << room;
     }
-    project.saveNames();
+    project.saveTables();
     EXPECT_EQ(readFile(path(u"j"_s)), QByteArray(projectText).replace("T2", "Supply"));
-    EXPECT_FALSE(project.hasNewNames());
+    EXPECT_FALSE(project.hasChangedTables());
 }
 
 } // namespace

@@ -4,7 +4,9 @@
 #include "fuzz/FuzzBytes.h"
 
 #include "project/JsonEdit.h"
+#include "project/ProjectColumns.h"
 #include "project/ProjectReader.h"
+#include "project/TextFile.h"
 #include <ORVTListview/Error.h>
 
 #include <optional>

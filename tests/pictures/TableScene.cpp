@@ -2,6 +2,7 @@
 // line in its states.
 
 #include "pictures/Scenes.h"
+#include "project/ProjectColumns.h"
 #include "project/ProjectReader.h"
 #include "shared/points/DisplayNames.h"
 

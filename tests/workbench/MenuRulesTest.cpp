@@ -48,12 +48,13 @@ private Q_SLOTS:
             all.append(menu->title() + u": "_s + captions(*menu).join(u", "_s));
         QCOMPARE(
             all.join(u'\n').remove(u'&'),
-            u"File: Open Project…, Save Program, Export…, Print…, Quit\n"
+            u"File: Open Project…, Save, Save Elsewhere…, Export…, Print…, Quit\n"
             "Edit: Undo, Redo, Restore Typed Text, Cut, Copy, Copy with Colours, Paste, "
             "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
             "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
             "Program: Analyse, Compile, Export Statements…, Go To Point, Back, All Uses, Results\n"
-            "Points: Read Values, Rename, Fit Columns, Edit Cells, Hardware Overrides\n"
+            "Points: Read Values, Rename, Add Point…, Remove Point, Fit Columns, Edit Cells, "
+            "Hardware Overrides\n"
             "View: Editor, Language, Settings…"_s);
     }
 
@@ -116,8 +117,10 @@ private Q_SLOTS:
                     promising << QString(caption).remove(u'&');
             }
         }
-        QCOMPARE(promising, QStringList({u"Open Project…"_s, u"Export…"_s, u"Print…"_s, u"Find…"_s,
-                                         u"Replace…"_s, u"Export Statements…"_s, u"Settings…"_s}));
+        QCOMPARE(promising,
+                 QStringList({u"Open Project…"_s, u"Save Elsewhere…"_s, u"Export…"_s, u"Print…"_s,
+                              u"Find…"_s, u"Replace…"_s, u"Export Statements…"_s, u"Add Point…"_s,
+                              u"Settings…"_s}));
     }
 
     void keysDoNotClash()

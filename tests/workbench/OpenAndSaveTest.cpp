@@ -86,7 +86,7 @@ private Q_SLOTS:
         workbench.key(Qt::Key_Backspace);
         QVERIFY(!workbench.window.isWindowModified());
         workbench.type(u"x"_s);
-        workbench.choose(u"Save Program"_s);
+        workbench.choose(u"Save"_s);
         QVERIFY(!workbench.window.isWindowModified());
         workbench.key(Qt::Key_Backspace);
         QVERIFY(workbench.window.isWindowModified());
@@ -107,8 +107,8 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(workbench.folder.filePath(u"one.prog"_s)));
         QVERIFY(QDir(workbench.folder.path()).mkdir(u"one.prog"_s));
         workbench.type(u"x"_s);
-        NextMessage message(QMessageBox::Ok);
-        workbench.choose(u"Save Program"_s);
+        NextMessage message(QMessageBox::Cancel);
+        workbench.choose(u"Save"_s);
         QVERIFY(message.wasThere());
         QVERIFY2(message.text().contains(u"one.prog: "_s), qPrintable(message.text()));
         QVERIFY(workbench.window.isWindowModified());
@@ -121,19 +121,19 @@ private Q_SLOTS:
         ORVTListview::writeFile(workbench.folder.filePath(u"one.prog"_s), "theirs");
         workbench.type(u"x"_s);
         NextMessage keep(QMessageBox::No);
-        workbench.choose(u"Save Program"_s);
+        workbench.choose(u"Save"_s);
         QVERIFY(keep.wasThere());
         QVERIFY2(keep.text().contains(u"one.prog"_s), qPrintable(keep.text()));
         QCOMPARE(workbench.saved(), "theirs");
         QVERIFY(workbench.window.isWindowModified());
 
         NextMessage overwrite(QMessageBox::Yes);
-        workbench.choose(u"Save Program"_s);
+        workbench.choose(u"Save"_s);
         QVERIFY(overwrite.wasThere());
         QCOMPARE(workbench.saved(), "xFan1 = ON");
         QVERIFY(!workbench.window.isWindowModified());
         workbench.type(u"y"_s);
-        workbench.choose(u"Save Program"_s);
+        workbench.choose(u"Save"_s);
         QCOMPARE(workbench.saved(), "xyFan1 = ON");
     }
 
@@ -174,7 +174,7 @@ private Q_SLOTS:
         workbench.type(u"x"_s);
         std::unique_ptr<NextMessage> failure;
         NextDialog<QMessageBox> question([&](QMessageBox &box) {
-            failure = std::make_unique<NextMessage>(QMessageBox::Ok);
+            failure = std::make_unique<NextMessage>(QMessageBox::Cancel);
             box.button(QMessageBox::Save)->click();
         });
         QVERIFY(!workbench.window.close());
@@ -206,7 +206,7 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = ON");
         workbench.window.openProject(workbench.writeProject(u"two"_s, "Temp1 > 3\r\n"));
         workbench.type(u"x"_s);
-        workbench.choose(u"Save Program"_s);
+        workbench.choose(u"Save"_s);
         QCOMPARE(workbench.saved(u"one"_s), "Fan1 = ON");
         QCOMPARE(workbench.saved(u"two"_s), "xTemp1 > 3\r\n");
     }
@@ -241,7 +241,7 @@ private Q_SLOTS:
         QCOMPARE(workbench.code().CodeText(),
                  QString::fromUtf8(program).replace(u"\n"_s, u"\r\n"_s));
         workbench.type(u"x"_s);
-        workbench.choose(u"Save Program"_s);
+        workbench.choose(u"Save"_s);
         QCOMPARE(workbench.saved(), "x" + program);
     }
 

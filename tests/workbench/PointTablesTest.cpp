@@ -1,6 +1,7 @@
 #include "WorkbenchTest.h"
 
 #include "support/TestProgram.h"
+#include "workbench/renaming/RenameDialog.h"
 #include <ORVTListview/ReportList.h>
 
 #include <ORVTListview/CodeView.h>
@@ -137,7 +138,7 @@ private Q_SLOTS:
         QVERIFY(editor);
         QCOMPARE(editor->text(), u"Temp1"_s);
         QTest::keyClicks(editor, u"Room"_s);
-        NextMessage inTheProgram(QMessageBox::Yes);
+        NextDialog<RenameDialog> inTheProgram([](RenameDialog &dialog) { dialog.accept(); });
         QTest::keyClick(editor, Qt::Key_Return);
         QTRY_VERIFY(inTheProgram.wasThere());
         QTRY_COMPARE(points.cell(1, u"Label"_s), u"Room"_s);
@@ -149,7 +150,7 @@ private Q_SLOTS:
         points.open(u"Code"_s);
         QCOMPARE(points.code().GetWholeWord(start, wordStart, colour), u"Room"_s);
         QVERIFY(colour != 0); // known as an input
-        points.choose(u"Save Program"_s);
+        points.choose(u"Save"_s);
         QVERIFY(!points.window.isWindowModified());
         QVERIFY(readFile(points.folder.filePath(u"points.json"_s))
                     .contains(R"("name": "Room", "value": 20.5)"));

@@ -220,7 +220,9 @@ private:
         if (m_isWrittenElsewhere)
             return true; // and is asked for at the next saving
         const QString name = m_project % 2 == 0 ? u"one"_s : u"two"_s;
-        return decodeProgram(m_workbench.saved(name), name) == m_workbench.code().CodeText();
+        // What was not touched keeps the letter case of the file.
+        const QString saved = decodeProgram(m_workbench.saved(name), name);
+        return saved.compare(m_workbench.code().CodeText(), Qt::CaseInsensitive) == 0;
     }
     void writeElsewhere()
     {

@@ -120,7 +120,13 @@ struct WorkbenchWindow
         explicit Settings(const QString &file) { ORVTListview::setSettingsFile(file); }
     };
 
+    struct DataFolder // where locks and recovery files go; the user's own is left alone
+    {
+        explicit DataFolder(const QString &folder) { qputenv("XDG_DATA_HOME", folder.toUtf8()); }
+    };
+
     QTemporaryDir folder;
+    DataFolder data{folder.filePath(QStringLiteral("data"))};
     Settings settings{folder.filePath(QStringLiteral("settings.ini"))};
     ORVTListview::Languages languages{QLocale(QLocale::English)};
     ORVTListview::MainWindow window{languages};

@@ -34,7 +34,7 @@ void readWindow(const QSettings &store, QMainWindow &window, CodeView &view)
 {
     window.restoreGeometry(store.value(geometry).toByteArray());
     window.restoreState(store.value(arrangement).toByteArray());
-    if (auto *splitter = qobject_cast<QSplitter *>(window.centralWidget()))
+    if (auto *splitter = window.centralWidget()->findChild<QSplitter *>())
         splitter->restoreState(store.value(division).toByteArray());
     forEachSwitch([&](const QMetaProperty &property, const QString &key) {
         const QVariant value = store.value(key);
@@ -47,7 +47,7 @@ void writeWindow(QSettings &store, const QMainWindow &window, const CodeView &vi
 {
     store.setValue(geometry, window.saveGeometry());
     store.setValue(arrangement, window.saveState());
-    if (const auto *splitter = qobject_cast<QSplitter *>(window.centralWidget()))
+    if (const auto *splitter = window.centralWidget()->findChild<QSplitter *>())
         store.setValue(division, splitter->saveState());
     forEachSwitch([&](const QMetaProperty &property, const QString &key) {
         store.setValue(key, property.read(&view));

@@ -47,6 +47,7 @@ class ORVT_EXPORT CodeView : public QObject
     Q_PROPERTY(bool trimsBlanks READ trimsBlanks WRITE setTrimsBlanks NOTIFY trimsBlanksChanged)
     Q_PROPERTY(bool wordListOpensItself READ wordListOpensItself WRITE setWordListOpensItself NOTIFY
                    wordListOpensItselfChanged)
+    Q_PROPERTY(bool keepsText READ keepsText WRITE setKeepsText NOTIFY keepsTextChanged)
 
 public:
     ~CodeView() override;
@@ -225,6 +226,13 @@ public:
     bool wordListOpensItself() const;
     void setWordListOpensItself(bool on);
 
+    // Whether undo, redo, a paste and a changed appearance show the text as it was. Off, as
+    // at first, they set brackets off by one blank, drop a tab between two words and write
+    // known words as listed, on every line; tidy spaces when asked. A host that saves
+    // programs as they came switches it on.
+    bool keepsText() const;
+    void setKeepsText(bool on);
+
     // What that list shows beside words, by their names in any letter case; none at first.
     Q_INVOKABLE void setWordDescriptions(const QHash<QString, QString> &descriptions);
 
@@ -264,6 +272,7 @@ Q_SIGNALS:
     void smartHomeChanged(bool on);
     void trimsBlanksChanged(bool on);
     void wordListOpensItselfChanged(bool on);
+    void keepsTextChanged(bool on);
 
     // The mouse has rested on a word, or the choice on an entry of the word list: what there
     // is to be told of it goes into the answer, which lives until the signal has been

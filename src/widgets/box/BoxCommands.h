@@ -70,6 +70,9 @@ public:
     // of a drag. It changes the text at most once, and may destroy the box.
     virtual void edit(const std::function<void()> &change) = 0;
 
+    // Makes the text of now one that undo can come back to.
+    virtual void keepState() {}
+
     virtual void undo() = 0;
     virtual void redo() = 0;
 

@@ -1,0 +1,164 @@
+#include "project/ProjectDocument.h"
+
+#include "project/ProjectColumns.h"
+
+#include <ORVTListview/Error.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace ORVTListview {
+
+namespace {
+
+// Rows of one place count as one that is changed.
+RowChanges changesTo(const ProjectTables &from, const ProjectTables &to)
+{
+    RowChanges changes;
+    for (const LwType type : projectTypes()) {
+        const QList<ProjectRow> before = from.value(type);
+        const QList<ProjectRow> after = to.value(type);
+        const qsizetype common = std::min(before.size(), after.size());
+        for (qsizetype i = 0; i < common; ++i) {
+            if (!(before[i] == after[i]))
+                changes.append({type, i, before[i], after[i]});
+        }
+        for (qsizetype i = before.size() - 1; i >= common; --i)
+            changes.append({type, i, before[i], {}});
+        for (qsizetype i = common; i < after.size(); ++i)
+            changes.append({type, i, {}, after[i]});
+    }
+    return changes;
+}
+
+} // namespace
+
+ProjectDocument::ProjectDocument(Editor editor, QObject *parent)
+    : QObject(parent)
+    , m_editor(std::move(editor))
+{
+}
+
+ProjectDocument::~ProjectDocument() = default;
+
+void ProjectDocument::setProject(std::unique_ptr<Project> project)
+{
+    m_steps.clear();
+    m_done = 0;
+    m_project = std::move(project);
+}
+
+void ProjectDocument::noteShown()
+{
+    m_project->setShownProgram(program());
+    Q_EMIT changed();
+}
+
+void ProjectDocument::noteProgramChange()
+{
+    if (m_project)
+        Q_EMIT changed();
+}
+
+bool ProjectDocument::isModified() const
+{
+    return m_project && (m_project->hasChangedTables() || isProgramModified());
+}
+
+// The lengths alone mostly tell, so that a key costs the same in any program.
+bool ProjectDocument::isProgramModified() const
+{
+    const QString &saved = m_project->shownProgram();
+    return m_editor.length() != saved.size() || program() != saved;
+}
+
+void ProjectDocument::carryOut(ProjectStep step)
+{
+    m_steps.resize(m_done);
+    m_steps.append(std::move(step));
+    ++m_done;
+    apply(m_steps.constLast().rows);
+}
+
+void ProjectDocument::carryOut(const RowChanges &rows)
+{
+    const QString now = program();
+    carryOut(ProjectStep{rows, now, now});
+}
+
+void ProjectDocument::noteStepShown()
+{
+    if (m_done == 0)
+        return;
+    m_steps[m_done - 1].programAfter = program();
+    Q_EMIT changed();
+}
+
+const ProjectStep *ProjectDocument::stepAt(qsizetype index,
+                                           const QString &(*at)(const ProjectStep &),
+                                           Among among) const
+{
+    if (index < 0 || index >= m_steps.size())
+        return nullptr;
+    const ProjectStep &step = m_steps.at(index);
+    if (among == Among::TablesAlone && step.isOfTablesAlone())
+        return &step;
+    return m_editor.length() == at(step).size() && program() == at(step) ? &step : nullptr;
+}
+
+const ProjectStep *ProjectDocument::undoStep(Among among) const
+{
+    const auto after = [](const ProjectStep &step) -> const QString & { return step.programAfter; };
+    return stepAt(m_done - 1, after, among);
+}
+
+const ProjectStep *ProjectDocument::redoStep(Among among) const
+{
+    const auto before = [](const ProjectStep &step) -> const QString & {
+        return step.programBefore;
+    };
+    return stepAt(m_done, before, among);
+}
+
+void ProjectDocument::restoreTables(const QByteArray &json)
+{
+    try {
+        const ProjectTables tables =
+            readContents(JsonPlace::parse(json, m_project->fileName())).rows;
+        apply(changesTo(m_project->tables(), tables));
+    } catch (const Error &) {
+        return;
+    }
+}
+
+void ProjectDocument::undo()
+{
+    apply(reversed(m_steps.at(--m_done).rows));
+}
+
+void ProjectDocument::redo()
+{
+    apply(m_steps.at(m_done++).rows);
+}
+
+void ProjectDocument::apply(const RowChanges &changes)
+{
+    m_project->apply(changes);
+    if (!changes.isEmpty())
+        Q_EMIT tablesChanged();
+    Q_EMIT changed();
+}
+
+void ProjectDocument::save(Project::Theirs theirs)
+{
+    m_project->save(program(), theirs);
+    Q_EMIT changed();
+}
+
+void ProjectDocument::saveAt(const QString &fileName)
+{
+    m_project->saveAt(fileName, program());
+    Q_EMIT changed();
+}
+
+} // namespace ORVTListview

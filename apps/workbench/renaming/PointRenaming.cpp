@@ -1,0 +1,127 @@
+#include "renaming/PointRenaming.h"
+
+#include "project/PointUses.h"
+#include "project/ProjectColumns.h"
+#include "project/ProjectDocument.h"
+#include "renaming/RenameDialog.h"
+#include "widgets/box/BoxCommands.h"
+
+#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
+
+#include <algorithm>
+#include <limits>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+PointRenaming::PointRenaming(ProjectDocument &document, ORVListView &code, QWidget &window)
+    : QObject(&window)
+    , m_document(document)
+    , m_code(code)
+    , m_window(window)
+{
+}
+
+void PointRenaming::rename(LwType type, qsizetype row, const QString &name)
+{
+    const Project &project = *m_document.project();
+    const ProjectRow before = project.rows(type).at(row);
+    const RowChange point{type, row, before, project.renamed(type, row, name)};
+    const QString program = m_document.program();
+    QList<PointUse> uses;
+    if (isVocabularyType(type))
+        uses = usesOfPoint(project, program, before.name);
+    if (!uses.isEmpty()) {
+        RenameDialog dialog(before.name, name, uses, &m_window);
+        const QPointer<PointRenaming> self(this);
+        const bool isWanted = dialog.exec() == QDialog::Accepted;
+        const bool isSame = self && m_document.project() == &project &&
+                            project.rows(type).value(row) == before &&
+                            m_document.program() == program; // while the dialog was open
+        if (!isWanted || !isSame)
+            return;
+        uses = dialog.chosen();
+    }
+    const Renaming renaming = renamingOf(project, point, uses);
+    m_document.carryOut({renaming.rows, program, withPieces(program, renaming.pieces, name)});
+    if (!renaming.pieces.isEmpty()) {
+        m_code.RTextBox()->commands().replace(renaming.pieces, name);
+        m_code.RTextBox()->commands().keepState();
+    }
+    m_document.noteStepShown();
+}
+
+QString PointRenaming::askName(LwType type)
+{
+    const Project &project = *m_document.project();
+    QString name;
+    QString reason;
+    do {
+        bool isGiven = false;
+        name = QInputDialog::getText(&m_window, tr("Add Point"),
+                                     reason.isEmpty()
+                                         ? tr("Name of the new point:")
+                                         : reason + u"\n\n"_s + tr("Name of the new point:"),
+                                     QLineEdit::Normal, name, &isGiven);
+        if (!isGiven)
+            return {};
+        reason = project.nameFault(type, project.rows(type).size(), name);
+    } while (!reason.isEmpty());
+    return name;
+}
+
+void PointRenaming::add(LwType type)
+{
+    if (!m_document.project() || projectColumns(type).isEmpty())
+        return;
+    ProjectRow row;
+    row.cells.resize(projectColumns(type).size());
+    const qsizetype column = nameColumn(type);
+    if (column >= 0) {
+        row.name = askName(type);
+        if (row.name.isEmpty())
+            return;
+        row.cells[column] = row.name;
+    }
+    const qsizetype place = m_document.project()->rows(type).size();
+    if (place >= std::numeric_limits<qint16>::max()) {
+        QMessageBox::warning(&m_window, tr("Add Point"), tr("The table is full."));
+        return;
+    }
+    row.data = isVocabularyType(type) ? static_cast<qint32>(place) + 1 : 0;
+    m_document.carryOut(RowChanges{{type, place, {}, row}});
+}
+
+void PointRenaming::remove(LwType type, qsizetype row)
+{
+    const Project &project = *m_document.project();
+    const ProjectRow point = project.rows(type).at(row);
+    QStringList places;
+    if (isVocabularyType(type)) {
+        for (const PointUse &use : usesOfPoint(project, m_document.program(), point.name))
+            places.append(placeName(use));
+    }
+    if (!places.isEmpty()) {
+        constexpr qsizetype most = 15;
+        const qsizetype more = places.size() - most;
+        if (more > 0)
+            places = places.first(most) << tr("and %1 more").arg(more);
+        const auto answer = QMessageBox::question(
+            &m_window, tr("Remove Point"),
+            tr("%1 is still named here, where it will be unknown:\n\n%2\n\nRemove it?")
+                .arg(point.name, places.join(u'\n')));
+        if (answer != QMessageBox::Yes || m_document.project() != &project ||
+            !(project.rows(type).value(row) == point))
+            return;
+    }
+    m_document.carryOut(RowChanges{{type, row, point, {}}});
+}
+
+} // namespace ORVTListview

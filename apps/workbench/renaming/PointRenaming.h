@@ -1,0 +1,40 @@
+#pragma once
+
+#include <ORVTListview/Types.h>
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+class QWidget;
+
+namespace ORVTListview {
+
+class ORVListView;
+class ProjectDocument;
+
+// Renames, adds and removes points, everywhere in the project and as one step each, after
+// the user has seen the places.
+class PointRenaming : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Belongs to the window.
+    PointRenaming(ProjectDocument &document, ORVListView &code, QWidget &window);
+
+    // The name must be one that the point can have.
+    void rename(LwType type, qsizetype row, const QString &name);
+
+    // A point at the end of its table; the user is asked for its name.
+    void add(LwType type);
+    void remove(LwType type, qsizetype row);
+
+private:
+    QString askName(LwType type);
+
+    ProjectDocument &m_document;
+    ORVListView &m_code;
+    QWidget &m_window;
+};
+
+} // namespace ORVTListview

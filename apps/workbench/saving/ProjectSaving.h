@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+class QWidget;
+
+namespace ORVTListview {
+
+class Error;
+class ProjectDocument;
+
+// Saves the project that is open, and asks where that is not the user's own decision. The
+// window shows by its modified mark whether there is something to save.
+class ProjectSaving : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Belongs to the window.
+    ProjectSaving(ProjectDocument &document, QWidget &window);
+
+    // Puts what has changed into its files and returns true, or tells the user why not and
+    // offers another place. When somebody else has changed a file meanwhile, the user is
+    // asked.
+    bool save();
+
+    // Asks for the place.
+    bool saveElsewhere();
+
+    // Whether the project may go: when it has unsaved changes, the user is asked.
+    bool mayLeave();
+
+Q_SIGNALS:
+    // Nothing is left to save, or the user does not want it.
+    void settled();
+
+    // The project is at another place now.
+    void movedElsewhere();
+
+private:
+    bool trySaving(bool overwrites);
+    bool mayOverwrite(const QString &fileName);
+    bool offerWayOut(const Error &error);
+
+    ProjectDocument &m_document;
+    QWidget &m_window;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,144 @@
+// What is not saved is kept in a text file beside the project, or in the user's folder.
+
+#include "apps/ProjectFolder.h"
+#include "project/Project.h"
+#include "project/RecoveryFile.h"
+#include "project/RecoverySlot.h"
+#include "project/TextFile.h"
+#include "support/QtPrinters.h"
+#include "support/Raised.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QStandardPaths>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Recovery : public ::testing::Test
+{
+protected:
+    Recovery() { qputenv("XDG_DATA_HOME", m_data.path({}).toUtf8()); }
+
+    ProjectFolder m_folder;
+    ProjectFolder m_data;
+    QString m_project = m_folder.write(u"p.json"_s, "{}");
+};
+
+RecoverySlot free(const QString &project)
+{
+    return *std::move(RecoverySlot::slotsOf(project).own);
+}
+
+} // namespace
+
+TEST_F(Recovery, AFileTellsAllThatWasKept)
+{
+    const RecoveredWork work{u"/a b/ä.json"_s,
+                             QDateTime::fromString(u"2026-01-02T03:04:05Z"_s, Qt::ISODate),
+                             "{\"name\": \"\n==== x, 3 bytes ====\n\"}",
+                             u"A\r\nkept: \tB é\r\n\r\n==== program, 1 bytes ====\r\n"_s};
+    const QByteArray text = recoveryText(work);
+    EXPECT_TRUE(text.contains("\nA\nkept: \tB \xC3\xA9\n\n"));
+    EXPECT_EQ(readRecovery(text), work);
+    for (qsizetype size = 0; size < text.size() - 1; ++size)
+        EXPECT_FALSE(readRecovery(text.first(size))) << size;
+}
+
+TEST_F(Recovery, StandsBesideTheProject)
+{
+    RecoverySlot slot = free(m_project);
+    EXPECT_FALSE(slot.hasFile());
+    slot.write("one");
+    EXPECT_EQ(slot.fileName(), m_folder.path(u"p.json.recovery.txt"_s));
+    EXPECT_EQ(readFile(slot.fileName()), "one");
+    slot.write("two");
+    EXPECT_EQ(slot.read(), "two");
+    slot.remove();
+    EXPECT_FALSE(QFile::exists(m_folder.path(u"p.json.recovery.txt"_s)));
+}
+
+TEST_F(Recovery, WhatAWorkbenchLeftIsFound)
+{
+    free(m_project).write("left");
+    RecoverySlots slots = RecoverySlot::slotsOf(m_project);
+    ASSERT_EQ(slots.left.size(), 1u);
+    EXPECT_EQ(slots.left[0].read(), "left");
+    EXPECT_FALSE(slots.isOpenElsewhere);
+    slots.own->write("mine");
+    EXPECT_EQ(readFile(m_folder.path(u"p.json.recovery.txt"_s)), "left");
+}
+
+TEST_F(Recovery, AWorkbenchThatLivesKeepsItsOwn)
+{
+    RecoverySlot one = free(m_project);
+    one.write("one");
+    EXPECT_TRUE(RecoverySlot::slotsOf(m_project).left.empty());
+    EXPECT_TRUE(RecoverySlot::slotsOf(m_project).isOpenElsewhere);
+    RecoverySlot two = free(m_project);
+    EXPECT_FALSE(two.hasFile());
+    two.write("two");
+    EXPECT_EQ(one.read(), "one");
+    EXPECT_EQ(readFile(m_folder.path(u"p.json.recovery.txt"_s)), "one");
+}
+
+TEST_F(Recovery, AFolderThatIsGoneLeavesTheUsersOwn)
+{
+    const QString project = m_folder.path(u"gone/p.json"_s);
+    RecoverySlot slot = free(project);
+    slot.write("kept");
+    EXPECT_TRUE(slot.fileName().startsWith(m_data.path({}))) << slot.fileName().toStdString();
+    ASSERT_TRUE(QDir().mkdir(m_folder.path(u"gone"_s)));
+    slot.write("later");
+    EXPECT_EQ(slot.fileName(), project + u".recovery.txt"_s);
+    EXPECT_EQ(QDir(m_data.path({})).entryList({u"*.txt"_s}, QDir::Files), QStringList());
+}
+
+TEST_F(Recovery, NoPlaceAtAllIsTold)
+{
+    qputenv("XDG_DATA_HOME", m_project.toUtf8()); // a file
+    const auto error = raisedBy([&] { free(m_folder.path(u"gone/p.json"_s)).write("x"); });
+    ASSERT_TRUE(error);
+}
+
+TEST_F(Recovery, SavingKeepsTheVersionBefore)
+{
+    const ProjectFolder folder;
+    folder.write(u"p.prog"_s, "A\tB\r\n");
+    const QByteArray json =
+        R"({"format": 1, "name": "P", "program": "p.prog", "inputs": [{"name": "I"}]})";
+    const QString file = folder.write(u"p.json"_s, json);
+    Project project(file);
+    project.save(project.program(), Project::Theirs::Kept);
+    EXPECT_EQ(QDir(folder.path({})).entryList(QDir::Files).join(u' '), u"p.json p.prog"_s);
+    project.rename(dsInput, 0, u"J"_s);
+    project.save(u"C\r\n"_s, Project::Theirs::Kept);
+    EXPECT_EQ(readFile(file + u"~"_s), json);
+    EXPECT_EQ(readFile(folder.path(u"p.prog~"_s)), "A\tB\r\n");
+    EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "C\r\n");
+    project.save(u"D\r\n"_s, Project::Theirs::Kept);
+    EXPECT_EQ(readFile(folder.path(u"p.prog~"_s)), "C\r\n");
+    EXPECT_EQ(readFile(file + u"~"_s), json);
+}
+
+TEST_F(Recovery, AProjectCanBeSavedAtAnotherPlace)
+{
+    const ProjectFolder folder;
+    const ProjectFolder other;
+    ASSERT_TRUE(QDir().mkdir(folder.path(u"sub"_s)));
+    folder.write(u"sub/p.prog"_s, "A\r\nb");
+    const QString file = folder.write(
+        u"p.json"_s,
+        R"({"format": 1, "name": "P", "program": "sub/p.prog", "inputs": [{"name": "I"}]})");
+    Project project(file);
+    ASSERT_TRUE(QDir(folder.path({})).removeRecursively());
+    project.rename(dsInput, 0, u"J"_s);
+    project.saveAt(other.path(u"q.json"_s), u"A\r\nc"_s);
+    EXPECT_EQ(project.fileName(), other.path(u"q.json"_s));
+    EXPECT_FALSE(project.hasChangedTables());
+    const Project again(other.path(u"q.json"_s));
+    EXPECT_EQ(again.program(), u"A\r\nc"_s);
+    EXPECT_EQ(readFile(other.path(u"p.prog"_s)), "A\r\nc");
+    EXPECT_EQ(again.rows(dsInput)[0].name, u"J"_s);
+}
