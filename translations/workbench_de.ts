@@ -32,10 +32,6 @@
         <translation>%1 braucht %2 oder mehr Werte und hat %3</translation>
     </message>
     <message>
-        <source>Values that %1 needs: %2, values that it has: %3</source>
-        <translation>Werte, die %1 braucht: %2, Werte, die es hat: %3</translation>
-    </message>
-    <message>
         <source>Blanks are missing in %1</source>
         <translation>In %1 fehlen Leerzeichen</translation>
     </message>
@@ -122,6 +118,14 @@
     <message>
         <source>Deletion of network values</source>
         <translation>Löschen von Netzwerkwerten</translation>
+    </message>
+    <message>
+        <source>%1 needs one value and has %2</source>
+        <translation>%1 braucht einen Wert und hat %2</translation>
+    </message>
+    <message>
+        <source>%1 needs %2 values and has %3</source>
+        <translation>%1 braucht %2 Werte und hat %3</translation>
     </message>
 </context>
 <context>

@@ -32,10 +32,6 @@
         <translation>%1 necesita %2 valores o más y tiene %3</translation>
     </message>
     <message>
-        <source>Values that %1 needs: %2, values that it has: %3</source>
-        <translation>Valores que %1 necesita: %2, valores que tiene: %3</translation>
-    </message>
-    <message>
         <source>Blanks are missing in %1</source>
         <translation>Faltan espacios en %1</translation>
     </message>
@@ -122,6 +118,14 @@
     <message>
         <source>Deletion of network values</source>
         <translation>Borrado de valores de red</translation>
+    </message>
+    <message>
+        <source>%1 needs one value and has %2</source>
+        <translation>%1 necesita un valor y tiene %2</translation>
+    </message>
+    <message>
+        <source>%1 needs %2 values and has %3</source>
+        <translation>%1 necesita %2 valores y tiene %3</translation>
     </message>
 </context>
 <context>

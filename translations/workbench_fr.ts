@@ -32,10 +32,6 @@
         <translation>%1 demande au moins %2 valeurs et en a %3</translation>
     </message>
     <message>
-        <source>Values that %1 needs: %2, values that it has: %3</source>
-        <translation>Valeurs que %1 demande&#xa0;: %2, valeurs données&#xa0;: %3</translation>
-    </message>
-    <message>
         <source>Blanks are missing in %1</source>
         <translation>Il manque des espaces dans %1</translation>
     </message>
@@ -122,6 +118,14 @@
     <message>
         <source>Deletion of network values</source>
         <translation>Effacement de valeurs réseau</translation>
+    </message>
+    <message>
+        <source>%1 needs one value and has %2</source>
+        <translation>%1 demande une valeur et en a %2</translation>
+    </message>
+    <message>
+        <source>%1 needs %2 values and has %3</source>
+        <translation>%1 demande %2 valeurs et en a %3</translation>
     </message>
 </context>
 <context>

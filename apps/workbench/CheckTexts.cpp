@@ -26,8 +26,9 @@ QString countText(const LineProblem &problem)
     if (bounds.most < 0)
         return CheckTexts::tr("%1 needs %2 values or more and has %3")
             .arg(problem.word, wanted, given);
-    return CheckTexts::tr("Values that %1 needs: %2, values that it has: %3")
-        .arg(problem.word, wanted, given);
+    if (bounds.most == 1)
+        return CheckTexts::tr("%1 needs one value and has %2").arg(problem.word, given);
+    return CheckTexts::tr("%1 needs %2 values and has %3").arg(problem.word, wanted, given);
 }
 
 // The texts that name the word.
