@@ -472,7 +472,7 @@
     </message>
     <message>
         <source>&amp;Add Point…</source>
-        <translation>P&amp;unkt hinzufügen…</translation>
+        <translation>&amp;Punkt hinzufügen…</translation>
     </message>
     <message>
         <source>Re&amp;move Point</source>
