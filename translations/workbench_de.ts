@@ -598,7 +598,7 @@
     </message>
     <message>
         <source>&amp;Add Point…</source>
-        <translation>P&amp;unkt hinzufügen…</translation>
+        <translation>&amp;Punkt hinzufügen…</translation>
     </message>
     <message>
         <source>Re&amp;move Point</source>

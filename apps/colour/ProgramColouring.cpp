@@ -4,6 +4,7 @@
 #include "editor/rules/colouring/ColourTable.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/RtfHead.h"
+#include "project/ProjectColumns.h"
 
 namespace ORVTListview {
 

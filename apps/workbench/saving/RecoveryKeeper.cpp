@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto interval = 2s;
+constexpr auto usualInterval = 2s;
 
 } // namespace
 
@@ -25,12 +25,17 @@ RecoveryKeeper::RecoveryKeeper(ProjectDocument &document, QObject *parent)
     , m_timer(new QTimer(this))
 {
     m_timer->setSingleShot(true);
-    m_timer->setInterval(interval);
+    m_timer->setInterval(usualInterval);
     connect(m_timer, &QTimer::timeout, this, &RecoveryKeeper::tick);
     connect(&document, &ProjectDocument::changed, this, &RecoveryKeeper::note);
 }
 
 RecoveryKeeper::~RecoveryKeeper() = default;
+
+void RecoveryKeeper::setInterval(std::chrono::milliseconds interval)
+{
+    m_timer->setInterval(interval);
+}
 
 void RecoveryKeeper::begin()
 {
@@ -100,6 +105,7 @@ bool RecoveryKeeper::keepNow()
     }
     if (std::exchange(m_hasFailed, false))
         Q_EMIT recovered();
+    Q_EMIT kept();
     return true;
 }
 

@@ -5,6 +5,7 @@
 
 #include <QtCore/QObject>
 
+#include <chrono>
 #include <optional>
 #include <vector>
 
@@ -23,6 +24,9 @@ class RecoveryKeeper : public QObject
 public:
     explicit RecoveryKeeper(ProjectDocument &document, QObject *parent = nullptr);
     ~RecoveryKeeper() override;
+
+    // How long a change waits at most, two seconds at first.
+    void setInterval(std::chrono::milliseconds interval);
 
     // The document's project is another one, or at another place. What workbenches left of
     // it that ended without saving can be taken then.
@@ -49,6 +53,9 @@ public:
     void drop();
 
 Q_SIGNALS:
+    // What is not saved now is in the file.
+    void kept();
+
     // What is typed is not safe, with the reason; and it is again.
     void failed(const QString &reason);
     void recovered();
