@@ -593,7 +593,7 @@
         <translation>&amp;Speichern</translation>
     </message>
     <message>
-        <source>Save &amp;Elsewhere…</source>
+        <source>Save Else&amp;where…</source>
         <translation>&amp;Woanders speichern…</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@ Entfernen?</translation>
         <translation>Als &amp;UTF-8 speichern</translation>
     </message>
     <message>
-        <source>Save &amp;Elsewhere…</source>
+        <source>Save Else&amp;where…</source>
         <translation>&amp;Woanders speichern…</translation>
     </message>
     <message>

@@ -593,7 +593,7 @@
         <translation>&amp;Guardar</translation>
     </message>
     <message>
-        <source>Save &amp;Elsewhere…</source>
+        <source>Save Else&amp;where…</source>
         <translation>Guardar en o&amp;tro lugar…</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@ Remove it?</source>
         <translation>Guardar como &amp;UTF-8</translation>
     </message>
     <message>
-        <source>Save &amp;Elsewhere…</source>
+        <source>Save Else&amp;where…</source>
         <translation>Guardar en o&amp;tro lugar…</translation>
     </message>
     <message>

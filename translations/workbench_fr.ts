@@ -593,7 +593,7 @@
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
-        <source>Save &amp;Elsewhere…</source>
+        <source>Save Else&amp;where…</source>
         <translation>Enregistrer &amp;ailleurs…</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@ Le supprimer&#xa0;?</translation>
         <translation>Enregistrer en &amp;UTF-8</translation>
     </message>
     <message>
-        <source>Save &amp;Elsewhere…</source>
+        <source>Save Else&amp;where…</source>
         <translation>Enregistrer &amp;ailleurs…</translation>
     </message>
     <message>

@@ -111,7 +111,7 @@ void MainWindow::buildFileMenu()
     QMenu *file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open Project…"), QKeySequence::Open, this, &MainWindow::chooseProject);
     file->addAction(tr("&Save"), QKeySequence::Save, m_saving, &ProjectSaving::save);
-    file->addAction(tr("Save &Elsewhere…"), m_saving, &ProjectSaving::saveElsewhere);
+    file->addAction(tr("Save Else&where…"), m_saving, &ProjectSaving::saveElsewhere);
     file->addSeparator();
     file->addAction(tr("&Export…"), m_export, &Exporting::exportShown);
     QAction *print =

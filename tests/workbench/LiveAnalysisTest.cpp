@@ -67,8 +67,6 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = Temp9");
         QTRY_COMPARE(problems(workbench), u"1:7+5 Temp9 is not known"_s);
         workbench.window.showType(dsInput);
-        NextDialog<QMessageBox> asked(
-            [](QMessageBox &box) { box.button(QMessageBox::No)->click(); });
         workbench.code().setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
@@ -76,7 +74,6 @@ private Q_SLOTS:
         QTest::keyClicks(QApplication::focusWidget(), u"Temp9"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QTRY_COMPARE(problems(workbench), QString());
-        QVERIFY(asked.wasThere());
     }
 
     void theListFollowsTheText()

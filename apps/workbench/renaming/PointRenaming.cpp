@@ -101,6 +101,9 @@ void PointRenaming::add(LwType type)
 
 void PointRenaming::remove(LwType type, qsizetype row)
 {
+    // A key may come before the menu knows that there is no such row any more.
+    if (!m_document.project() || row < 0 || row >= m_document.project()->rows(type).size())
+        return;
     const Project &project = *m_document.project();
     const ProjectRow point = project.rows(type).at(row);
     QStringList places;
