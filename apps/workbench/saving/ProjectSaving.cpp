@@ -54,7 +54,7 @@ bool ProjectSaving::offerWayOut(const Error &error)
     QMessageBox box(QMessageBox::Warning, tr("Save"), error.Description(),
                     QMessageBox::Cancel | QMessageBox::Retry, &m_window);
     const bool isEncoding = error.Number() == TextNotEncodable;
-    QPushButton *other = box.addButton(isEncoding ? tr("Save as &UTF-8") : tr("Save &Elsewhere…"),
+    QPushButton *other = box.addButton(isEncoding ? tr("Save as &UTF-8") : tr("Save Else&where…"),
                                        QMessageBox::AcceptRole);
     box.setDefaultButton(other);
     if (!isEncoding)

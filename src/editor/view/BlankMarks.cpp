@@ -39,7 +39,6 @@ void drawDot(QPainter &painter, const QPointF &middle, qreal ratio, const QColor
 void mark(QPainter &painter, const ShownLine &line, const QPlainTextEdit &box, const QColor &colour)
 {
     const QString text = line.block.text();
-    const QRectF shown(box.viewport()->rect());
     const qreal ratio = painter.device()->devicePixelRatioF();
     const LinePlaces places(line);
     for (const RowSides &sides : places.rows()) {
@@ -49,7 +48,7 @@ void mark(QPainter &painter, const ShownLine &line, const QPlainTextEdit &box, c
             if (text[i] != u' ' && text[i] != u'\t')
                 continue;
             const QRectF place = places.between(sides, i, i + 1);
-            if (!shown.intersects(place))
+            if (!line.area.intersects(place))
                 continue;
             if (text[i] == u'\t')
                 drawArrow(painter, place, box.isRightToLeft());

@@ -115,11 +115,11 @@ EditorMargin::Painted EditorMargin::toPaint(const ShownLine &line) const
     return painted;
 }
 
-// The box repaints text at each key, and a caret that blinks; beside it hardly anything
-// changes by that.
+// The box repaints text at each key; beside it hardly anything changes by that. A line
+// whose text changed is painted over the whole width, unlike a caret.
 void EditorMargin::followText(const QRect &rect)
 {
-    if (!isVisible())
+    if (!isVisible() || rect.width() < m_box.viewport()->width())
         return;
     if (rect.height() >= height()) {
         update();

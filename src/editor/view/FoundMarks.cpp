@@ -1,6 +1,7 @@
 #include "editor/view/FoundMarks.h"
 
 #include "editor/view/LayerOrder.h"
+#include "editor/view/RoundedMark.h"
 #include "editor/view/ScrollMarks.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/box/LinePlaces.h"
@@ -80,7 +81,7 @@ void FoundMarks::paintBelow(QPainter &painter, const ShownLines &lines)
     painter.setRenderHint(QPainter::Antialiasing);
     for (const ShownLine &line : lines) {
         for (const QRectF &place : placesIn(line))
-            painter.drawRoundedRect(place.adjusted(-0.5, 0.5, 0.5, -0.5), 2, 2);
+            drawRoundedMark(painter, place);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }

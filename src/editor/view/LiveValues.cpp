@@ -74,7 +74,6 @@ void LiveValues::setOn(bool on)
         return;
     }
     connect(m_box.horizontalScrollBar(), &QScrollBar::valueChanged, this, &LiveValues::repaint);
-    connect(m_box.document(), &QTextDocument::contentsChange, this, &LiveValues::noteChange);
     connect(m_box.document(), &QTextDocument::contentsChanged, this, &LiveValues::followChange);
     take();
 }
@@ -84,7 +83,6 @@ void LiveValues::clear()
     m_pause->stop();
     m_box.horizontalScrollBar()->disconnect(this);
     m_box.document()->disconnect(this);
-    m_changed = {};
     m_laidOut.clear();
     m_values.clear();
     m_isTaken = m_given.isEmpty();
@@ -113,6 +111,7 @@ void LiveValues::take()
         m_values.swap(former);
         return now != before;
     });
+    followChange();
     Q_EMIT changed();
 }
 
@@ -122,25 +121,11 @@ void LiveValues::repaint()
     m_box.viewport()->update();
 }
 
-void LiveValues::noteChange(int from, int, int added)
-{
-    m_changed.note(from, added);
-}
-
-// Of a line that is changed while others are longer than the viewport the box repaints no
-// more than the text covers.
+// What is told to be painted again is the line, without what a value leaves beside it.
 void LiveValues::followChange()
 {
-    const ChangedPart::Span changed = m_changed.take();
-    if (changed.isEmpty() || !layers() || m_box.horizontalScrollBar()->maximum() == 0)
-        return;
-    QWidget &text = *m_box.viewport();
-    for (const ShownLine &line : layers()->shownLines()) {
-        const int from = line.block.position();
-        const QRect place = line.place.toAlignedRect();
-        if (from <= changed.to && from + line.block.length() > changed.from)
-            text.update(0, place.top(), text.width(), place.height());
-    }
+    if (m_reach > 0)
+        repaint();
 }
 
 QString LiveValues::textOn(const QTextBlock &line) const
@@ -191,7 +176,9 @@ void LiveValues::paintAbove(QPainter &painter, const ShownLines &lines)
         ViewColours::onGround(quiet, ViewColours::faintGround(ground), ViewColours::readable));
     for (const ShownLine &line : lines) {
         const QRectF room = roomBehind(line);
-        const QString values = room.isEmpty() ? QString() : textOn(line.block);
+        const bool isSeen =
+            room.left() - 1 < line.area.right() && room.right() + 1 > line.area.left();
+        const QString values = room.isEmpty() || !isSeen ? QString() : textOn(line.block);
         if (values.isEmpty())
             continue;
         const QStaticText &shown = laidOut(values, line.block.textDirection(), font, room.width());
@@ -203,18 +190,32 @@ void LiveValues::paintAbove(QPainter &painter, const ShownLines &lines)
     }
 }
 
+// With what comes to stand beside its line other lines are to be painted, too.
+void LiveValues::noteLetters(QStringView shown)
+{
+    const int reach = m_letters.reachBeyond(shown);
+    if (reach <= m_reach)
+        return;
+    m_reach = reach;
+    repaint();
+}
+
 // While one types on a line its values stay, and need not be laid out again.
 const QStaticText &LiveValues::laidOut(const QString &values, Qt::LayoutDirection direction,
                                        const QFont &font, qreal room)
 {
     constexpr qsizetype most = 500; // texts; more than lines are shown
-    if (m_laidOut.size() >= most || font != m_font)
+    if (m_laidOut.size() >= most || !m_letters.areOf(font))
         m_laidOut.clear();
-    m_font = font;
+    if (!m_letters.areOf(font)) {
+        m_letters.setFont(font, m_box);
+        m_reach = 0;
+    }
     const auto textFor = [&](const QString &shown) -> const QStaticText & {
         const auto key = std::pair(shown, direction);
         if (auto known = m_laidOut.constFind(key); known != m_laidOut.constEnd())
             return *known;
+        noteLetters(shown);
         QStaticText text(shown);
         QTextOption option;
         option.setTextDirection(direction);

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "editor/view/ChangedPart.h"
 #include "widgets/box/BoxLayers.h"
+#include "widgets/box/FontLetters.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QTimer>
-#include <QtGui/QFont>
 #include <QtGui/QStaticText>
 
 #include <utility>
@@ -35,6 +34,7 @@ public:
     QString textOn(const QTextBlock &line) const;
 
     void paintAbove(QPainter &painter, const ShownLines &lines) override;
+    int reachBeyond() const override { return m_reach; }
 
 Q_SIGNALS:
     void changed();
@@ -43,8 +43,8 @@ private:
     void take();
     void clear();
     void repaint();
-    void noteChange(int from, int removed, int added);
     void followChange();
+    void noteLetters(QStringView shown);
     QRectF roomBehind(const ShownLine &line) const;
     const QStaticText &laidOut(const QString &values, Qt::LayoutDirection direction,
                                const QFont &font, qreal room);
@@ -53,9 +53,9 @@ private:
     Values m_given;        // as they came
     bool m_isTaken = true; // what was given is what is shown
     Values m_values;       // by the folded name; empty while it is off
-    ChangedPart m_changed;
-    QHash<std::pair<QString, Qt::LayoutDirection>, QStaticText> m_laidOut; // in this font
-    QFont m_font;
+    int m_reach = 0;       // above and below a line, of what is shown
+    QHash<std::pair<QString, Qt::LayoutDirection>, QStaticText> m_laidOut; // in one font
+    FontLetters m_letters;                                                 // of this font
     QTimer *const m_pause; // the box's, named LiveValuesPause
 };
 

@@ -2,6 +2,7 @@
 #include "editor/view/BlockSearch.h"
 #include "editor/view/CaretLayer.h"
 #include "editor/view/LayerOrder.h"
+#include "editor/view/RoundedMark.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/box/LinePlaces.h"
 
@@ -133,7 +134,7 @@ void PairMarks::paintBelow(QPainter &painter, const ShownLines &lines)
             painter.setPen(ViewColours::onGround(colour, ground, ViewColours::visible));
             painter.setBrush(ViewColours::tinted(ground, colour));
             for (const QRectF &place : placesOf(line, mark.place.piece))
-                painter.drawRoundedRect(place.adjusted(-0.5, 0.5, 0.5, -0.5), 2, 2);
+                drawRoundedMark(painter, place);
         }
     }
     painter.setRenderHint(QPainter::Antialiasing, false);

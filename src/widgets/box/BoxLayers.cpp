@@ -38,6 +38,11 @@ void BoxLayer::paintAbove(QPainter &, const ShownLines &) {}
 
 void BoxLayer::paintMargin(QPainter &, const ShownLine &, const QRect &) {}
 
+int BoxLayer::reachBeyond() const
+{
+    return 0;
+}
+
 BoxLayers::BoxLayers(QWidget &box, QWidget &viewport, const Reach &reach)
     : QObject(&box)
     , m_box(box)
@@ -95,6 +100,27 @@ ShownLines BoxLayers::shownLines(int top, int bottom) const
         const QRectF size = m_reach.sizeOf(line.block);
         line.place = QRectF(line.place.left(), line.place.bottom(), size.width(), size.height());
     }
+    return lines;
+}
+
+ShownLines BoxLayers::linesIn(const QRegion &region) const
+{
+    const QRect whole = region.boundingRect();
+    int reach = 0;
+    for (const BoxLayer *layer : m_layers)
+        reach = std::max(reach, layer->reachBeyond());
+    ShownLines lines = shownLines(whole.top() - 1, whole.bottom() + 2);
+    for (ShownLine &line : lines) {
+        const QRect place = line.place.toAlignedRect();
+        const int beyond = std::max(reach, m_reach.reachBeyond(line.block));
+        const QRect row(whole.left(), place.top() - beyond, whole.width(),
+                        place.height() + 2 * beyond);
+        QRect area;
+        for (const QRect &part : region)
+            area |= part & row;
+        line.area = area;
+    }
+    lines.removeIf([](const ShownLine &line) { return line.area.isEmpty(); });
     return lines;
 }
 
@@ -158,24 +184,22 @@ void BoxLayers::updateLines(const std::function<bool(const QTextBlock &block)> &
     }
 }
 
-void BoxLayers::paint(const QRegion &region, Paint how)
+void BoxLayers::paint(const QRegion &region, const ShownLines &lines, Paint how)
 {
     QPainter painter(&m_viewport);
     painter.setClipRegion(region);
-    const QRect area = region.boundingRect();
-    const ShownLines lines = shownLines(area.top(), area.bottom() + 1);
     for (BoxLayer *layer : std::as_const(m_layers))
         (layer->*how)(painter, lines);
 }
 
-void BoxLayers::paintBelow(const QRegion &region)
+void BoxLayers::paintBelow(const QRegion &region, const ShownLines &lines)
 {
-    paint(region, &BoxLayer::paintBelow);
+    paint(region, lines, &BoxLayer::paintBelow);
 }
 
-void BoxLayers::paintAbove(const QRegion &region)
+void BoxLayers::paintAbove(const QRegion &region, const ShownLines &lines)
 {
-    paint(region, &BoxLayer::paintAbove);
+    paint(region, lines, &BoxLayer::paintAbove);
 }
 
 void BoxLayers::paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip)

@@ -22,6 +22,7 @@ struct ShownLine
 {
     QTextBlock block;
     QRectF place; // as wide as the text; a line without wrapping may reach beyond
+    QRectF area;  // of the viewport: where it is to be painted, when it is
 };
 using ShownLines = QList<ShownLine>;
 
@@ -45,6 +46,10 @@ public:
     // `strip` is the line's part of the margin.
     virtual void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip);
 
+    // How far above and below a line it paints what it shows of it, in pixels, but in the
+    // margin.
+    virtual int reachBeyond() const;
+
 protected:
     // Null once the box is gone.
     BoxLayers *layers() const { return m_layers; }
@@ -67,6 +72,7 @@ public:
     {
         std::function<ShownLine()> firstLine;
         std::function<QRectF(const QTextBlock &block)> sizeOf;
+        std::function<int(const QTextBlock &block)> reachBeyond; // of its text, in pixels
         std::function<void(int beside, int below)> setMargins;
         std::function<void(const QFont &font)> showIn;
     };
@@ -83,6 +89,9 @@ public:
     // From the top; all that are shown, or those of the given height.
     ShownLines shownLines() const;
     ShownLines shownLines(int top, int bottom) const;
+
+    // Those that are to be painted there, each with its area.
+    ShownLines linesIn(const QRegion &region) const;
 
     // Room beside the text, where its lines begin.
     void setMargin(int width);
@@ -111,8 +120,9 @@ public:
     // Has the lines painted again for which `concerns` is true.
     void updateLines(const std::function<bool(const QTextBlock &block)> &concerns);
 
-    void paintBelow(const QRegion &region);
-    void paintAbove(const QRegion &region);
+    // Lines from linesIn.
+    void paintBelow(const QRegion &region, const ShownLines &lines);
+    void paintAbove(const QRegion &region, const ShownLines &lines);
     void paintMargin(QPainter &painter, const ShownLine &line, const QRect &strip);
 
 Q_SIGNALS:
@@ -123,7 +133,7 @@ Q_SIGNALS:
 
 private:
     using Paint = void (BoxLayer::*)(QPainter &painter, const ShownLines &lines);
-    void paint(const QRegion &region, Paint how);
+    void paint(const QRegion &region, const ShownLines &lines, Paint how);
 
     QWidget &m_box;
     QWidget &m_viewport;

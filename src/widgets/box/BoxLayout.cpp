@@ -1,9 +1,11 @@
 #include "widgets/box/BoxLayout.h"
 
+#include <QtCore/QtMath>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace ORVTListview {
 
@@ -11,18 +13,22 @@ namespace ORVTListview {
 class BoxLayout::LineWidth final : public QTextBlockUserData
 {
 public:
-    LineWidth(std::shared_ptr<Widths> widths, qreal width)
+    LineWidth(std::shared_ptr<Widths> widths, qreal width, int reach)
         : m_widths(std::move(widths))
         , m_entry(m_widths->insert(width))
+        , m_reach(reach)
     {
     }
     ~LineWidth() override { m_widths->erase(m_entry); }
     LineWidth(const LineWidth &) = delete; // one entry each
     LineWidth &operator=(const LineWidth &) = delete;
 
+    int reachBeyond() const { return m_reach; }
+
 private:
     std::shared_ptr<Widths> m_widths;
     Widths::iterator m_entry;
+    int m_reach;
 };
 
 BoxLayout::BoxLayout(QTextDocument &document, const QWidget &viewport)
@@ -95,8 +101,43 @@ void BoxLayout::ensureLines(QTextBlock block) const
 {
     if (block.layout()->lineCount() > 0)
         return;
-    block.setUserData(new LineWidth(m_widths, makeLines(block)));
+    layOut(block);
     announceSize();
+}
+
+void BoxLayout::layOut(QTextBlock &block) const
+{
+    const qreal width = makeLines(block);
+    block.setUserData(new LineWidth(m_widths, width, textReach(block)));
+}
+
+const FontLetters &BoxLayout::letters() const
+{
+    if (const QFont font = document()->defaultFont(); !m_letters.areOf(font))
+        m_letters.setFont(font, m_viewport);
+    return m_letters;
+}
+
+// It is known of letters without a style of their own.
+int BoxLayout::textReach(const QTextBlock &block) const
+{
+    const int row = qCeil(block.layout()->boundingRect().height());
+    if (!block.layout()->preeditAreaText().isEmpty())
+        return row;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextCharFormat format = it.fragment().charFormat();
+        if (format.propertyCount() > (format.hasProperty(QTextFormat::ForegroundBrush) ? 1 : 0))
+            return row;
+    }
+    return letters().reachBeyond(block.text());
+}
+
+// A line that is no whole number of the screen's pixels high shares one with the next.
+int BoxLayout::reachBeyond(const QTextBlock &line) const
+{
+    const qreal ratio = m_viewport.devicePixelRatioF();
+    const auto *width = dynamic_cast<const LineWidth *>(line.userData());
+    return std::max(width ? width->reachBeyond() : 0, ratio == std::floor(ratio) ? 0 : 1);
 }
 
 // Returns the width. A line separator in the text starts another line.
@@ -120,28 +161,41 @@ qreal BoxLayout::makeLines(QTextBlock &block) const
     return width;
 }
 
-// Returns whether the line is known to have kept its height.
-bool BoxLayout::changeLine(QTextBlock block) const
+BoxLayout::Kept BoxLayout::changeLine(QTextBlock block) const
 {
     const QTextLayout &layout = *block.layout();
     if (layout.lineCount() == 0) {
         block.setLineCount(block.isVisible() ? 1 : 0);
-        return false;
+        return {false, 0};
     }
     const qreal height = layout.boundingRect().height();
-    block.setUserData(new LineWidth(m_widths, makeLines(block)));
-    return layout.boundingRect().height() == height;
+    const int beyond = reachBeyond(block);
+    layOut(block);
+    return {layout.boundingRect().height() == height, std::max(beyond, reachBeyond(block))};
 }
 
-bool BoxLayout::changeLines(const QTextBlock &first, const QTextBlock &last) const
+BoxLayout::Kept BoxLayout::changeLines(const QTextBlock &first, const QTextBlock &last) const
 {
-    bool sameHeight = true;
+    Kept all;
     for (QTextBlock block = first; block.isValid(); block = block.next()) {
-        sameHeight = changeLine(block) && sameHeight;
+        const Kept kept = changeLine(block);
+        all = {all.height && kept.height, std::max(all.beyond, kept.beyond)};
         if (block == last)
             break;
     }
-    return sameHeight;
+    return all;
+}
+
+// Over the whole width; the box paints one pixel more on each side of what it is told.
+void BoxLayout::updateLine(const QTextBlock &block, int beyond)
+{
+    constexpr qreal far = 1e7;
+    const QRectF place = m_placeOf ? m_placeOf(block) : QRectF();
+    if (place.height() < 3)
+        Q_EMIT updateBlock(block);
+    else
+        Q_EMIT update(QRectF(-far, place.top(), 2 * far, place.height())
+                          .adjusted(0, 1 - beyond, 0, beyond - 1));
 }
 
 void BoxLayout::clearLines(const QTextBlock &first, const QTextBlock &last) const
@@ -161,8 +215,9 @@ void BoxLayout::colourLines(const QTextBlock &first, const QTextBlock &last)
 {
     for (QTextBlock block = first; block.isValid(); block = block.next()) {
         if (block.userData()) {
-            block.setUserData(new LineWidth(m_widths, makeLines(block)));
-            Q_EMIT updateBlock(block);
+            const int beyond = reachBeyond(block);
+            layOut(block);
+            updateLine(block, std::max(beyond, reachBeyond(block)));
         }
         if (block == last)
             break;
@@ -186,14 +241,14 @@ void BoxLayout::documentChanged(int from, int, int charsAdded)
 
     if (!areFew)
         clearLines(first, last);
-    const bool sameHeight = areFew && changeLines(first, last);
+    const Kept kept = areFew ? changeLines(first, last) : Kept{false, 0};
     announceSize();
-    if (!sameHeight || !sameLines) {
+    if (!kept.height || !sameLines) {
         Q_EMIT update(QRectF()); // everything
         return;
     }
     for (QTextBlock block = first; block.isValid(); block = block.next()) {
-        Q_EMIT updateBlock(block);
+        updateLine(block, kept.beyond);
         if (block == last)
             break;
     }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "widgets/box/FontLetters.h"
+
 #include <QtWidgets/QPlainTextEdit>
 
+#include <functional>
 #include <memory>
 #include <set>
 
@@ -27,6 +30,16 @@ public:
     // told that it changed.
     void showLines(const QTextBlock &first, const QTextBlock &last, bool on);
 
+    // Where the box shows a line, from the left and the top of what it shows.
+    using PlaceOf = std::function<QRectF(const QTextBlock &line)>;
+    void setPlaceOf(const PlaceOf &place) { m_placeOf = place; }
+
+    // How far above and below a line that is laid out its text may be painted, in pixels.
+    int reachBeyond(const QTextBlock &line) const;
+
+    // Those of the document's font.
+    const FontLetters &letters() const;
+
     // While it is so, what changes is the colours of text: lines keep their places.
     void setOnlyColours(bool on) { m_onlyColours = on; }
 
@@ -41,10 +54,20 @@ private:
     using Widths = std::multiset<qreal>;
     class LineWidth;
 
+    // Of lines that changed: what is known to be as it was.
+    struct Kept
+    {
+        bool height = true;
+        int beyond = 0; // how far one of them reached, or does
+    };
+
     void ensureLines(QTextBlock block) const;
+    void layOut(QTextBlock &block) const;
     qreal makeLines(QTextBlock &block) const;
-    bool changeLine(QTextBlock block) const;
-    bool changeLines(const QTextBlock &first, const QTextBlock &last) const;
+    int textReach(const QTextBlock &block) const;
+    Kept changeLine(QTextBlock block) const;
+    Kept changeLines(const QTextBlock &first, const QTextBlock &last) const;
+    void updateLine(const QTextBlock &block, int beyond);
     void clearLines(const QTextBlock &first, const QTextBlock &last) const;
     void colourLines(const QTextBlock &first, const QTextBlock &last);
     void announceSize() const;
@@ -55,6 +78,8 @@ private:
     int m_width = 0;                  // that the lines are aligned in
     std::shared_ptr<Widths> m_widths; // of the lines laid out so far
     mutable QSizeF m_announcedSize;
+    mutable FontLetters m_letters;
+    PlaceOf m_placeOf;
 };
 
 } // namespace ORVTListview

@@ -242,19 +242,21 @@ void BoxPainting::paintLine(QPainter &painter, const ShownLine &line, const QRec
     const QTransform toPixels = painter.deviceTransform();
     const QPointF corner = line.place.topLeft();
     const Ranges selections = selectionsIn(line.block);
-    const QList<Piece> others = colouredPieces(line.block, selections);
-    if (others.isEmpty())
-        return layout.draw(&painter, corner, selections, area);
-    QList<Piece> pieces;
-    QList<QRectF> taken;
     const LinePlaces standing(line);
     if (selections.isEmpty() && paintEvenLetters(painter, line, standing, area))
         return;
+    // The area may hold no more than what stands above the line's letters.
+    const QRectF beside(area.left(), line.place.top(), area.width(), line.place.height());
+    const QList<Piece> others = colouredPieces(line.block, selections);
+    if (others.isEmpty())
+        return layout.draw(&painter, corner, selections, beside);
+    QList<Piece> pieces;
+    QList<QRectF> taken;
     for (const Piece &piece : others) {
         const int from = placeInLayout(piece.from, layout);
         const int to = placeInLayout(piece.to - 1, layout) + 1;
         const QList<QRectF> places = onPixels(standing.of({from, to - from}), toPixels);
-        const auto isSeen = [&](const QRectF &place) { return place.intersects(area); };
+        const auto isSeen = [&](const QRectF &place) { return place.intersects(beside); };
         if (std::none_of(places.begin(), places.end(), isSeen))
             continue;
         pieces.append(piece);
@@ -266,7 +268,7 @@ void BoxPainting::paintLine(QPainter &painter, const ShownLine &line, const QRec
     }
     if (!taken.isEmpty())
         painter.setClipPath(without(area, taken));
-    layout.draw(&painter, corner, selections, area);
+    layout.draw(&painter, corner, selections, beside);
     if (taken.isEmpty())
         return;
     painter.setClipRect(area);
@@ -296,11 +298,12 @@ void BoxPainting::paintCaret(QPainter &painter, const ShownLine &line) const
 
 void BoxPainting::paint(QPainter &painter, const ShownLines &lines, const QRectF &area) const
 {
-    painter.setClipRect(area);
     painter.setPen(colours(context.palette.text().color(), {}));
     for (const ShownLine &line : lines) {
+        const QRectF part = area & line.area;
+        painter.setClipRect(part);
         painter.setBrushOrigin(QPointF(line.place.left(), 0)); // where waves under words begin
-        paintLine(painter, line, area);
+        paintLine(painter, line, part);
         if (showsCaret)
             paintCaret(painter, line);
     }

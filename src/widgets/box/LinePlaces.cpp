@@ -1,6 +1,7 @@
 #include "widgets/box/LinePlaces.h"
 
-#include <QtGui/QFontMetricsF>
+#include "widgets/box/BoxLayout.h"
+
 #include <QtGui/QTextDocument>
 
 #include <algorithm>
@@ -9,36 +10,35 @@
 namespace ORVTListview {
 namespace {
 
-// How wide each letter of a text is, if all are equally wide in any style of a font; 0
-// else. Of other letters than these the font may have none.
-qreal evenWidth(const QFont &font)
+int withoutBlanksBehind(QStringView row)
 {
-    const QFontMetricsF metrics(font);
-    const qreal width = metrics.horizontalAdvance(u' ');
-    const auto isAsWide = [&](QChar letter) { return metrics.horizontalAdvance(letter) == width; };
-    return isAsWide(u'i') && isAsWide(u'W') && isAsWide(u'.') ? width : 0;
-}
-
-bool isPlain(QStringView text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u' ' && c <= u'~'; });
+    qsizetype length = row.size();
+    while (length > 0 && row[length - 1] == u' ')
+        --length;
+    return static_cast<int>(length);
 }
 
 } // namespace
 
+// The layout knows where a row ends but for the blanks there. To be told where a letter
+// stands it would have to shape the line, of which it keeps nothing.
 RowSides::RowSides(const QTextLine &row, const QTextBlock &line)
     : m_row(row)
 {
-    const int length = row.textLength();
-    if (length == 0 || line.textDirection() != Qt::LeftToRight ||
-        !line.layout()->preeditAreaText().isEmpty() ||
-        !isPlain(line.text().mid(row.textStart(), length)))
+    const auto *layout = qobject_cast<const BoxLayout *>(line.document()->documentLayout());
+    const qreal width = layout ? layout->letters().evenWidth() : 0;
+    const QString text = line.text();
+    const QStringView letters = QStringView(text).mid(row.textStart(), row.textLength());
+    if (width == 0 || letters.isEmpty() || line.textDirection() != Qt::LeftToRight ||
+        !line.layout()->preeditAreaText().isEmpty() || !FontLetters::arePlain(letters))
         return;
-    const qreal width = evenWidth(line.document()->defaultFont());
-    m_start = row.cursorToX(row.textStart());
-    const qreal whole = row.cursorToX(row.textStart() + length) - m_start;
-    if (width > 0 && std::abs(whole - length * width) < 0.01)
-        m_step = whole / length;
+    const auto isAlike = [](qreal one, qreal other) { return std::abs(one - other) < 0.01; };
+    const QRectF seen = row.naturalTextRect();
+    m_start = seen.left();
+    if (isAlike(seen.width(), withoutBlanksBehind(letters) * width) ||
+        isAlike(row.cursorToX(row.textStart() + row.textLength()) - m_start,
+                row.textLength() * width)) // the last letter may be wider than its place
+        m_step = width;
 }
 
 LinePlaces::LinePlaces(const ShownLine &line)

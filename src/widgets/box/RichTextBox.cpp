@@ -57,16 +57,22 @@ RichTextBox::RichTextBox(QWidget *parent)
 {
     auto *text = new QTextDocument(this);
     text->setDefaultFont(font());
-    text->setDocumentLayout(new BoxLayout(*text, *viewport()));
+    auto *layout = new BoxLayout(*text, *viewport());
+    layout->setPlaceOf([this](const QTextBlock &block) { return blockBoundingGeometry(block); });
+    text->setDocumentLayout(layout);
     setDocument(text);
     d = std::make_unique<BoxParts>(*text, *viewport(), plainCommands(*this));
     d->layers = new BoxLayers(
         *this, *viewport(),
         {[this] {
              const QTextBlock first = firstVisibleBlock();
-             return ShownLine{first, blockBoundingGeometry(first).translated(contentOffset())};
+             return ShownLine{first, blockBoundingGeometry(first).translated(contentOffset()), {}};
          },
          [this](const QTextBlock &block) { return blockBoundingRect(block); },
+         [this](const QTextBlock &block) {
+             const auto *lines = qobject_cast<BoxLayout *>(document()->documentLayout());
+             return lines ? lines->reachBeyond(block) : 1;
+         },
          [this](int beside, int below) { setViewportMargins(beside, 0, 0, below); },
          [this](const QFont &shown) { document()->setDefaultFont(shown); }});
     d->late.setFirstShown([this] { return firstVisibleBlock().blockNumber(); });
@@ -80,6 +86,8 @@ RichTextBox::~RichTextBox()
 {
     // The toolkit goes on with both when a receiver destroys the box.
     d->surface.letGo();
+    if (auto *layout = qobject_cast<BoxLayout *>(document()->documentLayout()))
+        layout->setPlaceOf({}); // whoever keeps the document may still change it
     for (QMenu *menu : findChildren<QMenu *>(Qt::FindDirectChildrenOnly)) {
         menu->setParent(nullptr);
         menu->deleteLater();

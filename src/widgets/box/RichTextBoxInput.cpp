@@ -151,7 +151,8 @@ bool RichTextBox::viewportEvent(QEvent *event)
 bool RichTextBox::paintLayers(QPaintEvent &event)
 {
     BoxLayers &layers = *d->layers;
-    layers.paintBelow(event.region());
+    const ShownLines lines = layers.linesIn(event.region());
+    layers.paintBelow(event.region(), lines);
     if (layers.textColours() && !document()->isEmpty() && !overwriteMode()) {
         const bool showsCaret =
             !isReadOnly() || textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard);
@@ -164,12 +165,11 @@ bool RichTextBox::paintLayers(QPaintEvent &event)
         area.setRight(std::min(area.right(), contentOffset().x() + text -
                                                  document()->documentMargin() + cursorWidth()));
         QPainter painter(viewport());
-        painting.paint(painter, layers.shownLines(event.rect().top(), event.rect().bottom() + 1),
-                       area);
+        painting.paint(painter, lines, area);
     } else {
         QPlainTextEdit::viewportEvent(&event);
     }
-    layers.paintAbove(event.region());
+    layers.paintAbove(event.region(), lines);
     return true;
 }
 

@@ -1,0 +1,176 @@
+// What is painted for a key: no more than the key changed, and all of that.
+
+#include "editor/AllOfTheView.h"
+#include "editor/view/ViewFixture.h"
+#include "support/RandomSession.h"
+#include "support/TestProgram.h"
+#include "support/WidgetTest.h"
+#include "widgets/box/BoxLayers.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QScreen>
+#include <QtGui/QTextCursor>
+#include <QtWidgets/QApplication>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Notes which lines are painted, and how much of each.
+class WatchingLayer final : public BoxLayer
+{
+public:
+    explicit WatchingLayer(BoxLayers &layers)
+        : BoxLayer(layers, 1000)
+    {
+        setShown(true);
+    }
+    void paintBelow(QPainter &, const ShownLines &lines) override { painted += lines; }
+
+    ShownLines painted;
+};
+
+// Types and does other things in a small window with all that the view shows. The picture
+// on the screen is the one that painting anew makes.
+class Session final : public RandomSession
+{
+public:
+    explicit Session(unsigned seed)
+        : RandomSession(seed)
+    {
+        m_host.list->openProgram(u"IF Temp1 > Limit1\r\n\tFan1 = ( 1 + Temp2 )\r\n"_s.repeated(4) +
+                                 u"ENDIF\r\n"_s.repeated(4));
+        switchView(m_host.view(), true, {"wordListOpensItself"});
+        m_host.view().setLiveValues({{u"Temp1"_s, u"19.4 °C"_s}, {u"Fan1"_s, u"On"_s}});
+        box().findChild<QTimer *>(u"LiveValuesPause"_s)->setInterval(0);
+        m_host.markLines();
+    }
+
+private:
+    RichTextBox &box() { return m_host.box(); }
+
+    void act() override
+    {
+        static const QStringList values{u"19.5 °C"_s, u"Ấ\u0302\u0302ậ"_s, u"ein"_s, u"Ω Ж"_s,
+                                        u"g_|"_s};
+        static const QStringList letters{u"x"_s,  u"_"_s,  u"Temp1 "_s,
+                                         u"(Ấ"_s, u"Å|"_s, u"e\u0302\u0302\u0302"_s,
+                                         u"\t"_s, u"g)"_s};
+        const QString letter = oneOf(letters);
+        switch (number(9)) {
+        case 0:
+            note(u"go"_s);
+            box().setSelStart(number(box().TextLength() + 1));
+            break;
+        case 1:
+            note(u"Backspace"_s);
+            m_host.key(Qt::Key_Backspace);
+            break;
+        case 2:
+            note(u"Enter"_s);
+            if (box().lineCount() < 15) // what is cut at the edge of the view looks otherwise
+                m_host.key(Qt::Key_Return);
+            break;
+        case 3:
+            note(u"values"_s);
+            m_host.view().setLiveValues({{u"Temp1"_s, oneOf(values)}, {u"Temp2"_s, u"1"_s}});
+            break;
+        case 4:
+            note(u"arrows"_s);
+            m_host.key(oneIn(2) ? Qt::Key_Up : Qt::Key_Right);
+            break;
+        case 5:
+            note(u"left"_s);
+            m_host.key(Qt::Key_Left);
+            break;
+        default:
+            note(u"put in "_s + letter);
+            if (box().lineText(box().GetLineFromChar(box().SelStart())).size() < 100)
+                box().setSelText(letter);
+        }
+        QCoreApplication::processEvents();
+    }
+
+    QString whatIsWrong() override
+    {
+        for (int i = 0; i < 4; ++i) // values are taken later, and painting may ask for more
+            QCoreApplication::processEvents();
+        const QImage shown = m_host.form.screen()->grabWindow(m_host.form.winId()).toImage();
+        const QImage anew = m_host.form.grab().toImage().convertToFormat(shown.format());
+        for (int y = 0; y < anew.height() && shown != anew; ++y) {
+            if (shown.copy(0, y, anew.width(), 1) != anew.copy(0, y, anew.width(), 1))
+                return u"the screen differs in row %1"_s.arg(y);
+        }
+        return shown.size() == anew.size() ? QString() : u"there is no picture"_s;
+    }
+
+    ThreadState::Fresh m_state;
+    ViewHost m_host;
+};
+
+} // namespace
+
+class PaintedViewTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QApplication::setCursorFlashTime(0); }
+
+    // Beside the caret the toolkit has a pixel of the lines around it painted.
+    void aKeyPaintsItsLineAndLettersBesideTheCaret_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("isHigher");
+        QTest::newRow("plain letters") << u"\tFan1 = ( Temp1 + 20 ) "_s << false;
+        QTest::newRow("letters above their row") << u"Fan1 = Ấ\u0302\u0302 "_s << true;
+    }
+    void aKeyPaintsItsLineAndLettersBesideTheCaret()
+    {
+        QFETCH(const QString, line);
+        QFETCH(const bool, isHigher);
+        const ThreadState::Fresh state;
+        ViewHost host;
+        if (host.box().devicePixelRatioF() != 1)
+            return; // the bound is one of pixels
+        switchView(host.view(), true, typingHelps);
+        host.view().setLiveValues({{u"Temp1"_s, u"19.4 °C"_s}});
+        host.list->openProgram(QStringList(12, line).join(u"\r\n"_s));
+        host.box().setSelStart(host.box().lineStart(5) - 2);
+        host.type(u"x"_s);
+        QCoreApplication::processEvents();
+        WatchingLayer watching(BoxLayers::of(host.box()));
+        QCoreApplication::processEvents();
+        watching.painted.clear();
+        host.type(u"x"_s);
+        QCoreApplication::processEvents();
+        QVERIFY(!watching.painted.isEmpty());
+        const qreal narrow = 40;
+        for (const ShownLine &painted : std::as_const(watching.painted)) {
+            const bool isWhole = painted.area.width() > narrow;
+            if (painted.block.blockNumber() == 4)
+                QCOMPARE(painted.area.width(), qreal(host.box().viewport()->width()));
+            else
+                QCOMPARE(isWhole, isHigher);
+        }
+    }
+
+    void aSelectionLeavesOtherLinesAsTheyAre()
+    {
+        const ThreadState::Fresh state;
+        ViewHost host;
+        switchView(host.view(), true, {"currentLineShown"});
+        host.list->openProgram(u"IF Temp1 > 1\r\n\tFan1 = 2\r\nENDIF Fan1 Ấ\r\nTemp1\r\n"_s);
+        host.box().setSelStart(host.box().lineStart(1));
+        const QRect below = host.box().viewport()->rect().adjusted(0, host.placeOf(2).top(), 0, 0);
+        const QImage plain = host.picture(*host.box().viewport()).copy(below);
+        host.box().setSelLength(6);
+        QCOMPARE(host.picture(*host.box().viewport()).copy(below), plain);
+    }
+
+    void theScreenShowsWhatPaintingAnewShows() { runSessions<Session>(6, 300); }
+};
+
+ORVT_TEST(PaintedViewTest)
+#include "PaintedViewTest.moc"
