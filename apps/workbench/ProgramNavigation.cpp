@@ -208,7 +208,7 @@ QList<ShownUse> ProgramNavigation::usesOf(const NamedPoint &point) const
     QList<ShownUse> uses;
     const RichTextBox &box = *m_view.list().RTextBox();
     for (const UsePlace &use : m_analysis.usesOf(point.name))
-        uses.append({{use.line, use.place}, box.lineText(use.line - 1).trimmed()});
+        uses.append({{use.line, use.place}, box.lineText(use.line - 1).simplified()});
     if (!m_project)
         return uses;
     for (const PointReference &at : referencesTo(*m_project, point.name))

@@ -1,9 +1,15 @@
 #include "WorkbenchTest.h"
 
+#include "support/RandomText.h"
 #include "support/TestProgram.h"
+#include "workbench/LiveAnalysis.h"
 #include <ORVTListview/CodeView.h>
 
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
 #include <QtTest/QSignalSpy>
+
+#include <algorithm>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -23,6 +29,37 @@ private:
                              .arg(problem.length)
                              .arg(problem.text));
         return texts.join(u'|');
+    }
+
+    static bool isAnalysedAsIfAnew(WorkbenchWindow &workbench)
+    {
+        auto &live = *workbench.window.findChild<LiveAnalysis *>();
+        const QList<ProgramProblem> found = live.finished().problems();
+        const RichTextBox &box = workbench.box();
+        ProgramAnalysis anew([&box](qint32 line) { return box.lineText(line); });
+        anew.setWords(live.words());
+        anew.reset(box.lineCount());
+        anew.finish();
+        return anew.problems() == found;
+    }
+
+    // Puts something in the place of a piece of the text, as pasting and dragging do.
+    static void editAnywhere(WorkbenchWindow &workbench, RandomText &random)
+    {
+        static const QStringList pieces{
+            u"IF Temp1 > 3\n"_s, u"ENDIF\n"_s, u"Fan1 = tmep"_s, u"\n"_s,
+            u"ELSE\n"_s,         u"x=1 "_s,    u" ) "_s,         u"\n\n"_s};
+        QTextCursor cursor(workbench.box().document());
+        const int length = workbench.box().TextLength();
+        const int from = random.number(std::max(1, length - workbench.box().lineCount()));
+        cursor.setPosition(from);
+        cursor.setPosition(
+            std::min(workbench.box().document()->characterCount() - 1, from + random.number(40)),
+            QTextCursor::KeepAnchor);
+        QString text;
+        for (int i = random.number(6); i > 0; --i)
+            text += pieces[random.number(static_cast<int>(pieces.size()))];
+        cursor.insertText(text);
     }
 
 private Q_SLOTS:
@@ -125,6 +162,23 @@ private Q_SLOTS:
         QCOMPARE(problems(workbench), u"1:7+4 tmep ist nicht bekannt"_s);
         workbench.speak(QLocale(QLocale::English));
         QCOMPARE(problems(workbench), u"1:7+4 tmep is not known"_s);
+    }
+
+    void problemsAreThoseOfTheProgramWhateverChanges()
+    {
+        WorkbenchWindow workbench("IF Temp1 > 3\n  Fan1 = ON\nENDIF\n");
+        RandomText random;
+        for (int i = randomSteps(400); i > 0; --i) {
+            if (workbench.box().lineCount() > 60)
+                workbench.code().setCodeText(u"Fan1 = tmep\r\nENDIF"_s);
+            else if (random.number(5) == 0)
+                workbench.key(Qt::Key_Z, Qt::ControlModifier);
+            else
+                editAnywhere(workbench, random);
+            if (random.number(3) > 0)
+                continue;
+            QVERIFY2(isAnalysedAsIfAnew(workbench), random.seed().c_str());
+        }
     }
 
     // The same problems are not shown anew, so that nothing flickers or is told twice.

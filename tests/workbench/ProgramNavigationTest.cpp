@@ -90,7 +90,7 @@ private Q_SLOTS:
     void listsTheUsesOfAPointFromItsTable()
     {
         WorkbenchWindow workbench;
-        workbench.window.openProject(writeProject(workbench, "Fan1 = Temp1\nFan1 = Temp2"));
+        workbench.window.openProject(writeProject(workbench, "Fan1 = Temp1\nFan1   = Temp2"));
         workbench.window.showType(dsInput);
         workbench.code().setFocus();
         press(Qt::Key_Home);
