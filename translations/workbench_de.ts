@@ -437,6 +437,56 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Über</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Workbench of ORVTListview %1</source>
+        <translation>Werkbank von ORVTListview %1</translation>
+    </message>
+    <message>
+        <source>It writes, checks and shows the programs of controllers and their points.
+
+Free software under the MIT licence. It stands on Qt %1.</source>
+        <translation>Sie schreibt, prüft und zeigt die Programme von Reglern und ihre Punkte.
+
+Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Command or key</source>
+        <translation>Befehl oder Taste</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>

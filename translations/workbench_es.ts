@@ -437,6 +437,56 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Teclas</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Workbench of ORVTListview %1</source>
+        <translation>Banco de trabajo de ORVTListview %1</translation>
+    </message>
+    <message>
+        <source>It writes, checks and shows the programs of controllers and their points.
+
+Free software under the MIT licence. It stands on Qt %1.</source>
+        <translation>Escribe, comprueba y muestra los programas de los controladores y sus puntos.
+
+Software libre con licencia MIT. Se basa en Qt %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Command or key</source>
+        <translation>Orden o tecla</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>

@@ -437,6 +437,56 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Touches</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Workbench of ORVTListview %1</source>
+        <translation>Atelier d&apos;ORVTListview %1</translation>
+    </message>
+    <message>
+        <source>It writes, checks and shows the programs of controllers and their points.
+
+Free software under the MIT licence. It stands on Qt %1.</source>
+        <translation>Il écrit, vérifie et montre les programmes des régulateurs et leurs points.
+
+Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Command or key</source>
+        <translation>Commande ou touche</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Touche</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::LanguageMenu</name>
     <message>
         <source>&amp;Language</source>

@@ -6,6 +6,8 @@
 
 #include <QtCore/QStringList>
 
+#include <algorithm>
+#include <array>
 #include <functional>
 
 namespace ORVTListview {
@@ -14,23 +16,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Of the types whose rows read points.
-bool namesPoint(LwType type, const QString &key)
+// The columns whose cells name points.
+bool namesPoint(LwType type, const ProjectColumn &column)
 {
-    switch (type) {
-    case dsController:
-        return key == u"Input"_s || key == u"Setpoint"_s;
-    case dsLog:
-    case dsTimer:
-        return key == u"Data"_s;
-    case dsOs:
-        return key == u"Target Temperature"_s || key == u"Target Setpoint"_s ||
-               key == u"Outdoor Temperature"_s;
-    case dsNvo:
-        return key == u"Data Source"_s;
-    default:
-        return false;
-    }
+    struct Reference
+    {
+        LwType type;
+        QStringView member;
+    };
+    static constexpr std::array references{
+        Reference{dsController, u"input"},
+        Reference{dsController, u"setpoint"},
+        Reference{dsLog, u"data"},
+        Reference{dsTimer, u"data"},
+        Reference{dsOs, u"targetTemperature"},
+        Reference{dsOs, u"targetSetpoint"},
+        Reference{dsOs, u"outdoorTemperature"},
+        Reference{dsOs, u"schedule"},
+        Reference{dsNvo, u"dataSource"},
+    };
+    return std::ranges::any_of(references, [&](const Reference &reference) {
+        return reference.type == type && reference.member == column.member;
+    });
 }
 
 using Take = std::function<void(const PointReference &at, const QString &name)>;
@@ -39,9 +46,10 @@ void takeReferences(const Project &project, LwType type, qsizetype column, const
 {
     const QList<ProjectRow> &rows = project.rows(type);
     for (qsizetype row = 0; row < rows.size(); ++row) {
-        const QVariant cell = rows[row].cells.value(column);
-        if (cell.typeId() == QMetaType::QString && !cell.toString().isEmpty())
-            take({type, row, column}, foldedCase(cell.toString()));
+        const QVariant cell = rows[row].cellsOfFile().value(column); // a number is no name
+        const QString name = cell.toString().trimmed();
+        if (cell.typeId() == QMetaType::QString && !name.isEmpty())
+            take({type, row, column}, foldedCase(name));
     }
 }
 
@@ -50,7 +58,7 @@ void takeReferences(const Project &project, const Take &take)
     for (const LwType type : projectTypes()) {
         const QList<ProjectColumn> &columns = projectColumns(type);
         for (qsizetype column = 0; column < columns.size(); ++column) {
-            if (namesPoint(type, columns[column].key))
+            if (namesPoint(type, columns[column]))
                 takeReferences(project, type, column, take);
         }
     }

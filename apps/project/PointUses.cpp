@@ -1,44 +1,16 @@
 #include "project/PointUses.h"
 
-#include "base/TextRules.h"
 #include "find/rules/ProgramSearch.h"
+#include "project/PointReferences.h"
 #include "project/Project.h"
-#include "project/ProjectColumns.h"
 
 #include <QtCore/QMap>
-
-#include <algorithm>
-#include <array>
 
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// The cells that name a point.
-bool isReference(LwType type, const QString &member)
-{
-    struct Reference
-    {
-        LwType type;
-        QStringView member;
-    };
-    static constexpr std::array references{
-        Reference{dsController, u"input"},
-        Reference{dsController, u"setpoint"},
-        Reference{dsLog, u"data"},
-        Reference{dsTimer, u"data"},
-        Reference{dsOs, u"targetTemperature"},
-        Reference{dsOs, u"targetSetpoint"},
-        Reference{dsOs, u"outdoorTemperature"},
-        Reference{dsOs, u"schedule"},
-        Reference{dsNvo, u"dataSource"},
-    };
-    return std::ranges::any_of(references, [&](const Reference &reference) {
-        return reference.type == type && reference.member == member;
-    });
-}
 
 void appendProgramUses(QList<PointUse> &uses, const QString &program, const QString &name)
 {
@@ -61,22 +33,6 @@ void appendProgramUses(QList<PointUse> &uses, const QString &program, const QStr
     }
 }
 
-void appendTableUses(QList<PointUse> &uses, const Project &project, LwType type,
-                     const QString &name)
-{
-    const QList<ProjectColumn> &columns = projectColumns(type);
-    const QList<ProjectRow> &rows = project.rows(type);
-    for (qsizetype column = 0; column < columns.size(); ++column) {
-        if (!isReference(type, columns.at(column).member))
-            continue;
-        for (qsizetype row = 0; row < rows.size(); ++row) {
-            const QString text = rows.at(row).cellsOfFile().value(column).toString();
-            if (isSameWord(text.trimmed(), name))
-                uses.append({0, {}, type, row, column, text});
-        }
-    }
-}
-
 } // namespace
 
 QList<PointUse> usesOfPoint(const Project &project, const QString &program, const QString &name)
@@ -85,8 +41,10 @@ QList<PointUse> usesOfPoint(const Project &project, const QString &program, cons
     if (name.isEmpty())
         return uses;
     appendProgramUses(uses, program, name);
-    for (const LwType type : projectTypes())
-        appendTableUses(uses, project, type, name);
+    for (const auto &[type, row, column] : referencesTo(project, name)) {
+        const ProjectRow &named = project.rows(type).at(row);
+        uses.append({0, {}, type, row, column, named.cellsOfFile().value(column).toString()});
+    }
     return uses;
 }
 

@@ -27,6 +27,7 @@
 #include "saving/RecoveryKeeper.h"
 #include "saving/RecoveryOffer.h"
 #include "workbench/export/Exporting.h"
+#include "workbench/help/HelpMenu.h"
 #include "workbench/settings/SettingsDialog.h"
 
 #include <ORVTListview/CodeView.h>
@@ -104,6 +105,7 @@ void MainWindow::buildMenus()
     buildProgramMenu();
     buildPointsMenu();
     buildViewMenu();
+    menuBar()->addMenu(new HelpMenu(*menuBar()));
 }
 
 void MainWindow::buildFileMenu()

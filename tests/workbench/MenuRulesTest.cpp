@@ -55,7 +55,8 @@ private Q_SLOTS:
             "Program: Analyse, Compile, Export Statements…, Go To Point, Back, All Uses, Results\n"
             "Points: Read Values, Rename, Add Point…, Remove Point, Fit Columns, Edit Cells, "
             "Hardware Overrides\n"
-            "View: Editor, Language, Settings…"_s);
+            "View: Editor, Language, Settings…\n"
+            "Help: Keys, About"_s);
     }
 
     void accessKeysDoNotClash_data()
