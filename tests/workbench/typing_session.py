@@ -145,6 +145,7 @@ class Session:
         self._accepted_paste()
         self._analysis()
         self._compilation()
+        self._point_and_back()
         self._tables()
         self._menus()
         self._unsaved_changes()
@@ -248,7 +249,8 @@ class Session:
         bench = self._workbench
         bench.keys("F6")
         self._picture("09-analysed")
-        bench.keys("ctrl+Tab", "Tab", "Home", "Return")  # past the read button
+        # Past the read button, and a variable that is never set.
+        bench.keys("ctrl+Tab", "Tab", "Home", "Down", "Return")
         self._picture("10-finding-chosen")
         bench.type("supplyfanspeed")
         bench.keys("ctrl+End")
@@ -257,6 +259,16 @@ class Session:
     def _compilation(self):
         self._workbench.keys("ctrl+F6")
         self._picture("11-compiled")
+
+    def _point_and_back(self):
+        bench = self._workbench
+        bench.keys("ctrl+Home", "Down", "End", "F12")
+        self._picture("11-point")
+        bench.keys("alt+Left")
+        bench.type("2")
+        bench.save(HEATING.replace("SupplyMin", "SupplyMin2", 1) + FANS)
+        bench.keys("BackSpace", "ctrl+End")
+        bench.save(HEATING + FANS)
 
     def _tables(self):
         """Through the tree by keyboard, to a table, a new name there, and back."""
