@@ -4,6 +4,7 @@
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
@@ -55,7 +56,7 @@ RenameDialog::RenameDialog(const QString &former, const QString &name, const QLi
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    resize(560, 360);
+    resize(QSize(560, 360).boundedTo(screen()->availableSize() * 9 / 10));
     m_places->setFocus();
 }
 

@@ -79,8 +79,10 @@ void ComparisonView::appendLine(const ComparedLine &line)
     auto *item = new QTreeWidgetItem(this, {number, signOf(line.kind), line.before, line.after});
     item->setTextAlignment(Line, Qt::AlignRight);
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    for (const int column : {Before, After})
+    for (const int column : {Before, After}) {
         item->setFont(column, fixed);
+        item->setToolTip(column, item->text(column)); // it may be cut
+    }
     const QColor ground = palette().color(QPalette::Base);
     if (line.kind == ComparedLine::Removed || line.kind == ComparedLine::Changed)
         item->setBackground(Before, tinted(ground, Qt::red));

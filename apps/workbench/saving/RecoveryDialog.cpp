@@ -7,7 +7,7 @@
 #include "base/TextRules.h"
 
 #include <QtCore/QFileInfo>
-#include <QtCore/QLocale>
+#include <QtGui/QScreen>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -15,12 +15,14 @@
 
 namespace ORVTListview {
 
+using namespace Qt::StringLiterals;
+
 RecoveryDialog::RecoveryDialog(const Project &project, const RecoveredWork &work, QWidget *parent)
     : QDialog(parent)
 {
     setWindowTitle(tr("Recover Unsaved Work"));
     auto *layout = new QVBoxLayout(this);
-    const QString when = QLocale().toString(work.when.toLocalTime(), QLocale::ShortFormat);
+    const QString when = work.when.toLocalTime().toString(u"yyyy-MM-dd HH:mm"_s);
     auto *label = new QLabel(tr("The workbench ended without saving this work of %1. What differs "
                                 "from the files is shown below.")
                                  .arg(when));
@@ -46,7 +48,7 @@ RecoveryDialog::RecoveryDialog(const Project &project, const RecoveredWork &work
     connect(discard, &QPushButton::clicked, this, [this] { answerWith(Answer::Discard); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    resize(820, 480);
+    resize(QSize(820, 480).boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 void RecoveryDialog::answerWith(Answer answer)
