@@ -65,9 +65,16 @@ void drawText(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &
             QFontMetrics(cell.font).elidedText(cell.text, cell.textElideMode, room.width()));
         line = laidOut(layout, cell, room.width());
     }
+    const bool isTall = line.height() > cell.rect.height();
+    if (isTall) {
+        painter.save();
+        painter.setClipRect(cell.rect);
+    }
     const QSize size(room.width(), static_cast<int>(line.height()));
     layout.draw(&painter,
                 QStyle::alignedRect(cell.direction, cell.displayAlignment, size, room).topLeft());
+    if (isTall)
+        painter.restore();
 }
 
 } // namespace
@@ -81,17 +88,13 @@ void drawCell(QPainter &painter, const QStyleOptionViewItem &cell)
         style.drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
         return;
     }
-    QStyleOptionViewItem ground = cell;
-    ground.features.setFlag(QStyleOptionViewItem::HasDisplay, false);
-    ground.text.clear();
-    style.drawControl(QStyle::CE_ItemViewItem, &ground, &painter, cell.widget);
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, &painter, cell.widget);
     const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
-    painter.save();
-    painter.setClipRect(cell.rect);
+    const QPen former = painter.pen();
     painter.setPen(
         cell.palette.color(groupOf(cell), isSelected ? QPalette::HighlightedText : QPalette::Text));
     drawText(painter, cell, room);
-    painter.restore();
+    painter.setPen(former);
 }
 
 } // namespace ORVTListview
