@@ -37,7 +37,7 @@ QString folded(QStringView text)
 // before them the longer number is larger.
 QString unitsOf(QStringView text)
 {
-    const QString lower = folded(text);
+    QString lower = folded(text);
     if (std::none_of(lower.cbegin(), lower.cend(), isDigit))
         return lower;
     QString units;

@@ -4,8 +4,6 @@
 #include <QtCore/QStringView>
 #include <QtCore/QtGlobal>
 
-#include <compare>
-
 namespace ORVTListview {
 
 // How much of a text is a number that it begins with, decimals included; 0 for none. Up to four
@@ -40,7 +38,12 @@ public:
         Kind kind;
         quint64 value;
 
-        friend auto operator<=>(const Rank &, const Rank &) = default;
+        friend bool operator==(const Rank &, const Rank &) = default;
+        friend bool operator<(const Rank &first, const Rank &second)
+        {
+            return first.kind != second.kind ? first.kind < second.kind
+                                             : first.value < second.value;
+        }
     };
     Rank rank(qsizetype from) const;
 

@@ -41,6 +41,9 @@ public:
 
     // The row and the column are there.
     virtual const QString &text(const ListItem &item, int column) const = 0;
+
+    // Null where either is gone.
+    virtual const QString *textIn(const ListItem *item, int column) const = 0;
     virtual void setText(ListItem &item, int column, const QString &text) = 0;
 
     // What changes texts only: the views are told when it is done, of cells side by side at

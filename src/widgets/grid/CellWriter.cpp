@@ -5,6 +5,8 @@
 #include <QtCore/QPointer>
 #include <QtCore/QScopeGuard>
 
+#include <utility>
+
 namespace ORVTListview {
 
 CellWriter::CellWriter(CellTable &table, const GridRules &rules)
@@ -32,11 +34,13 @@ QString CellWriter::refusalOf(CellEntry &entry, const CellRule &rule)
 }
 
 // Asking a host for names, once for each column.
-CellRule CellWriter::ruleOf(int column, QHash<int, CellRule> &known) const
+const CellRule &CellWriter::ruleOf(int column, QHash<int, CellRule> &known) const
 {
-    if (!known.contains(column))
-        known.insert(column, m_rules.isEdited(column) ? m_rules.completeRule(column) : CellRule());
-    return known.value(column);
+    auto rule = known.find(column);
+    if (rule == known.end())
+        rule = known.insert(column,
+                            m_rules.isEdited(column) ? m_rules.completeRule(column) : CellRule());
+    return *rule;
 }
 
 std::optional<QList<CellRefusal>> CellWriter::enter(const QList<CellEntry> &entries)
@@ -50,7 +54,7 @@ std::optional<QList<CellRefusal>> CellWriter::enter(const QList<CellEntry> &entr
         return std::nullopt;
     if (!refusals.isEmpty())
         return refusals;
-    const QList<CellChange> changes = write(changesOf(wanted));
+    const QList<CellChange> changes = write(changesOf(std::move(wanted)));
     if (self && !changes.isEmpty() && m_keep)
         m_keep(changes);
     if (self)
@@ -70,7 +74,7 @@ QList<CellRefusal> CellWriter::ask(QList<CellEntry> &wanted)
     QList<CellRefusal> refusals;
     QHash<int, CellRule> known;
     for (CellEntry &entry : wanted) {
-        const CellRule rule = ruleOf(entry.column, known);
+        const CellRule &rule = ruleOf(entry.column, known);
         const QString reason = self && isThere(entry) ? refusalOf(entry, rule) : QString();
         if (!self)
             return {};
@@ -89,14 +93,14 @@ void CellWriter::tell(QList<CellChange> changes) const
         m_host.tell(changes);
 }
 
-QList<CellChange> CellWriter::changesOf(const QList<CellEntry> &entries) const
+QList<CellChange> CellWriter::changesOf(QList<CellEntry> entries) const
 {
     QList<CellChange> changes;
     changes.reserve(entries.size());
-    for (const CellEntry &entry : entries) {
-        if (isThere(entry))
-            changes.append({entry.item, static_cast<qint16>(entry.column),
-                            m_table.text(*entry.item, entry.column), entry.text});
+    for (CellEntry &entry : entries) {
+        if (const QString *former = m_table.textIn(entry.item, entry.column))
+            changes.append(
+                {entry.item, static_cast<qint16>(entry.column), *former, std::move(entry.text)});
     }
     return changes;
 }
@@ -105,11 +109,11 @@ QList<CellChange> CellWriter::changesOf(const QList<CellEntry> &entries) const
 QList<CellChange> CellWriter::write(const QList<CellChange> &changes)
 {
     QList<CellChange> written;
+    written.reserve(changes.size());
     m_table.setTexts([&] {
         for (const CellChange &change : changes) {
-            const bool isThere = m_table.isThere(change.item, change.column);
-            if (!isThere || change.text == change.former ||
-                m_table.text(*change.item, change.column) != change.former)
+            const QString *text = m_table.textIn(change.item, change.column);
+            if (!text || change.text == change.former || *text != change.former)
                 continue;
             m_table.setText(*change.item, change.column, change.text);
             written.append(change);

@@ -60,10 +60,10 @@ private:
     QList<CellRefusal> ask(QList<CellEntry> &wanted);
     void tell(QList<CellChange> changes) const;
     QString refusalOf(CellEntry &entry, const CellRule &rule);
-    CellRule ruleOf(int column, QHash<int, CellRule> &known) const;
+    const CellRule &ruleOf(int column, QHash<int, CellRule> &known) const;
     bool isThere(const CellEntry &entry) const;
     QList<CellChange> write(const QList<CellChange> &changes);
-    QList<CellChange> changesOf(const QList<CellEntry> &entries) const;
+    QList<CellChange> changesOf(QList<CellEntry> entries) const;
 
     CellTable &m_table;
     const GridRules &m_rules;

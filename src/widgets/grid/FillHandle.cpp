@@ -80,10 +80,11 @@ void FillHandle::refresh()
     setVisible(isThere);
     if (!isThere)
         return;
-    const QRect place = placeOf(selected());
+    const Block block = selected();
+    const QRect place = placeOf(block);
     const int corner = m_tools.view.isRightToLeft() ? place.left() : place.right();
     const QRect kept = m_tools.table.keptArea();
-    const bool isKept = m_tools.table.shift(selected().columns.last()) != 0;
+    const bool isKept = m_tools.table.shift(block.columns.last()) != 0;
     setVisible(isKept || kept.left() > corner || corner > kept.right());
     setGeometry(corner - handleSize / 2, place.bottom() - handleSize / 2, handleSize, handleSize);
     raise();

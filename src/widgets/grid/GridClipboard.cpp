@@ -98,12 +98,11 @@ bool GridClipboard::enterBlock(const CellBlock &copied, const QList<CellPlace> &
 QList<CellEntry> GridClipboard::entriesFor(const CellBlock &cells, const Place &place) const
 {
     QList<CellEntry> entries;
+    entries.reserve(cells.size() * widthOf(cells));
     for (qsizetype line = 0; line < cells.size(); ++line) {
-        for (qsizetype at = 0; at < cells.at(line).size(); ++at) {
-            const QModelIndex cell =
-                m_tools.view.model()->index(place.rows.at(line), place.columns.at(at));
-            entries.append({m_tools.table.itemAt(cell), cell.column(), cells.at(line).at(at)});
-        }
+        ListItem *item = m_tools.table.itemAt(m_tools.view.model()->index(place.rows.at(line), 0));
+        for (qsizetype at = 0; at < cells.at(line).size(); ++at)
+            entries.append({item, place.columns.at(at), cells.at(line).at(at)});
     }
     return entries;
 }

@@ -6,22 +6,24 @@
 #include <QtWidgets/QTableView>
 
 #include <algorithm>
-#include <set>
 
 namespace ORVTListview {
 
 QList<int> GridSelection::rows() const
 {
-    std::set<int> rows;
+    QList<int> rows;
     for (const QItemSelectionRange &range : m_view.selectionModel()->selection()) {
         for (int row = range.top(); row <= range.bottom(); ++row) {
             if (!m_view.isRowHidden(row))
-                rows.insert(rows.end(), row);
+                rows.append(row);
         }
     }
-    if (rows.empty() && m_view.currentIndex().isValid())
-        rows.insert(m_view.currentIndex().row());
-    return {rows.begin(), rows.end()};
+    if (rows.isEmpty() && m_view.currentIndex().isValid())
+        rows.append(m_view.currentIndex().row());
+    if (!std::is_sorted(rows.cbegin(), rows.cend()))
+        std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
 }
 
 QList<int> GridSelection::columns() const

@@ -64,6 +64,13 @@ const QString &ReportCells::text(const ListItem &item, int column) const
     return m_parts.model.cellText(*rowOf(&item), column);
 }
 
+const QString *ReportCells::textIn(const ListItem *item, int column) const
+{
+    const bool isColumn = column >= 0 && column < m_parts.model.columns();
+    const ReportRow *row = isColumn ? rowOf(item) : nullptr;
+    return row ? &m_parts.model.cellText(*row, column) : nullptr;
+}
+
 void ReportCells::setText(ListItem &item, int column, const QString &text)
 {
     if (column == 0)

@@ -18,6 +18,7 @@ public:
     bool isThere(const ListItem *item, int column) const override;
     void check(const ListItem *item, const QString &member) const override;
     const QString &text(const ListItem &item, int column) const override;
+    const QString *textIn(const ListItem *item, int column) const override;
     void setText(ListItem &item, int column, const QString &text) override;
     void setTexts(const std::function<void()> &change) override;
     int columns() const override;

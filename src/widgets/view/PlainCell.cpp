@@ -65,9 +65,50 @@ void drawText(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &
             QFontMetrics(cell.font).elidedText(cell.text, cell.textElideMode, room.width()));
         line = laidOut(layout, cell, room.width());
     }
+    const bool isTall = line.height() > cell.rect.height();
+    if (isTall) {
+        painter.save();
+        painter.setClipRect(cell.rect);
+    }
     const QSize size(room.width(), static_cast<int>(line.height()));
     layout.draw(&painter,
                 QStyle::alignedRect(cell.direction, cell.displayAlignment, size, room).topLeft());
+    if (isTall)
+        painter.restore();
+}
+
+bool hasPicture(const QStyleOptionViewItem &cell)
+{
+    return cell.features.testFlag(QStyleOptionViewItem::HasDecoration);
+}
+
+QStyleOptionViewItem withoutText(QStyleOptionViewItem cell)
+{
+    cell.features.setFlag(QStyleOptionViewItem::HasDisplay, false);
+    cell.text.clear();
+    return cell;
+}
+
+QRect textRoom(const QStyleOptionViewItem &cell, const QStyle &style)
+{
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
+    QRect room = cell.rect;
+    if (hasPicture(cell)) {
+        const QStyleOptionViewItem ground = withoutText(cell);
+        room = style.subElementRect(QStyle::SE_ItemViewItemText, &ground, cell.widget);
+    }
+    return room.adjusted(margin, 0, -margin, 0);
+}
+
+// All but the text.
+void drawGround(QPainter &painter, const QStyleOptionViewItem &cell, const QStyle &style)
+{
+    if (!hasPicture(cell)) {
+        style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, &painter, cell.widget);
+        return;
+    }
+    const QStyleOptionViewItem ground = withoutText(cell);
+    style.drawControl(QStyle::CE_ItemViewItem, &ground, &painter, cell.widget);
 }
 
 } // namespace
@@ -75,24 +116,19 @@ void drawText(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &
 void drawCell(QPainter &painter, const QStyleOptionViewItem &cell)
 {
     const QStyle &style = *cell.widget->style();
-    QStyleOptionViewItem ground = cell;
-    ground.features.setFlag(QStyleOptionViewItem::HasDisplay, false);
-    ground.text.clear();
-    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
-    const QRect room = style.subElementRect(QStyle::SE_ItemViewItemText, &ground, cell.widget)
-                           .adjusted(margin, 0, -margin, 0);
-    if (!isPlain(cell) || !isCommon(style) || room.width() <= 0) {
+    const bool isOurs = isPlain(cell) && isCommon(style);
+    const QRect room = isOurs ? textRoom(cell, style) : QRect();
+    if (room.width() <= 0) {
         style.drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
         return;
     }
-    style.drawControl(QStyle::CE_ItemViewItem, &ground, &painter, cell.widget);
+    drawGround(painter, cell, style);
     const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
-    painter.save();
-    painter.setClipRect(cell.rect);
+    const QPen former = painter.pen();
     painter.setPen(
         cell.palette.color(groupOf(cell), isSelected ? QPalette::HighlightedText : QPalette::Text));
     drawText(painter, cell, room);
-    painter.restore();
+    painter.setPen(former);
 }
 
 } // namespace ORVTListview

@@ -2,10 +2,11 @@
 #include "support/WidgetTest.h"
 #include "widgets/grid/GridFixture.h"
 
+#include <QtCore/QPointer>
+#include <QtGui/QUndoStack>
+
 #include <stdexcept>
 #include <utility>
-
-#include <QtGui/QUndoStack>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
