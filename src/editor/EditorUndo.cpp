@@ -107,7 +107,7 @@ bool EditorUndo::stepInRing(Way way)
 ColouredText EditorUndo::coloured(const QString &text) const
 {
     if (m_keepsText)
-        return m_thread.finished(text, Spelling::AsTyped);
+        return m_thread.finished(text, Spelling::Listed);
     return colouredText(m_thread.colouring(), text, false, m_thread.settings());
 }
 

@@ -24,7 +24,7 @@ public:
     // An editor that is not ready takes no snapshots.
     void setReady(bool isReady) { m_isReady = isReady; }
 
-    // Whether a text that is coloured as a whole stays as it is.
+    // Whether a text that is coloured as a whole keeps blanks, tabs and brackets.
     bool keepsText() const { return m_keepsText; }
     void setKeepsText(bool on) { m_keepsText = on; }
     ColouredText coloured(const QString &text) const;

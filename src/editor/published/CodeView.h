@@ -226,10 +226,10 @@ public:
     bool wordListOpensItself() const;
     void setWordListOpensItself(bool on);
 
-    // Whether undo, redo, a paste and a changed appearance show the text as it was. Off, as
-    // at first, they set brackets off by one blank, drop a tab between two words and write
-    // known words as listed, on every line; tidy spaces when asked. A host that saves
-    // programs as they came switches it on.
+    // Whether undo, redo, a paste and a changed appearance leave blanks, tabs and brackets
+    // as they are. Off, as at first, they set brackets off by one blank and drop a tab
+    // between two words, on every line; tidy spaces when asked. A host that saves programs
+    // as they came switches it on.
     bool keepsText() const;
     void setKeepsText(bool on);
 
