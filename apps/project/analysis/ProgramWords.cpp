@@ -12,7 +12,7 @@ namespace {
 struct FixedWord
 {
     QStringView text;
-    TokenKind kind;
+    TokenKind kind = TokenKind::Unknown;
 };
 constexpr std::array fixedWords = {
     FixedWord{u"IF", TokenKind::If},       FixedWord{u"ELSE", TokenKind::Else},
