@@ -4,6 +4,8 @@
 #include <QtGui/QFontMetricsF>
 #include <QtWidgets/QWidget>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace ORVTListview {
@@ -27,17 +29,10 @@ int reachIn(const QFontMetricsF &metrics, QChar letter)
 // Of a letter of these its place does not depend on what stands beside it.
 bool standsAlone(QChar letter)
 {
-    if (letter.isMark() || letter.isSurrogate())
-        return false;
-    switch (letter.script()) {
-    case QChar::Script_Common:
-    case QChar::Script_Latin:
-    case QChar::Script_Greek:
-    case QChar::Script_Cyrillic:
-        return true;
-    default:
-        return false;
-    }
+    static constexpr std::array scripts{QChar::Script_Common, QChar::Script_Latin,
+                                        QChar::Script_Greek, QChar::Script_Cyrillic};
+    return !letter.isMark() && !letter.isSurrogate() &&
+           std::find(scripts.begin(), scripts.end(), letter.script()) != scripts.end();
 }
 
 } // namespace

@@ -35,12 +35,12 @@ Q_SIGNALS:
     void released(Qt::KeyboardModifiers modifiers);
 
 protected:
+    bool viewportEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
-    bool viewportEvent(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
     void paintSection(QPainter *painter, const QRect &rect, int column) const override;
+    void paintEvent(QPaintEvent *event) override;
     void initStyleOptionForIndex(QStyleOptionHeader *option, int column) const override;
     void updateGeometries() override;
 

@@ -35,10 +35,10 @@ Q_SIGNALS:
     void pressedAndReleased();
 
 protected:
-    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     void noteClick();
