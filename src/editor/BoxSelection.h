@@ -6,15 +6,6 @@ namespace ORVTListview {
 
 class RichTextBox;
 
-// The two ends of a selection as positions of the box.
-struct BoxSelection
-{
-    qint32 anchor = 0;
-    qint32 caret = 0;
-};
-BoxSelection selectionOf(const RichTextBox &box);
-void select(RichTextBox &box, const BoxSelection &selection);
-
 // Lines from 0, the last one included.
 struct LineSpan
 {
@@ -23,6 +14,15 @@ struct LineSpan
 
     qint32 count() const { return last - first + 1; }
 };
+
+// The two ends of a selection as positions of the box.
+struct BoxSelection
+{
+    qint32 anchor = 0;
+    qint32 caret = 0;
+};
+BoxSelection selectionOf(const RichTextBox &box);
+void select(RichTextBox &box, const BoxSelection &selection);
 
 // The lines that the selection touches; one at whose very start it ends is not touched.
 LineSpan selectedLines(const RichTextBox &box);

@@ -92,11 +92,8 @@ void Problems::set(const QList<Problem> &problems)
 
 void Problems::holdLines(const MovedLines &lines)
 {
-    m_held.clear();
-    if (lines.from.isEmpty())
-        return;
-    m_held.resize(m_given.size());
-    for (qsizetype i = 0; i < m_places.size(); ++i)
+    m_held = lines.from.isEmpty() ? QList<Problem>() : m_given;
+    for (qsizetype i = 0; i < m_held.size(); ++i)
         m_held[m_places.nameAt(i)] = now(i);
 }
 
