@@ -127,6 +127,18 @@
         <source>%1 needs %2 values and has %3</source>
         <translation>%1 braucht %2 Werte und hat %3</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Hinweis</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -434,6 +446,10 @@
     <message>
         <source>The printer does not take the program.</source>
         <translation>Der Drucker nimmt das Programm nicht an.</translation>
+    </message>
+    <message>
+        <source>%1: the pages cannot be made</source>
+        <translation>%1: Die Seiten lassen sich nicht erzeugen</translation>
     </message>
 </context>
 <context>
@@ -807,6 +823,10 @@ Entfernen?</translation>
         <source>There is no place to go back to.</source>
         <translation>Es gibt keine Stelle, zu der es zurückginge.</translation>
     </message>
+    <message>
+        <source>There is no name here.</source>
+        <translation>Hier steht kein Name.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProjectSaving</name>
@@ -1035,6 +1055,10 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>Hard to read on this ground: %1. The editor shows them stronger while Readable Colours is on.</source>
         <translation>Auf diesem Hintergrund schlecht zu lesen: %1. Der Editor zeigt sie kräftiger, solange Lesbare Farben eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
     </message>
 </context>
 <context>

@@ -127,6 +127,18 @@
         <source>%1 needs %2 values and has %3</source>
         <translation>%1 necesita %2 valores y tiene %3</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Sugerencia</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -434,6 +446,10 @@
     <message>
         <source>The printer does not take the program.</source>
         <translation>La impresora no acepta el programa.</translation>
+    </message>
+    <message>
+        <source>%1: the pages cannot be made</source>
+        <translation>%1: no se pueden crear las páginas</translation>
     </message>
 </context>
 <context>
@@ -807,6 +823,10 @@ Remove it?</source>
         <source>There is no place to go back to.</source>
         <translation>No hay ningún lugar al que volver.</translation>
     </message>
+    <message>
+        <source>There is no name here.</source>
+        <translation>Aquí no hay ningún nombre.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProjectSaving</name>
@@ -1035,6 +1055,10 @@ Overwrite those changes?</source>
     <message>
         <source>Hard to read on this ground: %1. The editor shows them stronger while Readable Colours is on.</source>
         <translation>Difícil de leer sobre este fondo: %1. El editor los muestra más intensos mientras Colores legibles esté activado.</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Fuente</translation>
     </message>
 </context>
 <context>

@@ -127,6 +127,18 @@
         <source>%1 needs %2 values and has %3</source>
         <translation>%1 demande %2 valeurs et en a %3</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Remarque</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -434,6 +446,10 @@
     <message>
         <source>The printer does not take the program.</source>
         <translation>L&apos;imprimante n&apos;accepte pas le programme.</translation>
+    </message>
+    <message>
+        <source>%1: the pages cannot be made</source>
+        <translation>%1&#xa0;: les pages ne peuvent pas être produites</translation>
     </message>
 </context>
 <context>
@@ -807,6 +823,10 @@ Le supprimer&#xa0;?</translation>
         <source>There is no place to go back to.</source>
         <translation>Il n’y a aucun endroit où retourner.</translation>
     </message>
+    <message>
+        <source>There is no name here.</source>
+        <translation>Il n&apos;y a pas de nom ici.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProjectSaving</name>
@@ -1035,6 +1055,10 @@ Overwrite those changes?</source>
     <message>
         <source>Hard to read on this ground: %1. The editor shows them stronger while Readable Colours is on.</source>
         <translation>Difficile à lire sur ce fond&#xa0;: %1. L&apos;éditeur les renforce tant que Couleurs lisibles est activé.</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
     </message>
 </context>
 <context>

@@ -68,10 +68,10 @@ void takeSetByHand(const Project &project, LwType type, QSet<QString> &names)
 {
     const QList<ProjectColumn> &columns = projectColumns(type);
     for (qsizetype column = 0; column < columns.size(); ++column) {
-        if (columns[column].key != u"Mode"_s)
+        if (columns[column].member != u"mode"_s && columns[column].member != u"hwOverrideMode"_s)
             continue;
         for (const ProjectRow &row : project.rows(type)) {
-            if (row.cells.value(column).toString() == u"Manual"_s)
+            if (isSameWord(row.cells.value(column).toString().trimmed(), u"Manual"_s))
                 names.insert(foldedCase(row.name));
         }
     }

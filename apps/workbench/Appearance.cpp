@@ -2,11 +2,12 @@
 
 #include "widgets/look/Luminance.h"
 
-#include <QtCore/QSet>
+#include <QtCore/QHash>
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
 
 #include <algorithm>
+#include <array>
 
 namespace ORVTListview {
 namespace {
@@ -27,15 +28,11 @@ qint32 madeLight(qint32 colour, const QColor &ground)
     return light.blue() << 16 | light.green() << 8 | light.red();
 }
 
-// A shade that nobody tells from it, where the colour itself is taken.
-qint32 freeNear(qint32 colour, QSet<qint32> &taken)
-{
-    qint32 change = 0;
-    while (taken.contains(colour ^ change))
-        ++change;
-    taken.insert(colour ^ change);
-    return colour ^ change;
-}
+constexpr std::array classes = {
+    &RichTextSettings::VariableColor,     &RichTextSettings::ConstantColor,
+    &RichTextSettings::InputColor,        &RichTextSettings::OutputColor,
+    &RichTextSettings::ReservedWordColor, &RichTextSettings::CommentColor,
+    &RichTextSettings::nviFPAColor,       &RichTextSettings::nvoFPAColor};
 
 } // namespace
 
@@ -44,13 +41,24 @@ RichTextSettings legibleOn(const QPalette &palette, RichTextSettings settings)
     const QColor ground = palette.color(QPalette::Base);
     if (settings.BackColor >= 0 || ground.lightness() >= 128)
         return settings;
-    // One for each, so that what is copied and printed can be told back.
-    QSet<qint32> taken;
-    for (qint32 *colour : {&settings.VariableColor, &settings.ConstantColor, &settings.InputColor,
-                           &settings.OutputColor, &settings.ReservedWordColor,
-                           &settings.CommentColor, &settings.nviFPAColor, &settings.nvoFPAColor})
-        *colour = freeNear(madeLight(*colour, ground), taken);
+    for (const auto colour : classes)
+        settings.*colour = madeLight(settings.*colour, ground);
     return settings;
+}
+
+RichTextSettings toldApart(RichTextSettings shown, const RichTextSettings &paper)
+{
+    QHash<qint32, qint32> paperOf;
+    for (const auto colour : classes) {
+        if (shown.*colour < 0)
+            continue; // the system's
+        qint32 change = 0;
+        while (paperOf.value(shown.*colour ^ change, paper.*colour) != paper.*colour)
+            ++change;
+        shown.*colour ^= change;
+        paperOf.insert(shown.*colour, paper.*colour);
+    }
+    return shown;
 }
 
 } // namespace ORVTListview

@@ -10,4 +10,8 @@ namespace ORVTListview {
 // background is the system's has its dark colours made light on a dark system.
 RichTextSettings legibleOn(const QPalette &palette, RichTextSettings settings);
 
+// The same colours, those of classes that differ on paper told apart by a shade that nobody
+// sees, so that what is copied and printed can be told back.
+RichTextSettings toldApart(RichTextSettings shown, const RichTextSettings &paper);
+
 } // namespace ORVTListview

@@ -16,11 +16,51 @@ void CheckModel::setProblems(const QList<ProgramProblem> &problems, qsizetype co
 {
     if (m_content == Content::Problems && m_problems == problems && m_problemCount == count)
         return;
+    if (listsAll(m_problems, m_problemCount) && listsAll(problems, count)) {
+        replaceProblems(problems);
+        return;
+    }
     beginResetModel();
     setContent(Content::Problems);
     m_problems = problems;
     m_problemCount = count;
     endResetModel();
+}
+
+// Without a row that says something else.
+bool CheckModel::listsAll(const QList<ProgramProblem> &problems, qsizetype count) const
+{
+    return m_content == Content::Problems && !problems.isEmpty() && count == problems.size();
+}
+
+// Between the first and the last that are the same.
+void CheckModel::replaceProblems(const QList<ProgramProblem> &problems)
+{
+    const qsizetype most = std::min(m_problems.size(), problems.size());
+    qsizetype front = 0;
+    while (front < most && m_problems[front] == problems[front])
+        ++front;
+    qsizetype back = 0;
+    while (back < most - front &&
+           m_problems[m_problems.size() - 1 - back] == problems[problems.size() - 1 - back])
+        ++back;
+    const auto first = static_cast<int>(front);
+    const qsizetype added = problems.size() - front - back;
+    if (added > 0) {
+        beginInsertRows({}, first, static_cast<int>(front + added) - 1);
+        const QList<ProgramProblem> behind = m_problems.sliced(front);
+        m_problems = problems.first(front + added) + behind;
+        m_problemCount = m_problems.size();
+        endInsertRows();
+    }
+    if (m_problems.size() > problems.size()) {
+        const qsizetype gone = m_problems.size() - problems.size();
+        beginRemoveRows({}, static_cast<int>(front + added),
+                        static_cast<int>(front + added + gone) - 1);
+        m_problems = problems;
+        m_problemCount = problems.size();
+        endRemoveRows();
+    }
 }
 
 void CheckModel::setStatements(const QList<ListedStatement> &statements)
@@ -56,11 +96,9 @@ void CheckModel::retranslate()
                            {Qt::DisplayRole});
 }
 
-void CheckModel::moveLines(qint32 behind, qint32 by)
+void CheckModel::moveLines(const ReplacedLines &lines)
 {
-    const auto move = [&](qint32 &line) {
-        line = line > behind ? std::max(behind, line + by) : line;
-    };
+    const auto move = [&](qint32 &line) { line = line > 0 ? lines.moved(line) : line; };
     for (ProgramProblem &problem : m_problems)
         move(problem.line);
     for (ListedStatement &statement : m_statements)
@@ -112,6 +150,11 @@ QVariant CheckModel::data(const QModelIndex &index, int role) const
         return text(index);
     if (role == Qt::DecorationRole && m_content == Content::Problems)
         return picture(index.row());
+    if (role == Qt::ToolTipRole && m_content == Content::Problems)
+        return severity(index.row());
+    if (role == Qt::AccessibleTextRole && !severity(index.row()).isEmpty())
+        return QString(severity(index.row()) + QStringLiteral(", ") +
+                       text(index)); // what the picture says
     if (role == Qt::TextAlignmentRole && m_content == Content::Statements && index.column() == 0)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     return {};
@@ -161,6 +204,13 @@ QVariant CheckModel::picture(int row) const
         severity == ProblemSeverity::Error     ? QStyle::SP_MessageBoxCritical
         : severity == ProblemSeverity::Warning ? QStyle::SP_MessageBoxWarning
                                                : QStyle::SP_MessageBoxInformation);
+}
+
+// Empty for rows that are no problem.
+QString CheckModel::severity(int row) const
+{
+    return row < m_problems.size() ? severityName(severityOf(m_problems[row].found.fault))
+                                   : QString();
 }
 
 QStringList CheckModel::titles() const

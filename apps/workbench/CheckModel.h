@@ -19,7 +19,7 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    // Of so many problems in all. What is shown already stays as it is.
+    // Of so many problems in all. The rows of those that are shown already stay.
     void setProblems(const QList<ProgramProblem> &problems, qsizetype count);
     void setStatements(const QList<ListedStatement> &statements);
     void setUses(const QList<ShownUse> &uses);
@@ -29,8 +29,7 @@ public:
     Content content() const { return m_content; }
     const QList<ListedStatement> &statements() const { return m_statements; }
 
-    // Lines were added behind one, or fewer for a negative number; what stands below moves.
-    void moveLines(qint32 behind, qint32 by);
+    void moveLines(const ReplacedLines &lines);
 
     ResultPlace place(int row) const;
 
@@ -42,10 +41,13 @@ public:
 
 private:
     void setContent(Content content);
+    bool listsAll(const QList<ProgramProblem> &problems, qsizetype count) const;
+    void replaceProblems(const QList<ProgramProblem> &problems);
     QString text(const QModelIndex &index) const;
     QString problemRow(int row) const;
     QString useText(const ShownUse &use, int column) const;
     QVariant picture(int row) const;
+    QString severity(int row) const;
     QStringList titles() const;
 
     Content m_content = Content::Problems;

@@ -6,8 +6,6 @@
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTreeView>
 
-#include <algorithm>
-
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
@@ -49,23 +47,33 @@ void CheckResults::showUses(const QList<ShownUse> &uses)
     showModel();
 }
 
+// Hidden, too: the list may be shown again by itself.
 void CheckResults::followProblems(const ProgramAnalysis &analysis)
 {
-    if (isHidden() || m_model->content() != CheckModel::Content::Problems)
+    if (m_model->content() != CheckModel::Content::Problems)
         return;
-    const int row = m_view->currentIndex().row();
     const int scrolled = m_view->verticalScrollBar()->value();
     m_model->setProblems(analysis.problems(), analysis.problemCount());
-    if (row >= 0 && !m_view->currentIndex().isValid())
-        m_view->setCurrentIndex(m_model->index(std::min(row, m_model->rowCount() - 1), 0));
     m_view->verticalScrollBar()->setValue(scrolled);
-    fitColumns();
+    if (!isHidden())
+        fitColumns();
 }
 
-void CheckResults::moveLines(qint32 behind, qint32 by)
+void CheckResults::moveLines(const ReplacedLines &lines)
 {
-    if (!isHidden() && by != 0)
-        m_model->moveLines(behind, by);
+    m_model->moveLines(lines);
+}
+
+void CheckResults::clear()
+{
+    m_model->setProblems({}, 0);
+    hide();
+}
+
+void CheckResults::showEvent(QShowEvent *event)
+{
+    fitColumns();
+    QDockWidget::showEvent(event);
 }
 
 void CheckResults::retranslate()

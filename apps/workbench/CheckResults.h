@@ -25,15 +25,21 @@ public:
     void showStatements(const QList<ListedStatement> &statements);
     void showUses(const QList<ShownUse> &uses);
 
-    // Where problems are listed, those of now, with the chosen row and the place of the
+    // Where problems are listed, those of now, with the chosen one and the place of the
     // list as they were.
     void followProblems(const ProgramAnalysis &analysis);
 
-    // Of the program, behind a line from 1.
-    void moveLines(qint32 behind, qint32 by);
+    // Of the program.
+    void moveLines(const ReplacedLines &lines);
+
+    // Hides it; there are no results of the former program any more.
+    void clear();
 
     // After a change of language.
     void retranslate();
+
+protected:
+    void showEvent(QShowEvent *event) override;
 
 Q_SIGNALS:
     // A row was clicked, or Enter pressed on it.

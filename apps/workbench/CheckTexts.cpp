@@ -1,5 +1,7 @@
 #include "CheckTexts.h"
 
+#include "widgets/look/CellText.h"
+
 #include <QtCore/QCoreApplication>
 
 namespace ORVTListview {
@@ -9,13 +11,6 @@ struct CheckTexts
 {
     Q_DECLARE_TR_FUNCTIONS(CheckTexts)
 };
-
-// Enough to know a word by; there are longer ones than a screen.
-QString shortened(const QString &word)
-{
-    constexpr qsizetype longest = 60;
-    return word.size() > longest ? word.first(longest) + u'…' : word;
-}
 
 // Of a function that has been given another number of values.
 QString countText(const LineProblem &problem)
@@ -91,6 +86,25 @@ QString textWithoutWord(Fault fault)
 }
 
 } // namespace
+
+QString shortened(const QString &word)
+{
+    constexpr qsizetype longest = 60;
+    return beginningOf(word, longest);
+}
+
+QString severityName(ProblemSeverity severity)
+{
+    switch (severity) {
+    case ProblemSeverity::Error:
+        return CheckTexts::tr("Error");
+    case ProblemSeverity::Warning:
+        return CheckTexts::tr("Warning");
+    case ProblemSeverity::Hint:
+        return CheckTexts::tr("Hint");
+    }
+    return {};
+}
 
 ProblemSeverity severityOf(Fault fault)
 {

@@ -17,4 +17,9 @@ QString problemText(const ProgramProblem &problem);
 // "Assignment"
 QString statementName(StatementKind kind);
 
+QString severityName(ProblemSeverity severity);
+
+// Enough to know a word by; there are longer ones than a screen.
+QString shortened(const QString &word);
+
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QLocale>
 #include <QtWidgets/QMenu>
 
 namespace ORVTListview {
@@ -12,7 +13,10 @@ class LanguageMenu : public QMenu
     Q_OBJECT
 
 public:
-    LanguageMenu(Languages &languages, QWidget *parent);
+    LanguageMenu(const Languages &languages, QWidget *parent);
+
+Q_SIGNALS:
+    void chosen(const QLocale &language);
 };
 
 } // namespace ORVTListview

@@ -7,24 +7,6 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// The locale of the translations that are shown for a language.
-QLocale shownFor(const QLocale &wanted)
-{
-    const QList<QLocale> available = Languages::available();
-    for (const QString &name : wanted.uiLanguages()) {
-        const QLocale::Language language = QLocale(name).language();
-        for (const QLocale &locale : available) {
-            if (locale.language() == language)
-                return locale;
-        }
-    }
-    return QLocale(QLocale::English);
-}
-
-} // namespace
-
 Languages::Languages(const QLocale &locale, QObject *parent)
     : QObject(parent)
     , m_libraryTexts(locale)
@@ -42,6 +24,19 @@ QString Languages::nameOf(const QLocale &language)
         name = name.section(u' ', 0, 0); // "español de España"; there is one of each
     name[0] = name[0].toUpper();
     return name;
+}
+
+QLocale Languages::shownFor(const QLocale &wanted)
+{
+    const QList<QLocale> all = available();
+    for (const QString &name : wanted.uiLanguages()) {
+        const QLocale::Language language = QLocale(name).language();
+        for (const QLocale &locale : all) {
+            if (locale.language() == language)
+                return locale;
+        }
+    }
+    return QLocale(QLocale::English);
 }
 
 Languages::~Languages()

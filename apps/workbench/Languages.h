@@ -22,6 +22,9 @@ public:
     // English and those with a translation.
     static QList<QLocale> available() { return TranslatedTexts::availableLanguages(); }
 
+    // The one of them that is shown for a language.
+    static QLocale shownFor(const QLocale &wanted);
+
     // As its speakers write it.
     static QString nameOf(const QLocale &language);
 

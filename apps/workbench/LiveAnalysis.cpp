@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -52,12 +53,16 @@ void LiveAnalysis::takeWords()
     if (m_wordChanges == list.changes())
         return;
     m_wordChanges = list.changes();
-    m_words = ProgramWords(threadPart<Vocabulary>(), list.index());
+    const ProgramWords words(threadPart<Vocabulary>(), list.index());
+    if (words.isSame(m_words))
+        return; // the list has been filled anew with what it had
+    m_words = words;
     m_analysis.setWords(m_words);
     m_pause.start();
 }
 
-// The lines that the change touches were as many as there are more or fewer now.
+// The lines that the change touches were as many as there are more or fewer now. Without
+// another text, only letters of a line may be others, whose case may be that of its words.
 void LiveAnalysis::noteChange(int from, int /*removed*/, int added)
 {
     const QTextDocument &text = *m_box.document();
@@ -65,14 +70,17 @@ void LiveAnalysis::noteChange(int from, int /*removed*/, int added)
     const QTextBlock end = text.findBlock(from + added);
     const int last = end.isValid() ? end.blockNumber() : text.blockCount() - 1;
     const int lines = last - first + 1;
+    if (m_box.keepsText() && lines > 1)
+        return;
     const int more = text.blockCount() - m_analysis.lineCount();
     const int former = lines - more;
     if (first < 0 || former < 0)
         m_analysis.reset(text.blockCount());
     else
         m_analysis.replaceLines(first, former, lines);
-    if (more != 0)
-        Q_EMIT linesMoved(first + std::max(0, former), more);
+    const bool wasEmptied = std::exchange(m_isEmptied, text.isEmpty());
+    if (more != 0 && !wasEmptied && !m_isEmptied)
+        Q_EMIT linesReplaced({first + 1, std::max(0, former), lines});
     m_slice.stop();
     m_pause.start();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ResultPlace.h"
 #include "project/analysis/ProgramAnalysis.h"
 
 #include <QtCore/QObject>
@@ -38,8 +39,8 @@ Q_SIGNALS:
     // The problems may be others.
     void analysed();
 
-    // Lines were added behind one, counted from 1, or fewer for a negative number.
-    void linesMoved(qint32 behind, qint32 by);
+    // Not for a text that is emptied and set anew: what was there may be there again.
+    void linesReplaced(const ORVTListview::ReplacedLines &lines);
 
 private:
     void noteChange(int from, int removed, int added);
@@ -54,6 +55,7 @@ private:
     ProgramAnalysis m_analysis;
     QTimer m_pause; // since the last key
     QTimer m_slice;
+    bool m_isEmptied = false; // so that all lines are others
 };
 
 } // namespace ORVTListview

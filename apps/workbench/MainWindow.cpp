@@ -36,8 +36,10 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QFileInfo>
+#include <QtCore/QSet>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeySequence>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
@@ -115,11 +117,17 @@ void MainWindow::buildFileMenu()
     file->addAction(tr("&Save"), QKeySequence::Save, m_saving, &ProjectSaving::save);
     file->addAction(tr("Save Else&where…"), m_saving, &ProjectSaving::saveElsewhere);
     file->addSeparator();
-    file->addAction(tr("&Export…"), m_export, &Exporting::exportShown);
+    QAction *exports = file->addAction(tr("&Export…"), m_export, &Exporting::exportShown);
     QAction *print =
         file->addAction(tr("&Print…"), QKeySequence::Print, m_export, &Exporting::print);
-    connect(file, &QMenu::aboutToShow, print,
-            [this, print] { print->setEnabled(m_code->CurrentType() == dsCode); });
+    const auto follow = [this, exports, print] {
+        const bool isProject = m_document->project() && m_pages->currentWidget() == m_view;
+        exports->setEnabled(isProject);
+        print->setEnabled(isProject && m_code->CurrentType() == dsCode);
+    };
+    connect(m_view, &ProjectView::shown, print, follow);
+    connect(m_pages, &QStackedWidget::currentChanged, print, follow);
+    follow();
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 }
@@ -190,7 +198,13 @@ void MainWindow::buildViewMenu()
     auto *editor = new EditorViewMenu(*m_code->codeView(), view);
     view->addMenu(editor);
     connect(editor, &QMenu::triggered, this, &MainWindow::showPosition);
-    view->addMenu(new LanguageMenu(m_languages, view));
+    auto *languages = new LanguageMenu(m_languages, view);
+    view->addMenu(languages);
+    connect(languages, &LanguageMenu::chosen, this, [this](const QLocale &language) {
+        Settings settings = m_settings;
+        settings.language = language;
+        decide(settings);
+    });
     view->addSeparator();
     view->addAction(tr("&Settings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
                     &MainWindow::chooseSettings);
@@ -222,7 +236,7 @@ void MainWindow::connectAnalysis()
 {
     connect(m_analysis, &LiveAnalysis::analysed, this,
             [this] { m_results->followProblems(m_analysis->found()); });
-    connect(m_analysis, &LiveAnalysis::linesMoved, m_results, &CheckResults::moveLines);
+    connect(m_analysis, &LiveAnalysis::linesReplaced, m_results, &CheckResults::moveLines);
     connect(m_navigation, &ProgramNavigation::moved, this, &MainWindow::showPosition);
     connect(m_navigation, &ProgramNavigation::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
@@ -306,6 +320,7 @@ void MainWindow::openForUser(const QString &fileName)
         openProject(fileName);
         m_offer->makeAll();
     } catch (const Error &error) {
+        m_results->clear();
         m_pages->setCurrentWidget(m_fault);
         m_fault->show(fileName, error.Description());
     }
@@ -334,7 +349,7 @@ void MainWindow::showType(LwType type)
 
 void MainWindow::showProgram()
 {
-    m_results->hide();
+    m_results->clear();
     m_pages->setCurrentWidget(m_view);
     m_view->showType(dsCode);
     m_code->Clear();
@@ -352,9 +367,15 @@ void MainWindow::chooseSettings()
     const RichTextSettings project =
         m_document->project() ? m_document->project()->editor() : defaultColours();
     SettingsDialog dialog(m_settings, project, this);
-    if (dialog.exec() != QDialog::Accepted || dialog.settings() == m_settings)
+    if (dialog.exec() == QDialog::Accepted)
+        decide(dialog.settings());
+}
+
+void MainWindow::decide(const Settings &settings)
+{
+    if (settings == m_settings)
         return;
-    setSettings(dialog.settings());
+    setSettings(settings);
     Q_EMIT settingsChosen();
 }
 
@@ -365,13 +386,14 @@ void MainWindow::setSettings(const Settings &settings)
         m_languages.setLanguage(settings.language.value_or(QLocale::system()));
     useTheme(settings.theme);
     if (settings.look != former.look && m_document->project())
-        renewAppearance();
+        applyAppearance();
 }
 
 void MainWindow::applyAppearance()
 {
     const RichTextSettings paper = m_document->project()->editor();
-    const RichTextSettings shown = legibleOn(palette(), m_settings.look.over(paper));
+    const RichTextSettings shown =
+        toldApart(legibleOn(palette(), m_settings.look.over(paper)), paper);
     m_code->Init_RichTextBox(shown);
     m_export->setColours(PaperColours(paper, shown));
 }
@@ -391,11 +413,10 @@ void MainWindow::compile()
 std::optional<QList<ListedStatement>> MainWindow::compiled()
 {
     const ProgramAnalysis &found = m_analysis->finished();
-    const QList<ProgramProblem> &problems = found.problems();
-    const bool hasErrors = found.problemCount() > problems.size() ||
-                           std::any_of(problems.cbegin(), problems.cend(), [](const auto &each) {
-                               return severityOf(each.found.fault) == ProblemSeverity::Error;
-                           });
+    const QSet<Fault> &faults = found.faults();
+    const bool hasErrors = std::any_of(faults.cbegin(), faults.cend(), [](Fault fault) {
+        return severityOf(fault) == ProblemSeverity::Error;
+    });
     if (hasErrors) {
         m_results->showProblems(found);
         return {};
@@ -409,8 +430,7 @@ void MainWindow::exportListing()
 {
     if (const auto statements = compiled())
         exportStatements(*this, *statements,
-                         m_document->project() ? m_document->project()->programFile() + u".txt"_s
-                                               : QString());
+                         m_document->project() ? m_document->project()->programFile() : QString());
 }
 
 void MainWindow::showPosition()
@@ -427,21 +447,10 @@ void MainWindow::showProgramInfo()
                                         QString::number(m_code->RTextBox()->lineCount())));
 }
 
-// The appearance is applied anew, which takes the caret to the start.
-void MainWindow::renewAppearance()
-{
-    RichTextBox *box = m_code->RTextBox();
-    const qint32 start = box->SelStart();
-    const qint32 length = box->SelLength();
-    applyAppearance();
-    box->setSelStart(start);
-    box->setSelLength(length);
-    box->ensureCursorVisible();
-}
-
 // What the menus say is made anew; what the user has done stays.
 void MainWindow::retranslate()
 {
+    QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
     m_results->retranslate();
     m_analysis->retranslate();
     m_opening->retranslate();
@@ -458,7 +467,7 @@ void MainWindow::retranslate()
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::PaletteChange && m_document->project())
-        renewAppearance();
+        applyAppearance();
     QMainWindow::changeEvent(event);
 }
 

@@ -83,8 +83,8 @@ private:
     void openByHand(const QString &fileName);
     void showProgram();
     void chooseSettings();
+    void decide(const Settings &settings);
     void applyAppearance();
-    void renewAppearance();
     void connectAnalysis();
     void takePoints();
     void analyse();

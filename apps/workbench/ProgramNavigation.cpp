@@ -1,6 +1,7 @@
 #include "ProgramNavigation.h"
 
 #include "CheckResults.h"
+#include "CheckTexts.h"
 #include "LiveAnalysis.h"
 #include "ProjectView.h"
 #include "base/TextRules.h"
@@ -51,7 +52,7 @@ ProgramNavigation::ProgramNavigation(ProjectView &view, LiveAnalysis &analysis,
     , m_results(results)
 {
     connect(&results, &CheckResults::chosen, this, &ProgramNavigation::goTo);
-    connect(&analysis, &LiveAnalysis::linesMoved, this, &ProgramNavigation::moveLines);
+    connect(&analysis, &LiveAnalysis::linesReplaced, this, &ProgramNavigation::moveLines);
 }
 
 void ProgramNavigation::setProject(const Project *project)
@@ -74,6 +75,9 @@ void ProgramNavigation::goTo(const ResultPlace &place)
 {
     remember();
     show(place);
+    // A second click of a double click goes where the first one went.
+    if (!m_former.isEmpty() && m_former.constLast() == current())
+        m_former.removeLast();
 }
 
 void ProgramNavigation::goToPoint()
@@ -82,8 +86,10 @@ void ProgramNavigation::goToPoint()
     const qsizetype row = rowOf(at);
     if (row >= 0)
         goTo({.type = at.type, .row = row});
-    else if (!at.name.isEmpty())
-        Q_EMIT told(tr("%1 is no point of the project.").arg(at.name));
+    else if (at.name.isEmpty())
+        Q_EMIT told(tr("There is no name here."));
+    else
+        Q_EMIT told(tr("%1 is no point of the project.").arg(shortened(at.name)));
 }
 
 void ProgramNavigation::back()
@@ -97,14 +103,16 @@ void ProgramNavigation::back()
 void ProgramNavigation::findUses()
 {
     const NamedPoint at = point();
-    if (!at.name.isEmpty())
+    if (at.name.isEmpty())
+        Q_EMIT told(tr("There is no name here."));
+    else
         m_results.showUses(usesOf(at));
 }
 
-void ProgramNavigation::moveLines(qint32 behind, qint32 by)
+void ProgramNavigation::moveLines(const ReplacedLines &lines)
 {
     for (ResultPlace &place : m_former)
-        place.line = place.line > behind ? std::max(behind, place.line + by) : place.line;
+        place.line = place.line > 0 ? lines.moved(place.line) : place.line;
 }
 
 void ProgramNavigation::remember()

@@ -50,7 +50,7 @@ private:
     void goToPoint();
     void back();
     void findUses();
-    void moveLines(qint32 behind, qint32 by);
+    void moveLines(const ReplacedLines &lines);
 
     void show(const ResultPlace &place);
     void showLine(const ResultPlace &place);

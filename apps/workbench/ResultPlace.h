@@ -6,6 +6,8 @@
 
 #include <QtCore/QString>
 
+#include <algorithm>
+
 namespace ORVTListview {
 
 // Where a result stands: in the program, whose lines count from 1, or in a row of a
@@ -18,6 +20,22 @@ struct ResultPlace
     qsizetype row = -1;
 
     friend bool operator==(const ResultPlace &, const ResultPlace &) = default;
+};
+
+// Lines of the program, counted from 1, that others have replaced.
+struct ReplacedLines
+{
+    qint32 first = 1;
+    qint32 former = 0; // how many there were
+    qint32 now = 0;
+
+    // Where a line stands now; one that is gone counts as the last of the new ones.
+    qint32 moved(qint32 line) const
+    {
+        if (line >= first + former)
+            return line + now - former;
+        return line < first + now ? line : std::max(first, first + now - 1);
+    }
 };
 
 // A use of a point: its place, and what is said of it.

@@ -2,11 +2,12 @@
 
 #include "CheckTexts.h"
 #include "project/TextFile.h"
+#include "workbench/export/SaveAs.h"
 
 #include <ORVTListview/Error.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtWidgets/QFileDialog>
+#include <QtCore/QFileInfo>
 #include <QtWidgets/QMessageBox>
 
 namespace ORVTListview {
@@ -23,21 +24,24 @@ struct StatementExport
 } // namespace
 
 void exportStatements(QWidget &window, const QList<ListedStatement> &statements,
-                      const QString &proposedFile)
+                      const QString &programFile)
 {
     const QString title = StatementExport::tr("Export Statements");
-    const QString file = QFileDialog::getSaveFileName(
-        &window, title, proposedFile,
-        StatementExport::tr("Text (*.txt);;Values separated by commas (*.csv)"));
+    const QFileInfo program(programFile);
+    const QString file = askWhereToSave(
+        window, title,
+        StatementExport::tr("Text (*.txt);;Values separated by commas (*.csv)").split(u";;"_s),
+        program.path(), programFile.isEmpty() ? QString() : program.fileName() + u".txt"_s);
     if (file.isEmpty())
         return;
     const bool isCsv = file.endsWith(u".csv"_s, Qt::CaseInsensitive);
     const QStringList titles{StatementExport::tr("Line"), StatementExport::tr("Kind"),
                              StatementExport::tr("Statement")};
-    const QString listing =
-        isCsv ? listingCsv(statements, titles, statementName) : listingText(statements);
+    const QByteArray listing =
+        isCsv ? byteOrderMark.toByteArray() + listingCsv(statements, titles, statementName).toUtf8()
+              : listingText(statements).toUtf8();
     try {
-        writeFile(file, listing.toUtf8());
+        writeFile(file, listing);
     } catch (const Error &error) {
         QMessageBox::warning(&window, title, error.Description());
     }

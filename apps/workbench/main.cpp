@@ -17,6 +17,8 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 
+#include <utility>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -48,10 +50,8 @@ QString storeFile()
 }
 
 // What the options say goes before what the user has decided once.
-Settings settingsFor(const Options &options, const QSettings &store)
+Settings settingsFor(const Options &options, Settings settings)
 {
-    Settings settings;
-    settings.read(store);
     if (options.isDark)
         settings.theme = Theme::Dark;
     if (!options.language.isEmpty())
@@ -59,12 +59,18 @@ Settings settingsFor(const Options &options, const QSettings &store)
     return settings;
 }
 
-// What the user leaves is there again the next time.
-void keep(MainWindow &window, QSettings &store)
+// What the user leaves is there again the next time; what the options say, for this time,
+// is not.
+void keep(MainWindow &window, QSettings &store, const Settings &stored)
 {
     CodeView &view = *window.findChild<ORVListView *>()->codeView();
     readWindow(store, window, view);
-    QObject::connect(&window, &MainWindow::settingsChosen, [&] { window.settings().write(store); });
+    QObject::connect(&window, &MainWindow::settingsChosen,
+                     [&, kept = stored, shown = window.settings()]() mutable {
+                         kept.takeChanges(std::exchange(shown, window.settings()),
+                                          window.settings());
+                         kept.write(store);
+                     });
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window,
                      [&] { writeWindow(store, window, view); });
 }
@@ -101,7 +107,9 @@ int main(int argc, char **argv)
     // One picture is like the other, whoever's settings these are.
     const bool isPicture = !options->screenshot.isEmpty();
     QSettings store(isPicture ? QString() : storeFile(), QSettings::IniFormat);
-    const Settings settings = settingsFor(*options, store);
+    Settings stored;
+    stored.read(store);
+    const Settings settings = settingsFor(*options, stored);
     useTheme(settings.theme);
     if (settings.language)
         languages.setLanguage(*settings.language);
@@ -112,7 +120,7 @@ int main(int argc, char **argv)
     if (isPicture)
         QApplication::setCursorFlashTime(0);
     else
-        keep(window, store);
+        keep(window, store, stored);
     window.show();
     if (!open(window, *options))
         return 1;

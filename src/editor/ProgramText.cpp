@@ -51,16 +51,34 @@ void ProgramText::Init_RichTextBox(const RichTextSettings &Setting)
     m_words.RefillListviewWithWordList();
 
     m_undo.setReady(false);
+    const auto ready = qScopeGuard([this] { m_undo.setReady(true); });
+    if (m_undo.keepsText())
+        colourInPlace();
+    else
+        setAnew();
+}
+
+// What belongs to the text, its caret and its view stays.
+void ProgramText::colourInPlace()
+{
+    try {
+        RichTextBox sample;
+        sample.setFont(m_box.font());
+        takeHead(sample);
+        m_box.recolour(0, m_undo.coloured(m_box.Text()));
+    } catch (const std::exception &) {
+        return; // in its former colours
+    }
+}
+
+void ProgramText::setAnew()
+{
     const RichTextBox::Changing changing(m_box);
     const QString kept = m_box.Text();
     m_box.setUpdatesEnabled(false);
-    const auto finish = qScopeGuard([this] {
-        m_box.setUpdatesEnabled(true);
-        m_undo.setReady(true);
-    });
+    const auto finish = qScopeGuard([this] { m_box.setUpdatesEnabled(true); });
     try {
-        state.RtfHeader =
-            BuildRtfHeader(sampleRtf(), state.EditorSettings, m_thread.messages.service()).Header;
+        takeHead(m_box);
         m_box.setColoured(m_undo.coloured(kept));
     } catch (const std::exception &) {
         m_box.setText(kept); // uncoloured is better than lost
@@ -78,15 +96,17 @@ void ProgramText::applyAppearance(const RichTextSettings &setting)
     m_box.setFontUnderline(hasMark(setting.FontStyle, u"u1"));
 }
 
-// What the box writes for two lines in its font; leaves the box empty.
-QString ProgramText::sampleRtf()
+// From what a box writes for two lines in its font; leaves the box empty.
+void ProgramText::takeHead(RichTextBox &box)
 {
-    m_box.setText(QString());
-    m_box.setSelText(u"#GetInfo#\r\n#Another word"_s);
-    m_box.selectAll();
-    QString sample = m_box.SelRTF();
-    m_box.setText(QString());
-    return sample;
+    box.setText(QString());
+    box.setSelText(u"#GetInfo#\r\n#Another word"_s);
+    box.selectAll();
+    const QString sample = box.SelRTF();
+    box.setText(QString());
+    EditorState &state = m_thread.state;
+    state.RtfHeader =
+        BuildRtfHeader(sample, state.EditorSettings, m_thread.messages.service()).Header;
 }
 
 QString ProgramText::CodeText() const

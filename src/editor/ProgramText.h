@@ -17,7 +17,8 @@ public:
     ProgramText(RichTextBox &box, const EditorThread &thread, EditorUndo &undo, WordChoice &words);
 
     // Applies the appearance to the box and to all later colouring of the thread,
-    // and colours the text again.
+    // and colours the text again. A text that is kept as it is stays in the box, its
+    // caret, marks and view with it; another one is set anew, the caret at its start.
     void Init_RichTextBox(const RichTextSettings &Setting);
 
     QString CodeText() const;
@@ -37,7 +38,9 @@ public:
 
 private:
     void applyAppearance(const RichTextSettings &setting);
-    QString sampleRtf();
+    void colourInPlace();
+    void setAnew();
+    void takeHead(RichTextBox &box);
 
     RichTextBox &m_box;
     const EditorThread &m_thread;

@@ -25,7 +25,8 @@ protected:
         folder.write(u"p.prog"_s, "");
         return folder.write(u"p.json"_s, R"({"format": 1, "name": "p", "program": "p.prog",
             "variables": [{"name": "Level", "mode": "Manual"}, {"name": "Rate", "mode": "Auto"}],
-            "outputs": [{"name": "Fan1", "mode": "Manual"}],
+            "outputs": [{"name": "Fan1", "mode": "manual"},
+                        {"name": "Fan2", "mode": "Auto", "hwOverrideMode": "Manual"}],
             "inputs": [{"name": "Temp1", "mode": "Manual"}],
             "controllers": [{"input": "Temp1", "setpoint": 20, "action": "Level"},
                             {"input": "", "setpoint": "LEVEL"}],
@@ -61,5 +62,5 @@ TEST_F(PointReferences, CountAsReadingAndWhatIsSetByHandAsWritten)
 {
     const OtherUses uses = otherUsesOf(project);
     EXPECT_EQ(uses.read, (QSet<QString>{u"temp1"_s, u"level"_s, u"rate"_s}));
-    EXPECT_EQ(uses.written, (QSet<QString>{u"level"_s, u"fan1"_s}));
+    EXPECT_EQ(uses.written, (QSet<QString>{u"level"_s, u"fan1"_s, u"fan2"_s}));
 }

@@ -6,7 +6,9 @@
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QTextBlock>
 #include <QtTest/QSignalSpy>
+#include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -57,6 +59,54 @@ private Q_SLOTS:
         open(host);
         host.list->Init_RichTextBox(host.settings);
         QCOMPARE(host.box().Text(), m_program);
+    }
+
+    void anotherAppearanceLeavesAllThatBelongsToTheText()
+    {
+        EditorHost host;
+        CodeView &view = *host.list->codeView();
+        view.setKeepsText(true);
+        view.setFoldingEnabled(true);
+        QStringList lines{u"IF a"_s, u"b"_s, u"ENDIF"_s};
+        for (int i = 0; i < 200; ++i)
+            lines.append(u"Temp1 = 1"_s);
+        host.list->openProgram(lines.join(u"\r\n"_s));
+        view.goToLine(150);
+        view.toggleBookmark();
+        view.foldAll();
+        QTextCursor backwards = host.box().textCursor();
+        backwards.movePosition(QTextCursor::EndOfLine);
+        backwards.movePosition(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
+        host.box().setTextCursor(backwards);
+        host.box().verticalScrollBar()->setValue(20);
+        const int top = host.box().verticalScrollBar()->value();
+        QVERIFY(top > 0);
+        const QSignalSpy changes(&host.box(), &RichTextBox::Change);
+        const QString former = host.list->GetColorText(u"Temp1"_s);
+        host.settings.InputColor = 0x123456;
+        host.settings.FontSize = 13;
+        host.list->Init_RichTextBox(host.settings);
+        QCOMPARE(changes.size(), 0);
+        QVERIFY(!host.list->IsUndoAvailable());
+        QCOMPARE(host.box().verticalScrollBar()->value(), top);
+        QCOMPARE(host.box().textCursor().anchor(), backwards.anchor());
+        QCOMPARE(host.box().textCursor().position(), backwards.position());
+        QVERIFY(!host.box().document()->findBlockByNumber(1).isVisible());
+        QCOMPARE(host.colourAt(host.box().lineStart(3)), 0x123456);
+        QVERIFY(host.list->GetColorText(u"Temp1"_s) != former);
+        view.goToLine(1);
+        view.nextBookmark();
+        QCOMPARE(host.box().textCursor().blockNumber(), 149);
+    }
+
+    // As a table that is written of another box.
+    void theHeadIsThatOfATextSetAnew()
+    {
+        EditorHost host;
+        const QString former = host.list->GetColorText(u"Temp1"_s);
+        open(host);
+        host.list->Init_RichTextBox(host.settings);
+        QCOMPARE(host.list->GetColorText(u"Temp1"_s), former);
     }
 
     void aPasteKeepsIt()

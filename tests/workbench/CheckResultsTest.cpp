@@ -189,7 +189,7 @@ private Q_SLOTS:
                               << "1  IF Temp1 > 3\r\n2      Fan1 = LIMIT ( 1 , 3 , 4 )\r\n"
                                  "3  ENDIF\r\n"_ba;
         QTest::newRow("values") << u"listing.csv"_s
-                                << "Line,Kind,Statement\r\n1,Condition,IF Temp1 > 3\r\n"
+                                << "\xEF\xBB\xBFLine,Kind,Statement\r\n1,Condition,IF Temp1 > 3\r\n"
                                    "2,Assignment,\"Fan1 = LIMIT ( 1 , 3 , 4 )\"\r\n"
                                    "3,End of a condition,ENDIF\r\n"_ba;
     }
@@ -206,6 +206,56 @@ private Q_SLOTS:
         workbench.choose(u"Export Statements…"_s);
         QVERIFY(chosen.wasThere());
         QCOMPARE(ORVTListview::readFile(path), content);
+    }
+
+    void theChosenKindIsWritten()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        NextDialog<QFileDialog> chosen([&](QFileDialog &dialog) {
+            const QString kind = dialog.nameFilters().at(1);
+            dialog.selectNameFilter(kind);
+            Q_EMIT dialog.filterSelected(kind);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        workbench.choose(u"Export Statements…"_s);
+        QVERIFY(chosen.wasThere());
+        QVERIFY(ORVTListview::readFile(workbench.folder.filePath(u"one.prog.csv"_s))
+                    .contains("Line,Kind,Statement"));
+    }
+
+    void manyHintsAreNoErrors()
+    {
+        WorkbenchWindow workbench(QByteArray("IF Temp1 = 3\nENDIF\n").repeated(1001));
+        workbench.key(Qt::Key_F6, Qt::ControlModifier);
+        QVERIFY(workbench.resultTexts().startsWith(u"1 IF Temp1 = 3 Condition|2 ENDIF"_s));
+        workbench.key(Qt::Key_End, Qt::ControlModifier);
+        workbench.type(u"ENDIF"_s); // the last of all is an error
+        workbench.key(Qt::Key_F6, Qt::ControlModifier);
+        QVERIFY(workbench.resultTexts().startsWith(u"Line 1: = sets a value"_s));
+    }
+
+    void aDoubleClickIsOneWay()
+    {
+        WorkbenchWindow workbench("Fan1 = ON\n\nFan1 = tmep");
+        workbench.key(Qt::Key_F6);
+        QTreeView &view = workbench.results();
+        const QPoint place = view.visualRect(view.model()->index(0, 0)).center();
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
+        QCOMPARE(workbench.box().SelText(), u"tmep"_s);
+        workbench.choose(u"Back"_s);
+        QCOMPARE(workbench.box().SelStart(), 0);
+    }
+
+    void thePictureIsSaid()
+    {
+        WorkbenchWindow workbench("IF Temp1 = 3\nENDIF\nENDIF");
+        workbench.key(Qt::Key_F6);
+        const QAbstractItemModel &model = *workbench.results().model();
+        QCOMPARE(model.index(0, 0).data(Qt::AccessibleTextRole).toString(),
+                 u"Warning, Line 1: = sets a value, == compares"_s);
+        QCOMPARE(model.index(1, 0).data(Qt::AccessibleTextRole).toString(),
+                 u"Error, Line 3: ENDIF without IF"_s);
     }
 
     void nothingIsExportedOfAProgramWithErrors()

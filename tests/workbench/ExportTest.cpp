@@ -10,8 +10,10 @@
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
 
+#include <QtCore/QBuffer>
 #include <QtCore/QMimeData>
 #include <QtCore/QRegularExpression>
+#include <QtGui/QPageRanges>
 #include <QtGui/QPdfWriter>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QFileDialog>
@@ -85,6 +87,31 @@ private Q_SLOTS:
         QTextDocument shown;
         shown.setHtml(page);
         QCOMPARE(shown.toPlainText(), workbench.box().Text().replace(u"\r\n"_s, u"\n"_s));
+    }
+
+    void aNameMayHaveDots()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        NextDialog<QFileDialog> chosen([&](QFileDialog &dialog) {
+            dialog.selectFile(workbench.folder.filePath(u"Hall 1.2"_s));
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        workbench.choose(u"Export…"_s);
+        QVERIFY(chosen.wasThere());
+        QVERIFY(readFile(workbench.folder.filePath(u"Hall 1.2.rtf"_s)).startsWith("{\\rtf"));
+    }
+
+    void onlyAProgramThatIsShownIsPrinted()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        QVERIFY(workbench.command(u"Print…"_s)->isEnabled());
+        workbench.window.showType(dsInput);
+        QVERIFY(!workbench.command(u"Print…"_s)->isEnabled());
+        workbench.window.showType(dsCode);
+        QVERIFY(workbench.command(u"Print…"_s)->isEnabled());
+        workbench.window.openForUser(workbench.folder.filePath(u"none.json"_s));
+        QVERIFY(!workbench.command(u"Print…"_s)->isEnabled());
+        QVERIFY(!workbench.command(u"Export…"_s)->isEnabled());
     }
 
     void blankLinesAtTheFrontAreKept()
@@ -189,6 +216,23 @@ private Q_SLOTS:
         QVERIFY(pdf.startsWith("%PDF-"));
         const qsizetype pages = pdf.count("/Type /Page\n");
         QVERIFY2(pages >= 4 && pages <= 8, qPrintable(QString::number(pages)));
+    }
+
+    void onlyThePagesThatAreWantedArePrinted()
+    {
+        QByteArray program;
+        for (int line = 0; line < 300; ++line)
+            program += "Fan1 = " + QByteArray::number(line) + '\n';
+        WorkbenchWindow workbench(program);
+        const PaperText paper(workbench.box(), {}, PaperText::All);
+        QBuffer pdf;
+        pdf.open(QIODevice::WriteOnly);
+        {
+            QPdfWriter writer(&pdf);
+            writer.setPageRanges(QPageRanges::fromString(u"2-3"_s));
+            QVERIFY(printProgram(paper.document(), u"one"_s, writer));
+        }
+        QCOMPARE(pdf.data().count("/Type /Page\n"), 2);
     }
 
 private:

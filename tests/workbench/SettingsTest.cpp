@@ -2,6 +2,7 @@
 
 #include "support/TestProgram.h"
 #include "widgets/look/Luminance.h"
+#include "workbench/Appearance.h"
 #include "workbench/settings/KeptWindow.h"
 #include "workbench/settings/SettingsDialog.h"
 #include "workbench/settings/Theme.h"
@@ -10,6 +11,7 @@
 
 #include <QtCore/QSet>
 #include <QtCore/QSettings>
+#include <QtTest/QSignalSpy>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
@@ -113,6 +115,87 @@ private Q_SLOTS:
         QVERIFY(read == settings);
     }
 
+    // Of the command line, say.
+    void whatWasNotChangedIsNotKept()
+    {
+        Settings stored;
+        stored.theme = Theme::Light;
+        Settings shown = stored;
+        shown.theme = Theme::Dark;
+        shown.language = QLocale(u"de"_s);
+        Settings later = shown;
+        later.look.fontSize = 12;
+        stored.takeChanges(shown, later);
+        QVERIFY(stored.theme == Theme::Light);
+        QVERIFY(!stored.language);
+        QCOMPARE(stored.look.fontSize, qint16(12));
+    }
+
+    void theMenuAndTheDialogKnowOneLanguage()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        QSignalSpy chosen(&workbench.window, &MainWindow::settingsChosen);
+        workbench.window.findChild<LanguageMenu *>()->actions().at(1)->trigger();
+        QCOMPARE(chosen.size(), 1);
+        QCOMPARE(workbench.window.settings().language->language(), QLocale::German);
+        Settings settings;
+        settings.language = QLocale(u"de_AT"_s);
+        const SettingsDialog dialog(settings, {}, nullptr);
+        QCOMPARE(boxWith(dialog, u"Deutsch"_s).currentText(), u"Deutsch"_s);
+    }
+
+    void ownColoursBeginWithThoseThatAreSeen()
+    {
+        RichTextSettings project;
+        project.BackColor = static_cast<qint32>(0x80000005U);
+        useTheme(Theme::Dark);
+        SettingsDialog dialog({}, project, nullptr);
+        choose(dialog, u"Own"_s);
+        const RichTextSettings own = dialog.settings().look.own;
+        QCOMPARE(colourOf(own.BackColor), dialog.palette().color(QPalette::Base));
+        QVERIFY(contrast(colourOf(own.InputColor), colourOf(own.BackColor)) > 4);
+    }
+
+    void theSizeLeavesTheFontAlone()
+    {
+        Settings settings;
+        settings.look.fontName = u"None such"_s;
+        const SettingsDialog dialog(settings, {}, nullptr);
+        dialog.findChild<QSpinBox *>()->setValue(17);
+        QCOMPARE(dialog.settings().look.fontName, u"None such"_s);
+        QCOMPARE(dialog.settings().look.fontSize, qint16(17));
+    }
+
+    void equalOwnColoursComeBackFromPaper()
+    {
+        RichTextSettings paper;
+        paper.InputColor = 0x0000C0;
+        paper.OutputColor = 0x800080;
+        RichTextSettings own = paper;
+        own.InputColor = own.OutputColor;
+        const RichTextSettings shown = toldApart(own, paper);
+        QVERIFY(shown.InputColor != shown.OutputColor);
+        QVERIFY(toldApart(paper, paper) == paper);
+    }
+
+    void whatIsDamagedInTheEditorIsLeftOut()
+    {
+        QTemporaryDir folder;
+        QSettings store(folder.filePath(u"a.ini"_s), QSettings::IniFormat);
+        store.setValue(u"editor/keepsText"_s, false);
+        store.setValue(u"editor/lineNumbersVisible"_s, u"yes"_s);
+        store.setValue(u"editor/pairsShown"_s, false);
+        store.setValue(u"editor/zoom"_s, -5);
+        WorkbenchWindow workbench;
+        CodeView &view = *workbench.code().codeView();
+        view.setLineNumbersVisible(false);
+        readWindow(store, workbench.window, view);
+        QVERIFY(view.keepsText());
+        QVERIFY(!view.lineNumbersVisible());
+        QVERIFY(!view.pairsShown());
+        QCOMPARE(view.zoom(), 100);
+    }
+
     void whatIsDamagedIsAsItWas()
     {
         QTemporaryDir folder;
@@ -143,6 +226,7 @@ private Q_SLOTS:
         const QString rtf = workbench.box().TextRTF();
         QVERIFY2(rtf.contains(u"\\red255\\green128\\blue128"_s), qPrintable(rtf));
         QCOMPARE(workbench.box().textCursor().blockNumber(), 1);
+        QVERIFY(!workbench.code().IsUndoAvailable());
     }
 
     void cancelLeavesAllAsItIs()

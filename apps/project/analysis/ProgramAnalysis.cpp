@@ -211,6 +211,8 @@ void ProgramAnalysis::finishWalk()
                 {open.line + 1, problemAt(Fault::IfWithoutEndif, open.line, open.place)});
     }
     m_walk.count += static_cast<qsizetype>(m_walk.open.size());
+    if (!m_walk.open.empty())
+        m_walk.faults.insert(Fault::IfWithoutEndif);
     std::stable_sort(m_walk.problems.begin(), m_walk.problems.end(),
                      [](const ProgramProblem &a, const ProgramProblem &b) {
                          return a.line != b.line ? a.line < b.line
@@ -218,12 +220,14 @@ void ProgramAnalysis::finishWalk()
                      });
     m_problems = m_walk.problems.first(std::min(m_walk.problems.size(), mostProblems));
     m_problemCount = m_walk.count;
+    m_faults = m_walk.faults;
     m_walk = {};
     m_isDone = true;
 }
 
 void ProgramAnalysis::add(qint32 line, const LineProblem &problem)
 {
+    m_walk.faults.insert(problem.fault);
     if (++m_walk.count <= mostProblems)
         m_walk.problems.append({line + 1, problem});
 }

@@ -70,6 +70,9 @@ public:
     const QList<ProgramProblem> &problems() const { return m_problems; }
     qsizetype problemCount() const { return m_problemCount; }
 
+    // The kinds of all of them, those that are not listed included.
+    const QSet<Fault> &faults() const { return m_faults; }
+
     // Where a name is used, known or not, in the lines that have been read.
     QList<UsePlace> usesOf(QStringView name);
 
@@ -97,6 +100,7 @@ private:
         std::vector<OpenIf> open;
         std::vector<Fault> suspects; // by name; UnknownName for none
         QList<ProgramProblem> problems;
+        QSet<Fault> faults;
         qsizetype count = 0;
     };
 
@@ -124,6 +128,7 @@ private:
     qint32 m_nextToRead = 0; // none before it is unread
     Walk m_walk;
     QList<ProgramProblem> m_problems;
+    QSet<Fault> m_faults;
     qsizetype m_problemCount = 0;
     quint64 m_linesRead = 0;
     bool m_isDone = true;

@@ -1,5 +1,7 @@
 #include "project/analysis/ProgramListing.h"
 
+#include "grid/rules/CellTexts.h"
+
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -20,22 +22,6 @@ QString textOf(const LineStatement &statement, const ParsedLine &parsed, QString
         pieces.append(token.word >= 0 ? words.spelling(token.word) : typed.toString());
     }
     return pieces.join(u' ');
-}
-
-// What stands between commas; in quotes where it would divide otherwise.
-QString csvValue(QString text)
-{
-    const bool isPlain =
-        std::none_of(text.cbegin(), text.cend(), [](QChar c) { return c == u'"' || c == u','; });
-    return isPlain ? text : u'"' + text.replace(u'"', u"\"\""_s) + u'"';
-}
-
-QString csvLine(const QStringList &values)
-{
-    QStringList quoted;
-    for (const QString &value : values)
-        quoted.append(csvValue(value));
-    return quoted.join(u',') + u"\r\n"_s;
 }
 
 } // namespace
@@ -78,10 +64,10 @@ QString listingText(const QList<ListedStatement> &statements)
 QString listingCsv(const QList<ListedStatement> &statements, const QStringList &titles,
                    const std::function<QString(StatementKind)> &nameOf)
 {
-    QString listing = csvLine(titles);
+    CellBlock cells{titles};
     for (const ListedStatement &each : statements)
-        listing += csvLine({QString::number(each.line), nameOf(each.kind), each.text});
-    return listing;
+        cells.append({QString::number(each.line), nameOf(each.kind), each.text});
+    return commaText(cells);
 }
 
 } // namespace ORVTListview

@@ -65,4 +65,15 @@ ProgramWords::ProgramWords(const Vocabulary &vocabulary, const WordIndex &index)
     }
 }
 
+bool ProgramWords::isSame(const ProgramWords &other) const
+{
+    if (m_words != other.m_words)
+        return false;
+    for (qsizetype i = 0; i < m_index.count(); ++i) {
+        if (spelling(i) != other.spelling(i))
+            return false;
+    }
+    return true;
+}
+
 } // namespace ORVTListview

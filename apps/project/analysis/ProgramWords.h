@@ -42,6 +42,8 @@ public:
     {
         TokenKind kind = TokenKind::Unknown;
         WordClass wordClass = WordClass::Other;
+
+        friend bool operator==(const Word &, const Word &) = default;
     };
 
     ProgramWords() = default;
@@ -51,6 +53,9 @@ public:
     qsizetype find(QStringView word) const { return m_index.findExact(word); }
     const Word &at(qsizetype place) const { return m_words[static_cast<std::size_t>(place)]; }
     const QString &spelling(qsizetype place) const { return m_index.at(place).text; }
+
+    // Whether they are the same words with the same meaning and spelling.
+    bool isSame(const ProgramWords &other) const;
 
 private:
     WordIndex m_index;

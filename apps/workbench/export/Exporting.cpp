@@ -6,6 +6,7 @@
 #include "project/TextFile.h"
 #include "workbench/export/PaperText.h"
 #include "workbench/export/ProgramPrint.h"
+#include "workbench/export/SaveAs.h"
 
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>
@@ -20,7 +21,6 @@
 #include <QtGui/QTextDocument>
 #include <QtPrintSupport/QPrintDialog>
 #include <QtPrintSupport/QPrinter>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 
 #include <algorithm>
@@ -30,7 +30,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Empty for other kinds than the three.
+// One of the three kinds. Empty when no page can be made.
 QByteArray programBytes(const PaperText &program, const QString &title, const QString &kind)
 {
     if (kind == "rtf"_L1)
@@ -44,8 +44,7 @@ QByteArray programBytes(const PaperText &program, const QString &title, const QS
     const bool isMetric = QLocale().measurementSystem() == QLocale::MetricSystem;
     writer.setPageSize(QPageSize(isMetric ? QPageSize::A4 : QPageSize::Letter));
     writer.setPageMargins(QMarginsF(20, 15, 15, 15), QPageLayout::Millimeter);
-    return kind == "pdf"_L1 && printProgram(program.document(), title, writer) ? pdf.data()
-                                                                               : QByteArray();
+    return printProgram(program.document(), title, writer) ? pdf.data() : QByteArray();
 }
 
 // The heads, then the first so many rows in the table's own order.
@@ -91,20 +90,24 @@ QByteArray Exporting::tableAs(const QString &kind) const
 {
     const qsizetype points = m_project ? m_project->rows(m_list.CurrentType()).size() : 0;
     const CellBlock cells = cellsOf(m_list, points);
-    if (kind == "csv"_L1)
-        return byteOrderMark.toByteArray() + commaText(cells).toUtf8();
-    return kind == "tsv"_L1 ? byteOrderMark.toByteArray() + tabbedText(cells).toUtf8()
-                            : QByteArray();
+    const QString text = kind == "csv"_L1 ? commaText(cells) : tabbedText(cells);
+    return byteOrderMark.toByteArray() + text.toUtf8();
 }
 
 void Exporting::exportTo(const QString &fileName)
 {
     const QString kind = QFileInfo(fileName).suffix().toLower();
-    const QByteArray bytes = m_list.CurrentType() == dsCode ? programAs(kind) : tableAs(kind);
-    if (bytes.isEmpty())
+    const bool isCode = m_list.CurrentType() == dsCode;
+    const QStringList kinds =
+        isCode ? QStringList{u"rtf"_s, u"html"_s, u"pdf"_s} : QStringList{u"csv"_s, u"tsv"_s};
+    if (!kinds.contains(kind))
         throw Error(
             FileNotWritable, u"Exporting"_s,
             tr("%1: the name ends with none of the kinds that can be written").arg(fileName));
+    const QByteArray bytes = isCode ? programAs(kind) : tableAs(kind);
+    if (bytes.isEmpty())
+        throw Error(FileNotWritable, u"Exporting"_s,
+                    tr("%1: the pages cannot be made").arg(fileName));
     writeFile(fileName, bytes);
 }
 
@@ -114,21 +117,13 @@ void Exporting::exportShown()
     const QStringList kinds =
         isCode ? QStringList{u"RTF (*.rtf)"_s, tr("Web page (*.html)"), u"PDF (*.pdf)"_s}
                : QStringList{tr("Table with commas (*.csv)"), tr("Table with tabs (*.tsv)")};
-    QFileDialog dialog(&m_window, tr("Export"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters(kinds);
-    const auto takeKind = [&dialog](const QString &filter) {
-        dialog.setDefaultSuffix(filter.section(u"(*."_s, 1).chopped(1));
-    };
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, takeKind);
-    takeKind(kinds.first());
-    if (m_project)
-        dialog.setDirectory(QFileInfo(m_project->fileName()).path());
-    dialog.selectFile(isCode ? title() : m_list.Caption());
-    if (dialog.exec() != QDialog::Accepted)
+    const QString folder = m_project ? QFileInfo(m_project->fileName()).path() : QString();
+    const QString file =
+        askWhereToSave(m_window, tr("Export"), kinds, folder, isCode ? title() : m_list.Caption());
+    if (file.isEmpty())
         return;
     try {
-        exportTo(dialog.selectedFiles().constFirst());
+        exportTo(file);
     } catch (const Error &error) {
         QMessageBox::warning(&m_window, tr("Export"), error.Description());
     }

@@ -31,7 +31,7 @@ QString entryOf(qint32 colour)
 PaperColours::PaperColours(const RichTextSettings &paper, const RichTextSettings &screen)
 {
     for (const auto colour : classes) {
-        if (paper.*colour >= 0 && screen.*colour != paper.*colour)
+        if (paper.*colour >= 0)
             m_paperOf.insert(screen.*colour, paper.*colour);
     }
 }

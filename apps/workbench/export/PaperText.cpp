@@ -4,6 +4,7 @@
 
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtGui/QFontInfo>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
 
@@ -57,11 +58,13 @@ QString PaperText::html(const QString &title) const
     const QString head =
         title.isEmpty() ? QString() : u"<title>%1</title>"_s.arg(title.toHtmlEscaped());
     const QFont font = m_paper->font();
+    const bool isInPixels = font.pointSizeF() <= 0;
+    const double points = isInPixels ? QFontInfo(font).pointSizeF() : font.pointSizeF();
     // Together, since a text may hold "%1". A line feed behind <pre> is no line.
     return u"<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\">%1</head>\n"
            "<body><pre style=\"font-family:'%2',monospace;font-size:%3pt;color:#000000;"
            "background:#ffffff;tab-size:4\">\n%4</pre></body></html>"_s.arg(
-               head, quoted(font.family()), QString::number(font.pointSizeF()), lines(document()));
+               head, quoted(font.family()), QString::number(points), lines(document()));
 }
 
 const QTextDocument &PaperText::document() const

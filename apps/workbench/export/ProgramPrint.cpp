@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QAbstractTextDocumentLayout>
+#include <QtGui/QPageRanges>
 #include <QtGui/QPagedPaintDevice>
 #include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
@@ -9,6 +10,7 @@
 
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace ORVTListview {
 namespace {
@@ -37,7 +39,7 @@ public:
 
     int count() const { return m_program->pageCount(); }
 
-    // Each once, from the first to the last.
+    // Each once, in their order; pages may be left out.
     void draw(QPainter &painter, int page)
     {
         painter.setFont(m_program->defaultFont());
@@ -69,8 +71,9 @@ private:
             const QRectF place(0, m_body.top() + top,
                                m_body.left() - 2 * m_metrics.averageCharWidth(),
                                m_metrics.height());
-            painter.drawText(place, Qt::AlignRight | Qt::AlignTop,
-                             QString::number(m_numbered.blockNumber() + 1));
+            if (top > -1) // those before are of a page that was left out
+                painter.drawText(place, Qt::AlignRight | Qt::AlignTop,
+                                 QString::number(m_numbered.blockNumber() + 1));
         }
     }
 
@@ -102,8 +105,12 @@ bool printProgram(const QTextDocument &program, const QString &title, QPagedPain
     if (!painter.begin(&device))
         return false;
     PrintedPages pages(program, title, device);
+    const QPageRanges wanted = device.pageRanges();
+    bool isFirst = true;
     for (int page = 0; page < pages.count(); ++page) {
-        if (page > 0 && !device.newPage())
+        if (!wanted.isEmpty() && !wanted.contains(page + 1))
+            continue;
+        if (!std::exchange(isFirst, false) && !device.newPage())
             return false;
         pages.draw(painter, page);
     }

@@ -16,16 +16,29 @@ constexpr auto geometry = "window/geometry"_L1;
 constexpr auto arrangement = "window/arrangement"_L1;
 constexpr auto division = "window/division"_L1;
 
-// The switches of the View menu are these properties; what is added there is kept, too.
+// What the menu switches, and how large the text is.
 template <typename Act>
 void forEachSwitch(const Act &act)
 {
     const QMetaObject &meta = CodeView::staticMetaObject;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         const QMetaProperty property = meta.property(i);
-        if (property.isWritable())
-            act(property, "editor/"_L1 + QLatin1StringView(property.name()));
+        const QLatin1StringView name(property.name());
+        if (property.isWritable() && name != "keepsText"_L1) // how programs are saved
+            act(property, "editor/"_L1 + name);
     }
+}
+
+// As it is written; nothing for what is damaged.
+QVariant valueOf(const QMetaProperty &property, const QVariant &stored)
+{
+    const QString text = stored.toString();
+    if (property.metaType() == QMetaType::fromType<bool>())
+        return text == "true"_L1    ? QVariant(true)
+               : text == "false"_L1 ? QVariant(false)
+                                    : QVariant();
+    const int number = text.toInt();
+    return number > 0 ? QVariant(number) : QVariant();
 }
 
 } // namespace
@@ -37,7 +50,7 @@ void readWindow(const QSettings &store, QMainWindow &window, CodeView &view)
     if (auto *splitter = window.centralWidget()->findChild<QSplitter *>())
         splitter->restoreState(store.value(division).toByteArray());
     forEachSwitch([&](const QMetaProperty &property, const QString &key) {
-        const QVariant value = store.value(key);
+        const QVariant value = valueOf(property, store.value(key));
         if (value.isValid())
             property.write(&view, value);
     });

@@ -88,6 +88,16 @@ void Settings::read(const QSettings &store)
     readLook(look, store);
 }
 
+void Settings::takeChanges(const Settings &former, const Settings &later)
+{
+    if (later.theme != former.theme)
+        theme = later.theme;
+    if (later.language != former.language)
+        language = later.language;
+    if (later.look != former.look)
+        look = later.look;
+}
+
 void Settings::write(QSettings &store) const
 {
     store.setValue("theme"_L1, QString(themes.at(static_cast<std::size_t>(theme))));

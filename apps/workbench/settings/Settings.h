@@ -37,6 +37,9 @@ struct Settings
     void read(const QSettings &store);
     void write(QSettings &store) const;
 
+    // What differs between two of them becomes as the later one has it.
+    void takeChanges(const Settings &former, const Settings &later);
+
     friend bool operator==(const Settings &, const Settings &) = default;
 };
 

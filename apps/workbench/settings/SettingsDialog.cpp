@@ -105,6 +105,7 @@ QWidget *SettingsDialog::makeProgramPart()
     form->addRow(tr("&Colours:"), m_set);
     form->addRow(makeColourButtons());
     m_font->setFontFilters(QFontComboBox::MonospacedFonts);
+    m_font->setAccessibleName(tr("Font"));
     form->addRow(m_ownFont, m_font);
     m_size->setRange(3, 72);
     m_size->setSpecialValueText(tr("The project's"));
@@ -112,7 +113,7 @@ QWidget *SettingsDialog::makeProgramPart()
     connect(m_set, &QComboBox::activated, this, &SettingsDialog::chooseSet);
     connect(m_ownFont, &QCheckBox::clicked, this, &SettingsDialog::takeFont);
     connect(m_font, &QFontComboBox::currentFontChanged, this, &SettingsDialog::takeFont);
-    connect(m_size, &QSpinBox::valueChanged, this, &SettingsDialog::takeFont);
+    connect(m_size, &QSpinBox::valueChanged, this, &SettingsDialog::takeSize);
     return part;
 }
 
@@ -145,14 +146,14 @@ void SettingsDialog::chooseSet(int row)
 {
     const auto set = static_cast<ColourSet>(row);
     if (set == ColourSet::Own) // begins with what is seen
-        takeColours(m_settings.look.own, m_settings.look.over(m_project));
+        takeColours(m_settings.look.own, seen());
     m_settings.look.colours = set;
     showColours();
 }
 
 void SettingsDialog::chooseColour(ClassColour colour)
 {
-    const RichTextSettings shown = m_settings.look.over(m_project);
+    const RichTextSettings shown = seen();
     const QColor chosen =
         QColorDialog::getColor(Colours::toColor(shown.*colour, palette()), this, windowTitle());
     if (!chosen.isValid())
@@ -164,12 +165,27 @@ void SettingsDialog::chooseColour(ClassColour colour)
     showColours();
 }
 
+// The colours of the preview, none of them the system's.
+RichTextSettings SettingsDialog::seen() const
+{
+    RichTextSettings shown = legibleOn(palette(), m_settings.look.over(m_project));
+    shown.BackColor = Colours::fromColor(Colours::toColor(shown.BackColor, palette()));
+    for (const ClassColour colour : classColours)
+        shown.*colour = Colours::fromColor(Colours::toColor(shown.*colour, palette()));
+    return shown;
+}
+
 void SettingsDialog::takeFont()
 {
     m_font->setEnabled(m_ownFont->isChecked());
     m_settings.look.fontName = m_ownFont->isChecked() ? m_font->currentFont().family() : QString();
+    showColours();
+}
+
+void SettingsDialog::takeSize(int points)
+{
     m_settings.look.fontSize =
-        m_size->value() == m_size->minimum() ? qint16(0) : static_cast<qint16>(m_size->value());
+        points == m_size->minimum() ? qint16(0) : static_cast<qint16>(points);
     showColours();
 }
 
@@ -181,8 +197,11 @@ void SettingsDialog::restoreDefaults()
 
 void SettingsDialog::showSettings()
 {
-    const int language = m_settings.language ? m_language->findData(*m_settings.language) : 0;
-    m_language->setCurrentIndex(std::max(0, language));
+    m_language->setCurrentIndex(0);
+    if (m_settings.language) {
+        const QLocale shown = Languages::shownFor(*m_settings.language);
+        m_language->setCurrentIndex(std::max(0, m_language->findData(shown)));
+    }
     m_theme->setCurrentIndex(static_cast<int>(m_settings.theme));
     const EditorLook look = m_settings.look;
     const QSignalBlocker quietFont(m_font);

@@ -34,7 +34,9 @@ private:
     void addColour(QGridLayout &layout, const QString &name, ClassColour colour);
     void chooseSet(int row);
     void chooseColour(ClassColour colour);
+    RichTextSettings seen() const;
     void takeFont();
+    void takeSize(int points);
     void restoreDefaults();
     void showSettings();
     void showColours();

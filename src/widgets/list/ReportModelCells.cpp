@@ -43,10 +43,18 @@ void ReportModel::touch(const ReportRow &row, int column, const QList<int> &role
 void ReportModel::gather(const std::function<void()> &change)
 {
     m_touched.emplace();
-    change();
-    const QList<ChangedCells::Block> blocks = m_touched->take();
-    m_touched.reset();
-    tell(blocks);
+    const auto tellTouched = [this] {
+        ChangedCells touched = std::move(*m_touched);
+        m_touched.reset();
+        tell(touched.take());
+    };
+    try {
+        change();
+    } catch (...) {
+        tellTouched(); // what was done is shown
+        throw;
+    }
+    tellTouched();
 }
 
 // Whom it is told may change rows and columns, after which nobody knows what a block was.
