@@ -6,6 +6,10 @@
 
 #include <QtCore/QStringList>
 
+#include <algorithm>
+#include <limits>
+#include <utility>
+
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
