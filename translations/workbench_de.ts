@@ -727,6 +727,10 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <source>This row has no point.</source>
         <translation>In dieser Zeile ist kein Punkt.</translation>
     </message>
+    <message>
+        <source>This cell holds numbers only.</source>
+        <translation>Diese Zelle nimmt nur Zahlen auf.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::PointChooser</name>
@@ -867,6 +871,12 @@ Save them?</source>
 Speichern?</translation>
     </message>
     <message>
+        <source>The program %1 and the points of %2 have changes that are not saved.
+Save them?</source>
+        <translation>Das Programm %1 und die Punkte von %2 haben ungespeicherte Änderungen.
+Speichern?</translation>
+    </message>
+    <message>
         <source>Unsaved Changes</source>
         <translation>Ungespeicherte Änderungen</translation>
     </message>
@@ -886,6 +896,10 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>The workbench ended without saving this work of %1. What differs from the files is shown below.</source>
         <translation>Die Werkbank wurde beendet, ohne diese Arbeit vom %1 zu speichern. Unten steht, was sich von den Dateien unterscheidet.</translation>
+    </message>
+    <message>
+        <source>The files are newer than this work.</source>
+        <translation>Die Dateien sind neuer als diese Arbeit.</translation>
     </message>
     <message>
         <source>Before, in the files</source>

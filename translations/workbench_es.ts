@@ -727,6 +727,10 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <source>This row has no point.</source>
         <translation>En esta fila no hay ningún punto.</translation>
     </message>
+    <message>
+        <source>This cell holds numbers only.</source>
+        <translation>Esta celda solo admite números.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::PointChooser</name>
@@ -867,6 +871,12 @@ Save them?</source>
 ¿Guardarlos?</translation>
     </message>
     <message>
+        <source>The program %1 and the points of %2 have changes that are not saved.
+Save them?</source>
+        <translation>El programa %1 y los puntos de %2 tienen cambios sin guardar.
+¿Guardarlos?</translation>
+    </message>
+    <message>
         <source>Unsaved Changes</source>
         <translation>Cambios sin guardar</translation>
     </message>
@@ -886,6 +896,10 @@ Overwrite those changes?</source>
     <message>
         <source>The workbench ended without saving this work of %1. What differs from the files is shown below.</source>
         <translation>El banco de trabajo terminó sin guardar este trabajo del %1. Abajo se muestra en qué difiere de los archivos.</translation>
+    </message>
+    <message>
+        <source>The files are newer than this work.</source>
+        <translation>Los archivos son más recientes que este trabajo.</translation>
     </message>
     <message>
         <source>Before, in the files</source>

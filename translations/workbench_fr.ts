@@ -727,6 +727,10 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <source>This row has no point.</source>
         <translation>Il n’y a aucun point dans cette ligne.</translation>
     </message>
+    <message>
+        <source>This cell holds numbers only.</source>
+        <translation>Cette cellule n’accepte que des nombres.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::PointChooser</name>
@@ -867,6 +871,12 @@ Save them?</source>
 Les enregistrer&#xa0;?</translation>
     </message>
     <message>
+        <source>The program %1 and the points of %2 have changes that are not saved.
+Save them?</source>
+        <translation>Le programme %1 et les points de %2 ont des modifications non enregistrées.
+Les enregistrer&#xa0;?</translation>
+    </message>
+    <message>
         <source>Unsaved Changes</source>
         <translation>Modifications non enregistrées</translation>
     </message>
@@ -886,6 +896,10 @@ Overwrite those changes?</source>
     <message>
         <source>The workbench ended without saving this work of %1. What differs from the files is shown below.</source>
         <translation>L’atelier s’est terminé sans enregistrer ce travail du %1. Ce qui diffère des fichiers est montré ci-dessous.</translation>
+    </message>
+    <message>
+        <source>The files are newer than this work.</source>
+        <translation>Les fichiers sont plus récents que ce travail.</translation>
     </message>
     <message>
         <source>Before, in the files</source>

@@ -10,6 +10,7 @@
 #include "project/TextFile.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSet>
 
@@ -21,18 +22,60 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The version before the last that was saved. A file that is gone has none.
+// The version before the last that was saved, with the rights of the file. A file that is
+// gone has none.
 void keepBefore(const QString &fileName)
 {
-    if (QFileInfo(fileName).isFile())
-        writeFile(fileName + u'~', readFile(fileName));
+    if (!QFileInfo(fileName).isFile())
+        return;
+    const QString before = fileName + u'~';
+    QFile(before).open(QIODevice::NewOnly | QIODevice::WriteOnly, QFile::permissions(fileName));
+    writeFile(before, readFile(fileName));
+}
+
+struct NewFile
+{
+    QString name;
+    QByteArray bytes;
+};
+
+// Both or none.
+void writeBoth(const NewFile &first, const NewFile &second)
+{
+    const bool wasThere = QFileInfo::exists(first.name);
+    const QByteArray before = wasThere ? readFile(first.name) : QByteArray();
+    writeFile(first.name, first.bytes);
+    try {
+        writeFile(second.name, second.bytes);
+    } catch (const Error &) {
+        if (wasThere)
+            writeFile(first.name, before);
+        else
+            QFile::remove(first.name);
+        throw;
+    }
+}
+
+// The file's name of the program that belongs to a project; empty for what is none.
+QString programOf(const QString &projectFile)
+{
+    try {
+        return JsonPlace::parse(readFile(projectFile), projectFile).member(u"program"_s).text();
+    } catch (const Error &) {
+        return {};
+    }
 }
 
 } // namespace
 
 Project::Project(const QString &fileName)
+    : Project(fileName, readProject(fileName))
+{
+}
+
+Project::Project(const QString &fileName, ProjectContents contents)
     : m_fileName(fileName)
-    , m_contents(readProject(fileName))
+    , m_contents(std::move(contents))
 {
     for (const LwType type : projectTypes()) {
         if (isVocabularyType(type))
@@ -42,6 +85,13 @@ Project::Project(const QString &fileName)
     m_shown = program();
     for (const ProjectFamily &family : m_contents.indexedNames)
         m_indexedNames.Add(family.name, family.numberFormat, family.lowerBound, family.upperBound);
+}
+
+std::unique_ptr<Project> Project::versionBefore(const QString &fileName)
+{
+    std::unique_ptr<Project> project(new Project(fileName, readVersionBefore(fileName)));
+    project->m_isOfVersionBefore = true;
+    return project;
 }
 
 void Project::fillPoints(LwType type)
@@ -112,7 +162,7 @@ void Project::renumber(LwType type, qsizetype from, qint32 by)
     QList<ProjectRow> &list = m_contents.rows[type];
     for (qsizetype i = from; i < list.size(); ++i) {
         const auto former = static_cast<qint32>(by > 0 ? i + 1 : i + 2);
-        if (isVocabularyType(type) && list.at(i).data == former)
+        if (isVocabularyType(type) && !list.at(i).isDataGiven && list.at(i).data == former)
             list[i].data = former + by;
     }
 }
@@ -151,14 +201,40 @@ QByteArray Project::tableBytes(const QByteArray &json, Theirs theirs) const
     return result;
 }
 
-void Project::saveTables(Theirs theirs)
+// A file that is gone, or that cannot be read, is written anew.
+QByteArray Project::jsonForSaving() const
+{
+    return m_isOfVersionBefore || !QFileInfo::exists(m_fileName) ? m_contents.json
+                                                                 : readFile(m_fileName);
+}
+
+bool Project::saveTables(Theirs theirs)
 {
     if (!hasChangedTables())
-        return;
-    const QByteArray json = tableBytes(readFile(m_fileName), theirs);
+        return false;
+    const QByteArray there = jsonForSaving();
+    const QByteArray json = tableBytes(there, theirs);
     writeFile(m_fileName, json);
+    const ProjectTables before = m_contents.rows;
+    if (there != m_contents.json)
+        takeOver(readContents(JsonPlace::parse(there, m_fileName)).rows);
     m_contents.json = json;
     m_saved = m_contents.rows;
+    m_isOfVersionBefore = false;
+    return m_saved != before;
+}
+
+// The tables that are not changed here, as somebody else has saved them.
+void Project::takeOver(const ProjectTables &theirs)
+{
+    for (const LwType type : projectTypes()) {
+        const QList<ProjectRow> list = rows(type);
+        if (list != m_saved.value(type) || list == theirs.value(type))
+            continue;
+        m_contents.rows[type] = theirs.value(type);
+        if (isVocabularyType(type))
+            fillPoints(type);
+    }
 }
 
 void Project::setReading(LwType type, qsizetype row, qsizetype column, const QVariant &cell)
@@ -166,9 +242,11 @@ void Project::setReading(LwType type, qsizetype row, qsizetype column, const QVa
     m_contents.rows[type][row].setReading(column, cell);
 }
 
-QByteArray Project::programBytes(const QString &program) const
+QByteArray Project::programBytes(const QString &program, Encoding encoding) const
 {
-    return m_contents.program.with(program, m_shown, programFile());
+    const ProgramFile file =
+        encoding == Encoding::Utf8 ? m_contents.program.inUtf8() : m_contents.program;
+    return file.with(program, m_shown, programFile());
 }
 
 void Project::saveProgram(const QString &program)
@@ -179,43 +257,75 @@ void Project::saveProgram(const QString &program)
     m_shown = program;
 }
 
-void Project::save(const QString &program, Theirs theirs)
+bool Project::save(const QString &program, Theirs theirs, Encoding encoding)
 {
-    const QByteArray bytes = programBytes(program); // before anything is written
+    const QByteArray bytes = programBytes(program, encoding); // before anything is written
+    bool takesOver = false;
     if (hasChangedTables()) {
-        keepBefore(m_fileName);
-        saveTables(theirs);
+        // The version before is what is saved here; the file that it stands in for goes to
+        // its place when that has worked.
+        const bool isTurned = m_isOfVersionBefore && QFileInfo(m_fileName).isFile();
+        const QByteArray broken = isTurned ? readFile(m_fileName) : QByteArray();
+        if (!m_isOfVersionBefore)
+            keepBefore(m_fileName);
+        takesOver = saveTables(theirs);
+        if (isTurned)
+            writeFile(m_fileName + u'~', broken);
+    } else if (!QFileInfo::exists(m_fileName)) {
+        writeFile(m_fileName, m_contents.json);
     }
-    if (bytes != m_contents.program.bytes() || isProgramChangedOutside() ||
-        !QFileInfo::exists(programFile())) {
+    if (bytes != m_contents.program.bytes() || !QFileInfo::exists(programFile())) {
         keepBefore(programFile());
-        saveProgram(program);
+        writeFile(programFile(), bytes);
+        m_contents.program = ProgramFile(bytes);
     }
     m_shown = program;
+    return takesOver;
 }
 
-void Project::saveAt(const QString &fileName, const QString &program)
+// Beside the project's file, under its own name if that is free: no file has it, or it is
+// the program of the very project that is replaced.
+QString Project::programPlace(const QString &fileName) const
 {
+    const QDir folder = QFileInfo(fileName).dir();
+    const QFileInfo own(programFile());
+    const QString replaced = programOf(fileName);
+    const bool isSamePlace = QFileInfo(fileName) == QFileInfo(m_fileName);
+    const QString base = QFileInfo(fileName).completeBaseName();
+    const QString suffix = own.suffix().isEmpty() ? QString() : u'.' + own.suffix();
+    QString name = own.fileName();
+    for (int number = 1;; ++number) {
+        const QFileInfo place(folder.filePath(name));
+        const bool isOwn = place == own;
+        const bool isFree = isOwn ? isSamePlace : !place.exists() || place.fileName() == replaced;
+        if (isFree)
+            return place.filePath();
+        name = base + (number == 1 ? QString() : u'-' + QString::number(number)) + suffix;
+    }
+}
+
+void Project::saveAt(const QString &fileName, const QString &program, Encoding encoding)
+{
+    const QByteArray bytes = programBytes(program, encoding);
+    const QString file = programPlace(fileName);
     QByteArray json = tableBytes(m_contents.json, Theirs::Overwritten);
-    const QString name = QFileInfo(programFile()).fileName();
+    const QString name = QFileInfo(file).fileName();
     const JsonPlace place = JsonPlace::parse(json, fileName).member(u"program"_s);
     if (place.text() != name) {
         JsonEdit edit(json);
         edit.replace(place, name);
         json = edit.bytes();
     }
-    const QString file = QFileInfo(fileName).dir().filePath(name);
-    const QByteArray bytes = programBytes(program);
     keepBefore(file);
     keepBefore(fileName);
-    writeFile(file, bytes);
-    writeFile(fileName, json);
+    writeBoth({file, bytes}, {fileName, json});
     m_fileName = fileName;
     m_contents.programFile = file;
     m_contents.program = ProgramFile(bytes);
     m_contents.json = json;
     m_saved = m_contents.rows;
     m_shown = program;
+    m_isOfVersionBefore = false;
 }
 
 namespace {
@@ -238,7 +348,7 @@ bool Project::isProgramChangedOutside() const
 
 bool Project::isChangedOutside() const
 {
-    return isAnother(m_fileName, m_contents.json);
+    return !m_isOfVersionBefore && isAnother(m_fileName, m_contents.json);
 }
 
 const QList<ProjectRow> &Project::rows(LwType type) const

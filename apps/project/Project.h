@@ -7,6 +7,7 @@
 #include <ORVTListview/PointCollection.h>
 
 #include <map>
+#include <memory>
 
 namespace ORVTListview {
 
@@ -17,6 +18,10 @@ class Project
 public:
     // Raises Error with a ProjectErrorNumber; then there is no project at all.
     explicit Project(const QString &fileName);
+
+    // The project as it was before it was saved last, where its file cannot be read: it is
+    // to be saved into that file. Raises Error as well.
+    static std::unique_ptr<Project> versionBefore(const QString &fileName);
     Q_DISABLE_COPY_MOVE(Project) // components keep its collections by address
 
     QString fileName() const { return m_fileName; }
@@ -33,16 +38,16 @@ public:
     void setShownProgram(const QString &shown) { m_shown = shown; }
     const QString &shownProgram() const { return m_shown; }
 
+    // The encoding that the program's file has, or UTF-8, which has all characters.
+    enum class Encoding { ItsOwn, Utf8 };
+
     // The bytes that the program's file has with this text, lines separated by CR LF:
     // ProgramFile::with.
-    QByteArray programBytes(const QString &program) const;
+    QByteArray programBytes(const QString &program, Encoding encoding = Encoding::ItsOwn) const;
 
     // Puts the text into the program's file. Raises Error and leaves file and program()
     // as they were.
     void saveProgram(const QString &program);
-
-    // Characters that its encoding lacks can be saved afterwards.
-    void useUtf8() { m_contents.program = m_contents.program.inUtf8(); }
 
     // Whether somebody else has changed the program's file, or the project's, since it was
     // read or saved here. A file that is gone counts as unchanged.
@@ -66,7 +71,7 @@ public:
     void apply(const RowChanges &changes);
 
     // Whether changes of the tables wait for being saved.
-    bool hasChangedTables() const { return m_contents.rows != m_saved; }
+    bool hasChangedTables() const { return m_isOfVersionBefore || m_contents.rows != m_saved; }
 
     // The project's file with the tables of now; it keeps its layout. A table that is
     // another one in the file meanwhile raises Error, unless it is to be overwritten.
@@ -78,16 +83,20 @@ public:
     QByteArray kept() const { return tableBytes(m_contents.json, Theirs::Overwritten); }
 
     // Puts the changed tables into the project's file. Raises Error and leaves the file when
-    // it cannot be written or would be none that can be read.
-    void saveTables(Theirs theirs = Theirs::Kept);
+    // it cannot be written or would be none that can be read. Tables that somebody else has
+    // changed meanwhile, and that are not changed here, are taken over; true if any is.
+    bool saveTables(Theirs theirs = Theirs::Kept);
 
-    // Both, each of them only if it has changed. The version that a file had before stays
-    // beside it, with a "~" behind its name. Raises Error; what was saved by then is.
-    void save(const QString &program, Theirs theirs);
+    // Both, each of them only if it has changed here or is gone. The version that a file had
+    // before stays beside it, with a "~" behind its name. Raises Error; what was saved by
+    // then is. True when tables were taken over.
+    bool save(const QString &program, Theirs theirs, Encoding encoding = Encoding::ItsOwn);
 
     // Both at another place, the program beside the project's file; the project goes on
-    // there.
-    void saveAt(const QString &fileName, const QString &program);
+    // there. A program of another project is left alone: this one's has another name then.
+    // Raises Error and leaves what is there.
+    void saveAt(const QString &fileName, const QString &program,
+                Encoding encoding = Encoding::ItsOwn);
 
     // Keeps what the controller answered for a cell of projectColumns(type). Not saved.
     void setReading(LwType type, qsizetype row, qsizetype column, const QVariant &cell);
@@ -103,6 +112,11 @@ public:
     const QList<ProjectFamily> &families() const { return m_contents.indexedNames; }
 
 private:
+    Project(const QString &fileName, ProjectContents contents);
+
+    void takeOver(const ProjectTables &theirs);
+    QByteArray jsonForSaving() const;
+    QString programPlace(const QString &fileName) const;
     void fillPoints(LwType type);
     void renumber(LwType type, qsizetype from, qint32 by);
     bool hasAnother(LwType type, qsizetype row, const QString &name) const;
@@ -111,6 +125,7 @@ private:
     ProjectContents m_contents;
     ProjectTables m_saved;
     QString m_shown;
+    bool m_isOfVersionBefore = false; // and not saved yet
     std::map<LwType, PointList> m_points;
     mutable IndexedNameList m_indexedNames; // those who look at it share their interface
 };

@@ -11,6 +11,8 @@ namespace ORVTListview {
 
 namespace {
 
+constexpr qsizetype mostSteps = 1000;
+
 // Rows of one place count as one that is changed.
 RowChanges changesTo(const ProjectTables &from, const ProjectTables &to)
 {
@@ -75,14 +77,18 @@ bool ProjectDocument::isProgramModified() const
 void ProjectDocument::carryOut(ProjectStep step)
 {
     m_steps.resize(m_done);
+    if (m_done == mostSteps)
+        m_steps.removeFirst();
     m_steps.append(std::move(step));
-    ++m_done;
+    m_done = m_steps.size();
     apply(m_steps.constLast().rows);
 }
 
 void ProjectDocument::carryOut(const RowChanges &rows)
 {
-    const QString now = program();
+    QString now = program();
+    if (m_done > 0 && m_steps.at(m_done - 1).programAfter == now)
+        now = m_steps.at(m_done - 1).programAfter; // one text for all of them
     carryOut(ProjectStep{rows, now, now});
 }
 
@@ -120,14 +126,15 @@ const ProjectStep *ProjectDocument::redoStep(Among among) const
     return stepAt(m_done, before, among);
 }
 
-void ProjectDocument::restoreTables(const QByteArray &json)
+bool ProjectDocument::restoreTables(const QByteArray &json)
 {
     try {
         const ProjectTables tables =
             readContents(JsonPlace::parse(json, m_project->fileName())).rows;
         apply(changesTo(m_project->tables(), tables));
+        return true;
     } catch (const Error &) {
-        return;
+        return false;
     }
 }
 
@@ -149,15 +156,19 @@ void ProjectDocument::apply(const RowChanges &changes)
     Q_EMIT changed();
 }
 
-void ProjectDocument::save(Project::Theirs theirs)
+void ProjectDocument::save(Project::Theirs theirs, Project::Encoding encoding)
 {
-    m_project->save(program(), theirs);
+    if (m_project->save(program(), theirs, encoding)) {
+        m_steps.clear();
+        m_done = 0;
+        Q_EMIT tablesChanged();
+    }
     Q_EMIT changed();
 }
 
-void ProjectDocument::saveAt(const QString &fileName)
+void ProjectDocument::saveAt(const QString &fileName, Project::Encoding encoding)
 {
-    m_project->saveAt(fileName, program());
+    m_project->saveAt(fileName, program(), encoding);
     Q_EMIT changed();
 }
 

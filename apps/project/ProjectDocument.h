@@ -59,8 +59,9 @@ public:
     // The editor shows the program of the step that was carried out last.
     void noteStepShown();
 
-    // Takes the tables of a project's file over; what cannot be read stays as it is.
-    void restoreTables(const QByteArray &json);
+    // Takes the tables of a project's file over. False, and nothing is changed, for what
+    // cannot be read.
+    bool restoreTables(const QByteArray &json);
 
     // The step that would be taken back, or made again, from the program of now; null
     // when what the editor does comes before it. Of the tables alone: whatever the
@@ -73,11 +74,12 @@ public:
     void undo();
     void redo();
 
-    // Both raise Error. What was saved counts as unchanged.
-    void save(Project::Theirs theirs);
+    // Both raise Error. What was saved counts as unchanged. No step goes back behind tables
+    // that were taken over from somebody else.
+    void save(Project::Theirs theirs, Project::Encoding encoding);
 
     // Puts project and program beside each other at another place and goes on there.
-    void saveAt(const QString &fileName);
+    void saveAt(const QString &fileName, Project::Encoding encoding);
 
 Q_SIGNALS:
     void tablesChanged();

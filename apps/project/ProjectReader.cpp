@@ -75,6 +75,7 @@ ProjectRow readRow(const JsonPlace &place, LwType type, qint32 number)
     if (isVocabularyType(type)) {
         members.append(u"data"_s);
         row.data = place.member(u"data"_s).integer(number);
+        row.isDataGiven = place.member(u"data"_s).isPresent();
     }
     place.allowOnly(members);
     return row;
@@ -144,13 +145,33 @@ ProjectContents readContents(const JsonPlace &root)
     return contents;
 }
 
-ProjectContents readProject(const QString &fileName)
+namespace {
+
+// All but the program.
+ProjectContents readWithoutProgram(const QString &fileName, const QString &file)
 {
-    const QByteArray json = readFile(fileName);
-    ProjectContents contents = readContents(JsonPlace::parse(json, fileName));
+    const QByteArray json = readFile(file);
+    ProjectContents contents = readContents(JsonPlace::parse(json, file));
     contents.json = json;
     contents.programFile = QFileInfo(fileName).dir().filePath(contents.programFile);
+    return contents;
+}
+
+} // namespace
+
+ProjectContents readProject(const QString &fileName)
+{
+    ProjectContents contents = readWithoutProgram(fileName, fileName);
     contents.program = ProgramFile(readFile(contents.programFile));
+    return contents;
+}
+
+ProjectContents readVersionBefore(const QString &fileName)
+{
+    ProjectContents contents = readWithoutProgram(fileName, fileName + u'~');
+    const QString &program = contents.programFile;
+    contents.program =
+        ProgramFile(readFile(QFileInfo(program).isFile() ? program : program + u'~'));
     return contents;
 }
 

@@ -53,4 +53,8 @@ ProjectContents readContents(const JsonPlace &root);
 // ProjectErrorNumber for the first thing that is wrong.
 ProjectContents readProject(const QString &fileName);
 
+// The same from what stands beside it with a "~" behind its name; so does its program where
+// that cannot be read.
+ProjectContents readVersionBefore(const QString &fileName);
+
 } // namespace ORVTListview

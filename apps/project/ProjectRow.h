@@ -12,10 +12,11 @@ namespace ORVTListview {
 // One row of a point table.
 struct ProjectRow
 {
-    QString name;       // empty where the type's points have none
-    qint32 data = 0;    // the host's value of a point
-    QVariantList cells; // one for each of projectColumns(): QString, double, bool or invalid
-    QVariantList kept;  // the cells for the file, where the controller has told others
+    QString name;             // empty where the type's points have none
+    qint32 data = 0;          // the host's value of a point
+    QVariantList cells;       // one for each of projectColumns(): QString, double, bool or invalid
+    QVariantList kept;        // the cells for the file, where the controller has told others
+    bool isDataGiven = false; // by the file; data left out there follows the row's number
 
     const QVariantList &cellsOfFile() const { return kept.isEmpty() ? cells : kept; }
 

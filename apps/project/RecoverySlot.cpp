@@ -112,6 +112,7 @@ void RecoverySlot::write(const QByteArray &text)
         try {
             writeFile(place, text);
             m_fileName = place;
+            m_written = QFileInfo(place).lastModified();
             break;
         } catch (const Error &) {
             if (place == m_places.constLast())
@@ -122,6 +123,12 @@ void RecoverySlot::write(const QByteArray &text)
         if (place != m_fileName)
             QFile::remove(place); // older
     }
+}
+
+bool RecoverySlot::isAsWritten() const
+{
+    const QFileInfo file(m_fileName);
+    return file.isFile() && file.lastModified() == m_written;
 }
 
 void RecoverySlot::remove()

@@ -3,6 +3,7 @@
 #include "base/FileLock.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QDateTime>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -32,6 +33,9 @@ public:
     void write(const QByteArray &text);
     void remove();
 
+    // Whether nobody else has removed or written the file since it was written here.
+    bool isAsWritten() const;
+
     // Where it was written last, or was found.
     QString fileName() const { return m_fileName; }
 
@@ -43,6 +47,7 @@ private:
 
     QStringList m_places; // the better one first
     QString m_fileName;
+    QDateTime m_written; // the file's own time
     std::unique_ptr<FileLock> m_lock;
 };
 

@@ -6,6 +6,10 @@
 
 #include <QtCore/QStringList>
 
+#include <algorithm>
+#include <limits>
+#include <utility>
+
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
@@ -25,8 +29,10 @@ QList<Member> membersOf(const ProjectRow &row, LwType type, qsizetype number)
     const QList<ProjectColumn> &columns = projectColumns(type);
     for (qsizetype column = 0; column < columns.size(); ++column)
         members.append({columns.at(column).member, row.cellsOfFile().value(column)});
-    if (isVocabularyType(type))
-        members.append({u"data"_s, row.data == number ? QVariant() : QVariant(row.data)});
+    if (isVocabularyType(type)) {
+        const bool isSaid = row.isDataGiven || row.data != number;
+        members.append({u"data"_s, isSaid ? QVariant(row.data) : QVariant()});
+    }
     return members;
 }
 
@@ -48,7 +54,7 @@ QByteArray writtenRow(const QList<Member> &members)
 // A row as a line of text, to compare by.
 QString keyOf(const ProjectRow &row)
 {
-    QString key = QString::number(row.data);
+    QString key = row.isDataGiven ? QString::number(row.data) : QString();
     for (const QVariant &cell : row.cellsOfFile()) {
         const QChar kind(u'0' + static_cast<char16_t>(cell.typeId() % 64));
         key += u'\n' + (cell.isValid() ? kind + cellText(cell) : QString());
@@ -72,12 +78,13 @@ QList<qsizetype> partnersOf(const QList<ProjectRow> &before, const QList<Project
     const LineViews former = viewsOf(before);
     QList<qsizetype> partners = matchingLines(former, viewsOf(now));
     qsizetype free = 0; // the first row of before that none is yet
+    qsizetype next = 0; // the first row from here on that has its partner
     for (qsizetype i = 0; i < partners.size(); ++i) {
         if (partners[i] >= 0) {
             free = partners[i] + 1;
             continue;
         }
-        qsizetype next = i;
+        next = std::max(next, i);
         while (next < partners.size() && partners[next] < 0)
             ++next;
         const qsizetype end = next < partners.size() ? partners[next] : before.size();
@@ -101,9 +108,8 @@ public:
         : m_json(json)
         , m_start(array.start())
         , m_end(array.end())
+        , m_items(array.items(std::numeric_limits<qsizetype>::max()))
     {
-        for (qsizetype i = 0; array.item(i).isPresent(); ++i)
-            m_items.append(array.item(i));
     }
 
     const JsonPlace &item(qsizetype index) const { return m_items.at(index); }

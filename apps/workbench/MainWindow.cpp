@@ -284,7 +284,10 @@ void MainWindow::connectSaving()
         statusBar()->showMessage(tr("What you type cannot be kept for recovery: %1").arg(reason));
     });
     connect(m_recovery, &RecoveryKeeper::recovered, statusBar(), &QStatusBar::clearMessage);
-    connect(m_fault, &OpeningFault::projectWanted, this, &MainWindow::openForUser);
+    connect(m_fault, &OpeningFault::projectWanted, this,
+            [this](const QString &fileName) { openForUser(fileName); });
+    connect(m_fault, &OpeningFault::versionBeforeWanted, this,
+            [this](const QString &fileName) { openForUser(fileName, Version::Before); });
     connect(m_fault, &OpeningFault::choiceWanted, this, &MainWindow::chooseProject);
 }
 
@@ -307,28 +310,31 @@ void MainWindow::openByHand(const QString &fileName)
 {
     try {
         openProject(fileName);
-        m_offer->makeAll();
     } catch (const Error &error) {
         m_document->noteProgramChange(); // it is still to be kept
         QMessageBox::warning(this, tr("Open Project"), error.Description());
+        return;
     }
+    m_offer->makeAll();
 }
 
-void MainWindow::openForUser(const QString &fileName)
+void MainWindow::openForUser(const QString &fileName, Version version)
 {
     try {
-        openProject(fileName);
-        m_offer->makeAll();
+        openProject(fileName, version);
     } catch (const Error &error) {
         m_results->clear();
         m_pages->setCurrentWidget(m_fault);
         m_fault->show(fileName, error.Description());
+        return;
     }
+    m_offer->makeAll();
 }
 
-void MainWindow::openProject(const QString &fileName)
+void MainWindow::openProject(const QString &fileName, Version version)
 {
-    auto project = std::make_unique<Project>(fileName);
+    auto project = version == Version::Before ? Project::versionBefore(fileName)
+                                              : std::make_unique<Project>(fileName);
     m_view->setProject(*project);
     m_values->setProject(project.get());
     m_export->setProject(project.get());

@@ -44,12 +44,14 @@ public:
     ~MainWindow() override;
 
     // Shows the project. What is shown goes without a question. Raises Error and
-    // keeps what is shown when the file cannot be read.
-    void openProject(const QString &fileName);
+    // keeps what is shown when the file cannot be read. The version before: what the file was
+    // before it was saved last, to be saved into it.
+    enum class Version { Now, Before };
+    void openProject(const QString &fileName, Version version = Version::Now);
 
     // The same for a user who is there: tells in the window what is wrong, and what can be
     // done, and offers work that was not saved the last time.
-    void openForUser(const QString &fileName);
+    void openForUser(const QString &fileName, Version version = Version::Now);
 
     // What the user has decided for all projects; at first the theme and the language that
     // are in use.

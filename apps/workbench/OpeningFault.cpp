@@ -39,7 +39,7 @@ OpeningFault::OpeningFault(QWidget *parent)
     connect(m_other, &QPushButton::clicked, this, &OpeningFault::choiceWanted);
     connect(m_again, &QPushButton::clicked, this, [this] { Q_EMIT projectWanted(m_fileName); });
     connect(m_former, &QPushButton::clicked, this,
-            [this] { Q_EMIT projectWanted(m_fileName + u'~'); });
+            [this] { Q_EMIT versionBeforeWanted(m_fileName); });
     retranslate();
 }
 

@@ -23,6 +23,7 @@ public:
 
 Q_SIGNALS:
     void projectWanted(const QString &fileName);
+    void versionBeforeWanted(const QString &fileName);
     void choiceWanted();
 
 private:

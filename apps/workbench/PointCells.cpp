@@ -12,11 +12,20 @@
 
 #include <QtCore/QMap>
 
+#include <cmath>
+
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+bool isFiniteNumber(const QString &text)
+{
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return isNumber && std::isfinite(number);
+}
 
 // As the project has such a cell.
 QVariant projectCell(const QString &text, CellKind kind, const CellRule &rule)
@@ -25,10 +34,11 @@ QVariant projectCell(const QString &text, CellKind kind, const CellRule &rule)
         return {};
     if (kind == CellKind::YesNo)
         return text == rule.choices.value(0);
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    const bool isValue = kind == CellKind::Number || kind == CellKind::Value;
-    return isValue && isNumber ? QVariant(number) : QVariant(text);
+    const double number = text.toDouble();
+    // A text that is more than its number stays as it was typed.
+    const bool takesNumber =
+        kind == CellKind::Number || (kind == CellKind::Value && cellText(number) == text);
+    return takesNumber && isFiniteNumber(text) ? QVariant(number) : QVariant(text);
 }
 
 } // namespace
@@ -41,8 +51,8 @@ PointCells::PointCells(ORVListView &list, ProjectDocument &document)
 {
     m_grid.setPointNames([this] { return names(); });
     connect(&m_grid, &ListGrid::cellEntering, this,
-            [this](const ListItem *item, qint16, const QString &, QString &refusal) {
-                answer(*item, refusal);
+            [this](const ListItem *item, qint16 column, const QString &text, QString &refusal) {
+                answer(*item, column, text, refusal);
             });
     connect(&m_grid, &ListGrid::cellsChanged, this, &PointCells::take);
 }
@@ -96,10 +106,16 @@ qsizetype PointCells::pointOf(const ListItem &item) const
     return isPoint ? item.Index() - 1 : -1;
 }
 
-void PointCells::answer(const ListItem &item, QString &refusal) const
+void PointCells::answer(const ListItem &item, qint16 column, const QString &text,
+                        QString &refusal) const
 {
-    if (pointOf(item) < 0)
+    if (pointOf(item) < 0) {
         refusal = tr("This row has no point.");
+        return;
+    }
+    const CellKind kind = projectColumns(m_list.CurrentType()).value(column - 1).kind;
+    if (kind == CellKind::Number && !text.isEmpty() && !isFiniteNumber(text))
+        refusal = tr("This cell holds numbers only.");
 }
 
 void PointCells::take(const QList<CellChange> &changes)

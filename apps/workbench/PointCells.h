@@ -32,7 +32,7 @@ public:
 private:
     const Project *project() const;
     qsizetype pointOf(const ListItem &item) const;
-    void answer(const ListItem &item, QString &refusal) const;
+    void answer(const ListItem &item, qint16 column, const QString &text, QString &refusal) const;
     void take(const QList<CellChange> &changes);
     QStringList names() const;
 

@@ -142,3 +142,67 @@ TEST_F(Recovery, AProjectCanBeSavedAtAnotherPlace)
     EXPECT_EQ(readFile(other.path(u"p.prog"_s)), "A\r\nc");
     EXPECT_EQ(again.rows(dsInput)[0].name, u"J"_s);
 }
+
+TEST_F(Recovery, AnotherProjectsProgramIsLeftAlone)
+{
+    const ProjectFolder folder;
+    folder.write(u"p.prog"_s, "A");
+    const QString file =
+        folder.write(u"p.json"_s, R"({"format": 1, "name": "P", "program": "p.prog"})");
+    Project project(file);
+    project.saveAt(folder.path(u"two.json"_s), u"B"_s);
+    EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "A");
+    EXPECT_EQ(Project(folder.path(u"two.json"_s)).program(), u"B"_s);
+    EXPECT_EQ(readFile(folder.path(u"two.prog"_s)), "B");
+    project.saveAt(file, u"C"_s); // this project is replaced, its program too
+    EXPECT_EQ(Project(file).program(), u"C"_s);
+}
+
+TEST_F(Recovery, WhatFailsElsewhereLeavesTheProgramThere)
+{
+    const ProjectFolder folder;
+    const ProjectFolder other;
+    folder.write(u"p.prog"_s, "A");
+    Project project(
+        folder.write(u"p.json"_s, R"({"format": 1, "name": "P", "program": "p.prog"})"));
+    ASSERT_TRUE(QDir().mkdir(other.path(u"q.json"_s)));
+    EXPECT_TRUE(raisedBy([&] { project.saveAt(other.path(u"q.json"_s), u"B"_s); }));
+    EXPECT_FALSE(QFile::exists(other.path(u"p.prog"_s)));
+    EXPECT_EQ(project.fileName(), folder.path(u"p.json"_s));
+}
+
+TEST_F(Recovery, TablesOfOthersAreTakenOver)
+{
+    const ProjectFolder folder;
+    folder.write(u"p.prog"_s, "A");
+    const QByteArray json = R"({"format": 1, "name": "P", "program": "p.prog",
+ "inputs": [{"name": "I"}], "variables": [{"name": "V"}]})";
+    const QString file = folder.write(u"p.json"_s, json);
+    Project project(file);
+    writeFile(file, QByteArray(json).replace("\"I\"", "\"Theirs\""));
+    writeFile(folder.path(u"p.prog"_s), "theirs");
+    project.rename(dsVariable, 0, u"Mine"_s);
+    EXPECT_TRUE(project.save(u"A"_s, Project::Theirs::Kept, Project::Encoding::ItsOwn));
+    EXPECT_EQ(project.rows(dsInput)[0].name, u"Theirs"_s);
+    EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "theirs");
+    project.rename(dsInput, 0, u"Again"_s);
+    project.save(u"A"_s, Project::Theirs::Kept);
+    EXPECT_EQ(readFile(file),
+              QByteArray(json).replace("\"I\"", "\"Again\"").replace("\"V\"", "\"Mine\""));
+}
+
+TEST_F(Recovery, TheVersionBeforeIsSavedIntoTheProjectsFile)
+{
+    const ProjectFolder folder;
+    folder.write(u"p.prog"_s, "A");
+    const QByteArray json = R"({"format": 1, "name": "P", "program": "p.prog"})";
+    const QString file = folder.write(u"p.json"_s, "{");
+    folder.write(u"p.json~"_s, json);
+    const auto project = Project::versionBefore(file);
+    EXPECT_EQ(project->fileName(), file);
+    EXPECT_TRUE(project->hasChangedTables());
+    project->save(u"A"_s, Project::Theirs::Kept);
+    EXPECT_EQ(readFile(file), json);
+    EXPECT_EQ(readFile(file + u'~'), "{");
+    EXPECT_FALSE(project->hasChangedTables());
+}

@@ -142,3 +142,21 @@ TEST(TableEdit, RandomChangesAreReadAsTheyWereMade)
         ASSERT_TRUE(json.startsWith(head));
     }
 }
+
+TEST(TableEdit, AValueThatTheFileGivesStays)
+{
+    const ProjectFolder folder;
+    folder.write(u"p"_s, "X");
+    const QByteArray json = head + R"(, "inputs": [{"name": "A"}, {"name": "B", "data": 1}, )"
+                                   R"({"name": "C", "data": 3}, {"name": "D"}]})";
+    Project project(folder.write(u"p.json"_s, json));
+    const RowChanges change{{dsInput, 0, project.rows(dsInput)[0], {}}};
+    project.apply(change);
+    QList<qint32> data;
+    for (const ProjectRow &row : project.rows(dsInput))
+        data.append(row.data);
+    EXPECT_EQ(data, QList<qint32>({1, 3, 3}));
+    project.apply(reversed(change));
+    EXPECT_FALSE(project.hasChangedTables());
+    EXPECT_EQ(project.kept(), json);
+}

@@ -1,5 +1,6 @@
 #include "renaming/ProjectHistory.h"
 
+#include "base/TextPiece.h"
 #include "project/ProjectDocument.h"
 #include "widgets/box/BoxCommands.h"
 
@@ -7,10 +8,39 @@
 #include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>
 
-#include <QtCore/QMimeData>
 #include <QtGui/QKeyEvent>
 
+#include <algorithm>
+
 namespace ORVTListview {
+
+namespace {
+
+struct Difference
+{
+    TextPiece piece; // of the text of now
+    QString text;    // that takes its place
+};
+
+// Whole lines.
+Difference difference(const QString &now, const QString &program)
+{
+    const qsizetype most = std::min(now.size(), program.size());
+    qsizetype head =
+        std::mismatch(now.cbegin(), now.cbegin() + most, program.cbegin()).first - now.cbegin();
+    head = head == 0 ? 0 : now.lastIndexOf(u'\n', head - 1) + 1;
+    qsizetype tail = 0;
+    qsizetype kept = 0; // of tail, from the start of a line on
+    while (tail < most - head && now[now.size() - 1 - tail] == program[program.size() - 1 - tail]) {
+        if (now[now.size() - 1 - tail] == u'\n')
+            kept = tail;
+        ++tail;
+    }
+    return {{static_cast<qint32>(head), static_cast<qint32>(now.size() - head - kept)},
+            program.sliced(head, program.size() - head - kept)};
+}
+
+} // namespace
 
 ProjectHistory::ProjectHistory(ProjectDocument &document, ORVListView &code)
     : QObject(&code)
@@ -61,8 +91,8 @@ void ProjectHistory::undo()
         const QString before = step->programBefore;
         const bool isOfProgram = !step->isOfTablesAlone();
         m_document.undo();
-        if (isOfProgram)
-            showProgram(before, true);
+        if (isOfProgram && !showProgram(before, true))
+            m_document.redo(); // both or none
     } else {
         m_code.Undo(errMsg);
     }
@@ -77,8 +107,8 @@ void ProjectHistory::redo()
         const QString after = step->programAfter;
         const bool isOfProgram = !step->isOfTablesAlone();
         m_document.redo();
-        if (isOfProgram)
-            showProgram(after, false);
+        if (isOfProgram && !showProgram(after, false))
+            m_document.undo();
     } else {
         m_code.Redo(errMsg);
     }
@@ -87,27 +117,31 @@ void ProjectHistory::redo()
 }
 
 // By the editor's own history where that has the text, as it mostly has: a renaming takes a
-// snapshot. Its steps do nothing while a table is shown.
-void ProjectHistory::showProgram(const QString &program, bool isUndo)
+// snapshot. Otherwise the part that differs is put in, in its colours if these leave it as
+// it is.
+bool ProjectHistory::showProgram(const QString &program, bool isUndo)
 {
-    QString errMsg;
+    RichTextBox &box = *m_code.RTextBox();
     for (const bool goesBack : {isUndo, !isUndo}) {
         if (m_document.program() == program)
-            return;
+            return true;
         if (goesBack)
-            m_code.Undo(errMsg);
+            box.commands().undo();
         else
-            m_code.Redo(errMsg);
+            box.commands().redo();
     }
-    if (m_document.program() == program)
-        return;
-    RichTextBox &box = *m_code.RTextBox();
+    for (const bool inColours : {true, false}) {
+        const Difference part = difference(m_document.program(), program);
+        if (inColours)
+            box.commands().replace({part.piece}, part.text);
+        else
+            box.replacePieces({part.piece}, part.text);
+        if (m_document.program() == program)
+            break;
+    }
+    box.commands().keepState();
     box.setSelStart(0);
-    box.setSelLength(box.TextLength());
-    QMimeData text;
-    text.setText(program);
-    box.commands().paste(text);
-    box.setSelStart(0);
+    return m_document.program() == program;
 }
 
 } // namespace ORVTListview

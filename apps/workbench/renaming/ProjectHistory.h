@@ -31,7 +31,7 @@ protected:
 
 private:
     ProjectDocument::Among among() const;
-    void showProgram(const QString &program, bool isUndo);
+    bool showProgram(const QString &program, bool isUndo);
 
     ProjectDocument &m_document;
     ORVListView &m_code;

@@ -4,6 +4,7 @@
 #include "project/ProjectError.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
@@ -24,84 +25,105 @@ bool ProjectSaving::save()
     const Project *project = m_document.project();
     if (!project)
         return true;
-    bool overwrites = false;
+    Attempt attempt;
     for (const bool isProgram : {true, false}) {
-        const bool isChanged = isProgram
-                                   ? project->isProgramChangedOutside()
-                                   : project->hasChangedTables() && project->isChangedOutside();
+        const bool isChanged =
+            isProgram ? m_document.isProgramModified() && project->isProgramChangedOutside()
+                      : project->hasChangedTables() && project->isChangedOutside();
         if (!isChanged)
             continue;
         if (!mayOverwrite(isProgram ? project->programFile() : project->fileName()))
             return false;
-        overwrites = true;
+        if (!isProgram)
+            attempt.theirs = Project::Theirs::Overwritten;
     }
-    return trySaving(overwrites);
+    return carryOut(attempt);
 }
 
-bool ProjectSaving::trySaving(bool overwrites)
+bool ProjectSaving::carryOut(const Attempt &attempt)
 {
+    const bool isElsewhere = !attempt.place.isEmpty();
     try {
-        m_document.save(overwrites ? Project::Theirs::Overwritten : Project::Theirs::Kept);
+        if (isElsewhere)
+            m_document.saveAt(attempt.place, attempt.encoding);
+        else
+            m_document.save(attempt.theirs, attempt.encoding);
     } catch (const Error &error) {
-        return offerWayOut(error);
+        return offerWayOut(error, attempt);
     }
     Q_EMIT settled();
+    if (isElsewhere)
+        Q_EMIT movedElsewhere();
     return true;
 }
 
-bool ProjectSaving::offerWayOut(const Error &error)
+// What is tried again goes to the same place.
+bool ProjectSaving::offerWayOut(const Error &error, Attempt attempt)
 {
-    QMessageBox box(QMessageBox::Warning, tr("Save"), error.Description(),
-                    QMessageBox::Cancel | QMessageBox::Retry, &m_window);
     const bool isEncoding = error.Number() == TextNotEncodable;
-    QPushButton *other = box.addButton(isEncoding ? tr("Save as &UTF-8") : tr("Save Else&where…"),
-                                       QMessageBox::AcceptRole);
-    box.setDefaultButton(other);
-    if (!isEncoding)
-        box.setInformativeText(
+    const bool isNoText = error.Number() == TextNotUtf8; // at no place
+    const QPointer<ProjectSaving> self(this);
+    const QPointer<QMessageBox> box(
+        new QMessageBox(QMessageBox::Warning, tr("Save"), error.Description(),
+                        QMessageBox::Cancel | QMessageBox::Retry, &m_window));
+    QPushButton *other =
+        isNoText ? nullptr
+                 : box->addButton(isEncoding ? tr("Save as &UTF-8") : tr("Save Else&where…"),
+                                  QMessageBox::AcceptRole);
+    if (other)
+        box->setDefaultButton(other);
+    if (!isEncoding && !isNoText)
+        box->setInformativeText(
             tr("Nothing is lost: what was typed stays in the window and is kept for recovery."));
-    const int answer = box.exec();
+    const int answer = box->exec();
+    if (!self || !box)
+        return false;
+    const bool isOther = other && box->clickedButton() == other;
+    delete box;
     if (answer == QMessageBox::Retry)
-        return save();
-    if (box.clickedButton() != other)
+        return attempt.place.isEmpty() ? save() : carryOut(attempt);
+    if (!isOther)
         return false;
     if (!isEncoding)
         return saveElsewhere();
-    m_document.project()->useUtf8();
-    return trySaving(true);
+    attempt.encoding = Project::Encoding::Utf8;
+    return carryOut(attempt);
 }
 
 bool ProjectSaving::saveElsewhere()
 {
     if (!m_document.project())
         return true;
+    const QPointer<ProjectSaving> self(this);
     const QString fileName = QFileDialog::getSaveFileName(
         &m_window, tr("Save Elsewhere"), m_document.project()->fileName(), tr("Projects (*.json)"));
-    if (fileName.isEmpty())
+    if (!self || fileName.isEmpty())
         return false;
-    try {
-        m_document.saveAt(fileName);
-    } catch (const Error &error) {
-        return offerWayOut(error);
-    }
-    Q_EMIT settled();
-    Q_EMIT movedElsewhere();
-    return true;
+    return carryOut({fileName});
+}
+
+QString ProjectSaving::questionOnLeaving() const
+{
+    const QString file = QFileInfo(m_document.project()->programFile()).fileName();
+    const QString name = m_document.project()->name();
+    if (!m_document.isProgramModified())
+        return tr("The points of %1 have changes that are not saved.\nSave them?").arg(name);
+    if (!m_document.project()->hasChangedTables())
+        return tr("The program %1 has changes that are not saved.\nSave them?").arg(file);
+    return tr("The program %1 and the points of %2 have changes that are not saved.\nSave them?")
+        .arg(file, name);
 }
 
 bool ProjectSaving::mayLeave()
 {
     if (!m_document.isModified())
         return true;
-    const QString file = QFileInfo(m_document.project()->programFile()).fileName();
-    const QString text =
-        m_document.isProgramModified()
-            ? tr("The program %1 has changes that are not saved.\nSave them?").arg(file)
-            : tr("The points of %1 have changes that are not saved.\nSave them?")
-                  .arg(m_document.project()->name());
+    const QPointer<ProjectSaving> self(this);
     const auto answer = QMessageBox::warning(
-        &m_window, tr("Unsaved Changes"), text,
+        &m_window, tr("Unsaved Changes"), questionOnLeaving(),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (!self)
+        return false;
     if (answer == QMessageBox::Save)
         return save();
     if (answer == QMessageBox::Discard)
@@ -111,12 +133,13 @@ bool ProjectSaving::mayLeave()
 
 bool ProjectSaving::mayOverwrite(const QString &fileName)
 {
+    const QPointer<ProjectSaving> self(this);
     const auto answer = QMessageBox::warning(
         &m_window, tr("Save"),
         tr("The file %1 has been changed elsewhere since it was opened.\nOverwrite those changes?")
             .arg(QFileInfo(fileName).fileName()),
         QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-    return answer == QMessageBox::Yes;
+    return self && answer == QMessageBox::Yes;
 }
 
 } // namespace ORVTListview

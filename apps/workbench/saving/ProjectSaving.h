@@ -1,6 +1,9 @@
 #pragma once
 
+#include "project/Project.h"
+
 #include <QtCore/QObject>
+#include <QtCore/QString>
 
 class QWidget;
 
@@ -38,9 +41,16 @@ Q_SIGNALS:
     void movedElsewhere();
 
 private:
-    bool trySaving(bool overwrites);
+    struct Attempt
+    {
+        QString place; // empty: where the project is
+        Project::Theirs theirs = Project::Theirs::Kept;
+        Project::Encoding encoding = Project::Encoding::ItsOwn;
+    };
+    bool carryOut(const Attempt &attempt);
     bool mayOverwrite(const QString &fileName);
-    bool offerWayOut(const Error &error);
+    bool offerWayOut(const Error &error, Attempt attempt);
+    QString questionOnLeaving() const;
 
     ProjectDocument &m_document;
     QWidget &m_window;

@@ -13,9 +13,26 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// To the second, as the work's time is.
+bool isOlderThanFiles(const RecoveredWork &work, const Project &project)
+{
+    const QStringList files{project.fileName(), project.programFile()};
+    return std::ranges::any_of(files, [&work](const QString &file) {
+        const QFileInfo info(file);
+        return info.isFile() &&
+               info.lastModified().toSecsSinceEpoch() > work.when.toSecsSinceEpoch();
+    });
+}
+
+} // namespace
 
 RecoveryDialog::RecoveryDialog(const Project &project, const RecoveredWork &work, QWidget *parent)
     : QDialog(parent)
@@ -26,6 +43,9 @@ RecoveryDialog::RecoveryDialog(const Project &project, const RecoveredWork &work
     auto *label = new QLabel(tr("The workbench ended without saving this work of %1. What differs "
                                 "from the files is shown below.")
                                  .arg(when));
+    const bool isOlder = isOlderThanFiles(work, project);
+    if (isOlder)
+        label->setText(label->text() + u' ' + tr("The files are newer than this work."));
     label->setWordWrap(true);
     layout->addWidget(label);
     auto *view = new ComparisonView(this);
@@ -42,8 +62,8 @@ RecoveryDialog::RecoveryDialog(const Project &project, const RecoveredWork &work
     auto *buttons = new QDialogButtonBox(this);
     QPushButton *restore = buttons->addButton(tr("&Restore"), QDialogButtonBox::AcceptRole);
     QPushButton *discard = buttons->addButton(tr("&Discard"), QDialogButtonBox::DestructiveRole);
-    buttons->addButton(tr("Decide &Later"), QDialogButtonBox::RejectRole);
-    restore->setDefault(true);
+    QPushButton *later = buttons->addButton(tr("Decide &Later"), QDialogButtonBox::RejectRole);
+    (isOlder ? later : restore)->setDefault(true);
     connect(restore, &QPushButton::clicked, this, [this] { answerWith(Answer::Restore); });
     connect(discard, &QPushButton::clicked, this, [this] { answerWith(Answer::Discard); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

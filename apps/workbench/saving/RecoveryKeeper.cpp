@@ -87,17 +87,9 @@ void RecoveryKeeper::tick()
 
 bool RecoveryKeeper::keepNow()
 {
-    const Project *project = m_document.project();
     try {
-        RecoveredWork work{project->fileName(), {}, project->kept(), m_document.program()};
-        if (m_written == work)
+        if (!write())
             return true;
-        if (!m_own)
-            throw Error(0, {}, tr("Too many workbenches have this project open."));
-        RecoveredWork dated = work;
-        dated.when = QDateTime::currentDateTimeUtc();
-        m_own->write(recoveryText(dated));
-        m_written = std::move(work);
     } catch (const Error &error) {
         m_hasFailed = true;
         Q_EMIT failed(error.Description());
@@ -107,6 +99,32 @@ bool RecoveryKeeper::keepNow()
         Q_EMIT recovered();
     Q_EMIT kept();
     return true;
+}
+
+// False when it is in the file already. Tables that make no project do not keep the program
+// out of the file; they are told, too.
+bool RecoveryKeeper::write()
+{
+    const Project *project = m_document.project();
+    RecoveredWork work{project->fileName(), {}, project->json(), m_document.program()};
+    std::optional<Error> fault;
+    try {
+        work.json = project->kept();
+    } catch (const Error &error) {
+        fault = error;
+    }
+    if (!m_own)
+        throw Error(0, {}, tr("Too many workbenches have this project open."));
+    const bool isKept = m_written == work && m_own->isAsWritten();
+    if (!isKept) {
+        RecoveredWork dated = work;
+        dated.when = QDateTime::currentDateTimeUtc();
+        m_own->write(recoveryText(dated));
+        m_written = std::move(work);
+    }
+    if (fault)
+        throw Error(*fault);
+    return !isKept;
 }
 
 void RecoveryKeeper::drop()

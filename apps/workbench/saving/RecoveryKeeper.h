@@ -38,6 +38,7 @@ public:
         std::optional<RecoveredWork> work; // none for a file that cannot be read
         QString fileName;
     };
+    bool hasLeft() const { return !m_left.empty(); }
     std::optional<Left> left() const;
 
     // It has been dealt with: its file goes, or stays for another time.
@@ -63,6 +64,7 @@ Q_SIGNALS:
 private:
     void note();
     void tick();
+    bool write();
 
     ProjectDocument &m_document;
     QTimer *m_timer;

@@ -2,7 +2,6 @@
 
 #include "project/ProjectDocument.h"
 #include "saving/RecoveryDialog.h"
-#include "saving/RecoveryKeeper.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>
@@ -26,11 +25,15 @@ RecoveryOffer::RecoveryOffer(ProjectDocument &document, RecoveryKeeper &keeper, 
 void RecoveryOffer::makeAll()
 {
     const QPointer<RecoveryOffer> self(this); // while a dialog is open
-    while (self && !m_isAsking && m_document.project() && m_keeper.left())
-        make();
+    while (self && !m_isAsking && m_document.project() && m_keeper.hasLeft()) {
+        if (!make())
+            return;
+    }
 }
 
-void RecoveryOffer::make()
+// False when something was restored, or the window is gone: the next work that was left
+// would take the place of what is in the editor now, so it waits for the next opening.
+bool RecoveryOffer::make()
 {
     m_isAsking = true;
     const QPointer<RecoveryOffer> self(this);
@@ -43,28 +46,36 @@ void RecoveryOffer::make()
         tellUnreadable(left->fileName);
         if (self)
             m_keeper.leaveLeft();
-        return;
+        return true;
     }
-    RecoveryDialog dialog(*m_document.project(), *left->work, &m_window);
-    dialog.exec();
+    const QPointer<RecoveryDialog> dialog(
+        new RecoveryDialog(*m_document.project(), *left->work, &m_window));
+    dialog->exec();
+    if (!self || !dialog)
+        return false;
+    const RecoveryDialog::Answer answer = dialog->answer();
+    delete dialog;
+    const bool restores = answer == RecoveryDialog::Answer::Restore;
+    const bool isDone = answer == RecoveryDialog::Answer::Discard || (restores && restore(*left));
     if (!self)
-        return;
-    const bool isDone =
-        dialog.answer() == RecoveryDialog::Answer::Discard ||
-        (dialog.answer() == RecoveryDialog::Answer::Restore && restore(*left->work));
+        return false;
     if (isDone)
         m_keeper.removeLeft();
     else
         m_keeper.leaveLeft();
+    return !restores;
 }
 
-// Only what is safe in a file of our own may lose the former one.
-bool RecoveryOffer::restore(const RecoveredWork &work)
+// Only what is whole, and safe in a file of our own, may lose the former one.
+bool RecoveryOffer::restore(const RecoveryKeeper::Left &left)
 {
-    if (m_document.program() != work.program)
-        m_code.codeView()->openProgram(work.program);
-    m_document.restoreTables(work.json);
-    return !m_document.isModified() || m_keeper.keepNow();
+    if (m_document.program() != left.work->program)
+        m_code.codeView()->openProgram(left.work->program);
+    const bool isWhole = m_document.restoreTables(left.work->json);
+    const bool isKept = !m_document.isModified() || m_keeper.keepNow();
+    if (!isWhole)
+        tellUnreadable(left.fileName);
+    return isWhole && isKept;
 }
 
 void RecoveryOffer::tellUnreadable(const QString &fileName)

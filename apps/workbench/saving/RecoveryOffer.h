@@ -1,5 +1,7 @@
 #pragma once
 
+#include "saving/RecoveryKeeper.h"
+
 #include <QtCore/QObject>
 
 class QWidget;
@@ -8,8 +10,6 @@ namespace ORVTListview {
 
 class ORVListView;
 class ProjectDocument;
-class RecoveryKeeper;
-struct RecoveredWork;
 
 // Offers the user what former workbenches left of the project that is open.
 class RecoveryOffer : public QObject
@@ -24,8 +24,8 @@ public:
     void makeAll();
 
 private:
-    void make();
-    bool restore(const RecoveredWork &work);
+    bool make();
+    bool restore(const RecoveryKeeper::Left &left);
     void tellUnreadable(const QString &fileName);
 
     ProjectDocument &m_document;
