@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>The printer does not take the program.</source>
-        <translation>L&apos;imprimante n&apos;accepte pas le programme.</translation>
+        <translation>L’imprimante n’accepte pas le programme.</translation>
     </message>
     <message>
         <source>%1: the pages cannot be made</source>
@@ -472,7 +472,7 @@
     </message>
     <message>
         <source>Workbench of ORVTListview %1</source>
-        <translation>Atelier d&apos;ORVTListview %1</translation>
+        <translation>Atelier d’ORVTListview %1</translation>
     </message>
     <message>
         <source>It writes, checks and shows the programs of controllers and their points.
@@ -829,7 +829,7 @@ Le supprimer&#xa0;?</translation>
     </message>
     <message>
         <source>There is no name here.</source>
-        <translation>Il n&apos;y a pas de nom ici.</translation>
+        <translation>Il n’y a pas de nom ici.</translation>
     </message>
 </context>
 <context>
@@ -1068,7 +1068,7 @@ Overwrite those changes?</source>
     </message>
     <message>
         <source>Hard to read on this ground: %1. The editor shows them stronger while Readable Colours is on.</source>
-        <translation>Difficile à lire sur ce fond&#xa0;: %1. L&apos;éditeur les renforce tant que Couleurs lisibles est activé.</translation>
+        <translation>Difficile à lire sur ce fond&#xa0;: %1. L’éditeur les renforce tant que Couleurs lisibles est activé.</translation>
     </message>
     <message>
         <source>Font</source>

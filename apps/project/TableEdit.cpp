@@ -16,16 +16,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Member
+struct RowMember
 {
     QString name;
     QVariant value; // invalid for none
 };
 
 // What the file may say of a row; `number` from 1 is what data is when left out.
-QList<Member> membersOf(const ProjectRow &row, LwType type, qsizetype number)
+QList<RowMember> membersOf(const ProjectRow &row, LwType type, qsizetype number)
 {
-    QList<Member> members;
+    QList<RowMember> members;
     const QList<ProjectColumn> &columns = projectColumns(type);
     for (qsizetype column = 0; column < columns.size(); ++column)
         members.append({columns.at(column).member, row.cellsOfFile().value(column)});
@@ -36,15 +36,15 @@ QList<Member> membersOf(const ProjectRow &row, LwType type, qsizetype number)
     return members;
 }
 
-QByteArray written(const Member &member)
+QByteArray written(const RowMember &member)
 {
     return jsonText(member.name) + ": " + jsonText(member.value);
 }
 
-QByteArray writtenRow(const QList<Member> &members)
+QByteArray writtenRow(const QList<RowMember> &members)
 {
     QByteArrayList texts;
-    for (const Member &member : members) {
+    for (const RowMember &member : members) {
         if (member.value.isValid())
             texts.append(written(member));
     }
@@ -182,8 +182,8 @@ qsizetype lastInside(const QByteArray &json, const JsonPlace &place)
 }
 
 // The bytes of a row with other members. One that loses a member is written anew.
-QByteArray editedRow(const QByteArray &json, const JsonPlace &place, const QList<Member> &before,
-                     const QList<Member> &now)
+QByteArray editedRow(const QByteArray &json, const JsonPlace &place, const QList<RowMember> &before,
+                     const QList<RowMember> &now)
 {
     JsonEdit edit(json.sliced(place.start(), place.end() - place.start()), place.start());
     const qsizetype last = lastInside(json, place);
@@ -222,7 +222,7 @@ QByteArray withRows(const QByteArray &json, const QString &fileName, LwType type
     const QList<qsizetype> partners = partnersOf(before, now);
     for (qsizetype i = 0; i < now.size(); ++i) {
         const qsizetype former = partners.at(i);
-        const QList<Member> members = membersOf(now.at(i), type, i + 1);
+        const QList<RowMember> members = membersOf(now.at(i), type, i + 1);
         text.append(former < 0 ? writtenRow(members)
                                : editedRow(json, text.item(former),
                                            membersOf(before.at(former), type, former + 1), members),

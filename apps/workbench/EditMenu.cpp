@@ -1,9 +1,9 @@
 #include "EditMenu.h"
 
 #include "LinesMenu.h"
-#include "renaming/ProjectHistory.h"
 #include "widgets/box/BoxCommands.h"
 #include "workbench/export/ColouredCopy.h"
+#include "workbench/renaming/ProjectHistory.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>

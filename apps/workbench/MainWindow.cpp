@@ -21,13 +21,13 @@
 #include "project/PointReferences.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
-#include "renaming/PointRenaming.h"
-#include "renaming/ProjectHistory.h"
-#include "saving/ProjectSaving.h"
-#include "saving/RecoveryKeeper.h"
-#include "saving/RecoveryOffer.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/help/HelpMenu.h"
+#include "workbench/renaming/PointRenaming.h"
+#include "workbench/renaming/ProjectHistory.h"
+#include "workbench/saving/ProjectSaving.h"
+#include "workbench/saving/RecoveryKeeper.h"
+#include "workbench/saving/RecoveryOffer.h"
 #include "workbench/settings/SettingsDialog.h"
 
 #include <ORVTListview/CodeView.h>

@@ -280,7 +280,7 @@ class Session:
         self._picture("13-name")
         bench.keys("Return")
         bench.wait_for_window("Rename — Workbench")
-        bench.keys("Tab", "Return")  # not in the program
+        bench.keys("space", "Return")  # not in the program
         bench.wait_for_window(CHANGED_TITLE)
         bench.keys("F5")
         self._picture("14-reading")

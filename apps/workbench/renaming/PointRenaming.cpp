@@ -1,10 +1,10 @@
-#include "renaming/PointRenaming.h"
+#include "workbench/renaming/PointRenaming.h"
 
 #include "project/PointUses.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
-#include "renaming/RenameDialog.h"
 #include "widgets/box/BoxCommands.h"
+#include "workbench/renaming/RenameDialog.h"
 
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/RichTextBox.h>

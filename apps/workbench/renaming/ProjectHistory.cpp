@@ -1,4 +1,4 @@
-#include "renaming/ProjectHistory.h"
+#include "workbench/renaming/ProjectHistory.h"
 
 #include "base/TextPiece.h"
 #include "project/ProjectDocument.h"

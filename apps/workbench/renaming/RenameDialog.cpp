@@ -1,4 +1,4 @@
-#include "renaming/RenameDialog.h"
+#include "workbench/renaming/RenameDialog.h"
 
 #include "project/ProjectColumns.h"
 #include "shared/points/DisplayNames.h"

@@ -1,4 +1,4 @@
-#include "saving/ComparisonView.h"
+#include "workbench/saving/ComparisonView.h"
 
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QHeaderView>

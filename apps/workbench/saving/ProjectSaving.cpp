@@ -1,4 +1,4 @@
-#include "saving/ProjectSaving.h"
+#include "workbench/saving/ProjectSaving.h"
 
 #include "project/ProjectDocument.h"
 #include "project/ProjectError.h"

@@ -1,8 +1,8 @@
-#include "saving/RecoveryDialog.h"
+#include "workbench/saving/RecoveryDialog.h"
 
 #include "project/Project.h"
 #include "project/RecoveryFile.h"
-#include "saving/ComparisonView.h"
+#include "workbench/saving/ComparisonView.h"
 
 #include "base/TextRules.h"
 

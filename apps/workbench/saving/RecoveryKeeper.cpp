@@ -1,4 +1,4 @@
-#include "saving/RecoveryKeeper.h"
+#include "workbench/saving/RecoveryKeeper.h"
 
 #include "project/ProjectDocument.h"
 

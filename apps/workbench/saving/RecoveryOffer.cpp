@@ -1,7 +1,7 @@
-#include "saving/RecoveryOffer.h"
+#include "workbench/saving/RecoveryOffer.h"
 
 #include "project/ProjectDocument.h"
-#include "saving/RecoveryDialog.h"
+#include "workbench/saving/RecoveryDialog.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "saving/RecoveryKeeper.h"
+#include "workbench/saving/RecoveryKeeper.h"
 
 #include <QtCore/QObject>
 

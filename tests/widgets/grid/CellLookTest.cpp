@@ -148,7 +148,8 @@ private Q_SLOTS:
         const int fitting = shown->columnWidth(0);
         const QImage without = shown.picture(1, 0);
         const std::pair own = reds();
-        QCOMPARE(own.second, 16 * 16);
+        const auto ratio = static_cast<int>(without.devicePixelRatio() * 2);
+        QCOMPARE(own.second, 16 * 16 * ratio * ratio / 4);
         shown.grid->setCellState(shown.item(1), 0, CellState::Manual);
         shown->fitColumns();
         QCOMPARE(reds(), own);

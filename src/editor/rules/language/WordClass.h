@@ -45,7 +45,7 @@ struct ClassStyle
     friend bool operator==(const ClassStyle &, const ClassStyle &) = default;
 };
 
-ORVT_HOUSE_EXPORT ClassStyle styleOf(WordClass wordClass, const RichTextSettings &settings);
+ClassStyle styleOf(WordClass wordClass, const RichTextSettings &settings);
 
 // The class of the points that have this colour; Other for none.
 WordClass classOfColour(qint32 colour);
