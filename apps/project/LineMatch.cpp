@@ -86,7 +86,7 @@ public:
                 now.begin = anchor.now + 1;
             }
             if (!anchors.isEmpty())
-                open.push_back({before, now});
+                open.emplace_back(before, now);
         }
         return m_partners;
     }

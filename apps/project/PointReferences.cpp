@@ -21,7 +21,7 @@ bool namesPoint(LwType type, const ProjectColumn &column)
 {
     struct Reference
     {
-        LwType type;
+        LwType type = dsCode;
         QStringView member;
     };
     static constexpr std::array references{

@@ -175,7 +175,7 @@ ProgramFile::ProgramFile(const QByteArray &bytes)
     struct Form
     {
         QByteArrayView mark;
-        Encoding encoding;
+        Encoding encoding = Utf8;
     };
     static constexpr std::array forms{Form{byteOrderMark, Utf8},
                                       Form{"\xFF\xFE", Utf16LittleEndian},
@@ -191,7 +191,7 @@ ProgramFile::ProgramFile(const QByteArray &bytes)
         }
     }
     m_raw = fromWindows1252(bytes);
-    m_encoding = Windows1252;
+    m_encoding = Windows1252; // NOLINT(cppcoreguidelines-prefer-member-initializer)
 }
 
 QString ProgramFile::text() const

@@ -76,12 +76,12 @@ Project::Project(const QString &fileName)
 Project::Project(const QString &fileName, ProjectContents contents)
     : m_fileName(fileName)
     , m_contents(std::move(contents))
+    , m_saved(m_contents.rows)
 {
     for (const LwType type : projectTypes()) {
         if (isVocabularyType(type))
             fillPoints(type);
     }
-    m_saved = m_contents.rows;
     m_shown = program();
     for (const ProjectFamily &family : m_contents.indexedNames)
         m_indexedNames.Add(family.name, family.numberFormat, family.lowerBound, family.upperBound);
@@ -106,7 +106,7 @@ QString Project::nameFault(LwType type, qsizetype row, const QString &name) cons
 {
     if (nameColumn(type) < 0 || !isPointName(name))
         return ProjectTexts::tr("\"%1\" is not the name of a point").arg(name);
-    const QString fault = isVocabularyType(type) ? pointNameFault(name, m_indexedNames) : QString();
+    QString fault = isVocabularyType(type) ? pointNameFault(name, m_indexedNames) : QString();
     if (fault.isEmpty() && hasAnother(type, row, name))
         return ProjectTexts::tr("Another point has the name \"%1\"").arg(name);
     return fault;

@@ -21,7 +21,7 @@ struct ProjectColumn
 {
     QString key;    // the column's English header
     QString member; // where the project file has it
-    CellKind kind;
+    CellKind kind = CellKind::Text;
 };
 
 // The columns of a type, in the order in which the table shows them; none for

@@ -155,7 +155,10 @@ private:
         return ',' + blanksOf(between(like));
     }
 
-    static QByteArray blanksOf(QByteArray text) { return text.sliced(text.indexOf(',') + 1); }
+    static QByteArray blanksOf(const QByteArray &text)
+    {
+        return text.sliced(text.indexOf(',') + 1);
+    }
 
     QByteArray behindLast() const
     {
