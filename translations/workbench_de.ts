@@ -1216,8 +1216,12 @@ Diese Änderungen überschreiben?</translation>
         <translation>Anweisungen exportieren</translation>
     </message>
     <message>
-        <source>Text (*.txt);;Values separated by commas (*.csv)</source>
-        <translation>Text (*.txt);;Durch Kommas getrennte Werte (*.csv)</translation>
+        <source>Text (*.txt)</source>
+        <translation>Text (*.txt)</translation>
+    </message>
+    <message>
+        <source>Values separated by commas (*.csv)</source>
+        <translation>Durch Kommas getrennte Werte (*.csv)</translation>
     </message>
     <message>
         <source>Line</source>

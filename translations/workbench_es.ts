@@ -1216,8 +1216,12 @@ Overwrite those changes?</source>
         <translation>Exportar instrucciones</translation>
     </message>
     <message>
-        <source>Text (*.txt);;Values separated by commas (*.csv)</source>
-        <translation>Texto (*.txt);;Valores separados por comas (*.csv)</translation>
+        <source>Text (*.txt)</source>
+        <translation>Texto (*.txt)</translation>
+    </message>
+    <message>
+        <source>Values separated by commas (*.csv)</source>
+        <translation>Valores separados por comas (*.csv)</translation>
     </message>
     <message>
         <source>Line</source>

@@ -1216,8 +1216,12 @@ Overwrite those changes?</source>
         <translation>Exporter les instructions</translation>
     </message>
     <message>
-        <source>Text (*.txt);;Values separated by commas (*.csv)</source>
-        <translation>Texte (*.txt);;Valeurs séparées par des virgules (*.csv)</translation>
+        <source>Text (*.txt)</source>
+        <translation>Texte (*.txt)</translation>
+    </message>
+    <message>
+        <source>Values separated by commas (*.csv)</source>
+        <translation>Valeurs séparées par des virgules (*.csv)</translation>
     </message>
     <message>
         <source>Line</source>

@@ -30,7 +30,8 @@ void exportStatements(QWidget &window, const QList<ListedStatement> &statements,
     const QFileInfo program(programFile);
     const QString file = askWhereToSave(
         window, title,
-        StatementExport::tr("Text (*.txt);;Values separated by commas (*.csv)").split(u";;"_s),
+        {StatementExport::tr("Text (*.txt)"),
+         StatementExport::tr("Values separated by commas (*.csv)")},
         program.path(), programFile.isEmpty() ? QString() : program.fileName() + u".txt"_s);
     if (file.isEmpty())
         return;

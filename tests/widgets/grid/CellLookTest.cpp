@@ -75,6 +75,15 @@ class CellLookTest : public WidgetTest
 {
     Q_OBJECT
 
+private:
+    // As large as at 100 %.
+    static QImage inPoints(const QImage &picture)
+    {
+        QImage scaled = picture.scaled(picture.deviceIndependentSize().toSize());
+        scaled.setDevicePixelRatio(1);
+        return scaled;
+    }
+
 private Q_SLOTS:
     void aStateIsSeenSpokenAndInTheToolTip()
     {
@@ -131,7 +140,7 @@ private Q_SLOTS:
         PaintedGrid shown;
         shown->setPictureProvider([&red](const QString &) { return QIcon(red); });
         const auto reds = [&shown] {
-            const QImage image = shown.picture(1, 0);
+            const QImage image = inPoints(shown.picture(1, 0));
             int first = -1;
             int count = 0;
             for (int x = 0; x < image.width(); ++x) {
@@ -146,16 +155,15 @@ private Q_SLOTS:
         shown.item(1)->setPictureKey(u"red"_s);
         shown->fitColumns();
         const int fitting = shown->columnWidth(0);
-        const QImage without = shown.picture(1, 0);
+        const QImage without = inPoints(shown.picture(1, 0));
         const std::pair own = reds();
-        const auto ratio = static_cast<int>(without.devicePixelRatio() * 2);
-        QCOMPARE(own.second, 16 * 16 * ratio * ratio / 4);
+        QCOMPARE(own.second, 16 * 16);
         shown.grid->setCellState(shown.item(1), 0, CellState::Manual);
         shown->fitColumns();
         QCOMPARE(reds(), own);
         QVERIFY(shown->columnWidth(0) >= fitting + 16);
         const QRect behind(own.first + 16, 0, 24, without.height());
-        QVERIFY(shown.picture(1, 0).copy(behind) != without.copy(behind)); // the state's
+        QVERIFY(inPoints(shown.picture(1, 0)).copy(behind) != without.copy(behind)); // the state's
         shown->setLayoutDirection(Qt::RightToLeft);
         QCOMPARE(reds().first, shown->columnWidth(0) - own.first - 16);
     }
