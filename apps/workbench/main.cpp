@@ -104,7 +104,7 @@ int main(int argc, char **argv)
     const std::optional<Options> options = readOptions(application);
     if (!options)
         return 1;
-    // One picture is like the other, whoever's settings these are.
+    // One picture is like the other, whatever the user has decided.
     const bool isPicture = !options->screenshot.isEmpty();
     QSettings store(isPicture ? QString() : storeFile(), QSettings::IniFormat);
     Settings stored;
