@@ -1,9 +1,8 @@
 #pragma once
 
+#include "base/TextHash.h"
 #include "tree/rules/PageArrangement.h"
 #include <ORVTListview/Node.h>
-
-#include <QtCore/QHash>
 
 #include <optional>
 
@@ -56,7 +55,7 @@ private:
     void localise(const QString &key, const QString &english);
 
     NodeTree &m_tree;
-    QHash<QString, QString> m_shown; // the texts that stand here by our doing, by key
+    TextHash<QString> m_shown; // the texts that stand here by our doing, by key
 };
 
 } // namespace ORVTListview

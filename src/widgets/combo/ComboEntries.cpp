@@ -10,9 +10,9 @@
 namespace ORVTListview {
 namespace {
 
-QHash<QString, int> rowsByKey(const QList<ComboEntry> &entries)
+TextHash<int> rowsByKey(const QList<ComboEntry> &entries)
 {
-    QHash<QString, int> rows;
+    TextHash<int> rows;
     rows.reserve(entries.size());
     // From behind, so that the first of equal keys is the one that stays.
     for (qsizetype row = entries.size() - 1; row >= 0; --row) {
@@ -43,7 +43,7 @@ QVariant ComboEntries::data(const QModelIndex &index, int role) const
 
 void ComboEntries::setEntries(QList<ComboEntry> entries)
 {
-    QHash<QString, int> rows = rowsByKey(entries);
+    TextHash<int> rows = rowsByKey(entries);
     beginResetModel();
     m_entries = std::move(entries);
     m_rows = std::move(rows);

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/TextHash.h"
 #include "widgets/combo/ComboEntry.h"
 
 #include <QtCore/QAbstractListModel>
-#include <QtCore/QHash>
 #include <QtCore/QList>
 
 namespace ORVTListview {
@@ -44,7 +44,7 @@ public:
 
 private:
     QList<ComboEntry> m_entries;
-    QHash<QString, int> m_rows; // by key
+    TextHash<int> m_rows; // by key
     const ImageList *m_images = nullptr;
 };
 

@@ -271,7 +271,7 @@ void ReportModel::appendRows(QList<RowContent> contents)
     const Keys keys = keysOf(added);
     for (auto key = keys.keyBegin(); key != keys.keyEnd(); ++key) {
         if (m_keys.contains(*key))
-            refuseKey(*key);
+            refuseKey(key->text());
     }
     addRows(rows(), std::move(added));
 }

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "base/TextHash.h"
 #include "widgets/grid/CellTable.h"
 #include "widgets/list/ChangedCells.h"
 #include "widgets/list/ReportRow.h"
 #include "widgets/view/Positions.h"
 
 #include <QtCore/QAbstractTableModel>
-#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtGui/QIcon>
 
@@ -153,7 +153,7 @@ Q_SIGNALS:
     void checkedByUser(int position);
 
 private:
-    using Keys = QHash<QString, ReportRow *>;
+    using Keys = TextHash<ReportRow *>;
 
     // Begins a change: who is told that it is about to come cannot make another one within
     // it, which raises Error (InvalidCall).

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QtCore/QHash>
+#include "base/TextHash.h"
+
 #include <QtCore/QString>
 #include <QtGui/QFont>
 #include <QtGui/QFontMetricsF>
@@ -36,7 +37,7 @@ private:
     QFont m_font;
     QFontMetricsF m_metrics;
     std::vector<float> m_steps; // from one letter of Latin-1 to the next
-    QHash<QString, int> m_measured;
+    TextHash<int> m_measured;
 };
 
 } // namespace ORVTListview

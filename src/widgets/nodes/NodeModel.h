@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/TextHash.h"
 #include "widgets/nodes/TreeNode.h"
 #include "widgets/view/Positions.h"
 
 #include <QtCore/QAbstractItemModel>
-#include <QtCore/QHash>
 #include <QtGui/QIcon>
 
 #include <functional>
@@ -90,7 +90,7 @@ private:
     TreeNode m_root;
     std::vector<TreeNode *> m_order;
     Positions m_positions;
-    QHash<QString, TreeNode *> m_keys;
+    TextHash<TreeNode *> m_keys;
     PictureProvider m_pictures;
     bool m_checkBoxes = false;
     bool m_filling = false;
