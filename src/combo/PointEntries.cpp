@@ -57,7 +57,9 @@ QList<ComboEntry> pointEntries(qint32 type)
     const HostReference<PointCollection> &points =
         threadPart<Vocabulary>().collections().*(kind->source);
     const qint32 image = styleOfType(type, RichTextSettings()).ImageIndex;
-    for (const Point &point : HostPoints::read(points, QStringLiteral("FillDataListview")))
+    const QList<Point> all = HostPoints::read(points, QStringLiteral("FillDataListview"));
+    entries.reserve(all.size());
+    for (const Point &point : all)
         entries.append({.key = point.Name,
                         .text = point.Name,
                         .image = image,
