@@ -282,14 +282,14 @@ void CellEdit::goOn()
 }
 
 // What the writer says, told to the host; none when the list is gone.
-std::optional<QList<CellRefusal>> CellEdit::asked(const QList<CellEntry> &entries)
+std::optional<QList<CellRefusal>> CellEdit::asked(QList<CellEntry> entries)
 {
-    for (const CellEntry &entry : entries) {
+    for (const CellEntry &entry : std::as_const(entries)) {
         if (isKept(entry.item, entry.column))
             m_kept.reset();
     }
     const QPointer<CellEdit> self(this);
-    const auto refusals = m_tools.writer.enter(entries);
+    const auto refusals = m_tools.writer.enter(std::move(entries));
     if (self && refusals && !refusals->isEmpty() && m_tellRefusals)
         m_tellRefusals(*refusals);
     if (self)
@@ -339,11 +339,11 @@ bool CellEdit::isKept(const ListItem *item, int column) const
     return m_kept && m_kept->item == item && m_kept->column == column;
 }
 
-bool CellEdit::enter(const QList<CellEntry> &entries)
+bool CellEdit::enter(QList<CellEntry> entries)
 {
     if (waits([this, entries] { enter(entries); }))
         return false;
-    const auto refusals = asked(entries);
+    const auto refusals = asked(std::move(entries));
     if (refusals && !refusals->isEmpty())
         show(*refusals);
     return refusals && refusals->isEmpty();

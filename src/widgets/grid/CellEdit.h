@@ -71,7 +71,7 @@ public:
     // Enters texts, and tells and shows what keeps them from being taken. False then, when a
     // host has destroyed the list, and while it is being asked: then they are entered
     // afterwards.
-    bool enter(const QList<CellEntry> &entries);
+    bool enter(QList<CellEntry> entries);
     void refuse(const QList<CellRefusal> &refusals);
 
     // To the next cell that is shown; false at the edge.
@@ -113,7 +113,7 @@ private:
     bool waits(const std::function<void()> &act);
     void goOnSoon();
     void goOn();
-    std::optional<QList<CellRefusal>> asked(const QList<CellEntry> &entries);
+    std::optional<QList<CellRefusal>> asked(QList<CellEntry> entries);
     void show(const QList<CellRefusal> &refusals);
     QString sentence(const QList<CellRefusal> &refusals, const ListItem *item, int column) const;
     void correct(const Entered &entered, const QList<CellRefusal> &refusals);

@@ -213,7 +213,9 @@ void CellSteps::step(void (QUndoStack::*act)())
 void CellSteps::forget()
 {
     m_unkept.clear();
-    if (m_own && !StackUse::isUsed(m_own))
+    if (m_own && StackUse::isUsed(m_own))
+        StackUse::next(m_own, {&m_writer, [this] { m_own->clear(); }});
+    else if (m_own)
         m_own->clear();
 }
 

@@ -15,20 +15,19 @@ CellWriter::CellWriter(CellTable &table, const GridRules &rules)
 {
 }
 
-bool CellWriter::isThere(const CellEntry &entry) const
+// By the rule first, which may write the text in another way; then by the host. None of what
+// is not there.
+QString CellWriter::refusalOf(CellEntry &entry, const CellRule &rule, bool isAsked)
 {
-    return m_table.isThere(entry.item, entry.column);
-}
-
-// By the rule first, which may write the text in another way; then by the host.
-QString CellWriter::refusalOf(CellEntry &entry, const CellRule &rule)
-{
-    const CellAnswer answer = checkedCell(rule, entry.text, QLocale());
+    const QString *held = m_table.textIn(entry.item, entry.column);
+    if (!held)
+        return {};
+    CellAnswer answer = checkedCell(rule, entry.text, QLocale());
     if (!answer.isTaken())
         return answer.refusal;
-    entry.text = answer.text;
+    entry.text = std::move(answer.text);
     QString refusal;
-    if (m_table.text(*entry.item, entry.column) != entry.text && m_host.ask)
+    if (isAsked && *held != entry.text)
         m_host.ask(entry.item, entry.column, entry.text, refusal);
     return refusal;
 }
@@ -43,18 +42,17 @@ const CellRule &CellWriter::ruleOf(int column, QHash<int, CellRule> &known) cons
     return *rule;
 }
 
-std::optional<QList<CellRefusal>> CellWriter::enter(const QList<CellEntry> &entries)
+std::optional<QList<CellRefusal>> CellWriter::enter(QList<CellEntry> entries)
 {
     if (m_isAsking)
         return std::nullopt;
     const QPointer<CellWriter> self(this);
-    QList<CellEntry> wanted = entries;
-    const QList<CellRefusal> refusals = ask(wanted);
+    const QList<CellRefusal> refusals = ask(entries);
     if (!self)
         return std::nullopt;
     if (!refusals.isEmpty())
         return refusals;
-    const QList<CellChange> changes = write(changesOf(std::move(wanted)));
+    const QList<CellChange> changes = write(changesOf(std::move(entries)));
     if (self && !changes.isEmpty() && m_keep)
         m_keep(changes);
     if (self)
@@ -73,9 +71,10 @@ QList<CellRefusal> CellWriter::ask(QList<CellEntry> &wanted)
     });
     QList<CellRefusal> refusals;
     QHash<int, CellRule> known;
+    const bool isAsked = m_host.listens && m_host.listens();
     for (CellEntry &entry : wanted) {
         const CellRule &rule = ruleOf(entry.column, known);
-        const QString reason = self && isThere(entry) ? refusalOf(entry, rule) : QString();
+        const QString reason = self ? refusalOf(entry, rule, isAsked) : QString();
         if (!self)
             return {};
         if (!reason.isEmpty())
@@ -106,20 +105,17 @@ QList<CellChange> CellWriter::changesOf(QList<CellEntry> entries) const
 }
 
 // What there was to be done.
-QList<CellChange> CellWriter::write(const QList<CellChange> &changes)
+QList<CellChange> CellWriter::write(QList<CellChange> changes)
 {
-    QList<CellChange> written;
-    written.reserve(changes.size());
-    m_table.setTexts([&] {
-        for (const CellChange &change : changes) {
-            const QString *text = m_table.textIn(change.item, change.column);
-            if (!text || change.text == change.former || *text != change.former)
-                continue;
-            m_table.setText(*change.item, change.column, change.text);
-            written.append(change);
-        }
-    });
-    return written;
+    const auto isLeftOut = [this](const CellChange &change) {
+        const QString *text = m_table.textIn(change.item, change.column);
+        if (!text || change.text == change.former || *text != change.former)
+            return true;
+        m_table.setText(*change.item, change.column, change.text);
+        return false;
+    };
+    m_table.setTexts([&] { changes.removeIf(isLeftOut); });
+    return changes;
 }
 
 bool CellWriter::revert(const QList<CellChange> &changes)

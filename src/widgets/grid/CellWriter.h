@@ -28,9 +28,11 @@ struct CellEntry
 class CellWriter final : public QObject
 {
 public:
-    // What the host is asked and told by; ask is false when it has destroyed the list.
+    // What the host is asked and told by, if it listens to questions at all; ask is false
+    // when it has destroyed the list.
     struct Host
     {
+        std::function<bool()> listens;
         std::function<bool(ListItem *, int, QString &, QString &)> ask;
         std::function<void(const QList<CellChange> &)> tell;
     };
@@ -47,7 +49,7 @@ public:
 
     // The refusals, after which nothing is changed. None at all when the list is gone, or
     // the host is still being asked.
-    std::optional<QList<CellRefusal>> enter(const QList<CellEntry> &entries);
+    std::optional<QList<CellRefusal>> enter(QList<CellEntry> entries);
 
     // Puts back what changes have changed, or does it again. What is gone or holds another
     // text by now stays. False when nothing was changed. The host is told by tellRepeated,
@@ -59,10 +61,9 @@ public:
 private:
     QList<CellRefusal> ask(QList<CellEntry> &wanted);
     void tell(QList<CellChange> changes) const;
-    QString refusalOf(CellEntry &entry, const CellRule &rule);
+    QString refusalOf(CellEntry &entry, const CellRule &rule, bool isAsked);
     const CellRule &ruleOf(int column, QHash<int, CellRule> &known) const;
-    bool isThere(const CellEntry &entry) const;
-    QList<CellChange> write(const QList<CellChange> &changes);
+    QList<CellChange> write(QList<CellChange> changes);
     QList<CellChange> changesOf(QList<CellEntry> entries) const;
 
     CellTable &m_table;

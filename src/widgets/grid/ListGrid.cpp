@@ -6,6 +6,7 @@
 #include "widgets/grid/GridParts.h"
 #include <ORVTListview/PropertyBag.h>
 
+#include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
 #include <QtCore/QSet>
 #include <QtCore/QUrl>
@@ -42,7 +43,13 @@ QString layoutName(const QString &table)
 ListGrid::ListGrid(std::unique_ptr<GridParts> parts)
     : d(std::move(parts))
 {
-    d->writer.setHost({.ask =
+    d->writer.setHost({.listens =
+                           [this] {
+                               static const QMetaMethod asking =
+                                   QMetaMethod::fromSignal(&ListGrid::cellEntering);
+                               return isSignalConnected(asking);
+                           },
+                       .ask =
                            [this](ListItem *item, int column, QString &text, QString &refusal) {
                                return raiseEvent(*this, &ListGrid::cellEntering, item,
                                                  static_cast<qint16>(column), text, refusal);

@@ -1,7 +1,6 @@
 #include "widgets/list/ReportHeader.h"
 
 #include "base/EventGuard.h"
-#include "widgets/list/KeptColumns.h"
 #include "widgets/list/ReportModel.h"
 #include "widgets/look/CellText.h"
 #include "widgets/look/PlainToolTip.h"
@@ -21,7 +20,8 @@ namespace ORVTListview {
 
 ReportHeader::ReportHeader(QWidget *parent, const KeptColumns &kept)
     : QHeaderView(Qt::Horizontal, parent)
-    , m_kept(&kept)
+    , m_seen(*this, kept)
+    , m_mouse(*this, m_seen, [this](int column) { return pictureOf(column); })
 {
     setSectionsClickable(true);
     setHighlightSections(false);
@@ -32,7 +32,7 @@ ReportHeader::ReportHeader(QWidget *parent, const KeptColumns &kept)
 
 bool ReportHeader::isHeld() const
 {
-    return m_isHeld;
+    return m_isHeld || m_mouse.isResizing();
 }
 
 void ReportHeader::mousePressEvent(QMouseEvent *event)
@@ -66,12 +66,13 @@ bool ReportHeader::viewportEvent(QEvent *event)
         const bool isUp = !QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
         if (isUp && (event->type() == QEvent::MouseMove || event->type() == QEvent::Leave))
             m_isHeld = false; // its release went elsewhere
+        const auto toToolkit = [this](QEvent &given) { return QHeaderView::viewportEvent(&given); };
         if (auto *mouse = dynamic_cast<QMouseEvent *>(event))
-            return deliverShifted(*mouse);
+            return m_mouse.deliver(*mouse, toToolkit);
         if (event->type() != QEvent::ToolTip)
             return QHeaderView::viewportEvent(event);
         const auto *help = static_cast<QHelpEvent *>(event);
-        const int column = columnAt(help->pos());
+        const int column = m_seen.columnAt(help->pos().x());
         const QString text = column >= 0 && isElided(column)
                                  ? model()->headerData(column, Qt::Horizontal).toString()
                                  : QString();
@@ -80,69 +81,18 @@ bool ReportHeader::viewportEvent(QEvent *event)
     });
 }
 
-int ReportHeader::columnAt(QPoint place) const
+// As it is seen under the mouse while it is dragged.
+QPixmap ReportHeader::pictureOf(int column) const
 {
-    return logicalIndexAt(place.x() - (m_kept ? m_kept->shiftAt(place.x()) : 0));
-}
-
-// What happens to a column that stays in sight happens to it where the toolkit has it; while
-// a button is held, to the one that it was pressed on.
-bool ReportHeader::deliverShifted(QMouseEvent &event)
-{
-    if (actOnDivider(event))
-        return true;
-    const bool isHeldOn = event.type() == QEvent::MouseButtonRelease ||
-                          (event.type() == QEvent::MouseMove && event.buttons() != Qt::NoButton);
-    if (!isHeldOn)
-        m_pressedShift = m_kept ? m_kept->shiftAt(event.position().toPoint().x()) : 0;
-    if (m_pressedShift == 0)
-        return QHeaderView::viewportEvent(&event);
-    QMouseEvent shifted(event.type(), event.position() - QPointF(m_pressedShift, 0),
-                        event.scenePosition(), event.globalPosition(), event.button(),
-                        event.buttons(), event.modifiers(), event.pointingDevice());
-    const bool isHandled = QHeaderView::viewportEvent(&shifted);
-    event.setAccepted(shifted.isAccepted());
-    return isHandled;
-}
-
-int ReportHeader::keptDividerAt(int x) const
-{
-    const int grip = style()->pixelMetric(QStyle::PM_HeaderGripMargin, nullptr, this);
-    for (const int column : m_kept && m_kept->shiftAt(x) != 0 ? m_kept->columns() : QList<int>()) {
-        const int left = sectionViewportPosition(column) + m_kept->shift(column);
-        const int divider = isRightToLeft() ? left : left + sectionSize(column);
-        if (std::abs(x - divider) <= grip && sectionResizeMode(column) == Interactive)
-            return column;
-    }
-    return -1;
-}
-
-// Of a column that stays in sight: the toolkit passes over the mouse where it has them, beyond
-// its edge.
-bool ReportHeader::actOnDivider(const QMouseEvent &event)
-{
-    const int x = event.position().toPoint().x();
-    const int place = isRightToLeft() ? -x : x;
-    const bool isOver = keptDividerAt(x) >= 0;
-    if (event.type() == QEvent::MouseButtonPress && event.button() == Qt::LeftButton && isOver) {
-        m_resized = keptDividerAt(x);
-        m_beside = sectionSize(m_resized) - place;
-        m_isHeld = true;
-    } else if (event.type() == QEvent::MouseMove && event.buttons() == Qt::NoButton) {
-        m_resized = -1; // its release went elsewhere
-        if (isOver)
-            setCursor(Qt::SplitHCursor);
-        else if (m_kept && m_kept->shiftAt(x) != 0)
-            unsetCursor();
-        return isOver;
-    } else if (event.type() == QEvent::MouseMove && m_resized >= 0) {
-        resizeSection(m_resized, std::max(minimumSectionSize(), place + m_beside));
-    } else if (event.type() == QEvent::MouseButtonRelease && m_resized >= 0) {
-        m_resized = -1;
-        m_isHeld = false;
-        return true;
-    }
-    return m_resized >= 0;
+    constexpr QColor shade(0, 0, 0, 45);
+    const QRect place(0, 0, sectionSize(column), viewport()->height());
+    QPixmap picture(place.size() * devicePixelRatio());
+    picture.setDevicePixelRatio(devicePixelRatio());
+    picture.fill(shade);
+    QPainter painter(&picture);
+    painter.setOpacity(0.75);
+    paintSection(&painter, place, column);
+    return picture;
 }
 
 bool ReportHeader::isElided(int column) const
@@ -176,13 +126,9 @@ QRect ReportHeader::roomForText(const QRect &section, int column) const
 void ReportHeader::paintEvent(QPaintEvent *event)
 {
     QHeaderView::paintEvent(event);
-    if (!m_kept)
-        return;
     QPainter painter(viewport());
-    for (const int column : m_kept->columns()) {
-        const int left = sectionViewportPosition(column) + m_kept->shift(column);
-        paintSection(&painter, QRect(left, 0, sectionSize(column), viewport()->height()), column);
-    }
+    for (const int column : m_seen.kept())
+        paintSection(&painter, m_seen.placeOf(column), column);
 }
 
 // The style would cut the text, and begin it elsewhere than in the cells.

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QtCore/QPointer>
+#include "widgets/list/HeaderMouse.h"
+#include "widgets/list/SeenSections.h"
+
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QStyleOption>
 
 namespace ORVTListview {
-
-class KeptColumns;
 
 // The header of a report list: says when a click is over and done with, so that a
 // receiver may do anything. Texts stand over those of the cells; one that its column
@@ -45,10 +45,7 @@ protected:
     void updateGeometries() override;
 
 private:
-    int columnAt(QPoint place) const;
-    bool deliverShifted(QMouseEvent &event);
-    int keptDividerAt(int x) const;
-    bool actOnDivider(const QMouseEvent &event);
+    QPixmap pictureOf(int column) const;
     QString text(int column) const;
     QRect roomForText(const QRect &section, int column) const;
 
@@ -57,10 +54,8 @@ private:
     void paintRank(QPainter &painter, QStyleOptionHeaderV2 option, const QRect &section,
                    int rank) const;
 
-    const QPointer<const KeptColumns> m_kept;
-    int m_pressedShift = 0;
-    int m_resized = -1; // a column that stays in sight, while the user resizes it
-    int m_beside = 0;   // how much wider it is than the place of the mouse says
+    const SeenSections m_seen;
+    HeaderMouse m_mouse;
     bool m_isHeld = false;
     bool m_isSecondClick = false;
     int m_above = 0;

@@ -11,6 +11,7 @@
 #include <QtGui/QIcon>
 
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -162,7 +163,7 @@ private:
     static Rows rowsOf(QList<RowContent> contents);
     static Keys keysOf(const Rows &rows);
     void takeShown(int place, int count);
-    void touch(const ReportRow &row, int column, const QList<int> &roles);
+    void touch(const ReportRow &row, int column, std::initializer_list<int> roles);
     void tell(const QList<ChangedCells::Block> &blocks);
     void touchAll(int firstColumn, int lastColumn, const QList<int> &roles);
     void order(const Order &positions);

@@ -29,7 +29,7 @@ const QString &ReportModel::cellText(const ReportRow &row, int column) const
     return column <= subItems.size() ? subItems.at(column - 1) : noText;
 }
 
-void ReportModel::touch(const ReportRow &row, int column, const QList<int> &roles)
+void ReportModel::touch(const ReportRow &row, int column, std::initializer_list<int> roles)
 {
     if (column >= columns())
         return;

@@ -1,75 +1,17 @@
 // The first two columns stay in sight while the others are scrolled sideways under them.
 
 #include "support/TestProgram.h"
-#include "support/WidgetPicture.h"
 #include "support/WidgetTest.h"
-#include "widgets/grid/GridFixture.h"
-#include <ORVTListview/ColumnHeader.h>
-#include <ORVTListview/ColumnHeaders.h>
-#include <ORVTListview/ListItem.h>
+#include "widgets/grid/KeptGrid.h"
 
 #include <QtGui/QAccessible>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QtTest>
-#include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Six columns of 120 pixels, of which three and a half are seen, scrolled by one and a half.
-class KeptGrid : public ShownGrid
-{
-public:
-    explicit KeptGrid(Qt::LayoutDirection direction = Qt::LeftToRight)
-    {
-        list->setLayoutDirection(direction);
-        for (int column = 0; column < 6; ++column)
-            list->setColumnWidth(column, 120);
-        for (int column = 1; column < 6; ++column)
-            set(1, column, QStringLiteral("In %1").arg(column));
-        list->setMultiSelect(true);
-        grid->setSelectsCells(true);
-        grid->setKeepsFirstColumns(true);
-        QCoreApplication::processEvents(); // the scroll bar knows the widths by then
-        scroll(180);
-    }
-    void scroll(int to) const { list->horizontalScrollBar()->setValue(to); }
-    int scrolled() const { return list->horizontalScrollBar()->value(); }
-    int width() const { return list->viewport()->width(); }
-
-    // From the edge where one begins to read.
-    QPoint at(int x, int row) const
-    {
-        const int y = list->rowViewportPosition(row - 1) + list->rowHeight(row - 1) / 2;
-        return inForm({list->isRightToLeft() ? width() - 1 - x : x, y});
-    }
-    QString under(int x, int row) const
-    {
-        const QModelIndex cell = list->indexAt(at(x, row) - inForm({}));
-        return u"%1 %2"_s.arg(cell.row() + 1).arg(cell.column());
-    }
-    int begin(int row, int column) const
-    {
-        const QRect place = list->visualRect(list->model()->index(row - 1, column));
-        return list->isRightToLeft() ? width() - 1 - place.right() : place.left();
-    }
-    QPoint head(int x) const
-    {
-        const QWidget *header = list->horizontalHeader()->viewport();
-        return header->mapTo(&form, QPoint(list->isRightToLeft() ? width() - 1 - x : x, 10));
-    }
-    QImage picture(int x, int size) const
-    {
-        const int left = list->isRightToLeft() ? width() - x - size : x;
-        return pictureOf(*list->viewport()).copy(left, 0, size, list->viewport()->height());
-    }
-};
-
-} // namespace
 
 class KeptColumnsTest : public WidgetTest
 {
@@ -180,37 +122,6 @@ private Q_SLOTS:
         QVERIFY(!field->mask().contains(QPoint(59, 5)) && field->mask().contains(QPoint(60, 5)));
         shown.scroll(0);
         QVERIFY(field->mask().isEmpty());
-    }
-
-    void theirHeadersStayToo_data() { theyStayWhereTheyAre_data(); }
-    void theirHeadersStayToo()
-    {
-        QFETCH(const Qt::LayoutDirection, direction);
-        KeptGrid shown(direction);
-        QWidget &header = *shown->horizontalHeader()->viewport();
-        const auto begin = [&] {
-            const QImage image = pictureOf(header);
-            return direction == Qt::LeftToRight
-                       ? image.copy(0, 0, 230, image.height())
-                       : image.copy(image.width() - 230, 0, 230, image.height());
-        };
-        const QImage scrolled = begin();
-        shown.scroll(60);
-        QCOMPARE(begin(), scrolled);
-        shown.scroll(180);
-        QStringList clicked;
-        connect(shown.list, &ReportList::ColumnClick, this,
-                [&](ColumnHeader *column) { clicked.append(column->Key()); });
-        shown.click(shown.head(60));
-        shown.click(shown.head(180));
-        shown.click(shown.head(330));
-        QCOMPARE(clicked.join(u' '), u"Column1 Column2 Column5"_s);
-        shown.press(shown.head(118)); // the divider behind the first
-        shown.move(shown.head(128));
-        shown.move(shown.head(138));
-        shown.release(shown.head(138));
-        QCOMPARE(shown->columnWidth(0), 140);
-        QCOMPARE(shown.begin(1, 1), 140);
     }
 
     void filterFieldsStayAboveThem()
