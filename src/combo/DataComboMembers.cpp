@@ -1,11 +1,13 @@
 #include <ORVTListview/ORVDataCombo.h>
 
+#include "members/HandedClass.h"
 #include "members/InputEvents.h"
 #include "members/TextMembers.h"
 
 namespace ORVTListview {
 
 using namespace MemberEntries;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,22 +27,43 @@ QList<Member> comboMembers()
         method<&Combo::ResetbackColor>(u"ResetbackColor", u"Color"),
         method<&Combo::UpdateListWidth>(u"UpdateListWidth"),
         writeOnly<&Combo::setFormParentHandle>(u"FormParentHandle"),
+        readWrite<&Combo::dragsEntry, &Combo::setDragsEntry>(u"dragsEntry"),
     };
 }
 
 QList<Member> comboEvents()
 {
     return QList{raises<&Combo::Change>(1, u"Change")} + clickEvents<Combo>(2) +
-           keyEvents<Combo>(4) + dragEvents<Combo>(7);
+           keyEvents<Combo>(4) + dragEvents<Combo>(7) +
+           QList{raises<&Combo::picked>(13, u"picked")};
 }
+
+QList<MemberFacts> facts()
+{
+    return {
+        {.name = u"FillDataListview"_s, .range = u"TypeIndex: 1 to 4; others change nothing"_s},
+        {.name = u"ItemData"_s, .range = u"0 to ListCount less 1; 0 outside"_s},
+        {.name = u"ListCount"_s, .unit = u"points"_s, .range = u"0 to 32767"_s},
+        {.name = u"ListIndex"_s, .range = u"-1 to 32767"_s},
+        {.name = u"ResetbackColor"_s, .unit = u"colour"_s},
+    };
+}
+
+const MemberTable &comboTable()
+{
+    static const MemberTable table(u"ORVDataCombo"_s,
+                                   comboMembers() + textMembers<Combo>() + comboEvents(),
+                                   facts() + keyFacts() + dragFacts());
+    return table;
+}
+
+const HandedClass handed(QMetaType::fromType<ORVDataCombo *>(), &comboTable);
 
 } // namespace
 
 const MemberTable &ORVDataCombo::Members() const
 {
-    static const MemberTable table(QStringLiteral("ORVDataCombo"),
-                                   comboMembers() + textMembers<Combo>() + comboEvents());
-    return table;
+    return comboTable();
 }
 
 } // namespace ORVTListview

@@ -1,11 +1,13 @@
 #include <ORVTListview/ORVRichText.h>
 
+#include "members/HandedClass.h"
 #include "members/InputEvents.h"
 #include "members/TextMembers.h"
 
 namespace ORVTListview {
 
 using namespace MemberEntries;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -51,14 +53,21 @@ QList<Member> hostEvents()
     };
 }
 
+const MemberTable &shellTable()
+{
+    static const MemberTable table(
+        u"ORVRichText"_s, shellMembers() + textMembers<Shell>() + inputEvents() + hostEvents(),
+        inputFacts());
+    return table;
+}
+
+const HandedClass handed(QMetaType::fromType<ORVRichText *>(), &shellTable);
+
 } // namespace
 
 const MemberTable &ORVRichText::Members() const
 {
-    static const MemberTable table(QStringLiteral("ORVRichText"), shellMembers() +
-                                                                      textMembers<Shell>() +
-                                                                      inputEvents() + hostEvents());
-    return table;
+    return shellTable();
 }
 
 } // namespace ORVTListview

@@ -9,7 +9,8 @@ import subprocess
 import sys
 import tempfile
 
-EXAMPLES = ("minimal", "latebound", "form")
+EXAMPLES = ("minimal", "whole", "latebound", "form")
+WITHOUT_CMAKE = ("minimal", "whole", "latebound")
 
 
 def run(*command, **options):
@@ -95,8 +96,9 @@ def main():
         for name in EXAMPLES:
             program = build_with_cmake(hosts / name, prefix, arguments.quit_soon, environment)
             run_host(program, environment, arguments.expected / f"{name}.txt")
-        program = build_with_pkg_config(hosts / "minimal", prefix, arguments.quit_soon, environment)
-        run_host(program, environment, arguments.expected / "minimal.txt")
+        for name in WITHOUT_CMAKE:
+            program = build_with_pkg_config(hosts / name, prefix, arguments.quit_soon, environment)
+            run_host(program, environment, arguments.expected / f"{name}.txt")
 
 
 if __name__ == "__main__":

@@ -1,0 +1,104 @@
+#include "members/HandedClass.h"
+#include "members/InputEvents.h"
+#include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/Error.h>
+#include <ORVTListview/ListGrid.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/ReportList.h>
+
+namespace ORVTListview {
+
+using namespace MemberEntries;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using List = ReportList;
+
+QList<Member> rowMembers()
+{
+    return {
+        readOnly<&List::ListItems>(u"ListItems"),
+        readOnly<&List::ColumnHeaders>(u"ColumnHeaders"),
+        method<&List::Add>(u"Add", optional(u"Index"), optional(u"Key"), optional(u"Text")),
+        method<&List::Clear>(u"Clear"),
+        method<&List::setRows>(u"setRows", u"rows"),
+        method<&List::appendRows>(u"appendRows", u"rows"),
+        method<&List::UpdateSubItems>(u"UpdateSubItems", u"Value", u"TagValue", u"SubIndex"),
+        method<&List::FindItem>(u"FindItem", u"sz", optional(u"Where"), optional(u"Index", 1),
+                                optional(u"fPartial")),
+        method<&List::GetFirstVisible>(u"GetFirstVisible"),
+        method<&List::HitTest>(u"HitTest", u"X", u"Y"),
+        readWrite<&List::SelectedItem, &List::setSelectedItem>(u"SelectedItem"),
+        method<&List::goToRow>(u"goToRow", u"Index"),
+    };
+}
+
+QList<Member> mannerMembers()
+{
+    return {
+        readWrite<&List::MultiSelect, &List::setMultiSelect>(u"MultiSelect"),
+        method<&List::StartLabelEdit>(u"StartLabelEdit"),
+        method<&List::Refresh>(u"Refresh"),
+        method<&List::Drag>(u"Drag", u"Action"),
+        method<&List::fitColumns>(u"fitColumns"),
+        method<&List::GetSubItemWidth>(u"GetSubItemWidth", u"Index"),
+        readOnly<&List::grid>(u"grid"),
+        readWrite<&List::hasCheckBoxes, &List::setCheckBoxes>(u"checkBoxes"),
+        readWrite<&List::copiesRows, &List::setCopiesRows>(u"copiesRows"),
+        readWrite<&List::editsLabels, &List::setEditsLabels>(u"editsLabels"),
+        readWrite<&List::labelColumn, &List::setLabelColumn>(u"labelColumn"),
+        readWrite<&List::isHeaderVisible, &List::setHeaderVisible>(u"headerVisible"),
+    };
+}
+
+// The numbers are those of the table control, whose events these are.
+QList<Member> listEvents()
+{
+    const QList<Member> own{
+        raises<&List::AfterLabelEdit>(1, u"AfterLabelEdit", u"Cancel", u"NewString"),
+        raises<&List::BeforeLabelEdit>(2, u"BeforeLabelEdit", u"Cancel"),
+        raises<&List::Click>(3, u"Click"),
+        raises<&List::ColumnClick>(4, u"ColumnClick", u"ColumnHeader"),
+        raises<&List::DblClick>(5, u"DblClick"),
+        raises<&List::ItemCheck>(6, u"ItemCheck", u"Item"),
+        raises<&List::ItemClick>(7, u"ItemClick", u"Item"),
+    };
+    return own + keyEvents<List>(8) + mouseEvents<List>(11) + dragEvents<List>(14);
+}
+
+QList<MemberFacts> facts()
+{
+    return {
+        {.name = u"Add"_s,
+         .range = u"Index: 0 to Count() + 1"_s,
+         .failures = {InvalidCall, SubscriptOutOfRange}},
+        {.name = u"setRows"_s, .failures = {InvalidCall}},
+        {.name = u"appendRows"_s, .failures = {InvalidCall}},
+        {.name = u"UpdateSubItems"_s,
+         .range = u"SubIndex: 1 to the number of columns less 1"_s,
+         .failures = {SubscriptOutOfRange}},
+        {.name = u"FindItem"_s,
+         .range = u"Where: 0 to 2; fPartial: 0 to 1"_s,
+         .failures = {InvalidCall}},
+        {.name = u"HitTest"_s, .unit = u"twip"_s},
+        {.name = u"SelectedItem"_s, .failures = {InvalidCall, ObjectNotSet}},
+        {.name = u"goToRow"_s, .range = u"0 to Count()"_s, .failures = {SubscriptOutOfRange}},
+        {.name = u"Drag"_s, .range = u"1 and 2"_s},
+        {.name = u"GetSubItemWidth"_s, .unit = u"twip"_s, .range = u"Index: from 0"_s},
+        {.name = u"labelColumn"_s, .range = u"from 0"_s, .failures = {SubscriptOutOfRange}},
+    };
+}
+
+const MemberTable &listTable()
+{
+    static const MemberTable table(u"ReportList"_s, rowMembers() + mannerMembers() + listEvents(),
+                                   facts() + inputFacts());
+    return table;
+}
+
+const HandedClass handed(QMetaType::fromType<ReportList *>(), &listTable);
+
+} // namespace
+
+} // namespace ORVTListview
