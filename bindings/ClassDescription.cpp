@@ -108,8 +108,12 @@ void ClassDescription::addProperty(const Member &member, QJsonObject &entry)
         entry.insert(u"changed"_s, changed);
     QVariantList none;
     QVariant value;
-    if (m_fresh && member.call && !callLate(*m_fresh, m_members, member.name, none, value))
-        entry.insert(u"default"_s, TypeDescription::value(value));
+    if (!m_fresh || !member.call || callLate(*m_fresh, m_members, member.name, none, value))
+        return;
+    const QJsonValue plain = TypeDescription::value(value);
+    const bool namesTheFont = plain.toString().startsWith(u"{\\rtf"_s);
+    if (!plain.isNull() && !namesTheFont)
+        entry.insert(u"default"_s, plain);
 }
 
 void ClassDescription::addFacts(const QString &name, QJsonObject &entry) const

@@ -1,6 +1,7 @@
 #include "TypeDescription.h"
 
 #include <QtCore/QAssociativeIterable>
+#include <QtCore/QHash>
 #include <QtCore/QJsonObject>
 #include <QtCore/QMetaEnum>
 #include <QtCore/QMetaProperty>
@@ -39,17 +40,34 @@ QMetaType heldType(QMetaType type)
     return {};
 }
 
-// Those that no meta-object lists have no names to tell.
+// Of those that no meta-object lists.
+QStringList otherNames(const QString &enumeration)
+{
+    static const QHash<QString, QStringList> names{
+        {u"CellState"_s, {u"Plain"_s, u"Changed"_s, u"Old"_s, u"Manual"_s, u"Alarm"_s}},
+        {u"ImageList::Look"_s, {u"Plain"_s, u"Pressed"_s}},
+        {u"NodeRelationship"_s, {u"First"_s, u"Last"_s, u"Next"_s, u"Previous"_s, u"Child"_s}},
+        {u"ProblemSeverity"_s, {u"Error"_s, u"Warning"_s, u"Hint"_s}},
+    };
+    return names.value(enumeration);
+}
+
+QJsonObject named(const QString &name, int value)
+{
+    return {{u"name"_s, name}, {u"value"_s, value}};
+}
+
 QJsonArray valuesOf(QMetaType type)
 {
     QJsonArray values;
+    for (const QString &other : otherNames(plainName(type)))
+        values.append(named(other, static_cast<int>(values.size())));
     const QByteArray name = QByteArray(type.name()).split(':').constLast();
     const QMetaObject *meta = type.metaObject();
     const int index = meta ? meta->indexOfEnumerator(name.constData()) : -1;
     const QMetaEnum enumeration = index < 0 ? QMetaEnum() : meta->enumerator(index);
     for (int i = 0; i < enumeration.keyCount(); ++i)
-        values.append(QJsonObject{{u"name"_s, QString::fromLatin1(enumeration.key(i))},
-                                  {u"value"_s, enumeration.value(i)}});
+        values.append(named(QString::fromLatin1(enumeration.key(i)), enumeration.value(i)));
     return values;
 }
 

@@ -23,9 +23,9 @@ struct FreshObjects
 
     QObject *of(QMetaType type)
     {
-        const QList<QObject *> all{&list,           &tree,           &combo,
-                                   &shell,          list.codeView(), list.listView(),
-                                   list.RTextBox(), &answer,         list.listView()->grid()};
+        // Not the box: its font is that of the machine.
+        const QList<QObject *> all{&list,           &tree,   &combo,      &shell,
+                                   list.codeView(), &answer, &reportList, reportList.grid()};
         for (QObject *object : all) {
             if (object->metaObject() == type.metaObject())
                 return object;
@@ -38,12 +38,14 @@ struct FreshObjects
     ORVDataCombo combo;
     ORVRichText shell;
     HoverAnswer answer;
+    ReportList reportList;
 };
 
 QJsonObject library()
 {
     FreshObjects fresh;
     TypeDescription types;
+    types.name(QMetaType::fromType<Point>()); // handed out in a QVariant
     QJsonArray classes;
     for (const QMetaType type : typesWithMembers())
         classes.append(ClassDescription(type, fresh.of(type), types).json());

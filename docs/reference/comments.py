@@ -242,7 +242,7 @@ class Header:
         owner, access, _ = self.owner[-1] if self.owner else ("", "public", False)
         name = NAME.search(re.sub(r"^template <[^;]*?> (?=\w)", "", text))
         name = name[1] if name else ""
-        if name and owner:
+        if name and owner and not text.startswith("using"):
             self.members.append((owner, name))
         if INHERITED.search(text) and not self.comment and name not in OWN_OVERRIDES \
                 and not name.startswith("~") and not known_phrase(name, owner, text):

@@ -106,6 +106,7 @@ def entries_for(name):
 def header_faults(file, headers):
     for each in file["classes"]:
         known = {entry["name"] for entry in each["members"]}
+        known |= {entry["name"] + "Changed" for entry in each["members"]}
         known |= {entry["changed"] for entry in each["members"] if "changed" in entry}
         plain = each["name"].split("<")[0]
         if plain not in headers.declared:
@@ -129,20 +130,40 @@ def listed_faults(file, headers):
             yield f"{each['name']}: its header lists no events by number"
 
 
+def values_of(body):
+    values, next_value = [], 0
+    for name, value in re.findall(r"(\w+)(?: = (-?\d+))?\s*(?:,|$)", body.strip()):
+        next_value = int(value) if value else next_value
+        values.append((name, next_value))
+        next_value += 1
+    return values
+
+
+def enumeration_faults(file, headers):
+    for each in file["enumerations"]:
+        told = [(value["name"], value["value"]) for value in each["values"]]
+        declared = headers.enumerations.get(each["name"].split("::")[-1])
+        if not told or declared != told:
+            yield f"{each['name']}: its header has other values: {declared}"
+
+
 class Headers:
     def __init__(self, source):
         sys.path.insert(0, str(source / "docs/reference"))
         from comments import Header, Tables
         self.declared = {}
         self.listed = {}
+        self.enumerations = {}
         for path in sorted((source / "src").rglob("published/*.h")):
             text = path.read_text(encoding="utf-8")
             header = Header(text, Tables(None))
             header.filtered()
             for owner, name in header.members:
                 self.declared.setdefault(owner, set()).add(name)
+            for name, body in re.findall(r"\benum (?:class )?(\w+)[^;{]*\{(.*?)\}", text, re.DOTALL):
+                self.enumerations[name] = values_of(re.sub(r"//[^\n]*", "", body))
             plain = re.sub(r"\n\s*//", "", text)
-            listed = re.search(r"// [^/]*?By number[^:]*:((?: \d+ \w+[,.])+)", plain)
+            listed = re.search(r"By number[^:]*:((?:\s+\d+ \w+[,.])+)", plain)
             if listed:
                 self.listed[path.stem] = [(int(number), name) for number, name in
                                           re.findall(r"(\d+) (\w+)", listed[1])]
@@ -159,7 +180,7 @@ def faults(file, source):
         return found
     found += [fault for each in file["classes"] for fault in number_faults(each)]
     return [*found, *type_faults(file), *header_faults(file, headers),
-            *listed_faults(file, headers)]
+            *listed_faults(file, headers), *enumeration_faults(file, headers)]
 
 
 def main():

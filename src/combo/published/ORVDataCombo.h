@@ -120,9 +120,9 @@ Q_SIGNALS:
     void listIndexChanged();
     void dragsEntryChanged();
 
-    // Beside the published events: the user has decided for the point that is selected now, by Enter,
-    // by a name typed and confirmed with Enter, or by a click in the list; also for
-    // the one that was selected already. After Change and Click.
+    // An addition, told after Change and Click: the user has decided for the point that is
+    // selected now, by Enter, by a name typed and confirmed with Enter, or by a click in
+    // the list; also for the one that was selected already.
     void picked();
 
 protected:
