@@ -1,7 +1,8 @@
-# The target "reference" makes a site of the published headers and of the guide. A
-# warning of Doxygen is an error.
+# The target "reference" makes a site of the published headers, of what the tables of
+# members know of them, and of the guide. A warning of Doxygen is an error.
 find_program(DOXYGEN doxygen)
-if(NOT DOXYGEN)
+find_package(Python3 COMPONENTS Interpreter)
+if(NOT DOXYGEN OR NOT Python3_FOUND)
     return()
 endif()
 
@@ -25,6 +26,10 @@ list(APPEND reference_headers
 string(REPLACE "${PROJECT_SOURCE_DIR}/" "${reference_source}/"
     reference_headers "${reference_headers}")
 list(JOIN reference_headers "\" \"" ORVT_REFERENCE_INPUT)
+set(comments ${reference_source}/docs/reference/comments.py)
+if(TARGET members_json)
+    set(members_option "--members '${PROJECT_BINARY_DIR}/members.json'")
+endif()
 configure_file(docs/Doxyfile.in ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/reference)
 
@@ -36,6 +41,9 @@ add_custom_target(reference
     ${remove_copy}
     VERBATIM
     COMMENT "Making the reference in ${PROJECT_BINARY_DIR}/reference/html")
+if(TARGET members_json)
+    add_dependencies(reference members_json)
+endif()
 install(DIRECTORY ${PROJECT_BINARY_DIR}/reference/html
     DESTINATION ${CMAKE_INSTALL_DOCDIR}
     COMPONENT doc

@@ -1,5 +1,6 @@
 #include <ORVTListview/ORVDataCombo.h>
 
+#include "members/HandedClass.h"
 #include "members/InputEvents.h"
 #include "members/TextMembers.h"
 
@@ -25,22 +26,45 @@ QList<Member> comboMembers()
         method<&Combo::ResetbackColor>(u"ResetbackColor", u"Color"),
         method<&Combo::UpdateListWidth>(u"UpdateListWidth"),
         writeOnly<&Combo::setFormParentHandle>(u"FormParentHandle"),
+        readWrite<&Combo::dragsEntry, &Combo::setDragsEntry>(u"dragsEntry"),
     };
 }
 
 QList<Member> comboEvents()
 {
     return QList{raises<&Combo::Change>(1, u"Change")} + clickEvents<Combo>(2) +
-           keyEvents<Combo>(4) + dragEvents<Combo>(7);
+           keyEvents<Combo>(4) + dragEvents<Combo>(7) +
+           QList{raises<&Combo::picked>(13, u"picked")};
 }
+
+QList<MemberFacts> facts()
+{
+    return {
+        {.name = u"FillDataListview"_s, .range = u"TypeIndex: 1 to 4; others change nothing"_s},
+        {.name = u"ItemData"_s, .range = u"0 to ListCount less 1; 0 outside"_s},
+        {.name = u"ListCount"_s, .unit = u"points"_s, .range = u"0 to 32767"_s},
+        {.name = u"ListIndex"_s, .range = u"-1 to 32767"_s},
+        {.name = u"ResetbackColor"_s, .unit = u"colour"_s},
+    };
+}
+
+QList<Member> allMembers()
+{
+    return comboMembers() + textMembers<Combo>() + comboEvents();
+}
+
+QList<MemberFacts> allFacts()
+{
+    return facts() + keyFacts() + dragFacts();
+}
+
+const HandedClass handed(QMetaType::fromType<ORVDataCombo *>(), &allMembers, &allFacts);
 
 } // namespace
 
 const MemberTable &ORVDataCombo::Members() const
 {
-    static const MemberTable table(QStringLiteral("ORVDataCombo"),
-                                   comboMembers() + textMembers<Combo>() + comboEvents());
-    return table;
+    return handed.table();
 }
 
 } // namespace ORVTListview

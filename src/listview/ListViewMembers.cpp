@@ -1,13 +1,16 @@
 #include <ORVTListview/ORVListView.h>
 
-#include "members/InputEvents.h"
+#include "members/HandedClass.h"
 #include "members/TextMembers.h"
+#include "widgets/list/ListEvents.h"
+#include <ORVTListview/CodeView.h>
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/DataObject.h>
 #include <ORVTListview/ImageList.h>
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
+#include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>
 
 namespace ORVTListview {
@@ -100,18 +103,19 @@ QList<Member> commandMembers()
     };
 }
 
-QList<Member> listEvents()
+// What the published control has not.
+QList<Member> addedMembers()
 {
-    const QList<Member> own{
-        raises<&List::AfterLabelEdit>(1, u"AfterLabelEdit", u"Cancel", u"NewString"),
-        raises<&List::BeforeLabelEdit>(2, u"BeforeLabelEdit", u"Cancel"),
-        raises<&List::Click>(3, u"Click"),
-        raises<&List::ColumnClick>(4, u"ColumnClick", u"ColumnHeader"),
-        raises<&List::DblClick>(5, u"DblClick"),
-        raises<&List::ItemCheck>(6, u"ItemCheck", u"Item"),
-        raises<&List::ItemClick>(7, u"ItemClick", u"Item"),
+    return {
+        readWrite<&List::labelColumn, &List::setLabelColumn>(u"labelColumn"),
+        readWrite<&List::indentUnit, &List::setIndentUnit>(u"indentUnit"),
+        readOnly<&List::listView>(u"listView"),
+        readOnly<&List::codeView>(u"codeView"),
+        method<&List::openProgram>(u"openProgram", u"Text"),
+        method<&List::restoreUnsavedText>(u"restoreUnsavedText"),
+        method<&List::ClearUndoHistory>(u"ClearUndoHistory"),
+        method<&List::showFind>(u"showFind", optional(u"IsReplace")),
     };
-    return own + keyEvents<List>(8) + mouseEvents<List>(11) + dragEvents<List>(14);
 }
 
 QList<Member> hostEvents()
@@ -128,15 +132,58 @@ QList<Member> hostEvents()
     };
 }
 
+QList<MemberFacts> tableFacts()
+{
+    return {
+        {.name = u"ListviewType"_s, .range = u"0 to 12; others are ignored"_s},
+        {.name = u"NumberItems"_s, .unit = u"rows"_s},
+        {.name = u"ChangeListviewNumber"_s, .unit = u"rows"_s},
+        {.name = u"GetSubItemWidth"_s, .unit = u"twip"_s, .range = u"Index: from 0"_s},
+        {.name = u"Add"_s,
+         .range = u"Index: 0 to Count() + 1"_s,
+         .failures = {InvalidCall, SubscriptOutOfRange}},
+        {.name = u"FindItem"_s,
+         .range = u"Where: 0 to 2; fPartial: 0 to 1"_s,
+         .failures = {InvalidCall}},
+        {.name = u"HitTest"_s, .unit = u"twip"_s},
+        {.name = u"SelectedItem"_s, .failures = {InvalidCall, ObjectNotSet}},
+        {.name = u"UpdateSubItems"_s, .range = u"SubIndex: 1 to the number of columns less 1"_s},
+        {.name = u"Drag"_s, .range = u"1 and 2"_s},
+        {.name = u"labelColumn"_s, .range = u"from 0"_s, .failures = {SubscriptOutOfRange}},
+    };
+}
+
+QList<MemberFacts> editorFacts()
+{
+    return {
+        {.name = u"GetWholeWord"_s, .unit = u"UTF-16 units; Color: colour"_s},
+        {.name = u"IsSqrtSupported"_s,
+         .range = u"\"true\", \"false\" or a number"_s,
+         .failures = {TypeMismatch}},
+        {.name = u"RefillListviewWithWordList"_s, .failures = {InvalidCall}},
+        {.name = u"HighLightText"_s, .range = u"LineNumber: 1 to the number of lines"_s},
+        {.name = u"indentUnit"_s, .range = u"blanks and tabs"_s},
+    };
+}
+
+QList<Member> allMembers()
+{
+    return shellMembers() + textMembers<List>() + rowMembers() + editorMembers() +
+           commandMembers() + addedMembers() + listEvents<List>() + hostEvents();
+}
+
+QList<MemberFacts> allFacts()
+{
+    return tableFacts() + editorFacts() + inputFacts();
+}
+
+const HandedClass handed(QMetaType::fromType<ORVListView *>(), &allMembers, &allFacts);
+
 } // namespace
 
 const MemberTable &ORVListView::Members() const
 {
-    static const MemberTable table(QStringLiteral("ORVListView"),
-                                   shellMembers() + textMembers<List>() + rowMembers() +
-                                       editorMembers() + commandMembers() + listEvents() +
-                                       hostEvents());
-    return table;
+    return handed.table();
 }
 
 } // namespace ORVTListview

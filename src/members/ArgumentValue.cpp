@@ -1,5 +1,7 @@
 #include "members/ArgumentValue.h"
 
+#include "members/RecordValue.h"
+
 #include <cmath>
 #include <limits>
 
@@ -71,6 +73,8 @@ std::optional<QVariant> converted(const QVariant &value, QMetaType type)
         return isPointer(type) ? std::optional(QVariant(type)) : std::nullopt;
     if (isWholeNumber(type) && !fits(value, type))
         return std::nullopt;
+    if (auto record = RecordValue::converted(value, type, &converted))
+        return record;
     QVariant result = value;
     if (!result.convert(type))
         return std::nullopt;

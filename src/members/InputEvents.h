@@ -51,4 +51,46 @@ QList<Member> dragEvents(qint32 first)
     };
 }
 
+// What is true of those that a component has.
+inline QList<MemberFacts> keyFacts()
+{
+    const QString shift = QStringLiteral("Shift: sum of 1 Shift, 2 Ctrl, 4 Alt");
+    return {
+        {.name = QStringLiteral("KeyDown"), .range = shift},
+        {.name = QStringLiteral("KeyPress"), .unit = QStringLiteral("UTF-16 code")},
+        {.name = QStringLiteral("KeyUp"), .range = shift},
+    };
+}
+
+inline QList<MemberFacts> mouseFacts()
+{
+    const QString places = QStringLiteral("X, Y: twip");
+    const QString buttons = QStringLiteral("Button: 1 left, 2 right, 4 middle");
+    return {
+        {.name = QStringLiteral("MouseDown"), .unit = places, .range = buttons},
+        {.name = QStringLiteral("MouseMove"), .unit = places, .range = buttons},
+        {.name = QStringLiteral("MouseUp"), .unit = places, .range = buttons},
+    };
+}
+
+inline QList<MemberFacts> dragFacts()
+{
+    const QString places = QStringLiteral("X, Y: twip");
+    const QString effects = QStringLiteral("effects: sum of 1 copy, 2 move, 4 link; 0 none");
+    return {
+        {.name = QStringLiteral("OLECompleteDrag"), .range = effects},
+        {.name = QStringLiteral("OLEDragDrop"), .unit = places, .range = effects},
+        {.name = QStringLiteral("OLEDragOver"),
+         .unit = places,
+         .range = effects + QStringLiteral("; State: 0 enter, 1 leave, 2 over")},
+        {.name = QStringLiteral("OLEGiveFeedback"), .range = effects},
+        {.name = QStringLiteral("OLEStartDrag"), .range = effects},
+    };
+}
+
+inline QList<MemberFacts> inputFacts()
+{
+    return keyFacts() + mouseFacts() + dragFacts();
+}
+
 } // namespace ORVTListview::MemberEntries

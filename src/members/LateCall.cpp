@@ -1,6 +1,9 @@
 #include <ORVTListview/LateCall.h>
 
 #include "members/ArgumentValue.h"
+#include "members/HandedClass.h"
+
+#include <QtCore/QObject>
 
 #include <exception>
 #include <utility>
@@ -20,7 +23,7 @@ struct Target
     QMetaType resultType;
 };
 
-Error failure(CallStatus status, const QString &place, const QString &description)
+Error failure(qint32 status, const QString &place, const QString &description)
 {
     return Error(status, place, description);
 }
@@ -79,7 +82,7 @@ QVariantList variablesFor(const Target &target, const QVariantList &given, const
     return variables;
 }
 
-QVariant carryOut(QObject &component, const Target &target, QVariantList &variables)
+QVariant carryOut(void *object, const Target &target, QVariantList &variables)
 {
     QVariant resultVariable;
     std::vector<void *> values{nullptr};
@@ -89,7 +92,7 @@ QVariant carryOut(QObject &component, const Target &target, QVariantList &variab
     }
     for (QVariant &variable : variables)
         values.push_back(variable.data());
-    target.call(component, values.data());
+    target.call(object, values.data());
     return target.resultType.isValid()
                ? ArgumentValue::fromVariable(target.resultType, resultVariable.constData())
                : QVariant();
@@ -107,8 +110,8 @@ QVariantList broughtBack(const Target &target, const QVariantList &variables,
     return changed;
 }
 
-void call(QObject &component, const MemberTable &members, const QString &name,
-          QVariantList &arguments, QVariant &result)
+void call(void *object, const MemberTable &members, const QString &name, QVariantList &arguments,
+          QVariant &result)
 {
     const QString place = members.component() + u'.' + name;
     const Member *member = members.find(name);
@@ -118,19 +121,17 @@ void call(QObject &component, const MemberTable &members, const QString &name,
     const Target target = isProperty ? propertyTarget(*member, place, arguments.size())
                                      : methodTarget(*member, place, arguments.size());
     QVariantList variables = variablesFor(target, arguments, place);
-    QVariant returned = carryOut(component, target, variables);
+    QVariant returned = carryOut(object, target, variables);
     arguments = broughtBack(target, variables, arguments);
     result = std::move(returned); // neither changes when anything above fails
 }
 
-} // namespace
-
-std::optional<Error> callLate(QObject &component, const MemberTable &members, const QString &name,
-                              QVariantList &arguments, QVariant &result)
+std::optional<Error> callAt(void *object, const MemberTable &members, const QString &name,
+                            QVariantList &arguments, QVariant &result)
 {
     const QString place = members.component() + u'.' + name;
     try {
-        call(component, members, name, arguments, result);
+        call(object, members, name, arguments, result);
     } catch (const Error &error) {
         return error;
     } catch (const std::exception &error) {
@@ -139,6 +140,46 @@ std::optional<Error> callLate(QObject &component, const MemberTable &members, co
         return failure(UnexpectedFailure, place, u"Unknown failure"_s);
     }
     return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Error> callLate(QObject &component, const MemberTable &members, const QString &name,
+                              QVariantList &arguments, QVariant &result)
+{
+    return callAt(&component, members, name, arguments, result);
+}
+
+std::optional<Error> callLate(QVariant &object, const QString &name, QVariantList &arguments,
+                              QVariant &result)
+{
+    const MemberTable *members = membersOf(object);
+    if (!members)
+        return failure(UnknownMember, name, u"There are no members in this"_s);
+    void *const address = HandedClass::addressIn(object);
+    if (!address)
+        return failure(ObjectNotSet, members->component() + u'.' + name, u"There is no object"_s);
+    return callAt(address, *members, name, arguments, result);
+}
+
+const MemberTable *membersOf(const QVariant &object)
+{
+    if (!object.metaType().flags().testFlag(QMetaType::PointerToQObject))
+        return membersOf(object.metaType());
+    const auto *const instance = object.value<QObject *>();
+    return instance ? HandedClass::members(*instance->metaObject()) : membersOf(object.metaType());
+}
+
+const MemberTable *membersOf(QMetaType type)
+{
+    if (type.flags().testFlag(QMetaType::PointerToQObject) && type.metaObject())
+        return HandedClass::members(*type.metaObject());
+    return HandedClass::members(type);
+}
+
+QList<QMetaType> typesWithMembers()
+{
+    return HandedClass::types();
 }
 
 } // namespace ORVTListview

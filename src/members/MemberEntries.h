@@ -5,6 +5,7 @@
 #include <QtCore/QMetaMethod>
 #include <QtCore/QObject>
 
+#include <functional>
 #include <type_traits>
 #include <utility>
 
@@ -16,9 +17,13 @@
 //     raises<&Gauge::KeyDown>(8, u"KeyDown", u"KeyCode", u"Shift"),
 //
 // An argument by non-const reference goes both ways, or back only when the entry
-// says so with out().
+// says so with out(). What has no function of its own, such as one of two overloads, is
+// a free function that takes the object first. Members that a class which is no QObject
+// has from its base name the class: method<&Row::Key, Row>(u"Key").
 
 namespace ORVTListview::MemberEntries {
+
+using namespace Qt::StringLiterals;
 
 struct ArgumentName
 {
@@ -68,9 +73,20 @@ MemberArgument describedArgument(const ArgumentName &name)
 template <typename Function>
 struct Signature;
 
+// Every table's calls come with the address of what it was made for.
+template <typename Object>
+Object &objectAt(void *object)
+{
+    if constexpr (std::is_base_of_v<QObject, Object>)
+        return static_cast<Object &>(*static_cast<QObject *>(object));
+    else
+        return *static_cast<Object *>(object);
+}
+
 template <typename R, typename C, typename... A>
 struct Signature<R (C::*)(A...)>
 {
+    using Object = C;
     using Result = std::remove_cvref_t<R>;
     static constexpr std::size_t count = sizeof...(A);
 
@@ -86,23 +102,21 @@ struct Signature<R (C::*)(A...)>
         return {describedArgument<A>(names)...};
     }
 
-    template <auto function>
-    static void call(QObject &component, void **values)
+    template <auto function, typename Of>
+    static void call(void *object, void **values)
     {
-        callWith<function>(component, values, std::index_sequence_for<A...>());
+        callWith<function>(objectAt<Of>(object), values, std::index_sequence_for<A...>());
     }
 
 private:
-    template <auto function, std::size_t... i>
-    static void callWith(QObject &component, [[maybe_unused]] void **values,
-                         std::index_sequence<i...>)
+    template <auto function, typename Of, std::size_t... i>
+    static void callWith(Of &object, [[maybe_unused]] void **values, std::index_sequence<i...>)
     {
-        auto &object = static_cast<C &>(component);
         if constexpr (std::is_void_v<R>)
-            (object.*function)(*static_cast<std::remove_cvref_t<A> *>(values[i + 1])...);
+            std::invoke(function, object, *static_cast<std::remove_cvref_t<A> *>(values[i + 1])...);
         else
-            *static_cast<Result *>(values[0]) =
-                (object.*function)(*static_cast<std::remove_cvref_t<A> *>(values[i + 1])...);
+            *static_cast<Result *>(values[0]) = std::invoke(
+                function, object, *static_cast<std::remove_cvref_t<A> *>(values[i + 1])...);
     }
 };
 
@@ -111,10 +125,18 @@ struct Signature<R (C::*)(A...) const> : Signature<R (C::*)(A...)>
 {
 };
 
+template <typename R, typename C, typename... A>
+struct Signature<R (*)(C &, A...)> : Signature<R (std::remove_const_t<C>::*)(A...)>
+{
+};
+
 template <auto function>
 using SignatureOf = Signature<decltype(function)>;
 
-template <auto function, typename... Names>
+template <auto function>
+using ObjectOf = typename SignatureOf<function>::Object;
+
+template <auto function, typename Object = ObjectOf<function>, typename... Names>
 Member method(const char16_t *name, const Names &...names)
 {
     using Function = SignatureOf<function>;
@@ -123,19 +145,19 @@ Member method(const char16_t *name, const Names &...names)
     member.name = QStringView(name).toString();
     member.arguments = Function::described(ArgumentName(names)...);
     member.type = Function::resultType();
-    member.call = &Function::template call<function>;
+    member.call = &Function::template call<function, Object>;
     return member;
 }
 
-template <auto getter>
+template <auto getter, typename Object = ObjectOf<getter>>
 Member readOnly(const char16_t *name)
 {
-    Member member = method<getter>(name);
+    Member member = method<getter, Object>(name);
     member.kind = MemberKind::Property;
     return member;
 }
 
-template <auto setter>
+template <auto setter, typename Object = ObjectOf<setter>>
 Member writeOnly(const char16_t *name)
 {
     using Function = SignatureOf<setter>;
@@ -144,15 +166,15 @@ Member writeOnly(const char16_t *name)
     member.kind = MemberKind::Property;
     member.name = QStringView(name).toString();
     member.type = Function::described(ArgumentName(u"Value")).constFirst().type;
-    member.put = &Function::template call<setter>;
+    member.put = &Function::template call<setter, Object>;
     return member;
 }
 
-template <auto getter, auto setter>
+template <auto getter, auto setter, typename Object = ObjectOf<getter>>
 Member readWrite(const char16_t *name)
 {
-    Member member = readOnly<getter>(name);
-    const Member writing = writeOnly<setter>(name);
+    Member member = readOnly<getter, Object>(name);
+    const Member writing = writeOnly<setter, Object>(name);
     Q_ASSERT(member.type == writing.type);
     member.put = writing.put;
     return member;

@@ -1,6 +1,10 @@
 #include <ORVTListview/MemberTable.h>
 
+#include "members/RecordValue.h"
+
 #include <QtCore/QHash>
+
+#include <algorithm>
 
 namespace ORVTListview {
 
@@ -8,6 +12,7 @@ struct MemberTable::Private
 {
     QString component;
     QList<Member> members;
+    QList<MemberFacts> facts;
     QHash<QString, qsizetype> callable; // by name in lower case
 };
 
@@ -23,11 +28,28 @@ QHash<QString, qsizetype> callableOf(const QList<Member> &members)
     return callable;
 }
 
+// Hosts that know no types get and give records as maps.
+void announceRecords(const QList<Member> &members)
+{
+    for (const Member &member : members) {
+        RecordValue::announce(member.type);
+        for (const MemberArgument &argument : member.arguments)
+            RecordValue::announce(argument.type);
+    }
+}
+
 } // namespace
 
 MemberTable::MemberTable(const QString &component, const QList<Member> &members)
-    : d(std::make_shared<const Private>(Private{component, members, callableOf(members)}))
+    : MemberTable(component, members, {})
 {
+}
+
+MemberTable::MemberTable(const QString &component, const QList<Member> &members,
+                         const QList<MemberFacts> &facts)
+    : d(std::make_shared<const Private>(Private{component, members, facts, callableOf(members)}))
+{
+    announceRecords(members);
 }
 
 QString MemberTable::component() const
@@ -38,6 +60,18 @@ QString MemberTable::component() const
 const QList<Member> &MemberTable::members() const
 {
     return d->members;
+}
+
+MemberFacts MemberTable::facts(const QString &name) const
+{
+    const auto isOf = [&name](const MemberFacts &facts) { return facts.name == name; };
+    const auto found = std::find_if(d->facts.cbegin(), d->facts.cend(), isOf);
+    return found == d->facts.cend() ? MemberFacts{name} : *found;
+}
+
+const QList<MemberFacts> &MemberTable::allFacts() const
+{
+    return d->facts;
 }
 
 const Member *MemberTable::find(const QString &name) const

@@ -1,5 +1,6 @@
 #include <ORVTListview/ORVRichText.h>
 
+#include "members/HandedClass.h"
 #include "members/InputEvents.h"
 #include "members/TextMembers.h"
 
@@ -51,14 +52,23 @@ QList<Member> hostEvents()
     };
 }
 
+QList<Member> allMembers()
+{
+    return shellMembers() + textMembers<Shell>() + inputEvents() + hostEvents();
+}
+
+QList<MemberFacts> allFacts()
+{
+    return inputFacts();
+}
+
+const HandedClass handed(QMetaType::fromType<ORVRichText *>(), &allMembers, &allFacts);
+
 } // namespace
 
 const MemberTable &ORVRichText::Members() const
 {
-    static const MemberTable table(QStringLiteral("ORVRichText"), shellMembers() +
-                                                                      textMembers<Shell>() +
-                                                                      inputEvents() + hostEvents());
-    return table;
+    return handed.table();
 }
 
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #include <ORVTListview/ORVTreeview.h>
 
+#include "members/HandedClass.h"
 #include "members/InputEvents.h"
 #include "members/TextMembers.h"
 
@@ -20,6 +21,8 @@ QList<Member> treeMembers()
         method<&Tree::HitTest>(u"HitTest", u"X", u"Y"),
         writeOnly<&Tree::setIsSqrtSupported>(u"IsSqrtSupported"),
         method<&Tree::OLEDrag>(u"OLEDrag"),
+        method<&Tree::isDesignMode>(u"isDesignMode"),
+        method<&Tree::setDesignMode>(u"setDesignMode", u"on"),
     };
 }
 
@@ -68,13 +71,42 @@ QList<Member> events()
            dragEvents<Tree>(15) + QList{raises<&Tree::UpdatePages>(21, u"UpdatePages", u"Pages")};
 }
 
+QList<MemberFacts> facts()
+{
+    return {
+        {.name = u"SetNodeForeColor"_s,
+         .unit = u"Color: colour"_s,
+         .range = u"Index: 0 to 12; others are ignored"_s,
+         .failures = {InvalidCall}},
+        {.name = u"SelectedItem"_s, .failures = {InvalidCall, ObjectNotSet}},
+        {.name = u"HitTest"_s, .unit = u"twip"_s},
+        {.name = u"IsSqrtSupported"_s,
+         .range = u"\"true\", \"false\" or a number"_s,
+         .failures = {TypeMismatch}},
+        {.name = u"GetPageNumber"_s, .failures = {Overflow, TypeMismatch, ObjectNotSet}},
+        {.name = u"GetItemKey"_s, .range = u"0 to 12; empty for others"_s},
+        {.name = u"StringIndexCollection"_s, .failures = {InvalidCall, Overflow}},
+        {.name = u"Init_Values"_s, .unit = u"points"_s},
+    };
+}
+
+QList<Member> allMembers()
+{
+    return treeMembers() + textMembers<Tree>() + pageMembers() + events();
+}
+
+QList<MemberFacts> allFacts()
+{
+    return facts() + inputFacts();
+}
+
+const HandedClass handed(QMetaType::fromType<ORVTreeview *>(), &allMembers, &allFacts);
+
 } // namespace
 
 const MemberTable &ORVTreeview::Members() const
 {
-    static const MemberTable table(QStringLiteral("ORVTreeview"),
-                                   treeMembers() + textMembers<Tree>() + pageMembers() + events());
-    return table;
+    return handed.table();
 }
 
 } // namespace ORVTListview

@@ -1,7 +1,7 @@
 """Writes each C++ block of the given documents to a source file of its own.
 
-A block without a main function is put into one, behind what a host needs to
-begin. Prints the files, one a line.
+A block without a main function is put into one, behind the includes that it shows, or
+those that the guide's first page tells of when it shows none. Prints the files, one a line.
 """
 
 import argparse
@@ -10,10 +10,12 @@ import re
 
 BLOCK = re.compile(r"^```cpp\n(.*?)^```", re.MULTILINE | re.DOTALL)
 
-PIECE = """#include <ORVTListview/ORVTListview.h>
-
+INCLUDES = """#include <ORVTListview/ORVTListview.h>
 #include <QtWidgets>
+"""
 
+PIECE = """{includes}
+{application}
 using namespace ORVTListview;
 
 int main(int argc, char **argv)
@@ -28,7 +30,10 @@ int main(int argc, char **argv)
 def program(block):
     if "int main(" in block:
         return block
-    return PIECE.format(body=block)
+    own = "".join(re.findall(r"^#include [^\n]*\n", block, re.MULTILINE))
+    body = re.sub(r"^#include [^\n]*\n", "", block, flags=re.MULTILINE)
+    return PIECE.format(includes=own or INCLUDES, body=body,
+                        application="#include <QtWidgets/QApplication>\n" if own else "")
 
 
 def write_if_changed(path, text):

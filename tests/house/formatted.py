@@ -6,7 +6,7 @@ import pathlib
 import subprocess
 import sys
 
-ROOMS = ("src", "apps", "designer", "examples", "tests", "benchmarks")
+ROOMS = ("src", "apps", "bindings", "designer", "examples", "tests", "benchmarks")
 
 
 def main():

@@ -70,7 +70,7 @@ def main():
     published = {f"ORVTListview/{h.name}": h for h in (top / "src").rglob("published/*.h")}
     tree = Tree([top / "src", top / "apps", top / "tests", top / "benchmarks"], published)
     faults = 0
-    for room in ("src", "apps", "designer", "benchmarks", "examples", "tests"):
+    for room in ("src", "apps", "bindings", "designer", "benchmarks", "examples", "tests"):
         for path in sorted((top / room).rglob("*.cpp")):
             missing = used(path, names) - tree.includes(path)
             for name in sorted(missing):

@@ -2,6 +2,7 @@
 examples from there, as a host would that knows nothing but the prefix."""
 
 import argparse
+import json
 import os
 import pathlib
 import shutil
@@ -9,7 +10,8 @@ import subprocess
 import sys
 import tempfile
 
-EXAMPLES = ("minimal", "latebound", "form")
+EXAMPLES = ("minimal", "whole", "latebound", "form")
+WITHOUT_CMAKE = ("minimal", "whole", "latebound")
 
 
 def run(*command, **options):
@@ -89,14 +91,19 @@ def main():
         shutil.move(first, prefix)
         check_no_path_is_written_down(prefix, (first, arguments.build, arguments.source))
 
+        members = json.loads(only(prefix / "share/orvtlistview", "members.json").read_text())
+        if not members["classes"]:
+            sys.exit("members.json tells of no class")
+
         environment = host_environment(prefix)
         hosts = pathlib.Path(folder) / "hosts"
         shutil.copytree(only(prefix, "examples"), hosts)
         for name in EXAMPLES:
             program = build_with_cmake(hosts / name, prefix, arguments.quit_soon, environment)
             run_host(program, environment, arguments.expected / f"{name}.txt")
-        program = build_with_pkg_config(hosts / "minimal", prefix, arguments.quit_soon, environment)
-        run_host(program, environment, arguments.expected / "minimal.txt")
+        for name in WITHOUT_CMAKE:
+            program = build_with_pkg_config(hosts / name, prefix, arguments.quit_soon, environment)
+            run_host(program, environment, arguments.expected / f"{name}.txt")
 
 
 if __name__ == "__main__":

@@ -26,12 +26,17 @@ class ORVT_CORE_EXPORT Error : public std::exception
 {
 public:
     Error(qint32 number, const QString &source, const QString &description);
-    Error(const Error &) noexcept = default; // no move: an error always says what it is
-    Error &operator=(const Error &) noexcept = default;
+    Error(const Error &) noexcept = default;            // no move: an error always says what it is
+    Error &operator=(const Error &) noexcept = default; // no move, as above
     ~Error() override;
 
+    // One of ErrorNumber, or an operation's own: ObjectErrorBase plus a code.
     qint32 Number() const;
+
+    // The routine that failed: "ListItem.SubItem".
     QString Source() const;
+
+    // A sentence to be shown, in English.
     QString Description() const;
 
     // "Source: Description" in UTF-8, for logs.

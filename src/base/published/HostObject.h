@@ -39,6 +39,7 @@ public:
             m_life = static_cast<HostObject *>(object)->m_life;
     }
 
+    // Null once the object is gone.
     T *get() const { return m_life.expired() ? nullptr : m_object; }
     T *operator->() const { return get(); }
     explicit operator bool() const { return get() != nullptr; }

@@ -56,6 +56,7 @@ public:
     // The data value of the point at Index, counted from 0; 0 outside the list.
     Q_INVOKABLE qint32 ItemData(qint16 Index) const;
 
+    // How many points are in the list, at most 32,767.
     qint16 ListCount() const;
 
     // The selected point, counted from 0; -1 for none.
@@ -99,7 +100,9 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    // The events, with those of InputComponent.
+    // The events, with those of InputComponent. By number: 1 Change, 2 Click, 3 DblClick,
+    // 4 KeyDown, 5 KeyPress, 6 KeyUp, 7 OLECompleteDrag, 8 OLEDragDrop, 9 OLEDragOver,
+    // 10 OLEGiveFeedback, 11 OLESetData, 12 OLEStartDrag, 13 picked.
 
     // The text was typed or set; not when a point was chosen.
     void Change();
@@ -117,9 +120,9 @@ Q_SIGNALS:
     void listIndexChanged();
     void dragsEntryChanged();
 
-    // Not an event: the user has decided for the point that is selected now, by Enter,
-    // by a name typed and confirmed with Enter, or by a click in the list; also for
-    // the one that was selected already. After Change and Click.
+    // An addition, told after Change and Click: the user has decided for the point that is
+    // selected now, by Enter, by a name typed and confirmed with Enter, or by a click in
+    // the list; also for the one that was selected already.
     void picked();
 
 protected:

@@ -251,6 +251,8 @@ public:
     Q_INVOKABLE bool isOpening() const;
 
 Q_SIGNALS:
+    // By number, for late-bound hosts: 1 openingProgress, 2 hoverAsked, 3 problemChosen.
+
     // How much of the program that openProgram opens has its colours, from the event
     // loop, each percentage once. 100 is the last one, and comes whatever the end is:
     // all is done, cancelOpening, another text in its place.

@@ -74,6 +74,8 @@ public:
     // the editor's function words until IsSqrtSupported is set again.
     LwType ListviewType() const;
     void setListviewType(ORVTListview::LwType type);
+
+    // The same.
     LwType CurrentType() const;
 
     // The untranslated display name of the current type.
@@ -192,7 +194,7 @@ public:
     // The table's list itself, owned by this control, for what the members above do not
     // offer: check boxes, drags by the user, drops. In code mode it is the list of known
     // words, in a manner of its own; the table gets back what was set on it.
-    ORVTListview::ReportList *listView() const;
+    Q_INVOKABLE ORVTListview::ReportList *listView() const;
 
     QSize sizeHint() const override;
 
@@ -229,6 +231,8 @@ public:
     // Init_RichTextBox on this thread the document has no head.
     Q_INVOKABLE QString GetColorText(const QString &Text);
 
+    // Shows or hides the editor's box, and enables or disables it. A disabled box takes no
+    // key and no click. (The name is published so.)
     Q_INVOKABLE void setRichTextVisible(bool Visible);
     Q_INVOKABLE void setRichTexteNable(bool Enable);
 
@@ -280,6 +284,8 @@ public:
     // stays; else ErrMsg is left as it is.
     Q_INVOKABLE void Undo(QString &ErrMsg);
     Q_INVOKABLE void Redo(QString &ErrMsg);
+
+    // Whether the ring has a state before or behind this one.
     Q_INVOKABLE bool IsUndoAvailable() const;
     Q_INVOKABLE bool IsRedoAvailable() const;
 
@@ -298,7 +304,8 @@ public:
 
     // --- Clipboard ---
 
-    // None of these takes a snapshot; the keys Ctrl+X and Ctrl+V do.
+    // Cut, copy, or select all of the program. None of these takes a snapshot; the keys Ctrl+X
+    // and Ctrl+V do.
     Q_INVOKABLE void RTextCut();
     Q_INVOKABLE void RTextCopy();
     Q_INVOKABLE void RTextSelectAll();
@@ -355,15 +362,32 @@ public:
 Q_SIGNALS:
     // The events, with those of InputComponent. What is taken by reference and changed
     // comes back to the table. From the code editor KeyDown tells of F1 only; keys and
-    // drags are the table's else.
+    // drags are the table's else. By number: 1 AfterLabelEdit, 2 BeforeLabelEdit, 3 Click,
+    // 4 ColumnClick, 5 DblClick, 6 ItemCheck, 7 ItemClick, 8 KeyDown, 9 KeyPress, 10 KeyUp,
+    // 11 MouseDown, 12 MouseMove, 13 MouseUp, 14 OLECompleteDrag, 15 OLEDragDrop,
+    // 16 OLEDragOver, 17 OLEGiveFeedback, 18 OLESetData, 19 OLEStartDrag, 20 QueryRead,
+    // 21 QueryReload, 22 QuerySetWord, 23 StatusUpdate, 24 UpdateUndoMenu,
+    // 25 UpdateWordList, 26 QueryAnalyze, 27 QueryCompile.
 
     // A label was edited. Cancel other than 0 drops NewString.
     void AfterLabelEdit(qint16 &Cancel, QString &NewString);
+
+    // A label is about to be edited. Cancel other than 0 keeps the field from opening.
     void BeforeLabelEdit(qint16 &Cancel);
+
+    // The left button was pressed and released in the table.
     void Click();
+
+    // The head of a column was clicked.
     void ColumnClick(ORVTListview::ColumnHeader *ColumnHeader);
+
+    // The left button was pressed twice in the table.
     void DblClick();
+
+    // The user has checked or unchecked a row.
     void ItemCheck(ORVTListview::ListItem *Item);
+
+    // A row was pressed with the left or right button, or reached by keyboard.
     void ItemClick(ORVTListview::ListItem *Item);
 
     // X and Y are twips from the corner of the table or the editor. Button: 1 left,
@@ -390,8 +414,10 @@ Q_SIGNALS:
     // Published; never raised.
     void UpdateWordList(ORVTListview::LwType &TypeIndex);
 
-    // F6 and Ctrl+F6 in the editor.
+    // F6 in the editor.
     void QueryAnalyze();
+
+    // Ctrl+F6 in the editor.
     void QueryCompile();
 
     // Not events: a property has another value now, whoever changed it. What changes

@@ -18,6 +18,7 @@ public:
 
     const MemberTable &Members() const override;
 
+    // Do nothing.
     Q_INVOKABLE void InitControl(QObject *FormParent);
     Q_INVOKABLE void RichTextCut();
     Q_INVOKABLE void RichTextCopy();
@@ -33,16 +34,19 @@ public:
     // Always empty.
     Q_INVOKABLE QString ReplaceSpaceEquivalent(const QString &Data);
 
+    // Does nothing.
     Q_INVOKABLE void Clear();
 
     // Always empty.
     Q_INVOKABLE QString GetData();
 
+    // Does nothing.
     Q_INVOKABLE void ValidateTextColor();
 
     // Always false.
     Q_INVOKABLE bool ReloadData(const QString &Data);
 
+    // Does nothing.
     Q_INVOKABLE void InitStrings();
 
     // The one member with an effect: fetches the thread's texts when the provider's
@@ -50,6 +54,13 @@ public:
     Q_INVOKABLE void ReInitializeStrings();
 
 Q_SIGNALS:
+    // By number: 1 Change, 2 SelChange, 3 Click, 4 DblClick, 5 KeyDown, 6 KeyPress, 7 KeyUp,
+    // 8 MouseDown, 9 MouseMove, 10 MouseUp, 11 OLECompleteDrag, 12 OLEDragDrop,
+    // 13 OLEDragOver, 14 OLEGiveFeedback, 15 OLESetData, 16 OLEStartDrag, 17 MessageEvent,
+    // 18 StatusUpdate, 19 UpdateUndoMenu, 20 QueryAnalyze, 21 QueryCompile,
+    // 22 MoveOutCursorEvent.
+
+    // Published; never raised.
     void Change();
     void SelChange();
     void Click();

@@ -64,3 +64,6 @@ const KeyedCollection<Point> &PointList::contents() const
 }
 
 } // namespace ORVTListview
+
+// The meta-object of a point is built here.
+#include "published/moc_PointCollection.cpp"

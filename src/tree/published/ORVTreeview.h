@@ -45,8 +45,8 @@ public:
     QSize minimumSizeHint() const override;
 
     // A tree on a form that is being designed saves nothing.
-    bool isDesignMode() const;
-    void setDesignMode(bool on);
+    Q_INVOKABLE bool isDesignMode() const;
+    Q_INVOKABLE void setDesignMode(bool on);
 
     // --- The tree ---
 
@@ -136,6 +136,11 @@ Q_SIGNALS:
     // as a move over the pages that would take it. Set the effects to 0 to refuse, in
     // any of OLEStartDrag, OLEDragOver and OLEDragDrop. Any other drag comes to
     // OLEDragOver with the effect 0, which refuses it unless it is changed.
+    //
+    // By number: 1 AfterLabelEdit, 2 BeforeLabelEdit, 3 Click, 4 Collapse, 5 DblClick,
+    // 6 Expand, 7 KeyDown, 8 KeyPress, 9 KeyUp, 10 MouseDown, 11 MouseMove, 12 MouseUp,
+    // 13 NodeCheck, 14 NodeClick, 15 OLECompleteDrag, 16 OLEDragDrop, 17 OLEDragOver,
+    // 18 OLEGiveFeedback, 19 OLESetData, 20 OLEStartDrag, 21 UpdatePages.
 
     // NewString is what was entered; Cancel other than 0 drops it.
     void AfterLabelEdit(qint16 &Cancel, QString &NewString);
@@ -143,10 +148,16 @@ Q_SIGNALS:
     // Cancel other than 0 keeps the editor from opening.
     void BeforeLabelEdit(qint16 &Cancel);
 
-    // Node is null beside the nodes, also of DblClick.
+    // The left button was pressed and released. Node is null beside the nodes.
     void Click(ORVTListview::Node *Node);
+
+    // The user has hidden what is below the node.
     void Collapse(ORVTListview::Node *Node);
+
+    // The left button was pressed twice. Node is null beside the nodes.
     void DblClick(ORVTListview::Node *Node);
+
+    // The user has shown what is below the node.
     void Expand(ORVTListview::Node *Node);
 
     // Button is 1 left, 2 right, 4 middle; MouseMove tells the sum of those held.

@@ -40,6 +40,7 @@ public:
     LwType kind() const;
     void setKind(LwType kind);
 
+    // What it is now, such as "19.4", its unit, and a sentence of what it is.
     QString value() const { return part(Value); }
     void setValue(const QString &value) { setPart(Value, value); }
     QString unit() const { return part(Unit); }
@@ -47,6 +48,7 @@ public:
     QString description() const { return part(Description); }
     void setDescription(const QString &description) { setPart(Description, description); }
 
+    // While there is nothing to show.
     bool isEmpty() const;
 
 private:

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <ORVTListview/CoreExport.h>
+
 #include <QtCore/QMetaType>
+#include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -12,6 +15,20 @@ namespace ORVTListview {
 // to the kind are passed over.
 struct CellRule
 {
+    Q_GADGET_EXPORT(ORVT_CORE_EXPORT)
+    Q_PROPERTY(ORVTListview::CellRule::Kind kind MEMBER kind)
+    Q_PROPERTY(bool canBeEmpty MEMBER canBeEmpty)
+    Q_PROPERTY(qint32 maxLength MEMBER maxLength)
+    Q_PROPERTY(QString pattern MEMBER pattern)
+    Q_PROPERTY(QString hint MEMBER hint)
+    Q_PROPERTY(double minimum MEMBER minimum)
+    Q_PROPERTY(double maximum MEMBER maximum)
+    Q_PROPERTY(qint32 decimals MEMBER decimals)
+    Q_PROPERTY(QString unit MEMBER unit)
+    Q_PROPERTY(QStringList choices MEMBER choices)
+
+public:
+    // What the cells hold.
     enum Kind : qint32 {
         NotEdited, // users do not edit it
         Text,
@@ -20,9 +37,10 @@ struct CellRule
         YesNo,    // the first choice or the second; without choices "Yes" or "No"
         PointName // one of the choices, or of the names that the grid knows of
     };
+    Q_ENUM(Kind)
 
-    Kind kind = NotEdited;
-    bool canBeEmpty = true;
+    Kind kind = NotEdited;  // which of the fields below count
+    bool canBeEmpty = true; // whether an empty text is taken
 
     // Text: the most characters, 0 for any number, and a regular expression that all of
     // the text is to match, empty for none. The hint is the sentence shown when it does not.
@@ -37,7 +55,7 @@ struct CellRule
     qint32 decimals = 6;
     QString unit = {};
 
-    QStringList choices = {};
+    QStringList choices = {}; // Choice, YesNo, PointName, and words for Number
 
     friend bool operator==(const CellRule &, const CellRule &) = default;
 };

@@ -18,8 +18,13 @@ class ORVT_CORE_EXPORT IndexedName : public HostObject
 public:
     ~IndexedName() override;
 
+    // What stands before the numbers.
     virtual QString Name() const = 0;
+
+    // How the numbers are written.
     virtual QString NumberFormat() const = 0;
+
+    // The first number and the last.
     virtual qint32 LowerBound() const = 0;
     virtual qint32 UpperBound() const = 0;
 };
@@ -31,6 +36,7 @@ class ORVT_CORE_EXPORT IndexedNameCollection : public HostObject
 public:
     ~IndexedNameCollection() override;
 
+    // How many families there are.
     virtual qint32 Count() const = 0;
 
     // Index runs from 1 to Count(); null outside it. The collection owns the item.
@@ -44,6 +50,7 @@ public:
     IndexedNameList();
     ~IndexedNameList() override;
 
+    // Appends a family.
     void Add(const QString &Name, const QString &NumberFormat, qint32 LowerBound,
              qint32 UpperBound);
 

@@ -22,9 +22,11 @@ template <typename T>
 class KeyedCollection
 {
 public:
+    // How many items there are, and whether there is one under the key.
     qint32 Count() const { return static_cast<qint32>(m_entries.size()); }
     bool Contains(const QString &Key) const { return m_positions.contains(folded(Key)); }
 
+    // The item at a position or under a key. Valid until the next change.
     const T &Item(qint32 Index) const { return m_entries.at(position(Index, "Item")).item; }
     const T &Item(const QString &Key) const { return m_entries.at(position(Key, "Item")).item; }
 
@@ -42,6 +44,7 @@ public:
     void Remove(qint32 Index) { removeAt(position(Index, "Remove")); }
     void Remove(const QString &Key) { removeAt(position(Key, "Remove")); }
 
+    // Removes all items.
     void Clear();
 
     // Whether this is a copy of the other one and neither has changed since. Looks at

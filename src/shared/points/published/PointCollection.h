@@ -3,6 +3,7 @@
 #include <ORVTListview/CoreExport.h>
 #include <ORVTListview/HostObject.h>
 
+#include <QtCore/QObject>
 #include <QtCore/QString>
 
 #include <memory>
@@ -17,8 +18,13 @@ class KeyedCollection;
 // host's own.
 struct Point
 {
-    QString Name;
-    qint32 Data = 0;
+    Q_GADGET_EXPORT(ORVT_CORE_EXPORT)
+    Q_PROPERTY(QString Name MEMBER Name)
+    Q_PROPERTY(qint32 Data MEMBER Data)
+
+public:
+    QString Name;    // as it is to be shown
+    qint32 Data = 0; // the host's own; ORVDataCombo::ItemData gives it
 
     friend bool operator==(const Point &, const Point &) = default;
 };
@@ -32,6 +38,7 @@ class ORVT_CORE_EXPORT PointCollection : public HostObject
 public:
     ~PointCollection() override;
 
+    // How many points there are.
     virtual qint32 Count() const = 0;
 
     // Index runs from 1 to Count(); none outside it.
@@ -57,6 +64,7 @@ public:
     // any letter case.
     void Remove(const QString &Key);
 
+    // Removes all points.
     void Clear();
 
     qint32 Count() const override;

@@ -82,18 +82,18 @@ struct RichTextSettings
     Q_PROPERTY(qint32 nvoFPAColor MEMBER nvoFPAColor)
 
 public:
-    qint32 BackColor = 0;
-    QString FontName;
-    qint16 FontSize = 0;
-    QString FontStyle;
-    qint32 VariableColor = 0;
-    qint32 ConstantColor = 0;
-    qint32 InputColor = 0;
-    qint32 OutputColor = 0;
-    qint32 ReservedWordColor = 0;
-    qint32 CommentColor = 0;
-    qint32 nviFPAColor = 0;
-    qint32 nvoFPAColor = 0;
+    qint32 BackColor = 0;         // of the editor's ground
+    QString FontName;             // empty: the font stays
+    qint16 FontSize = 0;          // in points; 0: the size stays
+    QString FontStyle;            // "b1i0u0" for bold
+    qint32 VariableColor = 0;     // of the names of variables
+    qint32 ConstantColor = 0;     // of the names of constants
+    qint32 InputColor = 0;        // of the names of inputs
+    qint32 OutputColor = 0;       // of the names of outputs
+    qint32 ReservedWordColor = 0; // of keywords, functions and indexed names
+    qint32 CommentColor = 0;      // of comments
+    qint32 nviFPAColor = 0;       // of the names of network variable inputs
+    qint32 nvoFPAColor = 0;       // never used
 
     friend bool operator==(const RichTextSettings &, const RichTextSettings &) = default;
 };
@@ -107,9 +107,9 @@ struct Pages
     Q_PROPERTY(QStringList Key MEMBER Key)
 
 public:
-    QString Name;
-    QList<LwType> Index;
-    QStringList Key;
+    QString Name;        // not filled by the tree
+    QList<LwType> Index; // the types of the page's categories
+    QStringList Key;     // their display names
 
     friend bool operator==(const Pages &, const Pages &) = default;
 };

@@ -20,8 +20,8 @@ ORVT_CORE_EXPORT QString textKey(const QString &English);
 // keeps the caption's own size. FontSize is in points.
 struct DisplayFontSettings
 {
-    QString FontName;
-    qint16 FontSize = 0;
+    QString FontName;    // empty: no font
+    qint16 FontSize = 0; // in points; 0: the caption's own
 
     friend bool operator==(const DisplayFontSettings &, const DisplayFontSettings &) = default;
 };

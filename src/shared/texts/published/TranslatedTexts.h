@@ -22,11 +22,13 @@ public:
                              const QString &Folder = builtInFolder());
     ~TranslatedTexts() override;
 
+    // The translations that the library brings along.
     static QString builtInFolder();
 
     // English and the languages of the files in the folder, by name of the file.
     static QList<QLocale> availableLanguages(const QString &Folder = builtInFolder());
 
+    // The one that was set, though texts may be in another.
     QLocale Language() const;
 
     // The first of the locale's languages that has a file is loaded; English ends

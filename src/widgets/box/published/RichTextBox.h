@@ -72,7 +72,8 @@ public:
     QString TextRTF() const;
     void setTextRTF(const QString &rtf);
 
-    // Setting the start leaves nothing selected.
+    // Where the selection begins, and how long it is. Setting the start leaves nothing
+    // selected.
     qint32 SelStart() const;
     void setSelStart(qint32 position);
     qint32 SelLength() const;
@@ -188,6 +189,7 @@ public:
     void moveFocus(bool forwards);
 
 Q_SIGNALS:
+    // The text is another one now.
     void Change();
 
     // Raised before the box acts on a key. KeyCode is a virtual-key number; set to

@@ -48,7 +48,9 @@ class ORVT_EXPORT ListGrid : public QObject
         FilterPlace filterPlace READ filterPlace WRITE setFilterPlace NOTIFY filterPlaceChanged)
 
 public:
+    // Gives the names of points that a rule without choices takes.
     using PointNames = std::function<QStringList()>;
+    // Columns and their orders, the first of which decides first.
     using SortKeys = QList<std::pair<qint16, Qt::SortOrder>>;
 
     // Where users say which rows they want to see.
@@ -234,6 +236,9 @@ public:
     void setHasMenu(bool on);
 
 Q_SIGNALS:
+    // By number, for late-bound hosts: 1 rowsEditing, 2 rowsEdited, 3 columnsArranged,
+    // 4 menuOpening, 5 rowsArranged, 6 cellEntering, 7 cellsChanged, 8 cellsRefused.
+
     // Before users do something with whole rows: the Index of each chosen one, in ascending
     // order. A refusal, a sentence, refuses it and is shown.
     void rowsEditing(ORVTListview::ListGrid::RowDeed deed, const QList<qint32> &rows,

@@ -19,6 +19,7 @@ namespace ORVTListview {
 class ORVT_EXPORT DataObject
 {
 public:
+    // The formats with a number of their own, and the type of their values.
     enum KnownFormat : qint16 {
         Text = 1,          // QString
         Bitmap = 2,        // QImage
@@ -34,11 +35,13 @@ public:
     ~DataObject();
     Q_DISABLE_COPY_MOVE(DataObject) // good for one event
 
+    // The number of a MIME type, always the same while the program runs.
     static qint16 FormatNumber(const QString &MimeType);
 
     // Empty for a number that FormatNumber has not given.
     static QString MimeType(qint16 Format);
 
+    // Whether the data have that format.
     bool GetFormat(qint16 Format) const;
 
     // Raises Error (InvalidCall) for a format that is not there.

@@ -16,12 +16,15 @@ namespace ORVTListview {
 class ORVT_EXPORT ListItem : public ViewElement<ListItem, ReportListParts, ReportRow>
 {
 public:
+    // A text of the host's own, which is not shown.
     QString Tag() const;
     void setTag(const QString &Tag);
 
+    // The text in a column.
     QString SubItem(qint32 Index) const;
     void setSubItem(qint32 Index, const QString &Text);
 
+    // A text of the host's own for a column, which is not shown.
     QString SubItemTag(qint32 Index) const;
     void setSubItemTag(qint32 Index, const QString &Tag);
 
@@ -37,6 +40,7 @@ public:
     bool Selected() const;
     void setSelected(bool Selected);
 
+    // Seen where the list shows check boxes.
     bool Checked() const;
     void setChecked(bool Checked);
 

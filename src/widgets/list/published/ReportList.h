@@ -59,7 +59,7 @@ public:
     explicit ReportList(QWidget *parent = nullptr);
     ~ReportList() override;
 
-    // The collections live as long as the list.
+    // All rows, and all columns. The collections live as long as the list.
     ORVTListview::ListItems *ListItems() const;
     ORVTListview::ColumnHeaders *ColumnHeaders() const;
 
@@ -103,6 +103,7 @@ public:
     // rows Error (SubscriptOutOfRange) is raised.
     void goToRow(qint32 Index);
 
+    // Whether several rows can be selected.
     bool MultiSelect() const;
     void setMultiSelect(bool MultiSelect);
 
@@ -128,12 +129,14 @@ public:
     // The cells as a grid that users edit, off at first. It lives as long as the list.
     ListGrid *grid() const;
 
+    // Where rows get their pictures from; none at first.
     void setPictureProvider(PictureProvider provider);
 
     // A box before each row, which the mouse and Space check and uncheck.
     bool hasCheckBoxes() const;
     void setCheckBoxes(bool on);
 
+    // Whether Ctrl+C copies the selected rows; on at first.
     bool copiesRows() const;
     void setCopiesRows(bool on);
 
@@ -147,6 +150,7 @@ public:
     qint16 labelColumn() const;
     void setLabelColumn(qint16 Index);
 
+    // Whether the columns' heads are shown; on at first.
     bool isHeaderVisible() const;
     void setHeaderVisible(bool visible);
 
@@ -165,7 +169,11 @@ Q_SIGNALS:
 
     // The left button was pressed and released in the list.
     void Click();
+
+    // The head of a column was clicked.
     void ColumnClick(ORVTListview::ColumnHeader *ColumnHeader);
+
+    // The left button was pressed twice in the list.
     void DblClick();
 
     // The user has checked or unchecked a row.
@@ -181,6 +189,8 @@ Q_SIGNALS:
     // KeyAscii is the UTF-16 code typed; set to 0 it swallows the key, another
     // value is typed in its place.
     void KeyPress(qint16 &KeyAscii);
+
+    // A key was let go.
     void KeyUp(qint16 &KeyCode, qint16 Shift);
 
     // Button is 1 left, 2 right, 4 middle; MouseMove tells the sum of those held.
@@ -190,7 +200,7 @@ Q_SIGNALS:
 
     // Drag and drop, for lists that drag rows (dragEnabled, or Drag) and that
     // accept drops (acceptDrops). Effects are 0 none, 1 copy, 2 move, 4 link; State
-    // is 0 enter, 1 leave, 2 over.
+    // is 0 enter, 1 leave, 2 over. What each tells of is written at InputComponent.
     void OLECompleteDrag(qint32 Effect);
     void OLEDragDrop(ORVTListview::DataObject *Data, qint32 &Effect, qint16 Button, qint16 Shift,
                      float X, float Y);

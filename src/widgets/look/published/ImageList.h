@@ -20,6 +20,7 @@ namespace ORVTListview {
 class ORVT_EXPORT ImageList
 {
 public:
+    // How the buttons' pictures differ from all others.
     enum class Look {
         Plain,
         Pressed, // as a button that is held down: in negative, within a tile
@@ -34,11 +35,13 @@ public:
     // key, a key or index in use, an index below 1 or a file that is no SVG.
     void Add(const QString &Key, qint32 Index, const QString &SvgFile, Look Drawn = Look::Plain);
 
+    // How many pictures there are.
     qint32 Count() const;
 
     // In the order of the indexes.
     QStringList Keys() const;
 
+    // Whether there is a picture of that key or index.
     bool Contains(const QString &Key) const;
     bool Contains(qint32 Index) const;
 

@@ -22,6 +22,7 @@ public:
     QString Image() const;
     void setImage(const QString &Key);
 
+    // A value of the host's own. The project tree tells its nodes apart by it.
     QVariant Tag() const;
     void setTag(const QVariant &Tag);
 

@@ -15,6 +15,7 @@ class ORVT_EXPORT Nodes : public ViewCollection<Node, NodeTreeParts>
 public:
     explicit Nodes(NodeTreeParts &parts);
 
+    // Whether there is a node with that key.
     bool Contains(const QString &Key) const;
 
     // Adds a node beside or below another one, given itself or by its key; a null

@@ -15,11 +15,14 @@ class ViewCollection
 public:
     Q_DISABLE_COPY_MOVE(ViewCollection) // the view's own
 
+    // How many there are.
     qint32 Count() const;
 
+    // The one at an index or with a key. Its collection owns it.
     Handle *Item(qint32 Index) const;
     Handle *Item(const QString &Key) const;
 
+    // Remove one, or all. Their handles then raise Error (ObjectNotSet).
     void Remove(qint32 Index);
     void Remove(const QString &Key);
     void Clear();

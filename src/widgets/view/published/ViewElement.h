@@ -20,6 +20,7 @@ class ViewElement
 public:
     Q_DISABLE_COPY_MOVE(ViewElement) // its address is what hosts hold
 
+    // False once it has been removed.
     bool isAlive() const { return m_held != nullptr; }
 
     // Its place in its collection, from 1 to Count(); changes when others before it come
@@ -31,6 +32,8 @@ public:
     QString Key() const;
     void setKey(const QString &Key);
 
+    // What is shown of it: in a row's first column, in a column's head, beside a node's
+    // picture.
     QString Text() const;
     void setText(const QString &Text);
 
