@@ -571,26 +571,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>&amp;Program</source>
-        <translation>&amp;Programm</translation>
-    </message>
-    <message>
-        <source>&amp;Analyse</source>
-        <translation>&amp;Prüfen</translation>
-    </message>
-    <message>
-        <source>&amp;Compile</source>
-        <translation>&amp;Übersetzen</translation>
-    </message>
-    <message>
-        <source>&amp;Results</source>
-        <translation>&amp;Ergebnisse</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
         <source>Open Project</source>
         <translation>Projekt öffnen</translation>
     </message>
@@ -601,22 +581,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
     <message>
         <source>%1, lines: %2</source>
         <translation>%1, Zeilen: %2</translation>
-    </message>
-    <message>
-        <source>P&amp;oints</source>
-        <translation>P&amp;unkte</translation>
-    </message>
-    <message>
-        <source>&amp;Read Values</source>
-        <translation>&amp;Werte lesen</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>&amp;Umbenennen</translation>
-    </message>
-    <message>
-        <source>&amp;Fit Columns</source>
-        <translation>&amp;Spalten anpassen</translation>
     </message>
     <message>
         <source>Reading the values…</source>
@@ -631,14 +595,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <translation>Umbenennen</translation>
     </message>
     <message>
-        <source>&amp;Edit Cells</source>
-        <translation>&amp;Zellen bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Hardware Overrides</source>
-        <translation>&amp;Handübersteuerungen</translation>
-    </message>
-    <message>
         <source>&amp;Export…</source>
         <translation>E&amp;xportieren…</translation>
     </message>
@@ -647,28 +603,12 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <translation>&amp;Drucken…</translation>
     </message>
     <message>
-        <source>&amp;Export Statements…</source>
-        <translation>Anweisungen e&amp;xportieren…</translation>
-    </message>
-    <message>
-        <source>&amp;Settings…</source>
-        <translation>Ei&amp;nstellungen…</translation>
-    </message>
-    <message>
         <source>&amp;Save</source>
         <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save Else&amp;where…</source>
         <translation>&amp;Woanders speichern…</translation>
-    </message>
-    <message>
-        <source>&amp;Add Point…</source>
-        <translation>&amp;Punkt hinzufügen…</translation>
-    </message>
-    <message>
-        <source>Re&amp;move Point</source>
-        <translation>Punkt &amp;entfernen</translation>
     </message>
     <message>
         <source>What you type cannot be kept for recovery: %1</source>
@@ -803,6 +743,64 @@ Entfernen?</translation>
     <message>
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointsMenu</name>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;unkte</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Werte lesen</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Spalten anpassen</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Add Point…</source>
+        <translation>&amp;Punkt hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Point</source>
+        <translation>Punkt &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cells</source>
+        <translation>&amp;Zellen bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Hardware Overrides</source>
+        <translation>&amp;Handübersteuerungen</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramMenu</name>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Analyse</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>&amp;Compile</source>
+        <translation>&amp;Übersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Export Statements…</source>
+        <translation>Anweisungen e&amp;xportieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Ergebnisse</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1071,17 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>Font</source>
         <translation>Schrift</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>Ei&amp;nstellungen…</translation>
     </message>
 </context>
 <context>

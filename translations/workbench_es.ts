@@ -571,26 +571,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <translation>&amp;Salir</translation>
     </message>
     <message>
-        <source>&amp;Program</source>
-        <translation>&amp;Programa</translation>
-    </message>
-    <message>
-        <source>&amp;Analyse</source>
-        <translation>&amp;Analizar</translation>
-    </message>
-    <message>
-        <source>&amp;Compile</source>
-        <translation>&amp;Compilar</translation>
-    </message>
-    <message>
-        <source>&amp;Results</source>
-        <translation>&amp;Resultados</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ver</translation>
-    </message>
-    <message>
         <source>Open Project</source>
         <translation>Abrir proyecto</translation>
     </message>
@@ -601,22 +581,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
     <message>
         <source>%1, lines: %2</source>
         <translation>%1, líneas: %2</translation>
-    </message>
-    <message>
-        <source>P&amp;oints</source>
-        <translation>P&amp;untos</translation>
-    </message>
-    <message>
-        <source>&amp;Read Values</source>
-        <translation>&amp;Leer valores</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>&amp;Cambiar nombre</translation>
-    </message>
-    <message>
-        <source>&amp;Fit Columns</source>
-        <translation>&amp;Ajustar columnas</translation>
     </message>
     <message>
         <source>Reading the values…</source>
@@ -631,14 +595,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <translation>Cambiar nombre</translation>
     </message>
     <message>
-        <source>&amp;Edit Cells</source>
-        <translation>&amp;Editar celdas</translation>
-    </message>
-    <message>
-        <source>&amp;Hardware Overrides</source>
-        <translation>&amp;Mandos manuales</translation>
-    </message>
-    <message>
         <source>&amp;Export…</source>
         <translation>&amp;Exportar…</translation>
     </message>
@@ -647,28 +603,12 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <translation>&amp;Imprimir…</translation>
     </message>
     <message>
-        <source>&amp;Export Statements…</source>
-        <translation>&amp;Exportar instrucciones…</translation>
-    </message>
-    <message>
-        <source>&amp;Settings…</source>
-        <translation>A&amp;justes…</translation>
-    </message>
-    <message>
         <source>&amp;Save</source>
         <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>Save Else&amp;where…</source>
         <translation>Guardar en o&amp;tro lugar…</translation>
-    </message>
-    <message>
-        <source>&amp;Add Point…</source>
-        <translation>Añadir &amp;punto…</translation>
-    </message>
-    <message>
-        <source>Re&amp;move Point</source>
-        <translation>&amp;Quitar punto</translation>
     </message>
     <message>
         <source>What you type cannot be kept for recovery: %1</source>
@@ -803,6 +743,64 @@ Remove it?</source>
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointsMenu</name>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;untos</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Leer valores</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Ajustar columnas</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Add Point…</source>
+        <translation>Añadir &amp;punto…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Point</source>
+        <translation>&amp;Quitar punto</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cells</source>
+        <translation>&amp;Editar celdas</translation>
+    </message>
+    <message>
+        <source>&amp;Hardware Overrides</source>
+        <translation>&amp;Mandos manuales</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramMenu</name>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programa</translation>
+    </message>
+    <message>
+        <source>&amp;Analyse</source>
+        <translation>&amp;Analizar</translation>
+    </message>
+    <message>
+        <source>&amp;Compile</source>
+        <translation>&amp;Compilar</translation>
+    </message>
+    <message>
+        <source>&amp;Export Statements…</source>
+        <translation>&amp;Exportar instrucciones…</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Resultados</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1071,17 @@ Overwrite those changes?</source>
     <message>
         <source>Font</source>
         <translation>Fuente</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>A&amp;justes…</translation>
     </message>
 </context>
 <context>

@@ -571,26 +571,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <translation>&amp;Quitter</translation>
     </message>
     <message>
-        <source>&amp;Program</source>
-        <translation>&amp;Programme</translation>
-    </message>
-    <message>
-        <source>&amp;Analyse</source>
-        <translation>&amp;Analyser</translation>
-    </message>
-    <message>
-        <source>&amp;Compile</source>
-        <translation>&amp;Compiler</translation>
-    </message>
-    <message>
-        <source>&amp;Results</source>
-        <translation>&amp;Résultats</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Affichage</translation>
-    </message>
-    <message>
         <source>Open Project</source>
         <translation>Ouvrir un projet</translation>
     </message>
@@ -601,22 +581,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     <message>
         <source>%1, lines: %2</source>
         <translation>%1, lignes&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>P&amp;oints</source>
-        <translation>P&amp;oints</translation>
-    </message>
-    <message>
-        <source>&amp;Read Values</source>
-        <translation>&amp;Lire les valeurs</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>&amp;Renommer</translation>
-    </message>
-    <message>
-        <source>&amp;Fit Columns</source>
-        <translation>&amp;Ajuster les colonnes</translation>
     </message>
     <message>
         <source>Reading the values…</source>
@@ -631,14 +595,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <translation>Renommer</translation>
     </message>
     <message>
-        <source>&amp;Edit Cells</source>
-        <translation>Modifier les &amp;cellules</translation>
-    </message>
-    <message>
-        <source>&amp;Hardware Overrides</source>
-        <translation>Forçages &amp;matériels</translation>
-    </message>
-    <message>
         <source>&amp;Export…</source>
         <translation>E&amp;xporter…</translation>
     </message>
@@ -647,28 +603,12 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <translation>&amp;Imprimer…</translation>
     </message>
     <message>
-        <source>&amp;Export Statements…</source>
-        <translation>&amp;Exporter les instructions…</translation>
-    </message>
-    <message>
-        <source>&amp;Settings…</source>
-        <translation>Pa&amp;ramètres…</translation>
-    </message>
-    <message>
         <source>&amp;Save</source>
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>Save Else&amp;where…</source>
         <translation>Enregistrer &amp;ailleurs…</translation>
-    </message>
-    <message>
-        <source>&amp;Add Point…</source>
-        <translation>A&amp;jouter un point…</translation>
-    </message>
-    <message>
-        <source>Re&amp;move Point</source>
-        <translation>S&amp;upprimer le point</translation>
     </message>
     <message>
         <source>What you type cannot be kept for recovery: %1</source>
@@ -803,6 +743,64 @@ Le supprimer&#xa0;?</translation>
     <message>
         <source>No</source>
         <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointsMenu</name>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;oints</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Lire les valeurs</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Ajuster les colonnes</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>&amp;Add Point…</source>
+        <translation>A&amp;jouter un point…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Point</source>
+        <translation>S&amp;upprimer le point</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cells</source>
+        <translation>Modifier les &amp;cellules</translation>
+    </message>
+    <message>
+        <source>&amp;Hardware Overrides</source>
+        <translation>Forçages &amp;matériels</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramMenu</name>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programme</translation>
+    </message>
+    <message>
+        <source>&amp;Analyse</source>
+        <translation>&amp;Analyser</translation>
+    </message>
+    <message>
+        <source>&amp;Compile</source>
+        <translation>&amp;Compiler</translation>
+    </message>
+    <message>
+        <source>&amp;Export Statements…</source>
+        <translation>&amp;Exporter les instructions…</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Résultats</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1071,17 @@ Overwrite those changes?</source>
     <message>
         <source>Font</source>
         <translation>Police</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>Pa&amp;ramètres…</translation>
     </message>
 </context>
 <context>

@@ -4,10 +4,7 @@
 
 #include <ORVTListview/ORVListView.h>
 
-#include <QtCore/QList>
 #include <QtWidgets/QMainWindow>
-
-#include <optional>
 
 class QLabel;
 class QStackedWidget;
@@ -21,6 +18,7 @@ class Languages;
 class LiveAnalysis;
 class OpeningProgress;
 class OpeningFault;
+class ProgramChecking;
 class ProgramNavigation;
 class PointChooser;
 class PointRenaming;
@@ -31,7 +29,6 @@ class ProjectSaving;
 class ProjectView;
 class RecoveryKeeper;
 class RecoveryOffer;
-struct ListedStatement;
 
 // A small host: shows a project in the library's components.
 class MainWindow : public QMainWindow
@@ -74,8 +71,6 @@ private:
     void buildMenus();
     void buildFileMenu();
     void buildEditMenu();
-    void buildProgramMenu();
-    void buildPointsMenu();
     void buildViewMenu();
     void buildStatusBar();
     void connectEditor();
@@ -89,10 +84,6 @@ private:
     void applyAppearance();
     void connectAnalysis();
     void takePoints();
-    void analyse();
-    void compile();
-    std::optional<QList<ListedStatement>> compiled();
-    void exportListing();
     void showPosition();
     void showProgramInfo();
     void retranslate();
@@ -114,6 +105,7 @@ private:
     PointValues *m_values;
     CheckResults *m_results;
     LiveAnalysis *m_analysis;
+    ProgramChecking *m_checking;
     ProgramNavigation *m_navigation;
     QLabel *m_programInfo;
     OpeningProgress *m_opening;

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtWidgets/QMenu>
+
+namespace ORVTListview {
+
+class PointRenaming;
+class ProjectDocument;
+class ProjectView;
+
+// What is done with the points of the current table.
+class PointsMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    // All of them outlive the menu.
+    PointsMenu(ProjectView &view, const ProjectDocument &document, PointRenaming &renaming,
+               QWidget *parent);
+
+private:
+    void addPoints(PointRenaming &renaming);
+    void addSwitches();
+    void refresh();
+
+    ProjectView &m_view;
+    const ProjectDocument &m_document;
+    QAction *m_rename = nullptr;
+    QAction *m_add = nullptr;
+    QAction *m_remove = nullptr;
+    QAction *m_cells = nullptr;
+    QAction *m_overrides = nullptr;
+};
+
+} // namespace ORVTListview
