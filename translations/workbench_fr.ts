@@ -184,6 +184,21 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::CategoryMenu</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Show &amp;Beside</source>
+        <translation>Afficher à &amp;côté</translation>
+    </message>
+    <message>
+        <source>Show Belo&amp;w</source>
+        <translation>Afficher au-&amp;dessous</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::CheckModel</name>
     <message>
         <source>Nothing found.</source>
@@ -241,6 +256,25 @@
     <message>
         <source>Change</source>
         <translation>Modification</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::DockTitle</name>
+    <message>
+        <source>Put back into the window</source>
+        <translation>Remettre dans la fenêtre</translation>
+    </message>
+    <message>
+        <source>Show in a window of its own</source>
+        <translation>Afficher dans une fenêtre séparée</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Fermer %1</translation>
     </message>
 </context>
 <context>
@@ -700,6 +734,29 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::PointKindMenu</name>
+    <message>
+        <source>&amp;Choose From</source>
+        <translation>C&amp;hoisir parmi</translation>
+    </message>
+    <message>
+        <source>&amp;Inputs</source>
+        <translation>&amp;Entrées</translation>
+    </message>
+    <message>
+        <source>&amp;Outputs</source>
+        <translation>&amp;Sorties</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variables</translation>
+    </message>
+    <message>
+        <source>&amp;Constants</source>
+        <translation>&amp;Constantes</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointRenaming</name>
     <message>
         <source>Add Point</source>
@@ -883,6 +940,13 @@ Les enregistrer&#xa0;?</translation>
 Overwrite those changes?</source>
         <translation>Le fichier %1 a été modifié ailleurs depuis son ouverture.
 Écraser ces modifications&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProjectView</name>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1149,69 @@ Overwrite those changes?</source>
     </message>
 </context>
 <context>
+    <name>ORVTListview::WindowMenu</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Fe&amp;nêtre</translation>
+    </message>
+    <message>
+        <source>Next &amp;Pane</source>
+        <translation>&amp;Volet suivant</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Pane</source>
+        <translation>Volet &amp;précédent</translation>
+    </message>
+    <message>
+        <source>Go To Pro&amp;ject</source>
+        <translation>Aller au pro&amp;jet</translation>
+    </message>
+    <message>
+        <source>Go To Pro&amp;gram</source>
+        <translation>Aller au pro&amp;gramme</translation>
+    </message>
+    <message>
+        <source>Go To &amp;Table</source>
+        <translation>Aller au &amp;tableau</translation>
+    </message>
+    <message>
+        <source>Go To Resu&amp;lts</source>
+        <translation>Aller aux &amp;résultats</translation>
+    </message>
+    <message>
+        <source>Go To Po&amp;ints</source>
+        <translation>Aller aux p&amp;oints</translation>
+    </message>
+    <message>
+        <source>Show &amp;Beside</source>
+        <translation>Afficher à &amp;côté</translation>
+    </message>
+    <message>
+        <source>Show Belo&amp;w</source>
+        <translation>Afficher au-&amp;dessous</translation>
+    </message>
+    <message>
+        <source>&amp;All In Tabs</source>
+        <translation>To&amp;ut en onglets</translation>
+    </message>
+    <message>
+        <source>&amp;Own Window</source>
+        <translation>&amp;Fenêtre séparée</translation>
+    </message>
+    <message>
+        <source>&amp;Close Table</source>
+        <translation>Fermer le ta&amp;bleau</translation>
+    </message>
+    <message>
+        <source>&amp;Next Tab</source>
+        <translation>Onglet &amp;suivant</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Tab</source>
+        <translation>O&amp;nglet précédent</translation>
+    </message>
+</context>
+<context>
     <name>PrintedPages</name>
     <message>
         <source>Page %1 of %2</source>
@@ -1243,6 +1370,21 @@ Overwrite those changes?</source>
     <message>
         <source>Statement</source>
         <translation>Instruction</translation>
+    </message>
+</context>
+<context>
+    <name>ViewTabs</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Fermer %1</translation>
+    </message>
+    <message>
+        <source>Open views</source>
+        <translation>Vues ouvertes</translation>
     </message>
 </context>
 <context>

@@ -9,7 +9,6 @@
 #include "OpeningFault.h"
 #include "OpeningProgress.h"
 #include "PointChooser.h"
-#include "PointTables.h"
 #include "PointValues.h"
 #include "PointsMenu.h"
 #include "ProgramChecking.h"
@@ -28,6 +27,9 @@
 #include "workbench/saving/RecoveryKeeper.h"
 #include "workbench/saving/RecoveryOffer.h"
 #include "workbench/settings/SettingsDialog.h"
+#include "workbench/views/Panes.h"
+#include "workbench/views/TableViews.h"
+#include "workbench/views/WindowMenu.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
@@ -45,11 +47,13 @@
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QStatusBar>
 
+#include <chrono>
 #include <utility>
 
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 MainWindow::MainWindow(Languages &languages, QWidget *parent)
     : QMainWindow(parent)
@@ -61,19 +65,20 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
                                      this))
     , m_view(new ProjectView(*m_document, this))
     , m_fault(new OpeningFault(this))
-    , m_code(&m_view->list())
-    , m_history(new ProjectHistory(*m_document, *m_code))
+    , m_code(&m_view->program())
+    , m_history(new ProjectHistory(*m_document, *m_view))
     , m_renaming(new PointRenaming(*m_document, *m_code, *this))
     , m_saving(new ProjectSaving(*m_document, *this))
     , m_recovery(new RecoveryKeeper(*m_document, this))
     , m_offer(new RecoveryOffer(*m_document, *m_recovery, *m_code, *this))
-    , m_export(new Exporting(*m_code, *this))
+    , m_export(new Exporting(*m_view, *this))
     , m_values(new PointValues(*m_code->codeView(), this))
     , m_results(new CheckResults(this))
     , m_analysis(new LiveAnalysis(*m_code->codeView(), *m_code->RTextBox(), this))
     , m_checking(
           new ProgramChecking({*m_analysis, *m_code->RTextBox()}, *m_document, *m_results, *this))
     , m_navigation(new ProgramNavigation(*m_view, *m_analysis, *m_results, this))
+    , m_panes(new Panes(*this, *m_view, *m_points))
     , m_programInfo(new QLabel(this))
     , m_opening(new OpeningProgress(*m_code->codeView(), this))
     , m_position(new QLabel(this))
@@ -94,6 +99,9 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     connectSaving();
     // Queued: the menu that the language was chosen in is made anew.
     connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
+    m_palette.setSingleShot(true);
+    m_palette.setInterval(0ms);
+    connect(&m_palette, &QTimer::timeout, this, &MainWindow::applyAppearance);
     resize(1100, 700);
 }
 
@@ -104,8 +112,9 @@ void MainWindow::buildMenus()
     buildFileMenu();
     buildEditMenu();
     menuBar()->addMenu(new ProgramMenu(*m_checking, *m_navigation, *m_results, menuBar()));
-    menuBar()->addMenu(new PointsMenu(*m_view, *m_document, *m_renaming, menuBar()));
+    menuBar()->addMenu(new PointsMenu(*m_view, *m_document, *m_renaming, *m_points, menuBar()));
     buildViewMenu();
+    menuBar()->addMenu(new WindowMenu(m_view->workplace(), *m_panes, *m_results, menuBar()));
     menuBar()->addMenu(new HelpMenu(*menuBar()));
 }
 
@@ -122,7 +131,7 @@ void MainWindow::buildFileMenu()
     const auto follow = [this, exports, print] {
         const bool isProject = m_document->project() && m_pages->currentWidget() == m_view;
         exports->setEnabled(isProject);
-        print->setEnabled(isProject && m_code->CurrentType() == dsCode);
+        print->setEnabled(isProject && !m_view->currentTable());
     };
     connect(m_view, &ProjectView::shown, print, follow);
     connect(m_pages, &QStackedWidget::currentChanged, print, follow);
@@ -133,7 +142,7 @@ void MainWindow::buildFileMenu()
 
 void MainWindow::buildEditMenu()
 {
-    auto *edit = new EditMenu(*m_code, *m_history, m_export->colours(), menuBar());
+    auto *edit = new EditMenu(*m_view, *m_history, m_export->colours(), menuBar());
     menuBar()->addMenu(edit);
     connect(edit, &EditMenu::acted, this, &MainWindow::showPosition);
     connect(m_document, &ProjectDocument::tablesChanged, edit, &EditMenu::refresh);
@@ -171,6 +180,8 @@ void MainWindow::connectEditor()
     connect(m_code->RTextBox(), &QPlainTextEdit::blockCountChanged, this,
             &MainWindow::showProgramInfo);
     m_code->RTextBox()->viewport()->installEventFilter(this);
+    connect(m_code->codeView(), &CodeView::problemChosen, m_view,
+            [this] { m_view->enterType(dsCode); });
     connect(m_code->codeView(), &CodeView::problemChosen, this, &MainWindow::showPosition);
     connect(m_code->RTextBox(), &QPlainTextEdit::selectionChanged, this, &MainWindow::showPosition);
     connectAnalysis();
@@ -200,15 +211,15 @@ void MainWindow::connectPoints()
     connect(m_points, &PointChooser::chosen, m_view, &ProjectView::takePoint);
     connect(m_points, &PointChooser::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(&m_view->tables(), &PointTables::readingStarted, this,
+    connect(&m_view->tables(), &TableViews::readingStarted, this,
             [this] { statusBar()->showMessage(tr("Reading the values…")); });
-    connect(&m_view->tables(), &PointTables::readingFinished, this,
+    connect(&m_view->tables(), &TableViews::readingFinished, this,
             [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
-    connect(&m_view->tables(), &PointTables::readingFinished, m_values, &PointValues::takeProject);
-    connect(&m_view->tables(), &PointTables::renameWanted, m_renaming, &PointRenaming::rename);
+    connect(&m_view->tables(), &TableViews::readingFinished, m_values, &PointValues::takeProject);
+    connect(&m_view->tables(), &TableViews::renameWanted, m_renaming, &PointRenaming::rename);
     connect(m_history, &ProjectHistory::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(&m_view->tables(), &PointTables::refused, this,
+    connect(&m_view->tables(), &TableViews::refused, this,
             [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
 }
 
@@ -307,7 +318,7 @@ void MainWindow::showProgram()
     m_code->codeView()->openProgram(m_document->project()->program());
     m_document->noteShown();
     takePoints();
-    m_code->setFocus();
+    m_view->enterType(dsCode);
     showPosition();
     showProgramInfo();
 }
@@ -335,12 +346,16 @@ void MainWindow::setSettings(const Settings &settings)
     if (settings.language != former.language)
         m_languages.setLanguage(settings.language.value_or(QLocale::system()));
     useTheme(settings.theme);
-    if (settings.look != former.look && m_document->project())
+    if (settings.look != former.look)
         applyAppearance();
 }
 
+// A change of theme is several of style and palette; the program is coloured once.
 void MainWindow::applyAppearance()
 {
+    m_palette.stop();
+    if (!m_document->project())
+        return;
     const RichTextSettings paper = m_document->project()->editor();
     const RichTextSettings shown =
         toldApart(legibleOn(palette(), m_settings.look.over(paper)), paper);
@@ -381,8 +396,8 @@ void MainWindow::retranslate()
 
 void MainWindow::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange && m_document->project())
-        applyAppearance();
+    if (event->type() == QEvent::PaletteChange)
+        m_palette.start();
     QMainWindow::changeEvent(event);
 }
 

@@ -4,6 +4,7 @@
 
 #include <ORVTListview/ORVListView.h>
 
+#include <QtCore/QTimer>
 #include <QtWidgets/QMainWindow>
 
 class QLabel;
@@ -18,6 +19,7 @@ class Languages;
 class LiveAnalysis;
 class OpeningProgress;
 class OpeningFault;
+class Panes;
 class ProgramChecking;
 class ProgramNavigation;
 class PointChooser;
@@ -107,9 +109,11 @@ private:
     LiveAnalysis *m_analysis;
     ProgramChecking *m_checking;
     ProgramNavigation *m_navigation;
+    Panes *m_panes;
     QLabel *m_programInfo;
     OpeningProgress *m_opening;
     QLabel *m_position;
+    QTimer m_palette; // since it changed, till the program has its colours
 };
 
 } // namespace ORVTListview

@@ -1,11 +1,12 @@
 #include "PointsMenu.h"
 
-#include "PointCells.h"
+#include "PointKindMenu.h"
 #include "PointTables.h"
 #include "ProjectView.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "workbench/renaming/PointRenaming.h"
+#include "workbench/views/TableViews.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QKeySequence>
@@ -13,15 +14,22 @@
 namespace ORVTListview {
 
 PointsMenu::PointsMenu(ProjectView &view, const ProjectDocument &document, PointRenaming &renaming,
-                       QWidget *parent)
+                       PointChooser &chooser, QWidget *parent)
     : QMenu(tr("P&oints"), parent)
     , m_view(view)
     , m_document(document)
 {
-    addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), &view,
-              [&view] { view.tables().read(view.list().CurrentType()); });
+    addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), &view, [this] {
+        if (PointTables *table = m_view.currentTable())
+            table->read(type());
+    });
     addPoints(renaming);
-    addAction(tr("&Fit Columns"), &view.tables(), &PointTables::fitColumns);
+    addAction(tr("&Fit Columns"), &view, [this] {
+        if (PointTables *table = m_view.currentTable())
+            table->fitColumns();
+    });
+    addSeparator();
+    addMenu(new PointKindMenu(chooser, this));
     addSeparator();
     addSwitches();
     connect(this, &QMenu::aboutToShow, this, &PointsMenu::refresh);
@@ -29,13 +37,16 @@ PointsMenu::PointsMenu(ProjectView &view, const ProjectDocument &document, Point
 
 void PointsMenu::addPoints(PointRenaming &renaming)
 {
-    m_rename = addAction(tr("Re&name"), &m_view.tables(), &PointTables::editName);
+    m_rename = addAction(tr("Re&name"), &m_view, [this] {
+        if (PointTables *table = m_view.currentTable())
+            table->editName();
+    });
     m_rename->setShortcut(QKeySequence(Qt::Key_F2));
     m_rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
-    m_add = addAction(tr("&Add Point…"), &renaming,
-                      [this, &renaming] { renaming.add(m_view.list().CurrentType()); });
+    m_add = addAction(tr("&Add Point…"), &renaming, [this, &renaming] { renaming.add(type()); });
     m_remove = addAction(tr("Re&move Point"), &renaming, [this, &renaming] {
-        renaming.remove(m_view.list().CurrentType(), m_view.tables().selectedPoint());
+        if (const PointTables *table = m_view.currentTable())
+            renaming.remove(type(), table->selectedPoint());
     });
 }
 
@@ -43,21 +54,25 @@ void PointsMenu::addSwitches()
 {
     m_cells = addAction(tr("&Edit Cells"));
     m_cells->setCheckable(true);
-    m_cells->setChecked(m_view.cells().isOn());
-    connect(m_cells, &QAction::triggered, &m_view.cells(), &PointCells::setOn);
+    m_cells->setChecked(m_view.tables().editsCells());
+    connect(m_cells, &QAction::triggered, &m_view.tables(), &TableViews::setEditsCells);
     m_overrides = addAction(tr("&Hardware Overrides"));
     m_overrides->setCheckable(true);
-    connect(m_overrides, &QAction::triggered, &m_view.tables(), &PointTables::setShowsOverrides);
+    connect(m_overrides, &QAction::triggered, &m_view.tables(), &TableViews::setShowsOverrides);
+}
+
+LwType PointsMenu::type() const
+{
+    return m_view.current().CurrentType();
 }
 
 void PointsMenu::refresh()
 {
-    const LwType type = m_view.list().CurrentType();
-    const bool isTable = m_document.project() && type != dsCode;
-    const bool isPoint = isTable && m_view.tables().selectedPoint() >= 0;
-    m_add->setEnabled(isTable);
+    const PointTables *table = m_document.project() ? m_view.currentTable() : nullptr;
+    const bool isPoint = table && table->selectedPoint() >= 0;
+    m_add->setEnabled(table);
     m_remove->setEnabled(isPoint);
-    m_rename->setEnabled(isPoint && nameColumn(type) >= 0);
+    m_rename->setEnabled(isPoint && nameColumn(type()) >= 0);
     m_overrides->setChecked(m_view.tables().showsOverrides());
 }
 

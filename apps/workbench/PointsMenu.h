@@ -1,9 +1,12 @@
 #pragma once
 
+#include <ORVTListview/Types.h>
+
 #include <QtWidgets/QMenu>
 
 namespace ORVTListview {
 
+class PointChooser;
 class PointRenaming;
 class ProjectDocument;
 class ProjectView;
@@ -16,12 +19,13 @@ class PointsMenu : public QMenu
 public:
     // All of them outlive the menu.
     PointsMenu(ProjectView &view, const ProjectDocument &document, PointRenaming &renaming,
-               QWidget *parent);
+               PointChooser &chooser, QWidget *parent);
 
 private:
     void addPoints(PointRenaming &renaming);
     void addSwitches();
     void refresh();
+    LwType type() const;
 
     ProjectView &m_view;
     const ProjectDocument &m_document;
