@@ -104,9 +104,12 @@ void Workplace::noteClosed(ViewDock *dock)
 
 void Workplace::show(ViewDock &dock)
 {
+    const ViewDock *focused = dockOf(QApplication::focusWidget());
     dock.show();
     dock.raise();
     setCurrent(&dock);
+    if (focused && focused != &dock)
+        dock.view().setFocus(); // nobody types into what may be hidden now
 }
 
 void Workplace::enter(ViewDock &dock)

@@ -32,7 +32,7 @@ public:
     // Null before the first one is shown.
     ViewDock *current() const { return m_used.value(0); }
 
-    // Shows it in front of its tabs. The focus stays where it is.
+    // Shows it in front of its tabs. The focus comes from another view, else stays where it is.
     void show(ViewDock &dock);
 
     // The same, and the focus goes there.
