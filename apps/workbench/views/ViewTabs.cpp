@@ -4,6 +4,7 @@
 #include "workbench/views/Workplace.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QTabBar>
@@ -32,12 +33,17 @@ QList<QTabBar *> tabBars(const Workplace &workplace)
     return workplace.findChildren<QTabBar *>(); // also of windows that have several
 }
 
-// The focus goes with a click.
+// The focus goes with a click, but not before the toolkit has it: a drag may begin.
 void connectTabs(Workplace &workplace, const QTabBar &tabs)
 {
     QObject::connect(&tabs, &QTabBar::tabBarClicked, &workplace, [&workplace, &tabs](int index) {
-        if (ViewDock *dock = dockAt(workplace, tabs, index))
-            workplace.enter(*dock);
+        QMetaObject::invokeMethod(
+            &workplace,
+            [&workplace, dock = QPointer<ViewDock>(dockAt(workplace, tabs, index))] {
+                if (dock && !dock->isHidden())
+                    workplace.enter(*dock);
+            },
+            Qt::QueuedConnection);
     });
     QObject::connect(&tabs, &QTabBar::tabCloseRequested, &workplace,
                      [&workplace, &tabs](int index) {
