@@ -184,6 +184,21 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::CategoryMenu</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Beside</source>
+        <translation>&amp;Daneben zeigen</translation>
+    </message>
+    <message>
+        <source>Show Belo&amp;w</source>
+        <translation>Da&amp;runter zeigen</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::CheckModel</name>
     <message>
         <source>Nothing found.</source>
@@ -241,6 +256,25 @@
     <message>
         <source>Change</source>
         <translation>Änderung</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::DockTitle</name>
+    <message>
+        <source>Put back into the window</source>
+        <translation>Ins Fenster zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Show in a window of its own</source>
+        <translation>In eigenem Fenster zeigen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>%1 schließen</translation>
     </message>
 </context>
 <context>
@@ -571,26 +605,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>&amp;Program</source>
-        <translation>&amp;Programm</translation>
-    </message>
-    <message>
-        <source>&amp;Analyse</source>
-        <translation>&amp;Prüfen</translation>
-    </message>
-    <message>
-        <source>&amp;Compile</source>
-        <translation>&amp;Übersetzen</translation>
-    </message>
-    <message>
-        <source>&amp;Results</source>
-        <translation>&amp;Ergebnisse</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
         <source>Open Project</source>
         <translation>Projekt öffnen</translation>
     </message>
@@ -601,22 +615,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
     <message>
         <source>%1, lines: %2</source>
         <translation>%1, Zeilen: %2</translation>
-    </message>
-    <message>
-        <source>P&amp;oints</source>
-        <translation>P&amp;unkte</translation>
-    </message>
-    <message>
-        <source>&amp;Read Values</source>
-        <translation>&amp;Werte lesen</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>&amp;Umbenennen</translation>
-    </message>
-    <message>
-        <source>&amp;Fit Columns</source>
-        <translation>&amp;Spalten anpassen</translation>
     </message>
     <message>
         <source>Reading the values…</source>
@@ -631,14 +629,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <translation>Umbenennen</translation>
     </message>
     <message>
-        <source>&amp;Edit Cells</source>
-        <translation>&amp;Zellen bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Hardware Overrides</source>
-        <translation>&amp;Handübersteuerungen</translation>
-    </message>
-    <message>
         <source>&amp;Export…</source>
         <translation>E&amp;xportieren…</translation>
     </message>
@@ -647,28 +637,12 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <translation>&amp;Drucken…</translation>
     </message>
     <message>
-        <source>&amp;Export Statements…</source>
-        <translation>Anweisungen e&amp;xportieren…</translation>
-    </message>
-    <message>
-        <source>&amp;Settings…</source>
-        <translation>Ei&amp;nstellungen…</translation>
-    </message>
-    <message>
         <source>&amp;Save</source>
         <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save Else&amp;where…</source>
         <translation>&amp;Woanders speichern…</translation>
-    </message>
-    <message>
-        <source>&amp;Add Point…</source>
-        <translation>&amp;Punkt hinzufügen…</translation>
-    </message>
-    <message>
-        <source>Re&amp;move Point</source>
-        <translation>Punkt &amp;entfernen</translation>
     </message>
     <message>
         <source>What you type cannot be kept for recovery: %1</source>
@@ -760,6 +734,29 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::PointKindMenu</name>
+    <message>
+        <source>&amp;Choose From</source>
+        <translation>&amp;Auswählen aus</translation>
+    </message>
+    <message>
+        <source>&amp;Inputs</source>
+        <translation>&amp;Eingänge</translation>
+    </message>
+    <message>
+        <source>&amp;Outputs</source>
+        <translation>&amp;Ausgänge</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variablen</translation>
+    </message>
+    <message>
+        <source>&amp;Constants</source>
+        <translation>&amp;Konstanten</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointRenaming</name>
     <message>
         <source>Add Point</source>
@@ -803,6 +800,64 @@ Entfernen?</translation>
     <message>
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointsMenu</name>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;unkte</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Werte lesen</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Spalten anpassen</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Add Point…</source>
+        <translation>&amp;Punkt hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Point</source>
+        <translation>Punkt &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cells</source>
+        <translation>&amp;Zellen bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Hardware Overrides</source>
+        <translation>&amp;Handübersteuerungen</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramMenu</name>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Analyse</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>&amp;Compile</source>
+        <translation>&amp;Übersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Export Statements…</source>
+        <translation>Anweisungen e&amp;xportieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Ergebnisse</translation>
     </message>
 </context>
 <context>
@@ -885,6 +940,13 @@ Speichern?</translation>
 Overwrite those changes?</source>
         <translation>Die Datei %1 wurde seit dem Öffnen anderswo geändert.
 Diese Änderungen überschreiben?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProjectView</name>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1138,80 @@ Diese Änderungen überschreiben?</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>Ei&amp;nstellungen…</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::WindowMenu</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message>
+        <source>Next &amp;Pane</source>
+        <translation>Nächster &amp;Bereich</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Pane</source>
+        <translation>&amp;Voriger Bereich</translation>
+    </message>
+    <message>
+        <source>Go To Pro&amp;ject</source>
+        <translation>Zum Pro&amp;jekt</translation>
+    </message>
+    <message>
+        <source>Go To Pro&amp;gram</source>
+        <translation>Zum Pro&amp;gramm</translation>
+    </message>
+    <message>
+        <source>Go To &amp;Table</source>
+        <translation>Zur &amp;Tabelle</translation>
+    </message>
+    <message>
+        <source>Go To Resu&amp;lts</source>
+        <translation>Zu den &amp;Ergebnissen</translation>
+    </message>
+    <message>
+        <source>Go To Po&amp;ints</source>
+        <translation>Zu den &amp;Punkten</translation>
+    </message>
+    <message>
+        <source>Show &amp;Beside</source>
+        <translation>&amp;Daneben zeigen</translation>
+    </message>
+    <message>
+        <source>Show Belo&amp;w</source>
+        <translation>Da&amp;runter zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;All In Tabs</source>
+        <translation>&amp;Alle in Registern</translation>
+    </message>
+    <message>
+        <source>&amp;Own Window</source>
+        <translation>Eigenes &amp;Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Close Table</source>
+        <translation>Tabelle &amp;schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Tab</source>
+        <translation>&amp;Nächstes Register</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Tab</source>
+        <translation>V&amp;origes Register</translation>
+    </message>
+</context>
+<context>
     <name>PrintedPages</name>
     <message>
         <source>Page %1 of %2</source>
@@ -1234,6 +1370,21 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>Statement</source>
         <translation>Anweisung</translation>
+    </message>
+</context>
+<context>
+    <name>ViewTabs</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>%1 schließen</translation>
+    </message>
+    <message>
+        <source>Open views</source>
+        <translation>Offene Ansichten</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,21 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::CategoryMenu</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>Show &amp;Beside</source>
+        <translation>Mostrar al &amp;lado</translation>
+    </message>
+    <message>
+        <source>Show Belo&amp;w</source>
+        <translation>Mostrar de&amp;bajo</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::CheckModel</name>
     <message>
         <source>Nothing found.</source>
@@ -241,6 +256,25 @@
     <message>
         <source>Change</source>
         <translation>Cambio</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::DockTitle</name>
+    <message>
+        <source>Put back into the window</source>
+        <translation>Devolver a la ventana</translation>
+    </message>
+    <message>
+        <source>Show in a window of its own</source>
+        <translation>Mostrar en una ventana propia</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Cerrar %1</translation>
     </message>
 </context>
 <context>
@@ -571,26 +605,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <translation>&amp;Salir</translation>
     </message>
     <message>
-        <source>&amp;Program</source>
-        <translation>&amp;Programa</translation>
-    </message>
-    <message>
-        <source>&amp;Analyse</source>
-        <translation>&amp;Analizar</translation>
-    </message>
-    <message>
-        <source>&amp;Compile</source>
-        <translation>&amp;Compilar</translation>
-    </message>
-    <message>
-        <source>&amp;Results</source>
-        <translation>&amp;Resultados</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ver</translation>
-    </message>
-    <message>
         <source>Open Project</source>
         <translation>Abrir proyecto</translation>
     </message>
@@ -601,22 +615,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
     <message>
         <source>%1, lines: %2</source>
         <translation>%1, líneas: %2</translation>
-    </message>
-    <message>
-        <source>P&amp;oints</source>
-        <translation>P&amp;untos</translation>
-    </message>
-    <message>
-        <source>&amp;Read Values</source>
-        <translation>&amp;Leer valores</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>&amp;Cambiar nombre</translation>
-    </message>
-    <message>
-        <source>&amp;Fit Columns</source>
-        <translation>&amp;Ajustar columnas</translation>
     </message>
     <message>
         <source>Reading the values…</source>
@@ -631,14 +629,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <translation>Cambiar nombre</translation>
     </message>
     <message>
-        <source>&amp;Edit Cells</source>
-        <translation>&amp;Editar celdas</translation>
-    </message>
-    <message>
-        <source>&amp;Hardware Overrides</source>
-        <translation>&amp;Mandos manuales</translation>
-    </message>
-    <message>
         <source>&amp;Export…</source>
         <translation>&amp;Exportar…</translation>
     </message>
@@ -647,28 +637,12 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <translation>&amp;Imprimir…</translation>
     </message>
     <message>
-        <source>&amp;Export Statements…</source>
-        <translation>&amp;Exportar instrucciones…</translation>
-    </message>
-    <message>
-        <source>&amp;Settings…</source>
-        <translation>A&amp;justes…</translation>
-    </message>
-    <message>
         <source>&amp;Save</source>
         <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>Save Else&amp;where…</source>
         <translation>Guardar en o&amp;tro lugar…</translation>
-    </message>
-    <message>
-        <source>&amp;Add Point…</source>
-        <translation>Añadir &amp;punto…</translation>
-    </message>
-    <message>
-        <source>Re&amp;move Point</source>
-        <translation>&amp;Quitar punto</translation>
     </message>
     <message>
         <source>What you type cannot be kept for recovery: %1</source>
@@ -760,6 +734,29 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::PointKindMenu</name>
+    <message>
+        <source>&amp;Choose From</source>
+        <translation>Elegir e&amp;ntre</translation>
+    </message>
+    <message>
+        <source>&amp;Inputs</source>
+        <translation>&amp;Entradas</translation>
+    </message>
+    <message>
+        <source>&amp;Outputs</source>
+        <translation>&amp;Salidas</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variables</translation>
+    </message>
+    <message>
+        <source>&amp;Constants</source>
+        <translation>&amp;Constantes</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointRenaming</name>
     <message>
         <source>Add Point</source>
@@ -803,6 +800,64 @@ Remove it?</source>
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointsMenu</name>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;untos</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Leer valores</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Ajustar columnas</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Add Point…</source>
+        <translation>Añadir &amp;punto…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Point</source>
+        <translation>&amp;Quitar punto</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cells</source>
+        <translation>&amp;Editar celdas</translation>
+    </message>
+    <message>
+        <source>&amp;Hardware Overrides</source>
+        <translation>&amp;Mandos manuales</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramMenu</name>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programa</translation>
+    </message>
+    <message>
+        <source>&amp;Analyse</source>
+        <translation>&amp;Analizar</translation>
+    </message>
+    <message>
+        <source>&amp;Compile</source>
+        <translation>&amp;Compilar</translation>
+    </message>
+    <message>
+        <source>&amp;Export Statements…</source>
+        <translation>&amp;Exportar instrucciones…</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Resultados</translation>
     </message>
 </context>
 <context>
@@ -885,6 +940,13 @@ Save them?</source>
 Overwrite those changes?</source>
         <translation>El archivo %1 ha sido modificado en otro lugar desde que se abrió.
 ¿Sobrescribir esos cambios?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProjectView</name>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1138,80 @@ Overwrite those changes?</source>
     </message>
 </context>
 <context>
+    <name>ORVTListview::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>A&amp;justes…</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::WindowMenu</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Ve&amp;ntana</translation>
+    </message>
+    <message>
+        <source>Next &amp;Pane</source>
+        <translation>Panel &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Pane</source>
+        <translation>&amp;Panel anterior</translation>
+    </message>
+    <message>
+        <source>Go To Pro&amp;ject</source>
+        <translation>Ir al pro&amp;yecto</translation>
+    </message>
+    <message>
+        <source>Go To Pro&amp;gram</source>
+        <translation>Ir al pro&amp;grama</translation>
+    </message>
+    <message>
+        <source>Go To &amp;Table</source>
+        <translation>Ir a la &amp;tabla</translation>
+    </message>
+    <message>
+        <source>Go To Resu&amp;lts</source>
+        <translation>Ir a los &amp;resultados</translation>
+    </message>
+    <message>
+        <source>Go To Po&amp;ints</source>
+        <translation>Ir a los p&amp;untos</translation>
+    </message>
+    <message>
+        <source>Show &amp;Beside</source>
+        <translation>Mostrar al &amp;lado</translation>
+    </message>
+    <message>
+        <source>Show Belo&amp;w</source>
+        <translation>Mostrar de&amp;bajo</translation>
+    </message>
+    <message>
+        <source>&amp;All In Tabs</source>
+        <translation>T&amp;odo en pestañas</translation>
+    </message>
+    <message>
+        <source>&amp;Own Window</source>
+        <translation>&amp;Ventana propia</translation>
+    </message>
+    <message>
+        <source>&amp;Close Table</source>
+        <translation>&amp;Cerrar la tabla</translation>
+    </message>
+    <message>
+        <source>&amp;Next Tab</source>
+        <translation>Pestaña s&amp;iguiente</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Tab</source>
+        <translation>Pestaña &amp;anterior</translation>
+    </message>
+</context>
+<context>
     <name>PrintedPages</name>
     <message>
         <source>Page %1 of %2</source>
@@ -1234,6 +1370,21 @@ Overwrite those changes?</source>
     <message>
         <source>Statement</source>
         <translation>Instrucción</translation>
+    </message>
+</context>
+<context>
+    <name>ViewTabs</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Cerrar %1</translation>
+    </message>
+    <message>
+        <source>Open views</source>
+        <translation>Vistas abiertas</translation>
     </message>
 </context>
 <context>

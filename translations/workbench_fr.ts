@@ -184,6 +184,21 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::CategoryMenu</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Show &amp;Beside</source>
+        <translation>Afficher à &amp;côté</translation>
+    </message>
+    <message>
+        <source>Show Belo&amp;w</source>
+        <translation>Afficher au-&amp;dessous</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::CheckModel</name>
     <message>
         <source>Nothing found.</source>
@@ -241,6 +256,25 @@
     <message>
         <source>Change</source>
         <translation>Modification</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::DockTitle</name>
+    <message>
+        <source>Put back into the window</source>
+        <translation>Remettre dans la fenêtre</translation>
+    </message>
+    <message>
+        <source>Show in a window of its own</source>
+        <translation>Afficher dans une fenêtre séparée</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Fermer %1</translation>
     </message>
 </context>
 <context>
@@ -571,26 +605,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <translation>&amp;Quitter</translation>
     </message>
     <message>
-        <source>&amp;Program</source>
-        <translation>&amp;Programme</translation>
-    </message>
-    <message>
-        <source>&amp;Analyse</source>
-        <translation>&amp;Analyser</translation>
-    </message>
-    <message>
-        <source>&amp;Compile</source>
-        <translation>&amp;Compiler</translation>
-    </message>
-    <message>
-        <source>&amp;Results</source>
-        <translation>&amp;Résultats</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Affichage</translation>
-    </message>
-    <message>
         <source>Open Project</source>
         <translation>Ouvrir un projet</translation>
     </message>
@@ -601,22 +615,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     <message>
         <source>%1, lines: %2</source>
         <translation>%1, lignes&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>P&amp;oints</source>
-        <translation>P&amp;oints</translation>
-    </message>
-    <message>
-        <source>&amp;Read Values</source>
-        <translation>&amp;Lire les valeurs</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>&amp;Renommer</translation>
-    </message>
-    <message>
-        <source>&amp;Fit Columns</source>
-        <translation>&amp;Ajuster les colonnes</translation>
     </message>
     <message>
         <source>Reading the values…</source>
@@ -631,14 +629,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <translation>Renommer</translation>
     </message>
     <message>
-        <source>&amp;Edit Cells</source>
-        <translation>Modifier les &amp;cellules</translation>
-    </message>
-    <message>
-        <source>&amp;Hardware Overrides</source>
-        <translation>Forçages &amp;matériels</translation>
-    </message>
-    <message>
         <source>&amp;Export…</source>
         <translation>E&amp;xporter…</translation>
     </message>
@@ -647,28 +637,12 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <translation>&amp;Imprimer…</translation>
     </message>
     <message>
-        <source>&amp;Export Statements…</source>
-        <translation>&amp;Exporter les instructions…</translation>
-    </message>
-    <message>
-        <source>&amp;Settings…</source>
-        <translation>Pa&amp;ramètres…</translation>
-    </message>
-    <message>
         <source>&amp;Save</source>
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>Save Else&amp;where…</source>
         <translation>Enregistrer &amp;ailleurs…</translation>
-    </message>
-    <message>
-        <source>&amp;Add Point…</source>
-        <translation>A&amp;jouter un point…</translation>
-    </message>
-    <message>
-        <source>Re&amp;move Point</source>
-        <translation>S&amp;upprimer le point</translation>
     </message>
     <message>
         <source>What you type cannot be kept for recovery: %1</source>
@@ -760,6 +734,29 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::PointKindMenu</name>
+    <message>
+        <source>&amp;Choose From</source>
+        <translation>C&amp;hoisir parmi</translation>
+    </message>
+    <message>
+        <source>&amp;Inputs</source>
+        <translation>&amp;Entrées</translation>
+    </message>
+    <message>
+        <source>&amp;Outputs</source>
+        <translation>&amp;Sorties</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variables</translation>
+    </message>
+    <message>
+        <source>&amp;Constants</source>
+        <translation>&amp;Constantes</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::PointRenaming</name>
     <message>
         <source>Add Point</source>
@@ -803,6 +800,64 @@ Le supprimer&#xa0;?</translation>
     <message>
         <source>No</source>
         <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::PointsMenu</name>
+    <message>
+        <source>P&amp;oints</source>
+        <translation>P&amp;oints</translation>
+    </message>
+    <message>
+        <source>&amp;Read Values</source>
+        <translation>&amp;Lire les valeurs</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Columns</source>
+        <translation>&amp;Ajuster les colonnes</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>&amp;Add Point…</source>
+        <translation>A&amp;jouter un point…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Point</source>
+        <translation>S&amp;upprimer le point</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cells</source>
+        <translation>Modifier les &amp;cellules</translation>
+    </message>
+    <message>
+        <source>&amp;Hardware Overrides</source>
+        <translation>Forçages &amp;matériels</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramMenu</name>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programme</translation>
+    </message>
+    <message>
+        <source>&amp;Analyse</source>
+        <translation>&amp;Analyser</translation>
+    </message>
+    <message>
+        <source>&amp;Compile</source>
+        <translation>&amp;Compiler</translation>
+    </message>
+    <message>
+        <source>&amp;Export Statements…</source>
+        <translation>&amp;Exporter les instructions…</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Résultats</translation>
     </message>
 </context>
 <context>
@@ -885,6 +940,13 @@ Les enregistrer&#xa0;?</translation>
 Overwrite those changes?</source>
         <translation>Le fichier %1 a été modifié ailleurs depuis son ouverture.
 Écraser ces modifications&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProjectView</name>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1138,80 @@ Overwrite those changes?</source>
     </message>
 </context>
 <context>
+    <name>ORVTListview::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>Pa&amp;ramètres…</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::WindowMenu</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Fe&amp;nêtre</translation>
+    </message>
+    <message>
+        <source>Next &amp;Pane</source>
+        <translation>&amp;Volet suivant</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Pane</source>
+        <translation>Volet &amp;précédent</translation>
+    </message>
+    <message>
+        <source>Go To Pro&amp;ject</source>
+        <translation>Aller au pro&amp;jet</translation>
+    </message>
+    <message>
+        <source>Go To Pro&amp;gram</source>
+        <translation>Aller au pro&amp;gramme</translation>
+    </message>
+    <message>
+        <source>Go To &amp;Table</source>
+        <translation>Aller au &amp;tableau</translation>
+    </message>
+    <message>
+        <source>Go To Resu&amp;lts</source>
+        <translation>Aller aux &amp;résultats</translation>
+    </message>
+    <message>
+        <source>Go To Po&amp;ints</source>
+        <translation>Aller aux p&amp;oints</translation>
+    </message>
+    <message>
+        <source>Show &amp;Beside</source>
+        <translation>Afficher à &amp;côté</translation>
+    </message>
+    <message>
+        <source>Show Belo&amp;w</source>
+        <translation>Afficher au-&amp;dessous</translation>
+    </message>
+    <message>
+        <source>&amp;All In Tabs</source>
+        <translation>To&amp;ut en onglets</translation>
+    </message>
+    <message>
+        <source>&amp;Own Window</source>
+        <translation>&amp;Fenêtre séparée</translation>
+    </message>
+    <message>
+        <source>&amp;Close Table</source>
+        <translation>Fermer le ta&amp;bleau</translation>
+    </message>
+    <message>
+        <source>&amp;Next Tab</source>
+        <translation>Onglet &amp;suivant</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Tab</source>
+        <translation>O&amp;nglet précédent</translation>
+    </message>
+</context>
+<context>
     <name>PrintedPages</name>
     <message>
         <source>Page %1 of %2</source>
@@ -1234,6 +1370,21 @@ Overwrite those changes?</source>
     <message>
         <source>Statement</source>
         <translation>Instruction</translation>
+    </message>
+</context>
+<context>
+    <name>ViewTabs</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Fermer %1</translation>
+    </message>
+    <message>
+        <source>Open views</source>
+        <translation>Vues ouvertes</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "EditMenu.h"
 
 #include "LinesMenu.h"
+#include "ProjectView.h"
 #include "widgets/box/BoxCommands.h"
 #include "workbench/export/ColouredCopy.h"
 #include "workbench/renaming/ProjectHistory.h"
@@ -18,11 +19,12 @@
 
 namespace ORVTListview {
 
-EditMenu::EditMenu(ORVListView &code, ProjectHistory &history, const PaperColours &paper,
+EditMenu::EditMenu(const ProjectView &views, ProjectHistory &history, const PaperColours &paper,
                    QWidget *parent)
     : QMenu(tr("&Edit"), parent)
-    , m_code(code)
-    , m_view(*code.codeView())
+    , m_views(views)
+    , m_code(views.program())
+    , m_view(*m_code.codeView())
     , m_paper(paper)
     , m_history(history)
 {
@@ -37,8 +39,8 @@ EditMenu::EditMenu(ORVListView &code, ProjectHistory &history, const PaperColour
     addSeparator();
     addCommands();
     connect(this, &QMenu::aboutToShow, this, &EditMenu::refresh);
-    connect(&code, &ORVListView::UpdateUndoMenu, this, &EditMenu::refresh);
-    connect(&code, &ORVListView::listviewTypeChanged, this, &EditMenu::refresh);
+    connect(&m_code, &ORVListView::UpdateUndoMenu, this, &EditMenu::refresh);
+    connect(&views, &ProjectView::shown, this, &EditMenu::refresh);
     refresh();
 }
 
@@ -108,7 +110,7 @@ QAction *EditMenu::add(const QString &text, const QKeySequence &keys, void (Edit
 
 void EditMenu::refresh()
 {
-    const bool isCode = m_code.CurrentType() == dsCode;
+    const bool isCode = !m_views.currentTable();
     for (QAction *action : actions())
         action->setEnabled(isCode);
     m_undo->setEnabled(m_history.canUndo());

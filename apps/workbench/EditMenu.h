@@ -5,19 +5,20 @@
 namespace ORVTListview {
 
 class CodeView;
-class ORVListView;
 class PaperColours;
+class ORVListView;
 class ProjectHistory;
+class ProjectView;
 
-// What the editor offers a host's menu. Its commands can be chosen when they have
-// something to do; the keys beside them are the editor's own.
+// What the editor offers a host's menu. Its commands can be chosen while the program is the
+// current view and they have something to do; the keys beside them are the editor's own.
 class EditMenu : public QMenu
 {
     Q_OBJECT
 
 public:
     // Both outlive the menu.
-    EditMenu(ORVListView &code, ProjectHistory &history, const PaperColours &paper,
+    EditMenu(const ProjectView &views, ProjectHistory &history, const PaperColours &paper,
              QWidget *parent);
 
     void refresh();
@@ -48,6 +49,7 @@ private:
     void find();
     void replace();
 
+    const ProjectView &m_views;
     ORVListView &m_code;
     CodeView &m_view;
     const PaperColours &m_paper;

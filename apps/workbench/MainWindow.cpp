@@ -2,24 +2,22 @@
 
 #include "Appearance.h"
 #include "CheckResults.h"
-#include "CheckTexts.h"
 #include "EditMenu.h"
 #include "EditorViewMenu.h"
-#include "LanguageMenu.h"
 #include "Languages.h"
 #include "LiveAnalysis.h"
 #include "OpeningFault.h"
 #include "OpeningProgress.h"
-#include "PointCells.h"
 #include "PointChooser.h"
-#include "PointTables.h"
 #include "PointValues.h"
+#include "PointsMenu.h"
+#include "ProgramChecking.h"
+#include "ProgramMenu.h"
 #include "ProgramNavigation.h"
 #include "ProjectView.h"
-#include "StatementExport.h"
+#include "ViewMenu.h"
 #include "editor/rules/colouring/ColourTable.h"
 #include "project/PointReferences.h"
-#include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/help/HelpMenu.h"
@@ -29,6 +27,9 @@
 #include "workbench/saving/RecoveryKeeper.h"
 #include "workbench/saving/RecoveryOffer.h"
 #include "workbench/settings/SettingsDialog.h"
+#include "workbench/views/Panes.h"
+#include "workbench/views/TableViews.h"
+#include "workbench/views/WindowMenu.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
@@ -36,7 +37,6 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QFileInfo>
-#include <QtCore/QSet>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QApplication>
@@ -47,12 +47,13 @@
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QStatusBar>
 
-#include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 MainWindow::MainWindow(Languages &languages, QWidget *parent)
     : QMainWindow(parent)
@@ -64,17 +65,20 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
                                      this))
     , m_view(new ProjectView(*m_document, this))
     , m_fault(new OpeningFault(this))
-    , m_code(&m_view->list())
-    , m_history(new ProjectHistory(*m_document, *m_code))
+    , m_code(&m_view->program())
+    , m_history(new ProjectHistory(*m_document, *m_view))
     , m_renaming(new PointRenaming(*m_document, *m_code, *this))
     , m_saving(new ProjectSaving(*m_document, *this))
     , m_recovery(new RecoveryKeeper(*m_document, this))
     , m_offer(new RecoveryOffer(*m_document, *m_recovery, *m_code, *this))
-    , m_export(new Exporting(*m_code, *this))
+    , m_export(new Exporting(*m_view, *this))
     , m_values(new PointValues(*m_code->codeView(), this))
     , m_results(new CheckResults(this))
     , m_analysis(new LiveAnalysis(*m_code->codeView(), *m_code->RTextBox(), this))
+    , m_checking(
+          new ProgramChecking({*m_analysis, *m_code->RTextBox()}, *m_document, *m_results, *this))
     , m_navigation(new ProgramNavigation(*m_view, *m_analysis, *m_results, this))
+    , m_panes(new Panes(*this, *m_view, *m_points))
     , m_programInfo(new QLabel(this))
     , m_opening(new OpeningProgress(*m_code->codeView(), this))
     , m_position(new QLabel(this))
@@ -95,6 +99,9 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     connectSaving();
     // Queued: the menu that the language was chosen in is made anew.
     connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
+    m_palette.setSingleShot(true);
+    m_palette.setInterval(0ms);
+    connect(&m_palette, &QTimer::timeout, this, &MainWindow::applyAppearance);
     resize(1100, 700);
 }
 
@@ -104,9 +111,10 @@ void MainWindow::buildMenus()
 {
     buildFileMenu();
     buildEditMenu();
-    buildProgramMenu();
-    buildPointsMenu();
+    menuBar()->addMenu(new ProgramMenu(*m_checking, *m_navigation, *m_results, menuBar()));
+    menuBar()->addMenu(new PointsMenu(*m_view, *m_document, *m_renaming, *m_points, menuBar()));
     buildViewMenu();
+    menuBar()->addMenu(new WindowMenu(m_view->workplace(), *m_panes, *m_results, menuBar()));
     menuBar()->addMenu(new HelpMenu(*menuBar()));
 }
 
@@ -123,7 +131,7 @@ void MainWindow::buildFileMenu()
     const auto follow = [this, exports, print] {
         const bool isProject = m_document->project() && m_pages->currentWidget() == m_view;
         exports->setEnabled(isProject);
-        print->setEnabled(isProject && m_code->CurrentType() == dsCode);
+        print->setEnabled(isProject && !m_view->currentTable());
     };
     connect(m_view, &ProjectView::shown, print, follow);
     connect(m_pages, &QStackedWidget::currentChanged, print, follow);
@@ -134,7 +142,7 @@ void MainWindow::buildFileMenu()
 
 void MainWindow::buildEditMenu()
 {
-    auto *edit = new EditMenu(*m_code, *m_history, m_export->colours(), menuBar());
+    auto *edit = new EditMenu(*m_view, *m_history, m_export->colours(), menuBar());
     menuBar()->addMenu(edit);
     connect(edit, &EditMenu::acted, this, &MainWindow::showPosition);
     connect(m_document, &ProjectDocument::tablesChanged, edit, &EditMenu::refresh);
@@ -142,72 +150,17 @@ void MainWindow::buildEditMenu()
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
 }
 
-// In the editor these keys raise its events; the menu has them for the rest of the
-// window.
-void MainWindow::buildProgramMenu()
-{
-    QMenu *program = menuBar()->addMenu(tr("&Program"));
-    program->addAction(tr("&Analyse"), QKeySequence(Qt::Key_F6), this, &MainWindow::analyse);
-    program->addAction(tr("&Compile"), QKeySequence(Qt::CTRL | Qt::Key_F6), this,
-                       &MainWindow::compile);
-    program->addAction(tr("&Export Statements…"), this, &MainWindow::exportListing);
-    program->addSeparator();
-    m_navigation->fillMenu(*program);
-    program->addSeparator();
-    QAction *results = m_results->toggleViewAction();
-    results->setText(tr("&Results"));
-    program->addAction(results);
-}
-
-void MainWindow::buildPointsMenu()
-{
-    QMenu *points = menuBar()->addMenu(tr("P&oints"));
-    points->addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), this,
-                      [this] { m_view->tables().read(m_code->CurrentType()); });
-    QAction *rename = points->addAction(tr("Re&name"), &m_view->tables(), &PointTables::editName);
-    rename->setShortcut(QKeySequence(Qt::Key_F2));
-    rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
-    QAction *add = points->addAction(tr("&Add Point…"), m_renaming,
-                                     [this] { m_renaming->add(m_code->CurrentType()); });
-    QAction *remove = points->addAction(tr("Re&move Point"), m_renaming, [this] {
-        m_renaming->remove(m_code->CurrentType(), m_view->tables().selectedPoint());
-    });
-    connect(points, &QMenu::aboutToShow, this, [this, add, remove, rename] {
-        const bool isTable = m_document->project() && m_code->CurrentType() != dsCode;
-        const bool isPoint = isTable && m_view->tables().selectedPoint() >= 0;
-        add->setEnabled(isTable);
-        remove->setEnabled(isPoint);
-        rename->setEnabled(isPoint && nameColumn(m_code->CurrentType()) >= 0);
-    });
-    points->addAction(tr("&Fit Columns"), &m_view->tables(), &PointTables::fitColumns);
-    points->addSeparator();
-    QAction *cells = points->addAction(tr("&Edit Cells"));
-    cells->setCheckable(true);
-    cells->setChecked(m_view->cells().isOn());
-    connect(cells, &QAction::triggered, &m_view->cells(), &PointCells::setOn);
-    QAction *overrides = points->addAction(tr("&Hardware Overrides"));
-    overrides->setCheckable(true);
-    connect(overrides, &QAction::triggered, &m_view->tables(), &PointTables::setShowsOverrides);
-    connect(points, &QMenu::aboutToShow, overrides,
-            [this, overrides] { overrides->setChecked(m_view->tables().showsOverrides()); });
-}
-
 void MainWindow::buildViewMenu()
 {
-    QMenu *view = menuBar()->addMenu(tr("&View"));
-    auto *editor = new EditorViewMenu(*m_code->codeView(), view);
-    view->addMenu(editor);
-    connect(editor, &QMenu::triggered, this, &MainWindow::showPosition);
-    auto *languages = new LanguageMenu(m_languages, view);
-    view->addMenu(languages);
-    connect(languages, &LanguageMenu::chosen, this, [this](const QLocale &language) {
+    auto *view = new ViewMenu(*m_code->codeView(), m_languages, menuBar());
+    menuBar()->addMenu(view);
+    connect(view, &ViewMenu::editorChanged, this, &MainWindow::showPosition);
+    connect(view, &ViewMenu::languageChosen, this, [this](const QLocale &language) {
         Settings settings = m_settings;
         settings.language = language;
         decide(settings);
     });
-    view->addSeparator();
-    view->addAction(tr("&Settings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
-                    &MainWindow::chooseSettings);
+    connect(view, &ViewMenu::settingsWanted, this, &MainWindow::chooseSettings);
 }
 
 void MainWindow::buildStatusBar()
@@ -222,11 +175,13 @@ void MainWindow::buildStatusBar()
 void MainWindow::connectEditor()
 {
     connect(m_code, &ORVListView::StatusUpdate, m_position, &QLabel::setText);
-    connect(m_code, &ORVListView::QueryAnalyze, this, &MainWindow::analyse);
-    connect(m_code, &ORVListView::QueryCompile, this, &MainWindow::compile);
+    connect(m_code, &ORVListView::QueryAnalyze, m_checking, &ProgramChecking::analyse);
+    connect(m_code, &ORVListView::QueryCompile, m_checking, &ProgramChecking::compile);
     connect(m_code->RTextBox(), &QPlainTextEdit::blockCountChanged, this,
             &MainWindow::showProgramInfo);
     m_code->RTextBox()->viewport()->installEventFilter(this);
+    connect(m_code->codeView(), &CodeView::problemChosen, m_view,
+            [this] { m_view->enterType(dsCode); });
     connect(m_code->codeView(), &CodeView::problemChosen, this, &MainWindow::showPosition);
     connect(m_code->RTextBox(), &QPlainTextEdit::selectionChanged, this, &MainWindow::showPosition);
     connectAnalysis();
@@ -256,15 +211,15 @@ void MainWindow::connectPoints()
     connect(m_points, &PointChooser::chosen, m_view, &ProjectView::takePoint);
     connect(m_points, &PointChooser::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(&m_view->tables(), &PointTables::readingStarted, this,
+    connect(&m_view->tables(), &TableViews::readingStarted, this,
             [this] { statusBar()->showMessage(tr("Reading the values…")); });
-    connect(&m_view->tables(), &PointTables::readingFinished, this,
+    connect(&m_view->tables(), &TableViews::readingFinished, this,
             [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
-    connect(&m_view->tables(), &PointTables::readingFinished, m_values, &PointValues::takeProject);
-    connect(&m_view->tables(), &PointTables::renameWanted, m_renaming, &PointRenaming::rename);
+    connect(&m_view->tables(), &TableViews::readingFinished, m_values, &PointValues::takeProject);
+    connect(&m_view->tables(), &TableViews::renameWanted, m_renaming, &PointRenaming::rename);
     connect(m_history, &ProjectHistory::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(&m_view->tables(), &PointTables::refused, this,
+    connect(&m_view->tables(), &TableViews::refused, this,
             [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
 }
 
@@ -363,7 +318,7 @@ void MainWindow::showProgram()
     m_code->codeView()->openProgram(m_document->project()->program());
     m_document->noteShown();
     takePoints();
-    m_code->setFocus();
+    m_view->enterType(dsCode);
     showPosition();
     showProgramInfo();
 }
@@ -391,52 +346,21 @@ void MainWindow::setSettings(const Settings &settings)
     if (settings.language != former.language)
         m_languages.setLanguage(settings.language.value_or(QLocale::system()));
     useTheme(settings.theme);
-    if (settings.look != former.look && m_document->project())
+    if (settings.look != former.look)
         applyAppearance();
 }
 
+// A change of theme is several of style and palette; the program is coloured once.
 void MainWindow::applyAppearance()
 {
+    m_palette.stop();
+    if (!m_document->project())
+        return;
     const RichTextSettings paper = m_document->project()->editor();
     const RichTextSettings shown =
         toldApart(legibleOn(palette(), m_settings.look.over(paper)), paper);
     m_code->Init_RichTextBox(shown);
     m_export->setColours(PaperColours(paper, shown));
-}
-
-void MainWindow::analyse()
-{
-    m_results->showProblems(m_analysis->finished());
-}
-
-void MainWindow::compile()
-{
-    if (const auto statements = compiled())
-        m_results->showStatements(*statements);
-}
-
-// None, and the problems are shown, for a program with errors.
-std::optional<QList<ListedStatement>> MainWindow::compiled()
-{
-    const ProgramAnalysis &found = m_analysis->finished();
-    const QSet<Fault> &faults = found.faults();
-    const bool hasErrors = std::any_of(faults.cbegin(), faults.cend(), [](Fault fault) {
-        return severityOf(fault) == ProblemSeverity::Error;
-    });
-    if (hasErrors) {
-        m_results->showProblems(found);
-        return {};
-    }
-    const RichTextBox &box = *m_code->RTextBox();
-    return listStatements(
-        box.lineCount(), [&box](qint32 line) { return box.lineText(line); }, m_analysis->words());
-}
-
-void MainWindow::exportListing()
-{
-    if (const auto statements = compiled())
-        exportStatements(*this, *statements,
-                         m_document->project() ? m_document->project()->programFile() : QString());
 }
 
 void MainWindow::showPosition()
@@ -472,8 +396,8 @@ void MainWindow::retranslate()
 
 void MainWindow::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange && m_document->project())
-        applyAppearance();
+    if (event->type() == QEvent::PaletteChange)
+        m_palette.start();
     QMainWindow::changeEvent(event);
 }
 

@@ -4,10 +4,8 @@
 
 #include <ORVTListview/ORVListView.h>
 
-#include <QtCore/QList>
+#include <QtCore/QTimer>
 #include <QtWidgets/QMainWindow>
-
-#include <optional>
 
 class QLabel;
 class QStackedWidget;
@@ -21,6 +19,8 @@ class Languages;
 class LiveAnalysis;
 class OpeningProgress;
 class OpeningFault;
+class Panes;
+class ProgramChecking;
 class ProgramNavigation;
 class PointChooser;
 class PointRenaming;
@@ -31,7 +31,6 @@ class ProjectSaving;
 class ProjectView;
 class RecoveryKeeper;
 class RecoveryOffer;
-struct ListedStatement;
 
 // A small host: shows a project in the library's components.
 class MainWindow : public QMainWindow
@@ -74,8 +73,6 @@ private:
     void buildMenus();
     void buildFileMenu();
     void buildEditMenu();
-    void buildProgramMenu();
-    void buildPointsMenu();
     void buildViewMenu();
     void buildStatusBar();
     void connectEditor();
@@ -89,10 +86,6 @@ private:
     void applyAppearance();
     void connectAnalysis();
     void takePoints();
-    void analyse();
-    void compile();
-    std::optional<QList<ListedStatement>> compiled();
-    void exportListing();
     void showPosition();
     void showProgramInfo();
     void retranslate();
@@ -114,10 +107,13 @@ private:
     PointValues *m_values;
     CheckResults *m_results;
     LiveAnalysis *m_analysis;
+    ProgramChecking *m_checking;
     ProgramNavigation *m_navigation;
+    Panes *m_panes;
     QLabel *m_programInfo;
     OpeningProgress *m_opening;
     QLabel *m_position;
+    QTimer m_palette; // since it changed, till the program has its colours
 };
 
 } // namespace ORVTListview

@@ -80,7 +80,6 @@ void PointCells::setOn(bool on)
     m_grid.setArrangesColumns(on);
     m_grid.setKeepsFirstColumns(on);
     m_grid.setHasMenu(on);
-    m_list.setMultiSelect(on);
 }
 
 void PointCells::setRules()

@@ -61,6 +61,7 @@ PointChooser::PointChooser(QWidget *parent)
     m_points->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_points->setDragsEntry(true); // into the program
     addWidget(m_points);
+    setFocusProxy(m_points);
     connect(m_kinds, &QActionGroup::triggered, this, &PointChooser::refill);
     connect(m_points, &ORVDataCombo::picked, this,
             [this] { Q_EMIT chosen(kind(), m_points->Text()); });
@@ -73,6 +74,23 @@ void PointChooser::setPictures(const ImageList &pictures)
         m_kinds->actions()
             .at(static_cast<qsizetype>(i))
             ->setIcon(pictures.Picture(kinds[i].picture));
+}
+
+QList<LwType> PointChooser::types()
+{
+    QList<LwType> types;
+    for (const Kind &kind : kinds)
+        types.append(kind.type);
+    return types;
+}
+
+void PointChooser::choose(LwType type)
+{
+    for (QAction *action : m_kinds->actions()) {
+        if (action->data().value<LwType>() == type)
+            action->trigger();
+    }
+    m_points->setFocus(Qt::ShortcutFocusReason);
 }
 
 LwType PointChooser::kind() const

@@ -23,6 +23,12 @@ public:
     // Those of the kinds.
     void setPictures(const ImageList &pictures);
 
+    // Shows the points of a kind, and puts the focus there. Nothing for what is no kind.
+    void choose(LwType type);
+
+    // Those there are.
+    static QList<LwType> types();
+
     // The points have changed.
     void refill();
 

@@ -55,7 +55,8 @@ void PointTables::show(LwType type)
         return;
     const auto names = static_cast<qint16>(nameColumn(type) + 1);
     m_list.setLabelColumn(names);
-    showRows();
+    if (m_project)
+        showRows();
     fitColumns();
 }
 

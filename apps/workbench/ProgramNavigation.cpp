@@ -128,7 +128,7 @@ void ProgramNavigation::remember()
 
 ResultPlace ProgramNavigation::current() const
 {
-    const ORVListView &list = m_view.list();
+    const ORVListView &list = m_view.current();
     const LwType type = list.CurrentType();
     if (type != dsCode) {
         const ListItem *item = list.SelectedItem();
@@ -141,10 +141,8 @@ ResultPlace ProgramNavigation::current() const
 
 void ProgramNavigation::show(const ResultPlace &place)
 {
-    ORVListView &list = m_view.list();
-    const LwType type = place.line > 0 ? dsCode : place.type;
-    if (list.CurrentType() != type)
-        m_view.showType(type);
+    m_view.enterType(place.line > 0 ? dsCode : place.type);
+    ORVListView &list = m_view.current();
     if (place.line > 0) {
         showLine(place);
     } else if (place.row < list.ListItems()->Count()) {
@@ -152,13 +150,12 @@ void ProgramNavigation::show(const ResultPlace &place)
         list.setSelectedItem(item);
         item->EnsureVisible();
     }
-    list.setFocus();
     Q_EMIT moved();
 }
 
 void ProgramNavigation::showLine(const ResultPlace &place)
 {
-    ORVListView &list = m_view.list();
+    ORVListView &list = m_view.program();
     RichTextBox &box = *list.RTextBox();
     list.codeView()->goToLine(place.line);
     const qint32 line = std::min(place.line, box.lineCount()) - 1;
@@ -170,11 +167,10 @@ void ProgramNavigation::showLine(const ResultPlace &place)
 
 ProgramNavigation::NamedPoint ProgramNavigation::pointInProgram() const
 {
-    const ORVListView &list = m_view.list();
-    if (list.CurrentType() != dsCode)
+    if (m_view.currentTable())
         return {};
     m_analysis.takeWords();
-    const RichTextBox &box = *list.RTextBox();
+    const RichTextBox &box = *m_view.program().RTextBox();
     const qint32 line = box.GetLineFromChar(box.SelStart());
     const qint32 caret = box.SelStart() - box.lineStart(line);
     const QString text = box.lineText(line);
@@ -197,7 +193,7 @@ ProgramNavigation::NamedPoint ProgramNavigation::pointInTable() const
 
 ProgramNavigation::NamedPoint ProgramNavigation::point() const
 {
-    return m_view.list().CurrentType() == dsCode ? pointInProgram() : pointInTable();
+    return m_view.currentTable() ? pointInTable() : pointInProgram();
 }
 
 qsizetype ProgramNavigation::rowOf(const NamedPoint &point) const
@@ -214,7 +210,7 @@ qsizetype ProgramNavigation::rowOf(const NamedPoint &point) const
 QList<ShownUse> ProgramNavigation::usesOf(const NamedPoint &point) const
 {
     QList<ShownUse> uses;
-    const RichTextBox &box = *m_view.list().RTextBox();
+    const RichTextBox &box = *m_view.program().RTextBox();
     for (const UsePlace &use : m_analysis.usesOf(point.name))
         uses.append({{use.line, use.place}, box.lineText(use.line - 1).simplified()});
     if (!m_project)

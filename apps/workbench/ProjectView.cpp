@@ -1,15 +1,22 @@
 #include "ProjectView.h"
 
-#include "PointCells.h"
 #include "PointTables.h"
 #include "project/Project.h"
+#include "shared/points/DisplayNames.h"
 #include "widgets/box/BoxCommands.h"
+#include "workbench/views/CategoryMenu.h"
+#include "workbench/views/TableViews.h"
+#include "workbench/views/ViewDock.h"
+#include "workbench/views/Workplace.h"
 
 #include <ORVTListview/Node.h>
 #include <ORVTListview/Nodes.h>
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
+
+#include <utility>
 
 namespace ORVTListview {
 
@@ -18,23 +25,54 @@ using namespace Qt::StringLiterals;
 ProjectView::ProjectView(ProjectDocument &document, QWidget *parent)
     : QSplitter(parent)
     , m_tree(new ORVTreeview(this))
-    , m_list(new ORVListView(this))
-    , m_tables(new PointTables(*m_list))
-    , m_cells(new PointCells(*m_list, document))
+    , m_workplace(new Workplace(this))
+    , m_program(new ViewDock(u"Program"_s, m_workplace))
+    , m_tables(new TableViews(document, *m_workplace))
 {
     setChildrenCollapsible(false);
     setStretchFactor(1, 1);
     const int treeWidth = fontMetrics().averageCharWidth() * 42;
     setSizes({treeWidth, 5 * treeWidth});
-    m_list->setListviewType(dsCode);
+    m_program->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
+    m_program->setTitle(tr("Program"));
+    program().setListviewType(dsCode);
     m_tree->InitStrings();
-    m_list->InitStrings();
     connect(m_tree, &ORVTreeview::NodeClick, this, &ProjectView::followTree);
+    connect(m_workplace, &Workplace::currentChanged, this, &ProjectView::followViews);
+    connect(m_workplace, &Workplace::entered, this, [this](const ViewDock *dock) {
+        if (dock == m_looked)
+            m_looked = nullptr;
+    });
+    new CategoryMenu(*this);
+    m_workplace->add(*m_program, nullptr);
+    m_workplace->show(*m_program);
+}
+
+ORVListView &ProjectView::program() const
+{
+    return m_program->view();
+}
+
+ORVListView &ProjectView::current() const
+{
+    const ViewDock *dock = m_workplace->current();
+    return dock ? dock->view() : program();
+}
+
+PointTables *ProjectView::currentTable() const
+{
+    return m_tables->tableIn(m_workplace->current());
+}
+
+ViewDock &ProjectView::dockOf(LwType type) const
+{
+    return type == dsCode ? *m_program : m_tables->dock(type);
 }
 
 void ProjectView::setProject(Project &project)
 {
     m_project = &project;
+    m_program->setTitle(QFileInfo(project.programFile()).fileName());
     m_tables->setProject(&project);
     m_tree->SetCollectionRenamable(window(), project.points(dsVariable), project.points(dsConst),
                                    project.points(dsInput), project.points(dsOutput),
@@ -46,57 +84,79 @@ void ProjectView::setProject(Project &project)
 void ProjectView::applyFunctionWords()
 {
     m_tree->setIsSqrtSupported(m_project->controller().isSqrtSupported ? u"true"_s : u"false"_s);
-    m_list->RefillListviewWithWordList();
+    program().RefillListviewWithWordList();
 }
 
 // A category shows its table or the program; the device and the pages show nothing.
 void ProjectView::followTree(const Node *node)
 {
-    const int type = node->Tag().toInt();
-    if (type >= dsCode && type <= dsOutputParam && type != m_list->CurrentType())
-        showType(static_cast<LwType>(type));
+    if (const auto type = CategoryMenu::typeOf(node); type && m_project)
+        look(*type);
+}
+
+void ProjectView::look(LwType type)
+{
+    ViewDock &dock = dockOf(type);
+    const bool isOpened = dock.isHidden();
+    m_workplace->show(dock);
+    if (!isOpened)
+        return;
+    if (ViewDock *former = std::exchange(m_looked, &dock); former && !former->isFloating())
+        former->close();
 }
 
 void ProjectView::showType(LwType type)
 {
-    if (!m_project)
+    if (!m_project || !isType(type))
         return;
-    m_tables->show(type);
-    if (type == dsCode)
-        applyFunctionWords(); // showing the program takes SQRT out of them
-    Node *category = m_tree->Nodes()->Item(m_tree->GetItemKey(static_cast<qint16>(type)));
-    m_tree->setSelectedItem(category);
-    category->EnsureVisible();
+    m_workplace->show(dockOf(type));
+    followViews(); // the project may be another one
+}
+
+void ProjectView::enterType(LwType type)
+{
+    if (m_project && isType(type))
+        m_workplace->enter(dockOf(type));
+}
+
+void ProjectView::followViews()
+{
+    const LwType type = current().CurrentType();
+    if (m_project) {
+        Node *category = m_tree->Nodes()->Item(m_tree->GetItemKey(static_cast<qint16>(type)));
+        m_tree->setSelectedItem(category);
+        category->EnsureVisible();
+    }
     Q_EMIT shown(type);
 }
 
 void ProjectView::refresh()
 {
-    m_list->RefillListviewWithWordList();
-    if (m_project && m_list->CurrentType() != dsCode)
-        m_tables->showRows();
+    program().RefillListviewWithWordList();
+    m_tables->refresh();
 }
 
 void ProjectView::takePoint(LwType type, const QString &name)
 {
-    if (m_list->CurrentType() == dsCode) {
+    if (!currentTable()) {
         QMimeData text;
         text.setText(name);
-        m_list->RTextBox()->commands().paste(text); // with a snapshot, as Ctrl+V
+        program().RTextBox()->commands().paste(text); // with a snapshot, as Ctrl+V
     } else {
         showType(type);
-        m_tables->goTo(name);
+        currentTable()->goTo(name);
     }
-    m_list->setFocus();
+    m_workplace->enter(*m_workplace->current());
 }
 
 void ProjectView::retranslate()
 {
     m_tree->ReInitializeStrings();
-    m_list->ReInitializeStrings();
-    m_cells->setRules();
-    if (m_project && m_list->CurrentType() != dsCode)
-        m_tables->fill();
+    program().ReInitializeStrings();
+    m_tables->retranslate();
+    m_workplace->retranslate();
+    if (!m_project)
+        m_program->setTitle(tr("Program"));
 }
 
 } // namespace ORVTListview

@@ -7,13 +7,16 @@
 
 namespace ORVTListview {
 
-class PointCells;
 class PointTables;
 class Project;
 class ProjectDocument;
+class TableViews;
+class ViewDock;
+class Workplace;
 
-// A project's tree, and beside it the program or the table of the category that is
-// chosen in the tree.
+// A project's tree, and beside it the program and the tables that were opened in the tree.
+// A table that was only looked at from the tree, without going into it, makes way for the
+// next one.
 class ProjectView : public QSplitter
 {
     Q_OBJECT
@@ -21,37 +24,53 @@ class ProjectView : public QSplitter
 public:
     ProjectView(ProjectDocument &document, QWidget *parent);
 
-    ORVListView &list() const { return *m_list; }
-    PointTables &tables() const { return *m_tables; }
-    PointCells &cells() const { return *m_cells; }
+    ORVListView &program() const;
+
+    // The program or the table that is used, or was used last: what commands are for.
+    ORVListView &current() const;
+
+    // Of the current table; null where that is none.
+    PointTables *currentTable() const;
+
+    ORVTreeview &tree() const { return *m_tree; }
+    Workplace &workplace() const { return *m_workplace; }
+    TableViews &tables() const { return *m_tables; }
 
     // Hands the project's names to the components. The project must live until the
     // next call.
     void setProject(Project &project);
 
+    // Shows the program, or the table of a type, which is the current one then; the second
+    // one takes the focus there, too.
     void showType(LwType type);
+    void enterType(LwType type);
 
     // The project's tables have changed.
     void refresh();
 
     // Puts the point's name into the program at the caret, or shows its row where a
-    // table is shown.
+    // table is the current one.
     void takePoint(LwType type, const QString &name);
 
     // After a change of language.
     void retranslate();
 
 Q_SIGNALS:
+    // Another one is current.
     void shown(ORVTListview::LwType type);
 
 private:
+    ViewDock &dockOf(LwType type) const;
     void followTree(const Node *node);
+    void look(LwType type);
+    void followViews();
     void applyFunctionWords();
 
     ORVTreeview *m_tree;
-    ORVListView *m_list;
-    PointTables *m_tables;
-    PointCells *m_cells;
+    Workplace *m_workplace;
+    ViewDock *m_program;
+    TableViews *m_tables;
+    ViewDock *m_looked = nullptr; // only looked at from the tree
     Project *m_project = nullptr;
 };
 

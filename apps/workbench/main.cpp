@@ -1,8 +1,10 @@
 #include "CommandLine.h"
 #include "Languages.h"
 #include "MainWindow.h"
+#include "ProjectView.h"
 
 #include "project/TextFile.h"
+#include "workbench/settings/DesktopScheme.h"
 #include "workbench/settings/KeptWindow.h"
 
 #include <ORVTListview/CodeView.h>
@@ -63,7 +65,7 @@ Settings settingsFor(const Options &options, Settings settings)
 // is not.
 void keep(MainWindow &window, QSettings &store, const Settings &stored)
 {
-    CodeView &view = *window.findChild<ORVListView *>()->codeView();
+    CodeView &view = *window.findChild<ProjectView *>()->program().codeView();
     readWindow(store, window, view);
     QObject::connect(&window, &MainWindow::settingsChosen,
                      [&, kept = stored, shown = window.settings()]() mutable {
@@ -73,6 +75,14 @@ void keep(MainWindow &window, QSettings &store, const Settings &stored)
                      });
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window,
                      [&] { writeWindow(store, window, view); });
+}
+
+// Not for a picture: one is like the other.
+void followDesktop()
+{
+    auto *desktop = new DesktopScheme(QDBusConnection::sessionBus(), qApp);
+    QObject::connect(desktop, &DesktopScheme::changed, desktop,
+                     [desktop] { setDesktopDark(desktop->isDark()); });
 }
 
 // Nobody is there to answer while a picture is made.
@@ -114,6 +124,9 @@ int main(int argc, char **argv)
     if (settings.language)
         languages.setLanguage(*settings.language);
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
+
+    if (!isPicture && DesktopScheme::hasBus())
+        followDesktop();
 
     MainWindow window(languages);
     window.setSettings(settings);

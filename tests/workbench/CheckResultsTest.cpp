@@ -52,7 +52,9 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = ON\nIF Temp1 > tmep + tmep\nREM tmep");
         workbench.key(Qt::Key_F6);
         const QList<ORVTListview::Problem> problems =
-            workbench.window.findChild<ORVTListview::ORVListView *>()->codeView()->problems();
+            workbench.window.findChild<ORVTListview::ORVListView *>(u"Program"_s)
+                ->codeView()
+                ->problems();
         QCOMPARE(problems.size(), 2);
         QCOMPARE(problems[0], (ORVTListview::Problem{2, 0, 2, ORVTListview::ProblemSeverity::Error,
                                                      u"IF without ENDIF"_s}));
@@ -62,7 +64,7 @@ private Q_SLOTS:
         workbench.key(Qt::Key_Return);
         workbench.type(u"ENDIF"_s);
         workbench.key(Qt::Key_F6);
-        QCOMPARE(workbench.window.findChild<ORVTListview::ORVListView *>()
+        QCOMPARE(workbench.window.findChild<ORVTListview::ORVListView *>(u"Program"_s)
                      ->codeView()
                      ->problems()
                      .size(),

@@ -178,7 +178,7 @@ private Q_SLOTS:
         WorkbenchWindow workbench;
         workbench.window.showType(dsInput);
         const QByteArray whole = exported(workbench, u"inputs.csv"_s);
-        workbench.code().ListItems()->Item(1)->setVisible(false);
+        workbench.shown().ListItems()->Item(1)->setVisible(false);
         QCOMPARE(exported(workbench, u"inputs.csv"_s), whole);
     }
 

@@ -104,7 +104,7 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = Temp9");
         QTRY_COMPARE(problems(workbench), u"1:7+5 Temp9 is not known"_s);
         workbench.window.showType(dsInput);
-        workbench.code().setFocus();
+        workbench.shown().setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
         workbench.choose(u"Rename"_s);

@@ -53,9 +53,12 @@ private Q_SLOTS:
             "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
             "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
             "Program: Analyse, Compile, Export Statements…, Go To Point, Back, All Uses, Results\n"
-            "Points: Read Values, Rename, Add Point…, Remove Point, Fit Columns, Edit Cells, "
-            "Hardware Overrides\n"
+            "Points: Read Values, Rename, Add Point…, Remove Point, Fit Columns, Choose From, "
+            "Edit Cells, Hardware Overrides\n"
             "View: Editor, Language, Settings…\n"
+            "Window: Next Pane, Previous Pane, Go To Project, Go To Program, Go To Table, Go To "
+            "Results, Go To Points, Show Beside, Show Below, All In Tabs, Own Window, Close "
+            "Table, Next Tab, Previous Tab\n"
             "Help: Keys, About"_s);
     }
 

@@ -40,7 +40,7 @@ struct Points : WorkbenchWindow
 
     Node *node(const QString &key) { return tree().Nodes()->Item(key); }
     ORVTreeview &tree() { return *window.findChild<ORVTreeview *>(); }
-    ReportList &list() { return *code().findChild<ReportList *>(u"ListView1"_s); }
+    ReportList &list() { return *shown().findChild<ReportList *>(u"ListView1"_s); }
 
     // With the mouse, as a user does.
     void open(const QString &key)
@@ -56,8 +56,8 @@ struct Points : WorkbenchWindow
 
     QString cell(int row, const QString &column)
     {
-        const int index = code().ColumnHerders()->Item(column)->Index() - 1;
-        return code().ListItems()->Item(row)->SubItem(index);
+        const int index = shown().ColumnHerders()->Item(column)->Index() - 1;
+        return shown().ListItems()->Item(row)->SubItem(index);
     }
 };
 
@@ -71,11 +71,11 @@ private Q_SLOTS:
     void theTreeChoosesWhatIsShown()
     {
         Points points;
-        QCOMPARE(points.code().CurrentType(), dsCode);
+        QCOMPARE(points.shown().CurrentType(), dsCode);
         QCOMPARE(points.tree().SelectedItem(), points.node(u"Code"_s));
         points.open(u"Inputs"_s);
-        QCOMPARE(points.code().CurrentType(), dsInput);
-        QCOMPARE(points.code().ListItems()->Count(), 12);
+        QCOMPARE(points.shown().CurrentType(), dsInput);
+        QCOMPARE(points.shown().ListItems()->Count(), 12);
         QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);
         QCOMPARE(points.cell(1, u"Value"_s), u"20.5"_s);
         QCOMPARE(points.cell(1, u"Units"_s), u"°C"_s);
@@ -92,12 +92,12 @@ private Q_SLOTS:
     {
         Points points;
         points.open(u"Outputs"_s);
-        QCOMPARE(points.code().ColumnHerders()->Count(), 9);
+        QCOMPARE(points.shown().ColumnHerders()->Count(), 9);
         QMenu *menu = points.menus().at(3);
         Q_EMIT menu->aboutToShow();
         QVERIFY(points.command(u"Hardware Overrides"_s)->isChecked());
         points.choose(u"Hardware Overrides"_s);
-        QCOMPARE(points.code().ColumnHerders()->Count(), 7);
+        QCOMPARE(points.shown().ColumnHerders()->Count(), 7);
         QCOMPARE(points.cell(1, u"Label"_s), u"Fan1"_s);
         points.choose(u"Hardware Overrides"_s);
         QCOMPARE(points.cell(1, u"Hw Override Mode"_s), u"Hand"_s);
@@ -107,8 +107,8 @@ private Q_SLOTS:
     {
         Points points;
         points.open(u"Inputs"_s);
-        auto *read = points.code().findChild<QWidget *>(u"ImgRead"_s);
-        auto *status = points.code().findChild<QWidget *>(u"ImgWrite"_s);
+        auto *read = points.shown().findChild<QWidget *>(u"ImgRead"_s);
+        auto *status = points.shown().findChild<QWidget *>(u"ImgWrite"_s);
         QCOMPARE(status->property("PictureKey").toString(), u"BallGreen"_s);
         QTest::mouseClick(read, Qt::LeftButton);
         QCOMPARE(status->property("PictureKey").toString(), u"BallRed"_s);
@@ -131,7 +131,7 @@ private Q_SLOTS:
     {
         Points points;
         points.open(u"Inputs"_s);
-        points.code().setSelectedItem(points.code().ListItems()->Item(1));
+        points.shown().setSelectedItem(points.shown().ListItems()->Item(1));
         points.list().setFocus();
         QTest::keyClick(&points.list(), Qt::Key_F2);
         auto *editor = points.list().viewport()->findChild<QLineEdit *>();
@@ -161,7 +161,7 @@ private Q_SLOTS:
     {
         Points points;
         points.open(u"Inputs"_s);
-        points.code().setSelectedItem(points.code().ListItems()->Item(1));
+        points.shown().setSelectedItem(points.shown().ListItems()->Item(1));
         points.choose(u"Rename"_s);
         auto *editor = points.list().viewport()->findChild<QLineEdit *>();
         QVERIFY(editor);
@@ -223,11 +223,11 @@ private Q_SLOTS:
     {
         Points points;
         points.open(u"Inputs"_s);
-        points.code().setSelectedItem(points.code().ListItems()->Item(5));
+        points.shown().setSelectedItem(points.shown().ListItems()->Item(5));
         points.choose(u"Rename"_s);
         QVERIFY(!points.list().viewport()->findChild<QLineEdit *>());
         points.open(u"Timers"_s);
-        points.code().setSelectedItem(points.code().ListItems()->Item(1));
+        points.shown().setSelectedItem(points.shown().ListItems()->Item(1));
         points.choose(u"Rename"_s);
         QVERIFY(!points.list().viewport()->findChild<QLineEdit *>());
     }
@@ -254,8 +254,8 @@ private Q_SLOTS:
         field->setFocus(Qt::TabFocusReason);
         QTest::keyClicks(field, u"mp1"_s);
         QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(points.code().CurrentType(), dsInput);
-        QCOMPARE(points.code().SelectedItem()->Index(), 1);
+        QCOMPARE(points.shown().CurrentType(), dsInput);
+        QCOMPARE(points.shown().SelectedItem()->Index(), 1);
     }
 
     void lookingThroughTheComboWritesNothing()
@@ -281,14 +281,14 @@ private Q_SLOTS:
     {
         Points points;
         points.open(u"Inputs"_s);
-        const ColumnHeader &label = *points.code().ColumnHerders()->Item(u"Label"_s);
-        const ColumnHeader &number = *points.code().ColumnHerders()->Item(u"#"_s);
+        const ColumnHeader &label = *points.shown().ColumnHerders()->Item(u"Label"_s);
+        const ColumnHeader &number = *points.shown().ColumnHerders()->Item(u"#"_s);
         const float labels = label.Width();
         const float numbers = number.Width();
         points.speak(QLocale(QLocale::German));
         QCOMPARE(points.node(u"Inputs"_s)->Text(), u"Eingänge"_s);
-        QCOMPARE(points.code().Caption(), u"Eingänge"_s);
-        QCOMPARE(points.code().ColumnHerders()->Item(u"Value"_s)->Text(), u"Wert"_s);
+        QCOMPARE(points.shown().Caption(), u"Eingänge"_s);
+        QCOMPARE(points.shown().ColumnHerders()->Item(u"Value"_s)->Text(), u"Wert"_s);
         QCOMPARE(points.cell(1, u"Commissioned"_s), u"Ja"_s);
         QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);
         QVERIFY(label.Width() > labels); // "Bezeichnung" needs more room
@@ -338,7 +338,7 @@ private Q_SLOTS:
         points.choose(u"Analyse"_s);
         QTest::keyClick(&points.results(), Qt::Key_Down);
         QTest::keyClick(&points.results(), Qt::Key_Return);
-        QCOMPARE(points.code().CurrentType(), dsCode);
+        QCOMPARE(points.shown().CurrentType(), dsCode);
         QCOMPARE(points.tree().SelectedItem(), points.node(u"Code"_s));
         QCOMPARE(points.box().SelText(), u"nobody"_s);
     }

@@ -27,7 +27,7 @@ private:
     }
     static int selectedRow(WorkbenchWindow &workbench)
     {
-        const ListItem *item = workbench.code().SelectedItem();
+        const ListItem *item = workbench.shown().SelectedItem();
         return item ? item->Index() : 0;
     }
 
@@ -38,10 +38,10 @@ private Q_SLOTS:
         workbench.window.openProject(writeProject(workbench, "Fan1 = 3\nFan1 = temp2 + 3"));
         workbench.box().setSelStart(workbench.box().lineStart(1) + 9);
         press(Qt::Key_F12);
-        QCOMPARE(workbench.code().CurrentType(), dsInput);
+        QCOMPARE(workbench.shown().CurrentType(), dsInput);
         QCOMPARE(selectedRow(workbench), 2);
         press(Qt::Key_Left, Qt::AltModifier);
-        QCOMPARE(workbench.code().CurrentType(), dsCode);
+        QCOMPARE(workbench.shown().CurrentType(), dsCode);
         QCOMPARE(workbench.box().SelStart(), workbench.box().lineStart(1) + 9);
         QVERIFY(workbench.box().hasFocus());
         QVERIFY(workbench.statusTexts().endsWith(u"|Row: 2, Col: 10"_s));
@@ -57,7 +57,7 @@ private Q_SLOTS:
         press(Qt::Key_F12);
         QCOMPARE(workbench.window.statusBar()->currentMessage(),
                  u"tmep is no point of the project."_s);
-        QCOMPARE(workbench.code().CurrentType(), dsCode);
+        QCOMPARE(workbench.shown().CurrentType(), dsCode);
         QCOMPARE(workbench.box().SelStart(), 11);
     }
 
@@ -73,16 +73,16 @@ private Q_SLOTS:
         results.setFocus();
         results.setCurrentIndex(results.model()->index(2, 0));
         press(Qt::Key_Return);
-        QCOMPARE(workbench.code().CurrentType(), dsLog);
+        QCOMPARE(workbench.shown().CurrentType(), dsLog);
         QCOMPARE(selectedRow(workbench), 2);
         results.setFocus();
         results.setCurrentIndex(results.model()->index(1, 0));
         press(Qt::Key_Return);
-        QCOMPARE(workbench.code().CurrentType(), dsCode);
+        QCOMPARE(workbench.shown().CurrentType(), dsCode);
         QCOMPARE(workbench.box().SelText(), u"Temp2"_s);
         QCOMPARE(workbench.box().SelStart(), workbench.box().lineStart(2) + 9);
         press(Qt::Key_Left, Qt::AltModifier);
-        QCOMPARE(workbench.code().CurrentType(), dsLog);
+        QCOMPARE(workbench.shown().CurrentType(), dsLog);
         press(Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(workbench.box().SelStart(), workbench.box().lineStart(1) + 4);
     }
@@ -92,7 +92,7 @@ private Q_SLOTS:
         WorkbenchWindow workbench;
         workbench.window.openProject(writeProject(workbench, "Fan1 = Temp1\nFan1   = Temp2"));
         workbench.window.showType(dsInput);
-        workbench.code().setFocus();
+        workbench.shown().setFocus();
         press(Qt::Key_Home);
         press(Qt::Key_Down);
         press(Qt::Key_F12, Qt::ShiftModifier);
@@ -119,10 +119,10 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = Temp1");
         workbench.key(Qt::Key_End);
         press(Qt::Key_F12);
-        QCOMPARE(workbench.code().CurrentType(), dsInput);
+        QCOMPARE(workbench.shown().CurrentType(), dsInput);
         workbench.window.openProject(workbench.writeProject(u"two"_s, "Fan1 = 3"));
         press(Qt::Key_Left, Qt::AltModifier);
-        QCOMPARE(workbench.code().CurrentType(), dsCode);
+        QCOMPARE(workbench.shown().CurrentType(), dsCode);
         QVERIFY(workbench.statusTexts().endsWith(u"|Row: 1, Col: 1"_s));
     }
 };

@@ -156,7 +156,7 @@ private Q_SLOTS:
         QVERIFY(two.statusBar()->currentMessage().contains(u"Another workbench"_s));
         two.show();
         one.type(u"x"_s);
-        QTest::keyClick(two.findChild<ORVListView *>()->RTextBox(), Qt::Key_Y);
+        QTest::keyClick(two.findChild<ORVListView *>(u"Program"_s)->RTextBox(), Qt::Key_Y);
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(recoveryFile(one, u".recovery-2.txt"_s)), patience);
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(recoveryFile(one)), patience);
         QVERIFY(readFile(recoveryFile(one)).contains("\nxFan1 = ON\n"));

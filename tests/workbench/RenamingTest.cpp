@@ -27,12 +27,12 @@ struct Named : WorkbenchWindow
         window.openProject(folder.filePath(u"p.json"_s));
     }
 
-    ReportList &list() { return *code().findChild<ReportList *>(u"ListView1"_s); }
+    ReportList &list() { return *shown().findChild<ReportList *>(u"ListView1"_s); }
 
     void rename(const QString &name)
     {
         window.showType(dsInput);
-        code().setSelectedItem(code().ListItems()->Item(1));
+        shown().setSelectedItem(shown().ListItems()->Item(1));
         list().setFocus();
         QTest::keyClick(&list(), Qt::Key_F2);
         auto *field = list().viewport()->findChild<QLineEdit *>();
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QTRY_VERIFY(dialog.wasThere());
         QTest::qWait(0);
         QVERIFY(!named.window.isWindowModified());
-        QCOMPARE(named.code().ListItems()->Item(1)->SubItem(1), u"Temp1"_s);
+        QCOMPARE(named.shown().ListItems()->Item(1)->SubItem(1), u"Temp1"_s);
     }
 
     void itIsOneStepThatCanBeUndone_data()
@@ -220,21 +220,21 @@ private Q_SLOTS:
         });
         named.choose(u"Add Point…"_s);
         QVERIFY(name.wasThere());
-        QCOMPARE(named.code().ListItems()->Item(3)->SubItem(1), u"New"_s);
+        QCOMPARE(named.shown().ListItems()->Item(3)->SubItem(1), u"New"_s);
         QVERIFY(named.savedJson().contains(R"({"name": "Temp2"}, { "name": "New" }])"));
 
-        named.code().setSelectedItem(named.code().ListItems()->Item(1));
+        named.shown().setSelectedItem(named.shown().ListItems()->Item(1));
         NextMessage used(QMessageBox::Yes);
         named.choose(u"Remove Point"_s);
         QVERIFY(used.wasThere());
         QVERIFY2(used.text().contains(u"Program, line 1"_s), qPrintable(used.text()));
-        QCOMPARE(named.code().ListItems()->Item(1)->SubItem(1), u"Temp2"_s);
-        QCOMPARE(named.code().ListItems()->Item(3)->SubItem(1), QString());
+        QCOMPARE(named.shown().ListItems()->Item(1)->SubItem(1), u"Temp2"_s);
+        QCOMPARE(named.shown().ListItems()->Item(3)->SubItem(1), QString());
         named.choose(u"Undo"_s);
-        QCOMPARE(named.code().ListItems()->Item(1)->SubItem(1), u"Temp1"_s);
+        QCOMPARE(named.shown().ListItems()->Item(1)->SubItem(1), u"Temp1"_s);
         named.list().setFocus();
         QTest::keyClick(&named.list(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(named.code().ListItems()->Item(3)->SubItem(1), QString());
+        QCOMPARE(named.shown().ListItems()->Item(3)->SubItem(1), QString());
         QCOMPARE(named.savedJson(), Named::json);
     }
 };

@@ -36,7 +36,7 @@ class Worker
 public:
     Worker(const QString &project, unsigned seed)
         : m_random(seed)
-        , m_box(*m_window.findChild<ORVListView *>()->RTextBox())
+        , m_box(*m_window.findChild<ORVListView *>(u"Program"_s)->RTextBox())
         , m_document(*m_window.findChild<ProjectDocument *>())
     {
         auto *keeper = m_window.findChild<RecoveryKeeper *>();

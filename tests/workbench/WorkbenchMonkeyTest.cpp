@@ -156,7 +156,7 @@ private:
         const auto type = static_cast<LwType>(number(13));
         note(u"show %1"_s.arg(type));
         window().showType(type);
-        expect(m_workbench.code().ListviewType() == type, u"another type is shown"_s);
+        expect(m_workbench.shown().ListviewType() == type, u"another type is shown"_s);
     }
     void goToProgram()
     {
@@ -250,7 +250,7 @@ private:
             return u"something is left open"_s;
         if (!window().isWindowModified() && !isSaved())
             return u"a change is not marked"_s;
-        const LwType type = m_workbench.code().ListviewType();
+        const LwType type = m_workbench.shown().ListviewType();
         if (m_workbench.box().isVisible() != (type == dsCode))
             return u"the program is shown beside type %1, or is not"_s.arg(type);
         if (window().menuBar()->actions().size() < 5)

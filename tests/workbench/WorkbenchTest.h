@@ -5,6 +5,7 @@
 #include "workbench/LanguageMenu.h"
 #include "workbench/Languages.h"
 #include "workbench/MainWindow.h"
+#include "workbench/ProjectView.h"
 
 #include <ORVTListview/RichTextBox.h>
 #include <ORVTListview/SettingsStore.h>
@@ -54,7 +55,11 @@ struct WorkbenchWindow
         return ORVTListview::readFile(folder.filePath(name + QStringLiteral(".prog")));
     }
 
-    ORVTListview::ORVListView &code() { return *window.findChild<ORVTListview::ORVListView *>(); }
+    ORVTListview::ProjectView &views() { return *window.findChild<ORVTListview::ProjectView *>(); }
+    ORVTListview::ORVListView &code() { return views().program(); }
+
+    // The program or the table that is used, or was used last.
+    ORVTListview::ORVListView &shown() { return views().current(); }
     ORVTListview::RichTextBox &box() { return *code().RTextBox(); }
     QTreeView &results()
     {

@@ -4,6 +4,7 @@
 #include "project/Project.h"
 #include "project/ProjectError.h"
 #include "project/TextFile.h"
+#include "workbench/ProjectView.h"
 #include "workbench/export/PaperText.h"
 #include "workbench/export/ProgramPrint.h"
 #include "workbench/export/SaveAs.h"
@@ -67,11 +68,16 @@ CellBlock cellsOf(const ORVListView &list, qsizetype rows)
 
 } // namespace
 
-Exporting::Exporting(ORVListView &list, QWidget &window)
+Exporting::Exporting(const ProjectView &views, QWidget &window)
     : QObject(&window)
-    , m_list(list)
+    , m_views(views)
     , m_window(window)
 {
+}
+
+ORVListView &Exporting::list() const
+{
+    return m_views.current();
 }
 
 QString Exporting::title() const
@@ -81,15 +87,15 @@ QString Exporting::title() const
 
 QByteArray Exporting::programAs(const QString &kind) const
 {
-    const PaperText program(*m_list.RTextBox(), m_colours, PaperText::All);
+    const PaperText program(*list().RTextBox(), m_colours, PaperText::All);
     return programBytes(program, title(), kind);
 }
 
 // Spreadsheets take UTF-8 for it only when it begins with the mark.
 QByteArray Exporting::tableAs(const QString &kind) const
 {
-    const qsizetype points = m_project ? m_project->rows(m_list.CurrentType()).size() : 0;
-    const CellBlock cells = cellsOf(m_list, points);
+    const qsizetype points = m_project ? m_project->rows(list().CurrentType()).size() : 0;
+    const CellBlock cells = cellsOf(list(), points);
     const QString text = kind == "csv"_L1 ? commaText(cells) : tabbedText(cells);
     return byteOrderMark.toByteArray() + text.toUtf8();
 }
@@ -97,7 +103,7 @@ QByteArray Exporting::tableAs(const QString &kind) const
 void Exporting::exportTo(const QString &fileName)
 {
     const QString kind = QFileInfo(fileName).suffix().toLower();
-    const bool isCode = m_list.CurrentType() == dsCode;
+    const bool isCode = list().CurrentType() == dsCode;
     const QStringList kinds =
         isCode ? QStringList{u"rtf"_s, u"html"_s, u"pdf"_s} : QStringList{u"csv"_s, u"tsv"_s};
     if (!kinds.contains(kind))
@@ -113,13 +119,13 @@ void Exporting::exportTo(const QString &fileName)
 
 void Exporting::exportShown()
 {
-    const bool isCode = m_list.CurrentType() == dsCode;
+    const bool isCode = list().CurrentType() == dsCode;
     const QStringList kinds =
         isCode ? QStringList{u"RTF (*.rtf)"_s, tr("Web page (*.html)"), u"PDF (*.pdf)"_s}
                : QStringList{tr("Table with commas (*.csv)"), tr("Table with tabs (*.tsv)")};
     const QString folder = m_project ? QFileInfo(m_project->fileName()).path() : QString();
     const QString file =
-        askWhereToSave(m_window, tr("Export"), kinds, folder, isCode ? title() : m_list.Caption());
+        askWhereToSave(m_window, tr("Export"), kinds, folder, isCode ? title() : list().Caption());
     if (file.isEmpty())
         return;
     try {
@@ -137,7 +143,7 @@ void Exporting::print()
     QPrintDialog dialog(&printer, &m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const PaperText program(*m_list.RTextBox(), m_colours, PaperText::All);
+    const PaperText program(*list().RTextBox(), m_colours, PaperText::All);
     if (!printProgram(program.document(), title(), printer))
         QMessageBox::warning(&m_window, tr("Print"), tr("The printer does not take the program."));
 }

@@ -10,6 +10,7 @@ namespace ORVTListview {
 
 class ORVListView;
 class Project;
+class ProjectView;
 
 // Takes what the window shows out of it: the program into RTF, HTML, PDF, or onto a
 // printer, always in the colours of paper; a table into CSV or text with tabs.
@@ -18,7 +19,7 @@ class Exporting : public QObject
     Q_OBJECT
 
 public:
-    Exporting(ORVListView &list, QWidget &window);
+    Exporting(const ProjectView &views, QWidget &window);
 
     // Both of what is shown from now on. The project must live until the next call.
     void setProject(const Project *project) { m_project = project; }
@@ -39,9 +40,10 @@ public:
 private:
     QByteArray programAs(const QString &kind) const;
     QByteArray tableAs(const QString &kind) const;
+    ORVListView &list() const;
     QString title() const;
 
-    ORVListView &m_list;
+    const ProjectView &m_views;
     QWidget &m_window;
     const Project *m_project = nullptr;
     PaperColours m_colours;

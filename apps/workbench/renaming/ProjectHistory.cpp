@@ -3,6 +3,8 @@
 #include "base/TextPiece.h"
 #include "project/ProjectDocument.h"
 #include "widgets/box/BoxCommands.h"
+#include "workbench/ProjectView.h"
+#include "workbench/views/TableViews.h"
 
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ReportList.h>
@@ -42,30 +44,36 @@ Difference difference(const QString &now, const QString &program)
 
 } // namespace
 
-ProjectHistory::ProjectHistory(ProjectDocument &document, ORVListView &code)
-    : QObject(&code)
+ProjectHistory::ProjectHistory(ProjectDocument &document, const ProjectView &views)
+    : QObject(&views.program())
     , m_document(document)
-    , m_code(code)
+    , m_views(views)
+    , m_code(views.program())
 {
-    code.RTextBox()->installEventFilter(this);
-    code.listView()->installEventFilter(this);
+    m_code.RTextBox()->installEventFilter(this);
+    connect(&views.tables(), &TableViews::made, this,
+            [this](ORVListView &list) { list.listView()->installEventFilter(this); });
 }
 
 // Who looks at a table takes back what was done to tables, whatever was typed since.
 ProjectDocument::Among ProjectHistory::among() const
 {
-    return m_code.CurrentType() == dsCode ? ProjectDocument::Among::All
-                                          : ProjectDocument::Among::TablesAlone;
+    return isOfEditor() ? ProjectDocument::Among::All : ProjectDocument::Among::TablesAlone;
+}
+
+bool ProjectHistory::isOfEditor() const
+{
+    return !m_views.currentTable();
 }
 
 bool ProjectHistory::canUndo() const
 {
-    return m_document.undoStep(among()) || m_code.IsUndoAvailable();
+    return m_document.undoStep(among()) || (isOfEditor() && m_code.IsUndoAvailable());
 }
 
 bool ProjectHistory::canRedo() const
 {
-    return m_document.redoStep(among()) || m_code.IsRedoAvailable();
+    return m_document.redoStep(among()) || (isOfEditor() && m_code.IsRedoAvailable());
 }
 
 // The keys of editor and table, before they act on them.
@@ -93,7 +101,7 @@ void ProjectHistory::undo()
         m_document.undo();
         if (isOfProgram && !showProgram(before, true))
             m_document.redo(); // both or none
-    } else {
+    } else if (isOfEditor()) {
         m_code.Undo(errMsg);
     }
     if (!errMsg.isEmpty())
@@ -109,7 +117,7 @@ void ProjectHistory::redo()
         m_document.redo();
         if (isOfProgram && !showProgram(after, false))
             m_document.undo();
-    } else {
+    } else if (isOfEditor()) {
         m_code.Redo(errMsg);
     }
     if (!errMsg.isEmpty())

@@ -7,6 +7,7 @@
 namespace ORVTListview {
 
 class ORVListView;
+class ProjectView;
 
 // One undo for steps of the project and for what the editor does by itself: a step comes
 // when the program is again what the step made of it.
@@ -15,7 +16,7 @@ class ProjectHistory : public QObject
     Q_OBJECT
 
 public:
-    ProjectHistory(ProjectDocument &document, ORVListView &code);
+    ProjectHistory(ProjectDocument &document, const ProjectView &views);
 
     bool canUndo() const;
     bool canRedo() const;
@@ -31,9 +32,11 @@ protected:
 
 private:
     ProjectDocument::Among among() const;
+    bool isOfEditor() const;
     bool showProgram(const QString &program, bool isUndo);
 
     ProjectDocument &m_document;
+    const ProjectView &m_views;
     ORVListView &m_code;
 };
 

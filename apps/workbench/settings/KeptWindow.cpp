@@ -1,5 +1,9 @@
 #include "workbench/settings/KeptWindow.h"
 
+#include "workbench/ProjectView.h"
+#include "workbench/views/TableViews.h"
+#include "workbench/views/Workplace.h"
+
 #include <ORVTListview/CodeView.h>
 
 #include <QtCore/QMetaProperty>
@@ -14,6 +18,8 @@ using namespace Qt::StringLiterals;
 
 constexpr auto geometry = "window/geometry"_L1;
 constexpr auto arrangement = "window/arrangement"_L1;
+constexpr auto tables = "window/tables"_L1;
+constexpr auto views = "window/views"_L1;
 constexpr auto division = "window/division"_L1;
 
 // What the menu switches, and how large the text is.
@@ -41,6 +47,18 @@ QVariant valueOf(const QMetaProperty &property, const QVariant &stored)
     return number > 0 ? QVariant(number) : QVariant();
 }
 
+void readViews(const QSettings &store, const ProjectView &view)
+{
+    view.tables().open(store.value(tables).toStringList());
+    view.workplace().restoreState(store.value(views).toByteArray());
+}
+
+void writeViews(QSettings &store, const ProjectView &view)
+{
+    store.setValue(tables, view.tables().opened());
+    store.setValue(views, view.workplace().saveState());
+}
+
 } // namespace
 
 void readWindow(const QSettings &store, QMainWindow &window, CodeView &view)
@@ -49,6 +67,8 @@ void readWindow(const QSettings &store, QMainWindow &window, CodeView &view)
     window.restoreState(store.value(arrangement).toByteArray());
     if (auto *splitter = window.centralWidget()->findChild<QSplitter *>())
         splitter->restoreState(store.value(division).toByteArray());
+    if (const auto *project = window.findChild<ProjectView *>())
+        readViews(store, *project);
     forEachSwitch([&](const QMetaProperty &property, const QString &key) {
         const QVariant value = valueOf(property, store.value(key));
         if (value.isValid())
@@ -62,6 +82,8 @@ void writeWindow(QSettings &store, const QMainWindow &window, const CodeView &vi
     store.setValue(arrangement, window.saveState());
     if (const auto *splitter = window.centralWidget()->findChild<QSplitter *>())
         store.setValue(division, splitter->saveState());
+    if (const auto *project = window.findChild<ProjectView *>())
+        writeViews(store, *project);
     forEachSwitch([&](const QMetaProperty &property, const QString &key) {
         store.setValue(key, property.read(&view));
     });

@@ -71,9 +71,7 @@ void useDark()
     QApplication::setPalette(palette, "QMenu");
 }
 
-} // namespace
-
-void useTheme(Theme theme)
+void show(Theme theme)
 {
     static const QString style = QApplication::style()->name();
     static Theme shown = Theme::System;
@@ -88,6 +86,32 @@ void useTheme(Theme theme)
         useDark();
     else
         QApplication::setPalette(lightPalette());
+}
+
+Theme chosen = Theme::System;
+bool isDesktopDark = false;
+
+// What the toolkit shows dark by itself stays its own.
+void follow()
+{
+    if (chosen != Theme::System || !isDesktopDark)
+        show(chosen);
+    else if (QApplication::palette().color(QPalette::Window).lightness() >= 128)
+        show(Theme::Dark);
+}
+
+} // namespace
+
+void useTheme(Theme theme)
+{
+    chosen = theme;
+    follow();
+}
+
+void setDesktopDark(bool isDark)
+{
+    isDesktopDark = isDark;
+    follow();
 }
 
 } // namespace ORVTListview

@@ -11,4 +11,7 @@ enum class Theme {
 // Shows the whole application so, from now on.
 void useTheme(Theme theme);
 
+// Whether the desktop wants Theme::System dark; at first what the toolkit knows of that counts.
+void setDesktopDark(bool isDark);
+
 } // namespace ORVTListview

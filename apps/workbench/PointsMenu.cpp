@@ -1,0 +1,79 @@
+#include "PointsMenu.h"
+
+#include "PointKindMenu.h"
+#include "PointTables.h"
+#include "ProjectView.h"
+#include "project/ProjectColumns.h"
+#include "project/ProjectDocument.h"
+#include "workbench/renaming/PointRenaming.h"
+#include "workbench/views/TableViews.h"
+
+#include <QtGui/QAction>
+#include <QtGui/QKeySequence>
+
+namespace ORVTListview {
+
+PointsMenu::PointsMenu(ProjectView &view, const ProjectDocument &document, PointRenaming &renaming,
+                       PointChooser &chooser, QWidget *parent)
+    : QMenu(tr("P&oints"), parent)
+    , m_view(view)
+    , m_document(document)
+{
+    addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), &view, [this] {
+        if (PointTables *table = m_view.currentTable())
+            table->read(type());
+    });
+    addPoints(renaming);
+    addAction(tr("&Fit Columns"), &view, [this] {
+        if (PointTables *table = m_view.currentTable())
+            table->fitColumns();
+    });
+    addSeparator();
+    addMenu(new PointKindMenu(chooser, this));
+    addSeparator();
+    addSwitches();
+    connect(this, &QMenu::aboutToShow, this, &PointsMenu::refresh);
+}
+
+void PointsMenu::addPoints(PointRenaming &renaming)
+{
+    m_rename = addAction(tr("Re&name"), &m_view, [this] {
+        if (PointTables *table = m_view.currentTable())
+            table->editName();
+    });
+    m_rename->setShortcut(QKeySequence(Qt::Key_F2));
+    m_rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
+    m_add = addAction(tr("&Add Point…"), &renaming, [this, &renaming] { renaming.add(type()); });
+    m_remove = addAction(tr("Re&move Point"), &renaming, [this, &renaming] {
+        if (const PointTables *table = m_view.currentTable())
+            renaming.remove(type(), table->selectedPoint());
+    });
+}
+
+void PointsMenu::addSwitches()
+{
+    m_cells = addAction(tr("&Edit Cells"));
+    m_cells->setCheckable(true);
+    m_cells->setChecked(m_view.tables().editsCells());
+    connect(m_cells, &QAction::triggered, &m_view.tables(), &TableViews::setEditsCells);
+    m_overrides = addAction(tr("&Hardware Overrides"));
+    m_overrides->setCheckable(true);
+    connect(m_overrides, &QAction::triggered, &m_view.tables(), &TableViews::setShowsOverrides);
+}
+
+LwType PointsMenu::type() const
+{
+    return m_view.current().CurrentType();
+}
+
+void PointsMenu::refresh()
+{
+    const PointTables *table = m_document.project() ? m_view.currentTable() : nullptr;
+    const bool isPoint = table && table->selectedPoint() >= 0;
+    m_add->setEnabled(table);
+    m_remove->setEnabled(isPoint);
+    m_rename->setEnabled(isPoint && nameColumn(type()) >= 0);
+    m_overrides->setChecked(m_view.tables().showsOverrides());
+}
+
+} // namespace ORVTListview

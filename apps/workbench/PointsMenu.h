@@ -1,0 +1,39 @@
+#pragma once
+
+#include <ORVTListview/Types.h>
+
+#include <QtWidgets/QMenu>
+
+namespace ORVTListview {
+
+class PointChooser;
+class PointRenaming;
+class ProjectDocument;
+class ProjectView;
+
+// What is done with the points of the current table.
+class PointsMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    // All of them outlive the menu.
+    PointsMenu(ProjectView &view, const ProjectDocument &document, PointRenaming &renaming,
+               PointChooser &chooser, QWidget *parent);
+
+private:
+    void addPoints(PointRenaming &renaming);
+    void addSwitches();
+    void refresh();
+    LwType type() const;
+
+    ProjectView &m_view;
+    const ProjectDocument &m_document;
+    QAction *m_rename = nullptr;
+    QAction *m_add = nullptr;
+    QAction *m_remove = nullptr;
+    QAction *m_cells = nullptr;
+    QAction *m_overrides = nullptr;
+};
+
+} // namespace ORVTListview

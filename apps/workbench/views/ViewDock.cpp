@@ -1,0 +1,45 @@
+#include "workbench/views/ViewDock.h"
+
+#include "workbench/views/DockTitle.h"
+
+#include <ORVTListview/ORVListView.h>
+
+#include <QtGui/QAction>
+
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+ViewDock::ViewDock(const QString &name, QWidget *parent)
+    : QDockWidget(parent)
+    , m_view(new ORVListView(this))
+    , m_title(new DockTitle(*this))
+{
+    setObjectName(name + u"Dock"_s);
+    m_view->setObjectName(name);
+    m_view->InitStrings();
+    setAllowedAreas(Qt::TopDockWidgetArea); // one area, which splits as users want it
+    setTitleBarWidget(m_title);
+    m_view->setMinimumHeight(fontMetrics().height() * 6); // dropped docks take the least
+    setWidget(m_view);
+    connect(this, &QDockWidget::visibilityChanged, this, [this](bool isSeen) {
+        if (std::exchange(m_isSeen, isSeen) != isSeen)
+            Q_EMIT seenChanged(isSeen);
+    });
+    connect(toggleViewAction(), &QAction::toggled, this, [this](bool isShown) {
+        if (isShown)
+            Q_EMIT opened();
+        else
+            Q_EMIT closed();
+    });
+}
+
+// The toolkit's tabs take a single "&" for the mark of an access key.
+void ViewDock::setTitle(const QString &title)
+{
+    setWindowTitle(QString(title).replace(u'&', u"&&"_s));
+}
+
+} // namespace ORVTListview

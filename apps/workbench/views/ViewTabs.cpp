@@ -1,0 +1,97 @@
+#include "workbench/views/ViewTabs.h"
+
+#include "workbench/views/ViewDock.h"
+#include "workbench/views/Workplace.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QTabBar>
+
+namespace ORVTListview {
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ViewTabs)
+};
+
+// The toolkit keeps the dock's address with the tab.
+ViewDock *dockAt(const Workplace &workplace, const QTabBar &tabs, int index)
+{
+    const auto address = tabs.tabData(index).value<quintptr>();
+    for (ViewDock *dock : workplace.shown()) {
+        if (reinterpret_cast<quintptr>(static_cast<QDockWidget *>(dock)) == address)
+            return dock;
+    }
+    return nullptr;
+}
+
+QList<QTabBar *> tabBars(const Workplace &workplace)
+{
+    return workplace.findChildren<QTabBar *>(); // also of windows that have several
+}
+
+// The focus goes with a click, but not before the toolkit has it: a drag may begin.
+void connectTabs(Workplace &workplace, const QTabBar &tabs)
+{
+    QObject::connect(&tabs, &QTabBar::tabBarClicked, &workplace, [&workplace, &tabs](int index) {
+        QMetaObject::invokeMethod(
+            &workplace,
+            [&workplace, dock = QPointer<ViewDock>(dockAt(workplace, tabs, index))] {
+                if (dock && !dock->isHidden())
+                    workplace.enter(*dock);
+            },
+            Qt::QueuedConnection);
+    });
+    QObject::connect(&tabs, &QTabBar::tabCloseRequested, &workplace,
+                     [&workplace, &tabs](int index) {
+                         if (ViewDock *dock = dockAt(workplace, tabs, index))
+                             dock->close();
+                     });
+}
+
+void dressTab(const Workplace &workplace, QTabBar &tabs, int index)
+{
+    const auto side = static_cast<QTabBar::ButtonPosition>(
+        tabs.style()->styleHint(QStyle::SH_TabBar_CloseButtonPosition, nullptr, &tabs));
+    auto *button = qobject_cast<QAbstractButton *>(tabs.tabButton(index, side));
+    const ViewDock *dock = dockAt(workplace, tabs, index);
+    if (!dock || !button)
+        return;
+    if (dock->features().testFlag(QDockWidget::DockWidgetClosable)) {
+        button->setToolTip(Texts::tr("Close"));
+        button->setAccessibleName(Texts::tr("Close %1").arg(tabs.tabText(index)));
+    } else {
+        tabs.setTabButton(index, side, nullptr);
+    }
+}
+
+} // namespace
+
+void ViewTabs::dress(Workplace &workplace)
+{
+    for (QTabBar *tabs : tabBars(workplace)) {
+        tabs->setAccessibleName(Texts::tr("Open views"));
+        if (!tabs->tabsClosable()) {
+            tabs->setTabsClosable(true);
+            connectTabs(workplace, *tabs);
+        }
+        for (int index = 0; index < tabs->count(); ++index)
+            dressTab(workplace, *tabs, index);
+    }
+}
+
+ViewDock *ViewTabs::beside(const Workplace &workplace, const ViewDock *dock, int step)
+{
+    for (const QTabBar *tabs : tabBars(workplace)) {
+        for (int index = 0; index < tabs->count(); ++index) {
+            if (dock && dockAt(workplace, *tabs, index) == dock)
+                return dockAt(workplace, *tabs, (index + step + tabs->count()) % tabs->count());
+        }
+    }
+    return nullptr;
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,210 @@
+#include "workbench/views/Workplace.h"
+
+#include "workbench/views/DockTitle.h"
+#include "workbench/views/ViewDock.h"
+#include "workbench/views/ViewTabs.h"
+
+#include <ORVTListview/ORVListView.h>
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QTabBar>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace ORVTListview {
+
+using namespace std::chrono_literals;
+
+Workplace::Workplace(QWidget *parent)
+    : QMainWindow(parent, Qt::Widget)
+{
+    setWindowFlags(Qt::Widget); // the toolkit makes it a window else
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setDockOptions(AllowNestedDocks | AllowTabbedDocks | GroupedDragging);
+    setTabPosition(Qt::TopDockWidgetArea, QTabWidget::North);
+    setDocumentMode(true);
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(0ms);
+    connect(&m_settled, &QTimer::timeout, this, &Workplace::dress);
+    connect(this, &QMainWindow::tabifiedDockWidgetActivated, this, &Workplace::chooseTab);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *, const QWidget *now) {
+        if (ViewDock *dock = dockOf(now)) {
+            setCurrent(dock);
+            Q_EMIT entered(dock);
+        }
+    });
+}
+
+// The focus goes on wandering while the docks go.
+Workplace::~Workplace()
+{
+    qApp->disconnect(this);
+    for (ViewDock *dock : std::as_const(m_docks))
+        dock->disconnect(this);
+}
+
+ViewDock *Workplace::dockOf(const QWidget *widget) const
+{
+    const auto found = std::find_if(m_docks.cbegin(), m_docks.cend(), [widget](ViewDock *dock) {
+        return widget && dock->isAncestorOf(widget);
+    });
+    return found == m_docks.cend() ? nullptr : *found;
+}
+
+void Workplace::add(ViewDock &dock, ViewDock *other)
+{
+    m_docks.append(&dock);
+    if (other && !other->isFloating())
+        tabifyDockWidget(other, &dock);
+    else
+        addDockWidget(Qt::TopDockWidgetArea, &dock, Qt::Horizontal);
+    dock.hide();
+    const auto soon = [this] { m_settled.start(); };
+    connect(&dock, &ViewDock::seenChanged, this, soon);
+    connect(&dock, &QDockWidget::topLevelChanged, this, soon);
+    connect(&dock, &QDockWidget::dockLocationChanged, this, soon);
+    connect(&dock, &ViewDock::opened, this, [this, &dock] {
+        if (!m_used.contains(&dock))
+            m_used.append(&dock);
+    });
+    connect(&dock, &ViewDock::closed, this, [this, &dock] { noteClosed(&dock); });
+}
+
+QList<ViewDock *> Workplace::shown() const
+{
+    QList<ViewDock *> shown = m_docks;
+    shown.removeIf([](const ViewDock *dock) { return dock->isHidden(); });
+    return shown;
+}
+
+void Workplace::setCurrent(ViewDock *dock)
+{
+    if (dock == current())
+        return;
+    m_used.removeOne(dock);
+    m_used.prepend(dock);
+    m_settled.start();
+    Q_EMIT currentChanged();
+}
+
+void Workplace::noteClosed(ViewDock *dock)
+{
+    const bool wasCurrent = dock == current();
+    m_used.removeOne(dock);
+    m_settled.start();
+    if (!wasCurrent)
+        return;
+    Q_EMIT currentChanged();
+    const QWidget *focus = QApplication::focusWidget();
+    if (current() && (!focus || focus == this || isAncestorOf(focus)))
+        enter(*current());
+}
+
+void Workplace::show(ViewDock &dock)
+{
+    const ViewDock *focused = dockOf(QApplication::focusWidget());
+    dock.show();
+    dock.raise();
+    setCurrent(&dock);
+    if (focused && focused != &dock)
+        dock.view().setFocus(); // nobody types into what may be hidden now
+}
+
+void Workplace::enter(ViewDock &dock)
+{
+    show(dock);
+    if (dock.isFloating())
+        dock.activateWindow();
+    dock.view().setFocus();
+}
+
+// On the way through the tabs by keyboard, where the focus stays; clicks enter.
+void Workplace::chooseTab(QDockWidget *dock)
+{
+    auto *chosen = qobject_cast<ViewDock *>(dock);
+    if (chosen && qobject_cast<QTabBar *>(QApplication::focusWidget()))
+        setCurrent(chosen);
+}
+
+void Workplace::splitCurrent(Qt::Orientation orientation)
+{
+    ViewDock *dock = current();
+    if (!dock || shown().size() < 2)
+        return;
+    const QWidget *focus = QApplication::focusWidget();
+    const bool hadFocus = focus && dock->isAncestorOf(focus);
+    dock->setFloating(false);
+    addDockWidget(Qt::TopDockWidgetArea, dock, orientation);
+    dock->show();
+    QList<QDockWidget *> both{dock};
+    for (ViewDock *other : shown()) {
+        if (other != dock && other->isSeen() && !other->isFloating())
+            both.prepend(other);
+    }
+    const int room = orientation == Qt::Horizontal ? width() : height();
+    resizeDocks(both, QList<int>(both.size(), room / static_cast<int>(both.size())), orientation);
+    if (hadFocus)
+        enter(*dock);
+    else
+        show(*dock);
+}
+
+void Workplace::floatCurrent()
+{
+    if (ViewDock *dock = current())
+        dock->setFloating(!dock->isFloating());
+}
+
+void Workplace::closeCurrent()
+{
+    if (ViewDock *dock = current(); dock && dock->features().testFlag(ViewDock::DockWidgetClosable))
+        dock->close();
+}
+
+void Workplace::gather()
+{
+    ViewDock *front = current();
+    const QWidget *focus = QApplication::focusWidget();
+    const bool hadFocus = front && focus && front->isAncestorOf(focus);
+    const QList<ViewDock *> docks = shown();
+    for (ViewDock *dock : docks) {
+        dock->setFloating(false);
+        if (dock == docks.constFirst())
+            addDockWidget(Qt::TopDockWidgetArea, dock);
+        else
+            tabifyDockWidget(docks.constFirst(), dock);
+        dock->show();
+    }
+    if (hadFocus)
+        enter(*front);
+    else if (front)
+        show(*front);
+}
+
+void Workplace::goToTab(int step)
+{
+    if (ViewDock *dock = ViewTabs::beside(*this, current(), step))
+        enter(*dock);
+}
+
+void Workplace::retranslate()
+{
+    for (const ViewDock *dock : m_docks)
+        dock->title().retranslate();
+    dress();
+}
+
+// Titles and tabs as the views stand now, once the toolkit is done with its layout.
+void Workplace::dress()
+{
+    for (ViewDock *dock : m_docks) {
+        const bool isAlone = shown().size() < 2 || !tabifiedDockWidgets(dock).isEmpty();
+        dock->title().setNeeded(dock->isFloating() || !isAlone);
+        dock->title().setCurrent(dock == current());
+    }
+    ViewTabs::dress(*this);
+}
+
+} // namespace ORVTListview

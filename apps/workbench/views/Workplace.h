@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QTimer>
+#include <QtWidgets/QMainWindow>
+
+namespace ORVTListview {
+
+class ViewDock;
+
+// The views of a project as users arrange them: in tabs, side by side, in windows of their
+// own. One of them is the current one, which commands are for: the one that had the focus,
+// or was shown, last.
+class Workplace : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit Workplace(QWidget *parent);
+    ~Workplace() override;
+
+    // Belongs here from now on, hidden at first. Where it comes to stand: as a tab of the
+    // other one, or for null beside all.
+    void add(ViewDock &dock, ViewDock *other);
+
+    // In the order in which they were added; shown ones only.
+    QList<ViewDock *> shown() const;
+
+    // Shown ones, the one that was used last first.
+    QList<ViewDock *> used() const { return m_used; }
+
+    // Null before the first one is shown.
+    ViewDock *current() const { return m_used.value(0); }
+
+    // Shows it in front of its tabs. The focus comes from another view, else stays where it is.
+    void show(ViewDock &dock);
+
+    // The same, and the focus goes there.
+    void enter(ViewDock &dock);
+
+    // What users do with the current one. Beside: on the right of all others, or below them.
+    void splitCurrent(Qt::Orientation orientation);
+    void floatCurrent();
+    void closeCurrent();
+
+    // All of them into one row of tabs again.
+    void gather();
+
+    // Through the tabs, one on or one back, round at the ends.
+    void goToTab(int step);
+
+    // After a change of language.
+    void retranslate();
+
+Q_SIGNALS:
+    // Another one, or none.
+    void currentChanged();
+
+    // The focus has gone into it.
+    void entered(ORVTListview::ViewDock *dock);
+
+private:
+    ViewDock *dockOf(const QWidget *widget) const;
+    void setCurrent(ViewDock *dock);
+    void noteClosed(ViewDock *dock);
+    void chooseTab(QDockWidget *dock);
+    void dress();
+
+    QList<ViewDock *> m_docks;
+    QList<ViewDock *> m_used; // the current one first
+    QTimer m_settled;
+};
+
+} // namespace ORVTListview

@@ -1,0 +1,301 @@
+#include "WorkbenchTest.h"
+
+#include "support/TestProgram.h"
+#include "workbench/renaming/RenameDialog.h"
+#include "workbench/settings/KeptWindow.h"
+#include "workbench/views/TableViews.h"
+#include "workbench/views/ViewDock.h"
+#include "workbench/views/Workplace.h"
+
+#include <ORVTListview/CodeView.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
+#include <ORVTListview/Node.h>
+#include <ORVTListview/Nodes.h>
+#include <ORVTListview/ORVDataCombo.h>
+#include <ORVTListview/ORVTreeview.h>
+#include <ORVTListview/ReportList.h>
+
+#include <QtCore/QSettings>
+#include <QtWidgets/QTabBar>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Views : WorkbenchWindow
+{
+    Views()
+        : WorkbenchWindow("Fan1 = Temp1\nnobody = 1")
+    {
+    }
+
+    Workplace &place() { return views().workplace(); }
+    ViewDock &dock(LwType type)
+    {
+        return type == dsCode ? *window.findChild<ViewDock *>(u"ProgramDock"_s)
+                              : views().tables().dock(type);
+    }
+    ORVTreeview &tree() { return views().tree(); }
+    QTreeView &nodes() { return *tree().findChild<QTreeView *>(); }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        QCoreApplication::processEvents();
+    }
+    QString firstInput() { return dock(dsInput).view().ListItems()->Item(1)->SubItem(1); }
+    bool hasFocus(const QWidget &pane)
+    {
+        const QWidget *focus = QApplication::focusWidget();
+        return focus && (focus == &pane || pane.isAncestorOf(focus));
+    }
+};
+
+} // namespace
+
+class ArrangementTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void programAndTableStandSideBySide()
+    {
+        Views views;
+        views.window.showType(dsInput);
+        QCoreApplication::processEvents();
+        QVERIFY(!views.dock(dsCode).isSeen());
+        views.choose(u"Show Beside"_s);
+        QCoreApplication::processEvents();
+        const ViewDock &program = views.dock(dsCode);
+        const ViewDock &inputs = views.dock(dsInput);
+        QVERIFY(program.isSeen());
+        QVERIFY(inputs.isSeen());
+        QVERIFY(inputs.x() >= program.geometry().right());
+        QVERIFY(std::abs(inputs.width() - program.width()) < views.place().width() / 4);
+        views.choose(u"Show Below"_s);
+        QCoreApplication::processEvents();
+        QVERIFY(inputs.y() >= program.geometry().bottom());
+        views.choose(u"All In Tabs"_s);
+        QCoreApplication::processEvents();
+        QVERIFY(inputs.isSeen());
+        QVERIFY(!program.isSeen());
+        QCOMPARE(views.place().tabifiedDockWidgets(&views.dock(dsInput)).size(), 1);
+    }
+
+    void aTableThatWasOnlyLookedAtMakesWay()
+    {
+        Views views;
+        views.nodes().setFocus();
+        QTest::keyClick(&views.nodes(), Qt::Key_Home);
+        while (views.shown().CurrentType() != dsOutput)
+            QTest::keyClick(&views.nodes(), Qt::Key_Down);
+        QCOMPARE(views.place().shown().size(), 2);
+        QVERIFY(views.hasFocus(views.tree()));
+        views.press(Qt::Key_Return); // goes in, so it stays
+        QVERIFY(views.hasFocus(views.dock(dsOutput)));
+        views.nodes().setFocus();
+        QTest::keyClick(&views.nodes(), Qt::Key_Down);
+        QTest::keyClick(&views.nodes(), Qt::Key_Down);
+        QCOMPARE(views.place().shown().size(), 3);
+        QVERIFY(!views.dock(dsOutput).isHidden());
+    }
+
+    void theTreeFollowsTheFocus()
+    {
+        Views views;
+        views.window.showType(dsInput);
+        views.choose(u"Show Beside"_s);
+        QCOMPARE(views.tree().SelectedItem()->Key(), u"Inputs"_s);
+        views.box().setFocus();
+        QCOMPARE(views.shown().CurrentType(), dsCode);
+        QCOMPARE(views.tree().SelectedItem()->Key(), u"Code"_s);
+        QVERIFY(views.command(u"Select All"_s)->isEnabled());
+        views.dock(dsInput).view().setFocus();
+        QCOMPARE(views.tree().SelectedItem()->Key(), u"Inputs"_s);
+        QVERIFY(!views.command(u"Select All"_s)->isEnabled());
+    }
+
+    void aClosedTableGivesTheFocusBack()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        views.views().enterType(dsOutput);
+        QVERIFY(views.command(u"Close Table"_s)->isEnabled());
+        views.press(Qt::Key_F4, Qt::ControlModifier);
+        QVERIFY(views.dock(dsOutput).isHidden());
+        QCOMPARE(views.shown().CurrentType(), dsInput);
+        QVERIFY(views.hasFocus(views.dock(dsInput)));
+        views.press(Qt::Key_F4, Qt::ControlModifier);
+        QVERIFY(views.box().hasFocus());
+        QVERIFY(!views.command(u"Close Table"_s)->isEnabled()); // the program stays
+        views.choose(u"Close Table"_s);
+        QVERIFY(!views.dock(dsCode).isHidden());
+    }
+
+    void keysWalkThroughThePanes()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        views.choose(u"Show Beside"_s);
+        views.choose(u"Analyse"_s);
+        QCoreApplication::processEvents();
+        views.box().setFocus();
+        views.press(Qt::Key_F7);
+        QVERIFY(views.hasFocus(views.dock(dsInput)));
+        views.press(Qt::Key_F7);
+        QVERIFY(views.results().hasFocus());
+        views.press(Qt::Key_F7);
+        QVERIFY(views.hasFocus(*views.window.findChild<ORVDataCombo *>()));
+        views.press(Qt::Key_F7);
+        QVERIFY(views.hasFocus(views.tree()));
+        views.press(Qt::Key_F7);
+        QVERIFY(views.box().hasFocus());
+        views.press(Qt::Key_F7, Qt::ShiftModifier);
+        QVERIFY(views.hasFocus(views.tree()));
+    }
+
+    void eachPaneHasAKey()
+    {
+        Views views;
+        views.press(Qt::Key_1, Qt::ControlModifier);
+        QVERIFY(views.hasFocus(views.tree()));
+        views.press(Qt::Key_3, Qt::ControlModifier); // none is open yet
+        QVERIFY(views.hasFocus(views.dock(dsInput)));
+        views.press(Qt::Key_2, Qt::ControlModifier);
+        QVERIFY(views.box().hasFocus());
+        views.press(Qt::Key_4, Qt::ControlModifier);
+        QVERIFY(views.results().hasFocus());
+        views.press(Qt::Key_5, Qt::ControlModifier);
+        auto &combo = *views.window.findChild<ORVDataCombo *>();
+        QVERIFY(views.hasFocus(combo));
+        QCOMPARE(combo.ListCount(), qint16(1)); // Temp1
+        views.press(Qt::Key_2, Qt::AltModifier);
+        QVERIFY(views.hasFocus(combo));
+        views.press(Qt::Key_Down);
+        QCOMPARE(combo.Text(), u"Fan1"_s);
+    }
+
+    void tabsAreChosenByKeys()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        views.views().enterType(dsOutput);
+        QCoreApplication::processEvents();
+        QStringList way;
+        for (int i = 0; i < 3; ++i) {
+            views.press(Qt::Key_PageDown, Qt::ControlModifier);
+            way.append(views.shown().objectName());
+        }
+        QCOMPARE(way, QStringList({u"Program"_s, u"Inputs"_s, u"Outputs"_s}));
+        views.press(Qt::Key_PageUp, Qt::ControlModifier);
+        QCOMPARE(views.shown().objectName(), u"Inputs"_s);
+        QVERIFY(views.hasFocus(views.dock(dsInput)));
+    }
+
+    void onlyTablesHaveAButtonThatCloses()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        QCoreApplication::processEvents();
+        auto *tabs = views.place().findChild<QTabBar *>();
+        QVERIFY(tabs);
+        QTRY_COMPARE(tabs->findChildren<QAbstractButton *>(u""_s).size() > 0, true);
+        QTRY_VERIFY(!tabs->tabButton(0, QTabBar::RightSide) &&
+                    !tabs->tabButton(0, QTabBar::LeftSide));
+        auto *close = qobject_cast<QAbstractButton *>(tabs->tabButton(1, QTabBar::RightSide));
+        QVERIFY(close);
+        QCOMPARE(close->accessibleName(), u"Close Inputs"_s);
+        close->click();
+        QVERIFY(views.dock(dsInput).isHidden());
+        QVERIFY(!views.dock(dsCode).isHidden());
+    }
+
+    // Behind a tab or closed as well, once they are seen.
+    void noTableShowsAFormerName()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        views.views().enterType(dsOutput);
+        QCoreApplication::processEvents();
+        NextDialog<RenameDialog> places([](RenameDialog &dialog) { dialog.accept(); });
+        Q_EMIT views.views().tables().renameWanted(dsInput, 0, u"Room"_s);
+        QVERIFY(places.wasThere());
+        views.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&views.window));
+        views.views().enterType(dsInput);
+        QCoreApplication::processEvents();
+        QCOMPARE(views.firstInput(), u"Room"_s);
+        QVERIFY(views.code().CodeText().contains(u"Fan1 = Room"_s));
+        views.choose(u"Close Table"_s);
+        views.box().setFocus();
+        views.choose(u"Undo"_s);
+        views.views().enterType(dsInput);
+        QCoreApplication::processEvents();
+        QCOMPARE(views.firstInput(), u"Temp1"_s);
+        views.views().enterType(dsOutput);
+        views.window.openProject(views.writeProject(u"two"_s, "Fan1 = 1"));
+        QVERIFY(views.box().hasFocus());
+        QCOMPARE(views.firstInput(), u"Temp1"_s);
+    }
+
+    void aProblemBringsTheProgramToTheFront()
+    {
+        Views views;
+        QTRY_VERIFY(!views.code().codeView()->problems().isEmpty());
+        views.views().enterType(dsInput);
+        views.press(Qt::Key_F8);
+        QVERIFY(views.dock(dsCode).isSeen());
+        QVERIFY(views.box().hasFocus());
+    }
+
+    void theArrangementIsKept()
+    {
+        QTemporaryDir folder;
+        QSettings store(folder.filePath(u"a.ini"_s), QSettings::IniFormat);
+        {
+            Views views;
+            views.views().enterType(dsInput);
+            views.choose(u"Show Beside"_s);
+            views.views().enterType(dsOutput);
+            QCoreApplication::processEvents();
+            writeWindow(store, views.window, *views.code().codeView());
+        }
+        Views views;
+        QCOMPARE(views.place().shown().size(), 1);
+        readWindow(store, views.window, *views.code().codeView());
+        QCoreApplication::processEvents();
+        QCOMPARE(views.views().tables().opened(), QStringList({u"Inputs"_s, u"Outputs"_s}));
+        QVERIFY(views.dock(dsOutput).x() >= views.dock(dsCode).geometry().right());
+        QCOMPARE(views.place().tabifiedDockWidgets(&views.dock(dsInput)),
+                 QList<QDockWidget *>{&views.dock(dsOutput)});
+        QCOMPARE(views.firstInput(), u"Temp1"_s);
+    }
+
+    void aDamagedArrangementIsLeftOut()
+    {
+        QTemporaryDir folder;
+        QSettings store(folder.filePath(u"a.ini"_s), QSettings::IniFormat);
+        store.setValue(u"window/tables"_s, QStringList{u"None such"_s, u"Logs"_s, u"Code"_s});
+        store.setValue(u"window/views"_s, QByteArray("nothing"));
+        Views views;
+        readWindow(store, views.window, *views.code().codeView());
+        QCOMPARE(views.views().tables().opened(), QStringList(u"Logs"_s));
+        QVERIFY(!views.dock(dsCode).isHidden());
+    }
+
+    void aLanguageIsSpokenByTabsAndTitles()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        views.speak(QLocale(QLocale::German));
+        QCOMPARE(views.dock(dsInput).windowTitle(), u"Eingänge"_s);
+        QCOMPARE(views.dock(dsCode).windowTitle(), u"one.prog"_s);
+        views.speak(QLocale(QLocale::English));
+        QCOMPARE(views.dock(dsInput).windowTitle(), u"Inputs"_s);
+    }
+};
+
+ORVT_TEST(ArrangementTest)
+#include "ArrangementTest.moc"
