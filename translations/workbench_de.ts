@@ -147,10 +147,6 @@
         <translation>Zeigt ein Reglerprojekt.</translation>
     </message>
     <message>
-        <source>The project file; the sample project without one.</source>
-        <translation>Die Projektdatei; ohne Angabe das Beispielprojekt.</translation>
-    </message>
-    <message>
         <source>Write a picture of the window and quit.</source>
         <translation>Ein Bild des Fensters schreiben und beenden.</translation>
     </message>
@@ -181,6 +177,10 @@
     <message>
         <source>There is no category %1.</source>
         <translation>Es gibt keine Kategorie %1.</translation>
+    </message>
+    <message>
+        <source>The project file; without one that of the last time, or the sample project.</source>
+        <translation>Die Projektdatei; ohne Angabe die vom letzten Mal oder das Beispielprojekt.</translation>
     </message>
 </context>
 <context>
@@ -453,6 +453,45 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::FileMenu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Close Project</source>
+        <translation>Projekt sch&amp;ließen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;Neues Projekt…</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>Projekt ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>E&amp;xportieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken…</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::HelpMenu</name>
     <message>
         <source>&amp;Help</source>
@@ -559,18 +598,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
 <context>
     <name>ORVTListview::MainWindow</name>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Open Project…</source>
-        <translation>Projekt ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
         <source>&amp;Program</source>
         <translation>&amp;Programm</translation>
     </message>
@@ -593,10 +620,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
     <message>
         <source>Open Project</source>
         <translation>Projekt öffnen</translation>
-    </message>
-    <message>
-        <source>Projects (*.json)</source>
-        <translation>Projekte (*.json)</translation>
     </message>
     <message>
         <source>%1, lines: %2</source>
@@ -639,28 +662,12 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <translation>&amp;Handübersteuerungen</translation>
     </message>
     <message>
-        <source>&amp;Export…</source>
-        <translation>E&amp;xportieren…</translation>
-    </message>
-    <message>
-        <source>&amp;Print…</source>
-        <translation>&amp;Drucken…</translation>
-    </message>
-    <message>
         <source>&amp;Export Statements…</source>
         <translation>Anweisungen e&amp;xportieren…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
         <translation>Ei&amp;nstellungen…</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>Save Else&amp;where…</source>
-        <translation>&amp;Woanders speichern…</translation>
     </message>
     <message>
         <source>&amp;Add Point…</source>
@@ -677,6 +684,53 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
     <message>
         <source>Another workbench has this project open, too.</source>
         <translation>Auch eine andere Werkbank hat dieses Projekt geöffnet.</translation>
+    </message>
+    <message>
+        <source>The project of the last time is open again.</source>
+        <translation>Das Projekt vom letzten Mal ist wieder geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::NewProjectDialog</name>
+    <message>
+        <source>New Project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Projektname:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>&amp;Create</source>
+        <translation>&amp;Anlegen</translation>
+    </message>
+    <message>
+        <source>Folder of the New Project</source>
+        <translation>Ordner des neuen Projekts</translation>
+    </message>
+    <message>
+        <source>The project and an empty program are made in this folder.</source>
+        <translation>Das Projekt und ein leeres Programm werden in diesem Ordner angelegt.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>Dieser Name hat Zeichen, die ein Name nicht haben kann.</translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>Diesen Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1 will be made.</source>
+        <translation>%1 wird angelegt.</translation>
     </message>
 </context>
 <context>
@@ -833,6 +887,38 @@ Entfernen?</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::ProjectHistory</name>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Wiederhergestellt: %1</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProjectLife</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>Projekte (*.json)</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more, or not at the moment.
+Take it off the list?</source>
+        <translation>%1 ist nicht mehr da oder im Augenblick nicht erreichbar.
+Aus der Liste nehmen?</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::ProjectSaving</name>
     <message>
         <source>Save</source>
@@ -885,6 +971,29 @@ Speichern?</translation>
 Overwrite those changes?</source>
         <translation>Die Datei %1 wurde seit dem Öffnen anderswo geändert.
 Diese Änderungen überschreiben?</translation>
+    </message>
+    <message>
+        <source>Saved, but the version before cannot be kept: %1</source>
+        <translation>Gespeichert, aber die vorherige Fassung lässt sich nicht behalten: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>No projects yet</source>
+        <translation>Noch keine Projekte</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Last at Start</source>
+        <translation>Das letzte beim &amp;Start öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Liste leeren</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1185,25 @@ Diese Änderungen überschreiben?</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::StartPage</name>
+    <message>
+        <source>No project is open</source>
+        <translation>Kein Projekt ist geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;Neues Projekt…</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>Projekt ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Projects that were opened &amp;last:</source>
+        <translation>&amp;Zuletzt geöffnete Projekte:</translation>
+    </message>
+</context>
+<context>
     <name>PrintedPages</name>
     <message>
         <source>Page %1 of %2</source>
@@ -1207,6 +1335,18 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>Work on %1 that is not saved. The workbench offers it when the project is opened the next time.</source>
         <translation>Nicht gespeicherte Arbeit an %1. Die Werkbank bietet sie an, wenn das Projekt das nächste Mal geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 gibt es schon.</translation>
+    </message>
+    <message>
+        <source>the form %1 is newer than the form %2 that can be read here; a newer version opens the file, which stays as it is</source>
+        <translation>Das Format %1 ist neuer als das Format %2, das hier gelesen werden kann; eine neuere Version öffnet die Datei, die bleibt, wie sie ist</translation>
+    </message>
+    <message>
+        <source>no folder takes a recovery file</source>
+        <translation>Kein Ordner nimmt eine Wiederherstellungsdatei auf</translation>
     </message>
 </context>
 <context>

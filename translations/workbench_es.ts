@@ -147,10 +147,6 @@
         <translation>Muestra un proyecto de controlador.</translation>
     </message>
     <message>
-        <source>The project file; the sample project without one.</source>
-        <translation>El archivo de proyecto; sin él, el proyecto de ejemplo.</translation>
-    </message>
-    <message>
         <source>Write a picture of the window and quit.</source>
         <translation>Guardar una imagen de la ventana y salir.</translation>
     </message>
@@ -181,6 +177,10 @@
     <message>
         <source>There is no category %1.</source>
         <translation>No hay ninguna categoría %1.</translation>
+    </message>
+    <message>
+        <source>The project file; without one that of the last time, or the sample project.</source>
+        <translation>El archivo del proyecto; sin él, el de la última vez o el proyecto de ejemplo.</translation>
     </message>
 </context>
 <context>
@@ -453,6 +453,45 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::FileMenu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Close Project</source>
+        <translation>Cerrar &amp;proyecto</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;Nuevo proyecto…</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>&amp;Abrir proyecto…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar &amp;como…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportar…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Imprimir…</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::HelpMenu</name>
     <message>
         <source>&amp;Help</source>
@@ -559,18 +598,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
 <context>
     <name>ORVTListview::MainWindow</name>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Archivo</translation>
-    </message>
-    <message>
-        <source>&amp;Open Project…</source>
-        <translation>&amp;Abrir proyecto…</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Salir</translation>
-    </message>
-    <message>
         <source>&amp;Program</source>
         <translation>&amp;Programa</translation>
     </message>
@@ -593,10 +620,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
     <message>
         <source>Open Project</source>
         <translation>Abrir proyecto</translation>
-    </message>
-    <message>
-        <source>Projects (*.json)</source>
-        <translation>Proyectos (*.json)</translation>
     </message>
     <message>
         <source>%1, lines: %2</source>
@@ -639,28 +662,12 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <translation>&amp;Mandos manuales</translation>
     </message>
     <message>
-        <source>&amp;Export…</source>
-        <translation>&amp;Exportar…</translation>
-    </message>
-    <message>
-        <source>&amp;Print…</source>
-        <translation>&amp;Imprimir…</translation>
-    </message>
-    <message>
         <source>&amp;Export Statements…</source>
         <translation>&amp;Exportar instrucciones…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
         <translation>A&amp;justes…</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Guardar</translation>
-    </message>
-    <message>
-        <source>Save Else&amp;where…</source>
-        <translation>Guardar en o&amp;tro lugar…</translation>
     </message>
     <message>
         <source>&amp;Add Point…</source>
@@ -677,6 +684,53 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
     <message>
         <source>Another workbench has this project open, too.</source>
         <translation>Otro banco de trabajo también tiene abierto este proyecto.</translation>
+    </message>
+    <message>
+        <source>The project of the last time is open again.</source>
+        <translation>El proyecto de la última vez está abierto de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::NewProjectDialog</name>
+    <message>
+        <source>New Project</source>
+        <translation>Nuevo proyecto</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Examinar…</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Carpeta:</translation>
+    </message>
+    <message>
+        <source>&amp;Create</source>
+        <translation>C&amp;rear</translation>
+    </message>
+    <message>
+        <source>Folder of the New Project</source>
+        <translation>Carpeta del proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>The project and an empty program are made in this folder.</source>
+        <translation>El proyecto y un programa vacío se crean en esta carpeta.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>Este nombre tiene caracteres que un nombre no puede tener.</translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>Esa carpeta no existe.</translation>
+    </message>
+    <message>
+        <source>%1 will be made.</source>
+        <translation>Se creará %1.</translation>
     </message>
 </context>
 <context>
@@ -833,6 +887,38 @@ Remove it?</source>
     </message>
 </context>
 <context>
+    <name>ORVTListview::ProjectHistory</name>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Deshecho: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rehecho: %1</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProjectLife</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>Proyectos (*.json)</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more, or not at the moment.
+Take it off the list?</source>
+        <translation>%1 ya no está, o no está accesible en este momento.
+¿Quitarlo de la lista?</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::ProjectSaving</name>
     <message>
         <source>Save</source>
@@ -885,6 +971,29 @@ Save them?</source>
 Overwrite those changes?</source>
         <translation>El archivo %1 ha sido modificado en otro lugar desde que se abrió.
 ¿Sobrescribir esos cambios?</translation>
+    </message>
+    <message>
+        <source>Saved, but the version before cannot be kept: %1</source>
+        <translation>Guardado, pero no se puede conservar la versión anterior: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Abrir &amp;reciente</translation>
+    </message>
+    <message>
+        <source>No projects yet</source>
+        <translation>Aún no hay proyectos</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Last at Start</source>
+        <translation>Abrir el ú&amp;ltimo al iniciar</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Vaciar la lista</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1185,25 @@ Overwrite those changes?</source>
     </message>
 </context>
 <context>
+    <name>ORVTListview::StartPage</name>
+    <message>
+        <source>No project is open</source>
+        <translation>No hay ningún proyecto abierto</translation>
+    </message>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;Nuevo proyecto…</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>&amp;Abrir proyecto…</translation>
+    </message>
+    <message>
+        <source>Projects that were opened &amp;last:</source>
+        <translation>Proyectos abiertos ú&amp;ltimamente:</translation>
+    </message>
+</context>
+<context>
     <name>PrintedPages</name>
     <message>
         <source>Page %1 of %2</source>
@@ -1207,6 +1335,18 @@ Overwrite those changes?</source>
     <message>
         <source>Work on %1 that is not saved. The workbench offers it when the project is opened the next time.</source>
         <translation>Trabajo en %1 sin guardar. El banco de trabajo lo ofrece la próxima vez que se abra el proyecto.</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 ya existe.</translation>
+    </message>
+    <message>
+        <source>the form %1 is newer than the form %2 that can be read here; a newer version opens the file, which stays as it is</source>
+        <translation>el formato %1 es más nuevo que el formato %2 que se puede leer aquí; una versión más nueva abre el archivo, que queda como está</translation>
+    </message>
+    <message>
+        <source>no folder takes a recovery file</source>
+        <translation>ninguna carpeta admite un archivo de recuperación</translation>
     </message>
 </context>
 <context>

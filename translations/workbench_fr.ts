@@ -147,10 +147,6 @@
         <translation>Affiche un projet de régulateur.</translation>
     </message>
     <message>
-        <source>The project file; the sample project without one.</source>
-        <translation>Le fichier du projet&#xa0;; à défaut, le projet d’exemple.</translation>
-    </message>
-    <message>
         <source>Write a picture of the window and quit.</source>
         <translation>Enregistrer une image de la fenêtre et quitter.</translation>
     </message>
@@ -181,6 +177,10 @@
     <message>
         <source>There is no category %1.</source>
         <translation>Il n’y a pas de catégorie %1.</translation>
+    </message>
+    <message>
+        <source>The project file; without one that of the last time, or the sample project.</source>
+        <translation>Le fichier de projet ; sans lui, celui de la dernière fois ou le projet d’exemple.</translation>
     </message>
 </context>
 <context>
@@ -453,6 +453,45 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::FileMenu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Close Project</source>
+        <translation>&amp;Fermer le projet</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;Nouveau projet…</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>&amp;Ouvrir un projet…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>E&amp;xporter…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Imprimer…</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::HelpMenu</name>
     <message>
         <source>&amp;Help</source>
@@ -559,18 +598,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
 <context>
     <name>ORVTListview::MainWindow</name>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
-    </message>
-    <message>
-        <source>&amp;Open Project…</source>
-        <translation>&amp;Ouvrir un projet…</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
         <source>&amp;Program</source>
         <translation>&amp;Programme</translation>
     </message>
@@ -593,10 +620,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     <message>
         <source>Open Project</source>
         <translation>Ouvrir un projet</translation>
-    </message>
-    <message>
-        <source>Projects (*.json)</source>
-        <translation>Projets (*.json)</translation>
     </message>
     <message>
         <source>%1, lines: %2</source>
@@ -639,28 +662,12 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <translation>Forçages &amp;matériels</translation>
     </message>
     <message>
-        <source>&amp;Export…</source>
-        <translation>E&amp;xporter…</translation>
-    </message>
-    <message>
-        <source>&amp;Print…</source>
-        <translation>&amp;Imprimer…</translation>
-    </message>
-    <message>
         <source>&amp;Export Statements…</source>
         <translation>&amp;Exporter les instructions…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
         <translation>Pa&amp;ramètres…</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Enregistrer</translation>
-    </message>
-    <message>
-        <source>Save Else&amp;where…</source>
-        <translation>Enregistrer &amp;ailleurs…</translation>
     </message>
     <message>
         <source>&amp;Add Point…</source>
@@ -677,6 +684,53 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     <message>
         <source>Another workbench has this project open, too.</source>
         <translation>Un autre atelier a aussi ouvert ce projet.</translation>
+    </message>
+    <message>
+        <source>The project of the last time is open again.</source>
+        <translation>Le projet de la dernière fois est de nouveau ouvert.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::NewProjectDialog</name>
+    <message>
+        <source>New Project</source>
+        <translation>Nouveau projet</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Parcourir…</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Dossier :</translation>
+    </message>
+    <message>
+        <source>&amp;Create</source>
+        <translation>&amp;Créer</translation>
+    </message>
+    <message>
+        <source>Folder of the New Project</source>
+        <translation>Dossier du nouveau projet</translation>
+    </message>
+    <message>
+        <source>The project and an empty program are made in this folder.</source>
+        <translation>Le projet et un programme vide sont créés dans ce dossier.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>Ce nom contient des caractères qu’un nom ne peut pas avoir.</translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>Ce dossier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%1 will be made.</source>
+        <translation>%1 sera créé.</translation>
     </message>
 </context>
 <context>
@@ -833,6 +887,38 @@ Le supprimer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::ProjectHistory</name>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Annulé : %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rétabli : %1</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProjectLife</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Projects (*.json)</source>
+        <translation>Projets (*.json)</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more, or not at the moment.
+Take it off the list?</source>
+        <translation>%1 n’existe plus, ou n’est pas accessible pour le moment.
+Le retirer de la liste ?</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::ProjectSaving</name>
     <message>
         <source>Save</source>
@@ -885,6 +971,29 @@ Les enregistrer&#xa0;?</translation>
 Overwrite those changes?</source>
         <translation>Le fichier %1 a été modifié ailleurs depuis son ouverture.
 Écraser ces modifications&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Saved, but the version before cannot be kept: %1</source>
+        <translation>Enregistré, mais la version précédente ne peut pas être conservée : %1</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Projets &amp;récents</translation>
+    </message>
+    <message>
+        <source>No projects yet</source>
+        <translation>Pas encore de projets</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Last at Start</source>
+        <translation>Ouvrir le &amp;dernier au démarrage</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Vider la liste</translation>
     </message>
 </context>
 <context>
@@ -1076,6 +1185,25 @@ Overwrite those changes?</source>
     </message>
 </context>
 <context>
+    <name>ORVTListview::StartPage</name>
+    <message>
+        <source>No project is open</source>
+        <translation>Aucun projet n’est ouvert</translation>
+    </message>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;Nouveau projet…</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>&amp;Ouvrir un projet…</translation>
+    </message>
+    <message>
+        <source>Projects that were opened &amp;last:</source>
+        <translation>&amp;Projets ouverts récemment :</translation>
+    </message>
+</context>
+<context>
     <name>PrintedPages</name>
     <message>
         <source>Page %1 of %2</source>
@@ -1207,6 +1335,18 @@ Overwrite those changes?</source>
     <message>
         <source>Work on %1 that is not saved. The workbench offers it when the project is opened the next time.</source>
         <translation>Travail non enregistré sur %1. L’atelier le propose à la prochaine ouverture du projet.</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 existe déjà.</translation>
+    </message>
+    <message>
+        <source>the form %1 is newer than the form %2 that can be read here; a newer version opens the file, which stays as it is</source>
+        <translation>le format %1 est plus récent que le format %2 qui peut être lu ici ; une version plus récente ouvre le fichier, qui reste tel quel</translation>
+    </message>
+    <message>
+        <source>no folder takes a recovery file</source>
+        <translation>aucun dossier n’accepte de fichier de récupération</translation>
     </message>
 </context>
 <context>

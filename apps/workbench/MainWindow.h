@@ -25,12 +25,16 @@ class ProgramNavigation;
 class PointChooser;
 class PointRenaming;
 class PointValues;
+class Project;
 class ProjectDocument;
 class ProjectHistory;
+class ProjectLife;
 class ProjectSaving;
 class ProjectView;
+class RecentProjects;
 class RecoveryKeeper;
 class RecoveryOffer;
+class StartPage;
 struct ListedStatement;
 
 // A small host: shows a project in the library's components.
@@ -53,6 +57,18 @@ public:
     // done, and offers work that was not saved the last time.
     void openForUser(const QString &fileName, Version version = Version::Now);
 
+    // The same in the place of a project that is shown, which stays when the other one cannot
+    // be opened.
+    void openInPlace(const QString &fileName);
+
+    // Shows what can be done without a project. What is shown goes without a question.
+    void closeProject();
+
+    RecentProjects &recentProjects() { return *m_recent; }
+
+    // Opens the project of the last time, or a sample where there is none.
+    void openAtStart(const QString &sample);
+
     // What the user has decided for all projects; at first the theme and the language that
     // are in use.
     const Settings &settings() const { return m_settings; }
@@ -73,6 +89,7 @@ protected:
 private:
     void buildMenus();
     void buildFileMenu();
+    void enableWithProject(const QList<QAction *> &menus);
     void buildEditMenu();
     void buildProgramMenu();
     void buildPointsMenu();
@@ -81,14 +98,15 @@ private:
     void connectEditor();
     void connectPoints();
     void connectSaving();
-    void chooseProject();
-    void openByHand(const QString &fileName);
+    void connectPages();
+    void takeProject(Project &project);
     void showProgram();
     void chooseSettings();
     void decide(const Settings &settings);
     void applyAppearance();
     void connectAnalysis();
     void takePoints();
+    bool showsProject() const;
     void analyse();
     void compile();
     std::optional<QList<ListedStatement>> compiled();
@@ -104,10 +122,13 @@ private:
     ProjectDocument *m_document;
     ProjectView *m_view;
     OpeningFault *m_fault;
+    RecentProjects *m_recent;
+    StartPage *m_start;
     ORVListView *m_code; // the view owns it
     ProjectHistory *m_history;
     PointRenaming *m_renaming;
     ProjectSaving *m_saving;
+    ProjectLife *m_life;
     RecoveryKeeper *m_recovery;
     RecoveryOffer *m_offer;
     Exporting *m_export;
