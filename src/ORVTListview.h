@@ -45,4 +45,5 @@
 #include <ORVTListview/TextProvider.h>
 #include <ORVTListview/TranslatedTexts.h>
 #include <ORVTListview/Types.h>
+#include <ORVTListview/UndoHistory.h>
 #include <ORVTListview/Version.h>

@@ -2,11 +2,11 @@
 
 #include "base/TextRules.h"
 #include "project/JsonEdit.h"
+#include "project/KeptVersion.h"
 #include "project/PointNames.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
-#include "project/TableEdit.h"
 #include "project/TextFile.h"
 
 #include <QtCore/QDir>
@@ -21,17 +21,6 @@ namespace ORVTListview {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// The version before the last that was saved, with the rights of the file. A file that is
-// gone has none.
-void keepBefore(const QString &fileName)
-{
-    if (!QFileInfo(fileName).isFile())
-        return;
-    const QString before = fileName + u'~';
-    QFile(before).open(QIODevice::NewOnly | QIODevice::WriteOnly, QFile::permissions(fileName));
-    writeFile(before, readFile(fileName));
-}
 
 struct NewFile
 {
@@ -92,6 +81,11 @@ std::unique_ptr<Project> Project::versionBefore(const QString &fileName)
     std::unique_ptr<Project> project(new Project(fileName, readVersionBefore(fileName)));
     project->m_isOfVersionBefore = true;
     return project;
+}
+
+std::unique_ptr<Project> Project::none()
+{
+    return std::unique_ptr<Project>(new Project({}, ProjectContents()));
 }
 
 void Project::fillPoints(LwType type)
@@ -183,24 +177,6 @@ bool Project::hasAnother(LwType type, qsizetype row, const QString &name) const
     return false;
 }
 
-QByteArray Project::tableBytes(const QByteArray &json, Theirs theirs) const
-{
-    const ProjectTables there = readContents(JsonPlace::parse(json, m_fileName)).rows;
-    QByteArray result = json;
-    for (const LwType type : projectTypes()) {
-        const QList<ProjectRow> &list = rows(type);
-        if (list == m_saved.value(type) || list == there.value(type))
-            continue;
-        if (theirs == Theirs::Kept && there.value(type) != m_saved.value(type))
-            throw Error(FileNotWritable, u"Project"_s,
-                        ProjectTexts::tr("%1: its %2 have been changed elsewhere")
-                            .arg(m_fileName, projectMember(type)));
-        result = withRows(result, m_fileName, type, there.value(type), list);
-    }
-    readContents(JsonPlace::parse(result, m_fileName)); // it may have changed meanwhile
-    return result;
-}
-
 // A file that is gone, or that cannot be read, is written anew.
 QByteArray Project::jsonForSaving() const
 {
@@ -213,7 +189,7 @@ bool Project::saveTables(Theirs theirs)
     if (!hasChangedTables())
         return false;
     const QByteArray there = jsonForSaving();
-    const QByteArray json = tableBytes(there, theirs);
+    const QByteArray json = tableSaving().into(there, theirs);
     writeFile(m_fileName, json);
     const ProjectTables before = m_contents.rows;
     if (there != m_contents.json)
@@ -257,30 +233,41 @@ void Project::saveProgram(const QString &program)
     m_shown = program;
 }
 
-bool Project::save(const QString &program, Theirs theirs, Encoding encoding)
+// The version before is what is saved here; the file that it stands in for goes to its
+// place when that has worked.
+void Project::saveProjectFile(Theirs theirs, Saved &saved)
+{
+    const bool isTurned = m_isOfVersionBefore && QFileInfo(m_fileName).isFile();
+    const QByteArray broken = isTurned ? readFile(m_fileName) : QByteArray();
+    if (!m_isOfVersionBefore)
+        saved.notKept = keepVersionBefore(m_fileName);
+    saved.takesOver = saveTables(theirs);
+    if (!isTurned)
+        return;
+    try {
+        writeFile(m_fileName + u'~', broken);
+    } catch (const Error &error) {
+        saved.notKept = error.Description();
+    }
+}
+
+Project::Saved Project::save(const QString &program, Theirs theirs, Encoding encoding)
 {
     const QByteArray bytes = programBytes(program, encoding); // before anything is written
-    bool takesOver = false;
-    if (hasChangedTables()) {
-        // The version before is what is saved here; the file that it stands in for goes to
-        // its place when that has worked.
-        const bool isTurned = m_isOfVersionBefore && QFileInfo(m_fileName).isFile();
-        const QByteArray broken = isTurned ? readFile(m_fileName) : QByteArray();
-        if (!m_isOfVersionBefore)
-            keepBefore(m_fileName);
-        takesOver = saveTables(theirs);
-        if (isTurned)
-            writeFile(m_fileName + u'~', broken);
-    } else if (!QFileInfo::exists(m_fileName)) {
+    Saved saved;
+    if (hasChangedTables())
+        saveProjectFile(theirs, saved);
+    else if (!QFileInfo::exists(m_fileName))
         writeFile(m_fileName, m_contents.json);
-    }
     if (bytes != m_contents.program.bytes() || !QFileInfo::exists(programFile())) {
-        keepBefore(programFile());
+        const QString notKept = keepVersionBefore(programFile());
+        if (!notKept.isEmpty())
+            saved.notKept = notKept;
         writeFile(programFile(), bytes);
         m_contents.program = ProgramFile(bytes);
     }
     m_shown = program;
-    return takesOver;
+    return saved;
 }
 
 // Beside the project's file, under its own name if that is free: no file has it, or it is
@@ -304,11 +291,11 @@ QString Project::programPlace(const QString &fileName) const
     }
 }
 
-void Project::saveAt(const QString &fileName, const QString &program, Encoding encoding)
+Project::Saved Project::saveAt(const QString &fileName, const QString &program, Encoding encoding)
 {
     const QByteArray bytes = programBytes(program, encoding);
     const QString file = programPlace(fileName);
-    QByteArray json = tableBytes(m_contents.json, Theirs::Overwritten);
+    QByteArray json = tableSaving().into(m_contents.json, Theirs::Overwritten);
     const QString name = QFileInfo(file).fileName();
     const JsonPlace place = JsonPlace::parse(json, fileName).member(u"program"_s);
     if (place.text() != name) {
@@ -316,8 +303,12 @@ void Project::saveAt(const QString &fileName, const QString &program, Encoding e
         edit.replace(place, name);
         json = edit.bytes();
     }
-    keepBefore(file);
-    keepBefore(fileName);
+    Saved saved;
+    for (const QString &replaced : {file, fileName}) {
+        const QString notKept = keepVersionBefore(replaced);
+        if (!notKept.isEmpty())
+            saved.notKept = notKept;
+    }
     writeBoth({file, bytes}, {fileName, json});
     m_fileName = fileName;
     m_contents.programFile = file;
@@ -326,6 +317,7 @@ void Project::saveAt(const QString &fileName, const QString &program, Encoding e
     m_saved = m_contents.rows;
     m_shown = program;
     m_isOfVersionBefore = false;
+    return saved;
 }
 
 namespace {

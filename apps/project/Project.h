@@ -2,6 +2,7 @@
 
 #include "project/ProjectChange.h"
 #include "project/ProjectReader.h"
+#include "project/TableSaving.h"
 
 #include <ORVTListview/IndexedName.h>
 #include <ORVTListview/PointCollection.h>
@@ -22,6 +23,9 @@ public:
     // The project as it was before it was saved last, where its file cannot be read: it is
     // to be saved into that file. Raises Error as well.
     static std::unique_ptr<Project> versionBefore(const QString &fileName);
+
+    // One without points and files, for components while no project is open.
+    static std::unique_ptr<Project> none();
     Q_DISABLE_COPY_MOVE(Project) // components keep its collections by address
 
     QString fileName() const { return m_fileName; }
@@ -73,30 +77,35 @@ public:
     // Whether changes of the tables wait for being saved.
     bool hasChangedTables() const { return m_isOfVersionBefore || m_contents.rows != m_saved; }
 
-    // The project's file with the tables of now; it keeps its layout. A table that is
-    // another one in the file meanwhile raises Error, unless it is to be overwritten.
-    enum class Theirs { Kept, Overwritten };
-    QByteArray tableBytes(const QByteArray &json, Theirs theirs = Theirs::Kept) const;
+    // The tables of now, for being put into the project's file.
+    using Theirs = TableSaving::Theirs;
+    TableSaving tableSaving() const { return {m_fileName, m_saved, m_contents.rows}; }
 
-    // The project's file as it was read or saved, and as it would be saved now.
+    // The project's file as it was read or saved.
     const QByteArray &json() const { return m_contents.json; }
-    QByteArray kept() const { return tableBytes(m_contents.json, Theirs::Overwritten); }
 
     // Puts the changed tables into the project's file. Raises Error and leaves the file when
     // it cannot be written or would be none that can be read. Tables that somebody else has
     // changed meanwhile, and that are not changed here, are taken over; true if any is.
     bool saveTables(Theirs theirs = Theirs::Kept);
 
+    // What came of saving beside what was asked for.
+    struct Saved
+    {
+        bool takesOver = false; // tables that somebody else has changed
+        QString notKept;        // why a version before could not be kept; empty when it could
+    };
+
     // Both, each of them only if it has changed here or is gone. The version that a file had
-    // before stays beside it, with a "~" behind its name. Raises Error; what was saved by
-    // then is. True when tables were taken over.
-    bool save(const QString &program, Theirs theirs, Encoding encoding = Encoding::ItsOwn);
+    // before stays beside it, with a "~" behind its name, if that is possible. Raises Error;
+    // what was saved by then is.
+    Saved save(const QString &program, Theirs theirs, Encoding encoding = Encoding::ItsOwn);
 
     // Both at another place, the program beside the project's file; the project goes on
     // there. A program of another project is left alone: this one's has another name then.
     // Raises Error and leaves what is there.
-    void saveAt(const QString &fileName, const QString &program,
-                Encoding encoding = Encoding::ItsOwn);
+    Saved saveAt(const QString &fileName, const QString &program,
+                 Encoding encoding = Encoding::ItsOwn);
 
     // Keeps what the controller answered for a cell of projectColumns(type). Not saved.
     void setReading(LwType type, qsizetype row, qsizetype column, const QVariant &cell);
@@ -116,6 +125,7 @@ private:
 
     void takeOver(const ProjectTables &theirs);
     QByteArray jsonForSaving() const;
+    void saveProjectFile(Theirs theirs, Saved &saved);
     QString programPlace(const QString &fileName) const;
     void fillPoints(LwType type);
     void renumber(LwType type, qsizetype from, qint32 by);

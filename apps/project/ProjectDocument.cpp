@@ -50,6 +50,13 @@ void ProjectDocument::setProject(std::unique_ptr<Project> project)
     m_project = std::move(project);
 }
 
+Project &ProjectDocument::none()
+{
+    if (!m_none)
+        m_none = Project::none();
+    return *m_none;
+}
+
 void ProjectDocument::noteShown()
 {
     m_project->setShownProgram(program());
@@ -100,30 +107,16 @@ void ProjectDocument::noteStepShown()
     Q_EMIT changed();
 }
 
-const ProjectStep *ProjectDocument::stepAt(qsizetype index,
-                                           const QString &(*at)(const ProjectStep &),
-                                           Among among) const
+const ProjectStep *ProjectDocument::next(Way way, Among among) const
 {
+    const qsizetype index = way == Way::Back ? m_done - 1 : m_done;
     if (index < 0 || index >= m_steps.size())
         return nullptr;
     const ProjectStep &step = m_steps.at(index);
     if (among == Among::TablesAlone && step.isOfTablesAlone())
         return &step;
-    return m_editor.length() == at(step).size() && program() == at(step) ? &step : nullptr;
-}
-
-const ProjectStep *ProjectDocument::undoStep(Among among) const
-{
-    const auto after = [](const ProjectStep &step) -> const QString & { return step.programAfter; };
-    return stepAt(m_done - 1, after, among);
-}
-
-const ProjectStep *ProjectDocument::redoStep(Among among) const
-{
-    const auto before = [](const ProjectStep &step) -> const QString & {
-        return step.programBefore;
-    };
-    return stepAt(m_done, before, among);
+    const QString &from = way == Way::Back ? step.programAfter : step.programBefore;
+    return m_editor.length() == from.size() && program() == from ? &step : nullptr;
 }
 
 bool ProjectDocument::restoreTables(const QByteArray &json)
@@ -138,14 +131,12 @@ bool ProjectDocument::restoreTables(const QByteArray &json)
     }
 }
 
-void ProjectDocument::undo()
+void ProjectDocument::go(Way way)
 {
-    apply(reversed(m_steps.at(--m_done).rows));
-}
-
-void ProjectDocument::redo()
-{
-    apply(m_steps.at(m_done++).rows);
+    const bool isBack = way == Way::Back;
+    const RowChanges &rows = m_steps.at(isBack ? m_done - 1 : m_done).rows;
+    m_done += isBack ? -1 : 1;
+    apply(isBack ? reversed(rows) : rows);
 }
 
 void ProjectDocument::apply(const RowChanges &changes)
@@ -156,20 +147,23 @@ void ProjectDocument::apply(const RowChanges &changes)
     Q_EMIT changed();
 }
 
-void ProjectDocument::save(Project::Theirs theirs, Project::Encoding encoding)
+Project::Saved ProjectDocument::save(Project::Theirs theirs, Project::Encoding encoding)
 {
-    if (m_project->save(program(), theirs, encoding)) {
+    const Project::Saved saved = m_project->save(program(), theirs, encoding);
+    if (saved.takesOver) {
         m_steps.clear();
         m_done = 0;
         Q_EMIT tablesChanged();
     }
     Q_EMIT changed();
+    return saved;
 }
 
-void ProjectDocument::saveAt(const QString &fileName, Project::Encoding encoding)
+Project::Saved ProjectDocument::saveAt(const QString &fileName, Project::Encoding encoding)
 {
-    m_project->saveAt(fileName, program(), encoding);
+    const Project::Saved saved = m_project->saveAt(fileName, program(), encoding);
     Q_EMIT changed();
+    return saved;
 }
 
 } // namespace ORVTListview

@@ -40,6 +40,9 @@ public:
     void setProject(std::unique_ptr<Project> project);
     Project *project() const { return m_project.get(); }
 
+    // For components while no project is open. Lives as long as the document.
+    Project &none();
+
     // The editor shows the project's program; as it shows it, it counts as saved.
     void noteShown();
 
@@ -66,32 +69,30 @@ public:
     // The step that would be taken back, or made again, from the program of now; null
     // when what the editor does comes before it. Of the tables alone: whatever the
     // program is.
+    enum class Way { Back, Forward };
     enum class Among { All, TablesAlone };
-    const ProjectStep *undoStep(Among among) const;
-    const ProjectStep *redoStep(Among among) const;
+    const ProjectStep *next(Way way, Among among) const;
 
     // The rows of that step.
-    void undo();
-    void redo();
+    void go(Way way);
 
     // Both raise Error. What was saved counts as unchanged. No step goes back behind tables
     // that were taken over from somebody else.
-    void save(Project::Theirs theirs, Project::Encoding encoding);
+    Project::Saved save(Project::Theirs theirs, Project::Encoding encoding);
 
     // Puts project and program beside each other at another place and goes on there.
-    void saveAt(const QString &fileName, Project::Encoding encoding);
+    Project::Saved saveAt(const QString &fileName, Project::Encoding encoding);
 
 Q_SIGNALS:
     void tablesChanged();
     void changed(); // tables or program, or what is saved
 
 private:
-    const ProjectStep *stepAt(qsizetype index, const QString &(*at)(const ProjectStep &),
-                              Among among) const;
     void apply(const RowChanges &changes);
 
     Editor m_editor;
     std::unique_ptr<Project> m_project;
+    std::unique_ptr<Project> m_none; // made when it is first needed
     QList<ProjectStep> m_steps;
     qsizetype m_done = 0;
 };

@@ -119,7 +119,12 @@ ProjectFamily readFamily(const JsonPlace &place)
 void checkForm(const JsonPlace &root)
 {
     const JsonPlace format = root.member(u"format"_s);
-    if (format.required().integer() != knownFormat)
+    const qint32 version = format.required().integer();
+    if (version > knownFormat)
+        format.fail(ProjectTexts::tr("the form %1 is newer than the form %2 that can be read here; "
+                                     "a newer version opens the file, which stays as it is")
+                        .arg(QString::number(version), QString::number(knownFormat)));
+    if (version != knownFormat)
         format.fail(ProjectTexts::tr("only the form %1 can be read").arg(knownFormat));
     QStringList members = {u"format"_s,       u"name"_s,   u"controller"_s,
                            u"indexedNames"_s, u"editor"_s, u"program"_s};

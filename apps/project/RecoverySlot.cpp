@@ -1,8 +1,9 @@
 #include "project/RecoverySlot.h"
 
+#include "base/FilePlace.h"
+#include "project/ProjectError.h"
+#include "project/ProjectTexts.h"
 #include "project/TextFile.h"
-
-#include <ORVTListview/Error.h>
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QDateTime>
@@ -12,6 +13,7 @@
 #include <QtCore/QStandardPaths>
 
 #include <algorithm>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -26,8 +28,8 @@ QString dataFolder()
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + u"/recovery"_s;
 }
 
-// Locks need a folder that can be written.
-QString lockFolder()
+// The user's own locks need a folder that can be written.
+QString ownLockFolder()
 {
     const QString folder = dataFolder();
     return QDir().mkpath(folder) && QFileInfo(folder).isWritable() ? folder : QDir::tempPath();
@@ -48,15 +50,16 @@ QString signOf(const QString &fileName)
 
 RecoverySlot::RecoverySlot(const QString &projectFile, int number)
 {
-    const QFileInfo info(projectFile);
+    const QFileInfo info(behindLinks(projectFile));
+    const QString name = info.fileName();
     const QString tail =
-        number == 1 ? u".recovery.txt"_s : u".recovery-%1.txt"_s.arg(QString::number(number));
-    const QString sign = signOf(projectFile);
-    m_places = {info.path() + u'/' + info.fileName() + tail,
-                dataFolder() + u'/' + info.fileName() + u'.' + sign + tail};
-    m_lock = std::make_unique<FileLock>(lockFolder() + u'/' + sign + u'.' +
-                                            QString::number(number) + u".lock"_s,
-                                        std::chrono::milliseconds(0));
+        number == 1 ? u".recovery"_s : u".recovery-%1"_s.arg(QString::number(number));
+    const QString sign = signOf(info.filePath());
+    m_places.emplace_back(info.path() + u'/' + name + tail + u".txt"_s,
+                          info.path() + u"/."_s + name + tail + u".lock"_s);
+    m_places.emplace_back(dataFolder() + u'/' + name + u'.' + sign + tail + u".txt"_s,
+                          ownLockFolder() + u'/' + sign + u'.' + QString::number(number) +
+                              u".lock"_s);
     find();
 }
 
@@ -64,12 +67,22 @@ RecoverySlot::RecoverySlot(const QString &projectFile, int number)
 void RecoverySlot::find()
 {
     m_fileName.clear();
-    for (const QString &place : std::as_const(m_places)) {
-        const QFileInfo info(place);
+    for (const RecoveryPlace &place : m_places) {
+        const QFileInfo info(place.fileName());
         if (info.isFile() &&
             (m_fileName.isEmpty() || info.lastModified() > QFileInfo(m_fileName).lastModified()))
-            m_fileName = place;
+            m_fileName = place.fileName();
     }
+}
+
+bool RecoverySlot::isOurs() const
+{
+    return std::ranges::any_of(m_places, &RecoveryPlace::isOurs);
+}
+
+bool RecoverySlot::isOthers() const
+{
+    return std::ranges::any_of(m_places, &RecoveryPlace::isOthers);
 }
 
 RecoverySlots RecoverySlot::slotsOf(const QString &projectFile)
@@ -77,11 +90,11 @@ RecoverySlots RecoverySlot::slotsOf(const QString &projectFile)
     RecoverySlots result;
     for (int number = 1; number <= mostSlots; ++number) {
         RecoverySlot slot(projectFile, number);
-        if (!slot.isHeld())
+        if (slot.isOthers())
             result.isOpenElsewhere = true;
         else if (slot.hasFile())
             result.left.push_back(std::move(slot));
-        else if (!result.own)
+        else if (!result.own && slot.isOurs())
             result.own = std::move(slot);
         if (result.own && number > static_cast<int>(result.left.size()) + 4)
             break;
@@ -106,22 +119,34 @@ QByteArray RecoverySlot::read() const
     }
 }
 
+// A file lies only where its lock tells that we live.
 void RecoverySlot::write(const QByteArray &text)
 {
-    for (const QString &place : std::as_const(m_places)) {
+    Error fault(FileNotWritable, u"RecoverySlot"_s,
+                ProjectTexts::tr("no folder takes a recovery file"));
+    const auto takes = [&](RecoveryPlace &place) {
         try {
-            writeFile(place, text);
-            m_fileName = place;
-            m_written = QFileInfo(place).lastModified();
-            break;
-        } catch (const Error &) {
-            if (place == m_places.constLast())
-                throw;
+            if (place.take())
+                writeFile(place.fileName(), text);
+            return place.isOurs();
+        } catch (const Error &error) {
+            fault = error;
+            return false;
         }
-    }
-    for (const QString &place : std::as_const(m_places)) {
-        if (place != m_fileName)
-            QFile::remove(place); // older
+    };
+    const auto place = std::ranges::find_if(m_places, takes);
+    if (place == m_places.end())
+        throw Error(fault);
+    m_fileName = place->fileName();
+    m_written = QFileInfo(m_fileName).lastModified();
+    removeBut(m_fileName); // older
+}
+
+void RecoverySlot::removeBut(const QString &fileName)
+{
+    for (RecoveryPlace &place : m_places) {
+        if (place.fileName() != fileName && place.take())
+            QFile::remove(place.fileName());
     }
 }
 
@@ -131,11 +156,13 @@ bool RecoverySlot::isAsWritten() const
     return file.isFile() && file.lastModified() == m_written;
 }
 
+// What was found where no lock can be goes, too.
 void RecoverySlot::remove()
 {
-    for (const QString &place : std::as_const(m_places))
-        QFile::remove(place);
-    m_fileName.clear();
+    const QString found = std::exchange(m_fileName, {});
+    removeBut({});
+    if (!found.isEmpty() && !isOthers())
+        QFile::remove(found);
 }
 
 } // namespace ORVTListview

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "base/FileLock.h"
+#include "project/RecoveryPlace.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -15,9 +13,10 @@ namespace ORVTListview {
 
 struct RecoverySlots;
 
-// Where one workbench keeps what is not saved of a project: a file beside the project's,
-// or in the user's data folder where there can be none. Several workbenches on one
-// project have one each; a slot whose workbench lives is nobody else's.
+// Where one workbench keeps what is not saved of a project: a file beside the project's
+// own one, whatever links lead there, or in the user's data folder where there can be none.
+// Several workbenches on one project, of whatever user and machine, have one each; a slot
+// whose workbench lives is nobody else's.
 class RecoverySlot
 {
 public:
@@ -42,13 +41,14 @@ public:
 private:
     RecoverySlot(const QString &projectFile, int number);
 
-    bool isHeld() const { return m_lock->isHeld(); }
+    bool isOurs() const;
+    bool isOthers() const;
     void find();
+    void removeBut(const QString &fileName);
 
-    QStringList m_places; // the better one first
+    std::vector<RecoveryPlace> m_places; // the better one first
     QString m_fileName;
     QDateTime m_written; // the file's own time
-    std::unique_ptr<FileLock> m_lock;
 };
 
 // The slots of a project that no other workbench holds.

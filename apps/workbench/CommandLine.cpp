@@ -27,7 +27,9 @@ public:
         parser.addVersionOption();
         parser.addOptions({screenshot, dark, scale, language, show});
         parser.addPositionalArgument(
-            u"project"_s, tr("The project file; the sample project without one."), u"[project]"_s);
+            u"project"_s,
+            tr("The project file; without one that of the last time, or the sample project."),
+            u"[project]"_s);
     }
 
     // A scale that is no number between a half and four counts as none.
@@ -106,9 +108,8 @@ std::optional<Options> readOptions(const QCoreApplication &application)
         return {};
     }
     const QStringList projects = line.parser.positionalArguments();
-    return Options{projects.value(0, QStringLiteral(ORVT_SAMPLE_PROJECT)),
-                   line.parser.value(line.screenshot), line.parser.isSet(line.dark),
-                   line.parser.value(line.language), *line.shown()};
+    return Options{projects.value(0), line.parser.value(line.screenshot),
+                   line.parser.isSet(line.dark), line.parser.value(line.language), *line.shown()};
 }
 
 } // namespace ORVTListview

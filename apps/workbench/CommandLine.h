@@ -12,7 +12,7 @@ namespace ORVTListview {
 
 struct Options
 {
-    QString project;
+    QString project;    // empty for none
     QString screenshot; // empty for none
     bool isDark = false;
     QString language; // empty for the user's own

@@ -113,8 +113,8 @@ void EditMenu::refresh()
     const bool isCode = !m_views.currentTable();
     for (QAction *action : actions())
         action->setEnabled(isCode);
-    m_undo->setEnabled(m_history.canUndo());
-    m_redo->setEnabled(m_history.canRedo());
+    m_undo->setEnabled(m_history.canGo(ProjectHistory::Way::Back));
+    m_redo->setEnabled(m_history.canGo(ProjectHistory::Way::Forward));
     if (!isCode)
         return;
     const bool hasSelection = m_code.RTextBox()->SelLength() > 0;
@@ -127,12 +127,12 @@ void EditMenu::refresh()
 
 void EditMenu::undo()
 {
-    m_history.undo();
+    m_history.go(ProjectHistory::Way::Back);
 }
 
 void EditMenu::redo()
 {
-    m_history.redo();
+    m_history.go(ProjectHistory::Way::Forward);
 }
 
 void EditMenu::restoreTypedText()

@@ -21,6 +21,10 @@
 #include "project/ProjectDocument.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/help/HelpMenu.h"
+#include "workbench/life/FileMenu.h"
+#include "workbench/life/ProjectLife.h"
+#include "workbench/life/RecentProjects.h"
+#include "workbench/life/StartPage.h"
 #include "workbench/renaming/PointRenaming.h"
 #include "workbench/renaming/ProjectHistory.h"
 #include "workbench/saving/ProjectSaving.h"
@@ -40,7 +44,6 @@
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
@@ -65,10 +68,13 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
                                      this))
     , m_view(new ProjectView(*m_document, this))
     , m_fault(new OpeningFault(this))
+    , m_recent(new RecentProjects(this))
+    , m_start(new StartPage(*m_recent, this))
     , m_code(&m_view->program())
     , m_history(new ProjectHistory(*m_document, *m_view))
     , m_renaming(new PointRenaming(*m_document, *m_code, *this))
     , m_saving(new ProjectSaving(*m_document, *this))
+    , m_life(new ProjectLife({*this, *m_document, *m_saving, *m_recent}))
     , m_recovery(new RecoveryKeeper(*m_document, this))
     , m_offer(new RecoveryOffer(*m_document, *m_recovery, *m_code, *this))
     , m_export(new Exporting(*m_view, *this))
@@ -87,6 +93,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     addToolBar(m_points);
     m_pages->addWidget(m_view);
     m_pages->addWidget(m_fault);
+    m_pages->addWidget(m_start);
     setCentralWidget(m_pages);
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
@@ -97,6 +104,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     connectEditor();
     connectPoints();
     connectSaving();
+    connectPages();
     // Queued: the menu that the language was chosen in is made anew.
     connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
     m_palette.setSingleShot(true);
@@ -113,6 +121,7 @@ void MainWindow::buildMenus()
     buildEditMenu();
     menuBar()->addMenu(new ProgramMenu(*m_checking, *m_navigation, *m_results, menuBar()));
     menuBar()->addMenu(new PointsMenu(*m_view, *m_document, *m_renaming, *m_points, menuBar()));
+    enableWithProject(menuBar()->actions().sliced(1));
     buildViewMenu();
     menuBar()->addMenu(new WindowMenu(m_view->workplace(), *m_panes, *m_results, menuBar()));
     menuBar()->addMenu(new HelpMenu(*menuBar()));
@@ -120,24 +129,31 @@ void MainWindow::buildMenus()
 
 void MainWindow::buildFileMenu()
 {
-    QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open Project…"), QKeySequence::Open, this, &MainWindow::chooseProject);
-    file->addAction(tr("&Save"), QKeySequence::Save, m_saving, &ProjectSaving::save);
-    file->addAction(tr("Save Else&where…"), m_saving, &ProjectSaving::saveElsewhere);
-    file->addSeparator();
-    QAction *exports = file->addAction(tr("&Export…"), m_export, &Exporting::exportShown);
-    QAction *print =
-        file->addAction(tr("&Print…"), QKeySequence::Print, m_export, &Exporting::print);
-    const auto follow = [this, exports, print] {
-        const bool isProject = m_document->project() && m_pages->currentWidget() == m_view;
-        exports->setEnabled(isProject);
-        print->setEnabled(isProject && !m_view->currentTable());
+    auto *file = new FileMenu({*m_life, *m_saving, *m_recent, *m_export}, menuBar());
+    menuBar()->addMenu(file);
+    const auto follow = [this, file] {
+        file->follow(showsProject(), !m_view->currentTable());
+        m_points->setEnabled(showsProject());
     };
-    connect(m_view, &ProjectView::shown, print, follow);
-    connect(m_pages, &QStackedWidget::currentChanged, print, follow);
+    connect(m_view, &ProjectView::shown, file, follow);
+    connect(m_pages, &QStackedWidget::currentChanged, file, follow);
     follow();
-    file->addSeparator();
-    file->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
+}
+
+// Also their keys.
+void MainWindow::enableWithProject(const QList<QAction *> &menus)
+{
+    for (QAction *menu : menus) {
+        const auto follow = [this, menu] { menu->setEnabled(showsProject()); };
+        connect(m_view, &ProjectView::shown, menu, follow);
+        connect(m_pages, &QStackedWidget::currentChanged, menu, follow);
+        follow();
+    }
+}
+
+bool MainWindow::showsProject() const
+{
+    return m_document->project() && m_pages->currentWidget() == m_view;
 }
 
 void MainWindow::buildEditMenu()
@@ -219,6 +235,12 @@ void MainWindow::connectPoints()
     connect(&m_view->tables(), &TableViews::renameWanted, m_renaming, &PointRenaming::rename);
     connect(m_history, &ProjectHistory::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
+    connect(m_history, &ProjectHistory::reached, this, [this](LwType type, qsizetype row) {
+        if (type != m_view->current().CurrentType())
+            m_view->enterType(type);
+        if (PointTables *table = m_view->currentTable())
+            table->showRow(row);
+    });
     connect(&m_view->tables(), &TableViews::refused, this,
             [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
 }
@@ -231,38 +253,37 @@ void MainWindow::connectSaving()
     connect(m_document, &ProjectDocument::tablesChanged, m_values, &PointValues::takeProject);
     connect(m_document, &ProjectDocument::tablesChanged, m_view, &ProjectView::refresh);
     connect(m_saving, &ProjectSaving::settled, m_recovery, &RecoveryKeeper::drop);
+    connect(m_saving, &ProjectSaving::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 10000); });
     connect(m_saving, &ProjectSaving::movedElsewhere, this, [this] {
         m_recovery->begin();
+        m_recent->add(m_document->project()->fileName());
         showProgramInfo();
     });
     connect(m_recovery, &RecoveryKeeper::failed, this, [this](const QString &reason) {
         statusBar()->showMessage(tr("What you type cannot be kept for recovery: %1").arg(reason));
     });
     connect(m_recovery, &RecoveryKeeper::recovered, statusBar(), &QStatusBar::clearMessage);
+}
+
+void MainWindow::connectPages()
+{
     connect(m_fault, &OpeningFault::projectWanted, this,
             [this](const QString &fileName) { openForUser(fileName); });
     connect(m_fault, &OpeningFault::versionBeforeWanted, this,
             [this](const QString &fileName) { openForUser(fileName, Version::Before); });
-    connect(m_fault, &OpeningFault::choiceWanted, this, &MainWindow::chooseProject);
+    connect(m_fault, &OpeningFault::choiceWanted, m_life, &ProjectLife::choose);
+    connect(m_start, &StartPage::newWanted, m_life, &ProjectLife::create);
+    connect(m_start, &StartPage::choiceWanted, m_life, &ProjectLife::choose);
+    connect(m_start, &StartPage::projectWanted, m_life, &ProjectLife::openRecent);
 }
 
-void MainWindow::chooseProject()
+void MainWindow::openInPlace(const QString &fileName)
 {
-    const Project *project = m_document->project();
-    const QString folder = project ? QFileInfo(project->fileName()).path() : QString();
-    const QString fileName =
-        QFileDialog::getOpenFileName(this, tr("Open Project"), folder, tr("Projects (*.json)"));
-    if (fileName.isEmpty() || !m_saving->mayLeave())
-        return;
-    if (project)
-        openByHand(fileName);
-    else
+    if (!m_document->project()) {
         openForUser(fileName);
-}
-
-// What is shown stays when the other one cannot be opened.
-void MainWindow::openByHand(const QString &fileName)
-{
+        return;
+    }
     try {
         openProject(fileName);
     } catch (const Error &error) {
@@ -270,6 +291,7 @@ void MainWindow::openByHand(const QString &fileName)
         QMessageBox::warning(this, tr("Open Project"), error.Description());
         return;
     }
+    m_recent->add(fileName);
     m_offer->makeAll();
 }
 
@@ -283,17 +305,23 @@ void MainWindow::openForUser(const QString &fileName, Version version)
         m_fault->show(fileName, error.Description());
         return;
     }
+    m_recent->add(fileName);
     m_offer->makeAll();
+}
+
+void MainWindow::openAtStart(const QString &sample)
+{
+    const QString last = m_recent->fileAtStart();
+    openForUser(last.isEmpty() ? sample : last);
+    if (!last.isEmpty() && showsProject() && statusBar()->currentMessage().isEmpty())
+        statusBar()->showMessage(tr("The project of the last time is open again."), 5000);
 }
 
 void MainWindow::openProject(const QString &fileName, Version version)
 {
     auto project = version == Version::Before ? Project::versionBefore(fileName)
                                               : std::make_unique<Project>(fileName);
-    m_view->setProject(*project);
-    m_values->setProject(project.get());
-    m_export->setProject(project.get());
-    m_navigation->setProject(project.get());
+    takeProject(*project);
     m_document->setProject(std::move(project));
     m_points->refill();
     setWindowTitle(m_document->project()->name() + u"[*]"_s); // the application's name is added
@@ -301,6 +329,34 @@ void MainWindow::openProject(const QString &fileName, Version version)
     m_recovery->begin();
     if (m_recovery->isOpenElsewhere())
         statusBar()->showMessage(tr("Another workbench has this project open, too."), 10000);
+}
+
+void MainWindow::takeProject(Project &project)
+{
+    m_view->setProject(project);
+    m_values->setProject(&project);
+    m_export->setProject(&project);
+    m_navigation->setProject(&project);
+}
+
+// The components go on with a project that has nothing.
+void MainWindow::closeProject()
+{
+    m_results->clear();
+    m_view->showType(dsCode);
+    takeProject(m_document->none());
+    m_document->setProject(nullptr);
+    m_recovery->end();
+    m_code->Clear();
+    m_points->refill();
+    m_analysis->takeWords();
+    m_analysis->setOtherUses({});
+    setWindowModified(false);
+    setWindowTitle({});
+    m_programInfo->clear();
+    m_position->clear();
+    m_position->hide();
+    m_pages->setCurrentWidget(m_start);
 }
 
 void MainWindow::showType(LwType type)
@@ -389,6 +445,7 @@ void MainWindow::retranslate()
     buildMenus();
     m_view->retranslate();
     m_fault->retranslate();
+    m_start->retranslate();
     m_points->retranslate();
     showPosition();
     showProgramInfo();

@@ -25,12 +25,16 @@ class ProgramNavigation;
 class PointChooser;
 class PointRenaming;
 class PointValues;
+class Project;
 class ProjectDocument;
 class ProjectHistory;
+class ProjectLife;
 class ProjectSaving;
 class ProjectView;
+class RecentProjects;
 class RecoveryKeeper;
 class RecoveryOffer;
+class StartPage;
 
 // A small host: shows a project in the library's components.
 class MainWindow : public QMainWindow
@@ -52,6 +56,18 @@ public:
     // done, and offers work that was not saved the last time.
     void openForUser(const QString &fileName, Version version = Version::Now);
 
+    // The same in the place of a project that is shown, which stays when the other one cannot
+    // be opened.
+    void openInPlace(const QString &fileName);
+
+    // Shows what can be done without a project. What is shown goes without a question.
+    void closeProject();
+
+    RecentProjects &recentProjects() { return *m_recent; }
+
+    // Opens the project of the last time, or a sample where there is none.
+    void openAtStart(const QString &sample);
+
     // What the user has decided for all projects; at first the theme and the language that
     // are in use.
     const Settings &settings() const { return m_settings; }
@@ -72,20 +88,22 @@ protected:
 private:
     void buildMenus();
     void buildFileMenu();
+    void enableWithProject(const QList<QAction *> &menus);
     void buildEditMenu();
     void buildViewMenu();
     void buildStatusBar();
     void connectEditor();
     void connectPoints();
     void connectSaving();
-    void chooseProject();
-    void openByHand(const QString &fileName);
+    void connectPages();
+    void takeProject(Project &project);
     void showProgram();
     void chooseSettings();
     void decide(const Settings &settings);
     void applyAppearance();
     void connectAnalysis();
     void takePoints();
+    bool showsProject() const;
     void showPosition();
     void showProgramInfo();
     void retranslate();
@@ -97,10 +115,13 @@ private:
     ProjectDocument *m_document;
     ProjectView *m_view;
     OpeningFault *m_fault;
+    RecentProjects *m_recent;
+    StartPage *m_start;
     ORVListView *m_code; // the view owns it
     ProjectHistory *m_history;
     PointRenaming *m_renaming;
     ProjectSaving *m_saving;
+    ProjectLife *m_life;
     RecoveryKeeper *m_recovery;
     RecoveryOffer *m_offer;
     Exporting *m_export;

@@ -100,6 +100,15 @@ void PointTables::fillRow(ListItem &item, qsizetype row)
     }
 }
 
+void PointTables::showRow(qsizetype row)
+{
+    if (row < 0 || row >= m_list.ListItems()->Count())
+        return;
+    ListItem *item = m_list.ListItems()->Item(static_cast<qint32>(row) + 1);
+    m_list.setSelectedItem(item);
+    item->EnsureVisible();
+}
+
 void PointTables::fitColumns()
 {
     QString errMsg;
@@ -186,11 +195,13 @@ void PointTables::takeName(qint16 &cancel, const QString &name)
         Q_EMIT refused(fault);
     if (!self)
         return;
-    // Queued: the field for the name is still open.
+    // Queued: the field for the name is still open. The row may be another point's by then.
+    const auto want = [this, type, row, name, former = m_project->rows(type).at(row).name] {
+        if (m_project && m_project->rows(type).value(row).name == former)
+            Q_EMIT renameWanted(type, row, name);
+    };
     if (fault.isEmpty())
-        QMetaObject::invokeMethod(
-            this, [this, type, row, name] { Q_EMIT renameWanted(type, row, name); },
-            Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, want, Qt::QueuedConnection);
     else
         QMetaObject::invokeMethod(
             this, [this, type, name] { correctName(type, name); }, Qt::QueuedConnection);

@@ -43,6 +43,9 @@ public:
     // Selects the point's row in the table that is shown.
     void goTo(const QString &name);
 
+    // Brings a row of that table into sight, from 0; nothing for one that is not there.
+    void showRow(qsizetype row);
+
     // The point of the selected row, from 0; -1 for none.
     qsizetype selectedPoint() const;
 

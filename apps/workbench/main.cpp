@@ -4,6 +4,7 @@
 #include "ProjectView.h"
 
 #include "project/TextFile.h"
+#include "workbench/life/RecentProjects.h"
 #include "workbench/settings/DesktopScheme.h"
 #include "workbench/settings/KeptWindow.h"
 
@@ -65,6 +66,7 @@ Settings settingsFor(const Options &options, Settings settings)
 // is not.
 void keep(MainWindow &window, QSettings &store, const Settings &stored)
 {
+    window.recentProjects().keepIn(store);
     CodeView &view = *window.findChild<ProjectView *>()->program().codeView();
     readWindow(store, window, view);
     QObject::connect(&window, &MainWindow::settingsChosen,
@@ -88,13 +90,17 @@ void followDesktop()
 // Nobody is there to answer while a picture is made.
 bool open(MainWindow &window, const Options &options)
 {
+    const QString sample = QStringLiteral(ORVT_SAMPLE_PROJECT);
     if (options.screenshot.isEmpty()) {
-        window.openForUser(options.project);
+        if (options.project.isEmpty())
+            window.openAtStart(sample);
+        else
+            window.openForUser(options.project);
         window.showType(options.shown);
         return true;
     }
     try {
-        window.openProject(options.project);
+        window.openProject(options.project.isEmpty() ? sample : options.project);
         window.showType(options.shown);
         return true;
     } catch (const Error &error) {

@@ -152,8 +152,10 @@ void CodeCommands::leave(bool forwards)
 
 void CodeCommands::fillMenu(QMenu &menu)
 {
-    addChange(menu, u"Undo"_s, m_acts.undo.canUndo(), [this] { undo(); });
-    addChange(menu, u"Redo"_s, m_acts.undo.canRedo(), [this] { redo(); });
+    using enum EditorUndo::Way;
+    EditorUndo &history = m_acts.undo;
+    addChange(menu, u"Undo"_s, history.canUserUndo(), [&history] { history.stepForUser(Back); });
+    addChange(menu, u"Redo"_s, history.canUserRedo(), [&history] { history.stepForUser(Forward); });
     menu.addSeparator();
     PlainCommands::fillMenu(menu);
     localise(menu);

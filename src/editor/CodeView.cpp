@@ -382,6 +382,11 @@ void CodeView::setKeepsText(bool on)
     raiseEvent(*this, &CodeView::keepsTextChanged, on);
 }
 
+void CodeView::setUndoHistory(const std::optional<UndoHistory> &history)
+{
+    d->commands.undo.setHistory(history);
+}
+
 void CodeView::setWordDescriptions(const QHash<QString, QString> &descriptions)
 {
     d->commands.words.setDescriptions(descriptions);

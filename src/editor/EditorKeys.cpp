@@ -21,13 +21,6 @@ namespace {
 
 using Acts = EditorKeys::Acts;
 
-template <auto step>
-void stepUndo(const Acts &acts)
-{
-    QString unheard;
-    (acts.undo.*step)(unheard);
-}
-
 // What the editor does in the place of the box.
 struct Command
 {
@@ -42,8 +35,8 @@ constexpr Command commands[] = {
     {KeyDecision::Cut, [](const Acts &acts) { acts.clipboard.cutByKey(); }},
     {KeyDecision::Copy, [](const Acts &acts) { acts.clipboard.RTextCopy(); }},
     {KeyDecision::Paste, [](const Acts &acts) { acts.clipboard.pasteClipboard(); }},
-    {KeyDecision::Undo, stepUndo<&EditorUndo::Undo>},
-    {KeyDecision::Redo, stepUndo<&EditorUndo::Redo>},
+    {KeyDecision::Undo, [](const Acts &acts) { acts.undo.stepForUser(EditorUndo::Way::Back); }},
+    {KeyDecision::Redo, [](const Acts &acts) { acts.undo.stepForUser(EditorUndo::Way::Forward); }},
     {KeyDecision::SelectAll, [](const Acts &acts) { acts.text.RTextSelectAll(); }},
     {KeyDecision::ShowWordList, [](const Acts &acts) { acts.words.TryToPopupList(false); }},
 };

@@ -68,6 +68,17 @@ bool EditorUndo::canRedo() const
     return m_thread.ring.CanRedo() || m_kept.canGo(Way::Forward);
 }
 
+void EditorUndo::stepForUser(Way way)
+{
+    QString unheard;
+    if (!m_host.isSet())
+        step(way, unheard);
+    else if (way == Way::Back)
+        m_host.undo();
+    else
+        m_host.redo();
+}
+
 bool EditorUndo::step(Way way, QString &ErrMsg)
 {
     const MessagesLater later(m_thread.messages); // of the text that is left

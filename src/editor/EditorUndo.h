@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HostHistory.h"
 #include "editor/EditorClock.h"
 #include "editor/rules/undo/KeptStates.h"
 #include "editor/rules/undo/UndoStore.h"
@@ -49,6 +50,14 @@ public:
     bool canUndo() const;
     bool canRedo() const;
 
+    // What the user's Undo and Redo end in: the steps above, or the history of a host, which
+    // has them, too. The editor may be gone afterwards.
+    void setHistory(const std::optional<UndoHistory> &history) { m_host.set(history); }
+    bool canUserUndo() const { return canUndo() || m_host.canUndo(); }
+    bool canUserRedo() const { return canRedo() || m_host.canRedo(); }
+    using Way = KeptStates::Way;
+    void stepForUser(Way way);
+
     // Shows again what stands in no slot, the latest first; false after the last.
     bool bringBackKeptText();
 
@@ -64,8 +73,6 @@ public:
     void noteEdit();
 
 private:
-    using Way = KeptStates::Way;
-
     EditorClock::Time now() const;
     bool hasStood() const;
     bool step(Way way, QString &ErrMsg);
@@ -78,6 +85,7 @@ private:
     RichTextBox &m_box;
     const EditorThread &m_thread;
     KeptStates m_kept;
+    HostHistory m_host;
     EditorClock::Time m_changed; // when the text was, last
     QTimer m_idle;
     bool m_isReady = false;

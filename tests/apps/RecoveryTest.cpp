@@ -7,6 +7,7 @@
 #include "project/TextFile.h"
 #include "support/QtPrinters.h"
 #include "support/Raised.h"
+#include "support/WithoutRights.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QStandardPaths>
@@ -102,6 +103,108 @@ TEST_F(Recovery, NoPlaceAtAllIsTold)
     ASSERT_TRUE(error);
 }
 
+// Locks of one process keep each other out as those of two do; the folder of their own data
+// makes two users of one.
+TEST_F(Recovery, AnotherUsersWorkbenchKeepsItsOwn)
+{
+    RecoverySlot one = free(m_project);
+    one.write("one");
+    const ProjectFolder others;
+    qputenv("XDG_DATA_HOME", others.path({}).toUtf8());
+    RecoverySlots found = RecoverySlot::slotsOf(m_project);
+    EXPECT_TRUE(found.isOpenElsewhere);
+    EXPECT_TRUE(found.left.empty());
+    found.own->write("two");
+    EXPECT_EQ(found.own->fileName(), m_folder.path(u"p.json.recovery-2.txt"_s));
+    EXPECT_EQ(one.read(), "one");
+}
+
+TEST_F(Recovery, ItsLockGoesWithTheWorkbench)
+{
+    const QString lock = m_folder.path(u".p.json.recovery.lock"_s);
+    {
+        const RecoverySlot slot = free(m_project);
+        EXPECT_TRUE(QFile::exists(lock));
+    }
+    EXPECT_FALSE(QFile::exists(lock));
+    EXPECT_EQ(QDir(m_folder.path({})).entryList(QDir::Files | QDir::Hidden),
+              QStringList(u"p.json"_s));
+}
+
+TEST_F(Recovery, AProjectIsOneWhateverLinksLeadToIt)
+{
+    const ProjectFolder links;
+    ASSERT_TRUE(QFile::link(m_project, links.path(u"other.json"_s)));
+    RecoverySlot one = free(m_project);
+    EXPECT_TRUE(RecoverySlot::slotsOf(links.path(u"other.json"_s)).isOpenElsewhere);
+    free(links.path(u"other.json"_s)).write("two");
+    EXPECT_TRUE(QFile::exists(m_folder.path(u"p.json.recovery-2.txt"_s)));
+}
+
+TEST_F(Recovery, ALockThatSomebodyRemovedIsTakenAnew)
+{
+    RecoverySlot one = free(m_project);
+    one.write("one");
+    ASSERT_TRUE(QFile::remove(m_folder.path(u".p.json.recovery.lock"_s)));
+    one.write("one, later");
+    EXPECT_TRUE(RecoverySlot::slotsOf(m_project).isOpenElsewhere);
+    EXPECT_TRUE(RecoverySlot::slotsOf(m_project).left.empty());
+}
+
+TEST_F(Recovery, WhoTookTheLockMeanwhileKeepsTheFile)
+{
+    RecoverySlot one = free(m_project);
+    one.write("one");
+    ASSERT_TRUE(QFile::remove(m_folder.path(u".p.json.recovery.lock"_s)));
+    const FileLock other(m_folder.path(u".p.json.recovery.lock"_s), std::chrono::milliseconds(0));
+    ASSERT_TRUE(other.isHeld());
+    m_folder.write(u"p.json.recovery.txt"_s, "two");
+    one.write("one, later");
+    EXPECT_EQ(readFile(m_folder.path(u"p.json.recovery.txt"_s)), "two");
+    EXPECT_TRUE(one.fileName().startsWith(m_data.path({}))) << one.fileName().toStdString();
+    one.remove();
+    EXPECT_TRUE(QFile::exists(m_folder.path(u"p.json.recovery.txt"_s)));
+}
+
+TEST_F(Recovery, AFolderForReadersLeavesTheUsersOwn)
+{
+    const ProjectFolder closed;
+    const QString project = closed.write(u"p.json"_s, "{}");
+    ASSERT_TRUE(QFile::setPermissions(closed.path({}), QFile::ReadOwner | QFile::ExeOwner |
+                                                           QFile::ReadOther | QFile::ExeOther));
+    {
+        const WithoutRights nobody(m_data.path({}));
+        RecoverySlot one = free(project);
+        one.write("kept");
+        EXPECT_TRUE(one.fileName().startsWith(m_data.path({}))) << one.fileName().toStdString();
+        EXPECT_TRUE(RecoverySlot::slotsOf(project).isOpenElsewhere);
+        EXPECT_TRUE(RecoverySlot::slotsOf(project).left.empty());
+    }
+    ASSERT_TRUE(QFile::setPermissions(closed.path({}),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+}
+
+TEST_F(Recovery, AVersionThatCannotBeKeptDoesNotStopSaving)
+{
+    const ProjectFolder folder;
+    folder.write(u"p.prog"_s, "A");
+    const QByteArray json =
+        R"({"format": 1, "name": "P", "program": "p.prog", "inputs": [{"name": "I"}]})";
+    const QString file = folder.write(u"p.json"_s, json);
+    for (const QString &name : {u"p.json~"_s, u"p.prog~"_s})
+        ASSERT_TRUE(QDir().mkdir(folder.path(name)));
+    Project project(file);
+    project.rename(dsInput, 0, u"J"_s);
+    const Project::Saved saved = project.save(u"B"_s, Project::Theirs::Kept);
+    EXPECT_TRUE(saved.notKept.contains(u"p.prog~"_s)) << saved.notKept.toStdString();
+    EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "B");
+    EXPECT_EQ(readFile(file), QByteArray(json).replace("\"I\"", "\"J\""));
+    EXPECT_TRUE(project.save(u"B"_s, Project::Theirs::Kept).notKept.isEmpty()); // nothing to do
+    EXPECT_TRUE(project.saveAt(folder.path(u"q.json"_s), u"C"_s).notKept.isEmpty());
+    EXPECT_FALSE(project.saveAt(file, u"D"_s).notKept.isEmpty());
+    EXPECT_EQ(Project(file).program(), u"D"_s);
+}
+
 TEST_F(Recovery, SavingKeepsTheVersionBefore)
 {
     const ProjectFolder folder;
@@ -182,7 +285,7 @@ TEST_F(Recovery, TablesOfOthersAreTakenOver)
     writeFile(file, QByteArray(json).replace("\"I\"", "\"Theirs\""));
     writeFile(folder.path(u"p.prog"_s), "theirs");
     project.rename(dsVariable, 0, u"Mine"_s);
-    EXPECT_TRUE(project.save(u"A"_s, Project::Theirs::Kept, Project::Encoding::ItsOwn));
+    EXPECT_TRUE(project.save(u"A"_s, Project::Theirs::Kept).takesOver);
     EXPECT_EQ(project.rows(dsInput)[0].name, u"Theirs"_s);
     EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "theirs");
     project.rename(dsInput, 0, u"Again"_s);

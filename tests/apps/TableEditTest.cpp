@@ -158,5 +158,5 @@ TEST(TableEdit, AValueThatTheFileGivesStays)
     EXPECT_EQ(data, QList<qint32>({1, 3, 3}));
     project.apply(reversed(change));
     EXPECT_FALSE(project.hasChangedTables());
-    EXPECT_EQ(project.kept(), json);
+    EXPECT_EQ(project.tableSaving().into(project.json(), Project::Theirs::Overwritten), json);
 }

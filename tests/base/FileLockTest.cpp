@@ -3,9 +3,11 @@
 #include "support/TestFolder.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <thread>
 
 using namespace ORVTListview;
@@ -49,4 +51,64 @@ TEST(FileLock, IsNotHeldWhereItsFileCannotBe)
     const TestFolder folder;
     EXPECT_FALSE(FileLock(folder.path(u"missing/lock"_s), 0ms).isHeld());
     EXPECT_FALSE(FileLock(folder.path({}), 0ms).isHeld());
+}
+
+TEST(FileLock, TellsTwoReasonsApart)
+{
+    const TestFolder folder;
+    const FileLock holder(folder.path(u"lock"_s), 0ms);
+    EXPECT_FALSE(holder.isHeldElsewhere());
+    EXPECT_TRUE(FileLock(folder.path(u"lock"_s), 0ms).isHeldElsewhere());
+    EXPECT_FALSE(FileLock(folder.path(u"missing/lock"_s), 0ms).isHeldElsewhere());
+}
+
+TEST(FileLock, TakesItsFileAwayWhereThatIsWanted)
+{
+    const TestFolder folder;
+    const QString name = folder.path(u"lock"_s);
+    {
+        const FileLock holder(name, 0ms, FileLock::File::Goes);
+        EXPECT_TRUE(holder.isInPlace());
+        EXPECT_FALSE(FileLock(name, 0ms, FileLock::File::Goes).isHeld());
+        EXPECT_TRUE(QFile::exists(name)); // who has no lock takes nothing away
+    }
+    EXPECT_FALSE(QFile::exists(name));
+    {
+        const FileLock holder(name, 0ms);
+    }
+    EXPECT_TRUE(QFile::exists(name));
+}
+
+TEST(FileLock, KnowsThatItsFileHasGone)
+{
+    const TestFolder folder;
+    const QString name = folder.path(u"lock"_s);
+    auto former = std::make_unique<FileLock>(name, 0ms, FileLock::File::Goes);
+    ASSERT_TRUE(QFile::rename(name, folder.path(u"moved"_s)));
+    EXPECT_FALSE(former->isInPlace());
+    const FileLock next(name, 0ms, FileLock::File::Goes);
+    EXPECT_TRUE(next.isHeld());
+    former.reset();
+    EXPECT_TRUE(QFile::exists(name)); // the next one's
+}
+
+TEST(FileLock, OfTwoWhoWaitOneHoldsTheFileThatComesNext)
+{
+    const TestFolder folder;
+    const QString name = folder.path(u"lock"_s);
+    std::atomic<int> holders = 0;
+    std::atomic<bool> wereTwo = false;
+    const auto work = [&] {
+        for (int round = 0; round < 50; ++round) {
+            const FileLock lock(name, 60s, FileLock::File::Goes);
+            if (!lock.isHeld() || ++holders > 1)
+                wereTwo = true;
+            std::this_thread::yield();
+            --holders;
+        }
+    };
+    std::thread other(work);
+    work();
+    other.join();
+    EXPECT_FALSE(wereTwo);
 }

@@ -73,6 +73,38 @@ private Q_SLOTS:
         QCOMPARE(host.ring().UndoNewest(), 1);
     }
 
+    void aHostsHistoryTakesItsPlace()
+    {
+        MenuHost host;
+        host.setText(u"a|"_s);
+        QString asked;
+        bool isPossible = false;
+        host.list->codeView()->setUndoHistory(UndoHistory{
+            [&] { return isPossible; }, {}, [&] { asked += u'U'; }, [&] { asked += u'R'; }});
+        QVERIFY(!host.offers(u"Undo"_s));
+        isPossible = true;
+        QVERIFY(!host.offers(u"Redo"_s));
+        host.choose(u"Undo"_s);
+        QCOMPARE(asked, u"U"_s);
+        QTest::keyClick(&host.box(), Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(&host.box(), Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(asked, u"UUR"_s);
+        host.list->codeView()->setUndoHistory(std::nullopt);
+        QTest::keyClick(&host.box(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(asked, u"UUR"_s);
+    }
+
+    void aHostsHistoryMayThrow()
+    {
+        MenuHost host;
+        const auto fail = []() -> bool { throw std::runtime_error("host"); };
+        host.list->codeView()->setUndoHistory(UndoHistory{fail, fail, fail, fail});
+        for (int i = 0; i < 3; ++i) // both questions of the menu, and the key
+            QTest::ignoreMessage(QtWarningMsg, "An event handler failed: host");
+        QVERIFY(!host.offers(u"Undo"_s));
+        QTest::keyClick(&host.box(), Qt::Key_Z, Qt::ControlModifier);
+    }
+
     void copyLeavesTheText()
     {
         MenuHost host;

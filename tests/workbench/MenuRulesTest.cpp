@@ -48,7 +48,8 @@ private Q_SLOTS:
             all.append(menu->title() + u": "_s + captions(*menu).join(u", "_s));
         QCOMPARE(
             all.join(u'\n').remove(u'&'),
-            u"File: Open Project…, Save, Save Elsewhere…, Export…, Print…, Quit\n"
+            u"File: New Project…, Open Project…, Open Recent, Save, Save As…, Export…, Print…, "
+            "Close Project, Quit\n"
             "Edit: Undo, Redo, Restore Typed Text, Cut, Copy, Copy with Colours, Paste, "
             "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
             "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
@@ -122,9 +123,9 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(promising,
-                 QStringList({u"Open Project…"_s, u"Save Elsewhere…"_s, u"Export…"_s, u"Print…"_s,
-                              u"Find…"_s, u"Replace…"_s, u"Export Statements…"_s, u"Add Point…"_s,
-                              u"Settings…"_s}));
+                 QStringList({u"New Project…"_s, u"Open Project…"_s, u"Save As…"_s, u"Export…"_s,
+                              u"Print…"_s, u"Find…"_s, u"Replace…"_s, u"Export Statements…"_s,
+                              u"Add Point…"_s, u"Settings…"_s}));
     }
 
     void keysDoNotClash()

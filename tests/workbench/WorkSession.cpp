@@ -48,10 +48,11 @@ public:
         m_window.openForUser(project);
         m_line = lineOf(m_document.program());
         m_name = nameOf(m_document.project()->rows(dsInput).at(0).name);
-        tell(u"begun"_s);
-        QObject::connect(keeper, &RecoveryKeeper::kept, [this] { tell(u"kept"_s); });
+        tell(u"begun"_s, now());
+        QObject::connect(keeper, &RecoveryKeeper::keeping, [this] { m_keeping = now(); });
+        QObject::connect(keeper, &RecoveryKeeper::kept, [this] { tell(u"kept"_s, m_keeping); });
         QObject::connect(m_window.findChild<ProjectSaving *>(), &ProjectSaving::settled,
-                         [this] { tell(u"kept"_s); });
+                         [this] { tell(u"kept"_s, now()); });
         QObject::connect(&m_work, &QTimer::timeout, [this] { work(); });
         m_work.start(0);
     }
@@ -63,9 +64,11 @@ private:
     }
     static int nameOf(const QString &name) { return name.sliced(4).toInt(); }
 
-    void tell(const QString &what) const
+    QString now() const { return u"%1 %2"_s.arg(m_line).arg(m_name); }
+
+    static void tell(const QString &what, const QString &state)
     {
-        QTextStream(stdout) << what << ' ' << m_line << ' ' << m_name << Qt::endl;
+        QTextStream(stdout) << what << ' ' << state << Qt::endl;
     }
 
     static void answerDialogs()
@@ -112,6 +115,7 @@ private:
     QTimer m_work;
     int m_line = 0;
     int m_name = 0;
+    QString m_keeping; // on its way into the recovery file
 };
 
 } // namespace

@@ -16,10 +16,28 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The places that the user leaves ticked; none when the user gives up, or the window goes.
+std::optional<QList<PointUse>> chosenOf(const QString &former, const QString &name,
+                                        const QList<PointUse> &uses, QWidget &window)
+{
+    const QPointer<RenameDialog> dialog(new RenameDialog(former, name, uses, &window));
+    const bool isWanted = dialog->exec() == QDialog::Accepted;
+    std::optional<QList<PointUse>> chosen;
+    if (dialog && isWanted)
+        chosen = dialog->chosen();
+    delete dialog;
+    return chosen;
+}
+
+} // namespace
 
 PointRenaming::PointRenaming(ProjectDocument &document, ORVListView &code, QWidget &window)
     : QObject(&window)
@@ -31,6 +49,8 @@ PointRenaming::PointRenaming(ProjectDocument &document, ORVListView &code, QWidg
 
 void PointRenaming::rename(LwType type, qsizetype row, const QString &name)
 {
+    if (!m_document.project() || row < 0 || row >= m_document.project()->rows(type).size())
+        return;
     const Project &project = *m_document.project();
     const ProjectRow before = project.rows(type).at(row);
     const RowChange point{type, row, before, project.renamed(type, row, name)};
@@ -39,15 +59,14 @@ void PointRenaming::rename(LwType type, qsizetype row, const QString &name)
     if (isVocabularyType(type))
         uses = usesOfPoint(project, program, before.name);
     if (!uses.isEmpty()) {
-        RenameDialog dialog(before.name, name, uses, &m_window);
         const QPointer<PointRenaming> self(this);
-        const bool isWanted = dialog.exec() == QDialog::Accepted;
+        const auto chosen = chosenOf(before.name, name, uses, m_window);
         const bool isSame = self && m_document.project() == &project &&
                             project.rows(type).value(row) == before &&
                             m_document.program() == program; // while the dialog was open
-        if (!isWanted || !isSame)
+        if (!chosen || !isSame)
             return;
-        uses = dialog.chosen();
+        uses = *chosen;
     }
     const Renaming renaming = renamingOf(project, point, uses);
     m_document.carryOut({renaming.rows, program, withPieces(program, renaming.pieces, name)});
@@ -60,7 +79,7 @@ void PointRenaming::rename(LwType type, qsizetype row, const QString &name)
 
 QString PointRenaming::askName(LwType type)
 {
-    const Project &project = *m_document.project();
+    const QPointer<PointRenaming> self(this);
     QString name;
     QString reason;
     do {
@@ -70,8 +89,9 @@ QString PointRenaming::askName(LwType type)
                                          ? tr("Name of the new point:")
                                          : reason + u"\n\n"_s + tr("Name of the new point:"),
                                      QLineEdit::Normal, name, &isGiven);
-        if (!isGiven)
+        if (!isGiven || !self || !m_document.project())
             return {};
+        const Project &project = *m_document.project();
         reason = project.nameFault(type, project.rows(type).size(), name);
     } while (!reason.isEmpty());
     return name;
@@ -85,8 +105,9 @@ void PointRenaming::add(LwType type)
     row.cells.resize(projectColumns(type).size());
     const qsizetype column = nameColumn(type);
     if (column >= 0) {
+        const QPointer<PointRenaming> self(this);
         row.name = askName(type);
-        if (row.name.isEmpty())
+        if (!self || row.name.isEmpty())
             return;
         row.cells[column] = row.name;
     }
@@ -116,11 +137,12 @@ void PointRenaming::remove(LwType type, qsizetype row)
         const qsizetype more = places.size() - most;
         if (more > 0)
             places = places.first(most) << tr("and %1 more").arg(more);
+        const QPointer<PointRenaming> self(this);
         const auto answer = QMessageBox::question(
             &m_window, tr("Remove Point"),
             tr("%1 is still named here, where it will be unknown:\n\n%2\n\nRemove it?")
                 .arg(point.name, places.join(u'\n')));
-        if (answer != QMessageBox::Yes || m_document.project() != &project ||
+        if (!self || answer != QMessageBox::Yes || m_document.project() != &project ||
             !(project.rows(type).value(row) == point))
             return;
     }

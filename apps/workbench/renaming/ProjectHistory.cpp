@@ -2,19 +2,26 @@
 
 #include "base/TextPiece.h"
 #include "project/ProjectDocument.h"
+#include "shared/points/DisplayNames.h"
+#include "shared/texts/TextTable.h"
 #include "widgets/box/BoxCommands.h"
 #include "workbench/ProjectView.h"
 #include "workbench/views/TableViews.h"
 
+#include <ORVTListview/CodeView.h>
+#include <ORVTListview/ListGrid.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>
 
-#include <QtGui/QKeyEvent>
+#include <QtCore/QPointer>
+#include <QtCore/QStringList>
 
 #include <algorithm>
 
 namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,6 +49,29 @@ Difference difference(const QString &now, const QString &program)
             program.sliced(head, program.size() - head - kept)};
 }
 
+// With the places to come.
+QString tellingOf(ProjectHistory::Way way)
+{
+    return way == ProjectHistory::Way::Back ? ProjectHistory::tr("Undone: %1")
+                                            : ProjectHistory::tr("Redone: %1");
+}
+
+// Such as "Inputs 3", or "Inputs, Controllers, Program" for several rows.
+QString placesOf(const ProjectStep &step)
+{
+    QStringList places;
+    for (const RowChange &change : step.rows) {
+        const QString table = Localise(displayName(change.type));
+        if (step.rows.size() == 1)
+            places.append(u"%1 %2"_s.arg(table, QString::number(change.row + 1)));
+        else if (!places.contains(table))
+            places.append(table);
+    }
+    if (!step.isOfTablesAlone())
+        places.append(ProjectHistory::tr("Program"));
+    return places.join(u", "_s);
+}
+
 } // namespace
 
 ProjectHistory::ProjectHistory(ProjectDocument &document, const ProjectView &views)
@@ -50,9 +80,18 @@ ProjectHistory::ProjectHistory(ProjectDocument &document, const ProjectView &vie
     , m_views(views)
     , m_code(views.program())
 {
-    m_code.RTextBox()->installEventFilter(this);
+    const QPointer<ProjectHistory> self(this);
+    const auto can = [self](Way way) { return [self, way] { return self && self->canGo(way); }; };
+    const auto go = [self](Way way) {
+        return [self, way] {
+            if (self)
+                self->go(way);
+        };
+    };
+    const UndoHistory history{can(Way::Back), can(Way::Forward), go(Way::Back), go(Way::Forward)};
+    m_code.codeView()->setUndoHistory(history);
     connect(&views.tables(), &TableViews::made, this,
-            [this](ORVListView &list) { list.listView()->installEventFilter(this); });
+            [history](ORVListView &list) { list.listView()->grid()->setUndoHistory(history); });
 }
 
 // Who looks at a table takes back what was done to tables, whatever was typed since.
@@ -66,71 +105,68 @@ bool ProjectHistory::isOfEditor() const
     return !m_views.currentTable();
 }
 
-bool ProjectHistory::canUndo() const
+bool ProjectHistory::canGo(Way way) const
 {
-    return m_document.undoStep(among()) || (isOfEditor() && m_code.IsUndoAvailable());
+    if (m_document.next(way, among()))
+        return true;
+    return isOfEditor() &&
+           (way == Way::Back ? m_code.IsUndoAvailable() : m_code.IsRedoAvailable());
 }
 
-bool ProjectHistory::canRedo() const
+void ProjectHistory::go(Way way)
 {
-    return m_document.redoStep(among()) || (isOfEditor() && m_code.IsRedoAvailable());
-}
-
-// The keys of editor and table, before they act on them.
-bool ProjectHistory::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() != QEvent::KeyPress)
-        return QObject::eventFilter(watched, event);
-    const auto &press = *static_cast<QKeyEvent *>(event);
-    const QKeyCombination key = press.keyCombination();
-    if (key == (Qt::CTRL | Qt::Key_Z) && m_document.undoStep(among()))
-        undo();
-    else if (key == (Qt::CTRL | Qt::Key_Y) && m_document.redoStep(among()))
-        redo();
+    if (const ProjectStep *step = m_document.next(way, among()))
+        goInProject(way, ProjectStep(*step));
     else
-        return QObject::eventFilter(watched, event);
-    return true;
+        goInEditor(way);
 }
 
-void ProjectHistory::undo()
+// What was typed is not taken back where nobody sees it.
+void ProjectHistory::goInEditor(Way way)
 {
-    QString errMsg;
-    if (const ProjectStep *step = m_document.undoStep(among())) {
-        const QString before = step->programBefore;
-        const bool isOfProgram = !step->isOfTablesAlone();
-        m_document.undo();
-        if (isOfProgram && !showProgram(before, true))
-            m_document.redo(); // both or none
-    } else if (isOfEditor()) {
-        m_code.Undo(errMsg);
-    }
-    if (!errMsg.isEmpty())
-        Q_EMIT told(errMsg);
+    if (!isOfEditor())
+        return;
+    QString fault;
+    if (way == Way::Back)
+        m_code.Undo(fault);
+    else
+        m_code.Redo(fault);
+    if (!fault.isEmpty())
+        Q_EMIT told(fault);
 }
 
-void ProjectHistory::redo()
+// Rows and program, or neither.
+void ProjectHistory::goInProject(Way way, const ProjectStep &step)
 {
-    QString errMsg;
-    if (const ProjectStep *step = m_document.redoStep(among())) {
-        const QString after = step->programAfter;
-        const bool isOfProgram = !step->isOfTablesAlone();
-        m_document.redo();
-        if (isOfProgram && !showProgram(after, false))
-            m_document.undo();
-    } else if (isOfEditor()) {
-        m_code.Redo(errMsg);
+    const bool isBack = way == Way::Back;
+    m_document.go(way);
+    if (!step.isOfTablesAlone() &&
+        !showProgram(isBack ? step.programBefore : step.programAfter, way)) {
+        m_document.go(isBack ? Way::Forward : Way::Back);
+        return;
     }
-    if (!errMsg.isEmpty())
-        Q_EMIT told(errMsg);
+    showPlace(step);
+    Q_EMIT told(tellingOf(way).arg(placesOf(step)));
+}
+
+// What is in sight already stays so: the program, or the row of the table that is shown.
+void ProjectHistory::showPlace(const ProjectStep &step)
+{
+    const LwType shown = m_views.current().CurrentType();
+    if (step.rows.isEmpty() || (shown == dsCode && !step.isOfTablesAlone()))
+        return;
+    const auto found = std::ranges::find(step.rows, shown, &RowChange::type);
+    const RowChange &change = found == step.rows.end() ? step.rows.constFirst() : *found;
+    Q_EMIT reached(change.type, change.row);
 }
 
 // By the editor's own history where that has the text, as it mostly has: a renaming takes a
 // snapshot. Otherwise the part that differs is put in, in its colours if these leave it as
 // it is.
-bool ProjectHistory::showProgram(const QString &program, bool isUndo)
+bool ProjectHistory::showProgram(const QString &program, Way way)
 {
     RichTextBox &box = *m_code.RTextBox();
-    for (const bool goesBack : {isUndo, !isUndo}) {
+    for (const bool goesBack : {way == Way::Back, way == Way::Forward}) {
         if (m_document.program() == program)
             return true;
         if (goesBack)
@@ -144,11 +180,11 @@ bool ProjectHistory::showProgram(const QString &program, bool isUndo)
             box.commands().replace({part.piece}, part.text);
         else
             box.replacePieces({part.piece}, part.text);
+        box.setSelStart(part.piece.start);
         if (m_document.program() == program)
             break;
     }
     box.commands().keepState();
-    box.setSelStart(0);
     return m_document.program() == program;
 }
 

@@ -43,17 +43,18 @@ bool ProjectSaving::save()
 bool ProjectSaving::carryOut(const Attempt &attempt)
 {
     const bool isElsewhere = !attempt.place.isEmpty();
+    Project::Saved saved;
     try {
-        if (isElsewhere)
-            m_document.saveAt(attempt.place, attempt.encoding);
-        else
-            m_document.save(attempt.theirs, attempt.encoding);
+        saved = isElsewhere ? m_document.saveAt(attempt.place, attempt.encoding)
+                            : m_document.save(attempt.theirs, attempt.encoding);
     } catch (const Error &error) {
         return offerWayOut(error, attempt);
     }
     Q_EMIT settled();
     if (isElsewhere)
         Q_EMIT movedElsewhere();
+    if (!saved.notKept.isEmpty())
+        Q_EMIT told(tr("Saved, but the version before cannot be kept: %1").arg(saved.notKept));
     return true;
 }
 
@@ -116,8 +117,10 @@ QString ProjectSaving::questionOnLeaving() const
 
 bool ProjectSaving::mayLeave()
 {
-    if (!m_document.isModified())
+    if (!m_document.isModified()) {
+        Q_EMIT settled(); // what was kept of something since taken back
         return true;
+    }
     const QPointer<ProjectSaving> self(this);
     const auto answer = QMessageBox::warning(
         &m_window, tr("Unsaved Changes"), questionOnLeaving(),

@@ -40,6 +40,9 @@ Q_SIGNALS:
     // The project is at another place now.
     void movedElsewhere();
 
+    // What else there is to be known of it.
+    void told(const QString &text);
+
 private:
     struct Attempt
     {

@@ -26,23 +26,34 @@ RecoveryKeeper::RecoveryKeeper(ProjectDocument &document, QObject *parent)
 {
     m_timer->setSingleShot(true);
     m_timer->setInterval(usualInterval);
+    m_writer.setMaxThreadCount(1);
     connect(m_timer, &QTimer::timeout, this, &RecoveryKeeper::tick);
     connect(&document, &ProjectDocument::changed, this, &RecoveryKeeper::note);
 }
 
-RecoveryKeeper::~RecoveryKeeper() = default;
+RecoveryKeeper::~RecoveryKeeper()
+{
+    settle(); // it has our slot
+}
 
 void RecoveryKeeper::setInterval(std::chrono::milliseconds interval)
 {
     m_timer->setInterval(interval);
 }
 
-void RecoveryKeeper::begin()
+void RecoveryKeeper::end()
 {
     m_timer->stop();
+    settle();
     m_written.reset();
     m_own.reset();
     m_left.clear();
+    m_isOpenElsewhere = false;
+}
+
+void RecoveryKeeper::begin()
+{
+    end();
     RecoverySlots found = RecoverySlot::slotsOf(m_document.project()->fileName());
     m_own = std::move(found.own);
     m_left = std::move(found.left);
@@ -77,22 +88,75 @@ void RecoveryKeeper::note()
 
 void RecoveryKeeper::tick()
 {
-    if (m_document.isModified()) {
-        if (!keepNow())
-            note();
-    } else {
+    if (!m_document.isModified()) {
         drop();
+        return;
     }
+    if (m_isWriting) {
+        note();
+        return;
+    }
+    const Work now = work();
+    if (!m_own)
+        finish(now, write(m_own, now));
+    else if (!isKept(now))
+        start(now);
 }
 
-bool RecoveryKeeper::keepNow()
+RecoveryKeeper::Work RecoveryKeeper::work() const
 {
+    const Project &project = *m_document.project();
+    return {project.json(), m_document.program(), project.tableSaving()};
+}
+
+bool RecoveryKeeper::isKept(const Work &work) const
+{
+    return m_own && m_written == work && m_own->isAsWritten();
+}
+
+void RecoveryKeeper::start(const Work &work)
+{
+    m_isWriting = true;
+    Q_EMIT keeping();
+    m_writer.start([this, work, round = m_round] {
+        const Outcome outcome = write(m_own, work);
+        const auto tell = [this, work, outcome, round] {
+            if (round == m_round)
+                finish(work, outcome);
+        };
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    });
+}
+
+RecoveryKeeper::Outcome RecoveryKeeper::write(std::optional<RecoverySlot> &slot, const Work &work)
+{
+    if (!slot)
+        return {false, tr("Too many workbenches have this project open.")};
+    RecoveredWork dated{work.tables.fileName, QDateTime::currentDateTimeUtc(), work.json,
+                        work.program};
+    QString fault;
     try {
-        if (!write())
-            return true;
+        dated.json = work.tables.into(work.json, TableSaving::Theirs::Overwritten);
     } catch (const Error &error) {
+        fault = error.Description();
+    }
+    try {
+        slot->write(recoveryText(dated));
+    } catch (const Error &error) {
+        return {false, error.Description()};
+    }
+    return {true, fault};
+}
+
+bool RecoveryKeeper::finish(const Work &work, const Outcome &outcome)
+{
+    m_isWriting = false;
+    if (outcome.isWritten)
+        m_written = work;
+    if (!outcome.fault.isEmpty()) {
         m_hasFailed = true;
-        Q_EMIT failed(error.Description());
+        note();
+        Q_EMIT failed(outcome.fault);
         return false;
     }
     if (std::exchange(m_hasFailed, false))
@@ -101,35 +165,28 @@ bool RecoveryKeeper::keepNow()
     return true;
 }
 
-// False when it is in the file already. Tables that make no project do not keep the program
-// out of the file; they are told, too.
-bool RecoveryKeeper::write()
+// Nothing is being written any more, and what was comes too late to be told.
+void RecoveryKeeper::settle()
 {
-    const Project *project = m_document.project();
-    RecoveredWork work{project->fileName(), {}, project->json(), m_document.program()};
-    std::optional<Error> fault;
-    try {
-        work.json = project->kept();
-    } catch (const Error &error) {
-        fault = error;
-    }
-    if (!m_own)
-        throw Error(0, {}, tr("Too many workbenches have this project open."));
-    const bool isKept = m_written == work && m_own->isAsWritten();
-    if (!isKept) {
-        RecoveredWork dated = work;
-        dated.when = QDateTime::currentDateTimeUtc();
-        m_own->write(recoveryText(dated));
-        m_written = std::move(work);
-    }
-    if (fault)
-        throw Error(*fault);
-    return !isKept;
+    m_writer.waitForDone();
+    m_isWriting = false;
+    ++m_round;
+}
+
+bool RecoveryKeeper::keepNow()
+{
+    settle();
+    const Work now = work();
+    if (isKept(now))
+        return true;
+    Q_EMIT keeping();
+    return finish(now, write(m_own, now));
 }
 
 void RecoveryKeeper::drop()
 {
     m_timer->stop();
+    settle();
     m_written.reset();
     if (m_own && m_own->hasFile())
         m_own->remove();

@@ -2,8 +2,10 @@
 
 #include "project/RecoveryFile.h"
 #include "project/RecoverySlot.h"
+#include "project/TableSaving.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QThreadPool>
 
 #include <chrono>
 #include <optional>
@@ -16,7 +18,8 @@ namespace ORVTListview {
 class ProjectDocument;
 
 // Keeps what is not saved of the open project in its recovery file, every two seconds
-// while something changes, so that no end of the workbench loses more than that.
+// while something changes, so that no end of the workbench loses more than that. Encoding
+// and writing are another thread's.
 class RecoveryKeeper : public QObject
 {
     Q_OBJECT
@@ -31,6 +34,9 @@ public:
     // The document's project is another one, or at another place. What workbenches left of
     // it that ended without saving can be taken then.
     void begin();
+
+    // No project is open any more.
+    void end();
 
     // The latest that was left and not yet looked at; none when there is no more.
     struct Left
@@ -47,14 +53,16 @@ public:
 
     bool isOpenElsewhere() const { return m_isOpenElsewhere; }
 
-    // Writes what is not saved now. False, after failed(), when that is impossible.
+    // Writes what is not saved now before it returns. False, after failed(), when that is
+    // impossible.
     bool keepNow();
 
     // What is not saved is not wanted, or there is nothing.
     void drop();
 
 Q_SIGNALS:
-    // What is not saved now is in the file.
+    // What is not saved now is on its way into the file; and it is there.
+    void keeping();
     void kept();
 
     // What is typed is not safe, with the reason; and it is again.
@@ -62,17 +70,40 @@ Q_SIGNALS:
     void recovered();
 
 private:
+    // All that the file tells but for the time, as values for the other thread.
+    struct Work
+    {
+        QByteArray json;
+        QString program;
+        TableSaving tables;
+
+        friend bool operator==(const Work &, const Work &) = default;
+    };
+    struct Outcome
+    {
+        bool isWritten = false;
+        QString fault; // empty for none; tables that make no project are told and written
+    };
+    static Outcome write(std::optional<RecoverySlot> &slot, const Work &work);
+
     void note();
     void tick();
-    bool write();
+    Work work() const;
+    bool isKept(const Work &work) const;
+    void start(const Work &work);
+    bool finish(const Work &work, const Outcome &outcome);
+    void settle();
 
     ProjectDocument &m_document;
     QTimer *m_timer;
     std::vector<RecoverySlot> m_left;
-    std::optional<RecoverySlot> m_own;
-    std::optional<RecoveredWork> m_written; // last, but for the time
+    std::optional<RecoverySlot> m_own; // the other thread's while that writes
+    std::optional<Work> m_written;     // last
     bool m_isOpenElsewhere = false;
     bool m_hasFailed = false;
+    bool m_isWriting = false;
+    int m_round = 0; // of writing, to tell what comes too late
+    QThreadPool m_writer;
 };
 
 } // namespace ORVTListview

@@ -3,6 +3,7 @@
 #include <ORVTListview/Export.h>
 #include <ORVTListview/HoverAnswer.h>
 #include <ORVTListview/Problem.h>
+#include <ORVTListview/UndoHistory.h>
 
 #include <QtCore/QHash>
 #include <QtCore/QList>
@@ -232,6 +233,12 @@ public:
     // as they came switches it on.
     bool keepsText() const;
     void setKeepsText(bool on);
+
+    // What users undo and redo by the editor's keys and context menu: the editor's own steps,
+    // as at first and with none, or the history of a host that has one for several things and
+    // calls Undo and Redo of ORVListView, which stay the editor's own, where these come next.
+    // The menu offers what either has.
+    void setUndoHistory(const std::optional<ORVTListview::UndoHistory> &history);
 
     // What that list shows beside words, by their names in any letter case; none at first.
     Q_INVOKABLE void setWordDescriptions(const QHash<QString, QString> &descriptions);

@@ -143,6 +143,8 @@ CellSteps::CellSteps(CellWriter &writer)
     : m_writer(writer)
 {
     writer.setKeeper([this](const QList<CellChange> &changes) {
+        if (m_history.isSet())
+            return;
         m_unkept.enqueue(changes);
         keep();
     });
@@ -188,14 +190,36 @@ void CellSteps::setStack(QUndoStack *host)
     m_host = host;
 }
 
+void CellSteps::setHistory(const std::optional<UndoHistory> &history)
+{
+    m_history.set(history);
+    forget();
+}
+
+bool CellSteps::canUndo()
+{
+    return m_history.isSet() ? m_history.canUndo() : stack().canUndo();
+}
+
+bool CellSteps::canRedo()
+{
+    return m_history.isSet() ? m_history.canRedo() : stack().canRedo();
+}
+
 void CellSteps::undo()
 {
-    step(&QUndoStack::undo);
+    if (m_history.isSet())
+        m_history.undo();
+    else
+        step(&QUndoStack::undo);
 }
 
 void CellSteps::redo()
 {
-    step(&QUndoStack::redo);
+    if (m_history.isSet())
+        m_history.redo();
+    else
+        step(&QUndoStack::redo);
 }
 
 void CellSteps::step(void (QUndoStack::*act)())

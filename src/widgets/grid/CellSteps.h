@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/HostHistory.h"
+
 #include <ORVTListview/CellChange.h>
 
 #include <QtCore/QList>
@@ -12,7 +14,8 @@ namespace ORVTListview {
 
 class CellWriter;
 
-// The steps of undo of a grid's cells, on a stack of their own or on the host's.
+// The steps of undo of a grid's cells, on a stack of their own or on the host's; or what a
+// host with a history of its own has in their place.
 class CellSteps
 {
 public:
@@ -23,6 +26,11 @@ public:
     QUndoStack &stack();
     void setStack(QUndoStack *host);
 
+    void setHistory(const std::optional<UndoHistory> &history);
+    bool hasHistory() const { return m_history.isSet(); }
+
+    bool canUndo();
+    bool canRedo();
     void undo();
     void redo();
 
@@ -36,6 +44,7 @@ private:
     CellWriter &m_writer;
     QPointer<QUndoStack> m_own; // made when it is first needed
     QPointer<QUndoStack> m_host;
+    HostHistory m_history;
     QQueue<QList<CellChange>> m_unkept; // made while the stack was within a step
 };
 

@@ -46,10 +46,12 @@ bool GridKeys::act(QKeyEvent &event)
         return true;
     if (m_tools.selection.isByCells() && actOnSelection(event))
         return true;
+    if (m_steps.hasHistory() && actOnSteps(event))
+        return true;
     if (!m_tools.rules.isUsed())
         return false;
     const QModelIndex cell = m_tools.view.currentIndex();
-    if (actOnSteps(event) || move(event))
+    if (actOnSteps(event) || actOnClipboard(event) || move(event))
         return true;
     return cell.isValid() && !m_tools.view.isColumnHidden(cell.column()) &&
            m_tools.rules.isEdited(cell.column()) && actOnCell(event, cell);
@@ -101,12 +103,20 @@ bool GridKeys::actOnSelection(const QKeyEvent &event)
 
 bool GridKeys::actOnSteps(const QKeyEvent &event)
 {
-    if (event.matches(QKeySequence::Undo))
-        m_steps.undo();
-    else if (event.matches(QKeySequence::Redo) ||
-             (event.key() == Qt::Key_Y && modifiersOf(event) == Qt::ControlModifier))
+    const bool isRedo = event.matches(QKeySequence::Redo) ||
+                        (event.key() == Qt::Key_Y && modifiersOf(event) == Qt::ControlModifier);
+    if (!isRedo && !event.matches(QKeySequence::Undo))
+        return false;
+    if (isRedo)
         m_steps.redo();
-    else if (event.matches(QKeySequence::Paste))
+    else
+        m_steps.undo();
+    return true;
+}
+
+bool GridKeys::actOnClipboard(const QKeyEvent &event)
+{
+    if (event.matches(QKeySequence::Paste))
         m_clipboard.paste();
     else if (event.matches(QKeySequence::Cut) && m_tools.selection.isByCells())
         cut();

@@ -44,6 +44,7 @@ private:
     void removeOnce(const QKeyEvent &event);
     bool actOnSelection(const QKeyEvent &event);
     bool actOnSteps(const QKeyEvent &event);
+    bool actOnClipboard(const QKeyEvent &event);
     bool actOnCell(QKeyEvent &event, const QModelIndex &cell);
     bool move(QKeyEvent &event);
     void cut();

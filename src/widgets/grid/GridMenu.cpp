@@ -16,7 +16,6 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QUndoStack>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QTableView>
@@ -115,13 +114,13 @@ QList<GridMenu::Command> GridMenu::cellCommands() const
     const QModelIndex cell = grid.view.currentIndex();
     const bool isEdited = cell.isValid() && grid.rules.isEdited(cell.column());
     QList<Command> commands;
-    if (grid.rules.isUsed()) {
-        const QUndoStack &stack = grid.steps.stack();
-        commands << Command{u"Undo"_s, stack.canUndo(), [grid = m_grid] { grid.steps.undo(); },
+    if (grid.rules.isUsed() || grid.steps.hasHistory())
+        commands << Command{u"Undo"_s, grid.steps.canUndo(), [grid = m_grid] { grid.steps.undo(); },
                             u"Ctrl+Z"_s}
-                 << Command{u"Redo"_s, stack.canRedo(), [grid = m_grid] { grid.steps.redo(); },
-                            u"Ctrl+Y"_s}
-                 << Command{u"Edit"_s, isEdited,
+                 << Command{u"Redo"_s, grid.steps.canRedo(), [grid = m_grid] { grid.steps.redo(); },
+                            u"Ctrl+Y"_s};
+    if (grid.rules.isUsed()) {
+        commands << Command{u"Edit"_s, isEdited,
                             [grid = m_grid] { grid.edit.open(grid.view.currentIndex()); }, u"F2"_s};
     }
     commands << copyCommands();

@@ -412,4 +412,9 @@ void ListGrid::setUndoStack(QUndoStack *stack)
     d->steps.setStack(stack);
 }
 
+void ListGrid::setUndoHistory(const std::optional<UndoHistory> &history)
+{
+    d->steps.setHistory(history);
+}
+
 } // namespace ORVTListview

@@ -44,6 +44,30 @@ private Q_SLOTS:
         QCOMPARE(shown.text(1, 2), u"2"_s);
     }
 
+    void aHostsHistoryTakesItsPlace()
+    {
+        ShownGrid shown;
+        QString asked;
+        QVERIFY(shown.grid->enterText(shown.item(1), 2, u"1"_s));
+        shown.grid->setUndoHistory(
+            UndoHistory{{}, {}, [&] { asked += u'U'; }, [&] { asked += u'R'; }});
+        QCOMPARE(shown.grid->undoStack()->count(), 0);
+        QVERIFY(shown.grid->enterText(shown.item(1), 2, u"2"_s));
+        QCOMPARE(shown.grid->undoStack()->count(), 0);
+        shown.goTo(1, 2);
+        shown.key(Qt::Key_Z, Qt::ControlModifier);
+        shown.grid->setEditsCells(false);
+        shown.key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        shown.key(Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(asked, u"URR"_s);
+        QCOMPARE(shown.text(1, 2), u"2"_s);
+        shown.grid->setUndoHistory(std::nullopt);
+        shown.grid->setEditsCells(true);
+        QVERIFY(shown.grid->enterText(shown.item(1), 2, u"3"_s));
+        shown.key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(shown.text(1, 2), u"2"_s);
+    }
+
     void severalCellsAreOneStep()
     {
         ShownGrid shown;

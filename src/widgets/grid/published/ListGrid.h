@@ -5,6 +5,7 @@
 #include <ORVTListview/CellRule.h>
 #include <ORVTListview/CellState.h>
 #include <ORVTListview/Export.h>
+#include <ORVTListview/UndoHistory.h>
 
 #include <QtCore/QHash>
 #include <QtCore/QList>
@@ -14,6 +15,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 class QMenu;
@@ -140,6 +142,11 @@ public:
     // step changes nothing where the row is gone or the program has changed the cell since.
     QUndoStack *undoStack() const;
     void setUndoStack(QUndoStack *stack);
+
+    // In place of any stack the history of a host that takes its steps from cellsChanged: the
+    // grid keeps none then, and its keys and menu ask the host, the keys also where no cells
+    // are edited. None goes back to the stack.
+    void setUndoHistory(const std::optional<ORVTListview::UndoHistory> &history);
 
     // Whether a click on a header sorts the rows by it: upwards, then downwards, then as the
     // host has put them; with Shift behind the columns that they are sorted by already. Where

@@ -1,0 +1,70 @@
+#include "project/NewProject.h"
+
+#include "project/JsonEdit.h"
+#include "project/ProjectError.h"
+#include "project/ProjectReader.h"
+#include "project/ProjectTexts.h"
+#include "project/TextFile.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString programOf(const QString &fileName)
+{
+    return QFileInfo(fileName).path() + u'/' + QFileInfo(fileName).completeBaseName() + u".prog"_s;
+}
+
+} // namespace
+
+// What one of the usual systems does not take becomes a line.
+QString projectFileName(const QString &name)
+{
+    QString base = name;
+    for (QChar &c : base) {
+        if (u"\\/:*?\"<>|"_s.contains(c) || c < u' ')
+            c = u'-';
+    }
+    while (base.startsWith(u'.') || base.startsWith(u' '))
+        base.remove(0, 1);
+    while (base.endsWith(u'.') || base.endsWith(u' '))
+        base.chop(1);
+    return (base.isEmpty() ? u"project"_s : base) + u".json"_s;
+}
+
+QString newProjectFault(const QString &fileName)
+{
+    for (const QString &file : {fileName, programOf(fileName)}) {
+        if (QFileInfo::exists(file) || QFileInfo(file).isSymLink())
+            return ProjectTexts::tr("%1 is there already.").arg(QFileInfo(file).fileName());
+    }
+    return {};
+}
+
+void makeProject(const QString &fileName, const QString &name, const QByteArray &form)
+{
+    const QString fault = newProjectFault(fileName);
+    if (!fault.isEmpty())
+        throw Error(FileNotWritable, u"makeProject"_s, fault);
+    const QString program = programOf(fileName);
+    const JsonPlace root = JsonPlace::parse(form, fileName);
+    JsonEdit edit(form);
+    edit.replace(root.member(u"name"_s), name);
+    edit.replace(root.member(u"program"_s), QFileInfo(program).fileName());
+    const QByteArray json = edit.bytes();
+    readContents(JsonPlace::parse(json, fileName)); // what is made can be opened
+    writeFile(program, {});
+    try {
+        writeFile(fileName, json);
+    } catch (const Error &) {
+        QFile::remove(program);
+        throw;
+    }
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+namespace ORVTListview {
+
+// The name of the file of a project with this name: without what file names cannot have.
+QString projectFileName(const QString &name);
+
+// Why no project can be made in this file, as a sentence; empty when one can. It and its
+// program, beside it, are to be new.
+QString newProjectFault(const QString &fileName);
+
+// Makes a project of a text that has its form, and an empty program. Raises Error, and
+// leaves no half of it.
+void makeProject(const QString &fileName, const QString &name, const QByteArray &form);
+
+} // namespace ORVTListview

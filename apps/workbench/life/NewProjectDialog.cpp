@@ -1,0 +1,117 @@
+#include "workbench/life/NewProjectDialog.h"
+
+#include "project/NewProject.h"
+#include "project/ProjectColumns.h"
+#include "project/TextFile.h"
+
+#include <ORVTListview/Error.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace ORVTListview {
+
+using namespace Qt::StringLiterals;
+
+NewProjectDialog::NewProjectDialog(const QString &folder, QWidget *parent)
+    : QDialog(parent)
+    , m_name(new QLineEdit(this))
+    , m_folder(new QLineEdit(QDir::toNativeSeparators(folder), this))
+    , m_place(new QLabel(this))
+{
+    setWindowTitle(tr("New Project"));
+    auto *layout = new QVBoxLayout(this);
+    addFields();
+    addButtons();
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
+    for (const QLineEdit *field : {m_name, m_folder})
+        connect(field, &QLineEdit::textChanged, this, &NewProjectDialog::showPlace);
+    showPlace();
+    m_name->setFocus();
+}
+
+void NewProjectDialog::addFields()
+{
+    auto *form = new QFormLayout;
+    form->addRow(tr("&Name:"), m_name);
+    auto *browse = new QPushButton(tr("&Browse…"), this);
+    browse->setAutoDefault(false);
+    connect(browse, &QPushButton::clicked, this, &NewProjectDialog::chooseFolder);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_folder);
+    row->addWidget(browse);
+    form->addRow(tr("&Folder:"), row);
+    static_cast<QLabel *>(form->labelForField(row))->setBuddy(m_folder);
+    m_folder->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    m_place->setTextFormat(Qt::PlainText);
+    m_place->setWordWrap(true);
+    m_place->setMinimumHeight(3 * fontMetrics().lineSpacing());
+    m_place->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    form->addRow(m_place);
+    static_cast<QVBoxLayout *>(layout())->addLayout(form);
+}
+
+void NewProjectDialog::addButtons()
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    m_create = buttons->addButton(tr("&Create"), QDialogButtonBox::AcceptRole);
+    m_create->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &NewProjectDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &NewProjectDialog::reject);
+    layout()->addWidget(buttons);
+}
+
+void NewProjectDialog::chooseFolder()
+{
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, tr("Folder of the New Project"), m_folder->text());
+    if (!folder.isEmpty())
+        m_folder->setText(QDir::toNativeSeparators(folder));
+}
+
+QString NewProjectDialog::place() const
+{
+    return QDir(QDir::fromNativeSeparators(m_folder->text()))
+        .filePath(projectFileName(m_name->text().trimmed()));
+}
+
+// What will be made, or why nothing can be.
+void NewProjectDialog::showPlace()
+{
+    const QString name = m_name->text().trimmed();
+    QString fault;
+    if (name.isEmpty())
+        fault = tr("The project and an empty program are made in this folder.");
+    else if (!isPointName(name))
+        fault = tr("This name has characters that a name cannot have.");
+    else if (!QDir::isAbsolutePath(m_folder->text()) || !QFileInfo(m_folder->text()).isDir())
+        fault = tr("There is no such folder.");
+    else
+        fault = newProjectFault(place());
+    m_create->setEnabled(fault.isEmpty());
+    m_place->setText(fault.isEmpty() ? tr("%1 will be made.").arg(QDir::toNativeSeparators(place()))
+                                     : fault);
+}
+
+void NewProjectDialog::accept()
+{
+    try {
+        makeProject(place(), m_name->text().trimmed(), readFile(u":/workbench/life/new.json"_s));
+    } catch (const Error &error) {
+        QMessageBox::warning(this, windowTitle(), error.Description());
+        return;
+    }
+    m_created = place();
+    QDialog::accept();
+}
+
+} // namespace ORVTListview

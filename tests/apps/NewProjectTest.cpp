@@ -1,0 +1,59 @@
+// A new project is made of a form, with an empty program, and overwrites nothing.
+
+#include "project/NewProject.h"
+#include "apps/ProjectFolder.h"
+#include "project/Project.h"
+#include "project/TextFile.h"
+#include "support/QtPrinters.h"
+#include "support/Raised.h"
+
+#include <QtCore/QDir>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray form = "{\n  \"format\": 1,\n  \"name\": \"\",\n  \"program\": \"\"\n}\n";
+
+} // namespace
+
+TEST(NewProject, CanBeOpened)
+{
+    const ProjectFolder folder;
+    const QString file = folder.path(u"a & b.json"_s);
+    makeProject(file, u"a & \"b\" %2"_s, form);
+    const Project project(file);
+    EXPECT_EQ(project.name(), u"a & \"b\" %2"_s);
+    EXPECT_EQ(project.programFile(), folder.path(u"a & b.prog"_s));
+    EXPECT_EQ(project.program(), QString());
+    EXPECT_TRUE(readFile(file).startsWith("{\n  \"format\": 1,\n  \"name\": "));
+}
+
+TEST(NewProject, OverwritesNothing)
+{
+    for (const QString &there : {u"p.json"_s, u"p.prog"_s}) {
+        const ProjectFolder folder;
+        folder.write(there, "mine");
+        EXPECT_TRUE(newProjectFault(folder.path(u"p.json"_s)).contains(there));
+        EXPECT_TRUE(raisedBy([&] { makeProject(folder.path(u"p.json"_s), u"P"_s, form); }));
+        EXPECT_EQ(readFile(folder.path(there)), "mine");
+        EXPECT_EQ(QDir(folder.path({})).entryList(QDir::Files), QStringList(there));
+    }
+}
+
+TEST(NewProject, LeavesNoHalfWhereItFails)
+{
+    const ProjectFolder folder;
+    EXPECT_TRUE(raisedBy([&] { makeProject(folder.path(u"p.json"_s), u" blank"_s, form); }));
+    EXPECT_TRUE(raisedBy([&] { makeProject(folder.path(u"gone/p.json"_s), u"P"_s, form); }));
+    EXPECT_EQ(QDir(folder.path({})).entryList(QDir::Files), QStringList());
+}
+
+TEST(NewProject, HasANameThatFilesCanHave)
+{
+    EXPECT_EQ(projectFileName(u"Air handling unit"_s), u"Air handling unit.json"_s);
+    EXPECT_EQ(projectFileName(u"a/b:c*d"_s), u"a-b-c-d.json"_s);
+    EXPECT_EQ(projectFileName(u"..hidden. "_s), u"hidden.json"_s);
+    EXPECT_EQ(projectFileName(u"..."_s), u"project.json"_s);
+}
