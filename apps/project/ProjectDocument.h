@@ -82,6 +82,9 @@ public:
     void saveAt(const QString &fileName, Project::Encoding encoding);
 
 Q_SIGNALS:
+    // There is another one, or none.
+    void projectReplaced();
+
     void tablesChanged();
     void changed(); // tables or program, or what is saved
 

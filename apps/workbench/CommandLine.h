@@ -17,6 +17,7 @@ struct Options
     bool isDark = false;
     QString language; // empty for the user's own
     LwType shown = dsCode;
+    bool hasProject = false; // named, or the sample
 };
 
 // Qt reads its scale once, before there is an application.

@@ -21,17 +21,28 @@
 #include "project/PointReferences.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
+#include "project/controller/PointReading.h"
+#include "project/controller/SimulatedController.h"
 #include "workbench/export/Exporting.h"
+#include "workbench/help/FirstSteps.h"
 #include "workbench/help/HelpMenu.h"
+#include "workbench/importing/PointImporting.h"
+#include "workbench/reading/ControllerMenu.h"
+#include "workbench/reading/ReadingDialog.h"
+#include "workbench/reading/ReadingStatus.h"
 #include "workbench/renaming/PointRenaming.h"
 #include "workbench/renaming/ProjectHistory.h"
 #include "workbench/saving/ProjectSaving.h"
 #include "workbench/saving/RecoveryKeeper.h"
 #include "workbench/saving/RecoveryOffer.h"
 #include "workbench/settings/SettingsDialog.h"
+#include "workbench/trend/Trend.h"
+#include "workbench/trend/TrendDock.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
+#include <ORVTListview/ListGrid.h>
+#include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QEvent>
@@ -48,6 +59,7 @@
 #include <QtWidgets/QStatusBar>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace ORVTListview {
@@ -62,20 +74,28 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_document(new ProjectDocument({[this] { return m_code->CodeText(); },
                                       [this] { return m_code->RTextBox()->TextLength(); }},
                                      this))
+    , m_controller(new SimulatedController(
+          [this](const AskedPoint &point) { return m_reading->valueOf(point); }, this))
+    , m_reading(new PointReading(*m_document, *m_controller, this))
     , m_view(new ProjectView(*m_document, this))
     , m_fault(new OpeningFault(this))
+    , m_firstSteps(new FirstSteps(this))
     , m_code(&m_view->list())
     , m_history(new ProjectHistory(*m_document, *m_code))
     , m_renaming(new PointRenaming(*m_document, *m_code, *this))
+    , m_importing(new PointImporting(*m_document, *this))
     , m_saving(new ProjectSaving(*m_document, *this))
     , m_recovery(new RecoveryKeeper(*m_document, this))
     , m_offer(new RecoveryOffer(*m_document, *m_recovery, *m_code, *this))
     , m_export(new Exporting(*m_code, *this))
-    , m_values(new PointValues(*m_code->codeView(), this))
+    , m_values(new PointValues(*m_code->codeView(), *m_reading, this))
     , m_results(new CheckResults(this))
     , m_analysis(new LiveAnalysis(*m_code->codeView(), *m_code->RTextBox(), this))
     , m_navigation(new ProgramNavigation(*m_view, *m_analysis, *m_results, this))
+    , m_trend(new Trend(*m_document, *m_reading, this))
+    , m_trendDock(new TrendDock(*m_trend, this))
     , m_programInfo(new QLabel(this))
+    , m_readingStatus(new ReadingStatus(*m_reading, this))
     , m_opening(new OpeningProgress(*m_code->codeView(), this))
     , m_position(new QLabel(this))
 {
@@ -83,15 +103,20 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     addToolBar(m_points);
     m_pages->addWidget(m_view);
     m_pages->addWidget(m_fault);
+    m_pages->addWidget(m_firstSteps);
     setCentralWidget(m_pages);
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
+    addDockWidget(Qt::BottomDockWidgetArea, m_trendDock);
+    m_trendDock->hide();
     EditorViewMenu::switchOn(*m_code->codeView());
     buildMenus();
     buildStatusBar();
     connectEditor();
     connectPoints();
+    connectReading();
+    connectFirstSteps();
     connectSaving();
     // Queued: the menu that the language was chosen in is made anew.
     connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
@@ -106,8 +131,9 @@ void MainWindow::buildMenus()
     buildEditMenu();
     buildProgramMenu();
     buildPointsMenu();
+    buildControllerMenu();
     buildViewMenu();
-    menuBar()->addMenu(new HelpMenu(*menuBar()));
+    buildHelpMenu();
 }
 
 void MainWindow::buildFileMenu()
@@ -162,8 +188,8 @@ void MainWindow::buildProgramMenu()
 void MainWindow::buildPointsMenu()
 {
     QMenu *points = menuBar()->addMenu(tr("P&oints"));
-    points->addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), this,
-                      [this] { m_view->tables().read(m_code->CurrentType()); });
+    QAction *read = points->addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), this,
+                                      [this] { m_reading->read(m_code->CurrentType()); });
     QAction *rename = points->addAction(tr("Re&name"), &m_view->tables(), &PointTables::editName);
     rename->setShortcut(QKeySequence(Qt::Key_F2));
     rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
@@ -172,10 +198,14 @@ void MainWindow::buildPointsMenu()
     QAction *remove = points->addAction(tr("Re&move Point"), m_renaming, [this] {
         m_renaming->remove(m_code->CurrentType(), m_view->tables().selectedPoint());
     });
-    connect(points, &QMenu::aboutToShow, this, [this, add, remove, rename] {
+    QAction *import = points->addAction(
+        tr("&Import…"), this, [this] { m_importing->import(m_code->CurrentType()); });
+    connect(points, &QMenu::aboutToShow, this, [this, read, add, remove, rename, import] {
+        read->setEnabled(m_reading->canRead(m_code->CurrentType()));
         const bool isTable = m_document->project() && m_code->CurrentType() != dsCode;
         const bool isPoint = isTable && m_view->tables().selectedPoint() >= 0;
         add->setEnabled(isTable);
+        import->setEnabled(isTable);
         remove->setEnabled(isPoint);
         rename->setEnabled(isPoint && nameColumn(m_code->CurrentType()) >= 0);
     });
@@ -190,6 +220,21 @@ void MainWindow::buildPointsMenu()
     connect(overrides, &QAction::triggered, &m_view->tables(), &PointTables::setShowsOverrides);
     connect(points, &QMenu::aboutToShow, overrides,
             [this, overrides] { overrides->setChecked(m_view->tables().showsOverrides()); });
+}
+
+void MainWindow::buildControllerMenu()
+{
+    auto *menu = new ControllerMenu(*m_reading, *m_trendDock, menuBar());
+    menuBar()->addMenu(menu);
+    connect(menu, &ControllerMenu::settingsWanted, this, &MainWindow::chooseReading);
+    connect(menu, &ControllerMenu::trendWanted, this, &MainWindow::addToTrend);
+}
+
+void MainWindow::buildHelpMenu()
+{
+    auto *help = new HelpMenu(*menuBar());
+    menuBar()->addMenu(help);
+    connect(help, &HelpMenu::firstStepsWanted, this, &MainWindow::showFirstSteps);
 }
 
 void MainWindow::buildViewMenu()
@@ -214,6 +259,7 @@ void MainWindow::buildStatusBar()
 {
     m_programInfo->setContentsMargins(3, 0, 0, 0); // in line with the program
     statusBar()->addWidget(m_programInfo);
+    statusBar()->addPermanentWidget(m_readingStatus);
     statusBar()->addPermanentWidget(m_opening);
     m_opening->hide(); // the bar shows what it takes
     statusBar()->addPermanentWidget(m_position);
@@ -251,21 +297,103 @@ void MainWindow::takePoints()
 
 void MainWindow::connectPoints()
 {
-    connect(m_view, &ProjectView::shown, this,
-            [this](LwType type) { m_position->setVisible(type == dsCode); });
+    connect(m_view, &ProjectView::shown, this, &MainWindow::showPage);
+    connect(m_pages, &QStackedWidget::currentChanged, this, &MainWindow::showPage);
     connect(m_points, &PointChooser::chosen, m_view, &ProjectView::takePoint);
     connect(m_points, &PointChooser::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(&m_view->tables(), &PointTables::readingStarted, this,
-            [this] { statusBar()->showMessage(tr("Reading the values…")); });
-    connect(&m_view->tables(), &PointTables::readingFinished, this,
-            [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
-    connect(&m_view->tables(), &PointTables::readingFinished, m_values, &PointValues::takeProject);
     connect(&m_view->tables(), &PointTables::renameWanted, m_renaming, &PointRenaming::rename);
     connect(m_history, &ProjectHistory::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
     connect(&m_view->tables(), &PointTables::refused, this,
             [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
+}
+
+void MainWindow::connectReading()
+{
+    m_view->tables().setReading(*m_reading);
+    connect(m_code, &ORVListView::QueryRead, this, [this](const LwType &type) {
+        if (!m_reading->canRead(type))
+            statusBar()->showMessage(tr("There are no values to read here."), 5000);
+    });
+    connect(m_readingStatus, &ReadingStatus::succeeded, this,
+            [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
+    connect(m_importing, &PointImporting::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
+    connect(m_trendDock, &TrendDock::cyclicWanted, this, &MainWindow::setCyclic);
+    connect(m_code->listView()->grid(), &ListGrid::menuOpening, this, [this](QMenu *menu) {
+        if (!m_view->tables().selectedPoints().isEmpty())
+            menu->addAction(ControllerMenu::tr("A&dd To Trend"), this, &MainWindow::addToTrend);
+    });
+}
+
+// The page goes when something else is shown.
+void MainWindow::connectFirstSteps()
+{
+    connect(m_firstSteps, &FirstSteps::sampleWanted, this, &MainWindow::showSample);
+    connect(m_firstSteps, &FirstSteps::projectWanted, this, &MainWindow::chooseProject);
+    connect(m_firstSteps, &FirstSteps::keysWanted, this,
+            [this] { menuBar()->findChild<HelpMenu *>()->showKeys(); });
+    connect(m_firstSteps, &FirstSteps::closed, this, [this] {
+        if (m_document->project()) {
+            m_pages->setCurrentWidget(m_view);
+            m_code->setFocus();
+        } else {
+            chooseProject();
+        }
+    });
+}
+
+void MainWindow::showFirstSteps()
+{
+    m_pages->setCurrentWidget(m_firstSteps);
+}
+
+void MainWindow::showSample()
+{
+    const Project *project = m_document->project();
+    if (project && QFileInfo(project->fileName()) == QFileInfo(m_sample)) {
+        m_pages->setCurrentWidget(m_view);
+        m_code->setFocus();
+    } else if (m_saving->mayLeave()) {
+        openForUser(m_sample);
+    }
+}
+
+// The status bar speaks of what is in sight.
+void MainWindow::showPage()
+{
+    const bool isView = m_pages->currentWidget() == m_view;
+    m_programInfo->setVisible(isView);
+    m_position->setVisible(isView && m_code->CurrentType() == dsCode);
+}
+
+void MainWindow::addToTrend()
+{
+    const QList<qsizetype> points = m_view->tables().selectedPoints();
+    for (const qsizetype row : points)
+        m_trend->add(m_code->CurrentType(), row);
+    if (points.isEmpty())
+        statusBar()->showMessage(tr("Select rows of a table with values first."), 5000);
+    else
+        m_trendDock->show();
+}
+
+void MainWindow::setCyclic(bool on)
+{
+    Settings settings = m_settings;
+    settings.reading.isCyclic = on;
+    decide(settings);
+}
+
+void MainWindow::chooseReading()
+{
+    ReadingDialog dialog(m_settings.reading, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    Settings settings = m_settings;
+    settings.reading = dialog.settings();
+    decide(settings);
 }
 
 void MainWindow::connectSaving()
@@ -391,6 +519,10 @@ void MainWindow::setSettings(const Settings &settings)
     if (settings.language != former.language)
         m_languages.setLanguage(settings.language.value_or(QLocale::system()));
     useTheme(settings.theme);
+    const ReadingSettings &reading = settings.reading;
+    m_controller->setBehaviour(reading.simulated);
+    m_reading->setPause(std::chrono::seconds(reading.isCyclic ? reading.seconds : 0));
+    m_trendDock->cyclicAction().setChecked(reading.isCyclic);
     if (settings.look != former.look && m_document->project())
         applyAppearance();
 }
@@ -460,6 +592,9 @@ void MainWindow::retranslate()
     m_results->retranslate();
     m_analysis->retranslate();
     m_opening->retranslate();
+    m_readingStatus->retranslate();
+    m_trendDock->retranslate();
+    m_firstSteps->retranslate();
     qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
     menuBar()->clear();
     buildMenus();

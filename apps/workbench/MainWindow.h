@@ -17,20 +17,27 @@ namespace ORVTListview {
 class CheckResults;
 class EditMenu;
 class Exporting;
+class FirstSteps;
 class Languages;
 class LiveAnalysis;
 class OpeningProgress;
 class OpeningFault;
 class ProgramNavigation;
 class PointChooser;
+class PointImporting;
+class PointReading;
 class PointRenaming;
 class PointValues;
 class ProjectDocument;
 class ProjectHistory;
 class ProjectSaving;
 class ProjectView;
+class ReadingStatus;
 class RecoveryKeeper;
 class RecoveryOffer;
+class SimulatedController;
+class Trend;
+class TrendDock;
 struct ListedStatement;
 
 // A small host: shows a project in the library's components.
@@ -61,6 +68,10 @@ public:
     // Shows the program, or the table of a type.
     void showType(LwType type);
 
+    // The page of the first start, whose sample is this project.
+    void showFirstSteps();
+    void setSample(const QString &fileName) { m_sample = fileName; }
+
 Q_SIGNALS:
     // The user has decided anew.
     void settingsChosen();
@@ -77,13 +88,22 @@ private:
     void buildProgramMenu();
     void buildPointsMenu();
     void buildViewMenu();
+    void buildControllerMenu();
+    void buildHelpMenu();
     void buildStatusBar();
     void connectEditor();
     void connectPoints();
+    void connectReading();
+    void connectFirstSteps();
     void connectSaving();
     void chooseProject();
     void openByHand(const QString &fileName);
     void showProgram();
+    void showSample();
+    void chooseReading();
+    void setCyclic(bool on);
+    void addToTrend();
+    void showPage();
     void chooseSettings();
     void decide(const Settings &settings);
     void applyAppearance();
@@ -99,14 +119,19 @@ private:
 
     Languages &m_languages;
     Settings m_settings;
+    QString m_sample;
     PointChooser *m_points; // made in the order of the Tab key
     QStackedWidget *m_pages;
     ProjectDocument *m_document;
+    SimulatedController *m_controller;
+    PointReading *m_reading;
     ProjectView *m_view;
     OpeningFault *m_fault;
+    FirstSteps *m_firstSteps;
     ORVListView *m_code; // the view owns it
     ProjectHistory *m_history;
     PointRenaming *m_renaming;
+    PointImporting *m_importing;
     ProjectSaving *m_saving;
     RecoveryKeeper *m_recovery;
     RecoveryOffer *m_offer;
@@ -115,7 +140,10 @@ private:
     CheckResults *m_results;
     LiveAnalysis *m_analysis;
     ProgramNavigation *m_navigation;
+    Trend *m_trend;
+    TrendDock *m_trendDock;
     QLabel *m_programInfo;
+    ReadingStatus *m_readingStatus;
     OpeningProgress *m_opening;
     QLabel *m_position;
 };

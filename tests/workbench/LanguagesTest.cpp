@@ -67,7 +67,7 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = ON");
         workbench.type(u"x"_s);
         QCOMPARE(titles(workbench), QStringList({u"File"_s, u"Edit"_s, u"Program"_s, u"Points"_s,
-                                                 u"View"_s, u"Help"_s}));
+                                                 u"Controller"_s, u"View"_s, u"Help"_s}));
         const QMenu *menu = workbench.window.findChild<LanguageMenu *>();
         QVERIFY(menu);
         const QList<QAction *> choices = menu->actions();
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QCOMPARE(names, QStringList({u"English"_s, u"Deutsch"_s, u"Español"_s, u"Français"_s}));
         choices.at(1)->trigger();
         QTRY_COMPARE(titles(workbench), QStringList({u"Datei"_s, u"Bearbeiten"_s, u"Programm"_s,
-                                                     u"Punkte"_s, u"Ansicht"_s, u"Hilfe"_s}));
+                                                     u"Punkte"_s, u"Regelgerät"_s, u"Ansicht"_s, u"Hilfe"_s}));
         QCOMPARE(workbench.code().CodeText(), u"xFan1 = ON"_s);
         QVERIFY(workbench.window.isWindowModified());
         const QMenu *made = workbench.window.findChild<LanguageMenu *>();

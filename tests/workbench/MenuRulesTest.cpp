@@ -53,10 +53,11 @@ private Q_SLOTS:
             "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
             "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
             "Program: Analyse, Compile, Export Statements…, Go To Point, Back, All Uses, Results\n"
-            "Points: Read Values, Rename, Add Point…, Remove Point, Fit Columns, Edit Cells, "
-            "Hardware Overrides\n"
+            "Points: Read Values, Rename, Add Point…, Remove Point, Import…, Fit Columns, Edit "
+            "Cells, Hardware Overrides\n"
+            "Controller: Read All, Stop Reading, Read Cyclically, Reading…, Add To Trend, Trend\n"
             "View: Editor, Language, Settings…\n"
-            "Help: Keys, About"_s);
+            "Help: Keys, First Steps, About"_s);
     }
 
     void accessKeysDoNotClash_data()
@@ -121,7 +122,7 @@ private Q_SLOTS:
         QCOMPARE(promising,
                  QStringList({u"Open Project…"_s, u"Save Elsewhere…"_s, u"Export…"_s, u"Print…"_s,
                               u"Find…"_s, u"Replace…"_s, u"Export Statements…"_s, u"Add Point…"_s,
-                              u"Settings…"_s}));
+                              u"Import…"_s, u"Reading…"_s, u"Settings…"_s}));
     }
 
     void keysDoNotClash()
