@@ -107,8 +107,11 @@ std::optional<Options> readOptions(const QCoreApplication &application)
     }
     const QStringList projects = line.parser.positionalArguments();
     return Options{projects.value(0, QStringLiteral(ORVT_SAMPLE_PROJECT)),
-                   line.parser.value(line.screenshot), line.parser.isSet(line.dark),
-                   line.parser.value(line.language), *line.shown(), !projects.isEmpty()};
+                   line.parser.value(line.screenshot),
+                   line.parser.isSet(line.dark),
+                   line.parser.value(line.language),
+                   *line.shown(),
+                   !projects.isEmpty()};
 }
 
 } // namespace ORVTListview

@@ -198,8 +198,8 @@ void MainWindow::buildPointsMenu()
     QAction *remove = points->addAction(tr("Re&move Point"), m_renaming, [this] {
         m_renaming->remove(m_code->CurrentType(), m_view->tables().selectedPoint());
     });
-    QAction *import = points->addAction(
-        tr("&Import…"), this, [this] { m_importing->import(m_code->CurrentType()); });
+    QAction *import = points->addAction(tr("&Import…"), this,
+                                        [this] { m_importing->import(m_code->CurrentType()); });
     connect(points, &QMenu::aboutToShow, this, [this, read, add, remove, rename, import] {
         read->setEnabled(m_reading->canRead(m_code->CurrentType()));
         const bool isTable = m_document->project() && m_code->CurrentType() != dsCode;

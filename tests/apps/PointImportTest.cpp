@@ -67,8 +67,8 @@ TEST_F(PointImport, ColumnsAreFoundByAnyOfTheirNames)
 
 TEST_F(PointImport, WhatIsThereIsChangedAndWhatIsNewIsAdded)
 {
-    const QList<ImportedRow> rows = imported(
-        dsInput, u"Label,Value,Commissioned\nTEMP,21,nein\nNew,Off,\nTemp2,5,yes\n"_s);
+    const QList<ImportedRow> rows =
+        imported(dsInput, u"Label,Value,Commissioned\nTEMP,21,nein\nNew,Off,\nTemp2,5,yes\n"_s);
     ASSERT_EQ(rows.size(), 3);
     EXPECT_EQ(rows[0].fate, Changed);
     EXPECT_EQ(rows[0].row, 0);
@@ -146,8 +146,7 @@ TEST_F(PointImport, AnEmptyCellEmptiesAndAMissingOneToo)
 TEST_F(PointImport, WhatHasNoTickStays)
 {
     const QList<ImportedRow> rows = imported(dsInput, u"name,value\nTemp,1\nNew1,2\nNew2,3\n"_s);
-    const RowChanges changes =
-        importChanges(*m_project, dsInput, rows, {false, false, true});
+    const RowChanges changes = importChanges(*m_project, dsInput, rows, {false, false, true});
     ASSERT_EQ(changes.size(), 1);
     EXPECT_EQ(changes[0].after->name, u"New2"_s);
     EXPECT_EQ(changes[0].row, 2);

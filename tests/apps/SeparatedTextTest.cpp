@@ -35,7 +35,8 @@ TEST(SeparatedText, SeparatorIsGuessed)
 
 TEST(SeparatedText, CellsAreReadAsTheyAreWritten)
 {
-    const CellBlock cells{{u"a,b"_s, u"say \"no\""_s}, {u"two\nlines"_s, QString()}, {u"x"_s, u"y"_s}};
+    const CellBlock cells{
+        {u"a,b"_s, u"say \"no\""_s}, {u"two\nlines"_s, QString()}, {u"x"_s, u"y"_s}};
     EXPECT_EQ(separatedCells(commaText(cells), u','), cells);
 }
 

@@ -76,8 +76,9 @@ private Q_SLOTS:
             names << QString(choice->text()).remove(u'&');
         QCOMPARE(names, QStringList({u"English"_s, u"Deutsch"_s, u"Español"_s, u"Français"_s}));
         choices.at(1)->trigger();
-        QTRY_COMPARE(titles(workbench), QStringList({u"Datei"_s, u"Bearbeiten"_s, u"Programm"_s,
-                                                     u"Punkte"_s, u"Regelgerät"_s, u"Ansicht"_s, u"Hilfe"_s}));
+        QTRY_COMPARE(titles(workbench),
+                     QStringList({u"Datei"_s, u"Bearbeiten"_s, u"Programm"_s, u"Punkte"_s,
+                                  u"Regelgerät"_s, u"Ansicht"_s, u"Hilfe"_s}));
         QCOMPARE(workbench.code().CodeText(), u"xFan1 = ON"_s);
         QVERIFY(workbench.window.isWindowModified());
         const QMenu *made = workbench.window.findChild<LanguageMenu *>();

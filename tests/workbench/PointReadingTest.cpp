@@ -298,11 +298,10 @@ private Q_SLOTS:
         }
         r.document.carryOut(more);
         PointReading *reader = nullptr;
-        SimulatedController controller([&](const AskedPoint &point) {
-            return reader->valueOf(point);
-        });
-        controller.setBehaviour({1, SimulatedBehaviour::Failure(failure),
-                                 SimulatedBehaviour::Mistake(mistake)});
+        SimulatedController controller(
+            [&](const AskedPoint &point) { return reader->valueOf(point); });
+        controller.setBehaviour(
+            {1, SimulatedBehaviour::Failure(failure), SimulatedBehaviour::Mistake(mistake)});
         PointReading reading(r.document, controller);
         reader = &reading;
         reading.read(dsVariable);

@@ -57,7 +57,8 @@ struct Drawn
         const QVariantList values{a, b, s};
         for (qsizetype i = 0; i < 3; ++i) {
             if (values.at(i).isValid())
-                Q_EMIT controller.answered(controller.last, {{{dsInput, names.at(i), 0}, values.at(i)}});
+                Q_EMIT controller.answered(controller.last,
+                                           {{{dsInput, names.at(i), 0}, values.at(i)}});
         }
         Q_EMIT controller.ended(controller.last);
     }
@@ -172,8 +173,8 @@ private Q_SLOTS:
         drawn.read(2.5, 3.0, u"Off"_s);
         QVERIFY(drawn.picture() != empty);
         const QString told = drawn.view.description();
-        const QString numbers = u"A: %1 °C, from %2 °C to %1 °C"_s.arg(
-            QLocale().toString(2.5), QLocale().toString(1.5));
+        const QString numbers = u"A: %1 °C, from %2 °C to %1 °C"_s.arg(QLocale().toString(2.5),
+                                                                       QLocale().toString(1.5));
         QVERIFY2(told.contains(numbers), qPrintable(told));
         QVERIFY2(told.contains(u"S: Off, from Off to On"_s), qPrintable(told));
         QCOMPARE(drawn.view.accessibleDescription(), told);
@@ -234,7 +235,8 @@ private Q_SLOTS:
         QVERIFY(one.least < 7 && one.most > 7);
         for (const double size : {1e-6, 1.0, 1e6, 1e12}) {
             const QList<double> ticks = TrendScale::around(-size, 2 * size).ticks(4);
-            QVERIFY2(ticks.size() >= 2 && ticks.size() <= 4, qPrintable(QString::number(ticks.size())));
+            QVERIFY2(ticks.size() >= 2 && ticks.size() <= 4,
+                     qPrintable(QString::number(ticks.size())));
         }
     }
 

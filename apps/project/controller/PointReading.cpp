@@ -26,9 +26,8 @@ PointReading::PointReading(ProjectDocument &document, Controller &controller, QO
     connect(&controller, &Controller::answered, this, &PointReading::take);
     connect(&controller, &Controller::failed, this, &PointReading::fail);
     connect(&controller, &Controller::ended, this, &PointReading::end);
-    connect(&controller, &QObject::destroyed, this, [this] {
-        fail(m_question.number, tr("The controller is gone"));
-    });
+    connect(&controller, &QObject::destroyed, this,
+            [this] { fail(m_question.number, tr("The controller is gone")); });
     connect(&document, &ProjectDocument::projectReplaced, this, &PointReading::drop);
     connect(&document, &ProjectDocument::tablesChanged, this, [this] { m_rows.reset(); });
 }
@@ -63,8 +62,10 @@ QVariant PointReading::valueOf(const AskedPoint &point) const
 {
     const qsizetype row = m_document.project() ? rows().rowOf(point) : -1;
     return row < 0 ? QVariant()
-                   : m_document.project()->rows(point.type).at(row).cells.value(
-                         valueColumn(point.type));
+                   : m_document.project()
+                         ->rows(point.type)
+                         .at(row)
+                         .cells.value(valueColumn(point.type));
 }
 
 // Asking.
@@ -190,7 +191,8 @@ QString PointReading::faultOf(const AskedPoint &point, const ProjectRow &row,
 QString PointReading::fault() const
 {
     const QStringList &all = m_question.faults;
-    return all.size() < 2 ? all.value(0) : tr("%1, and %2 more").arg(all.first()).arg(all.size() - 1);
+    return all.size() < 2 ? all.value(0)
+                          : tr("%1, and %2 more").arg(all.first()).arg(all.size() - 1);
 }
 
 void PointReading::fail(quint64 question, const QString &reason)

@@ -163,8 +163,7 @@ private:
                 return QVariant(true);
             return isOneOf(text, m_no) ? std::optional(QVariant(false)) : std::nullopt;
         }
-        const std::optional<double> number =
-            kind == CellKind::Text ? std::nullopt : numberOf(text);
+        const std::optional<double> number = kind == CellKind::Text ? std::nullopt : numberOf(text);
         if (number)
             return QVariant(*number);
         return kind == CellKind::Number ? std::nullopt : std::optional(QVariant(text));

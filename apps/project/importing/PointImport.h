@@ -14,10 +14,10 @@ struct ImportedRow
     enum Fate { Added, Changed, Same, Faulty };
 
     Fate fate = Same;
-    QString fault;                      // a sentence without its point
-    qsizetype row = -1;                 // of the table, from 0; -1 for a new one
-    ProjectRow point;                   // as it will be
-    QList<qsizetype> changed = {};      // columns of projectColumns(type)
+    QString fault;                 // a sentence without its point
+    qsizetype row = -1;            // of the table, from 0; -1 for a new one
+    ProjectRow point;              // as it will be
+    QList<qsizetype> changed = {}; // columns of projectColumns(type)
 };
 
 // How the columns of a text belong to those of a table.

@@ -103,7 +103,7 @@ TextEncoding guessedEncoding(const QByteArray &bytes)
     QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString text = utf8(bytes);
     return utf8.hasError() || text.contains(QChar::ReplacementCharacter) ? TextEncoding::Windows1252
-                                                                        : TextEncoding::Utf8;
+                                                                         : TextEncoding::Utf8;
 }
 
 QString decodedText(const QByteArray &bytes, TextEncoding encoding)

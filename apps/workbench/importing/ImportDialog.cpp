@@ -41,8 +41,8 @@ ImportDialog::ImportDialog(const Project &project, LwType type, const QByteArray
 {
     setWindowTitle(tr("Import Points"));
     auto *layout = new QVBoxLayout(this);
-    auto *label = new QLabel(
-        tr("%1 into the table %2:").arg(fileName, Localise(displayName(type))), this);
+    auto *label =
+        new QLabel(tr("%1 into the table %2:").arg(fileName, Localise(displayName(type))), this);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     layout->addWidget(label);

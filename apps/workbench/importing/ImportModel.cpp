@@ -91,7 +91,8 @@ QVariant ImportModel::cell(const ImportedRow &row, qsizetype column, int role) c
     if (!row.changed.contains(column))
         return {};
     if (role == Qt::ToolTipRole)
-        return tr("Before: %1").arg(shown(m_project.rows(m_type).value(row.row).cells.value(column)));
+        return tr("Before: %1")
+            .arg(shown(m_project.rows(m_type).value(row.row).cells.value(column)));
     if (role != Qt::FontRole)
         return {};
     QFont bold;

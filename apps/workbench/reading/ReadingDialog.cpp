@@ -47,8 +47,8 @@ QWidget *ReadingDialog::makeSimulation()
     m_delay->setSingleStep(50);
     m_delay->setSuffix(tr(" ms"));
     m_delay->setValue(m_settings.simulated.delay);
-    m_failure->addItems({tr("None"), tr("Cannot be reached"), tr("Refuses"),
-                         tr("Stops answering in the middle")});
+    m_failure->addItems(
+        {tr("None"), tr("Cannot be reached"), tr("Refuses"), tr("Stops answering in the middle")});
     m_failure->setCurrentIndex(m_settings.simulated.failure);
     m_mistake->addItems({tr("None"), tr("A text for a number"), tr("Values are missing"),
                          tr("A point that nobody asked for")});

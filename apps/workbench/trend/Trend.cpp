@@ -66,8 +66,9 @@ std::optional<TrendLine::Range> TrendLine::range(qint64 from, qint64 to) const
     for (const TrendSample &sample : samples) {
         if (sample.isGap() || sample.when < from || sample.when > to)
             continue;
-        range = range ? Range{std::min(range->least, sample.value), std::max(range->most, sample.value)}
-                      : Range{sample.value, sample.value};
+        range =
+            range ? Range{std::min(range->least, sample.value), std::max(range->most, sample.value)}
+                  : Range{sample.value, sample.value};
     }
     return range;
 }

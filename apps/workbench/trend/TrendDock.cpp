@@ -125,8 +125,8 @@ void TrendDock::showValues()
     for (int line = 0; line < m_legend->topLevelItemCount(); ++line) {
         const TrendLine &drawn = m_trend.lines().at(line);
         QTreeWidgetItem &item = *m_legend->topLevelItem(line);
-        const auto range = drawn.range(std::numeric_limits<qint64>::min(),
-                                       std::numeric_limits<qint64>::max());
+        const auto range =
+            drawn.range(std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max());
         const double last = drawn.samples.empty() ? 0 : drawn.samples.back().value;
         item.setText(1, drawn.samples.empty() ? QString() : drawn.textOf(last, locale()));
         item.setText(2, range ? drawn.textOf(range->least, locale()) : QString());

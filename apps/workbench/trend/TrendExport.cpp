@@ -32,7 +32,8 @@ CellBlock trendCells(const Trend &trend, const QString &timeTitle)
     }
     const QList<qint64> times = trend.times();
     for (const qint64 when : times) {
-        QStringList row{QDateTime::fromMSecsSinceEpoch(when).toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s)};
+        QStringList row{
+            QDateTime::fromMSecsSinceEpoch(when).toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s)};
         for (const TrendLine &line : trend.lines())
             row.append(valueAt(line, when));
         cells.append(row);

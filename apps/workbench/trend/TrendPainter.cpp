@@ -22,9 +22,9 @@ constexpr double markDistance = 28; // at least, in pixels
 // From the last one before a time on.
 auto firstShown(const std::deque<TrendSample> &samples, qint64 begin)
 {
-    const auto first = std::lower_bound(
-        samples.cbegin(), samples.cend(), begin,
-        [](const TrendSample &sample, qint64 when) { return sample.when < when; });
+    const auto first =
+        std::lower_bound(samples.cbegin(), samples.cend(), begin,
+                         [](const TrendSample &sample, qint64 when) { return sample.when < when; });
     return first == samples.cbegin() ? first : std::prev(first);
 }
 
@@ -158,8 +158,7 @@ void TrendPainter::paint(QPainter &painter) const
 void TrendPainter::paintTimes(QPainter &painter) const
 {
     const double width = m_on.fontMetrics().horizontalAdvance(u"00:00:00 "_s) * 1.4;
-    const QList<qint64> ticks =
-        timeTicks(m_begin, m_end, static_cast<int>(m_plot.width() / width));
+    const QList<qint64> ticks = timeTicks(m_begin, m_end, static_cast<int>(m_plot.width() / width));
     const qint64 step = ticks.size() > 1 ? ticks.at(1) - ticks.at(0) : m_end - m_begin;
     for (const qint64 tick : ticks) {
         const double x = xOf(tick);
@@ -187,9 +186,9 @@ void TrendPainter::paintLane(QPainter &painter, const Lane &lane) const
     }
     const QRectF head(lane.place.left(), lane.place.top() - lineHeight() * 1.1, lane.place.width(),
                       lineHeight());
-    painter.drawText(head, Qt::AlignLeft | Qt::AlignVCenter,
-                     m_on.fontMetrics().elidedText(lane.unit, Qt::ElideRight,
-                                                   static_cast<int>(head.width())));
+    painter.drawText(
+        head, Qt::AlignLeft | Qt::AlignVCenter,
+        m_on.fontMetrics().elidedText(lane.unit, Qt::ElideRight, static_cast<int>(head.width())));
     painter.setPen(faint(0.35));
     painter.drawRect(lane.place);
     for (const qsizetype line : lane.lines) {

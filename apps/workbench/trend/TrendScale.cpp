@@ -28,10 +28,9 @@ constexpr qint64 second = 1000;
 constexpr qint64 minute = 60 * second;
 constexpr qint64 hour = 60 * minute;
 constexpr qint64 day = 24 * hour;
-constexpr std::array steps{second,      2 * second,  5 * second,  10 * second, 15 * second,
-                           30 * second, minute,      2 * minute,  5 * minute,  10 * minute,
-                           15 * minute, 30 * minute, hour,        2 * hour,    3 * hour,
-                           6 * hour,    12 * hour,   day};
+constexpr std::array steps{second, 2 * second, 5 * second, 10 * second, 15 * second, 30 * second,
+                           minute, 2 * minute, 5 * minute, 10 * minute, 15 * minute, 30 * minute,
+                           hour,   2 * hour,   3 * hour,   6 * hour,    12 * hour,   day};
 
 } // namespace
 
@@ -66,11 +65,12 @@ QList<qint64> timeTicks(qint64 from, qint64 to, int most)
 {
     const auto fits = [&](qint64 step) { return (to - from) / step <= std::max(1, most); };
     const auto found = std::find_if(steps.begin(), steps.end(), fits);
-    const qint64 step = found == steps.end() ? steps.back() * ((to - from) / day / std::max(1, most) + 1)
-                                             : *found;
+    const qint64 step =
+        found == steps.end() ? steps.back() * ((to - from) / day / std::max(1, most) + 1) : *found;
     const qint64 offset = QDateTime::fromMSecsSinceEpoch(from).offsetFromUtc() * second;
     QList<qint64> ticks;
-    for (qint64 tick = ((from + offset + step - 1) / step) * step - offset; tick <= to; tick += step)
+    for (qint64 tick = ((from + offset + step - 1) / step) * step - offset; tick <= to;
+         tick += step)
         ticks.append(tick);
     return ticks;
 }

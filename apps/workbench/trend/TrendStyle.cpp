@@ -28,8 +28,8 @@ QPolygonF polygon(qsizetype mark, QPointF at, double r)
     case 1: // square
         return QPolygonF(QRectF(at.x() - r, at.y() - r, 2 * r, 2 * r));
     case 2: // triangle
-        return QPolygonF({at + QPointF(0, -1.3 * r), at + QPointF(1.2 * r, r),
-                          at + QPointF(-1.2 * r, r)});
+        return QPolygonF(
+            {at + QPointF(0, -1.3 * r), at + QPointF(1.2 * r, r), at + QPointF(-1.2 * r, r)});
     default: // diamond
         return QPolygonF({at + QPointF(0, -1.4 * r), at + QPointF(1.4 * r, 0),
                           at + QPointF(0, 1.4 * r), at + QPointF(-1.4 * r, 0)});

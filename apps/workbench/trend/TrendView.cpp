@@ -135,9 +135,8 @@ void TrendView::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const bool isEmpty =
-        std::all_of(m_trend.lines().cbegin(), m_trend.lines().cend(),
-                    [](const TrendLine &line) { return line.samples.empty(); });
+    const bool isEmpty = std::all_of(m_trend.lines().cbegin(), m_trend.lines().cend(),
+                                     [](const TrendLine &line) { return line.samples.empty(); });
     if (isEmpty) {
         paintHint(painter);
     } else {
@@ -184,8 +183,8 @@ bool TrendView::walk(int key)
 {
     QList<qint64> times = m_trend.times();
     times.erase(std::upper_bound(times.begin(), times.end(), end()), times.end());
-    const bool isWalk = key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Home ||
-                        key == Qt::Key_End;
+    const bool isWalk =
+        key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Home || key == Qt::Key_End;
     if (!isWalk || times.isEmpty())
         return isWalk;
     const qint64 from = m_cursor.value_or(end() + 1);
