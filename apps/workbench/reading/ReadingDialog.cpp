@@ -9,6 +9,8 @@
 
 namespace ORVTListview {
 
+using namespace Qt::StringLiterals;
+
 ReadingDialog::ReadingDialog(const ReadingSettings &settings, QWidget *parent)
     : QDialog(parent)
     , m_settings(settings)
@@ -33,7 +35,7 @@ QWidget *ReadingDialog::makeCycle()
     auto *part = new QGroupBox(tr("Cyclic reading"), this);
     auto *form = new QFormLayout(part);
     m_seconds->setRange(1, ReadingSettings::mostSeconds);
-    m_seconds->setSuffix(tr(" s"));
+    m_seconds->setSuffix(u" s"_s);
     m_seconds->setValue(m_settings.seconds);
     form->addRow(tr("&Pause between readings:"), m_seconds);
     return part;
@@ -45,7 +47,7 @@ QWidget *ReadingDialog::makeSimulation()
     auto *form = new QFormLayout(part);
     m_delay->setRange(0, ReadingSettings::mostDelay);
     m_delay->setSingleStep(50);
-    m_delay->setSuffix(tr(" ms"));
+    m_delay->setSuffix(u" ms"_s);
     m_delay->setValue(m_settings.simulated.delay);
     m_failure->addItems(
         {tr("None"), tr("Cannot be reached"), tr("Refuses"), tr("Stops answering in the middle")});

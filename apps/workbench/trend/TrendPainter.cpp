@@ -203,7 +203,8 @@ void TrendPainter::paintLine(QPainter &painter, const Lane &lane, qsizetype line
     QPainterPath path;
     bool isOpen = false;
     const std::deque<TrendSample> &samples = m_lines.at(line).samples;
-    for (auto place = firstShown(samples, m_begin); place != samples.cend(); ++place) {
+    for (auto place = firstShown(samples, m_begin); place != samples.cend() && place->when <= m_end;
+         ++place) {
         const TrendSample &sample = *place;
         if (sample.isGap()) {
             isOpen = false;
@@ -233,7 +234,8 @@ void TrendPainter::paintMarks(QPainter &painter, const Lane &lane, qsizetype lin
     painter.setPen(trendPen(line, m_on.palette()));
     double last = -markDistance;
     const std::deque<TrendSample> &samples = m_lines.at(line).samples;
-    for (auto place = firstShown(samples, m_begin); place != samples.cend(); ++place) {
+    for (auto place = firstShown(samples, m_begin); place != samples.cend() && place->when <= m_end;
+         ++place) {
         const TrendSample &sample = *place;
         const double x = xOf(sample.when);
         if (sample.isGap() || x - last < markDistance)
