@@ -271,6 +271,29 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ControllerPart</name>
+    <message>
+        <source>The values have been read.</source>
+        <translation>Die Werte sind gelesen.</translation>
+    </message>
+    <message>
+        <source>There are no values to read here.</source>
+        <translation>Hier gibt es keine Werte zu lesen.</translation>
+    </message>
+    <message>
+        <source>Select rows of a table with values first.</source>
+        <translation>Wählen Sie zuerst Zeilen einer Tabelle mit Werten.</translation>
+    </message>
+    <message>
+        <source>The trend is full: remove points from it first.</source>
+        <translation>Der Trend ist voll: Entfernen Sie zuerst Punkte daraus.</translation>
+    </message>
+    <message>
+        <source>There is nothing new to draw in the selected rows.</source>
+        <translation>In den gewählten Zeilen gibt es nichts Neues zu zeichnen.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -787,10 +810,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <translation>&amp;Spalten anpassen</translation>
     </message>
     <message>
-        <source>The values have been read.</source>
-        <translation>Die Werte sind gelesen.</translation>
-    </message>
-    <message>
         <source>Rename</source>
         <translation>Umbenennen</translation>
     </message>
@@ -845,14 +864,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
     <message>
         <source>&amp;Import…</source>
         <translation>Impor&amp;tieren…</translation>
-    </message>
-    <message>
-        <source>There are no values to read here.</source>
-        <translation>Hier gibt es keine Werte zu lesen.</translation>
-    </message>
-    <message>
-        <source>Select rows of a table with values first.</source>
-        <translation>Wählen Sie zuerst Zeilen einer Tabelle mit Werten.</translation>
     </message>
 </context>
 <context>

@@ -271,6 +271,29 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ControllerPart</name>
+    <message>
+        <source>The values have been read.</source>
+        <translation>Se han leído los valores.</translation>
+    </message>
+    <message>
+        <source>There are no values to read here.</source>
+        <translation>Aquí no hay valores que leer.</translation>
+    </message>
+    <message>
+        <source>Select rows of a table with values first.</source>
+        <translation>Seleccione primero filas de una tabla con valores.</translation>
+    </message>
+    <message>
+        <source>The trend is full: remove points from it first.</source>
+        <translation>La tendencia está llena: quite primero puntos de ella.</translation>
+    </message>
+    <message>
+        <source>There is nothing new to draw in the selected rows.</source>
+        <translation>No hay nada nuevo que trazar en las filas elegidas.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -787,10 +810,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <translation>&amp;Ajustar columnas</translation>
     </message>
     <message>
-        <source>The values have been read.</source>
-        <translation>Se han leído los valores.</translation>
-    </message>
-    <message>
         <source>Rename</source>
         <translation>Cambiar nombre</translation>
     </message>
@@ -845,14 +864,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
     <message>
         <source>&amp;Import…</source>
         <translation>&amp;Importar…</translation>
-    </message>
-    <message>
-        <source>There are no values to read here.</source>
-        <translation>Aquí no hay valores que leer.</translation>
-    </message>
-    <message>
-        <source>Select rows of a table with values first.</source>
-        <translation>Seleccione primero filas de una tabla con valores.</translation>
     </message>
 </context>
 <context>

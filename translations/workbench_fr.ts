@@ -271,6 +271,29 @@
     </message>
 </context>
 <context>
+    <name>ORVTListview::ControllerPart</name>
+    <message>
+        <source>The values have been read.</source>
+        <translation>Les valeurs ont été lues.</translation>
+    </message>
+    <message>
+        <source>There are no values to read here.</source>
+        <translation>Il n’y a aucune valeur à lire ici.</translation>
+    </message>
+    <message>
+        <source>Select rows of a table with values first.</source>
+        <translation>Sélectionnez d’abord des lignes d’un tableau avec des valeurs.</translation>
+    </message>
+    <message>
+        <source>The trend is full: remove points from it first.</source>
+        <translation>La courbe est pleine&#xa0;: retirez-en d’abord des points.</translation>
+    </message>
+    <message>
+        <source>There is nothing new to draw in the selected rows.</source>
+        <translation>Il n’y a rien de nouveau à tracer dans les lignes choisies.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -554,7 +577,7 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     </message>
     <message>
         <source>&amp;First Steps</source>
-        <translation>&amp;Premiers pas</translation>
+        <translation>P&amp;remiers pas</translation>
     </message>
 </context>
 <context>
@@ -787,10 +810,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <translation>&amp;Ajuster les colonnes</translation>
     </message>
     <message>
-        <source>The values have been read.</source>
-        <translation>Les valeurs ont été lues.</translation>
-    </message>
-    <message>
         <source>Rename</source>
         <translation>Renommer</translation>
     </message>
@@ -845,14 +864,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     <message>
         <source>&amp;Import…</source>
         <translation>&amp;Importer…</translation>
-    </message>
-    <message>
-        <source>There are no values to read here.</source>
-        <translation>Il n’y a aucune valeur à lire ici.</translation>
-    </message>
-    <message>
-        <source>Select rows of a table with values first.</source>
-        <translation>Sélectionnez d’abord des lignes d’un tableau avec des valeurs.</translation>
     </message>
 </context>
 <context>

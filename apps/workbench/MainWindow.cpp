@@ -22,27 +22,20 @@
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "project/controller/PointReading.h"
-#include "project/controller/SimulatedController.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/help/FirstSteps.h"
 #include "workbench/help/HelpMenu.h"
 #include "workbench/importing/PointImporting.h"
-#include "workbench/reading/ControllerMenu.h"
-#include "workbench/reading/ReadingDialog.h"
-#include "workbench/reading/ReadingStatus.h"
+#include "workbench/reading/ControllerPart.h"
 #include "workbench/renaming/PointRenaming.h"
 #include "workbench/renaming/ProjectHistory.h"
 #include "workbench/saving/ProjectSaving.h"
 #include "workbench/saving/RecoveryKeeper.h"
 #include "workbench/saving/RecoveryOffer.h"
 #include "workbench/settings/SettingsDialog.h"
-#include "workbench/trend/Trend.h"
-#include "workbench/trend/TrendDock.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
-#include <ORVTListview/ListGrid.h>
-#include <ORVTListview/ReportList.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QEvent>
@@ -59,7 +52,6 @@
 #include <QtWidgets/QStatusBar>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace ORVTListview {
@@ -74,9 +66,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_document(new ProjectDocument({[this] { return m_code->CodeText(); },
                                       [this] { return m_code->RTextBox()->TextLength(); }},
                                      this))
-    , m_controller(new SimulatedController(
-          [this](const AskedPoint &point) { return m_reading->valueOf(point); }, this))
-    , m_reading(new PointReading(*m_document, *m_controller, this))
+    , m_controller(new ControllerPart(*m_document, *this))
     , m_view(new ProjectView(*m_document, this))
     , m_fault(new OpeningFault(this))
     , m_firstSteps(new FirstSteps(this))
@@ -88,14 +78,11 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_recovery(new RecoveryKeeper(*m_document, this))
     , m_offer(new RecoveryOffer(*m_document, *m_recovery, *m_code, *this))
     , m_export(new Exporting(*m_code, *this))
-    , m_values(new PointValues(*m_code->codeView(), *m_reading, this))
+    , m_values(new PointValues(*m_code->codeView(), m_controller->reading(), this))
     , m_results(new CheckResults(this))
     , m_analysis(new LiveAnalysis(*m_code->codeView(), *m_code->RTextBox(), this))
     , m_navigation(new ProgramNavigation(*m_view, *m_analysis, *m_results, this))
-    , m_trend(new Trend(*m_document, *m_reading, this))
-    , m_trendDock(new TrendDock(*m_trend, this))
     , m_programInfo(new QLabel(this))
-    , m_readingStatus(new ReadingStatus(*m_reading, this))
     , m_opening(new OpeningProgress(*m_code->codeView(), this))
     , m_position(new QLabel(this))
 {
@@ -108,8 +95,6 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
-    addDockWidget(Qt::BottomDockWidgetArea, m_trendDock);
-    m_trendDock->hide();
     EditorViewMenu::switchOn(*m_code->codeView());
     buildMenus();
     buildStatusBar();
@@ -131,7 +116,7 @@ void MainWindow::buildMenus()
     buildEditMenu();
     buildProgramMenu();
     buildPointsMenu();
-    buildControllerMenu();
+    m_controller->addMenu(*menuBar());
     buildViewMenu();
     buildHelpMenu();
 }
@@ -188,8 +173,9 @@ void MainWindow::buildProgramMenu()
 void MainWindow::buildPointsMenu()
 {
     QMenu *points = menuBar()->addMenu(tr("P&oints"));
-    QAction *read = points->addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), this,
-                                      [this] { m_reading->read(m_code->CurrentType()); });
+    QAction *read = points->addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), this, [this] {
+        m_controller->reading().read(m_code->CurrentType());
+    });
     QAction *rename = points->addAction(tr("Re&name"), &m_view->tables(), &PointTables::editName);
     rename->setShortcut(QKeySequence(Qt::Key_F2));
     rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
@@ -201,7 +187,7 @@ void MainWindow::buildPointsMenu()
     QAction *import = points->addAction(tr("&Import…"), this,
                                         [this] { m_importing->import(m_code->CurrentType()); });
     connect(points, &QMenu::aboutToShow, this, [this, read, add, remove, rename, import] {
-        read->setEnabled(m_reading->canRead(m_code->CurrentType()));
+        read->setEnabled(m_controller->reading().canRead(m_code->CurrentType()));
         const bool isTable = m_document->project() && m_code->CurrentType() != dsCode;
         const bool isPoint = isTable && m_view->tables().selectedPoint() >= 0;
         add->setEnabled(isTable);
@@ -220,14 +206,6 @@ void MainWindow::buildPointsMenu()
     connect(overrides, &QAction::triggered, &m_view->tables(), &PointTables::setShowsOverrides);
     connect(points, &QMenu::aboutToShow, overrides,
             [this, overrides] { overrides->setChecked(m_view->tables().showsOverrides()); });
-}
-
-void MainWindow::buildControllerMenu()
-{
-    auto *menu = new ControllerMenu(*m_reading, *m_trendDock, menuBar());
-    menuBar()->addMenu(menu);
-    connect(menu, &ControllerMenu::settingsWanted, this, &MainWindow::chooseReading);
-    connect(menu, &ControllerMenu::trendWanted, this, &MainWindow::addToTrend);
 }
 
 void MainWindow::buildHelpMenu()
@@ -259,7 +237,6 @@ void MainWindow::buildStatusBar()
 {
     m_programInfo->setContentsMargins(3, 0, 0, 0); // in line with the program
     statusBar()->addWidget(m_programInfo);
-    statusBar()->addPermanentWidget(m_readingStatus);
     statusBar()->addPermanentWidget(m_opening);
     m_opening->hide(); // the bar shows what it takes
     statusBar()->addPermanentWidget(m_position);
@@ -311,20 +288,15 @@ void MainWindow::connectPoints()
 
 void MainWindow::connectReading()
 {
-    m_view->tables().setReading(*m_reading);
-    connect(m_code, &ORVListView::QueryRead, this, [this](const LwType &type) {
-        if (!m_reading->canRead(type))
-            statusBar()->showMessage(tr("There are no values to read here."), 5000);
-    });
-    connect(m_readingStatus, &ReadingStatus::succeeded, this,
-            [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
+    m_controller->serve(*m_code, m_view->tables());
+    connect(m_controller, &ControllerPart::settingsChosen, this,
+            [this](const ReadingSettings &reading) {
+                Settings settings = m_settings;
+                settings.reading = reading;
+                decide(settings);
+            });
     connect(m_importing, &PointImporting::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(m_trendDock, &TrendDock::cyclicWanted, this, &MainWindow::setCyclic);
-    connect(m_code->listView()->grid(), &ListGrid::menuOpening, this, [this](QMenu *menu) {
-        if (!m_view->tables().selectedPoints().isEmpty())
-            menu->addAction(ControllerMenu::tr("A&dd To Trend"), this, &MainWindow::addToTrend);
-    });
 }
 
 // The page goes when something else is shown.
@@ -366,34 +338,6 @@ void MainWindow::showPage()
     const bool isView = m_pages->currentWidget() == m_view;
     m_programInfo->setVisible(isView);
     m_position->setVisible(isView && m_code->CurrentType() == dsCode);
-}
-
-void MainWindow::addToTrend()
-{
-    const QList<qsizetype> points = m_view->tables().selectedPoints();
-    for (const qsizetype row : points)
-        m_trend->add(m_code->CurrentType(), row);
-    if (points.isEmpty())
-        statusBar()->showMessage(tr("Select rows of a table with values first."), 5000);
-    else
-        m_trendDock->show();
-}
-
-void MainWindow::setCyclic(bool on)
-{
-    Settings settings = m_settings;
-    settings.reading.isCyclic = on;
-    decide(settings);
-}
-
-void MainWindow::chooseReading()
-{
-    ReadingDialog dialog(m_settings.reading, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    Settings settings = m_settings;
-    settings.reading = dialog.settings();
-    decide(settings);
 }
 
 void MainWindow::connectSaving()
@@ -519,10 +463,7 @@ void MainWindow::setSettings(const Settings &settings)
     if (settings.language != former.language)
         m_languages.setLanguage(settings.language.value_or(QLocale::system()));
     useTheme(settings.theme);
-    const ReadingSettings &reading = settings.reading;
-    m_controller->setBehaviour(reading.simulated);
-    m_reading->setPause(std::chrono::seconds(reading.isCyclic ? reading.seconds : 0));
-    m_trendDock->cyclicAction().setChecked(reading.isCyclic);
+    m_controller->setSettings(settings.reading);
     if (settings.look != former.look && m_document->project())
         applyAppearance();
 }
@@ -592,8 +533,7 @@ void MainWindow::retranslate()
     m_results->retranslate();
     m_analysis->retranslate();
     m_opening->retranslate();
-    m_readingStatus->retranslate();
-    m_trendDock->retranslate();
+    m_controller->retranslate();
     m_firstSteps->retranslate();
     qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
     menuBar()->clear();

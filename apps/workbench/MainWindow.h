@@ -15,6 +15,7 @@ class QStackedWidget;
 namespace ORVTListview {
 
 class CheckResults;
+class ControllerPart;
 class EditMenu;
 class Exporting;
 class FirstSteps;
@@ -25,19 +26,14 @@ class OpeningFault;
 class ProgramNavigation;
 class PointChooser;
 class PointImporting;
-class PointReading;
 class PointRenaming;
 class PointValues;
 class ProjectDocument;
 class ProjectHistory;
 class ProjectSaving;
 class ProjectView;
-class ReadingStatus;
 class RecoveryKeeper;
 class RecoveryOffer;
-class SimulatedController;
-class Trend;
-class TrendDock;
 struct ListedStatement;
 
 // A small host: shows a project in the library's components.
@@ -88,7 +84,6 @@ private:
     void buildProgramMenu();
     void buildPointsMenu();
     void buildViewMenu();
-    void buildControllerMenu();
     void buildHelpMenu();
     void buildStatusBar();
     void connectEditor();
@@ -100,9 +95,6 @@ private:
     void openByHand(const QString &fileName);
     void showProgram();
     void showSample();
-    void chooseReading();
-    void setCyclic(bool on);
-    void addToTrend();
     void showPage();
     void chooseSettings();
     void decide(const Settings &settings);
@@ -123,8 +115,7 @@ private:
     PointChooser *m_points; // made in the order of the Tab key
     QStackedWidget *m_pages;
     ProjectDocument *m_document;
-    SimulatedController *m_controller;
-    PointReading *m_reading;
+    ControllerPart *m_controller;
     ProjectView *m_view;
     OpeningFault *m_fault;
     FirstSteps *m_firstSteps;
@@ -140,10 +131,7 @@ private:
     CheckResults *m_results;
     LiveAnalysis *m_analysis;
     ProgramNavigation *m_navigation;
-    Trend *m_trend;
-    TrendDock *m_trendDock;
     QLabel *m_programInfo;
-    ReadingStatus *m_readingStatus;
     OpeningProgress *m_opening;
     QLabel *m_position;
 };

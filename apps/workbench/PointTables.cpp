@@ -213,6 +213,16 @@ void PointTables::takeName(qint16 &cancel, const QString &name)
             this, [this, type, name] { correctName(type, name); }, Qt::QueuedConnection);
 }
 
+LwType PointTables::type() const
+{
+    return m_list.CurrentType();
+}
+
+bool PointTables::hasFocus() const
+{
+    return m_list.listView()->hasFocus();
+}
+
 qsizetype PointTables::selectedPoint() const
 {
     return pointOf(m_list.SelectedItem());

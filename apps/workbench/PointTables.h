@@ -45,6 +45,10 @@ public:
     // Selects the point's row in the table that is shown.
     void goTo(const QString &name);
 
+    // What the view shows, and whether the user works in it.
+    LwType type() const;
+    bool hasFocus() const;
+
     // The point of the selected row, from 0; -1 for none.
     qsizetype selectedPoint() const;
 

@@ -112,6 +112,15 @@ private Q_SLOTS:
         QCOMPARE(w.value(1), u"20.5"_s);
     }
 
+    void theWindowMayGoWhileReading()
+    {
+        Controlled w;
+        w.window.showType(dsInput);
+        w.behave({60000});
+        w.choose(u"Read Values"_s);
+        QVERIFY(w.status().isVisible());
+    }
+
     void whereNothingCanBeReadNothingIs()
     {
         Controlled w;

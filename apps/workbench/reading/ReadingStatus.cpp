@@ -26,8 +26,8 @@ ReadingStatus::ReadingStatus(PointReading &reading, QWidget *parent)
     m_text->setMinimumWidth(1); // a small window stays small
     m_stop->setAutoRaise(true);
     m_stop->setFocusPolicy(Qt::TabFocus); // a click leaves the focus in the table
-    retranslate();
     hide();
+    retranslate();
     connect(m_stop, &QToolButton::clicked, &reading, &PointReading::stop);
     connect(&reading, &PointReading::begun, this, &ReadingStatus::showProgress);
     connect(&reading, &PointReading::valuesRead, this, [this] {
@@ -37,6 +37,7 @@ ReadingStatus::ReadingStatus(PointReading &reading, QWidget *parent)
     connect(&reading, &PointReading::ended, this, &ReadingStatus::showEnd);
     connect(&reading, &PointReading::dropped, this, [this] {
         m_isWanted = false;
+        tell({});
         hide();
     });
 }
