@@ -520,6 +520,10 @@ Free software under the MIT licence. It stands on Qt %1.</source>
 
 Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         </message>
+        <message>
+            <source>&amp;First Steps</source>
+            <translation>&amp;Erste Schritte</translation>
+        </message>
     </context>
     <context>
         <name>ORVTListview::KeyList</name>
@@ -719,6 +723,10 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <message>
             <source>The project of the last time is open again.</source>
             <translation>Das Projekt vom letzten Mal ist wieder geöffnet.</translation>
+        </message>
+        <message>
+            <source>&amp;Import…</source>
+            <translation>Impor&amp;tieren…</translation>
         </message>
     </context>
     <context>
@@ -1428,6 +1436,26 @@ Diese Änderungen überschreiben?</translation>
             <source>no folder takes a recovery file</source>
             <translation>Kein Ordner nimmt eine Wiederherstellungsdatei auf</translation>
         </message>
+        <message>
+            <source>"%1" comes twice</source>
+            <translation>„%1“ kommt zweimal vor</translation>
+        </message>
+        <message>
+            <source>"%1" is not the number of a row</source>
+            <translation>„%1“ ist keine Zeilennummer</translation>
+        </message>
+        <message>
+            <source>The table is full</source>
+            <translation>Die Tabelle ist voll</translation>
+        </message>
+        <message>
+            <source>"%1" is neither yes nor no</source>
+            <translation>„%1“ ist weder ja noch nein</translation>
+        </message>
+        <message>
+            <source>"%1" is not a number</source>
+            <translation>„%1“ ist keine Zahl</translation>
+        </message>
     </context>
     <context>
         <name>StatementExport</name>
@@ -1628,6 +1656,418 @@ Aus der Liste nehmen?</translation>
         <message>
             <source>Projects that were opened &amp;last:</source>
             <translation>&amp;Zuletzt geöffnete Projekte:</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ControllerMenu</name>
+        <message>
+            <source>A&amp;dd To Trend</source>
+            <translation>&amp;In den Trend aufnehmen</translation>
+        </message>
+        <message>
+            <source>&amp;Controller</source>
+            <translation>&amp;Regelgerät</translation>
+        </message>
+        <message>
+            <source>Read &amp;All</source>
+            <translation>&amp;Alles lesen</translation>
+        </message>
+        <message>
+            <source>&amp;Stop Reading</source>
+            <translation>Lesen an&amp;halten</translation>
+        </message>
+        <message>
+            <source>&amp;Reading…</source>
+            <translation>&amp;Lesen…</translation>
+        </message>
+        <message>
+            <source>&amp;Trend</source>
+            <translation>&amp;Trend</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ControllerPart</name>
+        <message>
+            <source>The values have been read.</source>
+            <translation>Die Werte sind gelesen.</translation>
+        </message>
+        <message>
+            <source>There are no values to read here.</source>
+            <translation>Hier gibt es keine Werte zu lesen.</translation>
+        </message>
+        <message>
+            <source>Select rows of a table with values first.</source>
+            <translation>Wählen Sie zuerst Zeilen einer Tabelle mit Werten.</translation>
+        </message>
+        <message>
+            <source>The trend is full: remove points from it first.</source>
+            <translation>Der Trend ist voll: Entfernen Sie zuerst Punkte daraus.</translation>
+        </message>
+        <message>
+            <source>There is nothing new to draw in the selected rows.</source>
+            <translation>In den gewählten Zeilen gibt es nichts Neues zu zeichnen.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::FirstSteps</name>
+        <message>
+            <source>First steps</source>
+            <translation>Erste Schritte</translation>
+        </message>
+        <message>
+            <source>The workbench writes, checks and shows the program of a controller, and the tables of its points. At the left is the tree of the project: it leads to the program and to each table. The controller behind it is a simulated one, so nothing can break.</source>
+            <translation>Die Werkbank schreibt, prüft und zeigt das Programm eines Regelgeräts und die Tabellen seiner Punkte. Links steht der Baum des Projekts: Er führt zum Programm und zu jeder Tabelle. Das Regelgerät dahinter ist simuliert, es kann also nichts kaputtgehen.</translation>
+        </message>
+        <message>
+            <source>Look at the &amp;Sample</source>
+            <translation>&amp;Beispiel ansehen</translation>
+        </message>
+        <message>
+            <source>An air handling unit with its program and all twelve tables. Change what you like: nothing is saved unless you say so.</source>
+            <translation>Eine Lüftungsanlage mit ihrem Programm und allen zwölf Tabellen. Ändern Sie, was Sie möchten: Gespeichert wird nur, wenn Sie es sagen.</translation>
+        </message>
+        <message>
+            <source>&amp;Open a Project…</source>
+            <translation>Projekt ö&amp;ffnen…</translation>
+        </message>
+        <message>
+            <source>A project is a file in JSON with its program beside it. To begin one of your own, take a copy of the sample by Save Elsewhere.</source>
+            <translation>Ein Projekt ist eine JSON-Datei mit ihrem Programm daneben. Ein eigenes beginnen Sie mit einer Kopie des Beispiels: „Woanders speichern“.</translation>
+        </message>
+        <message>
+            <source>&amp;Keys</source>
+            <translation>&amp;Tasten</translation>
+        </message>
+        <message>
+            <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>
+            <translation>Alles geht mit der Tastatur. F1 listet alle Tasten, F6 prüft das Programm, F5 liest die Werte, Strg+Leertaste listet bekannte Wörter.</translation>
+        </message>
+        <message>
+            <source>&amp;Begin</source>
+            <translation>&amp;Los geht’s</translation>
+        </message>
+        <message>
+            <source>This page comes back by Help, First Steps.</source>
+            <translation>Diese Seite kommt mit „Hilfe, Erste Schritte“ wieder.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ImportDialog</name>
+        <message>
+            <source>The first line has the &amp;heads</source>
+            <translation>Die erste Zeile enthält die &amp;Überschriften</translation>
+        </message>
+        <message>
+            <source>Import Points</source>
+            <translation>Punkte importieren</translation>
+        </message>
+        <message>
+            <source>%1 into the table %2:</source>
+            <translation>%1 in die Tabelle %2:</translation>
+        </message>
+        <message>
+            <source>Comma</source>
+            <translation>Komma</translation>
+        </message>
+        <message>
+            <source>Semicolon</source>
+            <translation>Semikolon</translation>
+        </message>
+        <message>
+            <source>Tab</source>
+            <translation>Tabulator</translation>
+        </message>
+        <message>
+            <source>&amp;Encoding:</source>
+            <translation>&amp;Kodierung:</translation>
+        </message>
+        <message>
+            <source>&amp;Separator:</source>
+            <translation>&amp;Trennzeichen:</translation>
+        </message>
+        <message>
+            <source>Columns</source>
+            <translation>Spalten</translation>
+        </message>
+        <message>
+            <source>&amp;Import</source>
+            <translation>&amp;Importieren</translation>
+        </message>
+        <message>
+            <source>&amp;All</source>
+            <translation>&amp;Alle</translation>
+        </message>
+        <message>
+            <source>&amp;None</source>
+            <translation>Kei&amp;ne</translation>
+        </message>
+        <message>
+            <source>(none)</source>
+            <translation>(keine)</translation>
+        </message>
+        <message>
+            <source>Column %1</source>
+            <translation>Spalte %1</translation>
+        </message>
+        <message>
+            <source>Added: %1. Changed: %2. Left alone: %3. Not possible: %4. Ticked: %5.</source>
+            <translation>Neu: %1. Geändert: %2. Unverändert: %3. Nicht möglich: %4. Angehakt: %5.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ImportModel</name>
+        <message>
+            <source>Added</source>
+            <translation>Kommt hinzu</translation>
+        </message>
+        <message>
+            <source>Changed</source>
+            <translation>Ändert sich</translation>
+        </message>
+        <message>
+            <source>Left alone</source>
+            <translation>Bleibt</translation>
+        </message>
+        <message>
+            <source>Not possible: %1</source>
+            <translation>Nicht möglich: %1</translation>
+        </message>
+        <message>
+            <source>Before: %1</source>
+            <translation>Vorher: %1</translation>
+        </message>
+        <message>
+            <source>Line</source>
+            <translation>Zeile</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Import</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::PointImporting</name>
+        <message>
+            <source>Import Points</source>
+            <translation>Punkte importieren</translation>
+        </message>
+        <message>
+            <source>Tables as text (*.csv *.tsv *.txt)</source>
+            <translation>Tabellen als Text (*.csv *.tsv *.txt)</translation>
+        </message>
+        <message>
+            <source>All files (*)</source>
+            <translation>Alle Dateien (*)</translation>
+        </message>
+        <message>
+            <source>Points imported: %1</source>
+            <translation>Importierte Punkte: %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::PointReading</name>
+        <message>
+            <source>The controller is gone</source>
+            <translation>Das Regelgerät ist nicht mehr da</translation>
+        </message>
+        <message>
+            <source>It answered for "%1", which was not asked for</source>
+            <translation>Es hat für „%1“ geantwortet, wonach nicht gefragt war</translation>
+        </message>
+        <message>
+            <source>%1: "%2" is not a number</source>
+            <translation>%1: „%2“ ist keine Zahl</translation>
+        </message>
+        <message>
+            <source>%1, and %2 more</source>
+            <translation>%1, und %2 weitere</translation>
+        </message>
+        <message>
+            <source>Values are missing</source>
+            <translation>Werte fehlen</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ReadingDialog</name>
+        <message>
+            <source>Reading</source>
+            <translation>Lesen</translation>
+        </message>
+        <message>
+            <source>Cyclic reading</source>
+            <translation>Zyklisches Lesen</translation>
+        </message>
+        <message>
+            <source>&amp;Pause between readings:</source>
+            <translation>&amp;Pause zwischen zwei Lesungen:</translation>
+        </message>
+        <message>
+            <source>Simulated controller</source>
+            <translation>Simuliertes Regelgerät</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Keine</translation>
+        </message>
+        <message>
+            <source>Cannot be reached</source>
+            <translation>Ist nicht zu erreichen</translation>
+        </message>
+        <message>
+            <source>Refuses</source>
+            <translation>Weigert sich</translation>
+        </message>
+        <message>
+            <source>Stops answering in the middle</source>
+            <translation>Bricht mittendrin ab</translation>
+        </message>
+        <message>
+            <source>A text for a number</source>
+            <translation>Ein Text statt einer Zahl</translation>
+        </message>
+        <message>
+            <source>Values are missing</source>
+            <translation>Werte fehlen</translation>
+        </message>
+        <message>
+            <source>A point that nobody asked for</source>
+            <translation>Ein Punkt, nach dem niemand gefragt hat</translation>
+        </message>
+        <message>
+            <source>&amp;Time for an answer:</source>
+            <translation>&amp;Zeit für eine Antwort:</translation>
+        </message>
+        <message>
+            <source>&amp;Failure:</source>
+            <translation>&amp;Ausfall:</translation>
+        </message>
+        <message>
+            <source>&amp;Wrong answers:</source>
+            <translation>&amp;Falsche Antworten:</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ReadingStatus</name>
+        <message>
+            <source>Stop</source>
+            <translation>Anhalten</translation>
+        </message>
+        <message>
+            <source>Stop reading; what has been read stays</source>
+            <translation>Hört auf zu lesen; was gelesen ist, bleibt</translation>
+        </message>
+        <message>
+            <source>Reading values: %1 of %2</source>
+            <translation>Werte werden gelesen: %1 von %2</translation>
+        </message>
+        <message>
+            <source>Stopped</source>
+            <translation>Angehalten</translation>
+        </message>
+        <message>
+            <source>%1. Values read: %2 of %3.</source>
+            <translation>%1. Gelesene Werte: %2 von %3.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::SimulatedController</name>
+        <message>
+            <source>The controller refuses to tell its values</source>
+            <translation>Das Regelgerät gibt seine Werte nicht heraus</translation>
+        </message>
+        <message>
+            <source>The controller has stopped answering</source>
+            <translation>Das Regelgerät antwortet nicht mehr</translation>
+        </message>
+        <message>
+            <source>The controller cannot be reached</source>
+            <translation>Das Regelgerät ist nicht zu erreichen</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::TrendDock</name>
+        <message>
+            <source>Trend</source>
+            <translation>Trend</translation>
+        </message>
+        <message>
+            <source>Drawn points</source>
+            <translation>Gezeichnete Punkte</translation>
+        </message>
+        <message>
+            <source>Point</source>
+            <translation>Punkt</translation>
+        </message>
+        <message>
+            <source>Value</source>
+            <translation>Wert</translation>
+        </message>
+        <message>
+            <source>Least</source>
+            <translation>Kleinster</translation>
+        </message>
+        <message>
+            <source>Most</source>
+            <translation>Größter</translation>
+        </message>
+        <message>
+            <source>Read &amp;Cyclically</source>
+            <translation>&amp;Zyklisch lesen</translation>
+        </message>
+        <message>
+            <source>Pause</source>
+            <translation>Anhalten</translation>
+        </message>
+        <message>
+            <source>Zoom In</source>
+            <translation>Vergrößern</translation>
+        </message>
+        <message>
+            <source>Zoom Out</source>
+            <translation>Verkleinern</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Entfernen</translation>
+        </message>
+        <message>
+            <source>Clear</source>
+            <translation>Leeren</translation>
+        </message>
+        <message>
+            <source>Export…</source>
+            <translation>Exportieren…</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>Zeit</translation>
+        </message>
+        <message>
+            <source>Export Trend</source>
+            <translation>Trend exportieren</translation>
+        </message>
+        <message>
+            <source>Table with commas (*.csv)</source>
+            <translation>Tabelle mit Kommas (*.csv)</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::TrendView</name>
+        <message>
+            <source>%1: not read</source>
+            <translation>%1: nicht gelesen</translation>
+        </message>
+        <message>
+            <source>%1: %2, from %3 to %4</source>
+            <translation>%1: %2, von %3 bis %4</translation>
+        </message>
+        <message>
+            <source>No point is drawn yet. Select rows of a table and choose Add To Trend.</source>
+            <translation>Noch wird kein Punkt gezeichnet. Wählen Sie Zeilen einer Tabelle und dann „In den Trend aufnehmen“.</translation>
+        </message>
+        <message>
+            <source>Nothing has been read yet. Read Values reads once, Read Cyclically again and again.</source>
+            <translation>Noch ist nichts gelesen. „Werte lesen“ liest einmal, „Zyklisch lesen“ immer wieder.</translation>
         </message>
     </context>
 </TS>

@@ -520,6 +520,10 @@ Free software under the MIT licence. It stands on Qt %1.</source>
 
 Software libre con licencia MIT. Se basa en Qt %1.</translation>
         </message>
+        <message>
+            <source>&amp;First Steps</source>
+            <translation>&amp;Primeros pasos</translation>
+        </message>
     </context>
     <context>
         <name>ORVTListview::KeyList</name>
@@ -719,6 +723,10 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <message>
             <source>The project of the last time is open again.</source>
             <translation>El proyecto de la última vez está abierto de nuevo.</translation>
+        </message>
+        <message>
+            <source>&amp;Import…</source>
+            <translation>&amp;Importar…</translation>
         </message>
     </context>
     <context>
@@ -1428,6 +1436,26 @@ Overwrite those changes?</source>
             <source>no folder takes a recovery file</source>
             <translation>ninguna carpeta admite un archivo de recuperación</translation>
         </message>
+        <message>
+            <source>"%1" comes twice</source>
+            <translation>«%1» aparece dos veces</translation>
+        </message>
+        <message>
+            <source>"%1" is not the number of a row</source>
+            <translation>«%1» no es el número de una fila</translation>
+        </message>
+        <message>
+            <source>The table is full</source>
+            <translation>La tabla está llena</translation>
+        </message>
+        <message>
+            <source>"%1" is neither yes nor no</source>
+            <translation>«%1» no es ni sí ni no</translation>
+        </message>
+        <message>
+            <source>"%1" is not a number</source>
+            <translation>«%1» no es un número</translation>
+        </message>
     </context>
     <context>
         <name>StatementExport</name>
@@ -1628,6 +1656,418 @@ Take it off the list?</source>
         <message>
             <source>Projects that were opened &amp;last:</source>
             <translation>Proyectos abiertos ú&amp;ltimamente:</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ControllerMenu</name>
+        <message>
+            <source>A&amp;dd To Trend</source>
+            <translation>&amp;Añadir a la tendencia</translation>
+        </message>
+        <message>
+            <source>&amp;Controller</source>
+            <translation>&amp;Controlador</translation>
+        </message>
+        <message>
+            <source>Read &amp;All</source>
+            <translation>Leer &amp;todo</translation>
+        </message>
+        <message>
+            <source>&amp;Stop Reading</source>
+            <translation>&amp;Detener la lectura</translation>
+        </message>
+        <message>
+            <source>&amp;Reading…</source>
+            <translation>&amp;Lectura…</translation>
+        </message>
+        <message>
+            <source>&amp;Trend</source>
+            <translation>T&amp;endencia</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ControllerPart</name>
+        <message>
+            <source>The values have been read.</source>
+            <translation>Se han leído los valores.</translation>
+        </message>
+        <message>
+            <source>There are no values to read here.</source>
+            <translation>Aquí no hay valores que leer.</translation>
+        </message>
+        <message>
+            <source>Select rows of a table with values first.</source>
+            <translation>Seleccione primero filas de una tabla con valores.</translation>
+        </message>
+        <message>
+            <source>The trend is full: remove points from it first.</source>
+            <translation>La tendencia está llena: quite primero puntos de ella.</translation>
+        </message>
+        <message>
+            <source>There is nothing new to draw in the selected rows.</source>
+            <translation>No hay nada nuevo que trazar en las filas elegidas.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::FirstSteps</name>
+        <message>
+            <source>First steps</source>
+            <translation>Primeros pasos</translation>
+        </message>
+        <message>
+            <source>The workbench writes, checks and shows the program of a controller, and the tables of its points. At the left is the tree of the project: it leads to the program and to each table. The controller behind it is a simulated one, so nothing can break.</source>
+            <translation>El banco de trabajo escribe, comprueba y muestra el programa de un controlador y las tablas de sus puntos. A la izquierda está el árbol del proyecto: lleva al programa y a cada tabla. El controlador es simulado, así que nada se puede estropear.</translation>
+        </message>
+        <message>
+            <source>Look at the &amp;Sample</source>
+            <translation>Ver el &amp;ejemplo</translation>
+        </message>
+        <message>
+            <source>An air handling unit with its program and all twelve tables. Change what you like: nothing is saved unless you say so.</source>
+            <translation>Una unidad de tratamiento de aire con su programa y las doce tablas. Cambie lo que quiera: nada se guarda si usted no lo dice.</translation>
+        </message>
+        <message>
+            <source>&amp;Open a Project…</source>
+            <translation>&amp;Abrir un proyecto…</translation>
+        </message>
+        <message>
+            <source>A project is a file in JSON with its program beside it. To begin one of your own, take a copy of the sample by Save Elsewhere.</source>
+            <translation>Un proyecto es un archivo JSON con su programa al lado. Para empezar uno propio, haga una copia del ejemplo con «Guardar en otro lugar».</translation>
+        </message>
+        <message>
+            <source>&amp;Keys</source>
+            <translation>&amp;Teclas</translation>
+        </message>
+        <message>
+            <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>
+            <translation>Todo se puede hacer con el teclado. F1 muestra todas las teclas, F6 comprueba el programa, F5 lee los valores, Ctrl+Espacio muestra las palabras conocidas.</translation>
+        </message>
+        <message>
+            <source>&amp;Begin</source>
+            <translation>&amp;Comenzar</translation>
+        </message>
+        <message>
+            <source>This page comes back by Help, First Steps.</source>
+            <translation>Esta página vuelve con «Ayuda, Primeros pasos».</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ImportDialog</name>
+        <message>
+            <source>The first line has the &amp;heads</source>
+            <translation>La primera línea contiene los &amp;títulos</translation>
+        </message>
+        <message>
+            <source>Import Points</source>
+            <translation>Importar puntos</translation>
+        </message>
+        <message>
+            <source>%1 into the table %2:</source>
+            <translation>%1 en la tabla %2:</translation>
+        </message>
+        <message>
+            <source>Comma</source>
+            <translation>Coma</translation>
+        </message>
+        <message>
+            <source>Semicolon</source>
+            <translation>Punto y coma</translation>
+        </message>
+        <message>
+            <source>Tab</source>
+            <translation>Tabulador</translation>
+        </message>
+        <message>
+            <source>&amp;Encoding:</source>
+            <translation>&amp;Codificación:</translation>
+        </message>
+        <message>
+            <source>&amp;Separator:</source>
+            <translation>&amp;Separador:</translation>
+        </message>
+        <message>
+            <source>Columns</source>
+            <translation>Columnas</translation>
+        </message>
+        <message>
+            <source>&amp;Import</source>
+            <translation>&amp;Importar</translation>
+        </message>
+        <message>
+            <source>&amp;All</source>
+            <translation>&amp;Todos</translation>
+        </message>
+        <message>
+            <source>&amp;None</source>
+            <translation>&amp;Ninguno</translation>
+        </message>
+        <message>
+            <source>(none)</source>
+            <translation>(ninguna)</translation>
+        </message>
+        <message>
+            <source>Column %1</source>
+            <translation>Columna %1</translation>
+        </message>
+        <message>
+            <source>Added: %1. Changed: %2. Left alone: %3. Not possible: %4. Ticked: %5.</source>
+            <translation>Nuevos: %1. Cambiados: %2. Sin cambios: %3. No posibles: %4. Marcados: %5.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ImportModel</name>
+        <message>
+            <source>Added</source>
+            <translation>Se añade</translation>
+        </message>
+        <message>
+            <source>Changed</source>
+            <translation>Cambia</translation>
+        </message>
+        <message>
+            <source>Left alone</source>
+            <translation>Se queda</translation>
+        </message>
+        <message>
+            <source>Not possible: %1</source>
+            <translation>No es posible: %1</translation>
+        </message>
+        <message>
+            <source>Before: %1</source>
+            <translation>Antes: %1</translation>
+        </message>
+        <message>
+            <source>Line</source>
+            <translation>Línea</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importación</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::PointImporting</name>
+        <message>
+            <source>Import Points</source>
+            <translation>Importar puntos</translation>
+        </message>
+        <message>
+            <source>Tables as text (*.csv *.tsv *.txt)</source>
+            <translation>Tablas como texto (*.csv *.tsv *.txt)</translation>
+        </message>
+        <message>
+            <source>All files (*)</source>
+            <translation>Todos los archivos (*)</translation>
+        </message>
+        <message>
+            <source>Points imported: %1</source>
+            <translation>Puntos importados: %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::PointReading</name>
+        <message>
+            <source>The controller is gone</source>
+            <translation>El controlador ya no está</translation>
+        </message>
+        <message>
+            <source>It answered for "%1", which was not asked for</source>
+            <translation>Ha respondido por «%1», que no se había pedido</translation>
+        </message>
+        <message>
+            <source>%1: "%2" is not a number</source>
+            <translation>%1: «%2» no es un número</translation>
+        </message>
+        <message>
+            <source>%1, and %2 more</source>
+            <translation>%1, y %2 más</translation>
+        </message>
+        <message>
+            <source>Values are missing</source>
+            <translation>Faltan valores</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ReadingDialog</name>
+        <message>
+            <source>Reading</source>
+            <translation>Lectura</translation>
+        </message>
+        <message>
+            <source>Cyclic reading</source>
+            <translation>Lectura en ciclo</translation>
+        </message>
+        <message>
+            <source>&amp;Pause between readings:</source>
+            <translation>&amp;Pausa entre lecturas:</translation>
+        </message>
+        <message>
+            <source>Simulated controller</source>
+            <translation>Controlador simulado</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Ninguno</translation>
+        </message>
+        <message>
+            <source>Cannot be reached</source>
+            <translation>No es accesible</translation>
+        </message>
+        <message>
+            <source>Refuses</source>
+            <translation>Se niega</translation>
+        </message>
+        <message>
+            <source>Stops answering in the middle</source>
+            <translation>Se detiene a la mitad</translation>
+        </message>
+        <message>
+            <source>A text for a number</source>
+            <translation>Un texto en lugar de un número</translation>
+        </message>
+        <message>
+            <source>Values are missing</source>
+            <translation>Faltan valores</translation>
+        </message>
+        <message>
+            <source>A point that nobody asked for</source>
+            <translation>Un punto que nadie ha pedido</translation>
+        </message>
+        <message>
+            <source>&amp;Time for an answer:</source>
+            <translation>&amp;Tiempo para una respuesta:</translation>
+        </message>
+        <message>
+            <source>&amp;Failure:</source>
+            <translation>&amp;Fallo:</translation>
+        </message>
+        <message>
+            <source>&amp;Wrong answers:</source>
+            <translation>&amp;Respuestas erróneas:</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ReadingStatus</name>
+        <message>
+            <source>Stop</source>
+            <translation>Detener</translation>
+        </message>
+        <message>
+            <source>Stop reading; what has been read stays</source>
+            <translation>Deja de leer; lo leído se queda</translation>
+        </message>
+        <message>
+            <source>Reading values: %1 of %2</source>
+            <translation>Leyendo valores: %1 de %2</translation>
+        </message>
+        <message>
+            <source>Stopped</source>
+            <translation>Detenido</translation>
+        </message>
+        <message>
+            <source>%1. Values read: %2 of %3.</source>
+            <translation>%1. Valores leídos: %2 de %3.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::SimulatedController</name>
+        <message>
+            <source>The controller refuses to tell its values</source>
+            <translation>El controlador se niega a dar sus valores</translation>
+        </message>
+        <message>
+            <source>The controller has stopped answering</source>
+            <translation>El controlador ha dejado de responder</translation>
+        </message>
+        <message>
+            <source>The controller cannot be reached</source>
+            <translation>No se puede acceder al controlador</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::TrendDock</name>
+        <message>
+            <source>Trend</source>
+            <translation>Tendencia</translation>
+        </message>
+        <message>
+            <source>Drawn points</source>
+            <translation>Puntos trazados</translation>
+        </message>
+        <message>
+            <source>Point</source>
+            <translation>Punto</translation>
+        </message>
+        <message>
+            <source>Value</source>
+            <translation>Valor</translation>
+        </message>
+        <message>
+            <source>Least</source>
+            <translation>Mínimo</translation>
+        </message>
+        <message>
+            <source>Most</source>
+            <translation>Máximo</translation>
+        </message>
+        <message>
+            <source>Read &amp;Cyclically</source>
+            <translation>Leer en &amp;ciclo</translation>
+        </message>
+        <message>
+            <source>Pause</source>
+            <translation>Pausar</translation>
+        </message>
+        <message>
+            <source>Zoom In</source>
+            <translation>Ampliar</translation>
+        </message>
+        <message>
+            <source>Zoom Out</source>
+            <translation>Reducir</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Quitar</translation>
+        </message>
+        <message>
+            <source>Clear</source>
+            <translation>Borrar</translation>
+        </message>
+        <message>
+            <source>Export…</source>
+            <translation>Exportar…</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>Hora</translation>
+        </message>
+        <message>
+            <source>Export Trend</source>
+            <translation>Exportar la tendencia</translation>
+        </message>
+        <message>
+            <source>Table with commas (*.csv)</source>
+            <translation>Tabla con comas (*.csv)</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::TrendView</name>
+        <message>
+            <source>%1: not read</source>
+            <translation>%1: sin leer</translation>
+        </message>
+        <message>
+            <source>%1: %2, from %3 to %4</source>
+            <translation>%1: %2, de %3 a %4</translation>
+        </message>
+        <message>
+            <source>No point is drawn yet. Select rows of a table and choose Add To Trend.</source>
+            <translation>Aún no se traza ningún punto. Seleccione filas de una tabla y elija «Añadir a la tendencia».</translation>
+        </message>
+        <message>
+            <source>Nothing has been read yet. Read Values reads once, Read Cyclically again and again.</source>
+            <translation>Aún no se ha leído nada. «Leer valores» lee una vez, «Leer en ciclo» una y otra vez.</translation>
         </message>
     </context>
 </TS>

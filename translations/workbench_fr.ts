@@ -520,6 +520,10 @@ Free software under the MIT licence. It stands on Qt %1.</source>
 
 Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         </message>
+        <message>
+            <source>&amp;First Steps</source>
+            <translation>P&amp;remiers pas</translation>
+        </message>
     </context>
     <context>
         <name>ORVTListview::KeyList</name>
@@ -719,6 +723,10 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <message>
             <source>The project of the last time is open again.</source>
             <translation>Le projet de la dernière fois est de nouveau ouvert.</translation>
+        </message>
+        <message>
+            <source>&amp;Import…</source>
+            <translation>&amp;Importer…</translation>
         </message>
     </context>
     <context>
@@ -1428,6 +1436,26 @@ Overwrite those changes?</source>
             <source>no folder takes a recovery file</source>
             <translation>aucun dossier n’accepte de fichier de récupération</translation>
         </message>
+        <message>
+            <source>"%1" comes twice</source>
+            <translation>« %1 » apparaît deux fois</translation>
+        </message>
+        <message>
+            <source>"%1" is not the number of a row</source>
+            <translation>« %1 » n’est pas un numéro de ligne</translation>
+        </message>
+        <message>
+            <source>The table is full</source>
+            <translation>Le tableau est plein</translation>
+        </message>
+        <message>
+            <source>"%1" is neither yes nor no</source>
+            <translation>« %1 » n’est ni oui ni non</translation>
+        </message>
+        <message>
+            <source>"%1" is not a number</source>
+            <translation>« %1 » n’est pas un nombre</translation>
+        </message>
     </context>
     <context>
         <name>StatementExport</name>
@@ -1628,6 +1656,418 @@ Le retirer de la liste ?</translation>
         <message>
             <source>Projects that were opened &amp;last:</source>
             <translation>&amp;Projets ouverts récemment :</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ControllerMenu</name>
+        <message>
+            <source>A&amp;dd To Trend</source>
+            <translation>A&amp;jouter à la courbe</translation>
+        </message>
+        <message>
+            <source>&amp;Controller</source>
+            <translation>&amp;Contrôleur</translation>
+        </message>
+        <message>
+            <source>Read &amp;All</source>
+            <translation>&amp;Tout lire</translation>
+        </message>
+        <message>
+            <source>&amp;Stop Reading</source>
+            <translation>&amp;Arrêter la lecture</translation>
+        </message>
+        <message>
+            <source>&amp;Reading…</source>
+            <translation>&amp;Lecture…</translation>
+        </message>
+        <message>
+            <source>&amp;Trend</source>
+            <translation>Co&amp;urbe</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ControllerPart</name>
+        <message>
+            <source>The values have been read.</source>
+            <translation>Les valeurs ont été lues.</translation>
+        </message>
+        <message>
+            <source>There are no values to read here.</source>
+            <translation>Il n’y a aucune valeur à lire ici.</translation>
+        </message>
+        <message>
+            <source>Select rows of a table with values first.</source>
+            <translation>Sélectionnez d’abord des lignes d’un tableau avec des valeurs.</translation>
+        </message>
+        <message>
+            <source>The trend is full: remove points from it first.</source>
+            <translation>La courbe est pleine : retirez-en d’abord des points.</translation>
+        </message>
+        <message>
+            <source>There is nothing new to draw in the selected rows.</source>
+            <translation>Il n’y a rien de nouveau à tracer dans les lignes choisies.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::FirstSteps</name>
+        <message>
+            <source>First steps</source>
+            <translation>Premiers pas</translation>
+        </message>
+        <message>
+            <source>The workbench writes, checks and shows the program of a controller, and the tables of its points. At the left is the tree of the project: it leads to the program and to each table. The controller behind it is a simulated one, so nothing can break.</source>
+            <translation>L’atelier écrit, vérifie et montre le programme d’un contrôleur et les tableaux de ses points. À gauche se trouve l’arbre du projet : il mène au programme et à chaque tableau. Le contrôleur est simulé, rien ne peut donc être abîmé.</translation>
+        </message>
+        <message>
+            <source>Look at the &amp;Sample</source>
+            <translation>Voir l’e&amp;xemple</translation>
+        </message>
+        <message>
+            <source>An air handling unit with its program and all twelve tables. Change what you like: nothing is saved unless you say so.</source>
+            <translation>Une centrale de traitement d’air avec son programme et ses douze tableaux. Changez ce que vous voulez : rien n’est enregistré sans votre ordre.</translation>
+        </message>
+        <message>
+            <source>&amp;Open a Project…</source>
+            <translation>&amp;Ouvrir un projet…</translation>
+        </message>
+        <message>
+            <source>A project is a file in JSON with its program beside it. To begin one of your own, take a copy of the sample by Save Elsewhere.</source>
+            <translation>Un projet est un fichier JSON avec son programme à côté. Pour en commencer un, faites une copie de l’exemple par « Enregistrer ailleurs ».</translation>
+        </message>
+        <message>
+            <source>&amp;Keys</source>
+            <translation>&amp;Touches</translation>
+        </message>
+        <message>
+            <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>
+            <translation>Tout se fait au clavier. F1 montre toutes les touches, F6 vérifie le programme, F5 lit les valeurs, Ctrl+Espace montre les mots connus.</translation>
+        </message>
+        <message>
+            <source>&amp;Begin</source>
+            <translation>&amp;Commencer</translation>
+        </message>
+        <message>
+            <source>This page comes back by Help, First Steps.</source>
+            <translation>Cette page revient par « Aide, Premiers pas ».</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ImportDialog</name>
+        <message>
+            <source>The first line has the &amp;heads</source>
+            <translation>La première ligne contient les &amp;titres</translation>
+        </message>
+        <message>
+            <source>Import Points</source>
+            <translation>Importer des points</translation>
+        </message>
+        <message>
+            <source>%1 into the table %2:</source>
+            <translation>%1 dans le tableau %2 :</translation>
+        </message>
+        <message>
+            <source>Comma</source>
+            <translation>Virgule</translation>
+        </message>
+        <message>
+            <source>Semicolon</source>
+            <translation>Point-virgule</translation>
+        </message>
+        <message>
+            <source>Tab</source>
+            <translation>Tabulation</translation>
+        </message>
+        <message>
+            <source>&amp;Encoding:</source>
+            <translation>&amp;Encodage :</translation>
+        </message>
+        <message>
+            <source>&amp;Separator:</source>
+            <translation>&amp;Séparateur :</translation>
+        </message>
+        <message>
+            <source>Columns</source>
+            <translation>Colonnes</translation>
+        </message>
+        <message>
+            <source>&amp;Import</source>
+            <translation>&amp;Importer</translation>
+        </message>
+        <message>
+            <source>&amp;All</source>
+            <translation>To&amp;us</translation>
+        </message>
+        <message>
+            <source>&amp;None</source>
+            <translation>Aucu&amp;n</translation>
+        </message>
+        <message>
+            <source>(none)</source>
+            <translation>(aucune)</translation>
+        </message>
+        <message>
+            <source>Column %1</source>
+            <translation>Colonne %1</translation>
+        </message>
+        <message>
+            <source>Added: %1. Changed: %2. Left alone: %3. Not possible: %4. Ticked: %5.</source>
+            <translation>Ajoutés : %1. Modifiés : %2. Inchangés : %3. Impossibles : %4. Cochés : %5.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ImportModel</name>
+        <message>
+            <source>Added</source>
+            <translation>Ajouté</translation>
+        </message>
+        <message>
+            <source>Changed</source>
+            <translation>Modifié</translation>
+        </message>
+        <message>
+            <source>Left alone</source>
+            <translation>Inchangé</translation>
+        </message>
+        <message>
+            <source>Not possible: %1</source>
+            <translation>Impossible : %1</translation>
+        </message>
+        <message>
+            <source>Before: %1</source>
+            <translation>Avant : %1</translation>
+        </message>
+        <message>
+            <source>Line</source>
+            <translation>Ligne</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importation</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::PointImporting</name>
+        <message>
+            <source>Import Points</source>
+            <translation>Importer des points</translation>
+        </message>
+        <message>
+            <source>Tables as text (*.csv *.tsv *.txt)</source>
+            <translation>Tableaux en texte (*.csv *.tsv *.txt)</translation>
+        </message>
+        <message>
+            <source>All files (*)</source>
+            <translation>Tous les fichiers (*)</translation>
+        </message>
+        <message>
+            <source>Points imported: %1</source>
+            <translation>Points importés : %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::PointReading</name>
+        <message>
+            <source>The controller is gone</source>
+            <translation>Le contrôleur n’est plus là</translation>
+        </message>
+        <message>
+            <source>It answered for "%1", which was not asked for</source>
+            <translation>Il a répondu pour « %1 », qui n’était pas demandé</translation>
+        </message>
+        <message>
+            <source>%1: "%2" is not a number</source>
+            <translation>%1 : « %2 » n’est pas un nombre</translation>
+        </message>
+        <message>
+            <source>%1, and %2 more</source>
+            <translation>%1, et %2 autres</translation>
+        </message>
+        <message>
+            <source>Values are missing</source>
+            <translation>Il manque des valeurs</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ReadingDialog</name>
+        <message>
+            <source>Reading</source>
+            <translation>Lecture</translation>
+        </message>
+        <message>
+            <source>Cyclic reading</source>
+            <translation>Lecture en boucle</translation>
+        </message>
+        <message>
+            <source>&amp;Pause between readings:</source>
+            <translation>&amp;Pause entre deux lectures :</translation>
+        </message>
+        <message>
+            <source>Simulated controller</source>
+            <translation>Contrôleur simulé</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Aucune</translation>
+        </message>
+        <message>
+            <source>Cannot be reached</source>
+            <translation>Est injoignable</translation>
+        </message>
+        <message>
+            <source>Refuses</source>
+            <translation>Refuse</translation>
+        </message>
+        <message>
+            <source>Stops answering in the middle</source>
+            <translation>S’arrête au milieu</translation>
+        </message>
+        <message>
+            <source>A text for a number</source>
+            <translation>Un texte à la place d’un nombre</translation>
+        </message>
+        <message>
+            <source>Values are missing</source>
+            <translation>Il manque des valeurs</translation>
+        </message>
+        <message>
+            <source>A point that nobody asked for</source>
+            <translation>Un point que personne n’a demandé</translation>
+        </message>
+        <message>
+            <source>&amp;Time for an answer:</source>
+            <translation>&amp;Temps pour une réponse :</translation>
+        </message>
+        <message>
+            <source>&amp;Failure:</source>
+            <translation>P&amp;anne :</translation>
+        </message>
+        <message>
+            <source>&amp;Wrong answers:</source>
+            <translation>&amp;Fausses réponses :</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::ReadingStatus</name>
+        <message>
+            <source>Stop</source>
+            <translation>Arrêter</translation>
+        </message>
+        <message>
+            <source>Stop reading; what has been read stays</source>
+            <translation>Arrête la lecture ; ce qui est lu reste</translation>
+        </message>
+        <message>
+            <source>Reading values: %1 of %2</source>
+            <translation>Lecture des valeurs : %1 sur %2</translation>
+        </message>
+        <message>
+            <source>Stopped</source>
+            <translation>Arrêté</translation>
+        </message>
+        <message>
+            <source>%1. Values read: %2 of %3.</source>
+            <translation>%1. Valeurs lues : %2 sur %3.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::SimulatedController</name>
+        <message>
+            <source>The controller refuses to tell its values</source>
+            <translation>Le contrôleur refuse de donner ses valeurs</translation>
+        </message>
+        <message>
+            <source>The controller has stopped answering</source>
+            <translation>Le contrôleur ne répond plus</translation>
+        </message>
+        <message>
+            <source>The controller cannot be reached</source>
+            <translation>Le contrôleur est injoignable</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::TrendDock</name>
+        <message>
+            <source>Trend</source>
+            <translation>Courbe</translation>
+        </message>
+        <message>
+            <source>Drawn points</source>
+            <translation>Points tracés</translation>
+        </message>
+        <message>
+            <source>Point</source>
+            <translation>Point</translation>
+        </message>
+        <message>
+            <source>Value</source>
+            <translation>Valeur</translation>
+        </message>
+        <message>
+            <source>Least</source>
+            <translation>Minimum</translation>
+        </message>
+        <message>
+            <source>Most</source>
+            <translation>Maximum</translation>
+        </message>
+        <message>
+            <source>Read &amp;Cyclically</source>
+            <translation>Lire en &amp;boucle</translation>
+        </message>
+        <message>
+            <source>Pause</source>
+            <translation>Suspendre</translation>
+        </message>
+        <message>
+            <source>Zoom In</source>
+            <translation>Agrandir</translation>
+        </message>
+        <message>
+            <source>Zoom Out</source>
+            <translation>Réduire</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Retirer</translation>
+        </message>
+        <message>
+            <source>Clear</source>
+            <translation>Effacer</translation>
+        </message>
+        <message>
+            <source>Export…</source>
+            <translation>Exporter…</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>Heure</translation>
+        </message>
+        <message>
+            <source>Export Trend</source>
+            <translation>Exporter la courbe</translation>
+        </message>
+        <message>
+            <source>Table with commas (*.csv)</source>
+            <translation>Tableau avec virgules (*.csv)</translation>
+        </message>
+    </context>
+    <context>
+        <name>ORVTListview::TrendView</name>
+        <message>
+            <source>%1: not read</source>
+            <translation>%1 : non lu</translation>
+        </message>
+        <message>
+            <source>%1: %2, from %3 to %4</source>
+            <translation>%1 : %2, de %3 à %4</translation>
+        </message>
+        <message>
+            <source>No point is drawn yet. Select rows of a table and choose Add To Trend.</source>
+            <translation>Aucun point n’est encore tracé. Sélectionnez des lignes d’un tableau, puis « Ajouter à la courbe ».</translation>
+        </message>
+        <message>
+            <source>Nothing has been read yet. Read Values reads once, Read Cyclically again and again.</source>
+            <translation>Rien n’a encore été lu. « Lire les valeurs » lit une fois, « Lire en boucle » sans cesse.</translation>
         </message>
     </context>
 </TS>

@@ -134,7 +134,9 @@ void Project::apply(const RowChanges &changes)
     for (const RowChange &change : changes) {
         QList<ProjectRow> &list = m_contents.rows[change.type];
         if (change.before && change.after) {
-            list[change.row] = *change.after;
+            ProjectRow row = *change.after;
+            row.takeReadings(list.at(change.row));
+            list[change.row] = row;
         } else if (change.after) {
             renumber(change.type, change.row, 1);
             list.insert(change.row, *change.after);

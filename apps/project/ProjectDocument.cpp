@@ -48,6 +48,7 @@ void ProjectDocument::setProject(std::unique_ptr<Project> project)
     m_steps.clear();
     m_done = 0;
     m_project = std::move(project);
+    Q_EMIT projectReplaced();
 }
 
 Project &ProjectDocument::none()

@@ -84,6 +84,9 @@ public:
     Project::Saved saveAt(const QString &fileName, Project::Encoding encoding);
 
 Q_SIGNALS:
+    // There is another one, or none.
+    void projectReplaced();
+
     void tablesChanged();
     void changed(); // tables or program, or what is saved
 

@@ -35,6 +35,16 @@ struct ProjectRow
             kept[column] = cell;
     }
 
+    // Shows what was read for cells that are the same in the file.
+    void takeReadings(const ProjectRow &former)
+    {
+        for (qsizetype i = 0; !former.kept.isEmpty() && i < cells.size(); ++i) {
+            const QVariant &own = cellsOfFile().at(i);
+            if (former.kept.value(i) == own && former.cells.at(i) != cells.at(i))
+                setReading(i, former.cells.at(i));
+        }
+    }
+
     // What the file has of them; readings are none of it.
     friend bool operator==(const ProjectRow &one, const ProjectRow &other)
     {

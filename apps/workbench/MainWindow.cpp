@@ -9,6 +9,7 @@
 #include "OpeningFault.h"
 #include "OpeningProgress.h"
 #include "PointChooser.h"
+#include "PointTables.h"
 #include "PointValues.h"
 #include "PointsMenu.h"
 #include "ProgramChecking.h"
@@ -19,12 +20,16 @@
 #include "editor/rules/colouring/ColourTable.h"
 #include "project/PointReferences.h"
 #include "project/ProjectDocument.h"
+#include "project/controller/PointReading.h"
 #include "workbench/export/Exporting.h"
+#include "workbench/help/FirstSteps.h"
 #include "workbench/help/HelpMenu.h"
+#include "workbench/importing/PointImporting.h"
 #include "workbench/life/FileMenu.h"
 #include "workbench/life/ProjectLife.h"
 #include "workbench/life/RecentProjects.h"
 #include "workbench/life/StartPage.h"
+#include "workbench/reading/ControllerPart.h"
 #include "workbench/renaming/PointRenaming.h"
 #include "workbench/renaming/ProjectHistory.h"
 #include "workbench/saving/ProjectSaving.h"
@@ -66,19 +71,22 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_document(new ProjectDocument({[this] { return m_code->CodeText(); },
                                       [this] { return m_code->RTextBox()->TextLength(); }},
                                      this))
+    , m_controller(new ControllerPart(*m_document, *this))
     , m_view(new ProjectView(*m_document, this))
     , m_fault(new OpeningFault(this))
     , m_recent(new RecentProjects(this))
     , m_start(new StartPage(*m_recent, this))
+    , m_firstSteps(new FirstSteps(this))
     , m_code(&m_view->program())
     , m_history(new ProjectHistory(*m_document, *m_view))
     , m_renaming(new PointRenaming(*m_document, *m_code, *this))
+    , m_importing(new PointImporting(*m_document, *this))
     , m_saving(new ProjectSaving(*m_document, *this))
     , m_life(new ProjectLife({*this, *m_document, *m_saving, *m_recent}))
     , m_recovery(new RecoveryKeeper(*m_document, this))
     , m_offer(new RecoveryOffer(*m_document, *m_recovery, *m_code, *this))
     , m_export(new Exporting(*m_view, *this))
-    , m_values(new PointValues(*m_code->codeView(), this))
+    , m_values(new PointValues(*m_code->codeView(), m_controller->reading(), this))
     , m_results(new CheckResults(this))
     , m_analysis(new LiveAnalysis(*m_code->codeView(), *m_code->RTextBox(), this))
     , m_checking(
@@ -94,6 +102,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     m_pages->addWidget(m_view);
     m_pages->addWidget(m_fault);
     m_pages->addWidget(m_start);
+    m_pages->addWidget(m_firstSteps);
     setCentralWidget(m_pages);
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
@@ -103,6 +112,8 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     buildStatusBar();
     connectEditor();
     connectPoints();
+    connectReading();
+    connectFirstSteps();
     connectSaving();
     connectPages();
     // Queued: the menu that the language was chosen in is made anew.
@@ -120,11 +131,14 @@ void MainWindow::buildMenus()
     buildFileMenu();
     buildEditMenu();
     menuBar()->addMenu(new ProgramMenu(*m_checking, *m_navigation, *m_results, menuBar()));
-    menuBar()->addMenu(new PointsMenu(*m_view, *m_document, *m_renaming, *m_points, menuBar()));
+    menuBar()->addMenu(new PointsMenu(
+        *m_view, *m_document,
+        {*m_renaming, *m_importing, m_controller->reading(), *m_points}, menuBar()));
+    m_controller->addMenu(*menuBar());
     enableWithProject(menuBar()->actions().sliced(1));
     buildViewMenu();
     menuBar()->addMenu(new WindowMenu(m_view->workplace(), *m_panes, *m_results, menuBar()));
-    menuBar()->addMenu(new HelpMenu(*menuBar()));
+    buildHelpMenu();
 }
 
 void MainWindow::buildFileMenu()
@@ -164,6 +178,13 @@ void MainWindow::buildEditMenu()
     connect(m_document, &ProjectDocument::tablesChanged, edit, &EditMenu::refresh);
     connect(edit, &EditMenu::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
+}
+
+void MainWindow::buildHelpMenu()
+{
+    auto *help = new HelpMenu(*menuBar());
+    menuBar()->addMenu(help);
+    connect(help, &HelpMenu::firstStepsWanted, this, &MainWindow::showFirstSteps);
 }
 
 void MainWindow::buildViewMenu()
@@ -222,16 +243,11 @@ void MainWindow::takePoints()
 
 void MainWindow::connectPoints()
 {
-    connect(m_view, &ProjectView::shown, this,
-            [this](LwType type) { m_position->setVisible(type == dsCode); });
+    connect(m_view, &ProjectView::shown, this, &MainWindow::showPage);
+    connect(m_pages, &QStackedWidget::currentChanged, this, &MainWindow::showPage);
     connect(m_points, &PointChooser::chosen, m_view, &ProjectView::takePoint);
     connect(m_points, &PointChooser::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
-    connect(&m_view->tables(), &TableViews::readingStarted, this,
-            [this] { statusBar()->showMessage(tr("Reading the values…")); });
-    connect(&m_view->tables(), &TableViews::readingFinished, this,
-            [this] { statusBar()->showMessage(tr("The values have been read."), 3000); });
-    connect(&m_view->tables(), &TableViews::readingFinished, m_values, &PointValues::takeProject);
     connect(&m_view->tables(), &TableViews::renameWanted, m_renaming, &PointRenaming::rename);
     connect(m_history, &ProjectHistory::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
@@ -243,6 +259,57 @@ void MainWindow::connectPoints()
     });
     connect(&m_view->tables(), &TableViews::refused, this,
             [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
+}
+
+void MainWindow::connectReading()
+{
+    connect(&m_view->tables(), &TableViews::made, m_controller, &ControllerPart::serve);
+    connect(m_controller, &ControllerPart::settingsChosen, this,
+            [this](const ReadingSettings &reading) {
+                Settings settings = m_settings;
+                settings.reading = reading;
+                decide(settings);
+            });
+    connect(m_importing, &PointImporting::told, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 5000); });
+}
+
+// The page goes when something else is shown.
+void MainWindow::connectFirstSteps()
+{
+    connect(m_firstSteps, &FirstSteps::sampleWanted, this, &MainWindow::showSample);
+    connect(m_firstSteps, &FirstSteps::projectWanted, m_life, &ProjectLife::choose);
+    connect(m_firstSteps, &FirstSteps::keysWanted, this,
+            [this] { menuBar()->findChild<HelpMenu *>()->showKeys(); });
+    connect(m_firstSteps, &FirstSteps::closed, this, [this] {
+        m_pages->setCurrentWidget(m_document->project() ? static_cast<QWidget *>(m_view) : m_start);
+        if (m_document->project())
+            m_view->current().setFocus();
+    });
+}
+
+void MainWindow::showFirstSteps()
+{
+    m_pages->setCurrentWidget(m_firstSteps);
+}
+
+void MainWindow::showSample()
+{
+    const Project *project = m_document->project();
+    if (project && QFileInfo(project->fileName()) == QFileInfo(m_sample)) {
+        m_pages->setCurrentWidget(m_view);
+        m_code->setFocus();
+    } else if (m_saving->mayLeave()) {
+        openForUser(m_sample);
+    }
+}
+
+// The status bar speaks of what is in sight.
+void MainWindow::showPage()
+{
+    const bool isView = m_pages->currentWidget() == m_view;
+    m_programInfo->setVisible(isView);
+    m_position->setVisible(isView && !m_view->currentTable());
 }
 
 void MainWindow::connectSaving()
@@ -402,6 +469,7 @@ void MainWindow::setSettings(const Settings &settings)
     if (settings.language != former.language)
         m_languages.setLanguage(settings.language.value_or(QLocale::system()));
     useTheme(settings.theme);
+    m_controller->setSettings(settings.reading);
     if (settings.look != former.look)
         applyAppearance();
 }
@@ -440,6 +508,8 @@ void MainWindow::retranslate()
     m_results->retranslate();
     m_analysis->retranslate();
     m_opening->retranslate();
+    m_controller->retranslate();
+    m_firstSteps->retranslate();
     qDeleteAll(menuBar()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
     menuBar()->clear();
     buildMenus();

@@ -13,8 +13,10 @@ class QStackedWidget;
 namespace ORVTListview {
 
 class CheckResults;
+class ControllerPart;
 class EditMenu;
 class Exporting;
+class FirstSteps;
 class Languages;
 class LiveAnalysis;
 class OpeningProgress;
@@ -23,6 +25,7 @@ class Panes;
 class ProgramChecking;
 class ProgramNavigation;
 class PointChooser;
+class PointImporting;
 class PointRenaming;
 class PointValues;
 class Project;
@@ -76,6 +79,10 @@ public:
     // Shows the program, or the table of a type.
     void showType(LwType type);
 
+    // The page of the first start, whose sample is this project.
+    void showFirstSteps();
+    void setSample(const QString &fileName) { m_sample = fileName; }
+
 Q_SIGNALS:
     // The user has decided anew.
     void settingsChosen();
@@ -91,13 +98,18 @@ private:
     void enableWithProject(const QList<QAction *> &menus);
     void buildEditMenu();
     void buildViewMenu();
+    void buildHelpMenu();
     void buildStatusBar();
     void connectEditor();
     void connectPoints();
+    void connectReading();
+    void connectFirstSteps();
     void connectSaving();
     void connectPages();
     void takeProject(Project &project);
     void showProgram();
+    void showSample();
+    void showPage();
     void chooseSettings();
     void decide(const Settings &settings);
     void applyAppearance();
@@ -110,16 +122,20 @@ private:
 
     Languages &m_languages;
     Settings m_settings;
+    QString m_sample;
     PointChooser *m_points; // made in the order of the Tab key
     QStackedWidget *m_pages;
     ProjectDocument *m_document;
+    ControllerPart *m_controller;
     ProjectView *m_view;
     OpeningFault *m_fault;
     RecentProjects *m_recent;
     StartPage *m_start;
+    FirstSteps *m_firstSteps;
     ORVListView *m_code; // the view owns it
     ProjectHistory *m_history;
     PointRenaming *m_renaming;
+    PointImporting *m_importing;
     ProjectSaving *m_saving;
     ProjectLife *m_life;
     RecoveryKeeper *m_recovery;

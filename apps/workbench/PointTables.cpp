@@ -2,33 +2,28 @@
 
 #include "project/Project.h"
 #include "project/ProjectColumns.h"
+#include "project/controller/PointReading.h"
 
 #include <ORVTListview/ColumnHeaders.h>
+#include <ORVTListview/ListGrid.h>
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ReportList.h>
 
 #include <QtCore/QPointer>
-#include <QtCore/QTimer>
 #include <QtWidgets/QLineEdit>
 
 #include <algorithm>
-#include <chrono>
 
 namespace ORVTListview {
 
-using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 PointTables::PointTables(ORVListView &list)
     : QObject(&list)
     , m_list(list)
-    , m_answer(new QTimer(this))
 {
-    m_answer->setSingleShot(true);
-    connect(m_answer, &QTimer::timeout, this, &PointTables::finishReading);
-    connect(&list, &ORVListView::QueryRead, this, [this](LwType &type) { read(type); });
     connect(&list, &ORVListView::BeforeLabelEdit, this, &PointTables::allowEditing);
     connect(&list, &ORVListView::AfterLabelEdit, this, &PointTables::takeName);
 }
@@ -50,7 +45,7 @@ void PointTables::show(LwType type)
 {
     m_list.setIsHOASupported(m_showsOverrides);
     m_list.setListviewType(type);
-    m_list.SetImage(isReading());
+    showBusy();
     if (type == dsCode)
         return;
     const auto names = static_cast<qint16>(nameColumn(type) + 1);
@@ -79,6 +74,8 @@ void PointTables::fill()
         else
             clearRow(item);
     }
+    if (m_reading)
+        fillValues();
 }
 
 void PointTables::clearRow(ListItem &item)
@@ -126,36 +123,58 @@ void PointTables::goTo(const QString &name)
 
 // Reading.
 
-bool PointTables::isReading() const
+void PointTables::setReading(PointReading &reading)
 {
-    return m_answer->isActive();
+    m_reading = &reading;
+    connect(&m_list, &ORVListView::QueryRead, &reading,
+            [&reading](const LwType &type) { reading.read(type); });
+    connect(&reading, &PointReading::begun, this, &PointTables::showBusy);
+    connect(&reading, &PointReading::valuesRead, this, &PointTables::fillValues);
+    connect(&reading, &PointReading::ended, this, [this] {
+        showBusy();
+        fillValues();
+    });
+    connect(&reading, &PointReading::dropped, this, &PointTables::showBusy);
+    showBusy();
+    fillValues();
 }
 
-void PointTables::read(LwType type)
+void PointTables::showBusy()
 {
-    if (isReading() || !m_project)
+    m_list.SetImage(m_reading && m_reading->isReading());
+}
+
+// Nothing but what is another value, so that whoever works in the table is not disturbed.
+void PointTables::fillValues()
+{
+    const LwType type = m_list.CurrentType();
+    const auto column = static_cast<qint16>(valueColumn(type) + 1);
+    const ListItems &items = *m_list.ListItems();
+    if (!m_project || column < 1 || column >= m_list.ColumnHerders()->Count())
         return;
-    m_readType = type;
-    m_list.SetImage(true);
-    m_answer->start(600ms);
-    Q_EMIT readingStarted();
+    const QList<ProjectRow> &rows = m_project->rows(type);
+    const qsizetype count = std::min<qsizetype>(rows.size(), items.Count());
+    for (qsizetype row = 0; row < count; ++row) {
+        ListItem &item = *items.Item(static_cast<qint32>(row) + 1);
+        const QString text = cellText(rows.at(row).cells.at(column - 1));
+        if (item.SubItem(column) != text)
+            item.setSubItem(column, text);
+    }
+    showOld(rows, column);
 }
 
-void PointTables::finishReading()
+// What the controller has not told when it was asked.
+void PointTables::showOld(const QList<ProjectRow> &rows, qint16 column)
 {
-    const QList<ProjectColumn> &columns = projectColumns(m_readType);
-    for (qsizetype column = 0; column < columns.size(); ++column) {
-        if (columns.at(column).key != u"Value"_s)
-            continue;
-        for (qsizetype row = 0; row < m_project->rows(m_readType).size(); ++row) {
-            const QVariant &last = m_project->rows(m_readType).at(row).cells.at(column);
-            m_project->setReading(m_readType, row, column, m_controller.reading(last));
-        }
+    ListGrid &grid = *m_list.listView()->grid();
+    const qsizetype count = std::min<qsizetype>(rows.size(), m_list.ListItems()->Count());
+    for (qsizetype row = 0; row < count; ++row) {
+        const ListItem &item = *m_list.ListItems()->Item(static_cast<qint32>(row) + 1);
+        const AskedPoint point = PointRows::pointOf(m_list.CurrentType(), row, rows.at(row));
+        const CellState state = m_reading->isOld(point) ? CellState::Old : CellState::Plain;
+        if (grid.cellState(&item, column) != state)
+            grid.setCellState(&item, column, state);
     }
-    if (m_list.CurrentType() == m_readType)
-        fill();
-    m_list.SetImage(false);
-    Q_EMIT readingFinished();
 }
 
 // Names.
@@ -207,9 +226,31 @@ void PointTables::takeName(qint16 &cancel, const QString &name)
             this, [this, type, name] { correctName(type, name); }, Qt::QueuedConnection);
 }
 
+LwType PointTables::type() const
+{
+    return m_list.CurrentType();
+}
+
+bool PointTables::hasFocus() const
+{
+    return m_list.listView()->hasFocus();
+}
+
 qsizetype PointTables::selectedPoint() const
 {
     return pointOf(m_list.SelectedItem());
+}
+
+QList<qsizetype> PointTables::selectedPoints() const
+{
+    QList<qsizetype> points;
+    const ListItems &items = *m_list.ListItems();
+    for (qint32 row = 1; m_list.CurrentType() != dsCode && row <= items.Count(); ++row) {
+        const ListItem *item = items.Item(row);
+        if (item->Selected() && pointOf(item) >= 0)
+            points.append(pointOf(item));
+    }
+    return points;
 }
 
 // Edits the same name again, as it was typed.

@@ -1,21 +1,20 @@
 #pragma once
 
-#include "project/SimulatedController.h"
-
 #include <ORVTListview/Types.h>
 
+#include <QtCore/QList>
 #include <QtCore/QObject>
-
-class QTimer;
 
 namespace ORVTListview {
 
 class ListItem;
 class ORVListView;
+class PointReading;
 class Project;
+struct ProjectRow;
 
-// Shows a project's points in the tables of an ORVListView, reads their values from
-// the simulated controller, and takes the names that users give them.
+// Shows a project's points in the tables of an ORVListView, with their values as they are
+// read, and takes the names that users give them.
 class PointTables : public QObject
 {
     Q_OBJECT
@@ -25,6 +24,9 @@ public:
 
     // The project must live until the next call.
     void setProject(Project *project);
+
+    // What reads the values; it lives as long as this.
+    void setReading(PointReading &reading);
 
     // Whether outputs show their hardware overrides; at first as the project says.
     bool showsOverrides() const { return m_showsOverrides; }
@@ -46,20 +48,20 @@ public:
     // Brings a row of that table into sight, from 0; nothing for one that is not there.
     void showRow(qsizetype row);
 
+    // What the view shows, and whether the user works in it.
+    LwType type() const;
+    bool hasFocus() const;
+
     // The point of the selected row, from 0; -1 for none.
     qsizetype selectedPoint() const;
 
-    // Asks the controller, which answers after a while; one question at a time.
-    void read(LwType type);
-    bool isReading() const;
+    // The points of all selected rows.
+    QList<qsizetype> selectedPoints() const;
 
     // Begins to edit the name in the selected row.
     void editName();
 
 Q_SIGNALS:
-    void readingStarted();
-    void readingFinished();
-
     // A point is to have another name, which it can have.
     void renameWanted(ORVTListview::LwType type, qsizetype row, const QString &name);
 
@@ -69,7 +71,9 @@ Q_SIGNALS:
 private:
     void fillRow(ListItem &item, qsizetype row);
     void clearRow(ListItem &item);
-    void finishReading();
+    void fillValues();
+    void showBusy();
+    void showOld(const QList<ProjectRow> &rows, qint16 column);
     void allowEditing(qint16 &cancel);
     void takeName(qint16 &cancel, const QString &name);
     void correctName(LwType type, const QString &typed);
@@ -77,9 +81,7 @@ private:
 
     ORVListView &m_list;
     Project *m_project = nullptr;
-    SimulatedController m_controller;
-    QTimer *m_answer;
-    LwType m_readType = dsCode;
+    PointReading *m_reading = nullptr;
     bool m_showsOverrides = false;
     ListItem *m_edited = nullptr; // the list owns it
 };

@@ -3,20 +3,22 @@
 #include "base/TextRules.h"
 #include "project/Project.h"
 #include "project/ProjectColumns.h"
+#include "project/controller/PointReading.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/HoverAnswer.h>
 
 #include <algorithm>
-#include <chrono>
+#include <array>
 #include <utility>
 
 namespace ORVTListview {
 
-using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr std::array vocabulary{dsConst, dsInput, dsOutput, dsVariable, dsNvi};
 
 QVariant cellOf(const ProjectRow &row, LwType type, const QString &key)
 {
@@ -28,14 +30,13 @@ QVariant cellOf(const ProjectRow &row, LwType type, const QString &key)
 
 } // namespace
 
-PointValues::PointValues(CodeView &view, QObject *parent)
+PointValues::PointValues(CodeView &view, PointReading &reading, QObject *parent)
     : QObject(parent)
     , m_view(view)
 {
     connect(&m_view, &CodeView::hoverAsked, this,
             [this](const QString &word, qint32, HoverAnswer *told) { answer(word, told); });
-    connect(&m_second, &QTimer::timeout, this, &PointValues::askController);
-    m_second.start(1s);
+    connect(&reading, &PointReading::valuesRead, this, &PointValues::takeValues);
 }
 
 void PointValues::setProject(const Project *project)
@@ -45,10 +46,10 @@ void PointValues::setProject(const Project *project)
 }
 
 // Of two points with one name the program means the first of these.
-void PointValues::takeProject()
+void PointValues::collect()
 {
     m_points.clear();
-    for (const LwType type : {dsConst, dsInput, dsOutput, dsVariable, dsNvi}) {
+    for (const LwType type : vocabulary) {
         for (const ProjectRow &row : m_project->rows(type)) {
             const QString key = foldedCase(row.name);
             const QVariant value = cellOf(row, type, u"Value"_s);
@@ -60,6 +61,19 @@ void PointValues::takeProject()
                                  cellOf(row, type, u"Description"_s).toString()});
         }
     }
+}
+
+void PointValues::takeValues()
+{
+    if (!m_project)
+        return;
+    collect();
+    feed();
+}
+
+void PointValues::takeProject()
+{
+    collect();
     describeWords();
     feed();
 }
@@ -70,17 +84,6 @@ void PointValues::describeWords()
     for (const Told &point : std::as_const(m_points))
         descriptions.insert(point.name, point.description);
     m_view.setWordDescriptions(descriptions);
-}
-
-void PointValues::askController()
-{
-    if (!m_view.liveValuesShown())
-        return;
-    for (Told &point : m_points) {
-        if (point.type != dsConst)
-            point.value = m_controller.reading(point.value);
-    }
-    feed();
 }
 
 void PointValues::feed()

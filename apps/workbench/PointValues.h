@@ -1,33 +1,32 @@
 #pragma once
 
-#include "project/SimulatedController.h"
-
 #include <ORVTListview/Types.h>
 
 #include <QtCore/QHash>
 #include <QtCore/QObject>
-#include <QtCore/QTimer>
+#include <QtCore/QVariant>
 
 namespace ORVTListview {
 
 class CodeView;
 class HoverAnswer;
+class PointReading;
 class Project;
 
 // Tells the editor of the project's points: the descriptions for its list of words, the
-// values of now, each second those that the simulated controller has then, and all there is
-// of a point when the mouse asks. The project and its tables keep what was read last.
+// values as they are read, and all there is of a point when the mouse asks.
 class PointValues : public QObject
 {
     Q_OBJECT
 
 public:
-    PointValues(CodeView &view, QObject *parent);
+    // The reading lives as long as this.
+    PointValues(CodeView &view, PointReading &reading, QObject *parent);
 
-    // The project must live until the next call. Begins with the values that it has.
+    // The project must live until the next call.
     void setProject(const Project *project);
 
-    // After points were read or renamed.
+    // After points have changed.
     void takeProject();
 
 private:
@@ -40,7 +39,8 @@ private:
         QString description;
     };
 
-    void askController();
+    void collect();
+    void takeValues();
     void describeWords();
     void feed();
     void answer(const QString &word, HoverAnswer *answer) const;
@@ -48,8 +48,6 @@ private:
     CodeView &m_view;
     const Project *m_project = nullptr;
     QHash<QString, Told> m_points; // by their names in one letter case
-    SimulatedController m_controller;
-    QTimer m_second;
 };
 
 } // namespace ORVTListview

@@ -5,6 +5,8 @@
 #include "ProjectView.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
+#include "project/controller/PointReading.h"
+#include "workbench/importing/PointImporting.h"
 #include "workbench/renaming/PointRenaming.h"
 #include "workbench/views/TableViews.h"
 
@@ -13,29 +15,30 @@
 
 namespace ORVTListview {
 
-PointsMenu::PointsMenu(ProjectView &view, const ProjectDocument &document, PointRenaming &renaming,
-                       PointChooser &chooser, QWidget *parent)
+PointsMenu::PointsMenu(ProjectView &view, const ProjectDocument &document, const Acts &acts,
+                       QWidget *parent)
     : QMenu(tr("P&oints"), parent)
     , m_view(view)
     , m_document(document)
+    , m_reading(acts.reading)
 {
-    addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), &view, [this] {
-        if (PointTables *table = m_view.currentTable())
-            table->read(type());
-    });
-    addPoints(renaming);
+    m_read = addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), &acts.reading,
+                       [this] { m_reading.read(type()); });
+    addPoints(acts.renaming, acts.importing);
     addAction(tr("&Fit Columns"), &view, [this] {
         if (PointTables *table = m_view.currentTable())
             table->fitColumns();
     });
     addSeparator();
-    addMenu(new PointKindMenu(chooser, this));
+    addMenu(new PointKindMenu(acts.chooser, this));
     addSeparator();
     addSwitches();
     connect(this, &QMenu::aboutToShow, this, &PointsMenu::refresh);
+    // Its key works wherever there is something to read.
+    connect(this, &QMenu::aboutToHide, m_read, [this] { m_read->setEnabled(true); });
 }
 
-void PointsMenu::addPoints(PointRenaming &renaming)
+void PointsMenu::addPoints(PointRenaming &renaming, PointImporting &importing)
 {
     m_rename = addAction(tr("Re&name"), &m_view, [this] {
         if (PointTables *table = m_view.currentTable())
@@ -48,6 +51,8 @@ void PointsMenu::addPoints(PointRenaming &renaming)
         if (const PointTables *table = m_view.currentTable())
             renaming.remove(type(), table->selectedPoint());
     });
+    m_import =
+        addAction(tr("&Import…"), &importing, [this, &importing] { importing.import(type()); });
 }
 
 void PointsMenu::addSwitches()
@@ -70,7 +75,9 @@ void PointsMenu::refresh()
 {
     const PointTables *table = m_document.project() ? m_view.currentTable() : nullptr;
     const bool isPoint = table && table->selectedPoint() >= 0;
+    m_read->setEnabled(m_reading.canRead(type()));
     m_add->setEnabled(table);
+    m_import->setEnabled(table);
     m_remove->setEnabled(isPoint);
     m_rename->setEnabled(isPoint && nameColumn(type()) >= 0);
     m_overrides->setChecked(m_view.tables().showsOverrides());

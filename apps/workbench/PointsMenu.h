@@ -7,6 +7,8 @@
 namespace ORVTListview {
 
 class PointChooser;
+class PointImporting;
+class PointReading;
 class PointRenaming;
 class ProjectDocument;
 class ProjectView;
@@ -17,21 +19,32 @@ class PointsMenu : public QMenu
     Q_OBJECT
 
 public:
+    struct Acts
+    {
+        PointRenaming &renaming;
+        PointImporting &importing;
+        PointReading &reading;
+        PointChooser &chooser;
+    };
+
     // All of them outlive the menu.
-    PointsMenu(ProjectView &view, const ProjectDocument &document, PointRenaming &renaming,
-               PointChooser &chooser, QWidget *parent);
+    PointsMenu(ProjectView &view, const ProjectDocument &document, const Acts &acts,
+               QWidget *parent);
 
 private:
-    void addPoints(PointRenaming &renaming);
+    void addPoints(PointRenaming &renaming, PointImporting &importing);
     void addSwitches();
     void refresh();
     LwType type() const;
 
     ProjectView &m_view;
     const ProjectDocument &m_document;
+    PointReading &m_reading;
+    QAction *m_read = nullptr;
     QAction *m_rename = nullptr;
     QAction *m_add = nullptr;
     QAction *m_remove = nullptr;
+    QAction *m_import = nullptr;
     QAction *m_cells = nullptr;
     QAction *m_overrides = nullptr;
 };

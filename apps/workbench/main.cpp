@@ -85,6 +85,13 @@ void followDesktop()
     auto *desktop = new DesktopScheme(QDBusConnection::sessionBus(), qApp);
     QObject::connect(desktop, &DesktopScheme::changed, desktop,
                      [desktop] { setDesktopDark(desktop->isDark()); });
+// Whoever names a project knows what to begin with.
+bool isFirstStart(const Options &options, QSettings &store)
+{
+    constexpr auto key = "firstSteps"_L1;
+    const bool isFirst = options.screenshot.isEmpty() && store.value(key).toString() != "seen"_L1;
+    store.setValue(key, u"seen"_s);
+    return isFirst && options.project.isEmpty();
 }
 
 // Nobody is there to answer while a picture is made.
@@ -140,9 +147,12 @@ int main(int argc, char **argv)
         QApplication::setCursorFlashTime(0);
     else
         keep(window, store, stored);
+    window.setSample(QStringLiteral(ORVT_SAMPLE_PROJECT));
     window.show();
     if (!open(window, *options))
         return 1;
+    if (isFirstStart(*options, store))
+        window.showFirstSteps();
     if (isPicture) {
         QTimer::singleShot(0, &window, [&] {
             QCoreApplication::exit(writeScreenshot(window, options->screenshot));

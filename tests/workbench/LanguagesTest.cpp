@@ -39,12 +39,13 @@ private:
 
     // What is the same word in both languages.
     const QHash<QString, QStringList> sameAsEnglish{
-        {u"de"_s, {u"Variable"_s, u"&Editor"_s, u"Text (*.txt)"_s}},
+        {u"de"_s,
+         {u"Variable"_s, u"&Editor"_s, u"Text (*.txt)"_s, u"&Trend"_s, u"Trend"_s, u"Import"_s}},
         {u"es"_s,
          {u"Variable"_s, u"Variables"_s, u"&Variables"_s, u"No"_s, u"&Editor"_s, u"Error"_s}},
         {u"fr"_s,
          {u"Variable"_s, u"Variables"_s, u"&Variables"_s, u"Points"_s, u"P&oints"_s,
-          u"Condition"_s}}};
+          u"Condition"_s, u"Point"_s}}};
 
 private Q_SLOTS:
     void everyTextIsTranslated_data() { addLanguages(); }
@@ -70,7 +71,8 @@ private Q_SLOTS:
         WorkbenchWindow workbench("Fan1 = ON");
         workbench.type(u"x"_s);
         QCOMPARE(titles(workbench), QStringList({u"File"_s, u"Edit"_s, u"Program"_s, u"Points"_s,
-                                                 u"View"_s, u"Window"_s, u"Help"_s}));
+                                                 u"Controller"_s, u"View"_s, u"Window"_s,
+                                                 u"Help"_s}));
         const QMenu *menu = workbench.window.findChild<LanguageMenu *>();
         QVERIFY(menu);
         const QList<QAction *> choices = menu->actions();
@@ -81,7 +83,7 @@ private Q_SLOTS:
         choices.at(1)->trigger();
         QTRY_COMPARE(titles(workbench),
                      QStringList({u"Datei"_s, u"Bearbeiten"_s, u"Programm"_s, u"Punkte"_s,
-                                  u"Ansicht"_s, u"Fenster"_s, u"Hilfe"_s}));
+                                  u"Regelgerät"_s, u"Ansicht"_s, u"Fenster"_s, u"Hilfe"_s}));
         QCOMPARE(workbench.code().CodeText(), u"xFan1 = ON"_s);
         QVERIFY(workbench.window.isWindowModified());
         const QMenu *made = workbench.window.findChild<LanguageMenu *>();

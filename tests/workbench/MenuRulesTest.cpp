@@ -54,13 +54,14 @@ private Q_SLOTS:
             "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
             "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
             "Program: Analyse, Compile, Export Statements…, Go To Point, Back, All Uses, Results\n"
-            "Points: Read Values, Rename, Add Point…, Remove Point, Fit Columns, Choose From, "
-            "Edit Cells, Hardware Overrides\n"
+            "Points: Read Values, Rename, Add Point…, Remove Point, Import…, Fit Columns, Choose "
+            "From, Edit Cells, Hardware Overrides\n"
+            "Controller: Read All, Stop Reading, Read Cyclically, Reading…, Add To Trend, Trend\n"
             "View: Editor, Language, Settings…\n"
             "Window: Next Pane, Previous Pane, Go To Project, Go To Program, Go To Table, Go To "
             "Results, Go To Points, Show Beside, Show Below, All In Tabs, Own Window, Close "
             "Table, Next Tab, Previous Tab\n"
-            "Help: Keys, About"_s);
+            "Help: Keys, First Steps, About"_s);
     }
 
     void accessKeysDoNotClash_data()
@@ -125,7 +126,7 @@ private Q_SLOTS:
         QCOMPARE(promising,
                  QStringList({u"New Project…"_s, u"Open Project…"_s, u"Save As…"_s, u"Export…"_s,
                               u"Print…"_s, u"Find…"_s, u"Replace…"_s, u"Export Statements…"_s,
-                              u"Add Point…"_s, u"Settings…"_s}));
+                              u"Add Point…"_s, u"Import…"_s, u"Reading…"_s, u"Settings…"_s}));
     }
 
     void keysDoNotClash()

@@ -5,6 +5,7 @@
 #include "support/Disturbances.h"
 #include "support/RandomSession.h"
 #include "support/TestProgram.h"
+#include "workbench/help/FirstSteps.h"
 #include "workbench/WorkbenchTest.h"
 
 #include <QtCore/QMimeData>
@@ -149,6 +150,8 @@ private:
         note(u"choose "_s + action->text());
         const QString before = m_workbench.code().CodeText();
         action->trigger();
+        if (auto *page = window().findChild<FirstSteps *>(); page->isVisible())
+            QTest::keyClick(page, Qt::Key_Escape); // back to the project
         noteSaving(before);
     }
     void showType()

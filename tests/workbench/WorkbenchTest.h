@@ -102,8 +102,10 @@ struct WorkbenchWindow
     QString statusTexts() const
     {
         QStringList texts;
-        for (const QLabel *label : window.statusBar()->findChildren<QLabel *>())
-            texts.append(label->text());
+        for (const QLabel *label : window.statusBar()->findChildren<QLabel *>()) {
+            if (!label->text().isEmpty())
+                texts.append(label->text());
+        }
         return texts.join(u'|');
     }
     // Each row's cells, as "2 IF Reserved word|...".

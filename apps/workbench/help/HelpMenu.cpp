@@ -12,6 +12,7 @@ HelpMenu::HelpMenu(QMenuBar &menus)
     , m_menus(menus)
 {
     addAction(tr("&Keys"), QKeySequence::HelpContents, this, &HelpMenu::showKeys);
+    addAction(tr("&First Steps"), this, &HelpMenu::firstStepsWanted);
     addAction(tr("&About"), this, &HelpMenu::showAbout);
 }
 

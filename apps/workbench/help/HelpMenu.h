@@ -15,8 +15,12 @@ public:
     // The menu bar whose commands are listed; it outlives the menu.
     explicit HelpMenu(QMenuBar &menus);
 
-private:
     void showKeys();
+
+Q_SIGNALS:
+    void firstStepsWanted();
+
+private:
     void showAbout();
 
     QMenuBar &m_menus;

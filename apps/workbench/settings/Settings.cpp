@@ -86,6 +86,7 @@ void Settings::read(const QSettings &store)
     if (!code.isEmpty() && QLocale(code).language() != QLocale::C)
         language = QLocale(code);
     readLook(look, store);
+    reading.read(store);
 }
 
 void Settings::takeChanges(const Settings &former, const Settings &later)
@@ -96,6 +97,8 @@ void Settings::takeChanges(const Settings &former, const Settings &later)
         language = later.language;
     if (later.look != former.look)
         look = later.look;
+    if (later.reading != former.reading)
+        reading = later.reading;
 }
 
 void Settings::write(QSettings &store) const
@@ -103,6 +106,7 @@ void Settings::write(QSettings &store) const
     store.setValue("theme"_L1, QString(themes.at(static_cast<std::size_t>(theme))));
     store.setValue("language"_L1, language ? language->bcp47Name() : QString());
     writeLook(look, store);
+    reading.write(store);
 }
 
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/reading/ReadingSettings.h"
 #include "workbench/settings/ColourSets.h"
 #include "workbench/settings/Theme.h"
 
@@ -32,6 +33,7 @@ struct Settings
     Theme theme = Theme::System;
     std::optional<QLocale> language; // none: the system's
     EditorLook look;
+    ReadingSettings reading;
 
     // What is missing or cannot be read is as it was.
     void read(const QSettings &store);

@@ -191,7 +191,9 @@ void SettingsDialog::takeSize(int points)
 
 void SettingsDialog::restoreDefaults()
 {
-    m_settings = {};
+    Settings defaults;
+    defaults.reading = m_settings.reading; // which is not asked for here
+    m_settings = defaults;
     showSettings();
 }
 

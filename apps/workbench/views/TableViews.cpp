@@ -61,7 +61,7 @@ TableViews::Table &TableViews::make(LwType type)
     table.points->show(type);
     table.cells->setOn(m_editsCells);
     dock->setTitle(list.Caption());
-    Q_EMIT made(list);
+    Q_EMIT made(list, *table.points);
     return table;
 }
 
@@ -77,8 +77,6 @@ ViewDock *TableViews::neighbour() const
 
 void TableViews::relay(const PointTables &points)
 {
-    connect(&points, &PointTables::readingStarted, this, &TableViews::readingStarted);
-    connect(&points, &PointTables::readingFinished, this, &TableViews::readingFinished);
     connect(&points, &PointTables::renameWanted, this, &TableViews::renameWanted);
     connect(&points, &PointTables::refused, this, &TableViews::refused);
 }

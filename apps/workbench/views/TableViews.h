@@ -55,11 +55,9 @@ public:
     void retranslate();
 
 Q_SIGNALS:
-    void made(ORVTListview::ORVListView &list);
+    void made(ORVTListview::ORVListView &list, ORVTListview::PointTables &tables);
 
     // Of any of the tables: as PointTables.
-    void readingStarted();
-    void readingFinished();
     void renameWanted(ORVTListview::LwType type, qsizetype row, const QString &name);
     void refused(const QString &reason);
 

@@ -1,4 +1,4 @@
-#include "project/SimulatedController.h"
+#include "project/controller/DriftingValue.h"
 
 #include <gtest/gtest.h>
 
@@ -7,13 +7,13 @@
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
-TEST(SimulatedController, NumbersDriftALittle)
+TEST(DriftingValue, NumbersDriftALittle)
 {
-    SimulatedController controller;
+    DriftingValue values;
     double value = 50;
     int changes = 0;
     for (int reading = 0; reading < 200; ++reading) {
-        const QVariant next = controller.reading(value);
+        const QVariant next = values.next(value);
         ASSERT_EQ(next.typeId(), QMetaType::Double);
         ASSERT_LE(std::abs(next.toDouble() - value), std::abs(value) * 0.02 + 0.1501);
         ASSERT_DOUBLE_EQ(std::round(next.toDouble() * 10) / 10, next.toDouble());
@@ -23,13 +23,13 @@ TEST(SimulatedController, NumbersDriftALittle)
     EXPECT_GT(changes, 100);
 }
 
-TEST(SimulatedController, StatesChangeNowAndThen)
+TEST(DriftingValue, StatesChangeNowAndThen)
 {
-    SimulatedController controller;
+    DriftingValue values;
     QVariant state = u"On"_s;
     int changes = 0;
     for (int reading = 0; reading < 400; ++reading) {
-        const QVariant next = controller.reading(state);
+        const QVariant next = values.next(state);
         ASSERT_TRUE(next == u"On"_s || next == u"Off"_s);
         changes += next != state;
         state = next;
@@ -38,10 +38,10 @@ TEST(SimulatedController, StatesChangeNowAndThen)
     EXPECT_LT(changes, 120);
 }
 
-TEST(SimulatedController, OtherCellsStay)
+TEST(DriftingValue, OtherCellsStay)
 {
-    SimulatedController controller;
-    EXPECT_EQ(controller.reading(u"Auto"_s), QVariant(u"Auto"_s));
-    EXPECT_EQ(controller.reading(true), QVariant(true));
-    EXPECT_EQ(controller.reading({}), QVariant());
+    DriftingValue values;
+    EXPECT_EQ(values.next(u"Auto"_s), QVariant(u"Auto"_s));
+    EXPECT_EQ(values.next(true), QVariant(true));
+    EXPECT_EQ(values.next({}), QVariant());
 }

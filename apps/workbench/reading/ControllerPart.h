@@ -1,0 +1,66 @@
+#pragma once
+
+#include "workbench/reading/ReadingSettings.h"
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+
+class QMainWindow;
+class QMenuBar;
+
+namespace ORVTListview {
+
+class ORVListView;
+class PointReading;
+class PointTables;
+class ProjectDocument;
+class ReadingStatus;
+class Trend;
+class TrendDock;
+
+// What a window has to do with a controller: it reads the values, shows how far it is, and
+// draws a trend of them.
+class ControllerPart : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Belongs to the window, whose status bar and docks it uses.
+    ControllerPart(ProjectDocument &document, QMainWindow &window);
+    ~ControllerPart() override;
+
+    PointReading &reading() const { return *m_reading; }
+
+    // Tables that show what is read, and ask for it. Any number of them; each may go.
+    void serve(ORVListView &list, PointTables &tables);
+
+    void addMenu(QMenuBar &menus);
+
+    void setSettings(const ReadingSettings &settings);
+
+    // After a change of language.
+    void retranslate();
+
+Q_SIGNALS:
+    // The user has decided anew.
+    void settingsChosen(const ORVTListview::ReadingSettings &settings);
+
+private:
+    void choose();
+    void setCyclic(bool on);
+    void draw();
+    void drawRows(const PointTables &tables);
+    void tell(const QString &text, int milliseconds);
+
+    QMainWindow &m_window;
+    SimulatedController *m_controller;
+    PointReading *m_reading;
+    ReadingStatus *m_status;
+    Trend *m_trend;
+    TrendDock *m_dock;
+    ReadingSettings m_settings;
+    QList<QPointer<PointTables>> m_tables;
+};
+
+} // namespace ORVTListview
