@@ -22,9 +22,9 @@ QString className(QMetaType type)
 
 HandedClass *HandedClass::s_first = nullptr;
 
-HandedClass::HandedClass(QMetaType type, Members members, Facts facts) noexcept
+HandedClass::HandedClass(QMetaType type, Members entries, Facts facts) noexcept
     : m_type(type)
-    , m_members(members)
+    , m_members(entries)
     , m_facts(facts)
     , m_next(s_first)
 {

@@ -23,7 +23,7 @@ public:
     using Facts = QList<MemberFacts> (*)();
 
     // The type is that of the pointer, or of the value itself for what is copied.
-    HandedClass(QMetaType type, Members members, Facts facts = nullptr) noexcept;
+    HandedClass(QMetaType type, Members entries, Facts facts = nullptr) noexcept;
     ~HandedClass();
     Q_DISABLE_COPY_MOVE(HandedClass) // others are found by its address
 
