@@ -46,9 +46,9 @@ struct Controlled : WorkbenchWindow
 
     void behave(const SimulatedBehaviour &behaviour)
     {
-        Settings settings = window.settings();
-        settings.reading.simulated = behaviour;
-        window.setSettings(settings);
+        ORVTListview::Settings changed = window.settings();
+        changed.reading.simulated = behaviour;
+        window.setSettings(changed);
     }
     QWidget &status() { return *window.findChild<ReadingStatus *>(); }
     QString told() { return status().findChild<QLabel *>()->toolTip(); }

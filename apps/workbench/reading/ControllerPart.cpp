@@ -34,6 +34,7 @@ ControllerPart::ControllerPart(ProjectDocument &document, QMainWindow &window)
 {
     window.addDockWidget(Qt::BottomDockWidgetArea, m_dock);
     m_dock->hide();
+    window.resizeDocks({m_dock}, {window.fontMetrics().height() * 20}, Qt::Vertical);
     window.statusBar()->addPermanentWidget(m_status);
     m_status->hide(); // the bar shows what it takes
     connect(m_status, &ReadingStatus::succeeded, this,

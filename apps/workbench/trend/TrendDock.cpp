@@ -13,6 +13,7 @@
 #include <QtGui/QAction>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QTreeWidget>
@@ -44,9 +45,16 @@ TrendDock::TrendDock(Trend &trend, QWidget *parent)
     layout->setSpacing(0);
     layout->addWidget(m_commands);
     auto *parts = new QSplitter(body);
-    parts->addWidget(m_view);
+    auto *scrolled = new QScrollArea(parts);
+    scrolled->setWidget(m_view);
+    scrolled->setWidgetResizable(true);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setFocusPolicy(Qt::NoFocus);
+    parts->addWidget(scrolled);
     parts->addWidget(m_legend);
     parts->setStretchFactor(0, 1);
+    parts->setSizes(
+        {fontMetrics().averageCharWidth() * 100, fontMetrics().averageCharWidth() * 62});
     parts->setChildrenCollapsible(false);
     layout->addWidget(parts, 1);
     setWidget(body);
@@ -79,6 +87,8 @@ void TrendDock::makeLegend()
     m_legend->setFrameShape(QFrame::NoFrame);
     m_legend->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_legend->setColumnCount(4);
+    m_legend->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_legend->header()->setStretchLastSection(false);
     m_remove->setShortcut(Qt::Key_Delete);
     m_remove->setShortcutContext(Qt::WidgetShortcut);
     m_legend->addAction(m_remove);
@@ -115,8 +125,6 @@ void TrendDock::showLines()
     m_legend->setIconSize({height * 5 / 2, height});
     m_remove->setEnabled(false);
     showValues();
-    for (int column = 0; column < m_legend->columnCount(); ++column)
-        m_legend->resizeColumnToContents(column);
 }
 
 void TrendDock::showValues()

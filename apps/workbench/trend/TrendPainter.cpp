@@ -16,6 +16,9 @@ namespace {
 
 constexpr double margin = 6;
 constexpr double laneGap = 10;
+constexpr double headHeight = 1.1; // in lines: the unit over its strip
+constexpr double statesHeight = 3; // of a strip of numbers, in strips of states
+constexpr double leastPart = 1.5;  // of the latter, in lines
 constexpr double markSize = 3.5;
 constexpr double markDistance = 28; // at least, in pixels
 
@@ -55,8 +58,10 @@ TrendPainter::TrendPainter(const QList<TrendLine> &lines, const QWidget &on, con
     , m_plot(area.adjusted(margin, margin, -margin, -margin))
     , m_begin(begin)
     , m_end(end)
+    , m_lanes(divided(lines))
 {
-    divide();
+    for (Lane &lane : m_lanes)
+        scale(lane);
     m_plot.setBottom(m_plot.bottom() - lineHeight() * 1.2); // the times
     place(0);
     place(labelWidth());
@@ -86,20 +91,30 @@ qint64 TrendPainter::timeAt(double x) const
     return m_begin + static_cast<qint64>(part * static_cast<double>(m_end - m_begin));
 }
 
-void TrendPainter::divide()
+QList<TrendPainter::Lane> TrendPainter::divided(const QList<TrendLine> &lines)
 {
-    for (qsizetype line = 0; line < m_lines.size(); ++line) {
-        const TrendLine &each = m_lines.at(line);
-        const auto same = std::find_if(m_lanes.begin(), m_lanes.end(), [&each](const Lane &lane) {
+    QList<Lane> lanes;
+    for (qsizetype line = 0; line < lines.size(); ++line) {
+        const TrendLine &each = lines.at(line);
+        const auto same = std::find_if(lanes.begin(), lanes.end(), [&each](const Lane &lane) {
             return !lane.isState && !each.isState && lane.unit == each.unit;
         });
-        if (same == m_lanes.end())
-            m_lanes.append({each.isState ? each.name : each.unit, each.isState, {line}, {}, {}});
+        if (same == lanes.end())
+            lanes.append({each.isState ? each.name : each.unit, each.isState, {line}, {}, {}});
         else
             same->lines.append(line);
     }
-    for (Lane &lane : m_lanes)
-        scale(lane);
+    return lanes;
+}
+
+int TrendPainter::leastHeight(const QList<TrendLine> &lines, const QWidget &on)
+{
+    double parts = 1.2; // the times
+    const QList<Lane> lanes = divided(lines);
+    for (const Lane &lane : lanes)
+        parts += headHeight + (lane.isState ? 1 : statesHeight) * leastPart;
+    const auto gaps = static_cast<double>(lanes.size()) * laneGap + 2 * margin;
+    return static_cast<int>(parts * on.fontMetrics().height() + gaps);
 }
 
 void TrendPainter::scale(Lane &lane) const
@@ -119,19 +134,19 @@ void TrendPainter::scale(Lane &lane) const
     lane.scale = all ? TrendScale::around(all->least, all->most) : TrendScale();
 }
 
-// A strip of numbers is as high as four of states.
+// A strip of numbers is as high as some of states.
 void TrendPainter::place(double labelWidth)
 {
     m_plot.setLeft(m_plot.left() + labelWidth);
     double parts = 0;
     for (const Lane &lane : m_lanes)
-        parts += lane.isState ? 1 : 4;
-    const double head = lineHeight() * 1.1; // the unit stands over its strip
+        parts += lane.isState ? 1 : statesHeight;
+    const double head = lineHeight() * headHeight;
     const double gaps = static_cast<double>(m_lanes.size()) * (head + laneGap);
     const double part = std::max(1.0, (m_plot.height() - gaps) / std::max(1.0, parts));
     double top = m_plot.top();
     for (Lane &lane : m_lanes) {
-        const double height = part * (lane.isState ? 1 : 4);
+        const double height = part * (lane.isState ? 1 : statesHeight);
         lane.place = QRectF(m_plot.left(), top + head, m_plot.width(), height);
         top += head + height + laneGap;
     }
@@ -184,8 +199,8 @@ void TrendPainter::paintLane(QPainter &painter, const Lane &lane) const
         painter.drawText(QRectF(0, y - lineHeight(), lane.place.left() - margin, 2 * lineHeight()),
                          Qt::AlignRight | Qt::AlignVCenter, labels.at(i));
     }
-    const QRectF head(lane.place.left(), lane.place.top() - lineHeight() * 1.1, lane.place.width(),
-                      lineHeight());
+    const QRectF head(lane.place.left(), lane.place.top() - lineHeight() * headHeight,
+                      lane.place.width(), lineHeight());
     painter.drawText(
         head, Qt::AlignLeft | Qt::AlignVCenter,
         m_on.fontMetrics().elidedText(lane.unit, Qt::ElideRight, static_cast<int>(head.width())));

@@ -25,6 +25,9 @@ public:
     // A line at a time, and beside it what was read.
     void paintCursor(QPainter &painter, qint64 when, const QStringList &readOut) const;
 
+    // That it takes to be read.
+    static int leastHeight(const QList<TrendLine> &lines, const QWidget &on);
+
     double xOf(qint64 when) const;
     qint64 timeAt(double x) const; // the nearest one that is shown
 
@@ -42,7 +45,7 @@ private:
         QStringList labels(const QList<double> &ticks, const QLocale &locale) const;
     };
 
-    void divide();
+    static QList<Lane> divided(const QList<TrendLine> &lines);
     void scale(Lane &lane) const;
     void place(double labelWidth);
     double labelWidth();

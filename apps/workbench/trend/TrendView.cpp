@@ -89,6 +89,7 @@ void TrendView::zoom(bool isIn)
 void TrendView::follow()
 {
     setAccessibleDescription(description());
+    setMinimumHeight(TrendPainter::leastHeight(m_trend.lines(), *this)); // or it is scrolled
     update();
 }
 
@@ -219,9 +220,10 @@ void TrendView::setCursorAt(std::optional<qint64> when)
 void TrendView::wheelEvent(QWheelEvent *event)
 {
     const int turn = event->angleDelta().y();
-    if (turn != 0)
+    const bool isZoom = turn != 0 && event->modifiers().testFlag(Qt::ControlModifier);
+    if (isZoom)
         zoom(turn > 0);
-    event->accept();
+    event->setAccepted(isZoom); // otherwise it scrolls
 }
 
 void TrendView::mouseMoveEvent(QMouseEvent *event)

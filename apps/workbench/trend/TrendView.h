@@ -13,8 +13,8 @@ class TrendPainter;
 // Shows a trend, the latest time of it.
 //
 // Keys: Left and Right go from sample to sample, Home and End to the first and last, Esc
-// leaves them; + and - show a shorter and a longer time, as the wheel does. What is read at
-// the cursor or under the mouse is shown, and told to screen readers.
+// leaves them; + and - show a shorter and a longer time, as the wheel with Ctrl does. What is read
+// at the cursor or under the mouse is shown, and told to screen readers.
 class TrendView : public QWidget
 {
     Q_OBJECT
