@@ -3,6 +3,7 @@
 // thread until all is in colours; then undo and redo in it.
 
 #include "code_editor.h"
+#include "full_view.h"
 #include "keys.h"
 #include "painting.h"
 #include "program.h"
@@ -15,6 +16,8 @@
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QPlainTextEdit>
+
+#include <algorithm>
 
 using namespace ORVTListview;
 using namespace ORVTListview::bench;
@@ -159,6 +162,10 @@ void measureOpening(const QString &program)
               .ours = medianOf(u"openProgram of codeView"_s, sides.ours),
               .peers = medianOf(u"QPlainTextEdit::setPlainText"_s, sides.peers),
               .bound = 1.2});
+    const double beyond = std::max(0., sides.ours.median() - sides.peers.median());
+    printRow({.name = u"… beyond plain text"_s,
+              .ours = {u"our editor"_s, beyond, beyond, sides.ours.count()},
+              .bound = 100 * milliseconds});
     editor.timeFirstPicture();
     printRow({.name = u"… the longest stop until all of it is in colours, at work"_s,
               .ours = slowestOf(u"our editor"_s, editor.stopsUntilWhole()),
@@ -199,11 +206,35 @@ void measureUndo(const QString &program)
               .ours = slowestOf(u"our editor"_s, steps)});
 }
 
+// With all that is shown beside the text, and programs kept as they are typed.
+void measureUndoOfAll(const QString &program)
+{
+    constexpr int words = 9;
+    ShownEditor editor(program);
+    showAll(editor.widget(), {.problems = 1000, .bookmarks = 100, .values = 10000});
+    editor.open();
+    editor.waitUntilIdle();
+    Times steps;
+    for (const int part : {2, 3, 4}) {
+        editor.box().setSelStart(editor.box().TextLength() / part);
+        for (int i = 0; i < words; ++i)
+            editor.type(u"x y "_s);
+        editor.waitUntilIdle();
+        for (int i = 1; i < words; ++i)
+            steps.add(editor.timeKey(i % 4 == 3 ? redoKey : undoKey));
+        editor.waitUntilIdle();
+    }
+    printRow({.name = u"The longest undo or redo of 10 MB kept as typed, with all of it, at work"_s,
+              .ours = slowestOf(u"our editor"_s, steps),
+              .bound = 50 * milliseconds});
+}
+
 void measure()
 {
     const QString program = makeProgram(largeProgram).text;
     measureOpening(program);
     measureUndo(program);
+    measureUndoOfAll(program);
 }
 
 } // namespace

@@ -31,7 +31,15 @@ public:
     QStringView behind(qsizetype position, qsizetype longest) const;
     QStringView before(qsizetype position, qsizetype longest) const;
 
+    // A part of it, which lies within.
+    QString mid(qsizetype start, qsizetype length) const { return part(start, length).toString(); }
+
     bool equals(const SharedText &other) const;
+
+    // How many characters the two have in common at their starts, or at their ends and not
+    // more than so many. Pieces that both hold take no time.
+    qsizetype alikeAtStart(const SharedText &other) const;
+    qsizetype alikeAtEnd(const SharedText &other, qsizetype most) const;
 
     // The same text, holding the other's pieces where both begin and end alike.
     // As it is, when less than half would be shared or the pieces would be more
@@ -72,8 +80,6 @@ private:
     SharedText part(qsizetype start, qsizetype length) const;
     QString takeShortEnd(qsizetype longest);
     QString takeShortStart(qsizetype longest);
-    qsizetype alikeAtStart(const SharedText &other) const;
-    qsizetype alikeAtEnd(const SharedText &other, qsizetype most) const;
 
     QList<Piece> m_pieces; // none empty
     qsizetype m_size = 0;

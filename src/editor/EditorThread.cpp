@@ -40,6 +40,15 @@ ColouredText EditorThread::finished(const QString &text, Spelling spelling) cons
     return plain;
 }
 
+FinishedBy EditorThread::finishedBy() const
+{
+    FinishedBy result;
+    result.words = knownWords().changes();
+    for (int slot = 1; slot <= colourSlots; ++slot)
+        result.colours[static_cast<std::size_t>(slot - 1)] = colourOfSlot(slot, settings());
+    return result;
+}
+
 const RichTextSettings &EditorThread::settings() const
 {
     return state.EditorSettings;

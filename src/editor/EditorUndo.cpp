@@ -1,7 +1,7 @@
 #include "editor/EditorUndo.h"
 
 #include "base/MessageService.h"
-#include "editor/EditorThread.h"
+#include "editor/LineStep.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "shared/texts/ToldFailure.h"
@@ -26,6 +26,7 @@ EditorUndo::EditorUndo(RichTextBox &box, const EditorThread &thread)
     : m_box(box)
     , m_thread(thread)
     , m_changed(now())
+    , m_settled(*box.document())
 {
     m_idle.setSingleShot(true);
     connect(&m_idle, &QTimer::timeout, this, &EditorUndo::encodeWhenIdle);
@@ -100,19 +101,23 @@ bool EditorUndo::stepInRing(Way way)
     m_idle.start(idleAfter);
     const std::optional<qint16> slot =
         way == Way::Forward ? m_thread.ring.RedoStepForward() : m_thread.ring.UndoStepBack();
-    const QString record = slot ? m_thread.ring.FetchUndoSnapshot(*slot) : QString();
-    if (record.isEmpty())
+    const std::optional<UndoState> state = slot ? stateAt(*slot) : std::nullopt;
+    if (!state)
         return false;
-    UndoRecord state;
+    show(*state, Spelling::Listed);
+    m_kept.afterStep(m_thread.ring);
+    return true;
+}
+
+std::optional<UndoState> EditorUndo::stateAt(qint16 slot)
+{
     try {
-        state = splitUndoRecord(record);
+        return m_thread.ring.FetchUndoState(slot);
     } catch (const Error &) {
+        const QString record = m_thread.ring.FetchUndoSnapshot(slot); // raises it when damaged
         m_kept.keepUnreachable(m_thread.ring, joinedUndoRecord(record));
         throw;
     }
-    show(state, coloured(state.text));
-    m_kept.afterStep(m_thread.ring);
-    return true;
 }
 
 ColouredText EditorUndo::coloured(const QString &text) const
@@ -135,23 +140,59 @@ bool EditorUndo::bringBackKeptText()
 }
 
 // Unlike a slot it is shown exactly as it was, without what colouring does to it.
-bool EditorUndo::showKept(const std::optional<UndoRecord> &kept)
+bool EditorUndo::showKept(const std::optional<UndoState> &kept)
 {
     if (!kept)
         return false;
-    show(*kept, m_thread.finished(kept->text, Spelling::AsTyped));
+    show(*kept, Spelling::AsTyped);
     m_idle.start(idleAfter);
     return true;
 }
 
-void EditorUndo::show(const UndoRecord &record, const ColouredText &text)
+void EditorUndo::show(const UndoState &state, Spelling spelling)
 {
-    const LateColours::Allowed late(LateColours::of(*m_box.document()), LateColours::Lines::Former);
     const KeptView view(m_box);
-    m_box.setColoured(text);
+    if (!showLines(state.text, spelling))
+        showWhole(state.text.toString(), spelling);
     m_changed = now();
-    m_box.setSelStart(record.selectionStart);
-    m_box.setSelLength(record.selectionLength);
+    m_box.setSelStart(state.selectionStart);
+    m_box.setSelLength(state.selectionLength);
+}
+
+// Only where the finished look of a line goes by that line alone.
+bool EditorUndo::showLines(const SharedText &text, Spelling spelling)
+{
+    if (!m_keepsText || m_settledBy != m_thread.finishedBy())
+        return false;
+    const auto finished = [&](const QString &lines) { return m_thread.finished(lines, spelling); };
+    if (!LineStep(m_box, m_settled).show(text, finished))
+        return false;
+    if (spelling == Spelling::Listed)
+        m_settled.settleAll();
+    return true;
+}
+
+void EditorUndo::showWhole(const QString &text, Spelling spelling)
+{
+    const bool isListed = spelling == Spelling::Listed;
+    const ColouredText whole = isListed ? coloured(text) : m_thread.finished(text, spelling);
+    {
+        const LateColours::Allowed late(LateColours::of(*m_box.document()),
+                                        LateColours::Lines::Former);
+        m_box.setColoured(whole);
+    }
+    m_settled.unsettleAll();
+    if (isListed && m_keepsText)
+        noteFinished(text);
+}
+
+void EditorUndo::noteFinished(const QString &text)
+{
+    m_settled.unsettleAll();
+    if (!LateColours::suits(text)) // it went in as another one
+        return;
+    m_settled.settleAll();
+    m_settledBy = m_thread.finishedBy();
 }
 
 UndoState EditorUndo::shown() const

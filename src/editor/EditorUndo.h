@@ -2,16 +2,16 @@
 
 #include "base/HostHistory.h"
 #include "editor/EditorClock.h"
+#include "editor/EditorThread.h"
+#include "editor/SettledLines.h"
 #include "editor/rules/undo/KeptStates.h"
 #include "editor/rules/undo/UndoStore.h"
-
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
 
 namespace ORVTListview {
 
 class RichTextBox;
-struct EditorThread;
 struct ColouredText;
 
 // One editor's use of the undo ring that all editors of its thread share.
@@ -67,6 +67,9 @@ public:
     void clearHistory();
     void beginWithShown(); // nothing to undo, and the text shown as the base
 
+    // The box was just given a text that was finished as a whole.
+    void noteFinished(const QString &text);
+
     // Before and after the text is changed by anything but undo and redo. When it
     // loses a part at once, or has stood for a while, the state before is kept.
     void beforeEdit(bool losesPart);
@@ -77,8 +80,11 @@ private:
     bool hasStood() const;
     bool step(Way way, QString &ErrMsg);
     bool stepInRing(Way way);
-    bool showKept(const std::optional<UndoRecord> &kept);
-    void show(const UndoRecord &record, const ColouredText &text);
+    std::optional<UndoState> stateAt(qint16 slot);
+    bool showKept(const std::optional<UndoState> &kept);
+    void show(const UndoState &state, Spelling spelling);
+    bool showLines(const SharedText &text, Spelling spelling);
+    void showWhole(const QString &text, Spelling spelling);
     UndoState shown() const;
     void encodeWhenIdle();
 
@@ -87,6 +93,8 @@ private:
     KeptStates m_kept;
     HostHistory m_host;
     EditorClock::Time m_changed; // when the text was, last
+    SettledLines m_settled;
+    FinishedBy m_settledBy;
     QTimer m_idle;
     bool m_isReady = false;
     bool m_isTypedSinceSnapshot = false;

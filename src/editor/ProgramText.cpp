@@ -8,9 +8,11 @@
 #include "editor/WordChoice.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/EditorState.h"
+#include "editor/rules/colouring/FinishedParts.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/RtfHead.h"
 #include "widgets/box/BoxMimeData.h"
+#include "widgets/box/LateColours.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QScopeGuard>
@@ -124,9 +126,24 @@ void ProgramText::setCodeText(const QString &text)
 void ProgramText::openProgram(const QString &text)
 {
     const RichTextBox::Changing changing(m_box);
-    m_box.setColoured(m_thread.finished(asInBox(text), Spelling::Listed));
+    const QString program = asInBox(text);
+    const bool isLong = program.size() >= LateColours::shortest;
+    const bool isNew = m_box.TextLength() == 0;
+    if (isLong && isNew && !m_thread.knownWords().index().isEmpty() && LateColours::suits(program))
+        openInParts(program);
+    else
+        m_box.setColoured(m_thread.finished(program, Spelling::Listed));
+    m_undo.noteFinished(program);
     m_box.ensureCursorVisible();
     m_undo.beginWithShown();
+}
+
+// The box takes one part while others are still finished.
+void ProgramText::openInParts(const QString &program)
+{
+    const ColourEngine engine = m_thread.colouring();
+    FinishedParts parts(engine, program, m_thread.settings());
+    m_box.setColoured([&] { return parts.next(); });
 }
 
 QString ProgramText::CodeTextRTF()

@@ -37,6 +37,7 @@ public:
     void RTextSelectAll();
 
 private:
+    void openInParts(const QString &program);
     void applyAppearance(const RichTextSettings &setting);
     void colourInPlace();
     void setAnew();

@@ -7,7 +7,9 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
+#include <QtGui/QDropEvent>
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QScrollBar>
 
@@ -29,6 +31,22 @@ struct Case
 void putCaret(EditorHost &host, int line, int column = 0)
 {
     host.box().setSelStart(host.box().lineStart(line) + column);
+}
+
+// At the caret.
+EditorAct drop(const QString &text)
+{
+    return [text](EditorHost &host) {
+        QMimeData data;
+        data.setText(text);
+        host.box().ensureCursorVisible();
+        const QPointF place = host.box().cursorRect().center();
+        QWidget &viewport = *host.box().viewport();
+        QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&viewport, &enter);
+        QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&viewport, &event);
+    };
 }
 
 // What the user or the host does; all of it far from the lines in view.
@@ -96,6 +114,24 @@ QList<Case> acts()
                                  host.list->Undo(errMsg);
                                  host.list->Redo(errMsg);
                              })},
+        {"undo and redo of a text that is kept as it is",
+         at(3000, 4,
+            [](EditorHost &host) {
+                host.list->codeView()->setKeepsText(true);
+                host.type(u"x temp1 z "_s);
+                for (const int key : {Qt::Key_Z, Qt::Key_Z, Qt::Key_Y})
+                    host.key(key, Qt::ControlModifier);
+            })},
+        {"names dropped", at(3000, 4, drop(u"temp1 fan1"_s))},
+        {"text dropped in place of a selection", at(2990, 4,
+                                                    [](EditorHost &host) {
+                                                        host.box().setSelLength(200);
+                                                        drop(u"if temp1\nfan1"_s)(host);
+                                                    })},
+        {"found far below",
+         [](EditorHost &host) { QVERIFY(host.box().Find(u"var1 = 3900"_s) > 0); }},
+        {"saved in the middle",
+         [](EditorHost &host) { QVERIFY(host.list->CodeText().contains(u"Var1 = 3900"_s)); }},
         {"an indent", at(2600, 1,
                          [](EditorHost &host) {
                              host.box().setSelLength(500);

@@ -58,7 +58,7 @@ void checkSlot(const QString &slot)
     demand(ring.UndoSlots(3) == slot, "a slot is kept as it is given");
     const auto joined = orNothing([&] { return ring.FetchUndoSnapshot(3); });
     demand(joined == orNothing([&] { return decodeUndoSlot(slot); }), "the ring decodes the slot");
-    const auto held = orNothing([&] { return ring.held(3).record(); });
+    const auto held = orNothing([&] { return ring.held(3).state().record(); });
     ring.encodePending();
     demand(ring.UndoSlots(3) == slot, "encoding leaves a slot that is encoded");
     if (held && !slot.isEmpty())

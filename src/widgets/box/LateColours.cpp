@@ -1,6 +1,5 @@
 #include "widgets/box/LateColours.h"
 
-#include "base/TextSearch.h"
 #include "widgets/box/BoxColours.h"
 #include "widgets/box/BoxFormats.h"
 #include "widgets/box/BoxLayout.h"
@@ -128,25 +127,30 @@ bool LateColours::suits(QStringView text)
     return true;
 }
 
-void LateColours::begin(const ColouredText &text, Lines lines, Allowed &permission)
+void LateColours::begin(ColouredLines lines, Lines kind, Allowed &permission)
 {
     stop();
-    m_text = text;
+    m_lines = std::move(lines);
     m_isWaiting = true;
-    findLines();
     markAll();
     permission.m_serial = ++m_serial;
-    m_left = static_cast<int>(m_lines.size());
-    m_hasFormerLines = lines == Lines::Former;
+    m_left = m_lines.count();
+    m_kind = kind;
     m_view = -1;
     m_timer.start(0);
 }
 
 void LateColours::stop()
 {
-    if (!std::exchange(m_isWaiting, false))
+    if (!m_isWaiting)
         return;
-    m_text = {};
+    end();
+    Q_EMIT stopped();
+}
+
+void LateColours::end()
+{
+    m_isWaiting = false;
     m_lines = {};
     m_formats.clear();
     m_timer.start(0); // to tell of it
@@ -154,22 +158,8 @@ void LateColours::stop()
 
 int LateColours::percentDone() const
 {
-    const auto lines = static_cast<qint64>(m_lines.size());
+    const qint64 lines = m_lines.count();
     return m_isWaiting ? static_cast<int>((lines - m_left) * 100 / lines) : 100;
-}
-
-void LateColours::findLines()
-{
-    const QStringView text = m_text.text;
-    const QList<ColouredText::Run> &runs = m_text.runs;
-    Line line;
-    m_lines.reserve(static_cast<std::size_t>(m_document.blockCount()));
-    for (qsizetype end = 0; end >= 0; line.start = static_cast<int>(end) + 2) {
-        while (line.run < runs.size() && line.runStart + runs[line.run].length <= line.start)
-            line.runStart += static_cast<int>(runs[line.run++].length);
-        m_lines.push_back(line);
-        end = findCrLf(text, line.start);
-    }
 }
 
 // Marks of former texts may still be there, so none is used twice.
@@ -187,29 +177,7 @@ void LateColours::markAll()
 bool LateColours::waits(const QTextBlock &block) const
 {
     const int mark = block.userState();
-    return mark >= m_firstMark && mark - m_firstMark < static_cast<int>(m_lines.size());
-}
-
-int LateColours::lengthOf(std::size_t line) const
-{
-    const bool isLast = line + 1 == m_lines.size();
-    const int end = isLast ? static_cast<int>(m_text.text.size()) : m_lines[line + 1].start - 2;
-    return end - m_lines[line].start;
-}
-
-QList<ColouredText::Run> LateColours::runsOf(std::size_t line) const
-{
-    const Line &begin = m_lines[line];
-    const int end = begin.start + lengthOf(line);
-    ColouredText result;
-    int start = begin.runStart;
-    for (qsizetype run = begin.run; run < m_text.runs.size() && start < end; ++run) {
-        const int next = start + static_cast<int>(m_text.runs[run].length);
-        result.appendRun(std::min(next, end) - std::max(start, begin.start),
-                         m_text.runs[run].colour);
-        start = next;
-    }
-    return result.runs;
+    return mark >= m_firstMark && mark - m_firstMark < m_lines.count();
 }
 
 const QTextCharFormat &LateColours::formatOf(Colour colour)
@@ -250,16 +218,20 @@ void LateColours::colourPlain(QTextCursor &cursor, const QTextBlock &block,
 
 void LateColours::colour(QTextCursor &cursor, QTextBlock &block)
 {
-    const auto line = static_cast<std::size_t>(block.userState() - m_firstMark);
+    const int line = block.userState() - m_firstMark;
     block.setUserState(noMark);
     --m_left;
-    const ColouredText wanted{m_text.text.sliced(m_lines[line].start, lengthOf(line)),
-                              runsOf(line)};
+    show(cursor, block, m_lines.at(line), m_kind);
+}
+
+void LateColours::show(QTextCursor &cursor, const QTextBlock &block, const ColouredText &wanted,
+                       Lines lines)
+{
     QString shown = block.text();
     BoxMarks::restore(block, shown);
     if (shown != wanted.text)
         return; // changed past the box
-    const bool isNew = !m_hasFormerLines;
+    const bool isNew = lines == Lines::New;
     const bool isPlain = BoxMarks::isPlain(wanted.text) && (!isNew || isWithoutFormat(block));
     if (!block.charFormat().isEmpty()) {
         cursor.setPosition(block.position());
@@ -270,6 +242,14 @@ void LateColours::colour(QTextCursor &cursor, QTextBlock &block)
     if (!isNew)
         stripFormats(cursor, block);
     BoxColours::apply(m_document, m_boxText, m_boxText.toBox(block.position()), wanted);
+}
+
+void LateColours::colourNow(int firstLine, const ColouredLines &lines)
+{
+    Group group(m_document);
+    QTextBlock block = m_document.findBlockByNumber(firstLine);
+    for (int line = 0; line < lines.count() && block.isValid(); ++line, block = block.next())
+        show(group.cursor, block, lines.at(line), Lines::Former);
 }
 
 void LateColours::give(const QList<Range> &ranges)
@@ -367,7 +347,7 @@ bool LateColours::giveUntil(const std::function<bool()> &isTimeUp)
     }
     const bool isOver = m_left == 0 || m_passed > m_document.blockCount();
     if (isOver)
-        stop();
+        end();
     return !isOver;
 }
 

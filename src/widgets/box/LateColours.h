@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ColouredText.h"
+#include "widgets/box/ColouredLines.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QList>
@@ -12,7 +13,6 @@
 #include <chrono>
 #include <functional>
 #include <utility>
-#include <vector>
 
 class QTextBlock;
 class QTextCursor;
@@ -86,10 +86,14 @@ public:
     static bool suits(QStringView text);
 
     // The document has just got the lines of a text that suits; all of them wait now.
-    void begin(const ColouredText &text, Lines lines, Allowed &permission);
+    void begin(ColouredLines lines, Lines kind, Allowed &permission);
 
     // The lines that wait are left as they are.
     void stop();
+
+    // Colours lines at once that have stood there, from one on, and takes from them what
+    // else they have. Those that have another text stay as they are.
+    void colourNow(int firstLine, const ColouredLines &lines);
 
     bool areWaiting() const { return m_isWaiting; }
     int percentDone() const;
@@ -122,22 +126,19 @@ Q_SIGNALS:
     // After each slice, and after the end, whatever brought it about.
     void progressed();
 
+    // Lines that waited are left as they are.
+    void stopped();
+
 private:
-    struct Line
-    {
-        int start = 0; // in the text
-        int run = 0;   // the one that it begins in, and
-        int runStart = 0;
-    };
     class Group;
 
-    void findLines();
     void markAll();
+    void end();
     void beginRoundAt(int line);
     bool waits(const QTextBlock &block) const;
-    int lengthOf(std::size_t line) const;
-    QList<ColouredText::Run> runsOf(std::size_t line) const;
     void colour(QTextCursor &cursor, QTextBlock &block);
+    void show(QTextCursor &cursor, const QTextBlock &block, const ColouredText &wanted,
+              Lines lines);
     void colourPlain(QTextCursor &cursor, const QTextBlock &block,
                      const QList<ColouredText::Run> &runs);
     const QTextCharFormat &formatOf(Colour colour);
@@ -149,8 +150,7 @@ private:
 
     QTextDocument &m_document;
     const BoxText &m_boxText;
-    ColouredText m_text;
-    std::vector<Line> m_lines;
+    ColouredLines m_lines;
     QHash<Colour, QTextCharFormat> m_formats;
     QTimer m_timer;
     std::function<int()> m_firstShown;
@@ -158,7 +158,7 @@ private:
     Allowed *m_permission = nullptr;
     int m_serial = 0;
     bool m_isWaiting = false;
-    bool m_hasFormerLines = false;
+    Lines m_kind = Lines::New;
     int m_firstMark = 0;   // of the first line; the others' follow
     int m_lastCount = 0;   // of marks
     int m_left = 0;        // how many lines wait, or have gone

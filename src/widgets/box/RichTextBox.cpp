@@ -351,9 +351,38 @@ void RichTextBox::setColoured(const ColouredText &text)
         }
         d->text.know(text.text, mayKeepFormer);
         if (isLate)
-            d->late.begin(text, mayKeepFormer && keepsLines ? Lines::Former : Lines::New, *allowed);
+            d->late.begin(ColouredLines(text),
+                          mayKeepFormer && keepsLines ? Lines::Former : Lines::New, *allowed);
         if (isShort)
             d->late.giveAll();
+        select(0, 0);
+    });
+}
+
+void RichTextBox::setColoured(const NextPart &next)
+{
+    LateColours::Allowed *const allowed = d->late.takePermission();
+    replaceAll([&] {
+        clearAll(*document());
+        ColouredLines lines;
+        QString whole;
+        {
+            QTextCursor cursor(document());
+            BoxSink sink(cursor, d->formats);
+            for (auto part = next(); part; part = next()) {
+                if (lines.count() > 0) {
+                    sink.lineEnd();
+                    whole += u"\r\n";
+                }
+                writeColoured(allowed ? ColouredText{part->text, {}} : *part, d->formats.base(),
+                              sink);
+                whole += part->text;
+                lines.append(*part);
+            }
+        }
+        d->text.know(whole, false);
+        if (allowed)
+            d->late.begin(std::move(lines), LateColours::Lines::New, *allowed);
         select(0, 0);
     });
 }

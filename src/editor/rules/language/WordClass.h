@@ -57,6 +57,6 @@ ORVT_HOUSE_EXPORT void ClassStyleForType(qint32 TypeIndex, const RichTextSetting
 
 // The colour that a slot of the RTF colour table takes from the settings; slot
 // runs from 1 to colourSlots.
-Colour colourOfSlot(int slot, const RichTextSettings &settings);
+ORVT_HOUSE_EXPORT Colour colourOfSlot(int slot, const RichTextSettings &settings);
 
 } // namespace ORVTListview

@@ -8,9 +8,10 @@
 
 namespace ORVTListview {
 
-HeldState::HeldState(const UndoState &state)
+HeldState::HeldState(const UndoState &state, const QString &encodedSlot)
     : m_plain(state)
-    , m_isWaiting(state.text.size() >= shortestCompressedRecord)
+    , m_slot(encodedSlot)
+    , m_isWaiting(m_slot.isEmpty() && state.text.size() >= shortestCompressedRecord)
 {
 }
 
@@ -23,14 +24,21 @@ HeldState::HeldState(HeldState &&other) noexcept = default;
 HeldState &HeldState::operator=(HeldState &&other) noexcept = default;
 HeldState::~HeldState() = default;
 
-UndoRecord HeldState::record() const
+UndoState HeldState::state() const
 {
-    return m_slot.isEmpty() ? m_plain.record() : joinedUndoRecord(decodeUndoSlot(m_slot));
+    return m_plain ? *m_plain : joinedUndoRecord(decodeUndoSlot(m_slot));
 }
 
 qsizetype HeldState::bytes() const
 {
-    return (m_plain.text.size() + m_slot.size()) * qsizetype{sizeof(QChar)};
+    const qsizetype plain = m_plain ? m_plain->text.size() : 0;
+    return (plain + m_slot.size()) * qsizetype{sizeof(QChar)};
+}
+
+void HeldState::dropPlainText()
+{
+    if (!m_slot.isEmpty())
+        m_plain.reset();
 }
 
 void HeldState::encode(qsizetype characters)
@@ -39,17 +47,15 @@ void HeldState::encode(qsizetype characters)
     Progress progress = Progress::Impossible;
     try {
         if (!m_encoder)
-            m_encoder = std::make_unique<UndoSlotEncoder>(m_plain.text, undoRecordTail(m_plain));
+            m_encoder = std::make_unique<UndoSlotEncoder>(m_plain->text, undoRecordTail(*m_plain));
         progress = m_encoder->advance(characters);
     } catch (const Error &) {
     } catch (const std::bad_alloc &) {
     }
     if (progress == Progress::Going)
         return;
-    if (progress == Progress::Done) {
+    if (progress == Progress::Done)
         m_slot = m_encoder->slot();
-        m_plain = {};
-    }
     m_isWaiting = false;
     m_encoder.reset();
 }

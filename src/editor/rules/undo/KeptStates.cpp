@@ -3,7 +3,9 @@
 #include "editor/rules/undo/UndoStore.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace ORVTListview {
@@ -125,12 +127,12 @@ bool KeptStates::canGo(Way way) const
     return next(placeFor(way)) != m_states.end();
 }
 
-std::optional<UndoRecord> KeptStates::go(const UndoStore &ring, const UndoState &shown, Way way)
+std::optional<UndoState> KeptStates::go(const UndoStore &ring, const UndoState &shown, Way way)
 {
     const auto kept = next(placeFor(way));
     if (kept == m_states.end())
         return std::nullopt;
-    const UndoRecord state = kept->state.record();
+    const UndoState state = kept->state.state();
     const qint64 id = kept->id;
     leave(ring, shown, way == Way::Back ? Place::Ahead : Place::Behind);
     showKept(id);
@@ -145,13 +147,13 @@ bool KeptStates::canBringBack() const
                        [this](const Kept &kept) { return kept.id != m_shown; });
 }
 
-std::optional<UndoRecord> KeptStates::bringBack(const UndoStore &ring, const UndoState &shown)
+std::optional<UndoState> KeptStates::bringBack(const UndoStore &ring, const UndoState &shown)
 {
     for (auto kept = m_states.rbegin(); kept != m_states.rend(); ++kept) {
         if (kept->id >= m_nextBelow || kept->id == m_shown)
             continue;
-        const UndoRecord state = kept->state.record();
-        if (shown.text.equals(SharedText(state.text)))
+        const UndoState state = kept->state.state();
+        if (shown.text.equals(state.text))
             continue;
         const qint64 id = kept->id;
         if (const auto now = shownState(); now == m_states.end())
@@ -256,13 +258,22 @@ void KeptStates::moveAside(Place place, qint64 fromDepth)
     }
 }
 
+qsizetype KeptStates::bytes() const
+{
+    return std::accumulate(
+        m_states.begin(), m_states.end(), qsizetype(0),
+        [](qsizetype sum, const Kept &kept) { return sum + kept.state.bytes(); });
+}
+
+// First the plain texts beside those that are encoded.
 void KeptStates::dropOldest()
 {
-    qsizetype bytes = 0;
-    for (const Kept &kept : m_states)
-        bytes += kept.state.bytes();
-    while (m_states.size() > 1 && (m_states.size() > most || bytes > m_mostBytes)) {
-        bytes -= m_states.front().state.bytes();
+    if (bytes() > m_mostBytes)
+        std::for_each(m_states.begin(), std::prev(m_states.end()),
+                      [](Kept &kept) { kept.state.dropPlainText(); });
+    qsizetype left = bytes();
+    while (m_states.size() > 1 && (m_states.size() > most || left > m_mostBytes)) {
+        left -= m_states.front().state.bytes();
         if (m_states.front().id == m_shown) {
             m_shown = noId;
             m_isSafe = false;

@@ -67,11 +67,11 @@ public:
     // The state to show next, exactly as it was, if there is one; it stays kept. May
     // raise Error.
     bool canGo(Way way) const;
-    std::optional<UndoRecord> go(const UndoStore &ring, const UndoState &shown, Way way);
+    std::optional<UndoState> go(const UndoStore &ring, const UndoState &shown, Way way);
 
     // The same, from the latest to the oldest; after that none, and it begins anew.
     bool canBringBack() const;
-    std::optional<UndoRecord> bringBack(const UndoStore &ring, const UndoState &shown);
+    std::optional<UndoState> bringBack(const UndoStore &ring, const UndoState &shown);
 
     void clear();
 
@@ -103,6 +103,7 @@ private:
     void laterBranchLast(const UndoStore &ring);
     void showKept(qint64 id);
     void dropOldest();
+    qsizetype bytes() const;
     void setSafe(const UndoStore &ring, bool fromOldSlot);
 
     States m_states;

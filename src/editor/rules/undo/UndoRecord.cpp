@@ -36,6 +36,22 @@ qint32 selectionNumber(QStringView field)
 
 } // namespace
 
+bool mayHoldUndoSeparator(const SharedText &text)
+{
+    constexpr qsizetype longest = 0x100000;
+    constexpr qsizetype signs = 6;
+    qsizetype inARow = 0;
+    for (qsizetype place = 0; place < text.size();) {
+        const QStringView piece = text.behind(place, longest);
+        const qsizetype sign = piece.indexOf(u'%');
+        inARow = sign == 0 ? inARow + 1 : sign > 0 ? 1 : 0;
+        if (inARow == signs)
+            return true;
+        place += sign < 0 ? piece.size() : sign + 1;
+    }
+    return false;
+}
+
 QString undoRecordTail(const UndoState &state)
 {
     QString tail = UndoRecordSeparator.toString();

@@ -47,6 +47,10 @@ struct UndoState
 // Stands between the three fields of a record that is written as one text.
 inline constexpr QStringView UndoRecordSeparator = u"\r\n%%%%%%\r\n";
 
+// Whether a text may hold one, be it together with what follows it in a record. Quick:
+// programs hardly ever have what is looked for.
+bool mayHoldUndoSeparator(const SharedText &text);
+
 // The record as one text is its text followed by this: a separator, the start, a
 // separator, the length.
 QString undoRecordTail(const UndoState &state);

@@ -49,7 +49,9 @@ QString UndoStore::UndoSlots(qint16 index) const
 {
     const Slot &slot = slotAt(index);
     const auto *plain = std::get_if<PlainSlot>(&slot);
-    return plain ? encodeUndoSlot(plain->record()) : std::get<QString>(slot);
+    if (!plain)
+        return std::get<QString>(slot);
+    return plain->encoded.isEmpty() ? encodeUndoSlot(plain->record()) : plain->encoded;
 }
 
 void UndoStore::setUndoSlot(qint16 index, const QString &slot)
@@ -82,6 +84,19 @@ QString UndoStore::FetchUndoSnapshot(qint16 index) const
     const Slot &slot = slotAt(index);
     const auto *plain = std::get_if<PlainSlot>(&slot);
     return plain ? plain->record() : decodeUndoSlot(std::get<QString>(slot));
+}
+
+std::optional<UndoState> UndoStore::FetchUndoState(qint16 index) const
+{
+    const auto *plain = std::get_if<PlainSlot>(&slotAt(index));
+    if (plain && !mayHoldUndoSeparator(plain->text)) {
+        const UndoRecord selection = joinedUndoRecord(plain->tail);
+        return UndoState(plain->text, selection.selectionStart, selection.selectionLength);
+    }
+    const QString record = FetchUndoSnapshot(index);
+    if (record.isEmpty())
+        return std::nullopt;
+    return splitUndoRecord(record);
 }
 
 void UndoStore::ResetUndoBase(const QString &text)
@@ -135,7 +150,8 @@ HeldState UndoStore::held(qint16 index) const
     if (!plain)
         return HeldState(std::get<QString>(slot));
     const UndoRecord selection = joinedUndoRecord(plain->tail);
-    return HeldState({plain->text, selection.selectionStart, selection.selectionLength});
+    return HeldState({plain->text, selection.selectionStart, selection.selectionLength},
+                     plain->encoded);
 }
 
 bool UndoStore::holdsText(qint16 index, const SharedText &text) const
@@ -159,7 +175,7 @@ void UndoStore::put(qint16 index, Slot slot)
 
 UndoStore::PlainSlot UndoStore::plainSlot(const UndoState &state)
 {
-    PlainSlot slot{state.text, undoRecordTail(state)};
+    PlainSlot slot{state.text, undoRecordTail(state), {}};
     slot.isWaiting = slot.text.size() + slot.tail.size() >= shortestCompressedRecord;
     return slot;
 }
@@ -195,6 +211,35 @@ bool UndoStore::encodePending(qsizetype characters)
     if (oldest)
         encode(m_encoder ? m_encodedSlot : *oldest, characters);
     return isEncodingPending();
+}
+
+// Of those that are encoded.
+qsizetype UndoStore::plainBytes() const
+{
+    qsizetype bytes = 0;
+    SharedText::CountedStrings counted;
+    SharedText before;
+    for (int age = 0; age < slotCount; ++age) {
+        const auto *plain = std::get_if<PlainSlot>(&slotAt(slotOfAge(age)));
+        if (plain && !plain->encoded.isEmpty()) {
+            bytes += plain->text.bytes(counted, before);
+            before = plain->text;
+        }
+    }
+    return bytes;
+}
+
+// The oldest first. For want of memory they stay until the next one is encoded.
+void UndoStore::dropPlainTexts()
+{
+    try {
+        for (int age = 0; age < slotCount && plainBytes() > mostPlainBytes; ++age) {
+            const auto *plain = std::get_if<PlainSlot>(&slotAt(slotOfAge(age)));
+            if (plain && !plain->encoded.isEmpty())
+                put(slotOfAge(age), QString(plain->encoded));
+        }
+    } catch (const std::bad_alloc &) {
+    }
 }
 
 // From the oldest, 0, to the newest slot. What lies ahead of the newest is either
@@ -237,7 +282,10 @@ void UndoStore::encode(qint16 index, qsizetype characters)
     } catch (const std::bad_alloc &) {
     }
     if (progress == Progress::Done) {
-        put(index, m_encoder->slot());
+        slot.encoded = m_encoder->slot();
+        slot.isWaiting = false;
+        m_encoder.reset();
+        dropPlainTexts();
     } else if (progress == Progress::Impossible) {
         m_encoder.reset();
         slot.isWaiting = false;

@@ -40,7 +40,8 @@ class UndoSlotEncoder;
 //
 // Long records are held compressed, but storing one must not hold up a key: it is
 // kept plain, sharing its text with whoever gave it, and encoded by encodePending
-// while the program is idle. The members for the ring show the same either way.
+// while the program is idle. What has been encoded stays plain beside that as far as
+// there is room. The members for the ring show the same either way.
 // Why it is so: docs/decisions/undo.md.
 class ORVT_HOUSE_EXPORT UndoStore
 {
@@ -52,6 +53,9 @@ public:
 
     // 49 snapshots of a text of 1 MB take less.
     static constexpr qsizetype defaultPendingBound = qsizetype{128} * 1024 * 1024;
+
+    // The bytes of text that stay beside what was encoded of them.
+    static constexpr qsizetype mostPlainBytes = qsizetype{64} * 1024 * 1024;
 
     // The bytes of text that may wait to be encoded, besides the newest snapshot.
     // At the bound, storing one looks for what those that wait have in common and
@@ -79,6 +83,10 @@ public:
     // The joined record of any slot, within reach or not; empty for an empty one.
     // Raises Error when a compressed slot is damaged.
     QString FetchUndoSnapshot(qint16 index) const;
+
+    // The same, taken apart; none for an empty slot. A text that is plain is shared.
+    // Raises Error also as splitUndoRecord does.
+    std::optional<UndoState> FetchUndoState(qint16 index) const;
 
     // Writes the text, with the selection at its start, into slot 0. The ring does
     // not move.
@@ -146,6 +154,7 @@ private:
     {
         SharedText text;
         QString tail;            // of the joined record
+        QString encoded;         // empty until it is
         bool isWaiting = false;  // to be compressed
         bool isCompared = false; // with the slot before, for what they share
 
@@ -167,6 +176,8 @@ private:
     void encode(qint16 index, qsizetype characters);
     void share(qint16 index);
     void keepWithinBound();
+    void dropPlainTexts();
+    qsizetype plainBytes() const;
 
     QString indexFault() const;
     QString slotFault(qint16 index) const;

@@ -66,7 +66,11 @@ QString UndoStore::slotFault(qint16 index) const
         return u"is being encoded and does not wait for it"_s;
     if (const auto *plain = std::get_if<PlainSlot>(&slot)) {
         const bool isShort = plain->text.size() + plain->tail.size() < shortestCompressedRecord;
-        return plain->isWaiting && isShort ? u"waits to be encoded and is too short"_s : QString();
+        if (plain->isWaiting && isShort)
+            return u"waits to be encoded and is too short"_s;
+        if (plain->isWaiting && !plain->encoded.isEmpty())
+            return u"waits to be encoded and is"_s;
+        return plain->encoded.isEmpty() ? QString() : encodedFault(plain->encoded);
     }
     const auto &encoded = std::get<QString>(slot);
     if (!encoded.isEmpty())

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace ORVTListview {
 
@@ -135,6 +136,12 @@ public:
     // setColoured puts the caret at 0, setSelColoured behind what was inserted.
     void setColoured(const ColouredText &text);
     void setSelColoured(const ColouredText &text);
+
+    // The same for a text that comes in parts, each of whole lines, without the line end
+    // behind its last one; none after the last part. Line ends are CR LF, and there is no
+    // NUL. All that the box had goes before the first is asked for.
+    using NextPart = std::function<std::optional<ColouredText>()>;
+    void setColoured(const NextPart &next);
 
     // Puts a text, or each piece its own, in the place of pieces of the text, which
     // follow each other without overlapping. All of it is one change, and so is what

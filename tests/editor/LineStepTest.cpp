@@ -1,0 +1,253 @@
+// Undo and redo that change only the lines that differ: what they show, compared with the
+// same text opened anew, and how much of the document they touch.
+
+#include "editor/OpeningHost.h"
+#include "support/RandomSeed.h"
+#include "support/TestProgram.h"
+#include "support/WidgetTest.h"
+
+#include <random>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Counts what the document is told to have changed.
+struct KeepingHost : OpeningHost
+{
+    KeepingHost()
+    {
+        view().setKeepsText(true);
+        QObject::connect(box().document(), &QTextDocument::contentsChange, &form,
+                         [this](int, int removed, int added) { touched += removed + added; });
+    }
+
+    void typeAt(int line, const QString &text)
+    {
+        box().setSelStart(box().lineStart(line));
+        type(text);
+    }
+    void undo()
+    {
+        touched = 0;
+        key(Qt::Key_Z, Qt::ControlModifier);
+    }
+    void redo()
+    {
+        touched = 0;
+        key(Qt::Key_Y, Qt::ControlModifier);
+    }
+    bool hasTouchedFew() const { return touched > 0 && touched < 500; }
+
+    // With the same words and colours.
+    void compareWithOpenedAnew()
+    {
+        finish();
+        ORVListView other;
+        other.setListviewType(dsCode);
+        other.openProgram(list->CodeText());
+        comparePictures(pictureOf(box()), pictureOf(*other.RTextBox()));
+    }
+
+    int touched = 0;
+};
+
+} // namespace
+
+class LineStepTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aStepTouchesTheLinesThatDiffer()
+    {
+        KeepingHost host;
+        host.open();
+        host.finish();
+        const QString opened = host.list->CodeText();
+        host.typeAt(2000, u"temp1 temp2 "_s);
+        const QString typed = host.list->CodeText();
+        host.undo();
+        QVERIFY(host.hasTouchedFew());
+        host.undo();
+        QVERIFY(host.hasTouchedFew());
+        QVERIFY(host.list->CodeText() == opened);
+        host.compareWithOpenedAnew();
+        host.redo();
+        host.redo();
+        QVERIFY(host.hasTouchedFew());
+        QVERIFY(host.list->CodeText() == typed);
+        host.compareWithOpenedAnew();
+    }
+
+    void soItDoesWhereSeveralPlacesWereWorkedOn()
+    {
+        KeepingHost host;
+        host.open();
+        host.finish();
+        const QString opened = host.list->CodeText();
+        for (const int line : {3500, 10, 2000, 3999, 0}) {
+            host.typeAt(line, u"temp1 fan1\n"_s);
+            host.key(Qt::Key_Delete);
+        }
+        while (host.list->IsUndoAvailable()) {
+            host.undo();
+            QVERIFY(host.hasTouchedFew());
+        }
+        QVERIFY(host.list->CodeText() == opened);
+        host.compareWithOpenedAnew();
+    }
+
+    void soItDoesWhileColoursWait()
+    {
+        KeepingHost host;
+        host.open();
+        QVERIFY(host.view().isOpening());
+        host.typeAt(3000, u"temp1 temp2 "_s);
+        host.undo();
+        QVERIFY(host.hasTouchedFew());
+        QVERIFY(host.view().isOpening());
+        QVERIFY(!host.hasColours(3995));
+        host.compareWithOpenedAnew();
+    }
+
+    // A snapshot of the very text that is shown.
+    void aStepToTheSameTextIsAChange()
+    {
+        KeepingHost host;
+        host.open();
+        host.finish();
+        host.box().setSelStart(host.box().TextLength());
+        host.key(Qt::Key_Delete);
+        host.key(Qt::Key_Delete);
+        QSignalSpy changes(&host.box(), &RichTextBox::Change);
+        host.undo();
+        QCOMPARE(changes.count(), 1);
+        QVERIFY(host.hasTouchedFew());
+    }
+
+    void aStepColoursWhatCancellingLeft()
+    {
+        KeepingHost host;
+        host.open();
+        host.view().cancelOpening();
+        host.typeAt(10, u"temp1 temp2 "_s);
+        host.undo();
+        host.compareWithOpenedAnew();
+        QVERIFY(host.hasColours(3995));
+    }
+
+    void aStepColoursByTheWordsOfNow()
+    {
+        KeepingHost host;
+        host.open();
+        host.finish();
+        host.typeAt(10, u"temp1 temp2 "_s);
+        host.list->UpdateWordListItem(u"Temp1"_s, u"Other"_s, dsInput);
+        host.undo();
+        host.finish();
+        QCOMPARE(host.colourOf(u"Temp1 > Limit1"_s), -1);
+    }
+
+    void aStepTakesAwayWhatElseWasSet()
+    {
+        KeepingHost host;
+        host.open();
+        host.finish();
+        host.box().setSelStart(host.box().lineStart(3000));
+        host.box().setSelLength(5);
+        host.box().setSelColor(0x123456);
+        QTextCharFormat bold;
+        bold.setFontWeight(QFont::Bold);
+        QTextCursor cursor(host.box().document()->findBlockByNumber(1000));
+        cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(bold);
+        host.typeAt(10, u"temp1 temp2 "_s);
+        host.undo();
+        QVERIFY(host.hasTouchedFew());
+        host.compareWithOpenedAnew();
+    }
+
+    // Such a text holds lines that no step of the ring has finished.
+    void whatWasTypedAndNotFinishedIsFinishedByAStep()
+    {
+        KeepingHost host;
+        host.open();
+        host.finish();
+        host.typeAt(3000, u"temp1"_s);
+        QVERIFY(host.box().lineText(3000).startsWith(u"temp1"_s));
+        host.box().setSelStart(0);
+        host.key(Qt::Key_Delete);
+        host.undo();
+        QVERIFY(host.box().lineText(3000).startsWith(u"Temp1"_s));
+        host.compareWithOpenedAnew();
+    }
+
+    void bookmarksStayOnLinesThatAStepDoesNotChange()
+    {
+        KeepingHost host;
+        host.open();
+        host.finish();
+        host.typeAt(1000, u"temp1 "_s);
+        host.box().setSelStart(host.box().lineStart(1000));
+        host.view().toggleBookmark();
+        host.typeAt(3000, u"temp1 temp2 "_s);
+        host.undo();
+        host.box().setSelStart(0);
+        QVERIFY(host.view().nextBookmark());
+        QCOMPARE(host.box().GetLineFromChar(host.box().SelStart()), 1000);
+    }
+
+    void textsWithTheirSeparatorAreRefusedAsEver()
+    {
+        KeepingHost host;
+        host.open(longProgram() + u"\r\n%%%%%%\r\n"_s);
+        host.finish();
+        host.key(Qt::Key_Delete);
+        host.typeAt(10, u"temp1 "_s);
+        const QString text = host.list->CodeText();
+        QString error;
+        host.list->Undo(error);
+        QVERIFY(!error.isEmpty());
+        QVERIFY(host.list->CodeText() == text);
+    }
+
+    void anythingTypedAndTakenBackLooksAsOpenedAnew()
+    {
+        const unsigned seed = randomSeed(7);
+        std::mt19937 random(seed);
+        const auto below = [&](unsigned count) { return static_cast<int>(random() % count); };
+        const QStringList words{u"temp1 "_s, u"if "_s, u"x"_s, u"\n"_s, u"rem "_s, u"(fan1) "_s};
+        KeepingHost host;
+        host.open();
+        for (int step = 0; step < randomSteps(120); ++step) {
+            switch (below(6)) {
+            case 0:
+                host.undo();
+                break;
+            case 1:
+                host.redo();
+                break;
+            case 2:
+                host.key(Qt::Key_Backspace);
+                break;
+            case 3:
+                host.pass();
+                break;
+            default:
+                host.typeAt(below(8) * 10 + below(3), words[below(6)]);
+            }
+        }
+        host.undo(); // what was typed last is finished by that
+        host.undo();
+        while (host.ring().CanUndo())
+            host.undo();
+        QVERIFY(host.list->CodeText() ==
+                splitUndoRecord(host.ring().FetchUndoSnapshot(host.ring().UndoCurrent())).text);
+        host.compareWithOpenedAnew();
+    }
+};
+
+ORVT_TEST(LineStepTest)
+#include "LineStepTest.moc"
