@@ -85,6 +85,8 @@ void followDesktop()
     auto *desktop = new DesktopScheme(QDBusConnection::sessionBus(), qApp);
     QObject::connect(desktop, &DesktopScheme::changed, desktop,
                      [desktop] { setDesktopDark(desktop->isDark()); });
+}
+
 // Whoever names a project knows what to begin with.
 bool isFirstStart(const Options &options, QSettings &store)
 {
