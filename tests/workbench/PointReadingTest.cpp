@@ -261,7 +261,7 @@ private Q_SLOTS:
         r.document.carryOut(RowChanges{{dsInput, 0, before, after}});
         r.reading.read(dsInput);
         r.controller.tell(u"A"_s, 2.0);
-        r.document.undo();
+        r.document.go(ProjectDocument::Way::Back);
         QCOMPARE(r.value(dsInput, 0), u"2"_s);
         QVERIFY(!r.document.isModified());
     }

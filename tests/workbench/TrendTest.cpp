@@ -136,12 +136,12 @@ private Q_SLOTS:
             {dsInput, 0, project.rows(dsInput).at(0), project.renamed(dsInput, 0, u"Z"_s)}});
         QCOMPARE(drawn.trend.lines().at(0).name, u"Z"_s);
         QCOMPARE(drawn.trend.lines().at(0).samples.size(), std::size_t(1));
-        drawn.document.undo();
+        drawn.document.go(ProjectDocument::Way::Back);
         QCOMPARE(drawn.trend.lines().at(0).name, u"A"_s);
         drawn.document.carryOut(RowChanges{{dsInput, 0, project.rows(dsInput).at(0), {}}});
         QCOMPARE(drawn.trend.lines().at(0).name, u"A"_s); // and is not B now
         QCOMPARE(drawn.trend.lines().at(1).name, u"B"_s);
-        drawn.document.undo();
+        drawn.document.go(ProjectDocument::Way::Back);
         drawn.read(7.0);
         QCOMPARE(drawn.value(0, 1), u"7 °C"_s);
     }

@@ -31,7 +31,7 @@ ViewDock::ViewDock(const QString &name, QWidget *parent)
     connect(toggleViewAction(), &QAction::toggled, this, [this](bool isShown) {
         if (isShown)
             Q_EMIT opened();
-        else
+        else if (isHidden()) // by itself, not with the window
             Q_EMIT closed();
     });
 }
