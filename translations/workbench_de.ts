@@ -1028,6 +1028,14 @@ Diese Änderungen überschreiben?</translation>
             <source>Program</source>
             <translation>Programm</translation>
         </message>
+        <message>
+            <source>Views</source>
+            <translation>Ansichten</translation>
+        </message>
+        <message>
+            <source>Project</source>
+            <translation>Projekt</translation>
+        </message>
     </context>
     <context>
         <name>ORVTListview::RecoveryDialog</name>

@@ -1028,6 +1028,14 @@ Overwrite those changes?</source>
             <source>Program</source>
             <translation>Programa</translation>
         </message>
+        <message>
+            <source>Views</source>
+            <translation>Vistas</translation>
+        </message>
+        <message>
+            <source>Project</source>
+            <translation>Proyecto</translation>
+        </message>
     </context>
     <context>
         <name>ORVTListview::RecoveryDialog</name>

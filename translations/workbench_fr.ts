@@ -1028,6 +1028,14 @@ Overwrite those changes?</source>
             <source>Program</source>
             <translation>Programme</translation>
         </message>
+        <message>
+            <source>Views</source>
+            <translation>Vues</translation>
+        </message>
+        <message>
+            <source>Project</source>
+            <translation>Projet</translation>
+        </message>
     </context>
     <context>
         <name>ORVTListview::RecoveryDialog</name>

@@ -15,6 +15,7 @@
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
+#include <QtWidgets/QTreeView>
 
 #include <utility>
 
@@ -44,6 +45,7 @@ ProjectView::ProjectView(ProjectDocument &document, QWidget *parent)
             m_looked = nullptr;
     });
     new CategoryMenu(*this);
+    nameParts();
     m_workplace->add(*m_program, nullptr);
     m_workplace->show(*m_program);
 }
@@ -149,8 +151,18 @@ void ProjectView::takePoint(LwType type, const QString &name)
     m_workplace->enter(*m_workplace->current());
 }
 
+// For screen readers; the component has its tree within.
+void ProjectView::nameParts()
+{
+    m_workplace->setAccessibleName(tr("Views"));
+    m_tree->setAccessibleName(tr("Project"));
+    for (QTreeView *nodes : m_tree->findChildren<QTreeView *>())
+        nodes->setAccessibleName(m_tree->accessibleName());
+}
+
 void ProjectView::retranslate()
 {
+    nameParts();
     m_tree->ReInitializeStrings();
     program().ReInitializeStrings();
     m_tables->retranslate();

@@ -65,6 +65,7 @@ private:
     void look(LwType type);
     void followViews();
     void applyFunctionWords();
+    void nameParts();
 
     ORVTreeview *m_tree;
     Workplace *m_workplace;

@@ -3,6 +3,7 @@
 #include "workbench/views/DockTitle.h"
 
 #include <ORVTListview/ORVListView.h>
+#include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QAction>
 
@@ -40,6 +41,8 @@ ViewDock::ViewDock(const QString &name, QWidget *parent)
 void ViewDock::setTitle(const QString &title)
 {
     setWindowTitle(QString(title).replace(u'&', u"&&"_s));
+    m_view->setAccessibleName(title);
+    m_view->RTextBox()->setAccessibleName(title);
 }
 
 } // namespace ORVTListview

@@ -153,8 +153,16 @@ void Workplace::splitCurrent(Qt::Orientation orientation)
 
 void Workplace::floatCurrent()
 {
-    if (ViewDock *dock = current())
-        dock->setFloating(!dock->isFloating());
+    ViewDock *dock = current();
+    if (!dock)
+        return;
+    const QWidget *focus = QApplication::focusWidget();
+    const bool hadFocus = focus && dock->isAncestorOf(focus);
+    dock->setFloating(!dock->isFloating()); // loses the focus
+    if (hadFocus)
+        enter(*dock);
+    else
+        show(*dock);
 }
 
 void Workplace::closeCurrent()
