@@ -156,14 +156,29 @@ void PointTables::fillValues()
 void PointTables::showOld(const QList<ProjectRow> &rows, qint16 column)
 {
     ListGrid &grid = *m_list.listView()->grid();
+    bool needsRoom = false;
     const qsizetype count = std::min<qsizetype>(rows.size(), m_list.ListItems()->Count());
     for (qsizetype row = 0; row < count; ++row) {
         const ListItem &item = *m_list.ListItems()->Item(static_cast<qint32>(row) + 1);
         const AskedPoint point = PointRows::pointOf(m_list.CurrentType(), row, rows.at(row));
         const CellState state = m_reading->isOld(point) ? CellState::Old : CellState::Plain;
-        if (grid.cellState(&item, column) != state)
-            grid.setCellState(&item, column, state);
+        if (grid.cellState(&item, column) == state)
+            continue;
+        grid.setCellState(&item, column, state);
+        needsRoom = needsRoom || state == CellState::Old;
     }
+    if (needsRoom)
+        widen(column);
+}
+
+// A mark takes room of the value.
+void PointTables::widen(qint16 column)
+{
+    ReportList &list = *m_list.listView();
+    const int before = list.columnWidth(column);
+    list.grid()->fitColumn(column);
+    if (list.columnWidth(column) < before)
+        list.setColumnWidth(column, before);
 }
 
 // Names.

@@ -6,6 +6,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
@@ -76,6 +78,17 @@ void FirstSteps::retranslate()
     m_close.text->setText(tr("This page comes back by Help, First Steps."));
     for (const Step &step : {m_sample, m_project, m_keys, m_close})
         step.button->setAccessibleDescription(step.text->text());
+    alignButtons();
+}
+
+// All as wide as the widest.
+void FirstSteps::alignButtons()
+{
+    int widest = 0;
+    for (const Step &step : {m_sample, m_project, m_keys, m_close})
+        widest = std::max(widest, step.button->sizeHint().width() + fontMetrics().height());
+    for (const Step &step : {m_sample, m_project, m_keys, m_close})
+        step.button->setMinimumWidth(widest);
 }
 
 void FirstSteps::changeEvent(QEvent *event)
