@@ -513,32 +513,32 @@
         <translation>Die Werkbank schreibt, prüft und zeigt das Programm eines Regelgeräts und die Tabellen seiner Punkte. Links steht der Baum des Projekts: Er führt zum Programm und zu jeder Tabelle. Das Regelgerät dahinter ist simuliert, es kann also nichts kaputtgehen.</translation>
     </message>
     <message>
-        <source>Look at the &amp;Sample</source>
-        <translation>&amp;Beispiel ansehen</translation>
+        <source>Look at the Sample</source>
+        <translation>Beispiel ansehen</translation>
     </message>
     <message>
         <source>An air handling unit with its program and all twelve tables. Change what you like: nothing is saved unless you say so.</source>
         <translation>Eine Lüftungsanlage mit ihrem Programm und allen zwölf Tabellen. Ändern Sie, was Sie möchten: Gespeichert wird nur, wenn Sie es sagen.</translation>
     </message>
     <message>
-        <source>&amp;Open a Project…</source>
-        <translation>Projekt ö&amp;ffnen…</translation>
+        <source>Open a Project…</source>
+        <translation>Projekt öffnen…</translation>
     </message>
     <message>
         <source>A project is a file in JSON with its program beside it. To begin one of your own, take a copy of the sample by Save Elsewhere.</source>
         <translation>Ein Projekt ist eine JSON-Datei mit ihrem Programm daneben. Ein eigenes beginnen Sie mit einer Kopie des Beispiels: „Woanders speichern“.</translation>
     </message>
     <message>
-        <source>&amp;Keys</source>
-        <translation>&amp;Tasten</translation>
+        <source>Keys</source>
+        <translation>Tasten</translation>
     </message>
     <message>
         <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>
         <translation>Alles geht mit der Tastatur. F1 listet alle Tasten, F6 prüft das Programm, F5 liest die Werte, Strg+Leertaste listet bekannte Wörter.</translation>
     </message>
     <message>
-        <source>&amp;Begin</source>
-        <translation>&amp;Los geht’s</translation>
+        <source>Begin</source>
+        <translation>Los geht’s</translation>
     </message>
     <message>
         <source>This page comes back by Help, First Steps.</source>

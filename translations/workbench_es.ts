@@ -513,32 +513,32 @@
         <translation>El banco de trabajo escribe, comprueba y muestra el programa de un controlador y las tablas de sus puntos. A la izquierda está el árbol del proyecto: lleva al programa y a cada tabla. El controlador es simulado, así que nada se puede estropear.</translation>
     </message>
     <message>
-        <source>Look at the &amp;Sample</source>
-        <translation>Ver el &amp;ejemplo</translation>
+        <source>Look at the Sample</source>
+        <translation>Ver el ejemplo</translation>
     </message>
     <message>
         <source>An air handling unit with its program and all twelve tables. Change what you like: nothing is saved unless you say so.</source>
         <translation>Una unidad de tratamiento de aire con su programa y las doce tablas. Cambie lo que quiera: nada se guarda si usted no lo dice.</translation>
     </message>
     <message>
-        <source>&amp;Open a Project…</source>
-        <translation>&amp;Abrir un proyecto…</translation>
+        <source>Open a Project…</source>
+        <translation>Abrir un proyecto…</translation>
     </message>
     <message>
         <source>A project is a file in JSON with its program beside it. To begin one of your own, take a copy of the sample by Save Elsewhere.</source>
         <translation>Un proyecto es un archivo JSON con su programa al lado. Para empezar uno propio, haga una copia del ejemplo con «Guardar en otro lugar».</translation>
     </message>
     <message>
-        <source>&amp;Keys</source>
-        <translation>&amp;Teclas</translation>
+        <source>Keys</source>
+        <translation>Teclas</translation>
     </message>
     <message>
         <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>
         <translation>Todo se puede hacer con el teclado. F1 muestra todas las teclas, F6 comprueba el programa, F5 lee los valores, Ctrl+Espacio muestra las palabras conocidas.</translation>
     </message>
     <message>
-        <source>&amp;Begin</source>
-        <translation>&amp;Comenzar</translation>
+        <source>Begin</source>
+        <translation>Comenzar</translation>
     </message>
     <message>
         <source>This page comes back by Help, First Steps.</source>

@@ -513,32 +513,32 @@
         <translation>L’atelier écrit, vérifie et montre le programme d’un contrôleur et les tableaux de ses points. À gauche se trouve l’arbre du projet&#xa0;: il mène au programme et à chaque tableau. Le contrôleur est simulé, rien ne peut donc être abîmé.</translation>
     </message>
     <message>
-        <source>Look at the &amp;Sample</source>
-        <translation>Voir l’e&amp;xemple</translation>
+        <source>Look at the Sample</source>
+        <translation>Voir l’exemple</translation>
     </message>
     <message>
         <source>An air handling unit with its program and all twelve tables. Change what you like: nothing is saved unless you say so.</source>
         <translation>Une centrale de traitement d’air avec son programme et ses douze tableaux. Changez ce que vous voulez&#xa0;: rien n’est enregistré sans votre ordre.</translation>
     </message>
     <message>
-        <source>&amp;Open a Project…</source>
-        <translation>&amp;Ouvrir un projet…</translation>
+        <source>Open a Project…</source>
+        <translation>Ouvrir un projet…</translation>
     </message>
     <message>
         <source>A project is a file in JSON with its program beside it. To begin one of your own, take a copy of the sample by Save Elsewhere.</source>
         <translation>Un projet est un fichier JSON avec son programme à côté. Pour en commencer un, faites une copie de l’exemple par «&#xa0;Enregistrer ailleurs&#xa0;».</translation>
     </message>
     <message>
-        <source>&amp;Keys</source>
-        <translation>&amp;Touches</translation>
+        <source>Keys</source>
+        <translation>Touches</translation>
     </message>
     <message>
         <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>
         <translation>Tout se fait au clavier. F1 montre toutes les touches, F6 vérifie le programme, F5 lit les valeurs, Ctrl+Espace montre les mots connus.</translation>
     </message>
     <message>
-        <source>&amp;Begin</source>
-        <translation>&amp;Commencer</translation>
+        <source>Begin</source>
+        <translation>Commencer</translation>
     </message>
     <message>
         <source>This page comes back by Help, First Steps.</source>

@@ -15,15 +15,20 @@
 #include <QtWidgets/QLineEdit>
 
 #include <algorithm>
+#include <chrono>
 
 namespace ORVTListview {
 
+using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 PointTables::PointTables(ORVListView &list)
     : QObject(&list)
     , m_list(list)
 {
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(100ms);
+    connect(&m_soon, &QTimer::timeout, this, &PointTables::fillValues);
     connect(&list, &ORVListView::BeforeLabelEdit, this, &PointTables::allowEditing);
     connect(&list, &ORVListView::AfterLabelEdit, this, &PointTables::takeName);
 }
@@ -119,12 +124,19 @@ void PointTables::setReading(PointReading &reading)
     connect(&m_list, &ORVListView::QueryRead, &reading,
             [&reading](const LwType &type) { reading.read(type); });
     connect(&reading, &PointReading::begun, this, &PointTables::showBusy);
-    connect(&reading, &PointReading::valuesRead, this, &PointTables::fillValues);
+    connect(&reading, &PointReading::valuesRead, this, [this] {
+        if (!m_soon.isActive())
+            m_soon.start(); // answers of a long table come one upon the other
+    });
     connect(&reading, &PointReading::ended, this, [this] {
+        m_soon.stop();
         showBusy();
         fillValues();
     });
-    connect(&reading, &PointReading::dropped, this, &PointTables::showBusy);
+    connect(&reading, &PointReading::dropped, this, [this] {
+        m_soon.stop();
+        showBusy();
+    });
     showBusy();
 }
 

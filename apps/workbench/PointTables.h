@@ -4,6 +4,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QTimer>
 
 namespace ORVTListview {
 
@@ -80,6 +81,7 @@ private:
     ORVListView &m_list;
     Project *m_project = nullptr;
     PointReading *m_reading = nullptr;
+    QTimer m_soon; // shows what was read
     bool m_showsOverrides = false;
     ListItem *m_edited = nullptr; // the list owns it
 };
