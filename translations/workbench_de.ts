@@ -1758,6 +1758,22 @@ Aus der Liste nehmen?</translation>
             <source>This page comes back by Help, First Steps.</source>
             <translation>Diese Seite kommt mit „Hilfe, Erste Schritte“ wieder.</translation>
         </message>
+        <message>
+            <source>Look at the Sample</source>
+            <translation>Beispiel ansehen</translation>
+        </message>
+        <message>
+            <source>Open a Project…</source>
+            <translation>Projekt öffnen…</translation>
+        </message>
+        <message>
+            <source>Keys</source>
+            <translation>Tasten</translation>
+        </message>
+        <message>
+            <source>Begin</source>
+            <translation>Los geht’s</translation>
+        </message>
     </context>
     <context>
         <name>ORVTListview::ImportDialog</name>

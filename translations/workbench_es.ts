@@ -1758,6 +1758,22 @@ Take it off the list?</source>
             <source>This page comes back by Help, First Steps.</source>
             <translation>Esta página vuelve con «Ayuda, Primeros pasos».</translation>
         </message>
+        <message>
+            <source>Look at the Sample</source>
+            <translation>Ver el ejemplo</translation>
+        </message>
+        <message>
+            <source>Open a Project…</source>
+            <translation>Abrir un proyecto…</translation>
+        </message>
+        <message>
+            <source>Keys</source>
+            <translation>Teclas</translation>
+        </message>
+        <message>
+            <source>Begin</source>
+            <translation>Comenzar</translation>
+        </message>
     </context>
     <context>
         <name>ORVTListview::ImportDialog</name>

@@ -1758,6 +1758,22 @@ Le retirer de la liste ?</translation>
             <source>This page comes back by Help, First Steps.</source>
             <translation>Cette page revient par « Aide, Premiers pas ».</translation>
         </message>
+        <message>
+            <source>Look at the Sample</source>
+            <translation>Voir l’exemple</translation>
+        </message>
+        <message>
+            <source>Open a Project…</source>
+            <translation>Ouvrir un projet…</translation>
+        </message>
+        <message>
+            <source>Keys</source>
+            <translation>Touches</translation>
+        </message>
+        <message>
+            <source>Begin</source>
+            <translation>Commencer</translation>
+        </message>
     </context>
     <context>
         <name>ORVTListview::ImportDialog</name>

@@ -207,6 +207,7 @@ void MainWindow::buildStatusBar()
     statusBar()->addPermanentWidget(m_opening);
     m_opening->hide(); // the bar shows what it takes
     statusBar()->addPermanentWidget(m_position);
+    statusBar()->setMinimumHeight(statusBar()->sizeHint().height()); // also with nothing in it
 }
 
 void MainWindow::connectEditor()

@@ -15,15 +15,20 @@
 #include <QtWidgets/QLineEdit>
 
 #include <algorithm>
+#include <chrono>
 
 namespace ORVTListview {
 
+using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 PointTables::PointTables(ORVListView &list)
     : QObject(&list)
     , m_list(list)
 {
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(100ms);
+    connect(&m_soon, &QTimer::timeout, this, &PointTables::fillValues);
     connect(&list, &ORVListView::BeforeLabelEdit, this, &PointTables::allowEditing);
     connect(&list, &ORVListView::AfterLabelEdit, this, &PointTables::takeName);
 }
@@ -129,12 +134,19 @@ void PointTables::setReading(PointReading &reading)
     connect(&m_list, &ORVListView::QueryRead, &reading,
             [&reading](const LwType &type) { reading.read(type); });
     connect(&reading, &PointReading::begun, this, &PointTables::showBusy);
-    connect(&reading, &PointReading::valuesRead, this, &PointTables::fillValues);
+    connect(&reading, &PointReading::valuesRead, this, [this] {
+        if (!m_soon.isActive())
+            m_soon.start(); // answers of a long table come one upon the other
+    });
     connect(&reading, &PointReading::ended, this, [this] {
+        m_soon.stop();
         showBusy();
         fillValues();
     });
-    connect(&reading, &PointReading::dropped, this, &PointTables::showBusy);
+    connect(&reading, &PointReading::dropped, this, [this] {
+        m_soon.stop();
+        showBusy();
+    });
     showBusy();
     fillValues();
 }
@@ -167,14 +179,29 @@ void PointTables::fillValues()
 void PointTables::showOld(const QList<ProjectRow> &rows, qint16 column)
 {
     ListGrid &grid = *m_list.listView()->grid();
+    bool needsRoom = false;
     const qsizetype count = std::min<qsizetype>(rows.size(), m_list.ListItems()->Count());
     for (qsizetype row = 0; row < count; ++row) {
         const ListItem &item = *m_list.ListItems()->Item(static_cast<qint32>(row) + 1);
         const AskedPoint point = PointRows::pointOf(m_list.CurrentType(), row, rows.at(row));
         const CellState state = m_reading->isOld(point) ? CellState::Old : CellState::Plain;
-        if (grid.cellState(&item, column) != state)
-            grid.setCellState(&item, column, state);
+        if (grid.cellState(&item, column) == state)
+            continue;
+        grid.setCellState(&item, column, state);
+        needsRoom = needsRoom || state == CellState::Old;
     }
+    if (needsRoom)
+        widen(column);
+}
+
+// A mark takes room of the value.
+void PointTables::widen(qint16 column)
+{
+    ReportList &list = *m_list.listView();
+    const int before = list.columnWidth(column);
+    list.grid()->fitColumn(column);
+    if (list.columnWidth(column) < before)
+        list.setColumnWidth(column, before);
 }
 
 // Names.

@@ -4,6 +4,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QTimer>
 
 namespace ORVTListview {
 
@@ -74,6 +75,7 @@ private:
     void fillValues();
     void showBusy();
     void showOld(const QList<ProjectRow> &rows, qint16 column);
+    void widen(qint16 column);
     void allowEditing(qint16 &cancel);
     void takeName(qint16 &cancel, const QString &name);
     void correctName(LwType type, const QString &typed);
@@ -82,6 +84,7 @@ private:
     ORVListView &m_list;
     Project *m_project = nullptr;
     PointReading *m_reading = nullptr;
+    QTimer m_soon; // shows what was read
     bool m_showsOverrides = false;
     ListItem *m_edited = nullptr; // the list owns it
 };

@@ -36,7 +36,7 @@ PointValues::PointValues(CodeView &view, PointReading &reading, QObject *parent)
 {
     connect(&m_view, &CodeView::hoverAsked, this,
             [this](const QString &word, qint32, HoverAnswer *told) { answer(word, told); });
-    connect(&reading, &PointReading::valuesRead, this, &PointValues::takeValues);
+    connect(&reading, &PointReading::ended, this, &PointValues::takeValues);
 }
 
 void PointValues::setProject(const Project *project)

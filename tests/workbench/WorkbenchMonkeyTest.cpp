@@ -5,8 +5,8 @@
 #include "support/Disturbances.h"
 #include "support/RandomSession.h"
 #include "support/TestProgram.h"
-#include "workbench/help/FirstSteps.h"
 #include "workbench/WorkbenchTest.h"
+#include "workbench/help/FirstSteps.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QDropEvent>

@@ -6,6 +6,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
@@ -63,19 +65,30 @@ void FirstSteps::retranslate()
         tr("The workbench writes, checks and shows the program of a controller, and the tables "
            "of its points. At the left is the tree of the project: it leads to the program and "
            "to each table. The controller behind it is a simulated one, so nothing can break."));
-    m_sample.button->setText(tr("Look at the &Sample"));
+    m_sample.button->setText(tr("Look at the Sample"));
     m_sample.text->setText(tr("An air handling unit with its program and all twelve tables. "
                               "Change what you like: nothing is saved unless you say so."));
-    m_project.button->setText(tr("&Open a Project…"));
+    m_project.button->setText(tr("Open a Project…"));
     m_project.text->setText(tr("A project is a file in JSON with its program beside it. To begin "
                                "one of your own, take a copy of the sample by Save Elsewhere."));
-    m_keys.button->setText(tr("&Keys"));
+    m_keys.button->setText(tr("Keys"));
     m_keys.text->setText(tr("Everything can be done by keyboard. F1 lists all keys, F6 checks "
                             "the program, F5 reads the values, Ctrl+Space lists known words."));
-    m_close.button->setText(tr("&Begin"));
+    m_close.button->setText(tr("Begin"));
     m_close.text->setText(tr("This page comes back by Help, First Steps."));
     for (const Step &step : {m_sample, m_project, m_keys, m_close})
         step.button->setAccessibleDescription(step.text->text());
+    alignButtons();
+}
+
+// All as wide as the widest.
+void FirstSteps::alignButtons()
+{
+    int widest = 0;
+    for (const Step &step : {m_sample, m_project, m_keys, m_close})
+        widest = std::max(widest, step.button->sizeHint().width() + fontMetrics().height());
+    for (const Step &step : {m_sample, m_project, m_keys, m_close})
+        step.button->setMinimumWidth(widest);
 }
 
 void FirstSteps::changeEvent(QEvent *event)

@@ -40,6 +40,7 @@ private:
     };
     Step addStep(QBoxLayout &layout, void (FirstSteps::*wanted)());
     void enlargeTitle();
+    void alignButtons();
 
     QLabel *m_title;
     QLabel *m_about;

@@ -34,7 +34,6 @@ ControllerPart::ControllerPart(ProjectDocument &document, QMainWindow &window)
 {
     window.addDockWidget(Qt::BottomDockWidgetArea, m_dock);
     m_dock->hide();
-    window.resizeDocks({m_dock}, {window.fontMetrics().height() * 20}, Qt::Vertical);
     window.statusBar()->addPermanentWidget(m_status);
     m_status->hide(); // the bar shows what it takes
     connect(m_status, &ReadingStatus::succeeded, this,
@@ -119,13 +118,23 @@ void ControllerPart::drawRows(const PointTables &tables)
     const QList<qsizetype> rows = tables.selectedPoints();
     for (const qsizetype row : rows)
         isNew = m_trend->add(tables.type(), row) || isNew;
-    m_dock->setVisible(!m_trend->lines().isEmpty());
+    showTrend();
     if (isNew)
         return;
     if (m_trend->lines().size() >= Trend::mostLines)
         tell(tr("The trend is full: remove points from it first."), 5000);
     else
         tell(tr("There is nothing new to draw in the selected rows."), 5000);
+}
+
+// As high as it takes to see something, unless the user has made it so.
+void ControllerPart::showTrend()
+{
+    const bool wasHidden = m_dock->isHidden();
+    m_dock->setVisible(!m_trend->lines().isEmpty());
+    const int height = m_window.fontMetrics().height() * 20;
+    if (wasHidden && m_dock->height() < height && !m_dock->isFloating())
+        m_window.resizeDocks({m_dock}, {height}, Qt::Vertical);
 }
 
 void ControllerPart::tell(const QString &text, int milliseconds)

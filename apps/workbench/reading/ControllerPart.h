@@ -51,6 +51,7 @@ private:
     void setCyclic(bool on);
     void draw();
     void drawRows(const PointTables &tables);
+    void showTrend();
     void tell(const QString &text, int milliseconds);
 
     QMainWindow &m_window;
