@@ -52,11 +52,11 @@ struct Controlled : WorkbenchWindow
     }
     QWidget &status() { return *window.findChild<ReadingStatus *>(); }
     QString told() { return status().findChild<QLabel *>()->toolTip(); }
-    ReportList &list() { return *code().listView(); }
+    ReportList &list() { return *shown().listView(); }
     QString value(int row)
     {
-        const int index = code().ColumnHerders()->Item(u"Value"_s)->Index() - 1;
-        return code().ListItems()->Item(row)->SubItem(index);
+        const int index = shown().ColumnHerders()->Item(u"Value"_s)->Index() - 1;
+        return shown().ListItems()->Item(row)->SubItem(index);
     }
     QTreeWidget &legend() { return *window.findChild<TrendDock *>()->findChild<QTreeWidget *>(); }
 };
@@ -77,11 +77,11 @@ private Q_SLOTS:
         QVERIFY(w.status().isVisible());
         QTRY_COMPARE(w.told(), u"The controller cannot be reached. Values read: 0 of 2."_s);
         QVERIFY(!w.status().findChild<QToolButton *>()->isVisible());
-        QCOMPARE(w.list().grid()->cellState(w.code().ListItems()->Item(1), 3), CellState::Old);
+        QCOMPARE(w.list().grid()->cellState(w.shown().ListItems()->Item(1), 3), CellState::Old);
         w.behave({1});
         w.choose(u"Read Values"_s);
         QTRY_VERIFY(!w.status().isVisible());
-        QCOMPARE(w.list().grid()->cellState(w.code().ListItems()->Item(1), 3), CellState::Plain);
+        QCOMPARE(w.list().grid()->cellState(w.shown().ListItems()->Item(1), 3), CellState::Plain);
     }
 
     void readingIsStopped()
@@ -139,7 +139,7 @@ private Q_SLOTS:
         w.choose(u"Edit Cells"_s);
         w.list().grid()->setSortKeys({{qint16(1), Qt::DescendingOrder}});
         w.list().setFocus();
-        QVERIFY(w.list().grid()->editCell(w.code().ListItems()->Item(1), 3));
+        QVERIFY(w.list().grid()->editCell(w.shown().ListItems()->Item(1), 3));
         auto *field = w.list().viewport()->findChild<QLineEdit *>();
         QVERIFY(field);
         QTest::keyClicks(field, u"77"_s);
@@ -186,7 +186,7 @@ private Q_SLOTS:
         w.choose(u"Add To Trend"_s); // the program has no rows
         QVERIFY(!w.window.findChild<TrendDock *>()->isVisible());
         w.window.showType(dsInput);
-        w.code().setSelectedItem(w.code().ListItems()->Item(1));
+        w.shown().setSelectedItem(w.shown().ListItems()->Item(1));
         w.choose(u"Add To Trend"_s);
         QVERIFY(w.window.findChild<TrendDock *>()->isVisible());
         QCOMPARE(w.legend().topLevelItemCount(), 1);

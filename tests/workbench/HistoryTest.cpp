@@ -29,9 +29,9 @@ struct Worked : WorkbenchWindow
         choose(u"Edit Cells"_s);
     }
 
-    ReportList &list() { return *code().listView(); }
+    ReportList &list() { return *shown().listView(); }
     ListGrid &grid() { return *list().grid(); }
-    QString cell(int row, int column) { return code().ListItems()->Item(row)->SubItem(column); }
+    QString cell(int row, int column) { return shown().ListItems()->Item(row)->SubItem(column); }
     QString told() { return window.statusBar()->currentMessage(); }
 
     void show(LwType type)
@@ -46,7 +46,7 @@ struct Worked : WorkbenchWindow
     void enter(LwType type, const QString &text)
     {
         show(type);
-        QVERIFY(grid().enterText(code().ListItems()->Item(1), 2, text));
+        QVERIFY(grid().enterText(shown().ListItems()->Item(1), 2, text));
     }
     void rename(const QString &name)
     {
@@ -162,9 +162,9 @@ private Q_SLOTS:
         worked.enter(dsInput, u"Auto"_s);
         worked.show(from);
         worked.choose(u"Undo"_s);
-        QCOMPARE(worked.code().CurrentType(), dsInput);
+        QCOMPARE(worked.shown().CurrentType(), dsInput);
         QCOMPARE(worked.cell(1, 2), QString());
-        QVERIFY(worked.code().ListItems()->Item(1)->Selected());
+        QVERIFY(worked.shown().ListItems()->Item(1)->Selected());
         QCOMPARE(worked.told(), u"Undone: Inputs 1"_s);
         QVERIFY(!worked.window.isWindowModified());
     }
@@ -176,7 +176,7 @@ private Q_SLOTS:
         worked.show(dsOutput);
         worked.tableKey(Qt::Key_Z);
         QVERIFY(!worked.command(u"Undo"_s)->isEnabled());
-        QCOMPARE(worked.code().CurrentType(), dsOutput);
+        QCOMPARE(worked.shown().CurrentType(), dsOutput);
         QCOMPARE(worked.code().CodeText(), u"x Fan1 = Temp1"_s);
         worked.show(dsCode);
         worked.key(Qt::Key_Z, Qt::ControlModifier);
@@ -189,7 +189,7 @@ private Q_SLOTS:
         worked.show(dsOutput);
         for (const Qt::Key key : {Qt::Key_Z, Qt::Key_Y})
             worked.tableKey(key);
-        QCOMPARE(worked.code().CurrentType(), dsOutput);
+        QCOMPARE(worked.shown().CurrentType(), dsOutput);
         QCOMPARE(worked.told(), QString());
         worked.show(dsCode);
         worked.key(Qt::Key_Z, Qt::ControlModifier);
