@@ -32,14 +32,17 @@ public:
     {
         CellBlock cells;
         while (m_place < m_text.size())
-            cells.append(readRow());
+            cells.append(readRow(cells.isEmpty() ? 0 : cells.constLast().size()));
         return cells;
     }
 
 private:
-    QStringList readRow()
+    // Most rows are as long as the one before.
+    QStringList readRow(qsizetype likely)
     {
-        QStringList row{readCell()};
+        QStringList row;
+        row.reserve(likely);
+        row.append(readCell());
         while (m_place < m_text.size() && m_text.at(m_place) == u'\t') {
             ++m_place;
             row.append(readCell());

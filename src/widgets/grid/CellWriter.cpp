@@ -17,17 +17,17 @@ CellWriter::CellWriter(CellTable &table, const GridRules &rules)
 
 // By the rule first, which may write the text in another way; then by the host. None of what
 // is not there.
-QString CellWriter::refusalOf(CellEntry &entry, const CellRule &rule, bool isAsked)
+QString CellWriter::refusalOf(CellEntry &entry, const CellRule &rule, const Asking &asking)
 {
     const QString *held = m_table.textIn(entry.item, entry.column);
     if (!held)
         return {};
-    CellAnswer answer = checkedCell(rule, entry.text, QLocale());
+    CellAnswer answer = checkedCell(rule, entry.text, asking.locale);
     if (!answer.isTaken())
         return answer.refusal;
     entry.text = std::move(answer.text);
     QString refusal;
-    if (isAsked && *held != entry.text)
+    if (asking.isHostAsked && *held != entry.text)
         m_host.ask(entry.item, entry.column, entry.text, refusal);
     return refusal;
 }
@@ -71,10 +71,10 @@ QList<CellRefusal> CellWriter::ask(QList<CellEntry> &wanted)
     });
     QList<CellRefusal> refusals;
     QHash<int, CellRule> known;
-    const bool isAsked = m_host.listens && m_host.listens();
+    const Asking asking{QLocale(), m_host.listens && m_host.listens()};
     for (CellEntry &entry : wanted) {
         const CellRule &rule = ruleOf(entry.column, known);
-        const QString reason = self ? refusalOf(entry, rule, isAsked) : QString();
+        const QString reason = self ? refusalOf(entry, rule, asking) : QString();
         if (!self)
             return {};
         if (!reason.isEmpty())

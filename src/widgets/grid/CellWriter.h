@@ -7,6 +7,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QList>
+#include <QtCore/QLocale>
 #include <QtCore/QObject>
 #include <QtCore/QQueue>
 
@@ -61,7 +62,13 @@ public:
 private:
     QList<CellRefusal> ask(QList<CellEntry> &wanted);
     void tell(QList<CellChange> changes) const;
-    QString refusalOf(CellEntry &entry, const CellRule &rule, bool isAsked);
+    // What is the same for all cells of one entry.
+    struct Asking
+    {
+        QLocale locale;
+        bool isHostAsked;
+    };
+    QString refusalOf(CellEntry &entry, const CellRule &rule, const Asking &asking);
     const CellRule &ruleOf(int column, QHash<int, CellRule> &known) const;
     QList<CellChange> write(QList<CellChange> changes);
     QList<CellChange> changesOf(QList<CellEntry> entries) const;

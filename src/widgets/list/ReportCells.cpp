@@ -16,6 +16,7 @@ namespace {
 class GivenRow final : public ViewElement<ListItem, ReportListParts, ReportRow>
 {
 public:
+    using ViewElement::heldIn;
     using ViewElement::heldOf;
 };
 
@@ -31,16 +32,9 @@ ListItem *ReportCells::itemAt(const QModelIndex &place) const
     return place.isValid() ? m_parts.items.of(m_parts.model.rowAt(place), m_parts) : nullptr;
 }
 
-// Null for one that is gone, and for another list's.
 ReportRow *ReportCells::rowOf(const ListItem *item) const
 {
-    if (!item || !item->isAlive())
-        return nullptr;
-    const int position = item->Index() - 1; // among its own list's rows
-    if (position >= m_parts.model.rows())
-        return nullptr;
-    ReportRow &row = m_parts.model.row(position);
-    return m_parts.items.of(row, m_parts) == item ? &row : nullptr;
+    return GivenRow::heldIn(item, m_parts);
 }
 
 QModelIndex ReportCells::placeOf(const ListItem *item, int column) const

@@ -5,8 +5,8 @@
 
 namespace ORVTListview {
 
-// Numbers what a model holds in an order, no sooner than somebody asks. A change of
-// the order says from where on it holds no longer.
+// Numbers what a model holds in an order, no sooner and no further than somebody asks. A
+// change of the order says from where on it holds no longer.
 class Positions
 {
 public:
@@ -17,8 +17,10 @@ public:
     {
         const auto known = static_cast<std::size_t>(held.*member);
         if (known >= m_numbered || &*order[known] != &held) {
-            for (; m_numbered < order.size(); ++m_numbered)
+            for (bool isFound = false; !isFound && m_numbered < order.size(); ++m_numbered) {
                 (*order[m_numbered]).*member = static_cast<int>(m_numbered);
+                isFound = &*order[m_numbered] == &held;
+            }
         }
         return held.*member;
     }

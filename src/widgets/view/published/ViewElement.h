@@ -54,6 +54,12 @@ protected:
     // What a caller's handle stands for, which is to be one of these parts; null for null.
     static Held *heldOf(const ViewElement *handle, const Parts &parts, const QString &source);
 
+    // Null where it is gone or another's, too.
+    static Held *heldIn(const ViewElement *handle, const Parts &parts)
+    {
+        return handle && handle->m_parts == &parts ? handle->m_held : nullptr;
+    }
+
     Parts *m_parts;
     Held *m_held; // null once it is gone
 
