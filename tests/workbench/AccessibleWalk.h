@@ -17,7 +17,7 @@ public:
     }
 
 private:
-    static bool wantsName(const QAccessibleInterface &element)
+    static bool wantsName(QAccessibleInterface &element)
     {
         switch (element.role()) {
         case QAccessible::Button: // and the others that a user acts on
