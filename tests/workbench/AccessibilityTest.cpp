@@ -14,6 +14,7 @@
 
 #include <ORVTListview/CodeView.h>
 
+#include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QSet>
 #include <QtWidgets/QInputDialog>

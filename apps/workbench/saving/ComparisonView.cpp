@@ -61,6 +61,7 @@ void ComparisonView::append(const QString &heading, const QList<ComparedLine> &l
     if (lines.isEmpty())
         return;
     auto *item = new QTreeWidgetItem(this, {QString(), QString(), heading});
+    item->setData(Line, Qt::AccessibleTextRole, heading);
     QFont bold = font();
     bold.setBold(true);
     item->setFont(Before, bold);
@@ -78,6 +79,8 @@ void ComparisonView::appendLine(const ComparedLine &line)
     const QString number = line.line > 0 ? QString::number(line.line) : QString();
     auto *item = new QTreeWidgetItem(this, {number, signOf(line.kind), line.before, line.after});
     item->setTextAlignment(Line, Qt::AlignRight);
+    if (number.isEmpty()) // there is nothing to tell else
+        item->setData(Line, Qt::AccessibleTextRole, signOf(line.kind));
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     for (const int column : {Before, After}) {
         item->setFont(column, fixed);

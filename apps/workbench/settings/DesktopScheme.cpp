@@ -26,7 +26,8 @@ DesktopScheme::DesktopScheme(const QDBusConnection &bus, QObject *parent)
 {
     if (!m_bus.isConnected())
         return;
-    m_bus.connect(service, path, interface, u"SettingChanged"_s, this,
+    // From anybody: to know who has the name, the toolkit would wait.
+    m_bus.connect(QString(), path, interface, u"SettingChanged"_s, this,
                   SLOT(hear(QString, QString, QDBusVariant)));
     ask();
 }
