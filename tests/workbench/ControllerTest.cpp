@@ -18,6 +18,7 @@
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ReportList.h>
 
+#include <QtCore/QSettings>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLineEdit>
@@ -178,6 +179,22 @@ private Q_SLOTS:
         w.choose(u"Reading…"_s);
         QVERIFY(answer.wasThere());
         QCOMPARE(w.window.settings().reading.simulated.failure, SimulatedBehaviour::Refuses);
+    }
+
+    void theSettingsAreKept()
+    {
+        const QTemporaryDir folder;
+        QSettings store(folder.filePath(u"store.ini"_s), QSettings::IniFormat);
+        const ReadingSettings kept{
+            true, 7, {5, SimulatedBehaviour::Breaks, SimulatedBehaviour::TooFew}};
+        kept.write(store);
+        ReadingSettings read;
+        read.read(store);
+        QVERIFY(read == kept);
+        store.setValue("reading/seconds", 0); // damaged
+        store.setValue("simulation/failure", u"explodes"_s);
+        read.read(store);
+        QVERIFY(read == kept);
     }
 
     void selectedRowsAreDrawn()
