@@ -233,7 +233,7 @@ qsizetype UndoStore::plainBytes() const
 void UndoStore::dropPlainTexts()
 {
     try {
-        for (int age = 0; age < slotCount && plainBytes() > mostPlainBytes; ++age) {
+        for (int age = 0; age < slotCount && plainBytes() > m_pendingBound / 2; ++age) {
             const auto *plain = std::get_if<PlainSlot>(&slotAt(slotOfAge(age)));
             if (plain && !plain->encoded.isEmpty())
                 put(slotOfAge(age), QString(plain->encoded));

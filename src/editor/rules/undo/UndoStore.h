@@ -54,10 +54,8 @@ public:
     // 49 snapshots of a text of 1 MB take less.
     static constexpr qsizetype defaultPendingBound = qsizetype{128} * 1024 * 1024;
 
-    // The bytes of text that stay beside what was encoded of them.
-    static constexpr qsizetype mostPlainBytes = qsizetype{64} * 1024 * 1024;
-
-    // The bytes of text that may wait to be encoded, besides the newest snapshot.
+    // The bytes of text that may wait to be encoded, besides the newest snapshot; half as
+    // many may stay beside what was encoded of them.
     // At the bound, storing one looks for what those that wait have in common and
     // holds it once; where that is not enough, it encodes the oldest on the spot.
     explicit UndoStore(qsizetype pendingBound = defaultPendingBound);

@@ -361,7 +361,52 @@ TEST(UndoStoreEncoding, StoringKeepsTheTextShared)
     EXPECT_FALSE(record.text.isDetached());
     EXPECT_TRUE(ring.isEncodingPending());
     encodeAll(ring);
-    EXPECT_TRUE(record.text.isDetached());
+    EXPECT_TRUE(ring.UndoSlots(1).startsWith(u'*'));
+    EXPECT_FALSE(record.text.isDetached());
+    const std::optional<UndoState> state = ring.FetchUndoState(1);
+    ASSERT_TRUE(state);
+    EXPECT_EQ(state->record(), record);
+}
+
+TEST(UndoStoreEncoding, TextsStayBesideTheirSlotsAsFarAsThereIsRoom)
+{
+    UndoStore ring(4000);
+    const UndoRecord first = longRecord(1000, u'a');
+    const UndoRecord second = longRecord(1000, u'b');
+    ring.StoreUndoSnapshot(first);
+    ring.StoreUndoSnapshot(second);
+    encodeAll(ring);
+    EXPECT_TRUE(first.text.isDetached());
+    EXPECT_FALSE(second.text.isDetached());
+    EXPECT_EQ(ring.FetchUndoState(1)->record(), first);
+    EXPECT_EQ(ring.FetchUndoState(2)->record(), second);
+    EXPECT_TRUE(ring.isSound());
+}
+
+TEST(UndoStoreEncoding, AnEmptySlotHasNoState)
+{
+    EXPECT_FALSE(UndoStore().FetchUndoState(3));
+}
+
+// The separator may lie across what the text is held in, and reach into what follows it.
+TEST(UndoStoreEncoding, AStateIsTakenApartAsItsRecordIs)
+{
+    const QString sign(1, u'%');
+    for (const int before : {0, 3, 1000}) {
+        for (const QString &end : {sign.repeated(5), sign.repeated(6), u"\r\n%%%%%%"_s,
+                                   u"\r\n%%%%%%\r\n"_s, u"\r\n%%%%%%\r\n1"_s}) {
+            const SharedText text = SharedText(QString(before, u'x') + u'%' + end)
+                                        .replaced(before, 1, QString(5000, u'y'));
+            UndoStore ring;
+            ring.StoreUndoSnapshot({text, 1, 2});
+            const auto record = [&] { return splitUndoRecord(ring.FetchUndoSnapshot(1)); };
+            const std::optional<Error> error = raisedBy(record);
+            EXPECT_EQ(error.has_value(), raisedBy([&] { ring.FetchUndoState(1); }).has_value());
+            if (!error) {
+                EXPECT_EQ(ring.FetchUndoState(1)->record(), record());
+            }
+        }
+    }
 }
 
 TEST(UndoStoreEncoding, ShortRecordsDoNotWait)
