@@ -258,8 +258,8 @@ private:
         if (!window().isWindowModified() && !isSaved())
             return u"a change is not marked"_s;
         const LwType type = m_workbench.shown().ListviewType();
-        if (m_workbench.box().isVisible() != (type == dsCode))
-            return u"the program is shown beside type %1, or is not"_s.arg(type);
+        if (m_workbench.views().isVisible() && !m_workbench.shown().isVisible())
+            return u"the current view, of type %1, is not seen"_s.arg(type);
         if (window().menuBar()->actions().size() < 5)
             return u"a menu is missing"_s;
         return {};
