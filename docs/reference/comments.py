@@ -253,8 +253,10 @@ class Header:
         if trailing and not (self.comment and "(" in text.split("//")[0]):
             comment = [text_of(trailing[1])]
         kinds = ("event",) if access == "Q_SIGNALS" else ("method", "property")
-        facts = self.tables.facts(owner, name, kinds) or self.tables.facts(
-            owner, name.removeprefix("set"), ("property",))
+        read = name.removeprefix("set")
+        facts = self.tables.facts(owner, name, kinds) or \
+            self.tables.facts(owner, read, ("property",)) or \
+            self.tables.facts(owner, read[:1].lower() + read[1:], ("property",))
         indent = re.match(r"\s*", lines[0])[0]
         self.put_comment(comment, facts if owner else [], indent)
         self.out += [re.sub(r"\s*//.*$", "", line) if not self.is_enumeration(text) else

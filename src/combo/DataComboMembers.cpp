@@ -7,7 +7,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -49,21 +48,23 @@ QList<MemberFacts> facts()
     };
 }
 
-const MemberTable &comboTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(u"ORVDataCombo"_s,
-                                   comboMembers() + textMembers<Combo>() + comboEvents(),
-                                   facts() + keyFacts() + dragFacts());
-    return table;
+    return comboMembers() + textMembers<Combo>() + comboEvents();
 }
 
-const HandedClass handed(QMetaType::fromType<ORVDataCombo *>(), &comboTable);
+QList<MemberFacts> allFacts()
+{
+    return facts() + keyFacts() + dragFacts();
+}
+
+const HandedClass handed(QMetaType::fromType<ORVDataCombo *>(), &allMembers, &allFacts);
 
 } // namespace
 
 const MemberTable &ORVDataCombo::Members() const
 {
-    return comboTable();
+    return handed.table();
 }
 
 } // namespace ORVTListview

@@ -6,7 +6,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -85,20 +84,22 @@ QList<Member> events()
     };
 }
 
-const MemberTable &viewTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(
-        u"CodeView"_s, shownMembers() + commandMembers() + typingMembers() + events(),
-        {
-            {.name = u"zoom"_s, .unit = u"percent"_s, .range = u"0, or 20 to 500"_s},
-            {.name = u"goToLine"_s, .range = u"1 to the number of lines; the nearest counts"_s},
-            {.name = u"openingProgress"_s, .unit = u"percent"_s, .range = u"0 to 100"_s},
-            {.name = u"hoverAsked"_s, .range = u"line: from 1"_s},
-        });
-    return table;
+    return shownMembers() + commandMembers() + typingMembers() + events();
 }
 
-const HandedClass handed(QMetaType::fromType<CodeView *>(), &viewTable);
+QList<MemberFacts> allFacts()
+{
+    return {
+        {.name = u"zoom"_s, .unit = u"percent"_s, .range = u"0, or 20 to 500"_s},
+        {.name = u"goToLine"_s, .range = u"1 to the number of lines; the nearest counts"_s},
+        {.name = u"openingProgress"_s, .unit = u"percent"_s, .range = u"0 to 100"_s},
+        {.name = u"hoverAsked"_s, .range = u"line: from 1"_s},
+    };
+}
+
+const HandedClass handed(QMetaType::fromType<CodeView *>(), &allMembers, &allFacts);
 
 } // namespace
 

@@ -1,8 +1,8 @@
 #include <ORVTListview/ORVListView.h>
 
 #include "members/HandedClass.h"
-#include "members/InputEvents.h"
 #include "members/TextMembers.h"
+#include "widgets/list/ListEvents.h"
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>
@@ -16,7 +16,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -119,20 +118,6 @@ QList<Member> addedMembers()
     };
 }
 
-QList<Member> listEvents()
-{
-    const QList<Member> own{
-        raises<&List::AfterLabelEdit>(1, u"AfterLabelEdit", u"Cancel", u"NewString"),
-        raises<&List::BeforeLabelEdit>(2, u"BeforeLabelEdit", u"Cancel"),
-        raises<&List::Click>(3, u"Click"),
-        raises<&List::ColumnClick>(4, u"ColumnClick", u"ColumnHeader"),
-        raises<&List::DblClick>(5, u"DblClick"),
-        raises<&List::ItemCheck>(6, u"ItemCheck", u"Item"),
-        raises<&List::ItemClick>(7, u"ItemClick", u"Item"),
-    };
-    return own + keyEvents<List>(8) + mouseEvents<List>(11) + dragEvents<List>(14);
-}
-
 QList<Member> hostEvents()
 {
     return {
@@ -181,23 +166,24 @@ QList<MemberFacts> editorFacts()
     };
 }
 
-const MemberTable &listViewTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(u"ORVListView"_s,
-                                   shellMembers() + textMembers<List>() + rowMembers() +
-                                       editorMembers() + commandMembers() + addedMembers() +
-                                       listEvents() + hostEvents(),
-                                   tableFacts() + editorFacts() + inputFacts());
-    return table;
+    return shellMembers() + textMembers<List>() + rowMembers() + editorMembers() +
+           commandMembers() + addedMembers() + listEvents<List>() + hostEvents();
 }
 
-const HandedClass handed(QMetaType::fromType<ORVListView *>(), &listViewTable);
+QList<MemberFacts> allFacts()
+{
+    return tableFacts() + editorFacts() + inputFacts();
+}
+
+const HandedClass handed(QMetaType::fromType<ORVListView *>(), &allMembers, &allFacts);
 
 } // namespace
 
 const MemberTable &ORVListView::Members() const
 {
-    return listViewTable();
+    return handed.table();
 }
 
 } // namespace ORVTListview

@@ -6,11 +6,26 @@
 
 namespace ORVTListview {
 
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// As it is written in C++, without the namespace.
+QString className(QMetaType type)
+{
+    QString name = QString::fromLatin1(type.name());
+    name.remove(u"ORVTListview::"_s).remove(u'*');
+    return name.replace(u"<int>"_s, u"<qint32>"_s);
+}
+
+} // namespace
+
 HandedClass *HandedClass::s_first = nullptr;
 
-HandedClass::HandedClass(QMetaType type, Table table) noexcept
+HandedClass::HandedClass(QMetaType type, Members entries, Facts facts) noexcept
     : m_type(type)
-    , m_table(table)
+    , m_members(entries)
+    , m_facts(facts)
     , m_next(s_first)
 {
     s_first = this;
@@ -24,11 +39,20 @@ HandedClass::~HandedClass()
     *place = m_next;
 }
 
+const MemberTable &HandedClass::table() const
+{
+    std::call_once(m_once, [this] {
+        const QList<MemberFacts> facts = m_facts ? m_facts() : QList<MemberFacts>();
+        m_table.emplace(className(m_type), m_members(), facts);
+    });
+    return *m_table;
+}
+
 const MemberTable *HandedClass::members(QMetaType type)
 {
     for (const HandedClass *each = s_first; each; each = each->m_next) {
         if (each->m_type == type)
-            return &each->m_table();
+            return &each->table();
     }
     return nullptr;
 }
@@ -38,7 +62,7 @@ const MemberTable *HandedClass::members(const QMetaObject &meta)
     for (const QMetaObject *base = &meta; base; base = base->superClass()) {
         for (const HandedClass *each = s_first; each; each = each->m_next) {
             if (each->m_type.metaObject() == base)
-                return &each->m_table();
+                return &each->table();
         }
     }
     return nullptr;

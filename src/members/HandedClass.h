@@ -5,23 +5,31 @@
 
 #include <QtCore/QVariant>
 
+#include <mutex>
+#include <optional>
+
 namespace ORVTListview {
 
 // A class whose objects late-bound calls hand out or take. A variable of each stands
-// beside its table and makes it known as long as its library is there:
+// beside its members and makes it known as long as its library is there:
 //
-//     const HandedClass handed(QMetaType::fromType<Node *>(), &nodeMembers);
+//     const HandedClass handed(QMetaType::fromType<Node *>(), &members, &facts);
 //
 // Why it is so: docs/decisions/members.md.
 class ORVT_HOUSE_EXPORT HandedClass
 {
 public:
-    using Table = const MemberTable &(*)();
+    using Members = QList<Member> (*)();
+    using Facts = QList<MemberFacts> (*)();
 
     // The type is that of the pointer, or of the value itself for what is copied.
-    HandedClass(QMetaType type, Table table) noexcept;
+    HandedClass(QMetaType type, Members entries, Facts facts = nullptr) noexcept;
     ~HandedClass();
     Q_DISABLE_COPY_MOVE(HandedClass) // others are found by its address
+
+    // Made when it is first asked for, as classes are made known before the toolkit is
+    // ready for more.
+    const MemberTable &table() const;
 
     // Null for a type that nobody has made known.
     static const MemberTable *members(QMetaType type);
@@ -38,8 +46,11 @@ private:
     static HandedClass *s_first;
 
     const QMetaType m_type;
-    const Table m_table;
+    const Members m_members;
+    const Facts m_facts;
     HandedClass *m_next;
+    mutable std::once_flag m_once;
+    mutable std::optional<MemberTable> m_table;
 };
 
 } // namespace ORVTListview

@@ -23,6 +23,8 @@
 
 namespace ORVTListview::MemberEntries {
 
+using namespace Qt::StringLiterals;
+
 struct ArgumentName
 {
     ArgumentName(const char16_t *text) // implicit: most arguments are just a name

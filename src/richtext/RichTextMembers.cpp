@@ -7,7 +7,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -53,21 +52,23 @@ QList<Member> hostEvents()
     };
 }
 
-const MemberTable &shellTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(
-        u"ORVRichText"_s, shellMembers() + textMembers<Shell>() + inputEvents() + hostEvents(),
-        inputFacts());
-    return table;
+    return shellMembers() + textMembers<Shell>() + inputEvents() + hostEvents();
 }
 
-const HandedClass handed(QMetaType::fromType<ORVRichText *>(), &shellTable);
+QList<MemberFacts> allFacts()
+{
+    return inputFacts();
+}
+
+const HandedClass handed(QMetaType::fromType<ORVRichText *>(), &allMembers, &allFacts);
 
 } // namespace
 
 const MemberTable &ORVRichText::Members() const
 {
-    return shellTable();
+    return handed.table();
 }
 
 } // namespace ORVTListview

@@ -7,7 +7,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -91,21 +90,23 @@ QList<MemberFacts> facts()
     };
 }
 
-const MemberTable &treeTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(u"ORVTreeview"_s,
-                                   treeMembers() + textMembers<Tree>() + pageMembers() + events(),
-                                   facts() + inputFacts());
-    return table;
+    return treeMembers() + textMembers<Tree>() + pageMembers() + events();
 }
 
-const HandedClass handed(QMetaType::fromType<ORVTreeview *>(), &treeTable);
+QList<MemberFacts> allFacts()
+{
+    return facts() + inputFacts();
+}
+
+const HandedClass handed(QMetaType::fromType<ORVTreeview *>(), &allMembers, &allFacts);
 
 } // namespace
 
 const MemberTable &ORVTreeview::Members() const
 {
-    return treeTable();
+    return handed.table();
 }
 
 } // namespace ORVTListview

@@ -2,6 +2,7 @@
 examples from there, as a host would that knows nothing but the prefix."""
 
 import argparse
+import json
 import os
 import pathlib
 import shutil
@@ -89,6 +90,10 @@ def main():
         run("cmake", "--install", arguments.build, "--prefix", first)
         shutil.move(first, prefix)
         check_no_path_is_written_down(prefix, (first, arguments.build, arguments.source))
+
+        members = json.loads(only(prefix / "share/orvtlistview", "members.json").read_text())
+        if not members["classes"]:
+            sys.exit("members.json tells of no class")
 
         environment = host_environment(prefix)
         hosts = pathlib.Path(folder) / "hosts"

@@ -6,29 +6,25 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
 using Answer = HoverAnswer;
 
-const MemberTable &answerTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(
-        u"HoverAnswer"_s,
-        {
-            readWrite<&Answer::text, &Answer::setText>(u"text"),
-            readWrite<&Answer::name, &Answer::setName>(u"name"),
-            readWrite<&Answer::kind, &Answer::setKind>(u"kind"),
-            readWrite<&Answer::value, &Answer::setValue>(u"value"),
-            readWrite<&Answer::unit, &Answer::setUnit>(u"unit"),
-            readWrite<&Answer::description, &Answer::setDescription>(u"description"),
-            readOnly<&Answer::isEmpty>(u"isEmpty"),
-        });
-    return table;
+    return {
+        readWrite<&Answer::text, &Answer::setText>(u"text"),
+        readWrite<&Answer::name, &Answer::setName>(u"name"),
+        readWrite<&Answer::kind, &Answer::setKind>(u"kind"),
+        readWrite<&Answer::value, &Answer::setValue>(u"value"),
+        readWrite<&Answer::unit, &Answer::setUnit>(u"unit"),
+        readWrite<&Answer::description, &Answer::setDescription>(u"description"),
+        readOnly<&Answer::isEmpty>(u"isEmpty"),
+    };
 }
 
-const HandedClass handed(QMetaType::fromType<HoverAnswer *>(), &answerTable);
+const HandedClass handed(QMetaType::fromType<HoverAnswer *>(), &allMembers);
 
 } // namespace
 

@@ -6,7 +6,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -55,22 +54,30 @@ QList<MemberFacts> keyedFacts()
     };
 }
 
-const MemberTable &textsTable()
+QList<Member> textsMembers()
 {
-    static const MemberTable table(u"KeyedCollection<QString>"_s, keyedMembers<QString>(),
-                                   keyedFacts());
-    return table;
+    return keyedMembers<QString>();
 }
 
-const MemberTable &numbersTable()
+QList<MemberFacts> textsFacts()
 {
-    static const MemberTable table(u"KeyedCollection<qint32>"_s, keyedMembers<qint32>(),
-                                   keyedFacts());
-    return table;
+    return keyedFacts();
 }
 
-const HandedClass handedTexts(QMetaType::fromType<KeyedCollection<QString>>(), &textsTable);
-const HandedClass handedNumbers(QMetaType::fromType<KeyedCollection<qint32>>(), &numbersTable);
+QList<Member> numbersMembers()
+{
+    return keyedMembers<qint32>();
+}
+
+QList<MemberFacts> numbersFacts()
+{
+    return keyedFacts();
+}
+
+const HandedClass handedTexts(QMetaType::fromType<KeyedCollection<QString>>(), &textsMembers,
+                              &textsFacts);
+const HandedClass handedNumbers(QMetaType::fromType<KeyedCollection<qint32>>(), &numbersMembers,
+                                &numbersFacts);
 
 } // namespace
 

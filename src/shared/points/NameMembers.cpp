@@ -5,20 +5,17 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
-const MemberTable &nameTable()
+QList<Member> nameMembers()
 {
-    static const MemberTable table(u"IndexedName"_s,
-                                   {
-                                       readOnly<&IndexedName::Name>(u"Name"),
-                                       readOnly<&IndexedName::NumberFormat>(u"NumberFormat"),
-                                       readOnly<&IndexedName::LowerBound>(u"LowerBound"),
-                                       readOnly<&IndexedName::UpperBound>(u"UpperBound"),
-                                   });
-    return table;
+    return {
+        readOnly<&IndexedName::Name>(u"Name"),
+        readOnly<&IndexedName::NumberFormat>(u"NumberFormat"),
+        readOnly<&IndexedName::LowerBound>(u"LowerBound"),
+        readOnly<&IndexedName::UpperBound>(u"UpperBound"),
+    };
 }
 
 // Hosts without types know nothing of const; no member of IndexedName changes it.
@@ -37,29 +34,32 @@ QList<Member> readingMembers()
     };
 }
 
-const MemberTable &collectionTable()
+QList<Member> collectionMembers()
 {
-    static const MemberTable table(u"IndexedNameCollection"_s,
-                                   readingMembers<IndexedNameCollection>(),
-                                   {{.name = u"Item"_s, .range = u"1 to Count()"_s}});
-    return table;
+    return readingMembers<IndexedNameCollection>();
 }
 
-const MemberTable &listTable()
+QList<MemberFacts> collectionFacts()
 {
-    static const MemberTable table(
-        u"IndexedNameList"_s,
-        QList{method<&IndexedNameList::Add>(u"Add", u"Name", u"NumberFormat", u"LowerBound",
-                                            u"UpperBound")} +
-            readingMembers<IndexedNameList>(),
-        {{.name = u"Item"_s, .range = u"1 to Count()"_s}});
-    return table;
+    return {{.name = u"Item"_s, .range = u"1 to Count()"_s}};
 }
 
-const HandedClass handedName(QMetaType::fromType<IndexedName *>(), &nameTable);
+QList<Member> listMembers()
+{
+    return QList{method<&IndexedNameList::Add>(u"Add", u"Name", u"NumberFormat", u"LowerBound",
+                                               u"UpperBound")} +
+           readingMembers<IndexedNameList>();
+}
+
+QList<MemberFacts> listFacts()
+{
+    return {{.name = u"Item"_s, .range = u"1 to Count()"_s}};
+}
+
+const HandedClass handedName(QMetaType::fromType<IndexedName *>(), &nameMembers);
 const HandedClass handedCollection(QMetaType::fromType<IndexedNameCollection *>(),
-                                   &collectionTable);
-const HandedClass handedList(QMetaType::fromType<IndexedNameList *>(), &listTable);
+                                   &collectionMembers, &collectionFacts);
+const HandedClass handedList(QMetaType::fromType<IndexedNameList *>(), &listMembers, &listFacts);
 
 // A list goes wherever a collection is taken.
 [[maybe_unused]] const bool listsAreCollections =

@@ -6,7 +6,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,16 +26,18 @@ QVariant found(const PointCollection &points, const QString &key)
     return optionalPoint(points.Find(key.toUpper()));
 }
 
-const MemberTable &collectionTable()
+QList<Member> collectionMembers()
 {
-    static const MemberTable table(u"PointCollection"_s,
-                                   {
-                                       readOnly<&PointCollection::Count>(u"Count"),
-                                       method<&item>(u"Item", u"Index"),
-                                       method<&found>(u"Find", u"Key"),
-                                   },
-                                   {{.name = u"Item"_s, .range = u"1 to Count()"_s}});
-    return table;
+    return {
+        readOnly<&PointCollection::Count>(u"Count"),
+        method<&item>(u"Item", u"Index"),
+        method<&found>(u"Find", u"Key"),
+    };
+}
+
+QList<MemberFacts> collectionFacts()
+{
+    return {{.name = u"Item"_s, .range = u"1 to Count()"_s}};
 }
 
 // As PointList is one, but at its own address.
@@ -50,27 +51,30 @@ QVariant foundInList(const PointList &points, const QString &key)
     return found(points, key);
 }
 
-const MemberTable &listTable()
+QList<Member> listMembers()
 {
-    static const MemberTable table(u"PointList"_s,
-                                   {
-                                       method<&PointList::Add>(u"Add", u"Name", optional(u"Data")),
-                                       method<&PointList::Remove>(u"Remove", u"Key"),
-                                       method<&PointList::Clear>(u"Clear"),
-                                       readOnly<&PointList::Count>(u"Count"),
-                                       method<&itemOfList>(u"Item", u"Index"),
-                                       method<&foundInList>(u"Find", u"Key"),
-                                   },
-                                   {
-                                       {.name = u"Add"_s, .failures = {InvalidCall}},
-                                       {.name = u"Remove"_s, .failures = {InvalidCall}},
-                                       {.name = u"Item"_s, .range = u"1 to Count()"_s},
-                                   });
-    return table;
+    return {
+        method<&PointList::Add>(u"Add", u"Name", optional(u"Data")),
+        method<&PointList::Remove>(u"Remove", u"Key"),
+        method<&PointList::Clear>(u"Clear"),
+        readOnly<&PointList::Count>(u"Count"),
+        method<&itemOfList>(u"Item", u"Index"),
+        method<&foundInList>(u"Find", u"Key"),
+    };
 }
 
-const HandedClass handedCollection(QMetaType::fromType<PointCollection *>(), &collectionTable);
-const HandedClass handedList(QMetaType::fromType<PointList *>(), &listTable);
+QList<MemberFacts> listFacts()
+{
+    return {
+        {.name = u"Add"_s, .failures = {InvalidCall}},
+        {.name = u"Remove"_s, .failures = {InvalidCall}},
+        {.name = u"Item"_s, .range = u"1 to Count()"_s},
+    };
+}
+
+const HandedClass handedCollection(QMetaType::fromType<PointCollection *>(), &collectionMembers,
+                                   &collectionFacts);
+const HandedClass handedList(QMetaType::fromType<PointList *>(), &listMembers, &listFacts);
 
 // A list goes wherever a collection is taken.
 [[maybe_unused]] const bool listsAreCollections =

@@ -6,7 +6,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -77,14 +76,17 @@ QList<MemberFacts> facts()
     };
 }
 
-const MemberTable &boxTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(u"RichTextBox"_s, textMembers() + lookMembers() + events(),
-                                   facts());
-    return table;
+    return textMembers() + lookMembers() + events();
 }
 
-const HandedClass handed(QMetaType::fromType<RichTextBox *>(), &boxTable);
+QList<MemberFacts> allFacts()
+{
+    return facts();
+}
+
+const HandedClass handed(QMetaType::fromType<RichTextBox *>(), &allMembers, &allFacts);
 
 } // namespace
 

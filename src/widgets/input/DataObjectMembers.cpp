@@ -6,7 +6,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -33,19 +32,21 @@ QList<Member> dataMembers()
     };
 }
 
-const MemberTable &dataTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(
-        u"DataObject"_s, dataMembers(),
-        {
-            {.name = u"GetData"_s, .failures = {InvalidCall}},
-            {.name = u"SetData"_s, .failures = {InvalidCall, TypeMismatch}},
-            {.name = u"Clear"_s, .failures = {InvalidCall}},
-        });
-    return table;
+    return dataMembers();
 }
 
-const HandedClass handed(QMetaType::fromType<DataObject *>(), &dataTable);
+QList<MemberFacts> allFacts()
+{
+    return {
+        {.name = u"GetData"_s, .failures = {InvalidCall}},
+        {.name = u"SetData"_s, .failures = {InvalidCall, TypeMismatch}},
+        {.name = u"Clear"_s, .failures = {InvalidCall}},
+    };
+}
+
+const HandedClass handed(QMetaType::fromType<DataObject *>(), &allMembers, &allFacts);
 
 } // namespace
 

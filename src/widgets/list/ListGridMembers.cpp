@@ -10,7 +10,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -125,14 +124,17 @@ QList<MemberFacts> facts()
     };
 }
 
-const MemberTable &gridTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(
-        u"ListGrid"_s, cellMembers() + rowMembers() + columnMembers() + events(), facts());
-    return table;
+    return cellMembers() + rowMembers() + columnMembers() + events();
 }
 
-const HandedClass handed(QMetaType::fromType<ListGrid *>(), &gridTable);
+QList<MemberFacts> allFacts()
+{
+    return facts();
+}
+
+const HandedClass handed(QMetaType::fromType<ListGrid *>(), &allMembers, &allFacts);
 
 } // namespace
 

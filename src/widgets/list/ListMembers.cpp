@@ -7,7 +7,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -48,67 +47,74 @@ QList<MemberFacts> goneFacts(const QStringList &names)
     return facts;
 }
 
-const MemberTable &itemTable()
+QList<Member> itemMembers()
+{
+    return elementMembers<ListItem>() + rowMembers();
+}
+
+QList<MemberFacts> itemFacts()
 {
     static const QStringList plain{u"Tag"_s,     u"PictureKey"_s, u"foreground"_s,   u"Selected"_s,
                                    u"Checked"_s, u"Visible"_s,    u"EnsureVisible"_s};
-    static const MemberTable table(u"ListItem"_s, elementMembers<ListItem>() + rowMembers(),
-                                   elementFacts() + subItemFacts() + goneFacts(plain));
-    return table;
+    return elementFacts() + subItemFacts() + goneFacts(plain);
 }
 
-const MemberTable &itemsTable()
+QList<Member> itemsMembers()
 {
-    static const MemberTable table(
-        u"ListItems"_s,
-        collectionMembers<ListItems>() +
-            QList{method<&ListItems::Add>(u"Add", optional(u"Index"), optional(u"Key"),
-                                          optional(u"Text"))},
-        collectionFacts() + QList<MemberFacts>{{.name = u"Add"_s,
-                                                .range = u"0 to Count() + 1"_s,
-                                                .failures = {InvalidCall, SubscriptOutOfRange}}});
-    return table;
+    return collectionMembers<ListItems>() +
+           QList{method<&ListItems::Add>(u"Add", optional(u"Index"), optional(u"Key"),
+                                         optional(u"Text"))};
 }
 
-const MemberTable &columnTable()
+QList<MemberFacts> itemsFacts()
 {
-    static const MemberTable table(
-        u"ColumnHeader"_s,
-        elementMembers<ColumnHeader>() +
-            QList{
-                readWrite<&ColumnHeader::Width, &ColumnHeader::setWidth>(u"Width"),
-                readWrite<&ColumnHeader::alignment, &ColumnHeader::setAlignment>(u"alignment"),
-                readWrite<&ColumnHeader::Visible, &ColumnHeader::setVisible>(u"Visible"),
-            },
-        elementFacts() + goneFacts({u"alignment"_s, u"Visible"_s}) +
-            QList<MemberFacts>{{.name = u"Width"_s,
-                                .unit = u"twip"_s,
-                                .range = u"0 and up"_s,
-                                .failures = {InvalidCall, ObjectNotSet}}});
-    return table;
+    return collectionFacts() + QList<MemberFacts>{{.name = u"Add"_s,
+                                                   .range = u"0 to Count() + 1"_s,
+                                                   .failures = {InvalidCall, SubscriptOutOfRange}}};
 }
 
-const MemberTable &columnsTable()
+QList<Member> columnMembers()
+{
+    return elementMembers<ColumnHeader>() +
+           QList{
+               readWrite<&ColumnHeader::Width, &ColumnHeader::setWidth>(u"Width"),
+               readWrite<&ColumnHeader::alignment, &ColumnHeader::setAlignment>(u"alignment"),
+               readWrite<&ColumnHeader::Visible, &ColumnHeader::setVisible>(u"Visible"),
+           };
+}
+
+QList<MemberFacts> columnFacts()
+{
+    return elementFacts() + goneFacts({u"alignment"_s, u"Visible"_s}) +
+           QList<MemberFacts>{{.name = u"Width"_s,
+                               .unit = u"twip"_s,
+                               .range = u"0 and up"_s,
+                               .failures = {InvalidCall, ObjectNotSet}}};
+}
+
+QList<Member> columnsMembers()
 {
     static const auto left = QVariant::fromValue(Qt::Alignment(Qt::AlignLeft));
-    static const MemberTable table(
-        u"ColumnHeaders"_s,
-        collectionMembers<ColumnHeaders>() +
-            QList{method<&ColumnHeaders::Add>(
-                u"Add", optional(u"Index"), optional(u"Key"), optional(u"Text"),
-                optional(u"Width", ColumnHeaders::defaultWidth), optional(u"Alignment", left))},
-        collectionFacts() +
-            QList<MemberFacts>{{.name = u"Add"_s,
-                                .unit = u"Width: twip"_s,
-                                .range = u"Index: 0 to Count() + 1; Width: 0 and up"_s,
-                                .failures = {InvalidCall, SubscriptOutOfRange}}});
-    return table;
+    return collectionMembers<ColumnHeaders>() +
+           QList{method<&ColumnHeaders::Add>(
+               u"Add", optional(u"Index"), optional(u"Key"), optional(u"Text"),
+               optional(u"Width", ColumnHeaders::defaultWidth), optional(u"Alignment", left))};
 }
 
-const HandedClass handedItem(QMetaType::fromType<ListItem *>(), &itemTable);
-const HandedClass handedItems(QMetaType::fromType<ListItems *>(), &itemsTable);
-const HandedClass handedColumn(QMetaType::fromType<ColumnHeader *>(), &columnTable);
-const HandedClass handedColumns(QMetaType::fromType<ColumnHeaders *>(), &columnsTable);
+QList<MemberFacts> columnsFacts()
+{
+    return collectionFacts() +
+           QList<MemberFacts>{{.name = u"Add"_s,
+                               .unit = u"Width: twip"_s,
+                               .range = u"Index: 0 to Count() + 1; Width: 0 and up"_s,
+                               .failures = {InvalidCall, SubscriptOutOfRange}}};
+}
+
+const HandedClass handedItem(QMetaType::fromType<ListItem *>(), &itemMembers, &itemFacts);
+const HandedClass handedItems(QMetaType::fromType<ListItems *>(), &itemsMembers, &itemsFacts);
+const HandedClass handedColumn(QMetaType::fromType<ColumnHeader *>(), &columnMembers, &columnFacts);
+const HandedClass handedColumns(QMetaType::fromType<ColumnHeaders *>(), &columnsMembers,
+                                &columnsFacts);
 
 } // namespace
 

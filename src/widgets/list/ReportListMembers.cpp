@@ -1,5 +1,5 @@
 #include "members/HandedClass.h"
-#include "members/InputEvents.h"
+#include "widgets/list/ListEvents.h"
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ListGrid.h>
@@ -9,7 +9,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -52,21 +51,6 @@ QList<Member> mannerMembers()
     };
 }
 
-// The numbers are those of the table control, whose events these are.
-QList<Member> listEvents()
-{
-    const QList<Member> own{
-        raises<&List::AfterLabelEdit>(1, u"AfterLabelEdit", u"Cancel", u"NewString"),
-        raises<&List::BeforeLabelEdit>(2, u"BeforeLabelEdit", u"Cancel"),
-        raises<&List::Click>(3, u"Click"),
-        raises<&List::ColumnClick>(4, u"ColumnClick", u"ColumnHeader"),
-        raises<&List::DblClick>(5, u"DblClick"),
-        raises<&List::ItemCheck>(6, u"ItemCheck", u"Item"),
-        raises<&List::ItemClick>(7, u"ItemClick", u"Item"),
-    };
-    return own + keyEvents<List>(8) + mouseEvents<List>(11) + dragEvents<List>(14);
-}
-
 QList<MemberFacts> facts()
 {
     return {
@@ -90,14 +74,17 @@ QList<MemberFacts> facts()
     };
 }
 
-const MemberTable &listTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(u"ReportList"_s, rowMembers() + mannerMembers() + listEvents(),
-                                   facts() + inputFacts());
-    return table;
+    return rowMembers() + mannerMembers() + listEvents<List>();
 }
 
-const HandedClass handed(QMetaType::fromType<ReportList *>(), &listTable);
+QList<MemberFacts> allFacts()
+{
+    return facts() + inputFacts();
+}
+
+const HandedClass handed(QMetaType::fromType<ReportList *>(), &allMembers, &allFacts);
 
 } // namespace
 

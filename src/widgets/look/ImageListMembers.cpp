@@ -7,7 +7,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,19 +36,21 @@ QList<Member> imageMembers()
     };
 }
 
-const MemberTable &imageTable()
+QList<Member> allMembers()
 {
-    static const MemberTable table(
-        u"ImageList"_s, imageMembers(),
-        {
-            {.name = u"Add"_s, .range = u"Index: 1 and up"_s, .failures = {InvalidCall}},
-            {.name = u"Contains"_s, .failures = {TypeMismatch}},
-            {.name = u"Picture"_s, .failures = {TypeMismatch}},
-        });
-    return table;
+    return imageMembers();
 }
 
-const HandedClass handed(QMetaType::fromType<ImageList *>(), &imageTable);
+QList<MemberFacts> allFacts()
+{
+    return {
+        {.name = u"Add"_s, .range = u"Index: 1 and up"_s, .failures = {InvalidCall}},
+        {.name = u"Contains"_s, .failures = {TypeMismatch}},
+        {.name = u"Picture"_s, .failures = {TypeMismatch}},
+    };
+}
+
+const HandedClass handed(QMetaType::fromType<ImageList *>(), &allMembers, &allFacts);
 
 } // namespace
 

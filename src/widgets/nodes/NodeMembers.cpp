@@ -5,7 +5,6 @@
 namespace ORVTListview {
 
 using namespace MemberEntries;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -63,12 +62,14 @@ QList<MemberFacts> lookFacts()
     };
 }
 
-const MemberTable &nodeTable()
+QList<Member> nodeMembers()
 {
-    static const MemberTable table(u"Node"_s,
-                                   elementMembers<Node>() + placeMembers() + lookMembers(),
-                                   elementFacts() + placeFacts() + lookFacts());
-    return table;
+    return elementMembers<Node>() + placeMembers() + lookMembers();
+}
+
+QList<MemberFacts> nodeFacts()
+{
+    return elementFacts() + placeFacts() + lookFacts();
 }
 
 // Relative is a node, the key of one, or nothing for the top level.
@@ -83,22 +84,23 @@ Node *addNode(Nodes &nodes, const QVariant &relative, NodeRelationship relations
     return nodes.Add(relative.value<Node *>(), relationship, key, text, image);
 }
 
-const MemberTable &nodesTable()
+QList<Member> nodesMembers()
 {
-    static const MemberTable table(
-        u"Nodes"_s,
-        collectionMembers<Nodes>() +
-            QList{method<&Nodes::Contains>(u"Contains", u"Key"),
-                  method<&addNode>(u"Add", u"Relative", u"Relationship", optional(u"Key"),
-                                   optional(u"Text"), optional(u"Image"))},
-        collectionFacts() +
-            QList<MemberFacts>{
-                {.name = u"Add"_s, .failures = {InvalidCall, TypeMismatch, ObjectNotSet}}});
-    return table;
+    return collectionMembers<Nodes>() +
+           QList{method<&Nodes::Contains>(u"Contains", u"Key"),
+                 method<&addNode>(u"Add", u"Relative", u"Relationship", optional(u"Key"),
+                                  optional(u"Text"), optional(u"Image"))};
 }
 
-const HandedClass handedNode(QMetaType::fromType<Node *>(), &nodeTable);
-const HandedClass handedNodes(QMetaType::fromType<Nodes *>(), &nodesTable);
+QList<MemberFacts> nodesFacts()
+{
+    return collectionFacts() +
+           QList<MemberFacts>{
+               {.name = u"Add"_s, .failures = {InvalidCall, TypeMismatch, ObjectNotSet}}};
+}
+
+const HandedClass handedNode(QMetaType::fromType<Node *>(), &nodeMembers, &nodeFacts);
+const HandedClass handedNodes(QMetaType::fromType<Nodes *>(), &nodesMembers, &nodesFacts);
 
 } // namespace
 
