@@ -90,24 +90,26 @@ def type_faults(file):
             types += [argument["type"] for argument in entry.get("arguments", ())]
             for name in re.findall(r"(?<![\w:])[A-Z]\w+(?:::\w+)?", " ".join(types)):
                 if not name.startswith("Q") and name not in known and \
-                        not any(one.startswith(name) for one in known):
+                        not any(one.startswith(name + "<") for one in known):
                     yield f"{each['name']}.{entry['name']}: nothing is said of {name}"
 
 
-def entries_for(name):
-    """What a function of the headers may be called in the tables."""
-    plain = OTHER_NAMES.get(name, name)
-    yield plain
-    yield OTHER_NAMES.get(re.sub(r"^(set|is|has)", "", plain), re.sub(r"^(set|is|has)", "", plain))
-    without = re.sub(r"^(set|is|has)", "", plain)
-    yield without[:1].lower() + without[1:]
+def is_there(name, members):
+    """A function of the headers has its own entry, or sets a property that has one."""
+    if any(entry["name"] == OTHER_NAMES.get(name, name) for entry in members):
+        return True
+    if not name.startswith("set"):
+        return False
+    read = name.removeprefix("set")
+    names = {read, read[:1].lower() + read[1:]}
+    return any(entry["kind"] == "property" and entry["put"] and entry["name"] in names
+               for entry in members)
 
 
 def header_faults(file, headers):
     for each in file["classes"]:
-        known = {entry["name"] for entry in each["members"]}
-        known |= {entry["name"] + "Changed" for entry in each["members"]}
-        known |= {entry["changed"] for entry in each["members"] if "changed" in entry}
+        changes = {entry["name"] + "Changed" for entry in each["members"]}
+        changes |= {entry["changed"] for entry in each["members"] if "changed" in entry}
         plain = each["name"].split("<")[0]
         if plain not in headers.declared:
             yield f"{each['name']}: no header declares it"
@@ -115,7 +117,7 @@ def header_faults(file, headers):
                 SHARED.get(each["name"]), set()):
             if name.startswith("~") or name in CPP_ONLY or name in (plain, SHARED.get(each["name"])):
                 continue
-            if not known.intersection(entries_for(name)):
+            if name not in changes and not is_there(name, each["members"]):
                 yield f"{each['name']}.{name}: is in a header and not in the tables"
 
 
