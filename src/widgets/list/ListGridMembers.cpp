@@ -39,6 +39,17 @@ void setSortKeys(Grid &grid, const QVariantList &keys)
     grid.setSortKeys(typed);
 }
 
+// Hosts without types know nothing of const.
+CellState cellState(const Grid &grid, ListItem *item, qint16 column)
+{
+    return grid.cellState(item, column);
+}
+
+void setCellState(Grid &grid, ListItem *item, qint16 column, CellState state)
+{
+    grid.setCellState(item, column, state);
+}
+
 QList<Member> cellMembers()
 {
     return {
@@ -54,8 +65,8 @@ QList<Member> cellMembers()
         method<&Grid::editCell>(u"editCell", u"item", u"column"),
         method<&Grid::enterText>(u"enterText", u"item", u"column", u"text"),
         readWrite<&Grid::undoStack, &Grid::setUndoStack>(u"undoStack"),
-        method<&Grid::cellState>(u"cellState", u"item", u"column"),
-        method<&Grid::setCellState>(u"setCellState", u"item", u"column", u"state"),
+        method<&cellState>(u"cellState", u"item", u"column"),
+        method<&setCellState>(u"setCellState", u"item", u"column", u"state"),
         readWrite<&Grid::showsLocalNumbers, &Grid::setShowsLocalNumbers>(u"showsLocalNumbers"),
         readWrite<&Grid::flashesChanges, &Grid::setFlashesChanges>(u"flashesChanges"),
     };
