@@ -85,8 +85,11 @@ std::optional<QVariant> converted(const QVariant &value, QMetaType type)
 
 QVariant fromVariable(QMetaType type, const void *variable)
 {
-    if (type == QMetaType::fromType<QVariant>())
-        return *static_cast<const QVariant *>(variable);
+    if (type == QMetaType::fromType<QVariant>()) {
+        const auto &held = *static_cast<const QVariant *>(variable);
+        RecordValue::announce(held.metaType()); // no table names it
+        return held;
+    }
     return QVariant(type, variable);
 }
 

@@ -92,7 +92,7 @@ TEST_F(ObjectCall, ReadsAndChangesACollectionByValue)
     EXPECT_EQ(call(object, u"Keys"_s), CallSucceeded);
     EXPECT_EQ(result.toStringList(), QStringList({u"Key1"_s, u"Key6"_s}));
     EXPECT_EQ(call(object, u"Item"_s, {3}), SubscriptOutOfRange);
-    EXPECT_EQ(call(object, u"Item"_s, {QVariantList{1}}), TypeMismatch);
+    EXPECT_EQ(call(object, u"Item"_s, {QVariant(QVariantList{1})}), TypeMismatch);
     EXPECT_EQ(texts.Count(), 1);
 }
 
