@@ -280,6 +280,9 @@ def main():
     arguments = parser.parse_args()
     text = pathlib.Path(arguments.header).read_text(encoding="utf-8")
     if arguments.header.endswith(".md"):
+        # Nor does it read code in headings.
+        text = re.sub(r"^#+ .*$", lambda heading: heading[0].replace("`", ""), text,
+                      flags=re.MULTILINE)
         return sys.stdout.write(PICTURE.sub(r"\1", text))
     return sys.stdout.write(Header(text, Tables(arguments.members)).filtered())
 
