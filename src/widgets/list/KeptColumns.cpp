@@ -48,8 +48,10 @@ void KeptColumns::follow()
     connect(header, &QHeaderView::sectionResized, this, refreshed);
     connect(header, &QHeaderView::sectionMoved, this, refreshed);
     connect(m_view.model(), &QAbstractItemModel::headerDataChanged, this, refreshed);
-    connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [this] { m_view.viewport()->update(area()); });
+    // The toolkit draws what has changed anew where it has it.
+    const auto redrawn = [this] { m_view.viewport()->update(area()); };
+    connect(m_view.model(), &QAbstractItemModel::dataChanged, this, redrawn);
+    connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this, redrawn);
 }
 
 QList<int> KeptColumns::columns() const
