@@ -48,10 +48,8 @@ void KeptColumns::follow()
     connect(header, &QHeaderView::sectionResized, this, refreshed);
     connect(header, &QHeaderView::sectionMoved, this, refreshed);
     connect(m_view.model(), &QAbstractItemModel::headerDataChanged, this, refreshed);
-    // The toolkit draws what has changed anew where it has it.
-    const auto redrawn = [this] { m_view.viewport()->update(area()); };
-    connect(m_view.model(), &QAbstractItemModel::dataChanged, this, redrawn);
-    connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this, redrawn);
+    connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { m_view.viewport()->update(area()); });
 }
 
 QList<int> KeptColumns::columns() const

@@ -5,10 +5,6 @@
 #include "widgets/grid/KeptGrid.h"
 
 #include <QtGui/QAccessible>
-#include <QtGui/QClipboard>
-#include <QtGui/QGuiApplication>
-#include <QtGui/QPaintEvent>
-#include <QtGui/QRegion>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QtTest>
 
@@ -16,25 +12,6 @@
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// What of a widget has been drawn.
-class DrawnRegion : public QObject
-{
-public:
-    explicit DrawnRegion(QWidget *widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            region += static_cast<QPaintEvent *>(event)->region();
-        return false;
-    }
-
-    QRegion region;
-};
-
-} // namespace
 
 class KeptColumnsTest : public WidgetTest
 {
@@ -187,24 +164,6 @@ private Q_SLOTS:
         QCOMPARE(shown.begin(1, 0), -120);
         shown->setColumnWidth(1, 60);
         QCOMPARE(shown.under(10, 1), u"1 0"_s);
-    }
-
-    void severalChangedCellsAreDrawnAnew()
-    {
-        KeptGrid shown;
-        QTest::qWait(50); // all is drawn by then
-        DrawnRegion drawn(shown->viewport());
-        QGuiApplication::clipboard()->setText(u"a\nb\nc\n"_s);
-        shown->selectionModel()->setCurrentIndex(shown->model()->index(0, 1),
-                                                 QItemSelectionModel::NoUpdate);
-        const QSignalSpy told(shown->model(), &QAbstractItemModel::dataChanged);
-        shown->selectionModel()->blockSignals(true); // what is selected is no matter here
-        QVERIFY(shown.grid->pasteCells());
-        shown->selectionModel()->blockSignals(false);
-        QCOMPARE(told.size(), 1);
-        const QRect place = shown->visualRect(shown->model()->index(2, 1));
-        QCOMPARE(place.left(), 120);
-        QTRY_VERIFY(drawn.region.contains(place));
     }
 
     void aScreenReaderIsToldWhereTheyAre()
