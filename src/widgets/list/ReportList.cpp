@@ -151,21 +151,6 @@ void ReportList::paintEvent(QPaintEvent *event)
         d->kept.paint(event->region());
 }
 
-// Only they are drawn anew; the toolkit would draw all that is seen.
-void ReportList::dataChanged(const QModelIndex &first, const QModelIndex &last,
-                             const QList<int> &roles)
-{
-    if (first == last) {
-        QTableView::dataChanged(first, last, roles);
-        return;
-    }
-    const bool wasOff = viewport()->testAttribute(Qt::WA_UpdatesDisabled);
-    viewport()->setAttribute(Qt::WA_UpdatesDisabled);
-    QTableView::dataChanged(first, last, roles);
-    viewport()->setAttribute(Qt::WA_UpdatesDisabled, wasOff);
-    viewport()->update(visualRegionForSelection(QItemSelection(first, last)) | d->kept.area());
-}
-
 void ReportList::updateRowHeight()
 {
     constexpr int room = 6;

@@ -5,8 +5,6 @@
 
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
-#include <QtGui/QPaintEvent>
-#include <QtGui/QRegion>
 #include <QtGui/QUndoStack>
 #include <QtWidgets/QRubberBand>
 
@@ -50,21 +48,6 @@ void putOnClipboard(const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
 }
-
-// What of a widget has been drawn.
-class DrawnRegion : public QObject
-{
-public:
-    explicit DrawnRegion(QWidget *widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            region += static_cast<QPaintEvent *>(event)->region();
-        return false;
-    }
-
-    QRegion region;
-};
 
 } // namespace
 
@@ -444,27 +427,6 @@ private Q_SLOTS:
         QCOMPARE(shown.grid->undoStack()->count(), 1);
         shown.grid->undoStack()->undo();
         QCOMPARE(shown.text(1000, 1), QString());
-    }
-
-    void changedCellsAloneAreDrawnAnew()
-    {
-        const CellGrid shown;
-        putOnClipboard(u"a\t1\nb\t2\nc\t3\n"_s);
-        shown.choose(1, 1, 3, 2); // what is pasted is selected already
-        QTest::qWait(50);         // all is drawn by then
-        DrawnRegion drawn(shown->viewport());
-        QVERIFY(shown.grid->pasteCells());
-        const auto placeOf = [&](int row, int column) {
-            return shown->visualRect(shown->model()->index(row - 1, column));
-        };
-        QTRY_VERIFY(drawn.region.contains(placeOf(1, 1)));
-        for (int row = 1; row <= 3; ++row)
-            QVERIFY(drawn.region.contains(placeOf(row, 1)) &&
-                    drawn.region.contains(placeOf(row, 2)));
-        QVERIFY(!drawn.region.intersects(placeOf(2, 0)));
-        QVERIFY(!drawn.region.intersects(placeOf(2, 4)));
-        QVERIFY(!drawn.region.intersects(placeOf(5, 1)));
-        QVERIFY(shown->viewport()->updatesEnabled());
     }
 };
 
