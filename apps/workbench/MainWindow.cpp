@@ -309,7 +309,7 @@ void MainWindow::showSample()
 void MainWindow::showPage()
 {
     const bool isView = m_pages->currentWidget() == m_view;
-    m_programInfo->setVisible(isView);
+    showProgramInfo();
     m_position->setVisible(isView && !m_view->currentTable());
 }
 
@@ -496,7 +496,9 @@ void MainWindow::showPosition()
 void MainWindow::showProgramInfo()
 {
     const Project *project = m_document->project();
-    if (project)
+    if (m_pages->currentWidget() != m_view)
+        m_programInfo->clear(); // not hidden: the bar does that for messages
+    else if (project)
         m_programInfo->setText(tr("%1, lines: %2")
                                    .arg(QFileInfo(project->programFile()).fileName(),
                                         QString::number(m_code->RTextBox()->lineCount())));
