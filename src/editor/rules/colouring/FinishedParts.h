@@ -3,6 +3,7 @@
 #include "base/ColouredText.h"
 #include "base/HouseExport.h"
 #include "editor/rules/colouring/ColourEngine.h"
+#include <ORVTListview/Types.h>
 
 #include <QtCore/QList>
 #include <QtCore/QStringView>
@@ -19,7 +20,7 @@ namespace ORVTListview {
 class ORVT_HOUSE_EXPORT FinishedParts
 {
 public:
-    // The text, the engine's words and the settings stay as they are while it lives. Nothing
+    // The text and the engine's words stay as they are while it lives. Nothing
     // is done before the first part is asked for.
     FinishedParts(const ColourEngine &engine, QStringView text, const RichTextSettings &settings);
     ~FinishedParts();
@@ -33,15 +34,15 @@ private:
     void finishFrom(std::size_t first);
     void finish(std::size_t part);
 
-    const ColourEngine &m_engine;
-    const RichTextSettings &m_settings;
+    const ColourEngine m_engine;
+    const RichTextSettings m_settings;
     QList<QStringView> m_texts;
     std::vector<ColouredText> m_finished;
     std::vector<std::promise<void>> m_promises;
     std::vector<std::atomic_flag> m_isTaken; // by a thread that finishes it
-    std::vector<std::future<void>> m_others; // each waits for its end
     std::atomic<bool> m_isOver{false};
     std::size_t m_next = 0;
+    std::vector<std::future<void>> m_others; // each waits for its end, so they go first
 };
 
 } // namespace ORVTListview
