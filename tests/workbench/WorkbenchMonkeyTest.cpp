@@ -257,9 +257,12 @@ private:
             return u"something is left open"_s;
         if (!window().isWindowModified() && !isSaved())
             return u"a change is not marked"_s;
-        const LwType type = m_workbench.shown().ListviewType();
+        if (m_workbench.code().ListviewType() != dsCode)
+            return u"the program has become a table"_s;
+        if ((m_workbench.shown().ListviewType() == dsCode) == !!m_workbench.views().currentTable())
+            return u"commands are for another view than the current one"_s;
         if (m_workbench.views().isVisible() && !m_workbench.shown().isVisible())
-            return u"the current view, of type %1, is not seen"_s.arg(type);
+            return u"the current view is not seen"_s;
         if (window().menuBar()->actions().size() < 5)
             return u"a menu is missing"_s;
         return {};

@@ -275,7 +275,7 @@ class Session:
         bench = self._workbench
         bench.keys("ctrl+shift+Tab", "Down", "Down", "Down")  # Inputs
         self._picture("12-inputs")
-        bench.keys("Tab", "Down", "Up", "F2")
+        bench.keys("Return", "Down", "Up", "F2")
         bench.type("supplyair")
         self._picture("13-name")
         bench.keys("Return")
@@ -284,10 +284,10 @@ class Session:
         bench.wait_for_window(CHANGED_TITLE)
         bench.keys("F5")
         self._picture("14-reading")
-        bench.keys("shift+Tab", "Home", "Down", "Down")  # Code
+        bench.keys("ctrl+1", "Home", "Down", "Down")  # Code
         bench.save(HEATING + FANS)
         self._picture("15-program-again")
-        bench.keys("Tab")
+        bench.keys("Return")
 
     def _menus(self):
         bench = self._workbench
