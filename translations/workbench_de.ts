@@ -1739,8 +1739,8 @@ Aus der Liste nehmen?</translation>
             <translation>Projekt ö&amp;ffnen…</translation>
         </message>
         <message>
-            <source>A project is a file in JSON with its program beside it. To begin one of your own, take a copy of the sample by Save Elsewhere.</source>
-            <translation>Ein Projekt ist eine JSON-Datei mit ihrem Programm daneben. Ein eigenes beginnen Sie mit einer Kopie des Beispiels: „Woanders speichern“.</translation>
+            <source>A project is a file in JSON with its program beside it. File, New Project begins one of your own.</source>
+            <translation>Ein Projekt ist eine JSON-Datei mit ihrem Programm daneben. Ein eigenes beginnt „Datei, Neues Projekt“.</translation>
         </message>
         <message>
             <source>&amp;Keys</source>

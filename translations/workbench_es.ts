@@ -1739,8 +1739,8 @@ Take it off the list?</source>
             <translation>&amp;Abrir un proyecto…</translation>
         </message>
         <message>
-            <source>A project is a file in JSON with its program beside it. To begin one of your own, take a copy of the sample by Save Elsewhere.</source>
-            <translation>Un proyecto es un archivo JSON con su programa al lado. Para empezar uno propio, haga una copia del ejemplo con «Guardar en otro lugar».</translation>
+            <source>A project is a file in JSON with its program beside it. File, New Project begins one of your own.</source>
+            <translation>Un proyecto es un archivo JSON con su programa al lado. «Archivo, Proyecto nuevo» empieza uno propio.</translation>
         </message>
         <message>
             <source>&amp;Keys</source>

@@ -1739,8 +1739,8 @@ Le retirer de la liste ?</translation>
             <translation>&amp;Ouvrir un projet…</translation>
         </message>
         <message>
-            <source>A project is a file in JSON with its program beside it. To begin one of your own, take a copy of the sample by Save Elsewhere.</source>
-            <translation>Un projet est un fichier JSON avec son programme à côté. Pour en commencer un, faites une copie de l’exemple par « Enregistrer ailleurs ».</translation>
+            <source>A project is a file in JSON with its program beside it. File, New Project begins one of your own.</source>
+            <translation>Un projet est un fichier JSON avec son programme à côté. « Fichier, Nouveau projet » en commence un.</translation>
         </message>
         <message>
             <source>&amp;Keys</source>

@@ -5,6 +5,7 @@
 
 #include <QtCore/QProcess>
 #include <QtCore/QStandardPaths>
+#include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusVariant>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
@@ -32,6 +33,16 @@ class DesktopSchemeTest : public WidgetTest
     Q_OBJECT
 
 private:
+    static void tell(QDBusConnection &desktop, const QString &key, uint value)
+    {
+        QDBusMessage signal = QDBusMessage::createSignal(
+            u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Settings"_s,
+            u"SettingChanged"_s);
+        signal << u"org.freedesktop.appearance"_s << key
+               << QVariant::fromValue(QDBusVariant(value));
+        QVERIFY(desktop.send(signal));
+    }
+
     static int baseLightness() { return QApplication::palette().color(QPalette::Base).lightness(); }
 
 private Q_SLOTS:
@@ -59,6 +70,10 @@ private Q_SLOTS:
             QSignalSpy changed(&scheme, &DesktopScheme::changed);
             QTRY_VERIFY(scheme.isDark());
             QCOMPARE(changed.size(), 1);
+            tell(desktop, u"contrast"_s, 0);
+            tell(desktop, u"color-scheme"_s, 2);
+            QTRY_VERIFY(!scheme.isDark());
+            QCOMPARE(changed.size(), 2);
         }
         QDBusConnection::disconnectFromBus(u"user"_s);
         QDBusConnection::disconnectFromBus(u"desktop"_s);

@@ -69,8 +69,8 @@ void FirstSteps::retranslate()
     m_sample.text->setText(tr("An air handling unit with its program and all twelve tables. "
                               "Change what you like: nothing is saved unless you say so."));
     m_project.button->setText(tr("Open a Project…"));
-    m_project.text->setText(tr("A project is a file in JSON with its program beside it. To begin "
-                               "one of your own, take a copy of the sample by Save Elsewhere."));
+    m_project.text->setText(tr("A project is a file in JSON with its program beside it. File, New "
+                               "Project begins one of your own."));
     m_keys.button->setText(tr("Keys"));
     m_keys.text->setText(tr("Everything can be done by keyboard. F1 lists all keys, F6 checks "
                             "the program, F5 reads the values, Ctrl+Space lists known words."));

@@ -26,9 +26,6 @@ DesktopScheme::DesktopScheme(const QDBusConnection &bus, QObject *parent)
 {
     if (!m_bus.isConnected())
         return;
-    // From anybody: to know who has the name, the toolkit would wait.
-    m_bus.connect(QString(), path, interface, u"SettingChanged"_s, this,
-                  SLOT(hear(QString, QString, QDBusVariant)));
     ask();
 }
 
@@ -47,8 +44,17 @@ void DesktopScheme::ask()
         const QDBusPendingReply<QDBusVariant> reply = *answer;
         if (!reply.isError())
             take(reply.value().variant());
+        listen();
         answer->deleteLater();
     });
+}
+
+// Not before the bus has answered, when the toolkit takes no connections yet; and from
+// anybody: to know who has the name, it would wait.
+void DesktopScheme::listen()
+{
+    m_bus.connect(QString(), path, interface, u"SettingChanged"_s, this,
+                  SLOT(hear(QString, QString, QDBusVariant)));
 }
 
 void DesktopScheme::hear(const QString &group, const QString &key, const QDBusVariant &value)

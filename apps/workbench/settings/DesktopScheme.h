@@ -28,6 +28,7 @@ private Q_SLOTS:
 
 private:
     void ask();
+    void listen();
     void take(const QVariant &value);
 
     QDBusConnection m_bus;
