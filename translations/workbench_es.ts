@@ -1740,7 +1740,7 @@ Take it off the list?</source>
         </message>
         <message>
             <source>A project is a file in JSON with its program beside it. File, New Project begins one of your own.</source>
-            <translation>Un proyecto es un archivo JSON con su programa al lado. «Archivo, Proyecto nuevo» empieza uno propio.</translation>
+            <translation>Un proyecto es un archivo JSON con su programa al lado. «Archivo, Nuevo proyecto» empieza uno propio.</translation>
         </message>
         <message>
             <source>&amp;Keys</source>
