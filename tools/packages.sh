@@ -6,11 +6,14 @@ build_packages=(
     qt6-translations-l10n
     libgl-dev zlib1g-dev fonts-dejavu-core)
 
+# What works a window by real keys and mouse.
+display_packages=(xvfb xauth xclip xdotool openbox x11-utils)
+
 test_packages=(
     libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev dpkg-dev file
-    abigail-tools libreoffice-writer-nogui
+    abigail-tools dbus-daemon libreoffice-writer-nogui
     clang-format clang-tidy doxygen lld locales valgrind
-    xvfb xauth xclip xdotool openbox x11-utils)
+    "${display_packages[@]}")
 
 # What fuzzes the core.
 fuzz_packages=(clang libclang-rt-14-dev lld)
