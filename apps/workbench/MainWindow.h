@@ -63,6 +63,10 @@ public:
     // be opened.
     void openInPlace(const QString &fileName);
 
+    // For a picture: nothing is kept of what could be typed, and no other workbench that has
+    // the project open is spoken of. To be said before a project is opened.
+    void keepNothing();
+
     // Shows what can be done without a project. What is shown goes without a question.
     void closeProject();
 

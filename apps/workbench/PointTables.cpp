@@ -106,9 +106,25 @@ void PointTables::showRow(qsizetype row)
 {
     if (row < 0 || row >= m_list.ListItems()->Count())
         return;
-    ListItem *item = m_list.ListItems()->Item(static_cast<qint32>(row) + 1);
-    m_list.setSelectedItem(item);
-    item->EnsureVisible();
+    choose(*m_list.ListItems()->Item(static_cast<qint32>(row) + 1));
+}
+
+// Whoever is led to a row sees it, whatever rows were filtered out.
+void PointTables::choose(ListItem &item)
+{
+    m_list.setSelectedItem(&item);
+    if (!item.Selected()) {
+        showAll();
+        m_list.setSelectedItem(&item);
+    }
+    item.EnsureVisible();
+}
+
+void PointTables::showAll()
+{
+    ListGrid &grid = *m_list.listView()->grid();
+    for (qint16 column = ListGrid::anyColumn; column < m_list.ColumnHerders()->Count(); ++column)
+        grid.setFilterText(column, {});
 }
 
 void PointTables::fitColumns()
@@ -119,11 +135,8 @@ void PointTables::fitColumns()
 
 void PointTables::goTo(const QString &name)
 {
-    ListItem *item = m_list.FindItem(name, 1);
-    if (!item)
-        return;
-    m_list.setSelectedItem(item);
-    item->EnsureVisible();
+    if (ListItem *item = m_list.FindItem(name, 1))
+        choose(*item);
 }
 
 // Reading.

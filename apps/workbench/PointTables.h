@@ -46,7 +46,8 @@ public:
     // Selects the point's row in the table that is shown.
     void goTo(const QString &name);
 
-    // Brings a row of that table into sight, from 0; nothing for one that is not there.
+    // Brings a row of that table into sight, from 0; nothing for one that is not there. Filters
+    // that hide it, or the row of goTo(), are emptied.
     void showRow(qsizetype row);
 
     // What the view shows, and whether the user works in it.
@@ -70,6 +71,8 @@ Q_SIGNALS:
     void refused(const QString &reason);
 
 private:
+    void choose(ListItem &item);
+    void showAll();
     void fillRow(ListItem &item, qsizetype row);
     void clearRow(ListItem &item);
     void fillValues();

@@ -3,6 +3,7 @@
 #include "CheckResults.h"
 #include "CheckTexts.h"
 #include "LiveAnalysis.h"
+#include "PointTables.h"
 #include "ProjectView.h"
 #include "base/TextRules.h"
 #include "project/PointReferences.h"
@@ -11,7 +12,6 @@
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ListItem.h>
-#include <ORVTListview/ListItems.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QKeySequence>
@@ -142,14 +142,10 @@ ResultPlace ProgramNavigation::current() const
 void ProgramNavigation::show(const ResultPlace &place)
 {
     m_view.enterType(place.line > 0 ? dsCode : place.type);
-    ORVListView &list = m_view.current();
-    if (place.line > 0) {
+    if (place.line > 0)
         showLine(place);
-    } else if (place.row < list.ListItems()->Count()) {
-        ListItem *item = list.ListItems()->Item(static_cast<qint32>(place.row) + 1);
-        list.setSelectedItem(item);
-        item->EnsureVisible();
-    }
+    else if (PointTables *table = m_view.currentTable())
+        table->showRow(place.row);
     Q_EMIT moved();
 }
 

@@ -4,6 +4,7 @@
 #include "ProjectView.h"
 
 #include "project/TextFile.h"
+#include "workbench/life/FirstPicture.h"
 #include "workbench/life/RecentProjects.h"
 #include "workbench/settings/DesktopScheme.h"
 #include "workbench/settings/KeptWindow.h"
@@ -91,31 +92,58 @@ void followDesktop()
 bool isFirstStart(const Options &options, QSettings &store)
 {
     constexpr auto key = "firstSteps"_L1;
-    const bool isFirst = options.screenshot.isEmpty() && store.value(key).toString() != "seen"_L1;
+    const bool isFirst = store.value(key).toString() != "seen"_L1;
     store.setValue(key, u"seen"_s);
     return isFirst && options.project.isEmpty();
 }
 
-// Nobody is there to answer while a picture is made.
-bool open(MainWindow &window, const Options &options)
+void open(MainWindow &window, const Options &options)
 {
-    const QString sample = QStringLiteral(ORVT_SAMPLE_PROJECT);
-    if (options.screenshot.isEmpty()) {
-        if (options.project.isEmpty())
-            window.openAtStart(sample);
-        else
-            window.openForUser(options.project);
-        window.showType(options.shown);
-        return true;
-    }
+    if (options.project.isEmpty())
+        window.openAtStart(QStringLiteral(ORVT_SAMPLE_PROJECT));
+    else
+        window.openForUser(options.project);
+    window.showType(options.shown);
+}
+
+// Nobody is there to answer while a picture is made.
+bool openForPicture(MainWindow &window, const Options &options)
+{
     try {
-        window.openProject(options.project.isEmpty() ? sample : options.project);
+        window.openProject(options.project.isEmpty() ? QStringLiteral(ORVT_SAMPLE_PROJECT)
+                                                     : options.project);
         window.showType(options.shown);
         return true;
     } catch (const Error &error) {
         QTextStream(stderr) << error.Description() << Qt::endl;
         return false;
     }
+}
+
+int runForPicture(MainWindow &window, const Options &options)
+{
+    QApplication::setCursorFlashTime(0);
+    window.keepNothing();
+    window.show();
+    if (!openForPicture(window, options))
+        return 1;
+    QTimer::singleShot(
+        0, &window, [&] { QCoreApplication::exit(writeScreenshot(window, options.screenshot)); });
+    return QApplication::exec();
+}
+
+// The window is there before the project is.
+int runForUser(MainWindow &window, const Options &options, QSettings &store, const Settings &stored)
+{
+    keep(window, store, stored);
+    const auto *picture = new FirstPicture(window);
+    QObject::connect(picture, &FirstPicture::seen, &window, [&] {
+        open(window, options);
+        if (isFirstStart(options, store))
+            window.showFirstSteps();
+    });
+    window.show();
+    return QApplication::exec();
 }
 
 } // namespace
@@ -145,20 +173,7 @@ int main(int argc, char **argv)
 
     MainWindow window(languages);
     window.setSettings(settings);
-    if (isPicture)
-        QApplication::setCursorFlashTime(0);
-    else
-        keep(window, store, stored);
     window.setSample(QStringLiteral(ORVT_SAMPLE_PROJECT));
-    window.show();
-    if (!open(window, *options))
-        return 1;
-    if (isFirstStart(*options, store))
-        window.showFirstSteps();
-    if (isPicture) {
-        QTimer::singleShot(0, &window, [&] {
-            QCoreApplication::exit(writeScreenshot(window, options->screenshot));
-        });
-    }
-    return QApplication::exec();
+    return isPicture ? runForPicture(window, *options)
+                     : runForUser(window, *options, store, stored);
 }

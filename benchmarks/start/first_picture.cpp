@@ -1,12 +1,14 @@
 // Ends any program of the toolkit as soon as it has painted its first window: the toolkit
-// loads this into a process that has QT_QPA_GENERIC_PLUGINS=firstpicture.
+// loads this into a process that has QT_QPA_GENERIC_PLUGINS=firstpicture, or, for the first
+// one with a text in it, firstpicture:text.
 
-#include <QtCore/QTimer>
 #include <QtGui/QGenericPlugin>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QPlainTextEdit>
 
 #include <cstdio>
+#include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -15,18 +17,31 @@ class FirstPicture final : public QObject
     Q_OBJECT
 
 public:
-    FirstPicture() { QCoreApplication::instance()->installEventFilter(this); }
+    explicit FirstPicture(bool wantsText)
+        : m_wantsText(wantsText)
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint && qobject_cast<QPlainTextEdit *>(watched->parent()) &&
-            !std::exchange(m_isPainted, true))
-            QTimer::singleShot(0, this, &FirstPicture::end); // when it is on the screen
+        if (event->type() == QEvent::Paint && isWanted(watched->parent()) &&
+            !std::exchange(m_isPainted,
+                           true)) // it ends when that is on the screen, before all else
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
         return false;
     }
 
+    void customEvent(QEvent *) override { end(); }
+
 private:
+    bool isWanted(QObject *painted) const
+    {
+        const auto *edit = qobject_cast<QPlainTextEdit *>(painted);
+        return edit && !(m_wantsText && edit->document()->isEmpty());
+    }
+
     // Nothing is taken down: that is no part of starting.
     void end()
     {
@@ -37,6 +52,7 @@ private:
         std::_Exit(0);
     }
 
+    const bool m_wantsText;
     bool m_isPainted = false;
 };
 
@@ -46,7 +62,10 @@ class FirstPicturePlugin final : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "first_picture.json")
 
 public:
-    QObject *create(const QString &, const QString &) override { return new FirstPicture; }
+    QObject *create(const QString &, const QString &specification) override
+    {
+        return new FirstPicture(specification == QLatin1String("text"));
+    }
 };
 
 } // namespace

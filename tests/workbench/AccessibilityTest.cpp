@@ -5,21 +5,31 @@
 #include "project/Project.h"
 #include "project/RecoveryFile.h"
 #include "support/TestProgram.h"
+#include "workbench/help/FirstSteps.h"
 #include "workbench/help/KeyList.h"
+#include "workbench/importing/ImportDialog.h"
+#include "workbench/life/NewProjectDialog.h"
+#include "workbench/life/StartPage.h"
+#include "workbench/reading/ReadingDialog.h"
 #include "workbench/renaming/RenameDialog.h"
 #include "workbench/saving/RecoveryDialog.h"
 #include "workbench/settings/SettingsDialog.h"
+#include "workbench/trend/TrendDock.h"
 #include "workbench/views/ViewDock.h"
 #include "workbench/views/Workplace.h"
 
 #include <ORVTListview/CodeView.h>
+#include <ORVTListview/ListItem.h>
+#include <ORVTListview/ListItems.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QSet>
 #include <QtWidgets/QInputDialog>
+#include <QtWidgets/QListWidget>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolButton>
+#include <QtWidgets/QTreeWidget>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -150,12 +160,40 @@ private Q_SLOTS:
         walk(workbench.window);
     }
 
+    void pagesWithoutAProject()
+    {
+        WorkbenchWindow workbench;
+        workbench.window.openForUser(workbench.folder.filePath(u"one.json"_s)); // a recent one
+        workbench.choose(u"First Steps"_s);
+        QVERIFY(workbench.window.findChild<FirstSteps *>()->isVisible());
+        walk(workbench.window);
+        workbench.window.closeProject();
+        const auto *start = workbench.window.findChild<StartPage *>();
+        QVERIFY(start->isVisible());
+        QVERIFY(start->findChild<QListWidget *>()->isVisible());
+        walk(workbench.window);
+    }
+
+    void theTrend()
+    {
+        WorkbenchWindow workbench;
+        workbench.window.showType(dsInput);
+        workbench.shown().setSelectedItem(workbench.shown().ListItems()->Item(1));
+        workbench.choose(u"Add To Trend"_s);
+        const auto *trend = workbench.window.findChild<TrendDock *>();
+        QVERIFY(trend->isVisible());
+        QCOMPARE(trend->findChild<QTreeWidget *>()->topLevelItemCount(), 1);
+        walk(workbench.window);
+    }
+
     void dialogsOfCommands()
     {
         WorkbenchWindow workbench("Fan1 = ON");
         walkCommand<SettingsDialog>(workbench, u"Settings…"_s);
         walkCommand<KeyList>(workbench, u"Keys"_s);
         walkCommand<QMessageBox>(workbench, u"About"_s);
+        walkCommand<NewProjectDialog>(workbench, u"New Project…"_s);
+        walkCommand<ReadingDialog>(workbench, u"Reading…"_s);
         workbench.views().enterType(dsInput);
         walkCommand<QInputDialog>(workbench, u"Add Point…"_s);
     }
@@ -172,12 +210,16 @@ private Q_SLOTS:
         RecoveryDialog recovering(
             project, {project.fileName(), QDateTime::currentDateTime(), "{}", u"x"_s}, nullptr);
         walkShown(recovering);
+        ImportDialog importing(project, dsInput, "Name,Value\nTemp1,3\nRoom,4", u"x.csv"_s,
+                               nullptr);
+        walkShown(importing);
     }
 
     // A dialog that is added comes into the walk.
     void everyDialogIsWalked()
     {
-        const QSet<QString> walked{u"KeyList"_s, u"RecoveryDialog"_s, u"RenameDialog"_s,
+        const QSet<QString> walked{u"ImportDialog"_s,  u"KeyList"_s,        u"NewProjectDialog"_s,
+                                   u"ReadingDialog"_s, u"RecoveryDialog"_s, u"RenameDialog"_s,
                                    u"SettingsDialog"_s};
         QSet<QString> dialogs;
         static const QRegularExpression dialog(u"class (\\w+) (?:final )?: public QDialog"_s);

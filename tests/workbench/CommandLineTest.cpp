@@ -1,5 +1,8 @@
+#include "project/RecoverySlot.h"
+#include "project/TextFile.h"
 #include "support/TestProgram.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QProcessEnvironment>
@@ -73,6 +76,24 @@ private Q_SLOTS:
         QCOMPARE(picture({u"--language"_s, u"en"_s, u"--show"_s, u"Code"_s}), english);
         QVERIFY(german != english);
         QVERIFY(inputs != english);
+    }
+
+    // While another workbench has the project, too, and with what a former one left.
+    void aPictureIsOfTheProjectAlone()
+    {
+        QVERIFY(QDir(m_folder.path()).mkdir(u"project"_s));
+        const QString project = m_folder.filePath(u"project/p.json"_s);
+        ORVTListview::writeFile(m_folder.filePath(u"project/p.prog"_s), "Fan1 = ON");
+        ORVTListview::writeFile(project,
+                                "{\"format\": 1, \"name\": \"P\", \"program\": \"p.prog\"}");
+        const QImage alone = picture({project});
+        QCOMPARE(picture({project}), alone);
+        ORVTListview::writeFile(project + u".recovery.txt"_s, "left");
+        const ORVTListview::RecoverySlots held = ORVTListview::RecoverySlot::slotsOf(project);
+        QCOMPARE(held.left.size(), 1U);
+        QVERIFY(held.own);
+        QVERIFY(ORVTListview::RecoverySlot::slotsOf(project).isOpenElsewhere);
+        QCOMPARE(picture({project}), alone);
     }
 
     void refusesWhatItDoesNotHave()

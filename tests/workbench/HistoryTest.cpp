@@ -169,6 +169,30 @@ private Q_SLOTS:
         QVERIFY(!worked.window.isWindowModified());
     }
 
+    void theRowIsShownWhateverTheOrderAndTheFilter()
+    {
+        Worked worked;
+        const QString project = worked.folder.filePath(u"one.json"_s);
+        writeFile(project, readFile(project).replace("{\"name\": \"Temp1\"}",
+                                                     "{\"name\": \"B\"}, {\"name\": \"C\"},"
+                                                     "{\"name\": \"A\"}"));
+        worked.window.openProject(project);
+        worked.show(dsInput);
+        QVERIFY(worked.grid().enterText(worked.shown().ListItems()->Item(2), 2, u"Auto"_s));
+        worked.grid().setSortKeys({{1, Qt::DescendingOrder}});
+        worked.show(dsOutput);
+        worked.choose(u"Undo"_s);
+        QCOMPARE(worked.shown().CurrentType(), dsInput);
+        QCOMPARE(worked.shown().SelectedItem()->SubItem(1), u"C"_s);
+        QCOMPARE(worked.list().currentIndex().row(), 0);
+        worked.grid().setFilterText(1, u"B"_s);
+        QCOMPARE(worked.grid().rowsShown(), 1);
+        worked.choose(u"Redo"_s);
+        QCOMPARE(worked.cell(2, 2), u"Auto"_s);
+        QCOMPARE(worked.shown().SelectedItem()->SubItem(1), u"C"_s);
+        QCOMPARE(worked.list().currentIndex().row(), 0);
+    }
+
     void whatWasTypedStaysWhereNobodySeesIt()
     {
         Worked worked;

@@ -4,6 +4,7 @@
 
 #include "project/Project.h"
 #include "support/TestProgram.h"
+#include "workbench/life/FirstPicture.h"
 #include "workbench/life/NewProjectDialog.h"
 #include "workbench/life/RecentMenu.h"
 #include "workbench/life/RecentProjects.h"
@@ -11,7 +12,10 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QPointer>
 #include <QtCore/QSettings>
+#include <QtGui/QPaintEvent>
+#include <QtTest/QSignalSpy>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
@@ -214,6 +218,29 @@ private Q_SLOTS:
         QCOMPARE(second.fileAtStart(), u"/c/19.json"_s);
         second.setOpensLast(false);
         QCOMPARE(second.fileAtStart(), QString());
+    }
+
+    void whatIsOpenedComesBehindTheFirstPicture()
+    {
+        QWidget window;
+        const QPointer<FirstPicture> picture(new FirstPicture(window));
+        const QSignalSpy seen(picture, &FirstPicture::seen);
+        window.show();
+        QCOMPARE(seen.size(), 0);
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTRY_COMPARE(seen.size(), 1);
+        QTRY_VERIFY(!picture);
+    }
+
+    void nothingComesBehindAWindowThatIsGone()
+    {
+        QWidget window;
+        const QPointer<FirstPicture> picture(new FirstPicture(window));
+        const QSignalSpy seen(picture, &FirstPicture::seen);
+        QPaintEvent painted(window.rect());
+        QCoreApplication::sendEvent(&window, &painted);
+        QTRY_VERIFY(!picture);
+        QCOMPARE(seen.size(), 0);
     }
 
     void theLastProjectIsOpenedAtTheStart()

@@ -54,6 +54,8 @@ void RecoveryKeeper::end()
 void RecoveryKeeper::begin()
 {
     end();
+    if (m_keepsNothing)
+        return;
     RecoverySlots found = RecoverySlot::slotsOf(m_document.project()->fileName());
     m_own = std::move(found.own);
     m_left = std::move(found.left);
@@ -82,7 +84,7 @@ void RecoveryKeeper::leaveLeft()
 
 void RecoveryKeeper::note()
 {
-    if (!m_timer->isActive())
+    if (!m_keepsNothing && !m_timer->isActive())
         m_timer->start(); // not anew: somebody who never pauses is kept, too
 }
 

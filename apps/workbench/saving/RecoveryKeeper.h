@@ -31,6 +31,10 @@ public:
     // How long a change waits at most, two seconds at first.
     void setInterval(std::chrono::milliseconds interval);
 
+    // For a window that nobody works in: it keeps nothing, and finds nothing that was left
+    // nor anybody else. To be said before a project is opened.
+    void keepNothing() { m_keepsNothing = true; }
+
     // The document's project is another one, or at another place. What workbenches left of
     // it that ended without saving can be taken then.
     void begin();
@@ -99,6 +103,7 @@ private:
     std::vector<RecoverySlot> m_left;
     std::optional<RecoverySlot> m_own; // the other thread's while that writes
     std::optional<Work> m_written;     // last
+    bool m_keepsNothing = false;
     bool m_isOpenElsewhere = false;
     bool m_hasFailed = false;
     bool m_isWriting = false;
