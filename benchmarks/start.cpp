@@ -19,8 +19,7 @@ const QStringList bareWindow{QStringLiteral(ORVT_BARE_WINDOW)};
 
 void checkWork()
 {
-    checkEqual(u"the workbench was painted"_s,
-               QString::fromLatin1(outputOf(workbench)).trimmed(),
+    checkEqual(u"the workbench was painted"_s, QString::fromLatin1(outputOf(workbench)).trimmed(),
                u"ORVTListview::MainWindow"_s);
     checkEqual(u"the bare window was painted"_s,
                QString::fromLatin1(outputOf(bareWindow)).trimmed(), u"QMainWindow"_s);

@@ -131,9 +131,9 @@ void MainWindow::buildMenus()
     buildFileMenu();
     buildEditMenu();
     menuBar()->addMenu(new ProgramMenu(*m_checking, *m_navigation, *m_results, menuBar()));
-    menuBar()->addMenu(new PointsMenu(
-        *m_view, *m_document,
-        {*m_renaming, *m_importing, m_controller->reading(), *m_points}, menuBar()));
+    menuBar()->addMenu(
+        new PointsMenu(*m_view, *m_document,
+                       {*m_renaming, *m_importing, m_controller->reading(), *m_points}, menuBar()));
     m_controller->addMenu(*menuBar());
     enableWithProject(menuBar()->actions().sliced(1));
     buildViewMenu();

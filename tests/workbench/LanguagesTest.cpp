@@ -44,8 +44,8 @@ private:
         {u"es"_s,
          {u"Variable"_s, u"Variables"_s, u"&Variables"_s, u"No"_s, u"&Editor"_s, u"Error"_s}},
         {u"fr"_s,
-         {u"Variable"_s, u"Variables"_s, u"&Variables"_s, u"Points"_s, u"P&oints"_s,
-          u"Condition"_s, u"Point"_s}}};
+         {u"Variable"_s, u"Variables"_s, u"&Variables"_s, u"Points"_s, u"P&oints"_s, u"Condition"_s,
+          u"Point"_s}}};
 
 private Q_SLOTS:
     void everyTextIsTranslated_data() { addLanguages(); }
@@ -70,9 +70,9 @@ private Q_SLOTS:
     {
         WorkbenchWindow workbench("Fan1 = ON");
         workbench.type(u"x"_s);
-        QCOMPARE(titles(workbench), QStringList({u"File"_s, u"Edit"_s, u"Program"_s, u"Points"_s,
-                                                 u"Controller"_s, u"View"_s, u"Window"_s,
-                                                 u"Help"_s}));
+        QCOMPARE(titles(workbench),
+                 QStringList({u"File"_s, u"Edit"_s, u"Program"_s, u"Points"_s, u"Controller"_s,
+                              u"View"_s, u"Window"_s, u"Help"_s}));
         const QMenu *menu = workbench.window.findChild<LanguageMenu *>();
         QVERIFY(menu);
         const QList<QAction *> choices = menu->actions();

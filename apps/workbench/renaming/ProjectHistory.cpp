@@ -109,8 +109,7 @@ bool ProjectHistory::canGo(Way way) const
 {
     if (m_document.next(way, among()))
         return true;
-    return isOfEditor() &&
-           (way == Way::Back ? m_code.IsUndoAvailable() : m_code.IsRedoAvailable());
+    return isOfEditor() && (way == Way::Back ? m_code.IsUndoAvailable() : m_code.IsRedoAvailable());
 }
 
 void ProjectHistory::go(Way way)
