@@ -48,17 +48,9 @@ QList<MemberFacts> facts()
     };
 }
 
-QList<Member> allMembers()
-{
-    return comboMembers() + textMembers<Combo>() + comboEvents();
-}
-
-QList<MemberFacts> allFacts()
-{
-    return facts() + keyFacts() + dragFacts();
-}
-
-const HandedClass handed(QMetaType::fromType<ORVDataCombo *>(), &allMembers, &allFacts);
+const HandedClass handed(QMetaType::fromType<ORVDataCombo *>(),
+                         &together<comboMembers, textMembers<Combo>, comboEvents>,
+                         &together<facts, keyFacts, dragFacts>);
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "members/HandedClass.h"
 #include "members/MemberEntries.h"
+#include <ORVTListview/HoverAnswer.h>
 
 namespace ORVTListview {
 
@@ -84,12 +85,7 @@ QList<Member> events()
     };
 }
 
-QList<Member> allMembers()
-{
-    return shownMembers() + commandMembers() + typingMembers() + events();
-}
-
-QList<MemberFacts> allFacts()
+QList<MemberFacts> facts()
 {
     return {
         {.name = u"zoom"_s, .unit = u"percent"_s, .range = u"0, or 20 to 500"_s},
@@ -99,7 +95,25 @@ QList<MemberFacts> allFacts()
     };
 }
 
-const HandedClass handed(QMetaType::fromType<CodeView *>(), &allMembers, &allFacts);
+// What hoverAsked hands out to be filled.
+QList<Member> answerMembers()
+{
+    using Answer = HoverAnswer;
+    return {
+        readWrite<&Answer::text, &Answer::setText>(u"text"),
+        readWrite<&Answer::name, &Answer::setName>(u"name"),
+        readWrite<&Answer::kind, &Answer::setKind>(u"kind"),
+        readWrite<&Answer::value, &Answer::setValue>(u"value"),
+        readWrite<&Answer::unit, &Answer::setUnit>(u"unit"),
+        readWrite<&Answer::description, &Answer::setDescription>(u"description"),
+        readOnly<&Answer::isEmpty>(u"isEmpty"),
+    };
+}
+
+const HandedClass handedView(QMetaType::fromType<CodeView *>(),
+                             &together<shownMembers, commandMembers, typingMembers, events>,
+                             &facts);
+const HandedClass handedAnswer(QMetaType::fromType<HoverAnswer *>(), &answerMembers);
 
 } // namespace
 

@@ -166,18 +166,10 @@ QList<MemberFacts> editorFacts()
     };
 }
 
-QList<Member> allMembers()
-{
-    return shellMembers() + textMembers<List>() + rowMembers() + editorMembers() +
-           commandMembers() + addedMembers() + listEvents<List>() + hostEvents();
-}
-
-QList<MemberFacts> allFacts()
-{
-    return tableFacts() + editorFacts() + inputFacts();
-}
-
-const HandedClass handed(QMetaType::fromType<ORVListView *>(), &allMembers, &allFacts);
+const HandedClass handed(QMetaType::fromType<ORVListView *>(),
+                         &together<shellMembers, textMembers<List>, rowMembers, editorMembers,
+                                   commandMembers, addedMembers, listEvents<List>, hostEvents>,
+                         &together<tableFacts, editorFacts, inputFacts>);
 
 } // namespace
 

@@ -192,4 +192,12 @@ Member raises(qint32 number, const char16_t *name, const Names &...names)
     return member;
 }
 
+// All that several functions list, in their order: for a HandedClass whose table is written
+// in parts.
+template <auto... lists>
+auto together()
+{
+    return (lists() + ...);
+}
+
 } // namespace ORVTListview::MemberEntries

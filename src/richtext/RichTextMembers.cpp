@@ -52,17 +52,9 @@ QList<Member> hostEvents()
     };
 }
 
-QList<Member> allMembers()
-{
-    return shellMembers() + textMembers<Shell>() + inputEvents() + hostEvents();
-}
-
-QList<MemberFacts> allFacts()
-{
-    return inputFacts();
-}
-
-const HandedClass handed(QMetaType::fromType<ORVRichText *>(), &allMembers, &allFacts);
+const HandedClass handed(QMetaType::fromType<ORVRichText *>(),
+                         &together<shellMembers, textMembers<Shell>, inputEvents, hostEvents>,
+                         &inputFacts);
 
 } // namespace
 

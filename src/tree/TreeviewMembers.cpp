@@ -90,17 +90,9 @@ QList<MemberFacts> facts()
     };
 }
 
-QList<Member> allMembers()
-{
-    return treeMembers() + textMembers<Tree>() + pageMembers() + events();
-}
-
-QList<MemberFacts> allFacts()
-{
-    return facts() + inputFacts();
-}
-
-const HandedClass handed(QMetaType::fromType<ORVTreeview *>(), &allMembers, &allFacts);
+const HandedClass handed(QMetaType::fromType<ORVTreeview *>(),
+                         &together<treeMembers, textMembers<Tree>, pageMembers, events>,
+                         &together<facts, inputFacts>);
 
 } // namespace
 

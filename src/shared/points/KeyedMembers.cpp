@@ -54,30 +54,10 @@ QList<MemberFacts> keyedFacts()
     };
 }
 
-QList<Member> textsMembers()
-{
-    return keyedMembers<QString>();
-}
-
-QList<MemberFacts> textsFacts()
-{
-    return keyedFacts();
-}
-
-QList<Member> numbersMembers()
-{
-    return keyedMembers<qint32>();
-}
-
-QList<MemberFacts> numbersFacts()
-{
-    return keyedFacts();
-}
-
-const HandedClass handedTexts(QMetaType::fromType<KeyedCollection<QString>>(), &textsMembers,
-                              &textsFacts);
-const HandedClass handedNumbers(QMetaType::fromType<KeyedCollection<qint32>>(), &numbersMembers,
-                                &numbersFacts);
+const HandedClass handedTexts(QMetaType::fromType<KeyedCollection<QString>>(),
+                              &keyedMembers<QString>, &keyedFacts);
+const HandedClass handedNumbers(QMetaType::fromType<KeyedCollection<qint32>>(),
+                                &keyedMembers<qint32>, &keyedFacts);
 
 } // namespace
 

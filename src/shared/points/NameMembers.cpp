@@ -34,32 +34,23 @@ QList<Member> readingMembers()
     };
 }
 
-QList<Member> collectionMembers()
-{
-    return readingMembers<IndexedNameCollection>();
-}
-
-QList<MemberFacts> collectionFacts()
+QList<MemberFacts> readingFacts()
 {
     return {{.name = u"Item"_s, .range = u"1 to Count()"_s}};
 }
 
-QList<Member> listMembers()
+QList<Member> addingMembers()
 {
-    return QList{method<&IndexedNameList::Add>(u"Add", u"Name", u"NumberFormat", u"LowerBound",
-                                               u"UpperBound")} +
-           readingMembers<IndexedNameList>();
-}
-
-QList<MemberFacts> listFacts()
-{
-    return {{.name = u"Item"_s, .range = u"1 to Count()"_s}};
+    return {method<&IndexedNameList::Add>(u"Add", u"Name", u"NumberFormat", u"LowerBound",
+                                          u"UpperBound")};
 }
 
 const HandedClass handedName(QMetaType::fromType<IndexedName *>(), &nameMembers);
 const HandedClass handedCollection(QMetaType::fromType<IndexedNameCollection *>(),
-                                   &collectionMembers, &collectionFacts);
-const HandedClass handedList(QMetaType::fromType<IndexedNameList *>(), &listMembers, &listFacts);
+                                   &readingMembers<IndexedNameCollection>, &readingFacts);
+const HandedClass handedList(QMetaType::fromType<IndexedNameList *>(),
+                             &together<addingMembers, readingMembers<IndexedNameList>>,
+                             &readingFacts);
 
 // A list goes wherever a collection is taken.
 [[maybe_unused]] const bool listsAreCollections =

@@ -76,17 +76,8 @@ QList<MemberFacts> facts()
     };
 }
 
-QList<Member> allMembers()
-{
-    return textMembers() + lookMembers() + events();
-}
-
-QList<MemberFacts> allFacts()
-{
-    return facts();
-}
-
-const HandedClass handed(QMetaType::fromType<RichTextBox *>(), &allMembers, &allFacts);
+const HandedClass handed(QMetaType::fromType<RichTextBox *>(),
+                         &together<textMembers, lookMembers, events>, &facts);
 
 } // namespace
 

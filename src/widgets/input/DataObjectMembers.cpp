@@ -32,12 +32,7 @@ QList<Member> dataMembers()
     };
 }
 
-QList<Member> allMembers()
-{
-    return dataMembers();
-}
-
-QList<MemberFacts> allFacts()
+QList<MemberFacts> facts()
 {
     return {
         {.name = u"GetData"_s, .failures = {InvalidCall}},
@@ -46,7 +41,7 @@ QList<MemberFacts> allFacts()
     };
 }
 
-const HandedClass handed(QMetaType::fromType<DataObject *>(), &allMembers, &allFacts);
+const HandedClass handed(QMetaType::fromType<DataObject *>(), &dataMembers, &facts);
 
 } // namespace
 

@@ -135,17 +135,8 @@ QList<MemberFacts> facts()
     };
 }
 
-QList<Member> allMembers()
-{
-    return cellMembers() + rowMembers() + columnMembers() + events();
-}
-
-QList<MemberFacts> allFacts()
-{
-    return facts();
-}
-
-const HandedClass handed(QMetaType::fromType<ListGrid *>(), &allMembers, &allFacts);
+const HandedClass handed(QMetaType::fromType<ListGrid *>(),
+                         &together<cellMembers, rowMembers, columnMembers, events>, &facts);
 
 } // namespace
 

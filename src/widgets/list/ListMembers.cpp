@@ -47,11 +47,6 @@ QList<MemberFacts> goneFacts(const QStringList &names)
     return facts;
 }
 
-QList<Member> itemMembers()
-{
-    return elementMembers<ListItem>() + rowMembers();
-}
-
 QList<MemberFacts> itemFacts()
 {
     static const QStringList plain{u"Tag"_s,     u"PictureKey"_s, u"foreground"_s,   u"Selected"_s,
@@ -110,7 +105,8 @@ QList<MemberFacts> columnsFacts()
                                .failures = {InvalidCall, SubscriptOutOfRange}}};
 }
 
-const HandedClass handedItem(QMetaType::fromType<ListItem *>(), &itemMembers, &itemFacts);
+const HandedClass handedItem(QMetaType::fromType<ListItem *>(),
+                             &together<elementMembers<ListItem>, rowMembers>, &itemFacts);
 const HandedClass handedItems(QMetaType::fromType<ListItems *>(), &itemsMembers, &itemsFacts);
 const HandedClass handedColumn(QMetaType::fromType<ColumnHeader *>(), &columnMembers, &columnFacts);
 const HandedClass handedColumns(QMetaType::fromType<ColumnHeaders *>(), &columnsMembers,

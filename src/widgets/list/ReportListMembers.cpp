@@ -74,17 +74,9 @@ QList<MemberFacts> facts()
     };
 }
 
-QList<Member> allMembers()
-{
-    return rowMembers() + mannerMembers() + listEvents<List>();
-}
-
-QList<MemberFacts> allFacts()
-{
-    return facts() + inputFacts();
-}
-
-const HandedClass handed(QMetaType::fromType<ReportList *>(), &allMembers, &allFacts);
+const HandedClass handed(QMetaType::fromType<ReportList *>(),
+                         &together<rowMembers, mannerMembers, listEvents<List>>,
+                         &together<facts, inputFacts>);
 
 } // namespace
 

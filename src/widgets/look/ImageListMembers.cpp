@@ -36,12 +36,7 @@ QList<Member> imageMembers()
     };
 }
 
-QList<Member> allMembers()
-{
-    return imageMembers();
-}
-
-QList<MemberFacts> allFacts()
+QList<MemberFacts> facts()
 {
     return {
         {.name = u"Add"_s, .range = u"Index: 1 and up"_s, .failures = {InvalidCall}},
@@ -50,7 +45,7 @@ QList<MemberFacts> allFacts()
     };
 }
 
-const HandedClass handed(QMetaType::fromType<ImageList *>(), &allMembers, &allFacts);
+const HandedClass handed(QMetaType::fromType<ImageList *>(), &imageMembers, &facts);
 
 } // namespace
 

@@ -62,16 +62,6 @@ QList<MemberFacts> lookFacts()
     };
 }
 
-QList<Member> nodeMembers()
-{
-    return elementMembers<Node>() + placeMembers() + lookMembers();
-}
-
-QList<MemberFacts> nodeFacts()
-{
-    return elementFacts() + placeFacts() + lookFacts();
-}
-
 // Relative is a node, the key of one, or nothing for the top level.
 Node *addNode(Nodes &nodes, const QVariant &relative, NodeRelationship relationship,
               const QString &key, const QString &text, const QString &image)
@@ -99,7 +89,9 @@ QList<MemberFacts> nodesFacts()
                {.name = u"Add"_s, .failures = {InvalidCall, TypeMismatch, ObjectNotSet}}};
 }
 
-const HandedClass handedNode(QMetaType::fromType<Node *>(), &nodeMembers, &nodeFacts);
+const HandedClass handedNode(QMetaType::fromType<Node *>(),
+                             &together<elementMembers<Node>, placeMembers, lookMembers>,
+                             &together<elementFacts, placeFacts, lookFacts>);
 const HandedClass handedNodes(QMetaType::fromType<Nodes *>(), &nodesMembers, &nodesFacts);
 
 } // namespace

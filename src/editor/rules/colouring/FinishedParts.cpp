@@ -1,11 +1,12 @@
 #include "editor/rules/colouring/FinishedParts.h"
 
-#include "base/TextSearch.h"
 #include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/TextParts.h"
 
 #include <QtCore/QThread>
 
 #include <algorithm>
+#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -17,17 +18,11 @@ constexpr qsizetype partLength = qsizetype{128} * 1024;
 
 QList<QStringView> shortParts(QStringView text)
 {
-    QList<QStringView> parts;
-    qsizetype start = 0;
-    while (text.size() - start > partLength) {
-        const qsizetype end = findCrLf(text, start + partLength);
-        if (end < 0)
-            break;
-        parts.append(text.sliced(start, end - start));
-        start = end + 2;
-    }
-    parts.append(text.sliced(start));
-    return parts;
+    return partsAt(text, [text](qsizetype start) -> std::optional<qsizetype> {
+        if (text.size() - start <= partLength)
+            return std::nullopt;
+        return start + partLength;
+    });
 }
 
 } // namespace

@@ -11,22 +11,32 @@
 
 namespace ORVTListview {
 
+QList<QStringView> partsAt(QStringView text,
+                           const std::function<std::optional<qsizetype>(qsizetype start)> &end)
+{
+    QList<QStringView> parts;
+    qsizetype start = 0;
+    while (const std::optional<qsizetype> least = end(start)) {
+        const qsizetype lineEnd = findCrLf(text, *least);
+        if (lineEnd < 0)
+            break;
+        parts.append(text.sliced(start, lineEnd - start));
+        start = lineEnd + 2;
+    }
+    parts.append(text.sliced(start));
+    return parts;
+}
+
 QList<QStringView> partsOfLines(QStringView text, int processors)
 {
     constexpr qsizetype most = 4;
     const qsizetype count =
         std::clamp<qsizetype>(std::min<qsizetype>(processors, text.size() / shortestPart), 1, most);
-    QList<QStringView> parts;
-    qsizetype start = 0;
-    for (qsizetype part = 1; part < count; ++part) {
-        const qsizetype end = findCrLf(text, std::max(start, text.size() / count * part));
-        if (end < 0)
-            break;
-        parts.append(text.sliced(start, end - start));
-        start = end + 2;
-    }
-    parts.append(text.sliced(start));
-    return parts;
+    return partsAt(text, [&, part = qsizetype{1}](qsizetype start) mutable {
+        const bool isLast = part >= count;
+        const qsizetype end = std::max(start, text.size() / count * part++);
+        return isLast ? std::nullopt : std::optional(end);
+    });
 }
 
 QList<QStringView> partsOfLines(QStringView text)

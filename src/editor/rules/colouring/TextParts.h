@@ -4,11 +4,18 @@
 #include <QtCore/QStringView>
 
 #include <functional>
+#include <optional>
 
 namespace ORVTListview {
 
-// A long text in parts of whole lines, as many as there are processors but few; the CR LF
-// between two parts is in neither. A text of less than two shortest parts is one.
+// A text in parts of whole lines; the CR LF between two parts is in neither. A part that
+// starts at `start` ends with the first line that reaches to end(start); without an answer
+// it is the last.
+QList<QStringView> partsAt(QStringView text,
+                           const std::function<std::optional<qsizetype>(qsizetype start)> &end);
+
+// A long text in such parts, as many as there are processors but few. A text of
+// less than two shortest parts is one.
 inline constexpr qsizetype shortestPart = qsizetype{256} * 1024;
 QList<QStringView> partsOfLines(QStringView text, int processors);
 QList<QStringView> partsOfLines(QStringView text);
