@@ -23,7 +23,8 @@ public:
     void redo() const { act(m_history->redo); }
 
 private:
-    static bool answers(const std::function<bool()> &ask)
+    // Copies: the host may end what it is in.
+    static bool answers(std::function<bool()> ask)
     {
         bool answer = false;
         EventGuard::run([&] {
@@ -33,7 +34,6 @@ private:
         return answer;
     }
 
-    // A copy: the host may end what it is in.
     static void act(std::function<void()> act)
     {
         EventGuard::run([&] {
