@@ -20,6 +20,7 @@
 #include <QtWidgets/QMenu>
 
 #include <algorithm>
+#include <exception>
 #include <limits>
 #include <utility>
 
@@ -48,6 +49,25 @@ void clearAll(QTextDocument &document)
     if (hadLines)
         Q_EMIT document.blockCountChanged(document.blockCount());
     Q_EMIT document.contentsChanged();
+}
+
+// Into an empty document, without the colours where they come late. The text as a whole.
+QString putParts(const RichTextBox::NextPart &next, bool isLate, QTextDocument &document,
+                 BoxFormats &formats, ColouredLines &lines)
+{
+    QString whole;
+    QTextCursor cursor(&document);
+    BoxSink sink(cursor, formats);
+    for (auto part = next(); part; part = next()) {
+        if (lines.count() > 0) {
+            sink.lineEnd();
+            whole += u"\r\n";
+        }
+        writeColoured(isLate ? ColouredText{part->text, {}} : *part, formats.base(), sink);
+        whole += part->text;
+        lines.append(*part);
+    }
+    return whole;
 }
 
 } // namespace
@@ -362,29 +382,22 @@ void RichTextBox::setColoured(const ColouredText &text)
 void RichTextBox::setColoured(const NextPart &next)
 {
     LateColours::Allowed *const allowed = d->late.takePermission();
+    std::exception_ptr failure;
     replaceAll([&] {
         clearAll(*document());
         ColouredLines lines;
-        QString whole;
-        {
-            QTextCursor cursor(document());
-            BoxSink sink(cursor, d->formats);
-            for (auto part = next(); part; part = next()) {
-                if (lines.count() > 0) {
-                    sink.lineEnd();
-                    whole += u"\r\n";
-                }
-                writeColoured(allowed ? ColouredText{part->text, {}} : *part, d->formats.base(),
-                              sink);
-                whole += part->text;
-                lines.append(*part);
-            }
+        try {
+            d->text.know(putParts(next, allowed, *document(), d->formats, lines), false);
+        } catch (...) { // half a text would pass for a whole one
+            failure = std::current_exception();
+            clearAll(*document());
         }
-        d->text.know(whole, false);
-        if (allowed)
+        if (allowed && !failure)
             d->late.begin(std::move(lines), LateColours::Lines::New, *allowed);
         select(0, 0);
     });
+    if (failure)
+        std::rethrow_exception(failure);
 }
 
 void RichTextBox::setSelColoured(const ColouredText &text)

@@ -1,6 +1,7 @@
 #include "base/ColouredText.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
+#include "widgets/box/LateColours.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QTextBlock>
@@ -9,6 +10,8 @@
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QScrollBar>
 
+#include <new>
+#include <optional>
 #include <random>
 
 using namespace ORVTListview;
@@ -29,6 +32,7 @@ private Q_SLOTS:
     void theWholeTextChangesWhereItDiffers();
     void whatWasThereBeforeDoesNotShow();
     void longTextKeepsItsPlaceAndItsColours();
+    void partsThatFailLeaveNoHalfText();
 };
 
 namespace {
@@ -147,6 +151,30 @@ void BoxColoursTest::longTextKeepsItsPlaceAndItsColours()
     fresh.setColoured(text);
     QCOMPARE(box.coloured(7, static_cast<qint32>(text.text.size())),
              fresh.coloured(0, fresh.TextLength()));
+}
+
+void BoxColoursTest::partsThatFailLeaveNoHalfText()
+{
+    for (const bool isLate : {false, true}) {
+        RichTextBox box;
+        box.setText(u"former"_s);
+        std::optional<LateColours::Allowed> late;
+        if (isLate)
+            late.emplace(LateColours::of(*box.document()), LateColours::Lines::New);
+        QSignalSpy changes(&box, &RichTextBox::Change);
+        int parts = 0;
+        const auto next = [&parts]() -> std::optional<ColouredText> {
+            if (++parts == 3)
+                throw std::bad_alloc();
+            return ColouredText{u"part"_s, {{4, 0xFF}}};
+        };
+        QVERIFY_THROWS_EXCEPTION(std::bad_alloc, box.setColoured(next));
+        QCOMPARE(box.Text(), QString());
+        QCOMPARE(box.TextLength(), 0);
+        QCOMPARE(changes.count(), 1);
+        box.setSelText(u"typed"_s);
+        QCOMPARE(box.Text(), u"typed"_s);
+    }
 }
 
 void BoxColoursTest::selColorReadsAndSets()

@@ -15,11 +15,11 @@ class ORVT_HOUSE_EXPORT ColourEngine
 public:
     ColourEngine(const CodeWordList &words, MessageService &messages);
 
-    // Lines are separated by CR LF; a CR or LF alone is a character like any other.
     // Whether several threads may colour lines at the same time from now on: with known
     // words there is nothing to tell the user.
     bool isForThreads() const;
 
+    // Lines are separated by CR LF; a CR or LF alone is a character like any other.
     void colourText(QStringView text, bool firstLineIsComment, ColourSink &sink) const;
 
     // The same without a batch of messages.

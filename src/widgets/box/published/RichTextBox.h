@@ -139,7 +139,7 @@ public:
 
     // The same for a text that comes in parts, each of whole lines, without the line end
     // behind its last one; none after the last part. Line ends are CR LF, and there is no
-    // NUL. All that the box had goes before the first is asked for.
+    // NUL. All that the box had goes before the first is asked for; a failure leaves it empty.
     using NextPart = std::function<std::optional<ColouredText>()>;
     void setColoured(const NextPart &next);
 
