@@ -121,6 +121,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     m_palette.setSingleShot(true);
     m_palette.setInterval(0ms);
     connect(&m_palette, &QTimer::timeout, this, &MainWindow::applyAppearance);
+    showTitle();
     resize(1100, 700);
 }
 
@@ -392,7 +393,7 @@ void MainWindow::openProject(const QString &fileName, Version version)
     takeProject(*project);
     m_document->setProject(std::move(project));
     m_points->refill();
-    setWindowTitle(m_document->project()->name() + u"[*]"_s); // the application's name is added
+    showTitle();
     showProgram();
     m_recovery->begin();
     if (m_recovery->isOpenElsewhere())
@@ -420,11 +421,19 @@ void MainWindow::closeProject()
     m_analysis->takeWords();
     m_analysis->setOtherUses({});
     setWindowModified(false);
-    setWindowTitle({});
+    showTitle();
     m_programInfo->clear();
     m_position->clear();
     m_position->hide();
     m_pages->setCurrentWidget(m_start);
+}
+
+// The application's name is added where it is not all.
+void MainWindow::showTitle()
+{
+    const Project *project = m_document->project();
+    setWindowTitle(project ? project->name() + u"[*]"_s
+                           : QGuiApplication::applicationDisplayName());
 }
 
 void MainWindow::keepNothing()
@@ -513,6 +522,7 @@ void MainWindow::showProgramInfo()
 void MainWindow::retranslate()
 {
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
+    showTitle();
     m_results->retranslate();
     m_analysis->retranslate();
     m_opening->retranslate();

@@ -114,6 +114,7 @@ private:
     void showProgram();
     void showSample();
     void showPage();
+    void showTitle();
     void chooseSettings();
     void decide(const Settings &settings);
     void applyAppearance();

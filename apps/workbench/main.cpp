@@ -8,6 +8,7 @@
 #include "workbench/life/RecentProjects.h"
 #include "workbench/settings/DesktopScheme.h"
 #include "workbench/settings/KeptWindow.h"
+#include "workbench/views/Workplace.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/Error.h>
@@ -28,8 +29,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int writeScreenshot(QWidget &window, const QString &file)
+int writeScreenshot(MainWindow &window, const QString &file)
 {
+    window.findChild<Workplace *>()->dress();
     QByteArray picture;
     QBuffer buffer(&picture);
     if (!window.grab().save(&buffer, QFileInfo(file).suffix().toLatin1().constData())) {

@@ -121,7 +121,7 @@ private Q_SLOTS:
         workbench.choose(u"Close Project"_s);
         QVERIFY(page(workbench).isVisible());
         QVERIFY(!QFile::exists(lock));
-        QCOMPARE(workbench.window.windowTitle(), QString());
+        QCOMPARE(workbench.window.windowTitle(), QGuiApplication::applicationDisplayName());
         QCOMPARE(workbench.statusTexts().remove(u'|'), QString());
         for (const QString &caption :
              {u"Save"_s, u"Save As…"_s, u"Export…"_s, u"Print…"_s, u"Close Project"_s})

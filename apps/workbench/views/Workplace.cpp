@@ -204,7 +204,13 @@ void Workplace::retranslate()
     dress();
 }
 
-// Titles and tabs as the views stand now, once the toolkit is done with its layout.
+// Not first in one dress and then in another.
+void Workplace::showEvent(QShowEvent *event)
+{
+    dress();
+    QMainWindow::showEvent(event);
+}
+
 void Workplace::dress()
 {
     for (ViewDock *dock : m_docks) {

@@ -49,6 +49,10 @@ public:
     // Through the tabs, one on or one back, round at the ends.
     void goToTab(int step);
 
+    // Titles and tabs as the views stand now. It comes by itself once the toolkit is done with
+    // its layout, which a picture does not wait for.
+    void dress();
+
     // After a change of language.
     void retranslate();
 
@@ -59,12 +63,14 @@ Q_SIGNALS:
     // The focus has gone into it.
     void entered(ORVTListview::ViewDock *dock);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     ViewDock *dockOf(const QWidget *widget) const;
     void setCurrent(ViewDock *dock);
     void noteClosed(ViewDock *dock);
     void chooseTab(QDockWidget *dock);
-    void dress();
 
     QList<ViewDock *> m_docks;
     QList<ViewDock *> m_used; // the current one first
