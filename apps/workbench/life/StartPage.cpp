@@ -61,6 +61,7 @@ void StartPage::retranslate()
     m_new->setText(tr("&New Project…"));
     m_open->setText(tr("&Open Project…"));
     m_heading->setText(tr("Projects that were opened &last:"));
+    m_files->setAccessibleName(m_heading->text().remove(u'&'));
 }
 
 void StartPage::showEvent(QShowEvent *event)
