@@ -150,7 +150,7 @@ void ProjectDocument::apply(const RowChanges &changes)
 
 Project::Saved ProjectDocument::save(Project::Theirs theirs, Project::Encoding encoding)
 {
-    const Project::Saved saved = m_project->save(program(), theirs, encoding);
+    Project::Saved saved = m_project->save(program(), theirs, encoding);
     if (saved.takesOver) {
         m_steps.clear();
         m_done = 0;
@@ -162,7 +162,7 @@ Project::Saved ProjectDocument::save(Project::Theirs theirs, Project::Encoding e
 
 Project::Saved ProjectDocument::saveAt(const QString &fileName, Project::Encoding encoding)
 {
-    const Project::Saved saved = m_project->saveAt(fileName, program(), encoding);
+    Project::Saved saved = m_project->saveAt(fileName, program(), encoding);
     Q_EMIT changed();
     return saved;
 }

@@ -123,7 +123,8 @@ void PointTables::choose(ListItem &item)
 void PointTables::showAll()
 {
     ListGrid &grid = *m_list.listView()->grid();
-    for (qint16 column = ListGrid::anyColumn; column < m_list.ColumnHerders()->Count(); ++column)
+    const auto columns = static_cast<qint16>(m_list.ColumnHerders()->Count());
+    for (qint16 column = ListGrid::anyColumn; column < columns; ++column)
         grid.setFilterText(column, {});
 }
 

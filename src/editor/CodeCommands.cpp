@@ -152,10 +152,12 @@ void CodeCommands::leave(bool forwards)
 
 void CodeCommands::fillMenu(QMenu &menu)
 {
-    using enum EditorUndo::Way;
+    using Way = EditorUndo::Way;
     EditorUndo &history = m_acts.undo;
-    addChange(menu, u"Undo"_s, history.canUserUndo(), [&history] { history.stepForUser(Back); });
-    addChange(menu, u"Redo"_s, history.canUserRedo(), [&history] { history.stepForUser(Forward); });
+    addChange(menu, u"Undo"_s, history.canUserUndo(),
+              [&history] { history.stepForUser(Way::Back); });
+    addChange(menu, u"Redo"_s, history.canUserRedo(),
+              [&history] { history.stepForUser(Way::Forward); });
     menu.addSeparator();
     PlainCommands::fillMenu(menu);
     localise(menu);

@@ -78,27 +78,31 @@ std::optional<QVariant> association(const QVariantMap &values, QMetaType type, C
     return made;
 }
 
+// Of the toolkit's own types even a text can be gone through; these convert by themselves.
 template <typename Iterable>
 bool isSeenAs(QMetaType type)
 {
-    return QMetaType::canView(type, QMetaType::fromType<Iterable>());
+    return type.id() >= QMetaType::User &&
+           QMetaType::canView(type, QMetaType::fromType<Iterable>());
 }
 
 } // namespace
 
-void announce(QMetaType type)
+void announce(QMetaType announced)
 {
-    if (!type.isValid())
+    if (!announced.isValid())
         return;
-    type.id(); // registers what containers can do
-    if (isRecord(type) && !QMetaType::hasRegisteredConverterFunction(type, mapType)) {
-        const auto make = [type](const void *from, void *to) { return toMap(type, from, to); };
-        QMetaType::registerConverterFunction(make, type, mapType);
+    announced.id(); // registers what containers can do
+    if (isRecord(announced) && !QMetaType::hasRegisteredConverterFunction(announced, mapType)) {
+        const auto make = [announced](const void *from, void *to) {
+            return toMap(announced, from, to);
+        };
+        QMetaType::registerConverterFunction(make, announced, mapType);
     }
-    QVariant made(type);
-    if (type.id() >= QMetaType::User && isSeenAs<QSequentialIterable>(type))
+    QVariant made(announced);
+    if (isSeenAs<QSequentialIterable>(announced))
         announce(made.view<QSequentialIterable>().valueMetaType());
-    else if (type.id() >= QMetaType::User && isSeenAs<QAssociativeIterable>(type))
+    else if (isSeenAs<QAssociativeIterable>(announced))
         announce(made.view<QAssociativeIterable>().metaContainer().mappedMetaType());
 }
 

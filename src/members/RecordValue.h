@@ -8,7 +8,7 @@
 namespace ORVTListview::RecordValue {
 
 // Makes a record convert to QVariantMap from now on, and those in a list of records.
-void announce(QMetaType type);
+void announce(QMetaType announced);
 
 // How a single value is made one of another type.
 using Convert = std::optional<QVariant> (*)(const QVariant &value, QMetaType type);

@@ -35,9 +35,9 @@ class DesktopSchemeTest : public WidgetTest
 private:
     static void tell(QDBusConnection &desktop, const QString &key, uint value)
     {
-        QDBusMessage signal = QDBusMessage::createSignal(
-            u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Settings"_s,
-            u"SettingChanged"_s);
+        QDBusMessage signal =
+            QDBusMessage::createSignal(u"/org/freedesktop/portal/desktop"_s,
+                                       u"org.freedesktop.portal.Settings"_s, u"SettingChanged"_s);
         signal << u"org.freedesktop.appearance"_s << key
                << QVariant::fromValue(QDBusVariant(value));
         QVERIFY(desktop.send(signal));

@@ -20,7 +20,7 @@ PointReading::PointReading(ProjectDocument &document, Controller &controller, QO
 {
     m_cycle.setSingleShot(true);
     connect(&m_cycle, &QTimer::timeout, this, [this] {
-        const auto all = projectTypes();
+        const auto &all = projectTypes();
         ask(QSet<LwType>(all.cbegin(), all.cend()), false);
     });
     connect(&controller, &Controller::answered, this, &PointReading::take);
@@ -78,7 +78,7 @@ void PointReading::read(LwType type)
 
 void PointReading::readAll()
 {
-    const auto all = projectTypes();
+    const auto &all = projectTypes();
     want(QSet<LwType>(all.cbegin(), all.cend()));
 }
 
@@ -155,7 +155,7 @@ bool PointReading::takeOne(const PointAnswer &answer)
             tr("It answered for \"%1\", which was not asked for").arg(answer.point.name));
         return false;
     }
-    const ProjectRow before = *asked;
+    const ProjectRow before = m_question.open.value(answer.point); // it goes from there
     const QString fault = faultOf(answer.point, before, answer.value);
     if (!fault.isEmpty()) {
         m_question.faults.append(fault);
@@ -192,7 +192,7 @@ QString PointReading::fault() const
 {
     const QStringList &all = m_question.faults;
     return all.size() < 2 ? all.value(0)
-                          : tr("%1, and %2 more").arg(all.first()).arg(all.size() - 1);
+                          : tr("%1, and %2 more").arg(all.first(), QString::number(all.size() - 1));
 }
 
 void PointReading::fail(quint64 question, const QString &reason)

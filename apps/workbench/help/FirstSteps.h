@@ -35,8 +35,8 @@ protected:
 private:
     struct Step
     {
-        QPushButton *button;
-        QLabel *text;
+        QPushButton *button = nullptr;
+        QLabel *text = nullptr;
     };
     Step addStep(QBoxLayout &layout, void (FirstSteps::*wanted)());
     void enlargeTitle();

@@ -182,12 +182,11 @@ void ImportDialog::preview()
 
 void ImportDialog::summarise()
 {
+    const auto counted = [this](auto kind) { return QString::number(m_model->count(kind)); };
     m_summary->setText(tr("Added: %1. Changed: %2. Left alone: %3. Not possible: %4. Ticked: %5.")
-                           .arg(m_model->count(ImportedRow::Added))
-                           .arg(m_model->count(ImportedRow::Changed))
-                           .arg(m_model->count(ImportedRow::Same))
-                           .arg(m_model->count(ImportedRow::Faulty))
-                           .arg(m_model->ticked()));
+                           .arg(counted(ImportedRow::Added), counted(ImportedRow::Changed),
+                                counted(ImportedRow::Same), counted(ImportedRow::Faulty),
+                                QString::number(m_model->ticked())));
     m_import->setEnabled(m_model->ticked() > 0);
 }
 

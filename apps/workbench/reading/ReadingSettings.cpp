@@ -16,7 +16,7 @@ constexpr std::array mistakes{"none"_L1, "text for number"_L1, "too few"_L1, "un
 template <typename Choice>
 void readChoice(Choice &choice, const std::array<QLatin1StringView, 4> &names, const QString &name)
 {
-    const auto found = std::find(names.begin(), names.end(), name);
+    const auto *const found = std::find(names.begin(), names.end(), name);
     if (found != names.end())
         choice = static_cast<Choice>(found - names.begin());
 }

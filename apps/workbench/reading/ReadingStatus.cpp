@@ -56,7 +56,8 @@ void ReadingStatus::showProgress()
 {
     m_isWanted = true;
     m_stop->show();
-    tell(tr("Reading values: %1 of %2").arg(m_reading.answered()).arg(m_reading.asked()));
+    tell(tr("Reading values: %1 of %2")
+             .arg(QString::number(m_reading.answered()), QString::number(m_reading.asked())));
     show();
 }
 

@@ -64,7 +64,7 @@ QStringList TrendScale::labels(const QList<double> &ticks, const QLocale &locale
 QList<qint64> timeTicks(qint64 from, qint64 to, int most)
 {
     const auto fits = [&](qint64 step) { return (to - from) / step <= std::max(1, most); };
-    const auto found = std::find_if(steps.begin(), steps.end(), fits);
+    const auto *const found = std::find_if(steps.begin(), steps.end(), fits);
     const qint64 step =
         found == steps.end() ? steps.back() * ((to - from) / day / std::max(1, most) + 1) : *found;
     const qint64 offset = QDateTime::fromMSecsSinceEpoch(from).offsetFromUtc() * second;

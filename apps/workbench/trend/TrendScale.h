@@ -16,7 +16,7 @@ struct TrendScale
     static TrendScale around(double least, double most);
 
     // Round numbers within it, at most so many.
-    QList<double> ticks(int most) const;
+    QList<double> ticks(int count) const;
 
     // As an axis shows them: all with the same number of places.
     static QStringList labels(const QList<double> &ticks, const QLocale &locale);

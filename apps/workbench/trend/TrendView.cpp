@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 leastSpan = 10 * 1000;
+constexpr qint64 leastSpan = 10LL * 1000;
 constexpr qint64 mostSpan = 7LL * 24 * 3600 * 1000;
 
 } // namespace

@@ -61,7 +61,7 @@ private:
     void follow();
 
     const Trend &m_trend;
-    qint64 m_span = 5 * 60 * 1000;
+    qint64 m_span = 5LL * 60 * 1000;
     std::optional<qint64> m_paused; // the end of what is shown then
     std::optional<qint64> m_cursor;
 };
