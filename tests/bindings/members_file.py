@@ -18,6 +18,7 @@ CPP_ONLY = {
     "writeColumnLayouts": "takes an interface that C++ hosts implement",
     "setPictureProvider": "takes a function",
     "setPointNames": "takes a function",
+    "setUndoHistory": "takes functions",
     "sizeHint": "the toolkit's", "minimumSizeHint": "the toolkit's",
     "visualRect": "the toolkit's", "indexAt": "the toolkit's", "scrollTo": "the toolkit's",
     "mimeData": "the toolkit's object",
