@@ -10,10 +10,10 @@ namespace ORVTListview {
 // undo and redo may end the component.
 struct UndoHistory
 {
-    std::function<bool()> canUndo;
-    std::function<bool()> canRedo;
-    std::function<void()> undo;
-    std::function<void()> redo;
+    std::function<bool()> canUndo; // whether a menu offers Undo
+    std::function<bool()> canRedo; // whether it offers Redo
+    std::function<void()> undo;    // takes the last step back
+    std::function<void()> redo;    // makes the step again that was taken back last
 };
 
 } // namespace ORVTListview

@@ -63,7 +63,7 @@ QString joinUndoRecord(const UndoRecord &record);
 // is no decimal integer (TypeMismatch) or needs more than 32 bits (Overflow).
 // Blanks around a number are passed over: a slot whose length was raised by damage
 // ends in some. Whether the selection lies within the text is not checked.
-ORVT_HOUSE_EXPORT UndoRecord splitUndoRecord(const QString &record);
+UndoRecord splitUndoRecord(const QString &record);
 
 // The same of a record that joinUndoRecord made: its text may hold separators, since
 // nothing behind the last two can.
