@@ -11,6 +11,7 @@
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ReportList.h>
 
+#include <QtCore/QItemSelectionModel>
 #include <QtCore/QPointer>
 #include <QtWidgets/QLineEdit>
 
@@ -109,11 +110,11 @@ void PointTables::showRow(qsizetype row)
     choose(*m_list.ListItems()->Item(static_cast<qint32>(row) + 1));
 }
 
-// Whoever is led to a row sees it, whatever rows were filtered out.
+// Whoever is led to a row sees it; one that is filtered out has nothing to be selected.
 void PointTables::choose(ListItem &item)
 {
     m_list.setSelectedItem(&item);
-    if (!item.Selected()) {
+    if (!m_list.listView()->selectionModel()->hasSelection()) {
         showAll();
         m_list.setSelectedItem(&item);
     }

@@ -189,8 +189,12 @@ private Q_SLOTS:
         QCOMPARE(worked.grid().rowsShown(), 1);
         worked.choose(u"Redo"_s);
         QCOMPARE(worked.cell(2, 2), u"Auto"_s);
+        QCOMPARE(worked.grid().rowsShown(), worked.shown().ListItems()->Count());
         QCOMPARE(worked.shown().SelectedItem()->SubItem(1), u"C"_s);
-        QCOMPARE(worked.list().currentIndex().row(), 0);
+        QCOMPARE(worked.list().currentIndex().siblingAtColumn(1).data(), u"C"_s);
+        worked.grid().setFilterText(1, u"C"_s);
+        worked.choose(u"Undo"_s);
+        QCOMPARE(worked.grid().rowsShown(), 1); // it is seen
     }
 
     void whatWasTypedStaysWhereNobodySeesIt()
