@@ -20,6 +20,7 @@ set(library_package liborvtlistview${PROJECT_VERSION_MAJOR})
 set(this_library "${library_package} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library_package})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SUGGESTS "libqt6svg6") # hosts' own pictures
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "${PROJECT_DESCRIPTION}: the libraries")
 
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME liborvtlistview-dev)

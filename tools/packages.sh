@@ -2,7 +2,7 @@
 
 build_packages=(
     ca-certificates ccache cmake g++ ninja-build pkg-config python3
-    qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     qt6-translations-l10n
     libgl-dev zlib1g-dev fonts-dejavu-core)
 
@@ -10,7 +10,7 @@ build_packages=(
 display_packages=(xvfb xauth xclip xdotool openbox x11-utils)
 
 test_packages=(
-    libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev dpkg-dev file
+    libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev libqt6svg6 dpkg-dev file
     abigail-tools dbus-daemon libreoffice-writer-nogui
     clang-format clang-tidy doxygen lld locales valgrind
     "${display_packages[@]}")

@@ -52,7 +52,7 @@ def check_dependencies(packages, version):
         if library not in field(packages[name], "Depends"):
             sys.exit(f"{name} does not depend on {library}")
     needed = {
-        "liborvtlistview1": ("libqt6core6", "libqt6widgets6", "libqt6svg6", "zlib1g", "libc6"),
+        "liborvtlistview1": ("libqt6core6", "libqt6widgets6", "zlib1g", "libc6"),
         "orvtlistview-designer": ("libqt6core6",),
         "orvtlistview-tools": ("libqt6core6",),
         "liborvtlistview-dev": ("qt6-base-dev",),

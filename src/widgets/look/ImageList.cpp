@@ -1,11 +1,11 @@
 #include <ORVTListview/ImageList.h>
 
+#include "widgets/look/CompiledDrawings.h"
+#include "widgets/look/FileDrawing.h"
 #include "widgets/look/PictureEngine.h"
 #include <ORVTListview/Error.h>
 
-#include <QtCore/QFileInfo>
 #include <QtCore/QHash>
-#include <QtSvg/QSvgRenderer>
 
 #include <map>
 #include <memory>
@@ -21,27 +21,19 @@ namespace {
     throw Error(InvalidCall, u"ImageList.Add"_s, reason);
 }
 
-std::shared_ptr<QSvgRenderer> loaded(const QString &file)
+std::shared_ptr<const Drawing> loaded(const QString &file)
 {
-    auto drawing = std::make_shared<QSvgRenderer>();
-    // Asked first, because Qt logs a warning for a file it cannot open.
-    if (!QFileInfo(file).isFile() || !drawing->load(file))
-        refuse(u"Not an SVG file: "_s + file);
+    std::shared_ptr<const Drawing> drawing = FileDrawing::of(file);
+    if (!drawing)
+        refuse(u"Not a picture that can be read: "_s + file);
     return drawing;
 }
 
-// Resources never change, so a drawing of one that some list holds already is
-// shared: every component has a list with the same pictures.
-std::shared_ptr<QSvgRenderer> drawingOf(const QString &file)
+std::shared_ptr<const Drawing> drawingOf(const QString &file)
 {
-    if (!file.startsWith(u":/"))
-        return loaded(file);
-    thread_local QHash<QString, std::weak_ptr<QSvgRenderer>> held;
-    std::weak_ptr<QSvgRenderer> &place = held[file];
-    std::shared_ptr<QSvgRenderer> drawing = place.lock();
-    if (!drawing)
-        place = drawing = loaded(file);
-    return drawing;
+    if (const std::shared_ptr<const Drawing> ready = CompiledDrawings::of(file))
+        return ready;
+    return loaded(file);
 }
 
 } // namespace

@@ -1,11 +1,12 @@
 #include "widgets/look/PictureEngine.h"
 
+#include "widgets/look/Drawing.h"
+
 #include <QtCore/QtMath>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
 #include <QtGui/QPixmapCache>
-#include <QtSvg/QSvgRenderer>
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
@@ -90,8 +91,8 @@ qreal scaleOf(const QPainter &painter)
 
 } // namespace
 
-PictureEngine::PictureEngine(QString svgFile, std::shared_ptr<QSvgRenderer> drawing, bool isPressed)
-    : m_file(std::move(svgFile))
+PictureEngine::PictureEngine(QString file, std::shared_ptr<const Drawing> drawing, bool isPressed)
+    : m_file(std::move(file))
     , m_drawing(std::move(drawing))
     , m_isPressed(isPressed)
 {
@@ -163,7 +164,7 @@ QImage PictureEngine::plain(int side, const QRectF &area)
 {
     QImage image = blank(side);
     QPainter painter(&image);
-    m_drawing->render(&painter, fitted(area));
+    m_drawing->paint(&painter, fitted(area));
     return image;
 }
 
@@ -187,7 +188,7 @@ QImage PictureEngine::pressed(int side)
 // The drawing's own proportions, centred in the area.
 QRectF PictureEngine::fitted(const QRectF &area)
 {
-    const QSizeF size = m_drawing->viewBoxF().size().scaled(area.size(), Qt::KeepAspectRatio);
+    const QSizeF size = m_drawing->size().scaled(area.size(), Qt::KeepAspectRatio);
     QRectF fit(QPointF(), size);
     fit.moveCenter(area.center());
     return fit;

@@ -4,11 +4,9 @@
 
 #include <memory>
 
-QT_BEGIN_NAMESPACE
-class QSvgRenderer;
-QT_END_NAMESPACE
-
 namespace ORVTListview {
+
+class Drawing;
 
 // Draws one picture of an ImageList, or it in negative as on a pressed button. Drawn pixmaps are
 // kept in Qt's pixmap cache under the file's name, so that equal pictures of several lists are
@@ -16,7 +14,7 @@ namespace ORVTListview {
 class PictureEngine final : public QIconEngine
 {
 public:
-    PictureEngine(QString svgFile, std::shared_ptr<QSvgRenderer> drawing, bool isPressed);
+    PictureEngine(QString file, std::shared_ptr<const Drawing> drawing, bool isPressed);
     ~PictureEngine() override;
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override;
@@ -35,7 +33,7 @@ private:
     QRectF fitted(const QRectF &area);
 
     QString m_file;
-    std::shared_ptr<QSvgRenderer> m_drawing; // shared by clones
+    std::shared_ptr<const Drawing> m_drawing; // shared by clones
     bool m_isPressed;
 };
 

@@ -2,6 +2,7 @@
 
 #include "shared/points/DisplayNames.h"
 #include "shared/points/PictureNumbers.h"
+#include "widgets/look/CompiledDrawings.h"
 #include <ORVTListview/ImageList.h>
 
 #include <array>
@@ -27,11 +28,6 @@ struct TypeRow
 
 constexpr qint32 firstPressedIndex = 21;
 
-QString resource(const QString &file)
-{
-    return u":/ORVTListview/pictures/%1.svg"_s.arg(file);
-}
-
 void addTypes(ImageList &list)
 {
     const std::array<TypeRow, highestType + 1> types{{
@@ -51,9 +47,9 @@ void addTypes(ImageList &list)
     }};
     for (const TypeRow &row : types) {
         const QString key = displayName(row.type);
-        list.Add(key, row.index, resource(row.file));
-        list.Add(Pictures::pressedKey(key), firstPressedIndex + row.type, resource(row.file),
-                 ImageList::Look::Pressed);
+        list.Add(key, row.index, CompiledDrawings::fileOf(row.file));
+        list.Add(Pictures::pressedKey(key), firstPressedIndex + row.type,
+                 CompiledDrawings::fileOf(row.file), ImageList::Look::Pressed);
     }
 }
 
@@ -71,7 +67,7 @@ void addOthers(ImageList &list)
         {u"Other Words"_s, OtherWordPicture, u"text"_s},
     }};
     for (const Row &row : others)
-        list.Add(row.key, row.index, resource(row.file));
+        list.Add(row.key, row.index, CompiledDrawings::fileOf(row.file));
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 namespace ORVTListview {
 
 // Pictures by key and by index, for trees, tables, combos and buttons. Each is
-// drawn from an SVG file, sharp at every size and device pixel ratio; the icons
+// drawn from a file, an SVG sharp at every size and device pixel ratio; the icons
 // are cheap to copy and outlive the list. Disabled icons are grey; icons on a
 // selected row take the colour of the selected text, which is the one colour
 // sure to be seen on the selection.
@@ -31,8 +31,11 @@ public:
     Q_DISABLE_COPY_MOVE(ImageList) // handed out by address
 
     // SvgFile is a path or a resource (":/..."); a square drawing is expected,
-    // any other is fitted and centred. Raises Error (InvalidCall) for an empty
-    // key, a key or index in use, an index below 1 or a file that is no SVG.
+    // any other is fitted and centred. SVG needs the toolkit's image plug-in for it
+    // (the library's own pictures need nothing); files of every other format that
+    // the toolkit reads serve, too, and are scaled. The file is read at once. Raises
+    // Error (InvalidCall) for an empty key, a key or index in use, an index below 1
+    // or a file that cannot be read as a picture.
     void Add(const QString &Key, qint32 Index, const QString &SvgFile, Look Drawn = Look::Plain);
 
     // How many pictures there are.
