@@ -1,13 +1,13 @@
 # "cpack -G DEB" in a build directory makes one Debian package of each component.
 set(CPACK_PACKAGE_NAME orvtlistview)
 set(CPACK_PACKAGE_VENDOR "ORVTListview")
-set(CPACK_PACKAGE_CONTACT "ORVTListview developers <orvtlistview@localhost>")
+set(CPACK_PACKAGE_CONTACT "ORVTListview developers <developers@orvtlistview.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_GENERATOR DEB)
-set(CPACK_COMPONENTS_ALL library dev designer tools doc)
+set(CPACK_COMPONENTS_ALL library dev designer tools workbench doc)
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -15,34 +15,63 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Where the libraries are that are not installed yet.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
+
+# One line of what the package is, and one of what all of them are.
+macro(describe component what)
+    set(CPACK_COMPONENT_${component}_DESCRIPTION "\
+ORVTListview: ${what}\n\
+User-interface components for the desktop tools with which people program\n\
+building-automation controllers: code editor, point tables, project tree.")
+endmacro()
 
 set(library_package liborvtlistview${PROJECT_VERSION_MAJOR})
 set(this_library "${library_package} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library_package})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SUGGESTS "libqt6svg6") # hosts' own pictures
-set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "${PROJECT_DESCRIPTION}: the libraries")
+describe(LIBRARY "the libraries")
 
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME liborvtlistview-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${this_library}, qt6-base-dev (>= ${ORVT_QT_VERSION})")
 set(CPACK_DEBIAN_DEV_PACKAGE_SUGGESTS "orvtlistview-designer, orvtlistview-doc, cmake")
-set(CPACK_COMPONENT_DEV_DESCRIPTION "${PROJECT_DESCRIPTION}: headers and examples")
+describe(DEV "headers")
 
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME orvtlistview-designer)
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "${this_library}")
-set(CPACK_COMPONENT_DESIGNER_DESCRIPTION "${PROJECT_DESCRIPTION}: plugin for Qt Designer")
+describe(DESIGNER "plugin for Qt Designer")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME orvtlistview-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${this_library}")
-set(CPACK_COMPONENT_TOOLS_DESCRIPTION "${PROJECT_DESCRIPTION}: command-line tools")
+describe(TOOLS "command-line tools")
+
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_NAME orvtlistview-workbench)
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_DEPENDS "${this_library}")
+describe(WORKBENCH "the workbench")
 
 set(CPACK_DEBIAN_DOC_PACKAGE_NAME orvtlistview-doc)
 set(CPACK_DEBIAN_DOC_PACKAGE_SECTION doc)
 set(CPACK_DEBIAN_DOC_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_DOC_PACKAGE_SHLIBDEPS OFF)
-set(CPACK_COMPONENT_DOC_DESCRIPTION "${PROJECT_DESCRIPTION}: documentation")
+describe(DOC "documentation and examples")
+
+# What Debian asks of every package.
+configure_file(packaging/changelog.in ${PROJECT_BINARY_DIR}/packaging/changelog @ONLY)
+orvt_compress(${PROJECT_BINARY_DIR}/packaging/changelog changelog_gz)
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} upper)
+    install(FILES packaging/copyright ${changelog_gz}
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME}
+        COMPONENT ${component})
+endforeach()
+configure_file(packaging/lintian-overrides.in ${PROJECT_BINARY_DIR}/packaging/overrides @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/packaging/overrides
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides
+    RENAME ${library_package}
+    COMPONENT library)
 
 include(CPack)

@@ -14,10 +14,12 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/ORVTListviewConfigVersion
     COMPATIBILITY SameMajorVersion)
 configure_file(cmake/ORVTListview.pc.in ${PROJECT_BINARY_DIR}/ORVTListview.pc @ONLY)
 
-install(EXPORT ORVTListviewTargets
-    NAMESPACE ORVTListview::
-    DESTINATION ${package_dir}
-    COMPONENT dev)
+foreach(targets IN ITEMS ORVTListviewCoreTargets ORVTListviewTargets)
+    install(EXPORT ${targets}
+        NAMESPACE ORVTListview::
+        DESTINATION ${package_dir}
+        COMPONENT dev)
+endforeach()
 install(FILES
     ${PROJECT_BINARY_DIR}/ORVTListviewConfig.cmake
     ${PROJECT_BINARY_DIR}/ORVTListviewConfigVersion.cmake
@@ -26,7 +28,7 @@ install(FILES
 install(FILES ${PROJECT_BINARY_DIR}/ORVTListview.pc
     DESTINATION ${pkgconfig_dir}
     COMPONENT dev)
-install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT dev)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT doc)
 install(FILES LICENSE README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT doc)
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT doc
     FILES_MATCHING PATTERN "*.md" PATTERN "*.png")

@@ -33,18 +33,31 @@ endif()
 configure_file(docs/Doxyfile.in ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/reference)
 
-add_custom_target(reference
+file(GLOB_RECURSE pages CONFIGURE_DEPENDS
+    ${PROJECT_SOURCE_DIR}/docs/*.md ${PROJECT_SOURCE_DIR}/docs/*.png
+    ${PROJECT_SOURCE_DIR}/docs/reference/* ${PROJECT_SOURCE_DIR}/examples/*)
+get_property(read_headers GLOBAL PROPERTY ORVT_PUBLIC_HEADER_PATHS)
+set(index ${PROJECT_BINARY_DIR}/reference/html/index.html)
+add_custom_command(OUTPUT ${index}
+    COMMAND ${CMAKE_COMMAND} -E rm -f ${index} # a failure leaves none
     ${remove_copy}
     ${make_copy}
     # Not here: it would look for the pages' "../../" from here, too.
     COMMAND ${CMAKE_COMMAND} -E chdir ${reference_source} ${DOXYGEN} ${PROJECT_BINARY_DIR}/Doxyfile
     ${remove_copy}
+    DEPENDS ${PROJECT_BINARY_DIR}/Doxyfile ${members_json} ${read_headers} ${pages}
     VERBATIM
     COMMENT "Making the reference in ${PROJECT_BINARY_DIR}/reference/html")
+add_custom_target(reference DEPENDS ${index})
 if(TARGET members_json)
     add_dependencies(reference members_json)
 endif()
+# Whoever installs the documents gets the reference, and one that is up to date.
+install(CODE "
+    execute_process(
+        COMMAND \"${CMAKE_COMMAND}\" --build \"${PROJECT_BINARY_DIR}\" --target reference
+        COMMAND_ERROR_IS_FATAL ANY)"
+    COMPONENT doc)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/reference/html
     DESTINATION ${CMAKE_INSTALL_DOCDIR}
-    COMPONENT doc
-    OPTIONAL)
+    COMPONENT doc)

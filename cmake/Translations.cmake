@@ -12,9 +12,10 @@ endif()
 # No line numbers, so that only a changed text changes the files.
 set(ORVT_LUPDATE_OPTIONS -no-obsolete -locations none)
 
-# SOURCES are the files whose texts are translated, TS_FILES the translations.
+# SOURCES are the files whose texts are translated, TS_FILES the translations. Compiled,
+# they are built in under NAME, and installed for those who look for them.
 function(orvt_add_translations target name)
-    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "SOURCES;TS_FILES")
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "INSTALLED_IN;COMPONENT" "SOURCES;TS_FILES")
     qt_add_lupdate(${target}
         SOURCES ${arg_SOURCES}
         TS_FILES ${arg_TS_FILES}
@@ -28,6 +29,6 @@ function(orvt_add_translations target name)
         BASE ${CMAKE_CURRENT_BINARY_DIR}
         FILES ${qm_files})
     install(FILES ${qm_files}
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/${name}/translations
-        COMPONENT library)
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/${arg_INSTALLED_IN}/translations
+        COMPONENT ${arg_COMPONENT})
 endfunction()

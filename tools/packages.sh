@@ -11,7 +11,7 @@ display_packages=(xvfb xauth xclip xdotool openbox x11-utils)
 
 test_packages=(
     libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev libqt6svg6 dpkg-dev file
-    abigail-tools dbus-daemon libreoffice-writer-nogui
+    abigail-tools dbus-daemon lintian libreoffice-writer-nogui
     clang-format clang-tidy doxygen lld locales valgrind
     "${display_packages[@]}")
 

@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "InstalledFiles.h"
 #include "Languages.h"
 #include "MainWindow.h"
 #include "ProjectView.h"
@@ -102,7 +103,7 @@ bool isFirstStart(const Options &options, QSettings &store)
 void open(MainWindow &window, const Options &options)
 {
     if (options.project.isEmpty())
-        window.openAtStart(QStringLiteral(ORVT_SAMPLE_PROJECT));
+        window.openAtStart(sampleProject());
     else
         window.openForUser(options.project);
     window.showType(options.shown);
@@ -112,8 +113,7 @@ void open(MainWindow &window, const Options &options)
 bool openForPicture(MainWindow &window, const Options &options)
 {
     try {
-        window.openProject(options.project.isEmpty() ? QStringLiteral(ORVT_SAMPLE_PROJECT)
-                                                     : options.project);
+        window.openProject(options.project.isEmpty() ? sampleProject() : options.project);
         window.showType(options.shown);
         return true;
     } catch (const Error &error) {
@@ -155,6 +155,7 @@ int main(int argc, char **argv)
     applyScale(argc, argv);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"workbench"_s);
+    QApplication::setDesktopFileName(u"orvtlistview-workbench"_s);
     Languages languages;
     const std::optional<Options> options = readOptions(application);
     if (!options)
@@ -175,7 +176,7 @@ int main(int argc, char **argv)
 
     MainWindow window(languages);
     window.setSettings(settings);
-    window.setSample(QStringLiteral(ORVT_SAMPLE_PROJECT));
+    window.setSample(sampleProject());
     return isPicture ? runForPicture(window, *options)
                      : runForUser(window, *options, store, stored);
 }

@@ -17,7 +17,8 @@ PACKAGES = {
     "liborvtlistview-dev": r"usr/include/ORVTListview/ORVTListview\.h",
     "orvtlistview-designer": r"usr/lib/.*/qt6/plugins/designer/.*\.so",
     "orvtlistview-tools": r"usr/bin/orvt-colour",
-    "orvtlistview-doc": r"usr/share/doc/.*",
+    "orvtlistview-workbench": r"usr/share/applications/.*\.desktop",
+    "orvtlistview-doc": r"usr/share/doc/.*/html/index\.html",
 }
 
 
@@ -30,7 +31,7 @@ def run(*command, **options):
 
 
 def skip_without_tools():
-    for tool in ("dpkg", "dpkg-deb", "dpkg-shlibdeps", "apt-get"):
+    for tool in ("dpkg", "dpkg-deb", "dpkg-shlibdeps", "apt-get", "lintian"):
         if not shutil.which(tool):
             print(f"Skipped: {tool} is not installed")
             sys.exit(SKIPPED)
@@ -48,7 +49,8 @@ def check_content(name, package):
 
 def check_dependencies(packages, version):
     library = f"liborvtlistview1 (= {version})"
-    for name in ("liborvtlistview-dev", "orvtlistview-designer", "orvtlistview-tools"):
+    for name in ("liborvtlistview-dev", "orvtlistview-designer", "orvtlistview-tools",
+                 "orvtlistview-workbench"):
         if library not in field(packages[name], "Depends"):
             sys.exit(f"{name} does not depend on {library}")
     needed = {
@@ -62,6 +64,14 @@ def check_dependencies(packages, version):
         for other in others:
             if other not in depends:
                 sys.exit(f"{name} does not depend on {other}: {depends}")
+
+
+def check_rules(packages):
+    """Debian's own rules; what is excepted stands with its reason in lintian-overrides."""
+    found = subprocess.run(["lintian", "--fail-on", "error,warning", "--no-cfg", "--allow-root",
+                            *packages.values()], capture_output=True, text=True, check=False)
+    if found.returncode != 0:
+        sys.exit(f"lintian:\n{found.stdout}{found.stderr}")
 
 
 def installed_files(root):
@@ -107,6 +117,7 @@ def main():
         check_dependencies(files, arguments.version)
         # What this machine's sources can satisfy; nothing is installed.
         run("apt-get", "install", "--simulate", *files.values())
+        check_rules(files)
         check_installs_and_removes(files, folder)
 
 

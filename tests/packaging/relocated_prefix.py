@@ -101,6 +101,9 @@ def main():
         for name in EXAMPLES:
             program = build_with_cmake(hosts / name, prefix, arguments.quit_soon, environment)
             run_host(program, environment, arguments.expected / f"{name}.txt")
+        shutil.copytree(pathlib.Path(__file__).parent / "core", hosts / "core")
+        program = build_with_cmake(hosts / "core", prefix, "", environment)
+        run_host(program, environment, arguments.expected / "core.txt")
         for name in WITHOUT_CMAKE:
             program = build_with_pkg_config(hosts / name, prefix, arguments.quit_soon, environment)
             run_host(program, environment, arguments.expected / f"{name}.txt")
