@@ -39,7 +39,7 @@ constexpr std::array classes = {
 RichTextSettings legibleOn(const QPalette &palette, RichTextSettings settings)
 {
     const QColor ground = palette.color(QPalette::Base);
-    if (settings.BackColor >= 0 || ground.lightness() >= 128)
+    if (settings.BackColor >= 0 || !isDark(ground))
         return settings;
     for (const auto colour : classes)
         settings.*colour = madeLight(settings.*colour, ground);

@@ -1,5 +1,6 @@
 #include <ORVTListview/ORVDataCombo.h>
 
+#include "members/DeclaredEntries.h"
 #include "members/HandedClass.h"
 #include "members/InputEvents.h"
 #include "members/TextMembers.h"
@@ -16,17 +17,17 @@ QList<Member> comboMembers()
 {
     return {
         method<&Combo::FillDataListview>(u"FillDataListview", u"TypeIndex", u"LvIndex", u"ErrMsg"),
-        method<&Combo::SetListIndex>(u"SetListIndex", u"Data"),
-        method<&Combo::ItemData>(u"ItemData", u"Index"),
-        readOnly<&Combo::ListCount>(u"ListCount"),
-        readOnly<&Combo::ListIndex>(u"ListIndex"),
-        readWrite<&Combo::Text, &Combo::setText>(u"Text"),
-        readWrite<&Combo::Enabled, &Combo::setEnabled>(u"Enabled"),
-        method<&Combo::Clear>(u"Clear"),
-        method<&Combo::ResetbackColor>(u"ResetbackColor", u"Color"),
-        method<&Combo::UpdateListWidth>(u"UpdateListWidth"),
+        invokable<Combo, "SetListIndex">(),
+        invokable<Combo, "ItemData">(),
+        property<Combo, "ListCount">(),
+        property<Combo, "ListIndex">(),
+        property<Combo, "Text">(),
+        property<Combo, "Enabled">(),
+        invokable<Combo, "Clear">(),
+        invokable<Combo, "ResetbackColor">(),
+        invokable<Combo, "UpdateListWidth">(),
         writeOnly<&Combo::setFormParentHandle>(u"FormParentHandle"),
-        readWrite<&Combo::dragsEntry, &Combo::setDragsEntry>(u"dragsEntry"),
+        property<Combo, "dragsEntry">(),
     };
 }
 

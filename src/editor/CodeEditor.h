@@ -40,6 +40,7 @@ public:
     ~CodeEditor() override;
 
     RichTextBox &box() const { return *m_box; }
+    const EditorThread &thread() const { return m_thread; }
     ProgramText &text() { return m_text; }
     ProgramEditing &editing() { return m_editing; }
     ProgramClipboard &clipboard() { return m_clipboard; }

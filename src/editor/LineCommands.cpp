@@ -3,6 +3,7 @@
 #include "base/TextPiece.h"
 #include "base/TextRules.h"
 #include "editor/BoxSelection.h"
+#include "editor/rules/LineTexts.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QFontMetricsF>
@@ -12,11 +13,6 @@
 
 namespace ORVTListview {
 namespace {
-
-bool isAllBlank(QStringView text)
-{
-    return std::all_of(text.begin(), text.end(), isBlank);
-}
 
 // What is folded is stepped over.
 QTextBlock nextShownLine(QTextBlock line, int direction)
@@ -43,7 +39,7 @@ LineCommands::LineCommands(RichTextBox &box)
 
 void LineCommands::setIndentUnit(const QString &unit)
 {
-    if (unit.isEmpty() || !isAllBlank(unit))
+    if (unit.isEmpty() || !isEmptyLine(unit))
         return;
     m_unit = unit;
     fitTabStops();
@@ -134,7 +130,7 @@ bool LineCommands::unindentBeforeCaret()
     const qint32 caret = m_box.SelStart();
     const qint32 lineStart = m_box.lineStart(m_box.GetLineFromChar(caret));
     const QString before = m_box.textRange(lineStart, caret - lineStart);
-    if (m_box.SelLength() > 0 || before.isEmpty() || !isAllBlank(before))
+    if (m_box.SelLength() > 0 || before.isEmpty() || !isEmptyLine(before))
         return false;
     const qsizetype past = before.size() % m_unit.size();
     const qsizetype step = past > 0 ? past : m_unit.size();

@@ -32,6 +32,7 @@ FindBar::FindBar(RichTextBox &box, FoundMarks &marks, const Acts &acts)
     : EditorBar(box, BoxLayers::of(box))
     , m_box(box)
     , m_marks(marks)
+    , m_histories(threadPart<SearchHistories>())
     , m_acts(acts)
 {
     setObjectName(u"FindBar"_s);
@@ -74,7 +75,6 @@ void FindBar::ask()
 {
     if (!m_box.isVisible() || !m_box.isEnabled())
         return;
-    const auto &histories = threadPart<SearchHistories>();
     const QString selected = m_box.SelText();
     const bool takesSelection = !selected.isEmpty() && !selected.contains(u'\n');
     const bool wasShown = isVisible();
@@ -82,15 +82,15 @@ void FindBar::ask()
         const QSignalBlocker quiet(m_wanted);
         const QString text = takesSelection ? selected
                              : wasShown     ? searched()
-                                            : histories.last.text;
-        HistoryField::list(*m_wanted, histories.searched);
+                                            : m_histories.last.text;
+        HistoryField::list(*m_wanted, m_histories.searched);
         HistoryField::show(*m_wanted, text);
     }
     if (!wasShown) {
         const QSignalBlocker quietCase(m_matchCase);
         const QSignalBlocker quietWord(m_wholeWord);
-        m_matchCase->setChecked(histories.last.how.matchCase);
-        m_wholeWord->setChecked(histories.last.how.wholeWord);
+        m_matchCase->setChecked(m_histories.last.how.matchCase);
+        m_wholeWord->setChecked(m_histories.last.how.wholeWord);
         m_more->setChecked(false);
     }
     showTexts();
@@ -107,7 +107,7 @@ void FindBar::noteClosed()
 {
     m_isSeeking = false;
     m_isToBeTold = false;
-    HistoryField::remember(*m_wanted, threadPart<SearchHistories>().searched);
+    HistoryField::remember(*m_wanted, m_histories.searched);
     m_marks.places().look({}, {}, 0);
 }
 
@@ -125,7 +125,7 @@ TextSearch FindBar::how() const
 void FindBar::noteSearch()
 {
     if (!searched().isEmpty())
-        threadPart<SearchHistories>().last = {searched(), how()};
+        m_histories.last = {searched(), how()};
 }
 
 // What is typed is searched for from where the user was before.
@@ -186,7 +186,7 @@ void FindBar::find(Find act)
         return;
     noteSearch();
     m_isSeeking = false;
-    HistoryField::remember(*m_wanted, threadPart<SearchHistories>().searched);
+    HistoryField::remember(*m_wanted, m_histories.searched);
     const QPointer<FindBar> self(this);
     m_isSelecting = true; // what is found is told once it is selected
     (m_acts.*act)();

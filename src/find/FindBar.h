@@ -18,6 +18,7 @@ class BoxSearch;
 class FoundMarks;
 class ReplaceRow;
 class RichTextBox;
+struct SearchHistories;
 
 // Searches an editor as one types, marks all places and tells how many there are, and
 // replaces as the find dialog does. The editor stays usable beside it. Histories and the
@@ -78,6 +79,7 @@ private:
 
     RichTextBox &m_box;
     FoundMarks &m_marks;
+    SearchHistories &m_histories;
     const Acts m_acts;
     QTextCursor m_origin; // where the user was before the search that is typed
     bool m_isSeeking = false;

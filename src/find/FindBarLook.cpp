@@ -3,6 +3,7 @@
 #include "find/BarControls.h"
 #include "find/FindBar.h"
 #include "find/ReplaceRow.h"
+#include "find/rules/SearchHistory.h"
 #include "shared/texts/TextTable.h"
 
 #include <QtWidgets/QBoxLayout>
@@ -48,7 +49,7 @@ QLayout *FindBar::makeSearchRow()
 
 QWidget *FindBar::makeReplaceRow()
 {
-    m_replaceRow = new ReplaceRow(*this);
+    m_replaceRow = new ReplaceRow(*this, m_histories.replacements);
     m_replaceRow->hide();
     for (QWidget *control : m_replaceRow->controls())
         watch(*control);

@@ -2,6 +2,7 @@
 
 #include "base/ThreadState.h"
 #include "find/fFind.h"
+#include "find/rules/SearchHistory.h"
 #include "shared/texts/ToldFailure.h"
 
 #include <QtCore/QCoreApplication>
@@ -68,7 +69,7 @@ fFind &FindDialog::shared()
 {
     auto &state = threadPart<SharedDialog>();
     if (!state.dialog) {
-        state.dialog = std::make_unique<fFind>();
+        state.dialog = std::make_unique<fFind>(threadPart<SearchHistories>());
         qAddPostRoutine(destroyWithApplication);
     }
     return *state.dialog;

@@ -1,6 +1,5 @@
 #include "find/ReplaceRow.h"
 
-#include "base/ThreadState.h"
 #include "find/BarControls.h"
 #include "find/HistoryField.h"
 #include "find/rules/SearchHistory.h"
@@ -15,8 +14,9 @@ namespace ORVTListview {
 using namespace BarControls;
 using namespace Qt::StringLiterals;
 
-ReplaceRow::ReplaceRow(QWidget &bar)
+ReplaceRow::ReplaceRow(QWidget &bar, SearchHistory &history)
     : QWidget(&bar)
+    , m_history(history)
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -36,7 +36,7 @@ QList<QWidget *> ReplaceRow::controls() const
 void ReplaceRow::ask()
 {
     const QString typed = text();
-    HistoryField::list(*m_field, threadPart<SearchHistories>().replacements);
+    HistoryField::list(*m_field, m_history);
     HistoryField::show(*m_field, typed);
     m_field->setFocus(Qt::OtherFocusReason);
 }
@@ -48,7 +48,7 @@ QString ReplaceRow::text() const
 
 void ReplaceRow::remember()
 {
-    HistoryField::remember(*m_field, threadPart<SearchHistories>().replacements);
+    HistoryField::remember(*m_field, m_history);
 }
 
 void ReplaceRow::setMayReplace(bool mayReplace)

@@ -8,14 +8,16 @@ class QToolButton;
 
 namespace ORVTListview {
 
-// The row of a find bar for what is put in the place of what is found. Its history is the
-// thread's (SearchHistories).
+class SearchHistory;
+
+// The row of a find bar for what is put in the place of what is found.
 class ReplaceRow final : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ReplaceRow(QWidget &bar);
+    // The history outlives the row.
+    ReplaceRow(QWidget &bar, SearchHistory &history);
 
     QList<QWidget *> controls() const;
 
@@ -33,6 +35,7 @@ Q_SIGNALS:
     void replaceAllAsked();
 
 private:
+    SearchHistory &m_history;
     QComboBox *m_field;
     QToolButton *m_replace;
     QToolButton *m_replaceAll;

@@ -1,6 +1,5 @@
 #include "find/fFind.h"
 
-#include "base/ThreadState.h"
 #include "find/HistoryField.h"
 #include "find/ShownFailure.h"
 #include "find/rules/SearchHistory.h"
@@ -33,8 +32,8 @@ QString searchTextOf(const RichTextBox &box)
 
 } // namespace
 
-fFind::fFind(QWidget *parent)
-    : QDialog(parent)
+fFind::fFind(SearchHistories &histories)
+    : m_histories(histories)
 {
     makeControls();
     layOut();
@@ -71,10 +70,9 @@ void fFind::Open(RichTextBox &Target, bool IsReplace)
     m_result = {};
     InitStrings();
     setMode(IsReplace ? Mode::Replace : Mode::Find);
-    auto &histories = threadPart<SearchHistories>();
-    fill(*m_Cbo[0], histories.searched, searchTextOf(Target));
+    fill(*m_Cbo[0], m_histories.searched, searchTextOf(Target));
     if (isReplaceMode())
-        fill(*m_Cbo[1], histories.replacements, {});
+        fill(*m_Cbo[1], m_histories.replacements, {});
     noteReadOnly();
     m_Cbo[0]->setFocus();
     m_Cbo[0]->lineEdit()->selectAll();
@@ -160,27 +158,27 @@ void fFind::findNext()
     } else {
         tell([] { return Localise(u"Not found!"_s); });
     }
-    HistoryField::remember(*m_Cbo[0], threadPart<SearchHistories>().searched);
+    HistoryField::remember(*m_Cbo[0], m_histories.searched);
 }
 
 // For searches without the dialog.
 void fFind::rememberSearch()
 {
-    threadPart<SearchHistories>().last = {searched(), m_search.how()};
+    m_histories.last = {searched(), m_search.how()};
 }
 
 void fFind::replace()
 {
     if (!isReplaceMode()) {
         setMode(Mode::Replace);
-        fill(*m_Cbo[1], threadPart<SearchHistories>().replacements, {});
+        fill(*m_Cbo[1], m_histories.replacements, {});
         m_Cbo[1]->setFocus();
         return;
     }
     if (searched().isEmpty())
         return;
     m_search.replace(searched(), m_Cbo[1]->currentText());
-    HistoryField::remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);
+    HistoryField::remember(*m_Cbo[1], m_histories.replacements);
     findNext();
 }
 
@@ -195,7 +193,7 @@ void fFind::replaceAll()
     rememberSearch();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    HistoryField::remember(*m_Cbo[1], threadPart<SearchHistories>().replacements);
+    HistoryField::remember(*m_Cbo[1], m_histories.replacements);
     const qsizetype count = m_search.replaceAll(searched(), m_Cbo[1]->currentText());
     tell([count] { return QString::number(count) + u' ' + Localise(u"replace(s)!"_s); });
     stayClear();

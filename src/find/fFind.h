@@ -18,6 +18,7 @@ class QStatusBar;
 namespace ORVTListview {
 
 class SearchHistory;
+struct SearchHistories;
 
 // The dialog that searches a rich-text box and replaces in it. Nothing in it depends
 // on being modal. It closes when the box is hidden or destroyed. What was searched
@@ -30,7 +31,8 @@ class fFind : public QDialog
     Q_OBJECT
 
 public:
-    explicit fFind(QWidget *parent = nullptr);
+    // The histories outlive the dialog.
+    explicit fFind(SearchHistories &histories);
     ~fFind() override;
 
     // Sets the dialog up for a box, as at every opening: the search begins one
@@ -83,6 +85,7 @@ private:
     void noteReadOnly();
     void stayClear();
 
+    SearchHistories &m_histories;
     BoxSearch m_search;
     Mode m_mode = Mode::None;
     bool m_isPlaced = false; // since it was last shown

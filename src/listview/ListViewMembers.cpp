@@ -1,5 +1,6 @@
 #include <ORVTListview/ORVListView.h>
 
+#include "members/DeclaredEntries.h"
 #include "members/HandedClass.h"
 #include "members/TextMembers.h"
 #include "widgets/list/ListEvents.h"
@@ -21,25 +22,21 @@ namespace {
 
 using List = ORVListView;
 
+QList<Member> tableMembers()
+{
+    return properties<List, "ListviewType", "CurrentType", "Key", "NumberItems",
+                      "IsHOASupported">() +
+           QList{readOnly<&List::ColumnHerders>(u"ColumnHerders"),
+                 invokable<List, "GetSubItemWidth">(),
+                 method<&List::UpdateListViewWidth>(u"UpdateListViewWidth", u"ErrMsg"),
+                 invokable<List, "ChangeListviewNumber">()};
+}
+
 QList<Member> shellMembers()
 {
-    return {
-        readWrite<&List::ListviewType, &List::setListviewType>(u"ListviewType"),
-        readOnly<&List::CurrentType>(u"CurrentType"),
-        readOnly<&List::Key>(u"Key"),
-        readWrite<&List::NumberItems, &List::setNumberItems>(u"NumberItems"),
-        readWrite<&List::IsHOASupported, &List::setIsHOASupported>(u"IsHOASupported"),
-        readOnly<&List::ColumnHerders>(u"ColumnHerders"),
-        method<&List::GetSubItemWidth>(u"GetSubItemWidth", u"Index"),
-        method<&List::UpdateListViewWidth>(u"UpdateListViewWidth", u"ErrMsg"),
-        method<&List::ChangeListviewNumber>(u"ChangeListviewNumber", u"New_Count"),
-        method<&List::SetImage>(u"SetImage", u"Busy"),
-        writeOnly<&List::setIsWait>(u"IsWait"),
-        writeOnly<&List::setFormParent>(u"FormParent"),
-        readWrite<&List::Caption, &List::setCaption>(u"Caption"),
-        readWrite<&List::Enabled, &List::setEnabled>(u"Enabled"),
-        readWrite<&List::MultiSelect, &List::setMultiSelect>(u"MultiSelect"),
-    };
+    return QList{invokable<List, "SetImage">(), writeOnly<&List::setIsWait>(u"IsWait"),
+                 writeOnly<&List::setFormParent>(u"FormParent")} +
+           properties<List, "Caption", "Enabled", "MultiSelect">();
 }
 
 QList<Member> rowMembers()
@@ -52,70 +49,69 @@ QList<Member> rowMembers()
         method<&List::HitTest>(u"HitTest", u"X", u"Y"),
         readOnly<&List::ListItems>(u"ListItems"),
         readWrite<&List::SelectedItem, &List::setSelectedItem>(u"SelectedItem"),
-        method<&List::Refresh>(u"Refresh"),
-        method<&List::StartLabelEdit>(u"StartLabelEdit"),
-        method<&List::Clear>(u"Clear"),
-        method<&List::UpdateSubItems>(u"UpdateSubItems", u"Value", u"TagValue", u"SubIndex"),
-        method<&List::Drag>(u"Drag", optional(u"Action")),
     };
+}
+
+QList<Member> rowCommands()
+{
+    return invokables<List, "Refresh", "StartLabelEdit", "Clear", "UpdateSubItems">() +
+           QList{method<&List::Drag>(u"Drag", optional(u"Action"))};
 }
 
 QList<Member> editorMembers()
 {
+    return QList{writeOnly<&List::setRichTextVisible>(u"RichTextVisible"),
+                 writeOnly<&List::setRichTexteNable>(u"RichTexteNable"),
+                 invokable<List, "Init_RichTextBox">()} +
+           properties<List, "CodeText", "CodeTextRTF">();
+}
+
+QList<Member> wordMembers()
+{
     constexpr auto popup = qOverload<bool &>(&List::TryToPopupList);
     return {
-        writeOnly<&List::setRichTextVisible>(u"RichTextVisible"),
-        writeOnly<&List::setRichTexteNable>(u"RichTexteNable"),
-        method<&List::Init_RichTextBox>(u"Init_RichTextBox", u"Setting"),
-        readWrite<&List::CodeText, &List::setCodeText>(u"CodeText"),
-        readWrite<&List::CodeTextRTF, &List::setCodeTextRTF>(u"CodeTextRTF"),
-        method<&List::GetColorText>(u"GetColorText", u"Text"),
+        invokable<List, "GetColorText">(),
         method<&List::GetWholeWord>(u"GetWholeWord", u"StartIndex", u"WordStartIndex", u"Color"),
         writeOnly<&List::setIsSqrtSupported>(u"IsSqrtSupported"),
-        method<&List::SetCodeParent>(u"SetCodeParent", u"f"),
+        invokable<List, "SetCodeParent">(),
         readOnly<&List::RTextBox>(u"RTextBox"),
-        method<&List::RefillListviewWithWordList>(u"RefillListviewWithWordList"),
+        invokable<List, "RefillListviewWithWordList">(),
         method<popup>(u"TryToPopupList", optional(u"IsShowAbsolutely")),
-        method<&List::UpdateWordListItem>(u"UpdateWordListItem", u"OldName", u"NewName",
-                                          u"TypeIndex"),
+        invokable<List, "UpdateWordListItem">(),
         readOnly<&List::GetImage>(u"GetImage"),
     };
+}
+
+QList<Member> undoMembers()
+{
+    return QList{method<&List::Undo>(u"Undo", u"ErrMsg"), method<&List::Redo>(u"Redo", u"ErrMsg")} +
+           invokables<List, "IsUndoAvailable", "IsRedoAvailable">();
 }
 
 QList<Member> commandMembers()
 {
     return {
-        method<&List::Undo>(u"Undo", u"ErrMsg"),
-        method<&List::Redo>(u"Redo", u"ErrMsg"),
-        method<&List::IsUndoAvailable>(u"IsUndoAvailable"),
-        method<&List::IsRedoAvailable>(u"IsRedoAvailable"),
-        method<&List::RTextCut>(u"RTextCut"),
-        method<&List::RTextCopy>(u"RTextCopy"),
+        invokable<List, "RTextCut">(),
+        invokable<List, "RTextCopy">(),
         method<&List::RTextPaste>(u"RTextPaste", u"Data"),
-        method<&List::RTextSelectAll>(u"RTextSelectAll"),
+        invokable<List, "RTextSelectAll">(),
         method<&List::ReplaceRichTextBox>(u"ReplaceRichTextBox", u"OldWord", u"NewWord", u"ErrMsg",
                                           optional(u"IsChangeColor")),
         method<&List::FindInRichtext>(u"FindInRichtext", u"ErrMsg"),
         method<&List::ReplaceInRichtext>(u"ReplaceInRichtext", u"ErrMsg"),
         method<&List::HighLightText>(u"HighLightText", u"Text", u"LineNumber"),
         method<&List::ResetToolTipText>(u"ResetToolTipText", u"Text", u"IsLeftButton"),
-        method<&List::GetPositionDisplay>(u"GetPositionDisplay"),
+        invokable<List, "GetPositionDisplay">(),
     };
 }
 
 // What the published control has not.
 QList<Member> addedMembers()
 {
-    return {
-        readWrite<&List::labelColumn, &List::setLabelColumn>(u"labelColumn"),
-        readWrite<&List::indentUnit, &List::setIndentUnit>(u"indentUnit"),
-        readOnly<&List::listView>(u"listView"),
-        readOnly<&List::codeView>(u"codeView"),
-        method<&List::openProgram>(u"openProgram", u"Text"),
-        method<&List::restoreUnsavedText>(u"restoreUnsavedText"),
-        method<&List::ClearUndoHistory>(u"ClearUndoHistory"),
-        method<&List::showFind>(u"showFind", optional(u"IsReplace")),
-    };
+    return properties<List, "labelColumn", "indentUnit">() +
+           QList{readOnly<&List::listView>(u"listView"), readOnly<&List::codeView>(u"codeView")} +
+           invokables<List, "openProgram", "restoreUnsavedText", "ClearUndoHistory">() +
+           QList{method<&List::showFind>(u"showFind", optional(u"IsReplace"))};
 }
 
 QList<Member> hostEvents()
@@ -166,10 +162,11 @@ QList<MemberFacts> editorFacts()
     };
 }
 
-const HandedClass handed(QMetaType::fromType<ORVListView *>(),
-                         &together<shellMembers, textMembers<List>, rowMembers, editorMembers,
-                                   commandMembers, addedMembers, listEvents<List>, hostEvents>,
-                         &together<tableFacts, editorFacts, inputFacts>);
+const HandedClass handed(
+    QMetaType::fromType<ORVListView *>(),
+    &together<tableMembers, shellMembers, textMembers<List>, rowMembers, rowCommands, editorMembers,
+              wordMembers, undoMembers, commandMembers, addedMembers, listEvents<List>, hostEvents>,
+    &together<tableFacts, editorFacts, inputFacts>);
 
 } // namespace
 

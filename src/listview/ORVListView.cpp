@@ -51,7 +51,7 @@ void ORVListView::setListviewType(LwType type)
         return;
     d->table->setNumberItems(defaultNumberItems(type));
     if (type == dsCode)
-        threadPart<Vocabulary>().resetFunctionWords();
+        d->editor->thread().vocabulary.resetFunctionWords();
     d->switchTo(type);
     d->told.tell(*this);
 }

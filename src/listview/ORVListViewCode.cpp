@@ -58,7 +58,7 @@ void ORVListView::setRichTexteNable(bool Enable)
 
 void ORVListView::setIsSqrtSupported(const QString &Value)
 {
-    threadPart<Vocabulary>().setIsSqrtSupported(Value);
+    d->editor->thread().vocabulary.setIsSqrtSupported(Value);
 }
 
 RichTextBox *ORVListView::RTextBox() const
@@ -197,7 +197,7 @@ void ORVListView::ResetToolTipText(QString &Text, bool &IsLeftButton)
 
 void ORVListView::SetCodeParent(QWidget *f)
 {
-    threadPart<HostForms>().codeParent = f;
+    d->editor->thread().forms.codeParent = f;
 }
 
 void ORVListView::setFormParent(QWidget *Form)

@@ -1,5 +1,6 @@
 #include <ORVTListview/ORVRichText.h>
 
+#include "members/DeclaredEntries.h"
 #include "members/HandedClass.h"
 #include "members/InputEvents.h"
 #include "members/TextMembers.h"
@@ -14,20 +15,11 @@ using Shell = ORVRichText;
 
 QList<Member> shellMembers()
 {
-    return {
-        method<&Shell::InitControl>(u"InitControl", u"FormParent"),
-        method<&Shell::RichTextCut>(u"RichTextCut"),
-        method<&Shell::RichTextCopy>(u"RichTextCopy"),
-        method<&Shell::RichTextSelectAll>(u"RichTextSelectAll"),
-        method<&Shell::ReinitializeWordCollection>(u"ReinitializeWordCollection"),
-        method<&Shell::IsWordFound>(u"IsWordFound", u"Name"),
-        method<&Shell::Find>(u"Find", u"Name", u"IndexLine", u"IndexPosition"),
-        method<&Shell::ReplaceSpaceEquivalent>(u"ReplaceSpaceEquivalent", u"Data"),
-        method<&Shell::Clear>(u"Clear"),
-        method<&Shell::GetData>(u"GetData"),
-        method<&Shell::ValidateTextColor>(u"ValidateTextColor"),
-        method<&Shell::ReloadData>(u"ReloadData", u"Data"),
-    };
+    return invokables<Shell, "InitControl", "RichTextCut", "RichTextCopy", "RichTextSelectAll",
+                      "ReinitializeWordCollection", "IsWordFound">() +
+           QList{method<&Shell::Find>(u"Find", u"Name", u"IndexLine", u"IndexPosition")} +
+           invokables<Shell, "ReplaceSpaceEquivalent", "Clear", "GetData", "ValidateTextColor",
+                      "ReloadData">();
 }
 
 QList<Member> inputEvents()

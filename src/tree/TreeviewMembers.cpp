@@ -1,5 +1,6 @@
 #include <ORVTListview/ORVTreeview.h>
 
+#include "members/DeclaredEntries.h"
 #include "members/HandedClass.h"
 #include "members/InputEvents.h"
 #include "members/TextMembers.h"
@@ -17,7 +18,7 @@ QList<Member> treeMembers()
     return {
         method<&Tree::SetNodeForeColor>(u"SetNodeForeColor", u"Index", u"Color"),
         readOnly<&Tree::Nodes>(u"Nodes"),
-        readWrite<&Tree::SelectedItem, &Tree::setSelectedItem>(u"SelectedItem"),
+        property<Tree, "SelectedItem">(),
         method<&Tree::HitTest>(u"HitTest", u"X", u"Y"),
         writeOnly<&Tree::setIsSqrtSupported>(u"IsSqrtSupported"),
         method<&Tree::OLEDrag>(u"OLEDrag"),

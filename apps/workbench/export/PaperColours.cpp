@@ -12,7 +12,7 @@ constexpr auto classes = {&RichTextSettings::VariableColor,     &RichTextSetting
                           &RichTextSettings::ReservedWordColor, &RichTextSettings::CommentColor,
                           &RichTextSettings::nviFPAColor,       &RichTextSettings::nvoFPAColor};
 
-// Colours are 0x00BBGGRR.
+// Colours are as Colour.h says.
 qint32 colourOf(const QRegularExpressionMatch &entry)
 {
     return entry.captured(1).toInt() | entry.captured(2).toInt() << 8 |

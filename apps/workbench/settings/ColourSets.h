@@ -15,7 +15,7 @@ enum class ColourSet {
     Own, // what the user has chosen
 };
 
-// A class of words, as the settings hold its colour. Colours are 0x00BBGGRR.
+// A class of words, as the settings hold its colour. Colours are as Colour.h says.
 using ClassColour = qint32 RichTextSettings::*;
 
 // The eight classes, in the order in which they are shown.

@@ -30,12 +30,6 @@ using namespace Qt::StringLiterals;
 
 constexpr double leastContrast = 4.5;
 
-double contrast(const QColor &one, const QColor &other)
-{
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 QIcon swatch(const QColor &colour, const QWidget &on)
 {
     const int size = on.fontMetrics().height();

@@ -1,5 +1,7 @@
 #include "workbench/settings/Theme.h"
 
+#include "widgets/look/Luminance.h"
+
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
@@ -96,7 +98,7 @@ void follow()
 {
     if (chosen != Theme::System || !isDesktopDark)
         show(chosen);
-    else if (QApplication::palette().color(QPalette::Window).lightness() >= 128)
+    else if (!isDark(QApplication::palette().color(QPalette::Window)))
         show(Theme::Dark);
 }
 

@@ -40,8 +40,7 @@ QPolygonF polygon(qsizetype mark, QPointF at, double r)
 
 QPen trendPen(qsizetype line, const QPalette &palette)
 {
-    const bool isDark = luminance(palette.color(QPalette::Base)) < 0.2;
-    const auto &colours = isDark ? onDark : onLight;
+    const auto &colours = isDark(palette.color(QPalette::Base)) ? onDark : onLight;
     const auto number = static_cast<std::size_t>(line);
     QPen pen(QColor(colours.at(number % colours.size())), 2);
     pen.setStyle(dashes.at(number % dashes.size()));

@@ -1,6 +1,5 @@
 #include "editor/rules/LineTexts.h"
 
-#include "base/TextRules.h"
 #include "editor/rules/language/CodeText.h"
 
 #include <QtCore/QCollator>
@@ -12,11 +11,6 @@ namespace ORVTListview {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-bool isEmptyLine(const QString &line)
-{
-    return std::all_of(line.begin(), line.end(), isBlank);
-}
 
 QString commented(const QString &line)
 {

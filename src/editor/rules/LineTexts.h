@@ -1,12 +1,21 @@
 #pragma once
 
 #include "base/HouseExport.h"
+#include "base/TextRules.h"
 #include "editor/rules/TextEdits.h"
 
 #include <QtCore/QList>
 #include <QtCore/QStringList>
 
+#include <algorithm>
+
 namespace ORVTListview {
+
+// A line, or a part of one, without a word.
+inline bool isEmptyLine(QStringView line)
+{
+    return std::all_of(line.begin(), line.end(), isBlank);
+}
 
 // The lines without their REM when all of them are comments, else each behind one, which
 // stands at the indent. Lines without a word stay as they are and do not count.

@@ -12,11 +12,6 @@ namespace {
 
 constexpr int steps = 32;
 
-bool isLight(const QColor &ground)
-{
-    return luminance(ground) > 0.179; // where black and white stand out equally
-}
-
 int distance(const QColor &one, const QColor &other)
 {
     return std::max({std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
@@ -24,13 +19,6 @@ int distance(const QColor &one, const QColor &other)
 }
 
 } // namespace
-
-double ViewColours::contrast(const QColor &one, const QColor &other)
-{
-    const double first = luminance(one) + 0.05;
-    const double second = luminance(other) + 0.05;
-    return std::max(first, second) / std::min(first, second);
-}
 
 QColor ViewColours::mixed(const QColor &one, const QColor &other, double share)
 {
@@ -47,7 +35,7 @@ QColor ViewColours::onGround(const QColor &wanted, const QColor &ground, double 
 QColor ViewColours::onGrounds(const QColor &wanted, const QList<QColor> &grounds,
                               double leastContrast)
 {
-    const QColor away = isLight(grounds.constFirst()) ? Qt::black : Qt::white;
+    const QColor away = isDark(grounds.constFirst()) ? Qt::white : Qt::black;
     QColor colour = wanted;
     const auto isFaint = [&](const QColor &ground) {
         return contrast(colour, ground) < leastContrast;
@@ -70,14 +58,13 @@ QColor ViewColours::textOf(const QWidget &box)
 QColor ViewColours::faintGround(const QColor &ground)
 {
     constexpr int noticeable = 9; // of 255
-    const QColor away = isLight(ground) ? Qt::white : Qt::black;
+    const QColor away = isDark(ground) ? Qt::black : Qt::white;
     const QColor mixture = mixed(ground, away, 0.5);
     if (distance(ground, mixture) >= noticeable)
         return mixture;
     // Blue adds next to nothing to what the eye takes for bright.
-    return isLight(ground)
-               ? QColor(ground.red(), ground.green(), std::max(0, ground.blue() - 30))
-               : QColor(ground.red(), ground.green(), std::min(255, ground.blue() + 38));
+    return isDark(ground) ? QColor(ground.red(), ground.green(), std::min(255, ground.blue() + 38))
+                          : QColor(ground.red(), ground.green(), std::max(0, ground.blue() - 30));
 }
 
 QColor ViewColours::tinted(const QColor &ground, const QColor &colour)

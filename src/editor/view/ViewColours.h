@@ -14,9 +14,6 @@ namespace ViewColours {
 constexpr double readable = 4.5; // the contrast that text needs
 constexpr double visible = 3.0;  // and what is no text
 
-// From 1 to 21, as the web accessibility guidelines define it.
-double contrast(const QColor &one, const QColor &other);
-
 // `share` of the second, 0 to 1, the rest of the first.
 QColor mixed(const QColor &one, const QColor &other, double share);
 

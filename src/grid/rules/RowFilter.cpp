@@ -13,9 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isBlank(const QString &text)
+// To the eye, whatever white space it holds.
+bool isEmpty(QStringView text)
 {
-    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
+    return text.trimmed().isEmpty();
 }
 
 // A filter made ready to look at many rows.
@@ -57,9 +58,9 @@ private:
         case CellFilter::Differs:
             return text != m_filter.text && !NaturalKey::isSame(NaturalKey(text), m_key);
         case CellFilter::IsEmpty:
-            return isBlank(text);
+            return isEmpty(text);
         case CellFilter::IsNotEmpty:
-            return !isBlank(text);
+            return !isEmpty(text);
         }
         return true;
     }

@@ -15,66 +15,56 @@ QVariant optionalPoint(const std::optional<Point> &point)
     return point ? QVariant::fromValue(*point) : QVariant();
 }
 
-QVariant item(const PointCollection &points, qint32 index)
+template <typename Collection>
+QVariant item(const Collection &points, qint32 index)
 {
     return optionalPoint(points.Item(index));
 }
 
 // The collections are asked by names in upper case.
-QVariant found(const PointCollection &points, const QString &key)
+template <typename Collection>
+QVariant found(const Collection &points, const QString &key)
 {
     return optionalPoint(points.Find(key.toUpper()));
 }
 
-QList<Member> collectionMembers()
+template <typename Collection>
+QList<Member> readingMembers()
 {
     return {
-        readOnly<&PointCollection::Count>(u"Count"),
-        method<&item>(u"Item", u"Index"),
-        method<&found>(u"Find", u"Key"),
+        readOnly<&Collection::Count>(u"Count"),
+        method<&item<Collection>>(u"Item", u"Index"),
+        method<&found<Collection>>(u"Find", u"Key"),
     };
 }
 
-QList<MemberFacts> collectionFacts()
+QList<MemberFacts> readingFacts()
 {
     return {{.name = u"Item"_s, .range = u"1 to Count()"_s}};
 }
 
-// As PointList is one, but at its own address.
-QVariant itemOfList(const PointList &points, qint32 index)
-{
-    return item(points, index);
-}
-
-QVariant foundInList(const PointList &points, const QString &key)
-{
-    return found(points, key);
-}
-
-QList<Member> listMembers()
+QList<Member> changingMembers()
 {
     return {
         method<&PointList::Add>(u"Add", u"Name", optional(u"Data")),
         method<&PointList::Remove>(u"Remove", u"Key"),
         method<&PointList::Clear>(u"Clear"),
-        readOnly<&PointList::Count>(u"Count"),
-        method<&itemOfList>(u"Item", u"Index"),
-        method<&foundInList>(u"Find", u"Key"),
     };
 }
 
-QList<MemberFacts> listFacts()
+QList<MemberFacts> changingFacts()
 {
     return {
         {.name = u"Add"_s, .failures = {InvalidCall}},
         {.name = u"Remove"_s, .failures = {InvalidCall}},
-        {.name = u"Item"_s, .range = u"1 to Count()"_s},
     };
 }
 
-const HandedClass handedCollection(QMetaType::fromType<PointCollection *>(), &collectionMembers,
-                                   &collectionFacts);
-const HandedClass handedList(QMetaType::fromType<PointList *>(), &listMembers, &listFacts);
+const HandedClass handedCollection(QMetaType::fromType<PointCollection *>(),
+                                   &readingMembers<PointCollection>, &readingFacts);
+const HandedClass handedList(QMetaType::fromType<PointList *>(),
+                             &together<changingMembers, readingMembers<PointList>>,
+                             &together<changingFacts, readingFacts>);
 
 // A list goes wherever a collection is taken.
 [[maybe_unused]] const bool listsAreCollections =

@@ -1,5 +1,6 @@
 #include <ORVTListview/RichTextBox.h>
 
+#include "members/DeclaredEntries.h"
 #include "members/HandedClass.h"
 #include "members/MemberEntries.h"
 
@@ -13,14 +14,13 @@ using Box = RichTextBox;
 
 QList<Member> textMembers()
 {
+    return properties<Box, "Text", "TextRTF", "SelStart", "SelLength", "SelText", "SelRTF",
+                      "SelColor">();
+}
+
+QList<Member> placeMembers()
+{
     return {
-        readWrite<&Box::Text, &Box::setText>(u"Text"),
-        readWrite<&Box::TextRTF, &Box::setTextRTF>(u"TextRTF"),
-        readWrite<&Box::SelStart, &Box::setSelStart>(u"SelStart"),
-        readWrite<&Box::SelLength, &Box::setSelLength>(u"SelLength"),
-        readWrite<&Box::SelText, &Box::setSelText>(u"SelText"),
-        readWrite<&Box::SelRTF, &Box::setSelRTF>(u"SelRTF"),
-        readWrite<&Box::SelColor, &Box::setSelColor>(u"SelColor"),
         method<&Box::GetLineFromChar>(u"GetLineFromChar", u"Position"),
         method<&Box::Find>(u"Find", u"Text", optional(u"Start"), optional(u"End", -1),
                            optional(u"Options")),
@@ -35,15 +35,8 @@ QList<Member> textMembers()
 
 QList<Member> lookMembers()
 {
-    return {
-        readWrite<&Box::BackColor, &Box::setBackColor>(u"BackColor"),
-        readWrite<&Box::FontName, &Box::setFontName>(u"FontName"),
-        readWrite<&Box::FontSize, &Box::setFontSize>(u"FontSize"),
-        readWrite<&Box::FontBold, &Box::setFontBold>(u"FontBold"),
-        readWrite<&Box::FontItalic, &Box::setFontItalic>(u"FontItalic"),
-        readWrite<&Box::FontUnderline, &Box::setFontUnderline>(u"FontUnderline"),
-        readWrite<&Box::FontStrikethrough, &Box::setFontStrikethrough>(u"FontStrikethrough"),
-    };
+    return properties<Box, "BackColor", "FontName", "FontSize", "FontBold", "FontItalic",
+                      "FontUnderline", "FontStrikethrough">();
 }
 
 QList<Member> events()
@@ -77,7 +70,7 @@ QList<MemberFacts> facts()
 }
 
 const HandedClass handed(QMetaType::fromType<RichTextBox *>(),
-                         &together<textMembers, lookMembers, events>, &facts);
+                         &together<textMembers, placeMembers, lookMembers, events>, &facts);
 
 } // namespace
 

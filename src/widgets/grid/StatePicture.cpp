@@ -148,9 +148,8 @@ QColor stateInk(CellState state, const QPalette &palette)
         return palette.color(QPalette::PlaceholderText);
     if (state != CellState::Alarm)
         return {};
-    constexpr double dark = 0.2;
-    const bool isDark = luminance(palette.color(QPalette::Base)) < dark;
-    return isDark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x18, 0x18);
+    return isDark(palette.color(QPalette::Base)) ? QColor(0xff, 0x8a, 0x80)
+                                                 : QColor(0xb0, 0x18, 0x18);
 }
 
 } // namespace ORVTListview

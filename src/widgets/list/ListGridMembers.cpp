@@ -1,3 +1,4 @@
+#include "members/DeclaredEntries.h"
 #include "members/HandedClass.h"
 #include "members/MemberEntries.h"
 #include <ORVTListview/Error.h>
@@ -53,10 +54,10 @@ void setCellState(Grid &grid, ListItem *item, qint16 column, CellState state)
 QList<Member> cellMembers()
 {
     return {
-        readWrite<&Grid::editsCells, &Grid::setEditsCells>(u"editsCells"),
-        readWrite<&Grid::selectsCells, &Grid::setSelectsCells>(u"selectsCells"),
+        property<Grid, "editsCells">(),
+        property<Grid, "selectsCells">(),
         method<&Grid::copyCells>(u"copyCells", optional(u"withHeaders")),
-        method<&Grid::pasteCells>(u"pasteCells"),
+        invokable<Grid, "pasteCells">(),
         readWrite<&Grid::table, &Grid::setTable>(u"table"),
         method<&Grid::setRules>(u"setRules", u"table", u"rules"),
         method<&Grid::rules>(u"rules", u"table"),
@@ -67,39 +68,40 @@ QList<Member> cellMembers()
         readWrite<&Grid::undoStack, &Grid::setUndoStack>(u"undoStack"),
         method<&cellState>(u"cellState", u"item", u"column"),
         method<&setCellState>(u"setCellState", u"item", u"column", u"state"),
-        readWrite<&Grid::showsLocalNumbers, &Grid::setShowsLocalNumbers>(u"showsLocalNumbers"),
-        readWrite<&Grid::flashesChanges, &Grid::setFlashesChanges>(u"flashesChanges"),
+        property<Grid, "showsLocalNumbers">(),
+        property<Grid, "flashesChanges">(),
     };
 }
 
 QList<Member> rowMembers()
 {
     return {
-        readWrite<&Grid::sortsRows, &Grid::setSortsRows>(u"sortsRows"),
+        property<Grid, "sortsRows">(),
         readWrite<&sortKeys, &setSortKeys>(u"sortKeys"),
-        readWrite<&Grid::filterPlace, &Grid::setFilterPlace>(u"filterPlace"),
+        property<Grid, "filterPlace">(),
         method<&Grid::filterText>(u"filterText", u"column"),
         method<&Grid::setFilterText>(u"setFilterText", u"column", u"text"),
         readOnly<&Grid::rowsShown>(u"rowsShown"),
-        method<&Grid::arrangeRows>(u"arrangeRows"),
-        readWrite<&Grid::editsRows, &Grid::setEditsRows>(u"editsRows"),
-        method<&Grid::addRow>(u"addRow"),
-        method<&Grid::removeRows>(u"removeRows"),
-        method<&Grid::duplicateRows>(u"duplicateRows"),
-        method<&Grid::moveRowsUp>(u"moveRowsUp"),
-        method<&Grid::moveRowsDown>(u"moveRowsDown"),
+        invokable<Grid, "arrangeRows">(),
     };
+}
+
+QList<Member> rowCommands()
+{
+    return properties<Grid, "editsRows">() +
+           invokables<Grid, "addRow", "removeRows", "duplicateRows", "moveRowsUp",
+                      "moveRowsDown">();
 }
 
 QList<Member> columnMembers()
 {
     return {
-        readWrite<&Grid::arrangesColumns, &Grid::setArrangesColumns>(u"arrangesColumns"),
+        property<Grid, "arrangesColumns">(),
         method<&Grid::columnLayout>(u"columnLayout", u"table"),
         method<&Grid::setColumnLayout>(u"setColumnLayout", u"table", u"layout"),
-        readWrite<&Grid::keepsFirstColumns, &Grid::setKeepsFirstColumns>(u"keepsFirstColumns"),
-        method<&Grid::fitColumn>(u"fitColumn", u"column"),
-        readWrite<&Grid::hasMenu, &Grid::setHasMenu>(u"hasMenu"),
+        property<Grid, "keepsFirstColumns">(),
+        invokable<Grid, "fitColumn">(),
+        property<Grid, "hasMenu">(),
     };
 }
 
@@ -136,7 +138,8 @@ QList<MemberFacts> facts()
 }
 
 const HandedClass handed(QMetaType::fromType<ListGrid *>(),
-                         &together<cellMembers, rowMembers, columnMembers, events>, &facts);
+                         &together<cellMembers, rowMembers, rowCommands, columnMembers, events>,
+                         &facts);
 
 } // namespace
 

@@ -1,3 +1,4 @@
+#include "members/DeclaredEntries.h"
 #include "members/HandedClass.h"
 #include "widgets/list/ListEvents.h"
 #include <ORVTListview/ColumnHeaders.h>
@@ -36,16 +37,16 @@ QList<Member> rowMembers()
 QList<Member> mannerMembers()
 {
     return {
-        readWrite<&List::MultiSelect, &List::setMultiSelect>(u"MultiSelect"),
+        property<List, "MultiSelect">(),
         method<&List::StartLabelEdit>(u"StartLabelEdit"),
         method<&List::Refresh>(u"Refresh"),
         method<&List::Drag>(u"Drag", u"Action"),
         method<&List::fitColumns>(u"fitColumns"),
         method<&List::GetSubItemWidth>(u"GetSubItemWidth", u"Index"),
         readOnly<&List::grid>(u"grid"),
-        readWrite<&List::hasCheckBoxes, &List::setCheckBoxes>(u"checkBoxes"),
-        readWrite<&List::copiesRows, &List::setCopiesRows>(u"copiesRows"),
-        readWrite<&List::editsLabels, &List::setEditsLabels>(u"editsLabels"),
+        property<List, "checkBoxes">(),
+        property<List, "copiesRows">(),
+        property<List, "editsLabels">(),
         readWrite<&List::labelColumn, &List::setLabelColumn>(u"labelColumn"),
         readWrite<&List::isHeaderVisible, &List::setHeaderVisible>(u"headerVisible"),
     };

@@ -2,6 +2,7 @@
 
 #include <QtGui/QColor>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -29,6 +30,20 @@ inline double luminance(const QColor &colour)
     };
     return 0.2126 * linear(colour.red()) + 0.7152 * linear(colour.green()) +
            0.0722 * linear(colour.blue());
+}
+
+// From 1 to 21, as they define it.
+inline double contrast(const QColor &one, const QColor &other)
+{
+    const double first = luminance(one) + 0.05;
+    const double second = luminance(other) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+// White stands out from it at least as well as black.
+inline bool isDark(const QColor &ground)
+{
+    return luminance(ground) <= 0.179;
 }
 
 } // namespace ORVTListview

@@ -4,6 +4,7 @@
 #include "editor/view/ViewFixture.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
+#include "widgets/look/Luminance.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QWheelEvent>
@@ -19,7 +20,7 @@ double strongest(const QImage &picture, const QRect &part, const QColor &ground)
     double most = 1;
     for (int y = part.top(); y <= part.bottom(); ++y) {
         for (int x = part.left(); x <= part.right(); ++x)
-            most = std::max(most, ViewColours::contrast(picture.pixelColor(x, y), ground));
+            most = std::max(most, contrast(picture.pixelColor(x, y), ground));
     }
     return most;
 }
@@ -370,17 +371,17 @@ private Q_SLOTS:
         QFETCH(const QColor, ground);
         const QColor faint = ViewColours::faintGround(ground);
         QVERIFY(faint != ground);
-        QVERIFY(ViewColours::contrast(faint, ground) < 1.3);
+        QVERIFY(contrast(faint, ground) < 1.3);
         const bool isLight = ground.lightness() > 128;
         for (int step = 0; step < 64; ++step) {
             const int level = isLight ? step : 255 - step;
             for (const QColor &text : {QColor(level, level, level), QColor(level, 0, 0),
                                        QColor(level, 255 - level, level)}) {
-                const double before = ViewColours::contrast(text, ground);
+                const double before = contrast(text, ground);
                 if (before < 4.5)
                     continue;
                 // A hundredth or two are lost where the ground can go nowhere.
-                QVERIFY(ViewColours::contrast(text, faint) >= before * 0.97);
+                QVERIFY(contrast(text, faint) >= before * 0.97);
             }
         }
     }

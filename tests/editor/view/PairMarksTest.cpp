@@ -1,10 +1,10 @@
 // What is marked at the caret: brackets, the words of a block, and other uses of a word.
 
 #include "editor/view/BlockSearch.h"
-#include "editor/view/ViewColours.h"
 #include "editor/view/ViewFixture.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
+#include "widgets/look/Luminance.h"
 
 #include <QtCore/QTimer>
 
@@ -152,7 +152,7 @@ private Q_SLOTS:
         const auto isDrawn = [&](int line) {
             const QColor edge =
                 shown.pixelColor(shown.width() - 2, m_host->placeOf(line).center().y() + 1);
-            return ViewColours::contrast(edge, m_host->ground()) >= 2.9;
+            return contrast(edge, m_host->ground()) >= 2.9;
         };
         QVERIFY(!isDrawn(0));
         QVERIFY(isDrawn(1) && isDrawn(2) && isDrawn(3));
