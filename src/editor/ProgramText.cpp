@@ -79,6 +79,7 @@ void ProgramText::setAnew()
     const auto finish = qScopeGuard([this] { m_box.setUpdatesEnabled(true); });
     try {
         takeHead();
+        m_box.setText(QString()); // no line of it is typed on any more
         m_box.setColoured(m_undo.coloured(kept));
     } catch (const std::exception &) {
         m_box.setText(kept); // uncoloured is better than lost
@@ -130,8 +131,7 @@ void ProgramText::openProgram(const QString &text)
         openInParts(program);
     else
         m_box.setColoured(m_thread.finished(program, Spelling::Listed));
-    if (m_box.Text() == program) // else a receiver of the document has put in another
-        m_undo.noteFinished(program);
+    m_undo.noteFinished(program);
     m_box.ensureCursorVisible();
     m_undo.beginWithShown();
 }
