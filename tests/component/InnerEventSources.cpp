@@ -12,6 +12,7 @@
 
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QHeaderView>
 
