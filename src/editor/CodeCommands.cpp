@@ -154,10 +154,13 @@ void CodeCommands::fillMenu(QMenu &menu)
 {
     using Way = EditorUndo::Way;
     EditorUndo &history = m_acts.undo;
-    addChange(menu, u"Undo"_s, history.canUserUndo(),
-              [&history] { history.stepForUser(Way::Back); });
-    addChange(menu, u"Redo"_s, history.canUserRedo(),
-              [&history] { history.stepForUser(Way::Forward); });
+    const QPointer<RichTextBox> alive(&box()); // the host is asked and may destroy it
+    const bool canUndo = history.canUserUndo();
+    const bool canRedo = alive && history.canUserRedo();
+    if (!alive)
+        return;
+    addChange(menu, u"Undo"_s, canUndo, [&history] { history.stepForUser(Way::Back); });
+    addChange(menu, u"Redo"_s, canRedo, [&history] { history.stepForUser(Way::Forward); });
     menu.addSeparator();
     PlainCommands::fillMenu(menu);
     localise(menu);

@@ -63,11 +63,10 @@ void EditorKeys::keyDown(qint16 &KeyCode, qint16 Shift)
 {
     const QPointer<EditorKeys> self(this); // the host may destroy it in an event
     bool reachesBox = false;
-    try {
+    EventGuard::run([&] { // a key never ends in an error message
         reachesBox = carryOut(decide(KeyCode, Shift), KeyCode, Shift);
-    } catch (const std::exception &) {
-        // A key never ends in an error message.
-    }
+        return true;
+    });
     if (!reachesBox)
         KeyCode = 0;
     if (self)

@@ -64,9 +64,7 @@ void ProgramText::Init_RichTextBox(const RichTextSettings &Setting)
 void ProgramText::colourInPlace()
 {
     try {
-        RichTextBox sample;
-        sample.setFont(m_box.font());
-        takeHead(sample);
+        takeHead();
         m_box.recolour(0, m_undo.coloured(m_box.Text()));
     } catch (const std::exception &) {
         return; // in its former colours
@@ -80,7 +78,8 @@ void ProgramText::setAnew()
     m_box.setUpdatesEnabled(false);
     const auto finish = qScopeGuard([this] { m_box.setUpdatesEnabled(true); });
     try {
-        takeHead(m_box);
+        takeHead();
+        m_box.setText(QString()); // no line of it is typed on any more
         m_box.setColoured(m_undo.coloured(kept));
     } catch (const std::exception &) {
         m_box.setText(kept); // uncoloured is better than lost
@@ -98,17 +97,16 @@ void ProgramText::applyAppearance(const RichTextSettings &setting)
     m_box.setFontUnderline(hasMark(setting.FontStyle, u"u1"));
 }
 
-// From what a box writes for two lines in its font; leaves the box empty.
-void ProgramText::takeHead(RichTextBox &box)
+// From what a box writes for two lines in the font of this one, whose text stays meanwhile.
+void ProgramText::takeHead()
 {
-    box.setText(QString());
-    box.setSelText(u"#GetInfo#\r\n#Another word"_s);
-    box.selectAll();
-    const QString sample = box.SelRTF();
-    box.setText(QString());
+    RichTextBox sample;
+    sample.setFont(m_box.font());
+    sample.setText(u"#GetInfo#\r\n#Another word"_s);
+    sample.selectAll();
     EditorState &state = m_thread.state;
     state.RtfHeader =
-        BuildRtfHeader(sample, state.EditorSettings, m_thread.messages.service()).Header;
+        BuildRtfHeader(sample.SelRTF(), state.EditorSettings, m_thread.messages.service()).Header;
 }
 
 QString ProgramText::CodeText() const

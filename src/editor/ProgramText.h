@@ -41,7 +41,7 @@ private:
     void applyAppearance(const RichTextSettings &setting);
     void colourInPlace();
     void setAnew();
-    void takeHead(RichTextBox &box);
+    void takeHead();
 
     RichTextBox &m_box;
     const EditorThread &m_thread;

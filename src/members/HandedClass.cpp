@@ -3,6 +3,7 @@
 #include <QtCore/QObject>
 
 #include <algorithm>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -18,6 +19,9 @@ QString className(QMetaType type)
     return name.replace(u"<int>"_s, u"<qint32>"_s);
 }
 
+// A library may be loaded while other threads make calls. Ready before any of the list.
+constinit std::mutex mutex;
+
 } // namespace
 
 HandedClass *HandedClass::s_first = nullptr;
@@ -26,13 +30,14 @@ HandedClass::HandedClass(QMetaType type, Members entries, Facts facts) noexcept
     : m_type(type)
     , m_members(entries)
     , m_facts(facts)
-    , m_next(s_first)
 {
-    s_first = this;
+    const std::lock_guard lock(mutex);
+    m_next = std::exchange(s_first, this);
 }
 
 HandedClass::~HandedClass()
 {
+    const std::lock_guard lock(mutex);
     HandedClass **place = &s_first;
     while (*place != this)
         place = &(*place)->m_next;
@@ -48,28 +53,37 @@ const MemberTable &HandedClass::table() const
     return *m_table;
 }
 
+// The table is made without the lock, since what it takes is not ours alone.
+template <typename Wanted>
+const HandedClass *HandedClass::find(const Wanted &wanted)
+{
+    const std::lock_guard lock(mutex);
+    const HandedClass *each = s_first;
+    while (each && !wanted(*each))
+        each = each->m_next;
+    return each;
+}
+
 const MemberTable *HandedClass::members(QMetaType type)
 {
-    for (const HandedClass *each = s_first; each; each = each->m_next) {
-        if (each->m_type == type)
-            return &each->table();
-    }
-    return nullptr;
+    const auto *found = find([type](const HandedClass &each) { return each.m_type == type; });
+    return found ? &found->table() : nullptr;
 }
 
 const MemberTable *HandedClass::members(const QMetaObject &meta)
 {
     for (const QMetaObject *base = &meta; base; base = base->superClass()) {
-        for (const HandedClass *each = s_first; each; each = each->m_next) {
-            if (each->m_type.metaObject() == base)
-                return &each->table();
-        }
+        const auto *found =
+            find([base](const HandedClass &each) { return each.m_type.metaObject() == base; });
+        if (found)
+            return &found->table();
     }
     return nullptr;
 }
 
 QList<QMetaType> HandedClass::types()
 {
+    const std::lock_guard lock(mutex);
     QList<QMetaType> types;
     for (const HandedClass *each = s_first; each; each = each->m_next)
         types.append(each->m_type);

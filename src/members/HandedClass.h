@@ -43,12 +43,15 @@ public:
     static void *addressIn(QVariant &object);
 
 private:
+    template <typename Wanted>
+    static const HandedClass *find(const Wanted &wanted);
+
     static HandedClass *s_first;
 
     const QMetaType m_type;
     const Members m_members;
     const Facts m_facts;
-    HandedClass *m_next;
+    HandedClass *m_next = nullptr;
     mutable std::once_flag m_once;
     mutable std::optional<MemberTable> m_table;
 };

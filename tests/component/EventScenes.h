@@ -73,3 +73,6 @@ std::unique_ptr<EventScene> imageCombo();
 } // namespace EventScenes
 
 const QList<EventSubject> &eventSubjects();
+
+// Those of the parts of controls, which are among them.
+QList<EventSubject> innerEventSubjects();

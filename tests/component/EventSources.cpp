@@ -478,23 +478,26 @@ const QList<EventSubject> &eventSubjects()
     static const auto list = [](const Scene &scene) { return scene.list.data(); };
     static const auto box = [](const Scene &scene) { return scene.box.data(); };
     static const auto combo = [](const Scene &scene) { return scene.combo.data(); };
-    static const QList<EventSubject> all{
-        {"point table", pointTable, control, listSources() + buttonSources()},
-        {"list of a table", pointTable, list, checkBoxSources()},
-        {"list as a view", pointTable, list, viewSources(), false},
-        {"code editor", codeEditor, control, editorSources() + buttonSources()},
-        {"box of an editor", codeEditor, box, editorBoxSources()},
-        {"project tree", projectTree, control, treeSources()},
-        {"data combo", dataCombo, control, comboSources()},
-        {"report list", reportList, control, listSources()},
-        {"node tree", nodeTree, control, withoutDrags(treeSources())},
-        {"drags of a node tree", nodeTree,
-         [](const Scene &scene) { return raiserOf(scene.tree->drags()); }, dragsOf(treeSources())},
-        {"rich text box", richTextBox, control, boxSources()},
-        {"image combo", imageCombo, combo, withoutDrags(comboSources())},
-        {"drags of an image combo", imageCombo,
-         [](const Scene &scene) { return raiserOf(scene.combo->drags()); },
-         dragsOf(comboSources())},
-    };
+    static const auto all =
+        QList<EventSubject>{
+            {"point table", pointTable, control, listSources() + buttonSources()},
+            {"list of a table", pointTable, list, checkBoxSources()},
+            {"list as a view", pointTable, list, viewSources(), false},
+            {"code editor", codeEditor, control, editorSources() + buttonSources()},
+            {"box of an editor", codeEditor, box, editorBoxSources()},
+            {"project tree", projectTree, control, treeSources()},
+            {"data combo", dataCombo, control, comboSources()},
+            {"report list", reportList, control, listSources()},
+            {"node tree", nodeTree, control, withoutDrags(treeSources())},
+            {"drags of a node tree", nodeTree,
+             [](const Scene &scene) { return raiserOf(scene.tree->drags()); },
+             dragsOf(treeSources())},
+            {"rich text box", richTextBox, control, boxSources()},
+            {"image combo", imageCombo, combo, withoutDrags(comboSources())},
+            {"drags of an image combo", imageCombo,
+             [](const Scene &scene) { return raiserOf(scene.combo->drags()); },
+             dragsOf(comboSources())},
+        } +
+        innerEventSubjects();
     return all;
 }

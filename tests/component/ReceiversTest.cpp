@@ -172,8 +172,9 @@ private:
 void ReceiversTest::everyEventHasASource()
 {
     static const QSet<QString> elsewhere{
-        u"OLEGiveFeedback"_s, u"OLESetData"_s,  u"QueryReload"_s, u"QuerySetWord"_s,
-        u"UpdateWordList"_s,  u"UpdatePages"_s, u"edited"_s,      u"focusLeft"_s};
+        u"OLEGiveFeedback"_s, u"OLESetData"_s,     u"QueryReload"_s,
+        u"QuerySetWord"_s,    u"UpdateWordList"_s, u"UpdatePages"_s,
+        u"edited"_s,          u"focusLeft"_s,      u"textReplaced"_s};
     QHash<const QMetaObject *, QSet<QString>> covered;
     for (const EventSubject &subject : eventSubjects()) {
         const auto scene = subject.make();

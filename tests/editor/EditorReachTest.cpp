@@ -171,6 +171,34 @@ private:
         }
     }
 
+    // Those of a host's menu.
+    void command()
+    {
+        CodeView &view = *m_host->list->codeView();
+        const unsigned which = pick(9);
+        note(u"command %1"_s.arg(which));
+        switch (which) {
+        case 0:
+            return view.moveLines(pick(2) == 0 ? 1 : -1);
+        case 1:
+            return view.duplicateLines();
+        case 2:
+            return view.deleteLines();
+        case 3:
+            return view.joinLines();
+        case 4:
+            return view.sortLines();
+        case 5:
+            return view.toggleComment();
+        case 6:
+            return view.upperCase();
+        case 7:
+            return view.lowerCase();
+        default:
+            return view.tidy();
+        }
+    }
+
     void goBackOrForward()
     {
         QString errMsg;
@@ -202,7 +230,8 @@ private:
              &EditorReachTest::pressAKey, &EditorReachTest::pressAKey, &EditorReachTest::pressAKey,
              &EditorReachTest::select, &EditorReachTest::select, &EditorReachTest::useInputMethod,
              &EditorReachTest::pasteByKey, &EditorReachTest::drop, &EditorReachTest::useMenu,
-             &EditorReachTest::call, &EditorReachTest::goBackOrForward, &EditorReachTest::click});
+             &EditorReachTest::call, &EditorReachTest::command, &EditorReachTest::goBackOrForward,
+             &EditorReachTest::click});
         if (m_host->box().TextLength() > 400) {
             note(u"select all"_s);
             m_host->list->RTextSelectAll();
@@ -258,13 +287,22 @@ private:
     }
 
 private Q_SLOTS:
+    void whatStoodStaysInReach_data()
+    {
+        QTest::addColumn<bool>("keepsText");
+        QTest::newRow("as colouring writes it") << false;
+        QTest::newRow("as it was typed") << true;
+    }
     void whatStoodStaysInReach()
     {
+        QFETCH(const bool, keepsText);
         const unsigned seed = randomSeed(20261121);
         const int steps = randomSteps(2000);
         m_random.seed(seed);
         EditorHost host;
         m_host = &host;
+        m_stood.clear();
+        host.list->codeView()->setKeepsText(keepsText);
         threadPart<EditorClock>().now = [this] { return m_time; };
         host.list->setCodeText(u"if temp1 = 12"_s);
         for (int i = 0; i < steps; ++i) {

@@ -82,19 +82,17 @@ class WidgetFaultsTest : public WidgetTest
     }
 
 private Q_SLOTS:
-    // The memory fails behind the sample of its font, when the box is empty.
+    // The memory fails when the box is empty.
     void aTextThatCannotBeColouredStays()
     {
         const QString program = u"IF Temp1 > 20\r\nFan1 = ON\r\nENDIF"_s;
         EditorHost host;
         host.list->setCodeText(program);
-        bool hasSample = false;
         std::optional<FailingAllocation> failing;
         const QTextDocument *document = host.box().document();
         const auto watch = connect(document, &QTextDocument::contentsChanged, this, [&] {
-            if (hasSample && !failing && document->isEmpty())
+            if (!failing && document->isEmpty())
                 failing.emplace(1, Shortage::Once);
-            hasSample = hasSample || document->toPlainText().startsWith(u"#GetInfo#"_s);
         });
         host.list->Init_RichTextBox(host.settings);
         failing.reset();

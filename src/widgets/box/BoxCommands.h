@@ -79,7 +79,7 @@ public:
     // Ctrl+Tab, and with Shift backwards: the focus goes to another widget.
     virtual void leave(bool forwards) = 0;
 
-    // An empty menu is not shown.
+    // An empty menu is not shown. May destroy the box.
     virtual void fillMenu(QMenu &menu) = 0;
 };
 

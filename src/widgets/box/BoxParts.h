@@ -4,6 +4,7 @@
 #include "widgets/box/BoxFormats.h"
 #include "widgets/box/BoxText.h"
 #include "widgets/box/LateColours.h"
+#include "widgets/box/ReplacedText.h"
 #include "widgets/input/EventSurface.h"
 #include "widgets/look/Colours.h"
 
@@ -79,6 +80,8 @@ struct BoxParts
     int changing = 0;             // how many Changing live
     bool hasChanged = false;      // Change waits for them
     bool isChangeQueued = false;
+    std::optional<ReplacedText> replaced; // is told before Change
+    quint64 replacements = 0;             // how often the whole text was
     EventSurface surface;
     std::unique_ptr<BoxCommands> commands;
     BoxLayers *layers = nullptr;     // the box owns them

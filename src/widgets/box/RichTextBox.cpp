@@ -37,7 +37,7 @@ qint32 advance(qint32 position, qint32 length)
 // While the toolkit clears a document it sets the list of its cursors aside: one that a
 // slot destroys meanwhile is written to later, and one that it makes stays behind when
 // text changes. So everybody hears of it when it is done.
-void clearAll(QTextDocument &document)
+void clearOnce(QTextDocument &document)
 {
     const int length = document.characterCount();
     const bool hadLines = document.blockCount() > 1;
@@ -49,6 +49,14 @@ void clearAll(QTextDocument &document)
     if (hadLines)
         Q_EMIT document.blockCountChanged(document.blockCount());
     Q_EMIT document.contentsChanged();
+}
+
+// Again where a receiver has put a text of its own in.
+void clearAll(QTextDocument &document)
+{
+    clearOnce(document);
+    if (!document.isEmpty())
+        clearOnce(document);
 }
 
 // Into an empty document, without the colours where they come late. The text as a whole.
@@ -122,7 +130,11 @@ RichTextBox::Changing::Changing(RichTextBox &box)
 
 RichTextBox::Changing::~Changing()
 {
-    if (m_box && --m_box->d->changing == 0 && std::exchange(m_box->d->hasChanged, false))
+    if (!m_box || --m_box->d->changing > 0)
+        return;
+    if (const auto replaced = std::exchange(m_box->d->replaced, {}))
+        replaced->tellFrom(*m_box); // may destroy it
+    if (m_box && std::exchange(m_box->d->hasChanged, false))
         raiseEvent(*m_box, &RichTextBox::Change);
 }
 
@@ -158,12 +170,17 @@ void RichTextBox::replaceAll(const std::function<void()> &insert)
 {
     const Changing changing(*this);
     d->announceChange(true);
+    if (!d->replaced)
+        d->replaced.emplace(*this);
     {
         const QScopedValueRollback quiet(d->isQuiet, true);
+        ++d->replacements;
         d->late.stop();
+        const QSignalBlocker unheard(this);
         insert();
         d->text.sharedText();
     }
+    d->announcedChanges = d->text.changeCount();
     noteChange();
 }
 
@@ -365,10 +382,13 @@ void RichTextBox::setColoured(const ColouredText &text)
         if (isLate)
             now.runs.clear();
         QTextCursor cursor = lines.toReplace();
+        const quint64 replacement = d->replacements;
         {
             BoxSink sink(cursor, d->formats);
             writeColoured(now, d->formats.base(), sink);
         }
+        if (d->replacements != replacement)
+            return; // a receiver of the document has put in another text
         d->text.know(text.text, mayKeepFormer);
         if (isLate)
             d->late.begin(ColouredLines(text),
@@ -385,9 +405,13 @@ void RichTextBox::setColoured(const NextPart &next)
     std::exception_ptr failure;
     replaceAll([&] {
         clearAll(*document());
+        const quint64 replacement = d->replacements;
         ColouredLines lines;
         try {
-            d->text.know(putParts(next, allowed, *document(), d->formats, lines), false);
+            const QString whole = putParts(next, allowed, *document(), d->formats, lines);
+            if (d->replacements != replacement)
+                return; // a receiver of the document has put in another text
+            d->text.know(whole, false);
         } catch (...) { // half a text would pass for a whole one
             failure = std::current_exception();
             clearAll(*document());

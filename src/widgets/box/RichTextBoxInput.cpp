@@ -332,14 +332,17 @@ void RichTextBox::contextMenuEvent(QContextMenuEvent *event)
 {
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    event->accept();
+    const QPointer<RichTextBox> self(this);
     commands().fillMenu(*menu);
+    if (!self)
+        return;
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     if (menu->isEmpty())
         delete menu;
     else
         menu->popup(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft())
                           : event->globalPos());
-    event->accept();
 }
 
 } // namespace ORVTListview

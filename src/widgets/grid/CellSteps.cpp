@@ -11,6 +11,7 @@
 #include <QtGui/QUndoStack>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace ORVTListview {
@@ -38,12 +39,29 @@ struct StacksInUse
     QHash<const QUndoStack *, Waiting> waiting;
 };
 
+// Done once, when the stack says that it is done with a step, or else soon.
+void whenDone(const QUndoStack *stack, const StacksInUse::Later &later)
+{
+    const auto once = [act = later.act, isDone = std::make_shared<bool>(false)] {
+        if (!std::exchange(*isDone, true))
+            act();
+    };
+    const auto onceOnly =
+        static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::SingleShotConnection);
+    QObject::connect(stack, &QUndoStack::indexChanged, later.context.data(), once, onceOnly);
+    QMetaObject::invokeMethod(later.context.data(), once, Qt::QueuedConnection);
+}
+
 class StackUse
 {
 public:
-    explicit StackUse(const QUndoStack *stack)
+    // Whether the stack is done with its step when this one ends.
+    enum class Ends { BehindStep, InStep };
+
+    explicit StackUse(const QUndoStack *stack, Ends ends = Ends::BehindStep)
         : m_stack(stack)
         , m_isOutermost(!isUsed(stack))
+        , m_ends(ends)
     {
         if (m_isOutermost)
             threadPart<StacksInUse>().waiting.insert(stack, {});
@@ -55,7 +73,9 @@ public:
         auto &waiting = threadPart<StacksInUse>().waiting;
         while (!waiting[m_stack].next.isEmpty()) {
             const StacksInUse::Later next = waiting[m_stack].next.takeFirst();
-            if (next.context)
+            if (next.context && m_ends == Ends::InStep)
+                whenDone(m_stack, next);
+            else if (next.context)
                 next.act();
         }
         for (const StacksInUse::Later &each : waiting.take(m_stack).later) {
@@ -64,8 +84,6 @@ public:
         }
     }
     Q_DISABLE_COPY_MOVE(StackUse) // lasts for a block
-
-    bool isOutermost() const { return m_isOutermost; }
 
     static bool isUsed(const QUndoStack *stack)
     {
@@ -83,6 +101,7 @@ public:
 private:
     const QUndoStack *const m_stack;
     const bool m_isOutermost;
+    const Ends m_ends;
 };
 
 class CellStep final : public QUndoCommand
@@ -106,29 +125,22 @@ public:
     }
 
 private:
+    // Outermost where the host itself has asked the stack for the step.
     void step(bool (CellWriter::*change)(const QList<CellChange> &))
     {
-        const StackUse use(m_stack);
+        const StackUse use(m_stack, StackUse::Ends::InStep);
         setObsolete(!m_writer || !(m_writer.data()->*change)(m_changes));
         if (m_writer)
-            tellSoon(use.isOutermost());
+            tellNext();
     }
 
-    // Of a step that the host has asked for, the stack says when it is done.
-    void tellSoon(bool isHosts)
+    void tellNext()
     {
         const auto tell = [writer = m_writer.data(), stack = m_stack] {
             const StackUse use(stack);
             writer->tellRepeated();
         };
-        if (!isHosts) {
-            StackUse::next(m_stack, {m_writer.data(), tell});
-            return;
-        }
-        const auto onceOnly =
-            static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::SingleShotConnection);
-        QObject::connect(m_stack, &QUndoStack::indexChanged, m_writer.data(), tell, onceOnly);
-        QMetaObject::invokeMethod(m_writer.data(), tell, Qt::QueuedConnection);
+        StackUse::next(m_stack, {m_writer.data(), tell});
     }
 
     const QPointer<CellWriter> m_writer;
@@ -238,7 +250,10 @@ void CellSteps::forget()
 {
     m_unkept.clear();
     if (m_own && StackUse::isUsed(m_own))
-        StackUse::next(m_own, {&m_writer, [this] { m_own->clear(); }});
+        StackUse::next(m_own, {&m_writer, [own = m_own] {
+                                   if (own)
+                                       own->clear();
+                               }});
     else if (m_own)
         m_own->clear();
 }

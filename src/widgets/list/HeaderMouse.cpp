@@ -125,6 +125,7 @@ bool HeaderMouse::actOnDivider(const QMouseEvent &event)
     } else if (event.type() == QEvent::MouseMove && m_resized >= 0) {
         m_header.resizeSection(m_resized,
                                std::max(m_header.minimumSectionSize(), place + m_beside));
+        return true; // whom that tells may have destroyed the header
     } else if (event.type() == QEvent::MouseButtonRelease && m_resized >= 0) {
         m_resized = -1;
         return true;

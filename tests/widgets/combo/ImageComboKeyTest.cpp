@@ -16,6 +16,7 @@ class ImageComboKeyTest : public WidgetTest
 
 private Q_SLOTS:
     void raisesEventsInOrder();
+    void ctrlSpaceIsNoCharacter();
     void raisesChangeWhenTheFieldIsDone();
     void goesThroughTheListAndNoFurther();
     void goesThroughTheEntriesWithTheListClosed();
@@ -48,6 +49,17 @@ void ImageComboKeyTest::raisesEventsInOrder()
     QCOMPARE(events.take(), u"KeyDown 16 1, KeyDown 117 1, KeyUp 117 1, KeyUp 16 0"_s);
     shown.key(Qt::Key_Left);
     QCOMPARE(events.take(), u"KeyDown 37 0, KeyUp 37 0"_s);
+}
+
+// It types the character 0 where there is a keyboard.
+void ImageComboKeyTest::ctrlSpaceIsNoCharacter()
+{
+    const ShownCombo shown;
+    ComboEvents events(shown.combo);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier, QString(QChar(0)));
+    QCoreApplication::sendEvent(&shown.field(), &press);
+    QCOMPARE(events.take(), u"KeyDown 32 2"_s);
+    QCOMPARE(shown.field().text(), QString());
 }
 
 void ImageComboKeyTest::raisesChangeWhenTheFieldIsDone()

@@ -343,6 +343,37 @@ private Q_SLOTS:
         QVERIFY(!shown.list);
     }
 
+    // In the middle of a step, which the host itself has asked the stack for.
+    void allRowsMayGoWithinAStep_data()
+    {
+        QTest::addColumn<bool>("isRedo");
+        QTest::newRow("undo") << false;
+        QTest::newRow("redo") << true;
+    }
+    void allRowsMayGoWithinAStep()
+    {
+        QFETCH(const bool, isRedo);
+        ShownGrid shown;
+        for (const QString &text : {u"1"_s, u"2"_s, u"3"_s})
+            QVERIFY(shown.grid->enterText(shown.item(1), 2, text));
+        QUndoStack &stack = *shown.grid->undoStack();
+        if (isRedo)
+            stack.undo();
+        connect(shown->model(), &QAbstractItemModel::dataChanged, this,
+                [&shown, isFirst = true]() mutable {
+                    if (std::exchange(isFirst, false))
+                        shown->setRows({RowContent{.text = u"new"_s}});
+                });
+        isRedo ? stack.redo() : stack.undo();
+        QCoreApplication::processEvents();
+        QCOMPARE(stack.count(), 0);
+        QCOMPARE(stack.index(), 0);
+        QVERIFY(shown.grid->enterText(shown.item(1), 2, u"9"_s));
+        stack.undo();
+        QCOMPARE(shown.text(1, 2), QString());
+        QCOMPARE(stack.count(), 1);
+    }
+
     void theHostMayDoAnythingWhenItIsTold_data()
     {
         QTest::addColumn<QString>("deed");

@@ -121,6 +121,16 @@ private Q_SLOTS:
         QCOMPARE(shown.order(), u"1 0 2 3 4 5"_s);
     }
 
+    void theListMayGoWhileADividerIsMoved()
+    {
+        KeptGrid shown;
+        connect(shown->horizontalHeader(), &QHeaderView::sectionResized, this,
+                [&shown] { delete shown.list.data(); });
+        shown.press(shown.head(118));
+        shown.move(shown.head(138));
+        QVERIFY(!shown.list);
+    }
+
     void aDragIsOverWithItsColumns()
     {
         KeptGrid shown;

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void clicksBesideTheNodes();
     void pressesWithTheRightButton();
     void tellsWhereTheMouseIs();
+    void ctrlSpaceIsNoCharacter();
     void foldsByTheExpander();
     void foldsByDoubleClick();
     void collapsingHandsTheSelectionUp();
@@ -252,6 +253,17 @@ void NodeTreeInputTest::tabLeavesTheTree()
     other.show();
     shown.key(Qt::Key_Tab);
     QVERIFY(other.hasFocus());
+}
+
+// It types the character 0 where there is a keyboard.
+void NodeTreeInputTest::ctrlSpaceIsNoCharacter()
+{
+    const ShownTree shown;
+    shown->setSelectedItem(shown.node("a1"));
+    Events events(shown.tree);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier, QString(QChar(0)));
+    QCoreApplication::sendEvent(shown.tree, &press);
+    QCOMPARE(events.take(), u"KeyDown 32 2"_s);
 }
 
 void NodeTreeInputTest::checksByMouseAndKey()

@@ -82,7 +82,13 @@ std::optional<ColouredText> FinishedParts::next()
     if (m_next == 0)
         begin();
     finish(m_next);
-    m_promises[m_next].get_future().get();
+    try {
+        m_promises[m_next].get_future().get();
+    } catch (...) {
+        m_isOver = true;
+        m_others.clear(); // waits: whoever hears of the failure may change what they read
+        throw;
+    }
     return std::move(m_finished[m_next++]);
 }
 
