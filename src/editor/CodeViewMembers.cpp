@@ -28,6 +28,8 @@ QList<Member> shownMembers()
         method<&View::problems>(u"problems"),
         method<&View::nextProblem>(u"nextProblem"),
         method<&View::previousProblem>(u"previousProblem"),
+        method<&View::setMarks>(u"setMarks", u"marks"),
+        method<&View::marks>(u"marks"),
         method<&View::toggleBookmark>(u"toggleBookmark"),
         method<&View::nextBookmark>(u"nextBookmark"),
         readWrite<&View::foldingEnabled, &View::setFoldingEnabled>(u"foldingEnabled"),
