@@ -229,12 +229,45 @@ void measureUndoOfAll(const QString &program)
               .bound = 50 * milliseconds});
 }
 
+// What is typed near the top and near the end, in one step.
+void measureUndoInFarPlaces(const QString &program)
+{
+    constexpr int steps = 9;
+    ShownEditor editor(program);
+    showAll(editor.widget(), {.problems = 1000, .bookmarks = 100, .values = 10000});
+    editor.open();
+    editor.waitUntilIdle();
+    const qint32 length = editor.box().TextLength();
+    Times undone;
+    Times redone;
+    for (int i = 0; i < steps; ++i) {
+        editor.box().setSelStart(length / 50 * (1 + i));
+        editor.type(u"x"_s);
+        editor.box().setSelStart(length / 50 * (49 - i));
+        editor.type(u"y temp "_s);
+        editor.waitUntilIdle();
+        undone.add(editor.timeKey(undoKey));
+        editor.waitUntilIdle();
+        undone.add(editor.timeKey(undoKey));
+        editor.waitUntilIdle();
+        redone.add(editor.timeKey(redoKey));
+        editor.waitUntilIdle();
+    }
+    printRow({.name = u"… of a step in two far places, at work"_s,
+              .ours = slowestOf(u"our editor"_s, undone),
+              .bound = 50 * milliseconds});
+    printRow({.name = u"… brought back, at work"_s,
+              .ours = slowestOf(u"our editor"_s, redone),
+              .bound = 50 * milliseconds});
+}
+
 void measure()
 {
     const QString program = makeProgram(largeProgram).text;
     measureOpening(program);
     measureUndo(program);
     measureUndoOfAll(program);
+    measureUndoInFarPlaces(program);
 }
 
 } // namespace

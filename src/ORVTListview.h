@@ -25,6 +25,7 @@
 #include <ORVTListview/ListGrid.h>
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
+#include <ORVTListview/MarginMark.h>
 #include <ORVTListview/MemberTable.h>
 #include <ORVTListview/MemoryPropertyBag.h>
 #include <ORVTListview/Node.h>

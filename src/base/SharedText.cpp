@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <iterator>
 #include <span>
+#include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace ORVTListview {
 namespace {
@@ -90,13 +93,14 @@ SharedText SharedText::part(qsizetype start, qsizetype length) const
     return result;
 }
 
-qsizetype SharedText::alikeAtStart(const SharedText &other) const
+qsizetype SharedText::alikeFrom(qsizetype start, const SharedText &other, qsizetype otherStart,
+                                qsizetype most) const
 {
-    const qsizetype most = std::min(m_size, other.m_size);
     qsizetype alike = 0;
     while (alike < most) {
-        const QStringView theirs = other.behind(alike, blockLength);
-        const QStringView mine = behind(alike, theirs.size());
+        const qsizetype longest = std::min(blockLength, most - alike);
+        const QStringView theirs = other.behind(otherStart + alike, longest);
+        const QStringView mine = behind(start + alike, theirs.size());
         if (!areAlike(mine, theirs.first(mine.size())))
             return alike + ORVTListview::alikeAtStart(mine, theirs);
         alike += mine.size();
@@ -104,18 +108,82 @@ qsizetype SharedText::alikeAtStart(const SharedText &other) const
     return alike;
 }
 
-qsizetype SharedText::alikeAtEnd(const SharedText &other, qsizetype most) const
+qsizetype SharedText::alikeUpTo(qsizetype end, const SharedText &other, qsizetype otherEnd,
+                                qsizetype most) const
 {
     qsizetype alike = 0;
     while (alike < most) {
         const qsizetype longest = std::min(blockLength, most - alike);
-        const QStringView theirs = other.before(other.m_size - alike, longest);
-        const QStringView mine = before(m_size - alike, theirs.size());
+        const QStringView theirs = other.before(otherEnd - alike, longest);
+        const QStringView mine = before(end - alike, theirs.size());
         if (!areAlike(mine, theirs.last(mine.size())))
             return alike + ORVTListview::alikeAtEnd(mine, theirs, mine.size());
         alike += mine.size();
     }
     return alike;
+}
+
+qsizetype SharedText::alikeAtStart(const SharedText &other) const
+{
+    return alikeFrom(0, other, 0, std::min(m_size, other.m_size));
+}
+
+qsizetype SharedText::alikeAtEnd(const SharedText &other, qsizetype most) const
+{
+    return alikeUpTo(m_size, other, other.m_size, most);
+}
+
+// Parts of the same strings, one behind the other in both texts.
+QList<SharedText::Alike> SharedText::sharedParts(const SharedText &other) const
+{
+    std::unordered_map<const QChar *, std::vector<std::pair<const Piece *, qsizetype>>> theirs;
+    qsizetype place = 0;
+    for (const Piece &piece : other.m_pieces) {
+        theirs[piece.string.constData()].emplace_back(&piece, place);
+        place += piece.length;
+    }
+    QList<Alike> parts;
+    Alike behind; // what is found already
+    place = 0;
+    for (const Piece &mine : m_pieces) {
+        const auto same = theirs.find(mine.string.constData());
+        const auto begin = std::exchange(place, place + mine.length);
+        if (same == theirs.end())
+            continue;
+        for (const auto &[piece, otherBegin] : same->second) {
+            const qsizetype here = begin - mine.start; // of the string
+            const qsizetype there = otherBegin - piece->start;
+            const qsizetype from = std::max(
+                {mine.start, piece->start, behind.start - here, behind.otherStart - there});
+            const qsizetype to = std::min(mine.start + mine.length, piece->start + piece->length);
+            if (from >= to)
+                continue;
+            parts.append({here + from, there + from, to - from});
+            behind = {here + to, there + to};
+        }
+    }
+    return parts;
+}
+
+QList<SharedText::Difference> SharedText::differences(const SharedText &other) const
+{
+    QList<Difference> result;
+    QList<Alike> alike = sharedParts(other);
+    alike.append({m_size, other.m_size, 0});
+    Alike done;
+    for (const Alike &next : std::as_const(alike)) {
+        const qsizetype most = std::min(next.start - done.start, next.otherStart - done.otherStart);
+        const qsizetype front = alikeFrom(done.start, other, done.otherStart, most);
+        const qsizetype back = alikeUpTo(next.start, other, next.otherStart, most - front);
+        const qsizetype start = done.start + front;
+        const qsizetype otherStart = done.otherStart + front;
+        const Difference found{start, next.start - back - start, otherStart,
+                               next.otherStart - back - otherStart};
+        if (found.length > 0 || found.otherLength > 0)
+            result.append(found);
+        done = {next.start + next.length, next.otherStart + next.length};
+    }
+    return result;
 }
 
 bool SharedText::equals(const SharedText &other) const

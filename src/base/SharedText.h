@@ -41,6 +41,22 @@ public:
     qsizetype alikeAtStart(const SharedText &other) const;
     qsizetype alikeAtEnd(const SharedText &other, qsizetype most) const;
 
+    // A part of the text, and what another one has in its place.
+    struct Difference
+    {
+        qsizetype start = 0;
+        qsizetype length = 0;
+        qsizetype otherStart = 0;
+        qsizetype otherLength = 0;
+
+        qsizetype end() const { return start + length; }
+        qsizetype grown() const { return otherLength - length; }
+    };
+
+    // Where the two differ, from front to back. Between two differences lies what both hold
+    // a piece of: one text that shares none with the other has one at most.
+    QList<Difference> differences(const SharedText &other) const;
+
     // The same text, holding the other's pieces where both begin and end alike.
     // As it is, when less than half would be shared or the pieces would be more
     // than mostPieces. Takes time in the length of what is alike.
@@ -75,6 +91,18 @@ private:
         QStringView view() const { return QStringView(string).sliced(start, length); }
     };
 
+    struct Alike
+    {
+        qsizetype start = 0;
+        qsizetype otherStart = 0;
+        qsizetype length = 0;
+    };
+
+    QList<Alike> sharedParts(const SharedText &other) const;
+    qsizetype alikeFrom(qsizetype start, const SharedText &other, qsizetype otherStart,
+                        qsizetype most) const;
+    qsizetype alikeUpTo(qsizetype end, const SharedText &other, qsizetype otherEnd,
+                        qsizetype most) const;
     void append(const Piece &piece);
     void append(const SharedText &text);
     SharedText part(qsizetype start, qsizetype length) const;

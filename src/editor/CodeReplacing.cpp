@@ -3,6 +3,7 @@
 #include "base/MessageService.h"
 #include "base/TextRules.h"
 #include "editor/EditorThread.h"
+#include "editor/FarPieces.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/ReplacedLines.h"
@@ -109,12 +110,12 @@ void replaceInColours(const EditorThread &thread, RichTextBox &box, const QList<
     for (const ReplacedPiece &piece : replaced)
         texts.append(coloured.on(piece.isComment));
 
-    const auto finish = [&] {
+    const auto finish = [&](qsizetype first, qsizetype count) {
         if (thread.knownWords().index().isEmpty())
             return; // nothing to tell words by
         Finishing finishing(thread, box);
         qsizetype shift = 0;
-        for (qsizetype i = 0; i < pieces.size(); ++i) {
+        for (qsizetype i = first; i < first + count; ++i) {
             const qsizetype length = texts[i].text.size();
             finishing.touch(static_cast<qint32>(pieces[i].start + shift),
                             static_cast<qint32>(length), replaced[i].wasComment);
@@ -122,7 +123,7 @@ void replaceInColours(const EditorThread &thread, RichTextBox &box, const QList<
         }
         finishing.finish();
     };
-    box.replacePieces(pieces, texts, finish);
+    replaceFarPieces(box, pieces, texts, finish);
 }
 
 } // namespace ORVTListview

@@ -192,6 +192,16 @@ QList<Problem> CodeView::problems() const
     return d->problems.list();
 }
 
+void CodeView::setMarks(const QList<MarginMark> &marks)
+{
+    d->hostMarks.set(marks);
+}
+
+QList<MarginMark> CodeView::marks() const
+{
+    return d->hostMarks.list();
+}
+
 bool CodeView::tellChosen(const std::optional<Problem> &problem)
 {
     if (problem)

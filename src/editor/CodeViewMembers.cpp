@@ -23,7 +23,7 @@ QList<Member> shownMembers()
 QList<Member> markMembers()
 {
     return invokables<View, "setLiveValues", "setProblems", "problems", "nextProblem",
-                      "previousProblem", "toggleBookmark", "nextBookmark">();
+                      "previousProblem", "setMarks", "marks", "toggleBookmark", "nextBookmark">();
 }
 
 QList<Member> foldMembers()

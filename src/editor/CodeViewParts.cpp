@@ -3,6 +3,8 @@
 #include "editor/ProgramCommands.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <initializer_list>
+
 namespace ORVTListview {
 
 CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &programCommands)
@@ -12,8 +14,9 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , scrollMarks(new ScrollMarks(editorBox))
     , problems(editorBox, layers)
     , bookmarks(editorBox)
+    , hostMarks(editorBox)
     , numbers(editorBox, *margin, layers)
-    , marks(editorBox, *margin, {numbers, problems, bookmarks})
+    , marks(editorBox, *margin, {numbers, problems, bookmarks, hostMarks})
     , folds(editorBox, *margin, layers)
     , currentLine(currentLineLayer(editorBox, layers))
     , wordUses(wordUseLayer(editorBox, layers))
@@ -25,7 +28,7 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , hover(editorBox, layers, problems)
     , commands(programCommands)
     , commandsState(editorBox)
-    , caretLine(editorBox, {numbers, folds, problems, liveValues})
+    , caretLine(editorBox, {numbers, folds, problems, hostMarks, liveValues})
     , found(editorBox, layers)
     , readableColours(editorBox, layers)
 {
@@ -40,9 +43,11 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     QObject::connect(&commands.moves, &LineMoves::settled, &problems, &Problems::tellMoved);
     QObject::connect(&commands.moves, &LineMoves::about, &folds, &Folds::holdLines);
     QObject::connect(&commands.moves, &LineMoves::settled, &folds, &Folds::putBack);
-    QObject::connect(&commands.moves, &LineMoves::about, &bookmarks, &Bookmarks::holdLines);
-    QObject::connect(&commands.moves, &LineMoves::done, &bookmarks, &Bookmarks::putBack);
-    QObject::connect(&commands.moves, &LineMoves::settled, &bookmarks, &Bookmarks::tellMoved);
+    for (KeptLines *lines : std::initializer_list<KeptLines *>{&bookmarks, &hostMarks}) {
+        QObject::connect(&commands.moves, &LineMoves::about, lines, &KeptLines::holdLines);
+        QObject::connect(&commands.moves, &LineMoves::done, lines, &KeptLines::putBack);
+        QObject::connect(&commands.moves, &LineMoves::settled, lines, &KeptLines::tellMoved);
+    }
     QObject::connect(&problems, &Problems::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&bookmarks, &Bookmarks::changed, scrollMarks, &ScrollMarks::refresh);
     QObject::connect(&found, &FoundMarks::marksChanged, scrollMarks, &ScrollMarks::refresh);

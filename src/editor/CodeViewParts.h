@@ -8,6 +8,7 @@
 #include "editor/view/EditorMargin.h"
 #include "editor/view/Folds.h"
 #include "editor/view/FoundMarks.h"
+#include "editor/view/HostMarks.h"
 #include "editor/view/HoverTips.h"
 #include "editor/view/LineLayer.h"
 #include "editor/view/LiveValues.h"
@@ -41,6 +42,7 @@ struct CodeViewParts
     const QPointer<ScrollMarks> scrollMarks; // of its scroll bar
     Problems problems;
     Bookmarks bookmarks;
+    HostMarks hostMarks;
     NumberColumn numbers;
     MarkColumn marks;
     Folds folds;

@@ -1,6 +1,7 @@
 #include "editor/LineStep.h"
 
 #include "base/TextPiece.h"
+#include "editor/FarPieces.h"
 #include "widgets/box/BoxText.h"
 #include "widgets/box/LateColours.h"
 #include <ORVTListview/RichTextBox.h>
@@ -18,12 +19,11 @@ using Range = SettledLines::Range;
 
 const QString lineEnd = QStringLiteral("\r\n");
 
-// The lines with one among them, joined with those that it touches.
-QList<Range> joined(QList<Range> lines, const Range &added)
+// From the top, those that touch as one.
+QList<Range> joined(QList<Range> lines)
 {
-    const auto behind = std::find_if(lines.cbegin(), lines.cend(),
-                                     [&](const Range &range) { return range.first > added.first; });
-    lines.insert(behind, added);
+    std::sort(lines.begin(), lines.end(),
+              [](const Range &one, const Range &other) { return one.first < other.first; });
     QList<Range> result;
     for (const Range &range : std::as_const(lines)) {
         if (!result.isEmpty() && result.constLast().last + 1 >= range.first)
@@ -32,6 +32,13 @@ QList<Range> joined(QList<Range> lines, const Range &added)
             result.append(range);
     }
     return result;
+}
+
+bool areWholeLines(const SharedText &text, qsizetype start, qsizetype length)
+{
+    const qsizetype end = start + length;
+    return length >= 0 && (start == 0 || text.mid(start - 2, 2) == lineEnd) &&
+           (end == text.size() || text.mid(end, 2) == lineEnd);
 }
 
 // A piece of the box's text, of whole lines.
@@ -53,11 +60,10 @@ LineStep::LineStep(RichTextBox &box, const SettledLines &settled)
 
 bool LineStep::show(const SharedText &text, const Colour &colour)
 {
-    const auto unsettled = m_settled.unsettled();
-    if (!unsettled || !mayKeepLines())
+    if (!m_settled.areKnown() || !mayKeepLines())
         return false;
-    const Range differ = differing(text);
-    if (!colourParts(joined(*unsettled, differ), differ, text, colour))
+    const Differences differ = differing(text);
+    if (!colourParts(linesToShow(differ), differ, text, colour))
         return false;
     giveLateColours();
     replaceLines();
@@ -80,36 +86,44 @@ const BoxText &LineStep::boxText() const
     return BoxText::of(*m_box.document());
 }
 
-// One line at least.
-Range LineStep::differing(const SharedText &text) const
+// One place at least.
+LineStep::Differences LineStep::differing(const SharedText &text) const
 {
     const SharedText &shown = boxText().sharedText();
-    const qsizetype most = std::min(shown.size(), text.size());
-    const qsizetype atStart = shown.alikeAtStart(text);
-    const qsizetype atEnd = shown.alikeAtEnd(text, most - atStart);
-    return {boxText().lineOf(static_cast<qint32>(atStart)),
-            boxText().lineOf(static_cast<qint32>(shown.size() - atEnd))};
+    const Differences found = shown.differences(text);
+    return found.isEmpty() ? Differences{{shown.size(), 0, text.size(), 0}} : found;
 }
 
-// Behind the lines that differ the text stands elsewhere than in the box.
-bool LineStep::colourParts(const QList<Range> &ranges, const Range &differ, const SharedText &text,
-                           const Colour &colour)
+QList<Range> LineStep::linesToShow(const Differences &differ) const
 {
-    const qsizetype grown = text.size() - boxText().length();
+    QList<Range> lines = m_settled.unsettled();
+    for (const auto &part : differ)
+        lines.append({boxText().lineOf(static_cast<qint32>(part.start)),
+                      boxText().lineOf(static_cast<qint32>(part.end()))});
+    return joined(lines);
+}
+
+// Behind lines that differ the text stands elsewhere than in the box.
+bool LineStep::colourParts(const QList<Range> &ranges, const Differences &differ,
+                           const SharedText &text, const Colour &colour)
+{
     qsizetype length = 0;
+    qsizetype grown = 0;
+    auto next = differ.cbegin();
     for (const Range &lines : ranges) {
         const TextPiece piece = pieceOf(boxText(), lines);
-        const bool isBehind = lines.first > differ.last;
-        const bool isAround = !isBehind && lines.last >= differ.first;
-        const qsizetype start = piece.start + (isBehind ? grown : 0);
-        const qsizetype wanted = piece.length + (isAround ? grown : 0);
+        const qsizetype start = piece.start + grown;
+        const auto first = next;
+        for (; next != differ.cend() && next->start <= piece.end(); ++next)
+            grown += next->grown();
+        const qsizetype wanted = piece.end() + grown - start;
         length += std::max<qsizetype>(piece.length, wanted);
-        if (length > LateColours::shortest)
+        if (length > LateColours::shortest || !areWholeLines(text, start, wanted))
             return false;
         const QString part = text.mid(start, wanted);
         if (!LateColours::suits(part))
             return false;
-        m_parts.append({lines, ColouredLines(colour(part)), isAround});
+        m_parts.append({lines, ColouredLines(colour(part)), next != first});
     }
     return true;
 }
@@ -165,7 +179,7 @@ void LineStep::replaceLines()
         part.lines.first += grown;
         grown += part.text.count() - formerLines;
     }
-    m_box.replacePieces(places, texts);
+    replaceFarPieces(m_box, places, texts);
 }
 
 void LineStep::colourLines() const

@@ -46,8 +46,10 @@ private:
 
     const BoxText &boxText() const;
     bool mayKeepLines() const;
-    Range differing(const SharedText &text) const;
-    bool colourParts(const QList<Range> &ranges, const Range &differ, const SharedText &text,
+    using Differences = QList<SharedText::Difference>;
+    Differences differing(const SharedText &text) const;
+    QList<Range> linesToShow(const Differences &differ) const;
+    bool colourParts(const QList<Range> &ranges, const Differences &differ, const SharedText &text,
                      const Colour &colour);
     void giveLateColours() const;
     void replaceLines();

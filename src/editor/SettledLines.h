@@ -1,9 +1,9 @@
 #pragma once
 
+#include "widgets/box/ChangedRanges.h"
+
 #include <QtCore/QList>
 #include <QtCore/QObject>
-
-#include <optional>
 
 class QTextDocument;
 
@@ -28,17 +28,15 @@ public:
         int last = 0;
     };
 
-    // The others, from the top, apart from each other; none where it can be any line.
-    std::optional<QList<Range>> unsettled() const;
+    // Otherwise it can be any line that is not settled.
+    bool areKnown() const { return m_isKnown; }
+
+    // The others, from the top.
+    QList<Range> unsettled() const;
 
 private:
-    void noteChange(int from, int removed, int added);
-    void insert(const Range &changed);
-    void joinNearest();
-
     QTextDocument &m_document;
-    QList<Range> m_changed; // places in the document
-    int m_length = 0;       // of the document, after the last change
+    ChangedRanges m_changed;
     bool m_isKnown = false;
 };
 

@@ -50,6 +50,28 @@ qsizetype bytesOf(const QList<SharedText> &texts)
 
 } // namespace
 
+namespace {
+
+// Puts in the places that differ what the other has there.
+QString withDifferences(const SharedText &text, const SharedText &other)
+{
+    QString result = text.toString();
+    const auto differences = text.differences(other);
+    for (auto it = differences.rbegin(); it != differences.rend(); ++it)
+        result.replace(it->start, it->length, other.mid(it->otherStart, it->otherLength));
+    return result;
+}
+
+qsizetype lengthOfDifferences(const SharedText &text, const SharedText &other)
+{
+    qsizetype length = 0;
+    for (const SharedText::Difference &found : text.differences(other))
+        length += found.length + found.otherLength;
+    return length;
+}
+
+} // namespace
+
 TEST(SharedText, EmptyTextHasNoPieces)
 {
     for (const SharedText &text : {SharedText(), SharedText(QString()), SharedText(u""_s)}) {
@@ -251,5 +273,45 @@ TEST(SharedText, IsTheSameTextWhateverItsPieces)
             ASSERT_EQ(readForwards(text, 1 + below(5000)), string);
             ASSERT_EQ(readBackwards(text, 1 + below(5000)), string);
         }
+    }
+}
+
+TEST(SharedText, DifferencesAreFoundPlaceByPlace)
+{
+    const SharedText text(u"0123456789"_s.repeated(10'000));
+    EXPECT_TRUE(text.differences(text).isEmpty());
+    EXPECT_TRUE(text.differences(SharedText(text.toString() + QString())).isEmpty());
+    const SharedText one = text.replaced(10'000, 2, u"ab"_s);
+    const SharedText two = one.replaced(90'000, 0, u"c"_s);
+    const auto differences = text.differences(two);
+    ASSERT_EQ(differences.size(), 2);
+    EXPECT_EQ(differences[0].start, 10'000);
+    EXPECT_EQ(differences[0].end(), 10'002);
+    EXPECT_EQ(differences[0].grown(), 0);
+    EXPECT_EQ(differences[1].start, 90'000);
+    EXPECT_EQ(differences[1].otherStart, 90'000);
+    EXPECT_EQ(differences[1].grown(), 1);
+    EXPECT_EQ(lengthOfDifferences(two, text), 5);
+    EXPECT_EQ(text.differences(SharedText(two.toString())).size(), 1);
+}
+
+TEST(SharedText, DifferencesMakeOneTextOfTheOther)
+{
+    const unsigned seed = randomSeed(31);
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto below = [&](qsizetype bound) { return qsizetype(random() % quint64(bound)); };
+    const SharedText start(u"IF TEMP1 > 20 THEN FAN = ON\r\n"_s.repeated(3000));
+    QList<SharedText> states{start};
+    for (int round = 0; round < 500; ++round) {
+        SharedText next = states[below(states.size())];
+        for (qsizetype change = below(6); change > 0; --change)
+            next = next.replaced(below(next.size() - 100), below(100),
+                                 QString(below(100), QChar(u'a' + char16_t(below(3)))));
+        const SharedText &former = states[below(states.size())];
+        ASSERT_EQ(withDifferences(former, next), next.toString());
+        ASSERT_EQ(withDifferences(next, former), former.toString());
+        ASSERT_EQ(former.differences(next).isEmpty(), former.equals(next));
+        states.append(below(9) == 0 ? SharedText(next.toString()) : next);
     }
 }

@@ -212,6 +212,8 @@ void ObjectMembersTest::reachTheEditorsView()
     QCOMPARE(control.codeView()->problems().at(0).severity, ProblemSeverity::Warning);
     const QVariantList problems = call(view, u"problems"_s).toList();
     QCOMPARE(problems.at(0).toMap().value(u"text"_s).toString(), u"Odd"_s);
+    call(view, u"setMarks"_s, {QVariantList{QVariantMap{{u"line"_s, 2}, {u"text"_s, u"On"_s}}}});
+    QCOMPARE(call(view, u"marks"_s).toList().at(0).toMap().value(u"line"_s).toInt(), 2);
     call(view, u"setLiveValues"_s, {QVariantMap{{u"A"_s, u"1"_s}}});
     call(view, u"zoom"_s, {150});
     QCOMPARE(call(view, u"Zoom"_s).toInt(), 150);

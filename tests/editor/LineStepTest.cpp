@@ -6,6 +6,9 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QComboBox>
+
 #include <random>
 
 using namespace ORVTListview;
@@ -37,6 +40,18 @@ struct KeepingHost : OpeningHost
     {
         touched = 0;
         key(Qt::Key_Y, Qt::ControlModifier);
+    }
+    void replaceAll(const QString &words, const QString &text)
+    {
+        view().showFindBar();
+        QTest::keyClicks(list->findChild<QComboBox *>(u"FindBarWanted"_s), words);
+        const auto click = [this](const QString &name) {
+            QTest::mouseClick(list->findChild<QAbstractButton *>(name), Qt::LeftButton);
+        };
+        click(u"FindBarMore"_s);
+        QTest::keyClicks(list->findChild<QComboBox *>(u"FindBarReplacement"_s), text);
+        click(u"FindBarReplaceAll"_s);
+        box().setFocus();
     }
     bool hasTouchedFew() const { return touched > 0 && touched < 500; }
 
@@ -94,6 +109,50 @@ private Q_SLOTS:
         }
         while (host.list->IsUndoAvailable())
             host.undo();
+        QVERIFY(host.list->CodeText() == opened);
+        host.compareWithOpenedAnew();
+    }
+
+    void aStepInFarPlacesTouchesTheLinesThatDiffer()
+    {
+        KeepingHost host;
+        host.open();
+        host.finish();
+        const QString opened = host.list->CodeText();
+        host.typeAt(10, u"x"_s);
+        host.typeAt(2001, u"x"_s);
+        host.typeAt(3990, u"\ny temp1 "_s); // blanks take snapshots
+        const QString typed = host.list->CodeText();
+        while (host.list->IsUndoAvailable()) {
+            host.undo();
+            QVERIFY(host.hasTouchedFew());
+        }
+        QVERIFY(host.list->CodeText() == opened);
+        host.compareWithOpenedAnew();
+        for (int i = 0; i < 3 && host.list->CodeText() != typed; ++i) {
+            host.redo();
+            QVERIFY(host.hasTouchedFew());
+        }
+        QVERIFY(host.list->CodeText() == typed);
+        host.compareWithOpenedAnew();
+    }
+
+    void soItDoesAfterReplacingFarApart()
+    {
+        KeepingHost host;
+        QStringList lines = longProgram().split(u"\r\n"_s);
+        lines[20] = lines[3980] = u"onlyhere = 1"_s;
+        host.open(lines.join(u"\r\n"_s));
+        host.finish();
+        const QString opened = host.list->CodeText();
+        QSignalSpy changes(&host.box(), &RichTextBox::Change);
+        host.touched = 0;
+        host.replaceAll(u"onlyhere"_s, u"temp1"_s);
+        QVERIFY(host.list->CodeText() == QString(opened).replace(u"onlyhere"_s, u"Temp1"_s));
+        QCOMPARE(changes.count(), 1);
+        QVERIFY(host.hasTouchedFew());
+        host.undo();
+        QVERIFY(host.hasTouchedFew());
         QVERIFY(host.list->CodeText() == opened);
         host.compareWithOpenedAnew();
     }

@@ -137,10 +137,15 @@ void addMarginAndMarks(CodePicture &code)
     code.view().setProblems({problem(3, 4, 11, ProblemSeverity::Warning),
                              problem(6, 8, 9, ProblemSeverity::Error),
                              problem(9, 4, 12, ProblemSeverity::Hint)});
+    MarginMark timed;
+    timed.line = 5;
+    timed.picture = QIcon(u":/ORVTListview/pictures/timers.svg"_s);
+    code.view().setMarks({timed});
     code.view().toggleBookmark();
-    code.add(u"Numbers, the caret's line, a block, guides, problems and a bookmark"_s);
+    code.add(u"Numbers, the caret's line, a block, guides, problems, a bookmark, a host's mark"_s);
     code.view().toggleBookmark();
     code.view().setProblems({});
+    code.view().setMarks({});
 }
 
 void addFolding(CodePicture &code)

@@ -2,6 +2,7 @@
 
 #include <ORVTListview/Export.h>
 #include <ORVTListview/HoverAnswer.h>
+#include <ORVTListview/MarginMark.h>
 #include <ORVTListview/Problem.h>
 #include <ORVTListview/UndoHistory.h>
 
@@ -115,6 +116,14 @@ public:
     // and raise problemChosen. False without a problem.
     Q_INVOKABLE bool nextProblem();
     Q_INVOKABLE bool previousProblem();
+
+    // What the host shows in the margin: pictures, with a text as tool tip, told to screen
+    // readers on the caret's line. A line outside the program counts as the nearest one. A
+    // mark moves with its line and is gone when that is; with the whole text all go. On a
+    // line with a problem the problem's sign is seen. The list comes back from the top,
+    // with the lines of now.
+    Q_INVOKABLE void setMarks(const QList<ORVTListview::MarginMark> &marks);
+    Q_INVOKABLE QList<ORVTListview::MarginMark> marks() const;
 
     // Marks the line of the caret, or takes its mark away. A mark is shown in the margin
     // and on the scroll bar, moves with its line and is gone when that is; with the whole

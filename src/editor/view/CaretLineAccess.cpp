@@ -1,6 +1,7 @@
 #include "editor/view/CaretLineAccess.h"
 
 #include "editor/view/Folds.h"
+#include "editor/view/HostMarks.h"
 #include "editor/view/LiveValues.h"
 #include "editor/view/NumberColumn.h"
 #include "editor/view/Problems.h"
@@ -20,6 +21,7 @@ CaretLineAccess::CaretLineAccess(QPlainTextEdit &box, const Sources &sources)
     , m_sources(sources)
 {
     connect(&sources.problems, &Problems::changed, this, &CaretLineAccess::refresh);
+    connect(&sources.hostMarks, &HostMarks::changed, this, &CaretLineAccess::refresh);
     connect(&sources.folds, &Folds::changed, this, &CaretLineAccess::refresh);
     connect(&sources.values, &LiveValues::changed, this, &CaretLineAccess::refresh);
 }
@@ -27,7 +29,7 @@ CaretLineAccess::CaretLineAccess(QPlainTextEdit &box, const Sources &sources)
 bool CaretLineAccess::isNeeded() const
 {
     return m_sources.numbers.isShown() || m_sources.folds.isOn() || m_sources.problems.isShown() ||
-           m_sources.values.isShown();
+           !m_sources.hostMarks.isEmpty() || m_sources.values.isShown();
 }
 
 void CaretLineAccess::refresh()
@@ -52,6 +54,8 @@ QString CaretLineAccess::lineText() const
         texts << Localise(u"%1 lines hidden"_s).arg(hidden);
     if (const QString problems = m_sources.problems.textOn(line); !problems.isEmpty())
         texts << problems;
+    if (const QString marks = m_sources.hostMarks.textOn(line); !marks.isEmpty())
+        texts << marks;
     if (const QString values = m_sources.values.textOn(line); !values.isEmpty())
         texts << values;
     return texts.join(u'\n');

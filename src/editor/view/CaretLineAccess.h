@@ -7,13 +7,14 @@ class QPlainTextEdit;
 namespace ORVTListview {
 
 class Folds;
+class HostMarks;
 class LiveValues;
 class NumberColumn;
 class Problems;
 
 // Tells screen readers what is shown beside the line of the caret: its number, how many
-// lines are hidden behind it, its problems, and the values shown behind it. What the host says of
-// the box stands there again when there is nothing to tell.
+// lines are hidden behind it, its problems, the host's marks, and the values shown behind
+// it. What the host says of the box stands there again when there is nothing to tell.
 class CaretLineAccess final : public QObject
 {
     Q_OBJECT
@@ -24,6 +25,7 @@ public:
         const NumberColumn &numbers;
         const Folds &folds;
         const Problems &problems;
+        const HostMarks &hostMarks;
         const LiveValues &values;
     };
 

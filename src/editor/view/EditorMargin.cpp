@@ -111,7 +111,7 @@ EditorMargin::Painted EditorMargin::toPaint(const ShownLine &line) const
     Painted painted{
         QRect(0, line.place.toAlignedRect().top(), width(), line.place.toAlignedRect().height())};
     for (const MarginColumn *column : m_columns)
-        painted.look = 8 * painted.look + column->look(line.block);
+        painted.look = 16 * painted.look + column->look(line.block);
     return painted;
 }
 

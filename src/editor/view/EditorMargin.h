@@ -25,7 +25,7 @@ public:
     virtual int width() const = 0;
     virtual void paint(QPainter &painter, const ShownLine &line, const QRect &cell) = 0;
 
-    // Another number, from 0 to 7, for each look that a cell may take when text changes.
+    // Another number, from 0 to 15, for each look that a cell may take when text changes.
     virtual int look(const QTextBlock &line) const;
 
     // Whether a click on the cell does something else than select the line.

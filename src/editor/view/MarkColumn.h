@@ -6,11 +6,12 @@
 namespace ORVTListview {
 
 class Bookmarks;
+class HostMarks;
 class NumberColumn;
 class Problems;
 
-// The signs of problems and bookmarks. There while there are any, and beside numbers,
-// so that the text does not jump when the first one comes.
+// The signs of problems and bookmarks, and what a host shows. There while there are any,
+// and beside numbers, so that the text does not jump when the first one comes.
 class MarkColumn final : public QObject, public MarginColumn
 {
     Q_OBJECT
@@ -21,6 +22,7 @@ public:
         const NumberColumn &numbers;
         Problems &problems;
         const Bookmarks &bookmarks;
+        const HostMarks &hostMarks;
     };
 
     MarkColumn(QPlainTextEdit &box, EditorMargin &margin, const Sources &sources);
@@ -36,6 +38,9 @@ Q_SIGNALS:
     void chosen(const ORVTListview::Problem &problem);
 
 private:
+    void paintBookmark(QPainter &painter, const QRect &cell) const;
+    void paintSign(QPainter &painter, const QTextBlock &line, const QRectF &place) const;
+
     QPlainTextEdit &m_box;
     const Sources m_sources;
 };

@@ -291,11 +291,13 @@ void Problems::drawWaves(QPainter &painter, const QList<QRectF> &places, const Q
     auto wave = m_waves.constFind(colour.rgb());
     if (wave == m_waves.constEnd() || wave->devicePixelRatio() != ratio)
         wave = m_waves.insert(colour.rgb(), waveOf(colour, ratio));
+    // Cut by the view, not fitted into it: what is scrolled is not painted again.
     for (const QRectF &place : places) {
-        const QRectF shown = place.intersected(QRectF(m_box.viewport()->rect()));
-        painter.drawTiledPixmap(QRectF(shown.left(), shown.bottom() - waveHeight,
-                                       std::max<qreal>(shown.width(), 3 * waveStep), waveHeight),
-                                *wave);
+        const QRectF whole(place.left(), place.bottom() - waveHeight,
+                           std::max<qreal>(place.width(), 3 * waveStep), waveHeight);
+        const QRectF shown = whole.intersected(QRectF(m_box.viewport()->rect()));
+        if (!shown.isEmpty())
+            painter.drawTiledPixmap(shown, *wave, shown.topLeft() - whole.topLeft());
     }
 }
 

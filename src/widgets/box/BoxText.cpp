@@ -23,6 +23,8 @@ BoxText::BoxText(QTextDocument &document)
     : QObject(&document)
     , m_document(document)
     , m_length(documentLength())
+    , m_keptText{ChangedRanges(document)}
+    , m_keptSharedText{ChangedRanges(document)}
 {
     document.documentLayout(); // a document without one announces no changes
     connect(&document, &QTextDocument::contentsChange, this, &BoxText::noteChange);
@@ -169,25 +171,48 @@ QString BoxText::range(qint32 start, qint32 length) const
 
 const QString &BoxText::text() const
 {
-    if (m_keptText.isStale) {
-        const Change change = changeSince(m_keptText, m_text.size());
-        m_text.replace(change.start, change.length, change.text);
-        m_keptText = asItIs();
+    if (!m_keptText.isRight()) {
+        if (hasChangedMostly(m_keptText))
+            m_text = read(0, m_length);
+        else
+            carryOut(changesSince(m_keptText));
+        m_keptText.becomeRight();
     }
     return m_text;
 }
 
+// The text is long, so it is not moved about for each of several changes.
+void BoxText::carryOut(const QList<Change> &changes) const
+{
+    if (changes.size() == 1) {
+        const Change &only = changes.constFirst();
+        m_text.replace(only.start, only.length, only.text);
+        return;
+    }
+    QString result;
+    result.reserve(length());
+    QStringView rest = m_text;
+    for (const Change &change : changes) {
+        const qsizetype before = change.start - result.size();
+        result.append(rest.first(before)).append(change.text);
+        rest = rest.sliced(before + change.length);
+    }
+    m_text = result.append(rest);
+}
+
 const SharedText &BoxText::sharedText() const
 {
-    Kept &kept = m_keptSharedText;
-    if (kept.isStale && kept.prefix + kept.suffix < m_length / 2) {
+    if (m_keptSharedText.isRight())
+        return m_sharedText;
+    if (hasChangedMostly(m_keptSharedText)) {
         m_sharedText = SharedText(text());
-        kept = m_keptText;
-    } else if (kept.isStale) {
-        const Change change = changeSince(kept, m_sharedText.size());
-        m_sharedText = m_sharedText.replaced(change.start, change.length, change.text);
-        kept = asItIs();
+    } else {
+        SharedText result = m_sharedText;
+        for (const Change &change : changesSince(m_keptSharedText))
+            result = result.replaced(change.start, change.length, change.text);
+        m_sharedText = result;
     }
+    m_keptSharedText.becomeRight();
     return m_sharedText;
 }
 
@@ -199,33 +224,36 @@ void BoxText::know(const QString &text, bool isOtherState)
     const SharedText shared(text); // there may be no memory for it
     m_sharedText = isOtherState ? shared.sharedWith(m_sharedText) : shared;
     m_text = text;
-    m_keptText = m_keptSharedText = asItIs();
+    m_keptText.becomeRight();
+    m_keptSharedText.becomeRight();
 }
 
 void BoxText::noteChange(int from, int removed, int added)
 {
-    // The announced lengths may count the document's last, invisible separator;
-    // the shorter of the two unchanged ends is right.
     ++m_changeCount;
-    const int before = m_length;
     m_length = documentLength();
-    const int suffix = std::max(0, std::min(before - from - removed, m_length - from - added));
-    for (Kept *kept : {&m_keptText, &m_keptSharedText}) {
-        kept->prefix = kept->isStale ? std::min(kept->prefix, from) : from;
-        kept->suffix = kept->isStale ? std::min(kept->suffix, suffix) : suffix;
-        kept->isStale = true;
-    }
+    for (Kept *kept : {&m_keptText, &m_keptSharedText})
+        kept->changed.note(from, removed, added);
 }
 
-// What has changed since, with which the text of this size is right again.
-BoxText::Change BoxText::changeSince(const Kept &kept, qsizetype size) const
+bool BoxText::hasChangedMostly(const Kept &kept) const
 {
-    const int shorter = std::max(0, std::min(kept.length, m_length));
-    const int prefix = std::clamp(kept.prefix, 0, shorter);
-    const int suffix = std::clamp(kept.suffix, 0, shorter - prefix);
-    const qint32 front = toBox(prefix);
-    const qint32 back = length() - toBox(m_length - suffix);
-    return {front, size - front - back, read(prefix, m_length - suffix)};
+    int unchanged = m_length;
+    for (const ChangedRanges::Range &range : kept.changed.ranges())
+        unchanged -= range.to - range.from;
+    return !kept.isKnown || unchanged < m_length / 2;
+}
+
+// With which, one after the other from the front, the text that was read is right again.
+QList<BoxText::Change> BoxText::changesSince(const Kept &kept) const
+{
+    QList<Change> changes;
+    for (const ChangedRanges::Range &range : kept.changed.ranges()) {
+        const qint32 start = toBox(range.from);
+        const qint32 length = toBox(range.to) - start - range.grown - range.lines;
+        changes.append({start, length, read(range.from, range.to)});
+    }
+    return changes;
 }
 
 } // namespace ORVTListview

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/SharedText.h"
+#include "widgets/box/ChangedRanges.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>
@@ -58,24 +59,30 @@ public:
     int whole(int documentPosition) const;
 
 private:
-    // What is still right of a text that was read.
+    // What has changed since a text was read, if it ever was.
     struct Kept
     {
-        int length = -1; // of the document when it was read
-        int prefix = 0;  // document characters, from the front and from the back
-        int suffix = 0;
-        bool isStale = true;
+        ChangedRanges changed;
+        bool isKnown = false;
+
+        bool isRight() const { return isKnown && changed.ranges().isEmpty(); }
+        void becomeRight()
+        {
+            changed.clear();
+            isKnown = true;
+        }
     };
     struct Change
     {
-        qint32 start = 0; // in the text that was read
-        qsizetype length = 0;
+        qint32 start = 0; // where the changes before it are carried out
+        qint32 length = 0;
         QString text;
     };
 
     void noteChange(int from, int removed, int added);
-    Kept asItIs() const { return {m_length, 0, 0, false}; }
-    Change changeSince(const Kept &kept, qsizetype size) const;
+    bool hasChangedMostly(const Kept &kept) const;
+    QList<Change> changesSince(const Kept &kept) const;
+    void carryOut(const QList<Change> &changes) const;
     QTextBlock blockAt(qint32 position) const;
     int documentLength() const;
     QString readAtOnce(int from, int to) const;

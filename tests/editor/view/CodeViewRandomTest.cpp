@@ -178,6 +178,26 @@ private:
         note(u"mark"_s);
         view().toggleBookmark();
         m_lines[line].isMarked = !m_lines[line].isMarked;
+        showHostMarks();
+    }
+    // The host's own, where the bookmarks are, which they go with.
+    void showHostMarks()
+    {
+        QList<MarginMark> marks;
+        for (const QString &line : markedLines()) {
+            marks.append(MarginMark());
+            marks.last().line = line.toInt();
+        }
+        view().setMarks(marks);
+    }
+    QStringList markedLines() const
+    {
+        QStringList marked;
+        for (int i = 0; i < count(); ++i) {
+            if (m_lines[i].isMarked)
+                marked.append(QString::number(i + 1));
+        }
+        return marked;
     }
     void nextMark()
     {
@@ -196,17 +216,9 @@ private:
     void allMarks()
     {
         note(u"all marks"_s);
-        QStringList expected;
-        for (int i = 0; i < count(); ++i) {
-            if (m_lines[i].isMarked)
-                expected.append(QString::number(i + 1));
-        }
+        const QStringList expected = markedLines();
         readMarks();
-        QStringList shown;
-        for (int i = 0; i < count(); ++i) {
-            if (m_lines[i].isMarked)
-                shown.append(QString::number(i + 1));
-        }
+        const QStringList shown = markedLines();
         expect(shown == expected,
                u"marks on lines "_s + shown.join(u' ') + u" instead of "_s + expected.join(u' '));
     }
@@ -416,6 +428,12 @@ private:
         }
         if (isHidden(count() - 1))
             return u"the last line is hidden"_s;
+        QStringList marked;
+        for (const MarginMark &mark : view().marks())
+            marked.append(QString::number(mark.line));
+        marked.removeDuplicates(); // lines may have been joined
+        if (marked != markedLines())
+            return u"the host's marks on lines "_s + marked.join(u' ');
         const QString shown = placesOf(view().problems());
         const QString expected = placesOf(modelProblems());
         return shown == expected ? QString()

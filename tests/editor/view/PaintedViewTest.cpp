@@ -11,6 +11,7 @@
 #include <QtGui/QScreen>
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -58,7 +59,7 @@ private:
                                          u"(Ấ"_s, u"Å|"_s, u"e\u0302\u0302\u0302"_s,
                                          u"\t"_s, u"g)"_s};
         const QString letter = oneOf(letters);
-        switch (number(9)) {
+        switch (number(11)) {
         case 0:
             note(u"go"_s);
             box().setSelStart(number(box().TextLength() + 1));
@@ -69,7 +70,7 @@ private:
             break;
         case 2:
             note(u"Enter"_s);
-            if (box().lineCount() < 15) // what is cut at the edge of the view looks otherwise
+            if (box().lineCount() < 60)
                 m_host.key(Qt::Key_Return);
             break;
         case 3:
@@ -84,13 +85,23 @@ private:
             note(u"left"_s);
             m_host.key(Qt::Key_Left);
             break;
+        case 6:
+            note(u"scroll"_s);
+            scroll(*box().verticalScrollBar());
+            break;
+        case 7:
+            note(u"scroll sideways"_s);
+            scroll(*box().horizontalScrollBar());
+            break;
         default:
             note(u"put in "_s + letter);
-            if (box().lineText(box().GetLineFromChar(box().SelStart())).size() < 100)
+            if (box().lineText(box().GetLineFromChar(box().SelStart())).size() < 200)
                 box().setSelText(letter);
         }
         QCoreApplication::processEvents();
     }
+
+    void scroll(QScrollBar &bar) { bar.setValue(number(bar.maximum() + 1)); }
 
     QString whatIsWrong() override
     {

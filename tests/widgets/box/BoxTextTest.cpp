@@ -25,6 +25,7 @@ private Q_SLOTS:
     void theTextFollowsRandomEdits_data();
     void theTextFollowsRandomEdits();
     void statesOfATextShareIt();
+    void changesFarApartLeaveWhatLiesBetween();
     void changesAreCounted();
 
 private:
@@ -186,6 +187,26 @@ void BoxTextTest::statesOfATextShareIt()
     QCOMPARE(after.bytes(counted), 2 * 4);
     const BoxText other(document);
     QCOMPARE(other.sharedText().toString(), after.toString());
+}
+
+void BoxTextTest::changesFarApartLeaveWhatLiesBetween()
+{
+    QTextDocument document;
+    BoxText text(document);
+    document.setPlainText(u"0123456789\n"_s.repeated(10'000));
+    const SharedText before = text.sharedText();
+    QTextCursor cursor(&document);
+    for (const int place : {90'000, 10, 50'000}) {
+        cursor.setPosition(place);
+        cursor.insertText(u"a\nb"_s);
+    }
+    cursor.setPosition(70'000);
+    cursor.setPosition(70'100, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    const SharedText after = text.sharedText();
+    QCOMPARE(after.toString(), BoxText(document).text());
+    QCOMPARE(text.text(), after.toString());
+    QCOMPARE(before.differences(after).size(), 4);
 }
 
 void BoxTextTest::changesAreCounted()

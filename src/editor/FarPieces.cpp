@@ -1,0 +1,40 @@
+#include "editor/FarPieces.h"
+
+#include <ORVTListview/RichTextBox.h>
+
+namespace ORVTListview {
+namespace {
+
+constexpr qint32 farApart = 0x4000; // characters
+
+// From the back, as the places before what is replaced stay right.
+qsizetype firstNear(const QList<TextPiece> &pieces, qsizetype last)
+{
+    while (last > 0 && pieces[last].start - pieces[last - 1].end() < farApart)
+        --last;
+    return last;
+}
+
+} // namespace
+
+void replaceFarPieces(RichTextBox &box, const QList<TextPiece> &pieces,
+                      const QList<ColouredText> &texts, const FinishPieces &finish)
+{
+    const RichTextBox::Changing changing(box);
+    qint32 fromEnd = 0; // of the caret
+    for (qsizetype end = pieces.size(); end > 0;) {
+        const qsizetype first = firstNear(pieces, end - 1);
+        const qsizetype count = end - first;
+        box.replacePieces(pieces.sliced(first, count), texts.sliced(first, count), [&] {
+            if (finish)
+                finish(first, count);
+        });
+        if (end == pieces.size())
+            fromEnd = box.TextLength() - box.SelStart();
+        end = first;
+    }
+    if (!pieces.isEmpty())
+        box.setSelStart(box.TextLength() - fromEnd);
+}
+
+} // namespace ORVTListview
