@@ -1,5 +1,6 @@
 #include "widgets/view/LetterGlyphs.h"
 
+#include <QtGui/QFontMetricsF>
 #include <QtGui/QTextLayout>
 
 #include <algorithm>
@@ -8,13 +9,20 @@ namespace ORVTListview {
 namespace {
 
 constexpr std::size_t codes = 256; // of Latin-1
+constexpr QChar ellipsis(u'\u2026');
+constexpr std::size_t ellipsisCode = 0x80; // where Latin-1 has no letter
+
+std::size_t codeOf(QChar letter)
+{
+    return letter == ellipsis ? ellipsisCode : letter.unicode();
+}
 
 // Drawn one by one, from left to right.
 bool isPlain(QChar letter)
 {
     const char16_t code = letter.unicode();
-    return code >= u' ' && code < codes && (code < 0x7f || code > 0xa0) &&
-           code != QChar::SoftHyphen;
+    return letter == ellipsis || (code >= u' ' && code < codes && (code < 0x7f || code > 0xa0) &&
+                                  code != QChar::SoftHyphen);
 }
 
 bool isLatin(QChar letter)
@@ -67,7 +75,7 @@ void LetterGlyphs::setFont(const QFont &font)
 
 LetterGlyphs::Letter &LetterGlyphs::letterOf(QChar letter, bool isLatin)
 {
-    return m_letters[letter.unicode() + (isLatin ? codes : 0)];
+    return m_letters[codeOf(letter) + (isLatin ? codes : 0)];
 }
 
 // The first one tells the font and where its letters stand.
@@ -79,6 +87,9 @@ bool LetterGlyphs::isLikeThoseBefore(const QGlyphRun &run, const QTextLine &line
         m_isPredictable = !isDecorated(run) && !looksFar(m_rawFont);
         m_height = line.height();
         m_base = base;
+        m_ellipsisWidth = m_rawFont.supportsCharacter(ellipsis)
+                              ? QFontMetricsF(m_font).horizontalAdvance(ellipsis)
+                              : 0;
         m_letters.resize(2 * codes);
     }
     return m_isPredictable && run.rawFont() == m_rawFont && line.height() == m_height &&
@@ -102,7 +113,7 @@ void LetterGlyphs::learn(const QString &text, const QTextLine &line)
         letter.glyph.note(glyphs.at(i));
         letter.steps.resize(codes);
         if (i + 1 < text.size())
-            letter.steps[text.at(i + 1).unicode()].note(places.at(i + 1).x() - places.at(i).x());
+            letter.steps[codeOf(text.at(i + 1))].note(places.at(i + 1).x() - places.at(i).x());
     }
     const qreal untilLast = places.constLast().x() - places.constFirst().x();
     Letter &last = letterOf(text.back(), isOfLatin);
@@ -121,7 +132,7 @@ std::optional<LetterGlyphs::Line> LetterGlyphs::lineOf(const QString &text)
     const Letter *before = nullptr;
     for (const QChar code : text) {
         const Letter &letter = letterOf(code, isOfLatin);
-        const Seen *step = before ? &before->steps[code.unicode()] : nullptr;
+        const Seen *step = before ? &before->steps[codeOf(code)] : nullptr;
         if (!letter.glyph.isKnown() || (step && !step->isKnown()))
             return std::nullopt;
         place += step ? qreal{**step} : 0;
@@ -135,6 +146,21 @@ std::optional<LetterGlyphs::Line> LetterGlyphs::lineOf(const QString &text)
     m_run.setRawData(m_glyphs.data(), m_places.data(), static_cast<int>(text.size()));
     return Line{m_run, place + qreal{*before->advance}, place + qreal{*before->naturalWidth},
                 m_height};
+}
+
+// The letters up to the one that does not end before the ellipsis begins.
+std::optional<QString> LetterGlyphs::elidedText(const QString &text, int width)
+{
+    const std::optional<Line> line = lineOf(text);
+    const qreal room = width - m_ellipsisWidth;
+    if (!line || m_ellipsisWidth <= 0 || room < 0)
+        return std::nullopt;
+    if (line->advance <= width)
+        return text;
+    const auto second = m_places.cbegin() + 1;
+    const auto reaching = std::find_if(second, m_places.cend(),
+                                       [room](const QPointF &place) { return place.x() >= room; });
+    return text.first(reaching - second) + ellipsis;
 }
 
 } // namespace ORVTListview

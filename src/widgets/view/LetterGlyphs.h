@@ -37,6 +37,10 @@ public:
     // None when something of the text is not known.
     std::optional<Line> lineOf(const QString &text);
 
+    // As QFontMetrics::elidedText, at the right; none when something of the text, or of an
+    // ellipsis, is not known.
+    std::optional<QString> elidedText(const QString &text, int width);
+
 private:
     // A number that was seen, always the same one.
     class Seen
@@ -68,7 +72,8 @@ private:
     QRawFont m_rawFont;
     bool m_isPredictable = true;
     qreal m_height = 0;
-    qreal m_base = 0; // under the top
+    qreal m_base = 0;          // under the top
+    qreal m_ellipsisWidth = 0; // or none
 
     // Those in texts of no script, which have none of Latin, and may be drawn in another way;
     // then those in Latin ones.

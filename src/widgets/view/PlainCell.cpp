@@ -77,15 +77,27 @@ void drawLine(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &
         painter.restore();
 }
 
-// Without shaping it, if it stands at a side and has room there.
+// Elided where there is not enough room.
+std::optional<LetterGlyphs::Line> knownLine(const QStyleOptionViewItem &cell, int width,
+                                            LetterGlyphs &letters)
+{
+    const std::optional<LetterGlyphs::Line> line = letters.lineOf(cell.text);
+    if (!line || line->naturalWidth <= width)
+        return line;
+    const std::optional<QString> elided =
+        cell.textElideMode == Qt::ElideRight ? letters.elidedText(cell.text, width) : std::nullopt;
+    return elided ? letters.lineOf(*elided) : std::nullopt;
+}
+
+// Without shaping it, if it stands at a side.
 bool drawKnown(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &room,
                LetterGlyphs &letters)
 {
     const bool isInside = (cell.displayAlignment & (Qt::AlignHCenter | Qt::AlignJustify)) != 0;
     if (isInside || cell.direction == Qt::RightToLeft)
         return false;
-    const std::optional<LetterGlyphs::Line> line = letters.lineOf(cell.text);
-    if (!line || line->naturalWidth > room.width())
+    const std::optional<LetterGlyphs::Line> line = knownLine(cell, room.width(), letters);
+    if (!line)
         return false;
     const bool isRight = cell.displayAlignment.testFlag(Qt::AlignRight);
     const QPointF indent(isRight ? room.width() - line->advance : 0, 0);
@@ -104,6 +116,7 @@ void drawShaped(QPainter &painter, const QStyleOptionViewItem &cell, const QRect
         layout.setText(
             QFontMetrics(cell.font).elidedText(cell.text, cell.textElideMode, room.width()));
         line = laidOut(layout, cell, room.width());
+        letters.learn(layout.text(), line);
     }
     drawLine(painter, cell, room, line.height(),
              [&](const QPointF &place) { layout.draw(&painter, place); });

@@ -93,6 +93,31 @@ private Q_SLOTS:
         }
     }
 
+    void elidesAsTheToolkitDoes_data() { newTextsOfSeenLettersAreAsShaped_data(); }
+
+    void elidesAsTheToolkitDoes()
+    {
+        QFETCH(const QFont, font);
+        const QFontMetrics metrics(font);
+        const QString text = u"Wave of AV 12, Tomato"_s;
+        LetterGlyphs letters;
+        letters.setFont(font);
+        QVERIFY(!letters.elidedText(text, 1000));
+        learn(letters, text, font);
+        const int most = metrics.horizontalAdvance(text) + 3;
+        int elided = 0;
+        for (int width = metrics.horizontalAdvance(QChar(0x2026)) + 1; width < most; ++width) {
+            const QString shown = metrics.elidedText(text, Qt::ElideRight, width);
+            QCOMPARE(letters.elidedText(text, width), std::optional(shown));
+            learn(letters, shown, font);
+            QVERIFY(letters.lineOf(shown));
+            QCOMPARE(letters.lineOf(shown)->glyphs.positions(),
+                     ShapedText(shown, font).run().positions());
+            elided += shown == text ? 0 : 1;
+        }
+        QVERIFY(elided > 20);
+    }
+
     void nothingIsKnownOfAnotherFont()
     {
         LetterGlyphs letters;
