@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -16,9 +17,9 @@ namespace {
 
 constexpr int mostDecimals = 15;
 
-CellAnswer taken(const QString &text)
+CellAnswer taken(QString text)
 {
-    return {.text = text};
+    return {.text = std::move(text)};
 }
 
 CellAnswer refused(const QString &sentence)
@@ -99,15 +100,15 @@ bool hasOwnWords(const CellRule &rule)
     return rule.kind == CellRule::YesNo && rule.choices.size() < 2;
 }
 
-CellAnswer checkedText(const CellRule &rule, const QString &typed)
+CellAnswer checkedText(const CellRule &rule, QString typed)
 {
     if (rule.maxLength > 0 && typed.size() > rule.maxLength)
         return refused(Localise(u"Characters at most: %1."_s).arg(rule.maxLength));
     if (rule.pattern.isEmpty())
-        return taken(typed);
+        return taken(std::move(typed));
     const QRegularExpression pattern(QRegularExpression::anchoredPattern(rule.pattern));
     if (pattern.match(typed).hasMatch())
-        return taken(typed);
+        return taken(std::move(typed));
     return refused(rule.hint.isEmpty() ? Localise(u"This text does not fit here."_s) : rule.hint);
 }
 
@@ -159,18 +160,18 @@ CellAnswer checkedName(const CellRule &rule, const QString &typed)
 
 } // namespace
 
-CellAnswer checkedCell(const CellRule &rule, const QString &typed, const QLocale &locale)
+CellAnswer checkedCell(const CellRule &rule, QString typed, const QLocale &locale)
 {
     if (rule.kind == CellRule::NotEdited)
         return refused(Localise(u"This cell cannot be edited."_s));
-    const QString text = rule.kind == CellRule::Text ? typed : typed.trimmed();
+    QString text = rule.kind == CellRule::Text ? std::move(typed) : typed.trimmed();
     if (!rule.canBeEmpty && text.trimmed().isEmpty())
         return refused(Localise(u"This cell must not be empty."_s));
     if (text.isEmpty())
-        return taken(text);
+        return taken(std::move(text));
     switch (rule.kind) {
     case CellRule::Text:
-        return checkedText(rule, text);
+        return checkedText(rule, std::move(text));
     case CellRule::Number:
         return checkedNumber(rule, text, locale);
     case CellRule::PointName:

@@ -21,7 +21,7 @@ struct CellAnswer
 
 // A number may be typed with a point or with the locale's decimal sign, without groups.
 // Blanks around a text count for nothing but in cells of text.
-ORVT_HOUSE_EXPORT CellAnswer checkedCell(const CellRule &rule, const QString &typed,
+ORVT_HOUSE_EXPORT CellAnswer checkedCell(const CellRule &rule, QString typed,
                                          const QLocale &locale);
 
 // The words a cell of this kind is chosen from; none for text and plain numbers.

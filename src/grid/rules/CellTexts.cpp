@@ -1,6 +1,7 @@
 #include "grid/rules/CellTexts.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -19,12 +20,44 @@ QString quoted(QString cell)
     return u'"' + cell + u'"';
 }
 
+// Where a letter stands next, looked for once for the places up to it.
+class NextLetter
+{
+public:
+    NextLetter(QStringView text, QChar letter)
+        : m_text(text)
+        , m_letter(letter)
+    {
+    }
+
+    // The text's end where there is none.
+    qsizetype from(qsizetype place)
+    {
+        if (place < m_from || m_at < place) {
+            m_from = place;
+            const qsizetype found = m_text.indexOf(m_letter, place);
+            m_at = found < 0 ? m_text.size() : found;
+        }
+        return m_at;
+    }
+
+private:
+    const QStringView m_text;
+    const QChar m_letter;
+    qsizetype m_from = 0; // for places from here
+    qsizetype m_at = -1;
+};
+
 // Reads one cell after the other.
 class TabbedReader
 {
 public:
-    explicit TabbedReader(const QString &text)
+    explicit TabbedReader(QStringView text)
         : m_text(text)
+        , m_tab(text, u'\t')
+        , m_feed(text, u'\n')
+        , m_return(text, u'\r')
+        , m_mark(text, u'"')
     {
     }
 
@@ -43,38 +76,32 @@ private:
         QStringList row;
         row.reserve(likely);
         row.append(readCell());
-        while (m_place < m_text.size() && m_text.at(m_place) == u'\t') {
-            ++m_place;
+        while (pass(u'\t'))
             row.append(readCell());
-        }
-        passLineEnd();
+        pass(u'\r');
+        pass(u'\n');
         return row;
     }
 
     QString readCell()
     {
-        const bool isQuoted = m_place < m_text.size() && m_text.at(m_place) == u'"';
+        const bool isQuoted = isAt(m_place, u'"');
         const qsizetype end = isQuoted ? endOfQuoted() : -1;
         return end >= 0 ? readQuoted(end) : readPlain();
     }
 
     // A quotation mark that no other one closes before the cell's end is a letter.
-    qsizetype endOfQuoted() const
+    qsizetype endOfQuoted()
     {
-        for (qsizetype at = m_place + 1; at < m_text.size(); ++at) {
-            if (m_text.at(at) != u'"')
-                continue;
-            if (at + 1 < m_text.size() && m_text.at(at + 1) == u'"')
-                ++at;
-            else
-                return at + 1 == m_text.size() || isEnd(m_text.at(at + 1)) ? at : -1;
-        }
-        return -1;
+        qsizetype at = m_mark.from(m_place + 1);
+        while (isAt(at + 1, u'"'))
+            at = m_mark.from(at + 2);
+        return at < m_text.size() && cellEnd(at) == at + 1 ? at : -1;
     }
 
     QString readQuoted(qsizetype end)
     {
-        QString cell = m_text.mid(m_place + 1, end - m_place - 1);
+        QString cell = m_text.sliced(m_place + 1, end - m_place - 1).toString();
         cell.replace(u"\"\""_s, u"\""_s);
         m_place = end + 1;
         return cell;
@@ -82,23 +109,32 @@ private:
 
     QString readPlain()
     {
-        const qsizetype start = m_place;
-        while (m_place < m_text.size() && !isEnd(m_text.at(m_place)))
-            ++m_place;
-        return m_text.mid(start, m_place - start);
+        const qsizetype start = std::exchange(m_place, cellEnd(m_place));
+        return m_text.sliced(start, m_place - start).toString();
     }
 
-    void passLineEnd()
+    qsizetype cellEnd(qsizetype from)
     {
-        const bool isReturn = m_place < m_text.size() && m_text.at(m_place) == u'\r';
-        m_place += isReturn ? 1 : 0;
-        const bool isFeed = m_place < m_text.size() && m_text.at(m_place) == u'\n';
-        m_place += isFeed ? 1 : 0;
+        return std::min({m_tab.from(from), m_feed.from(from), m_return.from(from)});
     }
 
-    static bool isEnd(QChar c) { return c == u'\t' || c == u'\n' || c == u'\r'; }
+    bool isAt(qsizetype place, QChar letter) const
+    {
+        return place < m_text.size() && m_text.at(place) == letter;
+    }
 
-    const QString &m_text;
+    bool pass(QChar letter)
+    {
+        const bool isThere = isAt(m_place, letter);
+        m_place += isThere ? 1 : 0;
+        return isThere;
+    }
+
+    const QStringView m_text;
+    NextLetter m_tab;
+    NextLetter m_feed;
+    NextLetter m_return;
+    NextLetter m_mark;
     qsizetype m_place = 0;
 };
 
@@ -154,7 +190,7 @@ QString htmlTable(const CellBlock &cells, qsizetype heads)
     return html + u"</table>\n"_s;
 }
 
-CellBlock fittedBlock(const CellBlock &cells, qsizetype rows, qsizetype columns)
+CellBlock fittedBlock(CellBlock cells, qsizetype rows, qsizetype columns)
 {
     qsizetype widest = 0;
     for (const QStringList &row : cells)

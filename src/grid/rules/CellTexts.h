@@ -28,6 +28,6 @@ ORVT_HOUSE_EXPORT QString htmlTable(const CellBlock &cells, qsizetype heads);
 // What a block makes of a place of so many rows and columns that is chosen for it: a
 // place that it fills several times, without rest, gets it as often; any other gets it
 // once, however large it is.
-ORVT_HOUSE_EXPORT CellBlock fittedBlock(const CellBlock &cells, qsizetype rows, qsizetype columns);
+ORVT_HOUSE_EXPORT CellBlock fittedBlock(CellBlock cells, qsizetype rows, qsizetype columns);
 
 } // namespace ORVTListview

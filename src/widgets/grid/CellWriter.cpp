@@ -22,7 +22,7 @@ QString CellWriter::refusalOf(CellEntry &entry, const CellRule &rule, const Aski
     const QString *held = m_table.textIn(entry.item, entry.column);
     if (!held)
         return {};
-    CellAnswer answer = checkedCell(rule, entry.text, asking.locale);
+    CellAnswer answer = checkedCell(rule, std::move(entry.text), asking.locale);
     if (!answer.isTaken())
         return answer.refusal;
     entry.text = std::move(answer.text);
@@ -109,7 +109,9 @@ QList<CellChange> CellWriter::write(QList<CellChange> changes)
 {
     const auto isLeftOut = [this](const CellChange &change) {
         const QString *text = m_table.textIn(change.item, change.column);
-        if (!text || change.text == change.former || *text != change.former)
+        const bool isAsItWas =
+            text && (text->isSharedWith(change.former) || *text == change.former);
+        if (!isAsItWas || change.text == change.former)
             return true;
         m_table.setText(*change.item, change.column, change.text);
         return false;

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -60,18 +61,17 @@ bool GridClipboard::paste()
 {
     const QMimeData *data = QGuiApplication::clipboard()->mimeData();
     const QList<CellPlace> chosen = m_tools.selection.chosen();
-    const CellBlock copied =
-        data && data->hasText() ? cellsOfTabbedText(data->text()) : CellBlock();
+    CellBlock copied = data && data->hasText() ? cellsOfTabbedText(data->text()) : CellBlock();
     if (copied.isEmpty() || chosen.isEmpty())
         return false;
     const bool isOne = copied.size() == 1 && copied.constFirst().size() == 1;
     return isOne ? m_tools.edit.enter(m_tools.edit.forChosen(copied.constFirst().constFirst()))
-                 : enterBlock(copied, chosen);
+                 : enterBlock(std::move(copied), chosen);
 }
 
 // Into the chosen cells when it fills them without rest, wherever they are; else into those
 // from the first one on, unless that would pass by chosen ones that lie elsewhere.
-bool GridClipboard::enterBlock(const CellBlock &copied, const QList<CellPlace> &chosen)
+bool GridClipboard::enterBlock(CellBlock copied, const QList<CellPlace> &chosen)
 {
     const CellPlace first = chosen.constFirst();
     const GridSelection &selection = m_tools.selection;
@@ -79,30 +79,30 @@ bool GridClipboard::enterBlock(const CellBlock &copied, const QList<CellPlace> &
                       selection.isByCells() ? selection.columns() : QList<int>{first.column}};
     if (chosen.size() != taken.rows.size() * taken.columns.size())
         return refuseForRoom(first);
-    const CellBlock cells = fittedBlock(copied, taken.rows.size(), taken.columns.size());
+    CellBlock cells = fittedBlock(std::move(copied), taken.rows.size(), taken.columns.size());
     if (cells.size() == taken.rows.size() && widthOf(cells) == taken.columns.size())
-        return m_tools.edit.enter(entriesFor(cells, taken));
+        return m_tools.edit.enter(entriesFor(std::move(cells), taken));
     const qsizetype most = std::max(cells.size(), taken.rows.size());
     const Place next{selection.rowsFrom(first.row, most), selection.columnsFrom(first.column)};
     const bool isInOnePiece = next.rows.first(taken.rows.size()) == taken.rows &&
                               next.columns.first(taken.columns.size()) == taken.columns;
     if (!isInOnePiece || cells.size() > next.rows.size() || widthOf(cells) > next.columns.size())
         return refuseForRoom(first);
-    const auto enter = [&] { return m_tools.edit.enter(entriesFor(cells, next)); };
+    const CellPlace last{next.rows.at(cells.size() - 1), next.columns.at(widthOf(cells) - 1)};
+    const auto enter = [&] { return m_tools.edit.enter(entriesFor(std::move(cells), next)); };
     if (!selection.isByCells())
         return enter();
-    const CellPlace last{next.rows.at(cells.size() - 1), next.columns.at(widthOf(cells) - 1)};
     return m_tools.selection.selectAfter(enter, first, last);
 }
 
-QList<CellEntry> GridClipboard::entriesFor(const CellBlock &cells, const Place &place) const
+QList<CellEntry> GridClipboard::entriesFor(CellBlock cells, const Place &place) const
 {
     QList<CellEntry> entries;
     entries.reserve(cells.size() * widthOf(cells));
     for (qsizetype line = 0; line < cells.size(); ++line) {
         ListItem *item = m_tools.table.itemAt(m_tools.view.model()->index(place.rows.at(line), 0));
         for (qsizetype at = 0; at < cells.at(line).size(); ++at)
-            entries.append({item, place.columns.at(at), cells.at(line).at(at)});
+            entries.append({item, place.columns.at(at), std::move(cells[line][at])});
     }
     return entries;
 }

@@ -31,8 +31,8 @@ private:
         QList<int> columns;
     };
 
-    bool enterBlock(const CellBlock &copied, const QList<CellPlace> &chosen);
-    QList<CellEntry> entriesFor(const CellBlock &cells, const Place &place) const;
+    bool enterBlock(CellBlock copied, const QList<CellPlace> &chosen);
+    QList<CellEntry> entriesFor(CellBlock cells, const Place &place) const;
     bool refuseForRoom(CellPlace first);
 
     GridTools m_tools;

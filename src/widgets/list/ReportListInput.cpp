@@ -57,6 +57,9 @@ bool ReportList::viewportEvent(QEvent *event)
     if (!d)
         return QTableView::viewportEvent(event);
     d->rowChoice.settle();
+    // What comes and goes in it lies where it is put; the toolkit would paint all again.
+    if (event->type() == QEvent::LayoutRequest)
+        return true;
     return d->surface.deliver(*event, [this, event] { return QTableView::viewportEvent(event); });
 }
 

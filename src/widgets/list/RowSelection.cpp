@@ -64,11 +64,12 @@ void RowSelection::note(const QItemSelection &changed, bool selected)
     }
 }
 
-void RowSelection::noteTouched(const QItemSelection &changed)
+// A row of which a part was deselected may have another one that is selected.
+void RowSelection::noteParts(const QItemSelection &changed, bool selected)
 {
     for (const QItemSelectionRange &range : changed) {
         for (int place = range.top(); place <= range.bottom(); ++place)
-            note(m_model.rowAt(place), rowIntersectsSelection(place));
+            note(m_model.rowAt(place), selected || rowIntersectsSelection(place));
     }
 }
 
@@ -128,8 +129,8 @@ void RowSelection::noteChange(const QItemSelection &selected, const QItemSelecti
     if (m_isSettling)
         return;
     if (m_isByCells) {
-        noteTouched(deselected);
-        noteTouched(selected);
+        noteParts(deselected, false);
+        noteParts(selected, true);
         return;
     }
     note(deselected, false);

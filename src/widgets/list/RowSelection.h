@@ -53,7 +53,7 @@ private:
     void note(ReportRow &row, bool selected);
     void noteNone();
     void note(const QItemSelection &changed, bool selected);
-    void noteTouched(const QItemSelection &changed);
+    void noteParts(const QItemSelection &changed, bool selected);
     void noteUnseen();
     void noteChange(const QItemSelection &selected, const QItemSelection &deselected);
     void settleSoon();

@@ -1,5 +1,7 @@
 #include "widgets/view/PlainCell.h"
 
+#include "widgets/view/LetterGlyphs.h"
+
 #include <QtGui/QPainter>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QStyle>
@@ -9,6 +11,8 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <functional>
+#include <optional>
 
 namespace ORVTListview {
 namespace {
@@ -56,25 +60,66 @@ QTextLine laidOut(QTextLayout &layout, const QStyleOptionViewItem &cell, int wid
     return line;
 }
 
-void drawText(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &room)
+// What draws a line with its top left at a place.
+using LineDrawer = std::function<void(const QPointF &)>;
+
+void drawLine(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &room, qreal height,
+              const LineDrawer &draw)
 {
-    QTextLayout layout(cell.text, cell.font);
-    QTextLine line = laidOut(layout, cell, room.width());
-    if (line.naturalTextWidth() > room.width()) {
-        layout.setText(
-            QFontMetrics(cell.font).elidedText(cell.text, cell.textElideMode, room.width()));
-        line = laidOut(layout, cell, room.width());
-    }
-    const bool isTall = line.height() > cell.rect.height();
+    const bool isTall = height > cell.rect.height();
     if (isTall) {
         painter.save();
         painter.setClipRect(cell.rect);
     }
-    const QSize size(room.width(), static_cast<int>(line.height()));
-    layout.draw(&painter,
-                QStyle::alignedRect(cell.direction, cell.displayAlignment, size, room).topLeft());
+    const QSize size(room.width(), static_cast<int>(height));
+    draw(QStyle::alignedRect(cell.direction, cell.displayAlignment, size, room).topLeft());
     if (isTall)
         painter.restore();
+}
+
+// Elided where there is not enough room.
+std::optional<LetterGlyphs::Line> knownLine(const QStyleOptionViewItem &cell, int width,
+                                            LetterGlyphs &letters)
+{
+    const std::optional<LetterGlyphs::Line> line = letters.lineOf(cell.text);
+    if (!line || line->naturalWidth <= width)
+        return line;
+    const std::optional<QString> elided =
+        cell.textElideMode == Qt::ElideRight ? letters.elidedText(cell.text, width) : std::nullopt;
+    return elided ? letters.lineOf(*elided) : std::nullopt;
+}
+
+// Without shaping it, if it stands at a side.
+bool drawKnown(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &room,
+               LetterGlyphs &letters)
+{
+    const bool isInside = (cell.displayAlignment & (Qt::AlignHCenter | Qt::AlignJustify)) != 0;
+    if (isInside || cell.direction == Qt::RightToLeft)
+        return false;
+    const std::optional<LetterGlyphs::Line> line = knownLine(cell, room.width(), letters);
+    if (!line)
+        return false;
+    const bool isRight = cell.displayAlignment.testFlag(Qt::AlignRight);
+    const QPointF indent(isRight ? room.width() - line->advance : 0, 0);
+    drawLine(painter, cell, room, line->height,
+             [&](const QPointF &place) { painter.drawGlyphRun(place + indent, line->glyphs); });
+    return true;
+}
+
+void drawShaped(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &room,
+                LetterGlyphs &letters)
+{
+    QTextLayout layout(cell.text, cell.font);
+    QTextLine line = laidOut(layout, cell, room.width());
+    letters.learn(cell.text, line);
+    if (line.naturalTextWidth() > room.width()) {
+        layout.setText(
+            QFontMetrics(cell.font).elidedText(cell.text, cell.textElideMode, room.width()));
+        line = laidOut(layout, cell, room.width());
+        letters.learn(layout.text(), line);
+    }
+    drawLine(painter, cell, room, line.height(),
+             [&](const QPointF &place) { layout.draw(&painter, place); });
 }
 
 bool hasPicture(const QStyleOptionViewItem &cell)
@@ -113,7 +158,7 @@ void drawGround(QPainter &painter, const QStyleOptionViewItem &cell, const QStyl
 
 } // namespace
 
-void drawCell(QPainter &painter, const QStyleOptionViewItem &cell)
+void drawCell(QPainter &painter, const QStyleOptionViewItem &cell, LetterGlyphs &letters)
 {
     const QStyle &style = *cell.widget->style();
     const bool isOurs = isPlain(cell) && isCommon(style);
@@ -127,7 +172,9 @@ void drawCell(QPainter &painter, const QStyleOptionViewItem &cell)
     const QPen former = painter.pen();
     painter.setPen(
         cell.palette.color(groupOf(cell), isSelected ? QPalette::HighlightedText : QPalette::Text));
-    drawText(painter, cell, room);
+    letters.setFont(cell.font);
+    if (!drawKnown(painter, cell, room, letters))
+        drawShaped(painter, cell, room, letters);
     painter.setPen(former);
 }
 

@@ -31,7 +31,7 @@ void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     cell.state &= ~QStyle::State_HasFocus;
     initStyleOption(&cell, index);
     cell.text = beginningOf(cell.text, lettersWithin(cell.rect.width()));
-    drawCell(*painter, cell);
+    drawCell(*painter, cell, m_letters);
     if (!option.state.testFlag(QStyle::State_HasFocus))
         return;
     const bool selected = option.state.testFlag(QStyle::State_Selected);

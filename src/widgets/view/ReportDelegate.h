@@ -1,5 +1,7 @@
 #pragma once
 
+#include "widgets/view/LetterGlyphs.h"
+
 #include <QtWidgets/QStyledItemDelegate>
 
 #include <functional>
@@ -53,6 +55,7 @@ protected:
 private:
     EditorMaker m_maker;
     Dresser m_dresser;
+    mutable LetterGlyphs m_letters;
 };
 
 } // namespace ORVTListview

@@ -37,6 +37,9 @@ TEST(CellTexts, AQuotationMarkThatIsNotClosedIsALetter)
     EXPECT_EQ(cellsOfTabbedText(u"\"a\tb\n"_s), (CellBlock{{u"\"a"_s, u"b"_s}}));
     EXPECT_EQ(cellsOfTabbedText(u"\"a\"b\tc"_s), (CellBlock{{u"\"a\"b"_s, u"c"_s}}));
     EXPECT_EQ(cellsOfTabbedText(u"\""_s), (CellBlock{{u"\""_s}}));
+    EXPECT_EQ(cellsOfTabbedText(u"\"a\"\"x\t\"c\""_s), (CellBlock{{u"\"a\"\"x"_s, u"c"_s}}));
+    EXPECT_EQ(cellsOfTabbedText(u"\"a\nb\tc\n\"d\"e"_s),
+              (CellBlock{{u"\"a"_s}, {u"b"_s, u"c"_s}, {u"\"d\"e"_s}}));
 }
 
 TEST(CellTexts, CommasAreThoseOfTheStandard)
