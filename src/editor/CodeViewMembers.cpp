@@ -69,6 +69,7 @@ QList<Member> typingMembers()
         readWrite<&View::wordListOpensItself, &View::setWordListOpensItself>(
             u"wordListOpensItself"),
         readWrite<&View::keepsText, &View::setKeepsText>(u"keepsText"),
+        readWrite<&View::hasOwnUndo, &View::setHasOwnUndo>(u"hasOwnUndo"),
         method<&View::setWordDescriptions>(u"setWordDescriptions", u"descriptions"),
         method<&View::openProgram>(u"openProgram", u"text"),
         method<&View::cancelOpening>(u"cancelOpening"),
