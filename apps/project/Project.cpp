@@ -3,13 +3,13 @@
 #include "base/TextRules.h"
 #include "project/JsonEdit.h"
 #include "project/KeptVersion.h"
+#include "project/NewProject.h"
 #include "project/PointNames.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
 #include "project/TextFile.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSet>
@@ -26,33 +26,50 @@ struct NewFile
 {
     QString name;
     QByteArray bytes;
+    bool isWanted = true;
 };
 
-// Both or none.
-void writeBoth(const NewFile &first, const NewFile &second)
+// All or none.
+void writeAll(const QList<NewFile> &files)
 {
-    const bool wasThere = QFileInfo::exists(first.name);
-    const QByteArray before = wasThere ? readFile(first.name) : QByteArray();
-    writeFile(first.name, first.bytes);
+    QList<NewFile> before;
     try {
-        writeFile(second.name, second.bytes);
+        for (const NewFile &file : files) {
+            const bool wasThere = QFileInfo::exists(file.name);
+            const NewFile former{file.name, wasThere ? readFile(file.name) : QByteArray()};
+            writeFile(file.name, file.bytes);
+            before.prepend(wasThere ? former : NewFile{file.name, {}, false});
+        }
     } catch (const Error &) {
-        if (wasThere)
-            writeFile(first.name, before);
-        else
-            QFile::remove(first.name);
+        for (const NewFile &file : std::as_const(before)) {
+            if (file.isWanted)
+                writeFile(file.name, file.bytes);
+            else
+                QFile::remove(file.name);
+        }
         throw;
     }
 }
 
-// The file's name of the program that belongs to a project; empty for what is none.
-QString programOf(const QString &projectFile)
+// The files of the programs that belong to a project; none for what is none.
+QStringList programsOf(const QString &projectFile)
 {
+    QStringList files;
     try {
-        return JsonPlace::parse(readFile(projectFile), projectFile).member(u"program"_s).text();
+        const QList<ProgramEntry> programs =
+            readContents(JsonPlace::parse(readFile(projectFile), projectFile)).programs;
+        for (const ProgramEntry &program : programs)
+            files.append(program.file);
     } catch (const Error &) {
         return {};
     }
+    return files;
+}
+
+// Where the text is another one, or nothing is.
+bool isToBeWritten(const QString &fileName, const QByteArray &bytes, const ProgramFile &former)
+{
+    return bytes != former.bytes() || !QFileInfo::exists(fileName);
 }
 
 } // namespace
@@ -66,12 +83,13 @@ Project::Project(const QString &fileName, ProjectContents contents)
     : m_fileName(fileName)
     , m_contents(std::move(contents))
     , m_saved(m_contents.rows)
+    , m_programs(m_contents.programs, m_contents.texts)
+    , m_savedPrograms(m_contents.programs)
 {
     for (const LwType type : projectTypes()) {
         if (isVocabularyType(type))
             fillPoints(type);
     }
-    m_shown = program();
     for (const ProjectFamily &family : m_contents.indexedNames)
         m_indexedNames.Add(family.name, family.numberFormat, family.lowerBound, family.upperBound);
 }
@@ -85,7 +103,9 @@ std::unique_ptr<Project> Project::versionBefore(const QString &fileName)
 
 std::unique_ptr<Project> Project::none()
 {
-    return std::unique_ptr<Project>(new Project({}, ProjectContents()));
+    ProjectContents contents;
+    contents.programs.append(ProgramEntry());
+    return std::unique_ptr<Project>(new Project({}, contents));
 }
 
 void Project::fillPoints(LwType type)
@@ -198,6 +218,7 @@ bool Project::saveTables(Theirs theirs)
         takeOver(readContents(JsonPlace::parse(there, m_fileName)).rows);
     m_contents.json = json;
     m_saved = m_contents.rows;
+    m_savedPrograms = m_programs.entries();
     m_isOfVersionBefore = false;
     return m_saved != before;
 }
@@ -220,19 +241,71 @@ void Project::setReading(LwType type, qsizetype row, qsizetype column, const QVa
     m_contents.rows[type][row].setReading(column, cell);
 }
 
-QByteArray Project::programBytes(const QString &program, Encoding encoding) const
+QString Project::programFile(qint32 id) const
 {
-    const ProgramFile file =
-        encoding == Encoding::Utf8 ? m_contents.program.inUtf8() : m_contents.program;
-    return file.with(program, m_shown, programFile());
+    return programPath(m_fileName, m_programs.part(id).file);
+}
+
+qint32 Project::makeProgram(const QString &name)
+{
+    const QString base = fileNameFor(name);
+    for (int number = 1;; ++number) {
+        const QString file = base + (number == 1 ? QString() : u'-' + QString::number(number));
+        const QFileInfo place(programPath(m_fileName, file + u".prog"_s));
+        if (!m_programs.hasFile(place.fileName()) && !place.exists() && !place.isSymLink())
+            return m_programs.make(place.fileName());
+    }
+}
+
+QString Project::programNameFault(qint32 program, const QString &name) const
+{
+    if (!isPointName(name))
+        return ProjectTexts::tr("\"%1\" is not the name of a program").arg(name);
+    for (const ProjectProgram &each : programs()) {
+        if (each.id != program && isSameWord(each.name, name))
+            return ProjectTexts::tr("Another program has the name \"%1\"").arg(name);
+    }
+    return {};
+}
+
+bool Project::hasChangedTables() const
+{
+    return m_isOfVersionBefore || m_contents.rows != m_saved ||
+           m_programs.entries() != m_savedPrograms;
+}
+
+TableSaving Project::tableSaving() const
+{
+    return {m_fileName, m_saved, m_contents.rows, m_savedPrograms, m_programs.entries()};
+}
+
+// UTF-8 is for programs that need it.
+QByteArray Project::programBytes(qint32 id, const QString &program, Encoding encoding) const
+{
+    const ProjectPrograms::Part &part = m_programs.part(id);
+    try {
+        return part.text.with(program, part.shown, programFile(id));
+    } catch (const Error &error) {
+        if (encoding != Encoding::Utf8 || error.Number() != TextNotEncodable)
+            throw;
+    }
+    return part.text.inUtf8().with(program, part.shown, programFile(id));
+}
+
+QMap<qint32, QByteArray> Project::bytesOf(const ProgramTexts &texts, Encoding encoding) const
+{
+    QMap<qint32, QByteArray> bytes;
+    for (const ProjectProgram &program : programs())
+        bytes.insert(program.id, programBytes(program.id, texts.value(program.id), encoding));
+    return bytes;
 }
 
 void Project::saveProgram(const QString &program)
 {
-    const QByteArray bytes = programBytes(program);
-    writeFile(programFile(), bytes);
-    m_contents.program = ProgramFile(bytes);
-    m_shown = program;
+    const qint32 id = firstProgram();
+    const QByteArray bytes = programBytes(id, program, Encoding::ItsOwn);
+    writeFile(programFile(id), bytes);
+    m_programs.part(id) = {m_programs.part(id).file, ProgramFile(bytes), program};
 }
 
 // The version before is what is saved here; the file that it stands in for goes to its
@@ -253,71 +326,93 @@ void Project::saveProjectFile(Theirs theirs, Saved &saved)
     }
 }
 
-Project::Saved Project::save(const QString &program, Theirs theirs, Encoding encoding)
+// A program that has no file yet comes first: the project's file must not name what is not
+// there.
+Project::Saved Project::save(const ProgramTexts &texts, Theirs theirs, Encoding encoding)
 {
-    const QByteArray bytes = programBytes(program, encoding); // before anything is written
+    const QMap<qint32, QByteArray> bytes = bytesOf(texts, encoding); // before anything is written
     Saved saved;
+    for (auto each = bytes.cbegin(); each != bytes.cend(); ++each) {
+        if (!QFileInfo::exists(programFile(each.key())))
+            writeFile(programFile(each.key()), *each);
+    }
     if (hasChangedTables())
         saveProjectFile(theirs, saved);
     else if (!QFileInfo::exists(m_fileName))
         writeFile(m_fileName, m_contents.json);
-    if (bytes != m_contents.program.bytes() || !QFileInfo::exists(programFile())) {
-        const QString notKept = keepVersionBefore(programFile());
-        if (!notKept.isEmpty())
-            saved.notKept = notKept;
-        writeFile(programFile(), bytes);
-        m_contents.program = ProgramFile(bytes);
+    for (auto each = bytes.cbegin(); each != bytes.cend(); ++each) {
+        ProjectPrograms::Part &part = m_programs.part(each.key());
+        const QString file = programFile(each.key());
+        if (isToBeWritten(file, *each, part.text)) {
+            const QString notKept = keepVersionBefore(file);
+            if (!notKept.isEmpty())
+                saved.notKept = notKept;
+            writeFile(file, *each);
+        }
+        part = {part.file, ProgramFile(*each), texts.value(each.key())};
     }
-    m_shown = program;
     return saved;
 }
 
-// Beside the project's file, under its own name if that is free: no file has it, or it is
-// the program of the very project that is replaced.
-QString Project::programPlace(const QString &fileName) const
+// Beside the project's file, each under its own name if that is free: no file has it, or it
+// is a program of the very project that is replaced.
+QMap<qint32, QString> Project::placesBeside(const QString &fileName) const
 {
-    const QDir folder = QFileInfo(fileName).dir();
-    const QFileInfo own(programFile());
-    const QString replaced = programOf(fileName);
+    const QStringList replaced = programsOf(fileName);
     const bool isSamePlace = QFileInfo(fileName) == QFileInfo(m_fileName);
-    const QString base = QFileInfo(fileName).completeBaseName();
-    const QString suffix = own.suffix().isEmpty() ? QString() : u'.' + own.suffix();
-    QString name = own.fileName();
-    for (int number = 1;; ++number) {
-        const QFileInfo place(folder.filePath(name));
-        const bool isOwn = place == own;
-        const bool isFree = isOwn ? isSamePlace : !place.exists() || place.fileName() == replaced;
-        if (isFree)
-            return place.filePath();
-        name = base + (number == 1 ? QString() : u'-' + QString::number(number)) + suffix;
+    QMap<qint32, QString> places;
+    for (const ProjectProgram &program : programs()) {
+        const QFileInfo own(programFile(program.id));
+        const auto isFree = [&](const QString &name) {
+            const QFileInfo place(programPath(fileName, name));
+            if (places.values().contains(name))
+                return false;
+            return place == own ? isSamePlace : !place.exists() || replaced.contains(name);
+        };
+        const QString base = QFileInfo(fileName).completeBaseName();
+        const QString suffix = own.suffix().isEmpty() ? QString() : u'.' + own.suffix();
+        QString name = own.fileName();
+        for (int number = 1; !isFree(name); ++number)
+            name = base + (number == 1 ? QString() : u'-' + QString::number(number)) + suffix;
+        places.insert(program.id, name);
     }
+    return places;
 }
 
-Project::Saved Project::saveAt(const QString &fileName, const QString &program, Encoding encoding)
+Project::Saved Project::saveAt(const QString &fileName, const ProgramTexts &texts,
+                               Encoding encoding)
 {
-    const QByteArray bytes = programBytes(program, encoding);
-    const QString file = programPlace(fileName);
-    QByteArray json = tableSaving().into(m_contents.json, Theirs::Overwritten);
-    const QString name = QFileInfo(file).fileName();
-    const JsonPlace place = JsonPlace::parse(json, fileName).member(u"program"_s);
-    if (place.text() != name) {
-        JsonEdit edit(json);
-        edit.replace(place, name);
-        json = edit.bytes();
+    const QMap<qint32, QByteArray> bytes = bytesOf(texts, encoding);
+    const QMap<qint32, QString> places = placesBeside(fileName);
+    QList<NewFile> files;
+    ProgramList list = programs();
+    QList<ProgramEntry> entries;
+    for (ProjectProgram &program : list) {
+        const QString &place = places[program.id];
+        if (program.name == QFileInfo(programFile(program.id)).fileName())
+            program.name = place;
+        entries.append({program.name, place});
+        files.append({programPath(fileName, place), bytes[program.id]});
     }
+    TableSaving saving = tableSaving();
+    saving.programs = entries;
+    const QByteArray json = saving.into(m_contents.json, Theirs::Overwritten);
+    files.append({fileName, json});
     Saved saved;
-    for (const QString &replaced : {file, fileName}) {
-        const QString notKept = keepVersionBefore(replaced);
+    for (const NewFile &file : std::as_const(files)) {
+        const QString notKept = keepVersionBefore(file.name);
         if (!notKept.isEmpty())
             saved.notKept = notKept;
     }
-    writeBoth({file, bytes}, {fileName, json});
+    writeAll(files);
     m_fileName = fileName;
-    m_contents.programFile = file;
-    m_contents.program = ProgramFile(bytes);
+    m_programs.setList(list);
+    for (const ProjectProgram &program : std::as_const(list))
+        m_programs.part(program.id) = {places[program.id], ProgramFile(bytes[program.id]),
+                                       texts.value(program.id)};
     m_contents.json = json;
     m_saved = m_contents.rows;
-    m_shown = program;
+    m_savedPrograms = entries;
     m_isOfVersionBefore = false;
     return saved;
 }
@@ -335,9 +430,9 @@ bool isAnother(const QString &fileName, const QByteArray &bytes)
 
 } // namespace
 
-bool Project::isProgramChangedOutside() const
+bool Project::isProgramChangedOutside(qint32 id) const
 {
-    return isAnother(programFile(), m_contents.program.bytes());
+    return isAnother(programFile(id), m_programs.part(id).text.bytes());
 }
 
 bool Project::isChangedOutside() const

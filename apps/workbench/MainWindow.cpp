@@ -3,15 +3,14 @@
 #include "Appearance.h"
 #include "CheckResults.h"
 #include "EditMenu.h"
-#include "EditorViewMenu.h"
 #include "Languages.h"
-#include "LiveAnalysis.h"
 #include "OpeningFault.h"
 #include "OpeningProgress.h"
 #include "PointChooser.h"
 #include "PointTables.h"
 #include "PointValues.h"
 #include "PointsMenu.h"
+#include "ProgramAnalyses.h"
 #include "ProgramChecking.h"
 #include "ProgramMenu.h"
 #include "ProgramNavigation.h"
@@ -31,12 +30,14 @@
 #include "workbench/life/StartPage.h"
 #include "workbench/reading/ControllerPart.h"
 #include "workbench/renaming/PointRenaming.h"
+#include "workbench/renaming/ProgramNaming.h"
 #include "workbench/renaming/ProjectHistory.h"
 #include "workbench/saving/ProjectSaving.h"
 #include "workbench/saving/RecoveryKeeper.h"
 #include "workbench/saving/RecoveryOffer.h"
 #include "workbench/settings/SettingsDialog.h"
 #include "workbench/views/Panes.h"
+#include "workbench/views/ProgramViews.h"
 #include "workbench/views/TableViews.h"
 #include "workbench/views/WindowMenu.h"
 
@@ -68,36 +69,37 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_languages(languages)
     , m_points(new PointChooser(this))
     , m_pages(new QStackedWidget(this))
-    , m_document(new ProjectDocument({[this] { return m_code->CodeText(); },
-                                      [this] { return m_code->RTextBox()->TextLength(); }},
-                                     this))
+    , m_document(new ProjectDocument(
+          {[this](qint32 id) { return m_view->programs().view(id).CodeText(); },
+           [this](qint32 id) { return m_view->programs().view(id).RTextBox()->TextLength(); }},
+          this))
     , m_controller(new ControllerPart(*m_document, *this))
     , m_view(new ProjectView(*m_document, this))
     , m_fault(new OpeningFault(this))
     , m_recent(new RecentProjects(this))
     , m_start(new StartPage(*m_recent, this))
     , m_firstSteps(new FirstSteps(this))
-    , m_code(&m_view->program())
     , m_history(new ProjectHistory(*m_document, *m_view))
-    , m_renaming(new PointRenaming(*m_document, *m_code, *this))
+    , m_renaming(new PointRenaming(*m_document, m_view->programs(), *this))
+    , m_naming(new ProgramNaming(*m_document, *m_view, *this))
     , m_importing(new PointImporting(*m_document, *this))
     , m_saving(new ProjectSaving(*m_document, *this))
     , m_life(new ProjectLife({*this, *m_document, *m_saving, *m_recent}))
     , m_recovery(new RecoveryKeeper(*m_document, this))
-    , m_offer(new RecoveryOffer(*m_document, *m_recovery, *m_code, *this))
+    , m_offer(new RecoveryOffer(*m_document, *m_recovery, m_view->programs(), *this))
     , m_export(new Exporting(*m_view, *this))
-    , m_values(new PointValues(*m_code->codeView(), m_controller->reading(), this))
+    , m_values(new PointValues(m_view->programs(), m_controller->reading(), this))
     , m_results(new CheckResults(this))
-    , m_analysis(new LiveAnalysis(*m_code->codeView(), *m_code->RTextBox(), this))
+    , m_analyses(new ProgramAnalyses(m_view->programs(), this))
     , m_checking(
-          new ProgramChecking({*m_analysis, *m_code->RTextBox()}, *m_document, *m_results, *this))
-    , m_navigation(new ProgramNavigation(*m_view, *m_analysis, *m_results, this))
+          new ProgramChecking({m_view->programs(), *m_analyses}, *m_document, *m_results, *this))
+    , m_navigation(new ProgramNavigation(*m_view, *m_analyses, *m_results, this))
     , m_panes(new Panes(*this, *m_view, *m_points))
     , m_programInfo(new QLabel(this))
-    , m_opening(new OpeningProgress(*m_code->codeView(), this))
+    , m_opening(new OpeningProgress(this))
     , m_position(new QLabel(this))
 {
-    m_points->setPictures(*m_code->GetImage());
+    m_points->setPictures(*program().GetImage());
     addToolBar(m_points);
     m_pages->addWidget(m_view);
     m_pages->addWidget(m_fault);
@@ -107,10 +109,9 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     addDockWidget(Qt::BottomDockWidgetArea, m_results);
     resizeDocks({m_results}, {160}, Qt::Vertical);
     m_results->hide();
-    EditorViewMenu::switchOn(*m_code->codeView());
     buildMenus();
     buildStatusBar();
-    connectEditor();
+    connectPrograms();
     connectPoints();
     connectReading();
     connectFirstSteps();
@@ -131,7 +132,7 @@ void MainWindow::buildMenus()
 {
     buildFileMenu();
     buildEditMenu();
-    menuBar()->addMenu(new ProgramMenu(*m_checking, *m_navigation, *m_results, menuBar()));
+    menuBar()->addMenu(new ProgramMenu({*m_checking, *m_naming, *m_navigation}, *m_results, menuBar()));
     menuBar()->addMenu(
         new PointsMenu(*m_view, *m_document,
                        {*m_renaming, *m_importing, m_controller->reading(), *m_points}, menuBar()));
@@ -190,7 +191,7 @@ void MainWindow::buildHelpMenu()
 
 void MainWindow::buildViewMenu()
 {
-    auto *view = new ViewMenu(*m_code->codeView(), m_languages, menuBar());
+    auto *view = new ViewMenu(*m_view, m_languages, menuBar());
     menuBar()->addMenu(view);
     connect(view, &ViewMenu::editorChanged, this, &MainWindow::showPosition);
     connect(view, &ViewMenu::languageChosen, this, [this](const QLocale &language) {
@@ -211,26 +212,49 @@ void MainWindow::buildStatusBar()
     statusBar()->setMinimumHeight(statusBar()->sizeHint().height()); // also with nothing in it
 }
 
-void MainWindow::connectEditor()
+ORVListView &MainWindow::program() const
 {
-    connect(m_code, &ORVListView::StatusUpdate, m_position, &QLabel::setText);
-    connect(m_code, &ORVListView::QueryAnalyze, m_checking, &ProgramChecking::analyse);
-    connect(m_code, &ORVListView::QueryCompile, m_checking, &ProgramChecking::compile);
-    connect(m_code->RTextBox(), &QPlainTextEdit::blockCountChanged, this,
-            &MainWindow::showProgramInfo);
-    m_code->RTextBox()->viewport()->installEventFilter(this);
-    connect(m_code->codeView(), &CodeView::problemChosen, m_view,
-            [this] { m_view->enterType(dsCode); });
-    connect(m_code->codeView(), &CodeView::problemChosen, this, &MainWindow::showPosition);
-    connect(m_code->RTextBox(), &QPlainTextEdit::selectionChanged, this, &MainWindow::showPosition);
+    return m_view->program();
+}
+
+void MainWindow::connectPrograms()
+{
+    m_view->programs().withEach(this, [this](qint32, ORVListView &list) { connectEditor(list); });
+    connect(&m_view->programs(), &ProgramViews::made, this,
+            [this](qint32, ORVListView &list) { list.Init_RichTextBox(shownAppearance()); });
+    connect(m_document, &ProjectDocument::programListChanged, this, &MainWindow::takePrograms);
     connectAnalysis();
+}
+
+void MainWindow::connectEditor(ORVListView &list)
+{
+    RichTextBox &box = *list.RTextBox();
+    connect(&list, &ORVListView::StatusUpdate, this, &MainWindow::showPosition);
+    connect(&list, &ORVListView::QueryAnalyze, m_checking, &ProgramChecking::analyse);
+    connect(&list, &ORVListView::QueryCompile, m_checking, &ProgramChecking::compile);
+    connect(&box, &QPlainTextEdit::blockCountChanged, this, &MainWindow::showProgramInfo);
+    connect(&box, &QPlainTextEdit::selectionChanged, this, &MainWindow::showPosition);
+    connect(&box, &RichTextBox::Change, m_document, &ProjectDocument::noteProgramChange);
+    box.viewport()->installEventFilter(this);
+    connect(list.codeView(), &CodeView::problemChosen, m_view, [this] { m_view->enterType(dsCode); });
+    connect(list.codeView(), &CodeView::problemChosen, this, &MainWindow::showPosition);
+    m_opening->add(*list.codeView());
+}
+
+void MainWindow::takePrograms()
+{
+    m_view->takePrograms();
+    m_results->setPrograms(m_document->project()->programs());
+    m_analyses->takeList();
+    showProgramInfo();
+    showPosition();
 }
 
 void MainWindow::connectAnalysis()
 {
-    connect(m_analysis, &LiveAnalysis::analysed, this,
-            [this] { m_results->followProblems(m_analysis->found()); });
-    connect(m_analysis, &LiveAnalysis::linesReplaced, m_results, &CheckResults::moveLines);
+    connect(m_analyses, &ProgramAnalyses::analysed, this,
+            [this] { m_results->followProblems(m_checking->problems()); });
+    connect(m_analyses, &ProgramAnalyses::linesReplaced, m_results, &CheckResults::moveLines);
     connect(m_navigation, &ProgramNavigation::moved, this, &MainWindow::showPosition);
     connect(m_navigation, &ProgramNavigation::told, this,
             [this](const QString &text) { statusBar()->showMessage(text, 5000); });
@@ -239,8 +263,7 @@ void MainWindow::connectAnalysis()
 
 void MainWindow::takePoints()
 {
-    m_analysis->takeWords();
-    m_analysis->setOtherUses(otherUsesOf(*m_document->project()));
+    m_analyses->takePoints(otherUsesOf(*m_document->project()));
 }
 
 void MainWindow::connectPoints()
@@ -300,7 +323,7 @@ void MainWindow::showSample()
     const Project *project = m_document->project();
     if (project && QFileInfo(project->fileName()) == QFileInfo(m_sample)) {
         m_pages->setCurrentWidget(m_view);
-        m_code->setFocus();
+        program().setFocus();
     } else if (m_saving->mayLeave()) {
         openForUser(m_sample);
     }
@@ -316,8 +339,6 @@ void MainWindow::showPage()
 
 void MainWindow::connectSaving()
 {
-    connect(m_code->RTextBox(), &RichTextBox::Change, m_document,
-            &ProjectDocument::noteProgramChange);
     connect(m_document, &ProjectDocument::tablesChanged, m_points, &PointChooser::refill);
     connect(m_document, &ProjectDocument::tablesChanged, m_values, &PointValues::takeProject);
     connect(m_document, &ProjectDocument::tablesChanged, m_view, &ProjectView::refresh);
@@ -416,10 +437,9 @@ void MainWindow::closeProject()
     takeProject(m_document->none());
     m_document->setProject(nullptr);
     m_recovery->end();
-    m_code->Clear();
+    m_view->programs().clear();
     m_points->refill();
-    m_analysis->takeWords();
-    m_analysis->setOtherUses({});
+    m_analyses->takePoints({});
     setWindowModified(false);
     showTitle();
     m_programInfo->clear();
@@ -451,10 +471,14 @@ void MainWindow::showProgram()
     m_results->clear();
     m_pages->setCurrentWidget(m_view);
     m_view->showType(dsCode);
-    m_code->Clear();
+    m_view->programs().clear();
     applyAppearance();
-    m_code->codeView()->openProgram(m_document->project()->program());
+    const Project &project = *m_document->project();
+    m_results->setPrograms(project.programs());
+    for (const ProjectProgram &each : project.programs())
+        m_view->programs().view(each.id).codeView()->openProgram(project.program(each.id));
     m_document->noteShown();
+    m_analyses->takeList();
     takePoints();
     m_view->enterType(dsCode);
     showPosition();
@@ -495,16 +519,22 @@ void MainWindow::applyAppearance()
     m_palette.stop();
     if (!m_document->project())
         return;
-    const RichTextSettings paper = m_document->project()->editor();
-    const RichTextSettings shown =
-        toldApart(legibleOn(palette(), m_settings.look.over(paper)), paper);
-    m_code->Init_RichTextBox(shown);
-    m_export->setColours(PaperColours(paper, shown));
+    const RichTextSettings shown = shownAppearance();
+    for (const ProjectProgram &each : m_view->programs().list())
+        m_view->programs().view(each.id).Init_RichTextBox(shown);
+    m_export->setColours(PaperColours(m_document->project()->editor(), shown));
+}
+
+RichTextSettings MainWindow::shownAppearance() const
+{
+    const RichTextSettings paper =
+        m_document->project() ? m_document->project()->editor() : defaultColours();
+    return toldApart(legibleOn(palette(), m_settings.look.over(paper)), paper);
 }
 
 void MainWindow::showPosition()
 {
-    m_position->setText(m_code->GetPositionDisplay());
+    m_position->setText(program().GetPositionDisplay());
 }
 
 void MainWindow::showProgramInfo()
@@ -513,9 +543,10 @@ void MainWindow::showProgramInfo()
     if (m_pages->currentWidget() != m_view)
         m_programInfo->clear(); // not hidden: the bar does that for messages
     else if (project)
-        m_programInfo->setText(tr("%1, lines: %2")
-                                   .arg(QFileInfo(project->programFile()).fileName(),
-                                        QString::number(m_code->RTextBox()->lineCount())));
+        m_programInfo->setText(
+            tr("%1, lines: %2")
+                .arg(QFileInfo(project->programFile(m_view->programs().current())).fileName(),
+                     QString::number(program().RTextBox()->lineCount())));
 }
 
 // What the menus say is made anew; what the user has done stays.
@@ -524,7 +555,7 @@ void MainWindow::retranslate()
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
     showTitle();
     m_results->retranslate();
-    m_analysis->retranslate();
+    m_analyses->retranslate();
     m_opening->retranslate();
     m_controller->retranslate();
     m_firstSteps->retranslate();

@@ -2,7 +2,7 @@
 
 #include "workbench/settings/Settings.h"
 
-#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/Types.h>
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QMainWindow>
@@ -18,11 +18,13 @@ class EditMenu;
 class Exporting;
 class FirstSteps;
 class Languages;
-class LiveAnalysis;
 class OpeningProgress;
 class OpeningFault;
 class Panes;
+class ORVListView;
+class ProgramAnalyses;
 class ProgramChecking;
+class ProgramNaming;
 class ProgramNavigation;
 class PointChooser;
 class PointImporting;
@@ -80,7 +82,7 @@ public:
     const Settings &settings() const { return m_settings; }
     void setSettings(const Settings &settings);
 
-    // Shows the program, or the table of a type.
+    // Shows the program that was used last, or the table of a type.
     void showType(LwType type);
 
     // The page of the first start, whose sample is this project.
@@ -104,7 +106,8 @@ private:
     void buildViewMenu();
     void buildHelpMenu();
     void buildStatusBar();
-    void connectEditor();
+    void connectPrograms();
+    void connectEditor(ORVListView &list);
     void connectPoints();
     void connectReading();
     void connectFirstSteps();
@@ -119,6 +122,9 @@ private:
     void decide(const Settings &settings);
     void applyAppearance();
     void connectAnalysis();
+    void takePrograms();
+    RichTextSettings shownAppearance() const;
+    ORVListView &program() const;
     void takePoints();
     bool showsProject() const;
     void showPosition();
@@ -137,9 +143,9 @@ private:
     RecentProjects *m_recent;
     StartPage *m_start;
     FirstSteps *m_firstSteps;
-    ORVListView *m_code; // the view owns it
     ProjectHistory *m_history;
     PointRenaming *m_renaming;
+    ProgramNaming *m_naming;
     PointImporting *m_importing;
     ProjectSaving *m_saving;
     ProjectLife *m_life;
@@ -148,7 +154,7 @@ private:
     Exporting *m_export;
     PointValues *m_values;
     CheckResults *m_results;
-    LiveAnalysis *m_analysis;
+    ProgramAnalyses *m_analyses;
     ProgramChecking *m_checking;
     ProgramNavigation *m_navigation;
     Panes *m_panes;

@@ -2,13 +2,14 @@
 
 #include "CheckResults.h"
 #include "CheckTexts.h"
-#include "LiveAnalysis.h"
 #include "PointTables.h"
+#include "ProgramAnalyses.h"
 #include "ProjectView.h"
 #include "base/TextRules.h"
 #include "project/PointReferences.h"
 #include "project/Project.h"
 #include "shared/texts/TextTable.h"
+#include "workbench/views/ProgramViews.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ListItem.h>
@@ -44,15 +45,15 @@ LwType typeOf(WordClass wordClass)
 
 } // namespace
 
-ProgramNavigation::ProgramNavigation(ProjectView &view, LiveAnalysis &analysis,
+ProgramNavigation::ProgramNavigation(ProjectView &view, ProgramAnalyses &analyses,
                                      CheckResults &results, QObject *parent)
     : QObject(parent)
     , m_view(view)
-    , m_analysis(analysis)
+    , m_analyses(analyses)
     , m_results(results)
 {
     connect(&results, &CheckResults::chosen, this, &ProgramNavigation::goTo);
-    connect(&analysis, &LiveAnalysis::linesReplaced, this, &ProgramNavigation::moveLines);
+    connect(&analyses, &ProgramAnalyses::linesReplaced, this, &ProgramNavigation::moveLines);
 }
 
 void ProgramNavigation::setProject(const Project *project)
@@ -109,10 +110,12 @@ void ProgramNavigation::findUses()
         m_results.showUses(usesOf(at));
 }
 
-void ProgramNavigation::moveLines(const ReplacedLines &lines)
+void ProgramNavigation::moveLines(qint32 program, const ReplacedLines &lines)
 {
-    for (ResultPlace &place : m_former)
-        place.line = place.line > 0 ? lines.moved(place.line) : place.line;
+    for (ResultPlace &place : m_former) {
+        if (place.line > 0 && place.program == program)
+            place.line = lines.moved(place.line);
+    }
 }
 
 void ProgramNavigation::remember()
@@ -136,22 +139,28 @@ ResultPlace ProgramNavigation::current() const
     }
     const RichTextBox &box = *list.RTextBox();
     const qint32 line = box.GetLineFromChar(box.SelStart());
-    return {line + 1, {box.SelStart() - box.lineStart(line), box.SelLength()}};
+    return {.line = line + 1,
+            .piece = {box.SelStart() - box.lineStart(line), box.SelLength()},
+            .program = m_view.programs().current()};
 }
 
 void ProgramNavigation::show(const ResultPlace &place)
 {
-    m_view.enterType(place.line > 0 ? dsCode : place.type);
-    if (place.line > 0)
+    if (place.line > 0) {
+        m_view.enterProgram(place.program);
         showLine(place);
-    else if (PointTables *table = m_view.currentTable())
+        Q_EMIT moved();
+        return;
+    }
+    m_view.enterType(place.type);
+    if (PointTables *table = m_view.currentTable())
         table->showRow(place.row);
     Q_EMIT moved();
 }
 
 void ProgramNavigation::showLine(const ResultPlace &place)
 {
-    ORVListView &list = m_view.program();
+    const ORVListView &list = m_view.program();
     RichTextBox &box = *list.RTextBox();
     list.codeView()->goToLine(place.line);
     const qint32 line = std::min(place.line, box.lineCount()) - 1;
@@ -165,13 +174,14 @@ ProgramNavigation::NamedPoint ProgramNavigation::pointInProgram() const
 {
     if (m_view.currentTable())
         return {};
-    m_analysis.takeWords();
+    m_analyses.takeWords();
     const RichTextBox &box = *m_view.program().RTextBox();
     const qint32 line = box.GetLineFromChar(box.SelStart());
     const qint32 caret = box.SelStart() - box.lineStart(line);
     const QString text = box.lineText(line);
+    const ProgramWords &words = m_analyses.of(m_view.programs().current()).words();
     QList<LineProblem> problems;
-    for (const ProgramToken &token : tokensOf(text, m_analysis.words(), problems)) {
+    for (const ProgramToken &token : tokensOf(text, words, problems)) {
         const bool isName = token.kind == TokenKind::Name || token.kind == TokenKind::Unknown;
         if (isName && token.place.start <= caret && caret <= token.place.end())
             return {typeOf(token.wordClass), text.mid(token.place.start, token.place.length)};
@@ -206,9 +216,12 @@ qsizetype ProgramNavigation::rowOf(const NamedPoint &point) const
 QList<ShownUse> ProgramNavigation::usesOf(const NamedPoint &point) const
 {
     QList<ShownUse> uses;
-    const RichTextBox &box = *m_view.program().RTextBox();
-    for (const UsePlace &use : m_analysis.usesOf(point.name))
-        uses.append({{use.line, use.place}, box.lineText(use.line - 1).simplified()});
+    for (const ProjectProgram &program : m_analyses.list()) {
+        const RichTextBox &box = *m_view.programs().view(program.id).RTextBox();
+        for (const UsePlace &use : m_analyses.of(program.id).usesOf(point.name))
+            uses.append({{.line = use.line, .piece = use.place, .program = program.id},
+                         box.lineText(use.line - 1).simplified()});
+    }
     if (!m_project)
         return uses;
     for (const PointReference &at : referencesTo(*m_project, point.name))

@@ -1,6 +1,7 @@
 // An editor with a ring of its own beside one that uses the thread's.
 
 #include "editor/EditorHost.h"
+#include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
 #include <QtTest/QSignalSpy>
