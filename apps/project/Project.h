@@ -149,6 +149,8 @@ private:
     QByteArray programBytes(qint32 id, const QString &program, Encoding encoding) const;
     QMap<qint32, QByteArray> bytesOf(const ProgramTexts &texts, Encoding encoding) const;
     QMap<qint32, QString> placesBeside(const QString &fileName) const;
+    ProgramList listAt(const QMap<qint32, QString> &places) const;
+    void noteSaved(const QByteArray &json);
     void fillPoints(LwType type);
     void renumber(LwType type, qsizetype from, qint32 by);
     bool hasAnother(LwType type, qsizetype row, const QString &name) const;
@@ -158,7 +160,7 @@ private:
     ProjectTables m_saved;
     ProjectPrograms m_programs;
     QList<ProgramEntry> m_savedPrograms; // as the file has them
-    bool m_isOfVersionBefore = false; // and not saved yet
+    bool m_isOfVersionBefore = false;    // and not saved yet
     std::map<LwType, PointList> m_points;
     mutable IndexedNameList m_indexedNames; // those who look at it share their interface
 };

@@ -87,8 +87,7 @@ ProgramState ProjectDocument::state() const
         return now;
     const ProgramTexts &former = m_steps.at(m_done - 1).after.texts;
     for (auto text = now.texts.begin(); text != now.texts.end(); ++text) {
-        if (const auto same = former.constFind(text.key());
-            same != former.cend() && *same == *text)
+        if (const auto same = former.constFind(text.key()); same != former.cend() && *same == *text)
             *text = *same;
     }
     return now;

@@ -43,8 +43,7 @@ qint32 ProjectPrograms::make(const QString &file)
 
 bool ProjectPrograms::hasFile(const QString &file) const
 {
-    return std::ranges::any_of(m_parts,
-                               [&](const auto &each) { return each.second.file == file; });
+    return std::ranges::any_of(m_parts, [&](const auto &each) { return each.second.file == file; });
 }
 
 } // namespace ORVTListview

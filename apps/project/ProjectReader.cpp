@@ -118,9 +118,10 @@ qint32 checkedForm(const JsonPlace &root)
                         .arg(QString::number(version), QString::number(knownFormat)));
     if (version < 1)
         format.fail(ProjectTexts::tr("a form from 1 to %1 is expected").arg(knownFormat));
-    QStringList members = {u"format"_s,       u"name"_s,   u"controller"_s,
-                           u"indexedNames"_s, u"editor"_s,
-                           version < formOfSeveralPrograms ? u"program"_s : u"programs"_s};
+    QStringList members = {
+        u"format"_s,     u"name"_s,
+        u"controller"_s, u"indexedNames"_s,
+        u"editor"_s,     version < formOfSeveralPrograms ? u"program"_s : u"programs"_s};
     for (const LwType type : projectTypes())
         members.append(projectMember(type));
     root.allowOnly(members);

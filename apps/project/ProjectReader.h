@@ -44,7 +44,7 @@ struct ProjectContents
     RichTextSettings editor;
     QList<ProgramEntry> programs;
     QList<ProgramFile> texts; // of these, in their order
-    QByteArray json; // the project file itself
+    QByteArray json;          // the project file itself
 };
 
 // What a project file says, without its programs' texts. Raises Error as readProject does.

@@ -101,8 +101,8 @@ QByteArray recoveryText(const RecoveredWork &work)
            '\n' + projectMark.toByteArray() + work.projectFile.toUtf8() + timeMark.toByteArray() +
            work.when.toUTC().toString(Qt::ISODate).toUtf8() +
            (count > 1 ? countMark.toByteArray() + QByteArray::number(count) : QByteArray()) + '\n' +
-           programPart("program", work.programs.value(0)) + '\n' +
-           part("project file", work.json) + '\n' + otherPrograms(work.programs);
+           programPart("program", work.programs.value(0)) + '\n' + part("project file", work.json) +
+           '\n' + otherPrograms(work.programs);
 }
 
 std::optional<RecoveredWork> readRecovery(const QByteArray &text)

@@ -30,9 +30,8 @@ EditorViewMenu::EditorViewMenu(const ProjectView &views, QWidget *parent)
     addSwitch(tr("&Word List While Typing"), view.wordListOpensItself(),
               &CodeView::setWordListOpensItself);
     addSeparator();
-    add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0, [this] {
-        m_views.programs().forEach([](CodeView &each) { each.setZoom(100); });
-    });
+    add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0,
+        [this] { m_views.programs().forEach([](CodeView &each) { each.setZoom(100); }); });
     add(tr("Fold &All"), {}, [this] { current().foldAll(); });
     add(tr("Unfold A&ll"), {}, [this] { current().unfoldAll(); });
     addSeparator();

@@ -7,19 +7,13 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QMainWindow>
 
-class QLabel;
-class QStackedWidget;
-
 namespace ORVTListview {
 
 class CheckResults;
 class ControllerPart;
 class EditMenu;
 class Exporting;
-class FirstSteps;
 class Languages;
-class OpeningProgress;
-class OpeningFault;
 class Panes;
 class ORVListView;
 class ProgramAnalyses;
@@ -39,7 +33,8 @@ class ProjectView;
 class RecentProjects;
 class RecoveryKeeper;
 class RecoveryOffer;
-class StartPage;
+class WindowPages;
+class WindowStatus;
 
 // A small host: shows a project in the library's components.
 class MainWindow : public QMainWindow
@@ -105,12 +100,11 @@ private:
     void buildEditMenu();
     void buildViewMenu();
     void buildHelpMenu();
-    void buildStatusBar();
     void connectPrograms();
     void connectEditor(ORVListView &list);
     void connectPoints();
     void connectReading();
-    void connectFirstSteps();
+    void leaveFirstSteps();
     void connectSaving();
     void connectPages();
     void takeProject(Project &project);
@@ -135,14 +129,11 @@ private:
     Settings m_settings;
     QString m_sample;
     PointChooser *m_points; // made in the order of the Tab key
-    QStackedWidget *m_pages;
     ProjectDocument *m_document;
     ControllerPart *m_controller;
     ProjectView *m_view;
-    OpeningFault *m_fault;
     RecentProjects *m_recent;
-    StartPage *m_start;
-    FirstSteps *m_firstSteps;
+    WindowPages *m_pages;
     ProjectHistory *m_history;
     PointRenaming *m_renaming;
     ProgramNaming *m_naming;
@@ -158,9 +149,7 @@ private:
     ProgramChecking *m_checking;
     ProgramNavigation *m_navigation;
     Panes *m_panes;
-    QLabel *m_programInfo;
-    OpeningProgress *m_opening;
-    QLabel *m_position;
+    WindowStatus *m_status;
     QTimer m_palette; // since it changed, till the program has its colours
 };
 

@@ -31,7 +31,8 @@ CheckResults::Problems ProgramChecking::problems() const
     for (const ProjectProgram &program : m_programs.views.list()) {
         const ProgramAnalysis &found = m_programs.analyses.of(program.id).found();
         const qsizetype room = ProgramAnalysis::mostProblems - problems.listed.size();
-        for (ProgramProblem problem : found.problems().first(std::min(room, found.problems().size()))) {
+        for (ProgramProblem problem :
+             found.problems().first(std::min(room, found.problems().size()))) {
             problem.program = program.id;
             problems.listed.append(problem);
         }

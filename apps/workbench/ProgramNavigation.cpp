@@ -2,6 +2,7 @@
 
 #include "CheckResults.h"
 #include "CheckTexts.h"
+#include "FindInPrograms.h"
 #include "PointTables.h"
 #include "ProgramAnalyses.h"
 #include "ProjectView.h"
@@ -70,6 +71,8 @@ void ProgramNavigation::fillMenu(QMenu &menu)
                    &ProgramNavigation::back);
     menu.addAction(tr("All &Uses"), QKeySequence(Qt::SHIFT | Qt::Key_F12), this,
                    &ProgramNavigation::findUses);
+    menu.addAction(tr("&Find In Programs…"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_F), this,
+                   &ProgramNavigation::findText);
 }
 
 void ProgramNavigation::goTo(const ResultPlace &place)
@@ -108,6 +111,18 @@ void ProgramNavigation::findUses()
         Q_EMIT told(tr("There is no name here."));
     else
         m_results.showUses(usesOf(at));
+}
+
+void ProgramNavigation::findText()
+{
+    const QString text = askTextToFind(*m_view.window(), m_view.programs());
+    if (text.isEmpty())
+        return;
+    const QList<ShownUse> places = findInPrograms(m_view.programs(), text);
+    if (places.isEmpty())
+        Q_EMIT told(tr("%1 was not found.").arg(shortened(text)));
+    else
+        m_results.showUses(places);
 }
 
 void ProgramNavigation::moveLines(qint32 program, const ReplacedLines &lines)

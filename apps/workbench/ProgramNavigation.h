@@ -50,6 +50,7 @@ private:
     void goToPoint();
     void back();
     void findUses();
+    void findText();
     void moveLines(qint32 program, const ReplacedLines &lines);
 
     void show(const ResultPlace &place);

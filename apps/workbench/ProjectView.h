@@ -66,6 +66,9 @@ Q_SIGNALS:
     // Another one is current.
     void shown(ORVTListview::LwType type);
 
+    // The points of a table are to be drawn.
+    void trendWanted(ORVTListview::LwType type);
+
 private:
     ViewDock &dockOf(LwType type) const;
     void followTree(const Node *node);

@@ -88,8 +88,7 @@ bool EditorUndo::step(Way way, QString &ErrMsg)
     const UndoStore::Restoring restoring(ring());
     bool done = false;
     tellingFailure(ErrMsg, [&] {
-        const bool canStep =
-            way == Way::Forward ? ring().CanRedo() : ring().CanUndo();
+        const bool canStep = way == Way::Forward ? ring().CanRedo() : ring().CanUndo();
         done = canStep ? stepInRing(way) : showKept(m_kept.go(ring(), shown(), way));
     });
     return done;

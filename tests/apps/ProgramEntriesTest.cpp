@@ -13,8 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QByteArray oneProgram = "{ \"format\" : 1,\n\t\"name\": \"P\",\n  \"program\" :\t\"a.prog\",\n"
-                              "  \"inputs\": [ {\"name\": \"I\"} ]\n}\n";
+const QByteArray oneProgram =
+    "{ \"format\" : 1,\n\t\"name\": \"P\",\n  \"program\" :\t\"a.prog\",\n"
+    "  \"inputs\": [ {\"name\": \"I\"} ]\n}\n";
 
 QList<ProgramEntry> entriesOf(const QByteArray &json)
 {

@@ -211,7 +211,8 @@ TEST_F(Recovery, AVersionThatCannotBeKeptDoesNotStopSaving)
     EXPECT_TRUE(saved.notKept.contains(u"p.prog~"_s)) << saved.notKept.toStdString();
     EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "B");
     EXPECT_EQ(readFile(file), QByteArray(json).replace("\"I\"", "\"J\""));
-    EXPECT_TRUE(project.save({{1, u"B"_s}}, Project::Theirs::Kept).notKept.isEmpty()); // nothing to do
+    EXPECT_TRUE(
+        project.save({{1, u"B"_s}}, Project::Theirs::Kept).notKept.isEmpty()); // nothing to do
     EXPECT_TRUE(project.saveAt(folder.path(u"q.json"_s), {{1, u"C"_s}}).notKept.isEmpty());
     EXPECT_FALSE(project.saveAt(file, {{1, u"D"_s}}).notKept.isEmpty());
     EXPECT_EQ(Project(file).program(), u"D"_s);

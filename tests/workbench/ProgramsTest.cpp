@@ -15,6 +15,7 @@
 
 #include <ORVTListview/CodeView.h>
 
+#include <QtCore/QFile>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTreeWidget>
@@ -52,12 +53,14 @@ struct TwoPrograms : WorkbenchWindow
     }
     void undo(qint32 program)
     {
+        views().enterProgram(program);
         QTest::keyClick(programs().view(program).RTextBox(), Qt::Key_Z, Qt::ControlModifier);
     }
     QStringList names() const
     {
         QStringList names;
-        for (const ProjectProgram &program : window.findChild<ProjectDocument *>()->project()->programs())
+        for (const ProjectProgram &program :
+             window.findChild<ProjectDocument *>()->project()->programs())
             names.append(program.name);
         return names;
     }
@@ -86,9 +89,9 @@ private Q_SLOTS:
         QCOMPARE(two.programs().dock(1).windowTitle(), u"a.prog"_s);
         QCOMPARE(two.programs().dock(2).windowTitle(), u"Night"_s);
         QVERIFY(!two.programs().dock(2).isHidden());
-        QVERIFY(two.programs().view(1).RTextBox()->hasFocus());
+        QTRY_VERIFY(two.programs().view(1).RTextBox()->hasFocus());
         two.views().workplace().goToTab(1);
-        QVERIFY(two.programs().view(2).RTextBox()->hasFocus());
+        QTRY_VERIFY(two.programs().view(2).RTextBox()->hasFocus());
         QVERIFY(two.statusTexts().contains(u"b.prog, lines: 3"_s));
         QVERIFY(!two.window.isWindowModified());
     }
@@ -112,13 +115,12 @@ private Q_SLOTS:
     {
         TwoPrograms two("A\tB = 1\r\n", "C\t= 2\n");
         const QByteArray project = two.bytes(u"two.json"_s);
-        two.type(2, u"REM x\n"_s);
+        two.type(2, u"REM x "_s);
         QVERIFY(two.window.isWindowModified());
         two.choose(u"Save"_s);
         QVERIFY(!two.window.isWindowModified());
         QCOMPARE(two.bytes(u"a.prog"_s), "A\tB = 1\r\n");
-        QVERIFY(two.bytes(u"b.prog"_s).endsWith("C\t= 2\n"));
-        QVERIFY(two.bytes(u"b.prog"_s).startsWith("REM x"));
+        QCOMPARE(two.bytes(u"b.prog"_s), "REM x C\t= 2\n");
         QCOMPARE(two.bytes(u"two.json"_s), project);
     }
 
@@ -134,13 +136,13 @@ private Q_SLOTS:
         ProgramViews &programs = one.views().programs();
         QCOMPARE(programs.current(), 2);
         RichTextBox &box = *programs.view(2).RTextBox();
-        QVERIFY(box.hasFocus());
+        QTRY_VERIFY(box.hasFocus());
         QVERIFY(one.window.isWindowModified());
         QTest::keyClicks(&box, u"REM n "_s);
         for (int i = 0; i < 4 && !programs.dock(2).isHidden(); ++i)
             QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(programs.dock(2).isHidden());
-        QVERIFY(one.box().hasFocus());
+        QTRY_VERIFY(one.box().hasFocus());
         QVERIFY(!one.window.isWindowModified());
         one.key(Qt::Key_Y, Qt::ControlModifier);
         QVERIFY(!programs.dock(2).isHidden());
@@ -172,7 +174,7 @@ private Q_SLOTS:
         two.choose(u"Remove Program…"_s);
         QCOMPARE(two.names(), QStringList(u"a.prog"_s));
         QVERIFY(two.programs().dock(2).isHidden());
-        QVERIFY(two.programs().view(1).RTextBox()->hasFocus());
+        QTRY_VERIFY(two.programs().view(1).RTextBox()->hasFocus());
         two.choose(u"Save"_s);
         QVERIFY(two.bytes(u"b.prog"_s).startsWith("REM second")); // its file stays
         two.undo(1);
@@ -239,6 +241,20 @@ private Q_SLOTS:
         const QString found = two.resultTexts();
         QVERIFY2(found.contains(u"a.prog, line 1"_s), qPrintable(found));
         QVERIFY2(found.contains(u"Night, line 2"_s), qPrintable(found));
+    }
+
+    void aTextIsFoundInAllPrograms()
+    {
+        TwoPrograms two("Fan1 = Temp1\n", "REM fan1, FAN1\n");
+        two.give(u"Find In Programs…"_s, u"fan1"_s);
+        QCOMPARE(two.resultTexts(), u"a.prog, line 1 Fan1 = Temp1|Night, line 1 REM fan1, FAN1|"
+                                    "Night, line 1 REM fan1, FAN1"_s);
+        Q_EMIT two.results().clicked(two.results().model()->index(2, 0));
+        const RichTextBox &box = *two.programs().view(2).RTextBox();
+        QTRY_VERIFY(box.hasFocus());
+        QCOMPARE(box.SelText(), u"FAN1"_s);
+        two.give(u"Find In Programs…"_s, u"nowhere"_s);
+        QVERIFY(two.window.statusBar()->currentMessage().contains(u"nowhere"_s));
     }
 
     void whatWasTypedInBothIsKeptForRecovery()

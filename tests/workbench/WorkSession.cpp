@@ -14,6 +14,7 @@
 #include "workbench/saving/RecoveryDialog.h"
 #include "workbench/saving/RecoveryKeeper.h"
 
+#include <ORVTListview/ORVListView.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QTextStream>

@@ -15,8 +15,8 @@ QString askName(QWidget &window, const NameQuestion &question)
         const QString text =
             reason.isEmpty() ? question.text : reason + QStringLiteral("\n\n") + question.text;
         bool isGiven = false;
-        name = QInputDialog::getText(&window, question.title, text, QLineEdit::Normal, name,
-                                     &isGiven);
+        name =
+            QInputDialog::getText(&window, question.title, text, QLineEdit::Normal, name, &isGiven);
         if (!isGiven || !shown)
             return {};
         reason = question.fault(name);

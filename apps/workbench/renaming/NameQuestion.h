@@ -12,7 +12,7 @@ struct NameQuestion
 {
     QString title;
     QString text;
-    QString name; // to begin with
+    QString name;                                      // to begin with
     std::function<QString(const QString &name)> fault; // why not, as a sentence; empty for none
 };
 

@@ -88,8 +88,8 @@ QString PointRenaming::askName(LwType type)
         const Project *project = self ? m_document.project() : nullptr;
         return project ? project->nameFault(type, project->rows(type).size(), name) : QString();
     };
-    const QString name = ORVTListview::askName(
-        m_window, {tr("Add Point"), tr("Name of the new point:"), {}, fault});
+    const QString name =
+        ORVTListview::askName(m_window, {tr("Add Point"), tr("Name of the new point:"), {}, fault});
     return self && m_document.project() ? name : QString();
 }
 

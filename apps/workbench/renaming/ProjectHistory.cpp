@@ -73,9 +73,8 @@ ProjectHistory::ProjectHistory(ProjectDocument &document, ProjectView &views)
         };
     };
     const UndoHistory history{can(Way::Back), can(Way::Forward), go(Way::Back), go(Way::Forward)};
-    views.programs().withEach(this, [history](qint32, ORVListView &view) {
-        view.codeView()->setUndoHistory(history);
-    });
+    views.programs().withEach(
+        this, [history](qint32, ORVListView &view) { view.codeView()->setUndoHistory(history); });
     connect(&views.tables(), &TableViews::made, this,
             [history](ORVListView &list) { list.listView()->grid()->setUndoHistory(history); });
 }

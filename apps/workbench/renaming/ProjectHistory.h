@@ -11,8 +11,8 @@ class ORVListView;
 class ProjectView;
 
 // One undo for steps of the project and for what the editors do by themselves: a step comes
-// when the program that one is in is again what the step made of it. Keys and context menus of editor and
-// tables end here, too.
+// when the program that one is in is again what the step made of it. Keys and context menus of
+// editor and tables end here, too.
 class ProjectHistory : public QObject
 {
     Q_OBJECT

@@ -36,8 +36,8 @@ RenameDialog::RenameDialog(const Renamed &renamed, QWidget *parent)
 {
     setWindowTitle(tr("Rename"));
     auto *layout = new QVBoxLayout(this);
-    auto *label = new QLabel(tr("%1 becomes %2 in the places that have a tick:")
-                                 .arg(renamed.former, renamed.name));
+    auto *label = new QLabel(
+        tr("%1 becomes %2 in the places that have a tick:").arg(renamed.former, renamed.name));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     layout->addWidget(label);
@@ -46,7 +46,8 @@ RenameDialog::RenameDialog(const Renamed &renamed, QWidget *parent)
     m_places->setUniformRowHeights(true);
     m_places->setHeaderLabels({tr("Place"), tr("Contents")});
     for (const PointUse &use : m_uses) {
-        auto *item = new QTreeWidgetItem(m_places, {placeName(use, renamed.programs), use.text.trimmed()});
+        auto *item =
+            new QTreeWidgetItem(m_places, {placeName(use, renamed.programs), use.text.trimmed()});
         item->setCheckState(0, Qt::Checked);
     }
     m_places->resizeColumnToContents(0);
