@@ -184,6 +184,17 @@
     </message>
 </context>
 <context>
+    <name>FindInPrograms</name>
+    <message>
+        <source>Find In Programs</source>
+        <translation>In Programmen suchen</translation>
+    </message>
+    <message>
+        <source>Text to find:</source>
+        <translation>Gesuchter Text:</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::CategoryMenu</name>
     <message>
         <source>&amp;Open</source>
@@ -231,6 +242,10 @@
     <message>
         <source>Use</source>
         <translation>Verwendung</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
     </message>
 </context>
 <context>
@@ -1142,6 +1157,43 @@ Entfernen?</translation>
         <source>&amp;Results</source>
         <translation>&amp;Ergebnisse</translation>
     </message>
+    <message>
+        <source>A&amp;dd Program…</source>
+        <translation>Programm &amp;hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Program…</source>
+        <translation>Programm &amp;umbenennen…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Program…</source>
+        <translation>Programm ent&amp;fernen…</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramNaming</name>
+    <message>
+        <source>Name of the program:</source>
+        <translation>Name des Programms:</translation>
+    </message>
+    <message>
+        <source>Add Program</source>
+        <translation>Programm hinzufügen</translation>
+    </message>
+    <message>
+        <source>Rename Program</source>
+        <translation>Programm umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove Program</source>
+        <translation>Programm entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the program %1 from the project?
+Its file %2 stays where it is.</source>
+        <translation>Das Programm %1 aus dem Projekt entfernen?
+Seine Datei %2 bleibt, wo sie ist.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProgramNavigation</name>
@@ -1169,6 +1221,21 @@ Entfernen?</translation>
         <source>There is no name here.</source>
         <translation>Hier steht kein Name.</translation>
     </message>
+    <message>
+        <source>&amp;Find In Programs…</source>
+        <translation>In &amp;Programmen suchen…</translation>
+    </message>
+    <message>
+        <source>%1 was not found.</source>
+        <translation>%1 wurde nicht gefunden.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramViews</name>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProjectHistory</name>
@@ -1183,6 +1250,10 @@ Entfernen?</translation>
     <message>
         <source>Program</source>
         <translation>Programm</translation>
+    </message>
+    <message>
+        <source>%1 has been changed since. Take that back there first.</source>
+        <translation>%1 wurde seitdem geändert. Machen Sie das zuerst dort rückgängig.</translation>
     </message>
 </context>
 <context>
@@ -1263,10 +1334,6 @@ Diese Änderungen überschreiben?</translation>
 </context>
 <context>
     <name>ORVTListview::ProjectView</name>
-    <message>
-        <source>Program</source>
-        <translation>Programm</translation>
-    </message>
     <message>
         <source>Views</source>
         <translation>Ansichten</translation>
@@ -1456,6 +1523,10 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>Contents</source>
         <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
     </message>
 </context>
 <context>
@@ -1833,10 +1904,6 @@ Diese Änderungen überschreiben?</translation>
         <translation>hat mehr als %1 Namen</translation>
     </message>
     <message>
-        <source>only the form %1 can be read</source>
-        <translation>nur die Form %1 ist lesbar</translation>
-    </message>
-    <message>
         <source>%1: line %2 is not valid UTF-8</source>
         <translation>%1: Zeile %2 ist kein gültiges UTF-8</translation>
     </message>
@@ -1923,6 +1990,30 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>&quot;%1&quot; is not a number</source>
         <translation>„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>another program has the name &quot;%1&quot;</source>
+        <translation>ein anderes Programm heißt schon „%1“</translation>
+    </message>
+    <message>
+        <source>another program has the file &quot;%1&quot;</source>
+        <translation>ein anderes Programm hat schon die Datei „%1“</translation>
+    </message>
+    <message>
+        <source>a project has at least one program</source>
+        <translation>ein Projekt hat mindestens ein Programm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a program</source>
+        <translation>„%1“ ist kein Name für ein Programm</translation>
+    </message>
+    <message>
+        <source>Another program has the name &quot;%1&quot;</source>
+        <translation>Ein anderes Programm heißt schon „%1“</translation>
+    </message>
+    <message>
+        <source>a form from 1 to %1 is expected</source>
+        <translation>ein Format von 1 bis %1 wird erwartet</translation>
     </message>
 </context>
 <context>

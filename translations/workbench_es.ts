@@ -184,6 +184,17 @@
     </message>
 </context>
 <context>
+    <name>FindInPrograms</name>
+    <message>
+        <source>Find In Programs</source>
+        <translation>Buscar en los programas</translation>
+    </message>
+    <message>
+        <source>Text to find:</source>
+        <translation>Texto buscado:</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::CategoryMenu</name>
     <message>
         <source>&amp;Open</source>
@@ -231,6 +242,10 @@
     <message>
         <source>Use</source>
         <translation>Uso</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, línea %2</translation>
     </message>
 </context>
 <context>
@@ -1142,6 +1157,43 @@ Remove it?</source>
         <source>&amp;Results</source>
         <translation>&amp;Resultados</translation>
     </message>
+    <message>
+        <source>A&amp;dd Program…</source>
+        <translation>&amp;Añadir programa…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Program…</source>
+        <translation>Ca&amp;mbiar el nombre del programa…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Program…</source>
+        <translation>&amp;Quitar el programa…</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramNaming</name>
+    <message>
+        <source>Name of the program:</source>
+        <translation>Nombre del programa:</translation>
+    </message>
+    <message>
+        <source>Add Program</source>
+        <translation>Añadir programa</translation>
+    </message>
+    <message>
+        <source>Rename Program</source>
+        <translation>Cambiar el nombre del programa</translation>
+    </message>
+    <message>
+        <source>Remove Program</source>
+        <translation>Quitar el programa</translation>
+    </message>
+    <message>
+        <source>Remove the program %1 from the project?
+Its file %2 stays where it is.</source>
+        <translation>¿Quitar el programa %1 del proyecto?
+Su archivo %2 queda donde está.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProgramNavigation</name>
@@ -1169,6 +1221,21 @@ Remove it?</source>
         <source>There is no name here.</source>
         <translation>Aquí no hay ningún nombre.</translation>
     </message>
+    <message>
+        <source>&amp;Find In Programs…</source>
+        <translation>Buscar en los &amp;programas…</translation>
+    </message>
+    <message>
+        <source>%1 was not found.</source>
+        <translation>No se ha encontrado %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramViews</name>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProjectHistory</name>
@@ -1183,6 +1250,10 @@ Remove it?</source>
     <message>
         <source>Program</source>
         <translation>Programa</translation>
+    </message>
+    <message>
+        <source>%1 has been changed since. Take that back there first.</source>
+        <translation>%1 ha cambiado desde entonces. Deshaga eso allí primero.</translation>
     </message>
 </context>
 <context>
@@ -1263,10 +1334,6 @@ Overwrite those changes?</source>
 </context>
 <context>
     <name>ORVTListview::ProjectView</name>
-    <message>
-        <source>Program</source>
-        <translation>Programa</translation>
-    </message>
     <message>
         <source>Views</source>
         <translation>Vistas</translation>
@@ -1456,6 +1523,10 @@ Overwrite those changes?</source>
     <message>
         <source>Contents</source>
         <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, línea %2</translation>
     </message>
 </context>
 <context>
@@ -1833,10 +1904,6 @@ Overwrite those changes?</source>
         <translation>tiene más de %1 nombres</translation>
     </message>
     <message>
-        <source>only the form %1 can be read</source>
-        <translation>solo se puede leer la forma %1</translation>
-    </message>
-    <message>
         <source>%1: line %2 is not valid UTF-8</source>
         <translation>%1: la línea %2 no es UTF-8 válido</translation>
     </message>
@@ -1923,6 +1990,30 @@ Overwrite those changes?</source>
     <message>
         <source>&quot;%1&quot; is not a number</source>
         <translation>«%1» no es un número</translation>
+    </message>
+    <message>
+        <source>another program has the name &quot;%1&quot;</source>
+        <translation>otro programa se llama ya «%1»</translation>
+    </message>
+    <message>
+        <source>another program has the file &quot;%1&quot;</source>
+        <translation>otro programa tiene ya el archivo «%1»</translation>
+    </message>
+    <message>
+        <source>a project has at least one program</source>
+        <translation>un proyecto tiene al menos un programa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a program</source>
+        <translation>«%1» no es un nombre de programa</translation>
+    </message>
+    <message>
+        <source>Another program has the name &quot;%1&quot;</source>
+        <translation>Otro programa se llama ya «%1»</translation>
+    </message>
+    <message>
+        <source>a form from 1 to %1 is expected</source>
+        <translation>se espera un formato de 1 a %1</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,17 @@
     </message>
 </context>
 <context>
+    <name>FindInPrograms</name>
+    <message>
+        <source>Find In Programs</source>
+        <translation>Rechercher dans les programmes</translation>
+    </message>
+    <message>
+        <source>Text to find:</source>
+        <translation>Texte recherché&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::CategoryMenu</name>
     <message>
         <source>&amp;Open</source>
@@ -231,6 +242,10 @@
     <message>
         <source>Use</source>
         <translation>Utilisation</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, ligne %2</translation>
     </message>
 </context>
 <context>
@@ -1142,6 +1157,43 @@ Le supprimer&#xa0;?</translation>
         <source>&amp;Results</source>
         <translation>&amp;Résultats</translation>
     </message>
+    <message>
+        <source>A&amp;dd Program…</source>
+        <translation>A&amp;jouter un programme…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Program…</source>
+        <translation>Reno&amp;mmer le programme…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Program…</source>
+        <translation>&amp;Supprimer le programme…</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramNaming</name>
+    <message>
+        <source>Name of the program:</source>
+        <translation>Nom du programme&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Add Program</source>
+        <translation>Ajouter un programme</translation>
+    </message>
+    <message>
+        <source>Rename Program</source>
+        <translation>Renommer le programme</translation>
+    </message>
+    <message>
+        <source>Remove Program</source>
+        <translation>Supprimer le programme</translation>
+    </message>
+    <message>
+        <source>Remove the program %1 from the project?
+Its file %2 stays where it is.</source>
+        <translation>Supprimer le programme %1 du projet&#xa0;?
+Son fichier %2 reste où il est.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProgramNavigation</name>
@@ -1169,6 +1221,21 @@ Le supprimer&#xa0;?</translation>
         <source>There is no name here.</source>
         <translation>Il n’y a pas de nom ici.</translation>
     </message>
+    <message>
+        <source>&amp;Find In Programs…</source>
+        <translation>Rechercher dans les &amp;programmes…</translation>
+    </message>
+    <message>
+        <source>%1 was not found.</source>
+        <translation>%1 est introuvable.</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::ProgramViews</name>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProjectHistory</name>
@@ -1183,6 +1250,10 @@ Le supprimer&#xa0;?</translation>
     <message>
         <source>Program</source>
         <translation>Programme</translation>
+    </message>
+    <message>
+        <source>%1 has been changed since. Take that back there first.</source>
+        <translation>%1 a été modifié depuis. Annulez d’abord cela là-bas.</translation>
     </message>
 </context>
 <context>
@@ -1263,10 +1334,6 @@ Overwrite those changes?</source>
 </context>
 <context>
     <name>ORVTListview::ProjectView</name>
-    <message>
-        <source>Program</source>
-        <translation>Programme</translation>
-    </message>
     <message>
         <source>Views</source>
         <translation>Vues</translation>
@@ -1456,6 +1523,10 @@ Overwrite those changes?</source>
     <message>
         <source>Contents</source>
         <translation>Contenu</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, ligne %2</translation>
     </message>
 </context>
 <context>
@@ -1833,10 +1904,6 @@ Overwrite those changes?</source>
         <translation>a plus de %1 noms</translation>
     </message>
     <message>
-        <source>only the form %1 can be read</source>
-        <translation>seule la forme %1 est lisible</translation>
-    </message>
-    <message>
         <source>%1: line %2 is not valid UTF-8</source>
         <translation>%1&#xa0;: la ligne %2 n’est pas de l’UTF-8 valide</translation>
     </message>
@@ -1923,6 +1990,30 @@ Overwrite those changes?</source>
     <message>
         <source>&quot;%1&quot; is not a number</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un nombre</translation>
+    </message>
+    <message>
+        <source>another program has the name &quot;%1&quot;</source>
+        <translation>un autre programme s’appelle déjà «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>another program has the file &quot;%1&quot;</source>
+        <translation>un autre programme a déjà le fichier «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>a project has at least one program</source>
+        <translation>un projet a au moins un programme</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a program</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nom de programme</translation>
+    </message>
+    <message>
+        <source>Another program has the name &quot;%1&quot;</source>
+        <translation>Un autre programme s’appelle déjà «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>a form from 1 to %1 is expected</source>
+        <translation>un format de 1 à %1 est attendu</translation>
     </message>
 </context>
 <context>

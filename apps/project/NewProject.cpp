@@ -23,7 +23,7 @@ QString programOf(const QString &fileName)
 } // namespace
 
 // What one of the usual systems does not take becomes a line.
-QString projectFileName(const QString &name)
+QString fileNameFor(const QString &name)
 {
     QString base = name;
     for (QChar &c : base) {
@@ -34,7 +34,12 @@ QString projectFileName(const QString &name)
         base.remove(0, 1);
     while (base.endsWith(u'.') || base.endsWith(u' '))
         base.chop(1);
-    return (base.isEmpty() ? u"project"_s : base) + u".json"_s;
+    return base.isEmpty() ? u"project"_s : base;
+}
+
+QString projectFileName(const QString &name)
+{
+    return fileNameFor(name) + u".json"_s;
 }
 
 QString newProjectFault(const QString &fileName)

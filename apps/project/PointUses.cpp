@@ -12,7 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void appendProgramUses(QList<PointUse> &uses, const QString &program, const QString &name)
+void appendProgramUses(QList<PointUse> &uses, qint32 id, const QString &program,
+                       const QString &name)
 {
     qint32 line = 1;
     qsizetype start = 0;
@@ -24,7 +25,8 @@ void appendProgramUses(QList<PointUse> &uses, const QString &program, const QStr
         }
         const qsizetype end = program.indexOf(u"\r\n"_s, place);
         const QString text = program.sliced(start, (end < 0 ? program.size() : end) - start);
-        uses.append({line,
+        uses.append({id,
+                     line,
                      {static_cast<qint32>(place), static_cast<qint32>(name.size())},
                      dsCode,
                      -1,
@@ -35,15 +37,17 @@ void appendProgramUses(QList<PointUse> &uses, const QString &program, const QStr
 
 } // namespace
 
-QList<PointUse> usesOfPoint(const Project &project, const QString &program, const QString &name)
+QList<PointUse> usesOfPoint(const Project &project, const ProgramTexts &programs,
+                            const QString &name)
 {
     QList<PointUse> uses;
     if (name.isEmpty())
         return uses;
-    appendProgramUses(uses, program, name);
+    for (const ProjectProgram &program : project.programs())
+        appendProgramUses(uses, program.id, programs.value(program.id), name);
     for (const auto &[type, row, column] : referencesTo(project, name)) {
         const ProjectRow &named = project.rows(type).at(row);
-        uses.append({0, {}, type, row, column, named.cellsOfFile().value(column).toString()});
+        uses.append({0, 0, {}, type, row, column, named.cellsOfFile().value(column).toString()});
     }
     return uses;
 }
@@ -53,8 +57,8 @@ Renaming renamingOf(const Project &project, const RowChange &point, const QList<
     Renaming renaming{{point}, {}};
     QMap<std::pair<LwType, qsizetype>, ProjectRow> rows;
     for (const PointUse &use : uses) {
-        if (use.line > 0) {
-            renaming.pieces.append(use.piece);
+        if (use.program > 0) {
+            renaming.pieces[use.program].append(use.piece);
             continue;
         }
         const std::pair place(use.type, use.row);

@@ -1,15 +1,13 @@
 #include "project/Project.h"
 
 #include "base/TextRules.h"
-#include "project/JsonEdit.h"
-#include "project/KeptVersion.h"
+#include "project/NewProject.h"
 #include "project/PointNames.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectError.h"
 #include "project/ProjectTexts.h"
 #include "project/TextFile.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSet>
@@ -20,43 +18,6 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-struct NewFile
-{
-    QString name;
-    QByteArray bytes;
-};
-
-// Both or none.
-void writeBoth(const NewFile &first, const NewFile &second)
-{
-    const bool wasThere = QFileInfo::exists(first.name);
-    const QByteArray before = wasThere ? readFile(first.name) : QByteArray();
-    writeFile(first.name, first.bytes);
-    try {
-        writeFile(second.name, second.bytes);
-    } catch (const Error &) {
-        if (wasThere)
-            writeFile(first.name, before);
-        else
-            QFile::remove(first.name);
-        throw;
-    }
-}
-
-// The file's name of the program that belongs to a project; empty for what is none.
-QString programOf(const QString &projectFile)
-{
-    try {
-        return JsonPlace::parse(readFile(projectFile), projectFile).member(u"program"_s).text();
-    } catch (const Error &) {
-        return {};
-    }
-}
-
-} // namespace
-
 Project::Project(const QString &fileName)
     : Project(fileName, readProject(fileName))
 {
@@ -66,12 +27,13 @@ Project::Project(const QString &fileName, ProjectContents contents)
     : m_fileName(fileName)
     , m_contents(std::move(contents))
     , m_saved(m_contents.rows)
+    , m_programs(m_contents.programs, m_contents.texts)
+    , m_savedPrograms(m_contents.programs)
 {
     for (const LwType type : projectTypes()) {
         if (isVocabularyType(type))
             fillPoints(type);
     }
-    m_shown = program();
     for (const ProjectFamily &family : m_contents.indexedNames)
         m_indexedNames.Add(family.name, family.numberFormat, family.lowerBound, family.upperBound);
 }
@@ -85,7 +47,9 @@ std::unique_ptr<Project> Project::versionBefore(const QString &fileName)
 
 std::unique_ptr<Project> Project::none()
 {
-    return std::unique_ptr<Project>(new Project({}, ProjectContents()));
+    ProjectContents contents;
+    contents.programs.append(ProgramEntry());
+    return std::unique_ptr<Project>(new Project({}, contents));
 }
 
 void Project::fillPoints(LwType type)
@@ -179,147 +143,47 @@ bool Project::hasAnother(LwType type, qsizetype row, const QString &name) const
     return false;
 }
 
-// A file that is gone, or that cannot be read, is written anew.
-QByteArray Project::jsonForSaving() const
-{
-    return m_isOfVersionBefore || !QFileInfo::exists(m_fileName) ? m_contents.json
-                                                                 : readFile(m_fileName);
-}
-
-bool Project::saveTables(Theirs theirs)
-{
-    if (!hasChangedTables())
-        return false;
-    const QByteArray there = jsonForSaving();
-    const QByteArray json = tableSaving().into(there, theirs);
-    writeFile(m_fileName, json);
-    const ProjectTables before = m_contents.rows;
-    if (there != m_contents.json)
-        takeOver(readContents(JsonPlace::parse(there, m_fileName)).rows);
-    m_contents.json = json;
-    m_saved = m_contents.rows;
-    m_isOfVersionBefore = false;
-    return m_saved != before;
-}
-
-// The tables that are not changed here, as somebody else has saved them.
-void Project::takeOver(const ProjectTables &theirs)
-{
-    for (const LwType type : projectTypes()) {
-        const QList<ProjectRow> list = rows(type);
-        if (list != m_saved.value(type) || list == theirs.value(type))
-            continue;
-        m_contents.rows[type] = theirs.value(type);
-        if (isVocabularyType(type))
-            fillPoints(type);
-    }
-}
-
 void Project::setReading(LwType type, qsizetype row, qsizetype column, const QVariant &cell)
 {
     m_contents.rows[type][row].setReading(column, cell);
 }
 
-QByteArray Project::programBytes(const QString &program, Encoding encoding) const
+QString Project::programFile(qint32 id) const
 {
-    const ProgramFile file =
-        encoding == Encoding::Utf8 ? m_contents.program.inUtf8() : m_contents.program;
-    return file.with(program, m_shown, programFile());
+    return programPath(m_fileName, m_programs.part(id).file);
 }
 
-void Project::saveProgram(const QString &program)
+qint32 Project::makeProgram(const QString &name)
 {
-    const QByteArray bytes = programBytes(program);
-    writeFile(programFile(), bytes);
-    m_contents.program = ProgramFile(bytes);
-    m_shown = program;
-}
-
-// The version before is what is saved here; the file that it stands in for goes to its
-// place when that has worked.
-void Project::saveProjectFile(Theirs theirs, Saved &saved)
-{
-    const bool isTurned = m_isOfVersionBefore && QFileInfo(m_fileName).isFile();
-    const QByteArray broken = isTurned ? readFile(m_fileName) : QByteArray();
-    if (!m_isOfVersionBefore)
-        saved.notKept = keepVersionBefore(m_fileName);
-    saved.takesOver = saveTables(theirs);
-    if (!isTurned)
-        return;
-    try {
-        writeFile(m_fileName + u'~', broken);
-    } catch (const Error &error) {
-        saved.notKept = error.Description();
-    }
-}
-
-Project::Saved Project::save(const QString &program, Theirs theirs, Encoding encoding)
-{
-    const QByteArray bytes = programBytes(program, encoding); // before anything is written
-    Saved saved;
-    if (hasChangedTables())
-        saveProjectFile(theirs, saved);
-    else if (!QFileInfo::exists(m_fileName))
-        writeFile(m_fileName, m_contents.json);
-    if (bytes != m_contents.program.bytes() || !QFileInfo::exists(programFile())) {
-        const QString notKept = keepVersionBefore(programFile());
-        if (!notKept.isEmpty())
-            saved.notKept = notKept;
-        writeFile(programFile(), bytes);
-        m_contents.program = ProgramFile(bytes);
-    }
-    m_shown = program;
-    return saved;
-}
-
-// Beside the project's file, under its own name if that is free: no file has it, or it is
-// the program of the very project that is replaced.
-QString Project::programPlace(const QString &fileName) const
-{
-    const QDir folder = QFileInfo(fileName).dir();
-    const QFileInfo own(programFile());
-    const QString replaced = programOf(fileName);
-    const bool isSamePlace = QFileInfo(fileName) == QFileInfo(m_fileName);
-    const QString base = QFileInfo(fileName).completeBaseName();
-    const QString suffix = own.suffix().isEmpty() ? QString() : u'.' + own.suffix();
-    QString name = own.fileName();
+    const QString base = fileNameFor(name);
     for (int number = 1;; ++number) {
-        const QFileInfo place(folder.filePath(name));
-        const bool isOwn = place == own;
-        const bool isFree = isOwn ? isSamePlace : !place.exists() || place.fileName() == replaced;
-        if (isFree)
-            return place.filePath();
-        name = base + (number == 1 ? QString() : u'-' + QString::number(number)) + suffix;
+        const QString file = base + (number == 1 ? QString() : u'-' + QString::number(number));
+        const QFileInfo place(programPath(m_fileName, file + u".prog"_s));
+        if (!m_programs.hasFile(place.fileName()) && !place.exists() && !place.isSymLink())
+            return m_programs.make(place.fileName());
     }
 }
 
-Project::Saved Project::saveAt(const QString &fileName, const QString &program, Encoding encoding)
+QString Project::programNameFault(qint32 program, const QString &name) const
 {
-    const QByteArray bytes = programBytes(program, encoding);
-    const QString file = programPlace(fileName);
-    QByteArray json = tableSaving().into(m_contents.json, Theirs::Overwritten);
-    const QString name = QFileInfo(file).fileName();
-    const JsonPlace place = JsonPlace::parse(json, fileName).member(u"program"_s);
-    if (place.text() != name) {
-        JsonEdit edit(json);
-        edit.replace(place, name);
-        json = edit.bytes();
+    if (!isPointName(name))
+        return ProjectTexts::tr("\"%1\" is not the name of a program").arg(name);
+    for (const ProjectProgram &each : programs()) {
+        if (each.id != program && isSameWord(each.name, name))
+            return ProjectTexts::tr("Another program has the name \"%1\"").arg(name);
     }
-    Saved saved;
-    for (const QString &replaced : {file, fileName}) {
-        const QString notKept = keepVersionBefore(replaced);
-        if (!notKept.isEmpty())
-            saved.notKept = notKept;
-    }
-    writeBoth({file, bytes}, {fileName, json});
-    m_fileName = fileName;
-    m_contents.programFile = file;
-    m_contents.program = ProgramFile(bytes);
-    m_contents.json = json;
-    m_saved = m_contents.rows;
-    m_shown = program;
-    m_isOfVersionBefore = false;
-    return saved;
+    return {};
+}
+
+bool Project::hasChangedTables() const
+{
+    return m_isOfVersionBefore || m_contents.rows != m_saved ||
+           m_programs.entries() != m_savedPrograms;
+}
+
+TableSaving Project::tableSaving() const
+{
+    return {m_fileName, m_saved, m_contents.rows, m_savedPrograms, m_programs.entries()};
 }
 
 namespace {
@@ -335,9 +199,9 @@ bool isAnother(const QString &fileName, const QByteArray &bytes)
 
 } // namespace
 
-bool Project::isProgramChangedOutside() const
+bool Project::isProgramChangedOutside(qint32 id) const
 {
-    return isAnother(programFile(), m_contents.program.bytes());
+    return isAnother(programFile(id), m_programs.part(id).text.bytes());
 }
 
 bool Project::isChangedOutside() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/ProjectChange.h"
+#include "project/ProjectPrograms.h"
 #include "project/ProjectReader.h"
 #include "project/TableSaving.h"
 
@@ -33,29 +34,47 @@ public:
     const ControllerInfo &controller() const { return m_contents.controller; }
     const RichTextSettings &editor() const { return m_contents.editor; }
 
-    // The program as its file has it, lines separated by CR LF.
-    QString program() const { return m_contents.program.text(); }
-    QString programFile() const { return m_contents.programFile; }
+    // There is always one.
+    const ProgramList &programs() const { return m_programs.list(); }
+    qint32 firstProgram() const { return m_programs.first(); }
+
+    // Programs that leave the list can come back into it; their files stay in any case. The
+    // file of the list is written by save().
+    void setPrograms(const ProgramList &programs) { m_programs.setList(programs); }
+
+    // A program without a text, whose file, beside the project's, nobody has; save() writes
+    // it once it is in the list.
+    qint32 makeProgram(const QString &name);
+
+    // The list as the text of a project's file tells it: programs are known by their files.
+    ProgramList listOf(const QList<ProgramEntry> &entries) { return m_programs.listOf(entries); }
+
+    // Why a program cannot have this name, as a sentence; empty when it can. 0 for a new one.
+    QString programNameFault(qint32 program, const QString &name) const;
+
+    // A program as its file has it, lines separated by CR LF; without a number the first.
+    QString program(qint32 id) const { return m_programs.part(id).text.text(); }
+    QString program() const { return program(firstProgram()); }
+    QString programFile(qint32 id) const;
+    QString programFile() const { return programFile(firstProgram()); }
 
     // What an editor makes of program() when it shows it; the same at first. Saving takes
     // a line that is still so from the file.
-    void setShownProgram(const QString &shown) { m_shown = shown; }
-    const QString &shownProgram() const { return m_shown; }
+    void setShownProgram(qint32 id, const QString &shown) { m_programs.part(id).shown = shown; }
+    const QString &shownProgram(qint32 id) const { return m_programs.part(id).shown; }
 
-    // The encoding that the program's file has, or UTF-8, which has all characters.
+    // The encoding that a program's file has; or UTF-8, which has all characters, where that
+    // lacks one.
     enum class Encoding { ItsOwn, Utf8 };
 
-    // The bytes that the program's file has with this text, lines separated by CR LF:
-    // ProgramFile::with.
-    QByteArray programBytes(const QString &program, Encoding encoding = Encoding::ItsOwn) const;
-
-    // Puts the text into the program's file. Raises Error and leaves file and program()
+    // Puts the text into the first program's file. Raises Error and leaves file and program()
     // as they were.
     void saveProgram(const QString &program);
 
-    // Whether somebody else has changed the program's file, or the project's, since it was
+    // Whether somebody else has changed a program's file, or the project's, since it was
     // read or saved here. A file that is gone counts as unchanged.
-    bool isProgramChangedOutside() const;
+    bool isProgramChangedOutside(qint32 id) const;
+    bool isProgramChangedOutside() const { return isProgramChangedOutside(firstProgram()); }
     bool isChangedOutside() const;
 
     // Why a point cannot be given this name, as a sentence; empty when it can. Not a name
@@ -74,12 +93,12 @@ public:
     // Carries changes out one after the other, here and in the collections.
     void apply(const RowChanges &changes);
 
-    // Whether changes of the tables wait for being saved.
-    bool hasChangedTables() const { return m_isOfVersionBefore || m_contents.rows != m_saved; }
+    // Whether changes of the tables, or of the list of programs, wait for being saved.
+    bool hasChangedTables() const;
 
-    // The tables of now, for being put into the project's file.
+    // These as they are now, for being put into the project's file.
     using Theirs = TableSaving::Theirs;
-    TableSaving tableSaving() const { return {m_fileName, m_saved, m_contents.rows}; }
+    TableSaving tableSaving() const;
 
     // The project's file as it was read or saved.
     const QByteArray &json() const { return m_contents.json; }
@@ -96,15 +115,16 @@ public:
         QString notKept;        // why a version before could not be kept; empty when it could
     };
 
-    // Both, each of them only if it has changed here or is gone. The version that a file had
-    // before stays beside it, with a "~" behind its name, if that is possible. Raises Error;
-    // what was saved by then is.
-    Saved save(const QString &program, Theirs theirs, Encoding encoding = Encoding::ItsOwn);
+    // The project's file and those of all programs, each of them only if it has changed here
+    // or is gone. The version that a file had before stays beside it, with a "~" behind its
+    // name, if that is possible. Raises Error; what was saved by then is. The texts are those
+    // of all programs.
+    Saved save(const ProgramTexts &texts, Theirs theirs, Encoding encoding = Encoding::ItsOwn);
 
-    // Both at another place, the program beside the project's file; the project goes on
+    // All at another place, the programs beside the project's file; the project goes on
     // there. A program of another project is left alone: this one's has another name then.
     // Raises Error and leaves what is there.
-    Saved saveAt(const QString &fileName, const QString &program,
+    Saved saveAt(const QString &fileName, const ProgramTexts &texts,
                  Encoding encoding = Encoding::ItsOwn);
 
     // Keeps what the controller answered for a cell of projectColumns(type). Not saved.
@@ -126,7 +146,11 @@ private:
     void takeOver(const ProjectTables &theirs);
     QByteArray jsonForSaving() const;
     void saveProjectFile(Theirs theirs, Saved &saved);
-    QString programPlace(const QString &fileName) const;
+    QByteArray programBytes(qint32 id, const QString &program, Encoding encoding) const;
+    QMap<qint32, QByteArray> bytesOf(const ProgramTexts &texts, Encoding encoding) const;
+    QMap<qint32, QString> placesBeside(const QString &fileName) const;
+    ProgramList listAt(const QMap<qint32, QString> &places) const;
+    void noteSaved(const QByteArray &json);
     void fillPoints(LwType type);
     void renumber(LwType type, qsizetype from, qint32 by);
     bool hasAnother(LwType type, qsizetype row, const QString &name) const;
@@ -134,8 +158,9 @@ private:
     QString m_fileName;
     ProjectContents m_contents;
     ProjectTables m_saved;
-    QString m_shown;
-    bool m_isOfVersionBefore = false; // and not saved yet
+    ProjectPrograms m_programs;
+    QList<ProgramEntry> m_savedPrograms; // as the file has them
+    bool m_isOfVersionBefore = false;    // and not saved yet
     std::map<LwType, PointList> m_points;
     mutable IndexedNameList m_indexedNames; // those who look at it share their interface
 };

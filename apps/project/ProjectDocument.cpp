@@ -35,9 +35,9 @@ RowChanges changesTo(const ProjectTables &from, const ProjectTables &to)
 
 } // namespace
 
-ProjectDocument::ProjectDocument(Editor editor, QObject *parent)
+ProjectDocument::ProjectDocument(Editors editors, QObject *parent)
     : QObject(parent)
-    , m_editor(std::move(editor))
+    , m_editors(std::move(editors))
 {
 }
 
@@ -60,7 +60,8 @@ Project &ProjectDocument::none()
 
 void ProjectDocument::noteShown()
 {
-    m_project->setShownProgram(program());
+    for (const ProjectProgram &each : m_project->programs())
+        m_project->setShownProgram(each.id, program(each.id));
     Q_EMIT changed();
 }
 
@@ -70,16 +71,49 @@ void ProjectDocument::noteProgramChange()
         Q_EMIT changed();
 }
 
+ProgramTexts ProjectDocument::programs() const
+{
+    ProgramTexts texts;
+    for (const ProjectProgram &each : m_project->programs())
+        texts.insert(each.id, program(each.id));
+    return texts;
+}
+
+// One text for all steps that know it.
+ProgramState ProjectDocument::state() const
+{
+    ProgramState now{m_project->programs(), programs()};
+    if (m_done == 0)
+        return now;
+    const ProgramTexts &former = m_steps.at(m_done - 1).after.texts;
+    for (auto text = now.texts.begin(); text != now.texts.end(); ++text) {
+        if (const auto same = former.constFind(text.key()); same != former.cend() && *same == *text)
+            *text = *same;
+    }
+    return now;
+}
+
 bool ProjectDocument::isModified() const
 {
-    return m_project && (m_project->hasChangedTables() || isProgramModified());
+    return m_project && (m_project->hasChangedTables() || isAnyProgramModified());
+}
+
+bool ProjectDocument::isAnyProgramModified() const
+{
+    return std::ranges::any_of(m_project->programs(), [this](const ProjectProgram &each) {
+        return isProgramModified(each.id);
+    });
+}
+
+bool ProjectDocument::isProgramModified(qint32 id) const
+{
+    return !isAt(id, m_project->shownProgram(id));
 }
 
 // The lengths alone mostly tell, so that a key costs the same in any program.
-bool ProjectDocument::isProgramModified() const
+bool ProjectDocument::isAt(qint32 id, const QString &text) const
 {
-    const QString &saved = m_project->shownProgram();
-    return m_editor.length() != saved.size() || program() != saved;
+    return m_editors.length(id) == text.size() && program(id) == text;
 }
 
 void ProjectDocument::carryOut(ProjectStep step)
@@ -89,43 +123,71 @@ void ProjectDocument::carryOut(ProjectStep step)
         m_steps.removeFirst();
     m_steps.append(std::move(step));
     m_done = m_steps.size();
-    apply(m_steps.constLast().rows);
+    const ProjectStep done = m_steps.constLast();
+    setPrograms(done.after.list);
+    apply(done.rows);
 }
 
 void ProjectDocument::carryOut(const RowChanges &rows)
 {
-    QString now = program();
-    if (m_done > 0 && m_steps.at(m_done - 1).programAfter == now)
-        now = m_steps.at(m_done - 1).programAfter; // one text for all of them
+    const ProgramState now = state();
     carryOut(ProjectStep{rows, now, now});
+}
+
+void ProjectDocument::carryOut(const ProgramList &list)
+{
+    ProgramState now = state();
+    ProjectStep step{{}, now, now};
+    step.after.list = list;
+    carryOut(step);
+}
+
+void ProjectDocument::setPrograms(const ProgramList &list)
+{
+    if (m_project->programs() == list)
+        return;
+    m_project->setPrograms(list);
+    Q_EMIT programListChanged();
 }
 
 void ProjectDocument::noteStepShown()
 {
     if (m_done == 0)
         return;
-    m_steps[m_done - 1].programAfter = program();
+    m_steps[m_done - 1].after = state();
     Q_EMIT changed();
 }
 
-const ProjectStep *ProjectDocument::next(Way way, Among among) const
+const ProjectStep *ProjectDocument::next(Way way, qint32 program) const
 {
     const qsizetype index = way == Way::Back ? m_done - 1 : m_done;
     if (index < 0 || index >= m_steps.size())
         return nullptr;
     const ProjectStep &step = m_steps.at(index);
-    if (among == Among::TablesAlone && step.isOfTablesAlone())
-        return &step;
-    const QString &from = way == Way::Back ? step.programAfter : step.programBefore;
-    return m_editor.length() == from.size() && program() == from ? &step : nullptr;
+    const ProgramState &from = way == Way::Back ? step.after : step.before;
+    if (program == 0)
+        return step.isOfTablesAlone() || obstacle(step, way) == 0 ? &step : nullptr;
+    const auto text = from.texts.constFind(program);
+    return text != from.texts.cend() && isAt(program, *text) ? &step : nullptr;
+}
+
+qint32 ProjectDocument::obstacle(const ProjectStep &step, Way way) const
+{
+    const ProgramState &from = way == Way::Back ? step.after : step.before;
+    for (const qint32 id : step.programs()) {
+        if (!isAt(id, from.texts.value(id)))
+            return id;
+    }
+    return 0;
 }
 
 bool ProjectDocument::restoreTables(const QByteArray &json)
 {
     try {
-        const ProjectTables tables =
-            readContents(JsonPlace::parse(json, m_project->fileName())).rows;
-        apply(changesTo(m_project->tables(), tables));
+        const ProjectContents contents =
+            readContents(JsonPlace::parse(json, m_project->fileName()));
+        setPrograms(m_project->listOf(contents.programs));
+        apply(changesTo(m_project->tables(), contents.rows));
         return true;
     } catch (const Error &) {
         return false;
@@ -135,9 +197,10 @@ bool ProjectDocument::restoreTables(const QByteArray &json)
 void ProjectDocument::go(Way way)
 {
     const bool isBack = way == Way::Back;
-    const RowChanges &rows = m_steps.at(isBack ? m_done - 1 : m_done).rows;
+    const ProjectStep step = m_steps.at(isBack ? m_done - 1 : m_done);
     m_done += isBack ? -1 : 1;
-    apply(isBack ? reversed(rows) : rows);
+    setPrograms(isBack ? step.before.list : step.after.list);
+    apply(isBack ? reversed(step.rows) : step.rows);
 }
 
 void ProjectDocument::apply(const RowChanges &changes)
@@ -150,7 +213,7 @@ void ProjectDocument::apply(const RowChanges &changes)
 
 Project::Saved ProjectDocument::save(Project::Theirs theirs, Project::Encoding encoding)
 {
-    Project::Saved saved = m_project->save(program(), theirs, encoding);
+    Project::Saved saved = m_project->save(programs(), theirs, encoding);
     if (saved.takesOver) {
         m_steps.clear();
         m_done = 0;
@@ -162,7 +225,8 @@ Project::Saved ProjectDocument::save(Project::Theirs theirs, Project::Encoding e
 
 Project::Saved ProjectDocument::saveAt(const QString &fileName, Project::Encoding encoding)
 {
-    Project::Saved saved = m_project->saveAt(fileName, program(), encoding);
+    Project::Saved saved = m_project->saveAt(fileName, programs(), encoding);
+    Q_EMIT programListChanged();
     Q_EMIT changed();
     return saved;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/Project.h"
+#include "project/ProjectStep.h"
 
 #include <QtCore/QObject>
 
@@ -9,31 +10,21 @@
 
 namespace ORVTListview {
 
-// What belongs together: rows of tables, and what the program is before and after.
-struct ProjectStep
-{
-    RowChanges rows;
-    QString programBefore; // both the same for a step of the tables alone
-    QString programAfter;
-
-    bool isOfTablesAlone() const { return programBefore == programAfter; }
-};
-
 // The one project that is open: what it is, what of it is not saved, and the steps that
-// can be taken back. Its program is in an editor's hands, which it asks for the text.
+// can be taken back. Its programs are in the hands of editors, which it asks for the texts.
 class ProjectDocument : public QObject
 {
     Q_OBJECT
 
 public:
-    // What an editor holds.
-    struct Editor
+    // What the editors hold, by the programs' numbers.
+    struct Editors
     {
-        std::function<QString()> program;
-        std::function<qsizetype()> length; // of program, without reading it
+        std::function<QString(qint32 program)> text;
+        std::function<qsizetype(qint32 program)> length; // without reading it
     };
 
-    explicit ProjectDocument(Editor editor, QObject *parent = nullptr);
+    explicit ProjectDocument(Editors editors, QObject *parent = nullptr);
     ~ProjectDocument() override;
 
     // The former project ends with the return. Null before the first.
@@ -43,37 +34,47 @@ public:
     // For components while no project is open. Lives as long as the document.
     Project &none();
 
-    // The editor shows the project's program; as it shows it, it counts as saved.
+    // The editors show the project's programs; as they show them, they count as saved.
     void noteShown();
 
-    // The editor's text is another one.
+    // An editor's text is another one.
     void noteProgramChange();
 
-    QString program() const { return m_editor.program(); }
-    bool isModified() const;
-    bool isProgramModified() const;
+    QString program(qint32 id) const { return m_editors.text(id); }
 
-    // Carries out the rows of a step; the program has changed already.
+    // Those of the project, as they are now.
+    ProgramTexts programs() const;
+
+    bool isModified() const;
+    bool isProgramModified(qint32 id) const;
+    bool isAnyProgramModified() const;
+
+    // Carries out the rows and the list of programs of a step; their texts are others already.
     void carryOut(ProjectStep step);
 
     // A step of the tables alone.
     void carryOut(const RowChanges &rows);
 
-    // The editor shows the program of the step that was carried out last.
+    // Another list of programs, as a step.
+    void carryOut(const ProgramList &programs);
+
+    // The editors show the programs of the step that was carried out last.
     void noteStepShown();
 
-    // Takes the tables of a project's file over. False, and nothing is changed, for what
-    // cannot be read.
+    // Takes the tables and the list of programs of a project's file over. False, and nothing
+    // is changed, for what cannot be read.
     bool restoreTables(const QByteArray &json);
 
-    // The step that would be taken back, or made again, from the program of now; null
-    // when what the editor does comes before it. Of the tables alone: whatever the
-    // program is.
+    // The step that would be taken back, or made again, by who is in this program as it is
+    // now; null when what its editor does comes before. For who is in a table, 0: one of
+    // the tables alone, or one whose programs are all as it knows them.
     enum class Way { Back, Forward };
-    enum class Among { All, TablesAlone };
-    const ProjectStep *next(Way way, Among among) const;
+    const ProjectStep *next(Way way, qint32 program) const;
 
-    // The rows of that step.
+    // A program that the step would change and that is not as the step knows it; 0 for none.
+    qint32 obstacle(const ProjectStep &step, Way way) const;
+
+    // The rows and the list of that step.
     void go(Way way);
 
     // Both raise Error. What was saved counts as unchanged. No step goes back behind tables
@@ -88,12 +89,16 @@ Q_SIGNALS:
     void projectReplaced();
 
     void tablesChanged();
-    void changed(); // tables or program, or what is saved
+    void programListChanged();
+    void changed(); // tables or programs, or what is saved
 
 private:
     void apply(const RowChanges &changes);
+    void setPrograms(const ProgramList &programs);
+    ProgramState state() const;
+    bool isAt(qint32 program, const QString &text) const;
 
-    Editor m_editor;
+    Editors m_editors;
     std::unique_ptr<Project> m_project;
     std::unique_ptr<Project> m_none; // made when it is first needed
     QList<ProjectStep> m_steps;

@@ -24,16 +24,7 @@ constexpr qsizetype mostRows = std::numeric_limits<qint16>::max();
 // The vocabulary takes no larger family.
 constexpr qint64 mostNamesOfAFamily = 100000;
 
-constexpr qint32 knownFormat = 1;
-
-QString readName(const JsonPlace &place)
-{
-    QString name = place.required().text();
-    if (!isPointName(name))
-        place.fail(ProjectTexts::tr(
-            "a name is expected, without blanks around it and control characters"));
-    return name;
-}
+constexpr qint32 knownFormat = formOfSeveralPrograms;
 
 QVariant readValue(const JsonPlace &place)
 {
@@ -116,7 +107,8 @@ ProjectFamily readFamily(const JsonPlace &place)
     return family;
 }
 
-void checkForm(const JsonPlace &root)
+// The form of the file.
+qint32 checkedForm(const JsonPlace &root)
 {
     const JsonPlace format = root.member(u"format"_s);
     const qint32 version = format.required().integer();
@@ -124,20 +116,23 @@ void checkForm(const JsonPlace &root)
         format.fail(ProjectTexts::tr("the form %1 is newer than the form %2 that can be read here; "
                                      "a newer version opens the file, which stays as it is")
                         .arg(QString::number(version), QString::number(knownFormat)));
-    if (version != knownFormat)
-        format.fail(ProjectTexts::tr("only the form %1 can be read").arg(knownFormat));
-    QStringList members = {u"format"_s,       u"name"_s,   u"controller"_s,
-                           u"indexedNames"_s, u"editor"_s, u"program"_s};
+    if (version < 1)
+        format.fail(ProjectTexts::tr("a form from 1 to %1 is expected").arg(knownFormat));
+    QStringList members = {
+        u"format"_s,     u"name"_s,
+        u"controller"_s, u"indexedNames"_s,
+        u"editor"_s,     version < formOfSeveralPrograms ? u"program"_s : u"programs"_s};
     for (const LwType type : projectTypes())
         members.append(projectMember(type));
     root.allowOnly(members);
+    return version;
 }
 
 } // namespace
 
 ProjectContents readContents(const JsonPlace &root)
 {
-    checkForm(root);
+    const qint32 form = checkedForm(root);
     ProjectContents contents;
     contents.name = readName(root.member(u"name"_s));
     contents.controller = readController(root.member(u"controller"_s));
@@ -146,37 +141,43 @@ ProjectContents readContents(const JsonPlace &root)
     for (const JsonPlace &item : root.member(u"indexedNames"_s).items(mostRows))
         contents.indexedNames.append(readFamily(item));
     contents.editor = readAppearance(root.member(u"editor"_s));
-    contents.programFile = readName(root.member(u"program"_s));
+    contents.programs = readProgramEntries(root, form);
     return contents;
 }
 
 namespace {
 
-// All but the program.
-ProjectContents readWithoutProgram(const QString &fileName, const QString &file)
+// All but the programs' texts.
+ProjectContents readWithoutPrograms(const QString &file)
 {
     const QByteArray json = readFile(file);
     ProjectContents contents = readContents(JsonPlace::parse(json, file));
     contents.json = json;
-    contents.programFile = QFileInfo(fileName).dir().filePath(contents.programFile);
     return contents;
 }
 
 } // namespace
 
+QString programPath(const QString &projectFile, const QString &program)
+{
+    return QFileInfo(projectFile).dir().filePath(program);
+}
+
 ProjectContents readProject(const QString &fileName)
 {
-    ProjectContents contents = readWithoutProgram(fileName, fileName);
-    contents.program = ProgramFile(readFile(contents.programFile));
+    ProjectContents contents = readWithoutPrograms(fileName);
+    for (const ProgramEntry &program : std::as_const(contents.programs))
+        contents.texts.append(ProgramFile(readFile(programPath(fileName, program.file))));
     return contents;
 }
 
 ProjectContents readVersionBefore(const QString &fileName)
 {
-    ProjectContents contents = readWithoutProgram(fileName, fileName + u'~');
-    const QString &program = contents.programFile;
-    contents.program =
-        ProgramFile(readFile(QFileInfo(program).isFile() ? program : program + u'~'));
+    ProjectContents contents = readWithoutPrograms(fileName + u'~');
+    for (const ProgramEntry &program : std::as_const(contents.programs)) {
+        const QString file = programPath(fileName, program.file);
+        contents.texts.append(ProgramFile(readFile(QFileInfo(file).isFile() ? file : file + u'~')));
+    }
     return contents;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/JsonPlace.h"
+#include "project/ProgramEntries.h"
 #include "project/ProgramFile.h"
 #include "project/ProjectRow.h"
 
@@ -33,7 +34,7 @@ struct ProjectFamily
     friend bool operator==(const ProjectFamily &, const ProjectFamily &) = default;
 };
 
-// All that a project file and its program say, as plain values.
+// All that a project file and its programs say, as plain values.
 struct ProjectContents
 {
     QString name;
@@ -41,19 +42,22 @@ struct ProjectContents
     ProjectTables rows;
     QList<ProjectFamily> indexedNames;
     RichTextSettings editor;
-    QString programFile; // as it can be opened; as the file has it without the program
-    ProgramFile program;
-    QByteArray json; // the project file itself
+    QList<ProgramEntry> programs;
+    QList<ProgramFile> texts; // of these, in their order
+    QByteArray json;          // the project file itself
 };
 
-// What a project file says, without its program. Raises Error as readProject does.
+// What a project file says, without its programs' texts. Raises Error as readProject does.
 ProjectContents readContents(const JsonPlace &root);
+
+// A program's file as it can be opened.
+QString programPath(const QString &projectFile, const QString &program);
 
 // The form of the file is told in docs/guide/project-file.md. Raises Error with a
 // ProjectErrorNumber for the first thing that is wrong.
 ProjectContents readProject(const QString &fileName);
 
-// The same from what stands beside it with a "~" behind its name; so does its program where
+// The same from what stands beside it with a "~" behind its name; so does a program where
 // that cannot be read.
 ProjectContents readVersionBefore(const QString &fileName);
 

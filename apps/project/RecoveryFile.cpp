@@ -14,6 +14,7 @@ namespace {
 // What is read again is in English whatever the language.
 constexpr QByteArrayView projectMark = "\nproject: ";
 constexpr QByteArrayView timeMark = "\nkept: ";
+constexpr QByteArrayView countMark = "\nprograms: "; // where there are several
 constexpr QByteArrayView partMark = "\n==== ";
 constexpr QByteArrayView partEnd = " bytes ====\n";
 
@@ -21,6 +22,24 @@ QByteArray part(const QByteArray &name, const QByteArray &content)
 {
     return partMark.toByteArray() + name + ", " + QByteArray::number(content.size()) +
            partEnd.toByteArray() + content;
+}
+
+QByteArray programPart(const QByteArray &name, const QString &program)
+{
+    return part(name, QString(program).replace(u"\r\n"_s, u"\n"_s).toUtf8());
+}
+
+QByteArray otherPrograms(const QStringList &programs)
+{
+    QByteArray parts;
+    for (qsizetype i = 1; i < programs.size(); ++i)
+        parts += programPart("program " + QByteArray::number(i + 1), programs[i]) + '\n';
+    return parts;
+}
+
+QString programOf(const QByteArray &part)
+{
+    return utf8Text(part).replace(u"\n"_s, u"\r\n"_s);
 }
 
 // Reads on behind what was read last.
@@ -40,6 +59,12 @@ public:
             return std::nullopt;
         m_at = end;
         return m_text.sliced(found + mark.size(), end - found - mark.size());
+    }
+
+    // The next line, if it has the mark.
+    std::optional<QByteArray> nextLine(QByteArrayView mark)
+    {
+        return QByteArrayView(m_text).sliced(m_at).startsWith(mark) ? line(mark) : std::nullopt;
     }
 
     std::optional<QByteArray> part()
@@ -68,15 +93,16 @@ private:
 QByteArray recoveryText(const RecoveredWork &work)
 {
     const QString file = QFileInfo(work.projectFile).fileName();
-    QString program = work.program;
-    program.replace(u"\r\n"_s, u"\n"_s);
+    const qsizetype count = work.programs.size();
     return ProjectTexts::tr("Work on %1 that is not saved. The workbench offers it when the "
                             "project is opened the next time.")
                .arg(file)
                .toUtf8() +
            '\n' + projectMark.toByteArray() + work.projectFile.toUtf8() + timeMark.toByteArray() +
-           work.when.toUTC().toString(Qt::ISODate).toUtf8() + '\n' +
-           part("program", program.toUtf8()) + '\n' + part("project file", work.json) + '\n';
+           work.when.toUTC().toString(Qt::ISODate).toUtf8() +
+           (count > 1 ? countMark.toByteArray() + QByteArray::number(count) : QByteArray()) + '\n' +
+           programPart("program", work.programs.value(0)) + '\n' + part("project file", work.json) +
+           '\n' + otherPrograms(work.programs);
 }
 
 std::optional<RecoveredWork> readRecovery(const QByteArray &text)
@@ -84,15 +110,22 @@ std::optional<RecoveredWork> readRecovery(const QByteArray &text)
     RecoveryReading reading(text);
     const auto project = reading.line(projectMark);
     const auto when = project ? reading.line(timeMark) : std::nullopt;
+    const auto count = when ? reading.nextLine(countMark) : std::nullopt;
     const auto program = when ? reading.part() : std::nullopt;
     const auto json = program ? reading.part() : std::nullopt;
     if (!json)
         return std::nullopt;
-    QString lines = utf8Text(*program);
-    lines.replace(u"\n"_s, u"\r\n"_s);
+    QStringList programs{programOf(*program)};
+    const int more = count ? count->toInt() : 1;
+    while (programs.size() < more) {
+        const auto other = reading.part();
+        if (!other)
+            return std::nullopt;
+        programs.append(programOf(*other));
+    }
     return RecoveredWork{QString::fromUtf8(*project),
                          QDateTime::fromString(QString::fromUtf8(*when), Qt::ISODate), *json,
-                         lines};
+                         programs};
 }
 
 } // namespace ORVTListview

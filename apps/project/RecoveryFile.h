@@ -2,7 +2,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QDateTime>
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <optional>
 
@@ -14,7 +14,7 @@ struct RecoveredWork
     QString projectFile;
     QDateTime when; // to the second
     QByteArray json;
-    QString program; // lines separated by CR LF
+    QStringList programs; // in the order of the project file, lines separated by CR LF
 
     friend bool operator==(const RecoveredWork &, const RecoveredWork &) = default;
 };

@@ -12,8 +12,16 @@ using namespace Qt::StringLiterals;
 
 QByteArray TableSaving::into(const QByteArray &json, Theirs theirs) const
 {
-    const ProjectTables there = readContents(JsonPlace::parse(json, fileName)).rows;
+    const ProjectContents contents = readContents(JsonPlace::parse(json, fileName));
+    const ProjectTables &there = contents.rows;
     QByteArray result = json;
+    if (programs != savedPrograms && programs != contents.programs) {
+        if (theirs == Theirs::Kept && contents.programs != savedPrograms)
+            throw Error(FileNotWritable, u"Project"_s,
+                        ProjectTexts::tr("%1: its %2 have been changed elsewhere")
+                            .arg(fileName, u"programs"_s));
+        result = withProgramEntries(result, fileName, programs);
+    }
     for (const LwType type : projectTypes()) {
         const QList<ProjectRow> list = now.value(type);
         if (list == saved.value(type) || list == there.value(type))

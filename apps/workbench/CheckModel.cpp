@@ -96,15 +96,40 @@ void CheckModel::retranslate()
                            {Qt::DisplayRole});
 }
 
-void CheckModel::moveLines(const ReplacedLines &lines)
+void CheckModel::setPrograms(const ProgramList &programs)
 {
-    const auto move = [&](qint32 &line) { line = line > 0 ? lines.moved(line) : line; };
+    m_programs = programs;
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::DisplayRole});
+}
+
+// Empty where there is one.
+QString CheckModel::nameOf(qint32 program) const
+{
+    if (m_programs.size() < 2)
+        return {};
+    const auto found = std::ranges::find(m_programs, program, &ProjectProgram::id);
+    return found == m_programs.cend() ? QString() : found->name;
+}
+
+QString CheckModel::lineText(qint32 program, qint32 line) const
+{
+    const QString name = nameOf(program);
+    return name.isEmpty() ? tr("Line %1").arg(line)
+                          : tr("%1, line %2").arg(name, QString::number(line));
+}
+
+void CheckModel::moveLines(qint32 program, const ReplacedLines &lines)
+{
+    const auto move = [&](qint32 id, qint32 &line) {
+        line = id == program && line > 0 ? lines.moved(line) : line;
+    };
     for (ProgramProblem &problem : m_problems)
-        move(problem.line);
+        move(problem.program, problem.line);
     for (ListedStatement &statement : m_statements)
-        move(statement.line);
+        move(statement.program, statement.line);
     for (ShownUse &use : m_uses)
-        move(use.place.line);
+        move(use.place.program, use.place.line);
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::DisplayRole});
 }
@@ -113,7 +138,7 @@ ResultPlace CheckModel::place(int row) const
 {
     switch (m_content) {
     case Content::Statements:
-        return {m_statements[row].line};
+        return {.line = m_statements[row].line, .program = m_statements[row].program};
     case Content::Uses:
         return m_uses[row].place;
     case Content::Problems:
@@ -121,7 +146,9 @@ ResultPlace CheckModel::place(int row) const
     }
     if (row >= m_problems.size())
         return {};
-    return {m_problems[row].line, m_problems[row].found.place};
+    return {.line = m_problems[row].line,
+            .piece = m_problems[row].found.place,
+            .program = m_problems[row].program};
 }
 
 // Without problems there is a row that says so, and one for those that are too many.
@@ -169,7 +196,8 @@ QString CheckModel::text(const QModelIndex &index) const
     const ListedStatement &statement = m_statements[index.row()];
     switch (index.column()) {
     case 0:
-        return QString::number(statement.line);
+        return nameOf(statement.program).isEmpty() ? QString::number(statement.line)
+                                                   : lineText(statement.program, statement.line);
     case 1:
         return indentedText(statement);
     default:
@@ -179,8 +207,11 @@ QString CheckModel::text(const QModelIndex &index) const
 
 QString CheckModel::problemRow(int row) const
 {
-    if (row < m_problems.size())
-        return problemText(m_problems[row]);
+    if (row < m_problems.size()) {
+        const QString name = nameOf(m_problems[row].program);
+        const QString text = problemText(m_problems[row]);
+        return name.isEmpty() ? text : name + QStringLiteral(": ") + text;
+    }
     if (m_problems.isEmpty())
         return tr("Nothing found.");
     return tr("Problems that are not listed: %1").arg(m_problemCount - m_problems.size());
@@ -191,7 +222,7 @@ QString CheckModel::useText(const ShownUse &use, int column) const
     if (column == 1)
         return use.text;
     if (use.place.line > 0)
-        return tr("Line %1").arg(use.place.line);
+        return lineText(use.place.program, use.place.line);
     return Localise(displayName(use.place.type)) + u' ' + QString::number(use.place.row + 1);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ResultPlace.h"
+#include "project/ProjectProgram.h"
 #include "project/analysis/ProgramAnalysis.h"
 #include "project/analysis/ProgramListing.h"
 
@@ -29,7 +30,10 @@ public:
     Content content() const { return m_content; }
     const QList<ListedStatement> &statements() const { return m_statements; }
 
-    void moveLines(const ReplacedLines &lines);
+    // Which program a row is of is said where there are several.
+    void setPrograms(const ProgramList &programs);
+
+    void moveLines(qint32 program, const ReplacedLines &lines);
 
     ResultPlace place(int row) const;
 
@@ -44,6 +48,8 @@ private:
     bool listsAll(const QList<ProgramProblem> &problems, qsizetype count) const;
     void replaceProblems(const QList<ProgramProblem> &problems);
     QString text(const QModelIndex &index) const;
+    QString nameOf(qint32 program) const;
+    QString lineText(qint32 program, qint32 line) const;
     QString problemRow(int row) const;
     QString useText(const ShownUse &use, int column) const;
     QVariant picture(int row) const;
@@ -51,6 +57,7 @@ private:
     QStringList titles() const;
 
     Content m_content = Content::Problems;
+    ProgramList m_programs;
     QList<ProgramProblem> m_problems;
     qsizetype m_problemCount = 0;
     QList<ListedStatement> m_statements;

@@ -29,9 +29,9 @@ CheckResults::CheckResults(QWidget *parent)
     retranslate();
 }
 
-void CheckResults::showProblems(const ProgramAnalysis &analysis)
+void CheckResults::showProblems(const Problems &problems)
 {
-    m_model->setProblems(analysis.problems(), analysis.problemCount());
+    m_model->setProblems(problems.listed, problems.count);
     showModel();
 }
 
@@ -48,20 +48,26 @@ void CheckResults::showUses(const QList<ShownUse> &uses)
 }
 
 // Hidden, too: the list may be shown again by itself.
-void CheckResults::followProblems(const ProgramAnalysis &analysis)
+void CheckResults::followProblems(const Problems &problems)
 {
     if (m_model->content() != CheckModel::Content::Problems)
         return;
     const int scrolled = m_view->verticalScrollBar()->value();
-    m_model->setProblems(analysis.problems(), analysis.problemCount());
+    m_model->setProblems(problems.listed, problems.count);
     m_view->verticalScrollBar()->setValue(scrolled);
     if (!isHidden())
         fitColumns();
 }
 
-void CheckResults::moveLines(const ReplacedLines &lines)
+void CheckResults::setPrograms(const ProgramList &programs)
 {
-    m_model->moveLines(lines);
+    m_model->setPrograms(programs);
+    fitColumns();
+}
+
+void CheckResults::moveLines(qint32 program, const ReplacedLines &lines)
+{
+    m_model->moveLines(program, lines);
 }
 
 void CheckResults::clear()

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "ResultPlace.h"
+#include "project/ProjectProgram.h"
+#include "project/analysis/ProgramFault.h"
 #include "project/analysis/ProgramListing.h"
 
 #include <QtWidgets/QDockWidget>
@@ -10,9 +12,8 @@ class QTreeView;
 namespace ORVTListview {
 
 class CheckModel;
-class ProgramAnalysis;
 
-// The list under the editor: what the analysis found, the statements of the program, or
+// The list under the editors: what the analysis found, the statements of the programs, or
 // the uses of a point.
 class CheckResults : public QDockWidget
 {
@@ -21,18 +22,24 @@ class CheckResults : public QDockWidget
 public:
     explicit CheckResults(QWidget *parent);
 
-    void showProblems(const ProgramAnalysis &analysis);
+    // Of several programs, one after the other; what is found tells of which.
+    struct Problems
+    {
+        QList<ProgramProblem> listed;
+        qsizetype count = 0; // with those that are not listed
+    };
+    void showProblems(const Problems &problems);
     void showStatements(const QList<ListedStatement> &statements);
     void showUses(const QList<ShownUse> &uses);
 
     // Where problems are listed, those of now, with the chosen one and the place of the
     // list as they were.
-    void followProblems(const ProgramAnalysis &analysis);
+    void followProblems(const Problems &problems);
 
-    // Of the program.
-    void moveLines(const ReplacedLines &lines);
+    void setPrograms(const ProgramList &programs);
+    void moveLines(qint32 program, const ReplacedLines &lines);
 
-    // Hides it; there are no results of the former program any more.
+    // Hides it; there are no results of the former project any more.
     void clear();
 
     // After a change of language.

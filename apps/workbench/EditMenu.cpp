@@ -5,6 +5,7 @@
 #include "widgets/box/BoxCommands.h"
 #include "workbench/export/ColouredCopy.h"
 #include "workbench/renaming/ProjectHistory.h"
+#include "workbench/views/ProgramViews.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>
@@ -23,8 +24,6 @@ EditMenu::EditMenu(const ProjectView &views, ProjectHistory &history, const Pape
                    QWidget *parent)
     : QMenu(tr("&Edit"), parent)
     , m_views(views)
-    , m_code(views.program())
-    , m_view(*m_code.codeView())
     , m_paper(paper)
     , m_history(history)
 {
@@ -39,9 +38,21 @@ EditMenu::EditMenu(const ProjectView &views, ProjectHistory &history, const Pape
     addSeparator();
     addCommands();
     connect(this, &QMenu::aboutToShow, this, &EditMenu::refresh);
-    connect(&m_code, &ORVListView::UpdateUndoMenu, this, &EditMenu::refresh);
+    views.programs().withEach(this, [this](qint32, ORVListView &view) {
+        connect(&view, &ORVListView::UpdateUndoMenu, this, &EditMenu::refresh);
+    });
     connect(&views, &ProjectView::shown, this, &EditMenu::refresh);
     refresh();
+}
+
+ORVListView &EditMenu::code() const
+{
+    return m_views.program();
+}
+
+CodeView &EditMenu::codeView() const
+{
+    return *code().codeView();
 }
 
 void EditMenu::addHistory()
@@ -63,28 +74,28 @@ void EditMenu::addClipboard()
 void EditMenu::addFinding()
 {
     addAction(tr("&Find…"), QKeySequence(Qt::CTRL | Qt::Key_F), this, &EditMenu::find);
-    addAction(tr("Find While T&yping"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F), &m_view,
-              &CodeView::showFindBar);
+    addAction(tr("Find While T&yping"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F), this,
+              [this] { codeView().showFindBar(); });
     addAction(tr("R&eplace…"), QKeySequence(Qt::CTRL | Qt::Key_H), this, &EditMenu::replace);
     addAction(tr("Find &Next"), QKeySequence(Qt::Key_F3), this,
-              [this] { tellUnless(m_view.findNext()); });
+              [this] { tellUnless(codeView().findNext()); });
     addAction(tr("Find Pre&vious"), QKeySequence(Qt::SHIFT | Qt::Key_F3), this,
-              [this] { tellUnless(m_view.findPrevious()); });
+              [this] { tellUnless(codeView().findPrevious()); });
     addAction(tr("Ne&xt Use"), QKeySequence(Qt::CTRL | Qt::Key_E), this,
-              [this] { tellUnless(m_view.findNextAtCaret()); });
+              [this] { tellUnless(codeView().findNextAtCaret()); });
     addAction(tr("Prev&ious Use"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E), this,
-              [this] { tellUnless(m_view.findPreviousAtCaret()); });
+              [this] { tellUnless(codeView().findPreviousAtCaret()); });
 }
 
 void EditMenu::addCommands()
 {
-    auto *lines = new LinesMenu(m_view, this);
+    auto *lines = new LinesMenu(m_views, this);
     connect(lines, &LinesMenu::acted, this, &EditMenu::acted);
     addMenu(lines);
-    addAction(tr("&Go To Line"), QKeySequence(Qt::CTRL | Qt::Key_G), &m_view,
-              &CodeView::showGoToLine);
+    addAction(tr("&Go To Line"), QKeySequence(Qt::CTRL | Qt::Key_G), this,
+              [this] { codeView().showGoToLine(); });
     addAction(tr("Go To &Match"), QKeySequence(Qt::CTRL | Qt::Key_B), this,
-              [this] { tellUnless(m_view.goToPartner()); });
+              [this] { tellUnless(codeView().goToPartner()); });
 }
 
 void EditMenu::tellUnless(bool isFound)
@@ -117,7 +128,7 @@ void EditMenu::refresh()
     m_redo->setEnabled(m_history.canGo(ProjectHistory::Way::Forward));
     if (!isCode)
         return;
-    const bool hasSelection = m_code.RTextBox()->SelLength() > 0;
+    const bool hasSelection = code().RTextBox()->SelLength() > 0;
     m_cut->setEnabled(hasSelection);
     m_copy->setEnabled(hasSelection);
     m_colouredCopy->setEnabled(hasSelection);
@@ -137,7 +148,7 @@ void EditMenu::redo()
 
 void EditMenu::restoreTypedText()
 {
-    if (m_code.restoreUnsavedText())
+    if (code().restoreUnsavedText())
         m_hasRestored = true;
     else if (std::exchange(m_hasRestored, false))
         Q_EMIT told(tr("There is no older typed text. The next time the latest comes again."));
@@ -147,43 +158,43 @@ void EditMenu::restoreTypedText()
 
 void EditMenu::cut()
 {
-    m_code.RTextBox()->commands().cut(); // as the key, with a snapshot
+    code().RTextBox()->commands().cut(); // as the key, with a snapshot
 }
 
 void EditMenu::copy()
 {
-    m_code.RTextCopy();
+    code().RTextCopy();
 }
 
 void EditMenu::copyColoured()
 {
-    copyWithColours(*m_code.RTextBox(), m_paper);
+    copyWithColours(*code().RTextBox(), m_paper);
 }
 
 void EditMenu::paste()
 {
     if (const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData())
-        m_code.RTextBox()->commands().paste(*clipboard);
+        code().RTextBox()->commands().paste(*clipboard);
 }
 
 void EditMenu::selectAll()
 {
-    m_code.RTextSelectAll();
+    code().RTextSelectAll();
 }
 
 void EditMenu::find()
 {
-    m_code.showFind();
+    code().showFind();
 }
 
 void EditMenu::replace()
 {
-    m_code.showFind(true);
+    code().showFind(true);
 }
 
 void EditMenu::showKnownWords()
 {
-    m_code.TryToPopupList();
+    code().TryToPopupList();
 }
 
 } // namespace ORVTListview

@@ -46,12 +46,12 @@ private:
     void selectAll();
     void showKnownWords();
     void tellUnless(bool isFound);
+    ORVListView &code() const;
+    CodeView &codeView() const;
     void find();
     void replace();
 
     const ProjectView &m_views;
-    ORVListView &m_code;
-    CodeView &m_view;
     const PaperColours &m_paper;
     ProjectHistory &m_history;
     bool m_hasRestored = false; // something, since the last time there was nothing

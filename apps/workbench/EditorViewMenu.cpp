@@ -1,15 +1,20 @@
 #include "EditorViewMenu.h"
 
+#include "ProjectView.h"
+#include "workbench/views/ProgramViews.h"
+
 #include <ORVTListview/CodeView.h>
+#include <ORVTListview/ORVListView.h>
 
 #include <QtGui/QAction>
 
 namespace ORVTListview {
 
-EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
+EditorViewMenu::EditorViewMenu(const ProjectView &views, QWidget *parent)
     : QMenu(tr("&Editor"), parent)
-    , m_view(view)
+    , m_views(views)
 {
+    const CodeView &view = current();
     addSwitch(tr("Line &Numbers"), view.lineNumbersVisible(), &CodeView::setLineNumbersVisible);
     addSwitch(tr("&Current Line"), view.currentLineShown(), &CodeView::setCurrentLineShown);
     addSwitch(tr("Pairs and &Uses"), view.pairsShown(), &CodeView::setPairsShown);
@@ -25,15 +30,21 @@ EditorViewMenu::EditorViewMenu(CodeView &view, QWidget *parent)
     addSwitch(tr("&Word List While Typing"), view.wordListOpensItself(),
               &CodeView::setWordListOpensItself);
     addSeparator();
-    add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0, [this] { m_view.setZoom(100); });
-    add(tr("Fold &All"), {}, [this] { m_view.foldAll(); });
-    add(tr("Unfold A&ll"), {}, [this] { m_view.unfoldAll(); });
+    add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0,
+        [this] { m_views.programs().forEach([](CodeView &each) { each.setZoom(100); }); });
+    add(tr("Fold &All"), {}, [this] { current().foldAll(); });
+    add(tr("Unfold A&ll"), {}, [this] { current().unfoldAll(); });
     addSeparator();
-    add(tr("Next &Problem"), Qt::Key_F8, [this] { m_view.nextProblem(); });
-    add(tr("P&revious Problem"), Qt::SHIFT | Qt::Key_F8, [this] { m_view.previousProblem(); });
+    add(tr("Next &Problem"), Qt::Key_F8, [this] { current().nextProblem(); });
+    add(tr("P&revious Problem"), Qt::SHIFT | Qt::Key_F8, [this] { current().previousProblem(); });
     addSeparator();
-    add(tr("Toggle &Bookmark"), Qt::CTRL | Qt::Key_F2, [this] { m_view.toggleBookmark(); });
-    add(tr("Ne&xt Bookmark"), Qt::CTRL | Qt::Key_F3, [this] { m_view.nextBookmark(); });
+    add(tr("Toggle &Bookmark"), Qt::CTRL | Qt::Key_F2, [this] { current().toggleBookmark(); });
+    add(tr("Ne&xt Bookmark"), Qt::CTRL | Qt::Key_F3, [this] { current().nextBookmark(); });
+}
+
+CodeView &EditorViewMenu::current() const
+{
+    return *m_views.program().codeView();
 }
 
 void EditorViewMenu::switchOn(CodeView &view)
@@ -50,7 +61,8 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setAdaptsColours(true);
     view.setWordListOpensItself(true);
     view.setKeepsText(true); // what is saved is what was typed
-    view.setZoom(100);       // the wheel with Ctrl
+    view.setHasOwnUndo(true);
+    view.setZoom(100); // the wheel with Ctrl
 }
 
 void EditorViewMenu::add(const QString &text, const QKeySequence &keys,
@@ -64,7 +76,9 @@ void EditorViewMenu::addSwitch(const QString &text, bool isOn, void (CodeView::*
     QAction *action = addAction(text);
     action->setCheckable(true);
     action->setChecked(isOn);
-    connect(action, &QAction::toggled, &m_view, set);
+    connect(action, &QAction::toggled, this, [this, set](bool on) {
+        m_views.programs().forEach([set, on](CodeView &view) { (view.*set)(on); });
+    });
 }
 
 } // namespace ORVTListview

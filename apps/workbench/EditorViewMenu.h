@@ -8,14 +8,15 @@
 namespace ORVTListview {
 
 class CodeView;
+class ProjectView;
 
-// What the editor shows beside the text, to be switched on and off.
+// What the editors show beside the text, to be switched on and off, for all programs.
 class EditorViewMenu : public QMenu
 {
     Q_OBJECT
 
 public:
-    EditorViewMenu(CodeView &view, QWidget *parent);
+    EditorViewMenu(const ProjectView &views, QWidget *parent);
 
     // What the workbench begins with.
     static void switchOn(CodeView &view);
@@ -24,7 +25,9 @@ private:
     void add(const QString &text, const QKeySequence &keys, const std::function<void()> &command);
     void addSwitch(const QString &text, bool isOn, void (CodeView::*set)(bool));
 
-    CodeView &m_view;
+    CodeView &current() const;
+
+    const ProjectView &m_views;
 };
 
 } // namespace ORVTListview

@@ -1,20 +1,32 @@
 #include "LinesMenu.h"
 
+#include "ProjectView.h"
+#include "workbench/views/ProgramViews.h"
+
 #include <ORVTListview/CodeView.h>
+#include <ORVTListview/ORVListView.h>
 
 #include <QtGui/QAction>
 
 namespace ORVTListview {
 
-LinesMenu::LinesMenu(CodeView &view, QWidget *parent)
+LinesMenu::LinesMenu(const ProjectView &views, QWidget *parent)
     : QMenu(tr("&Lines"), parent)
-    , m_view(view)
+    , m_views(views)
 {
     addMoves();
     addSeparator();
     addTexts();
-    connect(&view, &CodeView::commandsEnabledChanged, this, &LinesMenu::setPossible);
-    setPossible(view.commandsEnabled());
+    views.programs().withEach(this, [this](qint32, ORVListView &view) {
+        connect(view.codeView(), &CodeView::commandsEnabledChanged, this, &LinesMenu::refresh);
+    });
+    connect(&views, &ProjectView::shown, this, &LinesMenu::refresh);
+    refresh();
+}
+
+CodeView &LinesMenu::current() const
+{
+    return *m_views.program().codeView();
 }
 
 void LinesMenu::addMoves()
@@ -39,15 +51,15 @@ void LinesMenu::add(const QString &text, const QKeySequence &keys,
                     const std::function<void(CodeView &view)> &command)
 {
     addAction(text, keys, this, [this, command] {
-        command(m_view);
+        command(current());
         Q_EMIT acted();
     });
 }
 
-void LinesMenu::setPossible(bool possible)
+void LinesMenu::refresh()
 {
     for (QAction *action : actions())
-        action->setEnabled(possible);
+        action->setEnabled(current().commandsEnabled());
 }
 
 } // namespace ORVTListview

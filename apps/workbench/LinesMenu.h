@@ -8,6 +8,7 @@
 namespace ORVTListview {
 
 class CodeView;
+class ProjectView;
 
 // What the editor does to lines and to the selection, with the keys that the workbench
 // gives it. It can be chosen while the program may be changed.
@@ -16,7 +17,7 @@ class LinesMenu : public QMenu
     Q_OBJECT
 
 public:
-    LinesMenu(CodeView &view, QWidget *parent);
+    LinesMenu(const ProjectView &views, QWidget *parent);
 
 Q_SIGNALS:
     // A command has been carried out, and the caret may have moved.
@@ -27,9 +28,10 @@ private:
     void addTexts();
     void add(const QString &text, const QKeySequence &keys,
              const std::function<void(CodeView &view)> &command);
-    void setPossible(bool possible);
+    CodeView &current() const;
+    void refresh();
 
-    CodeView &m_view;
+    const ProjectView &m_views;
 };
 
 } // namespace ORVTListview

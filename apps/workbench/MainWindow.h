@@ -2,13 +2,10 @@
 
 #include "workbench/settings/Settings.h"
 
-#include <ORVTListview/ORVListView.h>
+#include <ORVTListview/Types.h>
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QMainWindow>
-
-class QLabel;
-class QStackedWidget;
 
 namespace ORVTListview {
 
@@ -16,13 +13,12 @@ class CheckResults;
 class ControllerPart;
 class EditMenu;
 class Exporting;
-class FirstSteps;
 class Languages;
-class LiveAnalysis;
-class OpeningProgress;
-class OpeningFault;
 class Panes;
+class ORVListView;
+class ProgramAnalyses;
 class ProgramChecking;
+class ProgramNaming;
 class ProgramNavigation;
 class PointChooser;
 class PointImporting;
@@ -37,7 +33,8 @@ class ProjectView;
 class RecentProjects;
 class RecoveryKeeper;
 class RecoveryOffer;
-class StartPage;
+class WindowPages;
+class WindowStatus;
 
 // A small host: shows a project in the library's components.
 class MainWindow : public QMainWindow
@@ -80,7 +77,7 @@ public:
     const Settings &settings() const { return m_settings; }
     void setSettings(const Settings &settings);
 
-    // Shows the program, or the table of a type.
+    // Shows the program that was used last, or the table of a type.
     void showType(LwType type);
 
     // The page of the first start, whose sample is this project.
@@ -103,11 +100,11 @@ private:
     void buildEditMenu();
     void buildViewMenu();
     void buildHelpMenu();
-    void buildStatusBar();
-    void connectEditor();
+    void connectPrograms();
+    void connectEditor(ORVListView &list);
     void connectPoints();
     void connectReading();
-    void connectFirstSteps();
+    void leaveFirstSteps();
     void connectSaving();
     void connectPages();
     void takeProject(Project &project);
@@ -119,6 +116,9 @@ private:
     void decide(const Settings &settings);
     void applyAppearance();
     void connectAnalysis();
+    void takePrograms();
+    RichTextSettings shownAppearance() const;
+    ORVListView &program() const;
     void takePoints();
     bool showsProject() const;
     void showPosition();
@@ -129,17 +129,14 @@ private:
     Settings m_settings;
     QString m_sample;
     PointChooser *m_points; // made in the order of the Tab key
-    QStackedWidget *m_pages;
     ProjectDocument *m_document;
     ControllerPart *m_controller;
     ProjectView *m_view;
-    OpeningFault *m_fault;
     RecentProjects *m_recent;
-    StartPage *m_start;
-    FirstSteps *m_firstSteps;
-    ORVListView *m_code; // the view owns it
+    WindowPages *m_pages;
     ProjectHistory *m_history;
     PointRenaming *m_renaming;
+    ProgramNaming *m_naming;
     PointImporting *m_importing;
     ProjectSaving *m_saving;
     ProjectLife *m_life;
@@ -148,13 +145,11 @@ private:
     Exporting *m_export;
     PointValues *m_values;
     CheckResults *m_results;
-    LiveAnalysis *m_analysis;
+    ProgramAnalyses *m_analyses;
     ProgramChecking *m_checking;
     ProgramNavigation *m_navigation;
     Panes *m_panes;
-    QLabel *m_programInfo;
-    OpeningProgress *m_opening;
-    QLabel *m_position;
+    WindowStatus *m_status;
     QTimer m_palette; // since it changed, till the program has its colours
 };
 

@@ -6,9 +6,11 @@
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QToolButton>
 
+#include <algorithm>
+
 namespace ORVTListview {
 
-OpeningProgress::OpeningProgress(CodeView &view, QWidget *parent)
+OpeningProgress::OpeningProgress(QWidget *parent)
     : QWidget(parent)
     , m_bar(new QProgressBar(this))
     , m_cancel(new QToolButton(this))
@@ -22,8 +24,25 @@ OpeningProgress::OpeningProgress(CodeView &view, QWidget *parent)
     m_cancel->setFocusPolicy(Qt::TabFocus); // a click leaves the focus in the program
     retranslate();
     hide();
-    connect(&view, &CodeView::openingProgress, this, &OpeningProgress::follow);
-    connect(m_cancel, &QToolButton::clicked, &view, &CodeView::cancelOpening);
+    connect(m_cancel, &QToolButton::clicked, this, &OpeningProgress::cancel);
+}
+
+void OpeningProgress::add(CodeView &view)
+{
+    connect(&view, &CodeView::openingProgress, this, [this, &view](int percent) {
+        if (percent < 100)
+            m_percents.insert(&view, percent);
+        else
+            m_percents.remove(&view);
+        follow();
+    });
+}
+
+void OpeningProgress::cancel()
+{
+    const QList<CodeView *> views = m_percents.keys();
+    for (CodeView *view : views)
+        view->cancelOpening();
 }
 
 void OpeningProgress::retranslate()
@@ -34,10 +53,12 @@ void OpeningProgress::retranslate()
     m_cancel->setToolTip(tr("The program stays, the rest of it without colours"));
 }
 
-void OpeningProgress::follow(int percent)
+// The one that has the longest way to go.
+void OpeningProgress::follow()
 {
-    m_bar->setValue(percent);
-    setVisible(percent < 100);
+    const auto least = std::ranges::min_element(m_percents);
+    m_bar->setValue(least == m_percents.end() ? 100 : *least);
+    setVisible(!m_percents.isEmpty());
 }
 
 } // namespace ORVTListview

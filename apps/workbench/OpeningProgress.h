@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QHash>
 #include <QtWidgets/QWidget>
 
 class QProgressBar;
@@ -9,20 +10,25 @@ namespace ORVTListview {
 
 class CodeView;
 
-// How far the program that is being opened has its colours, with a way to give it up.
+// How far the programs that are being opened have their colours, with a way to give it up.
 // Shown only while that takes its time.
 class OpeningProgress : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit OpeningProgress(CodeView &view, QWidget *parent = nullptr);
+    explicit OpeningProgress(QWidget *parent = nullptr);
+
+    // A program that may be opened.
+    void add(CodeView &view);
 
     void retranslate();
 
 private:
-    void follow(int percent);
+    void follow();
+    void cancel();
 
+    QHash<CodeView *, int> m_percents; // of those that are being opened
     QProgressBar *m_bar;
     QToolButton *m_cancel;
 };

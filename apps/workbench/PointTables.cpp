@@ -181,12 +181,17 @@ void PointTables::fillValues()
         return;
     const QList<ProjectRow> &rows = m_project->rows(type);
     const qsizetype count = std::min<qsizetype>(rows.size(), items.Count());
+    bool needsRoom = false;
     for (qsizetype row = 0; row < count; ++row) {
         ListItem &item = *items.Item(static_cast<qint32>(row) + 1);
         const QString text = cellText(rows.at(row).cells.at(column - 1));
-        if (item.SubItem(column) != text)
+        const QString former = item.SubItem(column);
+        needsRoom = needsRoom || text.size() > former.size();
+        if (former != text)
             item.setSubItem(column, text);
     }
+    if (needsRoom)
+        widen(column); // what was fitted to shorter values
     showOld(rows, column);
 }
 

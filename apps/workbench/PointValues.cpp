@@ -4,9 +4,11 @@
 #include "project/Project.h"
 #include "project/ProjectColumns.h"
 #include "project/controller/PointReading.h"
+#include "workbench/views/ProgramViews.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/HoverAnswer.h>
+#include <ORVTListview/ORVListView.h>
 
 #include <algorithm>
 #include <array>
@@ -30,12 +32,17 @@ QVariant cellOf(const ProjectRow &row, LwType type, const QString &key)
 
 } // namespace
 
-PointValues::PointValues(CodeView &view, PointReading &reading, QObject *parent)
+PointValues::PointValues(ProgramViews &programs, PointReading &reading, QObject *parent)
     : QObject(parent)
-    , m_view(view)
+    , m_programs(programs)
 {
-    connect(&m_view, &CodeView::hoverAsked, this,
-            [this](const QString &word, qint32, HoverAnswer *told) { answer(word, told); });
+    programs.withEach(this, [this](qint32, ORVListView &list) {
+        CodeView &view = *list.codeView();
+        connect(&view, &CodeView::hoverAsked, this,
+                [this](const QString &word, qint32, HoverAnswer *told) { answer(word, told); });
+        describeWords(view);
+        feed(view);
+    });
     connect(&reading, &PointReading::ended, this, &PointValues::takeValues);
 }
 
@@ -68,25 +75,32 @@ void PointValues::takeValues()
     if (!m_project)
         return;
     collect();
-    feed();
+    m_programs.forEach([this](CodeView &view) { feed(view); });
 }
 
 void PointValues::takeProject()
 {
     collect();
-    describeWords();
-    feed();
+    tellAll();
 }
 
-void PointValues::describeWords()
+void PointValues::tellAll()
+{
+    m_programs.forEach([this](CodeView &view) {
+        describeWords(view);
+        feed(view);
+    });
+}
+
+void PointValues::describeWords(CodeView &view) const
 {
     QHash<QString, QString> descriptions;
-    for (const Told &point : std::as_const(m_points))
+    for (const Told &point : m_points)
         descriptions.insert(point.name, point.description);
-    m_view.setWordDescriptions(descriptions);
+    view.setWordDescriptions(descriptions);
 }
 
-void PointValues::feed()
+void PointValues::feed(CodeView &view) const
 {
     QHash<QString, QString> values;
     for (const Told &point : std::as_const(m_points)) {
@@ -94,7 +108,7 @@ void PointValues::feed()
         if (!value.isEmpty())
             values.insert(point.name, point.unit.isEmpty() ? value : value + u' ' + point.unit);
     }
-    m_view.setLiveValues(values);
+    view.setLiveValues(values);
 }
 
 void PointValues::answer(const QString &word, HoverAnswer *answer) const

@@ -11,9 +11,10 @@ namespace ORVTListview {
 class CodeView;
 class HoverAnswer;
 class PointReading;
+class ProgramViews;
 class Project;
 
-// Tells the editor of the project's points: the descriptions for its list of words, the
+// Tells the editors of the project's points: the descriptions for their lists of words, the
 // values as they are read, and all there is of a point when the mouse asks.
 class PointValues : public QObject
 {
@@ -21,7 +22,7 @@ class PointValues : public QObject
 
 public:
     // The reading lives as long as this.
-    PointValues(CodeView &view, PointReading &reading, QObject *parent);
+    PointValues(ProgramViews &programs, PointReading &reading, QObject *parent);
 
     // The project must live until the next call.
     void setProject(const Project *project);
@@ -41,11 +42,12 @@ private:
 
     void collect();
     void takeValues();
-    void describeWords();
-    void feed();
+    void tellAll();
+    void describeWords(CodeView &view) const;
+    void feed(CodeView &view) const;
     void answer(const QString &word, HoverAnswer *answer) const;
 
-    CodeView &m_view;
+    ProgramViews &m_programs;
     const Project *m_project = nullptr;
     QHash<QString, Told> m_points; // by their names in one letter case
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/analysis/ProgramListing.h"
+#include "CheckResults.h"
 
 #include <QtCore/QObject>
 
@@ -10,39 +10,43 @@ class QWidget;
 
 namespace ORVTListview {
 
-class CheckResults;
-class LiveAnalysis;
+class ProgramAnalyses;
+class ProgramViews;
 class ProjectDocument;
-class RichTextBox;
 
-// What users ask of a program as a whole: its problems, its statements.
+// What users ask of the programs as a whole: their problems, their statements.
 class ProgramChecking : public QObject
 {
     Q_OBJECT
 
 public:
-    // The analysis is the box's.
-    struct Program
+    struct Programs
     {
-        LiveAnalysis &analysis;
-        RichTextBox &box;
+        ProgramViews &views;
+        ProgramAnalyses &analyses;
     };
 
     // Belongs to the window.
-    ProgramChecking(const Program &program, const ProjectDocument &document, CheckResults &results,
-                    QWidget &window);
+    ProgramChecking(const Programs &programs, const ProjectDocument &document,
+                    CheckResults &results, QWidget &window);
 
-    // Both list what they find.
+    // Both list what they find, in all programs.
     void analyse();
     void compile();
 
-    // Asks for the file; the problems are listed instead of a program with errors.
+    // What was found last, in the order of the programs.
+    CheckResults::Problems problems() const;
+
+    // The current program's. Asks for the file; the problems are listed instead of a program
+    // with errors.
     void exportListing();
 
 private:
-    std::optional<QList<ListedStatement>> compiled();
+    bool hasErrors(const ProgramList &programs) const;
+    QList<ListedStatement> statementsOf(qint32 program) const;
+    std::optional<QList<ListedStatement>> compiled(const ProgramList &programs);
 
-    Program m_program;
+    Programs m_programs;
     const ProjectDocument &m_document;
     CheckResults &m_results;
     QWidget &m_window;

@@ -6,9 +6,10 @@ namespace ORVTListview {
 
 class CheckResults;
 class ProgramChecking;
+class ProgramNaming;
 class ProgramNavigation;
 
-// What is done with the program as a whole, and the ways through it. In the editor F6 and
+// What is done with the programs as a whole, and the ways through them. In the editor F6 and
 // Ctrl+F6 raise its events; the menu has them for the rest of the window.
 class ProgramMenu : public QMenu
 {
@@ -16,8 +17,16 @@ class ProgramMenu : public QMenu
 
 public:
     // All of them outlive the menu.
-    ProgramMenu(ProgramChecking &checking, ProgramNavigation &navigation,
-                const CheckResults &results, QWidget *parent);
+    struct Acts
+    {
+        ProgramChecking &checking;
+        ProgramNaming &naming;
+        ProgramNavigation &navigation;
+    };
+    ProgramMenu(const Acts &acts, const CheckResults &results, QWidget *parent);
+
+private:
+    void addNaming(ProgramNaming &naming);
 };
 
 } // namespace ORVTListview

@@ -2,13 +2,15 @@
 
 #include "CheckResults.h"
 #include "CheckTexts.h"
-#include "LiveAnalysis.h"
+#include "FindInPrograms.h"
 #include "PointTables.h"
+#include "ProgramAnalyses.h"
 #include "ProjectView.h"
 #include "base/TextRules.h"
 #include "project/PointReferences.h"
 #include "project/Project.h"
 #include "shared/texts/TextTable.h"
+#include "workbench/views/ProgramViews.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ListItem.h>
@@ -44,15 +46,15 @@ LwType typeOf(WordClass wordClass)
 
 } // namespace
 
-ProgramNavigation::ProgramNavigation(ProjectView &view, LiveAnalysis &analysis,
+ProgramNavigation::ProgramNavigation(ProjectView &view, ProgramAnalyses &analyses,
                                      CheckResults &results, QObject *parent)
     : QObject(parent)
     , m_view(view)
-    , m_analysis(analysis)
+    , m_analyses(analyses)
     , m_results(results)
 {
     connect(&results, &CheckResults::chosen, this, &ProgramNavigation::goTo);
-    connect(&analysis, &LiveAnalysis::linesReplaced, this, &ProgramNavigation::moveLines);
+    connect(&analyses, &ProgramAnalyses::linesReplaced, this, &ProgramNavigation::moveLines);
 }
 
 void ProgramNavigation::setProject(const Project *project)
@@ -69,6 +71,8 @@ void ProgramNavigation::fillMenu(QMenu &menu)
                    &ProgramNavigation::back);
     menu.addAction(tr("All &Uses"), QKeySequence(Qt::SHIFT | Qt::Key_F12), this,
                    &ProgramNavigation::findUses);
+    menu.addAction(tr("&Find In Programs…"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_F), this,
+                   &ProgramNavigation::findText);
 }
 
 void ProgramNavigation::goTo(const ResultPlace &place)
@@ -109,10 +113,24 @@ void ProgramNavigation::findUses()
         m_results.showUses(usesOf(at));
 }
 
-void ProgramNavigation::moveLines(const ReplacedLines &lines)
+void ProgramNavigation::findText()
 {
-    for (ResultPlace &place : m_former)
-        place.line = place.line > 0 ? lines.moved(place.line) : place.line;
+    const QString text = askTextToFind(*m_view.window(), m_view.programs());
+    if (text.isEmpty())
+        return;
+    const QList<ShownUse> places = findInPrograms(m_view.programs(), text);
+    if (places.isEmpty())
+        Q_EMIT told(tr("%1 was not found.").arg(shortened(text)));
+    else
+        m_results.showUses(places);
+}
+
+void ProgramNavigation::moveLines(qint32 program, const ReplacedLines &lines)
+{
+    for (ResultPlace &place : m_former) {
+        if (place.line > 0 && place.program == program)
+            place.line = lines.moved(place.line);
+    }
 }
 
 void ProgramNavigation::remember()
@@ -136,22 +154,28 @@ ResultPlace ProgramNavigation::current() const
     }
     const RichTextBox &box = *list.RTextBox();
     const qint32 line = box.GetLineFromChar(box.SelStart());
-    return {line + 1, {box.SelStart() - box.lineStart(line), box.SelLength()}};
+    return {.line = line + 1,
+            .piece = {box.SelStart() - box.lineStart(line), box.SelLength()},
+            .program = m_view.programs().current()};
 }
 
 void ProgramNavigation::show(const ResultPlace &place)
 {
-    m_view.enterType(place.line > 0 ? dsCode : place.type);
-    if (place.line > 0)
+    if (place.line > 0) {
+        m_view.enterProgram(place.program);
         showLine(place);
-    else if (PointTables *table = m_view.currentTable())
+        Q_EMIT moved();
+        return;
+    }
+    m_view.enterType(place.type);
+    if (PointTables *table = m_view.currentTable())
         table->showRow(place.row);
     Q_EMIT moved();
 }
 
 void ProgramNavigation::showLine(const ResultPlace &place)
 {
-    ORVListView &list = m_view.program();
+    const ORVListView &list = m_view.program();
     RichTextBox &box = *list.RTextBox();
     list.codeView()->goToLine(place.line);
     const qint32 line = std::min(place.line, box.lineCount()) - 1;
@@ -165,13 +189,14 @@ ProgramNavigation::NamedPoint ProgramNavigation::pointInProgram() const
 {
     if (m_view.currentTable())
         return {};
-    m_analysis.takeWords();
+    m_analyses.takeWords();
     const RichTextBox &box = *m_view.program().RTextBox();
     const qint32 line = box.GetLineFromChar(box.SelStart());
     const qint32 caret = box.SelStart() - box.lineStart(line);
     const QString text = box.lineText(line);
+    const ProgramWords &words = m_analyses.of(m_view.programs().current()).words();
     QList<LineProblem> problems;
-    for (const ProgramToken &token : tokensOf(text, m_analysis.words(), problems)) {
+    for (const ProgramToken &token : tokensOf(text, words, problems)) {
         const bool isName = token.kind == TokenKind::Name || token.kind == TokenKind::Unknown;
         if (isName && token.place.start <= caret && caret <= token.place.end())
             return {typeOf(token.wordClass), text.mid(token.place.start, token.place.length)};
@@ -206,9 +231,12 @@ qsizetype ProgramNavigation::rowOf(const NamedPoint &point) const
 QList<ShownUse> ProgramNavigation::usesOf(const NamedPoint &point) const
 {
     QList<ShownUse> uses;
-    const RichTextBox &box = *m_view.program().RTextBox();
-    for (const UsePlace &use : m_analysis.usesOf(point.name))
-        uses.append({{use.line, use.place}, box.lineText(use.line - 1).simplified()});
+    for (const ProjectProgram &program : m_analyses.list()) {
+        const RichTextBox &box = *m_view.programs().view(program.id).RTextBox();
+        for (const UsePlace &use : m_analyses.of(program.id).usesOf(point.name))
+            uses.append({{.line = use.line, .piece = use.place, .program = program.id},
+                         box.lineText(use.line - 1).simplified()});
+    }
     if (!m_project)
         return uses;
     for (const PointReference &at : referencesTo(*m_project, point.name))

@@ -12,17 +12,17 @@ class QMenu;
 namespace ORVTListview {
 
 class CheckResults;
-class LiveAnalysis;
+class ProgramAnalyses;
 class Project;
 class ProjectView;
 
-// The ways from a name of the program to its point, to its other uses, and back.
+// The ways from a name of a program to its point, to its other uses, and back.
 class ProgramNavigation : public QObject
 {
     Q_OBJECT
 
 public:
-    ProgramNavigation(ProjectView &view, LiveAnalysis &analysis, CheckResults &results,
+    ProgramNavigation(ProjectView &view, ProgramAnalyses &analyses, CheckResults &results,
                       QObject *parent);
 
     // The project must live until the next call. There is no way back to a former one.
@@ -30,7 +30,7 @@ public:
 
     void fillMenu(QMenu &menu);
 
-    // To a place of the program, or a row of a table; back() comes from there.
+    // To a place of a program, or a row of a table; back() comes from there.
     void goTo(const ResultPlace &place);
 
 Q_SIGNALS:
@@ -50,7 +50,8 @@ private:
     void goToPoint();
     void back();
     void findUses();
-    void moveLines(const ReplacedLines &lines);
+    void findText();
+    void moveLines(qint32 program, const ReplacedLines &lines);
 
     void show(const ResultPlace &place);
     void showLine(const ResultPlace &place);
@@ -63,7 +64,7 @@ private:
     QList<ShownUse> usesOf(const NamedPoint &point) const;
 
     ProjectView &m_view;
-    LiveAnalysis &m_analysis;
+    ProgramAnalyses &m_analyses;
     CheckResults &m_results;
     const Project *m_project = nullptr;
     QList<ResultPlace> m_former; // the last one is the next to go back to

@@ -5,6 +5,7 @@
 #include "shared/points/DisplayNames.h"
 #include "widgets/box/BoxCommands.h"
 #include "workbench/views/CategoryMenu.h"
+#include "workbench/views/ProgramViews.h"
 #include "workbench/views/TableViews.h"
 #include "workbench/views/ViewDock.h"
 #include "workbench/views/Workplace.h"
@@ -13,7 +14,6 @@
 #include <ORVTListview/Nodes.h>
 #include <ORVTListview/RichTextBox.h>
 
-#include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtWidgets/QTreeView>
 
@@ -27,16 +27,13 @@ ProjectView::ProjectView(ProjectDocument &document, QWidget *parent)
     : QSplitter(parent)
     , m_tree(new ORVTreeview(this))
     , m_workplace(new Workplace(this))
-    , m_program(new ViewDock(u"Program"_s, m_workplace))
+    , m_programs(new ProgramViews(*m_workplace))
     , m_tables(new TableViews(document, *m_workplace))
 {
     setChildrenCollapsible(false);
     setStretchFactor(1, 1);
     const int treeWidth = fontMetrics().averageCharWidth() * 42;
     setSizes({treeWidth, 5 * treeWidth});
-    m_program->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
-    m_program->setTitle(tr("Program"));
-    program().setListviewType(dsCode);
     m_tree->InitStrings();
     connect(m_tree, &ORVTreeview::NodeClick, this, &ProjectView::followTree);
     connect(m_workplace, &Workplace::currentChanged, this, &ProjectView::followViews);
@@ -46,13 +43,12 @@ ProjectView::ProjectView(ProjectDocument &document, QWidget *parent)
     });
     new CategoryMenu(*this);
     nameParts();
-    m_workplace->add(*m_program, nullptr);
-    m_workplace->show(*m_program);
+    m_workplace->show(dockOf(dsCode));
 }
 
 ORVListView &ProjectView::program() const
 {
-    return m_program->view();
+    return m_programs->view(m_programs->current());
 }
 
 ORVListView &ProjectView::current() const
@@ -68,13 +64,13 @@ PointTables *ProjectView::currentTable() const
 
 ViewDock &ProjectView::dockOf(LwType type) const
 {
-    return type == dsCode ? *m_program : m_tables->dock(type);
+    return type == dsCode ? m_programs->dock(m_programs->current()) : m_tables->dock(type);
 }
 
 void ProjectView::setProject(Project &project)
 {
     m_project = &project;
-    m_program->setTitle(QFileInfo(project.programFile()).fileName());
+    takePrograms();
     m_tables->setProject(&project);
     m_tree->SetCollectionRenamable(window(), project.points(dsVariable), project.points(dsConst),
                                    project.points(dsInput), project.points(dsOutput),
@@ -86,7 +82,18 @@ void ProjectView::setProject(Project &project)
 void ProjectView::applyFunctionWords()
 {
     m_tree->setIsSqrtSupported(m_project->controller().isSqrtSupported ? u"true"_s : u"false"_s);
-    program().RefillListviewWithWordList();
+    refillWords();
+}
+
+void ProjectView::refillWords()
+{
+    for (const ProjectProgram &each : m_programs->list())
+        m_programs->view(each.id).RefillListviewWithWordList();
+}
+
+void ProjectView::takePrograms()
+{
+    m_programs->setList(m_project->programs());
 }
 
 // A category shows its table or the program; the device and the pages show nothing.
@@ -121,6 +128,12 @@ void ProjectView::enterType(LwType type)
         m_workplace->enter(dockOf(type));
 }
 
+void ProjectView::enterProgram(qint32 program)
+{
+    if (m_project)
+        m_workplace->enter(m_programs->dock(program));
+}
+
 void ProjectView::followViews()
 {
     const LwType type = current().CurrentType();
@@ -134,7 +147,7 @@ void ProjectView::followViews()
 
 void ProjectView::refresh()
 {
-    program().RefillListviewWithWordList();
+    refillWords();
     m_tables->refresh();
 }
 
@@ -164,11 +177,9 @@ void ProjectView::retranslate()
 {
     nameParts();
     m_tree->ReInitializeStrings();
-    program().ReInitializeStrings();
+    m_programs->retranslate();
     m_tables->retranslate();
     m_workplace->retranslate();
-    if (!m_project)
-        m_program->setTitle(tr("Program"));
 }
 
 } // namespace ORVTListview

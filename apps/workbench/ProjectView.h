@@ -8,13 +8,14 @@
 namespace ORVTListview {
 
 class PointTables;
+class ProgramViews;
 class Project;
 class ProjectDocument;
 class TableViews;
 class ViewDock;
 class Workplace;
 
-// A project's tree, and beside it the program and the tables that were opened in the tree.
+// A project's tree, and beside it the programs and the tables that were opened in the tree.
 // A table that was only looked at from the tree, without going into it, makes way for the
 // next one.
 class ProjectView : public QSplitter
@@ -24,9 +25,11 @@ class ProjectView : public QSplitter
 public:
     ProjectView(ProjectDocument &document, QWidget *parent);
 
+    // The editor of the program that is used, or was used last.
     ORVListView &program() const;
+    ProgramViews &programs() const { return *m_programs; }
 
-    // The program or the table that is used, or was used last: what commands are for.
+    // The program or table that is used, or was used last: what commands are for.
     ORVListView &current() const;
 
     // Of the current table; null where that is none.
@@ -40,10 +43,14 @@ public:
     // next call.
     void setProject(Project &project);
 
-    // Shows the program, or the table of a type, which is the current one then; the second
+    // Shows that program, or the table of a type, which is the current one then; the second
     // one takes the focus there, too.
     void showType(LwType type);
     void enterType(LwType type);
+    void enterProgram(qint32 program);
+
+    // There are other programs, or they have other names.
+    void takePrograms();
 
     // The project's tables have changed.
     void refresh();
@@ -59,17 +66,21 @@ Q_SIGNALS:
     // Another one is current.
     void shown(ORVTListview::LwType type);
 
+    // The points of a table are to be drawn.
+    void trendWanted(ORVTListview::LwType type);
+
 private:
     ViewDock &dockOf(LwType type) const;
     void followTree(const Node *node);
     void look(LwType type);
     void followViews();
     void applyFunctionWords();
+    void refillWords();
     void nameParts();
 
     ORVTreeview *m_tree;
     Workplace *m_workplace;
-    ViewDock *m_program;
+    ProgramViews *m_programs;
     TableViews *m_tables;
     ViewDock *m_looked = nullptr; // only looked at from the tree
     Project *m_project = nullptr;

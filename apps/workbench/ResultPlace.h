@@ -10,14 +10,15 @@
 
 namespace ORVTListview {
 
-// Where a result stands: in the program, whose lines count from 1, or in a row of a
-// table, from 0. Nowhere with neither.
+// Where a result stands: in a program, whose lines count from 1, or in a row of a table,
+// from 0. Nowhere with neither.
 struct ResultPlace
 {
     qint32 line = 0;
     TextPiece piece = {};
     LwType type = dsCode;
     qsizetype row = -1;
+    qint32 program = 0; // its number
 
     friend bool operator==(const ResultPlace &, const ResultPlace &) = default;
 };

@@ -8,10 +8,10 @@
 
 namespace ORVTListview {
 
-ViewMenu::ViewMenu(CodeView &editor, const Languages &languages, QWidget *parent)
+ViewMenu::ViewMenu(const ProjectView &views, const Languages &languages, QWidget *parent)
     : QMenu(tr("&View"), parent)
 {
-    auto *shown = new EditorViewMenu(editor, this);
+    auto *shown = new EditorViewMenu(views, this);
     addMenu(shown);
     connect(shown, &QMenu::triggered, this, &ViewMenu::editorChanged);
     auto *spoken = new LanguageMenu(languages, this);

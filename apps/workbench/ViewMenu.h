@@ -5,8 +5,8 @@
 
 namespace ORVTListview {
 
-class CodeView;
 class Languages;
+class ProjectView;
 
 // What the window looks like.
 class ViewMenu : public QMenu
@@ -15,7 +15,7 @@ class ViewMenu : public QMenu
 
 public:
     // Both outlive the menu.
-    ViewMenu(CodeView &editor, const Languages &languages, QWidget *parent);
+    ViewMenu(const ProjectView &views, const Languages &languages, QWidget *parent);
 
 Q_SIGNALS:
     // A command of the editor has been carried out.

@@ -91,7 +91,7 @@ void CodeEditor::noteTextChange()
 
 void CodeEditor::noteCaretMove()
 {
-    if (!m_thread.ring.IsRestoringUndo())
+    if (!m_undo.ring().IsRestoringUndo())
         m_colouring.followCaret();
     m_words.popup().follow();
 }

@@ -392,6 +392,20 @@ void CodeView::setKeepsText(bool on)
     raiseEvent(*this, &CodeView::keepsTextChanged, on);
 }
 
+bool CodeView::hasOwnUndo() const
+{
+    return d->commands.undo.hasOwnRing();
+}
+
+void CodeView::setHasOwnUndo(bool on)
+{
+    if (on == hasOwnUndo())
+        return;
+    d->commands.undo.setHasOwnRing(on);
+    if (on == hasOwnUndo())
+        raiseEvent(*this, &CodeView::hasOwnUndoChanged, on);
+}
+
 void CodeView::setUndoHistory(const std::optional<UndoHistory> &history)
 {
     d->commands.undo.setHistory(history);

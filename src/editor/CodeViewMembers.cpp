@@ -48,7 +48,7 @@ QList<Member> findMembers()
 QList<Member> typingMembers()
 {
     return properties<View, "autoIndent", "smartHome", "trimsBlanks", "wordListOpensItself",
-                      "keepsText">() +
+                      "keepsText", "hasOwnUndo">() +
            invokables<View, "setWordDescriptions", "openProgram", "cancelOpening", "isOpening">();
 }
 

@@ -43,30 +43,30 @@ void EditorUndo::noteTyped(QStringView text)
 
 void EditorUndo::PushUndoSnapshot()
 {
-    if (m_thread.ring.IsRestoringUndo())
+    if (ring().IsRestoringUndo())
         return;
     m_isTypedSinceSnapshot = false;
     if (!m_isReady || m_box.TextLength() == 0)
         return;
-    m_kept.beforeSnapshot(m_thread.ring);
-    m_thread.ring.StoreUndoSnapshot(shown());
-    m_kept.afterSnapshot(m_thread.ring);
+    m_kept.beforeSnapshot(ring());
+    ring().StoreUndoSnapshot(shown());
+    m_kept.afterSnapshot(ring());
     m_idle.start(idleAfter);
 }
 
 bool EditorUndo::isShownInRing() const
 {
-    return m_thread.ring.holdsText(m_thread.ring.UndoCurrent(), shown().text);
+    return ring().holdsText(ring().UndoCurrent(), shown().text);
 }
 
 bool EditorUndo::canUndo() const
 {
-    return m_thread.ring.CanUndo() || m_kept.canGo(Way::Back);
+    return ring().CanUndo() || m_kept.canGo(Way::Back);
 }
 
 bool EditorUndo::canRedo() const
 {
-    return m_thread.ring.CanRedo() || m_kept.canGo(Way::Forward);
+    return ring().CanRedo() || m_kept.canGo(Way::Forward);
 }
 
 void EditorUndo::stepForUser(Way way)
@@ -85,37 +85,36 @@ bool EditorUndo::step(Way way, QString &ErrMsg)
     const MessagesLater later(m_thread.messages); // of the text that is left
     const RichTextBox::Changing changing(m_box);
     beforeEdit(false);
-    const UndoStore::Restoring restoring(m_thread.ring);
+    const UndoStore::Restoring restoring(ring());
     bool done = false;
     tellingFailure(ErrMsg, [&] {
-        const bool canStep =
-            way == Way::Forward ? m_thread.ring.CanRedo() : m_thread.ring.CanUndo();
-        done = canStep ? stepInRing(way) : showKept(m_kept.go(m_thread.ring, shown(), way));
+        const bool canStep = way == Way::Forward ? ring().CanRedo() : ring().CanUndo();
+        done = canStep ? stepInRing(way) : showKept(m_kept.go(ring(), shown(), way));
     });
     return done;
 }
 
 bool EditorUndo::stepInRing(Way way)
 {
-    m_kept.beforeStep(m_thread.ring, shown());
+    m_kept.beforeStep(ring(), shown());
     m_idle.start(idleAfter);
     const std::optional<qint16> slot =
-        way == Way::Forward ? m_thread.ring.RedoStepForward() : m_thread.ring.UndoStepBack();
+        way == Way::Forward ? ring().RedoStepForward() : ring().UndoStepBack();
     const std::optional<UndoState> state = slot ? stateAt(*slot) : std::nullopt;
     if (!state)
         return false;
     show(*state, Spelling::Listed);
-    m_kept.afterStep(m_thread.ring);
+    m_kept.afterStep(ring());
     return true;
 }
 
 std::optional<UndoState> EditorUndo::stateAt(qint16 slot)
 {
     try {
-        return m_thread.ring.FetchUndoState(slot);
+        return ring().FetchUndoState(slot);
     } catch (const Error &) {
-        const QString record = m_thread.ring.FetchUndoSnapshot(slot); // raises it when damaged
-        m_kept.keepUnreachable(m_thread.ring, joinedUndoRecord(record));
+        const QString record = ring().FetchUndoSnapshot(slot); // raises it when damaged
+        m_kept.keepUnreachable(ring(), joinedUndoRecord(record));
         throw;
     }
 }
@@ -131,9 +130,9 @@ bool EditorUndo::bringBackKeptText()
 {
     const RichTextBox::Changing changing(m_box);
     beforeEdit(false);
-    const UndoStore::Restoring restoring(m_thread.ring);
+    const UndoStore::Restoring restoring(ring());
     try {
-        return showKept(m_kept.bringBack(m_thread.ring, shown()));
+        return showKept(m_kept.bringBack(ring(), shown()));
     } catch (const Error &) {
         return false; // damaged
     }
@@ -195,6 +194,17 @@ void EditorUndo::noteFinished(const QString &text)
     m_settledBy = m_thread.finishedBy();
 }
 
+// What is shown is where either ring begins.
+void EditorUndo::setHasOwnRing(bool on)
+{
+    if (ring().IsRestoringUndo())
+        return; // it is in use
+    m_own = on ? std::make_unique<UndoStore>() : nullptr;
+    m_kept.clear();
+    if (on)
+        resetBase();
+}
+
 UndoState EditorUndo::shown() const
 {
     return {BoxText::of(*m_box.document()).sharedText(), m_box.SelStart(), m_box.SelLength()};
@@ -203,13 +213,13 @@ UndoState EditorUndo::shown() const
 void EditorUndo::resetBase()
 {
     m_kept.clear();
-    m_thread.ring.ResetUndoBase(m_box.Text());
+    ring().ResetUndoBase(m_box.Text());
     m_idle.start(idleAfter);
 }
 
 void EditorUndo::clearHistory()
 {
-    m_thread.ring.ClearUndoHistory();
+    ring().ClearUndoHistory();
     m_kept.clear();
 }
 
@@ -221,9 +231,9 @@ void EditorUndo::beginWithShown()
 
 void EditorUndo::beforeEdit(bool losesPart)
 {
-    if (m_thread.ring.IsRestoringUndo())
+    if (ring().IsRestoringUndo())
         return;
-    const bool isToBeKept = hasStood() || (losesPart && !m_kept.isShownSafe(m_thread.ring));
+    const bool isToBeKept = hasStood() || (losesPart && !m_kept.isShownSafe(ring()));
     if (isToBeKept && m_box.TextLength() > 0)
         m_kept.offer(shown());
     else
@@ -242,16 +252,16 @@ bool EditorUndo::hasStood() const
 
 void EditorUndo::noteEdit()
 {
-    if (m_thread.ring.IsRestoringUndo())
+    if (ring().IsRestoringUndo())
         return;
     m_changed = now();
-    if (m_kept.noteEdit(m_thread.ring))
+    if (m_kept.noteEdit(ring()))
         m_idle.start(idleAfter);
 }
 
 void EditorUndo::encodeWhenIdle()
 {
-    if (m_thread.ring.encodePending() || m_kept.encodePending(UndoStore::sliceLength))
+    if (ring().encodePending() || m_kept.encodePending(UndoStore::sliceLength))
         m_idle.start(0ms);
 }
 

@@ -9,12 +9,15 @@
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
 
+#include <memory>
+
 namespace ORVTListview {
 
 class RichTextBox;
 struct ColouredText;
 
-// One editor's use of the undo ring that all editors of its thread share.
+// One editor's use of the undo ring that all editors of its thread share, or of one of its
+// own.
 class EditorUndo : public QObject
 {
     Q_OBJECT
@@ -29,6 +32,11 @@ public:
     bool keepsText() const { return m_keepsText; }
     void setKeepsText(bool on) { m_keepsText = on; }
     ColouredText coloured(const QString &text) const;
+
+    // Its steps begin with what is shown then. Without effect while a state is restored.
+    bool hasOwnRing() const { return m_own != nullptr; }
+    void setHasOwnRing(bool on);
+    UndoStore &ring() const { return m_own ? *m_own : m_thread.ring; }
 
     // A character was typed, before it is inserted. A blank takes a snapshot when
     // something else was typed since the last one.
@@ -90,6 +98,7 @@ private:
 
     RichTextBox &m_box;
     const EditorThread &m_thread;
+    std::unique_ptr<UndoStore> m_own;
     KeptStates m_kept;
     HostHistory m_host;
     EditorClock::Time m_changed; // when the text was, last

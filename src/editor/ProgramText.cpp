@@ -43,7 +43,7 @@ ProgramText::ProgramText(RichTextBox &box, const EditorThread &thread, EditorUnd
 void ProgramText::Init_RichTextBox(const RichTextSettings &Setting)
 {
     const MessagesLater later(m_thread.messages); // the text is not in the box meanwhile
-    const UndoStore::Restoring sameText(m_thread.ring);
+    const UndoStore::Restoring sameText(m_undo.ring());
     auto &state = m_thread.state;
     const qint32 formerNvoColour = state.EditorSettings.nvoFPAColor;
     state.EditorSettings = Setting;

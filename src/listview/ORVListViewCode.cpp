@@ -118,12 +118,12 @@ void ORVListView::Redo(QString &ErrMsg)
 
 bool ORVListView::IsUndoAvailable() const
 {
-    return d->isCode() && threadPart<UndoStore>().CanUndo();
+    return d->isCode() && d->editor->undo().ring().CanUndo();
 }
 
 bool ORVListView::IsRedoAvailable() const
 {
-    return d->isCode() && threadPart<UndoStore>().CanRedo();
+    return d->isCode() && d->editor->undo().ring().CanRedo();
 }
 
 bool ORVListView::restoreUnsavedText()

@@ -148,9 +148,10 @@ TEST(ProjectErrors, AMemberThatStandsTwiceIsNamedWithLineAndColumn)
 TEST(ProjectErrors, WhatEveryProjectNeeds)
 {
     EXPECT_EQ(loadJson("{}").text, u"p.json: format: is missing"_s);
-    EXPECT_EQ(loadJson(R"({"format": 0})").text, u"p.json: format: only the form 1 can be read"_s);
-    EXPECT_EQ(loadJson(R"({"format": 2, "unknown": 1})").text,
-              u"p.json: format: the form 2 is newer than the form 1 that can be read here; a newer "
+    EXPECT_EQ(loadJson(R"({"format": 0})").text,
+              u"p.json: format: a form from 1 to 2 is expected"_s);
+    EXPECT_EQ(loadJson(R"({"format": 3, "unknown": 1})").text,
+              u"p.json: format: the form 3 is newer than the form 2 that can be read here; a newer "
               "version opens the file, which stays as it is"_s);
     EXPECT_EQ(loadJson(R"({"format": 1, "program": "code.txt"})").text,
               u"p.json: name: is missing"_s);

@@ -39,9 +39,21 @@ TEST_F(Recovery, AFileTellsAllThatWasKept)
     const RecoveredWork work{u"/a b/ä.json"_s,
                              QDateTime::fromString(u"2026-01-02T03:04:05Z"_s, Qt::ISODate),
                              "{\"name\": \"\n==== x, 3 bytes ====\n\"}",
-                             u"A\r\nkept: \tB é\r\n\r\n==== program, 1 bytes ====\r\n"_s};
+                             {u"A\r\nkept: \tB é\r\n\r\n==== program, 1 bytes ====\r\n"_s}};
     const QByteArray text = recoveryText(work);
     EXPECT_TRUE(text.contains("\nA\nkept: \tB \xC3\xA9\n\n"));
+    EXPECT_EQ(readRecovery(text), work);
+    for (qsizetype size = 0; size < text.size() - 1; ++size)
+        EXPECT_FALSE(readRecovery(text.first(size))) << size;
+}
+
+TEST_F(Recovery, AFileTellsOfSeveralPrograms)
+{
+    const RecoveredWork work{u"/p.json"_s,
+                             QDateTime::fromString(u"2026-01-02T03:04:05Z"_s, Qt::ISODate),
+                             "{}",
+                             {u"A\r\nprograms: 9\r\n"_s, {}, u"==== C, 1 bytes ====\r\n"_s}};
+    const QByteArray text = recoveryText(work);
     EXPECT_EQ(readRecovery(text), work);
     for (qsizetype size = 0; size < text.size() - 1; ++size)
         EXPECT_FALSE(readRecovery(text.first(size))) << size;
@@ -195,13 +207,14 @@ TEST_F(Recovery, AVersionThatCannotBeKeptDoesNotStopSaving)
         ASSERT_TRUE(QDir().mkdir(folder.path(name)));
     Project project(file);
     project.rename(dsInput, 0, u"J"_s);
-    const Project::Saved saved = project.save(u"B"_s, Project::Theirs::Kept);
+    const Project::Saved saved = project.save({{1, u"B"_s}}, Project::Theirs::Kept);
     EXPECT_TRUE(saved.notKept.contains(u"p.prog~"_s)) << saved.notKept.toStdString();
     EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "B");
     EXPECT_EQ(readFile(file), QByteArray(json).replace("\"I\"", "\"J\""));
-    EXPECT_TRUE(project.save(u"B"_s, Project::Theirs::Kept).notKept.isEmpty()); // nothing to do
-    EXPECT_TRUE(project.saveAt(folder.path(u"q.json"_s), u"C"_s).notKept.isEmpty());
-    EXPECT_FALSE(project.saveAt(file, u"D"_s).notKept.isEmpty());
+    EXPECT_TRUE(
+        project.save({{1, u"B"_s}}, Project::Theirs::Kept).notKept.isEmpty()); // nothing to do
+    EXPECT_TRUE(project.saveAt(folder.path(u"q.json"_s), {{1, u"C"_s}}).notKept.isEmpty());
+    EXPECT_FALSE(project.saveAt(file, {{1, u"D"_s}}).notKept.isEmpty());
     EXPECT_EQ(Project(file).program(), u"D"_s);
 }
 
@@ -213,14 +226,14 @@ TEST_F(Recovery, SavingKeepsTheVersionBefore)
         R"({"format": 1, "name": "P", "program": "p.prog", "inputs": [{"name": "I"}]})";
     const QString file = folder.write(u"p.json"_s, json);
     Project project(file);
-    project.save(project.program(), Project::Theirs::Kept);
+    project.save({{1, project.program()}}, Project::Theirs::Kept);
     EXPECT_EQ(QDir(folder.path({})).entryList(QDir::Files).join(u' '), u"p.json p.prog"_s);
     project.rename(dsInput, 0, u"J"_s);
-    project.save(u"C\r\n"_s, Project::Theirs::Kept);
+    project.save({{1, u"C\r\n"_s}}, Project::Theirs::Kept);
     EXPECT_EQ(readFile(file + u"~"_s), json);
     EXPECT_EQ(readFile(folder.path(u"p.prog~"_s)), "A\tB\r\n");
     EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "C\r\n");
-    project.save(u"D\r\n"_s, Project::Theirs::Kept);
+    project.save({{1, u"D\r\n"_s}}, Project::Theirs::Kept);
     EXPECT_EQ(readFile(folder.path(u"p.prog~"_s)), "C\r\n");
     EXPECT_EQ(readFile(file + u"~"_s), json);
 }
@@ -237,7 +250,7 @@ TEST_F(Recovery, AProjectCanBeSavedAtAnotherPlace)
     Project project(file);
     ASSERT_TRUE(QDir(folder.path({})).removeRecursively());
     project.rename(dsInput, 0, u"J"_s);
-    project.saveAt(other.path(u"q.json"_s), u"A\r\nc"_s);
+    project.saveAt(other.path(u"q.json"_s), {{1, u"A\r\nc"_s}});
     EXPECT_EQ(project.fileName(), other.path(u"q.json"_s));
     EXPECT_FALSE(project.hasChangedTables());
     const Project again(other.path(u"q.json"_s));
@@ -253,11 +266,11 @@ TEST_F(Recovery, AnotherProjectsProgramIsLeftAlone)
     const QString file =
         folder.write(u"p.json"_s, R"({"format": 1, "name": "P", "program": "p.prog"})");
     Project project(file);
-    project.saveAt(folder.path(u"two.json"_s), u"B"_s);
+    project.saveAt(folder.path(u"two.json"_s), {{1, u"B"_s}});
     EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "A");
     EXPECT_EQ(Project(folder.path(u"two.json"_s)).program(), u"B"_s);
     EXPECT_EQ(readFile(folder.path(u"two.prog"_s)), "B");
-    project.saveAt(file, u"C"_s); // this project is replaced, its program too
+    project.saveAt(file, {{1, u"C"_s}}); // this project is replaced, its program too
     EXPECT_EQ(Project(file).program(), u"C"_s);
 }
 
@@ -269,7 +282,7 @@ TEST_F(Recovery, WhatFailsElsewhereLeavesTheProgramThere)
     Project project(
         folder.write(u"p.json"_s, R"({"format": 1, "name": "P", "program": "p.prog"})"));
     ASSERT_TRUE(QDir().mkdir(other.path(u"q.json"_s)));
-    EXPECT_TRUE(raisedBy([&] { project.saveAt(other.path(u"q.json"_s), u"B"_s); }));
+    EXPECT_TRUE(raisedBy([&] { project.saveAt(other.path(u"q.json"_s), {{1, u"B"_s}}); }));
     EXPECT_FALSE(QFile::exists(other.path(u"p.prog"_s)));
     EXPECT_EQ(project.fileName(), folder.path(u"p.json"_s));
 }
@@ -285,11 +298,11 @@ TEST_F(Recovery, TablesOfOthersAreTakenOver)
     writeFile(file, QByteArray(json).replace("\"I\"", "\"Theirs\""));
     writeFile(folder.path(u"p.prog"_s), "theirs");
     project.rename(dsVariable, 0, u"Mine"_s);
-    EXPECT_TRUE(project.save(u"A"_s, Project::Theirs::Kept).takesOver);
+    EXPECT_TRUE(project.save({{1, u"A"_s}}, Project::Theirs::Kept).takesOver);
     EXPECT_EQ(project.rows(dsInput)[0].name, u"Theirs"_s);
     EXPECT_EQ(readFile(folder.path(u"p.prog"_s)), "theirs");
     project.rename(dsInput, 0, u"Again"_s);
-    project.save(u"A"_s, Project::Theirs::Kept);
+    project.save({{1, u"A"_s}}, Project::Theirs::Kept);
     EXPECT_EQ(readFile(file),
               QByteArray(json).replace("\"I\"", "\"Again\"").replace("\"V\"", "\"Mine\""));
 }
@@ -304,7 +317,7 @@ TEST_F(Recovery, TheVersionBeforeIsSavedIntoTheProjectsFile)
     const auto project = Project::versionBefore(file);
     EXPECT_EQ(project->fileName(), file);
     EXPECT_TRUE(project->hasChangedTables());
-    project->save(u"A"_s, Project::Theirs::Kept);
+    project->save({{1, u"A"_s}}, Project::Theirs::Kept);
     EXPECT_EQ(readFile(file), json);
     EXPECT_EQ(readFile(file + u'~'), "{");
     EXPECT_FALSE(project->hasChangedTables());

@@ -20,5 +20,5 @@ inline void switchView(ORVTListview::CodeView &view, bool on, const QList<QByteA
 }
 
 // What changes more than the look: what the editor does for one who types.
-inline const QList<QByteArray> typingHelps{"autoIndent", "smartHome", "trimsBlanks",
-                                           "wordListOpensItself", "keepsText"};
+inline const QList<QByteArray> typingHelps{"autoIndent",          "smartHome", "trimsBlanks",
+                                           "wordListOpensItself", "keepsText", "hasOwnUndo"};

@@ -91,7 +91,7 @@ struct EditorHost
     void switchAllOn()
     {
         ORVTListview::CodeView &view = *list->codeView();
-        switchView(view, true, {"keepsText"});
+        switchView(view, true, {"keepsText", "hasOwnUndo"});
         view.setWordListOpensItself(hasOpeningList());
         view.setZoom(100);
         view.setLiveValues({{QStringLiteral("Temp1"), QStringLiteral("19.4 °C")},

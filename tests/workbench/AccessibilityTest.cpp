@@ -204,11 +204,11 @@ private Q_SLOTS:
         PointUse use;
         use.line = 1;
         use.text = u"Fan1 = ON"_s;
-        RenameDialog renaming(u"Fan1"_s, u"Fan2"_s, {use}, nullptr);
+        RenameDialog renaming({u"Fan1"_s, u"Fan2"_s, {use}, {}}, nullptr);
         walkShown(renaming);
         const Project project(workbench.folder.filePath(u"one.json"_s));
         RecoveryDialog recovering(
-            project, {project.fileName(), QDateTime::currentDateTime(), "{}", u"x"_s}, nullptr);
+            project, {project.fileName(), QDateTime::currentDateTime(), "{}", {u"x"_s}}, nullptr);
         walkShown(recovering);
         ImportDialog importing(project, dsInput, "Name,Value\nTemp1,3\nRoom,4", u"x.csv"_s,
                                nullptr);

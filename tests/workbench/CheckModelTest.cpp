@@ -33,7 +33,7 @@ private Q_SLOTS:
             else if (how == 2)
                 checkUses(random, model, rows);
             else if (how == 3)
-                model.moveLines({random.number(99) + 1, random.number(9), random.number(9)});
+                model.moveLines(0, {random.number(99) + 1, random.number(9), random.number(9)});
             else
                 model.retranslate();
             QVERIFY(!model.data({}).isValid());

@@ -53,7 +53,8 @@ private Q_SLOTS:
             "Edit: Undo, Redo, Restore Typed Text, Cut, Copy, Copy with Colours, Paste, "
             "Find…, Find While Typing, Replace…, Find Next, Find Previous, Next Use, Previous "
             "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
-            "Program: Analyse, Compile, Export Statements…, Go To Point, Back, All Uses, Results\n"
+            "Program: Analyse, Compile, Export Statements…, Go To Point, Back, All Uses, Find In "
+            "Programs…, Add Program…, Rename Program…, Remove Program…, Results\n"
             "Points: Read Values, Rename, Add Point…, Remove Point, Import…, Fit Columns, Choose "
             "From, Edit Cells, Hardware Overrides\n"
             "Controller: Read All, Stop Reading, Read Cyclically, Reading…, Add To Trend, Trend\n"
@@ -126,7 +127,9 @@ private Q_SLOTS:
         QCOMPARE(promising,
                  QStringList({u"New Project…"_s, u"Open Project…"_s, u"Save As…"_s, u"Export…"_s,
                               u"Print…"_s, u"Find…"_s, u"Replace…"_s, u"Export Statements…"_s,
-                              u"Add Point…"_s, u"Import…"_s, u"Reading…"_s, u"Settings…"_s}));
+                              u"Find In Programs…"_s, u"Add Program…"_s, u"Rename Program…"_s,
+                              u"Remove Program…"_s, u"Add Point…"_s, u"Import…"_s, u"Reading…"_s,
+                              u"Settings…"_s}));
     }
 
     void keysDoNotClash()

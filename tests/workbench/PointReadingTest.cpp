@@ -66,7 +66,8 @@ struct Readings
     }
 
     QTemporaryDir folder;
-    ProjectDocument document{{[] { return QString(); }, [] { return qsizetype(0); }}};
+    ProjectDocument document{
+        {[](qint32) { return QString(); }, [](qint32) { return qsizetype(0); }}};
     ToldController controller;
     PointReading reading{document, controller};
 };

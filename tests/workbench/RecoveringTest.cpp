@@ -35,7 +35,7 @@ void leaveWork(const WorkbenchWindow &workbench, const QString &program)
     QByteArray json = readFile(project);
     json.replace("Temp1", "Room");
     writeFile(recoveryFile(workbench),
-              recoveryText({project, QDateTime::currentDateTimeUtc(), json, program}));
+              recoveryText({project, QDateTime::currentDateTimeUtc(), json, {program}}));
 }
 
 void press(QWidget &dialog, const QString &caption)
@@ -63,7 +63,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(recoveryFile(workbench)), patience);
         const auto kept = readRecovery(readFile(recoveryFile(workbench)));
         QVERIFY(kept);
-        QCOMPARE(kept->program, u"xFan1 = ON"_s);
+        QCOMPARE(kept->programs, QStringList(u"xFan1 = ON"_s));
         QCOMPARE(kept->projectFile, workbench.folder.filePath(u"one.json"_s));
         workbench.type(u"y"_s);
         QTRY_VERIFY_WITH_TIMEOUT(readFile(recoveryFile(workbench)).contains("xyFan1 = ON"),

@@ -68,11 +68,12 @@ private:
                 return {-2, -2}; // half a file
             const ProjectTables tables =
                 readContents(JsonPlace::parse(work->json, u"p.json"_s)).rows;
-            const State kept = stateOf(work->program, tables);
+            const State kept = stateOf(work->programs.first(), tables);
             if (kept.line < state.line || (kept == state && isAgreed))
                 continue;
             state = kept;
-            isAgreed = work->program.startsWith(u"IF "_s + tables.value(dsInput).at(0).name);
+            isAgreed =
+                work->programs.first().startsWith(u"IF "_s + tables.value(dsInput).at(0).name);
         }
         return state;
     }

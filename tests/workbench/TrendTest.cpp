@@ -70,7 +70,8 @@ struct Drawn
     QImage picture() { return view.grab().toImage(); }
 
     QTemporaryDir folder;
-    ProjectDocument document{{[] { return QString(); }, [] { return qsizetype(0); }}};
+    ProjectDocument document{
+        {[](qint32) { return QString(); }, [](qint32) { return qsizetype(0); }}};
     ToldController controller;
     PointReading reading{document, controller};
     Trend trend{document, reading, nullptr};

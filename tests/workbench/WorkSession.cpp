@@ -14,6 +14,7 @@
 #include "workbench/saving/RecoveryDialog.h"
 #include "workbench/saving/RecoveryKeeper.h"
 
+#include <ORVTListview/ORVListView.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QTextStream>
@@ -46,7 +47,7 @@ public:
         answer->start(0);
         m_window.show();
         m_window.openForUser(project);
-        m_line = lineOf(m_document.program());
+        m_line = lineOf(m_document.program(1));
         m_name = nameOf(m_document.project()->rows(dsInput).at(0).name);
         tell(u"begun"_s, now());
         QObject::connect(keeper, &RecoveryKeeper::keeping, [this] { m_keeping = now(); });

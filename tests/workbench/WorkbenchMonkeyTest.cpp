@@ -154,7 +154,7 @@ private:
         note(u"choose "_s + action->text());
         const QString before = m_workbench.code().CodeText();
         action->trigger();
-        if (auto *page = window().findChild<FirstSteps *>(); page->isVisible())
+        if (auto *page = window().findChild<FirstSteps *>(); page && page->isVisible())
             QTest::keyClick(page, Qt::Key_Escape); // back to the project
         noteSaving(before);
     }

@@ -237,6 +237,18 @@ LineProblem ProgramAnalysis::problemAt(Fault fault, qint32 line, TextPiece place
     return {fault, place, m_text(line).mid(place.start, place.length)};
 }
 
+OtherUses ProgramAnalysis::uses() const
+{
+    OtherUses uses;
+    for (const Name &name : m_names) {
+        if (name.reads > 0)
+            uses.read.insert(name.folded);
+        if (name.writes > 0)
+            uses.written.insert(name.folded);
+    }
+    return uses;
+}
+
 QList<UsePlace> ProgramAnalysis::usesOf(QStringView name)
 {
     QList<UsePlace> places;

@@ -76,6 +76,9 @@ public:
     // Where a name is used, known or not, in the lines that have been read.
     QList<UsePlace> usesOf(QStringView name);
 
+    // The names that the program reads and writes, of the lines that have been read.
+    OtherUses uses() const;
+
     // How many lines have been read so far.
     quint64 linesRead() const { return m_linesRead; }
 

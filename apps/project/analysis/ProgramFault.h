@@ -49,6 +49,7 @@ struct ProgramProblem
 {
     qint32 line = 0;
     LineProblem found;
+    qint32 program = 0; // its number, where it is told
 
     friend bool operator==(const ProgramProblem &, const ProgramProblem &) = default;
 };

@@ -14,6 +14,7 @@ struct ListedStatement
     StatementKind kind = StatementKind::Assignment;
     qint32 depth = 0;
     QString text;
+    qint32 program = 0; // its number, where it is told
 
     friend bool operator==(const ListedStatement &, const ListedStatement &) = default;
 };

@@ -8,6 +8,7 @@
 #include "workbench/export/PaperText.h"
 #include "workbench/export/ProgramPrint.h"
 #include "workbench/export/SaveAs.h"
+#include "workbench/views/ProgramViews.h"
 
 #include <ORVTListview/ColumnHeader.h>
 #include <ORVTListview/ColumnHeaders.h>
@@ -82,7 +83,10 @@ ORVListView &Exporting::list() const
 
 QString Exporting::title() const
 {
-    return m_project ? QFileInfo(m_project->programFile()).completeBaseName() : QString();
+    if (!m_project)
+        return {};
+    const qint32 program = m_views.programs().current();
+    return QFileInfo(m_project->programFile(program)).completeBaseName();
 }
 
 QByteArray Exporting::programAs(const QString &kind) const

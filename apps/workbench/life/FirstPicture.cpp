@@ -12,10 +12,13 @@ FirstPicture::FirstPicture(QWidget &window)
     window.installEventFilter(this);
 }
 
-// Queued: the parts of the window are painted behind itself.
+// Queued: the parts of the window are painted behind itself. One that starts minimised is not
+// painted before somebody wants to see it, and has its project by then.
 bool FirstPicture::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Paint) {
+    const bool isShown =
+        event->type() == QEvent::Show || event->type() == QEvent::WindowStateChange;
+    if (event->type() == QEvent::Paint || (isShown && m_window.isMinimized())) {
         watched->removeEventFilter(this);
         QMetaObject::invokeMethod(this, &FirstPicture::tell, Qt::QueuedConnection);
     }

@@ -6,8 +6,9 @@ class QWidget;
 
 namespace ORVTListview {
 
-// Tells when a window has been painted for the first time, so that what takes longer comes
-// behind its picture. Nothing is told of a window that is gone from the screen by then.
+// Tells when a window has been painted for the first time, or is minimised, so that what takes
+// longer comes behind its picture. Nothing is told of a window that is gone from the screen by
+// then.
 class FirstPicture : public QObject
 {
     Q_OBJECT

@@ -1,5 +1,6 @@
 #include "workbench/reading/ControllerPart.h"
 
+#include "project/ProjectDocument.h"
 #include "project/controller/PointReading.h"
 #include "workbench/PointTables.h"
 #include "workbench/reading/ControllerMenu.h"
@@ -17,13 +18,16 @@
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QStatusBar>
 
+#include <algorithm>
 #include <chrono>
+#include <numeric>
 #include <utility>
 
 namespace ORVTListview {
 
 ControllerPart::ControllerPart(ProjectDocument &document, QMainWindow &window)
     : QObject(&window)
+    , m_document(document)
     , m_window(window)
     , m_controller(new SimulatedController(
           [this](const AskedPoint &point) { return m_reading->valueOf(point); }, this))
@@ -58,7 +62,7 @@ void ControllerPart::serve(ORVListView &list, PointTables &tables)
     connect(list.listView()->grid(), &ListGrid::menuOpening, this, [this, &tables](QMenu *menu) {
         if (!tables.selectedPoints().isEmpty())
             menu->addAction(ControllerMenu::tr("A&dd To Trend"), this,
-                            [this, &tables] { drawRows(tables); });
+                            [this, &tables] { drawRows(tables.type(), tables.selectedPoints()); });
     });
 }
 
@@ -107,17 +111,26 @@ void ControllerPart::draw()
             chosen = tables;
     }
     if (chosen)
-        drawRows(*chosen);
+        drawRows(chosen->type(), chosen->selectedPoints());
     else
         tell(tr("Select rows of a table with values first."), 5000);
 }
 
-void ControllerPart::drawRows(const PointTables &tables)
+void ControllerPart::drawAll(LwType type)
+{
+    if (!m_document.project())
+        return;
+    QList<qsizetype> rows(
+        std::min<qsizetype>(m_document.project()->rows(type).size(), Trend::mostLines));
+    std::iota(rows.begin(), rows.end(), 0);
+    drawRows(type, rows);
+}
+
+void ControllerPart::drawRows(LwType type, const QList<qsizetype> &rows)
 {
     bool isNew = false;
-    const QList<qsizetype> rows = tables.selectedPoints();
     for (const qsizetype row : rows)
-        isNew = m_trend->add(tables.type(), row) || isNew;
+        isNew = m_trend->add(type, row) || isNew;
     showTrend();
     if (isNew)
         return;

@@ -37,6 +37,9 @@ public:
 
     void addMenu(QMenuBar &menus);
 
+    // Draws the points of a table, the first ones of many.
+    void drawAll(LwType type);
+
     void setSettings(const ReadingSettings &settings);
 
     // After a change of language.
@@ -50,10 +53,11 @@ private:
     void choose();
     void setCyclic(bool on);
     void draw();
-    void drawRows(const PointTables &tables);
+    void drawRows(LwType type, const QList<qsizetype> &rows);
     void showTrend();
     void tell(const QString &text, int milliseconds);
 
+    ProjectDocument &m_document;
     QMainWindow &m_window;
     SimulatedController *m_controller;
     PointReading *m_reading;

@@ -4,14 +4,14 @@
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "widgets/box/BoxCommands.h"
+#include "workbench/renaming/NameQuestion.h"
 #include "workbench/renaming/RenameDialog.h"
+#include "workbench/views/ProgramViews.h"
 
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
-#include <QtWidgets/QInputDialog>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 
 #include <algorithm>
@@ -25,10 +25,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The places that the user leaves ticked; none when the user gives up, or the window goes.
-std::optional<QList<PointUse>> chosenOf(const QString &former, const QString &name,
-                                        const QList<PointUse> &uses, QWidget &window)
+std::optional<QList<PointUse>> chosenOf(const RenameDialog::Renamed &renamed, QWidget &window)
 {
-    const QPointer<RenameDialog> dialog(new RenameDialog(former, name, uses, &window));
+    const QPointer<RenameDialog> dialog(new RenameDialog(renamed, &window));
     const bool isWanted = dialog->exec() == QDialog::Accepted;
     std::optional<QList<PointUse>> chosen;
     if (dialog && isWanted)
@@ -39,10 +38,11 @@ std::optional<QList<PointUse>> chosenOf(const QString &former, const QString &na
 
 } // namespace
 
-PointRenaming::PointRenaming(ProjectDocument &document, ORVListView &code, QWidget &window)
+PointRenaming::PointRenaming(ProjectDocument &document, const ProgramViews &programs,
+                             QWidget &window)
     : QObject(&window)
     , m_document(document)
-    , m_code(code)
+    , m_programs(programs)
     , m_window(window)
 {
 }
@@ -54,25 +54,29 @@ void PointRenaming::rename(LwType type, qsizetype row, const QString &name)
     const Project &project = *m_document.project();
     const ProjectRow before = project.rows(type).at(row);
     const RowChange point{type, row, before, project.renamed(type, row, name)};
-    const QString program = m_document.program();
+    const ProgramTexts programs = m_document.programs();
     QList<PointUse> uses;
     if (isVocabularyType(type))
-        uses = usesOfPoint(project, program, before.name);
+        uses = usesOfPoint(project, programs, before.name);
     if (!uses.isEmpty()) {
         const QPointer<PointRenaming> self(this);
-        const auto chosen = chosenOf(before.name, name, uses, m_window);
+        const auto chosen = chosenOf({before.name, name, uses, project.programs()}, m_window);
         const bool isSame = self && m_document.project() == &project &&
                             project.rows(type).value(row) == before &&
-                            m_document.program() == program; // while the dialog was open
+                            m_document.programs() == programs; // while the dialog was open
         if (!chosen || !isSame)
             return;
         uses = *chosen;
     }
     const Renaming renaming = renamingOf(project, point, uses);
-    m_document.carryOut({renaming.rows, program, withPieces(program, renaming.pieces, name)});
-    if (!renaming.pieces.isEmpty()) {
-        m_code.RTextBox()->commands().replace(renaming.pieces, name);
-        m_code.RTextBox()->commands().keepState();
+    ProgramState after{project.programs(), programs};
+    for (auto pieces = renaming.pieces.cbegin(); pieces != renaming.pieces.cend(); ++pieces)
+        after.texts[pieces.key()] = withPieces(programs.value(pieces.key()), *pieces, name);
+    m_document.carryOut({renaming.rows, {project.programs(), programs}, after});
+    for (auto pieces = renaming.pieces.cbegin(); pieces != renaming.pieces.cend(); ++pieces) {
+        BoxCommands &commands = m_programs.view(pieces.key()).RTextBox()->commands();
+        commands.replace(*pieces, name);
+        commands.keepState();
     }
     m_document.noteStepShown();
 }
@@ -80,21 +84,13 @@ void PointRenaming::rename(LwType type, qsizetype row, const QString &name)
 QString PointRenaming::askName(LwType type)
 {
     const QPointer<PointRenaming> self(this);
-    QString name;
-    QString reason;
-    do {
-        bool isGiven = false;
-        name = QInputDialog::getText(&m_window, tr("Add Point"),
-                                     reason.isEmpty()
-                                         ? tr("Name of the new point:")
-                                         : reason + u"\n\n"_s + tr("Name of the new point:"),
-                                     QLineEdit::Normal, name, &isGiven);
-        if (!isGiven || !self || !m_document.project())
-            return {};
-        const Project &project = *m_document.project();
-        reason = project.nameFault(type, project.rows(type).size(), name);
-    } while (!reason.isEmpty());
-    return name;
+    const auto fault = [&](const QString &name) {
+        const Project *project = self ? m_document.project() : nullptr;
+        return project ? project->nameFault(type, project->rows(type).size(), name) : QString();
+    };
+    const QString name =
+        ORVTListview::askName(m_window, {tr("Add Point"), tr("Name of the new point:"), {}, fault});
+    return self && m_document.project() ? name : QString();
 }
 
 void PointRenaming::add(LwType type)
@@ -129,8 +125,8 @@ void PointRenaming::remove(LwType type, qsizetype row)
     const ProjectRow point = project.rows(type).at(row);
     QStringList places;
     if (isVocabularyType(type)) {
-        for (const PointUse &use : usesOfPoint(project, m_document.program(), point.name))
-            places.append(placeName(use));
+        for (const PointUse &use : usesOfPoint(project, m_document.programs(), point.name))
+            places.append(placeName(use, project.programs()));
     }
     if (!places.isEmpty()) {
         constexpr qsizetype most = 15;

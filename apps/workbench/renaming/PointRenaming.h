@@ -9,7 +9,7 @@ class QWidget;
 
 namespace ORVTListview {
 
-class ORVListView;
+class ProgramViews;
 class ProjectDocument;
 
 // Renames, adds and removes points, everywhere in the project and as one step each, after
@@ -20,7 +20,7 @@ class PointRenaming : public QObject
 
 public:
     // Belongs to the window.
-    PointRenaming(ProjectDocument &document, ORVListView &code, QWidget &window);
+    PointRenaming(ProjectDocument &document, const ProgramViews &programs, QWidget &window);
 
     // The name must be one that the point can have.
     void rename(LwType type, qsizetype row, const QString &name);
@@ -33,7 +33,7 @@ private:
     QString askName(LwType type);
 
     ProjectDocument &m_document;
-    ORVListView &m_code;
+    const ProgramViews &m_programs;
     QWidget &m_window;
 };
 

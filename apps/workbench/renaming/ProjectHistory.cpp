@@ -6,6 +6,7 @@
 #include "shared/texts/TextTable.h"
 #include "widgets/box/BoxCommands.h"
 #include "workbench/ProjectView.h"
+#include "workbench/views/ProgramViews.h"
 #include "workbench/views/TableViews.h"
 
 #include <ORVTListview/CodeView.h>
@@ -56,29 +57,12 @@ QString tellingOf(ProjectHistory::Way way)
                                             : ProjectHistory::tr("Redone: %1");
 }
 
-// Such as "Inputs 3", or "Inputs, Controllers, Program" for several rows.
-QString placesOf(const ProjectStep &step)
-{
-    QStringList places;
-    for (const RowChange &change : step.rows) {
-        const QString table = Localise(displayName(change.type));
-        if (step.rows.size() == 1)
-            places.append(u"%1 %2"_s.arg(table, QString::number(change.row + 1)));
-        else if (!places.contains(table))
-            places.append(table);
-    }
-    if (!step.isOfTablesAlone())
-        places.append(ProjectHistory::tr("Program"));
-    return places.join(u", "_s);
-}
-
 } // namespace
 
-ProjectHistory::ProjectHistory(ProjectDocument &document, const ProjectView &views)
-    : QObject(&views.program())
+ProjectHistory::ProjectHistory(ProjectDocument &document, ProjectView &views)
+    : QObject(&views)
     , m_document(document)
     , m_views(views)
-    , m_code(views.program())
 {
     const QPointer<ProjectHistory> self(this);
     const auto can = [self](Way way) { return [self, way] { return self && self->canGo(way); }; };
@@ -89,15 +73,21 @@ ProjectHistory::ProjectHistory(ProjectDocument &document, const ProjectView &vie
         };
     };
     const UndoHistory history{can(Way::Back), can(Way::Forward), go(Way::Back), go(Way::Forward)};
-    m_code.codeView()->setUndoHistory(history);
+    views.programs().withEach(
+        this, [history](qint32, ORVListView &view) { view.codeView()->setUndoHistory(history); });
     connect(&views.tables(), &TableViews::made, this,
             [history](ORVListView &list) { list.listView()->grid()->setUndoHistory(history); });
 }
 
-// Who looks at a table takes back what was done to tables, whatever was typed since.
-ProjectDocument::Among ProjectHistory::among() const
+ORVListView &ProjectHistory::code() const
 {
-    return isOfEditor() ? ProjectDocument::Among::All : ProjectDocument::Among::TablesAlone;
+    return m_views.program();
+}
+
+// Who looks at a table takes back what was done to tables, whatever was typed since.
+qint32 ProjectHistory::here() const
+{
+    return isOfEditor() ? m_views.programs().current() : 0;
 }
 
 bool ProjectHistory::isOfEditor() const
@@ -107,14 +97,14 @@ bool ProjectHistory::isOfEditor() const
 
 bool ProjectHistory::canGo(Way way) const
 {
-    if (m_document.next(way, among()))
+    if (m_document.next(way, here()))
         return true;
-    return isOfEditor() && (way == Way::Back ? m_code.IsUndoAvailable() : m_code.IsRedoAvailable());
+    return isOfEditor() && (way == Way::Back ? code().IsUndoAvailable() : code().IsRedoAvailable());
 }
 
 void ProjectHistory::go(Way way)
 {
-    if (const ProjectStep *step = m_document.next(way, among()))
+    if (const ProjectStep *step = m_document.next(way, here()))
         goInProject(way, ProjectStep(*step));
     else
         goInEditor(way);
@@ -127,46 +117,103 @@ void ProjectHistory::goInEditor(Way way)
         return;
     QString fault;
     if (way == Way::Back)
-        m_code.Undo(fault);
+        code().Undo(fault);
     else
-        m_code.Redo(fault);
+        code().Redo(fault);
     if (!fault.isEmpty())
         Q_EMIT told(fault);
 }
 
-// Rows and program, or neither.
+// Rows and programs, or neither. What was typed elsewhere since is not thrown away unseen.
 void ProjectHistory::goInProject(Way way, const ProjectStep &step)
 {
-    const bool isBack = way == Way::Back;
+    if (const qint32 other = m_document.obstacle(step, way)) {
+        Q_EMIT told(
+            tr("%1 has been changed since. Take that back there first.").arg(nameOf(other)));
+        return;
+    }
     m_document.go(way);
-    if (!step.isOfTablesAlone() &&
-        !showProgram(isBack ? step.programBefore : step.programAfter, way)) {
-        m_document.go(isBack ? Way::Forward : Way::Back);
+    if (!showPrograms(step, way)) {
+        const Way back = way == Way::Back ? Way::Forward : Way::Back;
+        m_document.go(back);
+        showPrograms(step, back);
         return;
     }
     showPlace(step);
     Q_EMIT told(tellingOf(way).arg(placesOf(step)));
 }
 
+bool ProjectHistory::showPrograms(const ProjectStep &step, Way way)
+{
+    const ProgramTexts &texts = way == Way::Back ? step.before.texts : step.after.texts;
+    bool isDone = true;
+    for (const qint32 id : step.programs())
+        isDone = showProgram(id, texts.value(id), way) && isDone;
+    return isDone;
+}
+
 // What is in sight already stays so: the program, or the row of the table that is shown.
 void ProjectHistory::showPlace(const ProjectStep &step)
 {
     const LwType shown = m_views.current().CurrentType();
-    if (step.rows.isEmpty() || (shown == dsCode && !step.isOfTablesAlone()))
+    const QList<qint32> programs = step.programs();
+    if (shown == dsCode && programs.contains(m_views.programs().current()))
         return;
+    if (step.rows.isEmpty()) {
+        if (!programs.isEmpty())
+            m_views.enterProgram(programs.constFirst());
+        return;
+    }
     const auto found = std::ranges::find(step.rows, shown, &RowChange::type);
     const RowChange &change = found == step.rows.end() ? step.rows.constFirst() : *found;
     Q_EMIT reached(change.type, change.row);
 }
 
+QString ProjectHistory::nameOf(qint32 program) const
+{
+    const ProgramList &list = m_document.project()->programs();
+    const auto found = std::ranges::find(list, program, &ProjectProgram::id);
+    return list.size() < 2 || found == list.cend() ? tr("Program") : found->name;
+}
+
+// Those that it changes, adds or removes, or gives another name.
+QStringList ProjectHistory::programsOf(const ProjectStep &step) const
+{
+    QStringList names;
+    for (const qint32 id : step.programs())
+        names.append(nameOf(id));
+    const ProgramList &before = step.before.list;
+    const ProgramList &after = step.after.list;
+    for (const ProjectProgram &program : before + after) {
+        const bool isSame = before.contains(program) && after.contains(program);
+        if (!isSame && !names.contains(program.name))
+            names.append(program.name);
+    }
+    return names;
+}
+
+// Such as "Inputs 3", or "Inputs, Controllers, Program" for several rows.
+QString ProjectHistory::placesOf(const ProjectStep &step) const
+{
+    QStringList places;
+    for (const RowChange &change : step.rows) {
+        const QString table = Localise(displayName(change.type));
+        if (step.rows.size() == 1)
+            places.append(u"%1 %2"_s.arg(table, QString::number(change.row + 1)));
+        else if (!places.contains(table))
+            places.append(table);
+    }
+    return (places + programsOf(step)).join(u", "_s);
+}
+
 // By the editor's own history where that has the text, as it mostly has: a renaming takes a
 // snapshot. Otherwise the part that differs is put in, in its colours if these leave it as
 // it is.
-bool ProjectHistory::showProgram(const QString &program, Way way)
+bool ProjectHistory::showProgram(qint32 id, const QString &program, Way way)
 {
-    RichTextBox &box = *m_code.RTextBox();
+    RichTextBox &box = *m_views.programs().view(id).RTextBox();
     for (const bool goesBack : {way == Way::Back, way == Way::Forward}) {
-        if (m_document.program() == program)
+        if (m_document.program(id) == program)
             return true;
         if (goesBack)
             box.commands().undo();
@@ -174,17 +221,17 @@ bool ProjectHistory::showProgram(const QString &program, Way way)
             box.commands().redo();
     }
     for (const bool inColours : {true, false}) {
-        const Difference part = difference(m_document.program(), program);
+        const Difference part = difference(m_document.program(id), program);
         if (inColours)
             box.commands().replace({part.piece}, part.text);
         else
             box.replacePieces({part.piece}, part.text);
         box.setSelStart(part.piece.start);
-        if (m_document.program() == program)
+        if (m_document.program(id) == program)
             break;
     }
     box.commands().keepState();
-    return m_document.program() == program;
+    return m_document.program(id) == program;
 }
 
 } // namespace ORVTListview

@@ -3,21 +3,23 @@
 #include "project/ProjectDocument.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QStringList>
 
 namespace ORVTListview {
 
 class ORVListView;
 class ProjectView;
 
-// One undo for steps of the project and for what the editor does by itself: a step comes
-// when the program is again what the step made of it. Keys and context menus of editor and
-// tables end here, too.
+// One undo for steps of the project and for what the editors do by themselves: a step comes
+// when the program that one is in is again what the step made of it. Keys and context menus of
+// editor and tables end here, too.
 class ProjectHistory : public QObject
 {
     Q_OBJECT
 
 public:
-    ProjectHistory(ProjectDocument &document, const ProjectView &views);
+    // Belongs to the views.
+    ProjectHistory(ProjectDocument &document, ProjectView &views);
 
     using Way = ProjectDocument::Way;
     bool canGo(Way way) const;
@@ -31,16 +33,20 @@ Q_SIGNALS:
     void told(const QString &text);
 
 private:
-    ProjectDocument::Among among() const;
+    qint32 here() const;
+    ORVListView &code() const;
     bool isOfEditor() const;
     void goInEditor(Way way);
     void goInProject(Way way, const ProjectStep &step);
     void showPlace(const ProjectStep &step);
-    bool showProgram(const QString &program, Way way);
+    bool showPrograms(const ProjectStep &step, Way way);
+    bool showProgram(qint32 id, const QString &program, Way way);
+    QString nameOf(qint32 program) const;
+    QString placesOf(const ProjectStep &step) const;
+    QStringList programsOf(const ProjectStep &step) const;
 
     ProjectDocument &m_document;
-    const ProjectView &m_views;
-    ORVListView &m_code;
+    ProjectView &m_views;
 };
 
 } // namespace ORVTListview

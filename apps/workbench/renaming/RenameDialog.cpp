@@ -12,27 +12,32 @@
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
-QString placeName(const PointUse &use)
+QString placeName(const PointUse &use, const ProgramList &programs)
 {
+    const auto program = std::ranges::find(programs, use.program, &ProjectProgram::id);
+    if (program != programs.cend() && programs.size() > 1)
+        return RenameDialog::tr("%1, line %2").arg(program->name, QString::number(use.line));
     if (use.line > 0)
         return RenameDialog::tr("Program, line %1").arg(use.line);
     return u"%1 %2, %3"_s.arg(Localise(displayName(use.type)), QString::number(use.row + 1),
                               Localise(projectColumns(use.type).at(use.column).key));
 }
 
-RenameDialog::RenameDialog(const QString &former, const QString &name, const QList<PointUse> &uses,
-                           QWidget *parent)
+RenameDialog::RenameDialog(const Renamed &renamed, QWidget *parent)
     : QDialog(parent)
-    , m_uses(uses)
+    , m_uses(renamed.uses)
     , m_places(new QTreeWidget(this))
 {
     setWindowTitle(tr("Rename"));
     auto *layout = new QVBoxLayout(this);
-    auto *label = new QLabel(tr("%1 becomes %2 in the places that have a tick:").arg(former, name));
+    auto *label = new QLabel(
+        tr("%1 becomes %2 in the places that have a tick:").arg(renamed.former, renamed.name));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     layout->addWidget(label);
@@ -41,7 +46,8 @@ RenameDialog::RenameDialog(const QString &former, const QString &name, const QLi
     m_places->setUniformRowHeights(true);
     m_places->setHeaderLabels({tr("Place"), tr("Contents")});
     for (const PointUse &use : m_uses) {
-        auto *item = new QTreeWidgetItem(m_places, {placeName(use), use.text.trimmed()});
+        auto *item =
+            new QTreeWidgetItem(m_places, {placeName(use, renamed.programs), use.text.trimmed()});
         item->setCheckState(0, Qt::Checked);
     }
     m_places->resizeColumnToContents(0);

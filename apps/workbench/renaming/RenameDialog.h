@@ -14,8 +14,14 @@ class RenameDialog : public QDialog
     Q_OBJECT
 
 public:
-    RenameDialog(const QString &former, const QString &name, const QList<PointUse> &uses,
-                 QWidget *parent);
+    struct Renamed
+    {
+        QString former;
+        QString name;
+        QList<PointUse> uses;
+        ProgramList programs; // of the project
+    };
+    RenameDialog(const Renamed &renamed, QWidget *parent);
 
     // The places that have their tick, in their order.
     QList<PointUse> chosen() const;
@@ -27,7 +33,7 @@ private:
     QTreeWidget *m_places;
 };
 
-// Such as "Controllers 2, Input".
-QString placeName(const PointUse &use);
+// Such as "Controllers 2, Input". A program has its name where there are several.
+QString placeName(const PointUse &use, const ProgramList &programs);
 
 } // namespace ORVTListview

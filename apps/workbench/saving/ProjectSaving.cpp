@@ -26,16 +26,20 @@ bool ProjectSaving::save()
     if (!project)
         return true;
     Attempt attempt;
-    for (const bool isProgram : {true, false}) {
-        const bool isChanged =
-            isProgram ? m_document.isProgramModified() && project->isProgramChangedOutside()
-                      : project->hasChangedTables() && project->isChangedOutside();
-        if (!isChanged)
-            continue;
-        if (!mayOverwrite(isProgram ? project->programFile() : project->fileName()))
+    const QPointer<ProjectSaving> self(this);
+    const ProgramList programs = project->programs();
+    for (const ProjectProgram &program : programs) {
+        if (m_document.isProgramModified(program.id) &&
+            project->isProgramChangedOutside(program.id) &&
+            !mayOverwrite(project->programFile(program.id)))
             return false;
-        if (!isProgram)
-            attempt.theirs = Project::Theirs::Overwritten;
+        if (!self || m_document.project() != project)
+            return false;
+    }
+    if (project->hasChangedTables() && project->isChangedOutside()) {
+        if (!mayOverwrite(project->fileName()))
+            return false;
+        attempt.theirs = Project::Theirs::Overwritten;
     }
     return carryOut(attempt);
 }
@@ -103,16 +107,27 @@ bool ProjectSaving::saveElsewhere()
     return carryOut({fileName});
 }
 
+// Of the programs that have changes.
+QString ProjectSaving::changedPrograms() const
+{
+    QStringList names;
+    for (const ProjectProgram &program : m_document.project()->programs()) {
+        if (m_document.isProgramModified(program.id))
+            names.append(program.name);
+    }
+    return names.join(QStringLiteral(", "));
+}
+
 QString ProjectSaving::questionOnLeaving() const
 {
-    const QString file = QFileInfo(m_document.project()->programFile()).fileName();
+    const QString programs = changedPrograms();
     const QString name = m_document.project()->name();
-    if (!m_document.isProgramModified())
+    if (programs.isEmpty())
         return tr("The points of %1 have changes that are not saved.\nSave them?").arg(name);
     if (!m_document.project()->hasChangedTables())
-        return tr("The program %1 has changes that are not saved.\nSave them?").arg(file);
+        return tr("The program %1 has changes that are not saved.\nSave them?").arg(programs);
     return tr("The program %1 and the points of %2 have changes that are not saved.\nSave them?")
-        .arg(file, name);
+        .arg(programs, name);
 }
 
 bool ProjectSaving::mayLeave()

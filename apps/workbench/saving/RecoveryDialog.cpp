@@ -6,6 +6,8 @@
 
 #include "base/TextRules.h"
 
+#include <ORVTListview/Error.h>
+
 #include <QtCore/QFileInfo>
 #include <QtGui/QScreen>
 #include <QtWidgets/QDialogButtonBox>
@@ -24,12 +26,34 @@ namespace {
 // To the second, as the work's time is.
 bool isOlderThanFiles(const RecoveredWork &work, const Project &project)
 {
-    const QStringList files{project.fileName(), project.programFile()};
+    QStringList files{project.fileName()};
+    for (const ProjectProgram &program : project.programs())
+        files.append(project.programFile(program.id));
     return std::ranges::any_of(files, [&work](const QString &file) {
         const QFileInfo info(file);
         return info.isFile() &&
                info.lastModified().toSecsSinceEpoch() > work.when.toSecsSinceEpoch();
     });
+}
+
+// A program that was added has nothing before.
+void comparePrograms(ComparisonView &view, const Project &project, const RecoveredWork &work)
+{
+    QList<ProgramEntry> entries;
+    try {
+        entries = readContents(JsonPlace::parse(work.json, work.projectFile)).programs;
+    } catch (const Error &) {
+        entries = project.tableSaving().programs; // it is told later
+    }
+    for (qsizetype i = 0; i < std::min(entries.size(), work.programs.size()); ++i) {
+        QString before;
+        for (const ProjectProgram &program : project.programs()) {
+            if (project.programFile(program.id) ==
+                programPath(project.fileName(), entries.at(i).file))
+                before = project.shownProgram(program.id);
+        }
+        view.append(entries.at(i).name, compared(before, work.programs.at(i)));
+    }
 }
 
 } // namespace
@@ -53,8 +77,7 @@ RecoveryDialog::RecoveryDialog(const Project &project, const RecoveredWork &work
     view->setAccessibleName(windowTitle());
     view->resize(760, 320);
     view->setTitles(tr("Before, in the files"), tr("After, not saved"));
-    view->append(QFileInfo(project.programFile()).fileName(),
-                 compared(project.shownProgram(), work.program));
+    comparePrograms(*view, project, work);
     view->append(QFileInfo(project.fileName()).fileName(),
                  compared(withCrLf(QString::fromUtf8(project.json())),
                           withCrLf(QString::fromUtf8(work.json))));

@@ -108,7 +108,10 @@ void RecoveryKeeper::tick()
 RecoveryKeeper::Work RecoveryKeeper::work() const
 {
     const Project &project = *m_document.project();
-    return {project.json(), m_document.program(), project.tableSaving()};
+    QStringList programs;
+    for (const ProjectProgram &program : project.programs())
+        programs.append(m_document.program(program.id));
+    return {project.json(), programs, project.tableSaving()};
 }
 
 bool RecoveryKeeper::isKept(const Work &work) const
@@ -135,7 +138,7 @@ RecoveryKeeper::Outcome RecoveryKeeper::write(std::optional<RecoverySlot> &slot,
     if (!slot)
         return {false, tr("Too many workbenches have this project open.")};
     RecoveredWork dated{work.tables.fileName, QDateTime::currentDateTimeUtc(), work.json,
-                        work.program};
+                        work.programs};
     QString fault;
     try {
         dated.json = work.tables.into(work.json, TableSaving::Theirs::Overwritten);

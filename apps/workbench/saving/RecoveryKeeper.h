@@ -78,7 +78,7 @@ private:
     struct Work
     {
         QByteArray json;
-        QString program;
+        QStringList programs;
         TableSaving tables;
 
         friend bool operator==(const Work &, const Work &) = default;

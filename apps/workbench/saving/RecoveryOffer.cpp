@@ -2,6 +2,7 @@
 
 #include "project/ProjectDocument.h"
 #include "workbench/saving/RecoveryDialog.h"
+#include "workbench/views/ProgramViews.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>
@@ -10,14 +11,16 @@
 #include <QtCore/QScopeGuard>
 #include <QtWidgets/QMessageBox>
 
+#include <algorithm>
+
 namespace ORVTListview {
 
-RecoveryOffer::RecoveryOffer(ProjectDocument &document, RecoveryKeeper &keeper, ORVListView &code,
-                             QWidget &window)
+RecoveryOffer::RecoveryOffer(ProjectDocument &document, RecoveryKeeper &keeper,
+                             const ProgramViews &programs, QWidget &window)
     : QObject(&window)
     , m_document(document)
     , m_keeper(keeper)
-    , m_code(code)
+    , m_programs(programs)
     , m_window(window)
 {
 }
@@ -66,12 +69,21 @@ bool RecoveryOffer::make()
     return !restores;
 }
 
+// In the order of the project, whose list has been restored.
+void RecoveryOffer::restorePrograms(const QStringList &texts)
+{
+    const ProgramList &list = m_document.project()->programs();
+    for (qsizetype i = 0; i < std::min(list.size(), texts.size()); ++i) {
+        if (m_document.program(list.at(i).id) != texts.at(i))
+            m_programs.view(list.at(i).id).codeView()->openProgram(texts.at(i));
+    }
+}
+
 // Only what is whole, and safe in a file of our own, may lose the former one.
 bool RecoveryOffer::restore(const RecoveryKeeper::Left &left)
 {
-    if (m_document.program() != left.work->program)
-        m_code.codeView()->openProgram(left.work->program);
     const bool isWhole = m_document.restoreTables(left.work->json);
+    restorePrograms(left.work->programs);
     const bool isKept = !m_document.isModified() || m_keeper.keepNow();
     if (!isWhole)
         tellUnreadable(left.fileName);

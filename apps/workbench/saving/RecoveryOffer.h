@@ -8,7 +8,7 @@ class QWidget;
 
 namespace ORVTListview {
 
-class ORVListView;
+class ProgramViews;
 class ProjectDocument;
 
 // Offers the user what former workbenches left of the project that is open.
@@ -18,19 +18,20 @@ class RecoveryOffer : public QObject
 
 public:
     // Belongs to the window.
-    RecoveryOffer(ProjectDocument &document, RecoveryKeeper &keeper, ORVListView &code,
+    RecoveryOffer(ProjectDocument &document, RecoveryKeeper &keeper, const ProgramViews &programs,
                   QWidget &window);
 
     void makeAll();
 
 private:
     bool make();
+    void restorePrograms(const QStringList &texts);
     bool restore(const RecoveryKeeper::Left &left);
     void tellUnreadable(const QString &fileName);
 
     ProjectDocument &m_document;
     RecoveryKeeper &m_keeper;
-    ORVListView &m_code;
+    const ProgramViews &m_programs;
     QWidget &m_window;
     bool m_isAsking = false;
 };

@@ -30,7 +30,8 @@ void forEachSwitch(const Act &act)
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         const QMetaProperty property = meta.property(i);
         const QLatin1StringView name(property.name());
-        if (property.isWritable() && name != "keepsText"_L1) // how programs are saved
+        const bool isOurs = name == "keepsText"_L1 || name == "hasOwnUndo"_L1;
+        if (property.isWritable() && !isOurs)
             act(property, "editor/"_L1 + name);
     }
 }

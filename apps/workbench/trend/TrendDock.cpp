@@ -30,15 +30,37 @@ using namespace Qt::StringLiterals;
 TrendDock::TrendDock(Trend &trend, QWidget *parent)
     : QDockWidget(parent)
     , m_trend(trend)
-    , m_view(new TrendView(trend, this))
-    , m_legend(new QTreeWidget(this))
-    , m_commands(new QToolBar(this))
     , m_cyclic(new QAction(this))
 {
     setObjectName(u"Trend"_s);
     setAllowedAreas(Qt::AllDockWidgetAreas);
+    m_cyclic->setCheckable(true);
+    connect(m_cyclic, &QAction::triggered, this, &TrendDock::cyclicWanted);
+    retranslate();
+}
+
+void TrendDock::setVisible(bool visible)
+{
+    if (visible && !m_view)
+        build();
+    QDockWidget::setVisible(visible);
+}
+
+void TrendDock::build()
+{
+    m_view = new TrendView(m_trend, this);
+    m_legend = new QTreeWidget(this);
+    m_commands = new QToolBar(this);
     makeCommands();
     makeLegend();
+    layOut();
+    connect(&m_trend, &Trend::linesChanged, this, &TrendDock::showLines);
+    connect(&m_trend, &Trend::samplesChanged, this, &TrendDock::showValues);
+    retranslate();
+}
+
+void TrendDock::layOut()
+{
     auto *body = new QWidget(this);
     auto *layout = new QVBoxLayout(body);
     layout->setContentsMargins({});
@@ -58,15 +80,10 @@ TrendDock::TrendDock(Trend &trend, QWidget *parent)
     parts->setChildrenCollapsible(false);
     layout->addWidget(parts, 1);
     setWidget(body);
-    connect(&trend, &Trend::linesChanged, this, &TrendDock::showLines);
-    connect(&trend, &Trend::samplesChanged, this, &TrendDock::showValues);
-    retranslate();
 }
 
 void TrendDock::makeCommands()
 {
-    m_cyclic->setCheckable(true);
-    connect(m_cyclic, &QAction::triggered, this, &TrendDock::cyclicWanted);
     m_commands->addAction(m_cyclic);
     m_pause = m_commands->addAction(QString());
     m_pause->setCheckable(true);
@@ -100,11 +117,13 @@ void TrendDock::makeLegend()
 void TrendDock::retranslate()
 {
     setWindowTitle(tr("Trend"));
+    m_cyclic->setText(tr("Read &Cyclically"));
+    if (!m_view)
+        return;
     m_view->setAccessibleName(tr("Trend"));
     m_legend->setAccessibleName(tr("Drawn points"));
     m_legend->setHeaderLabels({tr("Point"), tr("Value"), tr("Least"), tr("Most")});
     m_commands->setWindowTitle(tr("Trend"));
-    m_cyclic->setText(tr("Read &Cyclically"));
     m_pause->setText(tr("Pause"));
     m_in->setText(tr("Zoom In"));
     m_out->setText(tr("Zoom Out"));
@@ -174,7 +193,9 @@ void TrendDock::exportSamples()
 
 void TrendDock::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+    const bool isOther =
+        event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
+    if (m_view && isOther)
         showLines(); // their colours
     QDockWidget::changeEvent(event);
 }

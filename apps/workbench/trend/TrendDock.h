@@ -12,7 +12,8 @@ class Trend;
 class TrendView;
 
 // The trend under the other parts of the window: its commands, the picture, and a legend
-// with last value and range of each line, in which Delete takes a line away.
+// with last value and range of each line, in which Delete takes a line away. Nothing of that is
+// there before it is shown first.
 class TrendDock : public QDockWidget
 {
     Q_OBJECT
@@ -26,6 +27,8 @@ public:
     // After a change of language.
     void retranslate();
 
+    void setVisible(bool visible) override;
+
 Q_SIGNALS:
     void cyclicWanted(bool on);
 
@@ -33,6 +36,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void build();
+    void layOut();
     void makeCommands();
     void makeLegend();
     void showLines();
@@ -41,10 +46,10 @@ private:
     void exportSamples();
 
     Trend &m_trend;
-    TrendView *m_view;
-    QTreeWidget *m_legend;
-    QToolBar *m_commands;
     QAction *m_cyclic;
+    TrendView *m_view = nullptr;
+    QTreeWidget *m_legend = nullptr;
+    QToolBar *m_commands = nullptr;
     QAction *m_pause = nullptr;
     QAction *m_clear = nullptr;
     QAction *m_remove = nullptr;

@@ -1,8 +1,10 @@
 #include "workbench/views/CategoryMenu.h"
 
 #include "base/KeyCodes.h"
+#include "project/controller/PointRows.h"
 #include "shared/points/DisplayNames.h"
 #include "workbench/ProjectView.h"
+#include "workbench/reading/ControllerMenu.h"
 #include "workbench/views/Workplace.h"
 
 #include <ORVTListview/Node.h>
@@ -53,6 +55,9 @@ void CategoryMenu::open(const QPoint &place)
          {menu->addAction(tr("Show &Beside"), this, [this, type] { split(*type, Qt::Horizontal); }),
           menu->addAction(tr("Show Belo&w"), this, [this, type] { split(*type, Qt::Vertical); })})
         action->setEnabled(!isAlone || m_view.current().CurrentType() != *type);
+    if (valueColumn(*type) >= 0)
+        menu->addAction(ControllerMenu::tr("A&dd To Trend"), &m_view,
+                        [this, type] { Q_EMIT m_view.trendWanted(*type); });
     menu->popup(m_view.tree().mapToGlobal(place));
 }
 

@@ -56,7 +56,9 @@ ViewDock *Workplace::dockOf(const QWidget *widget) const
 void Workplace::add(ViewDock &dock, ViewDock *other)
 {
     m_docks.append(&dock);
-    if (other && !other->isFloating())
+    if (restoreDockWidget(&dock)) {
+        // it stands where it did when the window was left
+    } else if (other && !other->isFloating())
         tabifyDockWidget(other, &dock);
     else
         addDockWidget(Qt::TopDockWidgetArea, &dock, Qt::Horizontal);

@@ -50,6 +50,7 @@ class ORVT_EXPORT CodeView : public QObject
     Q_PROPERTY(bool wordListOpensItself READ wordListOpensItself WRITE setWordListOpensItself NOTIFY
                    wordListOpensItselfChanged)
     Q_PROPERTY(bool keepsText READ keepsText WRITE setKeepsText NOTIFY keepsTextChanged)
+    Q_PROPERTY(bool hasOwnUndo READ hasOwnUndo WRITE setHasOwnUndo NOTIFY hasOwnUndoChanged)
 
 public:
     ~CodeView() override;
@@ -243,6 +244,13 @@ public:
     bool keepsText() const;
     void setKeepsText(bool on);
 
+    // Whether undo and redo keep to this editor. Off, as at first, all editors of the thread
+    // step through one ring, each into the others' programs, which suits a host that shows
+    // one program at a time. Switching it begins a history with what is shown; it has no
+    // effect in the midst of an undo or redo.
+    bool hasOwnUndo() const;
+    void setHasOwnUndo(bool on);
+
     // What users undo and redo by the editor's keys and context menu: the editor's own steps,
     // as at first and with none, or the history of a host that has one for several things and
     // calls Undo and Redo of ORVListView, which stay the editor's own, where these come next.
@@ -291,6 +299,7 @@ Q_SIGNALS:
     void trimsBlanksChanged(bool on);
     void wordListOpensItselfChanged(bool on);
     void keepsTextChanged(bool on);
+    void hasOwnUndoChanged(bool on);
 
     // The mouse has rested on a word, or the choice on an entry of the word list: what there
     // is to be told of it goes into the answer, which lives until the signal has been

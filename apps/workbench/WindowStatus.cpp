@@ -1,0 +1,70 @@
+#include "WindowStatus.h"
+
+#include "OpeningProgress.h"
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QStatusBar>
+
+namespace ORVTListview {
+
+WindowStatus::WindowStatus(QStatusBar &bar)
+    : QObject(&bar)
+    , m_bar(bar)
+    , m_program(new QLabel(&bar))
+    , m_opening(new OpeningProgress(&bar))
+    , m_position(new QLabel(&bar))
+{
+    m_program->setContentsMargins(3, 0, 0, 0); // in line with the program
+    bar.addWidget(m_program);
+    bar.addPermanentWidget(m_opening);
+    m_opening->hide(); // the bar shows what it takes
+    bar.addPermanentWidget(m_position);
+    bar.setMinimumHeight(bar.sizeHint().height()); // also with nothing in it
+}
+
+void WindowStatus::tell(const QString &text)
+{
+    m_bar.showMessage(text, 5000);
+}
+
+void WindowStatus::tellLonger(const QString &text)
+{
+    m_bar.showMessage(text, 10000);
+}
+
+void WindowStatus::tellLasting(const QString &text)
+{
+    m_bar.showMessage(text);
+}
+
+void WindowStatus::takeBack()
+{
+    m_bar.clearMessage();
+}
+
+bool WindowStatus::isTelling() const
+{
+    return !m_bar.currentMessage().isEmpty();
+}
+
+void WindowStatus::showProgram(const QString &text)
+{
+    m_program->setText(text);
+}
+
+void WindowStatus::showPosition(const QString &text)
+{
+    m_position->setText(text);
+}
+
+void WindowStatus::setPositionVisible(bool visible)
+{
+    m_position->setVisible(visible);
+}
+
+void WindowStatus::retranslate()
+{
+    m_opening->retranslate();
+}
+
+} // namespace ORVTListview

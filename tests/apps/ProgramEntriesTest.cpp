@@ -1,0 +1,174 @@
+// Several programs in a project's file: what is read, and how little is changed.
+
+#include "apps/ProjectFolder.h"
+#include "project/Project.h"
+#include "project/ProjectError.h"
+#include "project/TextFile.h"
+#include "support/QtPrinters.h"
+
+#include <QtCore/QDir>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray oneProgram =
+    "{ \"format\" : 1,\n\t\"name\": \"P\",\n  \"program\" :\t\"a.prog\",\n"
+    "  \"inputs\": [ {\"name\": \"I\"} ]\n}\n";
+
+QList<ProgramEntry> entriesOf(const QByteArray &json)
+{
+    return readContents(JsonPlace::parse(json, u"p.json"_s)).programs;
+}
+
+QString faultOf(const QByteArray &json)
+{
+    try {
+        entriesOf(json);
+    } catch (const Error &error) {
+        return error.Description();
+    }
+    return {};
+}
+
+} // namespace
+
+TEST(ProgramEntries, AFileOfTheFirstFormHasOne)
+{
+    EXPECT_EQ(entriesOf(oneProgram), QList<ProgramEntry>({{u"a.prog"_s, u"a.prog"_s}}));
+    EXPECT_EQ(withProgramEntries(oneProgram, u"p.json"_s, entriesOf(oneProgram)), oneProgram);
+    QByteArray other = oneProgram;
+    EXPECT_EQ(withProgramEntries(oneProgram, u"p.json"_s, {{u"b.prog"_s, u"b.prog"_s}}),
+              other.replace("a.prog", "b.prog"));
+}
+
+TEST(ProgramEntries, SeveralMakeTheFileOneOfTheNewForm)
+{
+    const QList<ProgramEntry> two{{u"a.prog"_s, u"a.prog"_s}, {u"Heating \"2\""_s, u"h.prog"_s}};
+    const QByteArray json = withProgramEntries(oneProgram, u"p.json"_s, two);
+    EXPECT_EQ(json, "{ \"format\" : 2,\n\t\"name\": \"P\",\n  \"programs\": [\n"
+                    "    { \"file\": \"a.prog\" },\n"
+                    "    { \"name\": \"Heating \\\"2\\\"\", \"file\": \"h.prog\" }\n  ],\n"
+                    "  \"inputs\": [ {\"name\": \"I\"} ]\n}\n");
+    EXPECT_EQ(entriesOf(json), two);
+    const QList<ProgramEntry> one{two.constLast()};
+    EXPECT_EQ(entriesOf(withProgramEntries(json, u"p.json"_s, one)), one);
+    EXPECT_EQ(withProgramEntries(json, u"p.json"_s, two), json);
+}
+
+TEST(ProgramEntries, AnEscapedMemberIsFoundToo)
+{
+    QByteArray json = oneProgram;
+    json.replace("\"program\" ", "\"pro\\u0067ram\"");
+    const QList<ProgramEntry> named{{u"Main"_s, u"a.prog"_s}};
+    EXPECT_EQ(entriesOf(withProgramEntries(json, u"p.json"_s, named)), named);
+}
+
+TEST(ProgramEntries, WhatIsWrongIsSaid)
+{
+    const auto fault = [](const QByteArray &programs) {
+        return faultOf(R"({"format": 2, "name": "P", "programs": )" + programs + "}");
+    };
+    EXPECT_EQ(fault("[]"), u"p.json: programs: a project has at least one program"_s);
+    EXPECT_EQ(fault(R"([{"name": "A"}])"), u"p.json: programs #1, file: is missing"_s);
+    EXPECT_EQ(fault(R"([{"file": "a", "b": 1}])"), u"p.json: programs #1, b: is not known here"_s);
+    EXPECT_EQ(fault(R"([{"file": "a"}, {"file": "a", "name": "B"}])"),
+              u"p.json: programs #2: another program has the file \"a\""_s);
+    EXPECT_EQ(fault(R"([{"file": "a"}, {"file": "b", "name": "A"}])"),
+              u"p.json: programs #2: another program has the name \"A\""_s);
+    EXPECT_EQ(faultOf(R"({"format": 2, "name": "P", "program": "a"})"),
+              u"p.json: program: is not known here"_s);
+    EXPECT_EQ(faultOf(R"({"format": 1, "name": "P", "programs": []})"),
+              u"p.json: programs: is not known here"_s);
+}
+
+class SeveralPrograms : public testing::Test
+{
+protected:
+    SeveralPrograms()
+    {
+        m_folder.write(u"a.prog"_s, "A\t= 1\n");
+        m_folder.write(u"p.json"_s, oneProgram);
+    }
+    QByteArray bytes(const QString &name) const { return readFile(m_folder.path(name)); }
+
+    ProjectFolder m_folder;
+};
+
+TEST_F(SeveralPrograms, OneIsAddedSavedAndReadAgain)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    EXPECT_FALSE(project.hasChangedTables());
+    m_folder.write(u"Heating.prog"_s, "not ours");
+    const qint32 heating = project.makeProgram(u"Heating"_s);
+    project.setPrograms({project.programs().constFirst(), {heating, u"Heating"_s}});
+    EXPECT_TRUE(project.hasChangedTables());
+    project.save({{1, project.program()}, {heating, u"B = 2\r\n"_s}}, Project::Theirs::Kept);
+    EXPECT_FALSE(project.hasChangedTables());
+    EXPECT_EQ(bytes(u"a.prog"_s), "A\t= 1\n"); // nobody touched it
+    EXPECT_EQ(bytes(u"Heating.prog"_s), "not ours");
+    EXPECT_EQ(bytes(u"Heating-2.prog"_s), "B = 2\n");
+
+    const Project again(m_folder.path(u"p.json"_s));
+    ASSERT_EQ(again.programs().size(), 2);
+    EXPECT_EQ(again.programs().at(1).name, u"Heating"_s);
+    EXPECT_EQ(again.program(again.programs().at(1).id), u"B = 2\r\n"_s);
+    EXPECT_EQ(again.rows(dsInput).size(), 1);
+}
+
+TEST_F(SeveralPrograms, OneThatLeavesTheListKeepsItsFile)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    const ProjectProgram first = project.programs().constFirst();
+    const ProjectProgram other{project.makeProgram(u"B"_s), u"B"_s};
+    project.setPrograms({first, other});
+    project.save({{1, u"A\r\n"_s}, {other.id, u"B\r\n"_s}}, Project::Theirs::Kept);
+    project.setPrograms({other});
+    project.save({{other.id, u"B\r\n"_s}}, Project::Theirs::Kept);
+    EXPECT_EQ(bytes(u"a.prog"_s), "A\n");
+    EXPECT_EQ(Project(m_folder.path(u"p.json"_s)).program(), u"B\r\n"_s);
+    project.setPrograms({first, other});
+    project.save({{1, u"A\r\n"_s}, {other.id, u"B\r\n"_s}}, Project::Theirs::Kept);
+    EXPECT_EQ(Project(m_folder.path(u"p.json"_s)).programs().size(), 2);
+}
+
+TEST_F(SeveralPrograms, AllGoToAnotherPlace)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    const qint32 other = project.makeProgram(u"B"_s);
+    project.setPrograms({project.programs().constFirst(), {other, u"B"_s}});
+    const ProgramTexts texts{{1, u"A\r\n"_s}, {other, u"B\r\n"_s}};
+    project.save(texts, Project::Theirs::Kept);
+    ASSERT_TRUE(QDir(m_folder.path({})).mkdir(u"sub"_s));
+    m_folder.write(u"sub/B.prog"_s, "not ours");
+    project.saveAt(m_folder.path(u"sub/q.json"_s), texts);
+    EXPECT_EQ(bytes(u"sub/B.prog"_s), "not ours");
+    EXPECT_EQ(bytes(u"sub/q.prog"_s), "B\n");
+    const Project again(m_folder.path(u"sub/q.json"_s));
+    EXPECT_EQ(again.program(1), u"A\r\n"_s);
+    EXPECT_EQ(again.program(2), u"B\r\n"_s);
+    EXPECT_EQ(again.programs().at(1).name, u"B"_s);
+}
+
+TEST_F(SeveralPrograms, OnlyTheOneThatNeedsItBecomesUtf8)
+{
+    m_folder.write(u"a.prog"_s, "REM \xFC\n"); // Windows-1252
+    m_folder.write(u"b.prog"_s, "REM \xFC\n");
+    m_folder.write(u"p.json"_s, R"({"format": 2, "name": "P",
+        "programs": [{"file": "a.prog"}, {"file": "b.prog"}]})");
+    Project project(m_folder.path(u"p.json"_s));
+    project.save({{1, project.program(1)}, {2, u"REM \u2603\r\n"_s}}, Project::Theirs::Kept,
+                 Project::Encoding::Utf8);
+    EXPECT_EQ(bytes(u"a.prog"_s), "REM \xFC\n");
+    EXPECT_EQ(bytes(u"b.prog"_s), "REM \xE2\x98\x83\n");
+}
+
+TEST_F(SeveralPrograms, NamesAreCheckedAgainstTheOthers)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    EXPECT_FALSE(project.programNameFault(0, u"A.PROG"_s).isEmpty());
+    EXPECT_TRUE(project.programNameFault(1, u"A.PROG"_s).isEmpty());
+    EXPECT_FALSE(project.programNameFault(1, u" x"_s).isEmpty());
+    EXPECT_FALSE(project.programNameFault(0, {}).isEmpty());
+}

@@ -1,0 +1,311 @@
+// Several programs in one project: added, renamed and removed, each with its own undo, and
+// one analysis, renaming, saving and recovery for all.
+
+#include "WorkbenchTest.h"
+
+#include "project/Project.h"
+#include "project/ProjectDocument.h"
+#include "project/RecoveryFile.h"
+#include "support/TestProgram.h"
+#include "workbench/saving/RecoveryKeeper.h"
+#include "workbench/views/ProgramViews.h"
+#include "workbench/views/TableViews.h"
+#include "workbench/views/ViewDock.h"
+#include "workbench/views/Workplace.h"
+
+#include <ORVTListview/CodeView.h>
+
+#include <QtCore/QFile>
+#include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTreeWidget>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct TwoPrograms : WorkbenchWindow
+{
+    explicit TwoPrograms(const QByteArray &first = "Fan1 = Temp1\n",
+                         const QByteArray &second = "REM second\nFan1 = Temp1 + 1\n")
+    {
+        writeFile(folder.filePath(u"a.prog"_s), first);
+        writeFile(folder.filePath(u"b.prog"_s), second);
+        writeFile(project(), R"({"format": 2, "name": "two",
+            "programs": [{"file": "a.prog"}, {"name": "Night", "file": "b.prog"}],
+            "inputs": [{"name": "Temp1"}], "outputs": [{"name": "Fan1"}],
+            "variables": [{"name": "Var1"}]})");
+        window.openProject(project());
+    }
+    QString project() const { return folder.filePath(u"two.json"_s); }
+    QByteArray bytes(const QString &name) const { return readFile(folder.filePath(name)); }
+
+    ProgramViews &programs() { return views().programs(); }
+    ProjectDocument &document() { return *window.findChild<ProjectDocument *>(); }
+    QString text(qint32 program) { return programs().view(program).CodeText(); }
+    void type(qint32 program, const QString &typed)
+    {
+        views().enterProgram(program);
+        RichTextBox &box = *programs().view(program).RTextBox();
+        box.setSelStart(0);
+        QTest::keyClicks(&box, typed);
+    }
+    void undo(qint32 program)
+    {
+        views().enterProgram(program);
+        QTest::keyClick(programs().view(program).RTextBox(), Qt::Key_Z, Qt::ControlModifier);
+    }
+    QStringList names() const
+    {
+        QStringList names;
+        for (const ProjectProgram &program :
+             window.findChild<ProjectDocument *>()->project()->programs())
+            names.append(program.name);
+        return names;
+    }
+    void give(const QString &caption, const QString &name)
+    {
+        NextDialog<QInputDialog> dialog([&name](QInputDialog &asked) {
+            asked.setTextValue(name);
+            asked.accept();
+        });
+        choose(caption);
+    }
+};
+
+} // namespace
+
+class ProgramsTest : public WidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eachHasAnEditorWithItsName()
+    {
+        TwoPrograms two;
+        QCOMPARE(two.text(1), u"Fan1 = Temp1\r\n"_s);
+        QCOMPARE(two.text(2), u"REM second\r\nFan1 = Temp1 + 1\r\n"_s);
+        QCOMPARE(two.programs().dock(1).windowTitle(), u"a.prog"_s);
+        QCOMPARE(two.programs().dock(2).windowTitle(), u"Night"_s);
+        QVERIFY(!two.programs().dock(2).isHidden());
+        QTRY_VERIFY(two.programs().view(1).RTextBox()->hasFocus());
+        two.views().workplace().goToTab(1);
+        QTRY_VERIFY(two.programs().view(2).RTextBox()->hasFocus());
+        QVERIFY(two.statusTexts().contains(u"b.prog, lines: 3"_s));
+        QVERIFY(!two.window.isWindowModified());
+    }
+
+    void undoBelongsToTheProgramInWhichOneTyped()
+    {
+        TwoPrograms two;
+        two.type(1, u"1 "_s);
+        two.type(2, u"2 "_s);
+        two.undo(1);
+        two.undo(1);
+        QCOMPARE(two.text(1), u"Fan1 = Temp1\r\n"_s);
+        QVERIFY(two.text(2).startsWith(u"2 "_s));
+        two.undo(2);
+        two.undo(2);
+        QVERIFY(two.text(2).startsWith(u"REM second"_s));
+        QVERIFY(!two.window.isWindowModified());
+    }
+
+    void onlyWhatChangedIsSaved()
+    {
+        TwoPrograms two("A\tB = 1\r\n", "C\t= 2\n");
+        const QByteArray project = two.bytes(u"two.json"_s);
+        two.type(2, u"REM x "_s);
+        QVERIFY(two.window.isWindowModified());
+        two.choose(u"Save"_s);
+        QVERIFY(!two.window.isWindowModified());
+        QCOMPARE(two.bytes(u"a.prog"_s), "A\tB = 1\r\n");
+        QCOMPARE(two.bytes(u"b.prog"_s), "REM x C\t= 2\n");
+        QCOMPARE(two.bytes(u"two.json"_s), project);
+    }
+
+    void oneIsAddedUndoneAndMadeAgain()
+    {
+        WorkbenchWindow one("Fan1 = Temp1\n");
+        const QByteArray before = readFile(one.folder.filePath(u"one.json"_s));
+        NextDialog<QInputDialog> dialog([](QInputDialog &asked) {
+            asked.setTextValue(u"Night"_s);
+            asked.accept();
+        });
+        one.choose(u"Add Program…"_s);
+        ProgramViews &programs = one.views().programs();
+        QCOMPARE(programs.current(), 2);
+        RichTextBox &box = *programs.view(2).RTextBox();
+        QTRY_VERIFY(box.hasFocus());
+        QVERIFY(one.window.isWindowModified());
+        QTest::keyClicks(&box, u"REM n "_s);
+        for (int i = 0; i < 4 && !programs.dock(2).isHidden(); ++i)
+            QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(programs.dock(2).isHidden());
+        QTRY_VERIFY(one.box().hasFocus());
+        QVERIFY(!one.window.isWindowModified());
+        one.key(Qt::Key_Y, Qt::ControlModifier);
+        QVERIFY(!programs.dock(2).isHidden());
+        one.choose(u"Save"_s);
+        QVERIFY(QFile::exists(one.folder.filePath(u"Night.prog"_s)));
+        QVERIFY(readFile(one.folder.filePath(u"one.json"_s)) != before);
+        QCOMPARE(one.saved(), "Fan1 = Temp1\n");
+    }
+
+    void oneIsRenamed()
+    {
+        TwoPrograms two;
+        two.views().enterProgram(2);
+        two.give(u"Rename Program…"_s, u"Weekend"_s);
+        QCOMPARE(two.names(), QStringList({u"a.prog"_s, u"Weekend"_s}));
+        QCOMPARE(two.programs().dock(2).windowTitle(), u"Weekend"_s);
+        two.undo(2);
+        QCOMPARE(two.names(), QStringList({u"a.prog"_s, u"Night"_s}));
+        QCOMPARE(two.programs().dock(2).windowTitle(), u"Night"_s);
+        QVERIFY(!two.window.isWindowModified());
+    }
+
+    void oneIsRemovedAndComesBackWithWhatWasTyped()
+    {
+        TwoPrograms two;
+        two.type(2, u"REM x "_s);
+        const QString typed = two.text(2);
+        const NextMessage question(QMessageBox::Yes);
+        two.choose(u"Remove Program…"_s);
+        QCOMPARE(two.names(), QStringList(u"a.prog"_s));
+        QVERIFY(two.programs().dock(2).isHidden());
+        QTRY_VERIFY(two.programs().view(1).RTextBox()->hasFocus());
+        two.choose(u"Save"_s);
+        QVERIFY(two.bytes(u"b.prog"_s).startsWith("REM second")); // its file stays
+        two.undo(1);
+        QVERIFY(!two.programs().dock(2).isHidden());
+        QCOMPARE(two.text(2), typed);
+        two.choose(u"Save"_s);
+        QVERIFY(two.bytes(u"b.prog"_s).startsWith("REM x"));
+    }
+
+    void aPointIsRenamedInAllAsOneStep()
+    {
+        TwoPrograms two;
+        two.window.showType(dsInput);
+        renameTemp1(two);
+        QCOMPARE(two.text(1), u"Fan1 = Supply\r\n"_s);
+        QCOMPARE(two.text(2), u"REM second\r\nFan1 = Supply + 1\r\n"_s);
+        two.views().enterProgram(1);
+        two.undo(1);
+        QCOMPARE(two.text(1), u"Fan1 = Temp1\r\n"_s);
+        QCOMPARE(two.text(2), u"REM second\r\nFan1 = Temp1 + 1\r\n"_s);
+        QCOMPARE(two.document().project()->rows(dsInput).at(0).name, u"Temp1"_s);
+        QVERIFY(!two.window.isWindowModified());
+    }
+
+    // What was typed in another program since is not thrown away unseen.
+    void aStepWaitsForWhatWasTypedElsewhere()
+    {
+        TwoPrograms two;
+        two.window.showType(dsInput);
+        renameTemp1(two);
+        two.type(2, u"7 "_s);
+        two.views().enterProgram(1);
+        two.undo(1);
+        QCOMPARE(two.text(1), u"Fan1 = Supply\r\n"_s);
+        QVERIFY(two.window.statusBar()->currentMessage().contains(u"Night"_s));
+        two.views().enterProgram(2);
+        two.undo(2);
+        two.undo(2);
+        two.views().enterProgram(1);
+        two.undo(1);
+        QCOMPARE(two.text(1), u"Fan1 = Temp1\r\n"_s);
+        QVERIFY(two.text(2).contains(u"Temp1"_s));
+    }
+
+    void analysisKnowsWhatTheOtherProgramDoes()
+    {
+        TwoPrograms two("Var1 = Temp1\n", "Fan1 = Var1\nx = 1\n");
+        two.choose(u"Analyse"_s);
+        const QString found = two.resultTexts();
+        QVERIFY2(!found.contains(u"Var1"_s), qPrintable(found)); // read there, written here
+        QVERIFY2(found.startsWith(u"Night: Line 2"_s), qPrintable(found));
+        const QModelIndex row = two.results().model()->index(0, 0);
+        two.views().enterProgram(1);
+        Q_EMIT two.results().clicked(row);
+        QCOMPARE(two.programs().current(), 2);
+        QVERIFY(two.statusTexts().contains(u"Row: 2"_s));
+    }
+
+    void usesAreThoseOfAllPrograms()
+    {
+        TwoPrograms two;
+        two.programs().view(1).RTextBox()->setSelStart(9);
+        two.choose(u"All Uses"_s);
+        const QString found = two.resultTexts();
+        QVERIFY2(found.contains(u"a.prog, line 1"_s), qPrintable(found));
+        QVERIFY2(found.contains(u"Night, line 2"_s), qPrintable(found));
+    }
+
+    void aTextIsFoundInAllPrograms()
+    {
+        TwoPrograms two("Fan1 = Temp1\n", "REM fan1, FAN1\n");
+        two.give(u"Find In Programs…"_s, u"fan1"_s);
+        QCOMPARE(two.resultTexts(), u"a.prog, line 1 Fan1 = Temp1|Night, line 1 REM fan1, FAN1|"
+                                    "Night, line 1 REM fan1, FAN1"_s);
+        Q_EMIT two.results().clicked(two.results().model()->index(2, 0));
+        const RichTextBox &box = *two.programs().view(2).RTextBox();
+        QTRY_VERIFY(box.hasFocus());
+        QCOMPARE(box.SelText(), u"FAN1"_s);
+        two.give(u"Find In Programs…"_s, u"nowhere"_s);
+        QVERIFY(two.window.statusBar()->currentMessage().contains(u"nowhere"_s));
+    }
+
+    void whatWasTypedInBothIsKeptForRecovery()
+    {
+        TwoPrograms two;
+        two.type(1, u"REM one "_s);
+        two.type(2, u"REM two "_s);
+        QVERIFY(two.window.findChild<RecoveryKeeper *>()->keepNow());
+        const auto kept = readRecovery(two.bytes(u"two.json.recovery.txt"_s));
+        QVERIFY(kept);
+        QCOMPARE(kept->programs, QStringList({two.text(1), two.text(2)}));
+    }
+
+    void anotherProjectHasItsOwn()
+    {
+        TwoPrograms two;
+        two.type(2, u"REM x "_s);
+        two.window.openProject(two.writeProject(u"one"_s, "A = 1\n"));
+        QVERIFY(two.programs().dock(2).isHidden());
+        QCOMPARE(two.programs().dock(1).windowTitle(), u"one.prog"_s);
+        two.window.openProject(two.project());
+        QCOMPARE(two.text(2), u"REM second\r\nFan1 = Temp1 + 1\r\n"_s);
+        two.views().enterProgram(2);
+        two.undo(2);
+        QCOMPARE(two.text(2), u"REM second\r\nFan1 = Temp1 + 1\r\n"_s);
+        two.window.closeProject();
+        QVERIFY(two.programs().dock(2).isHidden());
+        QVERIFY(!two.programs().dock(1).isHidden());
+    }
+
+    void theLastOneCannotBeRemoved()
+    {
+        WorkbenchWindow one;
+        QMenu *menu = nullptr;
+        for (QMenu *each : one.menus()) {
+            if (each->actions().contains(one.command(u"Remove Program…"_s)))
+                menu = each;
+        }
+        Q_EMIT menu->aboutToShow();
+        QVERIFY(!one.command(u"Remove Program…"_s)->isEnabled());
+        one.choose(u"Remove Program…"_s); // no dialog waits
+        QCOMPARE(one.views().programs().list().size(), 1);
+    }
+
+private:
+    static void renameTemp1(TwoPrograms &two)
+    {
+        NextDialog<QDialog> places([](QDialog &dialog) { dialog.accept(); });
+        Q_EMIT two.views().tables().renameWanted(dsInput, 0, u"Supply"_s);
+    }
+};
+
+ORVT_TEST(ProgramsTest)
+#include "ProgramsTest.moc"
