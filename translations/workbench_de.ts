@@ -2000,6 +2000,10 @@ Diese Änderungen überschreiben?</translation>
         <translation>ein anderes Programm hat schon die Datei „%1“</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are one file</source>
+        <translation>„%1“ und „%2“ sind eine Datei</translation>
+    </message>
+    <message>
         <source>a project has at least one program</source>
         <translation>ein Projekt hat mindestens ein Programm</translation>
     </message>

@@ -2000,6 +2000,10 @@ Overwrite those changes?</source>
         <translation>otro programa tiene ya el archivo «%1»</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are one file</source>
+        <translation>«%1» y «%2» son un mismo archivo</translation>
+    </message>
+    <message>
         <source>a project has at least one program</source>
         <translation>un proyecto tiene al menos un programa</translation>
     </message>

@@ -2000,6 +2000,10 @@ Overwrite those changes?</source>
         <translation>un autre programme a déjà le fichier «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are one file</source>
+        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» sont un seul fichier</translation>
+    </message>
+    <message>
         <source>a project has at least one program</source>
         <translation>un projet a au moins un programme</translation>
     </message>

@@ -4,6 +4,7 @@
 #include "project/ProjectTexts.h"
 #include "project/TextFile.h"
 
+#include "base/FilePlace.h"
 #include "base/TextRules.h"
 #include "project/EditorAppearance.h"
 
@@ -147,11 +148,30 @@ ProjectContents readContents(const JsonPlace &root)
 
 namespace {
 
-// All but the programs' texts.
-ProjectContents readWithoutPrograms(const QString &file)
+// Two names may stand for one file, through links or "./": saving one program would then
+// take the other's text away.
+void refuseOneFileTwice(const JsonPlace &root, const QString &projectFile,
+                        const QList<ProgramEntry> &programs)
+{
+    QStringList former{projectFile};
+    for (const ProgramEntry &program : programs) {
+        const QString file = programPath(projectFile, program.file);
+        for (const QString &other : std::as_const(former)) {
+            if (isOneFile(file, other))
+                root.fail(ProjectTexts::tr("\"%1\" and \"%2\" are one file")
+                              .arg(program.file, QFileInfo(other).fileName()));
+        }
+        former.append(file);
+    }
+}
+
+// All but the programs' texts, of a project whose file is to have the name.
+ProjectContents readWithoutPrograms(const QString &file, const QString &fileName)
 {
     const QByteArray json = readFile(file);
-    ProjectContents contents = readContents(JsonPlace::parse(json, file));
+    const JsonPlace root = JsonPlace::parse(json, file);
+    ProjectContents contents = readContents(root);
+    refuseOneFileTwice(root, fileName, contents.programs);
     contents.json = json;
     return contents;
 }
@@ -165,7 +185,7 @@ QString programPath(const QString &projectFile, const QString &program)
 
 ProjectContents readProject(const QString &fileName)
 {
-    ProjectContents contents = readWithoutPrograms(fileName);
+    ProjectContents contents = readWithoutPrograms(fileName, fileName);
     for (const ProgramEntry &program : std::as_const(contents.programs))
         contents.texts.append(ProgramFile(readFile(programPath(fileName, program.file))));
     return contents;
@@ -173,7 +193,7 @@ ProjectContents readProject(const QString &fileName)
 
 ProjectContents readVersionBefore(const QString &fileName)
 {
-    ProjectContents contents = readWithoutPrograms(fileName + u'~');
+    ProjectContents contents = readWithoutPrograms(fileName + u'~', fileName);
     for (const ProgramEntry &program : std::as_const(contents.programs)) {
         const QString file = programPath(fileName, program.file);
         contents.texts.append(ProgramFile(readFile(QFileInfo(file).isFile() ? file : file + u'~')));

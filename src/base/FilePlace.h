@@ -12,6 +12,6 @@ ORVT_HOUSE_EXPORT QString behindLinks(const QString &fileName);
 
 // Whether two names stand for one file, through links and folders that are seen at
 // two places; the folder must be there, the file need not.
-bool isOneFile(const QString &one, const QString &other);
+ORVT_HOUSE_EXPORT bool isOneFile(const QString &one, const QString &other);
 
 } // namespace ORVTListview

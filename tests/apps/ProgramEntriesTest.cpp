@@ -96,6 +96,26 @@ protected:
     ProjectFolder m_folder;
 };
 
+TEST_F(SeveralPrograms, TwoNamesOfOneFileAreRefused)
+{
+    const auto fault = [this](const QByteArray &second) {
+        m_folder.write(u"p.json"_s, R"({"format": 2, "name": "P", "programs": [
+            { "file": "a.prog" }, { "name": "Other", "file": ")" + second + "\" }]}");
+        try {
+            readProject(m_folder.path(u"p.json"_s));
+        } catch (const Error &error) {
+            return error.Description();
+        }
+        return QString();
+    };
+    ASSERT_TRUE(QFile::link(m_folder.path(u"a.prog"_s), m_folder.path(u"link.prog"_s)));
+    m_folder.write(u"b.prog"_s, "B = 1\n");
+    EXPECT_EQ(fault("b.prog"), QString());
+    EXPECT_TRUE(fault("./a.prog").contains(u"\"./a.prog\" and \"a.prog\" are one file"_s));
+    EXPECT_TRUE(fault("link.prog").contains(u"\"link.prog\" and \"a.prog\" are one file"_s));
+    EXPECT_TRUE(fault("p.json").contains(u"\"p.json\" and \"p.json\" are one file"_s));
+}
+
 TEST_F(SeveralPrograms, OneIsAddedSavedAndReadAgain)
 {
     Project project(m_folder.path(u"p.json"_s));
