@@ -100,7 +100,8 @@ TEST_F(SeveralPrograms, TwoNamesOfOneFileAreRefused)
 {
     const auto fault = [this](const QByteArray &second) {
         m_folder.write(u"p.json"_s, R"({"format": 2, "name": "P", "programs": [
-            { "file": "a.prog" }, { "name": "Other", "file": ")" + second + "\" }]}");
+            { "file": "a.prog" }, { "name": "Other", "file": ")" +
+                                        second + "\" }]}");
         try {
             readProject(m_folder.path(u"p.json"_s));
         } catch (const Error &error) {
