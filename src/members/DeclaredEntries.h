@@ -28,7 +28,7 @@ struct DeclaredName
         std::copy_n(name, size, text);
     }
 
-    char text[size];
+    char text[size] = {};
 };
 
 template <typename Class, DeclaredName name>
