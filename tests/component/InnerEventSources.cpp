@@ -265,8 +265,12 @@ Sources buttonSources()
 {
     return {{"pressed", "the left button", clickButton},
             {"released", "the left button", clickButton},
-            {"clicked", "the left button", clickButton},
-            {"pressedAndReleased", "the left button", clickButton}};
+            {"clicked", "the left button", clickButton}};
+}
+
+Sources ownButtonSources()
+{
+    return {{"pressedAndReleased", "the left button", clickButton}};
 }
 
 } // namespace
@@ -282,6 +286,7 @@ QList<EventSubject> innerEventSubjects()
     const auto box = [](const Scene &scene) -> QObject * { return scene.box; };
     const auto tree = [](const Scene &scene) -> QObject * { return scene.tree; };
     const auto combo = [](const Scene &scene) -> QObject * { return scene.combo; };
+    const auto button = [](const Scene &scene) -> QObject * { return readButton(scene); };
     return {
         {"grid of a list", gridScene, grid, gridSources()},
         {"header of a list", headerScene, header, headerSources(), false},
@@ -290,7 +295,7 @@ QList<EventSubject> innerEventSubjects()
         {"box whose text is replaced", codeEditor, box, replacedTextSources()},
         {"tree as a view", nodeTree, tree, treeSources(), false},
         {"combo as a combo box", dataCombo, combo, comboSources(), false},
-        {"read button", pointTable,
-         [](const Scene &scene) -> QObject * { return readButton(scene); }, buttonSources()},
+        {"read button as a button", pointTable, button, buttonSources(), false},
+        {"read button", pointTable, button, ownButtonSources()},
     };
 }

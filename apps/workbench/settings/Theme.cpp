@@ -1,6 +1,7 @@
 #include "workbench/settings/Theme.h"
 
 #include "widgets/look/Luminance.h"
+#include "workbench/settings/DarkStyle.h"
 
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
@@ -83,11 +84,13 @@ void show(Theme theme)
         useSystem(style);
     if (theme == Theme::System)
         return;
-    QApplication::setStyle(QStringLiteral("Fusion")); // which draws with the palette
-    if (theme == Theme::Dark)
+    if (theme == Theme::Dark) {
+        QApplication::setStyle(new DarkStyle);
         useDark();
-    else
+    } else {
+        QApplication::setStyle(QStringLiteral("Fusion")); // which draws with the palette
         QApplication::setPalette(lightPalette());
+    }
 }
 
 Theme chosen = Theme::System;

@@ -198,6 +198,7 @@ TreeNode &NodeModel::add(TreeNode &parent, int row, const QString &key, const QS
 
 void NodeModel::remove(TreeNode &node)
 {
+    ++m_removals;
     beginRemoveRows(indexOf(*node.parent), node.row, node.row);
     const Owned removed = flattened(take(node));
     forget(removed);
@@ -206,6 +207,7 @@ void NodeModel::remove(TreeNode &node)
 
 void NodeModel::clear()
 {
+    ++m_removals;
     beginResetModel();
     m_order.clear();
     m_positions.forgetFrom(0);

@@ -51,6 +51,7 @@ public:
                   const QString &image);
     void remove(TreeNode &node);
     void clear();
+    quint64 removals() const { return m_removals; } // how often nodes have gone
 
     // The row is that before the move. The new parent does not lie within the node.
     void move(TreeNode &node, TreeNode &parent, int row);
@@ -94,6 +95,7 @@ private:
     PictureProvider m_pictures;
     bool m_checkBoxes = false;
     bool m_filling = false;
+    quint64 m_removals = 0;
 };
 
 } // namespace ORVTListview

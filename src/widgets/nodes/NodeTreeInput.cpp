@@ -118,6 +118,14 @@ void NodeTree::act(QKeyEvent &event)
         letUser([this, &event] { QTreeView::keyPressEvent(&event); });
 }
 
+// Whom a fold tells on the way may remove the node that the toolkit comes to.
+QModelIndex NodeTree::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const quint64 removals = d->model.removals();
+    const QModelIndex reached = QTreeView::moveCursor(action, modifiers);
+    return d->model.removals() == removals ? reached : currentIndex();
+}
+
 bool NodeTree::runCommand(const QKeyEvent &event)
 {
     if (d->keyCommand && d->keyCommand(event))

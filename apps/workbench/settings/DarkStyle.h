@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtWidgets/QProxyStyle>
+
+namespace ORVTListview {
+
+// The toolkit's style that draws with the palette, which frames boxes and buttons darker than
+// the window: on a dark ground boxes without a tick are not seen.
+class DarkStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    DarkStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+};
+
+} // namespace ORVTListview
