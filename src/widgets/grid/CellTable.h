@@ -44,7 +44,9 @@ public:
 
     // Null where either is gone.
     virtual const QString *textIn(const ListItem *item, int column) const = 0;
-    virtual void setText(ListItem &item, int column, const QString &text) = 0;
+
+    // Gives the former one back. The row and the column are there.
+    virtual QString exchangeText(ListItem &item, int column, const QString &text) = 0;
 
     // What changes texts only: the views are told when it is done, of cells side by side at
     // once. They may then end all this.
@@ -77,6 +79,10 @@ public:
 
     // That follow one another in the view.
     virtual void removeShown(int place, int count) = 0;
+
+    // Does what there is to do with rows while they are the view's last ones, side by side in
+    // the order given.
+    virtual void doAtEnd(const QList<ListItem *> &items, const std::function<void()> &act) = 0;
 
     // All by one place, up (-1) or down (1), in ascending order. Not while isOrdered.
     virtual void moveRows(const QList<int> &positions, int step) = 0;

@@ -52,7 +52,7 @@ std::optional<QList<CellRefusal>> CellWriter::enter(QList<CellEntry> entries)
         return std::nullopt;
     if (!refusals.isEmpty())
         return refusals;
-    const QList<CellChange> changes = write(changesOf(std::move(entries)));
+    const QList<CellChange> changes = writeNew(std::move(entries));
     if (self && !changes.isEmpty() && m_keep)
         m_keep(changes);
     if (self)
@@ -92,15 +92,21 @@ void CellWriter::tell(QList<CellChange> changes) const
         m_host.tell(changes);
 }
 
-QList<CellChange> CellWriter::changesOf(QList<CellEntry> entries) const
+// What is there and holds another text.
+QList<CellChange> CellWriter::writeNew(QList<CellEntry> entries)
 {
     QList<CellChange> changes;
     changes.reserve(entries.size());
-    for (CellEntry &entry : entries) {
-        if (const QString *former = m_table.textIn(entry.item, entry.column))
-            changes.append(
-                {entry.item, static_cast<qint16>(entry.column), *former, std::move(entry.text)});
-    }
+    m_table.setTexts([&] {
+        for (CellEntry &entry : entries) {
+            const QString *held = m_table.textIn(entry.item, entry.column);
+            if (!held || *held == entry.text)
+                continue;
+            QString former = m_table.exchangeText(*entry.item, entry.column, entry.text);
+            changes.append({entry.item, static_cast<qint16>(entry.column), std::move(former),
+                            std::move(entry.text)});
+        }
+    });
     return changes;
 }
 
@@ -109,11 +115,9 @@ QList<CellChange> CellWriter::write(QList<CellChange> changes)
 {
     const auto isLeftOut = [this](const CellChange &change) {
         const QString *text = m_table.textIn(change.item, change.column);
-        const bool isAsItWas =
-            text && (text->isSharedWith(change.former) || *text == change.former);
-        if (!isAsItWas || change.text == change.former)
+        if (!text || change.text == change.former || *text != change.former)
             return true;
-        m_table.setText(*change.item, change.column, change.text);
+        m_table.exchangeText(*change.item, change.column, change.text);
         return false;
     };
     m_table.setTexts([&] { changes.removeIf(isLeftOut); });

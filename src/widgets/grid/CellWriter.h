@@ -71,7 +71,7 @@ private:
     QString refusalOf(CellEntry &entry, const CellRule &rule, const Asking &asking);
     const CellRule &ruleOf(int column, QHash<int, CellRule> &known) const;
     QList<CellChange> write(QList<CellChange> changes);
-    QList<CellChange> changesOf(QList<CellEntry> entries) const;
+    QList<CellChange> writeNew(QList<CellEntry> entries);
 
     CellTable &m_table;
     const GridRules &m_rules;

@@ -143,16 +143,32 @@ bool RowEditing::remove()
     return alive && finish(Deed::Remove, places);
 }
 
+// A notice costs as much as there are rows, so many that lie apart go from the end.
+void RowEditing::take(QList<ListItem *> items)
+{
+    constexpr int few = 16;
+    const auto place = [this](const ListItem *item) {
+        return m_tools.table.placeOf(item, 0).row();
+    };
+    std::sort(items.begin(), items.end(), [&](const ListItem *one, const ListItem *other) {
+        return place(one) < place(other);
+    });
+    int pieces = 1;
+    for (qsizetype i = 1; i < items.size(); ++i)
+        pieces += place(items.at(i)) == place(items.at(i - 1)) + 1 ? 0 : 1;
+    if (pieces > few)
+        m_tools.table.doAtEnd(items, [this, items] { takePieces(items); });
+    else
+        takePieces(items);
+}
+
 // From the last on, in as few notices as there are gaps; each may take others away, or put
 // them elsewhere.
-void RowEditing::take(QList<ListItem *> items)
+void RowEditing::takePieces(QList<ListItem *> items)
 {
     CellTable &table = m_tools.table;
     const auto place = [&](const ListItem *item) { return table.placeOf(item, 0).row(); };
     const QPointer<CellEdit> alive(&m_tools.edit);
-    std::sort(items.begin(), items.end(), [&](const ListItem *one, const ListItem *other) {
-        return place(one) < place(other);
-    });
     while (alive && !items.isEmpty()) {
         int first = place(items.takeLast());
         if (first < 0)

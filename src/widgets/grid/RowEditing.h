@@ -70,6 +70,7 @@ private:
     int seenColumn() const;
     void leave(const QList<ListItem *> &items);
     void take(QList<ListItem *> items);
+    void takePieces(QList<ListItem *> items);
     QModelIndex stayingBeside(const QModelIndex &current, const QList<ListItem *> &items) const;
     bool fits(const QList<int> &places, int step) const;
     bool finish(Deed deed, const QList<int> &positions);

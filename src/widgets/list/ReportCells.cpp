@@ -65,12 +65,9 @@ const QString *ReportCells::textIn(const ListItem *item, int column) const
     return row ? &m_parts.model.cellText(*row, column) : nullptr;
 }
 
-void ReportCells::setText(ListItem &item, int column, const QString &text)
+QString ReportCells::exchangeText(ListItem &item, int column, const QString &text)
 {
-    if (column == 0)
-        item.setText(text);
-    else
-        item.setSubItem(column, text);
+    return m_parts.model.exchangeText(*rowOf(&item), column, text);
 }
 
 void ReportCells::setTexts(const std::function<void()> &change)
@@ -146,6 +143,14 @@ QList<ListItem *> ReportCells::insertRows(int position, const QList<ListItem *> 
 void ReportCells::removeShown(int place, int count)
 {
     m_parts.removeShown(place, count);
+}
+
+void ReportCells::doAtEnd(const QList<ListItem *> &items, const std::function<void()> &act)
+{
+    QList<int> places;
+    for (const ListItem *item : items)
+        places.append(placeOf(item, 0).row());
+    m_parts.doAtEnd(places, act);
 }
 
 void ReportCells::moveRows(const QList<int> &positions, int step)

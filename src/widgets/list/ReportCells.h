@@ -19,7 +19,7 @@ public:
     void check(const ListItem *item, const QString &member) const override;
     const QString &text(const ListItem &item, int column) const override;
     const QString *textIn(const ListItem *item, int column) const override;
-    void setText(ListItem &item, int column, const QString &text) override;
+    QString exchangeText(ListItem &item, int column, const QString &text) override;
     void setTexts(const std::function<void()> &change) override;
     int columns() const override;
     QString columnKey(int column) const override;
@@ -33,6 +33,7 @@ public:
     int positionOf(const ListItem &item) const override;
     QList<ListItem *> insertRows(int position, const QList<ListItem *> &likes) override;
     void removeShown(int place, int count) override;
+    void doAtEnd(const QList<ListItem *> &items, const std::function<void()> &act) override;
     void moveRows(const QList<int> &positions, int step) override;
     void setUnseenFollower(const std::function<void()> &follow) override;
     bool isOrdered() const override;

@@ -3,7 +3,9 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QHeaderView>
 
+#include <cstddef>
 #include <utility>
+#include <vector>
 
 namespace ORVTListview {
 namespace {
@@ -36,6 +38,25 @@ int firstSeen(const QTableView &view)
             return place;
     }
     return -1;
+}
+
+// The order that is, but for the rows at places, which come last.
+QList<int> withLast(const ReportModel &model, const QList<int> &places)
+{
+    std::vector<bool> isLast(static_cast<std::size_t>(model.rowCount()), false);
+    QList<int> last;
+    for (const int place : places) {
+        if (place < 0)
+            continue;
+        isLast[static_cast<std::size_t>(place)] = true;
+        last.append(model.positionOf(model.rowAt(place)));
+    }
+    QList<int> positions;
+    for (int place = 0; place < model.rowCount(); ++place) {
+        if (!isLast[static_cast<std::size_t>(place)])
+            positions.append(model.positionOf(model.rowAt(place)));
+    }
+    return positions + last;
 }
 
 } // namespace
@@ -90,6 +111,27 @@ void ReportListParts::removeShown(int place, int count)
 {
     const StillView still(view);
     model.deleteShown(place, count);
+}
+
+// The order that is wanted is as it was, but for what has been done; what is told in between
+// may end all this.
+void ReportListParts::doAtEnd(const QList<int> &places, const std::function<void()> &act)
+{
+    const bool isOrdered = model.isOrdered();
+    const QPointer<QTableView> alive(&view);
+    const auto showAsBefore = [&] {
+        if (alive && !isOrdered)
+            show(model.wantedOrder());
+    };
+    try {
+        show(withLast(model, places));
+        if (alive)
+            act();
+    } catch (...) { // of whom it was told
+        showAsBefore();
+        throw;
+    }
+    showAsBefore();
 }
 
 void ReportListParts::clearRows()

@@ -32,6 +32,9 @@ struct ReportListParts
     // None of these scrolls the view to another current cell.
     void removeRow(int position);
     void removeShown(int place, int count);
+
+    // See CellTable.
+    void doAtEnd(const QList<int> &places, const std::function<void()> &act);
     void clearRows();
     void removeColumn(int position);
     void clearColumns();

@@ -259,7 +259,7 @@ void ReportModel::setRows(QList<RowContent> contents)
     m_rows = std::move(rows);
     m_keys = std::move(keys);
     m_positions.forgetFrom(0);
-    order(m_orderer ? m_orderer() : std::nullopt);
+    order(wantedOrder());
     endResetModel();
 }
 

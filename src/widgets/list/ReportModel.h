@@ -72,6 +72,7 @@ public:
 
     // What tells the order of rows that replace all others.
     void setOrderer(const std::function<Order()> &order) { m_orderer = order; }
+    Order wantedOrder() const { return m_orderer ? m_orderer() : std::nullopt; }
 
     using Rows = std::vector<std::unique_ptr<ReportRow>>;
     ReportRow &addRow(int position, RowContent content);
@@ -97,6 +98,9 @@ public:
     static const QString &textOf(const ReportRow &row) { return row.content.text; }
     void setKey(ReportRow &row, const QString &key);
     void setText(ReportRow &row, const QString &text);
+
+    // Gives the former one back.
+    QString exchangeText(ReportRow &row, int column, const QString &text);
     void setSubItem(ReportRow &row, int column, const QString &text);
     void setSubItemTag(ReportRow &row, int column, const QString &tag);
     void setPicture(ReportRow &row, const QString &key);

@@ -94,21 +94,26 @@ void ReportModel::setKey(ReportRow &row, const QString &key)
         m_keys.insert(key, &row);
 }
 
+QString ReportModel::exchangeText(ReportRow &row, int column, const QString &text)
+{
+    RowContent &content = row.content;
+    if (column > 0)
+        grow(content.subItems, column - 1, columns() - 1);
+    QString &held = column == 0 ? content.text : content.subItems[column - 1];
+    QString former = std::exchange(held, text);
+    touch(row, column, {Qt::DisplayRole, Qt::EditRole});
+    return former;
+}
+
 void ReportModel::setText(ReportRow &row, const QString &text)
 {
-    if (row.content.text == text)
-        return;
-    row.content.text = text;
-    touch(row, 0, {Qt::DisplayRole, Qt::EditRole});
+    setSubItem(row, 0, text);
 }
 
 void ReportModel::setSubItem(ReportRow &row, int column, const QString &text)
 {
-    if (cellText(row, column) == text)
-        return;
-    grow(row.content.subItems, column - 1, columns() - 1);
-    row.content.subItems[column - 1] = text;
-    touch(row, column, {Qt::DisplayRole, Qt::EditRole});
+    if (cellText(row, column) != text)
+        exchangeText(row, column, text);
 }
 
 void ReportModel::setSubItemTag(ReportRow &row, int column, const QString &tag)

@@ -145,9 +145,21 @@ QRect textRoom(const QStyleOptionViewItem &cell, const QStyle &style)
     return room.adjusted(margin, 0, -margin, 0);
 }
 
-// All but the text.
+bool isSelected(const QStyleOptionViewItem &cell)
+{
+    return cell.state.testFlag(QStyle::State_Selected);
+}
+
+// All but the text. To find that there is nothing to be drawn takes the styles a while.
 void drawGround(QPainter &painter, const QStyleOptionViewItem &cell, const QStyle &style)
 {
+    const bool isBare = !isSelected(cell) && cell.backgroundBrush.style() == Qt::NoBrush;
+    if (!hasPicture(cell) && isBare)
+        return;
+    if (!hasPicture(cell) && isSelected(cell)) {
+        painter.fillRect(cell.rect, cell.palette.brush(groupOf(cell), QPalette::Highlight));
+        return;
+    }
     if (!hasPicture(cell)) {
         style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, &painter, cell.widget);
         return;
@@ -168,10 +180,9 @@ void drawCell(QPainter &painter, const QStyleOptionViewItem &cell, LetterGlyphs 
         return;
     }
     drawGround(painter, cell, style);
-    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
     const QPen former = painter.pen();
-    painter.setPen(
-        cell.palette.color(groupOf(cell), isSelected ? QPalette::HighlightedText : QPalette::Text));
+    painter.setPen(cell.palette.color(groupOf(cell), isSelected(cell) ? QPalette::HighlightedText
+                                                                      : QPalette::Text));
     letters.setFont(cell.font);
     if (!drawKnown(painter, cell, room, letters))
         drawShaped(painter, cell, room, letters);

@@ -7,6 +7,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QUndoStack>
 #include <QtWidgets/QRubberBand>
+#include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -48,6 +49,20 @@ void putOnClipboard(const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
 }
+
+class PaintCount : public QObject
+{
+public:
+    explicit PaintCount(QWidget &widget) { widget.installEventFilter(this); }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
 
 } // namespace
 
@@ -382,6 +397,30 @@ private Q_SLOTS:
         dragTo(shown.cell(1, 4));
         QCOMPARE(shown.take(), u"refused 1 3 This is not in the list."_s);
         QCOMPARE(shown.text(1, 3), QString());
+    }
+
+    // That of the toolkit would be to lay out and to paint all again.
+    void theCornerComesWithoutMuchAdo()
+    {
+        CellGrid shown(40);
+        const auto *corner = shown->viewport()->findChild<QWidget *>(u"FillHandle"_s);
+        const auto goTo = [&](int column) {
+            shown.choose(2, column, 2, column);
+            QCoreApplication::processEvents();
+            QCoreApplication::processEvents();
+        };
+        goTo(1); // the window is complete
+        goTo(0);
+        QVERIFY(!corner->isVisible());
+        QVERIFY(shown->verticalScrollBar()->isVisible());
+        const PaintCount bar(*shown->verticalScrollBar());
+        goTo(1);
+        QVERIFY(corner->isVisible());
+        goTo(0);
+        QVERIFY(!corner->isVisible());
+        QCOMPARE(bar.count, 0);
+        shown->verticalScrollBar()->setValue(3);
+        QTRY_VERIFY(bar.count > 0);
     }
 
     void aDragEndsWithItsRows()

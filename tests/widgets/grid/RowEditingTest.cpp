@@ -359,6 +359,57 @@ private Q_SLOTS:
         QCOMPARE(removed.size(), 2);
     }
 
+    void rowsThatLieApartGoInOneNotice_data()
+    {
+        QTest::addColumn<bool>("sorted");
+        QTest::newRow("in their own order") << false;
+        QTest::newRow("sorted") << true;
+    }
+
+    void rowsThatLieApartGoInOneNotice()
+    {
+        QFETCH(const bool, sorted);
+        RowGrid shown(200);
+        for (int row = 1; row <= 200; ++row)
+            shown.set(row, 1, QString::number(row * 7 % 201));
+        if (sorted)
+            shown.grid->setSortKeys({{1, Qt::DescendingOrder}});
+        const QStringList before = shown.texts(0).split(u'|');
+        QStringList stay;
+        for (int place = 0; place < 200; ++place) {
+            const bool goes = place % 2 == 0;
+            ListItem &item = *shown->ListItems()->Item(before.at(place).mid(5).toInt());
+            item.setSelected(goes);
+            if (!goes)
+                stay.append(before.at(place));
+        }
+        shown->ListItems()->Item(stay.at(7).mid(5).toInt())->setVisible(false);
+        QSignalSpy removed(shown->model(), &QAbstractItemModel::rowsRemoved);
+        QVERIFY(shown.grid->removeRows());
+        QCOMPARE(removed.size(), 1);
+        QCOMPARE(shown.texts(0), stay.join(u'|'));
+        QVERIFY(shown->isRowHidden(7));
+        shown->ListItems()->Add(1, QString(), u"new"_s);
+        QCOMPARE(shown.text(sorted ? 101 : 1, 0), u"new"_s);
+    }
+
+    void aHostMeddlesWhileRowsThatLieApartGo()
+    {
+        RowGrid shown(100);
+        for (int row = 1; row <= 100; row += 2)
+            shown.item(row)->setSelected(true);
+        QObject::connect(
+            shown->model(), &QAbstractItemModel::layoutChanged, shown.grid,
+            [&shown] {
+                shown->ListItems()->Remove(2);
+                shown.grid->setFilterText(0, u"Text"_s);
+            },
+            Qt::SingleShotConnection);
+        QVERIFY(shown.grid->removeRows());
+        QCOMPARE(shown->ListItems()->Count(), 49);
+        QCOMPARE(shown.texts(0).left(13), u"Text 4|Text 6"_s);
+    }
+
     void aHeldKeyRemovesOnce()
     {
         RowGrid shown;
