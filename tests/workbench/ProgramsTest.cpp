@@ -173,6 +173,22 @@ private Q_SLOTS:
         QCOMPARE(one.saved(), "Fan1 = Temp1\n");
     }
 
+    void theFunctionsOfTheControllerStayKnown()
+    {
+        WorkbenchWindow one("Fan1 = SQRT ( Temp1 )\n");
+        const QString project = one.folder.filePath(u"one.json"_s);
+        writeFile(project, readFile(project).replace(
+                               "\"inputs\"", "\"controller\": {\"sqrt\": true}, \"inputs\""));
+        one.window.openProject(project);
+        NextDialog<QInputDialog> dialog([](QInputDialog &asked) {
+            asked.setTextValue(u"Night"_s);
+            asked.accept();
+        });
+        one.choose(u"Add Program…"_s);
+        one.choose(u"Analyse"_s);
+        QCOMPARE(one.resultTexts(), u"Nothing found."_s);
+    }
+
     void oneIsRenamed()
     {
         TwoPrograms two;
