@@ -1163,7 +1163,7 @@ Entfernen?</translation>
     </message>
     <message>
         <source>Re&amp;name Program…</source>
-        <translation>Programm &amp;umbenennen…</translation>
+        <translation>Programm um&amp;benennen…</translation>
     </message>
     <message>
         <source>Re&amp;move Program…</source>
@@ -1223,7 +1223,7 @@ Seine Datei %2 bleibt, wo sie ist.</translation>
     </message>
     <message>
         <source>&amp;Find In Programs…</source>
-        <translation>In &amp;Programmen suchen…</translation>
+        <translation>In Programmen &amp;suchen…</translation>
     </message>
     <message>
         <source>%1 was not found.</source>

@@ -1159,7 +1159,7 @@ Remove it?</source>
     </message>
     <message>
         <source>A&amp;dd Program…</source>
-        <translation>&amp;Añadir programa…</translation>
+        <translation>Aña&amp;dir programa…</translation>
     </message>
     <message>
         <source>Re&amp;name Program…</source>
@@ -1223,7 +1223,7 @@ Su archivo %2 queda donde está.</translation>
     </message>
     <message>
         <source>&amp;Find In Programs…</source>
-        <translation>Buscar en los &amp;programas…</translation>
+        <translation>&amp;Buscar en los programas…</translation>
     </message>
     <message>
         <source>%1 was not found.</source>

@@ -1223,7 +1223,7 @@ Son fichier %2 reste où il est.</translation>
     </message>
     <message>
         <source>&amp;Find In Programs…</source>
-        <translation>Rechercher dans les &amp;programmes…</translation>
+        <translation>Rechercher &amp;dans les programmes…</translation>
     </message>
     <message>
         <source>%1 was not found.</source>

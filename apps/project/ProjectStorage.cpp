@@ -68,6 +68,13 @@ bool isToBeWritten(const QString &fileName, const QByteArray &bytes, const Progr
     return bytes != former.bytes() || !QFileInfo::exists(fileName);
 }
 
+void writeProgram(const QString &fileName, const QByteArray &bytes, ProjectPrograms::Part &part)
+{
+    writeFile(fileName, bytes);
+    part.text = ProgramFile(bytes);
+    part.shown = part.text.text();
+}
+
 Project::Saved keepVersionsBefore(const QList<NewFile> &files)
 {
     Project::Saved saved;
@@ -148,8 +155,8 @@ void Project::saveProgram(const QString &program)
 {
     const qint32 id = firstProgram();
     const QByteArray bytes = programBytes(id, program, Encoding::ItsOwn);
-    writeFile(programFile(id), bytes);
-    m_programs.part(id) = {m_programs.part(id).file, ProgramFile(bytes), program};
+    writeProgram(programFile(id), bytes, m_programs.part(id));
+    m_programs.part(id).shown = program;
 }
 
 // The version before is what is saved here; the file that it stands in for goes to its
@@ -177,23 +184,24 @@ Project::Saved Project::save(const ProgramTexts &texts, Theirs theirs, Encoding 
     const QMap<qint32, QByteArray> bytes = bytesOf(texts, encoding); // before anything is written
     Saved saved;
     for (auto each = bytes.cbegin(); each != bytes.cend(); ++each) {
-        if (!QFileInfo::exists(programFile(each.key())))
-            writeFile(programFile(each.key()), *each);
+        const QString file = programFile(each.key());
+        if (!QFileInfo::exists(file))
+            writeProgram(file, *each, m_programs.part(each.key()));
     }
     if (hasChangedTables())
         saveProjectFile(theirs, saved);
     else if (!QFileInfo::exists(m_fileName))
         writeFile(m_fileName, m_contents.json);
     for (auto each = bytes.cbegin(); each != bytes.cend(); ++each) {
-        ProjectPrograms::Part &part = m_programs.part(each.key());
         const QString file = programFile(each.key());
+        ProjectPrograms::Part &part = m_programs.part(each.key());
         if (isToBeWritten(file, *each, part.text)) {
             const QString notKept = keepVersionBefore(file);
             if (!notKept.isEmpty())
                 saved.notKept = notKept;
-            writeFile(file, *each);
+            writeProgram(file, *each, part);
         }
-        part = {part.file, ProgramFile(*each), texts.value(each.key())};
+        part.shown = texts.value(each.key());
     }
     return saved;
 }

@@ -201,6 +201,7 @@ void MainWindow::connectReading()
 void MainWindow::showPage()
 {
     showProgramInfo();
+    showPosition();
     m_status->setPositionVisible(m_pages->showsProject() && !m_view->currentTable());
 }
 

@@ -94,6 +94,7 @@ void ProjectView::refillWords()
 void ProjectView::takePrograms()
 {
     m_programs->setList(m_project->programs());
+    applyFunctionWords(); // an editor that is made forgets them for all
 }
 
 // A category shows its table or the program; the device and the pages show nothing.

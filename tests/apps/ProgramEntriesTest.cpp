@@ -7,6 +7,7 @@
 #include "support/QtPrinters.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -130,6 +131,7 @@ TEST_F(SeveralPrograms, OneIsAddedSavedAndReadAgain)
     EXPECT_EQ(bytes(u"a.prog"_s), "A\t= 1\n"); // nobody touched it
     EXPECT_EQ(bytes(u"Heating.prog"_s), "not ours");
     EXPECT_EQ(bytes(u"Heating-2.prog"_s), "B = 2\n");
+    EXPECT_FALSE(QFile::exists(m_folder.path(u"Heating-2.prog~"_s))); // there was none before
 
     const Project again(m_folder.path(u"p.json"_s));
     ASSERT_EQ(again.programs().size(), 2);

@@ -18,8 +18,12 @@ private:
     {
         Two()
         {
+            RichTextSettings settings = defaultColours();
+            settings.FontName = u"DejaVu Sans Mono"_s;
+            settings.FontSize = 10;
             for (ORVListView *list : {&one, &other}) {
                 list->setListviewType(dsCode);
+                list->Init_RichTextBox(settings);
                 list->codeView()->setHasOwnUndo(true);
                 list->openProgram(list == &one ? u"A"_s : u"B"_s);
                 list->show();

@@ -18,6 +18,7 @@
 #include <QtCore/QFile>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTabBar>
 #include <QtWidgets/QTreeWidget>
 
 using namespace ORVTListview;
@@ -90,10 +91,30 @@ private Q_SLOTS:
         QCOMPARE(two.programs().dock(2).windowTitle(), u"Night"_s);
         QVERIFY(!two.programs().dock(2).isHidden());
         QTRY_VERIFY(two.programs().view(1).RTextBox()->hasFocus());
-        two.views().workplace().goToTab(1);
+        QVERIFY(two.command(u"Next Tab"_s)->isEnabled());
+        two.choose(u"Next Tab"_s);
         QTRY_VERIFY(two.programs().view(2).RTextBox()->hasFocus());
         QVERIFY(two.statusTexts().contains(u"b.prog, lines: 3"_s));
         QVERIFY(!two.window.isWindowModified());
+    }
+
+    void aClickOnTheTabGoesThere()
+    {
+        TwoPrograms two;
+        QTabBar *tabs = nullptr;
+        const auto isTheirs = [&tabs, &two] {
+            for (QTabBar *bar : two.views().workplace().findChildren<QTabBar *>())
+                tabs = bar->count() == 2 ? bar : tabs;
+            return tabs && tabs->isVisible();
+        };
+        QTRY_VERIFY(isTheirs());
+        QTest::qWait(0);
+        two.programs().view(1).RTextBox()->setSelStart(5);
+        const int night = tabs->tabText(1) == u"Night"_s ? 1 : 0;
+        QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(night).center());
+        QTRY_COMPARE(two.programs().current(), 2);
+        QTRY_VERIFY(two.programs().view(2).RTextBox()->hasFocus());
+        QVERIFY2(two.statusTexts().contains(u"Row: 1, Col: 1"_s), qPrintable(two.statusTexts()));
     }
 
     void undoBelongsToTheProgramInWhichOneTyped()
@@ -136,13 +157,13 @@ private Q_SLOTS:
         ProgramViews &programs = one.views().programs();
         QCOMPARE(programs.current(), 2);
         RichTextBox &box = *programs.view(2).RTextBox();
-        QTRY_VERIFY(box.hasFocus());
+        QVERIFY(one.window.focusWidget() == &box);
         QVERIFY(one.window.isWindowModified());
         QTest::keyClicks(&box, u"REM n "_s);
         for (int i = 0; i < 4 && !programs.dock(2).isHidden(); ++i)
             QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(programs.dock(2).isHidden());
-        QTRY_VERIFY(one.box().hasFocus());
+        QVERIFY(one.window.focusWidget() == &one.box());
         QVERIFY(!one.window.isWindowModified());
         one.key(Qt::Key_Y, Qt::ControlModifier);
         QVERIFY(!programs.dock(2).isHidden());
@@ -150,6 +171,22 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(one.folder.filePath(u"Night.prog"_s)));
         QVERIFY(readFile(one.folder.filePath(u"one.json"_s)) != before);
         QCOMPARE(one.saved(), "Fan1 = Temp1\n");
+    }
+
+    void theFunctionsOfTheControllerStayKnown()
+    {
+        WorkbenchWindow one("Fan1 = SQRT ( Temp1 )\n");
+        const QString project = one.folder.filePath(u"one.json"_s);
+        writeFile(project, readFile(project).replace(
+                               "\"inputs\"", "\"controller\": {\"sqrt\": true}, \"inputs\""));
+        one.window.openProject(project);
+        NextDialog<QInputDialog> dialog([](QInputDialog &asked) {
+            asked.setTextValue(u"Night"_s);
+            asked.accept();
+        });
+        one.choose(u"Add Program…"_s);
+        one.choose(u"Analyse"_s);
+        QCOMPARE(one.resultTexts(), u"Nothing found."_s);
     }
 
     void oneIsRenamed()
@@ -174,7 +211,7 @@ private Q_SLOTS:
         two.choose(u"Remove Program…"_s);
         QCOMPARE(two.names(), QStringList(u"a.prog"_s));
         QVERIFY(two.programs().dock(2).isHidden());
-        QTRY_VERIFY(two.programs().view(1).RTextBox()->hasFocus());
+        QVERIFY(two.window.focusWidget() == two.programs().view(1).RTextBox());
         two.choose(u"Save"_s);
         QVERIFY(two.bytes(u"b.prog"_s).startsWith("REM second")); // its file stays
         two.undo(1);
@@ -250,8 +287,8 @@ private Q_SLOTS:
         QCOMPARE(two.resultTexts(), u"a.prog, line 1 Fan1 = Temp1|Night, line 1 REM fan1, FAN1|"
                                     "Night, line 1 REM fan1, FAN1"_s);
         Q_EMIT two.results().clicked(two.results().model()->index(2, 0));
-        const RichTextBox &box = *two.programs().view(2).RTextBox();
-        QTRY_VERIFY(box.hasFocus());
+        RichTextBox &box = *two.programs().view(2).RTextBox();
+        QVERIFY(two.window.focusWidget() == &box);
         QCOMPARE(box.SelText(), u"FAN1"_s);
         two.give(u"Find In Programs…"_s, u"nowhere"_s);
         QVERIFY(two.window.statusBar()->currentMessage().contains(u"nowhere"_s));

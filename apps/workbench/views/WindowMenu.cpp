@@ -21,6 +21,7 @@ WindowMenu::WindowMenu(Workplace &workplace, Panes &panes, QDockWidget &results,
     addTabs();
     connect(this, &QMenu::aboutToShow, this, &WindowMenu::refresh);
     connect(&workplace, &Workplace::currentChanged, this, &WindowMenu::refresh);
+    connect(&workplace, &Workplace::shownChanged, this, &WindowMenu::refresh);
     refresh();
 }
 

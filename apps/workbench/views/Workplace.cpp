@@ -70,8 +70,13 @@ void Workplace::add(ViewDock &dock, ViewDock *other)
     connect(&dock, &ViewDock::opened, this, [this, &dock] {
         if (!m_used.contains(&dock))
             m_used.append(&dock);
+        m_settled.start(); // perhaps a tab that nobody sees the view of
+        Q_EMIT shownChanged();
     });
-    connect(&dock, &ViewDock::closed, this, [this, &dock] { noteClosed(&dock); });
+    connect(&dock, &ViewDock::closed, this, [this, &dock] {
+        noteClosed(&dock);
+        Q_EMIT shownChanged();
+    });
 }
 
 QList<ViewDock *> Workplace::shown() const

@@ -60,6 +60,9 @@ Q_SIGNALS:
     // Another one, or none.
     void currentChanged();
 
+    // There are more views, or fewer.
+    void shownChanged();
+
     // The focus has gone into it.
     void entered(ORVTListview::ViewDock *dock);
 
