@@ -20,6 +20,21 @@ bool areAlike(QStringView one, QStringView other)
     return one.data() == other.data() || one == other;
 }
 
+// Of two texts, of which NEXT gives the next blocks behind what is alike already, each as
+// long as the other; WITHIN tells how much of two that differ is alike.
+template <typename Next, typename Within>
+qsizetype lengthAlike(qsizetype most, const Next &next, const Within &within)
+{
+    qsizetype alike = 0;
+    while (alike < most) {
+        const auto [mine, theirs] = next(alike, std::min(blockLength, most - alike));
+        if (!areAlike(mine, theirs))
+            return alike + within(mine, theirs);
+        alike += mine.size();
+    }
+    return alike;
+}
+
 } // namespace
 
 SharedText::SharedText(const QString &text)
@@ -96,31 +111,27 @@ SharedText SharedText::part(qsizetype start, qsizetype length) const
 qsizetype SharedText::alikeFrom(qsizetype start, const SharedText &other, qsizetype otherStart,
                                 qsizetype most) const
 {
-    qsizetype alike = 0;
-    while (alike < most) {
-        const qsizetype longest = std::min(blockLength, most - alike);
+    const auto next = [&](qsizetype alike, qsizetype longest) {
         const QStringView theirs = other.behind(otherStart + alike, longest);
         const QStringView mine = behind(start + alike, theirs.size());
-        if (!areAlike(mine, theirs.first(mine.size())))
-            return alike + ORVTListview::alikeAtStart(mine, theirs);
-        alike += mine.size();
-    }
-    return alike;
+        return std::pair(mine, theirs.first(mine.size()));
+    };
+    return lengthAlike(most, next, [](QStringView mine, QStringView theirs) {
+        return ORVTListview::alikeAtStart(mine, theirs);
+    });
 }
 
 qsizetype SharedText::alikeUpTo(qsizetype end, const SharedText &other, qsizetype otherEnd,
                                 qsizetype most) const
 {
-    qsizetype alike = 0;
-    while (alike < most) {
-        const qsizetype longest = std::min(blockLength, most - alike);
+    const auto next = [&](qsizetype alike, qsizetype longest) {
         const QStringView theirs = other.before(otherEnd - alike, longest);
         const QStringView mine = before(end - alike, theirs.size());
-        if (!areAlike(mine, theirs.last(mine.size())))
-            return alike + ORVTListview::alikeAtEnd(mine, theirs, mine.size());
-        alike += mine.size();
-    }
-    return alike;
+        return std::pair(mine, theirs.last(mine.size()));
+    };
+    return lengthAlike(most, next, [](QStringView mine, QStringView theirs) {
+        return ORVTListview::alikeAtEnd(mine, theirs, mine.size());
+    });
 }
 
 qsizetype SharedText::alikeAtStart(const SharedText &other) const
