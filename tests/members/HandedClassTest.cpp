@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <latch>
 #include <thread>
 #include <vector>
 
@@ -19,17 +20,20 @@ QList<Member> noMembers()
 
 TEST(HandedClass, ComesAndGoesWhileOthersAsk)
 {
-    constexpr int rounds = 20'000;
+    constexpr int rounds = 2'000'000;
+    std::latch begin(4);
     const QList<QMetaType> before = HandedClass::types();
     ASSERT_FALSE(before.isEmpty());
     std::atomic<int> missed = 0;
-    const auto comeAndGo = [] {
+    const auto comeAndGo = [&] {
+        begin.arrive_and_wait();
         for (int i = 0; i < rounds; ++i) {
             const HandedClass first(QMetaType::fromType<char *>(), &noMembers);
             const HandedClass second(QMetaType::fromType<short *>(), &noMembers);
         }
     };
     const auto ask = [&] {
+        begin.arrive_and_wait();
         for (int i = 0; i < rounds; ++i) {
             if (!HandedClass::members(before.constFirst()))
                 ++missed;
