@@ -124,7 +124,7 @@ void CodeView::setIndentGuidesShown(bool shown)
 {
     if (shown == indentGuidesShown())
         return;
-    d->indentGuides.setShown(shown);
+    d->indentGuides.setOn(shown);
     raiseEvent(*this, &CodeView::indentGuidesShownChanged, shown);
 }
 

@@ -21,7 +21,7 @@ CodeViewParts::CodeViewParts(RichTextBox &editorBox, const ProgramCommands &prog
     , currentLine(currentLineLayer(editorBox, layers))
     , wordUses(wordUseLayer(editorBox, layers))
     , pairs(pairLayer(editorBox, layers))
-    , indentGuides(editorBox, layers, LineLayer::indentGuides())
+    , indentGuides(editorBox, layers)
     , blanks(editorBox, layers, LineLayer::blankMarks())
     , zoom(editorBox, layers)
     , liveValues(editorBox, layers)

@@ -10,6 +10,7 @@
 #include "editor/view/FoundMarks.h"
 #include "editor/view/HostMarks.h"
 #include "editor/view/HoverTips.h"
+#include "editor/view/IndentGuides.h"
 #include "editor/view/LineLayer.h"
 #include "editor/view/LiveValues.h"
 #include "editor/view/MarkColumn.h"
@@ -49,7 +50,7 @@ struct CodeViewParts
     const std::unique_ptr<CaretLayer> currentLine;
     const std::unique_ptr<CaretLayer> wordUses;
     const std::unique_ptr<CaretLayer> pairs;
-    LineLayer indentGuides;
+    IndentGuides indentGuides;
     LineLayer blanks;
     Zoom zoom;
     LiveValues liveValues;

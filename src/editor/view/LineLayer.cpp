@@ -9,12 +9,6 @@ LineLayer::LineLayer(QPlainTextEdit &box, BoxLayers &layers, const Look &look)
 {
 }
 
-void LineLayer::paintBelow(QPainter &painter, const ShownLines &lines)
-{
-    if (m_look.below)
-        m_look.below(painter, lines, m_box);
-}
-
 void LineLayer::paintAbove(QPainter &painter, const ShownLines &lines)
 {
     if (m_look.above)

@@ -12,22 +12,16 @@ class LineLayer final : public BoxLayer
 public:
     using Paint = void (*)(QPainter &painter, const ShownLines &lines, const QPlainTextEdit &box);
 
-    // What paints below the text, or above it.
+    // What paints above the text.
     struct Look
     {
         int order = 0;
-        Paint below = nullptr;
         Paint above = nullptr;
     };
 
     LineLayer(QPlainTextEdit &box, BoxLayers &layers, const Look &look);
 
-    void paintBelow(QPainter &painter, const ShownLines &lines) override;
     void paintAbove(QPainter &painter, const ShownLines &lines) override;
-
-    // Thin lines down the indents of the lines, one at each tab stop; a blank line has
-    // those that the lines around it share.
-    static Look indentGuides();
 
     // Dots for the blanks of the lines, and arrows for their tabs.
     static Look blankMarks();

@@ -190,6 +190,28 @@ private Q_SLOTS:
         QCOMPARE(host.picture(*host.box().viewport()).copy(below), plain);
     }
 
+    void guidesOfABlankLineFollowTheLineBelow()
+    {
+        const ThreadState::Fresh state;
+        ViewHost host;
+        host.view().setIndentGuidesShown(true);
+        host.list->openProgram(u"\t\tTemp1\r\n\r\n\t\tFan1"_s);
+        host.box().setSelStart(host.box().lineStart(2) + 2);
+        QCoreApplication::processEvents();
+        const auto onScreen = [&] {
+            QCoreApplication::processEvents();
+            return host.form.screen()->grabWindow(host.form.winId()).toImage();
+        };
+        const QImage before = onScreen();
+        host.key(Qt::Key_Backspace);
+        host.key(Qt::Key_Backspace);
+        const QImage after = onScreen();
+        const QRect blank(host.box().viewport()->mapTo(&host.form, host.placeOf(1).topLeft()),
+                          QSize(200, host.placeOf(1).height()));
+        QVERIFY(before.copy(blank) != after.copy(blank));
+        QCOMPARE(after, host.form.grab().toImage().convertToFormat(after.format()));
+    }
+
     void theScreenShowsWhatPaintingAnewShows() { runSessions<Session>(6, 300); }
 };
 
