@@ -103,7 +103,7 @@ private Q_SLOTS:
     {
         Two two;
         Two::type(two.one, u" = 1 "_s);
-        connect(two.one.RTextBox(), &RichTextBox::Change, this,
+        connect(two.one.RTextBox(), &QPlainTextEdit::textChanged, this,
                 [&two] { two.one.codeView()->setHasOwnUndo(false); });
         Two::undo(two.one);
         QVERIFY(two.one.codeView()->hasOwnUndo());

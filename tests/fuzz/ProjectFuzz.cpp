@@ -32,7 +32,7 @@ std::optional<ProjectContents> contentsOf(const QByteArray &json)
 void checkSame(const ProjectContents &a, const ProjectContents &b)
 {
     demand(a.controller == b.controller && a.rows == b.rows && a.indexedNames == b.indexedNames &&
-               a.programFile == b.programFile,
+               a.programs == b.programs,
            "an edit changes nothing else");
 }
 
