@@ -1,7 +1,9 @@
 // The context menus of fields speak the library's language, without a translator of
 // the toolkit.
 
+#include "base/ThreadState.h"
 #include "find/fFind.h"
+#include "find/rules/SearchHistory.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/combo/ImageCombo.h"
@@ -82,7 +84,7 @@ Place shown(std::unique_ptr<QWidget> window)
 
 Place ofDialog()
 {
-    Place place = shown(std::make_unique<fFind>());
+    Place place = shown(std::make_unique<fFind>(threadPart<SearchHistories>()));
     auto *combo = place.window->findChild<QComboBox *>(u"Cbo0"_s);
     place.field = combo->lineEdit();
     place.target = combo->lineEdit();
