@@ -21,6 +21,7 @@
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 
 #include <utility>
@@ -137,6 +138,8 @@ int runForPicture(MainWindow &window, const Options &options)
 // The window is there before the project is.
 int runForUser(MainWindow &window, const Options &options, QSettings &store, const Settings &stored)
 {
+    constexpr double roomInFrame = 0.97;
+    window.resize(window.size().boundedTo(window.screen()->availableSize() * roomInFrame));
     keep(window, store, stored);
     const auto *picture = new FirstPicture(window);
     QObject::connect(picture, &FirstPicture::seen, &window, [&] {
