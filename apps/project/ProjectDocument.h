@@ -56,7 +56,7 @@ public:
     void carryOut(const RowChanges &rows);
 
     // Another list of programs, as a step.
-    void carryOut(const ProgramList &programs);
+    void carryOut(const ProgramList &list);
 
     // The editors show the programs of the step that was carried out last.
     void noteStepShown();
@@ -94,9 +94,9 @@ Q_SIGNALS:
 
 private:
     void apply(const RowChanges &changes);
-    void setPrograms(const ProgramList &programs);
+    void setPrograms(const ProgramList &list);
     ProgramState state() const;
-    bool isAt(qint32 program, const QString &text) const;
+    bool isAt(qint32 id, const QString &text) const;
 
     Editors m_editors;
     std::unique_ptr<Project> m_project;

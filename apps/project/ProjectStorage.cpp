@@ -257,7 +257,7 @@ Project::Saved Project::saveAt(const QString &fileName, const ProgramTexts &text
     }
     const QByteArray json = saving.into(m_contents.json, Theirs::Overwritten);
     files.append({fileName, json});
-    const Saved saved = keepVersionsBefore(files);
+    Saved saved = keepVersionsBefore(files);
     writeAll(files);
     m_fileName = fileName;
     m_programs.setList(list);

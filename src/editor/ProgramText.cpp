@@ -102,7 +102,7 @@ void ProgramText::takeHead()
 {
     RichTextBox sample;
     sample.setFont(m_box.font());
-    sample.setText(u"#GetInfo#\r\n#Another word"_s);
+    sample.setSelText(u"#GetInfo#\r\n#Another word"_s);
     sample.selectAll();
     EditorState &state = m_thread.state;
     state.RtfHeader =

@@ -12,11 +12,11 @@ QString askName(QWidget &window, const NameQuestion &question)
     QString name = question.name;
     QString reason;
     do {
-        const QString text =
+        const QString asked =
             reason.isEmpty() ? question.text : reason + QStringLiteral("\n\n") + question.text;
         bool isGiven = false;
-        name =
-            QInputDialog::getText(&window, question.title, text, QLineEdit::Normal, name, &isGiven);
+        name = QInputDialog::getText(&window, question.title, asked, QLineEdit::Normal, name,
+                                     &isGiven);
         if (!isGiven || !shown)
             return {};
         reason = question.fault(name);

@@ -31,7 +31,7 @@ std::shared_ptr<const Drawing> loaded(const QString &file)
 
 std::shared_ptr<const Drawing> drawingOf(const QString &file)
 {
-    if (const std::shared_ptr<const Drawing> ready = CompiledDrawings::of(file))
+    if (std::shared_ptr<const Drawing> ready = CompiledDrawings::of(file))
         return ready;
     return loaded(file);
 }

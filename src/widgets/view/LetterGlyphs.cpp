@@ -60,7 +60,10 @@ bool isDecorated(const QGlyphRun &run)
 void LetterGlyphs::Seen::note(qreal value)
 {
     const auto seen = static_cast<float>(value);
-    m_value = m_value == unknown || m_value == seen ? seen : ambiguous;
+    if (m_value == unknown)
+        m_value = seen;
+    else if (m_value != seen)
+        m_value = ambiguous;
 }
 
 void LetterGlyphs::setFont(const QFont &font)
