@@ -43,6 +43,7 @@ ProgramText::ProgramText(RichTextBox &box, const EditorThread &thread, EditorUnd
 void ProgramText::Init_RichTextBox(const RichTextSettings &Setting)
 {
     const MessagesLater later(m_thread.messages); // the text is not in the box meanwhile
+    const RichTextBox::Changing changing(m_box);  // whoever hears of it may destroy all this
     const UndoStore::Restoring sameText(m_undo.ring());
     auto &state = m_thread.state;
     const qint32 formerNvoColour = state.EditorSettings.nvoFPAColor;
@@ -73,7 +74,6 @@ void ProgramText::colourInPlace()
 
 void ProgramText::setAnew()
 {
-    const RichTextBox::Changing changing(m_box);
     const QString kept = m_box.Text();
     m_box.setUpdatesEnabled(false);
     const auto finish = qScopeGuard([this] { m_box.setUpdatesEnabled(true); });
