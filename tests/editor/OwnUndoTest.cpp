@@ -4,6 +4,7 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <QtGui/QTextDocument>
 #include <QtTest/QSignalSpy>
 
 using namespace ORVTListview;
@@ -103,7 +104,7 @@ private Q_SLOTS:
     {
         Two two;
         Two::type(two.one, u" = 1 "_s);
-        connect(two.one.RTextBox(), &QPlainTextEdit::textChanged, this,
+        connect(two.one.RTextBox()->document(), &QTextDocument::contentsChanged, this,
                 [&two] { two.one.codeView()->setHasOwnUndo(false); });
         Two::undo(two.one);
         QVERIFY(two.one.codeView()->hasOwnUndo());
