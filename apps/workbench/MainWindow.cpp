@@ -305,7 +305,7 @@ RichTextSettings MainWindow::shownAppearance() const
 
 void MainWindow::showPosition()
 {
-    m_status->showPosition(program().GetPositionDisplay());
+    m_status->showPosition(m_pages->showsProject() ? program().GetPositionDisplay() : QString());
 }
 
 void MainWindow::showProgramInfo()

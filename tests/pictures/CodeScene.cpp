@@ -2,10 +2,12 @@
 
 #include "editor/rules/colouring/ColourTable.h"
 #include "pictures/Scenes.h"
+#include "widgets/look/Pictures.h"
 #include "workbench/Appearance.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/HoverAnswer.h>
+#include <ORVTListview/ImageList.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/RichTextBox.h>
@@ -139,7 +141,9 @@ void addMarginAndMarks(CodePicture &code)
                              problem(9, 4, 12, ProblemSeverity::Hint)});
     MarginMark timed;
     timed.line = 5;
-    timed.picture = QIcon(u":/ORVTListview/pictures/timers.svg"_s);
+    ImageList pictures;
+    Pictures::fillInto(pictures);
+    timed.picture = pictures.Picture(u"Timers"_s);
     code.view().setMarks({timed});
     code.view().toggleBookmark();
     code.add(u"Numbers, the caret's line, a block, guides, problems, a bookmark, a host's mark"_s);
