@@ -174,6 +174,27 @@ TEST_F(SeveralPrograms, AllGoToAnotherPlace)
     EXPECT_EQ(again.programs().at(1).name, u"B"_s);
 }
 
+// Neither at the place of now nor at the other one is there a file then.
+TEST_F(SeveralPrograms, OneThatWasNeverSavedGoesToAnotherPlace)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    const qint32 other = project.makeProgram(u"B"_s);
+    project.setPrograms({project.programs().constFirst(), {other, u"B"_s}});
+    ASSERT_TRUE(QDir(m_folder.path({})).mkdir(u"sub"_s));
+    project.saveAt(m_folder.path(u"sub/q.json"_s), {{1, u"A\r\n"_s}, {other, u"B\r\n"_s}});
+    EXPECT_EQ(bytes(u"sub/a.prog"_s), "A\n");
+    EXPECT_EQ(bytes(u"sub/B.prog"_s), "B\n");
+}
+
+TEST_F(SeveralPrograms, NoneHasTheNameThatTheProjectIsGiven)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    ASSERT_TRUE(QDir(m_folder.path({})).mkdir(u"sub"_s));
+    project.saveAt(m_folder.path(u"sub/a.prog"_s), {{1, u"A\r\n"_s}});
+    EXPECT_EQ(bytes(u"sub/a-2.prog"_s), "A\n");
+    EXPECT_EQ(Project(m_folder.path(u"sub/a.prog"_s)).program(), u"A\r\n"_s);
+}
+
 TEST_F(SeveralPrograms, OnlyTheOneThatNeedsItBecomesUtf8)
 {
     m_folder.write(u"a.prog"_s, "REM \xFC\n"); // Windows-1252
