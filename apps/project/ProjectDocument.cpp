@@ -33,6 +33,15 @@ RowChanges changesTo(const ProjectTables &from, const ProjectTables &to)
     return changes;
 }
 
+// The programs that are as they were `from` become as they are in `to`, in the same order.
+void takeNames(ProgramList &list, const ProgramList &from, const ProgramList &to)
+{
+    for (ProjectProgram &program : list) {
+        const qsizetype known = from.indexOf(program);
+        program = known < 0 ? program : to.at(known);
+    }
+}
+
 } // namespace
 
 ProjectDocument::ProjectDocument(Editors editors, QObject *parent)
@@ -171,14 +180,19 @@ const ProjectStep *ProjectDocument::next(Way way, qint32 program) const
     return text != from.texts.cend() && isAt(program, *text) ? &step : nullptr;
 }
 
+// One that leaves the list takes what was typed in it along.
 qint32 ProjectDocument::obstacle(const ProjectStep &step, Way way) const
 {
     const ProgramState &from = way == Way::Back ? step.after : step.before;
-    for (const qint32 id : step.programs()) {
-        if (!isAt(id, from.texts.value(id)))
-            return id;
+    const ProgramState &to = way == Way::Back ? step.before : step.after;
+    QList<qint32> touched = step.programs();
+    for (const ProjectProgram &program : from.list) {
+        if (std::ranges::find(to.list, program.id, &ProjectProgram::id) == to.list.cend())
+            touched.append(program.id);
     }
-    return 0;
+    const auto other =
+        std::ranges::find_if(touched, [&](qint32 id) { return !isAt(id, from.texts.value(id)); });
+    return other == touched.cend() ? 0 : *other;
 }
 
 bool ProjectDocument::restoreTables(const QByteArray &json)
@@ -225,7 +239,12 @@ Project::Saved ProjectDocument::save(Project::Theirs theirs, Project::Encoding e
 
 Project::Saved ProjectDocument::saveAt(const QString &fileName, Project::Encoding encoding)
 {
+    const ProgramList former = m_project->programs();
     Project::Saved saved = m_project->saveAt(fileName, programs(), encoding);
+    for (ProjectStep &step : m_steps) {
+        takeNames(step.before.list, former, m_project->programs());
+        takeNames(step.after.list, former, m_project->programs());
+    }
     Q_EMIT programListChanged();
     Q_EMIT changed();
     return saved;

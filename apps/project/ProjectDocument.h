@@ -71,7 +71,7 @@ public:
     enum class Way { Back, Forward };
     const ProjectStep *next(Way way, qint32 program) const;
 
-    // A program that the step would change and that is not as the step knows it; 0 for none.
+    // A program that the step would change or remove and that is not as it knows it; 0 for none.
     qint32 obstacle(const ProjectStep &step, Way way) const;
 
     // The rows and the list of that step.

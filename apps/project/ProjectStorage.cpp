@@ -2,6 +2,7 @@
 
 #include "project/Project.h"
 
+#include "base/FilePlace.h"
 #include "project/KeptVersion.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectError.h"
@@ -211,15 +212,17 @@ Project::Saved Project::save(const ProgramTexts &texts, Theirs theirs, Encoding 
 QMap<qint32, QString> Project::placesBeside(const QString &fileName) const
 {
     const QStringList replaced = programsOf(fileName);
-    const bool isSamePlace = QFileInfo(fileName) == QFileInfo(m_fileName);
+    const bool isSamePlace = isOneFile(fileName, m_fileName);
     QMap<qint32, QString> places;
     for (const ProjectProgram &program : programs()) {
         const QFileInfo own(programFile(program.id));
         const auto isFree = [&](const QString &name) {
-            const QFileInfo place(programPath(fileName, name));
-            if (places.values().contains(name))
+            const QString place = programPath(fileName, name);
+            if (places.values().contains(name) || isOneFile(place, fileName))
                 return false;
-            return place == own ? isSamePlace : !place.exists() || replaced.contains(name);
+            if (isOneFile(place, own.filePath()))
+                return isSamePlace;
+            return !QFileInfo::exists(place) || replaced.contains(name);
         };
         const QString base = QFileInfo(fileName).completeBaseName();
         const QString suffix = own.suffix().isEmpty() ? QString() : u'.' + own.suffix();

@@ -2,12 +2,15 @@
 
 #include "apps/ProjectFolder.h"
 #include "project/Project.h"
+#include "project/ProjectDocument.h"
 #include "project/ProjectError.h"
 #include "project/TextFile.h"
 #include "support/QtPrinters.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+
+#include <memory>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -172,6 +175,62 @@ TEST_F(SeveralPrograms, AllGoToAnotherPlace)
     EXPECT_EQ(again.program(1), u"A\r\n"_s);
     EXPECT_EQ(again.program(2), u"B\r\n"_s);
     EXPECT_EQ(again.programs().at(1).name, u"B"_s);
+}
+
+// Neither at the place of now nor at the other one is there a file then.
+TEST_F(SeveralPrograms, OneThatWasNeverSavedGoesToAnotherPlace)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    const qint32 other = project.makeProgram(u"B"_s);
+    project.setPrograms({project.programs().constFirst(), {other, u"B"_s}});
+    ASSERT_TRUE(QDir(m_folder.path({})).mkdir(u"sub"_s));
+    project.saveAt(m_folder.path(u"sub/q.json"_s), {{1, u"A\r\n"_s}, {other, u"B\r\n"_s}});
+    EXPECT_EQ(bytes(u"sub/a.prog"_s), "A\n");
+    EXPECT_EQ(bytes(u"sub/B.prog"_s), "B\n");
+}
+
+TEST_F(SeveralPrograms, NoneHasTheNameThatTheProjectIsGiven)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    ASSERT_TRUE(QDir(m_folder.path({})).mkdir(u"sub"_s));
+    project.saveAt(m_folder.path(u"sub/a.prog"_s), {{1, u"A\r\n"_s}});
+    EXPECT_EQ(bytes(u"sub/a-2.prog"_s), "A\n");
+    EXPECT_EQ(Project(m_folder.path(u"sub/a.prog"_s)).program(), u"A\r\n"_s);
+}
+
+TEST_F(SeveralPrograms, OneThatHasATextDoesNotGoUnseen)
+{
+    ProgramTexts typed;
+    ProjectDocument document({[&](qint32 id) { return typed.value(id); },
+                              [&](qint32 id) { return typed.value(id).size(); }});
+    document.setProject(std::make_unique<Project>(m_folder.path(u"p.json"_s)));
+    Project &project = *document.project();
+    typed[1] = project.program();
+    const qint32 night = project.makeProgram(u"Night"_s);
+    document.carryOut(project.programs() + ProgramList{{night, u"Night"_s}});
+    document.noteStepShown();
+    constexpr auto back = ProjectDocument::Way::Back;
+    ASSERT_TRUE(document.next(back, 1));
+    EXPECT_EQ(document.obstacle(*document.next(back, 1), back), 0);
+    typed[night] = u"REM n"_s;
+    EXPECT_EQ(document.obstacle(*document.next(back, 1), back), night);
+    EXPECT_FALSE(document.next(back, 0));
+}
+
+TEST_F(SeveralPrograms, TheNameOfAnotherPlaceStaysWithUndo)
+{
+    ProgramTexts typed;
+    ProjectDocument document({[&](qint32 id) { return typed.value(id); },
+                              [&](qint32 id) { return typed.value(id).size(); }});
+    document.setProject(std::make_unique<Project>(m_folder.path(u"p.json"_s)));
+    Project &project = *document.project();
+    document.carryOut(
+        RowChanges{{dsInput, 0, project.rows(dsInput).at(0), project.renamed(dsInput, 0, u"J"_s)}});
+    document.saveAt(m_folder.path(u"copy.json"_s), Project::Encoding::ItsOwn);
+    EXPECT_EQ(project.programs().at(0).name, u"copy.prog"_s);
+    document.go(ProjectDocument::Way::Back);
+    EXPECT_EQ(project.rows(dsInput).at(0).name, u"I"_s);
+    EXPECT_EQ(project.programs().at(0).name, u"copy.prog"_s);
 }
 
 TEST_F(SeveralPrograms, OnlyTheOneThatNeedsItBecomesUtf8)
