@@ -32,7 +32,7 @@ QSize sizeOf(const QByteArray &content)
 
 } // namespace
 
-std::shared_ptr<const Drawing> FileDrawing::of(const QString &file)
+std::shared_ptr<const FileDrawing> FileDrawing::of(const QString &file)
 {
     QFile source(file);
     if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly))
@@ -41,7 +41,7 @@ std::shared_ptr<const Drawing> FileDrawing::of(const QString &file)
     const QSize size = sizeOf(content);
     if (size.isEmpty())
         return {};
-    return std::shared_ptr<const Drawing>(new FileDrawing(std::move(content), size));
+    return std::shared_ptr<const FileDrawing>(new FileDrawing(std::move(content), size));
 }
 
 FileDrawing::FileDrawing(QByteArray content, QSize size)

@@ -3,8 +3,10 @@
 #include "widgets/look/Drawing.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QHash>
 #include <QtCore/QString>
 
+#include <cstddef>
 #include <memory>
 
 namespace ORVTListview {
@@ -16,7 +18,10 @@ class FileDrawing final : public Drawing
 {
 public:
     // Null for a file that is no picture.
-    static std::shared_ptr<const Drawing> of(const QString &file);
+    static std::shared_ptr<const FileDrawing> of(const QString &file);
+
+    // Of what the file held, to tell it from what it held at another time.
+    std::size_t fingerprint() const { return qHash(m_content, 0); }
 
     QSizeF size() const override;
     void paint(QPainter *painter, const QRectF &area) const override;

@@ -21,18 +21,24 @@ namespace {
     throw Error(InvalidCall, u"ImageList.Add"_s, reason);
 }
 
-std::shared_ptr<const Drawing> loaded(const QString &file)
+struct Found
 {
-    std::shared_ptr<const Drawing> drawing = FileDrawing::of(file);
+    QString name; // of what is drawn
+    std::shared_ptr<const Drawing> drawing;
+};
+
+Found loaded(const QString &file)
+{
+    const std::shared_ptr<const FileDrawing> drawing = FileDrawing::of(file);
     if (!drawing)
         refuse(u"Not a picture that can be read: "_s + file);
-    return drawing;
+    return {file + u'|' + QString::number(drawing->fingerprint()), drawing};
 }
 
-std::shared_ptr<const Drawing> drawingOf(const QString &file)
+Found drawingOf(const QString &file)
 {
-    if (std::shared_ptr<const Drawing> ready = CompiledDrawings::of(file))
-        return ready;
+    if (const std::shared_ptr<const Drawing> ready = CompiledDrawings::of(file))
+        return {file, ready};
     return loaded(file);
 }
 
@@ -60,7 +66,8 @@ ImageList::~ImageList() = default;
 void ImageList::Add(const QString &Key, qint32 Index, const QString &SvgFile, Look Drawn)
 {
     refuseUnlessFree(Key, Index);
-    const QIcon icon(new PictureEngine(SvgFile, drawingOf(SvgFile), Drawn == Look::Pressed));
+    const Found found = drawingOf(SvgFile);
+    const QIcon icon(new PictureEngine(found.name, found.drawing, Drawn == Look::Pressed));
     d->entries[Index] = {Key, icon};
     d->indexes.insert(Key, Index);
 }

@@ -91,8 +91,8 @@ qreal scaleOf(const QPainter &painter)
 
 } // namespace
 
-PictureEngine::PictureEngine(QString file, std::shared_ptr<const Drawing> drawing, bool isPressed)
-    : m_file(std::move(file))
+PictureEngine::PictureEngine(QString name, std::shared_ptr<const Drawing> drawing, bool isPressed)
+    : m_name(std::move(name))
     , m_drawing(std::move(drawing))
     , m_isPressed(isPressed)
 {
@@ -143,7 +143,7 @@ QPixmap PictureEngine::cached(int side, const QColor &tint)
     const QString name =
         u"%1|%2|%3|%4|"_s.arg(key(), QString::number(static_cast<int>(m_isPressed)),
                               QString::number(side), QString::number(fillColour)) +
-        m_file;
+        m_name;
     QPixmap picture;
     if (!QPixmapCache::find(name, &picture)) {
         picture = QPixmap::fromImage(drawn(side, tint));

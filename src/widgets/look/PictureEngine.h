@@ -9,12 +9,12 @@ namespace ORVTListview {
 class Drawing;
 
 // Draws one picture of an ImageList, or it in negative as on a pressed button. Drawn pixmaps are
-// kept in Qt's pixmap cache under the file's name, so that equal pictures of several lists are
+// kept in Qt's pixmap cache under the drawing's name, so that equal pictures of several lists are
 // drawn once.
 class PictureEngine final : public QIconEngine
 {
 public:
-    PictureEngine(QString file, std::shared_ptr<const Drawing> drawing, bool isPressed);
+    PictureEngine(QString name, std::shared_ptr<const Drawing> drawing, bool isPressed);
     ~PictureEngine() override;
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override;
@@ -32,7 +32,7 @@ private:
     QImage pressed(int side);
     QRectF fitted(const QRectF &area);
 
-    QString m_file;
+    QString m_name;
     std::shared_ptr<const Drawing> m_drawing; // shared by clones
     bool m_isPressed;
 };

@@ -1,5 +1,6 @@
 #include "widgets/view/LetterGlyphs.h"
 
+#include <QtGui/QFontInfo>
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QTextLayout>
 
@@ -52,7 +53,7 @@ bool looksFar(const QRawFont &font)
 
 bool isDecorated(const QGlyphRun &run)
 {
-    return run.overline() || run.underline() || run.strikeOut() || run.isRightToLeft();
+    return run.overline() || run.underline() || run.strikeOut();
 }
 
 } // namespace
@@ -66,13 +67,21 @@ void LetterGlyphs::Seen::note(qreal value)
         m_value = ambiguous;
 }
 
+// Fonts that are the same may be of other sizes on another screen.
+bool LetterGlyphs::isFont(const QFont &font) const
+{
+    return font.isCopyOf(m_font) ||
+           (font == m_font && QFontInfo(font).pixelSize() == QFontInfo(m_font).pixelSize());
+}
+
+// Where only the first letter of a word is a capital, a letter is drawn by where it stands.
 void LetterGlyphs::setFont(const QFont &font)
 {
-    if (font == m_font)
+    if (isFont(font))
         return;
     m_font = font;
     m_rawFont = {};
-    m_isPredictable = true;
+    m_isPredictable = font.capitalization() == QFont::MixedCase;
     m_letters.clear();
 }
 
@@ -95,8 +104,8 @@ bool LetterGlyphs::isLikeThoseBefore(const QGlyphRun &run, const QTextLine &line
                               : 0;
         m_letters.resize(2 * codes);
     }
-    return m_isPredictable && run.rawFont() == m_rawFont && line.height() == m_height &&
-           base == m_base;
+    return m_isPredictable && !run.isRightToLeft() && run.rawFont() == m_rawFont &&
+           line.height() == m_height && base == m_base;
 }
 
 void LetterGlyphs::learn(const QString &text, const QTextLine &line)

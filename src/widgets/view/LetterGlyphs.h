@@ -65,6 +65,7 @@ private:
         std::vector<Seen> steps; // to the letter that follows
     };
 
+    bool isFont(const QFont &font) const;
     Letter &letterOf(QChar letter, bool isLatin);
     bool isLikeThoseBefore(const QGlyphRun &run, const QTextLine &line);
 

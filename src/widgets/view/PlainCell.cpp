@@ -2,6 +2,7 @@
 
 #include "widgets/view/LetterGlyphs.h"
 
+#include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QStyle>
@@ -89,12 +90,18 @@ std::optional<LetterGlyphs::Line> knownLine(const QStyleOptionViewItem &cell, in
     return elided ? letters.lineOf(*elided) : std::nullopt;
 }
 
+// What records or prints takes down texts, and has none of glyphs alone.
+bool takesGlyphs(const QPainter &painter)
+{
+    return painter.paintEngine()->type() == QPaintEngine::Raster;
+}
+
 // Without shaping it, if it stands at a side.
 bool drawKnown(QPainter &painter, const QStyleOptionViewItem &cell, const QRect &room,
                LetterGlyphs &letters)
 {
     const bool isInside = (cell.displayAlignment & (Qt::AlignHCenter | Qt::AlignJustify)) != 0;
-    if (isInside || cell.direction == Qt::RightToLeft)
+    if (isInside || cell.direction == Qt::RightToLeft || !takesGlyphs(painter))
         return false;
     const std::optional<LetterGlyphs::Line> line = knownLine(cell, room.width(), letters);
     if (!line)

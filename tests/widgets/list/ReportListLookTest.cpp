@@ -6,8 +6,10 @@
 #include "widgets/list/ReportListFixture.h"
 #include "widgets/view/LongestText.h"
 
+#include <QtCore/QDataStream>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QAccessible>
+#include <QtGui/QPicture>
 #include <QtGui/QPixmap>
 #include <QtGui/QScreen>
 #include <QtGui/QTextDocumentFragment>
@@ -97,6 +99,7 @@ private Q_SLOTS:
     void paintsTheBeginningsOfLongCells();
     void drawsTextsAsTheStyleDoes_data();
     void drawsTextsAsTheStyleDoes();
+    void givesTextsToWhatRecordsThem();
     void tipsLongHeaders();
     void showsWhereTheFocusIs();
     void showsEachCellOnOneLine();
@@ -258,6 +261,21 @@ void ReportListLookTest::drawsTextsAsTheStyleDoes()
     QCOMPARE(pictureOf(*shown->viewport()), low);
     shown.item(1)->setSubItem(1, u"other"_s);
     QVERIFY(low != pictureOf(*shown->viewport()));
+}
+
+void ReportListLookTest::givesTextsToWhatRecordsThem()
+{
+    const ShownList shown(3, 1);
+    const QString text = u"Rec"_s;
+    shown.item(2)->setText(text);
+    for (int i = 0; i < 3; ++i)
+        pictureOf(*shown->viewport()); // which knows its letters then
+    QPicture record;
+    shown->viewport()->render(&record);
+    QByteArray wanted;
+    QDataStream stream(&wanted, QIODevice::WriteOnly);
+    stream << text;
+    QVERIFY(QByteArray(record.data(), static_cast<qsizetype>(record.size())).contains(wanted));
 }
 
 void ReportListLookTest::tipsLongHeaders()

@@ -19,6 +19,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QColor red(0xd7, 0x33, 0x37);
+constexpr auto inkedSvg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 4 4'>"
+                          "<rect fill='INK' width='4' height='4'/></svg>";
 constexpr std::array sizes{16, 24, 32, 48, 64};
 constexpr std::array ratios{1.0, 1.25, 1.5, 2.0, 3.0};
 
@@ -90,6 +92,7 @@ private Q_SLOTS:
     void pressedOfAnEmptyDrawingIsHarmless();
     void emptiedCacheIsRefilled();
     void equalPicturesOfTwoListsAreDrawnOnce();
+    void aFileThatHasChangedIsAnotherPicture();
     void detachedCopyStillDraws();
 
 private:
@@ -403,6 +406,16 @@ void ImageListTest::equalPicturesOfTwoListsAreDrawnOnce()
     const QPixmap one = picture(m_half).pixmap(QSize(16, 16), 1.0);
     const QPixmap other = picture(m_half).pixmap(QSize(16, 16), 1.0);
     QCOMPARE(one.cacheKey(), other.cacheKey());
+}
+
+void ImageListTest::aFileThatHasChangedIsAnotherPicture()
+{
+    const QString file = write(u"changing.svg"_s, QByteArray(inkedSvg).replace("INK", "red"));
+    const QIcon former = picture(file);
+    QCOMPARE(Pixels::of(former, 16).pixelColor(8, 8), QColor(Qt::red));
+    write(u"changing.svg"_s, QByteArray(inkedSvg).replace("INK", "blue"));
+    QCOMPARE(Pixels::of(picture(file), 16).pixelColor(8, 8), QColor(Qt::blue));
+    QCOMPARE(Pixels::of(former, 16).pixelColor(8, 8), QColor(Qt::red));
 }
 
 void ImageListTest::detachedCopyStillDraws()

@@ -4,6 +4,7 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <QtGui/QImage>
 #include <QtGui/QTextLayout>
 
 using namespace ORVTListview;
@@ -132,6 +133,56 @@ private Q_SLOTS:
         QVERIFY(letters.lineOf(u"ab"_s));
         learn(letters, u"cdcd"_s, QFont());
         QVERIFY(!letters.lineOf(u"cd"_s));
+    }
+
+    // Which is the same font.
+    void nothingIsKnownOfAnotherScreen()
+    {
+        QImage screen(1, 1, QImage::Format_RGB32);
+        screen.setDotsPerMeterX(2 * screen.dotsPerMeterX());
+        screen.setDotsPerMeterY(2 * screen.dotsPerMeterY());
+        const QFont there(QFont(), &screen);
+        QVERIFY(there == QFont());
+        LetterGlyphs letters;
+        letters.setFont(QFont());
+        learn(letters, u"abab"_s, QFont());
+        QVERIFY(letters.lineOf(u"ab"_s));
+        letters.setFont(there);
+        QVERIFY(!letters.lineOf(u"ab"_s));
+    }
+
+    // A letter at the beginning of a word is another one.
+    void capitalsAreTheToolkits()
+    {
+        for (const QFont::Capitalization way :
+             {QFont::Capitalize, QFont::SmallCaps, QFont::AllUppercase}) {
+            QFont font;
+            font.setCapitalization(way);
+            LetterGlyphs letters;
+            letters.setFont(font);
+            learn(letters, u"abcabc"_s, font);
+            QVERIFY(!letters.lineOf(u"bc"_s));
+        }
+    }
+
+    // Brackets are drawn the other way round there.
+    void textsFromTheRightTeachNothing()
+    {
+        QTextLayout layout(u"(((("_s, QFont());
+        QTextOption fromTheRight;
+        fromTheRight.setTextDirection(Qt::RightToLeft);
+        layout.setTextOption(fromTheRight);
+        layout.setCacheEnabled(true);
+        layout.beginLayout();
+        const QTextLine line = layout.createLine();
+        layout.endLayout();
+        LetterGlyphs letters;
+        letters.setFont(QFont());
+        learn(letters, u"."_s, QFont()); // of no script either
+        letters.learn(layout.text(), line);
+        QVERIFY(!letters.lineOf(u"("_s));
+        learn(letters, u"("_s, QFont());
+        QVERIFY(letters.lineOf(u"("_s));
     }
 
     // What is drawn in more than one way: from the right, as one, below a line, by another font.
