@@ -1185,14 +1185,20 @@ Entfernen?</translation>
         <translation>Programm umbenennen</translation>
     </message>
     <message>
-        <source>Remove Program</source>
-        <translation>Programm entfernen</translation>
+        <source>Remove the program %1 from the project?
+What is not saved of it comes back only with Undo.</source>
+        <translation>Das Programm %1 aus dem Projekt entfernen?
+Was davon nicht gespeichert ist, kommt nur mit Rückgängig zurück.</translation>
     </message>
     <message>
         <source>Remove the program %1 from the project?
 Its file %2 stays where it is.</source>
         <translation>Das Programm %1 aus dem Projekt entfernen?
 Seine Datei %2 bleibt, wo sie ist.</translation>
+    </message>
+    <message>
+        <source>Remove Program</source>
+        <translation>Programm entfernen</translation>
     </message>
 </context>
 <context>
@@ -1298,6 +1304,12 @@ Aus der Liste nehmen?</translation>
     <message>
         <source>Projects (*.json)</source>
         <translation>Projekte (*.json)</translation>
+    </message>
+    <message>
+        <source>The project %1 has changes that are not saved.
+Save them?</source>
+        <translation>Das Projekt %1 hat Änderungen, die nicht gespeichert sind.
+Speichern?</translation>
     </message>
     <message>
         <source>The program %1 has changes that are not saved.

@@ -1185,14 +1185,20 @@ Remove it?</source>
         <translation>Cambiar el nombre del programa</translation>
     </message>
     <message>
-        <source>Remove Program</source>
-        <translation>Quitar el programa</translation>
+        <source>Remove the program %1 from the project?
+What is not saved of it comes back only with Undo.</source>
+        <translation>¿Quitar el programa %1 del proyecto?
+Lo que no está guardado de él solo vuelve con Deshacer.</translation>
     </message>
     <message>
         <source>Remove the program %1 from the project?
 Its file %2 stays where it is.</source>
         <translation>¿Quitar el programa %1 del proyecto?
 Su archivo %2 queda donde está.</translation>
+    </message>
+    <message>
+        <source>Remove Program</source>
+        <translation>Quitar el programa</translation>
     </message>
 </context>
 <context>
@@ -1298,6 +1304,12 @@ Take it off the list?</source>
     <message>
         <source>Projects (*.json)</source>
         <translation>Proyectos (*.json)</translation>
+    </message>
+    <message>
+        <source>The project %1 has changes that are not saved.
+Save them?</source>
+        <translation>El proyecto %1 tiene cambios sin guardar.
+¿Guardarlos?</translation>
     </message>
     <message>
         <source>The program %1 has changes that are not saved.

@@ -1185,14 +1185,20 @@ Le supprimer&#xa0;?</translation>
         <translation>Renommer le programme</translation>
     </message>
     <message>
-        <source>Remove Program</source>
-        <translation>Supprimer le programme</translation>
+        <source>Remove the program %1 from the project?
+What is not saved of it comes back only with Undo.</source>
+        <translation>Supprimer le programme %1 du projet&#xa0;?
+Ce qui n’en est pas enregistré ne revient qu’avec Annuler.</translation>
     </message>
     <message>
         <source>Remove the program %1 from the project?
 Its file %2 stays where it is.</source>
         <translation>Supprimer le programme %1 du projet&#xa0;?
 Son fichier %2 reste où il est.</translation>
+    </message>
+    <message>
+        <source>Remove Program</source>
+        <translation>Supprimer le programme</translation>
     </message>
 </context>
 <context>
@@ -1298,6 +1304,12 @@ Le retirer de la liste&#xa0;?</translation>
     <message>
         <source>Projects (*.json)</source>
         <translation>Projets (*.json)</translation>
+    </message>
+    <message>
+        <source>The project %1 has changes that are not saved.
+Save them?</source>
+        <translation>Le projet %1 a des modifications non enregistrées.
+Les enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>The program %1 has changes that are not saved.

@@ -58,8 +58,8 @@ public:
     QString programFile(qint32 id) const;
     QString programFile() const { return programFile(firstProgram()); }
 
-    // What an editor makes of program() when it shows it; the same at first. Saving takes
-    // a line that is still so from the file.
+    // What an editor makes of program() when it shows it; the same at first, nothing for one
+    // taken over from somebody else. Saving takes a line that is still so from the file.
     void setShownProgram(qint32 id, const QString &shown) { m_programs.part(id).shown = shown; }
     const QString &shownProgram(qint32 id) const { return m_programs.part(id).shown; }
 
@@ -104,14 +104,14 @@ public:
     const QByteArray &json() const { return m_contents.json; }
 
     // Puts the changed tables into the project's file. Raises Error and leaves the file when
-    // it cannot be written or would be none that can be read. Tables that somebody else has
-    // changed meanwhile, and that are not changed here, are taken over; true if any is.
+    // it cannot be written or would be none that can be read. Tables, and the list of programs,
+    // that somebody else has changed, and nobody here, are taken over; true if any is.
     bool saveTables(Theirs theirs = Theirs::Kept);
 
     // What came of saving beside what was asked for.
     struct Saved
     {
-        bool takesOver = false; // tables that somebody else has changed
+        bool takesOver = false; // what somebody else has changed, tables or the list of programs
         QString notKept;        // why a version before could not be kept; empty when it could
     };
 

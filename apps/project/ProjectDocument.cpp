@@ -227,10 +227,13 @@ void ProjectDocument::apply(const RowChanges &changes)
 
 Project::Saved ProjectDocument::save(Project::Theirs theirs, Project::Encoding encoding)
 {
+    const ProgramList former = m_project->programs();
     Project::Saved saved = m_project->save(programs(), theirs, encoding);
     if (saved.takesOver) {
         m_steps.clear();
         m_done = 0;
+        if (m_project->programs() != former)
+            Q_EMIT programListChanged();
         Q_EMIT tablesChanged();
     }
     Q_EMIT changed();

@@ -76,6 +76,22 @@ void writeProgram(const QString &fileName, const QByteArray &bytes, ProjectProgr
     part.shown = part.text.text();
 }
 
+// The list as somebody else has saved it, with the texts of the programs that are new here.
+void takeList(ProjectPrograms &programs, const QList<ProgramEntry> &theirs, const QString &fileName)
+{
+    for (const ProgramEntry &entry : theirs) {
+        if (programs.hasFile(entry.file))
+            continue;
+        ProjectPrograms::Part &part = programs.part(programs.make(entry.file));
+        try {
+            part.text = ProgramFile(readFile(programPath(fileName, entry.file)));
+        } catch (const Error &) {
+            continue; // it is told when the project is opened the next time
+        }
+    }
+    programs.setList(programs.listOf(theirs));
+}
+
 Project::Saved keepVersionsBefore(const QList<NewFile> &files)
 {
     Project::Saved saved;
@@ -104,10 +120,15 @@ bool Project::saveTables(Theirs theirs)
     const QByteArray json = tableSaving().into(there, theirs);
     writeFile(m_fileName, json);
     const ProjectTables before = m_contents.rows;
-    if (there != m_contents.json)
-        takeOver(readContents(JsonPlace::parse(there, m_fileName)).rows);
+    const ProgramList listBefore = programs();
+    if (there != m_contents.json) {
+        const ProjectContents contents = readContents(JsonPlace::parse(there, m_fileName));
+        takeOver(contents.rows);
+        if (m_programs.entries() == m_savedPrograms)
+            takeList(m_programs, contents.programs, m_fileName);
+    }
     noteSaved(json);
-    return m_saved != before;
+    return m_saved != before || programs() != listBefore;
 }
 
 void Project::noteSaved(const QByteArray &json)

@@ -96,11 +96,21 @@ void CheckModel::retranslate()
                            {Qt::DisplayRole});
 }
 
+// What is told of one that has gone goes, too; problems are told anew by themselves.
 void CheckModel::setPrograms(const ProgramList &programs)
 {
     m_programs = programs;
-    if (rowCount() > 0)
+    if (m_content == Content::Problems) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::DisplayRole});
+        return;
+    }
+    const auto isGone = [&programs](qint32 id) {
+        return id > 0 && std::ranges::find(programs, id, &ProjectProgram::id) == programs.cend();
+    };
+    beginResetModel();
+    m_statements.removeIf([&](const ListedStatement &each) { return isGone(each.program); });
+    m_uses.removeIf([&](const ShownUse &each) { return isGone(each.place.program); });
+    endResetModel();
 }
 
 // Empty where there is one.

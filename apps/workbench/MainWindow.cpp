@@ -46,6 +46,7 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -53,6 +54,23 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace {
+
+// A program that comes into the list, or back into it. One that somebody else has put there has
+// not been shown yet.
+void showAnew(qint32 id, const ProjectDocument &document, ORVListView &view,
+              const RichTextSettings &appearance)
+{
+    Project &project = *document.project();
+    view.Init_RichTextBox(appearance);
+    if (!project.shownProgram(id).isEmpty() || project.program(id).isEmpty())
+        return;
+    view.codeView()->openProgram(project.program(id));
+    project.setShownProgram(id, document.program(id));
+}
+
+} // namespace
 
 MainWindow::MainWindow(Languages &languages, QWidget *parent)
     : QMainWindow(parent)
@@ -144,7 +162,13 @@ void MainWindow::connectEditor(ORVListView &list)
 
 void MainWindow::takePrograms()
 {
+    const ProgramList former = m_view->programs().list();
     m_view->takePrograms();
+    for (const ProjectProgram &program : m_view->programs().list()) {
+        if (std::ranges::find(former, program.id, &ProjectProgram::id) == former.cend())
+            showAnew(program.id, *m_document, m_view->programs().view(program.id),
+                     shownAppearance());
+    }
     m_results->setPrograms(m_document->project()->programs());
     m_analyses->takeList();
     showProgramInfo();

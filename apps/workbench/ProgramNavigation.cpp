@@ -44,6 +44,13 @@ LwType typeOf(WordClass wordClass)
     }
 }
 
+// A program may have left the project since.
+bool isThere(const ResultPlace &place, const ProgramList &programs)
+{
+    return place.line == 0 ||
+           std::ranges::find(programs, place.program, &ProjectProgram::id) != programs.cend();
+}
+
 } // namespace
 
 ProgramNavigation::ProgramNavigation(ProjectView &view, ProgramAnalyses &analyses,
@@ -77,6 +84,8 @@ void ProgramNavigation::fillMenu(QMenu &menu)
 
 void ProgramNavigation::goTo(const ResultPlace &place)
 {
+    if (!isThere(place, m_view.programs().list()))
+        return;
     remember();
     show(place);
     // A second click of a double click goes where the first one went.
@@ -98,6 +107,8 @@ void ProgramNavigation::goToPoint()
 
 void ProgramNavigation::back()
 {
+    m_former.removeIf(
+        [this](const ResultPlace &place) { return !isThere(place, m_view.programs().list()); });
     if (m_former.isEmpty())
         Q_EMIT told(tr("There is no place to go back to."));
     else

@@ -177,6 +177,27 @@ TEST_F(SeveralPrograms, AllGoToAnotherPlace)
     EXPECT_EQ(again.programs().at(1).name, u"B"_s);
 }
 
+// Somebody else has added one while only a table was changed here.
+TEST_F(SeveralPrograms, TheListOfSomebodyElseIsTakenOver)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    project.rename(dsInput, 0, u"J"_s);
+    m_folder.write(u"b.prog"_s, "B\n");
+    m_folder.write(u"p.json"_s,
+                   withProgramEntries(oneProgram, u"p.json"_s,
+                                      {{u"a.prog"_s, u"a.prog"_s}, {u"B"_s, u"b.prog"_s}}));
+    const ProgramTexts texts{{1, project.program()}};
+    EXPECT_TRUE(project.save(texts, Project::Theirs::Overwritten).takesOver);
+    ASSERT_EQ(project.programs().size(), 2);
+    EXPECT_EQ(project.program(2), u"B\r\n"_s);
+    EXPECT_FALSE(project.hasChangedTables());
+    const qint32 other = project.makeProgram(u"C"_s);
+    project.setPrograms(project.programs() + ProgramList{{other, u"C"_s}});
+    project.save({{1, project.program()}, {2, u"B\r\n"_s}, {other, u"C\r\n"_s}},
+                 Project::Theirs::Kept);
+    EXPECT_EQ(Project(m_folder.path(u"p.json"_s)).programs().size(), 3);
+}
+
 // Neither at the place of now nor at the other one is there a file then.
 TEST_F(SeveralPrograms, OneThatWasNeverSavedGoesToAnotherPlace)
 {

@@ -7,7 +7,9 @@
 #include "project/ProjectDocument.h"
 #include "project/RecoveryFile.h"
 #include "support/TestProgram.h"
+#include "workbench/EditorViewMenu.h"
 #include "workbench/saving/RecoveryKeeper.h"
+#include "workbench/settings/Settings.h"
 #include "workbench/views/ProgramViews.h"
 #include "workbench/views/TableViews.h"
 #include "workbench/views/ViewDock.h"
@@ -173,6 +175,25 @@ private Q_SLOTS:
         QCOMPARE(one.saved(), "Fan1 = Temp1\n");
     }
 
+    // What was typed in it would vanish unseen, and nothing would be left to save.
+    void oneThatHasATextIsNotTakenBackFromAnother()
+    {
+        WorkbenchWindow one("Fan1 = Temp1\n");
+        NextDialog<QInputDialog> dialog([](QInputDialog &asked) {
+            asked.setTextValue(u"Night"_s);
+            asked.accept();
+        });
+        one.choose(u"Add Program…"_s);
+        ProgramViews &programs = one.views().programs();
+        QTest::keyClicks(programs.view(2).RTextBox(), u"REM n "_s);
+        one.views().enterProgram(1);
+        one.key(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(!programs.dock(2).isHidden());
+        QVERIFY(programs.view(2).CodeText().startsWith(u"REM n"_s));
+        QVERIFY(one.window.isWindowModified());
+        QVERIFY(one.window.statusBar()->currentMessage().contains(u"Night"_s));
+    }
+
     void theFunctionsOfTheControllerStayKnown()
     {
         WorkbenchWindow one("Fan1 = SQRT ( Temp1 )\n");
@@ -219,6 +240,62 @@ private Q_SLOTS:
         QCOMPARE(two.text(2), typed);
         two.choose(u"Save"_s);
         QVERIFY(two.bytes(u"b.prog"_s).startsWith("REM x"));
+    }
+
+    void oneThatComesBackLooksLikeTheOthers()
+    {
+        TwoPrograms two;
+        two.views().enterProgram(2);
+        const NextMessage question(QMessageBox::Yes);
+        two.choose(u"Remove Program…"_s);
+        Settings settings = two.window.settings();
+        settings.look.fontSize = 23;
+        two.window.setSettings(settings);
+        for (QAction *action : two.window.findChild<EditorViewMenu *>()->actions()) {
+            if (action->text().remove(u'&') == u"Line Numbers"_s)
+                action->setChecked(false);
+        }
+        two.undo(1);
+        const ORVListView &back = two.programs().view(2);
+        QVERIFY(!two.programs().dock(2).isHidden());
+        QVERIFY(!back.codeView()->lineNumbersVisible());
+        QCOMPARE(back.RTextBox()->font(), two.programs().view(1).RTextBox()->font());
+    }
+
+    // Also where one knows of the list what the file says no more.
+    void oneThatSomebodyElseAddsIsTakenOver()
+    {
+        TwoPrograms two;
+        two.window.showType(dsInput);
+        renameTemp1(two);
+        writeFile(two.folder.filePath(u"c.prog"_s), "REM theirs\n");
+        writeFile(
+            two.project(),
+            two.bytes(u"two.json"_s).replace("b.prog\"}]", "b.prog\"}, {\"file\": \"c.prog\"}]"));
+        const NextMessage question(QMessageBox::Yes);
+        two.choose(u"Save"_s);
+        QCOMPARE(two.names(), QStringList({u"a.prog"_s, u"Night"_s, u"c.prog"_s}));
+        QCOMPARE(two.text(3), u"REM theirs\r\n"_s);
+        QVERIFY(!two.window.isWindowModified());
+        two.type(3, u"REM ours "_s);
+        two.give(u"Add Program…"_s, u"D"_s);
+        two.choose(u"Save"_s);
+        QVERIFY(!two.window.isWindowModified());
+        QCOMPARE(two.bytes(u"c.prog"_s), "REM ours REM theirs\n");
+        QCOMPARE(Project(two.project()).programs().size(), 4);
+    }
+
+    // The steps before know the name that it had then.
+    void theNameOfAnotherPlaceStaysWithUndo()
+    {
+        TwoPrograms two;
+        two.window.showType(dsInput);
+        renameTemp1(two);
+        two.document().saveAt(two.folder.filePath(u"copy.json"_s), Project::Encoding::ItsOwn);
+        QCOMPARE(two.names(), QStringList({u"copy.prog"_s, u"Night"_s}));
+        two.undo(1);
+        QCOMPARE(two.text(1), u"Fan1 = Temp1\r\n"_s);
+        QCOMPARE(two.names(), QStringList({u"copy.prog"_s, u"Night"_s}));
     }
 
     void aPointIsRenamedInAllAsOneStep()
@@ -292,6 +369,46 @@ private Q_SLOTS:
         QCOMPARE(box.SelText(), u"FAN1"_s);
         two.give(u"Find In Programs…"_s, u"nowhere"_s);
         QVERIFY(two.window.statusBar()->currentMessage().contains(u"nowhere"_s));
+    }
+
+    void noWayLeadsIntoOneThatHasGone()
+    {
+        TwoPrograms two;
+        two.give(u"Find In Programs…"_s, u"Temp1"_s);
+        Q_EMIT two.results().clicked(two.results().model()->index(1, 0));
+        QCOMPARE(two.programs().current(), 2);
+        Q_EMIT two.results().clicked(two.results().model()->index(0, 0));
+        QCOMPARE(two.programs().current(), 1);
+        two.views().enterProgram(2);
+        const NextMessage question(QMessageBox::Yes);
+        two.choose(u"Remove Program…"_s);
+        QCOMPARE(two.resultTexts(), u"Line 1 Fan1 = Temp1"_s);
+        two.choose(u"Back"_s);
+        QVERIFY(two.programs().dock(2).isHidden());
+        QCOMPARE(two.programs().current(), 1);
+    }
+
+    void theQuestionSpeaksOfWhatIsNotSaved()
+    {
+        TwoPrograms two;
+        two.views().enterProgram(2);
+        const auto asked = [&two] {
+            const NextMessage question(QMessageBox::No);
+            two.choose(u"Remove Program…"_s);
+            return question.text();
+        };
+        QVERIFY2(asked().endsWith(u"b.prog stays where it is."_s), qPrintable(asked()));
+        two.type(2, u"REM x "_s);
+        QVERIFY2(asked().endsWith(u"comes back only with Undo."_s), qPrintable(asked()));
+    }
+
+    void leavingSpeaksOfTheProject()
+    {
+        TwoPrograms two;
+        two.give(u"Add Program…"_s, u"D"_s);
+        const NextMessage question(QMessageBox::Cancel);
+        QVERIFY(!two.window.close());
+        QVERIFY2(question.text().startsWith(u"The project two has"_s), qPrintable(question.text()));
     }
 
     void whatWasTypedInBothIsKeptForRecovery()

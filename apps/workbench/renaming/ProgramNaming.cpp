@@ -80,18 +80,32 @@ bool ProgramNaming::canRemove() const
     return m_document.project() && m_document.project()->programs().size() > 1;
 }
 
+namespace {
+
+// What is not saved is in no file.
+QString questionOnRemoving(const ProjectProgram &program, const ProjectDocument &document)
+{
+    const QFileInfo file(document.project()->programFile(program.id));
+    if (document.isProgramModified(program.id) || !file.exists())
+        return ProgramNaming::tr("Remove the program %1 from the project?\n"
+                                 "What is not saved of it comes back only with Undo.")
+            .arg(program.name);
+    return ProgramNaming::tr(
+               "Remove the program %1 from the project?\nIts file %2 stays where it is.")
+        .arg(program.name, file.fileName());
+}
+
+} // namespace
+
 void ProgramNaming::remove()
 {
     if (!canRemove())
         return;
     const Project *project = m_document.project();
     const ProjectProgram program = project->programs().at(currentIndex());
-    const QString file = QFileInfo(project->programFile(program.id)).fileName();
     const QPointer<ProgramNaming> self(this);
-    const auto answer = QMessageBox::question(
-        &m_window, tr("Remove Program"),
-        tr("Remove the program %1 from the project?\nIts file %2 stays where it is.")
-            .arg(program.name, file));
+    const auto answer = QMessageBox::question(&m_window, tr("Remove Program"),
+                                              questionOnRemoving(program, m_document));
     if (!self || answer != QMessageBox::Yes || m_document.project() != project)
         return;
     ProgramList list = project->programs();

@@ -122,6 +122,9 @@ QString ProjectSaving::questionOnLeaving() const
 {
     const QString programs = changedPrograms();
     const QString name = m_document.project()->name();
+    const TableSaving changes = m_document.project()->tableSaving();
+    if (changes.programs != changes.savedPrograms)
+        return tr("The project %1 has changes that are not saved.\nSave them?").arg(name);
     if (programs.isEmpty())
         return tr("The points of %1 have changes that are not saved.\nSave them?").arg(name);
     if (!m_document.project()->hasChangedTables())

@@ -121,8 +121,8 @@ void ProgramViews::withEach(QObject *receiver, const Act &act)
 
 void ProgramViews::forEach(const std::function<void(CodeView &view)> &act) const
 {
-    for (const ProjectProgram &program : m_list)
-        act(*view(program.id).codeView());
+    for (const auto &[program, dock] : m_docks)
+        act(*dock->view().codeView());
 }
 
 void ProgramViews::retranslate()

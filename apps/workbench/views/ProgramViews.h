@@ -48,7 +48,7 @@ public:
     using Act = std::function<void(qint32 program, ORVListView &view)>;
     void withEach(QObject *receiver, const Act &act);
 
-    // All editors of the list.
+    // All editors, also of programs that may come back.
     void forEach(const std::function<void(CodeView &view)> &act) const;
 
     // After a change of language.
