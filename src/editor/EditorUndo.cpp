@@ -194,14 +194,14 @@ void EditorUndo::noteFinished(const QString &text)
     m_settledBy = m_thread.finishedBy();
 }
 
-// What is shown is where either ring begins.
+// What is shown is where its own ring begins, and the thread's where no program has yet.
 void EditorUndo::setHasOwnRing(bool on)
 {
     if (ring().IsRestoringUndo())
         return; // it is in use
     m_own = on ? std::make_unique<UndoStore>() : nullptr;
     m_kept.clear();
-    if (on)
+    if (on || ring().UndoSlots(0).isEmpty())
         resetBase();
 }
 

@@ -1,6 +1,9 @@
 #include "editor/FarPieces.h"
 
+#include "widgets/box/BoxText.h"
 #include <ORVTListview/RichTextBox.h>
+
+#include <QtGui/QTextCursor>
 
 namespace ORVTListview {
 namespace {
@@ -15,6 +18,14 @@ qsizetype firstNear(const QList<TextPiece> &pieces, qsizetype last)
     return last;
 }
 
+// Where a piece ends, followed as the text changes.
+QTextCursor endOf(const RichTextBox &box, const TextPiece &piece)
+{
+    QTextCursor end(box.document());
+    end.setPosition(BoxText::of(*box.document()).toDocument(piece.end()));
+    return end;
+}
+
 } // namespace
 
 void replaceFarPieces(RichTextBox &box, const QList<TextPiece> &pieces,
@@ -25,12 +36,16 @@ void replaceFarPieces(RichTextBox &box, const QList<TextPiece> &pieces,
     for (qsizetype end = pieces.size(); end > 0;) {
         const qsizetype first = firstNear(pieces, end - 1);
         const qsizetype count = end - first;
+        const QTextCursor next = first > 0 ? endOf(box, pieces[first - 1]) : QTextCursor();
+        const int place = next.position();
         box.replacePieces(pieces.sliced(first, count), texts.sliced(first, count), [&] {
             if (finish)
                 finish(first, count);
         });
         if (end == pieces.size())
             fromEnd = box.TextLength() - box.SelStart();
+        if (next.position() != place)
+            return;
         end = first;
     }
     if (!pieces.isEmpty())

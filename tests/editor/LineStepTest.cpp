@@ -10,6 +10,7 @@
 #include <QtWidgets/QComboBox>
 
 #include <random>
+#include <utility>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -155,6 +156,25 @@ private Q_SLOTS:
         QVERIFY(host.hasTouchedFew());
         QVERIFY(host.list->CodeText() == opened);
         host.compareWithOpenedAnew();
+    }
+
+    // In the midst of what replaces: that was looked up in another text.
+    void aTextOfTheHostsStaysAsItIs()
+    {
+        KeepingHost host;
+        QStringList lines = longProgram().split(u"\r\n"_s);
+        lines[20] = lines[2000] = lines[3980] = u"onlyhere = 1"_s;
+        host.open(lines.join(u"\r\n"_s));
+        host.finish();
+        lines.remove(0, 7);
+        const QString others = lines.join(u"\r\n"_s);
+        QObject::connect(&host.box(), &QPlainTextEdit::textChanged, &host.form,
+                         [&host, &others, isFirst = true]() mutable {
+                             if (std::exchange(isFirst, false))
+                                 host.box().setText(others);
+                         });
+        host.replaceAll(u"onlyhere"_s, u"temp1"_s);
+        QVERIFY(host.box().Text() == others);
     }
 
     void soItDoesWhileColoursWait()

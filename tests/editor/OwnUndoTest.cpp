@@ -99,6 +99,19 @@ private Q_SLOTS:
         QVERIFY(host.list->IsUndoAvailable()); // as it always was
     }
 
+    void theSharedRingBeginsWhereNobodyHasUsedIt()
+    {
+        Two two;
+        Two::type(two.one, u" = 1 "_s);
+        threadPart<UndoStore>().ClearUndoHistory();
+        const QString shown = two.one.CodeText();
+        two.one.codeView()->setHasOwnUndo(false);
+        Two::type(two.one, u"+ 1"_s);
+        while (two.one.IsUndoAvailable())
+            Two::undo(two.one);
+        QCOMPARE(two.one.CodeText(), shown);
+    }
+
     // Its ring is in use.
     void switchingInTheMidstOfAnUndoHasNoEffect()
     {
