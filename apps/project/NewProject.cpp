@@ -6,6 +6,7 @@
 #include "project/ProjectTexts.h"
 #include "project/TextFile.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
@@ -63,6 +64,10 @@ void makeProject(const QString &fileName, const QString &name, const QByteArray 
     edit.replace(root.member(u"program"_s), QFileInfo(program).fileName());
     const QByteArray json = edit.bytes();
     readContents(JsonPlace::parse(json, fileName)); // what is made can be opened
+    const QString folder = QFileInfo(fileName).path();
+    if (!QDir().mkpath(folder))
+        throw Error(FileNotWritable, u"makeProject"_s,
+                    ProjectTexts::tr("The folder %1 cannot be made.").arg(folder));
     writeFile(program, {});
     try {
         writeFile(fileName, json);

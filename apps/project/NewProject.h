@@ -15,8 +15,8 @@ QString projectFileName(const QString &name);
 // program, beside it, are to be new.
 QString newProjectFault(const QString &fileName);
 
-// Makes a project of a text that has its form, and an empty program. Raises Error, and
-// leaves no half of it.
+// Makes a project of a text that has its form, and an empty program; the folder, too. Raises
+// Error, and leaves no half of the two.
 void makeProject(const QString &fileName, const QString &name, const QByteArray &form);
 
 } // namespace ORVTListview

@@ -197,15 +197,23 @@ void MainWindow::connectPoints()
     connect(m_points, &PointChooser::chosen, m_view, &ProjectView::takePoint);
     connect(m_points, &PointChooser::told, m_status, &WindowStatus::tell);
     connect(&m_view->tables(), &TableViews::renameWanted, m_renaming, &PointRenaming::rename);
+    connect(&m_view->tables(), &TableViews::pointWanted, m_renaming, &PointRenaming::append);
     connect(m_history, &ProjectHistory::told, m_status, &WindowStatus::tell);
-    connect(m_history, &ProjectHistory::reached, this, [this](LwType type, qsizetype row) {
-        if (type != m_view->current().CurrentType())
-            m_view->enterType(type);
-        if (PointTables *table = m_view->currentTable())
-            table->showRow(row);
+    connect(m_history, &ProjectHistory::reached, this, &MainWindow::showRow);
+    connect(m_renaming, &PointRenaming::added, this, [this](LwType type, qsizetype row) {
+        if (m_view->currentTable()) // whoever adds one while writing goes on writing
+            showRow(type, row);
     });
     connect(&m_view->tables(), &TableViews::refused, this,
             [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
+}
+
+void MainWindow::showRow(LwType type, qsizetype row)
+{
+    if (type != m_view->current().CurrentType())
+        m_view->enterType(type);
+    if (PointTables *table = m_view->currentTable())
+        table->showRow(row);
 }
 
 void MainWindow::connectReading()

@@ -83,6 +83,7 @@ public:
     // The page of the first start, whose sample is this project.
     void showFirstSteps();
     void setSample(const QString &fileName) { m_sample = fileName; }
+    QString sample() const { return m_sample; }
 
 Q_SIGNALS:
     // The user has decided anew.
@@ -104,6 +105,7 @@ private:
     void connectEditor(ORVListView &list);
     void connectPoints();
     void connectReading();
+    void showRow(LwType type, qsizetype row);
     void leaveFirstSteps();
     void connectSaving();
     void connectPages();

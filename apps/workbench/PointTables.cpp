@@ -69,28 +69,33 @@ void PointTables::showRows()
     fill();
 }
 
-// Rows behind the points are empty.
 void PointTables::fill()
 {
     const qsizetype points = m_project->rows(m_list.CurrentType()).size();
+    QSet<qint16> grown;
     for (qsizetype row = 0; row < m_list.ListItems()->Count(); ++row) {
         ListItem &item = *m_list.ListItems()->Item(static_cast<qint32>(row) + 1);
         if (row < points)
-            fillRow(item, row);
+            fillRow(item, row, grown);
         else
             clearRow(item);
     }
+    for (const qint16 column : std::as_const(grown))
+        widen(column);
     if (m_reading)
         fillValues();
 }
 
+// Rows behind the points are empty.
 void PointTables::clearRow(ListItem &item)
 {
-    for (qint32 column = 1; column < m_list.ColumnHerders()->Count(); ++column)
+    const auto columns = static_cast<qint16>(m_list.ColumnHerders()->Count());
+    for (qint16 column = 1; column < columns; ++column)
         item.setSubItem(column, QString());
 }
 
-void PointTables::fillRow(ListItem &item, qsizetype row)
+// Notes the columns that may need more room.
+void PointTables::fillRow(ListItem &item, qsizetype row, QSet<qint16> &grown)
 {
     const QVariantList &cells = m_project->rows(m_list.CurrentType()).at(row).cells;
     const qsizetype shown = std::min<qsizetype>(cells.size(), m_list.ColumnHerders()->Count() - 1);
@@ -99,7 +104,10 @@ void PointTables::fillRow(ListItem &item, qsizetype row)
         const QString text = cell.typeId() != QMetaType::Bool ? cellText(cell)
                              : cell.toBool()                  ? tr("Yes")
                                                               : tr("No");
-        item.setSubItem(static_cast<qint32>(column) + 1, text);
+        const auto shownColumn = static_cast<qint16>(column + 1);
+        if (text.size() > item.SubItem(shownColumn).size())
+            grown.insert(shownColumn);
+        item.setSubItem(shownColumn, text);
     }
 }
 
@@ -231,29 +239,39 @@ void PointTables::editName()
     m_list.StartLabelEdit();
 }
 
+// From 0; -1 for one that is gone.
+qsizetype PointTables::rowOf(const ListItem *item) const
+{
+    return item && m_project && item->isAlive() ? item->Index() - 1 : -1;
+}
+
 // -1 for a row without a point.
 qsizetype PointTables::pointOf(const ListItem *item) const
 {
-    const bool isPoint = item && m_project && item->isAlive() &&
-                         item->Index() <= m_project->rows(m_list.CurrentType()).size();
-    return isPoint ? item->Index() - 1 : -1;
+    const qsizetype row = rowOf(item);
+    return row >= 0 && row < m_project->rows(m_list.CurrentType()).size() ? row : -1;
+}
+
+// Empty for a row without a point, too.
+QString PointTables::nameOf(LwType type, qsizetype row) const
+{
+    return m_project ? m_project->rows(type).value(row).name : QString();
 }
 
 void PointTables::allowEditing(qint16 &cancel)
 {
     m_edited = m_list.SelectedItem(); // another one may be when the name comes
-    if (pointOf(m_edited) < 0 || nameColumn(m_list.CurrentType()) < 0)
+    if (rowOf(m_edited) < 0 || nameColumn(m_list.CurrentType()) < 0)
         cancel = 1;
 }
 
 void PointTables::takeName(qint16 &cancel, const QString &name)
 {
     const LwType type = m_list.CurrentType();
-    const qsizetype row = pointOf(m_edited);
+    const qsizetype row = rowOf(m_edited);
     cancel = 1;
-    if (row < 0)
-        return;
-    if (name == m_project->rows(type).at(row).name)
+    const QString former = nameOf(type, row);
+    if (row < 0 || name == former)
         return;
     const QString fault = m_project->nameFault(type, row, name);
     const QPointer<PointTables> self(this); // while the user reads
@@ -262,9 +280,13 @@ void PointTables::takeName(qint16 &cancel, const QString &name)
     if (!self)
         return;
     // Queued: the field for the name is still open. The row may be another point's by then.
-    const auto want = [this, type, row, name, former = m_project->rows(type).at(row).name] {
-        if (m_project && m_project->rows(type).value(row).name == former)
+    const auto want = [this, type, row, name, former] {
+        if (nameOf(type, row) != former)
+            return;
+        if (row < m_project->rows(type).size())
             Q_EMIT renameWanted(type, row, name);
+        else
+            Q_EMIT pointWanted(type, name);
     };
     if (fault.isEmpty())
         QMetaObject::invokeMethod(this, want, Qt::QueuedConnection);
@@ -303,7 +325,7 @@ QList<qsizetype> PointTables::selectedPoints() const
 // Edits the same name again, as it was typed.
 void PointTables::correctName(LwType type, const QString &typed)
 {
-    if (m_list.CurrentType() != type || pointOf(m_edited) < 0)
+    if (m_list.CurrentType() != type || rowOf(m_edited) < 0)
         return;
     m_list.setSelectedItem(m_edited);
     m_list.listView()->setFocus();

@@ -4,6 +4,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QSet>
 #include <QtCore/QTimer>
 
 namespace ORVTListview {
@@ -39,7 +40,7 @@ public:
     // The points that there are now, in the table that is shown.
     void showRows();
 
-    // The rows of the table that is shown, anew.
+    // The rows of the table that is shown, anew. Columns grow with what comes; none shrinks.
     void fill();
     void fitColumns();
 
@@ -67,13 +68,16 @@ Q_SIGNALS:
     // A point is to have another name, which it can have.
     void renameWanted(ORVTListview::LwType type, qsizetype row, const QString &name);
 
+    // A row behind the points was given a name, which a new point can have.
+    void pointWanted(ORVTListview::LwType type, const QString &name);
+
     // A name was not taken.
     void refused(const QString &reason);
 
 private:
     void choose(ListItem &item);
     void showAll();
-    void fillRow(ListItem &item, qsizetype row);
+    void fillRow(ListItem &item, qsizetype row, QSet<qint16> &grown);
     void clearRow(ListItem &item);
     void fillValues();
     void showBusy();
@@ -82,6 +86,8 @@ private:
     void allowEditing(qint16 &cancel);
     void takeName(qint16 &cancel, const QString &name);
     void correctName(LwType type, const QString &typed);
+    QString nameOf(LwType type, qsizetype row) const;
+    qsizetype rowOf(const ListItem *item) const;
     qsizetype pointOf(const ListItem *item) const;
 
     ORVListView &m_list;

@@ -2,6 +2,7 @@
 
 #include "PointKindMenu.h"
 #include "PointTables.h"
+#include "ProgramNavigation.h"
 #include "ProjectView.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
@@ -21,11 +22,12 @@ PointsMenu::PointsMenu(ProjectView &view, const ProjectDocument &document, const
     , m_view(view)
     , m_document(document)
     , m_reading(acts.reading)
+    , m_navigation(acts.navigation)
 {
     m_read = addAction(tr("&Read Values"), QKeySequence(Qt::Key_F5), &acts.reading,
                        [this] { m_reading.read(type()); });
     addPoints(acts.renaming, acts.importing);
-    addAction(tr("&Fit Columns"), &view, [this] {
+    m_fit = addAction(tr("&Fit Columns"), &view, [this] {
         if (PointTables *table = m_view.currentTable())
             table->fitColumns();
     });
@@ -46,7 +48,7 @@ void PointsMenu::addPoints(PointRenaming &renaming, PointImporting &importing)
     });
     m_rename->setShortcut(QKeySequence(Qt::Key_F2));
     m_rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
-    m_add = addAction(tr("&Add Point…"), &renaming, [this, &renaming] { renaming.add(type()); });
+    m_add = addAction(tr("&Add Point…"), &renaming, [this, &renaming] { addPoint(renaming); });
     m_remove = addAction(tr("Re&move Point"), &renaming, [this, &renaming] {
         if (const PointTables *table = m_view.currentTable())
             renaming.remove(type(), table->selectedPoint());
@@ -71,12 +73,19 @@ LwType PointsMenu::type() const
     return m_view.current().CurrentType();
 }
 
+// In a program, what the caret stands in and nobody knows is the name to begin with.
+void PointsMenu::addPoint(PointRenaming &renaming)
+{
+    renaming.add(type(), m_navigation.unknownName());
+}
+
 void PointsMenu::refresh()
 {
     const PointTables *table = m_document.project() ? m_view.currentTable() : nullptr;
     const bool isPoint = table && table->selectedPoint() >= 0;
     m_read->setEnabled(m_reading.canRead(type()));
-    m_add->setEnabled(table);
+    m_add->setEnabled(m_document.project());
+    m_fit->setEnabled(table);
     m_import->setEnabled(table);
     m_remove->setEnabled(isPoint);
     m_rename->setEnabled(isPoint && nameColumn(type()) >= 0);

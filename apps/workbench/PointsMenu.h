@@ -10,10 +10,11 @@ class PointChooser;
 class PointImporting;
 class PointReading;
 class PointRenaming;
+class ProgramNavigation;
 class ProjectDocument;
 class ProjectView;
 
-// What is done with the points of the current table.
+// What is done with the points of the current table, or from a program.
 class PointsMenu : public QMenu
 {
     Q_OBJECT
@@ -25,6 +26,7 @@ public:
         PointImporting &importing;
         PointReading &reading;
         PointChooser &chooser;
+        const ProgramNavigation &navigation;
     };
 
     // All of them outlive the menu.
@@ -34,17 +36,20 @@ public:
 private:
     void addPoints(PointRenaming &renaming, PointImporting &importing);
     void addSwitches();
+    void addPoint(PointRenaming &renaming);
     void refresh();
     LwType type() const;
 
     ProjectView &m_view;
     const ProjectDocument &m_document;
     PointReading &m_reading;
+    const ProgramNavigation &m_navigation;
     QAction *m_read = nullptr;
     QAction *m_rename = nullptr;
     QAction *m_add = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_import = nullptr;
+    QAction *m_fit = nullptr;
     QAction *m_cells = nullptr;
     QAction *m_overrides = nullptr;
 };

@@ -105,6 +105,12 @@ void ProgramNavigation::goToPoint()
         Q_EMIT told(tr("%1 is no point of the project.").arg(shortened(at.name)));
 }
 
+QString ProgramNavigation::unknownName() const
+{
+    const NamedPoint at = pointInProgram();
+    return at.type == dsCode ? at.name : QString();
+}
+
 void ProgramNavigation::back()
 {
     m_former.removeIf(

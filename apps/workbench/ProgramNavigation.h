@@ -30,6 +30,9 @@ public:
 
     void fillMenu(QMenu &menu);
 
+    // The name in which the program's caret stands, where no point has it; else empty.
+    QString unknownName() const;
+
     // To a place of a program, or a row of a table; back() comes from there.
     void goTo(const ResultPlace &place);
 

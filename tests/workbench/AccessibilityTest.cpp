@@ -11,6 +11,7 @@
 #include "workbench/life/NewProjectDialog.h"
 #include "workbench/life/StartPage.h"
 #include "workbench/reading/ReadingDialog.h"
+#include "workbench/renaming/NewPointDialog.h"
 #include "workbench/renaming/RenameDialog.h"
 #include "workbench/saving/RecoveryDialog.h"
 #include "workbench/settings/SettingsDialog.h"
@@ -25,7 +26,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QSet>
-#include <QtWidgets/QInputDialog>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolButton>
@@ -195,7 +195,7 @@ private Q_SLOTS:
         walkCommand<NewProjectDialog>(workbench, u"New Project…"_s);
         walkCommand<ReadingDialog>(workbench, u"Reading…"_s);
         workbench.views().enterType(dsInput);
-        walkCommand<QInputDialog>(workbench, u"Add Point…"_s);
+        walkCommand<NewPointDialog>(workbench, u"Add Point…"_s);
     }
 
     void dialogsThatAsk()

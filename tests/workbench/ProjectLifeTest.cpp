@@ -79,22 +79,45 @@ private Q_SLOTS:
             QVERIFY(!create->isEnabled()); // it is there already
             QTest::keyClicks(fields.at(0), u" & %2"_s);
             QVERIFY(create->isEnabled());
-            fields.at(1)->setText(workbench.folder.filePath(u"missing"_s));
+            fields.at(1)->setText(workbench.folder.filePath(u"one.prog/missing"_s)); // a file
+            QVERIFY(!create->isEnabled());
+            fields.at(1)->setText(u"missing"_s); // nobody knows where
             QVERIFY(!create->isEnabled());
             fields.at(1)->setText(workbench.folder.path());
+            QVERIFY(create->isEnabled());
+            fields.at(1)->setText(workbench.folder.filePath(u"new/newer"_s));
             create->click();
         });
         workbench.choose(u"New Project…"_s);
         QVERIFY(dialog.wasThere());
-        const QString file = workbench.folder.filePath(u"one & %2.json"_s);
+        const QString file = workbench.folder.filePath(u"new/newer/one & %2.json"_s);
         QVERIFY(QFile::exists(file));
         QCOMPARE(workbench.window.windowTitle(), u"one & %2[*]"_s);
         QCOMPARE(workbench.code().CodeText(), QString());
         QVERIFY(!workbench.window.isWindowModified());
         workbench.type(u"a"_s);
         workbench.choose(u"Save"_s);
-        QCOMPARE(workbench.saved(u"one & %2"_s), "a");
+        QCOMPARE(workbench.saved(u"new/newer/one & %2"_s), "a");
         QCOMPARE(workbench.saved(), "Fan1 = ON");
+    }
+
+    void noProjectIsProposedBesideTheSample()
+    {
+        WorkbenchWindow workbench;
+        QString proposed;
+        const auto look = [&proposed](NewProjectDialog &asked) {
+            proposed = asked.findChildren<QLineEdit *>().at(1)->text();
+            asked.reject();
+        };
+        NextDialog<NewProjectDialog> beside(look);
+        workbench.choose(u"New Project…"_s);
+        QVERIFY(beside.wasThere());
+        QCOMPARE(proposed, QDir::toNativeSeparators(workbench.folder.path()));
+        workbench.window.setSample(workbench.folder.filePath(u"one.json"_s));
+        NextDialog<NewProjectDialog> elsewhere(look);
+        workbench.choose(u"New Project…"_s);
+        QVERIFY(elsewhere.wasThere());
+        QVERIFY(proposed != QDir::toNativeSeparators(workbench.folder.path()));
     }
 
     void whatIsNotSavedIsAskedForBeforeAProjectGoes()

@@ -3,14 +3,17 @@
 #include "WorkbenchTest.h"
 
 #include "support/TestProgram.h"
+#include "workbench/renaming/NewPointDialog.h"
 #include "workbench/renaming/RenameDialog.h"
 
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ReportList.h>
 
-#include <QtWidgets/QInputDialog>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeWidget>
 
 using namespace ORVTListview;
@@ -29,10 +32,10 @@ struct Named : WorkbenchWindow
 
     ReportList &list() { return *shown().findChild<ReportList *>(u"ListView1"_s); }
 
-    void rename(const QString &name)
+    void rename(const QString &name, qint32 row = 1)
     {
         window.showType(dsInput);
-        shown().setSelectedItem(shown().ListItems()->Item(1));
+        shown().setSelectedItem(shown().ListItems()->Item(row));
         list().setFocus();
         QTest::keyClick(&list(), Qt::Key_F2);
         auto *field = list().viewport()->findChild<QLineEdit *>();
@@ -57,6 +60,15 @@ struct Named : WorkbenchWindow
  "logs": [{"data": "temp1"}, {"data": "Fan1"}],
  "networkOutputs": [{"name": "N", "dataSource": "Temp1"}]})";
 };
+
+QPushButton &addButton(const NewPointDialog &dialog)
+{
+    for (QAbstractButton *button : dialog.findChild<QDialogButtonBox *>()->buttons()) {
+        if (auto *add = qobject_cast<QPushButton *>(button); add && add->isDefault())
+            return *add;
+    }
+    qFatal("the dialog has no button that adds");
+}
 
 } // namespace
 
@@ -189,24 +201,21 @@ private Q_SLOTS:
         QCOMPARE(field->text(), name);
         QVERIFY(!named.window.isWindowModified());
 
-        int asked = 0;
-        NextDialog<QInputDialog> first([&](QInputDialog &dialog) {
-            ++asked;
-            dialog.setTextValue(name);
-            dialog.accept();
-        });
-        std::unique_ptr<NextDialog<QInputDialog>> second;
-        QString kept;
-        QTimer::singleShot(0, &named.window, [&] {
-            second = std::make_unique<NextDialog<QInputDialog>>([&](QInputDialog &dialog) {
-                if (asked == 0 || !dialog.labelText().contains(name)) // still the first
-                    return dialog.accept();
-                kept = dialog.textValue();
-                dialog.reject();
-            });
+        bool canBeAdded = true;
+        QString reason;
+        NextDialog<NewPointDialog> dialog([&](NewPointDialog &asked) {
+            QTest::keyClicks(asked.findChild<QLineEdit *>(), name);
+            canBeAdded = addButton(asked).isEnabled();
+            for (const QLabel *label : asked.findChildren<QLabel *>())
+                reason += label->text();
+            QTest::keyClick(&asked, Qt::Key_Return); // which closes nothing
+            QVERIFY(asked.isVisible());
+            asked.reject();
         });
         named.choose(u"Add Point…"_s);
-        QVERIFY(asked == 1);
+        QVERIFY(dialog.wasThere());
+        QVERIFY(!canBeAdded);
+        QVERIFY2(reason.contains(name), qPrintable(reason));
         QVERIFY(!named.window.isWindowModified());
     }
 
@@ -214,13 +223,14 @@ private Q_SLOTS:
     {
         Named named;
         named.window.showType(dsInput);
-        NextDialog<QInputDialog> name([](QInputDialog &dialog) {
-            dialog.setTextValue(u"New"_s);
-            dialog.accept();
+        NextDialog<NewPointDialog> name([](NewPointDialog &dialog) {
+            QTest::keyClicks(dialog.findChild<QLineEdit *>(), u"New"_s);
+            addButton(dialog).click();
         });
         named.choose(u"Add Point…"_s);
         QVERIFY(name.wasThere());
         QCOMPARE(named.shown().ListItems()->Item(3)->SubItem(1), u"New"_s);
+        QCOMPARE(named.shown().SelectedItem(), named.shown().ListItems()->Item(3));
         QVERIFY(named.savedJson().contains(R"({"name": "Temp2"}, { "name": "New" }])"));
 
         named.shown().setSelectedItem(named.shown().ListItems()->Item(1));
@@ -236,6 +246,61 @@ private Q_SLOTS:
         QTest::keyClick(&named.list(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(named.shown().ListItems()->Item(3)->SubItem(1), QString());
         QCOMPARE(named.savedJson(), Named::json);
+    }
+
+    void anEmptyRowIsNamedAndIsAPoint()
+    {
+        Named named;
+        named.rename(u"SupplyTemperatureOfTheNorthWing"_s, 6);
+        QTRY_COMPARE(named.shown().ListItems()->Item(3)->SubItem(1),
+                     u"SupplyTemperatureOfTheNorthWing"_s);
+        QCOMPARE(named.shown().SelectedItem(), named.shown().ListItems()->Item(3));
+        const int room = named.list().columnWidth(1);
+        const QFontMetrics metrics(named.list().font());
+        QVERIFY(room > metrics.horizontalAdvance(u"SupplyTemperatureOfTheNorthWing"_s));
+        named.choose(u"Undo"_s);
+        QCOMPARE(named.shown().ListItems()->Item(3)->SubItem(1), QString());
+        QCOMPARE(named.list().columnWidth(1), room);
+        QCOMPARE(named.savedJson(), Named::json);
+    }
+
+    void anEmptyRowTakesNoNameThatCannotBe()
+    {
+        Named named;
+        NextMessage refused(QMessageBox::Ok);
+        named.rename(u"Temp2"_s, 6);
+        QTRY_VERIFY(refused.wasThere());
+        QLineEdit *field = nullptr;
+        QTRY_VERIFY((field = named.list().viewport()->findChild<QLineEdit *>()));
+        QCOMPARE(field->text(), u"Temp2"_s);
+        QTest::keyClick(field, Qt::Key_Escape);
+        QVERIFY(!named.window.isWindowModified());
+    }
+
+    void anUnknownWordOfTheProgramBecomesAPoint()
+    {
+        Named named;
+        named.code().setCodeText(u"Unheard = 1"_s);
+        named.box().setSelStart(3);
+        NextDialog<NewPointDialog> dialog([](NewPointDialog &asked) {
+            QCOMPARE(asked.findChild<QLineEdit *>()->text(), u"Unheard"_s);
+            auto *table = asked.findChild<QComboBox *>();
+            QCOMPARE(table->count(), 5);
+            QCOMPARE(asked.type(), dsVariable);
+            table->setCurrentIndex(table->findText(u"Outputs"_s));
+            addButton(asked).click();
+        });
+        named.choose(u"Add Point…"_s);
+        QVERIFY(dialog.wasThere());
+        QCOMPARE(named.shown().CurrentType(), dsCode); // where the user writes
+        QVERIFY(named.savedJson().contains(R"({"name": "Fan1"}, {"name": "Unheard"}])"));
+        named.box().setSelStart(3);
+        NextDialog<NewPointDialog> known([](NewPointDialog &asked) {
+            QCOMPARE(asked.findChild<QLineEdit *>()->text(), QString());
+            asked.reject();
+        });
+        named.choose(u"Add Point…"_s);
+        QVERIFY(known.wasThere());
     }
 };
 

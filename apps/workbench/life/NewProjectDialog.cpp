@@ -22,6 +22,21 @@ namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// One that is there, or can be made within one that is.
+bool canBeFolder(const QString &path)
+{
+    if (!QDir::isAbsolutePath(path))
+        return false;
+    QFileInfo there(path);
+    while (!there.exists() && there.path() != there.filePath())
+        there.setFile(there.path());
+    return there.isDir();
+}
+
+} // namespace
+
 NewProjectDialog::NewProjectDialog(const QString &folder, QWidget *parent)
     : QDialog(parent)
     , m_name(new QLineEdit(this))
@@ -93,8 +108,8 @@ void NewProjectDialog::showPlace()
         fault = tr("The project and an empty program are made in this folder.");
     else if (!isPointName(name))
         fault = tr("This name has characters that a name cannot have.");
-    else if (!QDir::isAbsolutePath(m_folder->text()) || !QFileInfo(m_folder->text()).isDir())
-        fault = tr("There is no such folder.");
+    else if (!canBeFolder(m_folder->text()))
+        fault = tr("This cannot be a folder.");
     else
         fault = newProjectFault(place());
     m_create->setEnabled(fault.isEmpty());

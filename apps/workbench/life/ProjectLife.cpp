@@ -21,15 +21,21 @@ ProjectLife::ProjectLife(const Parts &parts)
 {
 }
 
-// Beside the project of now, or of the last time.
+// Beside the project of now, or of the last time; the sample's folder is the program's, not
+// the user's.
 QString ProjectLife::folder() const
 {
     const Project *project = m_parts.document.project();
-    const QString last = project ? project->fileName() : m_parts.recent.files().value(0);
-    const QString beside = last.isEmpty() ? QString() : QFileInfo(last).path();
-    return !beside.isEmpty() && QFileInfo(beside).isDir()
-               ? beside
-               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QStringList files = m_parts.recent.files();
+    if (project)
+        files.prepend(project->fileName());
+    const QFileInfo sample(m_parts.window.sample());
+    for (const QString &file : std::as_const(files)) {
+        const QFileInfo last(file);
+        if (!file.isEmpty() && last != sample && QFileInfo(last.path()).isDir())
+            return last.path();
+    }
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 // While a dialog is open the window may go.

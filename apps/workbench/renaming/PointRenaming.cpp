@@ -4,7 +4,7 @@
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "widgets/box/BoxCommands.h"
-#include "workbench/renaming/NameQuestion.h"
+#include "workbench/renaming/NewPointDialog.h"
 #include "workbench/renaming/RenameDialog.h"
 #include "workbench/views/ProgramViews.h"
 
@@ -81,39 +81,39 @@ void PointRenaming::rename(LwType type, qsizetype row, const QString &name)
     m_document.noteStepShown();
 }
 
-QString PointRenaming::askName(LwType type)
+void PointRenaming::add(LwType type, const QString &name)
 {
+    if (!m_document.project())
+        return;
+    if (type != dsCode && nameColumn(type) < 0) {
+        append(type, {});
+        return;
+    }
     const QPointer<PointRenaming> self(this);
-    const auto fault = [&](const QString &name) {
-        const Project *project = self ? m_document.project() : nullptr;
-        return project ? project->nameFault(type, project->rows(type).size(), name) : QString();
-    };
-    const QString name =
-        ORVTListview::askName(m_window, {tr("Add Point"), tr("Name of the new point:"), {}, fault});
-    return self && m_document.project() ? name : QString();
+    const QPointer<NewPointDialog> dialog(new NewPointDialog(m_document, type, name, &m_window));
+    const bool isWanted = dialog->exec() == QDialog::Accepted;
+    if (self && dialog && isWanted && m_document.project())
+        append(dialog->type(), dialog->name());
+    delete dialog;
 }
 
-void PointRenaming::add(LwType type)
+void PointRenaming::append(LwType type, const QString &name)
 {
     if (!m_document.project() || projectColumns(type).isEmpty())
         return;
-    ProjectRow row;
-    row.cells.resize(projectColumns(type).size());
-    const qsizetype column = nameColumn(type);
-    if (column >= 0) {
-        const QPointer<PointRenaming> self(this);
-        row.name = askName(type);
-        if (!self || row.name.isEmpty())
-            return;
-        row.cells[column] = row.name;
-    }
     const qsizetype place = m_document.project()->rows(type).size();
     if (place >= std::numeric_limits<qint16>::max()) {
         QMessageBox::warning(&m_window, tr("Add Point"), tr("The table is full."));
         return;
     }
+    ProjectRow row;
+    row.name = name;
+    row.cells.resize(projectColumns(type).size());
+    if (nameColumn(type) >= 0)
+        row.cells[nameColumn(type)] = name;
     row.data = isVocabularyType(type) ? static_cast<qint32>(place) + 1 : 0;
     m_document.carryOut(RowChanges{{type, place, {}, row}});
+    Q_EMIT added(type, place);
 }
 
 void PointRenaming::remove(LwType type, qsizetype row)

@@ -25,13 +25,19 @@ public:
     // The name must be one that the point can have.
     void rename(LwType type, qsizetype row, const QString &name);
 
-    // A point at the end of its table; the user is asked for its name.
-    void add(LwType type);
+    // A point at the end of a table. The user is asked for its name, and for the table where
+    // the type is dsCode; the name given is one to begin with.
+    void add(LwType type, const QString &name = {});
+
+    // The same without a question; the name must be one that such a point can have.
+    void append(LwType type, const QString &name);
+
     void remove(LwType type, qsizetype row);
 
-private:
-    QString askName(LwType type);
+Q_SIGNALS:
+    void added(ORVTListview::LwType type, qsizetype row);
 
+private:
     ProjectDocument &m_document;
     const ProgramViews &m_programs;
     QWidget &m_window;

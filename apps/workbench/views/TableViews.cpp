@@ -78,6 +78,7 @@ ViewDock *TableViews::neighbour() const
 void TableViews::relay(const PointTables &points)
 {
     connect(&points, &PointTables::renameWanted, this, &TableViews::renameWanted);
+    connect(&points, &PointTables::pointWanted, this, &TableViews::pointWanted);
     connect(&points, &PointTables::refused, this, &TableViews::refused);
 }
 
