@@ -39,10 +39,9 @@ void MainWindow::buildMenus()
     buildEditMenu();
     menuBar()->addMenu(
         new ProgramMenu({*m_checking, *m_naming, *m_navigation}, *m_results, menuBar()));
-    menuBar()->addMenu(
-        new PointsMenu(*m_view, *m_document,
-                       {*m_renaming, *m_importing, m_controller->reading(), *m_points, *m_navigation},
-                       menuBar()));
+    menuBar()->addMenu(new PointsMenu(
+        *m_view, *m_document,
+        {*m_renaming, *m_importing, m_controller->reading(), *m_points, *m_navigation}, menuBar()));
     m_controller->addMenu(*menuBar());
     enableWithProject(menuBar()->actions().sliced(1));
     buildViewMenu();

@@ -88,7 +88,7 @@ void PointsMenu::refresh()
     m_fit->setEnabled(table);
     m_import->setEnabled(table);
     m_remove->setEnabled(isPoint);
-    m_rename->setEnabled(isPoint && nameColumn(type()) >= 0);
+    m_rename->setEnabled(table && nameColumn(type()) >= 0); // an empty row is named, too
     m_overrides->setChecked(m_view.tables().showsOverrides());
 }
 

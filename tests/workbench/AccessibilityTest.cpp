@@ -218,9 +218,9 @@ private Q_SLOTS:
     // A dialog that is added comes into the walk.
     void everyDialogIsWalked()
     {
-        const QSet<QString> walked{u"ImportDialog"_s,  u"KeyList"_s,        u"NewProjectDialog"_s,
-                                   u"ReadingDialog"_s, u"RecoveryDialog"_s, u"RenameDialog"_s,
-                                   u"SettingsDialog"_s};
+        const QSet<QString> walked{u"ImportDialog"_s,   u"KeyList"_s,       u"NewProjectDialog"_s,
+                                   u"NewPointDialog"_s, u"ReadingDialog"_s, u"RecoveryDialog"_s,
+                                   u"RenameDialog"_s,   u"SettingsDialog"_s};
         QSet<QString> dialogs;
         static const QRegularExpression dialog(u"class (\\w+) (?:final )?: public QDialog"_s);
         QDirIterator headers(u"" ORVT_SOURCE_DIR "/apps/workbench"_s, {u"*.h"_s}, QDir::Files,

@@ -293,7 +293,8 @@ private Q_SLOTS:
         named.choose(u"Add Point…"_s);
         QVERIFY(dialog.wasThere());
         QCOMPARE(named.shown().CurrentType(), dsCode); // where the user writes
-        QVERIFY(named.savedJson().contains(R"({"name": "Fan1"}, {"name": "Unheard"}])"));
+        const QByteArray saved = named.savedJson();
+        QVERIFY2(saved.contains(R"({"name": "Fan1"},{ "name": "Unheard" }])"), saved.constData());
         named.box().setSelStart(3);
         NextDialog<NewPointDialog> known([](NewPointDialog &asked) {
             QCOMPARE(asked.findChild<QLineEdit *>()->text(), QString());
