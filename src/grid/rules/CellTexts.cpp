@@ -1,5 +1,7 @@
 #include "grid/rules/CellTexts.h"
 
+#include "base/TextCutter.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -58,6 +60,7 @@ public:
         , m_feed(text, u'\n')
         , m_return(text, u'\r')
         , m_mark(text, u'"')
+        , m_cutter(text)
     {
     }
 
@@ -110,7 +113,7 @@ private:
     QString readPlain()
     {
         const qsizetype start = std::exchange(m_place, cellEnd(m_place));
-        return m_text.sliced(start, m_place - start).toString();
+        return m_cutter.cut(start, m_place - start);
     }
 
     qsizetype cellEnd(qsizetype from)
@@ -135,6 +138,7 @@ private:
     NextLetter m_feed;
     NextLetter m_return;
     NextLetter m_mark;
+    TextCutter m_cutter;
     qsizetype m_place = 0;
 };
 
