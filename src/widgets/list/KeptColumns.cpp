@@ -115,9 +115,8 @@ void KeptColumns::paint(const QRegion &region) const
     }
     QColor line = m_view.palette().color(QPalette::Text);
     line.setAlphaF(0.4F);
-    painter.setPen(line);
     const int edge = m_view.isRightToLeft() ? kept.left() : kept.right();
-    painter.drawLine(edge, kept.top(), edge, kept.bottom());
+    painter.fillRect(edge, kept.top(), 1, kept.height(), line); // all of its pixels
 }
 
 void KeptColumns::uncover(const QModelIndex &cell) const

@@ -155,6 +155,22 @@ private Q_SLOTS:
         QCOMPARE(shown.under(250, 1), u"1 3"_s);
     }
 
+    // On a screen with several pixels for one, too.
+    void aLineEndsThem_data() { theyStayWhereTheyAre_data(); }
+    void aLineEndsThem()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        KeptGrid shown(direction);
+        QImage image(shown->viewport()->size() * 2, QImage::Format_RGB32);
+        image.setDevicePixelRatio(2);
+        shown.list->viewport()->render(&image);
+        const int edge = direction == Qt::LeftToRight ? 239 : shown.width() - 240;
+        const int below = 2 * shown->rowViewportPosition(4) + 2 * shown->rowHeight(4) + 10;
+        const QRgb paper = shown->palette().color(QPalette::Base).rgb();
+        for (int x = -2; x < 4; ++x)
+            QCOMPARE(image.pixel(2 * edge + x, below) != paper, x == 0 || x == 1);
+    }
+
     void theyLeaveRoomForOthers()
     {
         KeptGrid shown;
