@@ -8,6 +8,9 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_GENERATOR DEB)
 set(CPACK_COMPONENTS_ALL library dev designer tools workbench doc)
+if(ORVT_PYTHON)
+    list(APPEND CPACK_COMPONENTS_ALL python)
+endif()
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -58,6 +61,14 @@ set(CPACK_DEBIAN_DOC_PACKAGE_SECTION doc)
 set(CPACK_DEBIAN_DOC_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_DOC_PACKAGE_SHLIBDEPS OFF)
 describe(DOC "documentation and examples")
+
+# PyQt6 is under the GPL or a commercial licence; docs/guide/python.md tells it.
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-orvtlistview)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+    "${this_library}, python3 (>= 3.11), python3 (<< 3.12), python3-pyqt6 (>= 6.4), python3-pyqt6.sip")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "pyqt6-dev-tools, orvtlistview-designer, orvtlistview-doc")
+describe(PYTHON "for Python, beside PyQt6")
 
 # What Debian asks of every package.
 configure_file(packaging/changelog.in ${PROJECT_BINARY_DIR}/packaging/changelog @ONLY)

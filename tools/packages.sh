@@ -6,6 +6,10 @@ build_packages=(
     qt6-translations-l10n
     libgl-dev zlib1g-dev fonts-dejavu-core)
 
+# The package for Python and its tests.
+python_packages=(
+    python3-pyqt6 pyqt6-dev pyqt6-dev-tools sip-tools python3-dev python3-pytest)
+
 # What works a window by real keys and mouse.
 display_packages=(xvfb xauth xclip xdotool openbox x11-utils)
 
@@ -13,7 +17,7 @@ test_packages=(
     libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev libqt6svg6 dpkg-dev file
     abigail-tools dbus-daemon lintian libreoffice-writer-nogui
     clang-format clang-tidy doxygen lld locales valgrind
-    "${display_packages[@]}")
+    "${python_packages[@]}" "${display_packages[@]}")
 
 # What fuzzes the core.
 fuzz_packages=(clang libclang-rt-14-dev lld)
@@ -21,7 +25,8 @@ fuzz_packages=(clang libclang-rt-14-dev lld)
 # What ./bench compares with.
 bench_packages=(
     libqscintilla2-qt6-dev libkf5syntaxhighlighting-dev
-    highlight python3-pygments)
+    highlight python3-pygments
+    "${python_packages[@]}" python3-pyqt6.qsci)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then

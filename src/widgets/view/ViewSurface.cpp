@@ -13,8 +13,8 @@ namespace ORVTListview {
 ViewSurface::ViewSurface(QAbstractItemView &view, const ReportDelegate &delegate)
     : m_view(view)
     , m_delegate(delegate)
-    , m_drag(view, *view.viewport())
     , m_surface(*view.viewport())
+    , m_drag(view, *view.viewport())
 {
 }
 

@@ -41,8 +41,8 @@ private:
 
     QAbstractItemView &m_view;
     const ReportDelegate &m_delegate;
+    EventSurface m_surface; // gets the end of a drag that is over it to the last
     DragEvents m_drag;
-    EventSurface m_surface;
 };
 
 } // namespace ORVTListview

@@ -5,7 +5,10 @@
 #include "widgets/list/ReportListFixture.h"
 
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QMimeData>
+#include <QtCore/QPointer>
 #include <QtCore/QSet>
+#include <QtGui/QDragEnterEvent>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QScrollBar>
 
@@ -39,6 +42,7 @@ private Q_SLOTS:
     void raisesNothingForTheProgram();
     void livesWithoutColumns();
     void holdsThirtyThousandRows();
+    void goesWhileADragIsOverIt();
 };
 
 void ReportListTest::selectsOneRowOrMany()
@@ -465,6 +469,21 @@ void ReportListTest::holdsThirtyThousandRows()
     last->EnsureVisible();
     QVERIFY(shown->GetFirstVisible()->Index() > 32700);
     QCOMPARE(last->SubItem(13), u" "_s);
+}
+
+void ReportListTest::goesWhileADragIsOverIt()
+{
+    auto list = std::make_unique<ReportList>();
+    list->setAcceptDrops(true);
+    list->show();
+    QMimeData data;
+    data.setText(u"text"_s);
+    QDragEnterEvent entered(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(list->viewport(), &entered);
+    QVERIFY(entered.isAccepted());
+    const QPointer<ReportList> life(list.get());
+    list.reset();
+    QVERIFY(!life);
 }
 
 ORVT_TEST(ReportListTest)

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "native/PythonObject.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QVariant>
+
+// What only the toolkit's own bindings know how to convert.
+namespace SipBridge {
+
+// A new reference; None for null.
+PyObject *fromObject(QObject *object);
+
+// Null for None, and with an error of Python's for what is no such object or is gone.
+QObject *toObject(PyObject *object);
+
+// A value of a class that the toolkit's bindings know, by its name in C++: a new
+// reference, null with an error of Python's for others.
+PyObject *fromValue(const char *type, const void *value);
+
+// Any value that the toolkit's bindings take for a variant. False with an error of
+// Python's for others.
+bool toVariant(PyObject *object, QVariant &value);
+
+// Has Python's object for this one know when it is gone. To be called for what C++ makes;
+// what Python makes knows by itself.
+void watch(QObject *object);
+
+} // namespace SipBridge
