@@ -402,11 +402,11 @@
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>&amp;Nächste Fundstelle</translation>
+        <translation>Weitersuche&amp;n</translation>
     </message>
     <message>
         <source>Find Pre&amp;vious</source>
-        <translation>&amp;Vorige Fundstelle</translation>
+        <translation>Rückwärts s&amp;uchen</translation>
     </message>
     <message>
         <source>Ne&amp;xt Use</source>

@@ -31,6 +31,9 @@ public:
     QStringView behind(qsizetype position, qsizetype longest) const;
     QStringView before(qsizetype position, qsizetype longest) const;
 
+    // The same, for whoever goes through it: base/SharedTextWalk.h.
+    class Walk;
+
     // A part of it, which lies within.
     QString mid(qsizetype start, qsizetype length) const { return part(start, length).toString(); }
 
@@ -54,7 +57,8 @@ public:
     };
 
     // Where the two differ, from front to back. Between two differences lies what both hold
-    // a piece of: one text that shares none with the other has one at most.
+    // a piece of: one text that shares none with the other has one at most. Takes time in
+    // the number of pieces, and in the length of what lies between those that both hold.
     QList<Difference> differences(const SharedText &other) const;
 
     // The same text, holding the other's pieces where both begin and end alike.
@@ -99,10 +103,6 @@ private:
     };
 
     QList<Alike> sharedParts(const SharedText &other) const;
-    qsizetype alikeFrom(qsizetype start, const SharedText &other, qsizetype otherStart,
-                        qsizetype most) const;
-    qsizetype alikeUpTo(qsizetype end, const SharedText &other, qsizetype otherEnd,
-                        qsizetype most) const;
     void append(const Piece &piece);
     void append(const SharedText &text);
     SharedText part(qsizetype start, qsizetype length) const;

@@ -1,13 +1,10 @@
 #include "editor/EditorUndo.h"
 
 #include "base/MessageService.h"
-#include "editor/LineStep.h"
-#include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "shared/texts/ToldFailure.h"
 #include "widgets/box/BoxText.h"
 #include "widgets/box/KeptView.h"
-#include "widgets/box/LateColours.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>
 
@@ -26,7 +23,7 @@ EditorUndo::EditorUndo(RichTextBox &box, const EditorThread &thread)
     : m_box(box)
     , m_thread(thread)
     , m_changed(now())
-    , m_settled(*box.document())
+    , m_showing(box, thread)
 {
     m_idle.setSingleShot(true);
     connect(&m_idle, &QTimer::timeout, this, &EditorUndo::encodeWhenIdle);
@@ -119,13 +116,6 @@ std::optional<UndoState> EditorUndo::stateAt(qint16 slot)
     }
 }
 
-ColouredText EditorUndo::coloured(const QString &text) const
-{
-    if (m_keepsText)
-        return m_thread.finished(text, Spelling::Listed);
-    return colouredText(m_thread.colouring(), text, false, m_thread.settings());
-}
-
 bool EditorUndo::bringBackKeptText()
 {
     const RichTextBox::Changing changing(m_box);
@@ -151,47 +141,16 @@ bool EditorUndo::showKept(const std::optional<UndoState> &kept)
 void EditorUndo::show(const UndoState &state, Spelling spelling)
 {
     const KeptView view(m_box);
-    if (!showLines(state.text, spelling))
-        showWhole(state.text.toString(), spelling);
+    m_showing.show(state.text, spelling);
     m_changed = now();
     m_box.setSelStart(state.selectionStart);
     m_box.setSelLength(state.selectionLength);
 }
 
-// Only where the finished look of a line goes by that line alone.
-bool EditorUndo::showLines(const SharedText &text, Spelling spelling)
+void EditorUndo::noteColoured(const QString &text, const ColouredText &shown)
 {
-    if (!m_keepsText || m_settledBy != m_thread.finishedBy())
-        return false;
-    const auto finished = [&](const QString &lines) { return m_thread.finished(lines, spelling); };
-    if (!LineStep(m_box, m_settled).show(text, finished))
-        return false;
-    if (spelling == Spelling::Listed)
-        m_settled.settleAll();
-    return true;
-}
-
-void EditorUndo::showWhole(const QString &text, Spelling spelling)
-{
-    const bool isListed = spelling == Spelling::Listed;
-    const ColouredText whole = isListed ? coloured(text) : m_thread.finished(text, spelling);
-    {
-        const LateColours::Allowed late(LateColours::of(*m_box.document()),
-                                        LateColours::Lines::Former);
-        m_box.setColoured(whole);
-    }
-    m_settled.unsettleAll();
-    if (isListed && m_keepsText)
-        noteFinished(text);
-}
-
-void EditorUndo::noteFinished(const QString &text)
-{
-    m_settled.unsettleAll();
-    if (!LateColours::suits(text)) // it went in as another one
-        return;
-    m_settled.settleAll();
-    m_settledBy = m_thread.finishedBy();
+    m_showing.noteColoured(SharedText(text), shown);
+    m_idle.start(idleAfter);
 }
 
 // What is shown is where its own ring begins, and the thread's where no program has yet.
@@ -261,7 +220,8 @@ void EditorUndo::noteEdit()
 
 void EditorUndo::encodeWhenIdle()
 {
-    if (ring().encodePending() || m_kept.encodePending(UndoStore::sliceLength))
+    if (ring().encodePending() || m_kept.encodePending(UndoStore::sliceLength) ||
+        m_showing.prepare())
         m_idle.start(0ms);
 }
 

@@ -2,8 +2,7 @@
 
 #include "base/HostHistory.h"
 #include "editor/EditorClock.h"
-#include "editor/EditorThread.h"
-#include "editor/SettledLines.h"
+#include "editor/StateShowing.h"
 #include "editor/rules/undo/KeptStates.h"
 #include "editor/rules/undo/UndoStore.h"
 #include <QtCore/QObject>
@@ -14,7 +13,6 @@
 namespace ORVTListview {
 
 class RichTextBox;
-struct ColouredText;
 
 // One editor's use of the undo ring that all editors of its thread share, or of one of its
 // own.
@@ -29,9 +27,9 @@ public:
     void setReady(bool isReady) { m_isReady = isReady; }
 
     // Whether a text that is coloured as a whole keeps blanks, tabs and brackets.
-    bool keepsText() const { return m_keepsText; }
-    void setKeepsText(bool on) { m_keepsText = on; }
-    ColouredText coloured(const QString &text) const;
+    bool keepsText() const { return m_showing.keepsText(); }
+    void setKeepsText(bool on) { m_showing.setKeepsText(on); }
+    ColouredText coloured(const QString &text) const { return m_showing.coloured(text); }
 
     // Its steps begin with what is shown then. Without effect while a state is restored.
     bool hasOwnRing() const { return m_own != nullptr; }
@@ -75,8 +73,9 @@ public:
     void clearHistory();
     void beginWithShown(); // nothing to undo, and the text shown as the base
 
-    // The box was just given a text that was finished as a whole.
-    void noteFinished(const QString &text);
+    // The box was just given a text that was finished, or coloured, as a whole.
+    void noteFinished(const QString &text) { m_showing.noteFinished(text); }
+    void noteColoured(const QString &text, const ColouredText &shown);
 
     // Before and after the text is changed by anything but undo and redo. When it
     // loses a part at once, or has stood for a while, the state before is kept.
@@ -91,8 +90,6 @@ private:
     std::optional<UndoState> stateAt(qint16 slot);
     bool showKept(const std::optional<UndoState> &kept);
     void show(const UndoState &state, Spelling spelling);
-    bool showLines(const SharedText &text, Spelling spelling);
-    void showWhole(const QString &text, Spelling spelling);
     UndoState shown() const;
     void encodeWhenIdle();
 
@@ -102,12 +99,10 @@ private:
     KeptStates m_kept;
     HostHistory m_host;
     EditorClock::Time m_changed; // when the text was, last
-    SettledLines m_settled;
-    FinishedBy m_settledBy;
+    StateShowing m_showing;
     QTimer m_idle;
     bool m_isReady = false;
     bool m_isTypedSinceSnapshot = false;
-    bool m_keepsText = false;
 };
 
 } // namespace ORVTListview

@@ -28,10 +28,12 @@ QTextCursor endOf(const RichTextBox &box, const TextPiece &piece)
 
 } // namespace
 
-void replaceFarPieces(RichTextBox &box, const QList<TextPiece> &pieces,
+bool replaceFarPieces(RichTextBox &box, const QList<TextPiece> &pieces,
                       const QList<ColouredText> &texts, const FinishPieces &finish)
 {
     const RichTextBox::Changing changing(box);
+    const BoxText &text = BoxText::of(*box.document());
+    quint64 changes = text.changeCount();
     qint32 fromEnd = 0; // of the caret
     for (qsizetype end = pieces.size(); end > 0;) {
         const qsizetype first = firstNear(pieces, end - 1);
@@ -44,12 +46,14 @@ void replaceFarPieces(RichTextBox &box, const QList<TextPiece> &pieces,
         });
         if (end == pieces.size())
             fromEnd = box.TextLength() - box.SelStart();
+        ++changes;
         if (next.position() != place)
-            return;
+            return false;
         end = first;
     }
     if (!pieces.isEmpty())
         box.setSelStart(box.TextLength() - fromEnd);
+    return text.changeCount() == changes;
 }
 
 } // namespace ORVTListview

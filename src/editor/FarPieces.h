@@ -18,8 +18,9 @@ using FinishPieces = std::function<void(qsizetype first, qsizetype count)>;
 // As RichTextBox::replacePieces, and raises one Change; but pieces far from each other are
 // changes of their own to whoever follows the document, and goes through what has changed
 // from one end to the other. A receiver that changes the text before them in between ends it:
-// the places would be others.
-void replaceFarPieces(RichTextBox &box, const QList<TextPiece> &pieces,
+// the places would be others. Returns whether nobody but `finish` has changed the document
+// meanwhile.
+bool replaceFarPieces(RichTextBox &box, const QList<TextPiece> &pieces,
                       const QList<ColouredText> &texts, const FinishPieces &finish = {});
 
 } // namespace ORVTListview

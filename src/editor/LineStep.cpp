@@ -18,6 +18,7 @@ namespace {
 using Range = SettledLines::Range;
 
 const QString lineEnd = QStringLiteral("\r\n");
+constexpr int farthest = 1000; // lines to the next word
 
 // From the top, those that touch as one.
 QList<Range> joined(QList<Range> lines)
@@ -52,22 +53,24 @@ TextPiece pieceOf(const BoxText &text, const Range &lines)
 
 } // namespace
 
-LineStep::LineStep(RichTextBox &box, const SettledLines &settled)
+LineStep::LineStep(RichTextBox &box, const SettledLines &settled, const StepSource &source)
     : m_box(box)
     , m_settled(settled)
+    , m_source(source)
 {
 }
 
 bool LineStep::show(const SharedText &text, const Colour &colour)
 {
-    if (!m_settled.areKnown() || !mayKeepLines())
+    if (!m_settled.areKnown() || !mayKeepLines() || m_source.lineCount() != boxText().lineCount())
         return false;
     const Differences differ = differing(text);
-    if (!colourParts(linesToShow(differ), differ, text, colour))
+    if (!colourParts(linesToShow(differ, colour.goesOn), differ, text, colour))
         return false;
     giveLateColours();
     replaceLines();
-    colourLines();
+    if (m_isShown)
+        colourLines();
     return true;
 }
 
@@ -89,21 +92,52 @@ const BoxText &LineStep::boxText() const
 // One place at least.
 LineStep::Differences LineStep::differing(const SharedText &text) const
 {
-    const SharedText &shown = boxText().sharedText();
+    const SharedText &shown = m_source.text();
     const Differences found = shown.differences(text);
     return found.isEmpty() ? Differences{{shown.size(), 0, text.size(), 0}} : found;
 }
 
-QList<Range> LineStep::linesToShow(const Differences &differ) const
+QList<Range> LineStep::linesToShow(const Differences &differ, bool goOn) const
 {
     QList<Range> lines = m_settled.unsettled();
     for (const auto &part : differ)
-        lines.append({boxText().lineOf(static_cast<qint32>(part.start)),
-                      boxText().lineOf(static_cast<qint32>(part.end()))});
+        lines.append({m_source.lineOf(part.start), m_source.lineOf(part.end())});
+    if (goOn) {
+        for (Range &range : lines)
+            range.last = withNextWord(range.last);
+    }
     return joined(lines);
 }
 
-// Behind lines that differ the text stands elsewhere than in the box.
+// The next line with a word, where no colour goes on; the last one, if that is far.
+int LineStep::withNextWord(int line) const
+{
+    const int last = m_source.lineCount() - 1;
+    for (int next = line + 1; next <= std::min(line + farthest, last); ++next) {
+        if (m_source.hasWord(next))
+            return next;
+    }
+    return line < last ? last : line;
+}
+
+// By the last word before the line; unknown if that is far.
+std::optional<ColouredLines> LineStep::coloured(const QString &part, int line,
+                                                const Colour &colour) const
+{
+    int before = line - 1;
+    while (colour.goesOn && before >= 0 && !m_source.hasWord(before)) {
+        if (line - --before > farthest)
+            return std::nullopt;
+    }
+    if (!colour.goesOn || before < 0)
+        return ColouredLines(colour.lines(part));
+    const qsizetype start = m_source.lineStart(before);
+    const QString word = m_source.text().mid(start, m_source.lineEnd(before) - start);
+    const ColouredLines whole(colour.lines(word + lineEnd + part));
+    return ColouredLines(whole.between(1, whole.count() - 1, false));
+}
+
+// Behind lines that differ the text stands elsewhere than in the source.
 bool LineStep::colourParts(const QList<Range> &ranges, const Differences &differ,
                            const SharedText &text, const Colour &colour)
 {
@@ -111,19 +145,23 @@ bool LineStep::colourParts(const QList<Range> &ranges, const Differences &differ
     qsizetype grown = 0;
     auto next = differ.cbegin();
     for (const Range &lines : ranges) {
-        const TextPiece piece = pieceOf(boxText(), lines);
-        const qsizetype start = piece.start + grown;
+        const qsizetype former = m_source.lineStart(lines.first);
+        const qsizetype end = m_source.lineEnd(lines.last);
+        const qsizetype start = former + grown;
         const auto first = next;
-        for (; next != differ.cend() && next->start <= piece.end(); ++next)
+        for (; next != differ.cend() && next->start <= end; ++next)
             grown += next->grown();
-        const qsizetype wanted = piece.end() + grown - start;
-        length += std::max<qsizetype>(piece.length, wanted);
+        const qsizetype wanted = end + grown - start;
+        length += std::max(end - former, wanted);
         if (length > LateColours::shortest || !areWholeLines(text, start, wanted))
             return false;
         const QString part = text.mid(start, wanted);
         if (!LateColours::suits(part))
             return false;
-        m_parts.append({lines, ColouredLines(colour(part)), next != first});
+        const auto finished = coloured(part, lines.first, colour);
+        if (!finished)
+            return false;
+        m_parts.append({lines, *finished, next != first});
     }
     return true;
 }
@@ -179,7 +217,7 @@ void LineStep::replaceLines()
         part.lines.first += grown;
         grown += part.text.count() - formerLines;
     }
-    replaceFarPieces(m_box, places, texts);
+    m_isShown = replaceFarPieces(m_box, places, texts);
 }
 
 void LineStep::colourLines() const

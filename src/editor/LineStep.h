@@ -3,6 +3,7 @@
 #include "base/ColouredText.h"
 #include "base/SharedText.h"
 #include "editor/SettledLines.h"
+#include "editor/StepSource.h"
 #include "widgets/box/ColouredLines.h"
 
 #include <QtCore/QList>
@@ -22,14 +23,22 @@ class RichTextBox;
 class LineStep
 {
 public:
-    LineStep(RichTextBox &box, const SettledLines &settled);
+    LineStep(RichTextBox &box, const SettledLines &settled, const StepSource &source);
 
-    // Colours whole lines, each for itself; what is settled is as this leaves it.
-    using Colour = std::function<ColouredText(const QString &lines)>;
+    // Colours whole lines; what is settled is as this leaves it. Each is for itself, or the
+    // blanks that a line begins with go on in the colour of the last word before it.
+    struct Colour
+    {
+        std::function<ColouredText(const QString &lines)> lines;
+        bool goesOn = false;
+    };
 
     // False, and nothing is changed, when the text is to be set as a whole: too much
     // differs, or is not settled. To be called once.
     bool show(const SharedText &text, const Colour &colour);
+
+    // Whether it is what is shown now: nobody has changed the box while it did.
+    bool isShown() const { return m_isShown; }
 
 private:
     using Range = SettledLines::Range;
@@ -48,7 +57,10 @@ private:
     bool mayKeepLines() const;
     using Differences = QList<SharedText::Difference>;
     Differences differing(const SharedText &text) const;
-    QList<Range> linesToShow(const Differences &differ) const;
+    QList<Range> linesToShow(const Differences &differ, bool goOn) const;
+    int withNextWord(int line) const;
+    std::optional<ColouredLines> coloured(const QString &part, int line,
+                                          const Colour &colour) const;
     bool colourParts(const QList<Range> &ranges, const Differences &differ, const SharedText &text,
                      const Colour &colour);
     void giveLateColours() const;
@@ -57,7 +69,9 @@ private:
 
     RichTextBox &m_box;
     const SettledLines &m_settled;
+    const StepSource &m_source;
     QList<Part> m_parts;
+    bool m_isShown = false;
 };
 
 } // namespace ORVTListview

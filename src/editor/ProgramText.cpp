@@ -11,6 +11,8 @@
 #include "editor/rules/colouring/FinishedParts.h"
 #include "editor/rules/colouring/LineColouring.h"
 #include "editor/rules/colouring/RtfHead.h"
+#include "rtf/RtfWriter.h"
+#include "widgets/box/BoxFormats.h"
 #include "widgets/box/BoxMimeData.h"
 #include "widgets/box/LateColours.h"
 #include <ORVTListview/RichTextBox.h>
@@ -19,8 +21,6 @@
 #include <QtGui/QFontMetrics>
 
 namespace ORVTListview {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -80,7 +80,10 @@ void ProgramText::setAnew()
     try {
         takeHead();
         m_box.setText(QString()); // no line of it is typed on any more
-        m_box.setColoured(m_undo.coloured(kept));
+        const ColouredText coloured = m_undo.coloured(kept);
+        m_box.setColoured(coloured);
+        if (m_box.Text() == coloured.text) // nobody has put in another one meanwhile
+            m_undo.noteColoured(kept, coloured);
     } catch (const std::exception &) {
         m_box.setText(kept); // uncoloured is better than lost
     }
@@ -97,16 +100,18 @@ void ProgramText::applyAppearance(const RichTextSettings &setting)
     m_box.setFontUnderline(hasMark(setting.FontStyle, u"u1"));
 }
 
-// From what a box writes for two lines in the font of this one, whose text stays meanwhile.
+// From what a box in this font writes for two lines.
 void ProgramText::takeHead()
 {
-    RichTextBox sample;
-    sample.setFont(m_box.font());
-    sample.setSelText(u"#GetInfo#\r\n#Another word"_s);
-    sample.selectAll();
+    BoxFormats formats;
+    formats.setFont(m_box.font());
+    RtfWriter sample(formats.base());
+    sample.text(u"#GetInfo#", formats.base());
+    sample.lineEnd();
+    sample.text(u"#Another word", formats.base());
     EditorState &state = m_thread.state;
     state.RtfHeader =
-        BuildRtfHeader(sample.SelRTF(), state.EditorSettings, m_thread.messages.service()).Header;
+        BuildRtfHeader(sample.finish(), state.EditorSettings, m_thread.messages.service()).Header;
 }
 
 QString ProgramText::CodeText() const

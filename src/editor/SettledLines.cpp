@@ -31,9 +31,14 @@ void SettledLines::unsettleAll()
 QList<SettledLines::Range> SettledLines::unsettled() const
 {
     QList<Range> lines;
-    for (const ChangedRanges::Range &changed : m_changed.ranges())
-        lines.append({m_document.findBlock(changed.from).blockNumber(),
-                      m_document.findBlock(changed.to).blockNumber()});
+    for (const ChangedRanges::Range &changed : m_changed.ranges()) {
+        const int first = m_document.findBlock(changed.from).blockNumber();
+        const int last = m_document.findBlock(changed.to).blockNumber();
+        if (lines.isEmpty() || lines.constLast().last < first)
+            lines.append({first, last, changed.lines});
+        else
+            lines.last() = {lines.constLast().first, last, lines.constLast().grown + changed.lines};
+    }
     return lines;
 }
 

@@ -21,17 +21,18 @@ public:
     void settleAll();
     void unsettleAll();
 
-    // From one line to another, counted from 0.
+    // From one line to another, counted from 0; so many more than when all were settled.
     struct Range
     {
         int first = 0;
         int last = 0;
+        int grown = 0;
     };
 
     // Otherwise it can be any line that is not settled.
     bool areKnown() const { return m_isKnown; }
 
-    // The others, from the top.
+    // The others, from the top. None is in two ranges.
     QList<Range> unsettled() const;
 
 private:

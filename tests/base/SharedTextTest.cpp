@@ -315,3 +315,19 @@ TEST(SharedText, DifferencesMakeOneTextOfTheOther)
         states.append(below(9) == 0 ? SharedText(next.toString()) : next);
     }
 }
+
+// The same string twice, and parts of it in another order than in itself.
+TEST(SharedText, FindsDifferencesOfTextsThatHoldAStringTwice)
+{
+    const QString string = u"IF TEMP1 > 20 THEN FAN = ON\r\n"_s.repeated(300);
+    const SharedText once(string);
+    SharedText twice;
+    twice = twice.replaced(0, 0, string);
+    twice = twice.replaced(0, 0, string);
+    const SharedText thrice = twice.replaced(5000, 100, string);
+    const QList<SharedText> texts{once, twice, thrice, thrice.replaced(0, 7000, string)};
+    for (const SharedText &text : texts) {
+        for (const SharedText &other : texts)
+            EXPECT_EQ(withDifferences(text, other), other.toString());
+    }
+}

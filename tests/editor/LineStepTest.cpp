@@ -1,7 +1,9 @@
 // Undo and redo that change only the lines that differ: what they show, compared with the
 // same text opened anew, and how much of the document they touch.
 
+#include "editor/EditorThread.h"
 #include "editor/OpeningHost.h"
+#include "editor/rules/colouring/ColourText.h"
 #include "support/RandomSeed.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
@@ -9,6 +11,7 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
 
+#include <memory>
 #include <random>
 #include <utility>
 
@@ -18,11 +21,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Counts what the document is told to have changed.
-struct KeepingHost : OpeningHost
+struct SteppingHost : OpeningHost
 {
-    KeepingHost()
+    SteppingHost()
     {
-        view().setKeepsText(true);
         QObject::connect(box().document(), &QTextDocument::contentsChange, &form,
                          [this](int, int removed, int added) { touched += removed + added; });
     }
@@ -66,8 +68,39 @@ struct KeepingHost : OpeningHost
         comparePictures(pictureOf(box()), pictureOf(*other.RTextBox()));
     }
 
+    // What the text that the ring is at looks like, set as a whole.
+    void compareWithTheRing()
+    {
+        finish();
+        const QString text = splitUndoRecord(ring().FetchUndoSnapshot(ring().UndoCurrent())).text;
+        const EditorThread thread = EditorThread::current();
+        RichTextBox other;
+        other.setColoured(colouredText(thread.colouring(), text, false, thread.settings()));
+        QCOMPARE(list->CodeText(), other.Text());
+        comparePictures(pictureOf(box()), pictureOf(other));
+    }
+
+    // As it takes to get ready for a step.
+    void rest() { QTest::qWait(900); }
+
     int touched = 0;
 };
+
+struct KeepingHost : SteppingHost
+{
+    KeepingHost() { view().setKeepsText(true); }
+};
+
+// Brackets that are not set off, and blanks in the colours of the lines before.
+QString colouredProgram()
+{
+    QStringList lines = longProgram().replace(u")\t"_s, u") "_s).split(u"\r\n"_s);
+    for (qsizetype i = 0; i + 1 < lines.size(); i += 10) {
+        lines[i] = u"if (temp1>limit1 ) and (fan1) and (limit1) and ((temp1))"_s;
+        lines[i + 1] = i % 20 == 0 ? u" \t "_s : u""_s;
+    }
+    return lines.join(u"\r\n"_s);
+}
 
 } // namespace
 
@@ -260,6 +293,124 @@ private Q_SLOTS:
         host.box().setSelStart(0);
         QVERIFY(host.view().nextBookmark());
         QCOMPARE(host.box().GetLineFromChar(host.box().SelStart()), 1000);
+    }
+
+    void aStepTouchesFewLinesOfAColouredProgram()
+    {
+        SteppingHost host;
+        host.open(colouredProgram());
+        host.finish();
+        for (const int line : {2000, 2001, 2002, 30, 3900})
+            host.typeAt(line, u"temp1 (x) "_s);
+        host.undo(); // sets all brackets off
+        QVERIFY(!host.hasTouchedFew());
+        host.compareWithTheRing();
+        while (host.list->IsUndoAvailable()) {
+            host.undo();
+            QVERIFY(host.hasTouchedFew());
+            host.compareWithTheRing();
+        }
+        while (host.list->IsRedoAvailable()) {
+            host.redo();
+            QVERIFY(host.hasTouchedFew());
+            host.compareWithTheRing();
+        }
+    }
+
+    // The snapshots have the brackets that colouring has set off.
+    void soItDoesWhatWasTypedSince()
+    {
+        SteppingHost host;
+        host.open(colouredProgram());
+        host.finish();
+        host.typeAt(2000, u"x y "_s);
+        host.undo();
+        host.finish();
+        host.rest();
+        for (const int line : {1000, 1001, 1002, 3900})
+            host.typeAt(line, u"temp1 (x) "_s);
+        for (int i = 0; i < 7; ++i) {
+            host.undo();
+            QVERIFY(host.hasTouchedFew());
+            host.compareWithTheRing();
+        }
+        host.redo();
+        QVERIFY(host.hasTouchedFew());
+        host.compareWithTheRing();
+    }
+
+    // Two words that a tab parts become one, of another colour.
+    void whatColouringChangesTwiceIsColouredAnew()
+    {
+        SteppingHost host;
+        host.open(colouredProgram() + u"\r\nend\tif"_s);
+        host.finish();
+        host.typeAt(2000, u"x y "_s);
+        host.undo();
+        host.finish();
+        host.rest();
+        host.typeAt(1000, u"temp1 (x) "_s);
+        host.undo();
+        host.compareWithTheRing();
+        host.undo();
+        host.compareWithTheRing();
+    }
+
+    void anythingTypedInAColouredProgramLooksAsInTheRing()
+    {
+        const unsigned seed = randomSeed(7);
+        std::mt19937 random(seed);
+        const auto below = [&](unsigned count) { return static_cast<int>(random() % count); };
+        const QStringList words{u"temp1 "_s, u"if "_s,    u"x"_s,       u"\n"_s,
+                                u"rem "_s,   u"(fan1) "_s, u"end\tif "_s, u"\n \n"_s};
+        SteppingHost host;
+        host.open(colouredProgram());
+        for (int step = 0; step < randomSteps(120); ++step) {
+            const int what = below(16);
+            const bool isStep =
+                what < 4 ? host.list->IsUndoAvailable() : what < 7 && host.list->IsRedoAvailable();
+            if (what < 4)
+                host.undo();
+            else if (what < 7)
+                host.redo();
+            else if (what == 7)
+                host.key(Qt::Key_Backspace);
+            else if (what == 8)
+                host.rest();
+            else
+                host.typeAt(below(8) * 10 + below(3), words[below(8)]);
+            if (isStep)
+                host.compareWithTheRing();
+        }
+    }
+
+    // In the midst of a step: nothing of it is known to be right.
+    void aTextThatComesDuringAStepIsColouredByTheNext()
+    {
+        for (const bool keeps : {false, true}) {
+            SteppingHost host;
+            host.view().setKeepsText(keeps);
+            host.open(colouredProgram());
+            host.finish();
+            host.typeAt(2000, u"temp1 temp2 "_s);
+            host.undo();
+            host.finish();
+            host.typeAt(2000, u"temp1 temp2 "_s);
+            const QString plain = host.list->CodeText();
+            const auto once = std::make_shared<bool>(true);
+            QObject::connect(host.box().document(), &QTextDocument::contentsChange, &host.form,
+                             [&host, &plain, once] {
+                                 if (std::exchange(*once, false))
+                                     host.box().setText(plain);
+                             });
+            host.undo();
+            host.finish();
+            host.undo();
+            if (keeps)
+                host.compareWithOpenedAnew();
+            else
+                host.compareWithTheRing();
+        }
     }
 
     void textsWithTheirSeparatorAreRefusedAsEver()

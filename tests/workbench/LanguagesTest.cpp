@@ -27,6 +27,18 @@ private:
             QTest::addRow("%s", qPrintable(language)) << language;
     }
 
+    static QList<TranslationMessage> textsOf(const QString &part, const QString &language)
+    {
+        return readTranslationFile(u"" ORVT_SOURCE_DIR "/translations/"_s + part + u'_' + language +
+                                   u".ts"_s);
+    }
+
+    // As it is said, without its access key and what tells that a dialog opens.
+    static QString bare(QString text)
+    {
+        return text.remove(u'&').remove(u'…').trimmed();
+    }
+
     static QStringList placeholders(const QString &text)
     {
         QStringList found;
@@ -52,8 +64,7 @@ private Q_SLOTS:
     void everyTextIsTranslated()
     {
         QFETCH(QString, language);
-        const QList<TranslationMessage> messages = readTranslationFile(
-            u"" ORVT_SOURCE_DIR "/translations/workbench_"_s + language + u".ts"_s);
+        const QList<TranslationMessage> messages = textsOf(u"workbench"_s, language);
         QVERIFY(messages.size() > 50);
         for (const TranslationMessage &message : messages) {
             QVERIFY2(message.isFinished, qPrintable(message.source));
@@ -64,6 +75,27 @@ private Q_SLOTS:
             QCOMPARE(message.translation == message.source,
                      sameAsEnglish[language].contains(message.source));
         }
+    }
+
+    // "Edit" is the menu's own title there, and the library's is a command.
+    void theEditMenuAndTheFindDialogNameACommandAlike_data() { addLanguages(); }
+    void theEditMenuAndTheFindDialogNameACommandAlike()
+    {
+        QFETCH(QString, language);
+        QHash<QString, QString> ofLibrary;
+        for (const TranslationMessage &message : textsOf(u"orvtlistview"_s, language))
+            ofLibrary.insert(message.source, message.translation);
+        QStringList shared;
+        for (const TranslationMessage &message : textsOf(u"workbench"_s, language)) {
+            const QString source = bare(message.source);
+            if (!message.context.endsWith(u"EditMenu"_s) || source == u"Edit" ||
+                !ofLibrary.contains(source))
+                continue;
+            shared << source;
+            QCOMPARE(bare(message.translation), bare(ofLibrary[source]));
+        }
+        QVERIFY(shared.contains(u"Find Next"_s));
+        QVERIFY(shared.contains(u"Find Previous"_s));
     }
 
     void theMenuChangesTheLanguage()

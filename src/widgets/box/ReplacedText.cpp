@@ -19,6 +19,8 @@ bool hasSelection(const QPlainTextEdit &box)
 ReplacedText::ReplacedText(const QPlainTextEdit &former)
     : m_lines(former.blockCount())
     , m_isModified(former.document()->isModified())
+    , m_couldUndo(former.document()->isUndoAvailable())
+    , m_couldRedo(former.document()->isRedoAvailable())
     , m_wasSelected(hasSelection(former))
 {
 }
@@ -29,8 +31,14 @@ void ReplacedText::tellFrom(QPlainTextEdit &box) const
     using Box = QPlainTextEdit;
     const int lines = box.blockCount();
     const bool isModified = box.document()->isModified();
+    const bool canUndo = box.document()->isUndoAvailable();
+    const bool canRedo = box.document()->isRedoAvailable();
     const bool isSelected = hasSelection(box);
     bool isThere = raiseEvent(box, &Box::updateRequest, box.viewport()->rect(), 0);
+    if (isThere && canUndo != m_couldUndo)
+        isThere = raiseEvent(box, &Box::undoAvailable, canUndo);
+    if (isThere && canRedo != m_couldRedo)
+        isThere = raiseEvent(box, &Box::redoAvailable, canRedo);
     if (isThere && lines != m_lines)
         isThere = raiseEvent(box, &Box::blockCountChanged, lines);
     isThere = isThere && raiseEvent(box, &Box::textChanged);

@@ -18,6 +18,8 @@ public:
 private:
     int m_lines;
     bool m_isModified;
+    bool m_couldUndo; // where a host has switched that on for the document
+    bool m_couldRedo;
     bool m_wasSelected;
 };
 

@@ -160,6 +160,24 @@ private Q_SLOTS:
         putIn(box);
         QCOMPARE(box.Text(), put);
     }
+
+    // A host may have switched the document's own steps on.
+    void stepsThatAreGoneAreTold_data() { WaysIn::add(); }
+    void stepsThatAreGoneAreTold()
+    {
+        QFETCH(const Act, putIn);
+        RichTextBox box;
+        fill(box);
+        box.document()->setUndoRedoEnabled(true);
+        QTextCursor(box.document()).insertText(u"a"_s);
+        QTextCursor(box.document()).insertText(u"b"_s);
+        box.document()->undo();
+        QVERIFY(box.document()->isRedoAvailable());
+        const QSignalSpy redo(&box, &QPlainTextEdit::redoAvailable);
+        putIn(box);
+        QCOMPARE(redo.count(), 1);
+        QCOMPARE(redo.constFirst().constFirst().toBool(), false);
+    }
 };
 
 ORVT_TEST(ReplacedTextTest)
