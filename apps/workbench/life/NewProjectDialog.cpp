@@ -2,6 +2,7 @@
 
 #include "project/NewProject.h"
 #include "project/ProjectColumns.h"
+#include "project/ProjectFileName.h"
 #include "project/TextFile.h"
 
 #include <ORVTListview/Error.h>
