@@ -7,6 +7,8 @@
 #include "project/ProjectFileName.h"
 #include "project/TextFile.h"
 
+#include <ORVTListview/Error.h>
+
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 

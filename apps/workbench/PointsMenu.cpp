@@ -47,6 +47,10 @@ void PointsMenu::addPoints(PointRenaming &renaming, PointImporting &importing)
     m_rename->setShortcut(QKeySequence(Qt::Key_F2));
     m_rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
     m_add = addAction(tr("&Add Point…"), &renaming, [this, &renaming] { renaming.add(type()); });
+    m_duplicate = addAction(tr("&Duplicate Point…"), &renaming, [this, &renaming] {
+        if (const PointTables *table = m_view.currentTable())
+            renaming.duplicate(type(), table->selectedPoint());
+    });
     m_remove = addAction(tr("Re&move Point"), &renaming, [this, &renaming] {
         if (const PointTables *table = m_view.currentTable())
             renaming.remove(type(), table->selectedPoint());
@@ -78,6 +82,7 @@ void PointsMenu::refresh()
     m_read->setEnabled(m_reading.canRead(type()));
     m_add->setEnabled(table);
     m_import->setEnabled(table);
+    m_duplicate->setEnabled(isPoint);
     m_remove->setEnabled(isPoint);
     m_rename->setEnabled(isPoint && nameColumn(type()) >= 0);
     m_overrides->setChecked(m_view.tables().showsOverrides());

@@ -4,6 +4,7 @@
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "widgets/box/BoxCommands.h"
+#include "workbench/PlainTexts.h"
 #include "workbench/renaming/NameQuestion.h"
 #include "workbench/renaming/RenameDialog.h"
 #include "workbench/views/ProgramViews.h"
@@ -12,7 +13,6 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
-#include <QtWidgets/QMessageBox>
 
 #include <algorithm>
 #include <limits>
@@ -81,16 +81,16 @@ void PointRenaming::rename(LwType type, qsizetype row, const QString &name)
     m_document.noteStepShown();
 }
 
-QString PointRenaming::askName(LwType type)
+QString PointRenaming::askName(LwType type, const QString &title, const QString &name)
 {
     const QPointer<PointRenaming> self(this);
-    const auto fault = [&](const QString &name) {
+    const auto fault = [&](const QString &typed) {
         const Project *project = self ? m_document.project() : nullptr;
-        return project ? project->nameFault(type, project->rows(type).size(), name) : QString();
+        return project ? project->nameFault(type, project->rows(type).size(), typed) : QString();
     };
-    const QString name =
-        ORVTListview::askName(m_window, {tr("Add Point"), tr("Name of the new point:"), {}, fault});
-    return self && m_document.project() ? name : QString();
+    const QString given =
+        ORVTListview::askName(m_window, {title, tr("Name of the new point:"), name, fault});
+    return self && m_document.project() ? given : QString();
 }
 
 void PointRenaming::add(LwType type)
@@ -99,17 +99,38 @@ void PointRenaming::add(LwType type)
         return;
     ProjectRow row;
     row.cells.resize(projectColumns(type).size());
+    append(type, row, tr("Add Point"));
+}
+
+void PointRenaming::duplicate(LwType type, qsizetype row)
+{
+    const Project *project = m_document.project();
+    if (!project || row < 0 || row >= project->rows(type).size())
+        return;
+    ProjectRow copy = project->rows(type).at(row);
+    const QString name = copy.name;
+    for (int number = 2; !name.isEmpty(); ++number) {
+        copy.name = name + QString::number(number);
+        if (project->nameFault(type, project->rows(type).size(), copy.name).isEmpty())
+            break;
+    }
+    append(type, copy, tr("Duplicate Point"));
+}
+
+// Behind the last; its name is the one that is proposed.
+void PointRenaming::append(LwType type, ProjectRow row, const QString &title)
+{
     const qsizetype column = nameColumn(type);
     if (column >= 0) {
         const QPointer<PointRenaming> self(this);
-        row.name = askName(type);
+        row.name = askName(type, title, row.name);
         if (!self || row.name.isEmpty())
             return;
         row.cells[column] = row.name;
     }
     const qsizetype place = m_document.project()->rows(type).size();
     if (place >= std::numeric_limits<qint16>::max()) {
-        QMessageBox::warning(&m_window, tr("Add Point"), tr("The table is full."));
+        PlainTexts::warn(m_window, title, tr("The table is full."));
         return;
     }
     row.data = isVocabularyType(type) ? static_cast<qint32>(place) + 1 : 0;
@@ -134,10 +155,10 @@ void PointRenaming::remove(LwType type, qsizetype row)
         if (more > 0)
             places = places.first(most) << tr("and %1 more").arg(more);
         const QPointer<PointRenaming> self(this);
-        const auto answer = QMessageBox::question(
-            &m_window, tr("Remove Point"),
-            tr("%1 is still named here, where it will be unknown:\n\n%2\n\nRemove it?")
-                .arg(point.name, places.join(u'\n')));
+        const auto answer = PlainTexts::ask(
+            m_window, {tr("Remove Point"),
+                       tr("%1 is still named here, where it will be unknown:\n\n%2\n\nRemove it?")
+                           .arg(point.name, places.join(u'\n'))});
         if (!self || answer != QMessageBox::Yes || m_document.project() != &project ||
             !(project.rows(type).value(row) == point))
             return;

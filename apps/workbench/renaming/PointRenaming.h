@@ -11,6 +11,7 @@ namespace ORVTListview {
 
 class ProgramViews;
 class ProjectDocument;
+struct ProjectRow;
 
 // Renames, adds and removes points, everywhere in the project and as one step each, after
 // the user has seen the places.
@@ -27,10 +28,14 @@ public:
 
     // A point at the end of its table; the user is asked for its name.
     void add(LwType type);
+
+    // The same with the cells of another one.
+    void duplicate(LwType type, qsizetype row);
     void remove(LwType type, qsizetype row);
 
 private:
-    QString askName(LwType type);
+    QString askName(LwType type, const QString &title, const QString &name);
+    void append(LwType type, ProjectRow row, const QString &title);
 
     ProjectDocument &m_document;
     const ProgramViews &m_programs;
