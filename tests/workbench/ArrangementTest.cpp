@@ -202,8 +202,9 @@ private Q_SLOTS:
         auto *tabs = views.place().findChild<QTabBar *>();
         QVERIFY(tabs);
         QTRY_COMPARE(tabs->findChildren<QAbstractButton *>(u""_s).size() > 0, true);
-        QTRY_VERIFY(!tabs->tabButton(0, QTabBar::RightSide) &&
+        QTRY_VERIFY(!qobject_cast<QAbstractButton *>(tabs->tabButton(0, QTabBar::RightSide)) &&
                     !tabs->tabButton(0, QTabBar::LeftSide));
+        QCOMPARE(tabs->tabRect(0).height(), tabs->tabRect(1).height());
         auto *close = qobject_cast<QAbstractButton *>(tabs->tabButton(1, QTabBar::RightSide));
         QVERIFY(close);
         QCOMPARE(close->accessibleName(), u"Close Inputs"_s);

@@ -115,7 +115,7 @@ private Q_SLOTS:
     {
         Table table;
         Table::choose(table.menuAt(1), u"Go To First Use"_s);
-        QTRY_VERIFY(table.box().hasFocus());
+        QVERIFY(table.window.focusWidget() == &table.box());
         QCOMPARE(table.box().SelText(), u"Temp1"_s);
         table.WorkbenchWindow::choose(u"Back"_s);
         QCOMPARE(table.shown().CurrentType(), dsInput);
