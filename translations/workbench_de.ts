@@ -208,6 +208,26 @@
         <source>Show Belo&amp;w</source>
         <translation>Da&amp;runter zeigen</translation>
     </message>
+    <message>
+        <source>A&amp;dd Program…</source>
+        <translation>Programm &amp;hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Program…</source>
+        <translation>Programm um&amp;benennen…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Program…</source>
+        <translation>Programm &amp;entfernen…</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Mo&amp;ve Down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::CheckModel</name>
@@ -549,6 +569,14 @@
     <message>
         <source>%1: the pages cannot be made</source>
         <translation>%1: Die Seiten lassen sich nicht erzeugen</translation>
+    </message>
+    <message>
+        <source>Export %1</source>
+        <translation>%1 exportieren</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1112,10 @@ Remove it?</source>
 
 Entfernen?</translation>
     </message>
+    <message>
+        <source>Duplicate Point</source>
+        <translation>Punkt duplizieren</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::PointTables</name>
@@ -1094,6 +1126,10 @@ Entfernen?</translation>
     <message>
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Points: %1</source>
+        <translation>Punkte: %1</translation>
     </message>
 </context>
 <context>
@@ -1133,6 +1169,10 @@ Entfernen?</translation>
     <message>
         <source>&amp;Import…</source>
         <translation>Impor&amp;tieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate Point…</source>
+        <translation>Punkt &amp;duplizieren…</translation>
     </message>
 </context>
 <context>
@@ -1235,6 +1275,10 @@ Seine Datei %2 bleibt, wo sie ist.</translation>
         <source>%1 was not found.</source>
         <translation>%1 wurde nicht gefunden.</translation>
     </message>
+    <message>
+        <source>No program uses %1.</source>
+        <translation>Kein Programm verwendet %1.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProgramViews</name>
@@ -1269,14 +1313,14 @@ Seine Datei %2 bleibt, wo sie ist.</translation>
         <translation>Projekt öffnen</translation>
     </message>
     <message>
-        <source>Projects (*.json)</source>
-        <translation>Projekte (*.json)</translation>
-    </message>
-    <message>
         <source>%1 is not there any more, or not at the moment.
 Take it off the list?</source>
         <translation>%1 ist nicht mehr da oder im Augenblick nicht erreichbar.
 Aus der Liste nehmen?</translation>
+    </message>
+    <message>
+        <source>Projects (*.orvt.json *.json)</source>
+        <translation>Projekte (*.orvt.json *.json)</translation>
     </message>
 </context>
 <context>
@@ -1300,10 +1344,6 @@ Aus der Liste nehmen?</translation>
     <message>
         <source>Save Elsewhere</source>
         <translation>Woanders speichern</translation>
-    </message>
-    <message>
-        <source>Projects (*.json)</source>
-        <translation>Projekte (*.json)</translation>
     </message>
     <message>
         <source>The project %1 has changes that are not saved.
@@ -1342,6 +1382,26 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>Saved, but the version before cannot be kept: %1</source>
         <translation>Gespeichert, aber die vorherige Fassung lässt sich nicht behalten: %1</translation>
+    </message>
+    <message>
+        <source>Projects (*.orvt.json)</source>
+        <translation>Projekte (*.orvt.json)</translation>
+    </message>
+    <message>
+        <source>Other JSON files (*.json)</source>
+        <translation>Andere JSON-Dateien (*.json)</translation>
+    </message>
+    <message>
+        <source>The programs %1 have changes that are not saved.
+Save them?</source>
+        <translation>Die Programme %1 haben Änderungen, die nicht gespeichert sind.
+Speichern?</translation>
+    </message>
+    <message>
+        <source>The programs %1 and the points of %2 have changes that are not saved.
+Save them?</source>
+        <translation>Die Programme %1 und die Punkte von %2 haben ungespeicherte Änderungen.
+Speichern?</translation>
     </message>
 </context>
 <context>
@@ -1680,6 +1740,13 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>Projects that were opened &amp;last:</source>
         <translation>&amp;Zuletzt geöffnete Projekte:</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::TableMenu</name>
+    <message>
+        <source>Go To First Use</source>
+        <translation>Zur ersten Verwendung</translation>
     </message>
 </context>
 <context>
@@ -2057,6 +2124,10 @@ Diese Änderungen überschreiben?</translation>
     <message>
         <source>Statement</source>
         <translation>Anweisung</translation>
+    </message>
+    <message>
+        <source>Export Statements of %1</source>
+        <translation>Anweisungen von %1 exportieren</translation>
     </message>
 </context>
 <context>

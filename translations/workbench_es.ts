@@ -208,6 +208,26 @@
         <source>Show Belo&amp;w</source>
         <translation>Mostrar de&amp;bajo</translation>
     </message>
+    <message>
+        <source>A&amp;dd Program…</source>
+        <translation>Aña&amp;dir programa…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Program…</source>
+        <translation>Ca&amp;mbiar el nombre del programa…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Program…</source>
+        <translation>&amp;Quitar el programa…</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Hacia a&amp;rriba</translation>
+    </message>
+    <message>
+        <source>Mo&amp;ve Down</source>
+        <translation>Ha&amp;cia abajo</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::CheckModel</name>
@@ -549,6 +569,14 @@
     <message>
         <source>%1: the pages cannot be made</source>
         <translation>%1: no se pueden crear las páginas</translation>
+    </message>
+    <message>
+        <source>Export %1</source>
+        <translation>Exportar %1</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimir %1</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1112,10 @@ Remove it?</source>
 
 ¿Quitarlo?</translation>
     </message>
+    <message>
+        <source>Duplicate Point</source>
+        <translation>Duplicar punto</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::PointTables</name>
@@ -1094,6 +1126,10 @@ Remove it?</source>
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+    <message>
+        <source>Points: %1</source>
+        <translation>Puntos: %1</translation>
     </message>
 </context>
 <context>
@@ -1133,6 +1169,10 @@ Remove it?</source>
     <message>
         <source>&amp;Import…</source>
         <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate Point…</source>
+        <translation>&amp;Duplicar punto…</translation>
     </message>
 </context>
 <context>
@@ -1235,6 +1275,10 @@ Su archivo %2 queda donde está.</translation>
         <source>%1 was not found.</source>
         <translation>No se ha encontrado %1.</translation>
     </message>
+    <message>
+        <source>No program uses %1.</source>
+        <translation>Ningún programa usa %1.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProgramViews</name>
@@ -1269,14 +1313,14 @@ Su archivo %2 queda donde está.</translation>
         <translation>Abrir proyecto</translation>
     </message>
     <message>
-        <source>Projects (*.json)</source>
-        <translation>Proyectos (*.json)</translation>
-    </message>
-    <message>
         <source>%1 is not there any more, or not at the moment.
 Take it off the list?</source>
         <translation>%1 ya no está, o no está accesible en este momento.
 ¿Quitarlo de la lista?</translation>
+    </message>
+    <message>
+        <source>Projects (*.orvt.json *.json)</source>
+        <translation>Proyectos (*.orvt.json *.json)</translation>
     </message>
 </context>
 <context>
@@ -1300,10 +1344,6 @@ Take it off the list?</source>
     <message>
         <source>Save Elsewhere</source>
         <translation>Guardar en otro lugar</translation>
-    </message>
-    <message>
-        <source>Projects (*.json)</source>
-        <translation>Proyectos (*.json)</translation>
     </message>
     <message>
         <source>The project %1 has changes that are not saved.
@@ -1342,6 +1382,26 @@ Overwrite those changes?</source>
     <message>
         <source>Saved, but the version before cannot be kept: %1</source>
         <translation>Guardado, pero no se puede conservar la versión anterior: %1</translation>
+    </message>
+    <message>
+        <source>Projects (*.orvt.json)</source>
+        <translation>Proyectos (*.orvt.json)</translation>
+    </message>
+    <message>
+        <source>Other JSON files (*.json)</source>
+        <translation>Otros archivos JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The programs %1 have changes that are not saved.
+Save them?</source>
+        <translation>Los programas %1 tienen cambios sin guardar.
+¿Guardarlos?</translation>
+    </message>
+    <message>
+        <source>The programs %1 and the points of %2 have changes that are not saved.
+Save them?</source>
+        <translation>Los programas %1 y los puntos de %2 tienen cambios sin guardar.
+¿Guardarlos?</translation>
     </message>
 </context>
 <context>
@@ -1680,6 +1740,13 @@ Overwrite those changes?</source>
     <message>
         <source>Projects that were opened &amp;last:</source>
         <translation>Proyectos abiertos ú&amp;ltimamente:</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::TableMenu</name>
+    <message>
+        <source>Go To First Use</source>
+        <translation>Ir al primer uso</translation>
     </message>
 </context>
 <context>
@@ -2057,6 +2124,10 @@ Overwrite those changes?</source>
     <message>
         <source>Statement</source>
         <translation>Instrucción</translation>
+    </message>
+    <message>
+        <source>Export Statements of %1</source>
+        <translation>Exportar las instrucciones de %1</translation>
     </message>
 </context>
 <context>

@@ -208,6 +208,26 @@
         <source>Show Belo&amp;w</source>
         <translation>Afficher au-&amp;dessous</translation>
     </message>
+    <message>
+        <source>A&amp;dd Program…</source>
+        <translation>A&amp;jouter un programme…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Program…</source>
+        <translation>Reno&amp;mmer le programme…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Program…</source>
+        <translation>&amp;Supprimer le programme…</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Vers le &amp;haut</translation>
+    </message>
+    <message>
+        <source>Mo&amp;ve Down</source>
+        <translation>Vers le &amp;bas</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::CheckModel</name>
@@ -549,6 +569,14 @@
     <message>
         <source>%1: the pages cannot be made</source>
         <translation>%1&#xa0;: les pages ne peuvent pas être produites</translation>
+    </message>
+    <message>
+        <source>Export %1</source>
+        <translation>Exporter %1</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimer %1</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1112,10 @@ Remove it?</source>
 
 Le supprimer&#xa0;?</translation>
     </message>
+    <message>
+        <source>Duplicate Point</source>
+        <translation>Dupliquer le point</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::PointTables</name>
@@ -1094,6 +1126,10 @@ Le supprimer&#xa0;?</translation>
     <message>
         <source>No</source>
         <translation>Non</translation>
+    </message>
+    <message>
+        <source>Points: %1</source>
+        <translation>Points&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1133,6 +1169,10 @@ Le supprimer&#xa0;?</translation>
     <message>
         <source>&amp;Import…</source>
         <translation>&amp;Importer…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate Point…</source>
+        <translation>&amp;Dupliquer le point…</translation>
     </message>
 </context>
 <context>
@@ -1235,6 +1275,10 @@ Son fichier %2 reste où il est.</translation>
         <source>%1 was not found.</source>
         <translation>%1 est introuvable.</translation>
     </message>
+    <message>
+        <source>No program uses %1.</source>
+        <translation>Aucun programme n’utilise %1.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProgramViews</name>
@@ -1269,14 +1313,14 @@ Son fichier %2 reste où il est.</translation>
         <translation>Ouvrir un projet</translation>
     </message>
     <message>
-        <source>Projects (*.json)</source>
-        <translation>Projets (*.json)</translation>
-    </message>
-    <message>
         <source>%1 is not there any more, or not at the moment.
 Take it off the list?</source>
         <translation>%1 n’existe plus, ou n’est pas accessible pour le moment.
 Le retirer de la liste&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Projects (*.orvt.json *.json)</source>
+        <translation>Projets (*.orvt.json *.json)</translation>
     </message>
 </context>
 <context>
@@ -1300,10 +1344,6 @@ Le retirer de la liste&#xa0;?</translation>
     <message>
         <source>Save Elsewhere</source>
         <translation>Enregistrer ailleurs</translation>
-    </message>
-    <message>
-        <source>Projects (*.json)</source>
-        <translation>Projets (*.json)</translation>
     </message>
     <message>
         <source>The project %1 has changes that are not saved.
@@ -1342,6 +1382,26 @@ Overwrite those changes?</source>
     <message>
         <source>Saved, but the version before cannot be kept: %1</source>
         <translation>Enregistré, mais la version précédente ne peut pas être conservée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Projects (*.orvt.json)</source>
+        <translation>Projets (*.orvt.json)</translation>
+    </message>
+    <message>
+        <source>Other JSON files (*.json)</source>
+        <translation>Autres fichiers JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The programs %1 have changes that are not saved.
+Save them?</source>
+        <translation>Les programmes %1 ont des modifications non enregistrées.
+Les enregistrer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The programs %1 and the points of %2 have changes that are not saved.
+Save them?</source>
+        <translation>Les programmes %1 et les points de %2 ont des modifications non enregistrées.
+Les enregistrer&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1680,6 +1740,13 @@ Overwrite those changes?</source>
     <message>
         <source>Projects that were opened &amp;last:</source>
         <translation>&amp;Projets ouverts récemment&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>ORVTListview::TableMenu</name>
+    <message>
+        <source>Go To First Use</source>
+        <translation>Aller à la première utilisation</translation>
     </message>
 </context>
 <context>
@@ -2057,6 +2124,10 @@ Overwrite those changes?</source>
     <message>
         <source>Statement</source>
         <translation>Instruction</translation>
+    </message>
+    <message>
+        <source>Export Statements of %1</source>
+        <translation>Exporter les instructions de %1</translation>
     </message>
 </context>
 <context>

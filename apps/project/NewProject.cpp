@@ -2,6 +2,7 @@
 
 #include "project/JsonEdit.h"
 #include "project/ProjectError.h"
+#include "project/ProjectFileName.h"
 #include "project/ProjectReader.h"
 #include "project/ProjectTexts.h"
 #include "project/TextFile.h"
@@ -18,30 +19,10 @@ namespace {
 
 QString programOf(const QString &fileName)
 {
-    return QFileInfo(fileName).path() + u'/' + QFileInfo(fileName).completeBaseName() + u".prog"_s;
+    return QFileInfo(fileName).path() + u'/' + projectBaseName(fileName) + u".prog"_s;
 }
 
 } // namespace
-
-// What one of the usual systems does not take becomes a line.
-QString fileNameFor(const QString &name)
-{
-    QString base = name;
-    for (QChar &c : base) {
-        if (u"\\/:*?\"<>|"_s.contains(c) || c < u' ')
-            c = u'-';
-    }
-    while (base.startsWith(u'.') || base.startsWith(u' '))
-        base.remove(0, 1);
-    while (base.endsWith(u'.') || base.endsWith(u' '))
-        base.chop(1);
-    return base.isEmpty() ? u"project"_s : base;
-}
-
-QString projectFileName(const QString &name)
-{
-    return fileNameFor(name) + u".json"_s;
-}
 
 QString newProjectFault(const QString &fileName)
 {

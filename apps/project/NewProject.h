@@ -5,12 +5,6 @@
 
 namespace ORVTListview {
 
-// What a file can be called for this name: without what file names cannot have.
-QString fileNameFor(const QString &name);
-
-// The name of the file of a project with this name.
-QString projectFileName(const QString &name);
-
 // Why no project can be made in this file, as a sentence; empty when one can. It and its
 // program, beside it, are to be new.
 QString newProjectFault(const QString &fileName);

@@ -1,10 +1,10 @@
 #include "project/Project.h"
 
 #include "base/TextRules.h"
-#include "project/NewProject.h"
 #include "project/PointNames.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectError.h"
+#include "project/ProjectFileName.h"
 #include "project/ProjectTexts.h"
 #include "project/TextFile.h"
 

@@ -23,6 +23,16 @@ QList<ProgramEntry> ProjectPrograms::entries() const
     return entries;
 }
 
+QList<qint32> ProjectPrograms::removed() const
+{
+    QList<qint32> removed;
+    for (const auto &[id, part] : m_parts) {
+        if (std::ranges::find(m_list, id, &ProjectProgram::id) == m_list.cend())
+            removed.append(id);
+    }
+    return removed;
+}
+
 ProgramList ProjectPrograms::listOf(const QList<ProgramEntry> &entries)
 {
     ProgramList list;

@@ -27,6 +27,9 @@ public:
     void setList(const ProgramList &list) { m_list = list; }
     qint32 first() const { return m_list.constFirst().id; }
 
+    // Those that have left the list, and may come back.
+    QList<qint32> removed() const;
+
     // As the project's file tells the list.
     QList<ProgramEntry> entries() const;
 

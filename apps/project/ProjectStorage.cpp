@@ -2,7 +2,6 @@
 
 #include "project/Project.h"
 
-#include "base/FilePlace.h"
 #include "project/KeptVersion.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectError.h"
@@ -18,50 +17,6 @@ namespace ORVTListview {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct NewFile
-{
-    QString name;
-    QByteArray bytes;
-    bool isWanted = true;
-};
-
-// All or none.
-void writeAll(const QList<NewFile> &files)
-{
-    QList<NewFile> before;
-    try {
-        for (const NewFile &file : files) {
-            const bool wasThere = QFileInfo::exists(file.name);
-            const NewFile former{file.name, wasThere ? readFile(file.name) : QByteArray()};
-            writeFile(file.name, file.bytes);
-            before.prepend(wasThere ? former : NewFile{file.name, {}, false});
-        }
-    } catch (const Error &) {
-        for (const NewFile &file : std::as_const(before)) {
-            if (file.isWanted)
-                writeFile(file.name, file.bytes);
-            else
-                QFile::remove(file.name);
-        }
-        throw;
-    }
-}
-
-// The files of the programs that belong to a project; none for what is none.
-QStringList programsOf(const QString &projectFile)
-{
-    QStringList files;
-    try {
-        const QList<ProgramEntry> programs =
-            readContents(JsonPlace::parse(readFile(projectFile), projectFile)).programs;
-        for (const ProgramEntry &program : programs)
-            files.append(program.file);
-    } catch (const Error &) {
-        return {};
-    }
-    return files;
-}
 
 // Where the text is another one, or nothing is.
 bool isToBeWritten(const QString &fileName, const QByteArray &bytes, const ProgramFile &former)
@@ -90,17 +45,6 @@ void takeList(ProjectPrograms &programs, const QList<ProgramEntry> &theirs, cons
         }
     }
     programs.setList(programs.listOf(theirs));
-}
-
-Project::Saved keepVersionsBefore(const QList<NewFile> &files)
-{
-    Project::Saved saved;
-    for (const NewFile &file : files) {
-        const QString notKept = keepVersionBefore(file.name);
-        if (!notKept.isEmpty())
-            saved.notKept = notKept;
-    }
-    return saved;
 }
 
 } // namespace
@@ -225,70 +169,6 @@ Project::Saved Project::save(const ProgramTexts &texts, Theirs theirs, Encoding 
         }
         part.shown = texts.value(each.key());
     }
-    return saved;
-}
-
-// Beside the project's file, each under its own name if that is free: no file has it, or it
-// is a program of the very project that is replaced.
-QMap<qint32, QString> Project::placesBeside(const QString &fileName) const
-{
-    const QStringList replaced = programsOf(fileName);
-    const bool isSamePlace = isOneFile(fileName, m_fileName);
-    QMap<qint32, QString> places;
-    for (const ProjectProgram &program : programs()) {
-        const QFileInfo own(programFile(program.id));
-        const auto isFree = [&](const QString &name) {
-            const QString place = programPath(fileName, name);
-            if (places.values().contains(name) || isOneFile(place, fileName))
-                return false;
-            if (isOneFile(place, own.filePath()))
-                return isSamePlace;
-            return !QFileInfo::exists(place) || replaced.contains(name);
-        };
-        const QString base = QFileInfo(fileName).completeBaseName();
-        const QString suffix = own.suffix().isEmpty() ? QString() : u'.' + own.suffix();
-        QString name = own.fileName();
-        for (int number = 1; !isFree(name); ++number)
-            name = base + (number == 1 ? QString() : u'-' + QString::number(number)) + suffix;
-        places.insert(program.id, name);
-    }
-    return places;
-}
-
-// A name that was the file's goes on being that.
-ProgramList Project::listAt(const QMap<qint32, QString> &places) const
-{
-    ProgramList list = programs();
-    for (ProjectProgram &program : list) {
-        if (program.name == QFileInfo(programFile(program.id)).fileName())
-            program.name = places[program.id];
-    }
-    return list;
-}
-
-Project::Saved Project::saveAt(const QString &fileName, const ProgramTexts &texts,
-                               Encoding encoding)
-{
-    const QMap<qint32, QByteArray> bytes = bytesOf(texts, encoding);
-    const QMap<qint32, QString> places = placesBeside(fileName);
-    const ProgramList list = listAt(places);
-    TableSaving saving = tableSaving();
-    saving.programs.clear();
-    QList<NewFile> files;
-    for (const ProjectProgram &program : list) {
-        saving.programs.append({program.name, places[program.id]});
-        files.append({programPath(fileName, places[program.id]), bytes[program.id]});
-    }
-    const QByteArray json = saving.into(m_contents.json, Theirs::Overwritten);
-    files.append({fileName, json});
-    Saved saved = keepVersionsBefore(files);
-    writeAll(files);
-    m_fileName = fileName;
-    m_programs.setList(list);
-    for (const ProjectProgram &program : list)
-        m_programs.part(program.id) = {places[program.id], ProgramFile(bytes[program.id]),
-                                       texts.value(program.id)};
-    noteSaved(json);
     return saved;
 }
 

@@ -1,5 +1,6 @@
 #include "EditorViewMenu.h"
 
+#include "ProblemWalk.h"
 #include "ProjectView.h"
 #include "workbench/views/ProgramViews.h"
 
@@ -10,7 +11,7 @@
 
 namespace ORVTListview {
 
-EditorViewMenu::EditorViewMenu(const ProjectView &views, QWidget *parent)
+EditorViewMenu::EditorViewMenu(ProjectView &views, QWidget *parent)
     : QMenu(tr("&Editor"), parent)
     , m_views(views)
 {
@@ -35,8 +36,8 @@ EditorViewMenu::EditorViewMenu(const ProjectView &views, QWidget *parent)
     add(tr("Fold &All"), {}, [this] { current().foldAll(); });
     add(tr("Unfold A&ll"), {}, [this] { current().unfoldAll(); });
     addSeparator();
-    add(tr("Next &Problem"), Qt::Key_F8, [this] { current().nextProblem(); });
-    add(tr("P&revious Problem"), Qt::SHIFT | Qt::Key_F8, [this] { current().previousProblem(); });
+    add(tr("Next &Problem"), Qt::Key_F8, [this] { goToProblem(m_views, 1); });
+    add(tr("P&revious Problem"), Qt::SHIFT | Qt::Key_F8, [this] { goToProblem(m_views, -1); });
     addSeparator();
     add(tr("Toggle &Bookmark"), Qt::CTRL | Qt::Key_F2, [this] { current().toggleBookmark(); });
     add(tr("Ne&xt Bookmark"), Qt::CTRL | Qt::Key_F3, [this] { current().nextBookmark(); });

@@ -16,7 +16,7 @@ class EditorViewMenu : public QMenu
     Q_OBJECT
 
 public:
-    EditorViewMenu(const ProjectView &views, QWidget *parent);
+    EditorViewMenu(ProjectView &views, QWidget *parent);
 
     // What the workbench begins with.
     static void switchOn(CodeView &view);
@@ -27,7 +27,7 @@ private:
 
     CodeView &current() const;
 
-    const ProjectView &m_views;
+    ProjectView &m_views;
 };
 
 } // namespace ORVTListview

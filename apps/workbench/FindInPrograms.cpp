@@ -1,5 +1,6 @@
 #include "FindInPrograms.h"
 
+#include "PlainTexts.h"
 #include "base/TextSearch.h"
 #include "workbench/views/ProgramViews.h"
 
@@ -7,9 +8,6 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QPointer>
-#include <QtWidgets/QInputDialog>
-#include <QtWidgets/QLineEdit>
 
 namespace ORVTListview {
 namespace {
@@ -47,15 +45,12 @@ QList<ShownUse> findInPrograms(const ProgramViews &programs, const QString &text
 
 QString askTextToFind(QWidget &window, const ProgramViews &programs)
 {
-    const QPointer<QWidget> shown(&window);
     const QString selected = programs.view(programs.current()).RTextBox()->SelText();
     const QString start =
         selected.contains(u'\n') || selected.contains(u'\r') ? QString() : selected;
-    bool isGiven = false;
-    const QString text = QInputDialog::getText(&window, FindInPrograms::tr("Find In Programs"),
-                                               FindInPrograms::tr("Text to find:"),
-                                               QLineEdit::Normal, start, &isGiven);
-    return shown && isGiven ? text : QString();
+    const auto text = PlainTexts::askText(window, FindInPrograms::tr("Find In Programs"),
+                                          FindInPrograms::tr("Text to find:"), start);
+    return text.value_or(QString());
 }
 
 } // namespace ORVTListview

@@ -4,6 +4,7 @@
 #include "CheckResults.h"
 #include "Languages.h"
 #include "OpeningProgress.h"
+#include "PlainTexts.h"
 #include "PointChooser.h"
 #include "PointTables.h"
 #include "PointValues.h"
@@ -30,8 +31,10 @@
 #include "workbench/saving/RecoveryKeeper.h"
 #include "workbench/saving/RecoveryOffer.h"
 #include "workbench/settings/SettingsDialog.h"
+#include "workbench/views/CategoryMenu.h"
 #include "workbench/views/Panes.h"
 #include "workbench/views/ProgramViews.h"
+#include "workbench/views/TableMenu.h"
 #include "workbench/views/TableViews.h"
 
 #include <ORVTListview/CodeView.h>
@@ -43,7 +46,6 @@
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenuBar>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
 
 #include <algorithm>
@@ -141,6 +143,7 @@ void MainWindow::connectPrograms()
     connect(&m_view->programs(), &ProgramViews::made, this,
             [this](qint32, ORVListView &list) { list.Init_RichTextBox(shownAppearance()); });
     connect(m_document, &ProjectDocument::programListChanged, this, &MainWindow::takePrograms);
+    new CategoryMenu(*m_view, *m_naming);
     connectAnalysis();
 }
 
@@ -205,7 +208,7 @@ void MainWindow::connectPoints()
             showRow(type, row);
     });
     connect(&m_view->tables(), &TableViews::refused, this,
-            [this](const QString &reason) { QMessageBox::warning(this, tr("Rename"), reason); });
+            [this](const QString &reason) { PlainTexts::warn(*this, tr("Rename"), reason); });
 }
 
 void MainWindow::showRow(LwType type, qsizetype row)
@@ -219,6 +222,7 @@ void MainWindow::showRow(LwType type, qsizetype row)
 void MainWindow::connectReading()
 {
     connect(&m_view->tables(), &TableViews::made, m_controller, &ControllerPart::serve);
+    new TableMenu({*m_view, *m_renaming, m_controller->reading(), *m_navigation}, this);
     connect(m_view, &ProjectView::trendWanted, m_controller, &ControllerPart::drawAll);
     connect(m_controller, &ControllerPart::settingsChosen, this,
             [this](const ReadingSettings &reading) {

@@ -4,6 +4,7 @@
 
 #include "Appearance.h"
 #include "CheckResults.h"
+#include "PlainTexts.h"
 #include "PointChooser.h"
 #include "PointValues.h"
 #include "ProgramAnalyses.h"
@@ -24,7 +25,6 @@
 #include <ORVTListview/ORVListView.h>
 
 #include <QtCore/QFileInfo>
-#include <QtWidgets/QMessageBox>
 
 #include <memory>
 #include <utility>
@@ -67,7 +67,7 @@ void MainWindow::openInPlace(const QString &fileName)
         openProject(fileName);
     } catch (const Error &error) {
         m_document->noteProgramChange(); // it is still to be kept
-        QMessageBox::warning(this, tr("Open Project"), error.Description());
+        PlainTexts::warn(*this, tr("Open Project"), error.Description());
         return;
     }
     m_recent->add(fileName);
@@ -130,9 +130,6 @@ void MainWindow::closeProject()
     m_analyses->takePoints({});
     setWindowModified(false);
     showTitle();
-    m_status->showProgram({});
-    m_status->showPosition({});
-    m_status->setPositionVisible(false);
     m_pages->showStart();
 }
 

@@ -1,15 +1,11 @@
 #pragma once
 
-#include <QtWidgets/QWidget>
-
-class QLabel;
-class QPushButton;
+#include "ActionPage.h"
 
 namespace ORVTListview {
 
-// What stands in the window when a project cannot be opened: the reason, and what can be
-// done.
-class OpeningFault : public QWidget
+// When a project cannot be opened: the reason, and what can be done.
+class OpeningFault : public ActionPage
 {
     Q_OBJECT
 
@@ -18,8 +14,7 @@ public:
 
     void show(const QString &fileName, const QString &reason);
 
-    // After a change of language.
-    void retranslate();
+    void retranslate() override;
 
 Q_SIGNALS:
     void projectWanted(const QString &fileName);
@@ -29,10 +24,8 @@ Q_SIGNALS:
 private:
     QString m_fileName;
     QString m_reason;
-    QLabel *m_title;
-    QLabel *m_text;
-    QPushButton *m_again;
     QPushButton *m_other;
+    QPushButton *m_again;
     QPushButton *m_former;
 };
 

@@ -49,6 +49,7 @@ PointCells::PointCells(ORVListView &list, ProjectDocument &document)
     , m_grid(*list.listView()->grid())
     , m_document(document)
 {
+    m_grid.setHasMenu(true);
     m_grid.setPointNames([this] { return names(); });
     connect(&m_grid, &ListGrid::cellEntering, this,
             [this](const ListItem *item, qint16 column, const QString &text, QString &refusal) {
@@ -79,7 +80,6 @@ void PointCells::setOn(bool on)
     m_grid.setFlashesChanges(on);
     m_grid.setArrangesColumns(on);
     m_grid.setKeepsFirstColumns(on);
-    m_grid.setHasMenu(on);
 }
 
 void PointCells::setRules()

@@ -3,6 +3,8 @@
 #include "project/Project.h"
 #include "project/ProjectColumns.h"
 #include "project/controller/PointReading.h"
+#include "shared/points/DisplayNames.h"
+#include "shared/texts/TextTable.h"
 
 #include <ORVTListview/ColumnHeaders.h>
 #include <ORVTListview/ListGrid.h>
@@ -84,6 +86,19 @@ void PointTables::fill()
         widen(column);
     if (m_reading)
         fillValues();
+    showCount(points);
+}
+
+// The title stands in the tab, or above the view; its head has what they do not tell.
+void PointTables::showCount(qsizetype points)
+{
+    m_list.setCaption(tr("Points: %1").arg(points));
+    m_list.listView()->setAccessibleName(title());
+}
+
+QString PointTables::title() const
+{
+    return Localise(displayName(m_list.CurrentType()));
 }
 
 // Rows behind the points are empty.

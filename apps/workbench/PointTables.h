@@ -44,6 +44,9 @@ public:
     void fill();
     void fitColumns();
 
+    // What the table is called in the language of now.
+    QString title() const;
+
     // Selects the point's row in the table that is shown.
     void goTo(const QString &name);
 
@@ -77,6 +80,7 @@ Q_SIGNALS:
 private:
     void choose(ListItem &item);
     void showAll();
+    void showCount(qsizetype points);
     void fillRow(ListItem &item, qsizetype row, QSet<qint16> &grown);
     void clearRow(ListItem &item);
     void fillValues();

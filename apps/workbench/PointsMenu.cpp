@@ -49,6 +49,10 @@ void PointsMenu::addPoints(PointRenaming &renaming, PointImporting &importing)
     m_rename->setShortcut(QKeySequence(Qt::Key_F2));
     m_rename->setShortcutContext(Qt::WidgetShortcut); // the table's own
     m_add = addAction(tr("&Add Point…"), &renaming, [this, &renaming] { addPoint(renaming); });
+    m_duplicate = addAction(tr("&Duplicate Point…"), &renaming, [this, &renaming] {
+        if (const PointTables *table = m_view.currentTable())
+            renaming.duplicate(type(), table->selectedPoint());
+    });
     m_remove = addAction(tr("Re&move Point"), &renaming, [this, &renaming] {
         if (const PointTables *table = m_view.currentTable())
             renaming.remove(type(), table->selectedPoint());
@@ -87,6 +91,7 @@ void PointsMenu::refresh()
     m_add->setEnabled(m_document.project());
     m_fit->setEnabled(table);
     m_import->setEnabled(table);
+    m_duplicate->setEnabled(isPoint);
     m_remove->setEnabled(isPoint);
     m_rename->setEnabled(table && nameColumn(type()) >= 0); // an empty row is named, too
     m_overrides->setChecked(m_view.tables().showsOverrides());

@@ -47,6 +47,7 @@ private:
     QAction *m_read = nullptr;
     QAction *m_rename = nullptr;
     QAction *m_add = nullptr;
+    QAction *m_duplicate = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_import = nullptr;
     QAction *m_fit = nullptr;

@@ -30,8 +30,9 @@ ProgramMenu::ProgramMenu(const Acts &acts, const CheckResults &results, QWidget 
 void ProgramMenu::addNaming(ProgramNaming &naming)
 {
     addAction(tr("A&dd Program…"), &naming, &ProgramNaming::add);
-    addAction(tr("Re&name Program…"), &naming, &ProgramNaming::rename);
-    QAction *remove = addAction(tr("Re&move Program…"), &naming, &ProgramNaming::remove);
+    addAction(tr("Re&name Program…"), &naming, [&naming] { naming.rename(naming.current()); });
+    QAction *remove =
+        addAction(tr("Re&move Program…"), &naming, [&naming] { naming.remove(naming.current()); });
     connect(this, &QMenu::aboutToShow, remove,
             [remove, &naming] { remove->setEnabled(naming.canRemove()); });
 }

@@ -130,6 +130,18 @@ void ProgramNavigation::findUses()
         m_results.showUses(usesOf(at));
 }
 
+void ProgramNavigation::goToFirstUse()
+{
+    const NamedPoint at = point();
+    const QList<ShownUse> uses = usesOf(at);
+    if (at.name.isEmpty())
+        Q_EMIT told(tr("There is no name here."));
+    else if (uses.isEmpty() || uses.constFirst().place.line == 0) // programs come first
+        Q_EMIT told(tr("No program uses %1.").arg(shortened(at.name)));
+    else
+        goTo(uses.constFirst().place);
+}
+
 void ProgramNavigation::findText()
 {
     const QString text = askTextToFind(*m_view.window(), m_view.programs());

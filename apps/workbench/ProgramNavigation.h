@@ -36,6 +36,10 @@ public:
     // To a place of a program, or a row of a table; back() comes from there.
     void goTo(const ResultPlace &place);
 
+    // Of the point that is chosen: lists all, or goes to the first in a program.
+    void findUses();
+    void goToFirstUse();
+
 Q_SIGNALS:
     // The caret may have moved.
     void moved();
@@ -52,7 +56,6 @@ private:
 
     void goToPoint();
     void back();
-    void findUses();
     void findText();
     void moveLines(qint32 program, const ReplacedLines &lines);
 

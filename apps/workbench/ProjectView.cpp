@@ -5,6 +5,7 @@
 #include "shared/points/DisplayNames.h"
 #include "widgets/box/BoxCommands.h"
 #include "workbench/views/CategoryMenu.h"
+#include "workbench/views/ProgramNodes.h"
 #include "workbench/views/ProgramViews.h"
 #include "workbench/views/TableViews.h"
 #include "workbench/views/ViewDock.h"
@@ -26,6 +27,7 @@ using namespace Qt::StringLiterals;
 ProjectView::ProjectView(ProjectDocument &document, QWidget *parent)
     : QSplitter(parent)
     , m_tree(new ORVTreeview(this))
+    , m_nodes(new ProgramNodes(*m_tree))
     , m_workplace(new Workplace(this))
     , m_programs(new ProgramViews(*m_workplace))
     , m_tables(new TableViews(document, *m_workplace))
@@ -41,7 +43,6 @@ ProjectView::ProjectView(ProjectDocument &document, QWidget *parent)
         if (dock == m_looked)
             m_looked = nullptr;
     });
-    new CategoryMenu(*this);
     nameParts();
     m_workplace->show(dockOf(dsCode));
 }
@@ -94,19 +95,23 @@ void ProjectView::refillWords()
 void ProjectView::takePrograms()
 {
     m_programs->setList(m_project->programs());
+    m_nodes->setList(m_project->programs());
     applyFunctionWords(); // an editor that is made forgets them for all
 }
 
 // A category shows its table or the program; the device and the pages show nothing.
 void ProjectView::followTree(const Node *node)
 {
-    if (const auto type = CategoryMenu::typeOf(node); type && m_project)
-        look(*type);
+    if (!m_project)
+        return;
+    if (const qint32 program = ProgramNodes::programOf(node); program > 0)
+        look(m_programs->dock(program));
+    else if (const auto type = CategoryMenu::typeOf(node))
+        look(dockOf(*type));
 }
 
-void ProjectView::look(LwType type)
+void ProjectView::look(ViewDock &dock)
 {
-    ViewDock &dock = dockOf(type);
     const bool isOpened = dock.isHidden();
     m_workplace->show(dock);
     if (!isOpened)
@@ -139,11 +144,20 @@ void ProjectView::followViews()
 {
     const LwType type = current().CurrentType();
     if (m_project) {
-        Node *category = m_tree->Nodes()->Item(m_tree->GetItemKey(static_cast<qint16>(type)));
-        m_tree->setSelectedItem(category);
-        category->EnsureVisible();
+        Node *node = currentNode();
+        m_tree->setSelectedItem(node);
+        node->EnsureVisible();
     }
     Q_EMIT shown(type);
+}
+
+// That of the program itself, unless users have folded the programs.
+Node *ProjectView::currentNode() const
+{
+    const LwType type = current().CurrentType();
+    Node *category = m_tree->Nodes()->Item(m_tree->GetItemKey(static_cast<qint16>(type)));
+    Node *program = type == dsCode ? m_nodes->nodeOf(m_programs->current()) : nullptr;
+    return program && category->Expanded() ? program : category;
 }
 
 void ProjectView::refresh()

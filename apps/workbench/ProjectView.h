@@ -8,6 +8,7 @@
 namespace ORVTListview {
 
 class PointTables;
+class ProgramNodes;
 class ProgramViews;
 class Project;
 class ProjectDocument;
@@ -28,6 +29,7 @@ public:
     // The editor of the program that is used, or was used last.
     ORVListView &program() const;
     ProgramViews &programs() const { return *m_programs; }
+    ProgramNodes &programNodes() const { return *m_nodes; }
 
     // The program or table that is used, or was used last: what commands are for.
     ORVListView &current() const;
@@ -72,13 +74,15 @@ Q_SIGNALS:
 private:
     ViewDock &dockOf(LwType type) const;
     void followTree(const Node *node);
-    void look(LwType type);
+    void look(ViewDock &dock);
+    Node *currentNode() const;
     void followViews();
     void applyFunctionWords();
     void refillWords();
     void nameParts();
 
     ORVTreeview *m_tree;
+    ProgramNodes *m_nodes;
     Workplace *m_workplace;
     ProgramViews *m_programs;
     TableViews *m_tables;

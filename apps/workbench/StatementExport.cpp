@@ -1,6 +1,7 @@
 #include "StatementExport.h"
 
 #include "CheckTexts.h"
+#include "PlainTexts.h"
 #include "project/TextFile.h"
 #include "workbench/export/SaveAs.h"
 
@@ -8,7 +9,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
-#include <QtWidgets/QMessageBox>
 
 namespace ORVTListview {
 
@@ -29,7 +29,7 @@ void exportStatements(QWidget &window, const QList<ListedStatement> &statements,
     const QString title = StatementExport::tr("Export Statements");
     const QFileInfo program(programFile);
     const QString file = askWhereToSave(
-        window, title,
+        window, StatementExport::tr("Export Statements of %1").arg(program.fileName()),
         {StatementExport::tr("Text (*.txt)"),
          StatementExport::tr("Values separated by commas (*.csv)")},
         program.path(), programFile.isEmpty() ? QString() : program.fileName() + u".txt"_s);
@@ -44,7 +44,7 @@ void exportStatements(QWidget &window, const QList<ListedStatement> &statements,
     try {
         writeFile(file, listing);
     } catch (const Error &error) {
-        QMessageBox::warning(&window, title, error.Description());
+        PlainTexts::warn(window, title, error.Description());
     }
 }
 

@@ -8,7 +8,7 @@
 
 namespace ORVTListview {
 
-ViewMenu::ViewMenu(const ProjectView &views, const Languages &languages, QWidget *parent)
+ViewMenu::ViewMenu(ProjectView &views, const Languages &languages, QWidget *parent)
     : QMenu(tr("&View"), parent)
 {
     auto *shown = new EditorViewMenu(views, this);

@@ -15,7 +15,7 @@ class ViewMenu : public QMenu
 
 public:
     // Both outlive the menu.
-    ViewMenu(const ProjectView &views, const Languages &languages, QWidget *parent);
+    ViewMenu(ProjectView &views, const Languages &languages, QWidget *parent);
 
 Q_SIGNALS:
     // A command of the editor has been carried out.

@@ -25,67 +25,61 @@ void WindowPages::showProject()
     setCurrentWidget(&m_view);
 }
 
+// A page is made when it is wanted first.
+template <typename Page, typename... Parts>
+Page &WindowPages::made(Page *&page, Parts &...parts)
+{
+    if (!page) {
+        page = new Page(parts..., this);
+        addWidget(page);
+        relay(*page);
+    }
+    return *page;
+}
+
+void WindowPages::relay(const StartPage &page)
+{
+    connect(&page, &StartPage::newWanted, this, &WindowPages::newWanted);
+    connect(&page, &StartPage::choiceWanted, this, &WindowPages::choiceWanted);
+    connect(&page, &StartPage::projectWanted, this, &WindowPages::recentWanted);
+}
+
+void WindowPages::relay(const FirstSteps &page)
+{
+    connect(&page, &FirstSteps::sampleWanted, this, &WindowPages::sampleWanted);
+    connect(&page, &FirstSteps::projectWanted, this, &WindowPages::choiceWanted);
+    connect(&page, &FirstSteps::keysWanted, this, &WindowPages::keysWanted);
+    connect(&page, &FirstSteps::closed, this, &WindowPages::firstStepsClosed);
+}
+
+void WindowPages::relay(const OpeningFault &page)
+{
+    connect(&page, &OpeningFault::projectWanted, this, &WindowPages::projectWanted);
+    connect(&page, &OpeningFault::versionBeforeWanted, this, &WindowPages::versionBeforeWanted);
+    connect(&page, &OpeningFault::choiceWanted, this, &WindowPages::choiceWanted);
+}
+
 void WindowPages::showStart()
 {
-    setCurrentWidget(&start());
+    setCurrentWidget(&made(m_start, m_recent));
 }
 
 void WindowPages::showFirstSteps()
 {
-    setCurrentWidget(&firstSteps());
+    setCurrentWidget(&made(m_firstSteps));
 }
 
 void WindowPages::showFault(const QString &fileName, const QString &reason)
 {
-    setCurrentWidget(&fault());
-    fault().show(fileName, reason);
-}
-
-StartPage &WindowPages::start()
-{
-    if (m_start)
-        return *m_start;
-    m_start = new StartPage(m_recent, this);
-    addWidget(m_start);
-    connect(m_start, &StartPage::newWanted, this, &WindowPages::newWanted);
-    connect(m_start, &StartPage::choiceWanted, this, &WindowPages::choiceWanted);
-    connect(m_start, &StartPage::projectWanted, this, &WindowPages::recentWanted);
-    return *m_start;
-}
-
-FirstSteps &WindowPages::firstSteps()
-{
-    if (m_firstSteps)
-        return *m_firstSteps;
-    m_firstSteps = new FirstSteps(this);
-    addWidget(m_firstSteps);
-    connect(m_firstSteps, &FirstSteps::sampleWanted, this, &WindowPages::sampleWanted);
-    connect(m_firstSteps, &FirstSteps::projectWanted, this, &WindowPages::choiceWanted);
-    connect(m_firstSteps, &FirstSteps::keysWanted, this, &WindowPages::keysWanted);
-    connect(m_firstSteps, &FirstSteps::closed, this, &WindowPages::firstStepsClosed);
-    return *m_firstSteps;
-}
-
-OpeningFault &WindowPages::fault()
-{
-    if (m_fault)
-        return *m_fault;
-    m_fault = new OpeningFault(this);
-    addWidget(m_fault);
-    connect(m_fault, &OpeningFault::projectWanted, this, &WindowPages::projectWanted);
-    connect(m_fault, &OpeningFault::versionBeforeWanted, this, &WindowPages::versionBeforeWanted);
-    connect(m_fault, &OpeningFault::choiceWanted, this, &WindowPages::choiceWanted);
-    return *m_fault;
+    OpeningFault &fault = made(m_fault);
+    setCurrentWidget(&fault);
+    fault.show(fileName, reason);
 }
 
 void WindowPages::retranslate()
 {
-    if (m_start)
-        m_start->retranslate();
-    if (m_firstSteps)
-        m_firstSteps->retranslate();
-    if (m_fault)
-        m_fault->retranslate();
+    for (ActionPage *page : findChildren<ActionPage *>(QString(), Qt::FindDirectChildrenOnly))
+        page->retranslate();
 }
 
 } // namespace ORVTListview

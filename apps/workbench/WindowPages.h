@@ -44,9 +44,11 @@ Q_SIGNALS:
     void firstStepsClosed();
 
 private:
-    StartPage &start();
-    FirstSteps &firstSteps();
-    OpeningFault &fault();
+    template <typename Page, typename... Parts>
+    Page &made(Page *&page, Parts &...parts);
+    void relay(const StartPage &page);
+    void relay(const FirstSteps &page);
+    void relay(const OpeningFault &page);
 
     ProjectView &m_view;
     RecentProjects &m_recent;

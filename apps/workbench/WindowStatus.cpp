@@ -14,6 +14,7 @@ WindowStatus::WindowStatus(QStatusBar &bar)
     , m_opening(new OpeningProgress(&bar))
     , m_position(new QLabel(&bar))
 {
+    m_program->setTextFormat(Qt::PlainText);
     m_program->setContentsMargins(3, 0, 0, 0); // in line with the program
     bar.addWidget(m_program);
     bar.addPermanentWidget(m_opening);

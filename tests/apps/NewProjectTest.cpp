@@ -3,6 +3,7 @@
 #include "project/NewProject.h"
 #include "apps/ProjectFolder.h"
 #include "project/Project.h"
+#include "project/ProjectFileName.h"
 #include "project/TextFile.h"
 #include "support/QtPrinters.h"
 #include "support/Raised.h"
@@ -52,8 +53,20 @@ TEST(NewProject, LeavesNoHalfWhereItFails)
 
 TEST(NewProject, HasANameThatFilesCanHave)
 {
-    EXPECT_EQ(projectFileName(u"Air handling unit"_s), u"Air handling unit.json"_s);
-    EXPECT_EQ(projectFileName(u"a/b:c*d"_s), u"a-b-c-d.json"_s);
-    EXPECT_EQ(projectFileName(u"..hidden. "_s), u"hidden.json"_s);
-    EXPECT_EQ(projectFileName(u"..."_s), u"project.json"_s);
+    EXPECT_EQ(projectFileName(u"Air handling unit"_s), u"Air handling unit.orvt.json"_s);
+    EXPECT_EQ(projectFileName(u"a/b:c*d"_s), u"a-b-c-d.orvt.json"_s);
+    EXPECT_EQ(projectFileName(u"..hidden. "_s), u"hidden.orvt.json"_s);
+    EXPECT_EQ(projectFileName(u"..."_s), u"project.orvt.json"_s);
+}
+
+TEST(NewProject, HasAProgramOfItsName)
+{
+    EXPECT_EQ(projectBaseName(u"/x/a.b.orvt.json"_s), u"a.b"_s);
+    EXPECT_EQ(projectBaseName(u"/x/A.ORVT.JSON"_s), u"A"_s);
+    EXPECT_EQ(projectBaseName(u"/x/a.b.json"_s), u"a.b"_s);
+    EXPECT_EQ(projectBaseName(u"a"_s), u"a"_s);
+    const ProjectFolder folder;
+    makeProject(folder.path(projectFileName(u"North"_s)), u"North"_s, form);
+    EXPECT_EQ(Project(folder.path(u"North.orvt.json"_s)).programFile(),
+              folder.path(u"North.prog"_s));
 }

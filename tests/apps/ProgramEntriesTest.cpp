@@ -219,6 +219,27 @@ TEST_F(SeveralPrograms, NoneHasTheNameThatTheProjectIsGiven)
     EXPECT_EQ(Project(m_folder.path(u"sub/a.prog"_s)).program(), u"A\r\n"_s);
 }
 
+// It comes back there under a name of its own, not as the other one of its name.
+TEST_F(SeveralPrograms, OneThatWasRemovedTakesNobodysFileAtAnotherPlace)
+{
+    Project project(m_folder.path(u"p.json"_s));
+    const ProjectProgram first = project.programs().constFirst();
+    const ProjectProgram other{project.makeProgram(u"B"_s), u"B"_s};
+    project.setPrograms({first, other});
+    const ProgramTexts texts{{1, u"A\r\n"_s}, {other.id, u"B\r\n"_s}};
+    project.save(texts, Project::Theirs::Kept);
+    project.setPrograms({first});
+    ASSERT_TRUE(QDir(m_folder.path({})).mkdir(u"sub"_s));
+    m_folder.write(u"sub/B.prog"_s, "not ours");
+    project.saveAt(m_folder.path(u"sub/q.orvt.json"_s), texts);
+    project.setPrograms({first, other});
+    project.save(texts, Project::Theirs::Kept);
+    EXPECT_EQ(bytes(u"sub/B.prog"_s), "not ours");
+    EXPECT_EQ(bytes(u"sub/q.prog"_s), "B\n");
+    EXPECT_EQ(Project(m_folder.path(u"sub/q.orvt.json"_s)).program(2), u"B\r\n"_s);
+    EXPECT_EQ(bytes(u"B.prog"_s), "B\n");
+}
+
 TEST_F(SeveralPrograms, OneThatHasATextDoesNotGoUnseen)
 {
     ProgramTexts typed;

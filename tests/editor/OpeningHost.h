@@ -50,6 +50,11 @@ inline void comparePictures(const QStringList &late, const QStringList &atOnce)
         QCOMPARE(late[i], atOnce[i]);
 }
 
+inline void putCaret(EditorHost &host, int line, int column = 0)
+{
+    host.box().setSelStart(host.box().lineStart(line) + column);
+}
+
 // An editor whose clock moves on by a millisecond each time it is looked at: the lines
 // coloured at once can be counted.
 struct OpeningHost : EditorHost

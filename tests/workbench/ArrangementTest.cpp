@@ -1,4 +1,4 @@
-#include "WorkbenchTest.h"
+#include "TwoPrograms.h"
 
 #include "support/TestProgram.h"
 #include "workbench/renaming/RenameDialog.h"
@@ -202,8 +202,9 @@ private Q_SLOTS:
         auto *tabs = views.place().findChild<QTabBar *>();
         QVERIFY(tabs);
         QTRY_COMPARE(tabs->findChildren<QAbstractButton *>(u""_s).size() > 0, true);
-        QTRY_VERIFY(!tabs->tabButton(0, QTabBar::RightSide) &&
+        QTRY_VERIFY(!qobject_cast<QAbstractButton *>(tabs->tabButton(0, QTabBar::RightSide)) &&
                     !tabs->tabButton(0, QTabBar::LeftSide));
+        QCOMPARE(tabs->tabRect(0).height(), tabs->tabRect(1).height());
         auto *close = qobject_cast<QAbstractButton *>(tabs->tabButton(1, QTabBar::RightSide));
         QVERIFY(close);
         QCOMPARE(close->accessibleName(), u"Close Inputs"_s);
@@ -271,6 +272,30 @@ private Q_SLOTS:
         QCOMPARE(views.place().tabifiedDockWidgets(&views.dock(dsInput)),
                  QList<QDockWidget *>{&views.dock(dsOutput)});
         QCOMPARE(views.firstInput(), u"Temp1"_s);
+    }
+
+    // Programs of a project that comes behind the window's own settings.
+    void programsComeBackWhereTheyWere()
+    {
+        QTemporaryDir folder;
+        QSettings store(folder.filePath(u"a.ini"_s), QSettings::IniFormat);
+        {
+            TwoPrograms two;
+            two.views().enterProgram(2);
+            two.choose(u"Show Below"_s);
+            QCoreApplication::processEvents();
+            QVERIFY(two.programs().dock(2).y() >= two.programs().dock(1).geometry().bottom());
+            writeWindow(store, two.window, *two.code().codeView());
+        }
+        TwoPrograms two;
+        MainWindow window(two.languages);
+        const auto &programs = window.findChild<ProjectView *>()->programs();
+        readWindow(store, window, *programs.view(1).codeView());
+        window.show();
+        window.openProject(two.project());
+        QCoreApplication::processEvents();
+        QVERIFY(programs.dock(2).isSeen());
+        QVERIFY(programs.dock(2).y() >= programs.dock(1).geometry().bottom());
     }
 
     void aDamagedArrangementIsLeftOut()

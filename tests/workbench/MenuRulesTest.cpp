@@ -55,8 +55,8 @@ private Q_SLOTS:
             "Use, Select All, Known Words, Lines, Go To Line, Go To Match\n"
             "Program: Analyse, Compile, Export Statements…, Go To Point, Back, All Uses, Find In "
             "Programs…, Add Program…, Rename Program…, Remove Program…, Results\n"
-            "Points: Read Values, Rename, Add Point…, Remove Point, Import…, Fit Columns, Choose "
-            "From, Edit Cells, Hardware Overrides\n"
+            "Points: Read Values, Rename, Add Point…, Duplicate Point…, Remove Point, Import…, Fit "
+            "Columns, Choose From, Edit Cells, Hardware Overrides\n"
             "Controller: Read All, Stop Reading, Read Cyclically, Reading…, Add To Trend, Trend\n"
             "View: Editor, Language, Settings…\n"
             "Window: Next Pane, Previous Pane, Go To Project, Go To Program, Go To Table, Go To "
@@ -128,8 +128,8 @@ private Q_SLOTS:
                  QStringList({u"New Project…"_s, u"Open Project…"_s, u"Save As…"_s, u"Export…"_s,
                               u"Print…"_s, u"Find…"_s, u"Replace…"_s, u"Export Statements…"_s,
                               u"Find In Programs…"_s, u"Add Program…"_s, u"Rename Program…"_s,
-                              u"Remove Program…"_s, u"Add Point…"_s, u"Import…"_s, u"Reading…"_s,
-                              u"Settings…"_s}));
+                              u"Remove Program…"_s, u"Add Point…"_s, u"Duplicate Point…"_s,
+                              u"Import…"_s, u"Reading…"_s, u"Settings…"_s}));
     }
 
     void keysDoNotClash()

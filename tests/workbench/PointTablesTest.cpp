@@ -1,5 +1,7 @@
 #include "WorkbenchTest.h"
 
+#include "project/ProjectDocument.h"
+#include "project/controller/PointReading.h"
 #include "support/TestProgram.h"
 #include "workbench/renaming/RenameDialog.h"
 #include <ORVTListview/ReportList.h>
@@ -273,6 +275,37 @@ private Q_SLOTS:
         QVERIFY(!points.window.isWindowModified());
     }
 
+    void theHeadCountsThePoints()
+    {
+        Points points;
+        points.open(u"Inputs"_s);
+        QCOMPARE(points.shown().Caption(), u"Points: 2"_s); // the title stands in the tab
+        points.speak(QLocale(QLocale::German));
+        QCOMPARE(points.shown().Caption(), u"Punkte: 2"_s);
+    }
+
+    void theColumnOfValuesGrowsWithThem()
+    {
+        Points points;
+        points.open(u"Inputs"_s);
+        const int column = points.shown().ColumnHerders()->Item(u"Value"_s)->Index() - 1;
+        const int before = points.list().columnWidth(column);
+        auto &reading = *points.window.findChild<PointReading *>();
+        Project &project = *points.window.findChild<ProjectDocument *>()->project();
+        const auto come = [&](const QVariant &value) {
+            project.setReading(dsInput, 0, column - 1, value);
+            Q_EMIT reading.valuesRead({});
+        };
+        come(-123456789.125);
+        QTRY_VERIFY(points.list().columnWidth(column) > before);
+        const int wide = points.list().columnWidth(column);
+        const QString shown = points.cell(1, u"Value"_s);
+        QVERIFY(wide > points.list().fontMetrics().horizontalAdvance(shown));
+        come(1);
+        QTRY_COMPARE(points.cell(1, u"Value"_s), u"1"_s);
+        QCOMPARE(points.list().columnWidth(column), wide); // no column jumps to and fro
+    }
+
     void theLanguageChangesTreeTableAndHeaders()
     {
         Points points;
@@ -283,7 +316,7 @@ private Q_SLOTS:
         const float numbers = number.Width();
         points.speak(QLocale(QLocale::German));
         QCOMPARE(points.node(u"Inputs"_s)->Text(), u"Eingänge"_s);
-        QCOMPARE(points.shown().Caption(), u"Eingänge"_s);
+        QCOMPARE(points.shown().accessibleName(), u"Eingänge"_s);
         QCOMPARE(points.shown().ColumnHerders()->Item(u"Value"_s)->Text(), u"Wert"_s);
         QCOMPARE(points.cell(1, u"Commissioned"_s), u"Ja"_s);
         QCOMPARE(points.cell(1, u"Label"_s), u"Temp1"_s);

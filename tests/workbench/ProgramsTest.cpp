@@ -1,16 +1,13 @@
 // Several programs in one project: added, renamed and removed, each with its own undo, and
 // one analysis, renaming, saving and recovery for all.
 
-#include "WorkbenchTest.h"
+#include "TwoPrograms.h"
 
-#include "project/Project.h"
-#include "project/ProjectDocument.h"
 #include "project/RecoveryFile.h"
 #include "support/TestProgram.h"
 #include "workbench/EditorViewMenu.h"
 #include "workbench/saving/RecoveryKeeper.h"
 #include "workbench/settings/Settings.h"
-#include "workbench/views/ProgramViews.h"
 #include "workbench/views/TableViews.h"
 #include "workbench/views/ViewDock.h"
 #include "workbench/views/Workplace.h"
@@ -18,66 +15,14 @@
 #include <ORVTListview/CodeView.h>
 
 #include <QtCore/QFile>
-#include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTreeWidget>
 
+#include <memory>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct TwoPrograms : WorkbenchWindow
-{
-    explicit TwoPrograms(const QByteArray &first = "Fan1 = Temp1\n",
-                         const QByteArray &second = "REM second\nFan1 = Temp1 + 1\n")
-    {
-        writeFile(folder.filePath(u"a.prog"_s), first);
-        writeFile(folder.filePath(u"b.prog"_s), second);
-        writeFile(project(), R"({"format": 2, "name": "two",
-            "programs": [{"file": "a.prog"}, {"name": "Night", "file": "b.prog"}],
-            "inputs": [{"name": "Temp1"}], "outputs": [{"name": "Fan1"}],
-            "variables": [{"name": "Var1"}]})");
-        window.openProject(project());
-    }
-    QString project() const { return folder.filePath(u"two.json"_s); }
-    QByteArray bytes(const QString &name) const { return readFile(folder.filePath(name)); }
-
-    ProgramViews &programs() { return views().programs(); }
-    ProjectDocument &document() { return *window.findChild<ProjectDocument *>(); }
-    QString text(qint32 program) { return programs().view(program).CodeText(); }
-    void type(qint32 program, const QString &typed)
-    {
-        views().enterProgram(program);
-        RichTextBox &box = *programs().view(program).RTextBox();
-        box.setSelStart(0);
-        QTest::keyClicks(&box, typed);
-    }
-    void undo(qint32 program)
-    {
-        views().enterProgram(program);
-        QTest::keyClick(programs().view(program).RTextBox(), Qt::Key_Z, Qt::ControlModifier);
-    }
-    QStringList names() const
-    {
-        QStringList names;
-        for (const ProjectProgram &program :
-             window.findChild<ProjectDocument *>()->project()->programs())
-            names.append(program.name);
-        return names;
-    }
-    void give(const QString &caption, const QString &name)
-    {
-        NextDialog<QInputDialog> dialog([&name](QInputDialog &asked) {
-            asked.setTextValue(name);
-            asked.accept();
-        });
-        choose(caption);
-    }
-};
-
-} // namespace
 
 class ProgramsTest : public WidgetTest
 {
@@ -333,6 +278,30 @@ private Q_SLOTS:
         QVERIFY(two.text(2).contains(u"Temp1"_s));
     }
 
+    void allAreShownEquallyLarge()
+    {
+        TwoPrograms two;
+        two.programs().view(2).codeView()->setZoom(150);
+        QCOMPARE(two.programs().view(1).codeView()->zoom(), 150);
+        two.give(u"Add Program…"_s, u"C"_s);
+        QCOMPARE(two.programs().view(3).codeView()->zoom(), 150);
+    }
+
+    // Whatever closes its window.
+    void theWindowOfAProgramGoesBack()
+    {
+        TwoPrograms two;
+        two.views().enterProgram(2);
+        two.choose(u"Own Window"_s);
+        ViewDock &dock = two.programs().dock(2);
+        QVERIFY(dock.isFloating());
+        QVERIFY(!dock.close());
+        QTRY_VERIFY(!dock.isFloating());
+        QVERIFY(dock.isVisible());
+        QVERIFY(two.views().workplace().isAncestorOf(&dock));
+        QTRY_VERIFY(two.programs().view(2).RTextBox()->hasFocus());
+    }
+
     void analysisKnowsWhatTheOtherProgramDoes()
     {
         TwoPrograms two("Var1 = Temp1\n", "Fan1 = Var1\nx = 1\n");
@@ -345,6 +314,37 @@ private Q_SLOTS:
         Q_EMIT two.results().clicked(row);
         QCOMPARE(two.programs().current(), 2);
         QVERIFY(two.statusTexts().contains(u"Row: 2"_s));
+    }
+
+    // F8 and Shift+F8 go through all of them, round at the ends.
+    void problemsAreWalkedInAllPrograms()
+    {
+        TwoPrograms two("x = 1\nFan1 = Temp1\ny = 1\n", "Fan1 = 1\nz = 1\n");
+        two.choose(u"Analyse"_s);
+        two.views().enterProgram(1);
+        const auto place = [&two] {
+            const QTextCursor caret = two.code().RTextBox()->textCursor();
+            return QString::number(two.programs().current()) + u' ' +
+                   QString::number(caret.blockNumber() + 1);
+        };
+        const auto walk = [&](const QString &caption) {
+            for (QAction *action : two.window.findChildren<QAction *>()) {
+                if (action->text().remove(u'&') == caption)
+                    action->trigger();
+            }
+            return place();
+        };
+        two.code().RTextBox()->moveCursor(QTextCursor::Start);
+        QStringList places{walk(u"Next Problem"_s)};
+        while (places.size() < 30 && !(places.size() > 2 && places.constLast() == places.at(0)))
+            places.append(walk(u"Next Problem"_s));
+        places.removeDuplicates();
+        QVERIFY2(places.contains(u"1 3"_s), qPrintable(places.join(u',')));
+        QVERIFY2(places.contains(u"2 2"_s), qPrintable(places.join(u',')));
+        QCOMPARE(place(), places.at(0)); // round
+        two.views().enterProgram(1);
+        two.code().RTextBox()->moveCursor(QTextCursor::Start);
+        QVERIFY2(walk(u"Previous Problem"_s).startsWith(u"2 "_s), qPrintable(place()));
     }
 
     void usesAreThoseOfAllPrograms()
@@ -402,6 +402,44 @@ private Q_SLOTS:
         QVERIFY2(asked().endsWith(u"comes back only with Undo."_s), qPrintable(asked()));
     }
 
+    void aNameIsNoMarkup()
+    {
+        TwoPrograms two;
+        two.views().enterProgram(2);
+        two.give(u"Rename Program…"_s, u"<b>x</b> & y"_s);
+        std::unique_ptr<NextDialog<QInputDialog>> again;
+        NextDialog<QInputDialog> first([&again](QInputDialog &asked) {
+            again = std::make_unique<NextDialog<QInputDialog>>([](QInputDialog &reason) {
+                const auto *label = reason.findChild<QLabel *>();
+                QCOMPARE(label->textFormat(), Qt::PlainText);
+                QVERIFY2(label->text().contains(u"<b>x</b> && y"_s), qPrintable(label->text()));
+                reason.reject();
+            });
+            asked.setTextValue(u"<b>x</b> & y"_s);
+            asked.accept();
+        });
+        two.choose(u"Add Program…"_s);
+        QVERIFY(again && again->wasThere());
+        const NextMessage question(QMessageBox::No);
+        two.choose(u"Remove Program…"_s);
+        QVERIFY2(question.text().contains(u"<b>x</b> & y"_s), qPrintable(question.text()));
+    }
+
+    void leavingNamesOneOrSeveral()
+    {
+        TwoPrograms two;
+        const auto asked = [&two] {
+            const NextMessage question(QMessageBox::Cancel);
+            two.window.close();
+            return question.text();
+        };
+        two.type(2, u"REM x "_s);
+        QVERIFY2(asked().startsWith(u"The program Night has changes"_s), qPrintable(asked()));
+        two.type(1, u"REM x "_s);
+        QVERIFY2(asked().startsWith(u"The programs a.prog, Night have changes"_s),
+                 qPrintable(asked()));
+    }
+
     void leavingSpeaksOfTheProject()
     {
         TwoPrograms two;
@@ -420,6 +458,24 @@ private Q_SLOTS:
         const auto kept = readRecovery(two.bytes(u"two.json.recovery.txt"_s));
         QVERIFY(kept);
         QCOMPARE(kept->programs, QStringList({two.text(1), two.text(2)}));
+    }
+
+    // Tables that make no project keep nobody from the list of the programs.
+    void recoveryHasTheListOfItsTexts()
+    {
+        TwoPrograms two;
+        const Project &project = *two.document().project();
+        two.document().carryOut(ProgramList{project.programs().at(1), project.programs().at(0)});
+        ProjectRow row = project.rows(dsInput).at(0);
+        row.name = u" no name"_s;
+        row.cells[0] = row.name;
+        two.document().carryOut(RowChanges{{dsInput, 1, {}, row}});
+        QVERIFY(!two.window.findChild<RecoveryKeeper *>()->keepNow());
+        const auto kept = readRecovery(two.bytes(u"two.json.recovery.txt"_s));
+        QVERIFY(kept);
+        QCOMPARE(kept->programs, QStringList({two.text(2), two.text(1)}));
+        const ProjectContents contents = readContents(JsonPlace::parse(kept->json, u"two.json"_s));
+        QCOMPARE(contents.programs.at(0).name, u"Night"_s);
     }
 
     void anotherProjectHasItsOwn()

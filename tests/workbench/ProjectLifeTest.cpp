@@ -17,6 +17,7 @@
 #include <QtGui/QPaintEvent>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
@@ -76,7 +77,7 @@ private Q_SLOTS:
             }
             QVERIFY(!create->isEnabled());
             QTest::keyClicks(fields.at(0), u"one"_s);
-            QVERIFY(!create->isEnabled()); // it is there already
+            QVERIFY(!create->isEnabled()); // its program is there already
             QTest::keyClicks(fields.at(0), u" & %2"_s);
             QVERIFY(create->isEnabled());
             fields.at(1)->setText(workbench.folder.filePath(u"one.prog/missing"_s)); // a file
@@ -90,7 +91,7 @@ private Q_SLOTS:
         });
         workbench.choose(u"New Project…"_s);
         QVERIFY(dialog.wasThere());
-        const QString file = workbench.folder.filePath(u"new/newer/one & %2.json"_s);
+        const QString file = workbench.folder.filePath(u"new/newer/one & %2.orvt.json"_s);
         QVERIFY(QFile::exists(file));
         QCOMPARE(workbench.window.windowTitle(), u"one & %2[*]"_s);
         QCOMPARE(workbench.code().CodeText(), QString());
@@ -118,6 +119,28 @@ private Q_SLOTS:
         workbench.choose(u"New Project…"_s);
         QVERIFY(elsewhere.wasThere());
         QVERIFY(proposed != QDir::toNativeSeparators(workbench.folder.path()));
+    }
+
+    // The ending is that of what desktops know as a project; any other one can be typed.
+    void savingElsewhereProposesTheUsualEnding()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        QVERIFY(QDir(workbench.folder.path()).mkdir(u"sub"_s));
+        const auto savedAs = [&](const QString &typed) {
+            QString proposed;
+            NextDialog<QFileDialog> dialog([&](QFileDialog &files) {
+                proposed = QFileInfo(files.selectedFiles().value(0)).fileName();
+                files.selectFile(workbench.folder.filePath(u"sub/"_s + typed));
+                QMetaObject::invokeMethod(&files, "accept");
+            });
+            workbench.choose(u"Save As…"_s);
+            return proposed;
+        };
+        QCOMPARE(savedAs(u"two"_s), u"one.orvt.json"_s);
+        QVERIFY(QFile::exists(workbench.folder.filePath(u"sub/two.orvt.json"_s)));
+        QCOMPARE(savedAs(u"three.json"_s), u"two.orvt.json"_s);
+        QVERIFY(QFile::exists(workbench.folder.filePath(u"sub/three.json"_s)));
+        QVERIFY(!workbench.window.isWindowModified());
     }
 
     void whatIsNotSavedIsAskedForBeforeAProjectGoes()
@@ -253,6 +276,16 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QTRY_COMPARE(seen.size(), 1);
         QTRY_VERIFY(!picture);
+    }
+
+    // Nobody paints it.
+    void aWindowThatStartsMinimisedHasItsProjectToo()
+    {
+        QWidget window;
+        const QPointer<FirstPicture> picture(new FirstPicture(window));
+        const QSignalSpy seen(picture, &FirstPicture::seen);
+        window.showMinimized();
+        QTRY_COMPARE(seen.size(), 1);
     }
 
     void nothingComesBehindAWindowThatIsGone()

@@ -4,6 +4,7 @@
 #include "project/Project.h"
 #include "project/ProjectError.h"
 #include "project/TextFile.h"
+#include "workbench/PlainTexts.h"
 #include "workbench/ProjectView.h"
 #include "workbench/export/PaperText.h"
 #include "workbench/export/ProgramPrint.h"
@@ -23,7 +24,6 @@
 #include <QtGui/QTextDocument>
 #include <QtPrintSupport/QPrintDialog>
 #include <QtPrintSupport/QPrinter>
-#include <QtWidgets/QMessageBox>
 
 #include <algorithm>
 
@@ -89,6 +89,12 @@ QString Exporting::title() const
     return QFileInfo(m_project->programFile(program)).completeBaseName();
 }
 
+// What users know it by.
+QString Exporting::shownName() const
+{
+    return list().accessibleName();
+}
+
 QByteArray Exporting::programAs(const QString &kind) const
 {
     const PaperText program(*list().RTextBox(), m_colours, PaperText::All);
@@ -128,14 +134,14 @@ void Exporting::exportShown()
         isCode ? QStringList{u"RTF (*.rtf)"_s, tr("Web page (*.html)"), u"PDF (*.pdf)"_s}
                : QStringList{tr("Table with commas (*.csv)"), tr("Table with tabs (*.tsv)")};
     const QString folder = m_project ? QFileInfo(m_project->fileName()).path() : QString();
-    const QString file =
-        askWhereToSave(m_window, tr("Export"), kinds, folder, isCode ? title() : list().Caption());
+    const QString file = askWhereToSave(m_window, tr("Export %1").arg(shownName()), kinds, folder,
+                                        isCode ? title() : shownName());
     if (file.isEmpty())
         return;
     try {
         exportTo(file);
     } catch (const Error &error) {
-        QMessageBox::warning(&m_window, tr("Export"), error.Description());
+        PlainTexts::warn(m_window, tr("Export"), error.Description());
     }
 }
 
@@ -145,11 +151,12 @@ void Exporting::print()
     printer.setDocName(title());
     printer.setPageMargins(QMarginsF(20, 15, 15, 15), QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, &m_window);
+    dialog.setWindowTitle(tr("Print %1").arg(shownName()));
     if (dialog.exec() != QDialog::Accepted)
         return;
     const PaperText program(*list().RTextBox(), m_colours, PaperText::All);
     if (!printProgram(program.document(), title(), printer))
-        QMessageBox::warning(&m_window, tr("Print"), tr("The printer does not take the program."));
+        PlainTexts::warn(m_window, tr("Print"), tr("The printer does not take the program."));
 }
 
 } // namespace ORVTListview

@@ -42,6 +42,7 @@ private:
     QByteArray tableAs(const QString &kind) const;
     ORVListView &list() const;
     QString title() const;
+    QString shownName() const;
 
     const ProjectView &m_views;
     QWidget &m_window;

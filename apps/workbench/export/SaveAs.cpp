@@ -1,6 +1,7 @@
 #include "workbench/export/SaveAs.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
 #include <QtWidgets/QFileDialog>
 
 #include <algorithm>
@@ -64,11 +65,14 @@ private:
 QString askWhereToSave(QWidget &window, const QString &title, const QStringList &kinds,
                        const QString &folder, const QString &name)
 {
-    SaveDialog dialog(window, title, kinds);
+    const QPointer<SaveDialog> dialog(new SaveDialog(window, title, kinds));
     if (!folder.isEmpty())
-        dialog.setDirectory(folder);
-    dialog.selectFile(name);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+        dialog->setDirectory(folder);
+    dialog->selectFile(name);
+    const bool isWanted = dialog->exec() == QDialog::Accepted;
+    const QString file = dialog && isWanted ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
+    return file;
 }
 
 } // namespace ORVTListview

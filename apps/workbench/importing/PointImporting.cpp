@@ -3,6 +3,7 @@
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "project/TextFile.h"
+#include "workbench/PlainTexts.h"
 #include "workbench/importing/ImportDialog.h"
 
 #include <ORVTListview/Error.h>
@@ -10,7 +11,6 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QMessageBox>
 
 namespace ORVTListview {
 
@@ -43,7 +43,7 @@ void PointImporting::importFile(LwType type, const QString &fileName)
     try {
         bytes = readFile(fileName);
     } catch (const Error &error) {
-        QMessageBox::warning(&m_window, tr("Import Points"), error.Description());
+        PlainTexts::warn(m_window, tr("Import Points"), error.Description());
         return;
     }
     const QList<ProjectRow> before = project->rows(type);

@@ -2,7 +2,9 @@
 
 #include "project/NewProject.h"
 #include "project/ProjectColumns.h"
+#include "project/ProjectFileName.h"
 #include "project/TextFile.h"
+#include "workbench/PlainTexts.h"
 
 #include <ORVTListview/Error.h>
 
@@ -14,7 +16,6 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -122,7 +123,7 @@ void NewProjectDialog::accept()
     try {
         makeProject(place(), m_name->text().trimmed(), readFile(u":/workbench/life/new.json"_s));
     } catch (const Error &error) {
-        QMessageBox::warning(this, windowTitle(), error.Description());
+        PlainTexts::warn(*this, windowTitle(), error.Description());
         return;
     }
     m_created = place();

@@ -2,6 +2,7 @@
 
 #include "project/ProjectDocument.h"
 #include "workbench/MainWindow.h"
+#include "workbench/PlainTexts.h"
 #include "workbench/life/NewProjectDialog.h"
 #include "workbench/life/RecentProjects.h"
 #include "workbench/saving/ProjectSaving.h"
@@ -11,7 +12,6 @@
 #include <QtCore/QPointer>
 #include <QtCore/QStandardPaths>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QMessageBox>
 
 namespace ORVTListview {
 
@@ -53,8 +53,8 @@ void ProjectLife::create()
 void ProjectLife::choose()
 {
     const QPointer<ProjectLife> self(this);
-    const QString fileName = QFileDialog::getOpenFileName(&m_parts.window, tr("Open Project"),
-                                                          folder(), tr("Projects (*.json)"));
+    const QString fileName = QFileDialog::getOpenFileName(
+        &m_parts.window, tr("Open Project"), folder(), tr("Projects (*.orvt.json *.json)"));
     if (self && !fileName.isEmpty())
         open(fileName);
 }
@@ -72,11 +72,12 @@ void ProjectLife::openRecent(const QString &fileName)
         return;
     }
     const QPointer<ProjectLife> self(this);
-    const auto answer = QMessageBox::question(
-        &m_parts.window, tr("Open Project"),
-        tr("%1 is not there any more, or not at the moment.\nTake it off the list?")
-            .arg(QDir::toNativeSeparators(fileName)),
-        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    const auto answer = PlainTexts::ask(
+        m_parts.window,
+        {tr("Open Project"),
+         tr("%1 is not there any more, or not at the moment.\nTake it off the list?")
+             .arg(QDir::toNativeSeparators(fileName)),
+         QMessageBox::Yes | QMessageBox::No, QMessageBox::No});
     if (self && answer == QMessageBox::Yes)
         m_parts.recent.remove(fileName);
 }

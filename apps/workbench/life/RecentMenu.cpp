@@ -1,5 +1,6 @@
 #include "workbench/life/RecentMenu.h"
 
+#include "workbench/PlainTexts.h"
 #include "workbench/life/RecentProjects.h"
 
 #include <QtCore/QDir>
@@ -39,7 +40,7 @@ void RecentMenu::fill()
         const QString place = shownPlace(file).replace(u'&', u"&&"_s);
         const QString key = i < 9 ? u"&%1 "_s.arg(QString::number(i + 1)) : QString();
         QAction *open = addAction(key + place, this, [this, file] { Q_EMIT chosen(file); });
-        open->setToolTip(QDir::toNativeSeparators(file));
+        open->setToolTip(PlainTexts::toolTip(QDir::toNativeSeparators(file)));
     }
     if (files.isEmpty())
         addAction(tr("No projects yet"))->setEnabled(false);

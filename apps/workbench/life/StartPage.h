@@ -1,17 +1,15 @@
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include "workbench/ActionPage.h"
 
-class QLabel;
 class QListWidget;
-class QPushButton;
 
 namespace ORVTListview {
 
 class RecentProjects;
 
-// What stands in the window while no project is open: what can be done.
-class StartPage : public QWidget
+// While no project is open: what can be done.
+class StartPage : public ActionPage
 {
     Q_OBJECT
 
@@ -19,8 +17,7 @@ public:
     // The list outlives the page.
     StartPage(RecentProjects &recent, QWidget *parent);
 
-    // After a change of language.
-    void retranslate();
+    void retranslate() override;
 
 Q_SIGNALS:
     void newWanted();
@@ -34,7 +31,6 @@ private:
     void fill();
 
     RecentProjects &m_recent;
-    QLabel *m_title;
     QPushButton *m_new;
     QPushButton *m_open;
     QLabel *m_heading;

@@ -2,6 +2,7 @@
 
 #include "project/ProjectDocument.h"
 #include "project/controller/PointReading.h"
+#include "workbench/FreeKeys.h"
 #include "workbench/PointTables.h"
 #include "workbench/reading/ControllerMenu.h"
 #include "workbench/reading/ReadingDialog.h"
@@ -61,7 +62,7 @@ void ControllerPart::serve(ORVListView &list, PointTables &tables)
     });
     connect(list.listView()->grid(), &ListGrid::menuOpening, this, [this, &tables](QMenu *menu) {
         if (!tables.selectedPoints().isEmpty())
-            menu->addAction(ControllerMenu::tr("A&dd To Trend"), this,
+            menu->addAction(withFreeKey(ControllerMenu::tr("A&dd To Trend"), *menu), this,
                             [this, &tables] { drawRows(tables.type(), tables.selectedPoints()); });
     });
 }

@@ -1,6 +1,7 @@
 #include "workbench/reading/ReadingStatus.h"
 
 #include "project/controller/PointReading.h"
+#include "workbench/PlainTexts.h"
 
 #include <QtGui/QAccessible>
 #include <QtWidgets/QHBoxLayout>
@@ -19,6 +20,7 @@ ReadingStatus::ReadingStatus(PointReading &reading, QWidget *parent)
 {
     setObjectName(QStringLiteral("ReadingStatus"));
     auto *layout = new QHBoxLayout(this);
+    m_text->setTextFormat(Qt::PlainText);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_text);
     layout->addWidget(m_stop);
@@ -84,7 +86,7 @@ void ReadingStatus::tell(const QString &text)
 {
     const int most = fontMetrics().averageCharWidth() * 80;
     m_text->setText(fontMetrics().elidedText(text, Qt::ElideRight, most));
-    m_text->setToolTip(text);
+    m_text->setToolTip(PlainTexts::toolTip(text));
     m_text->setAccessibleName(text);
     if (m_reading.isReading() || text.isEmpty())
         return; // each step would be read out

@@ -1,27 +1,25 @@
 #include "workbench/renaming/NameQuestion.h"
 
-#include <QtCore/QPointer>
-#include <QtWidgets/QInputDialog>
-#include <QtWidgets/QLineEdit>
+#include "workbench/PlainTexts.h"
+
+#include <optional>
 
 namespace ORVTListview {
 
+// A name to begin with that cannot be has its reason at once.
 QString askName(QWidget &window, const NameQuestion &question)
 {
-    const QPointer<QWidget> shown(&window);
-    QString name = question.name;
-    QString reason;
+    std::optional<QString> name = question.name;
+    QString reason = question.name.isEmpty() ? QString() : question.fault(question.name);
     do {
         const QString asked =
             reason.isEmpty() ? question.text : reason + QStringLiteral("\n\n") + question.text;
-        bool isGiven = false;
-        name = QInputDialog::getText(&window, question.title, asked, QLineEdit::Normal, name,
-                                     &isGiven);
-        if (!isGiven || !shown)
+        name = PlainTexts::askText(window, question.title, asked, *name);
+        if (!name)
             return {};
-        reason = question.fault(name);
+        reason = question.fault(*name);
     } while (!reason.isEmpty());
-    return name;
+    return *name;
 }
 
 } // namespace ORVTListview

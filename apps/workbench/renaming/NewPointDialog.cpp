@@ -5,6 +5,7 @@
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFormLayout>
@@ -15,17 +16,17 @@
 
 namespace ORVTListview {
 
-NewPointDialog::NewPointDialog(const ProjectDocument &document, LwType type, const QString &name,
+NewPointDialog::NewPointDialog(const ProjectDocument &document, const PointProposal &proposal,
                                QWidget *parent)
     : QDialog(parent)
     , m_document(document)
     , m_table(new QComboBox(this))
-    , m_name(new QLineEdit(name, this))
+    , m_name(new QLineEdit(proposal.name, this))
     , m_fault(new QLabel(this))
 {
-    setWindowTitle(tr("Add Point"));
+    setWindowTitle(proposal.title);
     auto *layout = new QVBoxLayout(this);
-    addFields(type);
+    addFields(proposal);
     addButtons();
     layout->setSizeConstraint(QLayout::SetMinimumSize);
     connect(m_name, &QLineEdit::textChanged, this, &NewPointDialog::showFault);
@@ -34,13 +35,27 @@ NewPointDialog::NewPointDialog(const ProjectDocument &document, LwType type, con
     m_name->setFocus();
 }
 
-void NewPointDialog::addFields(LwType type)
+std::optional<NewPoint> NewPointDialog::ask(const ProjectDocument &document,
+                                            const PointProposal &proposal, QWidget &window)
 {
+    const QPointer<NewPointDialog> dialog(new NewPointDialog(document, proposal, &window));
+    const bool isWanted = dialog->exec() == QDialog::Accepted;
+    std::optional<NewPoint> point;
+    if (dialog && isWanted)
+        point = {dialog->type(), dialog->name()};
+    delete dialog;
+    return point;
+}
+
+void NewPointDialog::addFields(const PointProposal &proposal)
+{
+    const LwType type = proposal.type;
     for (const LwType each : projectTypes()) {
         if (nameColumn(each) >= 0 && (type != dsCode || isVocabularyType(each)))
             m_table->addItem(Localise(displayName(each)), QVariant::fromValue<int>(each));
     }
     m_table->setCurrentIndex(m_table->findData(type == dsCode ? dsVariable : type));
+    m_table->setEnabled(proposal.isTableFree);
     auto *form = new QFormLayout;
     form->addRow(tr("&Name:"), m_name);
     form->addRow(tr("&Table:"), m_table);

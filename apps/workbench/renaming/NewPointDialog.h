@@ -5,6 +5,8 @@
 #include <QtCore/QString>
 #include <QtWidgets/QDialog>
 
+#include <optional>
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -14,21 +16,38 @@ namespace ORVTListview {
 
 class ProjectDocument;
 
+struct PointProposal
+{
+    QString title;
+    LwType type = dsCode; // which leaves the table to the user
+    QString name;         // to begin with
+    bool isTableFree = true;
+};
+
+struct NewPoint
+{
+    LwType type;
+    QString name;
+};
+
 // Asks for the table and the name of a new point, and says at once why one cannot be.
 class NewPointDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    // The document must outlive it; dsCode leaves the table to the user.
-    NewPointDialog(const ProjectDocument &document, LwType type, const QString &name,
-                   QWidget *parent);
+    // The document must outlive it.
+    NewPointDialog(const ProjectDocument &document, const PointProposal &proposal, QWidget *parent);
+
+    // Shows one. None when the user gives up, or the window goes.
+    static std::optional<NewPoint> ask(const ProjectDocument &document,
+                                       const PointProposal &proposal, QWidget &window);
 
     LwType type() const;
     QString name() const;
 
 private:
-    void addFields(LwType type);
+    void addFields(const PointProposal &proposal);
     void addButtons();
     void showFault();
 

@@ -4,6 +4,7 @@
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "widgets/box/BoxCommands.h"
+#include "workbench/PlainTexts.h"
 #include "workbench/renaming/NewPointDialog.h"
 #include "workbench/renaming/RenameDialog.h"
 #include "workbench/views/ProgramViews.h"
@@ -12,7 +13,6 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
-#include <QtWidgets/QMessageBox>
 
 #include <algorithm>
 #include <limits>
@@ -34,6 +34,19 @@ std::optional<QList<PointUse>> chosenOf(const RenameDialog::Renamed &renamed, QW
         chosen = dialog->chosen();
     delete dialog;
     return chosen;
+}
+
+// With a number behind it that no other point has. Names from elsewhere may be such that no
+// number helps; then the user is told why.
+QString freeName(const Project &project, LwType type, const QString &name)
+{
+    const qsizetype row = project.rows(type).size();
+    for (int number = 2; number < std::numeric_limits<qint16>::max(); ++number) {
+        const QString free = name + QString::number(number);
+        if (project.nameFault(type, row, free).isEmpty())
+            return free;
+    }
+    return name;
 }
 
 } // namespace
@@ -86,31 +99,53 @@ void PointRenaming::add(LwType type, const QString &name)
     if (!m_document.project())
         return;
     if (type != dsCode && nameColumn(type) < 0) {
-        append(type, {});
+        append(type, QString());
         return;
     }
     const QPointer<PointRenaming> self(this);
-    const QPointer<NewPointDialog> dialog(new NewPointDialog(m_document, type, name, &m_window));
-    const bool isWanted = dialog->exec() == QDialog::Accepted;
-    if (self && dialog && isWanted && m_document.project())
-        append(dialog->type(), dialog->name());
-    delete dialog;
+    const auto point = NewPointDialog::ask(m_document, {tr("Add Point"), type, name}, m_window);
+    if (self && point && m_document.project())
+        append(point->type, point->name);
 }
 
 void PointRenaming::append(LwType type, const QString &name)
+{
+    ProjectRow row;
+    row.name = name;
+    row.cells.resize(projectColumns(type).size());
+    append(type, row);
+}
+
+void PointRenaming::duplicate(LwType type, qsizetype row)
+{
+    const Project *project = m_document.project();
+    if (!project || row < 0 || row >= project->rows(type).size())
+        return;
+    ProjectRow copy = project->rows(type).at(row);
+    if (nameColumn(type) >= 0) {
+        const QPointer<PointRenaming> self(this);
+        const auto point = NewPointDialog::ask(
+            m_document, {tr("Duplicate Point"), type, freeName(*project, type, copy.name), false},
+            m_window);
+        if (!self || !point || !m_document.project())
+            return;
+        copy.name = point->name;
+    }
+    append(type, copy);
+}
+
+// Behind the last.
+void PointRenaming::append(LwType type, ProjectRow row)
 {
     if (!m_document.project() || projectColumns(type).isEmpty())
         return;
     const qsizetype place = m_document.project()->rows(type).size();
     if (place >= std::numeric_limits<qint16>::max()) {
-        QMessageBox::warning(&m_window, tr("Add Point"), tr("The table is full."));
+        PlainTexts::warn(m_window, tr("Add Point"), tr("The table is full."));
         return;
     }
-    ProjectRow row;
-    row.name = name;
-    row.cells.resize(projectColumns(type).size());
     if (nameColumn(type) >= 0)
-        row.cells[nameColumn(type)] = name;
+        row.cells[nameColumn(type)] = row.name;
     row.data = isVocabularyType(type) ? static_cast<qint32>(place) + 1 : 0;
     m_document.carryOut(RowChanges{{type, place, {}, row}});
     Q_EMIT added(type, place);
@@ -134,10 +169,10 @@ void PointRenaming::remove(LwType type, qsizetype row)
         if (more > 0)
             places = places.first(most) << tr("and %1 more").arg(more);
         const QPointer<PointRenaming> self(this);
-        const auto answer = QMessageBox::question(
-            &m_window, tr("Remove Point"),
-            tr("%1 is still named here, where it will be unknown:\n\n%2\n\nRemove it?")
-                .arg(point.name, places.join(u'\n')));
+        const auto answer = PlainTexts::ask(
+            m_window, {tr("Remove Point"),
+                       tr("%1 is still named here, where it will be unknown:\n\n%2\n\nRemove it?")
+                           .arg(point.name, places.join(u'\n'))});
         if (!self || answer != QMessageBox::Yes || m_document.project() != &project ||
             !(project.rows(type).value(row) == point))
             return;

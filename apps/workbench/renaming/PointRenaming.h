@@ -11,6 +11,7 @@ namespace ORVTListview {
 
 class ProgramViews;
 class ProjectDocument;
+struct ProjectRow;
 
 // Renames, adds and removes points, everywhere in the project and as one step each, after
 // the user has seen the places.
@@ -32,12 +33,17 @@ public:
     // The same without a question; the name must be one that such a point can have.
     void append(LwType type, const QString &name);
 
+    // A point with the cells of another one; the user is asked for its name.
+    void duplicate(LwType type, qsizetype row);
+
     void remove(LwType type, qsizetype row);
 
 Q_SIGNALS:
     void added(ORVTListview::LwType type, qsizetype row);
 
 private:
+    void append(LwType type, ProjectRow row);
+
     ProjectDocument &m_document;
     const ProgramViews &m_programs;
     QWidget &m_window;

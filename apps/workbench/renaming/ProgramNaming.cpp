@@ -1,6 +1,7 @@
 #include "workbench/renaming/ProgramNaming.h"
 
 #include "project/ProjectDocument.h"
+#include "workbench/PlainTexts.h"
 #include "workbench/ProjectView.h"
 #include "workbench/renaming/NameQuestion.h"
 #include "workbench/views/ProgramViews.h"
@@ -9,11 +10,21 @@
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
-#include <QtWidgets/QMessageBox>
 
 #include <algorithm>
 
 namespace ORVTListview {
+
+namespace {
+
+// With the number 0 for none.
+ProjectProgram programOf(const ProgramList &list, qint32 program)
+{
+    const auto found = std::ranges::find(list, program, &ProjectProgram::id);
+    return found == list.cend() ? ProjectProgram() : *found;
+}
+
+} // namespace
 
 ProgramNaming::ProgramNaming(ProjectDocument &document, ProjectView &views, QWidget &window)
     : QObject(&window)
@@ -37,11 +48,14 @@ QString ProgramNaming::askName(const QString &title, qint32 program, const QStri
     return self && m_document.project() == project ? given : QString();
 }
 
-qsizetype ProgramNaming::currentIndex() const
+ProgramList ProgramNaming::list() const
 {
-    const ProgramList &list = m_document.project()->programs();
-    const qint32 current = m_views.programs().current();
-    return std::ranges::find(list, current, &ProjectProgram::id) - list.cbegin();
+    return m_document.project() ? m_document.project()->programs() : ProgramList();
+}
+
+qint32 ProgramNaming::current() const
+{
+    return m_views.programs().current();
 }
 
 void ProgramNaming::add()
@@ -60,24 +74,56 @@ void ProgramNaming::add()
     m_views.enterProgram(made);
 }
 
-void ProgramNaming::rename()
+void ProgramNaming::rename(qint32 program)
 {
-    if (!m_document.project())
+    const ProjectProgram named = programOf(list(), program);
+    if (named.id > 0)
+        giveName(named, askName(tr("Rename Program"), program, named.name));
+}
+
+// What was typed stays for correction.
+void ProgramNaming::renameTo(qint32 program, const QString &wanted)
+{
+    const ProjectProgram named = programOf(list(), program);
+    if (named.id == 0 || wanted == named.name)
         return;
-    const qsizetype index = currentIndex();
-    const ProjectProgram program = m_document.project()->programs().at(index);
-    const QString name = askName(tr("Rename Program"), program.id, program.name);
-    if (name.isEmpty() || name == program.name ||
-        m_document.project()->programs().value(index) != program)
+    const bool isPossible = m_document.project()->programNameFault(program, wanted).isEmpty();
+    giveName(named, isPossible ? wanted : askName(tr("Rename Program"), program, wanted));
+}
+
+// Unless it has another one by now.
+void ProgramNaming::giveName(const ProjectProgram &program, const QString &name)
+{
+    if (name.isEmpty() || name == program.name)
+        return; // the window may be gone
+    ProgramList changed = list();
+    const qsizetype index = changed.indexOf(program);
+    if (index < 0)
         return;
-    ProgramList list = m_document.project()->programs();
-    list[index].name = name;
-    m_document.carryOut(list);
+    changed[index].name = name;
+    m_document.carryOut(changed);
 }
 
 bool ProgramNaming::canRemove() const
 {
-    return m_document.project() && m_document.project()->programs().size() > 1;
+    return list().size() > 1;
+}
+
+bool ProgramNaming::canMove(qint32 program, int by) const
+{
+    const ProgramList now = list();
+    const qsizetype index = now.indexOf(programOf(now, program));
+    return index >= 0 && index + by >= 0 && index + by < now.size();
+}
+
+void ProgramNaming::move(qint32 program, int by)
+{
+    if (!canMove(program, by))
+        return;
+    ProgramList moved = list();
+    const qsizetype index = moved.indexOf(programOf(moved, program));
+    moved.move(index, index + by);
+    m_document.carryOut(moved);
 }
 
 namespace {
@@ -97,20 +143,20 @@ QString questionOnRemoving(const ProjectProgram &program, const ProjectDocument 
 
 } // namespace
 
-void ProgramNaming::remove()
+void ProgramNaming::remove(qint32 program)
 {
-    if (!canRemove())
+    const ProjectProgram removed = programOf(list(), program);
+    if (!canRemove() || removed.id == 0)
         return;
     const Project *project = m_document.project();
-    const ProjectProgram program = project->programs().at(currentIndex());
     const QPointer<ProgramNaming> self(this);
-    const auto answer = QMessageBox::question(&m_window, tr("Remove Program"),
-                                              questionOnRemoving(program, m_document));
+    const auto answer =
+        PlainTexts::ask(m_window, {tr("Remove Program"), questionOnRemoving(removed, m_document)});
     if (!self || answer != QMessageBox::Yes || m_document.project() != project)
         return;
-    ProgramList list = project->programs();
-    if (list.size() > 1 && list.removeOne(program))
-        m_document.carryOut(list);
+    ProgramList left = list();
+    if (left.size() > 1 && left.removeOne(removed))
+        m_document.carryOut(left);
 }
 
 } // namespace ORVTListview

@@ -1,5 +1,7 @@
 #include "workbench/saving/ComparisonView.h"
 
+#include "workbench/PlainTexts.h"
+
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QHeaderView>
 
@@ -84,7 +86,7 @@ void ComparisonView::appendLine(const ComparedLine &line)
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     for (const int column : {Before, After}) {
         item->setFont(column, fixed);
-        item->setToolTip(column, item->text(column)); // it may be cut
+        item->setToolTip(column, PlainTexts::toolTip(item->text(column))); // it may be cut
     }
     const QColor ground = palette().color(QPalette::Base);
     if (line.kind == ComparedLine::Removed || line.kind == ComparedLine::Changed)

@@ -2,10 +2,12 @@
 
 #include "project/ProjectDocument.h"
 #include "project/ProjectError.h"
+#include "project/ProjectFileName.h"
+#include "workbench/PlainTexts.h"
+#include "workbench/export/SaveAs.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
@@ -71,6 +73,7 @@ bool ProjectSaving::offerWayOut(const Error &error, Attempt attempt)
     const QPointer<QMessageBox> box(
         new QMessageBox(QMessageBox::Warning, tr("Save"), error.Description(),
                         QMessageBox::Cancel | QMessageBox::Retry, &m_window));
+    box->setTextFormat(Qt::PlainText);
     QPushButton *other =
         isNoText ? nullptr
                  : box->addButton(isEncoding ? tr("Save as &UTF-8") : tr("Save Else&where…"),
@@ -100,37 +103,47 @@ bool ProjectSaving::saveElsewhere()
     if (!m_document.project())
         return true;
     const QPointer<ProjectSaving> self(this);
-    const QString fileName = QFileDialog::getSaveFileName(
-        &m_window, tr("Save Elsewhere"), m_document.project()->fileName(), tr("Projects (*.json)"));
+    const QFileInfo now(m_document.project()->fileName());
+    const QString fileName =
+        askWhereToSave(m_window, tr("Save Elsewhere"),
+                       {tr("Projects (*.orvt.json)"), tr("Other JSON files (*.json)")}, now.path(),
+                       projectFileName(projectBaseName(now.fileName())));
     if (!self || fileName.isEmpty())
         return false;
     return carryOut({fileName});
 }
 
-// Of the programs that have changes.
-QString ProjectSaving::changedPrograms() const
+// The names of the programs that have changes.
+QStringList ProjectSaving::changedPrograms() const
 {
     QStringList names;
     for (const ProjectProgram &program : m_document.project()->programs()) {
         if (m_document.isProgramModified(program.id))
             names.append(program.name);
     }
-    return names.join(QStringLiteral(", "));
+    return names;
 }
 
 QString ProjectSaving::questionOnLeaving() const
 {
-    const QString programs = changedPrograms();
-    const QString name = m_document.project()->name();
+    const QStringList programs = changedPrograms();
+    const QString names = programs.join(QStringLiteral(", "));
+    const bool isOne = programs.size() == 1;
+    const QString project = m_document.project()->name();
     const TableSaving changes = m_document.project()->tableSaving();
     if (changes.programs != changes.savedPrograms)
-        return tr("The project %1 has changes that are not saved.\nSave them?").arg(name);
+        return tr("The project %1 has changes that are not saved.\nSave them?").arg(project);
     if (programs.isEmpty())
-        return tr("The points of %1 have changes that are not saved.\nSave them?").arg(name);
+        return tr("The points of %1 have changes that are not saved.\nSave them?").arg(project);
     if (!m_document.project()->hasChangedTables())
-        return tr("The program %1 has changes that are not saved.\nSave them?").arg(programs);
-    return tr("The program %1 and the points of %2 have changes that are not saved.\nSave them?")
-        .arg(programs, name);
+        return (isOne ? tr("The program %1 has changes that are not saved.\nSave them?")
+                      : tr("The programs %1 have changes that are not saved.\nSave them?"))
+            .arg(names);
+    return (isOne ? tr("The program %1 and the points of %2 have changes that are not saved.\n"
+                       "Save them?")
+                  : tr("The programs %1 and the points of %2 have changes that are not saved.\n"
+                       "Save them?"))
+        .arg(names, project);
 }
 
 bool ProjectSaving::mayLeave()
@@ -140,9 +153,10 @@ bool ProjectSaving::mayLeave()
         return true;
     }
     const QPointer<ProjectSaving> self(this);
-    const auto answer = QMessageBox::warning(
-        &m_window, tr("Unsaved Changes"), questionOnLeaving(),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    const auto answer =
+        PlainTexts::ask(m_window, {tr("Unsaved Changes"), questionOnLeaving(),
+                                   QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                                   QMessageBox::Save, QMessageBox::Warning});
     if (!self)
         return false;
     if (answer == QMessageBox::Save)
@@ -155,11 +169,12 @@ bool ProjectSaving::mayLeave()
 bool ProjectSaving::mayOverwrite(const QString &fileName)
 {
     const QPointer<ProjectSaving> self(this);
-    const auto answer = QMessageBox::warning(
-        &m_window, tr("Save"),
+    const QString question =
         tr("The file %1 has been changed elsewhere since it was opened.\nOverwrite those changes?")
-            .arg(QFileInfo(fileName).fileName()),
-        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+            .arg(QFileInfo(fileName).fileName());
+    const auto answer =
+        PlainTexts::ask(m_window, {tr("Save"), question, QMessageBox::Yes | QMessageBox::No,
+                                   QMessageBox::No, QMessageBox::Warning});
     return self && answer == QMessageBox::Yes;
 }
 

@@ -53,7 +53,7 @@ private:
     bool carryOut(const Attempt &attempt);
     bool mayOverwrite(const QString &fileName);
     bool offerWayOut(const Error &error, Attempt attempt);
-    QString changedPrograms() const;
+    QStringList changedPrograms() const;
     QString questionOnLeaving() const;
 
     ProjectDocument &m_document;

@@ -17,6 +17,23 @@ namespace {
 
 constexpr auto usualInterval = 2s;
 
+// Where the tables make no project they stay as they were; the texts of the programs are told
+// apart by their order, so that the list is that of now.
+QByteArray jsonOf(TableSaving tables, const QByteArray &json, QString &fault)
+{
+    try {
+        return tables.into(json, TableSaving::Theirs::Overwritten);
+    } catch (const Error &error) {
+        fault = error.Description();
+    }
+    tables.now = tables.saved;
+    try {
+        return tables.into(json, TableSaving::Theirs::Overwritten);
+    } catch (const Error &) {
+        return json;
+    }
+}
+
 } // namespace
 
 RecoveryKeeper::RecoveryKeeper(ProjectDocument &document, QObject *parent)
@@ -137,14 +154,9 @@ RecoveryKeeper::Outcome RecoveryKeeper::write(std::optional<RecoverySlot> &slot,
 {
     if (!slot)
         return {false, tr("Too many workbenches have this project open.")};
-    RecoveredWork dated{work.tables.fileName, QDateTime::currentDateTimeUtc(), work.json,
-                        work.programs};
     QString fault;
-    try {
-        dated.json = work.tables.into(work.json, TableSaving::Theirs::Overwritten);
-    } catch (const Error &error) {
-        fault = error.Description();
-    }
+    const RecoveredWork dated{work.tables.fileName, QDateTime::currentDateTimeUtc(),
+                              jsonOf(work.tables, work.json, fault), work.programs};
     try {
         slot->write(recoveryText(dated));
     } catch (const Error &error) {

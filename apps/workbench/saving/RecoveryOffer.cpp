@@ -1,6 +1,7 @@
 #include "workbench/saving/RecoveryOffer.h"
 
 #include "project/ProjectDocument.h"
+#include "workbench/PlainTexts.h"
 #include "workbench/saving/RecoveryDialog.h"
 #include "workbench/views/ProgramViews.h"
 
@@ -9,7 +10,6 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QScopeGuard>
-#include <QtWidgets/QMessageBox>
 
 #include <algorithm>
 
@@ -92,8 +92,8 @@ bool RecoveryOffer::restore(const RecoveryKeeper::Left &left)
 
 void RecoveryOffer::tellUnreadable(const QString &fileName)
 {
-    QMessageBox::warning(
-        &m_window, RecoveryDialog::tr("Recover Unsaved Work"),
+    PlainTexts::warn(
+        m_window, RecoveryDialog::tr("Recover Unsaved Work"),
         RecoveryDialog::tr("%1 holds work that was not saved, but cannot be read as a whole. It "
                            "stays there; a text editor shows what it holds.")
             .arg(fileName));

@@ -1,6 +1,7 @@
 #include "workbench/trend/TrendDock.h"
 
 #include "project/TextFile.h"
+#include "workbench/PlainTexts.h"
 #include "workbench/export/SaveAs.h"
 #include "workbench/trend/Trend.h"
 #include "workbench/trend/TrendExport.h"
@@ -12,7 +13,6 @@
 #include <QtCore/QEvent>
 #include <QtGui/QAction>
 #include <QtWidgets/QHeaderView>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QToolBar>
@@ -187,7 +187,7 @@ void TrendDock::exportSamples()
     try {
         writeFile(file, bytes);
     } catch (const Error &error) {
-        QMessageBox::warning(window(), tr("Export Trend"), error.Description());
+        PlainTexts::warn(*window(), tr("Export Trend"), error.Description());
     }
 }
 

@@ -5,6 +5,8 @@
 #include "shared/points/DisplayNames.h"
 #include "workbench/ProjectView.h"
 #include "workbench/reading/ControllerMenu.h"
+#include "workbench/renaming/ProgramNaming.h"
+#include "workbench/views/ProgramNodes.h"
 #include "workbench/views/Workplace.h"
 
 #include <ORVTListview/Node.h>
@@ -14,18 +16,27 @@
 
 namespace ORVTListview {
 
-CategoryMenu::CategoryMenu(ProjectView &view)
+CategoryMenu::CategoryMenu(ProjectView &view, ProgramNaming &naming)
     : QObject(&view)
     , m_view(view)
+    , m_naming(naming)
 {
     ORVTreeview &tree = view.tree();
     tree.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&tree, &QWidget::customContextMenuRequested, this, &CategoryMenu::open);
-    connect(&tree, &ORVTreeview::DblClick, this, &CategoryMenu::enter);
-    connect(&tree, &ORVTreeview::KeyDown, this, [this](qint16 &key, qint16 shift) {
+    const auto enterNode = [this](const Node *node) {
+        if (const auto target = targetOf(node))
+            enter(*target);
+    };
+    connect(&tree, &ORVTreeview::DblClick, this, enterNode);
+    connect(&tree, &ORVTreeview::KeyDown, this, [this, enterNode](qint16 &key, qint16 shift) {
         if (key == EnterKey && shift == 0)
-            enter(m_view.tree().SelectedItem());
+            enterNode(m_view.tree().SelectedItem());
     });
+    const ProgramNodes &programs = view.programNodes();
+    connect(&programs, &ProgramNodes::renameWanted, &naming, &ProgramNaming::renameTo);
+    connect(&programs, &ProgramNodes::moveWanted, &naming, &ProgramNaming::move);
+    connect(&programs, &ProgramNodes::removeWanted, &naming, &ProgramNaming::remove);
 }
 
 std::optional<LwType> CategoryMenu::typeOf(const Node *node)
@@ -36,34 +47,79 @@ std::optional<LwType> CategoryMenu::typeOf(const Node *node)
     return static_cast<LwType>(type);
 }
 
-void CategoryMenu::enter(const Node *node)
+std::optional<CategoryMenu::Target> CategoryMenu::targetOf(const Node *node)
 {
+    if (const qint32 program = ProgramNodes::programOf(node); program > 0)
+        return Target{dsCode, program};
     if (const auto type = typeOf(node))
-        m_view.enterType(*type);
+        return Target{*type, 0};
+    return {};
+}
+
+void CategoryMenu::enter(const Target &target)
+{
+    if (target.program > 0)
+        m_view.enterProgram(target.program);
+    else
+        m_view.enterType(target.type);
 }
 
 void CategoryMenu::open(const QPoint &place)
 {
-    const auto type = typeOf(m_view.tree().SelectedItem());
-    if (!type)
+    const auto target = targetOf(m_view.tree().SelectedItem());
+    if (!target)
         return;
     auto *menu = new QMenu(&m_view);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(tr("&Open"), this, [this, type] { m_view.enterType(*type); });
-    const bool isAlone = m_view.workplace().shown().size() < 2;
-    for (QAction *action :
-         {menu->addAction(tr("Show &Beside"), this, [this, type] { split(*type, Qt::Horizontal); }),
-          menu->addAction(tr("Show Belo&w"), this, [this, type] { split(*type, Qt::Vertical); })})
-        action->setEnabled(!isAlone || m_view.current().CurrentType() != *type);
-    if (valueColumn(*type) >= 0)
+    addViews(*menu, *target);
+    if (target->type == dsCode)
+        addPrograms(*menu, target->program);
+    if (valueColumn(target->type) >= 0)
         menu->addAction(ControllerMenu::tr("A&dd To Trend"), &m_view,
-                        [this, type] { Q_EMIT m_view.trendWanted(*type); });
+                        [this, type = target->type] { Q_EMIT m_view.trendWanted(type); });
     menu->popup(m_view.tree().mapToGlobal(place));
 }
 
-void CategoryMenu::split(LwType type, Qt::Orientation orientation)
+void CategoryMenu::addViews(QMenu &menu, const Target &target)
 {
-    m_view.enterType(type);
+    menu.addAction(tr("&Open"), this, [this, target] { enter(target); });
+    const bool isAlone = m_view.workplace().shown().size() < 2;
+    for (QAction *action :
+         {menu.addAction(tr("Show &Beside"), this,
+                         [this, target] { split(target, Qt::Horizontal); }),
+          menu.addAction(tr("Show Belo&w"), this, [this, target] { split(target, Qt::Vertical); })})
+        action->setEnabled(!isAlone || m_view.current().CurrentType() != target.type);
+}
+
+// For the category of the programs it is the one that is used. The keys are the tree's own.
+void CategoryMenu::addPrograms(QMenu &menu, qint32 program)
+{
+    const qint32 meant = program > 0 ? program : m_naming.current();
+    ProgramNaming &naming = m_naming;
+    const auto add = [&](const QString &text, const QKeySequence &keys, const auto &act) {
+        QAction *action = menu.addAction(text, &naming, act);
+        action->setShortcut(program > 0 ? keys : QKeySequence());
+        action->setShortcutContext(Qt::WidgetShortcut);
+        return action;
+    };
+    menu.addSeparator();
+    menu.addAction(tr("A&dd Program…"), &naming, &ProgramNaming::add);
+    add(tr("Re&name Program…"), Qt::Key_F2, [&naming, meant] { naming.rename(meant); });
+    add(tr("Re&move Program…"), Qt::Key_Delete, [&naming, meant] {
+        naming.remove(meant);
+    })->setEnabled(naming.canRemove());
+    menu.addSeparator();
+    add(tr("Move &Up"), Qt::ALT | Qt::SHIFT | Qt::Key_Up, [&naming, meant] {
+        naming.move(meant, -1);
+    })->setEnabled(naming.canMove(meant, -1));
+    add(tr("Mo&ve Down"), Qt::ALT | Qt::SHIFT | Qt::Key_Down, [&naming, meant] {
+        naming.move(meant, 1);
+    })->setEnabled(naming.canMove(meant, 1));
+}
+
+void CategoryMenu::split(const Target &target, Qt::Orientation orientation)
+{
+    enter(target);
     m_view.workplace().splitCurrent(orientation);
 }
 

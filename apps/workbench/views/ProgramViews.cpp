@@ -55,6 +55,9 @@ ViewDock &ProgramViews::make(qint32 program)
         takeSwitches(*this->view(firstProgram).codeView(), *view.codeView());
         view.RefillListviewWithWordList();
     }
+    connect(view.codeView(), &CodeView::zoomChanged, this, [this](qint32 percent) {
+        forEach([percent](CodeView &each) { each.setZoom(percent); });
+    });
     m_workplace.add(*dock, beside);
     Q_EMIT made(program, view);
     return *dock;

@@ -60,7 +60,7 @@ TableViews::Table &TableViews::make(LwType type)
     table.points->setShowsOverrides(m_showsOverrides);
     table.points->show(type);
     table.cells->setOn(m_editsCells);
-    dock->setTitle(list.Caption());
+    dock->setTitle(table.points->title());
     Q_EMIT made(list, *table.points);
     return table;
 }
@@ -142,7 +142,7 @@ void TableViews::retranslate()
 {
     for (const auto &[type, table] : m_tables) {
         table.dock->view().ReInitializeStrings();
-        table.dock->setTitle(table.dock->view().Caption());
+        table.dock->setTitle(table.points->title());
         table.cells->setRules();
         if (m_project)
             table.points->fill();

@@ -6,6 +6,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QAction>
+#include <QtGui/QCloseEvent>
 
 #include <utility>
 
@@ -35,6 +36,18 @@ ViewDock::ViewDock(const QString &name, QWidget *parent)
         else if (isHidden()) // by itself, not with the window
             Q_EMIT closed();
     });
+}
+
+// Whoever closes the window of a program does not lose the way to it. Queued: the toolkit is
+// at work on the window.
+void ViewDock::closeEvent(QCloseEvent *event)
+{
+    if (features().testFlag(DockWidgetClosable)) {
+        QDockWidget::closeEvent(event);
+        return;
+    }
+    event->ignore();
+    QMetaObject::invokeMethod(this, &ViewDock::backWanted, Qt::QueuedConnection);
 }
 
 // The toolkit's tabs take a single "&" for the mark of an access key.

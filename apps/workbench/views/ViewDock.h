@@ -35,6 +35,12 @@ Q_SIGNALS:
     // It has been hidden as a whole, with its tab.
     void closed();
 
+    // Its window is to be closed, and the view cannot be.
+    void backWanted();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
 private:
     ORVListView *m_view;
     DockTitle *m_title;

@@ -64,7 +64,9 @@ void dressTab(const Workplace &workplace, QTabBar &tabs, int index)
         button->setToolTip(Texts::tr("Close"));
         button->setAccessibleName(Texts::tr("Close %1").arg(tabs.tabText(index)));
     } else {
-        tabs.setTabButton(index, side, nullptr);
+        auto *room = new QWidget(&tabs); // a tab is as high as the others
+        room->setFixedSize(0, button->sizeHint().height());
+        tabs.setTabButton(index, side, room);
     }
 }
 

@@ -73,6 +73,7 @@ void Workplace::add(ViewDock &dock, ViewDock *other)
         m_settled.start(); // perhaps a tab that nobody sees the view of
         Q_EMIT shownChanged();
     });
+    connect(&dock, &ViewDock::backWanted, this, [this, &dock] { putBack(dock); });
     connect(&dock, &ViewDock::closed, this, [this, &dock] {
         noteClosed(&dock);
         Q_EMIT shownChanged();
@@ -170,6 +171,23 @@ void Workplace::floatCurrent()
         enter(*dock);
     else
         show(*dock);
+}
+
+// Into the window, as a tab of what stands there.
+void Workplace::putBack(ViewDock &dock)
+{
+    const auto isOther = [this, &dock](const ViewDock *other) {
+        return other != &dock && !other->isHidden() && other->parentWidget() == this &&
+               !other->isFloating();
+    };
+    const auto other = std::ranges::find_if(m_used, isOther);
+    dock.setFloating(false);
+    if (other != m_used.cend())
+        tabifyDockWidget(*other, &dock);
+    else
+        addDockWidget(Qt::TopDockWidgetArea, &dock);
+    activateWindow(); // the other one is gone
+    enter(dock);
 }
 
 void Workplace::closeCurrent()

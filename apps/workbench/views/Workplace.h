@@ -72,6 +72,7 @@ protected:
 private:
     ViewDock *dockOf(const QWidget *widget) const;
     void setCurrent(ViewDock *dock);
+    void putBack(ViewDock &dock);
     void noteClosed(ViewDock *dock);
     void chooseTab(QDockWidget *dock);
 

@@ -1,0 +1,126 @@
+#include "ActionPage.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+
+namespace ORVTListview {
+
+ActionPage::ActionPage(QWidget *parent)
+    : QScrollArea(parent)
+    , m_body(new QVBoxLayout)
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    auto *page = new QWidget;
+    page->setMaximumWidth(fontMetrics().averageCharWidth() * 100);
+    auto *layout = new QVBoxLayout(page);
+    const int room = fontMetrics().height();
+    layout->setContentsMargins(2 * room, 2 * room, 2 * room, 2 * room);
+    m_body->setSpacing(room / 2);
+    layout->addStretch(1);
+    layout->addLayout(m_body);
+    layout->addStretch(2);
+    setWidget(page);
+    m_title = addText();
+    m_text = addText();
+    m_text->hide();
+    enlargeTitle();
+}
+
+QLabel *ActionPage::addText()
+{
+    auto *label = new QLabel(widget());
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setFocusPolicy(Qt::ClickFocus); // the Tab key goes from button to button
+    m_body->addWidget(label);
+    return label;
+}
+
+void ActionPage::enlargeTitle()
+{
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    m_title->setFont(large);
+}
+
+void ActionPage::setTitle(const QString &title)
+{
+    m_title->setText(title);
+    setAccessibleName(title);
+}
+
+void ActionPage::setText(const QString &text)
+{
+    m_text->setText(text);
+    m_text->setVisible(!text.isEmpty());
+}
+
+QPushButton *ActionPage::addButton()
+{
+    if (!m_row) {
+        m_row = new QHBoxLayout;
+        m_row->addStretch();
+        m_body->addLayout(m_row);
+    }
+    auto *button = new QPushButton(widget());
+    m_row->insertWidget(m_row->count() - 1, button);
+    m_preferred = m_preferred ? m_preferred : button;
+    return button;
+}
+
+ActionPage::Step ActionPage::addStep()
+{
+    m_body->addSpacing(fontMetrics().height() / 2);
+    const Step step{new QPushButton(widget()), addText()};
+    m_body->insertWidget(m_body->count() - 1, step.button, 0, Qt::AlignLeft);
+    m_steps.append(step);
+    m_preferred = m_preferred ? m_preferred : step.button;
+    return step;
+}
+
+void ActionPage::setStep(const Step &step, const QString &caption, const QString &text)
+{
+    step.button->setText(caption);
+    step.button->setAccessibleDescription(text);
+    step.text->setText(text);
+    alignSteps();
+}
+
+void ActionPage::alignSteps()
+{
+    int widest = 0;
+    for (const Step &step : m_steps)
+        widest = std::max(widest, step.button->sizeHint().width() + fontMetrics().height());
+    for (const Step &step : m_steps)
+        step.button->setMinimumWidth(widest);
+}
+
+void ActionPage::addBelow(QWidget &widget)
+{
+    m_body->addWidget(&widget);
+}
+
+void ActionPage::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange && widget()) {
+        enlargeTitle();
+        alignSteps();
+    }
+    QScrollArea::changeEvent(event);
+}
+
+void ActionPage::showEvent(QShowEvent *event)
+{
+    if (m_preferred)
+        m_preferred->setFocus();
+    QScrollArea::showEvent(event);
+}
+
+} // namespace ORVTListview

@@ -1,0 +1,50 @@
+#include "PlainTexts.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QTextDocument>
+#include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLabel>
+
+namespace ORVTListview {
+
+void PlainTexts::warn(QWidget &window, const QString &title, const QString &text)
+{
+    ask(window, {title, text, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Warning});
+}
+
+QMessageBox::StandardButton PlainTexts::ask(QWidget &window, const Question &question)
+{
+    const QPointer<QMessageBox> box(
+        new QMessageBox(question.icon, question.title, question.text, question.answers, &window));
+    box->setTextFormat(Qt::PlainText);
+    box->setDefaultButton(question.usual);
+    const int answer = box->exec();
+    if (!box)
+        return QMessageBox::NoButton;
+    delete box;
+    return static_cast<QMessageBox::StandardButton>(answer);
+}
+
+std::optional<QString> PlainTexts::askText(QWidget &window, const QString &title,
+                                           const QString &question, const QString &text)
+{
+    const QPointer<QInputDialog> dialog(new QInputDialog(&window));
+    dialog->setWindowTitle(title);
+    dialog->setLabelText(QString(question).replace(u'&', QStringLiteral("&&")));
+    dialog->setTextValue(text);
+    for (QLabel *label : dialog->findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
+    const bool isGiven = dialog->exec() == QDialog::Accepted;
+    std::optional<QString> given;
+    if (dialog && isGiven)
+        given = dialog->textValue();
+    delete dialog;
+    return given;
+}
+
+QString PlainTexts::toolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
+} // namespace ORVTListview
