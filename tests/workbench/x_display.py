@@ -27,8 +27,12 @@ def wait_until(condition, what, seconds=10.0):
         time.sleep(0.01)
 
 
+def missing_tools():
+    return [tool for tool in TOOLS if not shutil.which(tool)]
+
+
 def require_tools():
-    missing = [tool for tool in TOOLS if not shutil.which(tool)]
+    missing = missing_tools()
     if missing:
         raise Failed("not installed: " + ", ".join(missing))
 
