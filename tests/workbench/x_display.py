@@ -126,6 +126,17 @@ class Display:
         start = header_size + 12 * colours
         return width, height, dump[start : start + height * bytes_per_line]
 
+    def colours_in(self, left, top, width, height):
+        """The bytes of a rectangle of the screen: blue, green, red and none of each pixel."""
+        across, _, pixels = self._pixels()
+        return [pixels[4 * (row * across + left):4 * (row * across + left + width)]
+                for row in range(top, top + height)]
+
+    def colour_at(self, left, top):
+        """Red, green and blue of a pixel."""
+        blue, green, red, _ = self.colours_in(left, top, 1, 1)[0]
+        return red, green, blue
+
     def settled_pixels(self, seconds=0.12):
         """The screen, once it has not changed for the given time."""
         pixels = self._pixels()

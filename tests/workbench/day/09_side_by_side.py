@@ -36,15 +36,34 @@ def by_key_and_back_into_tabs(day):
     wait_until(lambda: not stand_beside(day), "tabs again")
 
 
+def drop_tab(day, across, down):
+    """In parts of the place that the views have; gives the rectangles of both."""
+    tab = day.window.wait_for("page tab", "Inputs")
+    left, top, width, height = day.window.wait_for("frame", "Views").rectangle
+    day.bench.drag(tab.centre, (left + int(width * across), top + int(height * down)))
+    day.bench.drop()
+    wait_until(lambda: not day.window.find_all("page tab"), "no tabs any more")
+
+
 @scene
 def by_dragging_the_tab(day):
     day.start_with()
     day.go_to_table("Inputs")
-    tab = day.window.wait_for("page tab", "Inputs")
-    left, top, width, height = day.window.wait_for("frame", "Views").rectangle
-    day.bench.drag(tab.centre, (left + width - 15, top + height // 2))
-    day.bench.drop()
+    drop_tab(day, 0.97, 0.5)
     wait_until(lambda: stand_beside(day), "the table beside the program")
+    program, table = day.code.rectangle, day.window.wait_for("table", "Inputs").rectangle
+    expect_true(abs(program[2] - table[2]) < table[2] // 4, "both have their room")
+
+
+@scene
+def by_dragging_the_tab_below(day):
+    day.start_with()
+    day.go_to_table("Inputs")
+    drop_tab(day, 0.5, 0.95)
+    table = day.window.wait_for("table", "Inputs")
+    wait_until(lambda: 0 <= place_of(day.code)[3] <= place_of(table)[1], "the table below")
+    expect_true(abs(day.code.rectangle[3] - table.rectangle[3]) < table.rectangle[3] // 4,
+                "both have their room")
 
 
 @scene
@@ -63,8 +82,8 @@ def a_row_is_dragged_into_the_program(day):
     open_beside(day)
     row = day.window.wait_for("table", "Inputs").wait_for("cell", "ReturnTemp")
     day.bench.click(row.centre)
-    left, top = day.code.centre_of("ENDIF")
-    day.bench.drag(row.centre, (left, top + 18))
+    left, top, width, height = day.code.rectangle
+    day.bench.drag(row.centre, (left + width // 2, top + height // 2))  # below the last line
     day.bench.drop()
     day.expect_code(PROGRAM + "ReturnTemp")
     day.save()
@@ -79,7 +98,7 @@ def a_drag_that_is_given_up_changes_nothing(day):
     open_beside(day)
     row = day.window.wait_for("table", "Inputs").wait_for("cell", "ReturnTemp")
     day.bench.click(row.centre)
-    day.bench.drag(row.centre, day.code.centre_of("Valve"))
+    day.bench.drag(row.centre, day.code.centre)
     day.bench.keys("Escape")
     day.bench.drop()
     day.expect_code(PROGRAM)
@@ -93,6 +112,10 @@ def a_window_of_its_own_and_back(day):
     before = len(day.bench.visible_windows())
     day.choose("Window", "Own Window")
     wait_until(lambda: len(day.bench.visible_windows()) == before + 1, "one window more")
+    own = day.wait_for_dialog("Inputs")
+    own.wait_for("cell", "ReturnTemp")
+    day.press(own, "Put back into the window")
+    wait_until(lambda: len(day.bench.visible_windows()) == before, "back in the window")
     day.window.wait_for("table", "Inputs")
 
 

@@ -62,6 +62,13 @@ def expect_true(fact, what):
         raise Failed(f"not so: {what}")
 
 
+def is_active(window):
+    try:
+        return "active" in window.states
+    except Gone:
+        return False
+
+
 class Day:
     """One scene: a folder with a project, and the workbench once it is started."""
 
@@ -102,6 +109,8 @@ class Day:
             self.display, self._arguments.workbench, *map(str, arguments))
         if title:
             self.bench.wait_for_window(title)
+        wait_until(lambda: self.bench.lives() and any(map(is_active, self.windows)),
+                   "a window that takes keys")
         return self.bench
 
     def start_with(self, program=PROGRAM, **members):
@@ -149,6 +158,20 @@ class Day:
         """What the status bar says for a while."""
         return self.window.wait_for("status bar").name
 
+    def results(self):
+        """The rows of the list of results, each with its cells behind each other."""
+        rows = {}
+        try:
+            for item in self.window.wait_for("tree", "Results").find_all("tree item"):
+                rows.setdefault(item.rectangle[1], []).append(item.name)
+        except Gone:
+            return []
+        return [" ".join(cells) for _, cells in sorted(rows.items())]
+
+    def wait_until_listed(self, text):
+        wait_until(lambda: any(text in row for row in self.results()),
+                   f"\"{text}\" in the list of results")
+
     def find_dialog(self, title):
         for window in self.windows:
             with contextlib.suppress(Gone):
@@ -157,11 +180,25 @@ class Day:
         return None
 
     def wait_for_dialog(self, title):
-        return wait_until(lambda: self.bench.lives() and self.find_dialog(title),
-                          f"a dialog \"{title}\"")
+        wait_until(lambda: self.bench.lives() and self.bench.active_title().startswith(title),
+                   f"a dialog \"{title}\" active")
+        dialog = wait_until(lambda: self.find_dialog(title), f"a dialog \"{title}\"")
+        wait_until(lambda: is_active(dialog), f"the dialog \"{title}\" takes keys")
+        return dialog
 
     def wait_for_no_dialog(self, title):
         wait_until(lambda: not self.find_dialog(title), f"the dialog \"{title}\" closed")
+
+    @staticmethod
+    def field_beside(dialog, label):
+        """What the label names. A combo box's own name is what is chosen in it."""
+        left, top, width, height = dialog.wait_for("label", label).rectangle
+        for element in dialog.walk():
+            at = element.rectangle
+            if (at[0] >= left + width and at[1] <= top + height // 2 <= at[1] + at[3]
+                    and "focusable" in element.states):
+                return element
+        raise Failed(f"no field beside \"{label}\"")
 
     # What the mouse does
 
@@ -172,7 +209,7 @@ class Day:
         for name in names[1:]:
             self.bench.click(self.wait_for_entry(name).centre)
 
-    def wait_for_entry(self, name):
+    def wait_for_entry(self, name, seconds=10.0):
         """The entry of that name of a menu that is open."""
         def entry():
             for menu in self.open_menus():
@@ -181,7 +218,17 @@ class Day:
                         if item.name == name:
                             return item
             return None
-        return wait_until(entry, f"a menu with \"{name}\"")
+        return wait_until(entry, f"a menu with \"{name}\"", seconds)
+
+    def open_menu_by_key(self, key, entry):
+        """By its access key; once more where the toolkit, which hands keys on late while a
+        screen reader listens, takes Alt for let go."""
+        with contextlib.suppress(Failed):
+            self.bench.keys(key)
+            self.wait_for_entry(entry, 3.0)
+            return
+        self.bench.keys(key)
+        self.wait_for_entry(entry)
 
     def open_menus(self):
         found = []
