@@ -19,6 +19,7 @@ TEXT = "org.a11y.atspi.Text"
 VALUE = "org.a11y.atspi.Value"
 
 ROOT = "/org/a11y/atspi/accessible/root"
+LABELLED_BY = 2
 STATES = {
     1: "active", 3: "busy", 4: "checked", 6: "defunct", 7: "editable", 8: "enabled",
     10: "expanded", 11: "focusable", 12: "focused", 16: "modal", 23: "selected",
@@ -129,7 +130,10 @@ class Element:
         return hash(self.place)
 
     def __repr__(self):
-        return f"{self.role} \"{self.name}\""
+        try:
+            return f"{self.role} \"{self.name}\""
+        except Gone:
+            return "what is gone"
 
     def _call(self, interface, method, signature="()", *arguments):
         return self._reader.call(self.place, interface, method, signature, *arguments)
@@ -199,6 +203,11 @@ class Element:
         left, top, width, height = self._call(
             TEXT, "GetCharacterExtents", "(iu)", offset + len(word) // 2, 0)
         return left + width // 2, top + height // 2
+
+    def is_labelled(self):
+        """Whether another element stands for its name."""
+        relations = self._call(ACCESSIBLE, "GetRelationSet")
+        return any(kind == LABELLED_BY for kind, _ in relations)
 
     def is_showing(self):
         try:

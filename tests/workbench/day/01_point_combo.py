@@ -51,10 +51,11 @@ def a_click_in_the_list_inserts(day):
     combo = combo_of(day)
     left, top, width, height = combo.rectangle
     day.bench.click((left + width - 10, top + height // 2))
-    items = [item for window in day.windows for item in window.find_all("list item", "ReturnTemp")]
-    print(items, [i.rectangle for i in items])
-    for w in day.windows:
-        for e in w.walk(): print(e, e.rectangle)
+    day.bench.click(combo.wait_for("list item", "ReturnTemp").centre)
+    day.wait_until_changed()
+    day.expect_code(PROGRAM + "ReturnTemp")
+    day.bench.keys("ctrl+z")
+    day.expect_code(PROGRAM)
 
 
 if __name__ == "__main__":

@@ -84,7 +84,6 @@ def compare_names(day, language):
     day.start(day.write_project(), "--language", language, title=None)
     day.bench.wait_for_title_with("Plant")
     context, edit = names_in_context_menu(day), names_in_edit_menu(day)
-    print(language, context, edit)
     expect_true(len(context & edit) >= len(CONTEXT), f"{context} are commands of {edit}")
     day.bench.quit()
 

@@ -2,7 +2,9 @@
 """kill -9, a full disk, a vanished folder, a file changed outside and two workbenches on
 one project lose nothing that was typed."""
 
+import random
 import resource
+import time
 
 from day import PROGRAM, expect, expect_soon, expect_true, run, scene
 from x_display import wait_until
@@ -49,6 +51,28 @@ def killed_it_comes_back(day):
     expect(project.with_suffix(".prog").read_text(), TYPED + PROGRAM, "the file")
     expect(project.with_name("plant.prog~").read_text(), PROGRAM, "the version before")
     wait_until(lambda: not recovery_of(project).exists(), "the recovery file is gone")
+
+
+@scene
+def killed_at_any_moment_nothing_older_than_five_seconds_is_lost(day):
+    project = day.start_with("")
+    typed = []
+    end = time.monotonic() + random.uniform(5.5, 9)
+    while time.monotonic() < end:
+        line = f"REM {len(typed) + 1}"
+        day.bench.type(line + "\n")
+        typed.append((time.monotonic(), line))
+        if len(typed) % 20 == 0:
+            day.bench.keys("ctrl+s")
+    day.bench.kill()
+    due = [line for when, line in typed if when < time.monotonic() - 5]
+    expect_true(due, "something was typed in time")
+    day.start(project, title=None)
+    day.bench.wait_for_title_with("Workbench")
+    if day.find_dialog("Recover Unsaved Work"):
+        day.press(day.wait_for_dialog("Recover Unsaved Work"), "Restore")
+        day.wait_for_no_dialog("Recover Unsaved Work")
+    expect(day.code.text.splitlines()[:len(due)], due, "what was typed five seconds before")
 
 
 @scene

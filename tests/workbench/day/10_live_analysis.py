@@ -43,8 +43,10 @@ def the_list_moves_with_the_text(day):
 @scene
 def f8_walks(day):
     day.start_with("one = 1\n" + PROGRAM + "two = 2\n")
+    day.bench.keys("F6")
+    day.wait_until_listed("Line 5: two is")
+    day.bench.keys("ctrl+2", "ctrl+End")
     for key, row in (("F8", 1), ("F8", 5), ("F8", 1), ("shift+F8", 5)):
-        day.bench.keys("ctrl+2")
         day.bench.keys(key)
         expect_soon(lambda: any(text.startswith(f"Row: {row},") for text in day.status()),
                     True, f"row {row} after {key}")

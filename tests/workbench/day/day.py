@@ -231,13 +231,15 @@ class Day:
         self.wait_for_entry(entry)
 
     def open_menus(self):
+        """The menu that is open, and what is open of its own menus."""
         found = []
-        for window in self.windows:
-            with contextlib.suppress(Gone):
-                if window.role == "popup menu" and window.is_showing():
-                    found.append(window)
-                else:
-                    found += window.find_all("popup menu")
+        with contextlib.suppress(Gone):
+            above = self.window.wait_for("menu bar")
+            while above:
+                popups = [popup for item in above.children for popup in item.children
+                          if popup.is_showing()]
+                found += popups[:1]
+                above = popups[0] if popups else None
         return found
 
     def context_menu(self):
