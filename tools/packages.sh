@@ -13,11 +13,14 @@ python_packages=(
 # What works a window by real keys and mouse.
 display_packages=(xvfb xauth xclip xdotool openbox x11-utils)
 
+# What reads a window as a screen reader does.
+reader_packages=(at-spi2-core dbus-daemon python3-gi)
+
 test_packages=(
     libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev libqt6svg6 dpkg-dev file
-    abigail-tools dbus-daemon lintian libreoffice-writer-nogui
+    abigail-tools lintian libreoffice-writer-nogui
     clang-format clang-tidy doxygen lld locales valgrind
-    "${python_packages[@]}" "${display_packages[@]}")
+    "${python_packages[@]}" "${display_packages[@]}" "${reader_packages[@]}")
 
 # What fuzzes the core.
 fuzz_packages=(clang libclang-rt-14-dev lld)

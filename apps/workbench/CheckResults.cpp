@@ -2,6 +2,8 @@
 
 #include "CheckModel.h"
 
+#include <QtCore/QStringList>
+#include <QtGui/QAccessible>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTreeView>
@@ -55,6 +57,7 @@ void CheckResults::followProblems(const Problems &problems)
     const int scrolled = m_view->verticalScrollBar()->value();
     m_model->setProblems(problems.listed, problems.count);
     m_view->verticalScrollBar()->setValue(scrolled);
+    describe();
     if (!isHidden())
         fitColumns();
 }
@@ -96,6 +99,18 @@ void CheckResults::showModel()
     fitColumns();
     m_view->scrollToTop();
     show();
+    describe();
+    QAccessibleEvent alert(m_view, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+// The focus stays where it is, so a screen reader is told the first row.
+void CheckResults::describe()
+{
+    QStringList cells;
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        cells.append(m_model->index(0, column).data().toString());
+    m_view->setAccessibleDescription(cells.join(u", "_s));
 }
 
 void CheckResults::fitColumns()

@@ -55,6 +55,7 @@ Q_SIGNALS:
 private:
     void choose(const QModelIndex &index);
     void showModel();
+    void describe();
     void fitColumns();
 
     CheckModel *m_model;

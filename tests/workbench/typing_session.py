@@ -12,10 +12,10 @@ has it at first; otherwise every key is the user's.
 import argparse
 import os
 import shutil
-import subprocess
 import sys
 import tempfile
 
+from workbench import Workbench
 from x_display import Display, Failed, require_tools, wait_until
 
 TITLE = "Air handling unit 1 — Workbench"
@@ -46,72 +46,31 @@ ELSE
 ENDIF"""
 
 
-class Workbench:
-    """The running program, as a user has it before the eyes and under the fingers."""
+class OpenProgram(Workbench):
+    """The workbench with the program that is written."""
 
     def __init__(self, display, program, folder, options):
-        self._display = display
+        super().__init__(
+            display, program, os.path.join(folder, "air-handling-unit.json"), *options)
         self._program_file = os.path.join(folder, "air-handling-unit.prog")
-        self._process = display.start(
-            program, os.path.join(folder, "air-handling-unit.json"), *options)
-        display.do("xdotool", "mousemove", "0", "0")
         self.wait_for_window(TITLE)
-        (self._window,) = self._visible_windows()
-
-    def keys(self, *names):
-        self._display.do("xdotool", "key", "--delay", "2", *names)
-
-    def type(self, text):
-        first, *others = text.split("\n")
-        self._type_line(first)
-        for line in others:
-            self.keys("Return")
-            self._type_line(line)
-
-    def _type_line(self, line):
-        if line:
-            self._display.do("xdotool", "type", "--delay", "2", line)
-
-    def put_on_clipboard(self, text):
-        # It stays to serve the clipboard, so it must not hold our pipes.
-        subprocess.run(
-            ["xclip", "-selection", "clipboard"], input=text, text=True, check=True,
-            env=self._display.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until(
-            lambda: self._display.ask("xclip", "-selection", "clipboard", "-out") == text,
-            "the text on the clipboard")
-
-    def active_title(self):
-        return self._display.ask("xdotool", "getactivewindow", "getwindowname").strip()
-
-    def wait_for_window(self, title):
-        wait_until(lambda: self._lives() and self.active_title() == title,
-                   f"a window \"{title}\" active")
-
-    def _lives(self):
-        if self._process.poll() is not None:
-            raise Failed(f"the workbench ended with {self._process.returncode}")
-        return True
+        (self._window,) = self.visible_windows()
 
     def wait_for_popup(self, other_than=None):
         """The number of the list or menu that is open."""
         def popup():
-            others = self._visible_windows() - {self._window, other_than}
+            others = self.visible_windows() - {self._window, other_than}
             return others.pop() if len(others) == 1 else None
         return wait_until(popup, "a list or menu open")
 
     def wait_for_no_popup(self):
-        wait_until(lambda: self._visible_windows() == {self._window}, "all lists and menus closed")
-
-    def _visible_windows(self):
-        return set(self._display.ask(
-            "xdotool", "search", "--onlyvisible", "--class", "workbench").split())
+        wait_until(lambda: self.visible_windows() == {self._window}, "all lists and menus closed")
 
     def save(self, expected):
         """Saves and compares the file with the program expected."""
         self.keys("ctrl+s")
         try:
-            wait_until(lambda: self._lives() and self._saved() == expected, "saved")
+            wait_until(lambda: self.lives() and self._saved() == expected, "saved")
         except Failed as failure:
             raise Failed(f"{failure}:\n{expected}<\nbut:\n{self._saved()}<") from None
         self.wait_for_window(TITLE)
@@ -119,13 +78,6 @@ class Workbench:
     def _saved(self):
         with open(self._program_file, encoding="utf-8", newline="") as file:
             return file.read()
-
-    def quit(self):
-        self.keys("ctrl+q")
-        code = wait_until(lambda: self._process.poll() is not None and [self._process.poll()],
-                          "the workbench ended")[0]
-        if code != 0:
-            raise Failed(f"the workbench ended with {code}")
 
 
 class Session:
@@ -413,7 +365,7 @@ def run_session(arguments):
     with tempfile.TemporaryDirectory(prefix="project") as folder, \
             Display(int(1140 * scale), int(780 * scale)) as display:
         empty_copy_of(arguments.sample, folder)
-        workbench = Workbench(display, arguments.workbench, folder, options)
+        workbench = OpenProgram(display, arguments.workbench, folder, options)
 
         def take_picture(name):
             display.write_picture(os.path.join(arguments.pictures, name + ".png"))

@@ -15,7 +15,7 @@ class Failed(Exception):
     """The session did not go as it must; the text says how."""
 
 
-def wait_until(condition, what, seconds=10.0):
+def wait_until(condition, what, seconds=20.0):
     """The first true value of condition(); raises Failed after the given time."""
     deadline = time.monotonic() + seconds
     while True:
@@ -27,8 +27,12 @@ def wait_until(condition, what, seconds=10.0):
         time.sleep(0.01)
 
 
+def missing_tools():
+    return [tool for tool in TOOLS if not shutil.which(tool)]
+
+
 def require_tools():
-    missing = [tool for tool in TOOLS if not shutil.which(tool)]
+    missing = missing_tools()
     if missing:
         raise Failed("not installed: " + ", ".join(missing))
 
@@ -121,6 +125,17 @@ class Display:
             raise Failed("the screen has an unexpected form")
         start = header_size + 12 * colours
         return width, height, dump[start : start + height * bytes_per_line]
+
+    def colours_in(self, left, top, width, height):
+        """The bytes of a rectangle of the screen: blue, green, red and none of each pixel."""
+        across, _, pixels = self._pixels()
+        return [pixels[4 * (row * across + left):4 * (row * across + left + width)]
+                for row in range(top, top + height)]
+
+    def colour_at(self, left, top):
+        """Red, green and blue of a pixel."""
+        blue, green, red, _ = self.colours_in(left, top, 1, 1)[0]
+        return red, green, blue
 
     def settled_pixels(self, seconds=0.12):
         """The screen, once it has not changed for the given time."""

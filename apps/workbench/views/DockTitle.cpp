@@ -30,7 +30,7 @@ DockTitle::DockTitle(QDockWidget &dock)
             [&dock] { dock.setFloating(!dock.isFloating()); });
     connect(m_close, &QToolButton::clicked, &dock, &QDockWidget::close);
     connect(&dock, &QDockWidget::featuresChanged, this, &DockTitle::follow);
-    connect(&dock, &QDockWidget::topLevelChanged, this, &DockTitle::follow);
+    connect(&dock, &QDockWidget::topLevelChanged, this, &DockTitle::retranslate);
     connect(&dock, &QWidget::windowTitleChanged, this, &DockTitle::retranslate);
     retranslate();
 }

@@ -24,7 +24,8 @@ ViewDock::ViewDock(const QString &name, QWidget *parent)
     m_view->InitStrings();
     setAllowedAreas(Qt::TopDockWidgetArea); // one area, which splits as users want it
     setTitleBarWidget(m_title);
-    m_view->setMinimumHeight(fontMetrics().height() * 6); // dropped docks take the least
+    // What is dropped beside others takes the least, or leaves it to them.
+    m_view->setMinimumSize(fontMetrics().averageCharWidth() * 8, fontMetrics().height() * 6);
     setWidget(m_view);
     connect(this, &QDockWidget::visibilityChanged, this, [this](bool isSeen) {
         if (std::exchange(m_isSeen, isSeen) != isSeen)

@@ -52,6 +52,7 @@ QWidget *ReportDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
     if (auto *line = qobject_cast<QLineEdit *>(editor)) {
         FieldMenu::installOn(*line);
         line->setMaxLength(std::numeric_limits<int>::max());
+        line->setAccessibleName(index.data().toString()); // what is renamed
     }
     return editor;
 }

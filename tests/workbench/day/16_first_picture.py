@@ -1,0 +1,50 @@
+#!/usr/bin/env python3
+"""The first picture is there at once, a long program comes with progress and Cancel, and
+may be typed in before it is finished."""
+
+from day import PROGRAM, expect, expect_true, run, scene
+from screen_reader import Gone
+from x_display import wait_until
+
+LONG = PROGRAM * (10_000_000 // len(PROGRAM))
+
+
+def is_painted(day):
+    """More than one colour in the window's middle, which a black one has not."""
+    rows = day.display.colours_in(200, 200, 600, 300)
+    return len({row[4 * x:4 * x + 3] for row in rows for x in range(600)}) > 3
+
+
+def progress(day):
+    try:
+        return day.window.wait_for("status bar").find_all("progress bar", "Colouring the program")
+    except Gone:
+        return []
+
+
+@scene
+def a_long_program(day):
+    project = day.start_with(LONG)
+    wait_until(lambda: progress(day), "progress")
+    expect_true(is_painted(day), "a picture while it is loaded")
+    day.bench.type("REM first ")
+    wait_until(lambda: day.code.caret == len("REM first "), "what was typed, before the end")
+    expect_true(progress(day), "there is more to colour")
+    day.press(day.window.wait_for("status bar"), "Cancel")
+    wait_until(lambda: not progress(day), "no progress any more", 3)
+    day.bench.keys("ctrl+End")
+    day.bench.type("REM last")
+    wait_until(lambda: day.code.caret == len(LONG) + len("REM first REM last"), "what was typed")
+    day.save()
+    expect(project.with_suffix(".prog").read_text(), "REM first " + LONG + "REM last", "the file")
+
+
+@scene
+def it_is_coloured_to_the_end(day):
+    day.start_with(PROGRAM * 40_000)
+    wait_until(lambda: progress(day), "progress")
+    wait_until(lambda: not progress(day), "all of it coloured", 60)
+
+
+if __name__ == "__main__":
+    run()
