@@ -21,9 +21,13 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
-add_compile_options(-Wall -Wextra -Wshadow -Wconversion)
+if(MSVC)
+    add_compile_options(/W4 /utf-8)
+else()
+    add_compile_options(-Wall -Wextra -Wshadow -Wconversion)
+endif()
 if(ORVT_WARNINGS_AS_ERRORS)
-    add_compile_options(-Werror)
+    add_compile_options($<IF:$<BOOL:${MSVC}>,/WX,-Werror>)
 endif()
 
 if(ORVT_FUZZ)
@@ -35,6 +39,28 @@ find_program(LLD_PROGRAM ld.lld)
 if(ORVT_FAST_LINKER AND LLD_PROGRAM)
     add_link_options(-fuse-ld=lld)
 endif()
+
+# Of two files NAME.cpp and NAMEWindows.cpp each system takes its own.
+function(orvt_take_own_system variable)
+    set(kept ${${variable}})
+    set(others ${kept})
+    list(FILTER others INCLUDE REGEX "Windows\\.cpp$")
+    if(WIN32)
+        list(TRANSFORM others REPLACE "Windows\\.cpp$" ".cpp")
+    endif()
+    if(others)
+        list(REMOVE_ITEM kept ${others})
+    endif()
+    set(${variable} ${kept} PARENT_SCOPE)
+endfunction()
+
+# For a static library that programs link with the libraries and tests with their
+# objects: MinGW's linker finds either, if the compiler does not ask for an import.
+function(orvt_import_nothing target)
+    if(MINGW)
+        target_compile_definitions(${target} PRIVATE ORVT_CORE_STATIC_DEFINE ORVT_STATIC_DEFINE)
+    endif()
+endfunction()
 
 add_compile_definitions(
     QT_NO_KEYWORDS

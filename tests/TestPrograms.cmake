@@ -3,6 +3,14 @@
 
 # Every test is run by this script, which sees to its environment.
 set(run_test ${Python3_EXECUTABLE} -I -S ${CMAKE_CURRENT_LIST_DIR}/support/run_test.py)
+if(orvt_left_out)
+    list(APPEND run_test --left-out ${orvt_left_out_file})
+endif()
+# What is built for another system runs in its emulator.
+set(emulator)
+if(CMAKE_CROSSCOMPILING)
+    set(emulator ${CMAKE_CROSSCOMPILING_EMULATOR})
+endif()
 set(test_folders ${PROJECT_BINARY_DIR}/test_folders)
 set(seconds_for_a_test 300)
 set(seconds_under_sanitizers 1200)
@@ -11,14 +19,21 @@ set(seconds_under_sanitizers 1200)
 function(orvt_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 test "DISPLAY" "" "ENVIRONMENT;COMMAND")
     set(options --name ${name} --folder ${test_folders}/${name})
-    if(test_DISPLAY)
+    if(test_DISPLAY AND WIN32)
+        list(APPEND options --set QT_QPA_PLATFORM=windows)
+    elseif(test_DISPLAY)
         list(APPEND options --display)
     endif()
     foreach(setting IN LISTS test_ENVIRONMENT)
         list(APPEND options --set ${setting})
     endforeach()
+    if(test_COMMAND MATCHES "^\\$<TARGET_FILE")
+        list(PREPEND test_COMMAND ${emulator})
+    endif()
     add_test(NAME ${name} COMMAND ${run_test} ${options} -- ${test_COMMAND})
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${seconds_for_a_test})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${seconds_for_a_test}
+        SKIP_REGULAR_EXPRESSION "^Left out")
 endfunction()
 
 # PROGRAM NAME [DISPLAY]: the widget test again, with what it tests under sanitizers.
@@ -48,6 +63,9 @@ foreach(country IN ITEMS de_DE tr_TR)
 endforeach()
 
 function(orvt_add_test_elsewhere name program)
+    if(CMAKE_CROSSCOMPILING) # an emulator has this system's locales and no screens of ours
+        return()
+    endif()
     foreach(place IN ITEMS "150 windows tr_TR" "200 fusion de_DE")
         separate_arguments(place)
         list(GET place 0 percent)
@@ -118,15 +136,17 @@ endfunction()
 function(orvt_add_suites_of program behind seconds without part)
     set(launcher "\"${run_test};--set;ORVT_TEST_PART=${part}\"")
     string(REPLACE ";" "\" \"" launcher "${launcher}")
+    list(JOIN emulator " " emulator_words)
     set(ask ${CMAKE_CURRENT_BINARY_DIR}/${program}_suites.cmake)
     file(CONFIGURE OUTPUT ${ask}.in CONTENT [[
 if(NOT EXISTS "$<TARGET_FILE:@program@>")
     add_test("@program@_NOT_BUILT" "@program@_NOT_BUILT")
     return()
 endif()
-execute_process(COMMAND "$<TARGET_FILE:@program@>" --gtest_list_tests
+execute_process(COMMAND @emulator_words@ "$<TARGET_FILE:@program@>" --gtest_list_tests
     OUTPUT_VARIABLE lines
     COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE "\r" "" lines "${lines}")
 string(REGEX MATCHALL "(^|\n)[^ \n]+\\." suites "${lines}")
 foreach(suite IN LISTS suites)
     string(STRIP "${suite}" suite)
@@ -137,8 +157,10 @@ foreach(suite IN LISTS suites)
     string(REPLACE "/" "_" folder "${suite}")
     add_test("${suite}@behind@" @launcher@ --name "${suite}"
         --folder "@test_folders@/${folder}@behind@"
-        -- "$<TARGET_FILE:@program@>" "--gtest_filter=${suite}.*")
-    set_tests_properties("${suite}@behind@" PROPERTIES TIMEOUT @seconds@)
+        -- @emulator_words@ "$<TARGET_FILE:@program@>" "--gtest_filter=${suite}.*")
+    set_tests_properties("${suite}@behind@" PROPERTIES
+        TIMEOUT @seconds@
+        SKIP_REGULAR_EXPRESSION "^Left out")
 endforeach()
 ]] @ONLY)
     file(GENERATE OUTPUT ${ask} INPUT ${ask}.in)

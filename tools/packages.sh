@@ -31,6 +31,10 @@ bench_packages=(
     highlight python3-pygments
     "${python_packages[@]}" python3-pyqt6.qsci)
 
+# What compiles for Windows, and what runs that.
+mingw_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev)
+windows_packages=("${mingw_packages[@]}" dpkg-dev googletest wine wine64 xvfb)
+
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"

@@ -55,8 +55,9 @@ int write(const QByteArray &bytes)
 QString readStandardInput()
 {
     const QString name = u"standard input"_s;
+    constexpr int descriptor = 0; // at the end of a pipe the toolkit takes a stream for broken
     QFile input;
-    if (!input.open(stdin, QIODevice::ReadOnly))
+    if (!input.open(descriptor, QIODevice::ReadOnly))
         throw Error(FileNotReadable, u"readStandardInput"_s,
                     u"%1: %2"_s.arg(name, input.errorString()));
     return decodeProgram(readDevice(input, name), name);

@@ -7,7 +7,7 @@
 #include "project/TextFile.h"
 #include "workbench/life/FirstPicture.h"
 #include "workbench/life/RecentProjects.h"
-#include "workbench/settings/DesktopScheme.h"
+#include "workbench/settings/DesktopFollowing.h"
 #include "workbench/settings/KeptWindow.h"
 #include "workbench/views/Workplace.h"
 
@@ -82,14 +82,6 @@ void keep(MainWindow &window, QSettings &store, const Settings &stored)
                      });
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window,
                      [&] { writeWindow(store, window, view); });
-}
-
-// Not for a picture: one is like the other.
-void followDesktop()
-{
-    auto *desktop = new DesktopScheme(QDBusConnection::sessionBus(), qApp);
-    QObject::connect(desktop, &DesktopScheme::changed, desktop,
-                     [desktop] { setDesktopDark(desktop->isDark()); });
 }
 
 // Whoever names a project knows what to begin with.
@@ -174,8 +166,8 @@ int main(int argc, char **argv)
         languages.setLanguage(*settings.language);
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
 
-    if (!isPicture && DesktopScheme::hasBus())
-        followDesktop();
+    if (!isPicture) // one is like the other
+        followDesktop(*qApp);
 
     MainWindow window(languages);
     window.setSettings(settings);

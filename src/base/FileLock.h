@@ -9,6 +9,8 @@
 
 namespace ORVTListview {
 
+class LockedFile;
+
 // Keeps other processes, and other locks of this one, out while it lives. The lock ends
 // with the process that holds it, however that ends, and counts on every machine that sees
 // the file where the file system carries locks (NFS and SMB do). Its file is created where
@@ -25,19 +27,15 @@ public:
     Q_DISABLE_COPY_MOVE(FileLock) // one lock, one release
 
     // False: held elsewhere all the time, or the file cannot be opened or locked.
-    bool isHeld() const { return m_state == State::Held; }
-    bool isHeldElsewhere() const { return m_state == State::HeldElsewhere; }
+    bool isHeld() const;
+    bool isHeldElsewhere() const;
 
     // Whether its file still has its name. Once somebody has moved or removed the file,
     // others can lock the next one of that name.
     bool isInPlace() const;
 
 private:
-    struct Handle;
-    enum class State { Held, HeldElsewhere, Impossible };
-
-    std::unique_ptr<Handle> m_handle;
-    State m_state;
+    std::unique_ptr<LockedFile> m_locked;
     File m_file;
 };
 

@@ -1,5 +1,7 @@
 #include "base/FilePlace.h"
 
+#include "base/SystemFiles.h"
+
 #include <QtCore/QFileInfo>
 
 #include <filesystem>
@@ -14,9 +16,8 @@ QString behindLinks(const QString &fileName)
     constexpr int longestChain = 40; // the system follows no more
     std::filesystem::path place = QFileInfo(fileName).filesystemFilePath();
     for (int i = 0; i < longestChain; ++i) {
-        std::error_code isNoLink;
-        const std::filesystem::path target = std::filesystem::read_symlink(place, isNoLink);
-        if (isNoLink)
+        const std::filesystem::path target = SystemFiles::linkTarget(place);
+        if (target.empty())
             return i == 0 ? fileName : QFileInfo(place).filePath();
         place = place.parent_path() / target;
     }
@@ -29,7 +30,7 @@ bool isOneFile(const QString &one, const QString &other)
     const QFileInfo first(behindLinks(one));
     const QFileInfo second(behindLinks(other));
     std::error_code missing;
-    return first.fileName() == second.fileName() &&
+    return SystemFiles::isOneName(first.fileName(), second.fileName()) &&
            std::filesystem::equivalent(QFileInfo(first.path()).filesystemFilePath(),
                                        QFileInfo(second.path()).filesystemFilePath(), missing);
 }

@@ -1,19 +1,12 @@
 #include "base/FileReplacement.h"
 
 #include "base/FilePlace.h"
+#include "base/SystemFiles.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QRandomGenerator>
 
-#include <cerrno>
-#include <filesystem>
 #include <system_error>
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
 
 using namespace Qt::StringLiterals;
 
@@ -31,23 +24,6 @@ QString newNameBeside(const QFileInfo &file)
     const QString tail = QString::number(QRandomGenerator::global()->generate(), 36);
     return file.path() + u'/' + file.fileName().left(40) + u'.' + tail;
 }
-
-#ifdef Q_OS_UNIX
-bool syncToDisk(int handle)
-{
-    return ::fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
-}
-
-// The new name is on the disk only when its folder is. Nothing is lost without.
-void syncFolder(const QString &folder)
-{
-    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
-    if (handle < 0)
-        return;
-    syncToDisk(handle);
-    ::close(handle);
-}
-#endif
 
 } // namespace
 
@@ -84,15 +60,12 @@ bool FileReplacement::commit()
 {
     if (!m_isWritten || !mayReplace())
         return false;
-    std::error_code failure;
-    std::filesystem::rename(QFileInfo(m_beside).filesystemFilePath(),
-                            QFileInfo(m_fileName).filesystemFilePath(), failure);
+    const std::error_code failure = SystemFiles::moveInPlace(m_beside.fileName(), m_fileName);
     if (failure)
         return fail(Fault::System, textOf(failure));
     m_isWritten = false;
-#ifdef Q_OS_UNIX
-    syncFolder(QFileInfo(m_fileName).path());
-#endif
+    // The new name is on the disk only when its folder is. Nothing is lost without.
+    SystemFiles::syncFolder(QFileInfo(m_fileName).path());
     return true;
 }
 
@@ -138,25 +111,15 @@ bool FileReplacement::writeAll(const QByteArray &content)
 // now, and after a power failure the name must not lead to an empty file.
 bool FileReplacement::reachDisk()
 {
-#ifdef Q_OS_UNIX
-    if (!syncToDisk(m_beside.handle()))
-        return fail(Fault::System, textOf({errno, std::generic_category()}));
-#endif
-    return true;
+    const std::error_code failure = SystemFiles::syncToDisk(m_beside);
+    return !failure || fail(Fault::System, textOf(failure));
 }
 
 void FileReplacement::copyRights()
 {
     if (!QFileInfo::exists(m_fileName))
         return;
-#ifdef Q_OS_UNIX
-    struct stat old = {};
-    if (::stat(QFile::encodeName(m_fileName).constData(), &old) == 0 &&
-        ::fchown(m_beside.handle(), old.st_uid, old.st_gid) != 0 &&
-        ::fchown(m_beside.handle(), static_cast<uid_t>(-1), old.st_gid) != 0) {
-        // Only an administrator can keep another owner; the content matters more.
-    }
-#endif
+    SystemFiles::copyOwner(m_fileName, m_beside);
     m_beside.setPermissions(QFile::permissions(m_fileName) | QFile::ReadOwner | QFile::WriteOwner);
 }
 

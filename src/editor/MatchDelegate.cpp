@@ -3,6 +3,7 @@
 #include "editor/MatchModel.h"
 #include "editor/view/ViewColours.h"
 #include "widgets/look/CellText.h"
+#include "widgets/look/SelectionLook.h"
 
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
@@ -95,7 +96,7 @@ void MatchDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
 
     const bool isSelected = item.state.testFlag(QStyle::State_Selected);
-    const auto role = isSelected ? QPalette::HighlightedText : QPalette::Text;
+    const auto role = isSelected ? selectedTextRole(item.widget) : QPalette::Text;
     const QColor colour = item.palette.color(QPalette::Active, role);
     painter->save();
     painter->setClipRect(item.rect, Qt::IntersectClip);

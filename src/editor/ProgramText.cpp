@@ -93,11 +93,20 @@ void ProgramText::setAnew()
 void ProgramText::applyAppearance(const RichTextSettings &setting)
 {
     m_box.setBackColor(setting.BackColor);
-    m_box.setFontName(setting.FontName);
+    setFontName(setting.FontName);
     m_box.setFontSize(setting.FontSize);
     m_box.setFontBold(hasMark(setting.FontStyle, u"b1"));
     m_box.setFontItalic(hasMark(setting.FontStyle, u"i1"));
     m_box.setFontUnderline(hasMark(setting.FontStyle, u"u1"));
+}
+
+// Where there is no such font, letters of one width take its place.
+void ProgramText::setFontName(const QString &name)
+{
+    m_box.setFontName(name);
+    QFont font = m_box.font();
+    font.setStyleHint(QFont::Monospace);
+    m_box.setFont(font);
 }
 
 // From what a box in this font writes for two lines.

@@ -39,6 +39,7 @@ public:
 private:
     void openInParts(const QString &program);
     void applyAppearance(const RichTextSettings &setting);
+    void setFontName(const QString &name);
     void colourInPlace();
     void setAnew();
     void takeHead();

@@ -1,5 +1,6 @@
 #include "members/HandedClass.h"
 
+#include <QtCore/QMutex>
 #include <QtCore/QObject>
 
 #include <algorithm>
@@ -20,7 +21,7 @@ QString className(QMetaType type)
 }
 
 // A library may be loaded while other threads make calls. Ready before any of the list.
-constinit std::mutex mutex;
+constinit QBasicMutex mutex;
 
 } // namespace
 

@@ -11,8 +11,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
 
-#include <sys/stat.h>
-
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -43,12 +41,10 @@ QStringList expected(const QString &names)
     return QStringList(4, u"refused old "_s + names) + QStringList(13, u"saved new "_s + names);
 }
 
-mode_t rightsOf(const QString &file)
-{
-    struct stat status = {};
-    EXPECT_EQ(::stat(QFile::encodeName(file).constData(), &status), 0);
-    return status.st_mode & 07777;
-}
+constexpr QFile::Permissions usersOwn = QFile::ReadOwner | QFile::WriteOwner;
+constexpr QFile::Permissions toRead = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+constexpr QFile::Permissions toWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+constexpr QFile::Permissions toEnter = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
 
 } // namespace
 
@@ -101,10 +97,14 @@ TEST(Saving, KeepsTheRights)
 {
     const ProjectFolder folder;
     const QString file = folder.write(u"p"_s, "old");
-    for (const mode_t rights : {mode_t{0600}, mode_t{0660}, mode_t{0755}}) {
-        ASSERT_EQ(::chmod(QFile::encodeName(file).constData(), rights), 0);
+    for (const QFile::Permissions rights :
+         {usersOwn, usersOwn | QFile::ReadGroup | QFile::WriteGroup,
+          toRead | toEnter | QFile::WriteOwner}) {
+        ASSERT_TRUE(QFile::setPermissions(file, rights));
+        const QFile::Permissions before = QFile::permissions(file);
+        EXPECT_EQ(before & rights, rights);
         writeFile(file, "new");
-        EXPECT_EQ(rightsOf(file), rights);
+        EXPECT_EQ(QFile::permissions(file), before);
     }
 }
 
@@ -113,7 +113,7 @@ TEST(Saving, ANewFileHasTheUsualRights)
     const ProjectFolder folder;
     const QString usual = folder.write(u"usual"_s, "x");
     writeFile(folder.path(u"p"_s), "new");
-    EXPECT_EQ(rightsOf(folder.path(u"p"_s)), rightsOf(usual));
+    EXPECT_EQ(QFile::permissions(folder.path(u"p"_s)), QFile::permissions(usual));
 }
 
 TEST(Saving, WorksForTheLongestNames)
@@ -138,9 +138,9 @@ TEST(Saving, LeavesTheFilesBesideIt)
 TEST(Saving, AFileWithoutTheRightToWriteStays)
 {
     const ProjectFolder folder;
-    ASSERT_EQ(::chmod(QFile::encodeName(folder.path(u"."_s)).constData(), 0777), 0);
+    ASSERT_TRUE(QFile::setPermissions(folder.path(u"."_s), toRead | toWrite | toEnter));
     const QString file = folder.write(u"p"_s, "old");
-    ASSERT_EQ(::chmod(QFile::encodeName(file).constData(), 0444), 0);
+    ASSERT_TRUE(QFile::setPermissions(file, toRead));
     const Outcome outcome = runHelper(u"powerless"_s, file);
     EXPECT_EQ(outcome.lines, QStringList(file + u": may only be read"_s));
     EXPECT_EQ(readFile(file), "old");
@@ -151,10 +151,10 @@ TEST(Saving, AFolderThatTakesNoFileIsNamed)
 {
     const ProjectFolder folder;
     const QString file = folder.write(u"p"_s, "old");
-    ASSERT_EQ(::chmod(QFile::encodeName(file).constData(), 0666), 0);
-    ASSERT_EQ(::chmod(QFile::encodeName(folder.path(u"."_s)).constData(), 0555), 0);
+    ASSERT_TRUE(QFile::setPermissions(file, toRead | toWrite));
+    ASSERT_TRUE(QFile::setPermissions(folder.path(u"."_s), toRead | toEnter));
     const Outcome outcome = runHelper(u"powerless"_s, file);
-    ASSERT_EQ(::chmod(QFile::encodeName(folder.path(u"."_s)).constData(), 0755), 0);
+    ASSERT_TRUE(QFile::setPermissions(folder.path(u"."_s), toRead | toEnter | QFile::WriteOwner));
     EXPECT_EQ(outcome.lines,
               QStringList(file + u": its folder takes no new file (Permission denied)"_s));
     EXPECT_EQ(readFile(file), "old");
@@ -164,7 +164,7 @@ TEST(Saving, WhatIsNoFileIsLeftAlone)
 {
     const ProjectFolder folder;
     const QString pipe = folder.path(u"pipe"_s);
-    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    ASSERT_TRUE(DiskLimits::makePipe(pipe));
     ASSERT_TRUE(QFile::link(u"circle"_s, folder.path(u"circle"_s)));
     for (const QString &name : {u"."_s, u"pipe"_s, u"circle"_s}) {
         const auto error = raisedBy([&] { writeFile(folder.path(name), "new"); });

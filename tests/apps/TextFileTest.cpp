@@ -2,12 +2,9 @@
 
 #include "ProjectFolder.h"
 #include "project/ProjectError.h"
+#include "support/DiskLimits.h"
 #include "support/QtPrinters.h"
 #include "support/Raised.h"
-
-#include <sys/resource.h>
-
-#include <csignal>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -154,13 +151,10 @@ TEST(WriteFile, KeepsTheFileThatItCannotReplace)
 {
     const ProjectFolder folder;
     const QString file = folder.write(u"f"_s, "as it was");
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit former;
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &former), 0);
-    const rlimit small{1000, former.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const auto error = raisedBy([&] { writeFile(file, QByteArray(100'000, 'x')); });
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &former), 0);
+    const auto error = [&] {
+        const DiskLimits::FileLimit limit(1000);
+        return raisedBy([&] { writeFile(file, QByteArray(100'000, 'x')); });
+    }();
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), FileNotWritable);
     EXPECT_EQ(readFile(file), "as it was");

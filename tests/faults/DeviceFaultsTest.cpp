@@ -17,9 +17,9 @@
 
 #include <algorithm>
 #include <cstring>
-#include <sys/resource.h>
 
 using namespace ORVTListview;
+using DiskLimits::FileLimit;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -75,22 +75,6 @@ TEST(DeviceFaults, AReadThatFailsAtAnyByteIsNoShorterText)
         ASSERT_EQ(readDevice(whole, u"name"_s), content);
     }
 }
-
-// While it lives, no file of this process grows beyond.
-class FileLimit
-{
-public:
-    explicit FileLimit(qint64 bytes)
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_former);
-        DiskLimits::limitFiles(bytes);
-    }
-    ~FileLimit() { ::setrlimit(RLIMIT_FSIZE, &m_former); }
-    Q_DISABLE_COPY_MOVE(FileLimit)
-
-private:
-    rlimit m_former = {};
-};
 
 class SavingFaults : public ::testing::Test
 {

@@ -9,6 +9,7 @@
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -85,6 +86,32 @@ void dropRights()
     if (::geteuid() == 0 &&
         (::setgroups(0, nullptr) != 0 || ::setgid(nobody) != 0 || ::setuid(nobody) != 0))
         stopAsNotPermitted("dropping rights");
+}
+
+struct FileLimit::Former
+{
+    rlimit limit = {};
+    void (*handler)(int) = nullptr;
+};
+
+FileLimit::FileLimit(qint64 bytes)
+    : m_former(std::make_unique<Former>())
+{
+    if (::getrlimit(RLIMIT_FSIZE, &m_former->limit) != 0)
+        stopAsNotPermitted("getrlimit");
+    m_former->handler = std::signal(SIGXFSZ, SIG_IGN);
+    limitFiles(bytes);
+}
+
+FileLimit::~FileLimit()
+{
+    ::setrlimit(RLIMIT_FSIZE, &m_former->limit);
+    std::signal(SIGXFSZ, m_former->handler);
+}
+
+bool makePipe(const QString &fileName)
+{
+    return ::mkfifo(QFile::encodeName(fileName).constData(), 0600) == 0;
 }
 
 } // namespace DiskLimits

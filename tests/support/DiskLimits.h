@@ -2,6 +2,8 @@
 
 #include <QtCore/QString>
 
+#include <memory>
+
 // What a test's other process does to itself to run out of room or of rights. A
 // process that may not do it ends with notPermitted.
 namespace DiskLimits {
@@ -19,5 +21,21 @@ void limitFiles(qint64 bytes);
 
 // Goes on as a user without any rights, if this one has some.
 void dropRights();
+
+// While it lives, no file of this process grows beyond.
+class FileLimit
+{
+public:
+    explicit FileLimit(qint64 bytes);
+    ~FileLimit();
+    Q_DISABLE_COPY_MOVE(FileLimit) // one limit, one release
+
+private:
+    struct Former;
+    std::unique_ptr<Former> m_former;
+};
+
+// A pipe of that name; false where files are no pipes.
+bool makePipe(const QString &fileName);
 
 } // namespace DiskLimits

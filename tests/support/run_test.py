@@ -3,10 +3,11 @@
 test skips anything that tests/skips.txt does not name.
 
     run_test.py --name NAME --folder FOLDER [--display] [--set NAME=VALUE]...
-                -- COMMAND...
+                [--left-out FILE] -- COMMAND...
 
 FOLDER, emptied, becomes the home folder; FOLDER.log keeps what the test said. With
---display the test gets a virtual display."""
+--display the test gets a virtual display. What the file of names says is left out: the
+test, or functions of it."""
 
 import argparse
 import fnmatch
@@ -53,9 +54,28 @@ def skips(name, status, output):
     return found | set(GTEST_SKIP.findall(output))
 
 
-def allowed():
-    lines = SKIPS.read_text().splitlines()
-    return {line.split()[0] for line in lines if line and not line.startswith("#")}
+def names_in(file):
+    lines = file.read_text().splitlines()
+    return [line.split()[0] for line in lines if line and not line.startswith("#")]
+
+
+def functions_of(command, values):
+    """Those of a test of the toolkit's kind, which cannot be told what to leave out."""
+    told = subprocess.run([*command, "-functions"], env=values, check=True,
+                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE)
+    return re.findall(r"^(\w+)\(\)", told.stdout.decode(), re.MULTILINE)
+
+
+def without(left_out, name, command, values):
+    """The command, telling the program which of the test's functions are not to run."""
+    names = [entry for entry in left_out if entry.startswith(f"{name}.")]
+    if not names:
+        return command
+    if command[-1].startswith("--gtest_filter="):
+        return [*command[:-1], f"{command[-1]}-{':'.join(names)}"]
+    unwanted = [entry.split(".")[1] for entry in names]
+    wanted = [one for one in functions_of(command, values) if one not in unwanted]
+    return [*command, *wanted]
 
 
 def main():
@@ -64,18 +84,26 @@ def main():
     parser.add_argument("--folder", type=pathlib.Path, required=True)
     parser.add_argument("--display", action="store_true")
     parser.add_argument("--set", action="append", default=[])
+    parser.add_argument("--left-out", type=pathlib.Path)
     parser.add_argument("command", nargs="+")
     arguments = parser.parse_args()
     settings = (["QT_QPA_PLATFORM=xcb"] if arguments.display else []) + arguments.set
-    command = with_display(arguments.command) if arguments.display else arguments.command
+    values = environment(arguments.folder, settings)
+    left_out = names_in(arguments.left_out) if arguments.left_out else []
+    if arguments.name in left_out:
+        print("Left out")
+        sys.exit(SKIPPED)
+    command = without(left_out, arguments.name, arguments.command, values)
+    if arguments.display:
+        command = with_display(command)
     result = subprocess.run(
-        command, env=environment(arguments.folder, settings), check=False,
+        command, env=values, check=False,
         stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     sys.stdout.buffer.write(result.stdout)
     output = result.stdout.decode(errors="replace")
     unexplained = {
         skip for skip in skips(arguments.name, result.returncode, output)
-        if not any(fnmatch.fnmatchcase(skip, pattern) for pattern in allowed())}
+        if not any(fnmatch.fnmatchcase(skip, pattern) for pattern in names_in(SKIPS))}
     for name in sorted(unexplained):
         print(f"{name} was skipped, and tests/skips.txt does not say why it may be")
     if result.returncode < 0:

@@ -4,6 +4,7 @@
 #include "WorkbenchTest.h"
 
 #include "project/RecoveryFile.h"
+#include "support/DiskLimits.h"
 #include "support/TestProgram.h"
 #include "support/WithoutRights.h"
 #include "workbench/saving/RecoveryKeeper.h"
@@ -15,10 +16,6 @@
 #include <QtTest/QSignalSpy>
 
 #include <chrono>
-#include <csignal>
-
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -26,30 +23,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// As long as it lives, no file of this process takes more than a few bytes, as on a disk that
-// is full.
-class FullDisk
-{
-public:
-    FullDisk()
-        : m_former(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_limit);
-        rlimit few = m_limit;
-        few.rlim_cur = 8;
-        ::setrlimit(RLIMIT_FSIZE, &few);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_former);
-    }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    void (*m_former)(int);
-    rlimit m_limit{};
-};
+constexpr QFile::Permissions toRead = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                      QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+constexpr QFile::Permissions toWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
 
 constexpr auto written = "Fan1 = ON\nREM nobody touched this line\n";
 
@@ -87,7 +63,7 @@ private Q_SLOTS:
         Attempt attempt;
         QString told;
         {
-            const FullDisk disk;
+            const DiskLimits::FileLimit almostNothing(8);
             workbench.type(u"REM typed "_s);
             for (int i = 0; i < 500 && failed.isEmpty(); ++i)
                 QTest::qWait(10);
@@ -118,9 +94,10 @@ private Q_SLOTS:
         const QString data = workbench.folder.filePath(u"data"_s);
         workbench.window.closeProject(); // and with it the lock beside it
         QVERIFY(QDir(data).removeRecursively() && QDir().mkpath(data));
-        const QByteArray folder = QFile::encodeName(workbench.folder.path());
-        QCOMPARE(::chmod(folder.constData(), 0555), 0);
-        const auto again = qScopeGuard([&folder] { ::chmod(folder.constData(), 0777); });
+        const QString folder = workbench.folder.path();
+        QVERIFY(QFile::setPermissions(folder, toRead));
+        const auto again =
+            qScopeGuard([&folder] { QFile::setPermissions(folder, toRead | toWrite); });
         const WithoutRights rights(data);
         workbench.window.openProject(workbench.folder.filePath(u"one.json"_s));
         workbench.type(u"REM typed "_s);

@@ -1,6 +1,5 @@
 #include "shared/settings/RegistrySettings.h"
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -50,7 +49,28 @@ std::unique_ptr<const SettingsView> RegistrySettings::view() const
 
 bool RegistrySettings::write(const SettingChanges &changes)
 {
-    return std::ranges::all_of(changes, [this](const SettingChange &c) { return write(c); });
+    QList<Former> formers;
+    for (const SettingChange &change : changes) {
+        const QString path = pathOf(change.key);
+        formers.append({change.key, m_registry->data(path, change.key.name)});
+        if (write(change))
+            continue;
+        formers.removeLast();
+        putBack(formers);
+        return false;
+    }
+    return true;
+}
+
+void RegistrySettings::putBack(const QList<Former> &formers)
+{
+    for (auto former = formers.crbegin(); former != formers.crend(); ++former) {
+        const QString path = pathOf(former->key);
+        if (former->data)
+            m_registry->setData(path, former->key.name, *former->data);
+        else if (m_registry->data(path, former->key.name))
+            m_registry->remove(path, former->key.name);
+    }
 }
 
 bool RegistrySettings::write(const SettingChange &change)

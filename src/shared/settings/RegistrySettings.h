@@ -28,11 +28,17 @@ public:
     // A registry shows what it holds at each question.
     std::unique_ptr<const SettingsView> view() const override;
 
-    // A registry has no transactions: the values are set one by one, up to the
-    // first that is refused.
+    // A registry has no transactions: the values are set one by one, and whoever reads
+    // meanwhile sees some of them. If one is refused, those before it are put back.
     bool write(const SettingChanges &changes) override;
 
 private:
+    struct Former
+    {
+        SettingKey key;
+        std::optional<QString> data;
+    };
+    void putBack(const QList<Former> &formers);
     bool write(const SettingChange &change);
 
     std::shared_ptr<Registry> m_registry;

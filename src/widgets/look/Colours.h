@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/HouseExport.h"
 #include <ORVTListview/Colour.h>
+#include <ORVTListview/Export.h>
 
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
@@ -16,14 +16,14 @@ constexpr Colour windowText = static_cast<qint32>(0x80000008U);
 
 // System colours are looked up in the palette; an unknown number is the palette's
 // text colour. Bits 24 to 30 of other values are ignored.
-ORVT_HOUSE_EXPORT QColor toColor(Colour colour, const QPalette &palette);
+ORVT_EXPORT QColor toColor(Colour colour, const QPalette &palette);
 
 // Never negative. Transparency is dropped.
-ORVT_HOUSE_EXPORT Colour fromColor(const QColor &colour);
+ORVT_EXPORT Colour fromColor(const QColor &colour);
 
 // What the palette pairs with a background: the text colour that belongs to a
 // system colour, else black or white, whichever stands out more.
-ORVT_HOUSE_EXPORT QColor textOn(Colour background, const QPalette &palette);
+ORVT_EXPORT QColor textOn(Colour background, const QPalette &palette);
 
 } // namespace Colours
 } // namespace ORVTListview

@@ -1,6 +1,7 @@
 #include "widgets/look/PictureEngine.h"
 
 #include "widgets/look/Drawing.h"
+#include "widgets/look/SelectionLook.h"
 
 #include <QtCore/QtMath>
 #include <QtGui/QGuiApplication>
@@ -29,10 +30,13 @@ constexpr QRgb disabledTint = 0xb17c7f84;
 
 // The view that is painted on knows whether its window is active and may have a
 // palette of its own; a bare pixmap has only the application's.
-QPalette paletteOf(const QPainter *painter)
+QColor selectedInk(const QPainter *painter)
 {
     const auto *view = dynamic_cast<const QWidget *>(painter ? painter->device() : nullptr);
-    return view ? view->palette() : QGuiApplication::palette();
+    if (isSelectionLight(view))
+        return {};
+    const QPalette palette = view ? view->palette() : QGuiApplication::palette();
+    return palette.color(QPalette::HighlightedText);
 }
 
 // An invalid colour leaves the picture its own.
@@ -42,7 +46,7 @@ QColor tintFor(QIcon::Mode mode, const QPainter *painter)
     case QIcon::Disabled:
         return QColor::fromRgba(disabledTint);
     case QIcon::Selected:
-        return paletteOf(painter).color(QPalette::HighlightedText);
+        return selectedInk(painter);
     case QIcon::Normal:
     case QIcon::Active:
         break;

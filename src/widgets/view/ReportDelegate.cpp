@@ -2,6 +2,7 @@
 
 #include "widgets/input/FieldMenu.h"
 #include "widgets/look/CellText.h"
+#include "widgets/look/SelectionLook.h"
 #include "widgets/view/PlainCell.h"
 
 #include <QtCore/QMetaProperty>
@@ -36,7 +37,7 @@ void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
         return;
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     const QColor colour =
-        option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+        option.palette.color(selected ? selectedTextRole(option.widget) : QPalette::Text);
     painter->save();
     painter->setPen(QPen(colour, 1, Qt::DotLine));
     painter->drawRect(option.rect.adjusted(0, 0, -1, -1));

@@ -29,9 +29,10 @@ public:
 
     bool setData(const QString &path, const QString &name, const QString &data) override
     {
-        if (isWritable)
+        const bool isTaken = isWritable && name != refused;
+        if (isTaken)
             values[{path, name}] = data;
-        return isWritable;
+        return isTaken;
     }
 
     bool remove(const QString &path, const QString &name) override
@@ -41,6 +42,7 @@ public:
 
     std::map<Name, QString> values;
     bool isWritable = true;
+    QString refused; // the name of one value
 };
 
 QString terminated(const QString &text)
@@ -125,6 +127,20 @@ TEST_F(RegistrySettingsTest, WhatTheMachineRefusesTheUserKeepsAndReadsFirst)
     write(u"3"_s);
     EXPECT_EQ(machine->values[code], terminated(u"3"_s));
     EXPECT_TRUE(user->values.empty());
+    EXPECT_EQ(read(), u"3"_s);
+}
+
+TEST_F(RegistrySettingsTest, OfATransactionThatIsRefusedNothingStays)
+{
+    write(u"1"_s);
+    machine->refused = u"Logs"_s;
+    SettingsTransaction transaction;
+    write(u"3"_s);
+    WriteSetting(u"Quillbox"_s, u"New"_s, u"5"_s);
+    WriteSetting(u"Quillbox"_s, u"Logs"_s, u"4"_s);
+    transaction.commit();
+    EXPECT_EQ(machine->values, (std::map<FakeHive::Name, QString>{{code, terminated(u"1"_s)}}));
+    EXPECT_EQ(user->values.size(), 3U);
     EXPECT_EQ(read(), u"3"_s);
 }
 

@@ -1,12 +1,11 @@
 #include "shared/settings/SettingsFile.h"
 
 #include "base/FileLock.h"
+#include "support/DiskLimits.h"
 #include "support/QtPrinters.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
-
-#include <sys/stat.h>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -160,7 +159,7 @@ TEST_F(SettingsFileTest, AFolderInItsPlaceIsLeftAlone)
 
 TEST_F(SettingsFileTest, APipeInItsPlaceIsNotWaitedFor)
 {
-    ASSERT_EQ(::mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+    ASSERT_TRUE(DiskLimits::makePipe(path()));
     EXPECT_EQ(value(), u"none"_s);
     EXPECT_FALSE(write(u"3"_s));
     EXPECT_EQ(folder.names(), QStringList(u"s"_s));
