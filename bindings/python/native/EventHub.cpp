@@ -53,10 +53,10 @@ void EventHub::Invoke(qint32 Number, QVariantList &Arguments)
     const auto lent = std::make_shared<char>();
     const PythonObject handed(handedOver(event, Arguments, Life::during(lent)));
     const PythonObject number(PyLong_FromLong(Number));
-    const PythonObject done(handed && number
-                                ? PyObject_CallFunctionObjArgs(receiver.get(), number.get(),
-                                                               handed.get(), nullptr)
-                                : nullptr);
+    const PythonObject done(
+        handed && number
+            ? PyObject_CallFunctionObjArgs(receiver.get(), number.get(), handed.get(), nullptr)
+            : nullptr);
     if (!done)
         PyErr_WriteUnraisable(receiver.get());
     if (handed)
@@ -75,8 +75,7 @@ PyObject *EventHub::handedOver(const Event &event, const QVariantList &arguments
     for (qsizetype i = 0; list && i < event.arguments.size(); ++i) {
         const MemberArgument &argument = event.arguments.at(i);
         const Life kept = isLent(argument.type) ? life : Life::asLongAs(&m_source);
-        PythonObject value(
-            Conversion::toPython(argument.type, arguments.at(i).constData(), kept));
+        PythonObject value(Conversion::toPython(argument.type, arguments.at(i).constData(), kept));
         if (value && argument.direction != ArgumentDirection::In)
             value = PythonObject(ReferenceObject::make(argument.type, value.get()));
         if (!value)

@@ -9,7 +9,7 @@ namespace {
 
 struct Layout
 {
-    PyObject_HEAD
+    PyObject object;
     QVariant *held;
     Life *life;
 };

@@ -30,7 +30,8 @@ QList<MemberArgument> argumentsOf(const Member &member, bool isPut)
 
 } // namespace
 
-MemberPlan::MemberPlan(QMetaType ownerType, const MemberTable &table, const Member &member, bool isPut)
+MemberPlan::MemberPlan(QMetaType ownerType, const MemberTable &table, const Member &member,
+                       bool isPut)
     : owner(ownerType)
     , name(wholeName(table, member))
     , arguments(argumentsOf(member, isPut))

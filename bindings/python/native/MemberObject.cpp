@@ -15,7 +15,7 @@ namespace {
 
 struct Layout
 {
-    PyObject_HEAD
+    PyObject object;
     vectorcallfunc called;
     MemberPlan *plan;
     PyObject *text;

@@ -33,8 +33,8 @@ QJsonArray namespaceEnumerations()
         for (int k = 0; k < each.keyCount(); ++k)
             values.append(QJsonObject{{u"name"_s, QString::fromLatin1(each.key(k))},
                                       {u"value"_s, each.value(k)}});
-        all.append(QJsonObject{{u"name"_s, QString::fromLatin1(each.name())},
-                               {u"values"_s, values}});
+        all.append(
+            QJsonObject{{u"name"_s, QString::fromLatin1(each.name())}, {u"values"_s, values}});
     }
     return all;
 }
@@ -68,9 +68,8 @@ PyObject *registerClass(PyObject *, PyObject *arguments)
     PyObject *known = nullptr;
     if (!PyArg_ParseTuple(arguments, "OO", &name, &known))
         return nullptr;
-    const QMetaType type = PyLong_Check(name)
-                               ? typeOfClass(static_cast<int>(PyLong_AsLong(name)))
-                               : QMetaType::fromName(PyUnicode_AsUTF8(name));
+    const QMetaType type = PyLong_Check(name) ? typeOfClass(static_cast<int>(PyLong_AsLong(name)))
+                                              : QMetaType::fromName(PyUnicode_AsUTF8(name));
     if (!type.isValid())
         return PyErr_Format(PyExc_LookupError, "No type %R", name);
     TypeRegistry::add(type, known);
@@ -163,7 +162,8 @@ PyObject *unhear(PyObject *, PyObject *arguments)
         return nullptr;
     for (QObject *child : source->children()) {
         auto *const hub = dynamic_cast<EventHub *>(child);
-        if (hub && hub->hearsAll() && PyObject_RichCompareBool(hub->receiver(), receiver, Py_EQ) == 1)
+        if (hub && hub->hearsAll() &&
+            PyObject_RichCompareBool(hub->receiver(), receiver, Py_EQ) == 1)
             hub->deleteLater(), unadvise(QVariant::fromValue(source), hub);
     }
     Py_RETURN_NONE;
@@ -209,8 +209,7 @@ PyObject *follow(PyObject *, PyObject *arguments)
     if (!target)
         return nullptr;
     const QByteArray raised = QByteArray("2") + name + "()"; // as SIGNAL() has it
-    QObject::connect(source, raised.constData(), target, raised.constData(),
-                     Qt::UniqueConnection);
+    QObject::connect(source, raised.constData(), target, raised.constData(), Qt::UniqueConnection);
     Py_RETURN_NONE;
 }
 

@@ -35,8 +35,8 @@ std::optional<Point> PythonPoints::Find(const QString &Key) const
 std::optional<Point> PythonPoints::asked(const char *member, PyObject *argument) const
 {
     const PythonObject given(argument);
-    const PythonObject result(
-        given ? PyObject_CallMethod(m_object, member, "O", given.get()) : nullptr);
+    const PythonObject result(given ? PyObject_CallMethod(m_object, member, "O", given.get())
+                                    : nullptr);
     if (result.get() == Py_None)
         return std::nullopt;
     Point point;

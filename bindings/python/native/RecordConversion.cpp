@@ -116,8 +116,7 @@ Result association(PyObject *object, QVariant &value)
 template <typename Iterable>
 bool isSeenAs(QMetaType type)
 {
-    const bool isList =
-        type.id() == QMetaType::QStringList || type.id() == QMetaType::QVariantList;
+    const bool isList = type.id() == QMetaType::QStringList || type.id() == QMetaType::QVariantList;
     return (isList || type.id() >= QMetaType::User) &&
            QMetaType::canView(type, QMetaType::fromType<Iterable>());
 }

@@ -26,8 +26,8 @@ QSet<const QObject *> &watched()
 void setDeleted(PyObject *wrapper)
 {
     const PythonObject module(PyImport_ImportModule("PyQt6.sip"));
-    const PythonObject done(
-        module ? PyObject_CallMethod(module.get(), "setdeleted", "O", wrapper) : nullptr);
+    const PythonObject done(module ? PyObject_CallMethod(module.get(), "setdeleted", "O", wrapper)
+                                   : nullptr);
     if (!done)
         PyErr_WriteUnraisable(wrapper);
 }

@@ -4,9 +4,9 @@
 #include "widgets/list/ReportListEvents.h"
 #include "widgets/list/ReportListFixture.h"
 
-#include <QtCore/QRandomGenerator>
 #include <QtCore/QMimeData>
 #include <QtCore/QPointer>
+#include <QtCore/QRandomGenerator>
 #include <QtCore/QSet>
 #include <QtGui/QDragEnterEvent>
 #include <QtTest/QSignalSpy>
