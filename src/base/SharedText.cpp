@@ -5,6 +5,7 @@
 #include <span>
 
 namespace ORVTListview {
+
 SharedText::SharedText(const QString &text)
 {
     append({text, 0, text.size()});
