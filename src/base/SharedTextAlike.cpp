@@ -1,6 +1,6 @@
 // What two texts have in common.
 
-#include "base/SharedTextWalk.h"
+#include "base/SharedText.h"
 #include "base/TextSearch.h"
 
 #include <algorithm>

@@ -1,6 +1,5 @@
 #include "editor/StepSource.h"
 
-#include "base/SharedTextWalk.h"
 #include "widgets/box/BoxText.h"
 
 #include <algorithm>
@@ -15,7 +14,8 @@ qsizetype StepSource::lineEnd(int line) const
 bool StepSource::hasWord(int line) const
 {
     const QString shown = text().mid(lineStart(line), lineEnd(line) - lineStart(line));
-    return std::any_of(shown.cbegin(), shown.cend(), [](QChar c) { return c != u' ' && c != u'\t'; });
+    return std::any_of(shown.cbegin(), shown.cend(),
+                       [](QChar c) { return c != u' ' && c != u'\t'; });
 }
 
 const SharedText &ShownSource::text() const
@@ -57,8 +57,8 @@ FormerSource::FormerSource(const SharedText &former, const BoxText &box,
             break;
         }
         const qint32 start = box.lineStart(range->first);
-        const qint32 end = box.lineStart(range->last) +
-                           static_cast<qint32>(box.lineText(range->last).size());
+        const qint32 end =
+            box.lineStart(range->last) + static_cast<qint32>(box.lineText(range->last).size());
         m_text = m_text.replaced(lineStart(first), lineEnd(last) - lineStart(first),
                                  box.range(start, end - start));
     }

@@ -71,7 +71,7 @@ struct SteppingHost : OpeningHost
     // What the text that the ring is at looks like, set as a whole.
     void compareWithTheRing()
     {
-        finish();
+        colours().giveAll();
         const QString text = splitUndoRecord(ring().FetchUndoSnapshot(ring().UndoCurrent())).text;
         const EditorThread thread = EditorThread::current();
         RichTextBox other;
@@ -361,11 +361,11 @@ private Q_SLOTS:
         const unsigned seed = randomSeed(7);
         std::mt19937 random(seed);
         const auto below = [&](unsigned count) { return static_cast<int>(random() % count); };
-        const QStringList words{u"temp1 "_s, u"if "_s,    u"x"_s,       u"\n"_s,
+        const QStringList words{u"temp1 "_s, u"if "_s,     u"x"_s,        u"\n"_s,
                                 u"rem "_s,   u"(fan1) "_s, u"end\tif "_s, u"\n \n"_s};
         SteppingHost host;
         host.open(colouredProgram());
-        for (int step = 0; step < randomSteps(120); ++step) {
+        for (int step = 0; step < randomSteps(80); ++step) {
             const int what = below(16);
             const bool isStep =
                 what < 4 ? host.list->IsUndoAvailable() : what < 7 && host.list->IsRedoAvailable();
@@ -377,9 +377,11 @@ private Q_SLOTS:
                 host.key(Qt::Key_Backspace);
             else if (what == 8)
                 host.rest();
+            else if (what == 9)
+                host.pass();
             else
                 host.typeAt(below(8) * 10 + below(3), words[below(8)]);
-            if (isStep)
+            if (isStep && below(2) == 0)
                 host.compareWithTheRing();
         }
     }

@@ -34,10 +34,7 @@ private:
     }
 
     // As it is said, without its access key and what tells that a dialog opens.
-    static QString bare(QString text)
-    {
-        return text.remove(u'&').remove(u'…').trimmed();
-    }
+    static QString bare(QString text) { return text.remove(u'&').remove(u'…').trimmed(); }
 
     static QStringList placeholders(const QString &text)
     {

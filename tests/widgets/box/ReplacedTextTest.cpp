@@ -8,6 +8,7 @@
 
 #include <QtCore/QPointer>
 #include <QtGui/QTextDocument>
+#include <QtTest/QSignalSpy>
 
 #include <functional>
 #include <optional>
