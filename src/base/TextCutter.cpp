@@ -31,7 +31,7 @@ bool TextCutter::holds(qsizetype start, qsizetype length) const
 
 void TextCutter::begin(qsizetype start)
 {
-    const QStringView part = m_text.sliced(start).first(std::min(blockLength, m_text.size() - start));
+    const QStringView part = m_text.sliced(start, std::min(blockLength, m_text.size() - start));
     m_block = QString(part.size() + 1, Qt::Uninitialized);
     m_units = m_block.data();
     std::copy(part.begin(), part.end(), m_units);

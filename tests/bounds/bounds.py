@@ -3,6 +3,7 @@
 
     bounds.py work PROBE VALGRIND     twice the input: at most 2.6 times the instructions
     bounds.py memory PROBE            at most 64 MB and 40 times the input
+    bounds.py box PROBE               at most half as much again as the toolkit's document
 
 Prints the figures of each operation and fails when one is above its bound."""
 
@@ -16,6 +17,7 @@ UNITS = 5_000
 MOST_WORK = 2.6
 MOST_MEMORY = 40  # times the input
 BIG = 2_500_000  # beyond where a table that doubles has just grown
+MOST_OF_A_BOX = 1.5  # times what the toolkit's document takes for the same text
 ALWAYS = 64 * 1024  # kilobytes, whatever the input
 PART = re.compile(r"^desc: Trigger: Client Request: (.*)=(\d+)$", re.MULTILINE)
 TOTAL = re.compile(r"^(?:totals|summary): (\d+)", re.MULTILINE)
@@ -65,13 +67,29 @@ def memory(probe):
     return wrong
 
 
+def box(probe):
+    wrong = []
+    largest = 0
+    for name in operations(probe):
+        ours, document = (int(subprocess.run(
+            [probe, whose, name], check=True, capture_output=True).stdout)
+            for whose in ("ours", "document"))
+        times = ours / document
+        largest = max(largest, times)
+        print(f"{name:36} {ours // 1024:5} MB, {times:5.2f} times a document of the toolkit")
+        if times > MOST_OF_A_BOX:
+            wrong.append(f"a box takes {ours // 1024} MB for {name}")
+    print(f"Figure: a box takes at most {largest:.2f} times a document of the toolkit")
+    return wrong
+
+
 def operations(probe):
     return subprocess.run(
         [probe, "names"], check=True, capture_output=True, text=True).stdout.splitlines()
 
 
 def main():
-    task = {"work": work, "memory": memory}[sys.argv[1]]
+    task = {"work": work, "memory": memory, "box": box}[sys.argv[1]]
     wrong = task(*sys.argv[2:])
     for line in wrong:
         print(line)
