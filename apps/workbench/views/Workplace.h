@@ -74,7 +74,6 @@ private:
     void setCurrent(ViewDock *dock);
     void noteClosed(ViewDock *dock);
     void chooseTab(QDockWidget *dock);
-    void shareRoom(const ViewDock &dropped);
 
     QList<ViewDock *> m_docks;
     QList<ViewDock *> m_used; // the current one first
