@@ -22,7 +22,8 @@ struct WorkingDay : WorkbenchWindow
     WorkingDay()
     {
         writeFile(project(), R"({"format": 1, "name": "day", "program": "day.prog",
- "inputs": [{"name": "Temp1", "value": 19.4}], "outputs": [{"name": "Fan1"}]})");
+ "inputs": [{"name": "Temp1", "value": 19.4}, {"name": "Temp2", "value": 22.1}],
+ "outputs": [{"name": "Fan1"}]})");
         writeFile(program(), "IF Temp1 > 20\r\n\tFan1 = ON\r\nENDIF\r\n");
         window.openProject(project());
     }
@@ -37,7 +38,11 @@ struct WorkingDay : WorkbenchWindow
         return *shown().findChild<ReportList *>(u"ListView1"_s);
     }
     QString firstName() { return shown().ListItems()->Item(1)->SubItem(1); }
-    QString valueOfFirst() { return shown().ListItems()->Item(1)->SubItem(3); }
+    QStringList values()
+    {
+        ListItems &rows = *shown().ListItems();
+        return {rows.Item(1)->SubItem(3), rows.Item(2)->SubItem(3)};
+    }
 
     void rename(const QString &name)
     {
@@ -76,9 +81,9 @@ private Q_SLOTS:
         QVERIFY(places.wasThere());
         QVERIFY(day.code().CodeText().contains(u"IF RoomTemp > 20"_s));
 
-        const QString unread = day.valueOfFirst();
+        const QStringList unread = day.values();
         day.choose(u"Read Values"_s);
-        QTRY_VERIFY(day.valueOfFirst() != unread);
+        QTRY_VERIFY(day.values() != unread);
 
         ReportList &list = day.inputs();
         QTest::keyClick(&list, Qt::Key_Z, Qt::ControlModifier);

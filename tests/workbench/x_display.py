@@ -15,7 +15,7 @@ class Failed(Exception):
     """The session did not go as it must; the text says how."""
 
 
-def wait_until(condition, what, seconds=20.0):
+def wait_until(condition, what, seconds=40.0):
     """The first true value of condition(); raises Failed after the given time."""
     deadline = time.monotonic() + seconds
     while True:

@@ -1,6 +1,7 @@
 #include "workbench/views/Workplace.h"
 
 #include "workbench/views/DockTitle.h"
+#include "workbench/views/DroppedDock.h"
 #include "workbench/views/ViewDock.h"
 #include "workbench/views/ViewTabs.h"
 
@@ -68,7 +69,7 @@ void Workplace::add(ViewDock &dock, ViewDock *other)
     connect(&dock, &QDockWidget::topLevelChanged, this, soon);
     connect(&dock, &QDockWidget::topLevelChanged, &dock, [this, &dock](bool isFloating) {
         if (!isFloating)
-            QTimer::singleShot(0ms, &dock, [this, &dock] { shareRoom(dock); });
+            QTimer::singleShot(0ms, &dock, [this, &dock] { shareRoom(dock, shown(), *this); });
     });
     connect(&dock, &QDockWidget::dockLocationChanged, this, soon);
     connect(&dock, &ViewDock::opened, this, [this, &dock] {
@@ -161,31 +162,6 @@ void Workplace::splitCurrent(Qt::Orientation orientation)
         enter(*dock);
     else
         show(*dock);
-}
-
-// What is dropped leaves its neighbours next to nothing.
-void Workplace::shareRoom(const ViewDock &dropped)
-{
-    if (!dropped.isSeen() || dropped.isFloating())
-        return;
-    const QRect place = dropped.geometry();
-    QList<QDockWidget *> row;
-    QList<QDockWidget *> column;
-    for (ViewDock *dock : shown()) {
-        if (!dock->isSeen() || dock->isFloating())
-            continue;
-        const QRect other = dock->geometry();
-        if (other.top() <= place.bottom() && place.top() <= other.bottom())
-            row.append(dock);
-        if (other.left() <= place.right() && place.left() <= other.right())
-            column.append(dock);
-    }
-    if (row.size() > 1)
-        resizeDocks(row, QList<int>(row.size(), width() / static_cast<int>(row.size())),
-                    Qt::Horizontal);
-    if (column.size() > 1)
-        resizeDocks(column, QList<int>(column.size(), height() / static_cast<int>(column.size())),
-                    Qt::Vertical);
 }
 
 void Workplace::floatCurrent()

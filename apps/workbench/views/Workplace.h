@@ -75,7 +75,6 @@ private:
     void putBack(ViewDock &dock);
     void noteClosed(ViewDock *dock);
     void chooseTab(QDockWidget *dock);
-    void shareRoom(const ViewDock &dropped);
 
     QList<ViewDock *> m_docks;
     QList<ViewDock *> m_used; // the current one first

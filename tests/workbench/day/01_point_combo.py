@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Looking into the point combo inserts nothing; a choice does, by a step that can be undone."""
 
-from day import PROGRAM, expect, expect_true, run, scene
+from day import PROGRAM, expect, expect_true
+from stage import run, scene
 
 
 def combo_of(day):

@@ -2,7 +2,8 @@
 """Cut and Paste of the menu are those of the keys; access keys and names of commands are
 the same in all menus."""
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
+from day import expect_soon, expect_true
+from stage import run, scene
 
 CONTEXT = {"Undo", "Redo", "Cut", "Copy", "Paste", "Select All"}
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """A name that cannot be one is refused with a sentence, and what was typed stays."""
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
-from x_display import wait_until
+from day import PROGRAM, expect, expect_soon, expect_true
+from stage import run, scene
 
 
 def edit(day, table, name):

@@ -4,7 +4,8 @@ removing and changing points can be undone likewise."""
 
 import json
 
-from day import PROGRAM, expect, expect_true, run, scene
+from day import PROGRAM, expect, expect_true
+from stage import run, scene
 
 RENAMED = PROGRAM.replace("SupplyTemp", "AirTemp")
 

@@ -3,7 +3,8 @@
 
 import os
 
-from day import expect, expect_soon, expect_true, run, scene
+from day import expect, expect_soon
+from stage import run, scene
 
 ODD = (b"\xef\xbb\xbfREM  written  elsewhere\t\r\n"
        b"if SupplyTemp>SupplyMin\r\n"

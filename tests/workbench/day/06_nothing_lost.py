@@ -6,7 +6,8 @@ import random
 import resource
 import time
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
+from day import PROGRAM, expect, expect_soon, expect_true
+from stage import run, scene
 from x_display import wait_until
 
 TYPED = "REM typed last\n"

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """A broken or missing project leaves the window open, with the reason and what can be done."""
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
+from day import PROGRAM, expect, expect_soon, expect_true
+from stage import run, scene
 
 
 def texts(day):

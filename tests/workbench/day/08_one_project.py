@@ -4,7 +4,8 @@ and a file whose form has a number."""
 
 import json
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
+from day import PROGRAM, expect, expect_soon
+from stage import run, scene
 
 
 @scene

@@ -2,8 +2,9 @@
 """Program and tables side by side by keys and by dragging; the arrangement is there again
 after the next start; rows drag into the program as names."""
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
+from day import PROGRAM, expect, expect_true
 from screen_reader import Gone
+from stage import run, scene
 from x_display import wait_until
 
 

@@ -2,8 +2,9 @@
 """Problems are found as one types and listed, and the list moves with the text; F8 walks
 through them; to the point of a name and back, all its uses, and what the mouse is told."""
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
+from day import PROGRAM, expect_soon, expect_true
 from screen_reader import Gone
+from stage import run, scene
 from x_display import wait_until
 
 PROBLEMS = {

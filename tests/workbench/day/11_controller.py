@@ -2,7 +2,8 @@
 """The simulated controller is slow, fails and answers wrongly as it is told to; reading,
 its end and its faults are seen; cyclic reading keeps values fresh, and a trend is drawn."""
 
-from day import expect, expect_soon, expect_true, run, scene
+from day import expect, expect_soon, expect_true
+from stage import run, scene
 from x_display import wait_until
 
 

@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Compile lists the statements with their lines, which can be exported; errors are problems."""
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
+from day import PROGRAM, expect_soon, expect_true
+from stage import run, scene
+
 
 @scene
 def statements_are_listed(day):

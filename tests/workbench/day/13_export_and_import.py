@@ -4,7 +4,8 @@ in from a text after a preview."""
 
 import json
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
+from day import PROGRAM, expect, expect_soon, expect_true
+from stage import run, scene
 
 PAPER = "800080"  # a colour that no theme has by itself
 EDITOR = {"inputColour": "#" + PAPER, "backColour": "#ffffff"}

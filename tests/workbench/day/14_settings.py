@@ -2,7 +2,8 @@
 """Settings show what they do before they hold; theme and language change at run time and
 are there at the next start."""
 
-from day import expect, expect_soon, expect_true, run, scene
+from day import expect, expect_soon, expect_true
+from stage import run, scene
 from x_display import wait_until
 
 

@@ -2,8 +2,9 @@
 """Everything by keyboard: panes, kinds of points, splits, results; a list of keys, About and
 the first steps; commands are enabled by what is possible; the status bar tells the truth."""
 
-from day import PROGRAM, expect, expect_soon, expect_true, run, scene
+from day import PROGRAM, expect, expect_soon, expect_true
 from screen_reader import Gone
+from stage import run, scene
 from x_display import wait_until
 
 

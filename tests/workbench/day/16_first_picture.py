@@ -2,8 +2,9 @@
 """The first picture is there at once, a long program comes with progress and Cancel, and
 may be typed in before it is finished."""
 
-from day import PROGRAM, expect, expect_true, run, scene
+from day import PROGRAM, expect, expect_true
 from screen_reader import Gone
+from stage import run, scene
 from x_display import wait_until
 
 LONG = PROGRAM * (10_000_000 // len(PROGRAM))

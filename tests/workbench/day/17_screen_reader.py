@@ -2,8 +2,9 @@
 """What a screen reader finds has role, name and state in every window; results and problems
 are announced; after every dialog and list the focus is where it was."""
 
-from day import PROGRAM, expect, expect_true, run, scene
+from day import PROGRAM, expect, expect_true
 from screen_reader import Gone
+from stage import run, scene
 from x_display import wait_until
 
 NAMED = {"push button", "check box", "radio button", "text", "spin box", "combo box", "table",

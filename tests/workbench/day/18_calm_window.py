@@ -2,7 +2,8 @@
 """The window bears any size, scale and language: nothing is cut, no English word is left in
 a German window."""
 
-from day import POINTS, expect, expect_true, run, scene
+from day import POINTS, expect
+from stage import run, scene
 from x_display import wait_until
 
 # Words that are the same in both, and what is the user's own.

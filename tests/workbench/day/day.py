@@ -1,27 +1,19 @@
-"""What the tests of the working day have in common: a display, a project, the workbench,
-and what its user does and sees.
+"""What the tests of the working day have in common: a project, the workbench, and what its
+user does and sees."""
 
-A test is a list of scenes. Each has a home of its own and ends with a workbench that
-lives, or has ended as it was told to."""
-
-import argparse
 import contextlib
 import json
-import os
 import pathlib
 import shutil
 import sys
-import tempfile
-import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent.parent))
 
 # pylint: disable=wrong-import-position
-from screen_reader import Gone, ScreenReader, missing_screen_reader
+from screen_reader import Gone
 from workbench import Workbench
-from x_display import Display, Failed, missing_tools, wait_until
+from x_display import Failed, wait_until
 
-SKIPPED = 77
 POINTS = {
     "inputs": [
         {"name": "SupplyTemp", "mode": "Auto", "value": 19.4, "units": "°C",
@@ -289,44 +281,3 @@ class Day:
 
     def expect_code(self, text):
         expect_soon(lambda: self.code.text, text, "the program")
-
-
-SCENES = []
-
-
-def scene(function):
-    SCENES.append(function)
-    return function
-
-
-def run():
-    parser = argparse.ArgumentParser()
-    for name in ("--workbench", "--sample", "--pictures"):
-        parser.add_argument(name, required=True)
-    parser.add_argument("--only", help="a scene")
-    arguments = parser.parse_args()
-    missing = missing_tools() + missing_screen_reader()
-    if missing:
-        print("Skipped, for this is not installed: " + ", ".join(missing))
-        sys.exit(SKIPPED)
-    for act in SCENES:
-        if arguments.only in (None, act.__name__):
-            _play(act, arguments)
-
-
-def _play(act, arguments):
-    started = time.monotonic()
-    with Display(1300, 950) as display, tempfile.TemporaryDirectory(prefix="day") as folder:
-        reader = ScreenReader(display)
-        day = Day(arguments, display, reader, folder)
-        try:
-            act(day)
-            if day.bench:
-                expect_true(day.bench.process.poll() in (None, 0, -9), "the workbench is sound")
-        except Failed as failure:
-            os.makedirs(arguments.pictures, exist_ok=True)
-            picture = os.path.join(arguments.pictures, act.__name__ + ".png")
-            display.write_picture(picture)
-            print(f"{act.__name__}: {failure}\nThe screen then: {picture}", file=sys.stderr)
-            sys.exit(1)
-    print(f"{act.__name__}: passed in {time.monotonic() - started:.1f} s")
