@@ -68,7 +68,7 @@ set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
     "${this_library}, python3 (>= 3.11), python3 (<< 3.12), python3-pyqt6 (>= 6.4), python3-pyqt6.sip")
 set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "pyqt6-dev-tools, orvtlistview-designer, orvtlistview-doc")
-describe(PYTHON "for Python, beside PyQt6")
+describe(PYTHON "for Python, beside PyQt6 (GPL or commercial licence)")
 
 # What Debian asks of every package.
 configure_file(packaging/changelog.in ${PROJECT_BINARY_DIR}/packaging/changelog @ONLY)

@@ -38,6 +38,12 @@ QString singleLine(const QString &property)
     return u"<stringpropertyspecification name=\"%1\" type=\"singleline\"/>"_s.arg(property);
 }
 
+// What the property editor tells of a property.
+QString toolTip(const QString &property, const QString &text)
+{
+    return u"<tooltip name=\"%1\">%2</tooltip>"_s.arg(property, text);
+}
+
 ComponentDescription listView()
 {
     return {.className = u"ORVListView"_s,
@@ -48,7 +54,13 @@ ComponentDescription listView()
             .whatsThis = u"ListviewType chooses what is shown: the points of one type, each "
                          "type with its own columns, or for dsCode the code editor."_s,
             .size = QSize(480, 300),
-            .properties = singleLine(u"Caption"_s),
+            .properties =
+                singleLine(u"Caption"_s) +
+                toolTip(u"ListviewType"_s, u"What is shown: the points of one type with their "
+                                           "columns, or for dsCode the code editor"_s) +
+                toolTip(u"Caption"_s, u"The text above; without one the name of the type"_s) +
+                toolTip(u"Enabled"_s, u"Whether users can work with it"_s) +
+                toolTip(u"MultiSelect"_s, u"Whether users can select several rows"_s),
             .create = &createList};
 }
 
@@ -76,7 +88,11 @@ ComponentDescription dataCombo()
             .whatsThis = u"The host fills it with FillDataListview; users find a point by "
                          "typing a part of its name."_s,
             .size = QSize(180, 28),
-            .properties = singleLine(u"Text"_s),
+            .properties = singleLine(u"Text"_s) +
+                          toolTip(u"Text"_s, u"What the field shows at first"_s) +
+                          toolTip(u"Enabled"_s, u"Whether users can work with it"_s) +
+                          toolTip(u"dragsEntry"_s,
+                                  u"Whether users can drag the picture of the selected point"_s),
             .create = &create<ORVDataCombo>};
 }
 

@@ -5,4 +5,5 @@ pluginType = MODULE  # noqa: F821 - the loader gives it
 
 
 def moduleInformation():
-    return "orvtlistview", ("ORVTListview",)
+    components = ("ORVListView", "ORVTreeview", "ORVDataCombo", "ORVRichText")
+    return "orvtlistview", ("ORVTListview", *(f"ORVTListview.{name}" for name in components))

@@ -17,6 +17,7 @@
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
+#include <QtDesigner/QDesignerPropertyEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>
 #include <QtDesigner/QFormBuilder>
@@ -24,6 +25,7 @@
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiTools/QUiLoader>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QTreeView>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -103,6 +105,21 @@ public:
         window.cursor()->setWidgetProperty(window.findChild<QWidget *>(widget), property, value);
     }
 
+    // What the property editor tells of a property; empty for one that it does not show.
+    QString toolTip(QDesignerFormWindowInterface &window, const QString &widget,
+                    const QString &property)
+    {
+        m_core->propertyEditor()->setObject(window.findChild<QWidget *>(widget));
+        for (const QTreeView *tree : m_window.findChildren<QTreeView *>()) {
+            const QModelIndexList found = tree->model()->match(
+                tree->model()->index(0, 0), Qt::DisplayRole, property, 1,
+                Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
+            if (!found.isEmpty())
+                return found.constFirst().data(Qt::ToolTipRole).toString();
+        }
+        return {};
+    }
+
     // With all that a form keeps of the four components changed.
     QString changedForm()
     {
@@ -165,6 +182,7 @@ private Q_SLOTS:
     void putsEachComponentOnAForm_data() { describesEachComponent_data(); }
     void putsEachComponentOnAForm();
     void showsTheDesignTimeProperties();
+    void tellsOfEachProperty();
     void namesTheTypesInAList();
     void designerSavesAndReloadsAForm();
     void designerNamesTheHeaders();
@@ -252,6 +270,21 @@ void DesignerPluginTest::showsTheDesignTimeProperties()
     designable.sort();
     QCOMPARE(designable,
              QStringList({u"Caption"_s, u"Enabled"_s, u"ListviewType"_s, u"MultiSelect"_s}));
+}
+
+void DesignerPluginTest::tellsOfEachProperty()
+{
+    Designer designer;
+    const auto window = designer.opened(plainForm);
+    const QList<std::pair<QString, QStringList>> properties{
+        {u"listView"_s, {u"ListviewType"_s, u"Caption"_s, u"Enabled"_s, u"MultiSelect"_s}},
+        {u"dataCombo"_s, {u"Text"_s, u"Enabled"_s, u"dragsEntry"_s}}};
+    for (const auto &[widget, names] : properties) {
+        for (const QString &name : names) {
+            const QString told = designer.toolTip(*window, widget, name);
+            QVERIFY2(told.contains(u' '), qPrintable(widget + u'.' + name + u": " + told));
+        }
+    }
 }
 
 void DesignerPluginTest::namesTheTypesInAList()

@@ -20,6 +20,9 @@ PACKAGES = {
     "orvtlistview-workbench": r"usr/share/applications/.*\.desktop",
     "orvtlistview-doc": r"usr/share/doc/.*/html/index\.html",
 }
+PYTHON = {
+    "python3-orvtlistview": r"usr/lib/python3/dist-packages/orvtlistview/_native\..*\.so",
+}
 
 
 def run(*command, **options):
@@ -50,7 +53,7 @@ def check_content(name, package):
 def check_dependencies(packages, version):
     library = f"liborvtlistview1 (= {version})"
     for name in ("liborvtlistview-dev", "orvtlistview-designer", "orvtlistview-tools",
-                 "orvtlistview-workbench"):
+                 "orvtlistview-workbench", *PYTHON.keys() & packages.keys()):
         if library not in field(packages[name], "Depends"):
             sys.exit(f"{name} does not depend on {library}")
     needed = {
@@ -58,8 +61,11 @@ def check_dependencies(packages, version):
         "orvtlistview-designer": ("libqt6core6",),
         "orvtlistview-tools": ("libqt6core6",),
         "liborvtlistview-dev": ("qt6-base-dev",),
+        "python3-orvtlistview": ("python3-pyqt6", "python3-pyqt6.sip", "libqt6widgets6"),
     }
     for name, others in needed.items():
+        if name not in packages:
+            continue
         depends = re.split(r"[ ,(]+", field(packages[name], "Depends"))
         for other in others:
             if other not in depends:
@@ -104,7 +110,10 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--build", type=pathlib.Path, required=True)
     parser.add_argument("--version", required=True)
+    parser.add_argument("--python", action="store_true", help="its package is made, too")
     arguments = parser.parse_args()
+    if arguments.python:
+        PACKAGES.update(PYTHON)
     skip_without_tools()
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)

@@ -8,14 +8,6 @@ namespace SipBridge {
 
 namespace {
 
-const sipTypeDef *typeNamed(const char *name)
-{
-    const sipTypeDef *type = sipFindType(name);
-    if (!type)
-        PyErr_Format(PyExc_TypeError, "%s is not known to the toolkit's bindings", name);
-    return type;
-}
-
 QSet<const QObject *> &watched()
 {
     static QSet<const QObject *> objects;
@@ -68,12 +60,9 @@ QObject *toObject(PyObject *object)
     return failed ? nullptr : static_cast<QObject *>(address);
 }
 
-PyObject *fromValue(const char *type, const void *value)
+PyObject *fromVariant(const QVariant &value)
 {
-    const sipTypeDef *known = typeNamed(type);
-    if (!known)
-        return nullptr;
-    return sipConvertFromNewType(QMetaType::fromName(type).create(value), known, nullptr);
+    return sipConvertFromNewType(new QVariant(value), sipType_QVariant, nullptr);
 }
 
 bool toVariant(PyObject *object, QVariant &value)

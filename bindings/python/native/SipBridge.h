@@ -14,9 +14,9 @@ PyObject *fromObject(QObject *object);
 // Null for None, and with an error of Python's for what is no such object or is gone.
 QObject *toObject(PyObject *object);
 
-// A value of a class that the toolkit's bindings know, by its name in C++: a new
-// reference, null with an error of Python's for others.
-PyObject *fromValue(const char *type, const void *value);
+// Any value, as the toolkit's bindings convert a variant: a new reference, null with an
+// error of Python's for what they do not know.
+PyObject *fromVariant(const QVariant &value);
 
 // Any value that the toolkit's bindings take for a variant. False with an error of
 // Python's for others.

@@ -83,7 +83,7 @@ PyObject *fromToolkit(QMetaType type, const void *variable)
         return qt ? PyObject_CallMethod(qt.get(), "AlignmentFlag", "i", at<int>(variable))
                   : nullptr;
     }
-    return SipBridge::fromValue(type.name(), variable);
+    return SipBridge::fromVariant(QVariant(type, variable));
 }
 
 PyObject *fromOther(QMetaType type, const void *variable, const Life &life)

@@ -19,3 +19,11 @@ ORVTListview = _as_in_forms(_made)
 
 __all__ = ["Error", "ErrorNumber", "ORVTListview", "Reference", "advise", "callLate", "members",
            "raiseEvent", "unadvise", *_made]
+
+
+def __getattr__(name):
+    """The loader of forms asks for classes with the library's namespace before them."""
+    scope, _, own = name.rpartition(".")
+    if scope == "ORVTListview" and own in _made:
+        return _made[own]
+    raise AttributeError(f"module {__name__!r} has no attribute {name!r}")

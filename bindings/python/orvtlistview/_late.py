@@ -1,6 +1,28 @@
 """Members by name and events by number, for what knows neither before it runs."""
 
+import inspect
+import weakref
+
 from . import _native
+
+
+class _Sink:
+    """A method of an object, which it does not keep: an object that hears of its own
+    component would else never go."""
+
+    def __init__(self, method):
+        self._method = weakref.WeakMethod(method)
+
+    def __call__(self, number, arguments):
+        if method := self._method():
+            method(number, arguments)
+
+    def __eq__(self, other):
+        return self._method() == other
+
+
+def _held(sink):
+    return _Sink(sink) if inspect.ismethod(sink) else sink
 
 
 class _Late:
@@ -34,9 +56,9 @@ def callLate(owner, name, *arguments):
 
 def advise(owner, sink):
     """Has sink(number, arguments) called for every event of the object. What the event
-    takes back is a Reference."""
+    takes back is a Reference. A method is called as long as its object lives."""
     members(owner)
-    _native.hear(owner, sink, True)
+    _native.hear(owner, _held(sink), True)
 
 
 def raiseEvent(owner, name, *arguments):

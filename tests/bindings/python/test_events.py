@@ -2,6 +2,7 @@
 back."""
 
 import json
+import sys
 
 import pytest
 from conftest import MEMBERS_JSON
@@ -173,6 +174,19 @@ def test_an_exception_in_a_receiver_goes_to_the_hook(table, raised):
     assert orvtlistview.raiseEvent(table, "BeforeLabelEdit", 0) == [1]
     assert [type(each) for each in raised] == [ValueError]
     assert len(heard) == 1
+
+
+def test_an_exception_in_a_sink_is_reported_and_passed_over(table, monkeypatch):
+    seen = []
+    monkeypatch.setattr(sys, "unraisablehook", lambda told: seen.append(told.exc_type))
+
+    def fail(number, arguments):
+        arguments[0].value = 1
+        raise ValueError("in a sink")
+
+    orvtlistview.advise(table, fail)
+    assert orvtlistview.raiseEvent(table, "BeforeLabelEdit", 0) == [1]
+    assert seen == [ValueError]
 
 
 def test_a_receiver_that_is_gone_is_left_out(table):

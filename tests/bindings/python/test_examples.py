@@ -50,5 +50,26 @@ def test_example(name):
         assert line in told
 
 
+def test_a_compiled_form():
+    program = f"""
+from io import StringIO
+from PyQt6 import uic
+from PyQt6.QtWidgets import QApplication, QWidget
+uic.widgetPluginPath.append({os.environ["ORVT_FORM_PLUGINS"]!r})
+made = StringIO()
+uic.compileUi({str(SOURCE / "examples/form/form.ui")!r}, made)
+names = {{}}
+exec(made.getvalue(), names)
+application = QApplication([])
+window, form = QWidget(), names["Ui_Form"]()
+form.setupUi(window)
+print(form.listView.Caption, form.listView.ListviewType.name, form.dataCombo.Text)
+"""
+    environment = {**os.environ, "PYTHONPATH": os.environ["ORVT_PYTHON_PATH"]}
+    done = subprocess.run([sys.executable, "-c", program], text=True, env=environment,
+                          capture_output=True, timeout=120)
+    assert done.stdout == "Valves and pumps dsOutput SupplyTemp\n", done.stderr
+
+
 def test_every_example_is_run():
     assert {each.stem for each in EXAMPLES.glob("*.py")} == set(EXPECTED)

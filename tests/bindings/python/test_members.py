@@ -155,6 +155,9 @@ def test_any_value_is_a_tag(tree):
     for value in (3, "text", 2.5, True, None, [1, "a"], {"a": 1}):
         node.Tag = value
         assert node.Tag == value
+    own = object()
+    node.Tag = own
+    assert node.Tag is own
 
 
 def test_nodes(tree):

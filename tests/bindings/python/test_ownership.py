@@ -57,6 +57,34 @@ def test_a_component_with_receivers_is_no_cycle():
     assert lives() is None
 
 
+def test_a_host_that_hears_of_its_own_component_is_no_cycle():
+    class Host:
+        def __init__(self):
+            self.table = orvtlistview.ORVListView()
+            self.heard = []
+            orvtlistview.advise(self.table, self.hear)
+            self.table.BeforeLabelEdit.connect(self.refuse)
+
+        def hear(self, number, arguments):
+            self.heard.append(number)
+
+        def refuse(self, cancel):
+            self.heard.append(cancel)
+
+    host = Host()
+    orvtlistview.raiseEvent(host.table, "Click")
+    assert host.heard == [3]
+    orvtlistview.unadvise(host.table, host.hear)
+    orvtlistview.raiseEvent(host.table, "Click")
+    assert host.heard == [3]
+    orvtlistview.advise(host.table, host.hear)
+    lives, table = weakref.ref(host), host.table
+    del host
+    gc.collect()
+    assert lives() is None
+    orvtlistview.raiseEvent(table, "Click")
+
+
 def test_what_was_handed_out_raises_once_its_keeper_is_gone():
     table = orvtlistview.ORVListView()
     row = table.Add(Text="row")
