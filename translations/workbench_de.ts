@@ -891,6 +891,21 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::NewPointDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Table:</source>
+        <translation>&amp;Tabelle:</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::NewProjectDialog</name>
     <message>
         <source>New Project</source>
@@ -925,8 +940,8 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
         <translation>Dieser Name hat Zeichen, die ein Name nicht haben kann.</translation>
     </message>
     <message>
-        <source>There is no such folder.</source>
-        <translation>Diesen Ordner gibt es nicht.</translation>
+        <source>This cannot be a folder.</source>
+        <translation>Das kann kein Ordner sein.</translation>
     </message>
     <message>
         <source>%1 will be made.</source>
@@ -1083,10 +1098,6 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
     <message>
         <source>Add Point</source>
         <translation>Punkt hinzufügen</translation>
-    </message>
-    <message>
-        <source>Name of the new point:</source>
-        <translation>Name des neuen Punkts:</translation>
     </message>
     <message>
         <source>The table is full.</source>
@@ -1918,6 +1929,10 @@ Speichern?</translation>
 </context>
 <context>
     <name>ProjectTexts</name>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; is no colour (&quot;#rrggbb&quot; or a system colour)</source>
         <translation>„%1“ ist keine Farbe („#rrggbb“ oder eine Systemfarbe)</translation>

@@ -891,6 +891,21 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::NewPointDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Table:</source>
+        <translation>&amp;Tabla:</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Añadir</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::NewProjectDialog</name>
     <message>
         <source>New Project</source>
@@ -925,8 +940,8 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
         <translation>Este nombre tiene caracteres que un nombre no puede tener.</translation>
     </message>
     <message>
-        <source>There is no such folder.</source>
-        <translation>Esa carpeta no existe.</translation>
+        <source>This cannot be a folder.</source>
+        <translation>Esto no puede ser una carpeta.</translation>
     </message>
     <message>
         <source>%1 will be made.</source>
@@ -1083,10 +1098,6 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
     <message>
         <source>Add Point</source>
         <translation>Añadir punto</translation>
-    </message>
-    <message>
-        <source>Name of the new point:</source>
-        <translation>Nombre del nuevo punto:</translation>
     </message>
     <message>
         <source>The table is full.</source>
@@ -1918,6 +1929,10 @@ Save them?</source>
 </context>
 <context>
     <name>ProjectTexts</name>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>La carpeta %1 no se puede crear.</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; is no colour (&quot;#rrggbb&quot; or a system colour)</source>
         <translation>«%1» no es un color («#rrggbb» o un color del sistema)</translation>

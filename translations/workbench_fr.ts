@@ -891,6 +891,21 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::NewPointDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Table:</source>
+        <translation>&amp;Tableau&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::NewProjectDialog</name>
     <message>
         <source>New Project</source>
@@ -925,8 +940,8 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
         <translation>Ce nom contient des caractères qu’un nom ne peut pas avoir.</translation>
     </message>
     <message>
-        <source>There is no such folder.</source>
-        <translation>Ce dossier n’existe pas.</translation>
+        <source>This cannot be a folder.</source>
+        <translation>Cela ne peut pas être un dossier.</translation>
     </message>
     <message>
         <source>%1 will be made.</source>
@@ -1083,10 +1098,6 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     <message>
         <source>Add Point</source>
         <translation>Ajouter un point</translation>
-    </message>
-    <message>
-        <source>Name of the new point:</source>
-        <translation>Nom du nouveau point&#xa0;:</translation>
     </message>
     <message>
         <source>The table is full.</source>
@@ -1918,6 +1929,10 @@ Les enregistrer&#xa0;?</translation>
 </context>
 <context>
     <name>ProjectTexts</name>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Le dossier %1 ne peut pas être créé.</translation>
+    </message>
     <message>
         <source>&quot;%1&quot; is no colour (&quot;#rrggbb&quot; or a system colour)</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une couleur («&#xa0;#rrggbb&#xa0;» ou une couleur du système)</translation>
