@@ -221,6 +221,18 @@ private Q_SLOTS:
             menu->close();
         }
     }
+
+    void tablesKeepTheNamesOfTheirTypes()
+    {
+        ProgramTree two;
+        two.tree().setSelectedItem(two.tree().Nodes()->Item(u"Inputs"_s));
+        two.nodes().setFocus();
+        two.press(Qt::Key_F2);
+        QVERIFY(!two.nodes().findChild<QLineEdit *>());
+        two.select(2);
+        two.press(Qt::Key_F2);
+        QVERIFY(two.nodes().findChild<QLineEdit *>());
+    }
 };
 
 ORVT_TEST(ProgramTreeTest)

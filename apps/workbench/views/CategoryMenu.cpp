@@ -33,6 +33,12 @@ CategoryMenu::CategoryMenu(ProjectView &view, ProgramNaming &naming)
         if (key == EnterKey && shift == 0)
             enterNode(m_view.tree().SelectedItem());
     });
+    // The tables have the names of their types.
+    connect(&tree, &ORVTreeview::BeforeLabelEdit, this, [&tree](qint16 &cancel) {
+        const Node *node = tree.SelectedItem();
+        if (ProgramNodes::programOf(node) == 0 && typeOf(node))
+            cancel = 1;
+    });
     const ProgramNodes &programs = view.programNodes();
     connect(&programs, &ProgramNodes::renameWanted, &naming, &ProgramNaming::renameTo);
     connect(&programs, &ProgramNodes::moveWanted, &naming, &ProgramNaming::move);
