@@ -113,7 +113,7 @@ void PointRenaming::append(LwType type, const QString &name)
     ProjectRow row;
     row.name = name;
     row.cells.resize(projectColumns(type).size());
-    append(type, row);
+    putBehind(type, row);
 }
 
 void PointRenaming::duplicate(LwType type, qsizetype row)
@@ -131,11 +131,11 @@ void PointRenaming::duplicate(LwType type, qsizetype row)
             return;
         copy.name = point->name;
     }
-    append(type, copy);
+    putBehind(type, copy);
 }
 
-// Behind the last.
-void PointRenaming::append(LwType type, ProjectRow row)
+// As the last one of its table.
+void PointRenaming::putBehind(LwType type, ProjectRow row)
 {
     if (!m_document.project() || projectColumns(type).isEmpty())
         return;

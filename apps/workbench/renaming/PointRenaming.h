@@ -42,7 +42,7 @@ Q_SIGNALS:
     void added(ORVTListview::LwType type, qsizetype row);
 
 private:
-    void append(LwType type, ProjectRow row);
+    void putBehind(LwType type, ProjectRow row);
 
     ProjectDocument &m_document;
     const ProgramViews &m_programs;
