@@ -98,13 +98,13 @@ QMap<qint32, QString> Project::placesBeside(const QString &fileName) const
     const auto add = [&](qint32 id, const QStringList &replaceable) {
         const QFileInfo own(programFile(id));
         places.insert(id, freeName(fileName, own, [&](const QString &name) {
-            const QString place = programPath(fileName, name);
-            if (places.values().contains(name) || isOneFile(place, fileName))
-                return false;
-            if (isOneFile(place, own.filePath()))
-                return isSamePlace;
-            return !QFileInfo::exists(place) || replaceable.contains(name);
-        }));
+                          const QString place = programPath(fileName, name);
+                          if (places.values().contains(name) || isOneFile(place, fileName))
+                              return false;
+                          if (isOneFile(place, own.filePath()))
+                              return isSamePlace;
+                          return !QFileInfo::exists(place) || replaceable.contains(name);
+                      }));
     };
     for (const ProjectProgram &program : programs())
         add(program.id, replaced);
