@@ -13,6 +13,8 @@ namespace ORVTListview {
 ActionPage::ActionPage(QWidget *parent)
     : QScrollArea(parent)
     , m_body(new QVBoxLayout)
+    , m_title(new QLabel)
+    , m_text(new QLabel)
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
@@ -26,21 +28,20 @@ ActionPage::ActionPage(QWidget *parent)
     layout->addLayout(m_body);
     layout->addStretch(2);
     setWidget(page);
-    m_title = addText();
-    m_text = addText();
+    add(*m_title);
+    add(*m_text);
     m_text->hide();
     enlargeTitle();
 }
 
-QLabel *ActionPage::addText()
+// Letter for letter; the Tab key goes from button to button.
+void ActionPage::add(QLabel &label)
 {
-    auto *label = new QLabel(widget());
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    label->setFocusPolicy(Qt::ClickFocus); // the Tab key goes from button to button
-    m_body->addWidget(label);
-    return label;
+    label.setTextFormat(Qt::PlainText);
+    label.setWordWrap(true);
+    label.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label.setFocusPolicy(Qt::ClickFocus);
+    m_body->addWidget(&label);
 }
 
 void ActionPage::enlargeTitle()
@@ -78,8 +79,9 @@ QPushButton *ActionPage::addButton()
 ActionPage::Step ActionPage::addStep()
 {
     m_body->addSpacing(fontMetrics().height() / 2);
-    const Step step{new QPushButton(widget()), addText()};
-    m_body->insertWidget(m_body->count() - 1, step.button, 0, Qt::AlignLeft);
+    const Step step{new QPushButton(widget()), new QLabel(widget())};
+    m_body->addWidget(step.button, 0, Qt::AlignLeft);
+    add(*step.text);
     m_steps.append(step);
     m_preferred = m_preferred ? m_preferred : step.button;
     return step;

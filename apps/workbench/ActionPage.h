@@ -48,13 +48,13 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    QLabel *addText();
+    void add(QLabel &label);
     void enlargeTitle();
     void alignSteps();
 
     QVBoxLayout *m_body;
-    QLabel *m_title = nullptr;
-    QLabel *m_text = nullptr;
+    QLabel *m_title;
+    QLabel *m_text;
     QHBoxLayout *m_row = nullptr; // of the buttons that are in one
     QList<Step> m_steps;
     QPushButton *m_preferred = nullptr;

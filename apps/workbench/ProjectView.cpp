@@ -18,6 +18,7 @@
 #include <QtCore/QMimeData>
 #include <QtWidgets/QTreeView>
 
+#include <algorithm>
 #include <utility>
 
 namespace ORVTListview {
@@ -34,9 +35,9 @@ ProjectView::ProjectView(ProjectDocument &document, QWidget *parent)
 {
     setChildrenCollapsible(false);
     setStretchFactor(1, 1);
-    const int treeWidth = fontMetrics().averageCharWidth() * 42;
-    setSizes({treeWidth, 5 * treeWidth});
     m_tree->InitStrings();
+    const int width = treeWidth();
+    setSizes({width, 5 * width});
     connect(m_tree, &ORVTreeview::NodeClick, this, &ProjectView::followTree);
     connect(m_workplace, &Workplace::currentChanged, this, &ProjectView::followViews);
     connect(m_workplace, &Workplace::entered, this, [this](const ViewDock *dock) {
@@ -45,6 +46,15 @@ ProjectView::ProjectView(ProjectDocument &document, QWidget *parent)
     });
     nameParts();
     m_workplace->show(dockOf(dsCode));
+}
+
+// The categories are wholly seen in any language.
+int ProjectView::treeWidth() const
+{
+    const int usual = fontMetrics().averageCharWidth() * 42;
+    const QAbstractItemView *nodes = m_tree->findChild<QTreeView *>();
+    const int room = fontMetrics().averageCharWidth() * 3;
+    return std::max(usual, nodes->sizeHintForColumn(0) + room);
 }
 
 ORVListView &ProjectView::program() const

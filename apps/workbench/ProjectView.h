@@ -72,6 +72,7 @@ Q_SIGNALS:
     void trendWanted(ORVTListview::LwType type);
 
 private:
+    int treeWidth() const;
     ViewDock &dockOf(LwType type) const;
     void followTree(const Node *node);
     void look(ViewDock &dock);

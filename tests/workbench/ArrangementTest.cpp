@@ -310,6 +310,21 @@ private Q_SLOTS:
         QVERIFY(!views.dock(dsCode).isHidden());
     }
 
+    void theCategoriesAreWhollySeen()
+    {
+        for (const QLocale &language : Languages::available()) {
+            Languages languages(language);
+            MainWindow window(languages);
+            window.show();
+            QCoreApplication::processEvents();
+            const auto *tree = window.findChild<ORVTreeview *>();
+            const auto *nodes = tree->findChild<QTreeView *>();
+            const QAbstractItemView *view = nodes;
+            QVERIFY2(nodes->viewport()->width() >= view->sizeHintForColumn(0),
+                     qPrintable(language.name()));
+        }
+    }
+
     void aLanguageIsSpokenByTabsAndTitles()
     {
         Views views;
