@@ -14,7 +14,7 @@ namespace {
 constexpr QFile::Permissions readOnly = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
 constexpr QFile::Permissions searchable =
     readOnly | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
-constexpr QFile::Permissions open =
+constexpr QFile::Permissions openToAll =
     searchable | QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
 
 // A process for which the system's folder is "etc" and the user's is "home". It
@@ -27,13 +27,13 @@ protected:
         QDir(folder.path({})).mkpath(u"etc"_s);
         QDir(folder.path({})).mkpath(u"home"_s);
         for (const QString &name : {u""_s, u"etc"_s, u"home"_s})
-            allow(name, open);
+            allow(name, openToAll);
     }
 
     ~SettingsPlacesTest() override
     {
-        allow(u"etc/Morvane Systems Inc"_s, open);
-        allow(u"home"_s, open);
+        allow(u"etc/Morvane Systems Inc"_s, openToAll);
+        allow(u"home"_s, openToAll);
     }
 
     void allow(const QString &name, QFile::Permissions permissions) const
@@ -104,7 +104,7 @@ TEST_F(SettingsPlacesTest, AUserWithoutRightsGetsAFileOfTheirOwn)
 TEST_F(SettingsPlacesTest, AReadOnlyFileIsNotReplacedThoughItsFolderWouldLetIt)
 {
     installReadOnly();
-    allow(u"etc/Morvane Systems Inc"_s, open);
+    allow(u"etc/Morvane Systems Inc"_s, openToAll);
     const QByteArray before = folder.content(machineFile);
     EXPECT_EQ(run(writeCode + readBoth), QStringList({u"2"_s, u"1"_s}));
     EXPECT_EQ(folder.content(machineFile), before);
@@ -143,7 +143,7 @@ TEST_F(SettingsPlacesTest, SoDoesOneWithTwoNames)
     ASSERT_TRUE(QDir(folder.path({})).mkpath(u"home/Morvane Systems Inc"_s));
     std::filesystem::create_hard_link(QFileInfo(folder.path(machineFile)).filesystemFilePath(),
                                       QFileInfo(folder.path(userFile)).filesystemFilePath());
-    allow(u"home/Morvane Systems Inc"_s, open);
+    allow(u"home/Morvane Systems Inc"_s, openToAll);
     EXPECT_EQ(run(readBoth), QStringList({u"2"_s, u""_s}));
     run({u"arrange"_s, u"5"_s});
     EXPECT_EQ(run(readBoth), QStringList({u"5"_s, u"5"_s}));
@@ -153,8 +153,8 @@ TEST_F(SettingsPlacesTest, WithRightsAgainTheMachinesFileIsUsedAgain)
 {
     installReadOnly();
     run({u"arrange"_s, u"5"_s});
-    allow(u"etc/Morvane Systems Inc"_s, open);
-    allow(machineFile, open);
+    allow(u"etc/Morvane Systems Inc"_s, openToAll);
+    allow(machineFile, openToAll);
     EXPECT_EQ(run(readBoth), QStringList({u"5"_s, u"5"_s}));
     EXPECT_EQ(run({u"arrange"_s, u"6"_s}), QStringList());
     EXPECT_EQ(run(readBoth), QStringList({u"6"_s, u"6"_s}));
@@ -181,7 +181,7 @@ TEST_F(SettingsPlacesTest, AnUnreadableFileOfOnesOwnIsKeptBeside)
         EXPECT_EQ(run(readBoth), QStringList({u"1"_s, u"1"_s}));
         EXPECT_EQ(run({u"write"_s, u"Quillbox"_s, u"Code"_s, u"3"_s}), QStringList());
         EXPECT_EQ(run(readBoth), QStringList({u"3"_s, u"1"_s}));
-        allow(kept, open);
+        allow(kept, openToAll);
         EXPECT_EQ(folder.content(kept), before);
         EXPECT_TRUE(QFile::remove(folder.path(kept)));
     }
@@ -198,7 +198,7 @@ TEST_F(SettingsPlacesTest, WhereNothingMayBeWrittenNothingHappens)
 TEST_F(SettingsPlacesTest, AFolderInPlaceOfTheMachinesFileCostsNobodyAnything)
 {
     ASSERT_TRUE(QDir(folder.path({})).mkpath(machineFile));
-    allow(u"etc/Morvane Systems Inc"_s, open);
+    allow(u"etc/Morvane Systems Inc"_s, openToAll);
     EXPECT_EQ(run(writeCode + readBoth), QStringList({u"2"_s, u""_s}));
     EXPECT_TRUE(folder.content(userFile).contains("Code=2"));
     EXPECT_EQ(folder.names(machineFile), QStringList());
