@@ -276,14 +276,18 @@ void DesignerPluginTest::tellsOfEachProperty()
 {
     Designer designer;
     const auto window = designer.opened(plainForm);
-    const QList<std::pair<QString, QStringList>> properties{
-        {u"listView"_s, {u"ListviewType"_s, u"Caption"_s, u"Enabled"_s, u"MultiSelect"_s}},
-        {u"dataCombo"_s, {u"Text"_s, u"Enabled"_s, u"dragsEntry"_s}}};
-    for (const auto &[widget, names] : properties) {
-        for (const QString &name : names) {
-            const QString told = designer.toolTip(*window, widget, name);
-            QVERIFY2(told.contains(u' '), qPrintable(widget + u'.' + name + u": " + told));
-        }
+    const QList<QStringList> properties{
+        {u"listView"_s, u"ListviewType"_s, u"points of one type"_s},
+        {u"listView"_s, u"Caption"_s, u"name of the type"_s},
+        {u"listView"_s, u"Enabled"_s, u"users can work"_s},
+        {u"listView"_s, u"MultiSelect"_s, u"several rows"_s},
+        {u"dataCombo"_s, u"Text"_s, u"at first"_s},
+        {u"dataCombo"_s, u"Enabled"_s, u"users can work"_s},
+        {u"dataCombo"_s, u"dragsEntry"_s, u"drag the picture"_s},
+    };
+    for (const QStringList &each : properties) {
+        const QString told = designer.toolTip(*window, each.at(0), each.at(1));
+        QVERIFY2(told.contains(each.at(2)), qPrintable(each.at(1) + u": "_s + told));
     }
 }
 

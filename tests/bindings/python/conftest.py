@@ -27,12 +27,14 @@ def application():
     yield QApplication.instance() or QApplication([])
 
 
-@pytest.fixture
+@pytest.fixture(autouse=True)
 def raised(monkeypatch):
-    """The exceptions that receivers let go, which else would end the program."""
+    """The exceptions that receivers let go, which else would end the program. A test that
+    expects them takes them out."""
     seen = []
     monkeypatch.setattr(sys, "excepthook", lambda kind, value, trace: seen.append(value))
-    return seen
+    yield seen
+    assert not seen
 
 
 @pytest.fixture

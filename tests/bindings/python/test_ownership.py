@@ -1,7 +1,6 @@
 """Parents own; what was handed out is good or raises, and never crashes."""
 
 import gc
-import random
 import threading
 import time
 import weakref
@@ -13,7 +12,7 @@ from PyQt6.QtGui import QDragEnterEvent, QDragMoveEvent
 from PyQt6.QtWidgets import QApplication, QWidget
 
 import orvtlistview
-from orvtlistview import Error, ErrorNumber, LwType, Point, PointCollection, PointList
+from orvtlistview import Error, ErrorNumber, LwType
 
 
 def gone(call):
@@ -151,58 +150,6 @@ def test_data_of_a_drag_is_good_during_the_event():
     gone(lambda: kept[0].GetFormat(1))
 
 
-def test_lists_of_points_are_kept_by_what_they_were_given_to():
-    tree = orvtlistview.ORVTreeview()
-    tree.setDesignMode(True)
-    inputs = PointList()
-    inputs.Add("A")
-    tree.SetCollectionRenamable(None, None, None, inputs, None, None)
-    del inputs
-    gc.collect()
-    combo = orvtlistview.ORVDataCombo()
-    combo.FillDataListview(LwType.dsInput, None)
-    assert combo.ListCount == 1
-    tree.SetCollectionRenamable(None, None, None, PointList(), None, None)
-    combo.FillDataListview(LwType.dsInput, None)
-    assert combo.ListCount == 0
-    sip.delete(tree)
-    del tree
-    gc.collect()
-    combo.FillDataListview(LwType.dsInput, None)
-
-
-class Ten(PointCollection):
-    """A host's own points."""
-
-    def __init__(self, fails=False):
-        super().__init__()
-        self.fails = fails
-
-    def Count(self):
-        if self.fails:
-            raise Error(77, "Ten.Count", "No connection")
-        return 10
-
-    def Item(self, index):
-        return Point(f"P{index}", index) if 1 <= index <= 10 else None
-
-    def Find(self, key):
-        return next((self.Item(i) for i in range(1, 11) if f"P{i}" == key), None)
-
-
-def test_points_of_a_class_of_python():
-    tree = orvtlistview.ORVTreeview()
-    tree.setDesignMode(True)
-    own = Ten()
-    tree.SetCollectionRenamable(None, None, None, own, None, None)
-    combo = orvtlistview.ORVDataCombo()
-    assert combo.FillDataListview(LwType.dsInput, None) == ""
-    assert combo.ListCount == 10
-    own.fails = True
-    assert "No connection" in combo.FillDataListview(LwType.dsInput, None)
-    assert combo.ListCount == 10
-
-
 def test_what_is_handed_out_only_is_not_made():
     for name in ("ListItem", "Node", "Nodes", "DataObject", "ColumnHeaders"):
         with pytest.raises(TypeError):
@@ -267,70 +214,3 @@ def test_a_class_whose_constructor_calls_no_base():
 
     with pytest.raises(RuntimeError):
         Wrong().Caption
-
-
-KINDS = (orvtlistview.ORVListView, orvtlistview.ORVTreeview, orvtlistview.ORVDataCombo,
-         orvtlistview.ORVRichText, orvtlistview.ReportList, orvtlistview.RichTextBox, PointList,
-         orvtlistview.HoverAnswer)
-
-
-def handed(thing, chance):
-    """Something that it hands out, often held for longer than it lives."""
-    if isinstance(thing, orvtlistview.ORVListView):
-        return chance.choice((thing.ListItems, thing.codeView, thing.listView.grid, thing.Add(),
-                              thing.ColumnHerders, thing.RTextBox, thing.GetImage))
-    if isinstance(thing, orvtlistview.ORVTreeview):
-        return chance.choice((thing.Nodes, thing.Nodes.Item(1), thing.GetLWTypeKeyCollection()))
-    if isinstance(thing, orvtlistview.ReportList):
-        return chance.choice((thing.Add(), thing.grid, thing.ColumnHeaders))
-    return thing
-
-
-def touch(thing):
-    """Whatever it is, it answers or raises."""
-    for name in ("Text", "Count", "zoom", "rowsShown", "Caption", "isAlive"):
-        try:
-            getattr(thing, name, None)
-        except (Error, RuntimeError):
-            pass
-
-
-def drop(thing, chance):
-    if isinstance(thing, QWidget) and not sip.isdeleted(thing):
-        way = chance.randrange(3)
-        if way == 0:
-            sip.delete(thing)
-        elif way == 1:
-            thing.deleteLater()
-
-
-def test_a_thousand_creations_and_deletions():
-    chance = random.Random(17)
-    living, parents, held = [], [], []
-    for step in range(1000):
-        kind = chance.choice(KINDS)
-        if issubclass(kind, QWidget) and chance.random() < 0.5:
-            parents.append(QWidget())
-            thing = kind(parents[-1])
-        else:
-            thing = kind()
-        if isinstance(thing, orvtlistview.ORVTreeview):
-            thing.setDesignMode(True)
-        if chance.random() < 0.3 and hasattr(thing, "KeyDown"):
-            thing.KeyDown.connect(lambda code, shift: None)
-        living.append(thing)
-        held.append(handed(thing, chance))
-        if chance.random() < 0.9:
-            drop(living.pop(chance.randrange(len(living))), chance)
-        if parents and chance.random() < 0.4:
-            sip.delete(parents.pop(chance.randrange(len(parents))))
-        for each in chance.sample(held, min(3, len(held))):
-            touch(each)
-        if step % 50 == 0:
-            QApplication.processEvents()
-            gc.collect()
-    living.clear()
-    parents.clear()
-    gc.collect()
-    for each in held:
-        touch(each)
