@@ -25,9 +25,10 @@ STATES = {
     10: "expanded", 11: "focusable", 12: "focused", 16: "modal", 23: "selected",
     24: "sensitive", 25: "showing", 30: "visible", 41: "checkable", 43: "read-only"}
 
-# What has many children, and what these are: looked into only for them.
-LISTS = ("table", "tree", "list")
-LISTED = ("cell", "column header", "list item", "tree item", "text")
+# What has many children, by what these are: looked into only for them.
+LISTS = {"cell": {"table"}, "column header": {"table", "tree"}, "list item": {"list"},
+         "tree item": {"tree"}}
+ALL_LISTS = {"table", "tree", "list"}
 
 
 def missing_screen_reader():
@@ -230,7 +231,7 @@ class Element:
 
     def find_all(self, role, name=None):
         found = []
-        for element in self.walk(not_into=() if role in LISTED else LISTS):
+        for element in self.walk(not_into=ALL_LISTS - LISTS.get(role, set())):
             try:
                 if element.role == role and (name is None or element.name == name):
                     found.append(element)

@@ -70,6 +70,7 @@ class Day:
         self.reader = reader
         self.bench = None
         self._arguments = arguments
+        self._window = None
         home = self.folder / "home"
         home.mkdir()
         display.environment.update(
@@ -97,6 +98,7 @@ class Day:
     # The workbench
 
     def start(self, *arguments, title="Plant — Workbench"):
+        self._window = None
         self.bench = Workbench(
             self.display, self._arguments.workbench, *map(str, arguments))
         if title:
@@ -125,13 +127,16 @@ class Day:
     @property
     def window(self):
         """The workbench's own window."""
-        def with_menus():
-            for window in self.windows:
-                with contextlib.suppress(Gone):
-                    if any(child.role == "menu bar" for child in window.children):
-                        return window
-            return None
-        return wait_until(with_menus, "the window")
+        if not self._window or not self._window.is_showing():
+            self._window = wait_until(self._find_window, "the window")
+        return self._window
+
+    def _find_window(self):
+        for window in self.windows:
+            with contextlib.suppress(Gone):
+                if any(child.role == "menu bar" for child in window.children):
+                    return window
+        return None
 
     @property
     def code(self):
