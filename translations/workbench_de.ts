@@ -633,8 +633,16 @@
         <translation>Eine Lüftungsanlage mit ihrem Programm und allen zwölf Tabellen. Ändern Sie, was Sie möchten: Gespeichert wird nur, wenn Sie es sagen.</translation>
     </message>
     <message>
-        <source>A project is a file in JSON with its program beside it. File, New Project begins one of your own.</source>
-        <translation>Ein Projekt ist eine JSON-Datei mit ihrem Programm daneben. Ein eigenes beginnt „Datei, Neues Projekt“.</translation>
+        <source>New Project…</source>
+        <translation>Neues Projekt…</translation>
+    </message>
+    <message>
+        <source>One of your own: a name and a folder are all that it takes.</source>
+        <translation>Ein eigenes: Ein Name und ein Ordner genügen.</translation>
+    </message>
+    <message>
+        <source>A project is a file in JSON with its program beside it.</source>
+        <translation>Ein Projekt ist eine JSON-Datei mit ihrem Programm daneben.</translation>
     </message>
     <message>
         <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>

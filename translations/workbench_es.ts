@@ -633,8 +633,16 @@
         <translation>Una unidad de tratamiento de aire con su programa y las doce tablas. Cambie lo que quiera: nada se guarda si usted no lo dice.</translation>
     </message>
     <message>
-        <source>A project is a file in JSON with its program beside it. File, New Project begins one of your own.</source>
-        <translation>Un proyecto es un archivo JSON con su programa al lado. «Archivo, Nuevo proyecto» empieza uno propio.</translation>
+        <source>New Project…</source>
+        <translation>Nuevo proyecto…</translation>
+    </message>
+    <message>
+        <source>One of your own: a name and a folder are all that it takes.</source>
+        <translation>Uno propio: bastan un nombre y una carpeta.</translation>
+    </message>
+    <message>
+        <source>A project is a file in JSON with its program beside it.</source>
+        <translation>Un proyecto es un archivo JSON con su programa al lado.</translation>
     </message>
     <message>
         <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>

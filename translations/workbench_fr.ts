@@ -633,8 +633,16 @@
         <translation>Une centrale de traitement d’air avec son programme et ses douze tableaux. Changez ce que vous voulez&#xa0;: rien n’est enregistré sans votre ordre.</translation>
     </message>
     <message>
-        <source>A project is a file in JSON with its program beside it. File, New Project begins one of your own.</source>
-        <translation>Un projet est un fichier JSON avec son programme à côté. «&#xa0;Fichier, Nouveau projet&#xa0;» en commence un.</translation>
+        <source>New Project…</source>
+        <translation>Nouveau projet…</translation>
+    </message>
+    <message>
+        <source>One of your own: a name and a folder are all that it takes.</source>
+        <translation>Un projet à vous&#xa0;: un nom et un dossier suffisent.</translation>
+    </message>
+    <message>
+        <source>A project is a file in JSON with its program beside it.</source>
+        <translation>Un projet est un fichier JSON avec son programme à côté.</translation>
     </message>
     <message>
         <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>

@@ -47,6 +47,7 @@ void WindowPages::relay(const StartPage &page)
 void WindowPages::relay(const FirstSteps &page)
 {
     connect(&page, &FirstSteps::sampleWanted, this, &WindowPages::sampleWanted);
+    connect(&page, &FirstSteps::newWanted, this, &WindowPages::newWanted);
     connect(&page, &FirstSteps::projectWanted, this, &WindowPages::choiceWanted);
     connect(&page, &FirstSteps::keysWanted, this, &WindowPages::keysWanted);
     connect(&page, &FirstSteps::closed, this, &WindowPages::firstStepsClosed);

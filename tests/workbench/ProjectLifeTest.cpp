@@ -19,6 +19,7 @@
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 
@@ -100,6 +101,18 @@ private Q_SLOTS:
         workbench.choose(u"Save"_s);
         QCOMPARE(workbench.saved(u"new/newer/one & %2"_s), "a");
         QCOMPARE(workbench.saved(), "Fan1 = ON");
+    }
+
+    void theFirstStepsLeadToANewProject()
+    {
+        WorkbenchWindow workbench;
+        workbench.choose(u"First Steps"_s);
+        NextDialog<NewProjectDialog> dialog([](NewProjectDialog &asked) { asked.reject(); });
+        for (auto *button : workbench.window.findChildren<QPushButton *>()) {
+            if (button->text() == u"New Project…"_s && button->isVisible())
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+        QVERIFY(dialog.wasThere());
     }
 
     void noProjectIsProposedBesideTheSample()

@@ -10,12 +10,14 @@ using namespace Qt::StringLiterals;
 FirstSteps::FirstSteps(QWidget *parent)
     : ActionPage(parent)
     , m_sample(addStep())
+    , m_new(addStep())
     , m_project(addStep())
     , m_keys(addStep())
     , m_close(addStep())
 {
     setObjectName(u"FirstSteps"_s);
     connect(m_sample.button, &QPushButton::clicked, this, &FirstSteps::sampleWanted);
+    connect(m_new.button, &QPushButton::clicked, this, &FirstSteps::newWanted);
     connect(m_project.button, &QPushButton::clicked, this, &FirstSteps::projectWanted);
     connect(m_keys.button, &QPushButton::clicked, this, &FirstSteps::keysWanted);
     connect(m_close.button, &QPushButton::clicked, this, &FirstSteps::closed);
@@ -32,9 +34,10 @@ void FirstSteps::retranslate()
     setStep(m_sample, tr("Look at the Sample"),
             tr("An air handling unit with its program and all twelve tables. "
                "Change what you like: nothing is saved unless you say so."));
+    setStep(m_new, tr("New Project…"),
+            tr("One of your own: a name and a folder are all that it takes."));
     setStep(m_project, tr("Open a Project…"),
-            tr("A project is a file in JSON with its program beside it. File, New "
-               "Project begins one of your own."));
+            tr("A project is a file in JSON with its program beside it."));
     setStep(m_keys, tr("Keys"),
             tr("Everything can be done by keyboard. F1 lists all keys, F6 checks "
                "the program, F5 reads the values, Ctrl+Space lists known words."));

@@ -16,6 +16,7 @@ public:
 
 Q_SIGNALS:
     void sampleWanted();
+    void newWanted();
     void projectWanted();
     void keysWanted();
 
@@ -27,6 +28,7 @@ protected:
 
 private:
     Step m_sample;
+    Step m_new;
     Step m_project;
     Step m_keys;
     Step m_close;
