@@ -9,6 +9,7 @@
 #include "support/Raised.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QMetaProperty>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -47,8 +48,36 @@ TEST(NewProject, LeavesNoHalfWhereItFails)
 {
     const ProjectFolder folder;
     EXPECT_TRUE(raisedBy([&] { makeProject(folder.path(u"p.json"_s), u" blank"_s, form); }));
-    EXPECT_TRUE(raisedBy([&] { makeProject(folder.path(u"gone/p.json"_s), u"P"_s, form); }));
     EXPECT_EQ(QDir(folder.path({})).entryList(QDir::Files), QStringList());
+    folder.write(u"file"_s, "mine");
+    EXPECT_TRUE(raisedBy([&] { makeProject(folder.path(u"file/p.json"_s), u"P"_s, form); }));
+    EXPECT_EQ(QDir(folder.path({})).entryList(QDir::Files), QStringList(u"file"_s));
+}
+
+TEST(NewProject, MakesItsFolder)
+{
+    const ProjectFolder folder;
+    const QString file = folder.path(u"plants/north/p.json"_s);
+    EXPECT_EQ(newProjectFault(file), QString());
+    makeProject(file, u"P"_s, form);
+    EXPECT_EQ(Project(file).name(), u"P"_s);
+}
+
+// The ground is that of the system's windows, so it follows light and dark.
+TEST(NewProject, LooksAsTheSampleDoes)
+{
+    const ProjectFolder folder;
+    const QString file = folder.path(u"p.json"_s);
+    makeProject(file, u"P"_s, readFile(QStringLiteral(ORVT_NEW_PROJECT)));
+    const Project made(file);
+    const Project sample(
+        QStringLiteral(ORVT_SAMPLES_DIR "/air-handling-unit/air-handling-unit.json"));
+    const QMetaObject &members = RichTextSettings::staticMetaObject;
+    for (int i = 0; i < members.propertyCount(); ++i) {
+        const QMetaProperty member = members.property(i);
+        EXPECT_EQ(member.readOnGadget(&made.editor()), member.readOnGadget(&sample.editor()))
+            << member.name();
+    }
 }
 
 TEST(NewProject, HasANameThatFilesCanHave)

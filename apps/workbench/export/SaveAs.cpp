@@ -70,7 +70,7 @@ QString askWhereToSave(QWidget &window, const QString &title, const QStringList 
         dialog->setDirectory(folder);
     dialog->selectFile(name);
     const bool isWanted = dialog->exec() == QDialog::Accepted;
-    const QString file = dialog && isWanted ? dialog->selectedFiles().value(0) : QString();
+    QString file = dialog && isWanted ? dialog->selectedFiles().value(0) : QString();
     delete dialog;
     return file;
 }

@@ -42,7 +42,7 @@ QString freeName(const Project &project, LwType type, const QString &name)
 {
     const qsizetype row = project.rows(type).size();
     for (int number = 2; number < std::numeric_limits<qint16>::max(); ++number) {
-        const QString free = name + QString::number(number);
+        QString free = name + QString::number(number);
         if (project.nameFault(type, row, free).isEmpty())
             return free;
     }
