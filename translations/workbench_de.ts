@@ -902,7 +902,7 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
     <name>ORVTListview::NewPointDialog</name>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Name:</translation>
+        <translation>&amp;Bezeichner:</translation>
     </message>
     <message>
         <source>&amp;Table:</source>

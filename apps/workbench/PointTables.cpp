@@ -16,6 +16,7 @@
 #include <QtCore/QItemSelectionModel>
 #include <QtCore/QPointer>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 #include <chrono>
@@ -237,14 +238,30 @@ void PointTables::showOld(const QList<ProjectRow> &rows, qint16 column)
         widen(column);
 }
 
-// A mark takes room of the value.
+// A mark takes room of the value. Columns that were all in sight stay so where the last one
+// has room to give.
 void PointTables::widen(qint16 column)
+{
+    ReportList &list = *m_list.listView();
+    const auto last = static_cast<qint16>(m_list.ColumnHerders()->Count() - 1);
+    const bool isInSight = list.horizontalScrollBar()->maximum() == 0;
+    const int room = list.columnWidth(last);
+    if (!grow(column) || column == last || !isInSight)
+        return;
+    list.grid()->fitColumn(last);
+    if (list.columnWidth(last) > room)
+        list.setColumnWidth(last, room);
+}
+
+// Says whether it has become wider.
+bool PointTables::grow(qint16 column)
 {
     ReportList &list = *m_list.listView();
     const int before = list.columnWidth(column);
     list.grid()->fitColumn(column);
     if (list.columnWidth(column) < before)
         list.setColumnWidth(column, before);
+    return list.columnWidth(column) > before;
 }
 
 // Names.

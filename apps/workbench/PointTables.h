@@ -87,6 +87,7 @@ private:
     void showBusy();
     void showOld(const QList<ProjectRow> &rows, qint16 column);
     void widen(qint16 column);
+    bool grow(qint16 column);
     void allowEditing(qint16 &cancel);
     void takeName(qint16 &cancel, const QString &name);
     void correctName(LwType type, const QString &typed);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/HouseExport.h"
-
 #include <QtCore/QString>
 #include <QtCore/QStringView>
 
@@ -10,7 +8,7 @@ namespace ORVTListview {
 // Cuts a text into many short strings, which share blocks of memory instead of having one
 // each: a block holds some thousand units and lives as long as one of its strings. Long ones
 // have their own. They are strings as any other to whoever gets them.
-class ORVT_HOUSE_EXPORT TextCutter
+class TextCutter
 {
 public:
     // The text outlives the cutter.

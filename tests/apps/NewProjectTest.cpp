@@ -9,7 +9,6 @@
 #include "support/Raised.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QMetaProperty>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -61,23 +60,6 @@ TEST(NewProject, MakesItsFolder)
     EXPECT_EQ(newProjectFault(file), QString());
     makeProject(file, u"P"_s, form);
     EXPECT_EQ(Project(file).name(), u"P"_s);
-}
-
-// The ground is that of the system's windows, so it follows light and dark.
-TEST(NewProject, LooksAsTheSampleDoes)
-{
-    const ProjectFolder folder;
-    const QString file = folder.path(u"p.json"_s);
-    makeProject(file, u"P"_s, readFile(QStringLiteral(ORVT_NEW_PROJECT)));
-    const Project made(file);
-    const Project sample(
-        QStringLiteral(ORVT_SAMPLES_DIR "/air-handling-unit/air-handling-unit.json"));
-    const QMetaObject &members = RichTextSettings::staticMetaObject;
-    for (int i = 0; i < members.propertyCount(); ++i) {
-        const QMetaProperty member = members.property(i);
-        EXPECT_EQ(member.readOnGadget(&made.editor()), member.readOnGadget(&sample.editor()))
-            << member.name();
-    }
 }
 
 TEST(NewProject, HasANameThatFilesCanHave)

@@ -18,6 +18,7 @@
 
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -290,6 +291,7 @@ private Q_SLOTS:
         points.open(u"Inputs"_s);
         const int column = points.shown().ColumnHerders()->Item(u"Value"_s)->Index() - 1;
         const int before = points.list().columnWidth(column);
+        QCOMPARE(points.list().horizontalScrollBar()->maximum(), 0);
         auto &reading = *points.window.findChild<PointReading *>();
         Project &project = *points.window.findChild<ProjectDocument *>()->project();
         const auto come = [&](const QVariant &value) {
@@ -301,6 +303,7 @@ private Q_SLOTS:
         const int wide = points.list().columnWidth(column);
         const QString shown = points.cell(1, u"Value"_s);
         QVERIFY(wide > points.list().fontMetrics().horizontalAdvance(shown));
+        QCOMPARE(points.list().horizontalScrollBar()->maximum(), 0); // all are in sight still
         come(1);
         QTRY_COMPARE(points.cell(1, u"Value"_s), u"1"_s);
         QCOMPARE(points.list().columnWidth(column), wide); // no column jumps to and fro

@@ -9,6 +9,7 @@
 #include "workbench/life/RecentMenu.h"
 #include "workbench/life/RecentProjects.h"
 #include "workbench/life/StartPage.h"
+#include "workbench/settings/ColourSets.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -93,6 +94,10 @@ private Q_SLOTS:
         QVERIFY(dialog.wasThere());
         const QString file = workbench.folder.filePath(u"new/newer/one & %2.orvt.json"_s);
         QVERIFY(QFile::exists(file));
+        const RichTextSettings colours = Project(file).editor();
+        for (const ClassColour colour : classColours)
+            QCOMPARE(colours.*colour, readyColours(ColourSet::Light).*colour);
+        QVERIFY(colours.BackColor < 0); // the system's, so it follows light and dark
         QCOMPARE(workbench.window.windowTitle(), u"one & %2[*]"_s);
         QCOMPARE(workbench.code().CodeText(), QString());
         QVERIFY(!workbench.window.isWindowModified());
