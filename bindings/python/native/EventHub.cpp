@@ -52,15 +52,16 @@ void EventHub::Invoke(qint32 Number, QVariantList &Arguments)
     const auto receiver = PythonObject::sharing(m_receiver);
     const auto lent = std::make_shared<char>();
     const PythonObject handed(handedOver(event, Arguments, Life::during(lent)));
+    const PythonObject kept(handed ? PyList_AsTuple(handed.get()) : nullptr);
     const PythonObject number(PyLong_FromLong(Number));
     const PythonObject done(
-        handed && number
+        kept && number
             ? PyObject_CallFunctionObjArgs(receiver.get(), number.get(), handed.get(), nullptr)
             : nullptr);
     if (!done)
         PyErr_WriteUnraisable(receiver.get());
-    if (handed)
-        bringBack(event, handed.get(), Arguments);
+    if (kept) // the receiver does with its list what it likes
+        bringBack(event, kept.get(), Arguments);
 }
 
 const Member *EventHub::eventOf(qint32 number) const
@@ -85,13 +86,13 @@ PyObject *EventHub::handedOver(const Event &event, const QVariantList &arguments
     return list.release();
 }
 
-void EventHub::bringBack(const Event &event, PyObject *handed, QVariantList &arguments)
+void EventHub::bringBack(const Event &event, PyObject *kept, QVariantList &arguments)
 {
     for (qsizetype i = 0; i < event.arguments.size(); ++i) {
         const MemberArgument &argument = event.arguments.at(i);
         if (argument.direction == ArgumentDirection::In)
             continue;
-        PyObject *value = ReferenceObject::value(PyList_GET_ITEM(handed, i));
+        PyObject *value = ReferenceObject::value(PyTuple_GET_ITEM(kept, i));
         Variable variable(argument.type);
         if (Conversion::fromPython(value, argument.type, variable.data()))
             arguments[i] = QVariant(argument.type, variable.data());

@@ -32,7 +32,7 @@ private:
 
     const Event *eventOf(qint32 number) const;
     PyObject *handedOver(const Event &event, const QVariantList &arguments, const Life &life);
-    static void bringBack(const Event &event, PyObject *handed, QVariantList &arguments);
+    static void bringBack(const Event &event, PyObject *kept, QVariantList &arguments);
 
     QObject &m_source;
     QList<Event> m_events;

@@ -2,6 +2,7 @@
 
 #include "native/Conversion.h"
 #include "native/Failures.h"
+#include "native/TypeRegistry.h"
 
 using namespace ORVTListview;
 
@@ -13,7 +14,8 @@ PythonPoints::PythonPoints(PyObject *object)
 qint32 PythonPoints::Count() const
 {
     const HeldLock lock;
-    const PythonObject result(PyObject_CallMethod(m_object, "Count", nullptr));
+    const PythonObject counting = own("Count");
+    const PythonObject result(counting ? PyObject_CallNoArgs(counting.get()) : nullptr);
     qint32 count = 0;
     if (!result || !Conversion::fromPython(result.get(), QMetaType::fromType<qint32>(), &count))
         Failures::raiseAgain();
@@ -32,11 +34,26 @@ std::optional<Point> PythonPoints::Find(const QString &Key) const
     return asked("Find", Conversion::text(Key));
 }
 
+// Null with an error of Python's where its class has none: that of the base would ask here
+// again, without end.
+PythonObject PythonPoints::own(const char *member) const
+{
+    PyObject *const known = TypeRegistry::classOf(QMetaType::fromType<PointCollection *>());
+    const PythonObject ofBase(PyObject_GetAttrString(known, member));
+    const PythonObject ofClass(
+        PyObject_GetAttrString(reinterpret_cast<PyObject *>(Py_TYPE(m_object)), member));
+    if (ofBase.get() != ofClass.get())
+        return PythonObject(PyObject_GetAttrString(m_object, member));
+    PyErr_Format(PyExc_NotImplementedError, "%s has no %s of its own", Py_TYPE(m_object)->tp_name,
+                 member);
+    return {};
+}
+
 std::optional<Point> PythonPoints::asked(const char *member, PyObject *argument) const
 {
     const PythonObject given(argument);
-    const PythonObject result(given ? PyObject_CallMethod(m_object, member, "O", given.get())
-                                    : nullptr);
+    const PythonObject asking = given ? own(member) : PythonObject();
+    const PythonObject result(asking ? PyObject_CallOneArg(asking.get(), given.get()) : nullptr);
     if (result.get() == Py_None)
         return std::nullopt;
     Point point;

@@ -17,6 +17,7 @@ public:
     std::optional<ORVTListview::Point> Find(const QString &Key) const override;
 
 private:
+    PythonObject own(const char *member) const;
     std::optional<ORVTListview::Point> asked(const char *member, PyObject *argument) const;
 
     PyObject *m_object; // borrowed: it is this one's owner

@@ -26,10 +26,10 @@ void setDeleted(PyObject *wrapper)
 
 void forget(QObject *object)
 {
-    watched().remove(object);
     if (!Py_IsInitialized())
         return;
     const HeldLock lock;
+    watched().remove(object);
     const auto wrapper = PythonObject::sharing(sipGetPyObject(object, sipType_QObject));
     if (wrapper)
         setDeleted(wrapper.get());

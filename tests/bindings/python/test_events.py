@@ -189,6 +189,16 @@ def test_an_exception_in_a_sink_is_reported_and_passed_over(table, monkeypatch):
     assert seen == [ValueError]
 
 
+@pytest.mark.parametrize("left", [[], [1], ["a", "b"]])
+def test_a_sink_does_with_its_list_what_it_likes(table, left):
+    def take(number, arguments):
+        arguments[0].value = 1
+        arguments[:] = left
+
+    orvtlistview.advise(table, take)
+    assert orvtlistview.raiseEvent(table, "BeforeLabelEdit", 0) == [1]
+
+
 def test_a_receiver_that_is_gone_is_left_out(table):
     class Receiver(QObject):
         heard = 0

@@ -2,6 +2,7 @@
 
 import gc
 
+import pytest
 from PyQt6 import sip
 
 import orvtlistview
@@ -58,3 +59,16 @@ def test_points_of_a_class_of_python():
     own.fails = True
     assert "No connection" in combo.FillDataListview(LwType.dsInput, None)
     assert combo.ListCount == 10
+
+
+def test_points_whose_class_lacks_a_member_say_so():
+    class Half(PointCollection):
+        def Count(self):
+            return 1
+
+    half = Half()
+    assert half.Count() == 1
+    with pytest.raises(RuntimeError, match="Half has no Item of its own"):
+        half.Item(1)
+    with pytest.raises(RuntimeError, match="PointCollection has no Count of its own"):
+        PointCollection().Count
