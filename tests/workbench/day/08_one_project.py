@@ -22,7 +22,7 @@ def a_new_project(day):
     day.wait_until_saved("Boiler")
     day.bench.type("REM new")
     day.save("Boiler")
-    project = next(day.folder.glob("**/Boiler.json"))
+    project = next(day.folder.glob("**/Boiler.orvt.json"))
     expect(json.loads(project.read_text())["name"], "Boiler", "the name in the file")
     expect(next(day.folder.glob("**/Boiler.prog")).read_text(), "REM new", "the program")
 

@@ -21,7 +21,7 @@ def statements_are_exported(day):
     for ending, first in (("txt", "1"), ("csv", "Line,Kind,Statement")):
         file = day.folder / f"list.{ending}"
         day.choose("Program", "Export Statements…")
-        day.answer_with_file("Export Statements", file)
+        day.answer_with_file("Export Statements of plant.prog", file)
         expect_soon(file.exists, True, f"the file {file.name}")
         text = file.read_text(encoding="utf-8-sig")
         expect_true(text.startswith(first), f"{file.name} begins with {first}: {text!r}")

@@ -11,10 +11,11 @@ PAPER = "800080"  # a colour that no theme has by itself
 EDITOR = {"inputColour": "#" + PAPER, "backColour": "#ffffff"}
 
 
-def export(day, name):
+def export(day, shown, name):
+    """What is shown, as the dialog's title calls it."""
     file = day.folder / name
     day.choose("File", "Export…")
-    day.answer_with_file("Export", file)
+    day.answer_with_file(f"Export {shown}", file)
     expect_soon(lambda: file.exists() and file.stat().st_size > 0, True, f"the file {name}")
     return file.read_bytes()
 
@@ -22,12 +23,12 @@ def export(day, name):
 @scene
 def programs_in_paper_colours(day):
     day.start(day.write_project(editor=EDITOR), "--dark")
-    page = export(day, "program.html").decode()
+    page = export(day, "plant.prog", "program.html").decode()
     expect_true("<pre" in page and PAPER in page.lower(), f"the page: {page}")
-    rich = export(day, "program.rtf").decode()
+    rich = export(day, "plant.prog", "program.rtf").decode()
     expect_true(rich.startswith("{\\rtf1") and "\\red128\\green0\\blue128" in rich,
                 f"the document: {rich}")
-    expect(export(day, "program.pdf")[:5], b"%PDF-", "the beginning of the PDF")
+    expect(export(day, "plant.prog", "program.pdf")[:5], b"%PDF-", "the beginning of the PDF")
 
 
 @scene
@@ -45,9 +46,9 @@ def copy_with_colours(day):
 def tables_as_text(day):
     day.start_with()
     day.go_to_table("Inputs")
-    commas = export(day, "table.csv").decode("utf-8-sig").splitlines()
+    commas = export(day, "Inputs", "table.csv").decode("utf-8-sig").splitlines()
     expect_true("SupplyTemp,Auto,19.4,°C,Supply air" in commas[1], f"a row: {commas}")
-    tabs = export(day, "table.tsv").decode("utf-8-sig").splitlines()
+    tabs = export(day, "Inputs", "table.tsv").decode("utf-8-sig").splitlines()
     expect_true("SupplyTemp\tAuto\t19.4\t°C\tSupply air" in tabs[1], f"a row: {tabs}")
 
 
