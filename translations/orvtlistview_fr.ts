@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>Find Next</source>
-        <translation>Rechercher le suivant</translation>
+        <translation>Chercher suivant</translation>
     </message>
     <message>
         <source>Close</source>
@@ -676,7 +676,7 @@
     </message>
     <message>
         <source>Find Previous</source>
-        <translation>Rechercher le précédent</translation>
+        <translation>Chercher précédent</translation>
     </message>
     <message>
         <source>%1 of %2</source>

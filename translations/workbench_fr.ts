@@ -422,11 +422,11 @@
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>Rechercher le &amp;suivant</translation>
+        <translation>Chercher &amp;suivant</translation>
     </message>
     <message>
         <source>Find Pre&amp;vious</source>
-        <translation>Rechercher le précé&amp;dent</translation>
+        <translation>Chercher précé&amp;dent</translation>
     </message>
     <message>
         <source>Ne&amp;xt Use</source>
