@@ -16,6 +16,7 @@
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QMetaEnum>
+#include <QtCore/QPointer>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
