@@ -43,7 +43,7 @@ public:
 private:
     using Range = SettledLines::Range;
 
-    // Lines of the box, and the finished ones that come in their place.
+    // Lines of the box, and the coloured ones that come in their place.
     struct Part
     {
         Range lines;

@@ -9,8 +9,9 @@ class QTextDocument;
 
 namespace ORVTListview {
 
-// Which lines of a box are known to be as finishing them leaves them, in text and colours,
-// or will be when they get their colours: those that nothing has changed since all were.
+// Which lines of a box are known to be as finishing or colouring them all leaves them, in
+// text and colours, or will be when they get their colours: those that nothing has changed
+// since all were.
 class SettledLines final : public QObject
 {
     Q_OBJECT

@@ -16,6 +16,7 @@
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QMetaEnum>
+#include <QtCore/QPointer>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -150,6 +151,18 @@ PyObject *hear(PyObject *, PyObject *arguments)
     Py_RETURN_NONE;
 }
 
+// Comparing receivers runs Python, which may destroy any of them.
+QList<QPointer<EventHub>> hubsOfAll(const QObject &object)
+{
+    QList<QPointer<EventHub>> hubs;
+    for (QObject *child : object.children()) {
+        auto *const hub = dynamic_cast<EventHub *>(child);
+        if (hub && hub->hearsAll())
+            hubs.append(hub);
+    }
+    return hubs;
+}
+
 // No longer tells the receiver, which was given for all events.
 PyObject *unhear(PyObject *, PyObject *arguments)
 {
@@ -160,10 +173,12 @@ PyObject *unhear(PyObject *, PyObject *arguments)
     QObject *const source = SipBridge::toObject(object);
     if (!source)
         return nullptr;
-    for (QObject *child : source->children()) {
-        auto *const hub = dynamic_cast<EventHub *>(child);
-        if (hub && hub->hearsAll() &&
-            PyObject_RichCompareBool(hub->receiver(), receiver, Py_EQ) == 1)
+    for (const QPointer<EventHub> &hub : hubsOfAll(*source)) {
+        const auto heard = PythonObject::sharing(hub ? hub->receiver() : nullptr);
+        const int isSame = heard ? PyObject_RichCompareBool(heard.get(), receiver, Py_EQ) : 0;
+        if (isSame < 0)
+            return nullptr;
+        if (isSame && hub)
             hub->deleteLater(), unadvise(QVariant::fromValue(source), hub);
     }
     Py_RETURN_NONE;

@@ -189,6 +189,19 @@ def test_an_exception_in_a_sink_is_reported_and_passed_over(table, monkeypatch):
     assert seen == [ValueError]
 
 
+def test_a_sink_that_cannot_be_compared_raises_what_it_raises(table):
+    class Sink:
+        def __call__(self, number, arguments):
+            pass
+
+        def __eq__(self, other):
+            raise ValueError("not to be compared")
+
+    orvtlistview.advise(table, Sink())
+    with pytest.raises(ValueError):
+        orvtlistview.unadvise(table, print)
+
+
 @pytest.mark.parametrize("left", [[], [1], ["a", "b"]])
 def test_a_sink_does_with_its_list_what_it_likes(table, left):
     def take(number, arguments):
