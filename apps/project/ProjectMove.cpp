@@ -12,6 +12,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -99,7 +100,10 @@ QMap<qint32, QString> Project::placesBeside(const QString &fileName) const
         const QFileInfo own(programFile(id));
         places.insert(id, freeName(fileName, own, [&](const QString &name) {
                           const QString place = programPath(fileName, name);
-                          if (places.values().contains(name) || isOneFile(place, fileName))
+                          const auto isPlace = [&](const QString &taken) {
+                              return isOneFile(place, programPath(fileName, taken));
+                          };
+                          if (isOneFile(place, fileName) || std::ranges::any_of(places, isPlace))
                               return false;
                           if (isOneFile(place, own.filePath()))
                               return isSamePlace;

@@ -219,6 +219,23 @@ TEST_F(SeveralPrograms, NoneHasTheNameThatTheProjectIsGiven)
     EXPECT_EQ(Project(m_folder.path(u"sub/a.prog"_s)).program(), u"A\r\n"_s);
 }
 
+// In folders of their own they differ by case alone, which not every system tells apart.
+TEST_F(SeveralPrograms, NoneTakesTheFileOfAnotherAtAnotherPlace)
+{
+    for (const QString &folder : {u"one"_s, u"two"_s, u"sub"_s})
+        ASSERT_TRUE(QDir(m_folder.path({})).mkdir(folder));
+    m_folder.write(u"one/Main.prog"_s, "A\n");
+    m_folder.write(u"two/main.prog"_s, "B\n");
+    m_folder.write(u"p.json"_s, R"({"format": 2, "name": "P",
+        "programs": [{"name": "A", "file": "one/Main.prog"},
+                     {"name": "B", "file": "two/main.prog"}]})");
+    Project project(m_folder.path(u"p.json"_s));
+    project.saveAt(m_folder.path(u"sub/q.json"_s), {{1, u"A\r\n"_s}, {2, u"B\r\n"_s}});
+    const Project again(m_folder.path(u"sub/q.json"_s));
+    EXPECT_EQ(again.program(1), u"A\r\n"_s);
+    EXPECT_EQ(again.program(2), u"B\r\n"_s);
+}
+
 // It comes back there under a name of its own, not as the other one of its name.
 TEST_F(SeveralPrograms, OneThatWasRemovedTakesNobodysFileAtAnotherPlace)
 {

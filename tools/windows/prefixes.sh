@@ -23,6 +23,7 @@ begin_displays() {
             >"$prefix.number" 2>/dev/null 9>&- &
         echo $! >"$prefix.process"
         until [ -s "$prefix.number" ]; do
+            kill -0 $! || return # it ends where it cannot serve
             sleep 0.1
         done
         echo ":$(cat "$prefix.number")" >"$prefix.display"

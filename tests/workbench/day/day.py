@@ -286,3 +286,10 @@ class Day:
 
     def expect_code(self, text):
         expect_soon(lambda: self.code.text, text, "the program")
+
+    def expect_untouched_code(self, text):
+        """Nor is there a change on its way: what is typed now comes behind it."""
+        expect(self.bench.active_title(), "Plant — Workbench", "the title")
+        self.bench.keys("ctrl+2", "ctrl+End")
+        self.bench.type("x")
+        self.expect_code(text + "x")
