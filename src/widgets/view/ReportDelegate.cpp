@@ -40,7 +40,9 @@ void ReportDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
         option.palette.color(selected ? selectedTextRole(option.widget) : QPalette::Text);
     painter->save();
     painter->setPen(QPen(colour, 1, Qt::DotLine));
-    painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    // The pen has its middle on the line: what it drew beyond the cell would stay there.
+    const qreal half = painter->device()->devicePixelRatio() > 1 ? 0.5 : 0;
+    painter->drawRect(QRectF(option.rect).adjusted(half, half, half - 1, half - 1));
     painter->restore();
 }
 

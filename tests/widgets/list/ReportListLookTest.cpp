@@ -9,6 +9,7 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QAccessible>
+#include <QtGui/QPainter>
 #include <QtGui/QPicture>
 #include <QtGui/QPixmap>
 #include <QtGui/QScreen>
@@ -111,6 +112,8 @@ private Q_SLOTS:
     void tellsAScreenReaderOfLabels();
     void hidesTheHeader();
     void keepsRowsOfOneHeight();
+    void theFocusStaysWithinItsCell_data();
+    void theFocusStaysWithinItsCell();
 };
 
 void ReportListLookTest::tipsLongCellsOnly()
@@ -466,6 +469,42 @@ void ReportListLookTest::keepsRowsOfOneHeight()
     QVERIFY(height >= shown->fontMetrics().height());
     for (int row = 0; row < 50; ++row)
         QCOMPARE(shown->rowHeight(row), height);
+}
+
+void ReportListLookTest::theFocusStaysWithinItsCell_data()
+{
+    QTest::addColumn<double>("scale");
+    for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0})
+        QTest::addRow("%g", scale) << scale;
+}
+
+void ReportListLookTest::theFocusStaysWithinItsCell()
+{
+    QFETCH(double, scale);
+    const ShownList shown;
+    QImage image(QSize(400, 160), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::magenta);
+    QStyleOptionViewItem option;
+    option.initFrom(shown.list);
+    option.widget = shown.list;
+    option.font = shown->font();
+    option.rect = QRect(16, 8, 64, 20);
+    option.state = QStyle::State_Enabled | QStyle::State_Active | QStyle::State_HasFocus;
+    QPainter painter(&image);
+    shown->itemDelegate()->paint(&painter, option, shown->model()->index(0, 0));
+    painter.end();
+    const QRectF cell(QPointF(option.rect.topLeft()) * scale, QSizeF(option.rect.size()) * scale);
+    QRect touched;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) != QColor(Qt::magenta))
+                touched |= QRect(x, y, 1, 1);
+        }
+    }
+    QVERIFY2(cell.toAlignedRect().contains(touched), qPrintable(QDebug::toString(touched)));
+    QVERIFY(touched.width() > cell.width() - 2 * scale); // it goes round the cell
+    QVERIFY(touched.height() > cell.height() - 2 * scale);
 }
 
 ORVT_TEST(ReportListLookTest)
