@@ -131,6 +131,13 @@ private Q_SLOTS:
         workbench.choose(u"New Project…"_s);
         QVERIFY(beside.wasThere());
         QCOMPARE(proposed, QDir::toNativeSeparators(workbench.folder.path()));
+        QVERIFY(QFile::rename(workbench.folder.filePath(u"one.json"_s),
+                              workbench.folder.filePath(u"away.json"_s)));
+        workbench.window.setSample(workbench.folder.filePath(u"nowhere/sample.json"_s));
+        NextDialog<NewProjectDialog> vanished(look); // neither file is there
+        workbench.choose(u"New Project…"_s);
+        QVERIFY(vanished.wasThere());
+        QCOMPARE(proposed, QDir::toNativeSeparators(workbench.folder.path()));
         workbench.window.setSample(workbench.folder.filePath(u"one.json"_s));
         NextDialog<NewProjectDialog> elsewhere(look);
         workbench.choose(u"New Project…"_s);

@@ -1,5 +1,6 @@
 #include "workbench/life/ProjectLife.h"
 
+#include "base/FilePlace.h"
 #include "project/ProjectDocument.h"
 #include "workbench/MainWindow.h"
 #include "workbench/PlainTexts.h"
@@ -29,11 +30,11 @@ QString ProjectLife::folder() const
     QStringList files = m_parts.recent.files();
     if (project)
         files.prepend(project->fileName());
-    const QFileInfo sample(m_parts.window.sample());
+    const QString sample = m_parts.window.sample();
     for (const QString &file : std::as_const(files)) {
-        const QFileInfo last(file);
-        if (!file.isEmpty() && last != sample && QFileInfo(last.path()).isDir())
-            return last.path();
+        const QString beside = QFileInfo(file).path();
+        if (!file.isEmpty() && !isOneFile(file, sample) && QFileInfo(beside).isDir())
+            return beside;
     }
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
