@@ -69,8 +69,8 @@ void TableMenu::addPoint(QMenu &menu, PointTables &table, bool isPoint)
     const LwType type = table.type();
     const qsizetype row = table.selectedPoint();
     PointRenaming &renaming = m_acts.renaming;
-    add(menu, {PointsMenu::tr("Re&name"), Qt::Key_F2, nameColumn(type) >= 0}, &table,
-        [&table] { table.editName(); }); // an empty row is named, too
+    add(menu, {PointsMenu::tr("Re&name"), Qt::Key_F2, isPoint && nameColumn(type) >= 0}, &table,
+        [&table] { table.editName(); });
     add(menu, {PointsMenu::tr("&Add Point…"), {}}, &renaming,
         [&renaming, type] { renaming.add(type); });
     add(menu, {PointsMenu::tr("&Duplicate Point…"), {}, isPoint}, &renaming,
