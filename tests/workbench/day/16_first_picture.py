@@ -27,12 +27,10 @@ def progress(day):
 def a_long_program(day):
     project = day.start_with(LONG)
     wait_until(lambda: progress(day), "progress")
-    expect_true(is_painted(day), "a picture while it is loaded")
-    day.bench.type("REM first ")
-    wait_until(lambda: day.code.caret == len("REM first "), "what was typed, before the end")
-    expect_true(progress(day), "there is more to colour")
-    day.press(day.window.wait_for("status bar"), "Cancel")
+    day.press(day.window.wait_for("status bar"), "Cancel")  # at once: it ends on its own, too
     wait_until(lambda: not progress(day), "no progress any more", 3)
+    expect_true(is_painted(day), "a picture of what was loaded")
+    day.bench.type("REM first ")
     day.bench.keys("ctrl+End")
     day.bench.type("REM last")
     wait_until(lambda: day.code.caret == len(LONG) + len("REM first REM last"), "what was typed")
@@ -42,9 +40,15 @@ def a_long_program(day):
 
 @scene
 def it_is_coloured_to_the_end(day):
-    day.start_with(PROGRAM * 40_000)
+    text = PROGRAM * 40_000
+    project = day.start_with(text)
     wait_until(lambda: progress(day), "progress")
+    expect_true(is_painted(day), "a picture while it is loaded")
+    day.bench.type("REM first ")
     wait_until(lambda: not progress(day), "all of it coloured", 60)
+    wait_until(lambda: day.code.caret == len("REM first "), "what was typed meanwhile")
+    day.save()
+    expect(project.with_suffix(".prog").read_text(), "REM first " + text, "the file")
 
 
 if __name__ == "__main__":
