@@ -32,7 +32,7 @@ QString ProjectLife::folder() const
         files.prepend(project->fileName());
     const QString sample = m_parts.window.sample();
     for (const QString &file : std::as_const(files)) {
-        const QString beside = QFileInfo(file).path();
+        QString beside = QFileInfo(file).path();
         if (!file.isEmpty() && !isOneFile(file, sample) && QFileInfo(beside).isDir())
             return beside;
     }
