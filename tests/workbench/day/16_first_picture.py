@@ -45,7 +45,7 @@ def it_is_coloured_to_the_end(day):
     wait_until(lambda: progress(day), "progress")
     expect_true(is_painted(day), "a picture while it is loaded")
     day.bench.type("REM first ")
-    wait_until(lambda: not progress(day), "all of it coloured", 60)
+    wait_until(lambda: not progress(day), "all of it coloured", 150)
     wait_until(lambda: day.code.caret == len("REM first "), "what was typed meanwhile")
     day.save()
     expect(project.with_suffix(".prog").read_text(), "REM first " + LONG, "the file")
