@@ -94,8 +94,12 @@ class ScreenReader:
         values = answer.unpack()
         return values[0] if len(values) == 1 else values
 
+    @property
+    def registry(self):
+        return Element(self, (REGISTRY, ROOT))
+
     def programs(self):
-        places = self.call((REGISTRY, ROOT), ACCESSIBLE, "GetChildren")
+        places = self.call(self.registry.place, ACCESSIBLE, "GetChildren")
         return [Element(self, tuple(place)) for place in places]
 
     def heard(self):

@@ -10,16 +10,26 @@ from x_display import Failed, wait_until
 class Workbench:
     """The running program, before the user's eyes and under the fingers."""
 
-    def __init__(self, display, program, *arguments):
+    def __init__(self, display, program, *arguments, settle=lambda: None):
+        """settle() returns when what was pressed before has come to the program."""
         self._display = display
+        self._settle = settle
         self.process = display.start(program, *arguments, preexec_fn=_stay_without_room)
         display.do("xdotool", "mousemove", "0", "0")
 
+    def _do(self, *command):
+        self._display.do("xdotool", *map(str, command))
+        self._settle()
+
     def keys(self, *names):
-        # No hand lets go of Alt before the menu is there.
+        # Nobody lets go of Alt before the menu is there.
         for name in names:
-            delay = "60" if name.startswith("alt+") else "2"
-            self._display.do("xdotool", "key", "--delay", delay, name)
+            *held, key = name.split("+")
+            if held:
+                self._do("keydown", *held)
+            self._do("key", key)
+            if held:
+                self._do("keyup", *reversed(held))
 
     def type(self, text):
         first, *others = text.split("\n")
@@ -30,14 +40,14 @@ class Workbench:
 
     def _type_line(self, line):
         if line:
-            self._display.do("xdotool", "type", "--delay", "2", "--", line)
+            self._do("type", "--delay", 2, "--", line)
 
     def point(self, place):
-        self._display.do("xdotool", "mousemove", *map(str, place))
+        self._do("mousemove", *place)
 
     def click(self, place, button=1, times=1):
         self.point(place)
-        self._display.do("xdotool", "click", "--repeat", str(times), "--delay", "20", str(button))
+        self._do("click", "--repeat", times, "--delay", 20, button)
 
     def wheel_down(self, place, notches):
         self.click(place, 5, notches)
@@ -45,14 +55,14 @@ class Workbench:
     def drag(self, start, end):
         """By small steps, as a hand does: a drag begins on the way."""
         self.point(start)
-        self._display.do("xdotool", "mousedown", "1")
+        self._do("mousedown", 1)
         steps = 12
         for step in range(1, steps + 1):
             self.point(tuple(a + (b - a) * step // steps for a, b in zip(start, end)))
         self.point(end)
 
     def drop(self):
-        self._display.do("xdotool", "mouseup", "1")
+        self._do("mouseup", 1)
 
     def put_on_clipboard(self, text):
         # It stays to serve the clipboard, so it must not hold our pipes.

@@ -45,7 +45,8 @@ def by_access_keys(day, opener):
 
 
 def by_menu(day, key):
-    day.open_menu_by_key("alt+e", "Undo")
+    day.bench.keys("alt+e")
+    day.wait_for_entry("Undo")
     day.bench.keys(key)
 
 

@@ -10,7 +10,7 @@ import sys
 sys.path.insert(0, str(pathlib.Path(__file__).parent.parent))
 
 # pylint: disable=wrong-import-position
-from screen_reader import Gone
+from screen_reader import ACCESSIBLE, Gone
 from workbench import Workbench
 from x_display import Failed, wait_until
 
@@ -100,7 +100,8 @@ class Day:
     def start(self, *arguments, title="Plant — Workbench"):
         self._window = None
         self.bench = Workbench(
-            self.display, self._arguments.workbench, *map(str, arguments))
+            self.display, self._arguments.workbench, *map(str, arguments),
+            settle=self._settle)
         if title:
             self.bench.wait_for_window(title)
         wait_until(lambda: self.bench.lives() and any(map(is_active, self.windows)),
@@ -112,6 +113,15 @@ class Day:
         project = self.write_project(program, **members)
         self.start(project)
         return project
+
+    def _settle(self):
+        """The program hands each key to the registry and acts on it when it has the answer;
+        shortcuts and clicks go before keys that wait for theirs. Messages do not overtake
+        each other, so these come back when all is done."""
+        with contextlib.suppress(Gone):
+            for program in self.programs_of_reader():
+                for asked in (program, program, self.reader.registry, program, program):
+                    self.reader.call(asked.place, ACCESSIBLE, "GetRole")
 
     def programs_of_reader(self):
         own = [program for program in self.reader.programs() if program.name == "workbench"]
@@ -216,16 +226,6 @@ class Day:
                             return item
             return None
         return wait_until(entry, f"a menu with \"{name}\"", seconds)
-
-    def open_menu_by_key(self, key, entry):
-        """By its access key; once more where the toolkit, which hands keys on late while a
-        screen reader listens, takes Alt for let go."""
-        with contextlib.suppress(Failed):
-            self.bench.keys(key)
-            self.wait_for_entry(entry, 3.0)
-            return
-        self.bench.keys(key)
-        self.wait_for_entry(entry)
 
     def open_menus(self):
         """The menu that is open, and what is open of its own menus."""
