@@ -4,6 +4,7 @@
 #include "base/EventGuard.h"
 #include "widgets/input/RaisedKeys.h"
 #include "widgets/input/RaisedMouse.h"
+#include "widgets/input/VirtualKeys.h"
 #include "widgets/list/ReportListBody.h"
 #include "widgets/list/RowCopy.h"
 #include <ORVTListview/ReportList.h>
@@ -25,8 +26,7 @@ namespace {
 // A letter that goes to a row that begins with it.
 bool isSearched(const QKeyEvent &event)
 {
-    return !event.text().isEmpty() && event.text().front().isPrint() &&
-           (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    return isTyping(event) && event.text().front().isPrint();
 }
 
 } // namespace
