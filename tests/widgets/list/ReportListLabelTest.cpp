@@ -75,6 +75,7 @@ private Q_SLOTS:
     void initTestCase() { QApplication::setDoubleClickInterval(100); }
     void editsTheLabelOfTheSelectedRow();
     void startsWithF2();
+    void startsWithF2InTheRowWithTheFocus();
     void editsTheLabelsOfAnotherColumn();
     void startsWithASlowSecondClick();
     void doesNotStartWithOtherClicks_data();
@@ -127,6 +128,22 @@ void ReportListLabelTest::startsWithF2()
     shown->setSelectedItem(shown.item(2));
     shown.key(Qt::Key_F2);
     QVERIFY(hasEditor(shown));
+}
+
+// One that was come to by keyboard, or with Ctrl, is not selected.
+void ReportListLabelTest::startsWithF2InTheRowWithTheFocus()
+{
+    const ShownList shown;
+    shown.list->setFocus();
+    shown->setSelectedItem(nullptr);
+    shown->setCurrentIndex(shown->model()->index(2, 0));
+    shown->setSelectedItem(nullptr);
+    QVERIFY(!shown->SelectedItem());
+    QCOMPARE(shown->currentIndex().row(), 2);
+    shown.key(Qt::Key_F2);
+    QVERIFY(hasEditor(shown));
+    QCOMPARE(shown->SelectedItem(), shown.item(3));
+    QCOMPARE(editorOf(shown)->text(), shown.item(3)->Text());
 }
 
 void ReportListLabelTest::editsTheLabelsOfAnotherColumn()
