@@ -29,6 +29,14 @@ bool isSearched(const QKeyEvent &event)
     return isTyping(event) && event.text().front().isPrint();
 }
 
+// A list that was come to by keyboard has a row in focus that nobody has selected.
+void chooseFocused(const QTableView &view, RowChoice &choice, const ReportModel &model)
+{
+    const QModelIndex current = view.currentIndex();
+    if (current.isValid() && !choice.isSelected(model.rowAt(current)))
+        choice.select(&model.rowAt(current));
+}
+
 } // namespace
 
 bool ReportList::event(QEvent *event)
@@ -144,9 +152,12 @@ bool ReportList::runCommand(const QKeyEvent &event)
     const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == 0;
     if (event.matches(QKeySequence::Copy))
         copySelection();
-    else if (plain && event.key() == Qt::Key_F2 && d->editsLabels)
-        StartLabelEdit();
-    else if (plain && event.key() == Qt::Key_Space && d->model.hasCheckBoxes())
+    else if (plain && event.key() == Qt::Key_F2 && d->editsLabels) {
+        const QPointer<ReportList> self(this);
+        pick([this] { chooseFocused(*this, d->rowChoice, d->model); });
+        if (self)
+            StartLabelEdit();
+    } else if (plain && event.key() == Qt::Key_Space && d->model.hasCheckBoxes())
         toggleCurrent();
     else if (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Space &&
              MultiSelect())

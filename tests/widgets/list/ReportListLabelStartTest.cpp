@@ -18,6 +18,7 @@ private Q_SLOTS:
     void initTestCase() { QApplication::setDoubleClickInterval(100); }
     void editsTheLabelOfTheSelectedRow();
     void startsWithF2();
+    void startsWithF2InTheRowWithTheFocus();
     void editsTheLabelsOfAnotherColumn();
     void startsWithASlowSecondClick();
     void doesNotStartWithOtherClicks_data();
@@ -52,6 +53,22 @@ void ReportListLabelStartTest::startsWithF2()
     shown->setSelectedItem(shown.item(2));
     shown.key(Qt::Key_F2);
     QVERIFY(shown.showsLabelEditor());
+}
+
+// One that was come to by keyboard, or with Ctrl, is not selected.
+void ReportListLabelStartTest::startsWithF2InTheRowWithTheFocus()
+{
+    const ShownList shown;
+    shown.list->setFocus();
+    shown->setSelectedItem(nullptr);
+    shown->setCurrentIndex(shown->model()->index(2, 0));
+    shown->setSelectedItem(nullptr);
+    QVERIFY(!shown->SelectedItem());
+    QCOMPARE(shown->currentIndex().row(), 2);
+    shown.key(Qt::Key_F2);
+    QVERIFY(shown.showsLabelEditor());
+    QCOMPARE(shown->SelectedItem(), shown.item(3));
+    QCOMPARE(shown.labelEditor()->text(), shown.item(3)->Text());
 }
 
 void ReportListLabelStartTest::editsTheLabelsOfAnotherColumn()
