@@ -1,6 +1,7 @@
 #include "TwoPrograms.h"
 
 #include "support/TestProgram.h"
+#include "workbench/TitleWidth.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/export/PaperColours.h"
 #include "workbench/export/PaperText.h"
@@ -211,8 +212,10 @@ private Q_SLOTS:
         TwoPrograms two("Fan1 = 1\n", "REM night\n");
         two.views().enterProgram(1);
         QStringList offered;
+        bool isTitleCut = true;
         NextDialog<QInputDialog> which([&](QInputDialog &asked) {
             offered = asked.comboBoxItems();
+            isTitleCut = asked.width() < titleWidth(asked);
             asked.setTextValue(u"Night"_s);
             asked.accept();
         });
@@ -224,6 +227,7 @@ private Q_SLOTS:
         two.choose(u"Export…"_s);
         QVERIFY(which.wasThere() && where.wasThere());
         QCOMPARE(offered, QStringList({u"a.prog"_s, u"Night"_s, u"All programs"_s}));
+        QVERIFY(!isTitleCut);
         QVERIFY(readFile(two.folder.filePath(u"night.rtf"_s)).contains("REM night"));
     }
 

@@ -1,5 +1,6 @@
 #include "workbench/export/ProgramChoice.h"
 
+#include "workbench/TitleWidth.h"
 #include "workbench/views/ProgramViews.h"
 
 #include <ORVTListview/ORVListView.h>
@@ -28,6 +29,7 @@ int askForPlace(QWidget &window, const QString &title, const QStringList &names,
     dialog->setComboBoxItems(names + QStringList{ProgramChoice::tr("All programs")});
     auto *box = dialog->findChild<QComboBox *>();
     box->setCurrentIndex(usual);
+    box->setMinimumWidth(titleWidth(*dialog));
     const bool isWanted = dialog->exec() == QDialog::Accepted;
     const int place = dialog && isWanted ? box->currentIndex() : -1;
     delete dialog;
