@@ -269,7 +269,8 @@ void DesignerPluginTest::showsTheDesignTimeProperties()
     }
     designable.sort();
     QCOMPARE(designable,
-             QStringList({u"Caption"_s, u"Enabled"_s, u"ListviewType"_s, u"MultiSelect"_s}));
+             QStringList({u"Caption"_s, u"Enabled"_s, u"ListviewType"_s, u"MultiSelect"_s,
+                          u"columnLayout"_s, u"programColours"_s}));
 }
 
 void DesignerPluginTest::tellsOfEachProperty()
@@ -281,6 +282,8 @@ void DesignerPluginTest::tellsOfEachProperty()
         {u"listView"_s, u"Caption"_s, u"name of the type"_s},
         {u"listView"_s, u"Enabled"_s, u"users can work"_s},
         {u"listView"_s, u"MultiSelect"_s, u"several rows"_s},
+        {u"listView"_s, u"columnLayout"_s, u"Columns of This Type"_s},
+        {u"listView"_s, u"programColours"_s, u"Colours of the Program"_s},
         {u"dataCombo"_s, u"Text"_s, u"at first"_s},
         {u"dataCombo"_s, u"Enabled"_s, u"users can work"_s},
         {u"dataCombo"_s, u"dragsEntry"_s, u"drag the picture"_s},
