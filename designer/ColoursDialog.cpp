@@ -116,8 +116,8 @@ void ColoursDialog::chooseSet(int set)
 
 void ColoursDialog::choose(ClassColour colour)
 {
-    const QColor chosen = QColorDialog::getColor(Colours::toColor(m_colours.*colour, palette()),
-                                                 this, windowTitle());
+    const QColor chosen =
+        QColorDialog::getColor(Colours::toColor(m_colours.*colour, palette()), this, windowTitle());
     if (!chosen.isValid())
         return;
     m_colours.*colour = Colours::fromColor(chosen);

@@ -36,7 +36,7 @@ void ListTaskMenu::arrangeColumns()
 {
     ColumnsDialog dialog(m_list, QDesignerFormWindowInterface::findFormWindow(&m_list));
     if (dialog.exec() == QDialog::Accepted)
-        keep(u"columnLayout"_s, dialog.layoutText());
+        keep(u"columnLayout"_s, dialog.layoutText(), dialog.windowTitle());
 }
 
 void ListTaskMenu::chooseColours()
@@ -44,12 +44,16 @@ void ListTaskMenu::chooseColours()
     ColoursDialog dialog(m_list.programColours(),
                          QDesignerFormWindowInterface::findFormWindow(&m_list));
     if (dialog.exec() == QDialog::Accepted)
-        keep(u"programColours"_s, dialog.colours());
+        keep(u"programColours"_s, dialog.colours(), dialog.windowTitle());
 }
 
-void ListTaskMenu::keep(const QString &property, const QString &text)
+// A step with a name: others of the same property would become one step with it.
+void ListTaskMenu::keep(const QString &property, const QString &text, const QString &step)
 {
     auto *form = QDesignerFormWindowInterface::findFormWindow(&m_list);
-    if (form && m_list.property(qPrintable(property)).toString() != text)
-        form->cursor()->setWidgetProperty(&m_list, property, text);
+    if (!form || m_list.property(qPrintable(property)).toString() == text)
+        return;
+    form->beginCommand(step);
+    form->cursor()->setWidgetProperty(&m_list, property, text);
+    form->endCommand();
 }

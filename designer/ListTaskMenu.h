@@ -23,7 +23,7 @@ public:
 private:
     void arrangeColumns();
     void chooseColours();
-    void keep(const QString &property, const QString &text);
+    void keep(const QString &property, const QString &text, const QString &step);
 
     ORVTListview::ORVListView &m_list; // outlives its extensions
     QAction *m_columns;
