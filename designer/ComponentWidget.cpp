@@ -82,7 +82,9 @@ bool ComponentWidget::isInitialized() const
     return m_isDesigning;
 }
 
-void ComponentWidget::initialize(QDesignerFormEditorInterface *)
+void ComponentWidget::initialize(QDesignerFormEditorInterface *core)
 {
     m_isDesigning = true;
+    if (m_description.addToDesigner)
+        m_description.addToDesigner(*core);
 }

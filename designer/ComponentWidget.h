@@ -17,6 +17,9 @@ struct ComponentDescription
 
     // A component on a form that is being designed has no effect outside of it.
     QWidget *(*create)(QWidget *parent, bool isDesigning) = nullptr;
+
+    // What Designer gets besides, once; null for nothing.
+    void (*addToDesigner)(QDesignerFormEditorInterface &editor) = nullptr;
 };
 
 class ComponentWidget : public QDesignerCustomWidgetInterface

@@ -1,11 +1,18 @@
 #include "Components.h"
 
 #include "OwnCaption.h"
+#include "TaskMenus.h"
 
 #include <ORVTListview/ORVDataCombo.h>
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ORVRichText.h>
 #include <ORVTListview/ORVTreeview.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
+#include <QtCore/QTranslator>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QExtensionManager>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -33,6 +40,16 @@ QWidget *createTree(QWidget *parent, bool isDesigning)
     return tree;
 }
 
+// In the language of Designer.
+void addTaskMenus(QDesignerFormEditorInterface &editor)
+{
+    auto *translator = new QTranslator(editor.extensionManager());
+    if (translator->load(QLocale(), u"designer"_s, u"_"_s,
+                         u":/orvtlistview_designer/translations"_s))
+        QCoreApplication::installTranslator(translator);
+    TaskMenus::addTo(editor);
+}
+
 QString singleLine(const QString &property)
 {
     return u"<stringpropertyspecification name=\"%1\" type=\"singleline\"/>"_s.arg(property);
@@ -55,13 +72,19 @@ ComponentDescription listView()
                          "type with its own columns, or for dsCode the code editor."_s,
             .size = QSize(480, 300),
             .properties =
-                singleLine(u"Caption"_s) +
+                singleLine(u"Caption"_s) + singleLine(u"columnLayout"_s) +
+                singleLine(u"programColours"_s) +
                 toolTip(u"ListviewType"_s, u"What is shown: the points of one type with their "
                                            "columns, or for dsCode the code editor"_s) +
                 toolTip(u"Caption"_s, u"The text above; without one the name of the type"_s) +
                 toolTip(u"Enabled"_s, u"Whether users can work with it"_s) +
-                toolTip(u"MultiSelect"_s, u"Whether users can select several rows"_s),
-            .create = &createList};
+                toolTip(u"MultiSelect"_s, u"Whether users can select several rows"_s) +
+                toolTip(u"columnLayout"_s, u"Order and width of the columns; set by Columns of "
+                                           "This Type in the context menu"_s) +
+                toolTip(u"programColours"_s, u"The colours of the words; set by Colours of the "
+                                             "Program in the context menu"_s),
+            .create = &createList,
+            .addToDesigner = &addTaskMenus};
 }
 
 ComponentDescription treeview()

@@ -29,6 +29,9 @@ struct ListViewFaces
     bool isMultiSelect() const;
     void setMultiSelect(bool on);
 
+    // Those of the form; none are the system's ground and black words.
+    void showProgramColours();
+
     void layOut();
     QIcon picture(const QString &key) const;
 
@@ -38,6 +41,8 @@ struct ListViewFaces
     PointTable *table;
     CodeEditor *editor;
     bool isEnabled = true;
+    QString programColours;
+    bool areColoursWaiting = false; // for the editor
     ToldProperties<ORVListView> told;
 
     // The program as it was told last; none while nobody listens.

@@ -108,7 +108,7 @@ QList<Member> commandMembers()
 // What the published control has not.
 QList<Member> addedMembers()
 {
-    return properties<List, "labelColumn", "indentUnit">() +
+    return properties<List, "labelColumn", "indentUnit", "columnLayout", "programColours">() +
            QList{readOnly<&List::listView>(u"listView"), readOnly<&List::codeView>(u"codeView")} +
            invokables<List, "openProgram", "restoreUnsavedText", "ClearUndoHistory">() +
            QList{method<&List::showFind>(u"showFind", optional(u"IsReplace"))};
@@ -144,6 +144,7 @@ QList<MemberFacts> tableFacts()
         {.name = u"HitTest"_s, .unit = u"twip"_s},
         {.name = u"SelectedItem"_s, .failures = {InvalidCall, ObjectNotSet}},
         {.name = u"UpdateSubItems"_s, .range = u"SubIndex: 1 to the number of columns less 1"_s},
+        {.name = u"columnLayout"_s, .unit = u"twip"_s},
         {.name = u"Drag"_s, .range = u"1 and 2"_s},
         {.name = u"labelColumn"_s, .range = u"from 0"_s, .failures = {SubscriptOutOfRange}},
     };
@@ -159,6 +160,7 @@ QList<MemberFacts> editorFacts()
         {.name = u"RefillListviewWithWordList"_s, .failures = {InvalidCall}},
         {.name = u"HighLightText"_s, .range = u"LineNumber: 1 to the number of lines"_s},
         {.name = u"indentUnit"_s, .range = u"blanks and tabs"_s},
+        {.name = u"programColours"_s, .range = u"empty, or all nine; others are ignored"_s},
     };
 }
 

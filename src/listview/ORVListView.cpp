@@ -11,6 +11,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 
 namespace ORVTListview {
@@ -53,7 +54,11 @@ void ORVListView::setListviewType(LwType type)
     if (type == dsCode)
         d->editor->thread().vocabulary.resetFunctionWords();
     d->switchTo(type);
-    d->told.tell(*this);
+    const QPointer<ORVListView> self(this);
+    if (type == dsCode && d->areColoursWaiting)
+        d->showProgramColours();
+    if (self) // a receiver may have destroyed it
+        d->told.tell(*this);
 }
 
 LwType ORVListView::CurrentType() const

@@ -3,6 +3,7 @@
 #include "base/EventGuard.h"
 #include "listview/ListViewFaces.h"
 #include "widgets/input/RelayedEvents.h"
+#include <ORVTListview/ListGrid.h>
 #include <ORVTListview/ORVListView.h>
 
 #include <QtCore/QMetaMethod>
@@ -70,9 +71,12 @@ void ORVListView::connectProperties()
     d->told.add(*this, &ORVListView::Enabled, &ORVListView::enabledChanged);
     d->told.add(*this, &ORVListView::MultiSelect, &ORVListView::multiSelectChanged);
     d->told.add(*this, &ORVListView::indentUnit, &ORVListView::indentUnitChanged);
+    d->told.add(*this, &ORVListView::columnLayout, &ORVListView::columnLayoutChanged);
+    d->told.add(*this, &ORVListView::programColours, &ORVListView::programColoursChanged);
     const auto tell = [this] { d->told.tell(*this); };
     connect(d->list, &ReportList::multiSelectChanged, this, tell);
     connect(d->list, &ReportList::labelColumnChanged, this, tell);
+    connect(d->list->grid(), &ListGrid::columnsArranged, this, tell);
     // The toolkit is at work on the columns still.
     connect(d->list->horizontalHeader(), &QHeaderView::sectionCountChanged, this, tell,
             Qt::QueuedConnection);

@@ -6,6 +6,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QMetaProperty>
+#include <QtCore/QStringList>
 #include <QtCore/QVariantList>
 
 // What a component itself has as properties, and values that each can have.
@@ -29,11 +30,24 @@ inline QList<QMetaProperty> writableProperties(const QObject &component)
     return properties;
 }
 
+// As ORVListView::programColours.
+inline QString allColours(const QString &colour)
+{
+    QStringList parts;
+    const QMetaObject &record = ORVTListview::RichTextSettings::staticMetaObject;
+    for (int i = 0; i < record.propertyCount(); ++i)
+        parts << QLatin1String(record.property(i).name()) + u':' + colour;
+    return parts.join(u';');
+}
+
 // Two values that the property can have.
 inline QVariantList values(QObject &component, const QMetaProperty &property)
 {
     static const QHash<QByteArray, QVariantList> special{
         {"indentUnit", {QStringLiteral("  "), QStringLiteral("\t")}},
+        {"columnLayout", {QStringLiteral("Label:1440"), QStringLiteral("Label:720")}},
+        {"programColours",
+         {allColours(QStringLiteral("#ffffff")), allColours(QStringLiteral("#202020"))}},
         {"CodeText", {QStringLiteral("IF A = 1"), QStringLiteral("ENDIF")}},
         {"CodeTextRTF", {QStringLiteral(R"({\rtf1 one})"), QStringLiteral(R"({\rtf1 two})")}},
         {"labelColumn", {0, 1}},

@@ -1,3 +1,4 @@
+#include "designer/Designer.h"
 #include "support/TestFolder.h"
 #include "support/WidgetTest.h"
 #include "ui_DisabledForm.h"
@@ -11,21 +12,12 @@
 #include <QtCore/QBuffer>
 #include <QtCore/QFile>
 #include <QtCore/QPluginLoader>
-#include <QtDesigner/QDesignerComponents>
-#include <QtDesigner/QDesignerFormEditorInterface>
-#include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
-#include <QtDesigner/QDesignerFormWindowManagerInterface>
-#include <QtDesigner/QDesignerIntegration>
-#include <QtDesigner/QDesignerPropertyEditorInterface>
-#include <QtDesigner/QDesignerPropertySheetExtension>
-#include <QtDesigner/QExtensionManager>
 #include <QtDesigner/QFormBuilder>
 #include <QtGui/QUndoStack>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiTools/QUiLoader>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QTreeView>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -53,91 +45,19 @@ QDesignerCustomWidgetInterface *pluginWidget(const QString &name)
     return nullptr;
 }
 
-// A form with all four as they come from the widget box.
-const QString plainForm = uR"(<ui version="4.0"><class>Form</class>
-<widget class="QWidget" name="Form">
- <widget class="ORVTListview::ORVListView" name="listView"/>
- <widget class="ORVTListview::ORVTreeview" name="treeview"/>
- <widget class="ORVTListview::ORVDataCombo" name="dataCombo"/>
- <widget class="ORVTListview::ORVRichText" name="richText"/>
-</widget></ui>)"_s;
-
-// Designer without its windows.
-class Designer
+// With all that a form keeps of the four components changed.
+QString changedForm()
 {
-public:
-    Designer()
-    {
-        // Designer tries one of each of the toolkit's widgets.
-        QTest::ignoreMessage(QtWarningMsg, "QOpenGLWidget is not supported on this platform.");
-        QDesignerComponents::initializeResources();
-        m_core = QDesignerComponents::createFormEditor(&m_owner);
-        QDesignerComponents::initializePlugins(m_core);
-        m_core->setPropertyEditor(QDesignerComponents::createPropertyEditor(m_core, &m_window));
-        new QDesignerIntegration(m_core, &m_owner); // becomes the core's
-    }
-
-    std::unique_ptr<QDesignerFormWindowInterface> opened(const QString &xml)
-    {
-        std::unique_ptr<QDesignerFormWindowInterface> window(
-            m_core->formWindowManager()->createFormWindow(nullptr));
-        if (!window->setContents(xml))
-            qFatal("Designer does not open the form");
-        return window;
-    }
-
-    // As the property editor does.
-    void change(QDesignerFormWindowInterface &window, const QString &widget,
-                const QString &property, const QVariant &value)
-    {
-        auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(
-            m_core->extensionManager(), window.findChild<QWidget *>(widget));
-        const int index = sheet->indexOf(property);
-        QVERIFY2(index >= 0 && sheet->isVisible(index), qPrintable(property));
-        sheet->setProperty(index, value);
-        sheet->setChanged(index, true);
-    }
-
-    // By a command that can be undone.
-    static void edit(QDesignerFormWindowInterface &window, const QString &widget,
-                     const QString &property, const QVariant &value)
-    {
-        window.cursor()->setWidgetProperty(window.findChild<QWidget *>(widget), property, value);
-    }
-
-    // What the property editor tells of a property; empty for one that it does not show.
-    QString toolTip(QDesignerFormWindowInterface &window, const QString &widget,
-                    const QString &property)
-    {
-        m_core->propertyEditor()->setObject(window.findChild<QWidget *>(widget));
-        for (const QTreeView *tree : m_window.findChildren<QTreeView *>()) {
-            const QModelIndexList found = tree->model()->match(
-                tree->model()->index(0, 0), Qt::DisplayRole, property, 1,
-                Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
-            if (!found.isEmpty())
-                return found.constFirst().data(Qt::ToolTipRole).toString();
-        }
-        return {};
-    }
-
-    // With all that a form keeps of the four components changed.
-    QString changedForm()
-    {
-        const auto window = opened(plainForm);
-        change(*window, u"listView"_s, u"ListviewType"_s, qint32{dsOutput});
-        change(*window, u"listView"_s, u"Caption"_s, u"Valves & <pumps>"_s);
-        change(*window, u"listView"_s, u"Enabled"_s, false);
-        change(*window, u"listView"_s, u"MultiSelect"_s, true);
-        change(*window, u"dataCombo"_s, u"Text"_s, u"SupplyTemp"_s);
-        change(*window, u"richText"_s, u"geometry"_s, QRect(10, 20, 300, 200));
-        return window->contents();
-    }
-
-private:
-    QObject m_owner;
-    QWidget m_window;
-    QDesignerFormEditorInterface *m_core;
-};
+    Designer designer;
+    const auto window = designer.opened(plainForm);
+    designer.change(*window, u"listView"_s, u"ListviewType"_s, qint32{dsOutput});
+    designer.change(*window, u"listView"_s, u"Caption"_s, u"Valves & <pumps>"_s);
+    designer.change(*window, u"listView"_s, u"Enabled"_s, false);
+    designer.change(*window, u"listView"_s, u"MultiSelect"_s, true);
+    designer.change(*window, u"dataCombo"_s, u"Text"_s, u"SupplyTemp"_s);
+    designer.change(*window, u"richText"_s, u"geometry"_s, QRect(10, 20, 300, 200));
+    return window->contents();
+}
 
 template <typename Loader>
 std::unique_ptr<QWidget> loadedForm(Loader &loader, const QString &xml)
@@ -268,8 +188,8 @@ void DesignerPluginTest::showsTheDesignTimeProperties()
             designable.append(QString::fromLatin1(meta.property(i).name()));
     }
     designable.sort();
-    QCOMPARE(designable,
-             QStringList({u"Caption"_s, u"Enabled"_s, u"ListviewType"_s, u"MultiSelect"_s}));
+    QCOMPARE(designable, QStringList({u"Caption"_s, u"Enabled"_s, u"ListviewType"_s,
+                                      u"MultiSelect"_s, u"columnLayout"_s, u"programColours"_s}));
 }
 
 void DesignerPluginTest::tellsOfEachProperty()
@@ -281,6 +201,8 @@ void DesignerPluginTest::tellsOfEachProperty()
         {u"listView"_s, u"Caption"_s, u"name of the type"_s},
         {u"listView"_s, u"Enabled"_s, u"users can work"_s},
         {u"listView"_s, u"MultiSelect"_s, u"several rows"_s},
+        {u"listView"_s, u"columnLayout"_s, u"Columns of This Type"_s},
+        {u"listView"_s, u"programColours"_s, u"Colours of the Program"_s},
         {u"dataCombo"_s, u"Text"_s, u"at first"_s},
         {u"dataCombo"_s, u"Enabled"_s, u"users can work"_s},
         {u"dataCombo"_s, u"dragsEntry"_s, u"drag the picture"_s},
@@ -303,7 +225,7 @@ void DesignerPluginTest::namesTheTypesInAList()
 void DesignerPluginTest::designerSavesAndReloadsAForm()
 {
     Designer designer;
-    const QString xml = designer.changedForm();
+    const QString xml = changedForm();
     QVERIFY2(xml.contains(u"<enum>ORVTListview::dsOutput</enum>"_s), qPrintable(xml));
     const auto reloaded = designer.opened(xml);
     compareWithChangedForm(*reloaded);
@@ -312,7 +234,7 @@ void DesignerPluginTest::designerSavesAndReloadsAForm()
 
 void DesignerPluginTest::designerNamesTheHeaders()
 {
-    const QString xml = Designer().changedForm();
+    const QString xml = changedForm();
     for (const QString &name : classNames) {
         const QString header = u"<header location=\"global\">ORVTListview/%1.h</header>"_s;
         QVERIFY2(xml.contains(header.arg(name.section(u"::"_s, 1))), qPrintable(xml));
@@ -323,7 +245,7 @@ void DesignerPluginTest::formBuilderLoadsTheForm()
 {
     QFormBuilder builder;
     builder.setPluginPath({QStringLiteral(ORVT_DESIGNER_FOLDER)});
-    const auto loaded = loadedForm(builder, Designer().changedForm());
+    const auto loaded = loadedForm(builder, changedForm());
     QVERIFY(loaded);
     compareWithChangedForm(*loaded);
 }
@@ -335,7 +257,7 @@ void DesignerPluginTest::uiLoaderLoadsTheForm()
     loader.addPluginPath(QStringLiteral(ORVT_DESIGNER_FOLDER));
     for (const QString &name : classNames)
         QVERIFY2(loader.availableWidgets().contains(name), qPrintable(name));
-    const auto loaded = loadedForm(loader, Designer().changedForm());
+    const auto loaded = loadedForm(loader, changedForm());
     QVERIFY(loaded);
     compareWithChangedForm(*loaded);
 }
@@ -375,7 +297,7 @@ void DesignerPluginTest::loadedFormsHeedTabStops()
 
 void DesignerPluginTest::treeOfADesignedFormSavesNothing()
 {
-    Designer().changedForm();
+    changedForm();
     QCOMPARE(m_settings->names(), QStringList());
 }
 

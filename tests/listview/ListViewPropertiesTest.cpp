@@ -74,7 +74,7 @@ private Q_SLOTS:
     void noLabelIsEditedInADisabledControl();
     void captionIsTheHostsUntilTheNextSwitch();
     void changesAreTold();
-    void onlyFourPropertiesAreForForms();
+    void sixPropertiesAreForForms();
     void aBagThatFailsRaisesError();
     void membersCanBeCalledByName();
     void bearsADestroyingReceiver_data();
@@ -302,7 +302,7 @@ void ListViewPropertiesTest::changesAreTold()
     QCOMPARE(caption.size(), 2);
 }
 
-void ListViewPropertiesTest::onlyFourPropertiesAreForForms()
+void ListViewPropertiesTest::sixPropertiesAreForForms()
 {
     const ORVListView list;
     const QMetaObject &meta = *list.metaObject();
@@ -316,7 +316,8 @@ void ListViewPropertiesTest::onlyFourPropertiesAreForForms()
         }
     }
     // In the order in which forms set them: a type brings its own caption.
-    QCOMPARE(kept, QStringList({u"ListviewType"_s, u"Caption"_s, u"Enabled"_s, u"MultiSelect"_s}));
+    QCOMPARE(kept, QStringList({u"ListviewType"_s, u"Caption"_s, u"Enabled"_s, u"MultiSelect"_s,
+                                u"columnLayout"_s, u"programColours"_s}));
 }
 
 void ListViewPropertiesTest::aBagThatFailsRaisesError()

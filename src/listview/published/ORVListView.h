@@ -39,6 +39,10 @@ class ORVT_EXPORT ORVListView : public InputComponent
     Q_PROPERTY(QString Caption READ Caption WRITE setCaption NOTIFY captionChanged)
     Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled NOTIFY enabledChanged)
     Q_PROPERTY(bool MultiSelect READ MultiSelect WRITE setMultiSelect NOTIFY multiSelectChanged)
+    Q_PROPERTY(
+        QString columnLayout READ columnLayout WRITE setColumnLayout NOTIFY columnLayoutChanged)
+    Q_PROPERTY(QString programColours READ programColours WRITE setProgramColours NOTIFY
+                   programColoursChanged)
 
     Q_PROPERTY(ORVTListview::LwType CurrentType READ CurrentType NOTIFY listviewTypeChanged
                    DESIGNABLE false STORED false)
@@ -170,6 +174,13 @@ public:
     Q_INVOKABLE ORVTListview::ListItem *SelectedItem() const;
     Q_INVOKABLE void setSelectedItem(ORVTListview::ListItem *Item);
 
+    // How the columns of the current type are arranged, for forms: the text that
+    // ListGrid::columnLayout has for Key, such as "Label:1440;Mode:-720" in twips, a hidden
+    // column below zero. Empty at first and in code mode, where it cannot be set. An empty
+    // one gives the columns back their own order and width.
+    QString columnLayout() const;
+    void setColumnLayout(const QString &layout);
+
     // Makes every column as wide as its header and cells need, and the last one at least
     // as wide as the rest of the table. On a failure ErrMsg receives its description.
     Q_INVOKABLE void UpdateListViewWidth(QString &ErrMsg);
@@ -204,6 +215,14 @@ public:
     // thread, refills the word index, and colours the text again. To be called
     // once the editor is shown in code mode and whenever the settings change.
     Q_INVOKABLE void Init_RichTextBox(const ORVTListview::RichTextSettings &Setting);
+
+    // The nine colours of the appearance, for forms: "BackColor:#ffffff;VariableColor:#0060d0;...",
+    // each under the name of its field in RichTextSettings. Setting them does what
+    // Init_RichTextBox does with these and the font that is there, in a table once it becomes
+    // an editor. Empty at first, and then no colours are set; a text that lacks one of them
+    // is ignored. What Init_RichTextBox is given does not change this text.
+    QString programColours() const;
+    void setProgramColours(const QString &colours);
 
     // Opens a program: shows it from its top, the caret at 0, every word in its colour
     // and its listed letter case, as if its lines had been typed; no blank, tab or
@@ -430,6 +449,8 @@ Q_SIGNALS:
     void isHOASupportedChanged();
     void labelColumnChanged();
     void indentUnitChanged();
+    void columnLayoutChanged();
+    void programColoursChanged();
     void codeTextChanged();
 
     // Its text, or only its colours.
