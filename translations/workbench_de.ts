@@ -2205,8 +2205,16 @@ Speichern?</translation>
         <translation>Namen oder Zelle bearbeiten</translation>
     </message>
     <message>
-        <source>Select the row or the column, or deselect it</source>
-        <translation>Zeile oder Spalte auswählen oder nicht mehr</translation>
+        <source>Select the row, or deselect it</source>
+        <translation>Zeile auswählen oder nicht mehr</translation>
+    </message>
+    <message>
+        <source>Select the column of the cell</source>
+        <translation>Spalte der Zelle auswählen</translation>
+    </message>
+    <message>
+        <source>Select the row of the cell</source>
+        <translation>Zeile der Zelle auswählen</translation>
     </message>
     <message>
         <source>Copy what is selected</source>

@@ -2205,8 +2205,16 @@ Save them?</source>
         <translation>Editar el nombre o la celda</translation>
     </message>
     <message>
-        <source>Select the row or the column, or deselect it</source>
-        <translation>Seleccionar la fila o la columna, o ya no</translation>
+        <source>Select the row, or deselect it</source>
+        <translation>Seleccionar la fila, o ya no</translation>
+    </message>
+    <message>
+        <source>Select the column of the cell</source>
+        <translation>Seleccionar la columna de la celda</translation>
+    </message>
+    <message>
+        <source>Select the row of the cell</source>
+        <translation>Seleccionar la fila de la celda</translation>
     </message>
     <message>
         <source>Copy what is selected</source>

@@ -2205,8 +2205,16 @@ Les enregistrer&#xa0;?</translation>
         <translation>Modifier le nom ou la cellule</translation>
     </message>
     <message>
-        <source>Select the row or the column, or deselect it</source>
-        <translation>Sélectionner la ligne ou la colonne, ou plus</translation>
+        <source>Select the row, or deselect it</source>
+        <translation>Sélectionner la ligne, ou plus</translation>
+    </message>
+    <message>
+        <source>Select the column of the cell</source>
+        <translation>Sélectionner la colonne de la cellule</translation>
+    </message>
+    <message>
+        <source>Select the row of the cell</source>
+        <translation>Sélectionner la ligne de la cellule</translation>
     </message>
     <message>
         <source>Copy what is selected</source>

@@ -274,11 +274,15 @@ void PointTables::editName()
     m_list.StartLabelEdit();
 }
 
-// A name, as a spreadsheet's cell is; what else may be edited is the grid's.
+// A name, as a spreadsheet's cell is; what else may be edited is the grid's. Not of a row that
+// the click has taken out of the selection.
 void PointTables::editClicked(const QModelIndex &cell)
 {
     const qsizetype names = nameColumn(m_list.CurrentType());
-    if (names >= 0 && cell.isValid() && cell.column() == names + 1)
+    const ReportList &list = *m_list.listView();
+    const bool isChosen =
+        cell.isValid() && list.currentIndex() == cell && list.selectionModel()->isSelected(cell);
+    if (names >= 0 && isChosen && cell.column() == names + 1)
         editName();
 }
 

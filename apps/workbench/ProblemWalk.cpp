@@ -8,6 +8,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QTextCursor>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <tuple>
@@ -76,7 +77,13 @@ void ProblemWalk::go(int step)
         m_wanted = step;
         m_box = m_views.program().RTextBox();
         m_caret = m_box->textCursor().position();
+        m_focus = QApplication::focusWidget();
     }
+}
+
+void ProblemWalk::giveUp()
+{
+    m_wanted = 0;
 }
 
 void ProblemWalk::goOn()
@@ -85,7 +92,8 @@ void ProblemWalk::goOn()
         return;
     const int step = std::exchange(m_wanted, 0);
     const RichTextBox *box = m_views.program().RTextBox();
-    if (box == m_box && box->textCursor().position() == m_caret)
+    if (box == m_box && box->textCursor().position() == m_caret &&
+        QApplication::focusWidget() == m_focus && !QApplication::activeModalWidget())
         go(step);
 }
 

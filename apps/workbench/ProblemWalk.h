@@ -3,6 +3,8 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 
+class QWidget;
+
 namespace ORVTListview {
 
 class ProgramAnalyses;
@@ -20,8 +22,11 @@ public:
     ProblemWalk(ProjectView &views, const ProgramAnalyses &analyses, QObject *parent);
 
     // Where none is known yet and the analysis is at work, it comes when that is done, unless
-    // the caret has moved meanwhile.
+    // the caret or the focus has moved meanwhile.
     void go(int step);
+
+    // Another project comes: nothing is waited for any more.
+    void giveUp();
 
 Q_SIGNALS:
     // There is none.
@@ -36,6 +41,7 @@ private:
     const ProgramAnalyses &m_analyses;
     int m_wanted = 0;            // when the analysis is done; 0 for nothing
     QPointer<RichTextBox> m_box; // where it was wanted
+    QPointer<QWidget> m_focus;
     int m_caret = 0;
 };
 

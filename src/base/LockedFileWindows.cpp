@@ -23,6 +23,7 @@ bool isGoing()
 bool isTransient(DWORD error)
 {
     return error == ERROR_SHARING_VIOLATION || error == ERROR_DELETE_PENDING ||
+           error == ERROR_FILE_NOT_FOUND || // gone between the two tries
            (error == ERROR_ACCESS_DENIED && isGoing());
 }
 

@@ -98,7 +98,7 @@ bool ColouredSource::check(const Colour &colour)
     const QString lines = nextLines();
     m_isFixed = lines.size() > 1 && staysSame(colour(lines), colour);
     if (!m_isFixed)
-        m_unfixed = unfixedIn(lines, colour);
+        m_unfixed = lines.size() > 1 ? unfixedIn(lines, colour) : Unfixed();
     m_checked += lines.size();
     return m_isFixed && m_checked < m_text.size();
 }

@@ -29,8 +29,9 @@ ViewKeys ofTables()
 {
     return {Texts::tr("In a table"),
             {command(Texts::tr("Edit the name or the cell"), {Qt::Key_F2}),
-             command(Texts::tr("Select the row or the column, or deselect it"),
-                     {Qt::CTRL | Qt::Key_Space}),
+             command(Texts::tr("Select the row, or deselect it"), {Qt::CTRL | Qt::Key_Space}),
+             command(Texts::tr("Select the column of the cell"), {Qt::CTRL | Qt::Key_Space}),
+             command(Texts::tr("Select the row of the cell"), {Qt::SHIFT | Qt::Key_Space}),
              command(Texts::tr("Copy what is selected"), {Qt::CTRL | Qt::Key_C}),
              command(Texts::tr("Copy it with the headers"), {Qt::CTRL | Qt::SHIFT | Qt::Key_C}),
              command(Texts::tr("Paste into the cells"), {Qt::CTRL | Qt::Key_V}),

@@ -5,6 +5,7 @@
 #include "widgets/box/BoxText.h"
 #include "widgets/box/CharacterPlaces.h"
 #include "widgets/box/FormatsTold.h"
+#include "widgets/box/KeptView.h"
 #include "widgets/box/LateColours.h"
 #include "widgets/box/TextUnits.h"
 #include "widgets/box/UserEditing.h"
@@ -33,6 +34,12 @@ QString tell(const BoxTextAccess &access, const TextUnits::Unit &unit, int *star
     return access.text(unit.start, unit.end);
 }
 
+QString tellNothing(int *start, int *end)
+{
+    *start = *end = -1;
+    return {};
+}
+
 } // namespace
 
 void installBoxAccess()
@@ -49,6 +56,12 @@ BoxTextAccess::BoxTextAccess(RichTextBox &box)
 const BoxText &BoxTextAccess::boxText() const
 {
     return BoxText::of(*m_box.document());
+}
+
+// Also behind the last one.
+bool BoxTextAccess::isThere(int offset) const
+{
+    return offset >= 0 && offset <= characterCount();
 }
 
 int BoxTextAccess::inside(int offset) const
@@ -158,6 +171,8 @@ QString BoxTextAccess::text(int startOffset, int endOffset) const
 QString BoxTextAccess::textBeforeOffset(int offset, QAccessible::TextBoundaryType kind,
                                         int *startOffset, int *endOffset) const
 {
+    if (!isThere(offset))
+        return tellNothing(startOffset, endOffset);
     return tell(*this, TextUnits(*m_box.document(), kind).before(inside(offset)), startOffset,
                 endOffset);
 }
@@ -165,6 +180,8 @@ QString BoxTextAccess::textBeforeOffset(int offset, QAccessible::TextBoundaryTyp
 QString BoxTextAccess::textAtOffset(int offset, QAccessible::TextBoundaryType kind,
                                     int *startOffset, int *endOffset) const
 {
+    if (!isThere(offset))
+        return tellNothing(startOffset, endOffset);
     return tell(*this, TextUnits(*m_box.document(), kind).at(inside(offset)), startOffset,
                 endOffset);
 }
@@ -172,6 +189,8 @@ QString BoxTextAccess::textAtOffset(int offset, QAccessible::TextBoundaryType ki
 QString BoxTextAccess::textAfterOffset(int offset, QAccessible::TextBoundaryType kind,
                                        int *startOffset, int *endOffset) const
 {
+    if (!isThere(offset))
+        return tellNothing(startOffset, endOffset);
     return tell(*this, TextUnits(*m_box.document(), kind).after(inside(offset)), startOffset,
                 endOffset);
 }
@@ -190,8 +209,7 @@ QString BoxTextAccess::attributes(int offset, int *startOffset, int *endOffset) 
 
 QRect BoxTextAccess::characterRect(int offset) const
 {
-    const bool isThere = offset >= 0 && offset <= characterCount();
-    return isThere ? CharacterPlaces(m_box).placeOf(offset) : QRect();
+    return isThere(offset) ? CharacterPlaces(m_box).placeOf(offset) : QRect();
 }
 
 int BoxTextAccess::offsetAtPoint(const QPoint &point) const
@@ -208,27 +226,35 @@ void BoxTextAccess::scrollToSubstring(int startIndex, int endIndex)
 
 void BoxTextAccess::insertText(int offset, const QString &text)
 {
-    replaceText(offset, offset, text);
+    replaceText(inside(offset), inside(offset), text);
 }
 
 void BoxTextAccess::deleteText(int startOffset, int endOffset)
 {
-    replaceText(startOffset, endOffset, {});
+    replaceText(startOffset, endOffset < 0 ? characterCount() : endOffset, {});
 }
 
-// What the user has selected stays where it is not replaced. A receiver may destroy the box.
+// What the user has selected and sees stays where it is not replaced. A receiver may destroy
+// the box, or close it to editing.
 void BoxTextAccess::replaceText(int startOffset, int endOffset, const QString &text)
 {
     if (!mayUserEdit(m_box))
         return;
     const RichTextBox::Changing changing(m_box);
     const QPointer<RichTextBox> box(&m_box);
-    const QTextCursor former = m_box.textCursor();
+    const KeptView view(m_box);
+    QTextCursor former = m_box.textCursor();
+    former.setKeepPositionOnInsert(former.hasSelection() &&
+                                   former.selectionEnd() == inside(startOffset));
     select(startOffset, endOffset);
-    if (!text.isEmpty())
+    if (!box)
+        return;
+    const bool mayEdit = mayUserEdit(*box);
+    if (mayEdit && !text.isEmpty())
         box->commands().type(text);
-    else if (box->textCursor().hasSelection())
+    else if (mayEdit && box->textCursor().hasSelection())
         box->commands().remove();
+    former.setKeepPositionOnInsert(false);
     if (box)
         box->setTextCursor(former);
 }

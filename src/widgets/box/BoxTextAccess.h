@@ -50,6 +50,7 @@ public:
 
 private:
     const BoxText &boxText() const;
+    bool isThere(int offset) const;
     int inside(int offset) const;
     void select(int from, int to);
 

@@ -3,6 +3,7 @@
 #include "widgets/box/BoxLayers.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtCore/QPointer>
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
@@ -129,10 +130,13 @@ void CharacterPlaces::show(int from, int to) const
     const QRectF all = first.united(last);
     const QSize room = m_box.viewport()->size();
     const double down = way(all.top(), all.bottom(), room.height()) / first.height();
-    QScrollBar &rows = *m_box.verticalScrollBar();
-    rows.setValue(rows.value() + qRound(down < 0 ? std::floor(down) : std::ceil(down)));
     const double aside = all.width() > room.width() ? way(first.left(), first.right(), room.width())
                                                     : way(all.left(), all.right(), room.width());
+    const QPointer<const RichTextBox> box(&m_box);
+    QScrollBar &rows = *m_box.verticalScrollBar();
+    rows.setValue(rows.value() + qRound(down < 0 ? std::floor(down) : std::ceil(down)));
+    if (!box) // gone in an event of the bar
+        return;
     QScrollBar &columns = *m_box.horizontalScrollBar();
     const int mirrored = m_box.isRightToLeft() ? -1 : 1;
     columns.setValue(columns.value() + mirrored * qRound(aside));

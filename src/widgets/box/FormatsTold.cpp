@@ -35,7 +35,7 @@ QString attributesOf(const QTextCharFormat &format, const QFont &ofAll)
         told += name + u':' + value + u';';
     };
     tell(u"font-family"_s, u'"' + quoted(font.family()) + u'"');
-    tell(u"font-size"_s, u"%1pt"_s.arg(font.pointSizeF()));
+    tell(u"font-size"_s, u"%1pt"_s.arg(QFontInfo(font).pointSizeF()));
     tell(u"font-weight"_s, font.bold() ? u"bold"_s : u"normal"_s);
     tell(u"font-style"_s, font.italic() ? u"italic"_s : u"normal"_s);
     if (font.underline())

@@ -33,7 +33,7 @@ bool isSearched(const QKeyEvent &event)
 void chooseFocused(const QTableView &view, RowChoice &choice, const ReportModel &model)
 {
     const QModelIndex current = view.currentIndex();
-    if (current.isValid() && !choice.isSelected(model.rowAt(current)))
+    if (current.isValid() && !view.selectionModel()->hasSelection())
         choice.select(&model.rowAt(current));
 }
 

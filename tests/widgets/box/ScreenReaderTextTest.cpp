@@ -257,6 +257,52 @@ private Q_SLOTS:
         editing().insertText(0, u"x"_s);
         QVERIFY(!m_box);
     }
+
+    void aReceiverOfTheCaretMayToo()
+    {
+        m_box->setText(u"one"_s);
+        QObject::connect(m_box, &RichTextBox::cursorPositionChanged, qApp,
+                         [this] { delete m_box; });
+        editing().insertText(2, u"x"_s);
+        QVERIFY(!m_box);
+    }
+
+    void aReceiverMayCloseItToEditing()
+    {
+        m_box->setText(u"one"_s);
+        QObject::connect(m_box, &RichTextBox::cursorPositionChanged, m_box,
+                         [this] { m_box->setReadOnly(true); });
+        editing().deleteText(1, 3);
+        QCOMPARE(m_box->Text(), u"one"_s);
+        QCOMPARE(m_box->textCursor().position(), 0);
+    }
+
+    void whatIsSelectedStaysSo()
+    {
+        m_box->setText(u"one two"_s);
+        seen().textInterface()->setSelection(0, 0, 3);
+        editing().insertText(3, u"x"_s);
+        QCOMPARE(m_box->Text(), u"onex two"_s);
+        QCOMPARE(m_box->textCursor().selectedText(), u"one"_s);
+    }
+
+    void outsideTheTextIsNothing()
+    {
+        m_box->setText(u"one two"_s);
+        for (const int offset : {-1, 8, 9999}) {
+            int start = 0;
+            int end = 0;
+            QCOMPARE(seen().textInterface()->textAtOffset(offset, QAccessible::WordBoundary, &start,
+                                                          &end),
+                     QString());
+            QCOMPARE(start, -1);
+            QCOMPARE(end, -1);
+        }
+        editing().insertText(-1, u"x"_s);
+        QCOMPARE(m_box->Text(), u"xone two"_s);
+        editing().deleteText(4, -1);
+        QCOMPARE(m_box->Text(), u"xone"_s);
+    }
 };
 
 ORVT_TEST(ScreenReaderTextTest)

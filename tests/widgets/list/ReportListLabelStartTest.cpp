@@ -19,6 +19,7 @@ private Q_SLOTS:
     void editsTheLabelOfTheSelectedRow();
     void startsWithF2();
     void startsWithF2InTheRowWithTheFocus();
+    void startsWithF2InWhatIsSelected();
     void editsTheLabelsOfAnotherColumn();
     void startsWithASlowSecondClick();
     void doesNotStartWithOtherClicks_data();
@@ -69,6 +70,20 @@ void ReportListLabelStartTest::startsWithF2InTheRowWithTheFocus()
     QVERIFY(shown.showsLabelEditor());
     QCOMPARE(shown->SelectedItem(), shown.item(3));
     QCOMPARE(shown.labelEditor()->text(), shown.item(3)->Text());
+}
+
+void ReportListLabelStartTest::startsWithF2InWhatIsSelected()
+{
+    const ShownList shown;
+    shown->setMultiSelect(true);
+    shown->setSelectedItem(shown.item(1));
+    shown->setFocus();
+    shown.key(Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(shown->currentIndex().row(), 1);
+    shown.key(Qt::Key_F2);
+    QCOMPARE(shown.labelEditor()->text(), shown.item(1)->Text());
+    QVERIFY(shown.item(1)->Selected());
+    QVERIFY(!shown.item(2)->Selected());
 }
 
 void ReportListLabelStartTest::editsTheLabelsOfAnotherColumn()
