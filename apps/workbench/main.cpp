@@ -1,8 +1,8 @@
 #include "CommandLine.h"
+#include "ContextMenuKey.h"
 #include "InstalledFiles.h"
 #include "Languages.h"
 #include "MainWindow.h"
-#include "MenuKey.h"
 #include "ProjectView.h"
 
 #include "project/TextFile.h"
@@ -171,7 +171,7 @@ int main(int argc, char **argv)
         followDesktop(*qApp);
 
 #ifndef Q_OS_WIN // where the system has it
-    const MenuKey menuKey;
+    const ContextMenuKey menuKey;
 #endif
     MainWindow window(languages);
     window.setSettings(settings);

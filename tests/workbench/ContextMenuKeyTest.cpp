@@ -3,7 +3,7 @@
 #include "WorkbenchTest.h"
 
 #include "support/TestProgram.h"
-#include "workbench/MenuKey.h"
+#include "workbench/ContextMenuKey.h"
 
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ORVListView.h>
@@ -29,7 +29,7 @@ void press(QWidget &widget)
 
 } // namespace
 
-class MenuKeyTest : public WidgetTest
+class ContextMenuKeyTest : public WidgetTest
 {
     Q_OBJECT
 
@@ -49,7 +49,7 @@ private Q_SLOTS:
 
     void theProgramHasItsMenuAtTheCaret()
     {
-        const MenuKey key;
+        const ContextMenuKey key;
         WorkbenchWindow workbench("Fan1 = Temp1\nFan1 = 2\n");
         workbench.key(Qt::Key_Down);
         press(workbench.box());
@@ -62,7 +62,7 @@ private Q_SLOTS:
 
     void aTableHasTheMenuOfItsRow()
     {
-        const MenuKey key;
+        const ContextMenuKey key;
         WorkbenchWindow workbench("Fan1 = Temp1\n");
         workbench.views().enterType(dsInput);
         workbench.shown().setSelectedItem(workbench.shown().ListItems()->Item(1));
@@ -73,7 +73,7 @@ private Q_SLOTS:
 
     void theProjectsTreeHasOne()
     {
-        const MenuKey key;
+        const ContextMenuKey key;
         WorkbenchWindow workbench("Fan1 = Temp1\n");
         auto *tree = workbench.window.findChild<QTreeView *>();
         tree->setFocus();
@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void aFieldOfADialogHasOne()
     {
-        const MenuKey key;
+        const ContextMenuKey key;
         QLineEdit field;
         field.show();
         QVERIFY(QTest::qWaitForWindowActive(&field));
@@ -94,5 +94,5 @@ private Q_SLOTS:
     }
 };
 
-ORVT_TEST(MenuKeyTest)
-#include "MenuKeyTest.moc"
+ORVT_TEST(ContextMenuKeyTest)
+#include "ContextMenuKeyTest.moc"

@@ -1,4 +1,4 @@
-#include "MenuKey.h"
+#include "ContextMenuKey.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QContextMenuEvent>
@@ -19,12 +19,12 @@ void askForMenu(QWidget &widget)
 
 } // namespace
 
-MenuKey::MenuKey()
+ContextMenuKey::ContextMenuKey()
 {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-bool MenuKey::eventFilter(QObject *watched, QEvent *event)
+bool ContextMenuKey::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
         return false;
