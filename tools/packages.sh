@@ -33,7 +33,7 @@ bench_packages=(
 
 # What compiles for Windows, and what runs that.
 mingw_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev)
-windows_packages=("${mingw_packages[@]}" dpkg-dev googletest fonts-wine wine wine64 xvfb)
+windows_packages=("${mingw_packages[@]}" dpkg-dev googletest wine wine64 xvfb)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
