@@ -1,6 +1,23 @@
 # Sourced by ./windows: what stands for a Windows machine of its own each, a prefix of
 # Wine's and a display, so that tests can run beside one another.
 
+# Wine has none of the fonts that Windows always has, and serifs in their place.
+name_fonts() {
+    local key='HKCU\Software\Wine\Fonts\Replacements' name
+    for name in "MS Shell Dlg" "MS Shell Dlg 2" "Segoe UI"; do
+        wine reg add "$key" /v "$name" /d "DejaVu Sans" /f
+    done
+    wine reg add "$key" /v "Courier New" /d "DejaVu Sans Mono" /f
+}
+
+# In a shell of its own, whose Wine is that of the prefix.
+make_prefix() (
+    export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
+    wine wineboot --init
+    name_fonts
+    wineserver --wait
+)
+
 make_prefixes() {
     local folder=$1/prefixes number
     for number in $(seq "$2"); do
@@ -8,9 +25,7 @@ make_prefixes() {
         rm -rf "${folder:?}/$number"
         mkdir -p "$folder"
         echo "Making a prefix for Wine"
-        WINEPREFIX=$folder/$number WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' \
-            wine wineboot --init
-        WINEPREFIX=$folder/$number wineserver --wait
+        make_prefix "$folder/$number"
         touch "$folder/$number.complete"
     done
 }
