@@ -703,5 +703,10 @@
         <extracomment>The kind of a known word, such as IF</extracomment>
         <translation>Reservierte Wörter</translation>
     </message>
+    <message>
+        <source>Empty the filter</source>
+        <extracomment>The button in a field by which the rows of a table are filtered</extracomment>
+        <translation>Filter leeren</translation>
+    </message>
 </context>
 </TS>

@@ -141,6 +141,13 @@
     </message>
 </context>
 <context>
+    <name>ClearButton</name>
+    <message>
+        <source>Empty the field</source>
+        <translation>Feld leeren</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Shows a controller project.</source>
@@ -1195,6 +1202,13 @@ Entfernen?</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::ProblemWalk</name>
+    <message>
+        <source>The programs have no problems.</source>
+        <translation>Die Programme haben keine Probleme.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::ProgramMenu</name>
     <message>
         <source>&amp;Program</source>
@@ -1936,6 +1950,17 @@ Speichern?</translation>
     </message>
 </context>
 <context>
+    <name>ProgramChoice</name>
+    <message>
+        <source>&amp;Program:</source>
+        <translation>&amp;Programm:</translation>
+    </message>
+    <message>
+        <source>All programs</source>
+        <translation>Alle Programme</translation>
+    </message>
+</context>
+<context>
     <name>ProjectTexts</name>
     <message>
         <source>The folder %1 cannot be made.</source>
@@ -2151,6 +2176,117 @@ Speichern?</translation>
     <message>
         <source>Export Statements of %1</source>
         <translation>Anweisungen von %1 exportieren</translation>
+    </message>
+</context>
+<context>
+    <name>ViewKeys</name>
+    <message>
+        <source>In a program</source>
+        <translation>In einem Programm</translation>
+    </message>
+    <message>
+        <source>Indent the selected lines</source>
+        <translation>Ausgewählte Zeilen einrücken</translation>
+    </message>
+    <message>
+        <source>Take their indent back</source>
+        <translation>Ihre Einrückung zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Leave the program</source>
+        <translation>Das Programm verlassen</translation>
+    </message>
+    <message>
+        <source>In a table</source>
+        <translation>In einer Tabelle</translation>
+    </message>
+    <message>
+        <source>Edit the name or the cell</source>
+        <translation>Namen oder Zelle bearbeiten</translation>
+    </message>
+    <message>
+        <source>Select the row, or deselect it</source>
+        <translation>Zeile auswählen oder nicht mehr</translation>
+    </message>
+    <message>
+        <source>Select the column of the cell</source>
+        <translation>Spalte der Zelle auswählen</translation>
+    </message>
+    <message>
+        <source>Select the row of the cell</source>
+        <translation>Zeile der Zelle auswählen</translation>
+    </message>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>Auswahl kopieren</translation>
+    </message>
+    <message>
+        <source>Copy it with the headers</source>
+        <translation>Auswahl mit den Überschriften kopieren</translation>
+    </message>
+    <message>
+        <source>Paste into the cells</source>
+        <translation>In die Zellen einfügen</translation>
+    </message>
+    <message>
+        <source>Clear the cells</source>
+        <translation>Zellen leeren</translation>
+    </message>
+    <message>
+        <source>Fill the cells from the topmost one</source>
+        <translation>Zellen aus der obersten füllen</translation>
+    </message>
+    <message>
+        <source>Enter it in all selected cells</source>
+        <translation>In alle ausgewählten Zellen eintragen</translation>
+    </message>
+    <message>
+        <source>Change yes and no</source>
+        <translation>Zwischen Ja und Nein wechseln</translation>
+    </message>
+    <message>
+        <source>Empty the filter</source>
+        <translation>Filter leeren</translation>
+    </message>
+    <message>
+        <source>In the project&apos;s tree</source>
+        <translation>Im Baum des Projekts</translation>
+    </message>
+    <message>
+        <source>Open what is selected</source>
+        <translation>Auswahl öffnen</translation>
+    </message>
+    <message>
+        <source>Expand, collapse</source>
+        <translation>Auf- und zuklappen</translation>
+    </message>
+    <message>
+        <source>Rename the program</source>
+        <translation>Programm umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove the program</source>
+        <translation>Programm entfernen</translation>
+    </message>
+    <message>
+        <source>Move the program up</source>
+        <translation>Programm nach oben verschieben</translation>
+    </message>
+    <message>
+        <source>Move the program down</source>
+        <translation>Programm nach unten verschieben</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>Überall</translation>
+    </message>
+    <message>
+        <source>Menu of what has the focus</source>
+        <translation>Menü dessen, was den Fokus hat</translation>
+    </message>
+    <message>
+        <source>List of all points, in their field</source>
+        <translation>Liste aller Punkte, in ihrem Feld</translation>
     </message>
 </context>
 <context>

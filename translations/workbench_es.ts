@@ -141,6 +141,13 @@
     </message>
 </context>
 <context>
+    <name>ClearButton</name>
+    <message>
+        <source>Empty the field</source>
+        <translation>Vaciar el campo</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Shows a controller project.</source>
@@ -1195,6 +1202,13 @@ Remove it?</source>
     </message>
 </context>
 <context>
+    <name>ORVTListview::ProblemWalk</name>
+    <message>
+        <source>The programs have no problems.</source>
+        <translation>Los programas no tienen problemas.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::ProgramMenu</name>
     <message>
         <source>&amp;Program</source>
@@ -1936,6 +1950,17 @@ Save them?</source>
     </message>
 </context>
 <context>
+    <name>ProgramChoice</name>
+    <message>
+        <source>&amp;Program:</source>
+        <translation>&amp;Programa:</translation>
+    </message>
+    <message>
+        <source>All programs</source>
+        <translation>Todos los programas</translation>
+    </message>
+</context>
+<context>
     <name>ProjectTexts</name>
     <message>
         <source>The folder %1 cannot be made.</source>
@@ -2151,6 +2176,117 @@ Save them?</source>
     <message>
         <source>Export Statements of %1</source>
         <translation>Exportar las instrucciones de %1</translation>
+    </message>
+</context>
+<context>
+    <name>ViewKeys</name>
+    <message>
+        <source>In a program</source>
+        <translation>En un programa</translation>
+    </message>
+    <message>
+        <source>Indent the selected lines</source>
+        <translation>Sangrar las líneas seleccionadas</translation>
+    </message>
+    <message>
+        <source>Take their indent back</source>
+        <translation>Quitarles la sangría</translation>
+    </message>
+    <message>
+        <source>Leave the program</source>
+        <translation>Salir del programa</translation>
+    </message>
+    <message>
+        <source>In a table</source>
+        <translation>En una tabla</translation>
+    </message>
+    <message>
+        <source>Edit the name or the cell</source>
+        <translation>Editar el nombre o la celda</translation>
+    </message>
+    <message>
+        <source>Select the row, or deselect it</source>
+        <translation>Seleccionar la fila, o ya no</translation>
+    </message>
+    <message>
+        <source>Select the column of the cell</source>
+        <translation>Seleccionar la columna de la celda</translation>
+    </message>
+    <message>
+        <source>Select the row of the cell</source>
+        <translation>Seleccionar la fila de la celda</translation>
+    </message>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>Copiar la selección</translation>
+    </message>
+    <message>
+        <source>Copy it with the headers</source>
+        <translation>Copiar la selección con los encabezados</translation>
+    </message>
+    <message>
+        <source>Paste into the cells</source>
+        <translation>Pegar en las celdas</translation>
+    </message>
+    <message>
+        <source>Clear the cells</source>
+        <translation>Vaciar las celdas</translation>
+    </message>
+    <message>
+        <source>Fill the cells from the topmost one</source>
+        <translation>Llenar las celdas desde la de arriba</translation>
+    </message>
+    <message>
+        <source>Enter it in all selected cells</source>
+        <translation>Introducirlo en todas las celdas seleccionadas</translation>
+    </message>
+    <message>
+        <source>Change yes and no</source>
+        <translation>Cambiar entre sí y no</translation>
+    </message>
+    <message>
+        <source>Empty the filter</source>
+        <translation>Vaciar el filtro</translation>
+    </message>
+    <message>
+        <source>In the project&apos;s tree</source>
+        <translation>En el árbol del proyecto</translation>
+    </message>
+    <message>
+        <source>Open what is selected</source>
+        <translation>Abrir la selección</translation>
+    </message>
+    <message>
+        <source>Expand, collapse</source>
+        <translation>Desplegar, plegar</translation>
+    </message>
+    <message>
+        <source>Rename the program</source>
+        <translation>Cambiar el nombre del programa</translation>
+    </message>
+    <message>
+        <source>Remove the program</source>
+        <translation>Quitar el programa</translation>
+    </message>
+    <message>
+        <source>Move the program up</source>
+        <translation>Subir el programa</translation>
+    </message>
+    <message>
+        <source>Move the program down</source>
+        <translation>Bajar el programa</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>En todas partes</translation>
+    </message>
+    <message>
+        <source>Menu of what has the focus</source>
+        <translation>Menú de lo que tiene el foco</translation>
+    </message>
+    <message>
+        <source>List of all points, in their field</source>
+        <translation>Lista de todos los puntos, en su campo</translation>
     </message>
 </context>
 <context>

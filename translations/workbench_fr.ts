@@ -141,6 +141,13 @@
     </message>
 </context>
 <context>
+    <name>ClearButton</name>
+    <message>
+        <source>Empty the field</source>
+        <translation>Vider le champ</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Shows a controller project.</source>
@@ -1195,6 +1202,13 @@ Le supprimer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>ORVTListview::ProblemWalk</name>
+    <message>
+        <source>The programs have no problems.</source>
+        <translation>Les programmes n’ont aucun problème.</translation>
+    </message>
+</context>
+<context>
     <name>ORVTListview::ProgramMenu</name>
     <message>
         <source>&amp;Program</source>
@@ -1936,6 +1950,17 @@ Les enregistrer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>ProgramChoice</name>
+    <message>
+        <source>&amp;Program:</source>
+        <translation>&amp;Programme&#xa0;:</translation>
+    </message>
+    <message>
+        <source>All programs</source>
+        <translation>Tous les programmes</translation>
+    </message>
+</context>
+<context>
     <name>ProjectTexts</name>
     <message>
         <source>The folder %1 cannot be made.</source>
@@ -2151,6 +2176,117 @@ Les enregistrer&#xa0;?</translation>
     <message>
         <source>Export Statements of %1</source>
         <translation>Exporter les instructions de %1</translation>
+    </message>
+</context>
+<context>
+    <name>ViewKeys</name>
+    <message>
+        <source>In a program</source>
+        <translation>Dans un programme</translation>
+    </message>
+    <message>
+        <source>Indent the selected lines</source>
+        <translation>Indenter les lignes sélectionnées</translation>
+    </message>
+    <message>
+        <source>Take their indent back</source>
+        <translation>Réduire leur retrait</translation>
+    </message>
+    <message>
+        <source>Leave the program</source>
+        <translation>Quitter le programme</translation>
+    </message>
+    <message>
+        <source>In a table</source>
+        <translation>Dans une table</translation>
+    </message>
+    <message>
+        <source>Edit the name or the cell</source>
+        <translation>Modifier le nom ou la cellule</translation>
+    </message>
+    <message>
+        <source>Select the row, or deselect it</source>
+        <translation>Sélectionner la ligne, ou plus</translation>
+    </message>
+    <message>
+        <source>Select the column of the cell</source>
+        <translation>Sélectionner la colonne de la cellule</translation>
+    </message>
+    <message>
+        <source>Select the row of the cell</source>
+        <translation>Sélectionner la ligne de la cellule</translation>
+    </message>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>Copier la sélection</translation>
+    </message>
+    <message>
+        <source>Copy it with the headers</source>
+        <translation>Copier la sélection avec les en-têtes</translation>
+    </message>
+    <message>
+        <source>Paste into the cells</source>
+        <translation>Coller dans les cellules</translation>
+    </message>
+    <message>
+        <source>Clear the cells</source>
+        <translation>Vider les cellules</translation>
+    </message>
+    <message>
+        <source>Fill the cells from the topmost one</source>
+        <translation>Remplir les cellules à partir de la première</translation>
+    </message>
+    <message>
+        <source>Enter it in all selected cells</source>
+        <translation>L’entrer dans toutes les cellules sélectionnées</translation>
+    </message>
+    <message>
+        <source>Change yes and no</source>
+        <translation>Passer de oui à non</translation>
+    </message>
+    <message>
+        <source>Empty the filter</source>
+        <translation>Vider le filtre</translation>
+    </message>
+    <message>
+        <source>In the project&apos;s tree</source>
+        <translation>Dans l’arbre du projet</translation>
+    </message>
+    <message>
+        <source>Open what is selected</source>
+        <translation>Ouvrir la sélection</translation>
+    </message>
+    <message>
+        <source>Expand, collapse</source>
+        <translation>Développer, réduire</translation>
+    </message>
+    <message>
+        <source>Rename the program</source>
+        <translation>Renommer le programme</translation>
+    </message>
+    <message>
+        <source>Remove the program</source>
+        <translation>Retirer le programme</translation>
+    </message>
+    <message>
+        <source>Move the program up</source>
+        <translation>Monter le programme</translation>
+    </message>
+    <message>
+        <source>Move the program down</source>
+        <translation>Descendre le programme</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>Partout</translation>
+    </message>
+    <message>
+        <source>Menu of what has the focus</source>
+        <translation>Menu de ce qui a le focus</translation>
+    </message>
+    <message>
+        <source>List of all points, in their field</source>
+        <translation>Liste de tous les points, dans leur champ</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
 #include "ActionPage.h"
 
-#include <QtCore/QEvent>
+#include <QtGui/QShowEvent>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -18,6 +18,7 @@ ActionPage::ActionPage(QWidget *parent)
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
+    setAlignment(Qt::AlignHCenter); // lines are no longer than they are read well
     auto *page = new QWidget;
     page->setMaximumWidth(fontMetrics().averageCharWidth() * 100);
     auto *layout = new QVBoxLayout(page);
@@ -118,9 +119,11 @@ void ActionPage::changeEvent(QEvent *event)
     QScrollArea::changeEvent(event);
 }
 
+// Not when the window comes back, and the user has been on it already.
 void ActionPage::showEvent(QShowEvent *event)
 {
-    if (m_preferred)
+    const QWidget *focus = window()->focusWidget();
+    if (m_preferred && !event->spontaneous() && !(focus && isAncestorOf(focus)))
         m_preferred->setFocus();
     QScrollArea::showEvent(event);
 }

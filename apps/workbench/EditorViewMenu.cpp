@@ -11,7 +11,7 @@
 
 namespace ORVTListview {
 
-EditorViewMenu::EditorViewMenu(ProjectView &views, QWidget *parent)
+EditorViewMenu::EditorViewMenu(ProjectView &views, ProblemWalk &walk, QWidget *parent)
     : QMenu(tr("&Editor"), parent)
     , m_views(views)
 {
@@ -36,8 +36,8 @@ EditorViewMenu::EditorViewMenu(ProjectView &views, QWidget *parent)
     add(tr("Fold &All"), {}, [this] { current().foldAll(); });
     add(tr("Unfold A&ll"), {}, [this] { current().unfoldAll(); });
     addSeparator();
-    add(tr("Next &Problem"), Qt::Key_F8, [this] { goToProblem(m_views, 1); });
-    add(tr("P&revious Problem"), Qt::SHIFT | Qt::Key_F8, [this] { goToProblem(m_views, -1); });
+    add(tr("Next &Problem"), Qt::Key_F8, [&walk] { walk.go(1); });
+    add(tr("P&revious Problem"), Qt::SHIFT | Qt::Key_F8, [&walk] { walk.go(-1); });
     addSeparator();
     add(tr("Toggle &Bookmark"), Qt::CTRL | Qt::Key_F2, [this] { current().toggleBookmark(); });
     add(tr("Ne&xt Bookmark"), Qt::CTRL | Qt::Key_F3, [this] { current().nextBookmark(); });

@@ -8,6 +8,7 @@
 namespace ORVTListview {
 
 class CodeView;
+class ProblemWalk;
 class ProjectView;
 
 // What the editors show beside the text, to be switched on and off, for all programs.
@@ -16,7 +17,8 @@ class EditorViewMenu : public QMenu
     Q_OBJECT
 
 public:
-    EditorViewMenu(ProjectView &views, QWidget *parent);
+    // Both outlive the menu.
+    EditorViewMenu(ProjectView &views, ProblemWalk &walk, QWidget *parent);
 
     // What the workbench begins with.
     static void switchOn(CodeView &view);

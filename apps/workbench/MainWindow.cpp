@@ -8,6 +8,7 @@
 #include "PointChooser.h"
 #include "PointTables.h"
 #include "PointValues.h"
+#include "ProblemWalk.h"
 #include "ProgramAnalyses.h"
 #include "ProgramChecking.h"
 #include "ProgramNavigation.h"
@@ -101,6 +102,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_checking(
           new ProgramChecking({m_view->programs(), *m_analyses}, *m_document, *m_results, *this))
     , m_navigation(new ProgramNavigation(*m_view, *m_analyses, *m_results, this))
+    , m_walk(new ProblemWalk(*m_view, *m_analyses, this))
     , m_panes(new Panes(*this, *m_view, *m_points))
     , m_status(new WindowStatus(*statusBar()))
 {
@@ -185,6 +187,8 @@ void MainWindow::connectAnalysis()
     connect(m_analyses, &ProgramAnalyses::linesReplaced, m_results, &CheckResults::moveLines);
     connect(m_navigation, &ProgramNavigation::moved, this, &MainWindow::showPosition);
     connect(m_navigation, &ProgramNavigation::told, m_status, &WindowStatus::tell);
+    connect(m_walk, &ProblemWalk::moved, this, &MainWindow::showPosition);
+    connect(m_walk, &ProblemWalk::told, m_status, &WindowStatus::tell);
     connect(m_document, &ProjectDocument::tablesChanged, this, &MainWindow::takePoints);
 }
 
@@ -236,6 +240,7 @@ void MainWindow::connectReading()
 // The status bar speaks of what is in sight.
 void MainWindow::showPage()
 {
+    showTitle();
     showProgramInfo();
     showPosition();
     m_status->setPositionVisible(m_pages->showsProject() && !m_view->currentTable());
@@ -274,12 +279,14 @@ void MainWindow::connectPages()
     connect(m_pages, &WindowPages::firstStepsClosed, this, &MainWindow::leaveFirstSteps);
 }
 
-// The application's name is added where it is not all.
+// The application's name is added where it is not all. A project that a page hides is named only
+// where it has changes that are to be saved.
 void MainWindow::showTitle()
 {
     const Project *project = m_document->project();
-    setWindowTitle(project ? project->name() + u"[*]"_s
-                           : QGuiApplication::applicationDisplayName());
+    const bool isNamed = project && (m_pages->showsProject() || isWindowModified());
+    const QString title = isNamed ? project->name() : QGuiApplication::applicationDisplayName();
+    setWindowTitle(project ? title + u"[*]"_s : title);
 }
 
 void MainWindow::keepNothing()
@@ -379,6 +386,8 @@ void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::PaletteChange)
         m_palette.start();
+    else if (event->type() == QEvent::ModifiedChange)
+        showTitle();
     QMainWindow::changeEvent(event);
 }
 

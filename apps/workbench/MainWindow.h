@@ -15,6 +15,7 @@ class EditMenu;
 class Exporting;
 class Languages;
 class Panes;
+class ProblemWalk;
 class ORVListView;
 class ProgramAnalyses;
 class ProgramChecking;
@@ -150,6 +151,7 @@ private:
     ProgramAnalyses *m_analyses;
     ProgramChecking *m_checking;
     ProgramNavigation *m_navigation;
+    ProblemWalk *m_walk;
     Panes *m_panes;
     WindowStatus *m_status;
     QTimer m_palette; // since it changed, till the program has its colours

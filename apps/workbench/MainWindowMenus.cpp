@@ -91,7 +91,7 @@ void MainWindow::buildHelpMenu()
 
 void MainWindow::buildViewMenu()
 {
-    auto *view = new ViewMenu(*m_view, m_languages, menuBar());
+    auto *view = new ViewMenu(*m_view, *m_walk, m_languages, menuBar());
     menuBar()->addMenu(view);
     connect(view, &ViewMenu::editorChanged, this, &MainWindow::showPosition);
     connect(view, &ViewMenu::languageChosen, this, [this](const QLocale &language) {

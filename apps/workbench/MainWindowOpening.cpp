@@ -7,6 +7,7 @@
 #include "PlainTexts.h"
 #include "PointChooser.h"
 #include "PointValues.h"
+#include "ProblemWalk.h"
 #include "ProgramAnalyses.h"
 #include "ProgramNavigation.h"
 #include "ProjectView.h"
@@ -111,6 +112,7 @@ void MainWindow::openProject(const QString &fileName, Version version)
 
 void MainWindow::takeProject(Project &project)
 {
+    m_walk->giveUp();
     m_view->setProject(project);
     m_values->setProject(&project);
     m_export->setProject(&project);

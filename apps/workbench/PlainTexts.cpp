@@ -1,9 +1,12 @@
 #include "PlainTexts.h"
 
+#include "TitleWidth.h"
+
 #include <QtCore/QPointer>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 
 namespace ORVTListview {
 
@@ -32,6 +35,7 @@ std::optional<QString> PlainTexts::askText(QWidget &window, const QString &title
     dialog->setWindowTitle(title);
     dialog->setLabelText(QString(question).replace(u'&', QStringLiteral("&&")));
     dialog->setTextValue(text);
+    dialog->findChild<QLineEdit *>()->setMinimumWidth(titleWidth(*dialog));
     for (QLabel *label : dialog->findChildren<QLabel *>())
         label->setTextFormat(Qt::PlainText);
     const bool isGiven = dialog->exec() == QDialog::Accepted;

@@ -35,6 +35,9 @@ PointTables::PointTables(ORVListView &list)
     connect(&m_soon, &QTimer::timeout, this, &PointTables::fillValues);
     connect(&list, &ORVListView::BeforeLabelEdit, this, &PointTables::allowEditing);
     connect(&list, &ORVListView::AfterLabelEdit, this, &PointTables::takeName);
+    // Queued: the view is at work on the click.
+    connect(list.listView(), &ReportList::doubleClicked, this, &PointTables::editClicked,
+            Qt::QueuedConnection);
 }
 
 void PointTables::setProject(Project *project)
@@ -269,6 +272,18 @@ bool PointTables::grow(qint16 column)
 void PointTables::editName()
 {
     m_list.StartLabelEdit();
+}
+
+// A name, as a spreadsheet's cell is; what else may be edited is the grid's. Not of a row that
+// the click has taken out of the selection.
+void PointTables::editClicked(const QModelIndex &cell)
+{
+    const qsizetype names = nameColumn(m_list.CurrentType());
+    const ReportList &list = *m_list.listView();
+    const bool isChosen =
+        cell.isValid() && list.currentIndex() == cell && list.selectionModel()->isSelected(cell);
+    if (names >= 0 && isChosen && cell.column() == names + 1)
+        editName();
 }
 
 // From 0; -1 for one that is gone.

@@ -7,6 +7,8 @@
 #include <QtCore/QSet>
 #include <QtCore/QTimer>
 
+class QModelIndex;
+
 namespace ORVTListview {
 
 class ListItem;
@@ -88,6 +90,7 @@ private:
     void showOld(const QList<ProjectRow> &rows, qint16 column);
     void widen(qint16 column);
     bool grow(qint16 column);
+    void editClicked(const QModelIndex &cell);
     void allowEditing(qint16 &cancel);
     void takeName(qint16 &cancel, const QString &name);
     void correctName(LwType type, const QString &typed);

@@ -6,6 +6,8 @@
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/RichTextBox.h>
 
+#include <algorithm>
+
 namespace ORVTListview {
 
 ProgramAnalyses::ProgramAnalyses(ProgramViews &programs, QObject *parent)
@@ -79,6 +81,12 @@ void ProgramAnalyses::takeList()
             m_uses[program.id] = of(program.id).found().uses();
     }
     share();
+}
+
+bool ProgramAnalyses::isDone() const
+{
+    return std::ranges::all_of(
+        list(), [this](const ProjectProgram &program) { return of(program.id).found().isDone(); });
 }
 
 // Twice: what one tells of its points may come after another has been finished.

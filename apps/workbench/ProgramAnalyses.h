@@ -27,6 +27,9 @@ public:
     void takePoints(const OtherUses &tables);
     void takeWords();
 
+    // Whether all programs are analysed as they are now.
+    bool isDone() const;
+
     // All programs are analysed as far as it is left, at once.
     void finish();
 

@@ -8,10 +8,11 @@
 
 namespace ORVTListview {
 
-ViewMenu::ViewMenu(ProjectView &views, const Languages &languages, QWidget *parent)
+ViewMenu::ViewMenu(ProjectView &views, ProblemWalk &walk, const Languages &languages,
+                   QWidget *parent)
     : QMenu(tr("&View"), parent)
 {
-    auto *shown = new EditorViewMenu(views, this);
+    auto *shown = new EditorViewMenu(views, walk, this);
     addMenu(shown);
     connect(shown, &QMenu::triggered, this, &ViewMenu::editorChanged);
     auto *spoken = new LanguageMenu(languages, this);

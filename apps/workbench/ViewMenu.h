@@ -6,6 +6,7 @@
 namespace ORVTListview {
 
 class Languages;
+class ProblemWalk;
 class ProjectView;
 
 // What the window looks like.
@@ -14,8 +15,8 @@ class ViewMenu : public QMenu
     Q_OBJECT
 
 public:
-    // Both outlive the menu.
-    ViewMenu(ProjectView &views, const Languages &languages, QWidget *parent);
+    // All of them outlive the menu.
+    ViewMenu(ProjectView &views, ProblemWalk &walk, const Languages &languages, QWidget *parent);
 
 Q_SIGNALS:
     // A command of the editor has been carried out.

@@ -2,6 +2,7 @@
 #include "InstalledFiles.h"
 #include "Languages.h"
 #include "MainWindow.h"
+#include "MenuKey.h"
 #include "ProjectView.h"
 
 #include "project/TextFile.h"
@@ -169,6 +170,9 @@ int main(int argc, char **argv)
     if (!isPicture) // one is like the other
         followDesktop(*qApp);
 
+#ifndef Q_OS_WIN // where the system has it
+    const MenuKey menuKey;
+#endif
     MainWindow window(languages);
     window.setSettings(settings);
     window.setSample(sampleProject());

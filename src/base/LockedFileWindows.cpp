@@ -9,9 +9,22 @@
 namespace ORVTListview {
 namespace {
 
+// Of a file that goes as soon as nobody has it open, the system's own functions tell no
+// more than that access is denied; the kernel below tells why.
+bool isGoing()
+{
+    using LastStatus = LONG(WINAPI *)();
+    constexpr auto deletePending = static_cast<LONG>(0xC0000056);
+    static const auto lastStatus = reinterpret_cast<LastStatus>(reinterpret_cast<void *>(
+        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetLastNtStatus")));
+    return lastStatus && lastStatus() == deletePending;
+}
+
 bool isTransient(DWORD error)
 {
-    return error == ERROR_SHARING_VIOLATION || error == ERROR_DELETE_PENDING;
+    return error == ERROR_SHARING_VIOLATION || error == ERROR_DELETE_PENDING ||
+           error == ERROR_FILE_NOT_FOUND || // gone between the two tries
+           (error == ERROR_ACCESS_DENIED && isGoing());
 }
 
 // Who opens a file for itself alone keeps all others out, on whatever machine.

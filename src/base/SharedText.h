@@ -114,7 +114,7 @@ private:
 
 // Goes through a text, forwards or backwards, in a time that goes by the way from the place
 // looked at last. The text lives longer, and stays as it is.
-class SharedText::Walk
+class ORVT_HOUSE_EXPORT SharedText::Walk
 {
 public:
     explicit Walk(const SharedText &text)

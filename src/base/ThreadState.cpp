@@ -1,17 +1,10 @@
 #include "base/ThreadState.h"
 
+#include "base/ThreadSlot.h"
+
 #include <utility>
 
 namespace ORVTListview {
-namespace {
-
-std::unique_ptr<ThreadState> &slotOfThread()
-{
-    thread_local std::unique_ptr<ThreadState> state;
-    return state;
-}
-
-} // namespace
 
 ThreadState::ThreadState() = default;
 ThreadState::~ThreadState() = default;

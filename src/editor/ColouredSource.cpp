@@ -1,8 +1,34 @@
 #include "editor/ColouredSource.h"
 
+#include <QtCore/QStringList>
+
 #include <algorithm>
 
 namespace ORVTListview {
+namespace {
+
+const QString lineEnd = QStringLiteral("\r\n");
+
+bool isLineStart(const SharedText &text, qsizetype place)
+{
+    return place == 0 ||
+           (place >= lineEnd.size() && text.mid(place - lineEnd.size(), lineEnd.size()) == lineEnd);
+}
+
+bool isLineEnd(const SharedText &text, qsizetype place)
+{
+    return place == text.size() || isLineStart(text, place) ||
+           text.mid(place, std::min(lineEnd.size(), text.size() - place)) == lineEnd;
+}
+
+bool hasLines(const SharedText &text, qsizetype start, const QString &lines)
+{
+    const qsizetype end = start + lines.size();
+    return start >= 0 && end <= text.size() && isLineStart(text, start) && isLineEnd(text, end) &&
+           text.mid(start, lines.size()) == lines;
+}
+
+} // namespace
 
 void ColouredSource::set(const SharedText &text)
 {
@@ -10,10 +36,29 @@ void ColouredSource::set(const SharedText &text)
     m_isKnown = true;
     m_isFixed = true;
     m_checked = 0;
+    m_unfixed = {};
+}
+
+// They stand as far from the start, or from the end, as before.
+bool ColouredSource::findUnfixedAgain(const SharedText &text)
+{
+    if (m_isFixed || m_unfixed.lines.isEmpty())
+        return false;
+    for (const qsizetype start : {m_unfixed.start, m_unfixed.start + text.size() - m_text.size()}) {
+        if (!hasLines(text, start, m_unfixed.lines))
+            continue;
+        m_unfixed.start = start;
+        return true;
+    }
+    return false;
 }
 
 void ColouredSource::become(const SharedText &text, bool otherLinesAreFixed)
 {
+    if (findUnfixedAgain(text)) {
+        m_text = text;
+        return;
+    }
     const bool areFixed = isFixed() && otherLinesAreFixed;
     set(text);
     if (areFixed)
@@ -31,8 +76,19 @@ QString ColouredSource::nextLines() const
     constexpr qsizetype slice = 0x8000;
     const qsizetype left = m_text.size() - m_checked;
     const QString lines = m_text.mid(m_checked, std::min(slice, left));
-    return lines.size() == left ? lines
-                                : lines.first(lines.lastIndexOf(QStringLiteral("\r\n")) + 2);
+    return lines.size() == left ? lines : lines.first(lines.lastIndexOf(lineEnd) + 2);
+}
+
+// One line, if it is so by itself.
+ColouredSource::Unfixed ColouredSource::unfixedIn(const QString &lines, const Colour &colour) const
+{
+    qsizetype start = 0;
+    for (const QString &line : lines.split(lineEnd)) {
+        if (!staysSame(colour(line), colour))
+            return {line, m_checked + start};
+        start += line.size() + lineEnd.size();
+    }
+    return {lines, m_checked};
 }
 
 bool ColouredSource::check(const Colour &colour)
@@ -41,6 +97,8 @@ bool ColouredSource::check(const Colour &colour)
         return false;
     const QString lines = nextLines();
     m_isFixed = lines.size() > 1 && staysSame(colour(lines), colour);
+    if (!m_isFixed)
+        m_unfixed = lines.size() > 1 ? unfixedIn(lines, colour) : Unfixed();
     m_checked += lines.size();
     return m_isFixed && m_checked < m_text.size();
 }

@@ -30,12 +30,22 @@ public:
     static bool staysSame(const ColouredText &coloured, const Colour &colour);
 
 private:
+    // Lines that colouring once more would change, and where they stand.
+    struct Unfixed
+    {
+        QString lines;
+        qsizetype start = 0;
+    };
+
     QString nextLines() const;
+    Unfixed unfixedIn(const QString &lines, const Colour &colour) const;
+    bool findUnfixedAgain(const SharedText &text);
 
     SharedText m_text;
     bool m_isKnown = false;
     bool m_isFixed = false; // as far as it is checked
     qsizetype m_checked = 0;
+    Unfixed m_unfixed; // where it is not
 };
 
 } // namespace ORVTListview

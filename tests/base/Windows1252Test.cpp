@@ -43,9 +43,9 @@ TEST(Windows1252, KeepsTheNumbersOutsideItsOwnRange)
 TEST(Windows1252, UndefinedBytesAreTheControlCharactersOfTheirNumber)
 {
     for (const char16_t number : {u'\x81', u'\x8D', u'\x8F', u'\x90', u'\x9D'}) {
-        const QByteArray byte(1, static_cast<char>(number));
-        EXPECT_EQ(fromWindows1252(byte), QString(QChar(number)));
-        EXPECT_EQ(toWindows1252(QString(QChar(number))), byte);
+        const QByteArray single(1, static_cast<char>(number));
+        EXPECT_EQ(fromWindows1252(single), QString(QChar(number)));
+        EXPECT_EQ(toWindows1252(QString(QChar(number))), single);
     }
 }
 

@@ -1,16 +1,11 @@
 #include "faults/FailingAllocation.h"
 
+#include "faults/ProgramPlace.h"
+
 #include <ORVTListview/Error.h>
 
-#include <cstdint>
 #include <cstdlib>
 #include <new>
-
-extern "C" {
-// Where the program itself, without its libraries, stands: the linker's.
-extern const char __executable_start; // NOLINT(bugprone-reserved-identifier)
-extern const char etext;
-}
 
 namespace {
 
@@ -18,17 +13,10 @@ thread_local int callsLeft = 0; // 0: none fails
 thread_local bool staysShort = false;
 thread_local bool failed = false;
 
-// The libraries' and ours are told apart by who has called.
-bool isOurs(const void *caller)
-{
-    const auto place = reinterpret_cast<std::uintptr_t>(caller);
-    return place >= reinterpret_cast<std::uintptr_t>(&__executable_start) &&
-           place < reinterpret_cast<std::uintptr_t>(&etext);
-}
-
 bool isToFail(const void *caller)
 {
-    if (callsLeft == 0 || !isOurs(caller))
+    // The libraries' and ours are told apart by who has called.
+    if (callsLeft == 0 || !isInProgram(caller))
         return false;
     if (callsLeft > 1) {
         --callsLeft;

@@ -54,6 +54,11 @@ def skips(name, status, output):
     return found | set(GTEST_SKIP.findall(output))
 
 
+def unexplained_skips(name, status, output):
+    return {skip for skip in skips(name, status, output)
+            if not any(fnmatch.fnmatchcase(skip, pattern) for pattern in names_in(SKIPS))}
+
+
 def names_in(file):
     lines = file.read_text().splitlines()
     return [line.split()[0] for line in lines if line and not line.startswith("#")]
@@ -78,7 +83,37 @@ def without(left_out, name, command, values):
     return [*command, *wanted]
 
 
-def main():
+def ends_well(command, values):
+    """Whether what is left out passes by itself, without being skipped."""
+    try:
+        result = subprocess.run(command, env=values, check=False, timeout=60,
+                                stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                stderr=subprocess.STDOUT)
+    except subprocess.TimeoutExpired:
+        return False
+    output = result.stdout.decode(errors="replace")
+    return result.returncode == 0 and not skips("", 0, output)
+
+
+def alone(entry, command):
+    """The command, with that function of the test alone."""
+    if command[-1].startswith("--gtest_filter="):
+        return [*command[:-1], f"--gtest_filter={entry}"]
+    return [*command, entry.split(".")[1]]
+
+
+def wrongly_left_out(left_out, name, command, values):
+    """The functions that need not be left out: they pass, or are not there (a program of
+    core tests that runs none of its functions passes, too)."""
+    names = [entry for entry in left_out if entry.startswith(f"{name}.")]
+    known = names
+    if names and not command[-1].startswith("--gtest_filter="):
+        known = [f"{name}.{function}" for function in functions_of(command, values)]
+    return [entry for entry in names
+            if entry not in known or ends_well(alone(entry, command), values)]
+
+
+def arguments_given():
     parser = argparse.ArgumentParser()
     parser.add_argument("--name", required=True)
     parser.add_argument("--folder", type=pathlib.Path, required=True)
@@ -86,13 +121,18 @@ def main():
     parser.add_argument("--set", action="append", default=[])
     parser.add_argument("--left-out", type=pathlib.Path)
     parser.add_argument("command", nargs="+")
-    arguments = parser.parse_args()
+    return parser.parse_args()
+
+
+def main():
+    arguments = arguments_given()
     settings = (["QT_QPA_PLATFORM=xcb"] if arguments.display else []) + arguments.set
     values = environment(arguments.folder, settings)
     left_out = names_in(arguments.left_out) if arguments.left_out else []
     if arguments.name in left_out:
-        print("Left out")
-        sys.exit(SKIPPED)
+        unneeded = ends_well(arguments.command, values)
+        print(f"{arguments.name} need not be left out" if unneeded else "Left out")
+        sys.exit(1 if unneeded else SKIPPED)
     command = without(left_out, arguments.name, arguments.command, values)
     if arguments.display:
         command = with_display(command)
@@ -101,14 +141,15 @@ def main():
         stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     sys.stdout.buffer.write(result.stdout)
     output = result.stdout.decode(errors="replace")
-    unexplained = {
-        skip for skip in skips(arguments.name, result.returncode, output)
-        if not any(fnmatch.fnmatchcase(skip, pattern) for pattern in names_in(SKIPS))}
+    unexplained = unexplained_skips(arguments.name, result.returncode, output)
     for name in sorted(unexplained):
         print(f"{name} was skipped, and tests/skips.txt does not say why it may be")
+    unneeded = wrongly_left_out(left_out, arguments.name, arguments.command, values)
+    for name in unneeded:
+        print(f"{name} need not be left out")
     if result.returncode < 0:
         print(f"Ended by signal {-result.returncode}")
-    failed = bool(unexplained) or result.returncode not in (0, SKIPPED)
+    failed = bool(unexplained or unneeded) or result.returncode not in (0, SKIPPED)
     log = arguments.folder.parent / f"{arguments.folder.name}.log"
     log.write_text(output + ("\nFAILED\n" if failed else "\nPASSED\n"))
     sys.exit(1 if failed else 0)

@@ -298,6 +298,27 @@ private Q_SLOTS:
         QVERIFY(programs.dock(2).y() >= programs.dock(1).geometry().bottom());
     }
 
+    void aViewThatComesBackHasItsRoomAgain()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        views.choose(u"Show Beside"_s);
+        QCoreApplication::processEvents();
+        views.place().resizeDocks({&views.dock(dsCode), &views.dock(dsInput)}, {520, 240},
+                                  Qt::Horizontal);
+        QCoreApplication::processEvents();
+        const int room = views.dock(dsInput).width();
+        QVERIFY(views.dock(dsCode).width() > room + 100);
+        views.choose(u"Own Window"_s);
+        QTest::qWait(50);
+        QVERIFY(views.dock(dsInput).isFloating());
+        views.choose(u"Own Window"_s);
+        QTest::qWait(50);
+        QVERIFY(!views.dock(dsInput).isFloating());
+        QVERIFY2(std::abs(views.dock(dsInput).width() - room) < 20,
+                 qPrintable(QString::number(views.dock(dsInput).width())));
+    }
+
     void aDamagedArrangementIsLeftOut()
     {
         QTemporaryDir folder;

@@ -1,6 +1,7 @@
-#include "WorkbenchTest.h"
+#include "TwoPrograms.h"
 
 #include "support/TestProgram.h"
+#include "workbench/TitleWidth.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/export/PaperColours.h"
 #include "workbench/export/PaperText.h"
@@ -206,6 +207,51 @@ private Q_SLOTS:
         QVERIFY(readFile(workbench.folder.filePath(u"by menu.rtf"_s)).startsWith("{\\rtf1"));
     }
 
+    void ofSeveralProgramsTheUserSaysWhich()
+    {
+        TwoPrograms two("Fan1 = 1\n", "REM night\n");
+        two.views().enterProgram(1);
+        QStringList offered;
+        bool isTitleCut = true;
+        NextDialog<QInputDialog> which([&](QInputDialog &asked) {
+            offered = asked.comboBoxItems();
+            isTitleCut = asked.width() < titleWidth(asked);
+            asked.setTextValue(u"Night"_s);
+            asked.accept();
+        });
+        NextDialog<QFileDialog> where([&](QFileDialog &files) {
+            files.setDirectory(two.folder.path());
+            files.selectFile(u"night"_s);
+            QMetaObject::invokeMethod(&files, "accept", Qt::QueuedConnection);
+        });
+        two.choose(u"Export…"_s);
+        QVERIFY(which.wasThere() && where.wasThere());
+        QCOMPARE(offered, QStringList({u"a.prog"_s, u"Night"_s, u"All programs"_s}));
+        QVERIFY(!isTitleCut);
+        QVERIFY(readFile(two.folder.filePath(u"night.rtf"_s)).contains("REM night"));
+    }
+
+    void allProgramsAreOnePdf()
+    {
+        TwoPrograms two("Fan1 = 1\n", "REM night\n");
+        two.views().enterProgram(1);
+        NextDialog<QInputDialog> which([&](QInputDialog &asked) {
+            asked.setTextValue(u"All programs"_s);
+            asked.accept();
+        });
+        QStringList kinds;
+        NextDialog<QFileDialog> where([&](QFileDialog &files) {
+            kinds = files.nameFilters();
+            files.setDirectory(two.folder.path());
+            files.selectFile(u"all"_s);
+            QMetaObject::invokeMethod(&files, "accept", Qt::QueuedConnection);
+        });
+        two.choose(u"Export…"_s);
+        QVERIFY(which.wasThere() && where.wasThere());
+        QCOMPARE(kinds, QStringList(u"PDF (*.pdf)"_s));
+        QCOMPARE(readFile(two.folder.filePath(u"all.pdf"_s)).count("/Type /Page\n"), 2);
+    }
+
     void aPdfHasAllPages()
     {
         QByteArray program;
@@ -230,7 +276,7 @@ private Q_SLOTS:
         {
             QPdfWriter writer(&pdf);
             writer.setPageRanges(QPageRanges::fromString(u"2-3"_s));
-            QVERIFY(printProgram(paper.document(), u"one"_s, writer));
+            QVERIFY(printPrograms({{u"one"_s, &paper.document()}}, writer));
         }
         QCOMPARE(pdf.data().count("/Type /Page\n"), 2);
     }

@@ -4,7 +4,9 @@
 #include "workbench/help/KeyList.h"
 
 #include <QtCore/QRegularExpression>
+#include <QtGui/QAccessible>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
 
 using namespace Qt::StringLiterals;
@@ -50,8 +52,35 @@ private Q_SLOTS:
         QStringList listed;
         for (const QString &line : shown(KeyList(*workbench.window.menuBar(), nullptr)))
             listed.append(line.section(u" = "_s, 1));
-        QCOMPARE(listed, keys);
-        QVERIFY(listed.size() > 30);
+        QCOMPARE(listed.first(keys.size()), keys);
+        QVERIFY(keys.size() > 30);
+    }
+
+    void keysThatTheViewsHaveAreListedBehindThem()
+    {
+        const WorkbenchWindow workbench;
+        const KeyList list(*workbench.window.menuBar(), nullptr);
+        const QStringList lines = shown(list);
+        for (const QString &line : {u"Indent the selected lines = Tab"_s,
+                                    u"Fill the cells from the topmost one = Ctrl+D"_s,
+                                    u"Move the program up = Alt+Shift+Up"_s,
+                                    u"Menu of what has the focus = Shift+F10; Menu"_s})
+            QVERIFY2(lines.contains(line), qPrintable(line));
+        list.findChild<QLineEdit *>()->setText(u"f10"_s);
+        QCOMPARE(shown(list), QStringList(u"Menu of what has the focus = Shift+F10; Menu"_s));
+    }
+
+    void theButtonThatEmptiesTheFieldHasAName()
+    {
+        const WorkbenchWindow workbench;
+        const KeyList list(*workbench.window.menuBar(), nullptr);
+        auto *field = list.findChild<QLineEdit *>();
+        field->setText(u"f"_s);
+        const auto *button = field->findChild<QToolButton *>();
+        QVERIFY(button);
+        const QAccessibleInterface *access =
+            QAccessible::queryAccessibleInterface(const_cast<QToolButton *>(button));
+        QCOMPARE(access->text(QAccessible::Name), u"Empty the field"_s);
     }
 
     void anyPartFindsACommandOrAKey()
@@ -62,7 +91,8 @@ private Q_SLOTS:
         QTest::keyClicks(part, u"DUPLIC"_s);
         QCOMPARE(shown(list), QStringList(u"Lines: Duplicate = Ctrl+D"_s));
         part->setText(u"ctrl+d"_s);
-        QCOMPARE(shown(list), QStringList(u"Lines: Duplicate = Ctrl+D"_s));
+        QCOMPARE(shown(list), QStringList({u"Lines: Duplicate = Ctrl+D"_s,
+                                           u"Fill the cells from the topmost one = Ctrl+D"_s}));
         part->setText(u"nothing has this"_s);
         QCOMPARE(shown(list), QStringList());
         part->clear();

@@ -1,12 +1,10 @@
 // Several programs in one project: added, renamed and removed, each with its own undo, and
-// one analysis, renaming, saving and recovery for all.
+// steps that reach all of them.
 
 #include "TwoPrograms.h"
 
-#include "project/RecoveryFile.h"
 #include "support/TestProgram.h"
 #include "workbench/EditorViewMenu.h"
-#include "workbench/saving/RecoveryKeeper.h"
 #include "workbench/settings/Settings.h"
 #include "workbench/views/TableViews.h"
 #include "workbench/views/ViewDock.h"
@@ -15,11 +13,7 @@
 #include <ORVTListview/CodeView.h>
 
 #include <QtCore/QFile>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTabBar>
-#include <QtWidgets/QTreeWidget>
-
-#include <memory>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -300,182 +294,6 @@ private Q_SLOTS:
         QVERIFY(dock.isVisible());
         QVERIFY(two.views().workplace().isAncestorOf(&dock));
         QTRY_VERIFY(two.programs().view(2).RTextBox()->hasFocus());
-    }
-
-    void analysisKnowsWhatTheOtherProgramDoes()
-    {
-        TwoPrograms two("Var1 = Temp1\n", "Fan1 = Var1\nx = 1\n");
-        two.choose(u"Analyse"_s);
-        const QString found = two.resultTexts();
-        QVERIFY2(!found.contains(u"Var1"_s), qPrintable(found)); // read there, written here
-        QVERIFY2(found.startsWith(u"Night: Line 2"_s), qPrintable(found));
-        const QModelIndex row = two.results().model()->index(0, 0);
-        two.views().enterProgram(1);
-        Q_EMIT two.results().clicked(row);
-        QCOMPARE(two.programs().current(), 2);
-        QVERIFY(two.statusTexts().contains(u"Row: 2"_s));
-    }
-
-    // F8 and Shift+F8 go through all of them, round at the ends.
-    void problemsAreWalkedInAllPrograms()
-    {
-        TwoPrograms two("x = 1\nFan1 = Temp1\ny = 1\n", "Fan1 = 1\nz = 1\n");
-        two.choose(u"Analyse"_s);
-        two.views().enterProgram(1);
-        const auto place = [&two] {
-            const QTextCursor caret = two.code().RTextBox()->textCursor();
-            return QString::number(two.programs().current()) + u' ' +
-                   QString::number(caret.blockNumber() + 1);
-        };
-        const auto walk = [&](const QString &caption) {
-            for (QAction *action : two.window.findChildren<QAction *>()) {
-                if (action->text().remove(u'&') == caption)
-                    action->trigger();
-            }
-            return place();
-        };
-        two.code().RTextBox()->moveCursor(QTextCursor::Start);
-        QStringList places{walk(u"Next Problem"_s)};
-        while (places.size() < 30 && !(places.size() > 2 && places.constLast() == places.at(0)))
-            places.append(walk(u"Next Problem"_s));
-        places.removeDuplicates();
-        QVERIFY2(places.contains(u"1 3"_s), qPrintable(places.join(u',')));
-        QVERIFY2(places.contains(u"2 2"_s), qPrintable(places.join(u',')));
-        QCOMPARE(place(), places.at(0)); // round
-        two.views().enterProgram(1);
-        two.code().RTextBox()->moveCursor(QTextCursor::Start);
-        QVERIFY2(walk(u"Previous Problem"_s).startsWith(u"2 "_s), qPrintable(place()));
-    }
-
-    void usesAreThoseOfAllPrograms()
-    {
-        TwoPrograms two;
-        two.programs().view(1).RTextBox()->setSelStart(9);
-        two.choose(u"All Uses"_s);
-        const QString found = two.resultTexts();
-        QVERIFY2(found.contains(u"a.prog, line 1"_s), qPrintable(found));
-        QVERIFY2(found.contains(u"Night, line 2"_s), qPrintable(found));
-    }
-
-    void aTextIsFoundInAllPrograms()
-    {
-        TwoPrograms two("Fan1 = Temp1\n", "REM fan1, FAN1\n");
-        two.give(u"Find In Programs…"_s, u"fan1"_s);
-        QCOMPARE(two.resultTexts(), u"a.prog, line 1 Fan1 = Temp1|Night, line 1 REM fan1, FAN1|"
-                                    "Night, line 1 REM fan1, FAN1"_s);
-        Q_EMIT two.results().clicked(two.results().model()->index(2, 0));
-        RichTextBox &box = *two.programs().view(2).RTextBox();
-        QVERIFY(two.window.focusWidget() == &box);
-        QCOMPARE(box.SelText(), u"FAN1"_s);
-        two.give(u"Find In Programs…"_s, u"nowhere"_s);
-        QVERIFY(two.window.statusBar()->currentMessage().contains(u"nowhere"_s));
-    }
-
-    void noWayLeadsIntoOneThatHasGone()
-    {
-        TwoPrograms two;
-        two.give(u"Find In Programs…"_s, u"Temp1"_s);
-        Q_EMIT two.results().clicked(two.results().model()->index(1, 0));
-        QCOMPARE(two.programs().current(), 2);
-        Q_EMIT two.results().clicked(two.results().model()->index(0, 0));
-        QCOMPARE(two.programs().current(), 1);
-        two.views().enterProgram(2);
-        const NextMessage question(QMessageBox::Yes);
-        two.choose(u"Remove Program…"_s);
-        QCOMPARE(two.resultTexts(), u"Line 1 Fan1 = Temp1"_s);
-        two.choose(u"Back"_s);
-        QVERIFY(two.programs().dock(2).isHidden());
-        QCOMPARE(two.programs().current(), 1);
-    }
-
-    void theQuestionSpeaksOfWhatIsNotSaved()
-    {
-        TwoPrograms two;
-        two.views().enterProgram(2);
-        const auto asked = [&two] {
-            const NextMessage question(QMessageBox::No);
-            two.choose(u"Remove Program…"_s);
-            return question.text();
-        };
-        QVERIFY2(asked().endsWith(u"b.prog stays where it is."_s), qPrintable(asked()));
-        two.type(2, u"REM x "_s);
-        QVERIFY2(asked().endsWith(u"comes back only with Undo."_s), qPrintable(asked()));
-    }
-
-    void aNameIsNoMarkup()
-    {
-        TwoPrograms two;
-        two.views().enterProgram(2);
-        two.give(u"Rename Program…"_s, u"<b>x</b> & y"_s);
-        std::unique_ptr<NextDialog<QInputDialog>> again;
-        NextDialog<QInputDialog> first([&again](QInputDialog &asked) {
-            again = std::make_unique<NextDialog<QInputDialog>>([](QInputDialog &reason) {
-                const auto *label = reason.findChild<QLabel *>();
-                QCOMPARE(label->textFormat(), Qt::PlainText);
-                QVERIFY2(label->text().contains(u"<b>x</b> && y"_s), qPrintable(label->text()));
-                reason.reject();
-            });
-            asked.setTextValue(u"<b>x</b> & y"_s);
-            asked.accept();
-        });
-        two.choose(u"Add Program…"_s);
-        QVERIFY(again && again->wasThere());
-        const NextMessage question(QMessageBox::No);
-        two.choose(u"Remove Program…"_s);
-        QVERIFY2(question.text().contains(u"<b>x</b> & y"_s), qPrintable(question.text()));
-    }
-
-    void leavingNamesOneOrSeveral()
-    {
-        TwoPrograms two;
-        const auto asked = [&two] {
-            const NextMessage question(QMessageBox::Cancel);
-            two.window.close();
-            return question.text();
-        };
-        two.type(2, u"REM x "_s);
-        QVERIFY2(asked().startsWith(u"The program Night has changes"_s), qPrintable(asked()));
-        two.type(1, u"REM x "_s);
-        QVERIFY2(asked().startsWith(u"The programs a.prog, Night have changes"_s),
-                 qPrintable(asked()));
-    }
-
-    void leavingSpeaksOfTheProject()
-    {
-        TwoPrograms two;
-        two.give(u"Add Program…"_s, u"D"_s);
-        const NextMessage question(QMessageBox::Cancel);
-        QVERIFY(!two.window.close());
-        QVERIFY2(question.text().startsWith(u"The project two has"_s), qPrintable(question.text()));
-    }
-
-    void whatWasTypedInBothIsKeptForRecovery()
-    {
-        TwoPrograms two;
-        two.type(1, u"REM one "_s);
-        two.type(2, u"REM two "_s);
-        QVERIFY(two.window.findChild<RecoveryKeeper *>()->keepNow());
-        const auto kept = readRecovery(two.bytes(u"two.json.recovery.txt"_s));
-        QVERIFY(kept);
-        QCOMPARE(kept->programs, QStringList({two.text(1), two.text(2)}));
-    }
-
-    // Tables that make no project keep nobody from the list of the programs.
-    void recoveryHasTheListOfItsTexts()
-    {
-        TwoPrograms two;
-        const Project &project = *two.document().project();
-        two.document().carryOut(ProgramList{project.programs().at(1), project.programs().at(0)});
-        ProjectRow row = project.rows(dsInput).at(0);
-        row.name = u" no name"_s;
-        row.cells[0] = row.name;
-        two.document().carryOut(RowChanges{{dsInput, 1, {}, row}});
-        QVERIFY(!two.window.findChild<RecoveryKeeper *>()->keepNow());
-        const auto kept = readRecovery(two.bytes(u"two.json.recovery.txt"_s));
-        QVERIFY(kept);
-        QCOMPARE(kept->programs, QStringList({two.text(2), two.text(1)}));
-        const ProjectContents contents = readContents(JsonPlace::parse(kept->json, u"two.json"_s));
-        QCOMPARE(contents.programs.at(0).name, u"Night"_s);
     }
 
     void anotherProjectHasItsOwn()

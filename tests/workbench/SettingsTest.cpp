@@ -16,7 +16,6 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QSplitter>
 
@@ -260,26 +259,6 @@ private Q_SLOTS:
         workbench.window.setSettings(settings);
         QCOMPARE(QApplication::palette().color(QPalette::Base), former);
         QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON"_s);
-    }
-
-    // Three to one, as for all that has to be seen to be used.
-    void boxesWithoutATickAreSeenInTheDark()
-    {
-        useTheme(Theme::Dark);
-        QWidget form;
-        QCheckBox check(&form);
-        QRadioButton radio(&form);
-        for (QAbstractButton *button :
-             {static_cast<QAbstractButton *>(&check), static_cast<QAbstractButton *>(&radio)}) {
-            button->resize(40, 40);
-            const QImage picture = button->grab().toImage();
-            double best = 0;
-            for (int x = 0; x < picture.width(); ++x) {
-                const QColor pixel = picture.pixelColor(x, picture.height() / 2);
-                best = std::max(best, contrast(pixel, form.palette().color(QPalette::Window)));
-            }
-            QVERIFY2(best >= 3, qPrintable(QString::number(best)));
-        }
     }
 
     void theLanguageIsChosen()

@@ -57,10 +57,10 @@ class OpenProgram(Workbench):
         (self._window,) = self.visible_windows()
 
     def wait_for_popup(self, other_than=None):
-        """The number of the list or menu that is open."""
+        """The number of the list or menu that is open; a list may have its tip beside it."""
         def popup():
             others = self.visible_windows() - {self._window, other_than}
-            return others.pop() if len(others) == 1 else None
+            return others.pop() if others else None
         return wait_until(popup, "a list or menu open")
 
     def wait_for_no_popup(self):
@@ -199,18 +199,16 @@ class Session:
 
     def _analysis(self):
         bench = self._workbench
-        bench.keys("F6")
-        self._picture("09-analysed")
+        self._picture("09-analysed", lambda: bench.keys("F6"))
         # Past the read button, and a variable that is never set.
-        bench.keys("ctrl+Tab", "Tab", "Home", "Down", "Return")
-        self._picture("10-finding-chosen")
+        self._picture("10-finding-chosen", lambda: bench.keys(
+            "ctrl+Tab", "Tab", "Home", "Down", "Return"))
         bench.type("supplyfanspeed")
         bench.keys("ctrl+End")
         bench.save(HEATING + FANS)
 
     def _compilation(self):
-        self._workbench.keys("ctrl+F6")
-        self._picture("11-compiled")
+        self._picture("11-compiled", lambda: self._workbench.keys("ctrl+F6"))
 
     def _point_and_back(self):
         bench = self._workbench
@@ -234,8 +232,7 @@ class Session:
         bench.wait_for_window("Rename — Workbench")
         bench.keys("space", "Return")  # not in the program
         bench.wait_for_window(CHANGED_TITLE)
-        bench.keys("F5")
-        self._picture("14-reading")
+        self._picture("14-reading", lambda: bench.keys("F5"))
         bench.keys("ctrl+1", "Home", "Down", "Down")  # Code
         bench.save(HEATING + FANS)
         self._picture("15-program-again")
@@ -367,8 +364,8 @@ def run_session(arguments):
         empty_copy_of(arguments.sample, folder)
         workbench = OpenProgram(display, arguments.workbench, folder, options)
 
-        def take_picture(name):
-            display.write_picture(os.path.join(arguments.pictures, name + ".png"))
+        def take_picture(name, after=None):
+            display.write_picture(os.path.join(arguments.pictures, name + ".png"), after)
 
         try:
             kind = HelpedSession if arguments.helped else Session

@@ -52,6 +52,10 @@ class Display:
             HOME=self._folder.name, LC_ALL="C.UTF-8", XDG_RUNTIME_DIR=self._folder.name,
             ORVT_SETTINGS_FILE=os.path.join(self._folder.name, "settings.ini"))
 
+    @property
+    def size(self):
+        return self._size
+
     def __enter__(self):
         try:
             self._start_server()
@@ -149,8 +153,16 @@ class Display:
                 pixels, since = latest, time.monotonic()
         return pixels
 
-    def write_picture(self, path):
-        width, height, pixels = self.settled_pixels()
+    def pixels_after(self, act, seconds=0.4):
+        """The screen, once what was done is to be seen and it has not changed for a while."""
+        before = self.settled_pixels()
+        act()
+        wait_until(lambda: self._pixels() != before, "anything new to be seen")
+        return self.settled_pixels(seconds)
+
+    def write_picture(self, path, after=None):
+        """Of what is there, or of what comes after an act."""
+        width, height, pixels = self.pixels_after(after) if after else self.settled_pixels()
         rgb = bytearray(3 * width * height)
         rgb[0::3], rgb[1::3], rgb[2::3] = pixels[2::4], pixels[1::4], pixels[0::4]
         lines = b"".join(

@@ -68,6 +68,20 @@ try_examples() {
     done
 }
 
+# The archive holds all that the program needs: unpacked elsewhere, it opens its sample.
+try_workbench() {
+    local out=$1 cache=$2 place program picture
+    place=$(mktemp -d)
+    (cd "$place" && cmake -E tar xf "$out/ORVTListview-workbench.zip")
+    program=$place/ORVTListview-workbench/workbench.exe
+    picture=$out/workbench.png
+    rm -f "$picture"
+    WINEPATH= ORVT_SETTINGS_FILE=/dev/null/none \
+        tools/windows/wine "$cache" "$program" --screenshot "$picture"
+    [ -s "$picture" ]
+    rm -rf "$place"
+}
+
 pack() {
     local cache=$1 out=$PWD/build/windows/packages name
     mkdir -p "$out"
@@ -79,5 +93,6 @@ pack() {
     for name in ORVTListview-workbench ORVTListview; do
         (cd "$out" && cmake -E tar cf "$name.zip" --format=zip "$name")
     done
+    try_workbench "$out" "$cache"
     ls -l "$out"/*.zip
 }

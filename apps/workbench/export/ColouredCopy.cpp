@@ -2,6 +2,7 @@
 
 #include "workbench/export/PaperText.h"
 
+#include <ORVTListview/DataObject.h>
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QMimeData>
@@ -20,9 +21,7 @@ void copyWithColours(const RichTextBox &box, const PaperColours &colours)
     auto *data = new QMimeData;
     // The toolkit makes of LF what the platform has.
     data->setText(box.SelText().replace(u"\r\n"_s, u"\n"_s));
-    const QByteArray rtf = selected.rtf().toLatin1(); // what it writes is 7-bit
-    data->setData(u"text/rtf"_s, rtf);
-    data->setData(u"application/rtf"_s, rtf);
+    DataObject(data, DataObject::Side::Source).SetData(selected.rtf(), DataObject::RichText);
     data->setHtml(selected.html({}));
     QGuiApplication::clipboard()->setMimeData(data);
 }

@@ -2,8 +2,11 @@
 
 #include "workbench/export/PaperColours.h"
 
+#include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QStringList>
 
+class QPagedPaintDevice;
 class QWidget;
 
 namespace ORVTListview {
@@ -12,8 +15,9 @@ class ORVListView;
 class Project;
 class ProjectView;
 
-// Takes what the window shows out of it: the program into RTF, HTML, PDF, or onto a
-// printer, always in the colours of paper; a table into CSV or text with tabs.
+// Takes what the window shows out of it: a program into RTF, HTML, PDF, or onto a printer,
+// always in the colours of paper; all of them into one PDF or onto a printer; a table into CSV
+// or text with tabs.
 class Exporting : public QObject
 {
     Q_OBJECT
@@ -26,10 +30,10 @@ public:
     void setColours(const PaperColours &colours) { m_colours = colours; }
     const PaperColours &colours() const { return m_colours; }
 
-    // Asks for the file, and tells what went wrong.
+    // Asks for the file, of several programs which, and tells what went wrong.
     void exportShown();
 
-    // Asks for the printer.
+    // Asks for the printer, of several programs which.
     void print();
 
     // Writes what is shown as the file's name ends: ".rtf", ".html", ".pdf"; ".csv", ".tsv".
@@ -38,11 +42,20 @@ public:
     void exportTo(const QString &fileName);
 
 private:
-    QByteArray programAs(const QString &kind) const;
+    using Programs = QList<qint32>; // none for the table that is shown
+
+    void exportAs(const QString &fileName, const Programs &programs) const;
+    void exportWhereWanted(const Programs &programs);
+    static QStringList kindsOf(const Programs &programs);
+    static QStringList filtersOf(const QStringList &kinds);
+    QByteArray programAs(const QString &kind, qint32 program) const;
+    QByteArray pdfOf(const Programs &programs) const;
+    bool printOn(QPagedPaintDevice &device, const Programs &programs) const;
     QByteArray tableAs(const QString &kind) const;
     ORVListView &list() const;
-    QString title() const;
-    QString shownName() const;
+    QString title(qint32 program) const;
+    QString titleOf(const Programs &programs) const;
+    QString shownName(const Programs &programs) const;
 
     const ProjectView &m_views;
     QWidget &m_window;

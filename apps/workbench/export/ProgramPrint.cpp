@@ -11,6 +11,7 @@
 #include <cmath>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace ORVTListview {
 namespace {
@@ -39,15 +40,22 @@ public:
 
     int count() const { return m_program->pageCount(); }
 
+    // Where a page stands among those of all programs, from 0.
+    struct Number
+    {
+        int page = 0;
+        int pages = 0;
+    };
+
     // Each once, in their order; pages may be left out.
-    void draw(QPainter &painter, int page)
+    void draw(QPainter &painter, int page, Number number)
     {
         painter.setFont(m_program->defaultFont());
         painter.setPen(Qt::black);
         painter.drawText(m_paper, Qt::AlignTop | Qt::AlignLeft, m_title);
-        painter.drawText(
-            m_paper, Qt::AlignBottom | Qt::AlignHCenter,
-            tr("Page %1 of %2").arg(QString::number(page + 1), QString::number(count())));
+        painter.drawText(m_paper, Qt::AlignBottom | Qt::AlignHCenter,
+                         tr("Page %1 of %2")
+                             .arg(QString::number(number.page + 1), QString::number(number.pages)));
         drawNumbers(painter, page);
         drawLines(painter, page);
     }
@@ -99,20 +107,25 @@ private:
 
 } // namespace
 
-bool printProgram(const QTextDocument &program, const QString &title, QPagedPaintDevice &device)
+bool printPrograms(const QList<PrintedProgram> &programs, QPagedPaintDevice &device)
 {
     QPainter painter;
     if (!painter.begin(&device))
         return false;
-    PrintedPages pages(program, title, device);
+    std::vector<PrintedPages> pages;
+    PrintedPages::Number number;
+    for (const PrintedProgram &program : programs)
+        number.pages += pages.emplace_back(*program.text, program.title, device).count();
     const QPageRanges wanted = device.pageRanges();
     bool isFirst = true;
-    for (int page = 0; page < pages.count(); ++page) {
-        if (!wanted.isEmpty() && !wanted.contains(page + 1))
-            continue;
-        if (!std::exchange(isFirst, false) && !device.newPage())
-            return false;
-        pages.draw(painter, page);
+    for (PrintedPages &each : pages) {
+        for (int page = 0; page < each.count(); ++page, ++number.page) {
+            if (!wanted.isEmpty() && !wanted.contains(number.page + 1))
+                continue;
+            if (!std::exchange(isFirst, false) && !device.newPage())
+                return false;
+            each.draw(painter, page, number);
+        }
     }
     return painter.end();
 }

@@ -1,5 +1,8 @@
 #include "workbench/help/KeyList.h"
 
+#include "workbench/ClearButton.h"
+#include "workbench/help/ViewKeys.h"
+
 #include <QtCore/QRegularExpression>
 #include <QtGui/QAction>
 #include <QtGui/QKeySequence>
@@ -37,6 +40,25 @@ void append(QTreeWidgetItem &group, const QMenu &menu, const QString &before)
     }
 }
 
+void appendMenus(QTreeWidget &keys, const QMenuBar &menus)
+{
+    for (const QAction *action : menus.actions()) {
+        auto *group = new QTreeWidgetItem(&keys, {plain(action->text())});
+        append(*group, *action->menu<QMenu *>(), {});
+        group->setHidden(group->childCount() == 0);
+    }
+}
+
+// What no menu has.
+void appendViews(QTreeWidget &keys)
+{
+    for (const ViewKeys &each : keysOfViews()) {
+        auto *group = new QTreeWidgetItem(&keys, {each.view});
+        for (const ViewKeys::Command &command : each.commands)
+            new QTreeWidgetItem(group, {command.text, command.keys});
+    }
+}
+
 } // namespace
 
 KeyList::KeyList(const QMenuBar &menus, QWidget *parent)
@@ -47,14 +69,11 @@ KeyList::KeyList(const QMenuBar &menus, QWidget *parent)
     setWindowTitle(tr("Keys"));
     m_part->setPlaceholderText(tr("Command or key"));
     m_part->setAccessibleName(m_part->placeholderText());
-    m_part->setClearButtonEnabled(true);
+    addClearButton(*m_part);
     m_keys->setHeaderLabels({tr("Command"), tr("Key")});
     m_keys->setAccessibleName(windowTitle());
-    for (const QAction *action : menus.actions()) {
-        auto *group = new QTreeWidgetItem(m_keys, {plain(action->text())});
-        append(*group, *action->menu<QMenu *>(), {});
-        group->setHidden(group->childCount() == 0);
-    }
+    appendMenus(*m_keys, menus);
+    appendViews(*m_keys);
     m_keys->expandAll();
     m_keys->resizeColumnToContents(0);
     connect(m_part, &QLineEdit::textChanged, this, &KeyList::showMatching);

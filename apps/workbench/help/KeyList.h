@@ -8,8 +8,8 @@ class QTreeWidget;
 
 namespace ORVTListview {
 
-// Every command of a menu bar with its keys, as the menus have them now, and a field that
-// finds some by any part of command or key.
+// Every command of a menu bar with its keys, as the menus have them now, those of the views, and
+// a field that finds some by any part of command or key.
 class KeyList : public QDialog
 {
     Q_OBJECT

@@ -10,14 +10,12 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
 
 namespace ORVTListview {
 
@@ -39,16 +37,12 @@ bool canBeFolder(const QString &path)
 } // namespace
 
 NewProjectDialog::NewProjectDialog(const QString &folder, QWidget *parent)
-    : QDialog(parent)
+    : ReasonDialog(tr("New Project"), parent)
     , m_name(new QLineEdit(this))
     , m_folder(new QLineEdit(QDir::toNativeSeparators(folder), this))
-    , m_place(new QLabel(this))
 {
-    setWindowTitle(tr("New Project"));
-    auto *layout = new QVBoxLayout(this);
     addFields();
-    addButtons();
-    layout->setSizeConstraint(QLayout::SetMinimumSize);
+    addEnd(tr("&Create"), 3);
     for (const QLineEdit *field : {m_name, m_folder})
         connect(field, &QLineEdit::textChanged, this, &NewProjectDialog::showPlace);
     showPlace();
@@ -57,33 +51,16 @@ NewProjectDialog::NewProjectDialog(const QString &folder, QWidget *parent)
 
 void NewProjectDialog::addFields()
 {
-    auto *form = new QFormLayout;
-    form->addRow(tr("&Name:"), m_name);
+    form().addRow(tr("&Name:"), m_name);
     auto *browse = new QPushButton(tr("&Browse…"), this);
     browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, &NewProjectDialog::chooseFolder);
     auto *row = new QHBoxLayout;
     row->addWidget(m_folder);
     row->addWidget(browse);
-    form->addRow(tr("&Folder:"), row);
-    static_cast<QLabel *>(form->labelForField(row))->setBuddy(m_folder);
+    form().addRow(tr("&Folder:"), row);
+    static_cast<QLabel *>(form().labelForField(row))->setBuddy(m_folder);
     m_folder->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
-    m_place->setTextFormat(Qt::PlainText);
-    m_place->setWordWrap(true);
-    m_place->setMinimumHeight(3 * fontMetrics().lineSpacing());
-    m_place->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    form->addRow(m_place);
-    static_cast<QVBoxLayout *>(layout())->addLayout(form);
-}
-
-void NewProjectDialog::addButtons()
-{
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-    m_create = buttons->addButton(tr("&Create"), QDialogButtonBox::AcceptRole);
-    m_create->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &NewProjectDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &NewProjectDialog::reject);
-    layout()->addWidget(buttons);
 }
 
 void NewProjectDialog::chooseFolder()
@@ -113,9 +90,8 @@ void NewProjectDialog::showPlace()
         fault = tr("This cannot be a folder.");
     else
         fault = newProjectFault(place());
-    m_create->setEnabled(fault.isEmpty());
-    m_place->setText(fault.isEmpty() ? tr("%1 will be made.").arg(QDir::toNativeSeparators(place()))
-                                     : fault);
+    tell(fault.isEmpty() ? tr("%1 will be made.").arg(QDir::toNativeSeparators(place())) : fault,
+         fault.isEmpty());
 }
 
 void NewProjectDialog::accept()

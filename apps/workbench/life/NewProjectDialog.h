@@ -1,15 +1,13 @@
 #pragma once
 
-#include <QtWidgets/QDialog>
+#include "workbench/ReasonDialog.h"
 
-class QLabel;
 class QLineEdit;
-class QPushButton;
 
 namespace ORVTListview {
 
 // Asks for name and place of a new project, and makes it.
-class NewProjectDialog : public QDialog
+class NewProjectDialog : public ReasonDialog
 {
     Q_OBJECT
 
@@ -23,15 +21,12 @@ public:
 
 private:
     void addFields();
-    void addButtons();
     void chooseFolder();
     void showPlace();
     QString place() const;
 
     QLineEdit *m_name;
     QLineEdit *m_folder;
-    QLabel *m_place;
-    QPushButton *m_create = nullptr;
     QString m_created;
 };
 

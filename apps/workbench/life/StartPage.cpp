@@ -5,9 +5,12 @@
 #include "workbench/life/RecentProjects.h"
 
 #include <QtCore/QDir>
+#include <QtGui/QShowEvent>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
+
+#include <algorithm>
 
 namespace ORVTListview {
 
@@ -50,21 +53,24 @@ void StartPage::retranslate()
 
 void StartPage::showEvent(QShowEvent *event)
 {
-    fill();
+    if (!event->spontaneous())
+        fill();
     ActionPage::showEvent(event);
 }
 
 void StartPage::fill()
 {
-    m_files->clear();
     const QStringList files = m_recent.files();
-    for (const QString &file : files) {
-        auto *item = new QListWidgetItem(shownPlace(file), m_files);
-        item->setData(Qt::UserRole, file);
-        item->setToolTip(PlainTexts::toolTip(QDir::toNativeSeparators(file)));
+    const QListWidgetItem *chosen = m_files->currentItem();
+    const QString file = chosen ? chosen->data(Qt::UserRole).toString() : QString();
+    m_files->clear();
+    for (const QString &each : files) {
+        auto *item = new QListWidgetItem(shownPlace(each), m_files);
+        item->setData(Qt::UserRole, each);
+        item->setToolTip(PlainTexts::toolTip(QDir::toNativeSeparators(each)));
     }
     if (m_files->count() > 0)
-        m_files->setCurrentRow(0);
+        m_files->setCurrentRow(std::max(0, static_cast<int>(files.indexOf(file))));
     for (QWidget *widget : {static_cast<QWidget *>(m_heading), static_cast<QWidget *>(m_files)})
         widget->setVisible(!files.isEmpty());
 }

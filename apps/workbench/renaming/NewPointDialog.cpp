@@ -7,28 +7,20 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFormLayout>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
 
 namespace ORVTListview {
 
 NewPointDialog::NewPointDialog(const ProjectDocument &document, const PointProposal &proposal,
                                QWidget *parent)
-    : QDialog(parent)
+    : ReasonDialog(proposal.title, parent)
     , m_document(document)
     , m_table(new QComboBox(this))
     , m_name(new QLineEdit(proposal.name, this))
-    , m_fault(new QLabel(this))
 {
-    setWindowTitle(proposal.title);
-    auto *layout = new QVBoxLayout(this);
     addFields(proposal);
-    addButtons();
-    layout->setSizeConstraint(QLayout::SetMinimumSize);
+    addEnd(tr("&Add"), 2);
     connect(m_name, &QLineEdit::textChanged, this, &NewPointDialog::showFault);
     connect(m_table, &QComboBox::currentIndexChanged, this, &NewPointDialog::showFault);
     showFault();
@@ -56,27 +48,10 @@ void NewPointDialog::addFields(const PointProposal &proposal)
     }
     m_table->setCurrentIndex(m_table->findData(type == dsCode ? dsVariable : type));
     m_table->setEnabled(proposal.isTableFree);
-    auto *form = new QFormLayout;
-    form->addRow(tr("&Name:"), m_name);
-    form->addRow(tr("&Table:"), m_table);
+    form().addRow(tr("&Name:"), m_name);
+    form().addRow(tr("&Table:"), m_table);
     m_name->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
     m_name->selectAll();
-    m_fault->setTextFormat(Qt::PlainText);
-    m_fault->setWordWrap(true);
-    m_fault->setMinimumHeight(2 * fontMetrics().lineSpacing());
-    m_fault->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    form->addRow(m_fault);
-    static_cast<QVBoxLayout *>(layout())->addLayout(form);
-}
-
-void NewPointDialog::addButtons()
-{
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-    m_add = buttons->addButton(tr("&Add"), QDialogButtonBox::AcceptRole);
-    m_add->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &NewPointDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &NewPointDialog::reject);
-    layout()->addWidget(buttons);
 }
 
 LwType NewPointDialog::type() const
@@ -96,8 +71,7 @@ void NewPointDialog::showFault()
     QString fault;
     if (project && !name().isEmpty())
         fault = project->nameFault(type(), project->rows(type()).size(), name());
-    m_add->setEnabled(project && !name().isEmpty() && fault.isEmpty());
-    m_fault->setText(fault);
+    tell(fault, project && !name().isEmpty() && fault.isEmpty());
 }
 
 } // namespace ORVTListview

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "workbench/ReasonDialog.h"
+
 #include <ORVTListview/Types.h>
 
 #include <QtCore/QString>
-#include <QtWidgets/QDialog>
 
 #include <optional>
 
 class QComboBox;
-class QLabel;
 class QLineEdit;
-class QPushButton;
 
 namespace ORVTListview {
 
@@ -31,7 +30,7 @@ struct NewPoint
 };
 
 // Asks for the table and the name of a new point, and says at once why one cannot be.
-class NewPointDialog : public QDialog
+class NewPointDialog : public ReasonDialog
 {
     Q_OBJECT
 
@@ -48,14 +47,11 @@ public:
 
 private:
     void addFields(const PointProposal &proposal);
-    void addButtons();
     void showFault();
 
     const ProjectDocument &m_document;
     QComboBox *m_table;
     QLineEdit *m_name;
-    QLabel *m_fault;
-    QPushButton *m_add = nullptr;
 };
 
 } // namespace ORVTListview

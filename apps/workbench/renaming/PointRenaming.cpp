@@ -1,5 +1,6 @@
 #include "workbench/renaming/PointRenaming.h"
 
+#include "base/TextRules.h"
 #include "project/PointUses.h"
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
@@ -13,6 +14,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
 
 #include <algorithm>
 #include <limits>
@@ -36,15 +38,24 @@ std::optional<QList<PointUse>> chosenOf(const RenameDialog::Renamed &renamed, QW
     return chosen;
 }
 
-// With a number behind it that no other point has. Names from elsewhere may be such that no
-// number helps; then the user is told why.
+// With the first number behind it that no other point has; the names are looked through once.
+// Names from elsewhere may be such that no number helps; then the user is told why.
 QString freeName(const Project &project, LwType type, const QString &name)
 {
-    const qsizetype row = project.rows(type).size();
-    for (int number = 2; number < std::numeric_limits<qint16>::max(); ++number) {
+    QSet<QString> taken;
+    for (const LwType each : projectTypes()) {
+        for (const ProjectRow &row : project.rows(each))
+            taken.insert(foldedCase(row.name));
+    }
+    constexpr int mostTries = 100; // numbers that no point has and that are refused
+    int tries = 0;
+    for (int number = 2; tries < mostTries; ++number) {
         QString free = name + QString::number(number);
-        if (project.nameFault(type, row, free).isEmpty())
+        if (taken.contains(foldedCase(free)))
+            continue;
+        if (project.nameFault(type, project.rows(type).size(), free).isEmpty())
             return free;
+        ++tries;
     }
     return name;
 }

@@ -9,6 +9,41 @@ namespace {
 
 constexpr QRgb frame = 0x8d9097; // three times as bright as windows, menus and lists
 constexpr QRgb disabledFrame = 0x5a5d63;
+constexpr double corner = 2;
+
+enum class Shape { Box, Field, Round };
+
+QColor frameColour(const QStyleOption &option, Shape shape)
+{
+    if (!option.state.testFlag(QStyle::State_Enabled))
+        return disabledFrame;
+    const bool isWrittenIn = shape == Shape::Field && option.state.testFlag(QStyle::State_HasFocus);
+    return isWrittenIn ? option.palette.color(QPalette::Link) : QColor(frame);
+}
+
+void drawFrame(const QStyleOption &option, Shape shape, QPainter &painter)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, shape != Shape::Box);
+    painter.setPen(frameColour(option, shape));
+    painter.setBrush(Qt::NoBrush);
+    const QRectF edge = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (shape == Shape::Round)
+        painter.drawEllipse(edge);
+    else if (shape == Shape::Field)
+        painter.drawRoundedRect(edge, corner, corner);
+    else
+        painter.drawRect(edge);
+    painter.restore();
+}
+
+bool hasFrame(const QStyleOptionComplex &option)
+{
+    if (const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(&option))
+        return box->frame;
+    const auto *box = qstyleoption_cast<const QStyleOptionSpinBox *>(&option);
+    return box && box->frame;
+}
 
 } // namespace
 
@@ -21,20 +56,20 @@ void DarkStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
                               QPainter *painter, const QWidget *widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const bool isRound = element == PE_IndicatorRadioButton;
-    if (!isRound && element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck)
-        return;
-    const bool isEnabled = option->state.testFlag(State_Enabled);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, isRound);
-    painter->setPen(QColor(isEnabled ? frame : disabledFrame));
-    painter->setBrush(Qt::NoBrush);
-    const QRectF edge = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    if (isRound)
-        painter->drawEllipse(edge);
-    else
-        painter->drawRect(edge);
-    painter->restore();
+    if (element == PE_IndicatorRadioButton)
+        drawFrame(*option, Shape::Round, *painter);
+    else if (element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck)
+        drawFrame(*option, Shape::Box, *painter);
+    else if (element == PE_FrameLineEdit)
+        drawFrame(*option, Shape::Field, *painter);
+}
+
+void DarkStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                   QPainter *painter, const QWidget *widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (hasFrame(*option))
+        drawFrame(*option, Shape::Field, *painter);
 }
 
 } // namespace ORVTListview

@@ -4,8 +4,8 @@
 
 namespace ORVTListview {
 
-// The toolkit's style that draws with the palette, which frames boxes and buttons darker than
-// the window: on a dark ground boxes without a tick are not seen.
+// The toolkit's style that draws with the palette, which frames boxes and fields darker than
+// the window: on a dark ground boxes without a tick, and empty fields, are not seen.
 class DarkStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -15,6 +15,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget) const override;
 };
 
 } // namespace ORVTListview

@@ -4,8 +4,18 @@
 
 #include <QtWidgets/QMainWindow>
 
+#include <algorithm>
+
 namespace ORVTListview {
 namespace {
+
+// Whether one of them has got less than half of what it would have.
+bool isOneCrowded(const QList<QDockWidget *> &docks, int part, Qt::Orientation orientation)
+{
+    return std::ranges::any_of(docks, [part, orientation](const QDockWidget *dock) {
+        return (orientation == Qt::Horizontal ? dock->width() : dock->height()) < part / 2;
+    });
+}
 
 void share(const QList<QDockWidget *> &docks, int room, Qt::Orientation orientation,
            QMainWindow &place)
@@ -13,6 +23,8 @@ void share(const QList<QDockWidget *> &docks, int room, Qt::Orientation orientat
     if (docks.size() < 2)
         return;
     const int part = room / static_cast<int>(docks.size());
+    if (!isOneCrowded(docks, part, orientation))
+        return; // as the user has it
     place.resizeDocks(docks, QList<int>(docks.size(), part), orientation);
 }
 

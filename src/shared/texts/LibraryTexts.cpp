@@ -200,6 +200,8 @@ constexpr LibraryText texts[] = {
     {QT_TRANSLATE_NOOP("ORVTListview", "There is not enough room here."), Message},
     //: Behind a list of cells: so many are not listed
     {QT_TRANSLATE_NOOP("ORVTListview", "and %1 more"), Status},
+    //: The button in a field by which the rows of a table are filtered
+    {QT_TRANSLATE_NOOP("ORVTListview", "Empty the filter"), ToolTip},
     //: The header of a column, for screen readers; %1 is its text
     {QT_TRANSLATE_NOOP("ORVTListview", "%1, sorted upwards"), ToolTip},
     //: The header of a column, for screen readers; %1 is its text

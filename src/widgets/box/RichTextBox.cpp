@@ -4,6 +4,7 @@
 #include "base/TextSearch.h"
 #include "rtf/RtfReader.h"
 #include "rtf/RtfWriter.h"
+#include "widgets/box/BoxAccess.h"
 #include "widgets/box/BoxColours.h"
 #include "widgets/box/BoxLayers.h"
 #include "widgets/box/BoxLayout.h"
@@ -83,6 +84,7 @@ QString putParts(const RichTextBox::NextPart &next, bool isLate, QTextDocument &
 RichTextBox::RichTextBox(QWidget *parent)
     : QPlainTextEdit(parent)
 {
+    installBoxAccess();
     auto *text = new QTextDocument(this);
     text->setDefaultFont(font());
     auto *layout = new BoxLayout(*text, *viewport());

@@ -7,6 +7,7 @@
 #include "widgets/input/FieldMenu.h"
 
 #include <QtGui/QAccessible>
+#include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
@@ -24,6 +25,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int clearButton = 28; // what a field keeps free for it, at most
+
+// The toolkit gives its button none; it tells what its action says.
+void nameClearButton(const QLineEdit &line)
+{
+    for (QAction *action : line.findChildren<QAction *>(Qt::FindDirectChildrenOnly))
+        action->setText(Localise(u"Empty the filter"_s));
+}
 
 } // namespace
 
@@ -174,6 +182,7 @@ void FilterFields::refresh()
         field.line->setPlaceholderText(name);
         field.line->setAccessibleName(
             isAny ? name : u"%1: %2"_s.arg(name, m_tools.table.columnText(field.column)));
+        nameClearButton(*field.line);
         const QString text = m_tools.order.filter(field.column);
         if (field.line->text() != text && !field.isWaiting)
             field.line->setText(text);

@@ -5,6 +5,7 @@
 #include "widgets/grid/CellSteps.h"
 #include "widgets/grid/GridClipboard.h"
 #include "widgets/grid/RowEditing.h"
+#include "widgets/input/VirtualKeys.h"
 
 #include <QtCore/QHash>
 #include <QtGui/QKeyEvent>
@@ -20,9 +21,7 @@ Qt::KeyboardModifiers modifiersOf(const QKeyEvent &event)
 
 bool isTyped(const QKeyEvent &event)
 {
-    return !event.text().isEmpty() && event.text().front().isPrint() &&
-           event.text() != QStringView(u" ") &&
-           (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    return isTyping(event) && event.text().front().isPrint() && event.text() != QStringView(u" ");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "base/ThreadState.h"
 #include "widgets/input/DragData.h"
+#include "widgets/input/RichTextNames.h"
 #include <ORVTListview/Error.h>
 
 #include <QtCore/QPointer>
@@ -49,6 +50,33 @@ QList<QUrl> fileUrls(const QStringList &paths)
     return urls;
 }
 
+// The MIME types that a format goes by, the usual one first.
+QStringList namesOf(qint16 format)
+{
+    if (format == DataObject::RichText)
+        return richTextNames();
+    const QString type = DataObject::MimeType(format);
+    return type.isEmpty() ? QStringList() : QStringList(type);
+}
+
+// That under which the data have it; empty for none.
+QString presentName(const QMimeData &data, qint16 format)
+{
+    for (const QString &name : namesOf(format)) {
+        if (data.hasFormat(name))
+            return name;
+    }
+    return {};
+}
+
+// Some programs hand on the end marks of their texts, too.
+QString withoutEndMarks(QByteArray text)
+{
+    while (text.endsWith('\0'))
+        text.chop(1);
+    return QString::fromUtf8(text);
+}
+
 void put(QMimeData &data, const QVariant &value, qint16 format)
 {
     switch (format) {
@@ -62,7 +90,8 @@ void put(QMimeData &data, const QVariant &value, qint16 format)
         data.setUrls(fileUrls(value.toStringList()));
         break;
     case DataObject::RichText:
-        data.setData(DataObject::MimeType(format), value.toString().toUtf8());
+        for (const QString &name : namesOf(format))
+            data.setData(name, value.toString().toUtf8());
         break;
     default:
         data.setData(DataObject::MimeType(format), value.toByteArray());
@@ -105,6 +134,8 @@ qint16 DataObject::FormatNumber(const QString &MimeType)
         if (MimeType == known.mimeType)
             return known.number;
     }
+    if (richTextNames().contains(MimeType))
+        return RichText;
     auto &others = threadPart<OtherFormats>();
     if (!others.contains(MimeType))
         others.append(MimeType);
@@ -122,8 +153,7 @@ QString DataObject::MimeType(qint16 Format)
 
 bool DataObject::GetFormat(qint16 Format) const
 {
-    const QString type = MimeType(Format);
-    return d->data && !type.isEmpty() && d->data->hasFormat(type);
+    return d->data && !presentName(*d->data, Format).isEmpty();
 }
 
 QVariant DataObject::GetData(qint16 Format) const
@@ -139,7 +169,7 @@ QVariant DataObject::GetData(qint16 Format) const
     case Files:
         return localPaths(*d->data);
     case RichText:
-        return QString::fromUtf8(d->data->data(MimeType(Format)));
+        return withoutEndMarks(d->data->data(presentName(*d->data, Format)));
     default:
         return d->data->data(MimeType(Format));
     }
@@ -156,15 +186,17 @@ void DataObject::SetData(const QVariant &Value, qint16 Format)
 {
     const QString member = u"DataObject.SetData"_s;
     QMimeData &data = sourceData(member);
-    const QString type = MimeType(Format);
-    if (type.isEmpty())
+    const QStringList names = namesOf(Format);
+    if (names.isEmpty())
         throw Error(InvalidCall, member, u"There is no format %1"_s.arg(Format));
     if (Value.isValid() && !fits(Value, Format))
         throw Error(TypeMismatch, member, u"Type mismatch"_s);
-    if (Value.isValid())
+    if (Value.isValid()) {
         put(data, Value, Format);
-    else if (auto *drag = qobject_cast<DragData *>(&data))
-        drag->promise(type);
+    } else if (auto *drag = qobject_cast<DragData *>(&data)) {
+        for (const QString &name : names)
+            drag->promise(name);
+    }
 }
 
 void DataObject::Clear()

@@ -4,6 +4,7 @@
 #include "base/EventGuard.h"
 #include "widgets/input/RaisedKeys.h"
 #include "widgets/input/RaisedMouse.h"
+#include "widgets/input/VirtualKeys.h"
 #include "widgets/list/ReportListBody.h"
 #include "widgets/list/RowCopy.h"
 #include <ORVTListview/ReportList.h>
@@ -25,8 +26,15 @@ namespace {
 // A letter that goes to a row that begins with it.
 bool isSearched(const QKeyEvent &event)
 {
-    return !event.text().isEmpty() && event.text().front().isPrint() &&
-           (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    return isTyping(event) && event.text().front().isPrint();
+}
+
+// A list that was come to by keyboard has a row in focus that nobody has selected.
+void chooseFocused(const QTableView &view, RowChoice &choice, const ReportModel &model)
+{
+    const QModelIndex current = view.currentIndex();
+    if (current.isValid() && !view.selectionModel()->hasSelection())
+        choice.select(&model.rowAt(current));
 }
 
 } // namespace
@@ -144,9 +152,12 @@ bool ReportList::runCommand(const QKeyEvent &event)
     const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == 0;
     if (event.matches(QKeySequence::Copy))
         copySelection();
-    else if (plain && event.key() == Qt::Key_F2 && d->editsLabels)
-        StartLabelEdit();
-    else if (plain && event.key() == Qt::Key_Space && d->model.hasCheckBoxes())
+    else if (plain && event.key() == Qt::Key_F2 && d->editsLabels) {
+        const QPointer<ReportList> self(this);
+        pick([this] { chooseFocused(*this, d->rowChoice, d->model); });
+        if (self)
+            StartLabelEdit();
+    } else if (plain && event.key() == Qt::Key_Space && d->model.hasCheckBoxes())
         toggleCurrent();
     else if (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Space &&
              MultiSelect())

@@ -45,12 +45,12 @@ public:
         return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
     }
 
-    // Waits for its end; every whole line that it has printed.
+    // Waits for its end; every whole line that it has printed, as its system ends lines.
     QStringList lines()
     {
         m_process.waitForFinished(60000);
         m_output += m_process.readAllStandardOutput();
-        QStringList lines = QString::fromUtf8(m_output).split(u'\n');
+        QStringList lines = QString::fromUtf8(m_output).remove(u'\r').split(u'\n');
         lines.removeLast();
         return lines;
     }

@@ -43,6 +43,19 @@ private Q_SLOTS:
         QCOMPARE(shown.typed(), QString());
     }
 
+    // Some systems report AltGr as Ctrl and Alt together.
+    void aCharacterWithAltGrBeginsToo()
+    {
+        ShownGrid shown;
+        shown.goTo(2, 1);
+        const Qt::KeyboardModifiers altGr = Qt::ControlModifier | Qt::AltModifier;
+        QTest::sendKeyEvent(QTest::Click, shown.window, Qt::Key_At, u'@', altGr);
+        QCOMPARE(shown.typed(), u"@"_s);
+        shown.key(Qt::Key_Escape);
+        QTest::sendKeyEvent(QTest::Click, shown.window, Qt::Key_Q, u'q', Qt::AltModifier);
+        QCOMPARE(shown.typed(), u"(closed)"_s);
+    }
+
     void tabGoesRightAndLeavesAtTheEnd()
     {
         ShownGrid shown;

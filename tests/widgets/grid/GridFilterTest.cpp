@@ -5,11 +5,13 @@
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
 
+#include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
 #include <QtGui/QUndoStack>
 #include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QtTest>
+#include <QtWidgets/QToolButton>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -64,6 +66,16 @@ class GridFilterTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void theButtonThatEmptiesAFieldHasAName()
+    {
+        const FilteredGrid shown;
+        shown.typeInto(shown.field(1), u"Fan"_s);
+        auto *button = shown.field(1)->findChild<QToolButton *>();
+        QVERIFY(button);
+        QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name),
+                 u"Empty the filter"_s);
+    }
+
     void aFieldOverTheRowsLooksIntoAllColumns()
     {
         FilteredGrid shown(ListGrid::FilterAbove);

@@ -1,6 +1,7 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 #include "widgets/input/DragData.h"
+#include "widgets/input/RichTextNames.h"
 #include "widgets/list/ReportListFixture.h"
 #include <ORVTListview/DataObject.h>
 
@@ -17,6 +18,8 @@ class DataObjectTest : public WidgetTest
 private Q_SLOTS:
     void numbersFormats();
     void holdsTextFilesAndPictures();
+    void findsRichTextUnderEachOfItsNames();
+    void offersRichTextUnderAllOfItsNames();
     void holdsOtherFormatsAsBytes();
     void refusesWhatIsNotThere();
     void refusesValuesThatDoNotFit();
@@ -29,7 +32,9 @@ void DataObjectTest::numbersFormats()
 {
     QCOMPARE(DataObject::FormatNumber(u"text/plain"_s), qint16{1});
     QCOMPARE(DataObject::FormatNumber(u"text/uri-list"_s), qint16{15});
-    QCOMPARE(DataObject::FormatNumber(u"text/rtf"_s), qint16{-16639});
+    for (const QString &name : richTextNames())
+        QCOMPARE(DataObject::FormatNumber(name), qint16{-16639});
+    QCOMPARE(DataObject::MimeType(-16639), u"text/rtf"_s);
     const qint16 points = DataObject::FormatNumber(u"application/x-points"_s);
     const qint16 pages = DataObject::FormatNumber(u"application/x-pages"_s);
     QVERIFY(points != pages);
@@ -58,6 +63,30 @@ void DataObjectTest::holdsTextFilesAndPictures()
     QVERIFY(data.hasText() && data.hasUrls() && data.hasImage());
     object.Clear();
     QVERIFY(!object.GetFormat(DataObject::Text));
+}
+
+// Whatever name a program gave it, and with the marks behind its end.
+void DataObjectTest::findsRichTextUnderEachOfItsNames()
+{
+    for (const QString &name : richTextNames()) {
+        QMimeData data;
+        data.setData(name, QByteArray("{\\rtf1 x}\0\0", 12));
+        const DataObject object(&data, DataObject::Side::Target);
+        QVERIFY(object.GetFormat(DataObject::RichText));
+        QCOMPARE(object.GetData(DataObject::RichText).toString(), u"{\\rtf1 x}"_s);
+    }
+}
+
+void DataObjectTest::offersRichTextUnderAllOfItsNames()
+{
+    DragData data;
+    DataObject object(&data, DataObject::Side::Source);
+    object.SetData({}, DataObject::RichText);
+    for (const QString &name : richTextNames())
+        QVERIFY2(data.hasFormat(name), qPrintable(name));
+    object.SetData(u"{\\rtf1 x}"_s, DataObject::RichText);
+    for (const QString &name : richTextNames())
+        QCOMPARE(data.data(name), QByteArray("{\\rtf1 x}"));
 }
 
 void DataObjectTest::holdsOtherFormatsAsBytes()

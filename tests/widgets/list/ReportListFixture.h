@@ -11,6 +11,7 @@
 #include <QtGui/QWindow>
 #include <QtTest/QtTest>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLineEdit>
 
 #include <functional>
 #include <memory>
@@ -80,6 +81,14 @@ public:
     void key(Qt::Key which, Qt::KeyboardModifiers held = Qt::NoModifier) const
     {
         QTest::keyClick(window, which, held);
+    }
+
+    // What a label is typed into, while it is.
+    QLineEdit *labelEditor() const { return list->viewport()->findChild<QLineEdit *>(); }
+    bool showsLabelEditor() const
+    {
+        const QLineEdit *editor = labelEditor();
+        return editor && editor->isVisible();
     }
 
     static int betweenClicks()

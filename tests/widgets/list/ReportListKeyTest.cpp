@@ -35,6 +35,7 @@ private Q_SLOTS:
     void selectsManyRowsByKey();
     void togglesTheCurrentRow();
     void goesToRowsByTheirLabels();
+    void goesToRowsByLettersWithAltGr();
     void bearsAnythingInAKeyEvent_data();
     void bearsAnythingInAKeyEvent();
     void keepsErrorsFromTheEventLoop();
@@ -336,6 +337,19 @@ void ReportListKeyTest::goesToRowsByTheirLabels()
     shown.click(shown.cell(3, 3));
     shown.key(Qt::Key_A);
     QCOMPARE(shown->SelectedItem(), shown.item(1));
+}
+
+// Some systems report AltGr as Ctrl and Alt together.
+void ReportListKeyTest::goesToRowsByLettersWithAltGr()
+{
+    const ShownList shown(3);
+    shown->setLabelColumn(1);
+    shown.item(3)->setSubItem(1, u"\u20ac 5"_s);
+    shown->setSelectedItem(shown.item(1));
+    shown.click(shown.cell(1, 3));
+    QTest::sendKeyEvent(QTest::Click, shown.list, Qt::Key_E, u"\u20ac"_s,
+                        Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(shown->SelectedItem(), shown.item(3));
 }
 
 // With the keys in which each event comes.

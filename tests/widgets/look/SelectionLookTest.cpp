@@ -88,6 +88,25 @@ private Q_SLOTS:
         }
         QVERIFY(!isSelectionLight(nullptr));
     }
+
+    // Which stands before the style, and has no name.
+    static void aStyleSheetChangesNothing()
+    {
+        const QString usual = QApplication::style()->name();
+        QTreeView tree;
+        QTreeView styled;
+        styled.setStyleSheet(u"QTreeView { padding: 1px }"_s);
+        for (const QString &style : QStyleFactory::keys()) {
+            const bool isLight = style == "windowsvista"_L1;
+            QApplication::setStyle(style);
+            QCOMPARE(isSelectionLight(&styled), isLight);
+            qApp->setStyleSheet(u"QTreeView { padding: 1px }"_s);
+            QCOMPARE(isSelectionLight(&tree), isLight);
+            QCOMPARE(isSelectionLight(&styled), isLight);
+            qApp->setStyleSheet({});
+        }
+        QApplication::setStyle(usual);
+    }
 };
 
 ORVT_TEST(SelectionLookTest)

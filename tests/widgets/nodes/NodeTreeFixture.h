@@ -9,6 +9,7 @@
 #include <QtGui/QStyleHints>
 #include <QtGui/QWindow>
 #include <QtTest/QtTest>
+#include <QtWidgets/QLineEdit>
 
 // A shown tree on a form, and a user who works with it through the window. Places
 // are the form's. At first: the nodes r, below it a and b, below them a1, a2 and
@@ -94,6 +95,9 @@ public:
     {
         QTest::keyClick(window, which, held);
     }
+
+    // What a label is typed into, while it is.
+    QLineEdit *labelEditor() const { return tree->viewport()->findChild<QLineEdit *>(); }
 
     static int betweenClicks()
     {

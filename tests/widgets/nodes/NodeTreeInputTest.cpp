@@ -38,24 +38,11 @@ private Q_SLOTS:
     void tabLeavesTheTree();
     void checksByMouseAndKey();
     void programRaisesNothing();
-    void editsByF2();
-    void editsBySlowClick();
-    void editsOnlyWithLeave();
-    void labelsCanBeCancelledAndChanged();
-    void tellsTheLabelBeforeThePress();
-    void keepsWhatIsTyped();
-    void escapeLeavesTheLabel();
     void showsCutTextsAsToolTip();
     void showsTheBeginningsOfLongTexts();
     void bearsAnythingInAnEvent_data();
     void bearsAnythingInAnEvent();
     void keepsExceptionsFromTheLoop();
-
-private:
-    static QLineEdit *editor(const ShownTree &shown)
-    {
-        return shown->viewport()->findChild<QLineEdit *>();
-    }
 };
 
 void NodeTreeInputTest::clicksANode()
@@ -302,125 +289,6 @@ void NodeTreeInputTest::programRaisesNothing()
     QCOMPARE(events.take(), QString());
 }
 
-void NodeTreeInputTest::editsByF2()
-{
-    const ShownTree shown;
-    shown->setSelectedItem(shown.node("a1"));
-    Events events(shown.tree);
-    shown.key(Qt::Key_F2);
-    QVERIFY(editor(shown));
-    QCOMPARE(editor(shown)->text(), u"a1"_s);
-    QTest::keyClicks(editor(shown), u"new"_s);
-    QTest::keyClick(editor(shown), Qt::Key_Return);
-    QTRY_COMPARE(shown.node("a1")->Text(), u"new"_s);
-    const QString told = events.take();
-    QVERIFY(told.contains(u"BeforeLabelEdit"_s));
-    QVERIFY(told.contains(u"AfterLabelEdit new"_s));
-}
-
-void NodeTreeInputTest::editsBySlowClick()
-{
-    const ShownTree shown;
-    shown.click(shown.label("a1"));
-    shown.click(shown.label("a1"));
-    QTRY_VERIFY(editor(shown));
-}
-
-void NodeTreeInputTest::editsOnlyWithLeave()
-{
-    const ShownTree shown;
-    shown->setEditsLabels(false);
-    shown->setSelectedItem(shown.node("a1"));
-    shown.key(Qt::Key_F2);
-    QVERIFY(!editor(shown));
-    shown->StartLabelEdit(); // the program may
-    QVERIFY(editor(shown));
-    shown.key(Qt::Key_Escape);
-
-    const auto before =
-        connect(shown.tree, &NodeTree::BeforeLabelEdit, this, [](qint16 &cancel) { cancel = 1; });
-    QTRY_VERIFY(!editor(shown));
-    shown->StartLabelEdit();
-    QVERIFY(!editor(shown));
-    disconnect(before);
-    shown->setSelectedItem(nullptr);
-    shown->StartLabelEdit();
-    QVERIFY(!editor(shown));
-}
-
-void NodeTreeInputTest::labelsCanBeCancelledAndChanged()
-{
-    for (const bool cancels : {true, false}) {
-        const ShownTree shown;
-        bool told = false;
-        connect(shown.tree, &NodeTree::AfterLabelEdit, this, [&](qint16 &cancel, QString &text) {
-            told = true;
-            cancel = cancels ? 1 : 0;
-            text += u"!"_s;
-        });
-        shown->setSelectedItem(shown.node("a1"));
-        shown->StartLabelEdit();
-        QTest::keyClicks(editor(shown), u"new"_s);
-        QTest::keyClick(editor(shown), Qt::Key_Return);
-        QTRY_VERIFY(told);
-        QCOMPARE(shown.node("a1")->Text(), cancels ? u"a1"_s : u"new!"_s);
-    }
-}
-
-void NodeTreeInputTest::tellsTheLabelBeforeThePress()
-{
-    const ShownTree shown;
-    shown->setSelectedItem(shown.node("a1"));
-    shown->StartLabelEdit();
-    QTest::keyClicks(editor(shown), u"new"_s);
-    Events events(shown.tree);
-    QString selected;
-    connect(shown.tree, &NodeTree::AfterLabelEdit, this, [&] { selected = shown.selected(); });
-    shown.click(shown.expander("b"));
-    QCOMPARE(selected, u"a1"_s);
-    QCOMPARE(shown.node("a1")->Text(), u"new"_s);
-    QVERIFY(events.take().startsWith(u"AfterLabelEdit new"_s));
-    QVERIFY(!shown.node("b")->Expanded());
-
-    shown->setSelectedItem(shown.node("a2"));
-    shown->StartLabelEdit();
-    QTest::keyClicks(editor(shown), u"other"_s);
-    shown.click(shown.label("r"));
-    QCOMPARE(selected, u"a2"_s);
-    QCOMPARE(shown.selected(), u"r"_s);
-    QCOMPARE(shown.node("a2")->Text(), u"other"_s);
-}
-
-void NodeTreeInputTest::keepsWhatIsTyped()
-{
-    const ShownTree shown;
-    shown->setSelectedItem(shown.node("a1"));
-    shown->StartLabelEdit();
-    QTest::keyClicks(editor(shown), u"new"_s);
-    shown.node("a1")->setText(u"host"_s);
-    shown.key(Qt::Key_Down);
-    QCOMPARE(shown.selected(), u"a1"_s);
-    QVERIFY(editor(shown));
-    QCOMPARE(editor(shown)->text(), u"new"_s);
-    shown.key(Qt::Key_Escape);
-    QTRY_VERIFY(!editor(shown));
-    QCOMPARE(shown.node("a1")->Text(), u"host"_s);
-}
-
-void NodeTreeInputTest::escapeLeavesTheLabel()
-{
-    const ShownTree shown;
-    shown->setSelectedItem(shown.node("a1"));
-    Events events(shown.tree);
-    shown->StartLabelEdit();
-    QTest::keyClicks(editor(shown), u"new"_s);
-    QTest::keyClick(editor(shown), Qt::Key_Escape);
-    QTRY_VERIFY(!editor(shown));
-    QCoreApplication::processEvents();
-    QVERIFY(!events.take().contains(u"AfterLabelEdit"_s));
-    QCOMPARE(shown.node("a1")->Text(), u"a1"_s);
-}
-
 void NodeTreeInputTest::showsCutTextsAsToolTip()
 {
     const ShownTree shown;
@@ -505,12 +373,12 @@ void NodeTreeInputTest::bearsAnythingInAnEvent()
     const auto still = [&] { return shown.tree && shown->Nodes()->Count() > 0; };
     if (event.contains(u"Label"_s)) {
         shown.key(Qt::Key_F2);
-        if (shown.tree && editor(shown)) {
-            QTest::keyClicks(editor(shown), u"x"_s);
+        if (shown.tree && shown.labelEditor()) {
+            QTest::keyClicks(shown.labelEditor(), u"x"_s);
             if (event.contains(u"press"_s))
                 shown.click(shown.label("b1"));
             else
-                QTest::keyClick(editor(shown), Qt::Key_Return);
+                QTest::keyClick(shown.labelEditor(), Qt::Key_Return);
         }
     } else {
         shown.click(place, Qt::RightButton);

@@ -1,0 +1,4 @@
+#pragma once
+
+// Whether the code is the program's own, and not that of one of its libraries.
+bool isInProgram(const void *code);
