@@ -54,6 +54,8 @@ ColumnsDialog::ColumnsDialog(const ORVListView &list, QWidget *parent)
     layout->addLayout(kept);
     layout->addWidget(buttons);
     showColumns(0);
+    const int rows = std::min(10, m_table->rowCount()) + 1; // with the header
+    m_table->setMinimumHeight(rows * m_table->verticalHeader()->defaultSectionSize());
     resize(fontMetrics().averageCharWidth() * 75, sizeHint().height());
 }
 
@@ -97,6 +99,7 @@ QWidget *ColumnsDialog::makeTable()
     m_table->setHorizontalHeaderLabels({tr("Column"), tr("Width in twips")});
     m_table->setAccessibleName(tr("Columns"));
     m_table->horizontalHeader()->setSectionResizeMode(ColumnCell, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(WidthCell, QHeaderView::ResizeToContents);
     m_table->verticalHeader()->hide();
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);

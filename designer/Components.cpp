@@ -1,5 +1,6 @@
 #include "Components.h"
 
+#include "DesignedKeys.h"
 #include "OwnCaption.h"
 #include "TaskMenus.h"
 
@@ -28,8 +29,10 @@ QWidget *create(QWidget *parent, bool)
 QWidget *createList(QWidget *parent, bool isDesigning)
 {
     auto *list = new ORVListView(parent);
-    if (isDesigning)
-        new OwnCaption(*list); // becomes the list's
+    if (isDesigning) { // both become the list's
+        new OwnCaption(*list);
+        new DesignedKeys(*list);
+    }
     return list;
 }
 

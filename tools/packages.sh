@@ -18,7 +18,7 @@ reader_packages=(at-spi2-core dbus-daemon python3-gi)
 
 test_packages=(
     libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev libqt6svg6 dpkg-dev file
-    abigail-tools lintian libreoffice-writer-nogui
+    abigail-tools lintian mypy libreoffice-writer-nogui
     clang-format clang-tidy doxygen lld locales valgrind
     "${python_packages[@]}" "${display_packages[@]}" "${reader_packages[@]}")
 

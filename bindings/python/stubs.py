@@ -22,7 +22,7 @@ HEAD = '''\
 
 import dataclasses
 import enum
-from typing import Any, Callable, Generic, TypeVar
+from typing import Any, Callable, Generic, NoReturn, TypeVar
 
 from PyQt6 import QtCore, QtGui, QtWidgets
 
@@ -65,14 +65,13 @@ def constructor(entry):
     return None
 
 
-def property_lines(member):
+def property_lines(member, owner):
     kind = types.written(member["type"])
+    if not member["put"] and member["type"] != f"{owner}*":
+        kind = kind.removesuffix(" | None")  # a part of it; only neighbours may be missing
     name = member["name"]
-    lines = []
-    if member["get"]:
-        lines += ["    @property", f"    def {name}(self) -> {kind}: ..."]
-    else:
-        lines += [f"    {name} = property(None)"]
+    read = kind if member["get"] else "NoReturn"
+    lines = ["    @property", f"    def {name}(self) -> {read}: ..."]
     if member["put"]:
         lines += [f"    @{name}.setter", f"    def {name}(self, value: {kind}) -> None: ..."]
         setter = f"set{name[0].upper()}{name[1:]}"
@@ -88,9 +87,9 @@ def event_line(member):
     return [f"    {member['name']}: QtCore.pyqtBoundSignal  # ({', '.join(kinds)})"]
 
 
-def member_lines(member):
+def member_lines(member, owner):
     if member["kind"] == "property":
-        return property_lines(member)
+        return property_lines(member, owner)
     if member["kind"] == "event":
         return event_line(member)
     texts = ", ".join(filter(None, ["self", types.arguments(member)]))
@@ -122,7 +121,7 @@ def class_lines(entry, enumerations):
         if all(each["name"] != change for each in members):
             lines.append(f"    {change}: QtCore.pyqtBoundSignal  # ()")
     for member in members:
-        lines += member_lines(member)
+        lines += member_lines(member, entry["name"])
     return lines
 
 

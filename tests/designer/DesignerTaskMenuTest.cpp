@@ -12,6 +12,7 @@
 #include <QtCore/QTimer>
 #include <QtCore/QTranslator>
 #include <QtGui/QAction>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QUndoStack>
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
@@ -75,6 +76,7 @@ private Q_SLOTS:
     void choosesAReadySetInOneStep();
     void showsTheSetThatIsChosen();
     void takesColoursAway();
+    void keysOnAFormAreDesigners();
     void speaksFourLanguages();
 
 private:
@@ -291,6 +293,24 @@ void DesignerTaskMenuTest::takesColoursAway()
         QCOMPARE(groundOf(*listOf(*form)) == plain, key == Qt::Key_Home);
     }
     QCOMPARE(listOf(*form)->programColours(), QString());
+}
+
+void DesignerTaskMenuTest::keysOnAFormAreDesigners()
+{
+    const auto form = m_designer->opened(formWith(u"dsCode"_s));
+    RichTextBox &box = *listOf(*form)->RTextBox();
+    const auto isTaken = [&box] {
+        QKeyEvent undo(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+        undo.ignore();
+        QCoreApplication::sendEvent(&box, &undo);
+        return undo.isAccepted();
+    };
+    QVERIFY(!isTaken());
+    QTest::keyClicks(&box, u"abc"_s);
+    QCOMPARE(box.Text(), QString());
+    const std::unique_ptr<ORVListView> shown(listOf(*form)); // as in a preview
+    shown->setParent(nullptr);
+    QVERIFY(isTaken());
 }
 
 void DesignerTaskMenuTest::speaksFourLanguages()
