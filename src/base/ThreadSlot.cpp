@@ -1,13 +1,11 @@
 #include "base/ThreadSlot.h"
 
-#include "base/ThreadState.h"
-
 namespace ORVTListview {
 
-std::unique_ptr<ThreadState> &slotOfThread()
+ThreadSlot &slotOfThread()
 {
-    thread_local std::unique_ptr<ThreadState> state;
-    return state;
+    thread_local ThreadSlot slot = emptySlot();
+    return slot;
 }
 
 } // namespace ORVTListview

@@ -4,9 +4,15 @@
 
 namespace ORVTListview {
 
-class ThreadState;
+using ThreadSlot = std::unique_ptr<void, void (*)(void *)>;
 
-// Where the calling thread keeps its state, which goes as the thread ends. Empty at first.
-std::unique_ptr<ThreadState> &slotOfThread();
+// Where the calling thread keeps what goes as it ends. Empty at first.
+ThreadSlot &slotOfThread();
+
+// Of a thread that has kept nothing yet.
+inline ThreadSlot emptySlot()
+{
+    return {nullptr, [](void *) {}};
+}
 
 } // namespace ORVTListview

@@ -1,7 +1,5 @@
 #include "base/ThreadSlot.h"
 
-#include "base/ThreadState.h"
-
 #include <new>
 
 #include <windows.h>
@@ -9,23 +7,21 @@
 namespace ORVTListview {
 namespace {
 
-using Slot = std::unique_ptr<ThreadState>;
-
 void WINAPI removeSlot(void *slot)
 {
-    delete static_cast<Slot *>(slot);
+    delete static_cast<ThreadSlot *>(slot);
 }
 
 } // namespace
 
 // Not thread_local: of a thread that ends, MinGW's gives the memory back before it destroys
 // what lies in it.
-std::unique_ptr<ThreadState> &slotOfThread()
+ThreadSlot &slotOfThread()
 {
     static const DWORD number = FlsAlloc(&removeSlot);
-    if (auto *known = static_cast<Slot *>(FlsGetValue(number)))
+    if (auto *known = static_cast<ThreadSlot *>(FlsGetValue(number)))
         return *known;
-    auto made = std::make_unique<Slot>();
+    auto made = std::make_unique<ThreadSlot>(emptySlot());
     if (!FlsSetValue(number, made.get()))
         throw std::bad_alloc();
     return *made.release();

@@ -16,7 +16,8 @@ namespace {
 
 QString colourTold(const QColor &colour)
 {
-    return u"rgb(%1,%2,%3)"_s.arg(colour.red()).arg(colour.green()).arg(colour.blue());
+    return u"rgb(%1,%2,%3)"_s.arg(QString::number(colour.red()), QString::number(colour.green()),
+                                  QString::number(colour.blue()));
 }
 
 // Signs that part the words are set off, as the protocol wants it.

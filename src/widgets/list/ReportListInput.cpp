@@ -141,9 +141,13 @@ void ReportList::act(QKeyEvent &event)
         event.ignore();
     else if (!runCommand(event))
         pick([this, &event] {
-            if (labelColumn() != 0 && isSearched(event)) // the view searches the current column
+            const bool isSearch = isSearched(event);
+            if (isSearch && labelColumn() != 0) // the view searches the current column
                 d->rowChoice.setCurrentColumn(labelColumn());
-            QTableView::keyPressEvent(&event);
+            if (isSearch && (event.modifiers() & Qt::AltModifier)) // AltGr: no command, as to it
+                keyboardSearch(event.text());
+            else
+                QTableView::keyPressEvent(&event);
         });
 }
 
