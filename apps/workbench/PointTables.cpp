@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace ORVTListview {
 
@@ -35,8 +36,11 @@ PointTables::PointTables(ORVListView &list)
     connect(&m_soon, &QTimer::timeout, this, &PointTables::fillValues);
     connect(&list, &ORVListView::BeforeLabelEdit, this, &PointTables::allowEditing);
     connect(&list, &ORVListView::AfterLabelEdit, this, &PointTables::takeName);
-    // Queued: the view is at work on the click.
-    connect(list.listView(), &ReportList::doubleClicked, this, &PointTables::editClicked,
+    connect(list.listView(), &ReportList::doubleClicked, this,
+            [this](const QModelIndex &cell) { m_clicked = cell; });
+    // When the button is let go, for the second press may begin a drag. Queued: the view is
+    // still at work on it.
+    connect(list.listView(), &ReportList::MouseUp, this, &PointTables::editClicked,
             Qt::QueuedConnection);
 }
 
@@ -276,8 +280,9 @@ void PointTables::editName()
 
 // A name, as a spreadsheet's cell is; what else may be edited is the grid's. Not of a row that
 // the click has taken out of the selection.
-void PointTables::editClicked(const QModelIndex &cell)
+void PointTables::editClicked()
 {
+    const QModelIndex cell = std::exchange(m_clicked, QPersistentModelIndex());
     const qsizetype names = nameColumn(m_list.CurrentType());
     const ReportList &list = *m_list.listView();
     const bool isChosen =

@@ -4,6 +4,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QPersistentModelIndex>
 #include <QtCore/QSet>
 #include <QtCore/QTimer>
 
@@ -90,7 +91,7 @@ private:
     void showOld(const QList<ProjectRow> &rows, qint16 column);
     void widen(qint16 column);
     bool grow(qint16 column);
-    void editClicked(const QModelIndex &cell);
+    void editClicked();
     void allowEditing(qint16 &cancel);
     void takeName(qint16 &cancel, const QString &name);
     void correctName(LwType type, const QString &typed);
@@ -103,7 +104,8 @@ private:
     PointReading *m_reading = nullptr;
     QTimer m_soon; // shows what was read
     bool m_showsOverrides = false;
-    ListItem *m_edited = nullptr; // the list owns it
+    ListItem *m_edited = nullptr;    // the list owns it
+    QPersistentModelIndex m_clicked; // twice
 };
 
 } // namespace ORVTListview

@@ -12,7 +12,8 @@ import tempfile
 
 FLAGS = ["-std=c++20", "-fsyntax-only", "-DORVT_VERSION=\"\"", "-Wall", "-Wextra", "-Wshadow", "-Wconversion", "-Werror",
          "-DQT_NO_KEYWORDS", "-DQT_NO_CAST_FROM_ASCII", "-DQT_NO_CAST_TO_ASCII",
-         "-DQT_NO_CAST_FROM_BYTEARRAY", "-DQT_NO_URL_CAST_FROM_STRING"]
+         "-DQT_NO_CAST_FROM_BYTEARRAY", "-DQT_NO_URL_CAST_FROM_STRING",
+         "-DQT_GUI_LIB", "-DQT_WIDGETS_LIB"]
 STRICT = ["-Wpedantic"] # no extension of one compiler
 
 

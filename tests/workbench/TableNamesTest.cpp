@@ -10,6 +10,7 @@
 #include <ORVTListview/ORVListView.h>
 #include <ORVTListview/ReportList.h>
 
+#include <QtGui/QMouseEvent>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QLineEdit>
 
@@ -58,6 +59,22 @@ private Q_SLOTS:
         QTest::keyClick(names.field(), Qt::Key_Escape);
         QTRY_VERIFY(!names.field());
         QCOMPARE(names.shown().ListItems()->Item(1)->SubItem(1), u"Temp1"_s);
+    }
+
+    // A row that is dragged soon after a click.
+    void aSecondPressThatIsHeldEditsNothing()
+    {
+        Names names;
+        QWidget &view = *names.list().viewport();
+        const QPoint place = names.list().visualRect(names.list().model()->index(0, 1)).center();
+        QTest::mouseClick(&view, Qt::LeftButton, {}, place);
+        QMouseEvent again(QEvent::MouseButtonDblClick, place, view.mapToGlobal(place),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view, &again);
+        QCoreApplication::processEvents();
+        QVERIFY(!names.field());
+        QTest::mouseRelease(&view, Qt::LeftButton, {}, place);
+        QTRY_VERIFY(names.field());
     }
 
     void aDoubleClickBehindThePointsNamesANewOne()
