@@ -36,6 +36,8 @@ def environment(folder, settings):
         QT_QPA_PLATFORM="offscreen",
         # Project trees save. This holds nothing and takes nothing.
         ORVT_SETTINGS_FILE="/dev/null/none",
+        # Else tests of the toolkit's kind tell Windows' debugger alone how they went.
+        QT_FORCE_STDERR_LOGGING="1",
         ASAN_OPTIONS="detect_leaks=0", UBSAN_OPTIONS="print_stacktrace=1")
     values.update(setting.split("=", 1) for setting in settings)
     return values

@@ -2,13 +2,11 @@
 
 namespace ORVTListview {
 
-// The first is how the toolkit spells a name of the system's own, "Rich Text Format"; the
-// second is what its other programs look for.
+// The first is the system's own, and no MIME type; the second is what other programs of the
+// toolkit look for.
 const QStringList &richTextNames()
 {
-    static const QStringList names{
-        QStringLiteral("application/x-qt-windows-mime;value=\"Rich Text Format\""),
-        QStringLiteral("text/rtf")};
+    static const QStringList names{QStringLiteral("Rich Text Format"), QStringLiteral("text/rtf")};
     return names;
 }
 
