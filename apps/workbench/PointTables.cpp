@@ -40,8 +40,12 @@ PointTables::PointTables(ORVListView &list)
             [this](const QModelIndex &cell) { m_clicked = cell; });
     // When the button is let go, for the second press may begin a drag. Queued: the view is
     // still at work on it.
-    connect(list.listView(), &ReportList::MouseUp, this, &PointTables::editClicked,
-            Qt::QueuedConnection);
+    connect(list.listView(), &ReportList::MouseUp, this, [this] {
+        const QPersistentModelIndex cell = std::exchange(m_clicked, QPersistentModelIndex());
+        if (cell.isValid())
+            QMetaObject::invokeMethod(
+                this, [this, cell] { editClicked(cell); }, Qt::QueuedConnection);
+    });
 }
 
 void PointTables::setProject(Project *project)
@@ -280,9 +284,8 @@ void PointTables::editName()
 
 // A name, as a spreadsheet's cell is; what else may be edited is the grid's. Not of a row that
 // the click has taken out of the selection.
-void PointTables::editClicked()
+void PointTables::editClicked(const QModelIndex &cell)
 {
-    const QModelIndex cell = std::exchange(m_clicked, QPersistentModelIndex());
     const qsizetype names = nameColumn(m_list.CurrentType());
     const ReportList &list = *m_list.listView();
     const bool isChosen =

@@ -91,7 +91,7 @@ private:
     void showOld(const QList<ProjectRow> &rows, qint16 column);
     void widen(qint16 column);
     bool grow(qint16 column);
-    void editClicked();
+    void editClicked(const QModelIndex &cell);
     void allowEditing(qint16 &cancel);
     void takeName(qint16 &cancel, const QString &name);
     void correctName(LwType type, const QString &typed);
