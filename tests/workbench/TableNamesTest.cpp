@@ -35,7 +35,8 @@ struct Names : WorkbenchWindow
     {
         const QPoint place = list().visualRect(list().model()->index(row, column)).center();
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, place);
-        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, place); // without its release
+        QTest::mouseRelease(list().viewport(), Qt::LeftButton, {}, place);
         QCoreApplication::processEvents();
     }
 };
