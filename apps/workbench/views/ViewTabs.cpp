@@ -82,7 +82,6 @@ void ViewTabs::dress(Workplace &workplace)
         }
         for (int index = 0; index < tabs->count(); ++index)
             dressTab(workplace, *tabs, index);
-        tabs->update(); // the line below it was another one before it had buttons
     }
 }
 
