@@ -71,6 +71,7 @@ set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "pyqt6-dev-tools, orvtlistview-designer
 describe(PYTHON "for Python, beside PyQt6 (GPL or commercial licence)")
 
 # What Debian asks of every package.
+string(TIMESTAMP ORVT_DAY_OF_PACKAGES "%a, %d %b %Y 00:00:00 +0000" UTC) # or SOURCE_DATE_EPOCH
 configure_file(packaging/changelog.in ${PROJECT_BINARY_DIR}/packaging/changelog @ONLY)
 orvt_compress(${PROJECT_BINARY_DIR}/packaging/changelog changelog_gz)
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
