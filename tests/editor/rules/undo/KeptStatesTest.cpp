@@ -139,6 +139,17 @@ TEST(KeptStates, WhatWasReplacedComesBackWithoutASnapshot)
     EXPECT_FALSE(ring.CanRedo());
 }
 
+TEST(KeptStates, OneEditKeepsWhatWasOffered)
+{
+    UndoStore ring;
+    SimpleEditor editor(ring);
+    editor.load(u"A"_s);
+    editor.edit(u"A=1"_s);
+    editor.kept.offer(editor.shown());
+    EXPECT_TRUE(editor.kept.noteEdit(ring));
+    EXPECT_FALSE(editor.kept.noteEdit(ring));
+}
+
 TEST(KeptStates, AreGoneBackToOneByOne)
 {
     UndoStore ring;
