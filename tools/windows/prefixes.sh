@@ -30,6 +30,15 @@ make_prefixes() {
     done
 }
 
+# Lets Wine's own programs live from test to test. Begun by a test, they would keep what
+# it writes to open, and its end would wait for theirs.
+keep_wine() (
+    export WINEPREFIX=$1 DISPLAY=$2 WINEDEBUG=-all
+    rm -f "$1.input"
+    mkfifo "$1.input"
+    wine cmd 0<>"$1.input" >/dev/null 2>&1 9>&- & # waits for a command
+)
+
 begin_displays() {
     local prefix
     for prefix in "$1"/prefixes/*/; do
@@ -42,6 +51,7 @@ begin_displays() {
             sleep 0.1
         done
         echo ":$(cat "$prefix.number")" >"$prefix.display"
+        keep_wine "$prefix" ":$(cat "$prefix.number")"
     done
 }
 
@@ -52,6 +62,6 @@ end_displays() {
         [ -e "$prefix.process" ] || continue
         WINEPREFIX=$prefix wineserver --kill || true
         kill "$(cat "$prefix.process")" || true
-        rm -f "$prefix.process" "$prefix.number" "$prefix.display"
+        rm -f "$prefix".{process,number,display,input}
     done
 }
