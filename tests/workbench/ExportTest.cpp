@@ -130,7 +130,7 @@ private Q_SLOTS:
         const QString light = coloursIn(exported(workbench, u"light.html"_s));
         const QByteArray rtf = exported(workbench, u"light.rtf"_s);
         goDark();
-        QVERIFY(workbench.box().TextRTF().toLatin1() != rtf); // the screen's are others
+        QTRY_VERIFY(workbench.box().TextRTF().toLatin1() != rtf); // the screen's are others
         QCOMPARE(coloursIn(exported(workbench, u"dark.html"_s)), light);
         QCOMPARE(exported(workbench, u"dark.rtf"_s), rtf);
         workbench.choose(u"Select All"_s);
