@@ -17,6 +17,7 @@
 #include <QtGui/QPageRanges>
 #include <QtGui/QPdfWriter>
 #include <QtGui/QTextDocument>
+#include <QtPrintSupport/QPrinterInfo>
 #include <QtWidgets/QFileDialog>
 
 using namespace Qt::StringLiterals;
@@ -280,6 +281,19 @@ private Q_SLOTS:
         }
         QCOMPARE(pdf.data().count("/Type /Page\n"), 2);
     }
+
+#ifdef Q_OS_WIN
+    void whereNoPrinterIsItIsTold()
+    {
+        if (!QPrinterInfo::availablePrinterNames().isEmpty())
+            return; // the system's dialog would be shown
+        WorkbenchWindow workbench("Fan1 = ON");
+        NextMessage told(QMessageBox::Ok);
+        workbench.choose(u"Print…"_s);
+        QVERIFY(told.wasThere());
+        QVERIFY2(told.text().contains(u"no printer"_s), qPrintable(told.text()));
+    }
+#endif
 
 private:
     QPalette m_palette;
