@@ -57,8 +57,8 @@ CellBlock cellsOf(const ORVListView &list, qsizetype rows)
 // The dialog of Windows needs a printer; the toolkit's own prints to files, too.
 bool canBeAskedFor(const QPrinter &printer)
 {
-    return printer.outputFormat() == QPrinter::NativeFormat
-        || QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows;
+    return printer.outputFormat() == QPrinter::NativeFormat ||
+           QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows;
 }
 
 } // namespace
