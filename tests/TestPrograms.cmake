@@ -24,12 +24,11 @@ function(orvt_add_test name)
     set(options --name ${name} --folder ${test_folders}/${name}
         --set ORVT_TEST_PART=${part_of_steps})
     if(test_DISPLAY AND WIN32)
-        # Drags of the system follow its own mouse; this platform's follow the test's.
-        if(name MATCHES "DragTest$")
+        if(name MATCHES "^System")
+            list(APPEND options --set QT_QPA_PLATFORM=windows)
+        else() # drags that follow the test's mouse, not the system's
             list(APPEND options --set QT_QPA_PLATFORM=minimal:enable_fonts
                 --set QT_STYLE_OVERRIDE=fusion) # the system's needs its platform
-        else()
-            list(APPEND options --set QT_QPA_PLATFORM=windows)
         endif()
     elseif(test_DISPLAY)
         list(APPEND options --display)

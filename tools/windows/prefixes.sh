@@ -18,8 +18,15 @@ make_prefix() (
     wineserver --wait
 )
 
+# What the toolkit finds off screen: it would take any of a folder's, the serifs, too.
+choose_fonts() {
+    mkdir -p "$1/fonts"
+    ln -sf /usr/share/fonts/truetype/dejavu/DejaVuSans{,-Bold,Mono,Mono-Bold}.ttf "$1/fonts"
+}
+
 make_prefixes() {
     local folder=$1/prefixes number
+    choose_fonts "$1"
     for number in $(seq "$2"); do
         [ -e "$folder/$number.complete" ] && continue
         rm -rf "${folder:?}/$number"
@@ -34,6 +41,7 @@ make_prefixes() {
 # it writes to open, and its end would wait for theirs.
 keep_wine() (
     export WINEPREFIX=$1 DISPLAY=$2 WINEDEBUG=-all
+    wineserver --kill || true # programs of the build, which had no display
     rm -f "$1.input"
     mkfifo "$1.input"
     wine cmd 0<>"$1.input" >/dev/null 2>&1 9>&- & # waits for a command
