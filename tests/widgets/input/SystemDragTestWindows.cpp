@@ -1,0 +1,143 @@
+// Drags of the system: its own loop runs, fed by its own mouse, and what is dragged goes
+// through its own objects.
+
+#include "support/InTurn.h"
+#include "support/TestProgram.h"
+#include "support/TextDrag.h"
+#include "support/WidgetTest.h"
+#include <ORVTListview/RichTextBox.h>
+
+#include <QtCore/QMimeData>
+#include <QtGui/QDropEvent>
+#include <QtGui/QWindow>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QVBoxLayout>
+
+#include <memory>
+#include <utility>
+
+#include <windows.h>
+
+using namespace ORVTListview;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void turnMouse(DWORD what)
+{
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = what;
+    SendInput(1, &input, sizeof input);
+}
+
+// A field that notes what it is offered.
+class Field final : public QPlainTextEdit
+{
+public:
+    QStringList formats;
+    QByteArray rtf;
+
+protected:
+    void insertFromMimeData(const QMimeData *dropped) override
+    {
+        formats = dropped->formats();
+        rtf = dropped->data(u"text/rtf"_s);
+        QPlainTextEdit::insertFromMimeData(dropped);
+    }
+};
+
+} // namespace
+
+class SystemDragTest : public WidgetTest
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QWidget> m_window;
+    RichTextBox *m_box = nullptr;
+    RichTextBox *m_other = nullptr;
+    Field *m_field = nullptr;
+
+    // Points of the window.
+    void drag(const QPoint &from, const QPoint &to)
+    {
+        const auto move = [this](const QPoint &point) {
+            const QPoint there = m_window->mapToGlobal(point);
+            SetCursorPos(there.x(), there.y());
+            turnMouse(MOUSEEVENTF_MOVE);
+        };
+        QList<InTurn::Step> steps;
+        steps.append([=] { move(from); });
+        steps.append([] { turnMouse(MOUSEEVENTF_LEFTDOWN); });
+        for (int i = 1; i <= 8; ++i)
+            steps.append([=] { move(from + (to - from) * i / 8); });
+        steps.append([] { turnMouse(MOUSEEVENTF_LEFTUP); });
+        steps.append([] { QTest::qWait(20); });
+        InTurn::take(std::move(steps));
+    }
+    QPoint inField() const { return m_field->viewport()->mapTo(m_window.get(), QPoint(10, 10)); }
+
+private Q_SLOTS:
+    void init() override;
+    void cleanup() override
+    {
+        m_window.reset();
+        WidgetTest::cleanup();
+    }
+
+    void aMoveGoesToAnotherBox();
+    void aMoveGoesToAField();
+    void aFieldsTextIsTaken();
+};
+
+void SystemDragTest::init()
+{
+    WidgetTest::init();
+    QCOMPARE(QGuiApplication::platformName(), u"windows"_s);
+    m_window = std::make_unique<QWidget>();
+    auto *layout = new QVBoxLayout(m_window.get());
+    for (RichTextBox **box : {&m_box, &m_other}) {
+        *box = new RichTextBox;
+        layout->addWidget(*box);
+    }
+    m_field = new Field;
+    layout->addWidget(m_field);
+    m_window->setGeometry(100, 100, 400, 400);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void SystemDragTest::aMoveGoesToAnotherBox()
+{
+    m_box->setText(u"one two"_s);
+    m_other->setText(u"three"_s);
+    m_box->setSelLength(4);
+    drag(TextDrag::inWindow(*m_box, 2), TextDrag::inWindow(*m_other, 0));
+    QTRY_COMPARE(m_other->Text(), u"one three"_s);
+    QCOMPARE(m_box->Text(), u"two"_s);
+}
+
+void SystemDragTest::aMoveGoesToAField()
+{
+    m_box->setText(u"one\r\ntwo"_s);
+    m_box->setSelLength(7);
+    drag(TextDrag::inWindow(*m_box, 1), inField());
+    QTRY_COMPARE(m_field->toPlainText(), u"one\ntwo"_s);
+    QCOMPARE(m_box->Text(), QString());
+    QVERIFY2(m_field->rtf.startsWith("{\\rtf"), m_field->rtf);
+    const QString system = u"application/x-qt-windows-mime;value=\"Rich Text Format\""_s;
+    QVERIFY2(m_field->formats.contains(system), qPrintable(m_field->formats.join(u'\n')));
+}
+
+void SystemDragTest::aFieldsTextIsTaken()
+{
+    m_field->setPlainText(u"a\nb"_s);
+    m_field->selectAll();
+    drag(inField(), TextDrag::inWindow(*m_box, 0));
+    QTRY_COMPARE(m_box->Text(), u"a\r\nb"_s);
+    QCOMPARE(m_field->toPlainText(), QString());
+}
+
+ORVT_TEST(SystemDragTest)
+#include "SystemDragTestWindows.moc"
