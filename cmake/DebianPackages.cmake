@@ -44,6 +44,7 @@ describe(DEV "headers")
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME orvtlistview-designer)
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "${this_library}")
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_ENHANCES "designer-qt6")
 describe(DESIGNER "plugin for Qt Designer")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME orvtlistview-tools)
