@@ -88,7 +88,7 @@ bool ColouredSource::staysSame(const ColouredText &coloured, const Colour &colou
 QString ColouredSource::nextLines() const
 {
     const qsizetype left = m_text.size() - m_checked;
-    const QString lines = m_text.mid(m_checked, std::min(slice, left));
+    QString lines = m_text.mid(m_checked, std::min(slice, left));
     if (lines.size() == left)
         return lines;
     const qsizetype end = lines.lastIndexOf(lineEnd);
