@@ -125,7 +125,7 @@ void SystemDragTest::aMoveGoesToAField()
     drag(TextDrag::inWindow(*m_box, 1), inField());
     QTRY_COMPARE(m_field->toPlainText(), u"one\ntwo"_s);
     QCOMPARE(m_box->Text(), QString());
-    QVERIFY2(m_field->rtf.startsWith("{\\rtf"), m_field->rtf);
+    QVERIFY2(m_field->rtf.startsWith("{\\rtf"), m_field->rtf.constData());
     const QString system = u"application/x-qt-windows-mime;value=\"Rich Text Format\""_s;
     QVERIFY2(m_field->formats.contains(system), qPrintable(m_field->formats.join(u'\n')));
 }
