@@ -885,6 +885,10 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
 <context>
     <name>ORVTListview::MainWindow</name>
     <message>
+        <source>Rows are filled from the top: %1 is in row %2.</source>
+        <translation>Die Zeilen füllen sich von oben: %1 steht in Zeile %2.</translation>
+    </message>
+    <message>
         <source>Open Project</source>
         <translation>Projekt öffnen</translation>
     </message>
@@ -1280,6 +1284,10 @@ Seine Datei %2 bleibt, wo sie ist.</translation>
 </context>
 <context>
     <name>ORVTListview::ProgramNavigation</name>
+    <message>
+        <source>Nothing uses %1.</source>
+        <translation>Nichts verwendet %1.</translation>
+    </message>
     <message>
         <source>&amp;Go To Point</source>
         <translation>&amp;Gehe zum Punkt</translation>

@@ -885,6 +885,10 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
 <context>
     <name>ORVTListview::MainWindow</name>
     <message>
+        <source>Rows are filled from the top: %1 is in row %2.</source>
+        <translation>Las filas se llenan desde arriba: %1 está en la fila %2.</translation>
+    </message>
+    <message>
         <source>Open Project</source>
         <translation>Abrir proyecto</translation>
     </message>
@@ -1280,6 +1284,10 @@ Su archivo %2 queda donde está.</translation>
 </context>
 <context>
     <name>ORVTListview::ProgramNavigation</name>
+    <message>
+        <source>Nothing uses %1.</source>
+        <translation>Nada usa %1.</translation>
+    </message>
     <message>
         <source>&amp;Go To Point</source>
         <translation>Ir al &amp;punto</translation>

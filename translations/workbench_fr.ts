@@ -885,6 +885,10 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
 <context>
     <name>ORVTListview::MainWindow</name>
     <message>
+        <source>Rows are filled from the top: %1 is in row %2.</source>
+        <translation>Les lignes se remplissent à partir du haut : %1 est à la ligne %2.</translation>
+    </message>
+    <message>
         <source>Open Project</source>
         <translation>Ouvrir un projet</translation>
     </message>
@@ -1280,6 +1284,10 @@ Son fichier %2 reste où il est.</translation>
 </context>
 <context>
     <name>ORVTListview::ProgramNavigation</name>
+    <message>
+        <source>Nothing uses %1.</source>
+        <translation>Rien n’utilise %1.</translation>
+    </message>
     <message>
         <source>&amp;Go To Point</source>
         <translation>Aller au &amp;point</translation>

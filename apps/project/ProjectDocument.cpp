@@ -135,6 +135,7 @@ void ProjectDocument::carryOut(ProjectStep step)
     const ProjectStep done = m_steps.constLast();
     setPrograms(done.after.list);
     apply(done.rows);
+    Q_EMIT stepCarriedOut();
 }
 
 void ProjectDocument::carryOut(const RowChanges &rows)
@@ -164,6 +165,7 @@ void ProjectDocument::noteStepShown()
     if (m_done == 0)
         return;
     m_steps[m_done - 1].after = state();
+    Q_EMIT stepCarriedOut();
     Q_EMIT changed();
 }
 

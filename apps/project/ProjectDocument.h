@@ -92,6 +92,9 @@ Q_SIGNALS:
     void programListChanged();
     void changed(); // tables or programs, or what is saved
 
+    // There is a new one, or the editors show it by now.
+    void stepCarriedOut();
+
 private:
     void apply(const RowChanges &changes);
     void setPrograms(const ProgramList &list);

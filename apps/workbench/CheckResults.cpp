@@ -1,12 +1,12 @@
 #include "CheckResults.h"
 
 #include "CheckModel.h"
+#include "workbench/RoomyRows.h"
 
 #include <QtCore/QStringList>
 #include <QtGui/QAccessible>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QTreeView>
 
 #include <algorithm>
@@ -14,25 +14,6 @@
 namespace ORVTListview {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Rows as high as those of the tables, and columns that keep apart.
-class ResultDelegate final : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        const QSize text = QStyledItemDelegate::sizeHint(option, index);
-        const QFontMetrics &letters = option.fontMetrics;
-        return {text.width() + 2 * letters.averageCharWidth(),
-                std::max(text.height(), letters.height() * 3 / 2)};
-    }
-};
-
-} // namespace
 
 CheckResults::CheckResults(QWidget *parent)
     : QDockWidget(parent)
@@ -43,7 +24,7 @@ CheckResults::CheckResults(QWidget *parent)
     setAllowedAreas(Qt::BottomDockWidgetArea);
     setFeatures(DockWidgetClosable);
     m_view->setModel(m_model);
-    m_view->setItemDelegate(new ResultDelegate(m_view));
+    m_view->setItemDelegate(new RoomyRows(m_view));
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
     m_view->setAllColumnsShowFocus(true);

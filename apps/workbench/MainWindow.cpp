@@ -120,6 +120,9 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     connectPages();
     // Queued: the menu that the language was chosen in is made anew.
     connect(&languages, &Languages::changed, this, &MainWindow::retranslate, Qt::QueuedConnection);
+    m_caret.setSingleShot(true);
+    m_caret.setInterval(100ms); // whoever types is not kept waiting
+    connect(&m_caret, &QTimer::timeout, this, &MainWindow::showPosition);
     m_palette.setSingleShot(true);
     m_palette.setInterval(0ms);
     connect(&m_palette, &QTimer::timeout, this, &MainWindow::applyAppearance);
@@ -157,6 +160,10 @@ void MainWindow::connectEditor(ORVListView &list)
     connect(&list, &ORVListView::QueryCompile, m_checking, &ProgramChecking::compile);
     connect(&box, &QPlainTextEdit::blockCountChanged, this, &MainWindow::showProgramInfo);
     connect(&box, &QPlainTextEdit::selectionChanged, this, &MainWindow::showPosition);
+    connect(&box, &QPlainTextEdit::cursorPositionChanged, this, [this] {
+        if (!m_caret.isActive())
+            m_caret.start();
+    });
     connect(&box, &RichTextBox::Change, m_document, &ProjectDocument::noteProgramChange);
     box.viewport()->installEventFilter(this);
     connect(list.codeView(), &CodeView::problemChosen, m_view,
@@ -205,6 +212,7 @@ void MainWindow::connectPoints()
     connect(m_points, &PointChooser::told, m_status, &WindowStatus::tell);
     connect(&m_view->tables(), &TableViews::renameWanted, m_renaming, &PointRenaming::rename);
     connect(&m_view->tables(), &TableViews::pointWanted, m_renaming, &PointRenaming::append);
+    connect(&m_view->tables(), &TableViews::pointWanted, this, &MainWindow::tellPlace);
     connect(m_history, &ProjectHistory::told, m_status, &WindowStatus::tell);
     connect(m_history, &ProjectHistory::reached, this, &MainWindow::showRow);
     connect(m_renaming, &PointRenaming::added, this, [this](LwType type, qsizetype row) {
@@ -213,6 +221,15 @@ void MainWindow::connectPoints()
     });
     connect(&m_view->tables(), &TableViews::refused, this,
             [this](const QString &reason) { PlainTexts::warn(*this, tr("Rename"), reason); });
+}
+
+// Points stand without gaps, whatever row the name was typed in.
+void MainWindow::tellPlace(LwType type, const QString &name, qsizetype wanted)
+{
+    const qsizetype row = m_document->project()->rows(type).size() - 1;
+    if (row < wanted)
+        m_status->tellLonger(tr("Rows are filled from the top: %1 is in row %2.")
+                                 .arg(name, QString::number(row + 1)));
 }
 
 void MainWindow::showRow(LwType type, qsizetype row)
@@ -243,6 +260,8 @@ void MainWindow::showPage()
     showTitle();
     showProgramInfo();
     showPosition();
+    if (!m_pages->showsProject())
+        m_status->takeBack(); // what was told of it
     m_status->setPositionVisible(m_pages->showsProject() && !m_view->currentTable());
 }
 
@@ -356,6 +375,8 @@ void MainWindow::showProgramInfo()
     const Project *project = m_document->project();
     if (!m_pages->showsProject())
         m_status->showProgram({}); // not hidden: the bar does that for messages
+    else if (const PointTables *table = m_view->currentTable())
+        m_status->showProgram(table->title());
     else if (project)
         m_status->showProgram(
             tr("%1, lines: %2")
@@ -367,6 +388,7 @@ void MainWindow::showProgramInfo()
 void MainWindow::retranslate()
 {
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Workbench"));
+    setWindowTitle({}); // the same one is not handed on with the new name of the program
     showTitle();
     m_results->retranslate();
     m_analyses->retranslate();

@@ -107,6 +107,7 @@ private:
     void connectPoints();
     void connectReading();
     void showRow(LwType type, qsizetype row);
+    void tellPlace(LwType type, const QString &name, qsizetype wanted);
     void leaveFirstSteps();
     void connectSaving();
     void connectPages();
@@ -154,6 +155,7 @@ private:
     ProblemWalk *m_walk;
     Panes *m_panes;
     WindowStatus *m_status;
+    QTimer m_caret;   // since it moved, till that is told
     QTimer m_palette; // since it changed, till the program has its colours
 };
 

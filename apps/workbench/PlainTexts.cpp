@@ -4,9 +4,11 @@
 
 #include <QtCore/QPointer>
 #include <QtGui/QTextDocument>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QSpacerItem>
 
 namespace ORVTListview {
 
@@ -21,6 +23,9 @@ QMessageBox::StandardButton PlainTexts::ask(QWidget &window, const Question &que
         new QMessageBox(question.icon, question.title, question.text, question.answers, &window));
     box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(question.usual);
+    if (auto *parts = qobject_cast<QGridLayout *>(box->layout())) // it takes no minimum width
+        parts->addItem(new QSpacerItem(titleWidth(*box), 0), parts->rowCount(), 0, 1,
+                       parts->columnCount());
     const int answer = box->exec();
     if (!box)
         return QMessageBox::NoButton;

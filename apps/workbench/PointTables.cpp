@@ -78,9 +78,16 @@ void PointTables::show(LwType type)
 void PointTables::showRows()
 {
     const qsizetype points = m_project->rows(m_list.CurrentType()).size(); // 16 bits hold them all
-    if (points > m_list.NumberItems())
-        m_list.ChangeListviewNumber(static_cast<qint16>(points));
+    const qsizetype wanted = std::max<qsizetype>(points, m_list.NumberItems());
+    if (wanted == m_list.ListItems()->Count()) {
+        fill();
+        return;
+    }
+    const qsizetype row = rowOf(m_list.SelectedItem()); // the rows are made anew
+    m_list.ChangeListviewNumber(static_cast<qint16>(wanted));
     fill();
+    if (row >= 0)
+        showRow(std::min(row, wanted - 1));
 }
 
 void PointTables::fill()
@@ -341,7 +348,7 @@ void PointTables::takeName(qint16 &cancel, const QString &name)
         if (row < m_project->rows(type).size())
             Q_EMIT renameWanted(type, row, name);
         else
-            Q_EMIT pointWanted(type, name);
+            Q_EMIT pointWanted(type, name, row);
     };
     if (fault.isEmpty())
         QMetaObject::invokeMethod(this, want, Qt::QueuedConnection);

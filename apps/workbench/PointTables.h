@@ -74,8 +74,8 @@ Q_SIGNALS:
     // A point is to have another name, which it can have.
     void renameWanted(ORVTListview::LwType type, qsizetype row, const QString &name);
 
-    // A row behind the points was given a name, which a new point can have.
-    void pointWanted(ORVTListview::LwType type, const QString &name);
+    // A row behind the points was given a name, which a new point can have; from 0.
+    void pointWanted(ORVTListview::LwType type, const QString &name, qsizetype row);
 
     // A name was not taken.
     void refused(const QString &reason);

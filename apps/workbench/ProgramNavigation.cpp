@@ -124,10 +124,14 @@ void ProgramNavigation::back()
 void ProgramNavigation::findUses()
 {
     const NamedPoint at = point();
-    if (at.name.isEmpty())
+    if (at.name.isEmpty()) {
         Q_EMIT told(tr("There is no name here."));
-    else
-        m_results.showUses(usesOf(at));
+        return;
+    }
+    const QList<ShownUse> uses = usesOf(at);
+    m_results.showUses(uses);
+    if (uses.isEmpty())
+        Q_EMIT told(tr("Nothing uses %1.").arg(shortened(at.name)));
 }
 
 void ProgramNavigation::goToFirstUse()

@@ -116,6 +116,31 @@ private Q_SLOTS:
         QCOMPARE(worked.cell(1, 1), u"Room"_s);
     }
 
+    // What was typed since the step comes first, though the text is again what it was.
+    void whatIsTypedAndRemovedComesBackBeforeAStepOfATable()
+    {
+        Worked worked;
+        worked.enter(dsInput, u"Manual"_s);
+        worked.show(dsCode);
+        QTest::keyClick(&worked.box(), Qt::Key_End, Qt::ControlModifier);
+        QTest::keyClicks(&worked.box(), u" + Temp1"_s);
+        for (int typed = 0; typed < 8; ++typed)
+            QTest::keyClick(&worked.box(), Qt::Key_Left, Qt::ShiftModifier);
+        QTest::keyClick(&worked.box(), Qt::Key_Delete);
+        QCOMPARE(worked.code().CodeText(), u"Fan1 = Temp1"_s);
+        QTest::keyClick(&worked.box(), Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(worked.code().CodeText().startsWith(u"Fan1 = Temp1 +"_s));
+        QVERIFY(worked.box().hasFocus());
+        worked.show(dsInput);
+        QCOMPARE(worked.cell(1, 2), u"Manual"_s);
+        worked.show(dsCode);
+        for (int press = 0; press < 5 && worked.code().CodeText() != u"Fan1 = Temp1"_s; ++press)
+            QTest::keyClick(&worked.box(), Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(&worked.box(), Qt::Key_Z, Qt::ControlModifier);
+        worked.show(dsInput);
+        QCOMPARE(worked.cell(1, 2), QString());
+    }
+
     void theTablesMenuAndKeysShareOneHistory()
     {
         Worked worked;

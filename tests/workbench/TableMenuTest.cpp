@@ -4,6 +4,7 @@
 
 #include "support/TestProgram.h"
 #include "workbench/renaming/NewPointDialog.h"
+#include "workbench/renaming/PointRenaming.h"
 #include "workbench/views/TableViews.h"
 
 #include <ORVTListview/ListItem.h>
@@ -132,6 +133,33 @@ private Q_SLOTS:
         QTest::qWait(0);
         Table::choose(table.menuAt(1), u"Go To First Use"_s);
         QCOMPARE(table.window.statusBar()->currentMessage(), u"No program uses Temp1."_s);
+    }
+
+    void usesThatThereAreNoneOfAreTold()
+    {
+        Table table;
+        table.views().enterProgram(1);
+        table.code().RTextSelectAll();
+        table.key(Qt::Key_Delete);
+        table.views().enterType(dsInput);
+        Table::choose(table.menuAt(1), u"All Uses"_s);
+        QCOMPARE(table.window.statusBar()->currentMessage(), u"Nothing uses Temp1."_s);
+    }
+
+    // Where more points stand than the table has rows by itself.
+    void removingKeepsTheRowAndLeavesNoEmptyOne()
+    {
+        Table table;
+        const qsizetype usual = table.shown().NumberItems();
+        auto &renaming = *table.window.findChild<PointRenaming *>();
+        for (int more = 1; table.shown().ListItems()->Count() < usual + 2; ++more)
+            renaming.append(dsInput, u"More%1"_s.arg(more));
+        for (const qsizetype left : {usual + 1, usual}) {
+            Table::choose(table.menuAt(3), u"Remove Point"_s);
+            QCOMPARE(table.shown().ListItems()->Count(), left);
+            QVERIFY(table.shown().SelectedItem());
+            QCOMPARE(table.shown().SelectedItem()->Index(), 3);
+        }
     }
 
     void aPointIsDuplicatedAsAStep()

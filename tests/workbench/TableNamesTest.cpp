@@ -30,6 +30,8 @@ struct Names : WorkbenchWindow
     ReportList &list() { return *shown().listView(); }
     QLineEdit *field() { return list().viewport()->findChild<QLineEdit *>(); }
 
+    QString told() { return window.statusBar()->currentMessage(); }
+
     // Row and column from 0.
     void doubleClick(int row, int column)
     {
@@ -86,6 +88,18 @@ private Q_SLOTS:
         QTest::keyClicks(names.field(), u"Frost"_s);
         QTest::keyClick(names.field(), Qt::Key_Return);
         QTRY_COMPARE(names.shown().ListItems()->Item(2)->SubItem(1), u"Frost"_s);
+        QCOMPARE(names.told(), u"Rows are filled from the top: Frost is in row 2."_s);
+    }
+
+    void inTheFirstEmptyRowANameNeedsNoWord()
+    {
+        Names names;
+        names.doubleClick(1, 1);
+        QVERIFY(names.field());
+        QTest::keyClicks(names.field(), u"Frost"_s);
+        QTest::keyClick(names.field(), Qt::Key_Return);
+        QTRY_COMPARE(names.shown().ListItems()->Item(2)->SubItem(1), u"Frost"_s);
+        QCOMPARE(names.told(), QString());
     }
 
     void aDoubleClickOnOtherCellsEditsNoName()

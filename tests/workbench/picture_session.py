@@ -58,6 +58,7 @@ class Walk:
         """A window that opens with the keys and closes with Escape."""
         self._bench.keys(*keys)
         wait_until(self._others, f"a window for {name}")
+        self._display.settled_pixels(0.5)  # its frame may come before what is in it
         self._picture(name, *first)
         self._close()
 
@@ -130,7 +131,9 @@ class Walk:
         bench = self._bench
         bench.keys("ctrl+2", "ctrl+End")
         bench.type("\nsupplytmp = 1\nif supplytemp=3\n")
-        self._picture("problems", "F6")
+        bench.keys("F6")
+        self._display.settled_pixels(1.5)
+        self._picture("problems")
         bench.keys("ctrl+2")
         self._picture("problem-of-the-walk", "F8")
         self._picture("statements", "ctrl+F6")

@@ -6,6 +6,7 @@
 #include "project/TextFile.h"
 #include "workbench/PlainTexts.h"
 #include "workbench/ProjectView.h"
+#include "workbench/TitleWidth.h"
 #include "workbench/export/PaperText.h"
 #include "workbench/export/ProgramChoice.h"
 #include "workbench/export/ProgramPrint.h"
@@ -230,6 +231,7 @@ void Exporting::print()
     printer.setPageMargins(QMarginsF(20, 15, 15, 15), QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, &m_window);
     dialog.setWindowTitle(tr("Print %1").arg(shownName(programs)));
+    dialog.setMinimumWidth(titleWidth(dialog));
     if (dialog.exec() != QDialog::Accepted)
         return;
     if (!printOn(printer, programs))

@@ -1,6 +1,7 @@
 #include "workbench/help/KeyList.h"
 
 #include "workbench/ClearButton.h"
+#include "workbench/RoomyRows.h"
 #include "workbench/help/ViewKeys.h"
 
 #include <QtCore/QRegularExpression>
@@ -70,12 +71,14 @@ KeyList::KeyList(const QMenuBar &menus, QWidget *parent)
     m_part->setPlaceholderText(tr("Command or key"));
     m_part->setAccessibleName(m_part->placeholderText());
     addClearButton(*m_part);
+    m_keys->setItemDelegate(new RoomyRows(m_keys));
     m_keys->setHeaderLabels({tr("Command"), tr("Key")});
     m_keys->setAccessibleName(windowTitle());
     appendMenus(*m_keys, menus);
     appendViews(*m_keys);
     m_keys->expandAll();
-    m_keys->resizeColumnToContents(0);
+    for (const int column : {0, 1})
+        m_keys->resizeColumnToContents(column);
     connect(m_part, &QLineEdit::textChanged, this, &KeyList::showMatching);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -83,8 +86,8 @@ KeyList::KeyList(const QMenuBar &menus, QWidget *parent)
     layout->addWidget(m_part);
     layout->addWidget(m_keys, 1);
     layout->addWidget(buttons);
-    resize(m_keys->header()->length() + fontMetrics().averageCharWidth() * 12,
-           fontMetrics().height() * 28);
+    const int widths = m_keys->columnWidth(0) + m_keys->columnWidth(1); // none is cut
+    resize(widths + fontMetrics().averageCharWidth() * 12, fontMetrics().height() * 28);
 }
 
 void KeyList::showMatching(const QString &part)

@@ -5,6 +5,7 @@
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
 #include "workbench/PointTables.h"
+#include "workbench/RoomyRows.h"
 #include "workbench/importing/ImportModel.h"
 
 #include <QtGui/QScreen>
@@ -49,6 +50,7 @@ ImportDialog::ImportDialog(const Project &project, LwType type, const QByteArray
     layout->addWidget(makeForm());
     layout->addWidget(makeColumns());
     m_rows->setModel(m_model);
+    m_rows->setItemDelegate(new RoomyRows(m_rows));
     m_rows->setRootIsDecorated(false);
     m_rows->setUniformRowHeights(true);
     m_rows->setAllColumnsShowFocus(true);

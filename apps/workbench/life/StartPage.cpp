@@ -1,6 +1,7 @@
 #include "workbench/life/StartPage.h"
 
 #include "workbench/PlainTexts.h"
+#include "workbench/RoomyRows.h"
 #include "workbench/life/RecentMenu.h"
 #include "workbench/life/RecentProjects.h"
 
@@ -31,6 +32,7 @@ StartPage::StartPage(RecentProjects &recent, QWidget *parent)
     addBelow(*m_files);
     connect(m_new, &QPushButton::clicked, this, &StartPage::newWanted);
     connect(m_open, &QPushButton::clicked, this, &StartPage::choiceWanted);
+    m_files->setItemDelegate(new RoomyRows(m_files));
     // Queued: the list that was chosen in is filled anew.
     connect(
         m_files, &QListWidget::itemActivated, this,

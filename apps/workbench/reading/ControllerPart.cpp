@@ -61,9 +61,13 @@ void ControllerPart::serve(ORVListView &list, PointTables &tables)
             tell(tr("There are no values to read here."), 5000);
     });
     connect(list.listView()->grid(), &ListGrid::menuOpening, this, [this, &tables](QMenu *menu) {
-        if (!tables.selectedPoints().isEmpty())
+        if (tables.selectedPoints().isEmpty())
+            return;
+        QAction *draw =
             menu->addAction(withFreeKey(ControllerMenu::tr("A&dd To Trend"), *menu), this,
                             [this, &tables] { drawRows(tables.type(), tables.selectedPoints()); });
+        draw->setShortcut(Qt::CTRL | Qt::Key_R); // shown; that of the window's menu
+        draw->setShortcutContext(Qt::WidgetShortcut);
     });
 }
 
@@ -141,11 +145,15 @@ void ControllerPart::drawRows(LwType type, const QList<qsizetype> &rows)
         tell(tr("There is nothing new to draw in the selected rows."), 5000);
 }
 
-// As high as it takes to see something, unless the user has made it so.
+// As large as it takes to see something, unless the user has made it so: beside what stands
+// below already, such as the results, the picture has the larger part.
 void ControllerPart::showTrend()
 {
     const bool wasHidden = m_dock->isHidden();
     m_dock->setVisible(!m_trend->lines().isEmpty());
+    const int width = m_window.width() * 3 / 5;
+    if (wasHidden && m_dock->width() < width && !m_dock->isFloating())
+        m_window.resizeDocks({m_dock}, {width}, Qt::Horizontal);
     const int height = m_window.fontMetrics().height() * 20;
     if (wasHidden && m_dock->height() < height && !m_dock->isFloating())
         m_window.resizeDocks({m_dock}, {height}, Qt::Vertical);

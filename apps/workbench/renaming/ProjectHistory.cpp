@@ -16,6 +16,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
+#include <QtCore/QScopedValueRollback>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -73,10 +74,31 @@ ProjectHistory::ProjectHistory(ProjectDocument &document, ProjectView &views)
         };
     };
     const UndoHistory history{can(Way::Back), can(Way::Forward), go(Way::Back), go(Way::Forward)};
-    views.programs().withEach(
-        this, [history](qint32, ORVListView &view) { view.codeView()->setUndoHistory(history); });
+    views.programs().withEach(this, [this, history](qint32 program, ORVListView &view) {
+        view.codeView()->setUndoHistory(history);
+        follow(program, view);
+    });
+    connect(&document, &ProjectDocument::stepCarriedOut, this, [this] { m_typedIn.clear(); });
+    connect(&document, &ProjectDocument::projectReplaced, this, [this] { m_typedIn.clear(); });
     connect(&views.tables(), &TableViews::made, this,
             [history](ORVListView &list) { list.listView()->grid()->setUndoHistory(history); });
+}
+
+void ProjectHistory::follow(qint32 program, ORVListView &view)
+{
+    connect(view.RTextBox(), &RichTextBox::edited, this, [this, program] {
+        if (!m_isGoing)
+            m_typedIn.insert(program);
+    });
+}
+
+// A program that was typed in until it is again what it was has its own undo first.
+const ProjectStep *ProjectHistory::next(Way way) const
+{
+    const bool isTyped = isOfEditor() && m_typedIn.contains(here());
+    if (way == Way::Back && isTyped && code().IsUndoAvailable())
+        return nullptr;
+    return m_document.next(way, here());
 }
 
 ORVListView &ProjectHistory::code() const
@@ -97,14 +119,15 @@ bool ProjectHistory::isOfEditor() const
 
 bool ProjectHistory::canGo(Way way) const
 {
-    if (m_document.next(way, here()))
+    if (next(way))
         return true;
     return isOfEditor() && (way == Way::Back ? code().IsUndoAvailable() : code().IsRedoAvailable());
 }
 
 void ProjectHistory::go(Way way)
 {
-    if (const ProjectStep *step = m_document.next(way, here()))
+    const QScopedValueRollback going(m_isGoing, true);
+    if (const ProjectStep *step = next(way))
         goInProject(way, ProjectStep(*step));
     else
         goInEditor(way);
@@ -115,6 +138,7 @@ void ProjectHistory::goInEditor(Way way)
 {
     if (!isOfEditor())
         return;
+    m_typedIn.remove(here());
     QString fault;
     if (way == Way::Back)
         code().Undo(fault);

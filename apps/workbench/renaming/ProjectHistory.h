@@ -3,6 +3,7 @@
 #include "project/ProjectDocument.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 namespace ORVTListview {
@@ -11,8 +12,8 @@ class ORVListView;
 class ProjectView;
 
 // One undo for steps of the project and for what the editors do by themselves: a step comes
-// when the program that one is in is again what the step made of it. Keys and context menus of
-// editor and tables end here, too.
+// when undo has led the program that one is in back to what the step made of it. Keys and
+// context menus of editor and tables end here, too.
 class ProjectHistory : public QObject
 {
     Q_OBJECT
@@ -33,6 +34,8 @@ Q_SIGNALS:
     void told(const QString &text);
 
 private:
+    void follow(qint32 program, ORVListView &view);
+    const ProjectStep *next(Way way) const;
     qint32 here() const;
     ORVListView &code() const;
     bool isOfEditor() const;
@@ -47,6 +50,8 @@ private:
 
     ProjectDocument &m_document;
     ProjectView &m_views;
+    QSet<qint32> m_typedIn; // programs, since the latest step or the latest undo in them
+    bool m_isGoing = false;
 };
 
 } // namespace ORVTListview

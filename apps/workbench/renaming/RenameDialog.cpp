@@ -3,6 +3,7 @@
 #include "project/ProjectColumns.h"
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
+#include "workbench/RoomyRows.h"
 
 #include <QtGui/QScreen>
 #include <QtWidgets/QDialogButtonBox>
@@ -42,6 +43,7 @@ RenameDialog::RenameDialog(const Renamed &renamed, QWidget *parent)
     label->setWordWrap(true);
     layout->addWidget(label);
     m_places->setAccessibleName(label->text());
+    m_places->setItemDelegate(new RoomyRows(m_places));
     m_places->setRootIsDecorated(false);
     m_places->setUniformRowHeights(true);
     m_places->setHeaderLabels({tr("Place"), tr("Contents")});

@@ -1,6 +1,7 @@
 #include "workbench/saving/ComparisonView.h"
 
 #include "workbench/PlainTexts.h"
+#include "workbench/RoomyRows.h"
 
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QHeaderView>
@@ -44,6 +45,7 @@ QString signOf(ComparedLine::Kind kind)
 ComparisonView::ComparisonView(QWidget *parent)
     : QTreeWidget(parent)
 {
+    setItemDelegate(new RoomyRows(this));
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);

@@ -1,6 +1,7 @@
 #include "workbench/settings/DarkStyle.h"
 
 #include <QtGui/QColor>
+#include <QtGui/QIcon>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 
@@ -62,6 +63,21 @@ void DarkStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
         drawFrame(*option, Shape::Box, *painter);
     else if (element == PE_FrameLineEdit)
         drawFrame(*option, Shape::Field, *painter);
+}
+
+QIcon DarkStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
+                              const QWidget *widget) const
+{
+    QIcon given = QProxyStyle::standardIcon(icon, option, widget);
+    if (icon != SP_ToolBarHorizontalExtensionButton && icon != SP_ToolBarVerticalExtensionButton &&
+        icon != SP_DialogCloseButton)
+        return given;
+    QPixmap picture = given.pixmap(pixelMetric(PM_SmallIconSize, option, widget));
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), QColor(frame));
+    painter.end();
+    return picture;
 }
 
 void DarkStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,

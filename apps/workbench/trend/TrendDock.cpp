@@ -2,6 +2,7 @@
 
 #include "project/TextFile.h"
 #include "workbench/PlainTexts.h"
+#include "workbench/RoomyRows.h"
 #include "workbench/export/SaveAs.h"
 #include "workbench/trend/Trend.h"
 #include "workbench/trend/TrendExport.h"
@@ -74,7 +75,8 @@ void TrendDock::layOut()
     scrolled->setFocusPolicy(Qt::NoFocus);
     parts->addWidget(scrolled);
     parts->addWidget(m_legend);
-    parts->setStretchFactor(0, 1);
+    parts->setStretchFactor(0, 2); // both become narrow in a narrow window
+    parts->setStretchFactor(1, 1);
     parts->setSizes(
         {fontMetrics().averageCharWidth() * 100, fontMetrics().averageCharWidth() * 62});
     parts->setChildrenCollapsible(false);
@@ -98,6 +100,7 @@ void TrendDock::makeCommands()
 
 void TrendDock::makeLegend()
 {
+    m_legend->setItemDelegate(new RoomyRows(m_legend));
     m_legend->setRootIsDecorated(false);
     m_legend->setUniformRowHeights(true);
     m_legend->setAllColumnsShowFocus(true);
@@ -196,7 +199,8 @@ void TrendDock::changeEvent(QEvent *event)
     const bool isOther =
         event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
     if (m_view && isOther)
-        showLines(); // their colours
+        QMetaObject::invokeMethod(this, &TrendDock::showLines,
+                                  Qt::QueuedConnection); // the legend has their colours by then
     QDockWidget::changeEvent(event);
 }
 

@@ -181,7 +181,8 @@ void TrendPainter::paintTimes(QPainter &painter) const
         for (const Lane &lane : m_lanes)
             painter.drawLine(QPointF(x, lane.place.top()), QPointF(x, lane.place.bottom()));
         painter.setPen(faint(0.85));
-        const QRectF place(x - width / 2, m_plot.bottom(), width, lineHeight() * 1.2);
+        const double left = std::min(x - width / 2, m_on.width() - width); // none is cut
+        const QRectF place(left, m_plot.bottom(), width, lineHeight() * 1.2);
         painter.drawText(place, Qt::AlignHCenter | Qt::AlignBottom,
                          timeLabel(tick, step, m_on.locale()));
     }

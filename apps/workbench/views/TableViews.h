@@ -59,7 +59,7 @@ Q_SIGNALS:
 
     // Of any of the tables: as PointTables.
     void renameWanted(ORVTListview::LwType type, qsizetype row, const QString &name);
-    void pointWanted(ORVTListview::LwType type, const QString &name);
+    void pointWanted(ORVTListview::LwType type, const QString &name, qsizetype row);
     void refused(const QString &reason);
 
 private:
