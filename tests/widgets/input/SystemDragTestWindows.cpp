@@ -1,20 +1,19 @@
 // Drags of the system: its own loop runs, fed by its own mouse, and what is dragged goes
 // through its own objects.
 
-#include "support/InTurn.h"
 #include "support/TestProgram.h"
 #include "support/TextDrag.h"
 #include "support/WidgetTest.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QMimeData>
+#include <QtCore/QThread>
 #include <QtGui/QDropEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QVBoxLayout>
 
 #include <memory>
-#include <utility>
 
 #include <windows.h>
 
@@ -29,6 +28,13 @@ void turnMouse(DWORD what)
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = what;
     SendInput(1, &input, sizeof input);
+    QThread::msleep(50);
+}
+
+void moveMouse(const QPoint &place)
+{
+    SetCursorPos(place.x(), place.y());
+    turnMouse(MOUSEEVENTF_MOVE);
 }
 
 // A field that notes what it is offered.
@@ -59,22 +65,23 @@ private:
     RichTextBox *m_other = nullptr;
     Field *m_field = nullptr;
 
-    // Points of the window.
+    // Points of the window. By a thread of its own, as users are: the toolkit and the
+    // system wait for the mouse in a drag, and run no timers meanwhile.
     void drag(const QPoint &from, const QPoint &to)
     {
-        const auto move = [this](const QPoint &point) {
-            const QPoint there = m_window->mapToGlobal(point);
-            SetCursorPos(there.x(), there.y());
-            turnMouse(MOUSEEVENTF_MOVE);
-        };
-        QList<InTurn::Step> steps;
-        steps.append([=] { move(from); });
-        steps.append([] { turnMouse(MOUSEEVENTF_LEFTDOWN); });
-        for (int i = 1; i <= 8; ++i)
-            steps.append([=] { move(from + (to - from) * i / 8); });
-        steps.append([] { turnMouse(MOUSEEVENTF_LEFTUP); });
-        steps.append([] { QTest::qWait(20); });
-        InTurn::take(std::move(steps));
+        const QPoint first = m_window->mapToGlobal(from);
+        const QPoint last = m_window->mapToGlobal(to);
+        const std::unique_ptr<QThread> user(QThread::create([first, last] {
+            moveMouse(first);
+            turnMouse(MOUSEEVENTF_LEFTDOWN);
+            for (int i = 1; i <= 8; ++i)
+                moveMouse(first + (last - first) * i / 8);
+            turnMouse(MOUSEEVENTF_LEFTUP);
+            moveMouse(last + QPoint(1, 0)); // a drag that began late would wait for it
+        }));
+        user->start();
+        QTRY_VERIFY(user->isFinished());
+        QCoreApplication::processEvents();
     }
     QPoint inField() const { return m_field->viewport()->mapTo(m_window.get(), QPoint(10, 10)); }
 
@@ -121,7 +128,7 @@ void SystemDragTest::aMoveGoesToAnotherBox()
 void SystemDragTest::aMoveGoesToAField()
 {
     m_box->setText(u"one\r\ntwo"_s);
-    m_box->setSelLength(7);
+    m_box->setSelLength(8);
     drag(TextDrag::inWindow(*m_box, 1), inField());
     QTRY_COMPARE(m_field->toPlainText(), u"one\ntwo"_s);
     QCOMPARE(m_box->Text(), QString());
