@@ -57,7 +57,8 @@ try_examples() {
         cmake -G Ninja -S examples/$example -B "$out/examples/$example" \
             -DCMAKE_TOOLCHAIN_FILE="$PWD/tools/windows/mingw.cmake" \
             "-DORVT_WINDOWS_QT=$cache/qt;$out/ORVTListview" \
-            "-DCMAKE_CXX_STANDARD_LIBRARIES=$PWD/build/windows/quit_soon.o" >/dev/null
+            "-DCMAKE_CXX_STANDARD_LIBRARIES=$PWD/build/windows/quit_soon.o $cache/qt/lib/libQt6Core.a" \
+            >/dev/null
         cmake --build "$out/examples/$example"
         program=$out/examples/$example/$example.exe
         cp "$out"/ORVTListview/bin/*.dll "$out/examples/$example"
