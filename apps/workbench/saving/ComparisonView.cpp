@@ -82,7 +82,7 @@ void ComparisonView::appendLine(const ComparedLine &line)
 {
     const QString number = line.line > 0 ? QString::number(line.line) : QString();
     auto *item = new QTreeWidgetItem(this, {number, signOf(line.kind), line.before, line.after});
-    item->setTextAlignment(Line, Qt::AlignRight);
+    item->setTextAlignment(Line, Qt::AlignRight | Qt::AlignVCenter);
     if (number.isEmpty()) // there is nothing to tell else
         item->setData(Line, Qt::AccessibleTextRole, signOf(line.kind));
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);

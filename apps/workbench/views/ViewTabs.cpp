@@ -82,6 +82,7 @@ void ViewTabs::dress(Workplace &workplace)
         }
         for (int index = 0; index < tabs->count(); ++index)
             dressTab(workplace, *tabs, index);
+        tabs->update(); // the line below it was another one before it had buttons
     }
 }
 

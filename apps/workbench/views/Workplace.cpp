@@ -219,7 +219,6 @@ void Workplace::gather()
         enter(*front);
     else if (front)
         show(*front);
-    update(); // the frames that stood beside the tabs
 }
 
 void Workplace::goToTab(int step)

@@ -106,15 +106,28 @@ ShownLines BoxLayers::shownLines(int top, int bottom) const
     return lines;
 }
 
-// Where the line above the first one shown, or below the last, has letters that may reach
-// into the view; it is not laid out otherwise.
+int BoxLayers::layersReach() const
+{
+    int reach = 0;
+    for (const BoxLayer *layer : m_layers)
+        reach = std::max(reach, layer->reachBeyond());
+    return reach;
+}
+
+// Not so, a line that is out of view need not be laid out.
+bool BoxLayers::mayReachBeyond(const QTextBlock &line) const
+{
+    return line.isValid() && (layersReach() > 0 || m_reach.mayReachBeyond(line));
+}
+
+// The line above the first one shown, or below the last, where it may reach into the view.
 ShownLine BoxLayers::lineAbove() const
 {
     const ShownLine first = m_reach.firstLine();
     const int row = first.block.isValid() ? first.block.firstLineNumber() : 0;
     const QTextBlock above =
         row > 0 ? first.block.document()->findBlockByLineNumber(row - 1) : QTextBlock();
-    if (!above.isValid() || !m_reach.mayReachBeyond(above))
+    if (!mayReachBeyond(above))
         return {};
     const QSizeF size = m_reach.sizeOf(above).size();
     return {above, QRectF(first.place.topLeft() - QPointF(0, size.height()), size), {}};
@@ -123,7 +136,7 @@ ShownLine BoxLayers::lineAbove() const
 ShownLine BoxLayers::lineBelow(const ShownLine &last) const
 {
     const QTextBlock below = nextShown(last.block);
-    if (!below.isValid() || !m_reach.mayReachBeyond(below))
+    if (!mayReachBeyond(below))
         return {};
     return {below, QRectF(last.place.bottomLeft(), m_reach.sizeOf(below).size()), {}};
 }
@@ -146,9 +159,7 @@ ShownLines BoxLayers::linesAround(int top, int bottom) const
 ShownLines BoxLayers::linesIn(const QRegion &region) const
 {
     const QRect whole = region.boundingRect();
-    int reach = 0;
-    for (const BoxLayer *layer : m_layers)
-        reach = std::max(reach, layer->reachBeyond());
+    const int reach = layersReach();
     ShownLines lines = linesAround(whole.top() - 1, whole.bottom() + 2);
     for (ShownLine &line : lines) {
         const QRect place = line.place.toAlignedRect();

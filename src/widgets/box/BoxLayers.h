@@ -93,7 +93,7 @@ public:
     ShownLines shownLines(int top, int bottom) const;
 
     // Those that are to be painted there, each with its area. A line that is out of view is
-    // one of them if its letters reach into it.
+    // one of them if it reaches into it.
     ShownLines linesIn(const QRegion &region) const;
 
     // Room beside the text, where its lines begin.
@@ -145,6 +145,8 @@ Q_SIGNALS:
 
 private:
     using Paint = void (BoxLayer::*)(QPainter &painter, const ShownLines &lines);
+    int layersReach() const;
+    bool mayReachBeyond(const QTextBlock &line) const;
     ShownLine lineAbove() const;
     ShownLine lineBelow(const ShownLine &last) const;
     ShownLines linesAround(int top, int bottom) const;

@@ -207,6 +207,22 @@ private Q_SLOTS:
         QCOMPARE(after, host.form.grab().toImage().convertToFormat(after.format()));
     }
 
+    void whatAValueLeavesBesideItsLineGoesWithIt()
+    {
+        const ThreadState::Fresh state;
+        ViewHost host;
+        host.view().setLiveValuesShown(true);
+        host.view().setLiveValues({{u"Temp1"_s, u"g"_s + u"\u0323"_s.repeated(4)}});
+        host.list->openProgram(u"\r\n"_s.repeated(9) + u"Temp1"_s + u"\r\n"_s.repeated(80));
+        QScrollBar &bar = *host.box().verticalScrollBar();
+        for (const int top : {0, 8, 9, 10, 11, 10, 9, 40, 10}) {
+            bar.setValue(top);
+            QCoreApplication::processEvents();
+            const QImage shown = host.form.screen()->grabWindow(host.form.winId()).toImage();
+            QCOMPARE(shown, host.form.grab().toImage().convertToFormat(shown.format()));
+        }
+    }
+
     void theScreenShowsWhatPaintingAnewShows() { runSessions<Session>(6, 300); }
 };
 
