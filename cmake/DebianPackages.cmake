@@ -44,6 +44,7 @@ describe(DEV "headers")
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME orvtlistview-designer)
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "${this_library}")
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_ENHANCES "designer-qt6")
 describe(DESIGNER "plugin for Qt Designer")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME orvtlistview-tools)
@@ -71,6 +72,7 @@ set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "pyqt6-dev-tools, orvtlistview-designer
 describe(PYTHON "for Python, beside PyQt6 (GPL or commercial licence)")
 
 # What Debian asks of every package.
+string(TIMESTAMP ORVT_DAY_OF_PACKAGES "%a, %d %b %Y 00:00:00 +0000" UTC) # or SOURCE_DATE_EPOCH
 configure_file(packaging/changelog.in ${PROJECT_BINARY_DIR}/packaging/changelog @ONLY)
 orvt_compress(${PROJECT_BINARY_DIR}/packaging/changelog changelog_gz)
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)

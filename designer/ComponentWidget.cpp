@@ -5,6 +5,28 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Of the form's XML.
+QString specifications(const QList<PropertyDescription> &properties)
+{
+    QString xml;
+    for (const PropertyDescription &property : properties) {
+        if (property.isLine)
+            xml += u"<stringpropertyspecification name=\"%1\" type=\"singleline\"/>"_s.arg(
+                property.name);
+        xml += u"<tooltip name=\"%1\">%2</tooltip>"_s.arg(property.name, property.toolTip);
+    }
+    return xml;
+}
+
+} // namespace
+
+QString ComponentDescription::qualifiedName() const
+{
+    return u"ORVTListview::"_s + className;
+}
+
 ComponentWidget::ComponentWidget(const ComponentDescription &description)
     : m_description(description)
 {
@@ -12,7 +34,7 @@ ComponentWidget::ComponentWidget(const ComponentDescription &description)
 
 QString ComponentWidget::name() const
 {
-    return u"ORVTListview::"_s + m_description.className;
+    return m_description.qualifiedName();
 }
 
 QString ComponentWidget::group() const
@@ -74,7 +96,8 @@ QString ComponentWidget::domXml() const
 </ui>)"_s;
     return xml.arg(m_description.title, name(), m_description.objectName,
                    QString::number(m_description.size.width()),
-                   QString::number(m_description.size.height()), m_description.properties);
+                   QString::number(m_description.size.height()),
+                   specifications(m_description.properties));
 }
 
 bool ComponentWidget::isInitialized() const

@@ -1,7 +1,20 @@
 #pragma once
 
+#include <QtCore/QList>
 #include <QtGui/QIcon>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
+
+// The subjects by which the property editor shows properties.
+enum class PropertyGroup { Content, Behaviour, Appearance };
+
+// How the property editor treats one of a component's own properties.
+struct PropertyDescription
+{
+    QString name;
+    PropertyGroup group = PropertyGroup::Content;
+    QString toolTip;
+    bool isLine = false; // a text that has no line breaks
+};
 
 // What the widget box, the forms and the property editor need of one component.
 struct ComponentDescription
@@ -12,14 +25,16 @@ struct ComponentDescription
     QString pictureKey;
     QString toolTip;
     QString whatsThis;
-    QSize size;         // on a form, in pixels
-    QString properties; // how the property editor treats them, as the form's XML
+    QSize size;                                 // on a form, in pixels
+    QList<PropertyDescription> properties = {}; // in the order of the property editor
 
     // A component on a form that is being designed has no effect outside of it.
     QWidget *(*create)(QWidget *parent, bool isDesigning) = nullptr;
 
     // What Designer gets besides, once; null for nothing.
     void (*addToDesigner)(QDesignerFormEditorInterface &editor) = nullptr;
+
+    QString qualifiedName() const;
 };
 
 class ComponentWidget : public QDesignerCustomWidgetInterface

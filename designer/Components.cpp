@@ -2,6 +2,7 @@
 
 #include "DesignedKeys.h"
 #include "OwnCaption.h"
+#include "PropertyGroups.h"
 #include "TaskMenus.h"
 
 #include <ORVTListview/ORVDataCombo.h>
@@ -44,24 +45,57 @@ QWidget *createTree(QWidget *parent, bool isDesigning)
 }
 
 // In the language of Designer.
-void addTaskMenus(QDesignerFormEditorInterface &editor)
+void addExtensions(QDesignerFormEditorInterface &editor)
 {
     auto *translator = new QTranslator(editor.extensionManager());
     if (translator->load(QLocale(), u"designer"_s, u"_"_s,
                          u":/orvtlistview_designer/translations"_s))
         QCoreApplication::installTranslator(translator);
     TaskMenus::addTo(editor);
+    PropertyGroups::addTo(editor, allComponents());
 }
 
-QString singleLine(const QString &property)
+QList<PropertyDescription> listProperties()
 {
-    return u"<stringpropertyspecification name=\"%1\" type=\"singleline\"/>"_s.arg(property);
+    using enum PropertyGroup;
+    return {
+        {.name = u"ListviewType"_s,
+         .group = Content,
+         .toolTip = u"What is shown: the points of one type with their columns, or for "
+                    "dsCode the code editor"_s},
+        {.name = u"Caption"_s,
+         .group = Content,
+         .toolTip = u"The text above; without one the name of the type"_s,
+         .isLine = true},
+        {.name = u"Enabled"_s, .group = Behaviour, .toolTip = u"Whether users can work with it"_s},
+        {.name = u"enabled"_s, .group = Behaviour, .toolTip = u"Means the same as Enabled"_s},
+        {.name = u"MultiSelect"_s,
+         .group = Behaviour,
+         .toolTip = u"Whether users can select several rows"_s},
+        {.name = u"columnLayout"_s,
+         .group = Appearance,
+         .toolTip = u"Order and width of the columns; set by Columns of This Type in the "
+                    "context menu"_s,
+         .isLine = true},
+        {.name = u"programColours"_s,
+         .group = Appearance,
+         .toolTip = u"The colours of the words; set by Colours of the Program in the "
+                    "context menu"_s,
+         .isLine = true}};
 }
 
-// What the property editor tells of a property.
-QString toolTip(const QString &property, const QString &text)
+QList<PropertyDescription> comboProperties()
 {
-    return u"<tooltip name=\"%1\">%2</tooltip>"_s.arg(property, text);
+    using enum PropertyGroup;
+    return {
+        {.name = u"Text"_s,
+         .group = Content,
+         .toolTip = u"What the field shows at first"_s,
+         .isLine = true},
+        {.name = u"Enabled"_s, .group = Behaviour, .toolTip = u"Whether users can work with it"_s},
+        {.name = u"dragsEntry"_s,
+         .group = Behaviour,
+         .toolTip = u"Whether users can drag the picture of the selected point"_s}};
 }
 
 ComponentDescription listView()
@@ -74,20 +108,9 @@ ComponentDescription listView()
             .whatsThis = u"ListviewType chooses what is shown: the points of one type, each "
                          "type with its own columns, or for dsCode the code editor."_s,
             .size = QSize(480, 300),
-            .properties =
-                singleLine(u"Caption"_s) + singleLine(u"columnLayout"_s) +
-                singleLine(u"programColours"_s) +
-                toolTip(u"ListviewType"_s, u"What is shown: the points of one type with their "
-                                           "columns, or for dsCode the code editor"_s) +
-                toolTip(u"Caption"_s, u"The text above; without one the name of the type"_s) +
-                toolTip(u"Enabled"_s, u"Whether users can work with it"_s) +
-                toolTip(u"MultiSelect"_s, u"Whether users can select several rows"_s) +
-                toolTip(u"columnLayout"_s, u"Order and width of the columns; set by Columns of "
-                                           "This Type in the context menu"_s) +
-                toolTip(u"programColours"_s, u"The colours of the words; set by Colours of the "
-                                             "Program in the context menu"_s),
+            .properties = listProperties(),
             .create = &createList,
-            .addToDesigner = &addTaskMenus};
+            .addToDesigner = &addExtensions};
 }
 
 ComponentDescription treeview()
@@ -100,7 +123,6 @@ ComponentDescription treeview()
             .whatsThis = u"Groups the categories of points into pages. While a form is being "
                          "designed the tree leaves the user's arrangement alone."_s,
             .size = QSize(220, 320),
-            .properties = QString(),
             .create = &createTree};
 }
 
@@ -114,11 +136,7 @@ ComponentDescription dataCombo()
             .whatsThis = u"The host fills it with FillDataListview; users find a point by "
                          "typing a part of its name."_s,
             .size = QSize(180, 28),
-            .properties = singleLine(u"Text"_s) +
-                          toolTip(u"Text"_s, u"What the field shows at first"_s) +
-                          toolTip(u"Enabled"_s, u"Whether users can work with it"_s) +
-                          toolTip(u"dragsEntry"_s,
-                                  u"Whether users can drag the picture of the selected point"_s),
+            .properties = comboProperties(),
             .create = &create<ORVDataCombo>};
 }
 
@@ -132,7 +150,6 @@ ComponentDescription richText()
             .whatsThis = u"For hosts that are built against this interface. The editor that "
                          "works is the code editor of ORVListView."_s,
             .size = QSize(320, 200),
-            .properties = QString(),
             .create = &create<ORVRichText>};
 }
 

@@ -6,10 +6,13 @@ set(run_test ${Python3_EXECUTABLE} -I -S ${CMAKE_CURRENT_LIST_DIR}/support/run_t
 if(orvt_left_out)
     list(APPEND run_test --left-out ${orvt_left_out_file})
 endif()
-# What is built for another system runs in its emulator.
+# What is built for another system runs in its emulator; random tests take a part of their
+# steps there.
 set(emulator)
+set(part_of_steps 1)
 if(CMAKE_CROSSCOMPILING)
     set(emulator ${CMAKE_CROSSCOMPILING_EMULATOR})
+    set(part_of_steps 10)
 endif()
 set(test_folders ${PROJECT_BINARY_DIR}/test_folders)
 set(seconds_for_a_test 300)
@@ -18,9 +21,15 @@ set(seconds_under_sanitizers 1200)
 # NAME [DISPLAY] [ENVIRONMENT NAME=VALUE...] COMMAND ...
 function(orvt_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 test "DISPLAY" "" "ENVIRONMENT;COMMAND")
-    set(options --name ${name} --folder ${test_folders}/${name})
+    set(options --name ${name} --folder ${test_folders}/${name}
+        --set ORVT_TEST_PART=${part_of_steps})
     if(test_DISPLAY AND WIN32)
-        list(APPEND options --set QT_QPA_PLATFORM=windows)
+        if(name MATCHES "^System")
+            list(APPEND options --set QT_QPA_PLATFORM=windows)
+        else() # drags that follow the test's mouse, not the system's
+            list(APPEND options --set QT_QPA_PLATFORM=minimal:enable_fonts
+                --set QT_STYLE_OVERRIDE=fusion) # the system's needs its platform
+        endif()
     elseif(test_DISPLAY)
         list(APPEND options --display)
     endif()
@@ -124,7 +133,7 @@ endfunction()
 
 # The suites of a program of core tests, each a process of its own.
 function(orvt_add_suites program)
-    orvt_add_suites_of(${program} "" ${seconds_for_a_test} "^$" 1)
+    orvt_add_suites_of(${program} "" ${seconds_for_a_test} "^$" ${part_of_steps})
     if(ORVT_SANITIZED_TESTS AND NOT "PLAIN" IN_LIST ARGN)
         orvt_sanitize_program_later(${program})
         # Under a limit of memory there is no room for the sanitizers' own tables.

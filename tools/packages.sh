@@ -1,4 +1,4 @@
-# Sourced by check, demo and bench: installs the Debian packages that are missing.
+# Sourced by check, demo, packages and bench: installs the Debian packages that are missing.
 
 build_packages=(
     ca-certificates ccache cmake g++ ninja-build pkg-config python3
@@ -10,6 +10,9 @@ build_packages=(
 python_packages=(
     python3-pyqt6 pyqt6-dev pyqt6-dev-tools sip-tools python3-dev python3-pytest)
 
+# What makes the Debian packages.
+packaging_packages=(doxygen dpkg-dev file)
+
 # What works a window by real keys and mouse.
 display_packages=(xvfb xauth xclip xdotool openbox x11-utils)
 
@@ -17,10 +20,10 @@ display_packages=(xvfb xauth xclip xdotool openbox x11-utils)
 reader_packages=(at-spi2-core dbus-daemon python3-gi)
 
 test_packages=(
-    libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev libqt6svg6 dpkg-dev file
+    libgtest-dev libgmock-dev qt6-base-private-dev libqt6opengl6-dev libqt6svg6
     abigail-tools lintian mypy libreoffice-writer-nogui
-    clang-format clang-tidy doxygen lld locales valgrind
-    "${python_packages[@]}" "${display_packages[@]}" "${reader_packages[@]}")
+    clang-format clang-tidy lld locales valgrind
+    "${packaging_packages[@]}" "${python_packages[@]}" "${display_packages[@]}" "${reader_packages[@]}")
 
 # What fuzzes the core.
 fuzz_packages=(clang libclang-rt-14-dev lld)

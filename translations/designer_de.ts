@@ -133,4 +133,19 @@
         <translation>Vorschau</translation>
     </message>
 </context>
+<context>
+    <name>PropertyGroups</name>
+    <message>
+        <source>Content</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Behaviour</source>
+        <translation>Verhalten</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Aussehen</translation>
+    </message>
+</context>
 </TS>

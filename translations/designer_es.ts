@@ -133,4 +133,19 @@
         <translation>Vista previa</translation>
     </message>
 </context>
+<context>
+    <name>PropertyGroups</name>
+    <message>
+        <source>Content</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Behaviour</source>
+        <translation>Comportamiento</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Aspecto</translation>
+    </message>
+</context>
 </TS>

@@ -133,4 +133,19 @@
         <translation>Aperçu</translation>
     </message>
 </context>
+<context>
+    <name>PropertyGroups</name>
+    <message>
+        <source>Content</source>
+        <translation>Contenu</translation>
+    </message>
+    <message>
+        <source>Behaviour</source>
+        <translation>Comportement</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
+    </message>
+</context>
 </TS>

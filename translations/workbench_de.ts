@@ -570,6 +570,10 @@
         <translation>Drucken</translation>
     </message>
     <message>
+        <source>There is no printer. Export as PDF instead.</source>
+        <translation>Es gibt keinen Drucker. Stattdessen lässt sich als PDF exportieren.</translation>
+    </message>
+    <message>
         <source>The printer does not take the program.</source>
         <translation>Der Drucker nimmt das Programm nicht an.</translation>
     </message>

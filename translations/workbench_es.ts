@@ -570,6 +570,10 @@
         <translation>Imprimir</translation>
     </message>
     <message>
+        <source>There is no printer. Export as PDF instead.</source>
+        <translation>No hay ninguna impresora. Exporte como PDF en su lugar.</translation>
+    </message>
+    <message>
         <source>The printer does not take the program.</source>
         <translation>La impresora no acepta el programa.</translation>
     </message>

@@ -570,6 +570,10 @@
         <translation>Imprimer</translation>
     </message>
     <message>
+        <source>There is no printer. Export as PDF instead.</source>
+        <translation>Il n’y a pas d’imprimante. Exportez plutôt en PDF.</translation>
+    </message>
+    <message>
         <source>The printer does not take the program.</source>
         <translation>L’imprimante n’accepte pas le programme.</translation>
     </message>

@@ -4,6 +4,7 @@
 #include "Languages.h"
 #include "MainWindow.h"
 #include "ProjectView.h"
+#include "WindowIcon.h"
 
 #include "project/TextFile.h"
 #include "workbench/life/FirstPicture.h"
@@ -152,6 +153,7 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"workbench"_s);
     QApplication::setDesktopFileName(u"orvtlistview-workbench"_s);
+    QApplication::setWindowIcon(windowIcon());
     Languages languages;
     const std::optional<Options> options = readOptions(application);
     if (!options)

@@ -44,16 +44,18 @@ def main():
 
     def choose(node):
         kind = node.Tag  # -1 the device, 13 and up a page
+        if not LwType.dsCode < kind <= LwType.dsOutputParam:
+            return
+        table.ListviewType = LwType(kind)
         if kind == LwType.dsInput:
             show_inputs(table, inputs)
-        elif LwType.dsCode < kind <= LwType.dsOutputParam:
-            table.ListviewType = LwType(kind)
 
     def pick():
         table.SelectedItem = table.FindItem(combo.Text, Where=1)
 
     tree.NodeClick.connect(choose)
     combo.picked.connect(pick)
+    window.setStretchFactor(1, 1)
     window.resize(1000, 700)
     window.show()
     print(f"{table.ListItems.Count} inputs, {combo.ListCount} points to pick")

@@ -50,14 +50,16 @@ int main(int argc, char **argv)
 
     QObject::connect(&tree, &ORVTreeview::NodeClick, [&](Node *node) {
         const int type = node->Tag().toInt(); // -1 the device, 13 and up a page
+        if (type <= dsCode || type > dsOutputParam)
+            return;
+        table.setListviewType(static_cast<LwType>(type));
         if (type == dsInput)
             showInputs(table, inputs);
-        else if (type > dsCode && type <= dsOutputParam)
-            table.setListviewType(static_cast<LwType>(type));
     });
     QObject::connect(&combo, &ORVDataCombo::picked, [&] {
         table.setSelectedItem(table.FindItem(combo.Text(), ReportList::WhereSubItem));
     });
+    window.setStretchFactor(1, 1);
     window.resize(1000, 700);
     window.show();
     std::printf("%d inputs, %d points to pick\n%s\n", table.ListItems()->Count(), combo.ListCount(),

@@ -8,6 +8,7 @@ namespace ORVTListview {
 namespace {
 
 const QString lineEnd = QStringLiteral("\r\n");
+constexpr qsizetype slice = 0x8000;
 
 bool isLineStart(const SharedText &text, qsizetype place)
 {
@@ -19,6 +20,19 @@ bool isLineEnd(const SharedText &text, qsizetype place)
 {
     return place == text.size() || isLineStart(text, place) ||
            text.mid(place, std::min(lineEnd.size(), text.size() - place)) == lineEnd;
+}
+
+// The end of the line that a place is in.
+qsizetype lineEndBehind(const SharedText &text, qsizetype place)
+{
+    for (;;) {
+        const QString part = text.mid(place, std::min(slice, text.size() - place));
+        if (const qsizetype end = part.indexOf(lineEnd); end >= 0)
+            return place + end;
+        if (place + part.size() == text.size())
+            return text.size();
+        place += part.size() - 1; // half a line end may stand there
+    }
 }
 
 bool hasLines(const SharedText &text, qsizetype start, const QString &lines)
@@ -70,13 +84,15 @@ bool ColouredSource::staysSame(const ColouredText &coloured, const Colour &colou
     return colour(coloured.text) == coloured;
 }
 
-// Whole lines, or nothing of one that is very long.
+// Whole lines; none where one is longer than a slice.
 QString ColouredSource::nextLines() const
 {
-    constexpr qsizetype slice = 0x8000;
     const qsizetype left = m_text.size() - m_checked;
-    const QString lines = m_text.mid(m_checked, std::min(slice, left));
-    return lines.size() == left ? lines : lines.first(lines.lastIndexOf(lineEnd) + 2);
+    QString lines = m_text.mid(m_checked, std::min(slice, left));
+    if (lines.size() == left)
+        return lines;
+    const qsizetype end = lines.lastIndexOf(lineEnd);
+    return end < 0 ? QString() : lines.first(end + lineEnd.size());
 }
 
 // One line, if it is so by itself.
@@ -91,14 +107,18 @@ ColouredSource::Unfixed ColouredSource::unfixedIn(const QString &lines, const Co
     return {lines, m_checked};
 }
 
+// A line that is longer than a slice is not looked at: it counts as one that would change.
 bool ColouredSource::check(const Colour &colour)
 {
     if (!m_isKnown || !m_isFixed || m_checked == m_text.size())
         return false;
     const QString lines = nextLines();
-    m_isFixed = lines.size() > 1 && staysSame(colour(lines), colour);
-    if (!m_isFixed)
-        m_unfixed = lines.size() > 1 ? unfixedIn(lines, colour) : Unfixed();
+    m_isFixed = !lines.isEmpty() && staysSame(colour(lines), colour);
+    if (lines.isEmpty())
+        m_unfixed = {m_text.mid(m_checked, lineEndBehind(m_text, m_checked) - m_checked),
+                     m_checked};
+    else if (!m_isFixed)
+        m_unfixed = unfixedIn(lines, colour);
     m_checked += lines.size();
     return m_isFixed && m_checked < m_text.size();
 }

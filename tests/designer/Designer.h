@@ -73,15 +73,14 @@ public:
     QString toolTip(QDesignerFormWindowInterface &window, const QString &widget,
                     const QString &property)
     {
-        m_core->propertyEditor()->setObject(window.findChild<QWidget *>(widget));
-        for (const QTreeView *tree : m_window.findChildren<QTreeView *>()) {
-            const QModelIndexList found = tree->model()->match(
-                tree->model()->index(0, 0), Qt::DisplayRole, property, 1,
-                Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
-            if (!found.isEmpty())
-                return found.constFirst().data(Qt::ToolTipRole).toString();
-        }
-        return {};
+        return shown(window, widget, property).data(Qt::ToolTipRole).toString();
+    }
+
+    // The heading under which the property editor shows it.
+    QString group(QDesignerFormWindowInterface &window, const QString &widget,
+                  const QString &property)
+    {
+        return shown(window, widget, property).parent().data().toString();
     }
 
     // Of the widget's task menu, as long as it lives; null for one without.
@@ -91,6 +90,21 @@ public:
     }
 
 private:
+    // Where the property editor shows a property.
+    QModelIndex shown(QDesignerFormWindowInterface &window, const QString &widget,
+                      const QString &property)
+    {
+        m_core->propertyEditor()->setObject(window.findChild<QWidget *>(widget));
+        for (const QTreeView *tree : m_window.findChildren<QTreeView *>()) {
+            const QModelIndexList found = tree->model()->match(
+                tree->model()->index(0, 0), Qt::DisplayRole, property, 1,
+                Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
+            if (!found.isEmpty())
+                return found.constFirst();
+        }
+        return {};
+    }
+
     QObject m_owner;
     QWidget m_window;
     QDesignerFormEditorInterface *m_core;

@@ -102,7 +102,6 @@ private Q_SLOTS:
     void putsEachComponentOnAForm_data() { describesEachComponent_data(); }
     void putsEachComponentOnAForm();
     void showsTheDesignTimeProperties();
-    void tellsOfEachProperty();
     void namesTheTypesInAList();
     void designerSavesAndReloadsAForm();
     void designerNamesTheHeaders();
@@ -190,27 +189,6 @@ void DesignerPluginTest::showsTheDesignTimeProperties()
     designable.sort();
     QCOMPARE(designable, QStringList({u"Caption"_s, u"Enabled"_s, u"ListviewType"_s,
                                       u"MultiSelect"_s, u"columnLayout"_s, u"programColours"_s}));
-}
-
-void DesignerPluginTest::tellsOfEachProperty()
-{
-    Designer designer;
-    const auto window = designer.opened(plainForm);
-    const QList<QStringList> properties{
-        {u"listView"_s, u"ListviewType"_s, u"points of one type"_s},
-        {u"listView"_s, u"Caption"_s, u"name of the type"_s},
-        {u"listView"_s, u"Enabled"_s, u"users can work"_s},
-        {u"listView"_s, u"MultiSelect"_s, u"several rows"_s},
-        {u"listView"_s, u"columnLayout"_s, u"Columns of This Type"_s},
-        {u"listView"_s, u"programColours"_s, u"Colours of the Program"_s},
-        {u"dataCombo"_s, u"Text"_s, u"at first"_s},
-        {u"dataCombo"_s, u"Enabled"_s, u"users can work"_s},
-        {u"dataCombo"_s, u"dragsEntry"_s, u"drag the picture"_s},
-    };
-    for (const QStringList &each : properties) {
-        const QString told = designer.toolTip(*window, each.at(0), each.at(1));
-        QVERIFY2(told.contains(each.at(2)), qPrintable(each.at(1) + u": "_s + told));
-    }
 }
 
 void DesignerPluginTest::namesTheTypesInAList()

@@ -87,6 +87,27 @@ private Q_SLOTS:
         }
     }
 
+    void norIsALineThatIsTooLongToBeLookedAt()
+    {
+        Colouring colouring;
+        ColouredSource source;
+        QStringList lines = plainLines();
+        lines[5000] = u"temp1 "_s.repeated(30000);
+        source.set(joined(lines));
+        colouring.checkAll(source);
+        QVERIFY(!source.isFixed());
+        for (int step = 0; step < 3; ++step) {
+            lines[10000] += u" x"_s;
+            source.become(joined(lines), true);
+            colouring.checkAll(source);
+            QCOMPARE(colouring.coloured, 0);
+        }
+        lines[5000] = u"temp1"_s;
+        source.become(joined(lines), true);
+        colouring.checkAll(source);
+        QVERIFY(source.isFixed());
+    }
+
     void itIsLookedForOnceItHasGone()
     {
         Colouring colouring;

@@ -1,6 +1,7 @@
 // Names dragged into a program from the tables, the combo and the tree.
 
 #include "editor/EditorHost.h"
+#include "support/InTurn.h"
 #include "support/TestProgram.h"
 #include "support/TextDrag.h"
 #include "support/WidgetTest.h"
@@ -10,13 +11,12 @@
 #include <ORVTListview/Nodes.h>
 #include <ORVTListview/ORVDataCombo.h>
 
-#include <QtCore/QTimer>
 #include <QtGui/QWindow>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QTreeView>
 
-#include <functional>
 #include <memory>
+#include <utility>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -65,17 +65,12 @@ private:
     void drag(const QPoint &from, const QPoint &to)
     {
         QWindow *window = m_host->form.windowHandle();
-        QList<std::function<void()>> steps;
+        QList<InTurn::Step> steps;
         steps.append([=] { QTest::mousePress(window, Qt::LeftButton, {}, from); });
         for (int i = 1; i <= 8; ++i)
             steps.append([=] { QTest::mouseMove(window, from + (to - from) * i / 8); });
         steps.append([=] { QTest::mouseRelease(window, Qt::LeftButton, {}, to); });
-        bool done = false;
-        steps.append([&done] { done = true; });
-        for (int i = 0; i < steps.size(); ++i)
-            QTimer::singleShot(5 * i, this, steps.at(i));
-        QTRY_VERIFY(done);
-        QCoreApplication::processEvents();
+        InTurn::take(std::move(steps));
     }
     void dragToBox(const QPoint &from, qint32 position)
     {

@@ -4,6 +4,7 @@
 #include "widgets/box/LateColours.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDeadlineTimer>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
 
@@ -75,7 +76,14 @@ struct OpeningHost : EditorHost
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
     }
-    void finish() { QTRY_VERIFY(!colours().areWaiting() && !view().isOpening()); }
+    bool isAtWork() { return colours().areWaiting() || view().isOpening(); }
+    void finish()
+    {
+        // QTRY_VERIFY sleeps between the pieces of the work where the loop is Windows'.
+        for (QDeadlineTimer patience(5000); isAtWork() && !patience.hasExpired();)
+            pass();
+        QTRY_VERIFY(!isAtWork());
+    }
     bool hasColours(int line)
     {
         const QTextBlock block = box().document()->findBlockByNumber(line);

@@ -1,12 +1,11 @@
 // Real drags of an ORVListView: the toolkit's drag loop runs, fed by mouse events.
 
 #include "listview/ShownListView.h"
+#include "support/InTurn.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
-#include <QtCore/QTimer>
-
-#include <functional>
+#include <utility>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -39,7 +38,7 @@ void ListViewDragTest::initTestCase()
 
 void ListViewDragTest::drag(const ShownListView &shown, const QList<QPoint> &way)
 {
-    QList<std::function<void()>> steps;
+    QList<InTurn::Step> steps;
     QPoint from = shown.cell(2);
     steps.append([&shown, from] { shown.press(from); });
     for (const QPoint &to : way) {
@@ -50,12 +49,7 @@ void ListViewDragTest::drag(const ShownListView &shown, const QList<QPoint> &way
         from = to;
     }
     steps.append([&shown, from] { shown.release(from); });
-    bool done = false;
-    steps.append([&done] { done = true; });
-    for (int i = 0; i < steps.size(); ++i)
-        QTimer::singleShot(5 * i, this, steps.at(i));
-    QTRY_VERIFY(done);
-    QCoreApplication::processEvents();
+    InTurn::take(std::move(steps));
 }
 
 void ListViewDragTest::aDragRaisesAllSixEvents()

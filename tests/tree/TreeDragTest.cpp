@@ -3,10 +3,12 @@
 
 #include "tree/ProjectTree.h"
 
+#include "support/InTurn.h"
 #include "support/TestProgram.h"
 
-#include <QtCore/QTimer>
 #include <QtWidgets/QLineEdit>
+
+#include <utility>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -91,7 +93,7 @@ void TreeDragTest::initTestCase()
 // end. Each step is one of the event loop.
 void TreeDragTest::drag(const ShownProject &shown, QPoint from, const QList<QPoint> &way)
 {
-    QList<std::function<void()>> steps;
+    QList<InTurn::Step> steps;
     QWindow *window = shown.window;
     steps.append([=] { QTest::mousePress(window, Qt::LeftButton, {}, from); });
     QPoint last = from;
@@ -103,12 +105,7 @@ void TreeDragTest::drag(const ShownProject &shown, QPoint from, const QList<QPoi
         last = to;
     }
     steps.append([=] { QTest::mouseRelease(window, Qt::LeftButton, {}, last); });
-    bool done = false;
-    steps.append([&done] { done = true; });
-    for (int i = 0; i < steps.size(); ++i)
-        QTimer::singleShot(5 * i, this, steps.at(i));
-    QTRY_VERIFY(done);
-    QCoreApplication::processEvents();
+    InTurn::take(std::move(steps));
 }
 
 void TreeDragTest::dragsACategoryToAPage()

@@ -55,6 +55,13 @@ private Q_SLOTS:
         QCOMPARE(picture({}), light);
     }
 
+    void everythingIsConnected()
+    {
+        const Outcome outcome = run({u"--screenshot"_s, m_folder.filePath(u"connected.png"_s)});
+        QCOMPARE(outcome.status, 0);
+        QVERIFY2(!outcome.errors.contains(u"QObject::"_s), qPrintable(outcome.errors));
+    }
+
     void drawsItDark()
     {
         const QImage dark = picture({u"--dark"_s});

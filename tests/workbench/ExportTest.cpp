@@ -17,6 +17,7 @@
 #include <QtGui/QPageRanges>
 #include <QtGui/QPdfWriter>
 #include <QtGui/QTextDocument>
+#include <QtPrintSupport/QPrinterInfo>
 #include <QtWidgets/QFileDialog>
 
 using namespace Qt::StringLiterals;
@@ -130,7 +131,7 @@ private Q_SLOTS:
         const QString light = coloursIn(exported(workbench, u"light.html"_s));
         const QByteArray rtf = exported(workbench, u"light.rtf"_s);
         goDark();
-        QVERIFY(workbench.box().TextRTF().toLatin1() != rtf); // the screen's are others
+        QTRY_VERIFY(workbench.box().TextRTF().toLatin1() != rtf); // the screen's are others
         QCOMPARE(coloursIn(exported(workbench, u"dark.html"_s)), light);
         QCOMPARE(exported(workbench, u"dark.rtf"_s), rtf);
         workbench.choose(u"Select All"_s);
@@ -280,6 +281,19 @@ private Q_SLOTS:
         }
         QCOMPARE(pdf.data().count("/Type /Page\n"), 2);
     }
+
+#ifdef Q_OS_WIN
+    void whereNoPrinterIsItIsTold()
+    {
+        if (!QPrinterInfo::availablePrinterNames().isEmpty())
+            return; // the system's dialog would be shown
+        WorkbenchWindow workbench("Fan1 = ON");
+        NextMessage told(QMessageBox::Ok);
+        workbench.choose(u"Print…"_s);
+        QVERIFY(told.wasThere());
+        QVERIFY2(told.text().contains(u"no printer"_s), qPrintable(told.text()));
+    }
+#endif
 
 private:
     QPalette m_palette;

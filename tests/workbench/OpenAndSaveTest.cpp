@@ -295,8 +295,9 @@ private Q_SLOTS:
 
         workbench.window.openProject(project);
         QTRY_VERIFY(bar.isVisible());
-        QTRY_VERIFY(bar.value() > 50);
-        QTRY_VERIFY(!bar.isVisible());
+        // Waiting sleeps between the pieces of the work where the loop is Windows'.
+        QTRY_VERIFY_WITH_TIMEOUT(bar.value() > 50, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(!bar.isVisible(), 30000);
         QVERIFY(!view.isOpening());
     }
 

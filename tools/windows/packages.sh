@@ -27,17 +27,15 @@ copy_licences() {
     cp /usr/share/doc/libz-mingw-w64/copyright "$folder/zlib.txt"
 }
 
-# What starts by a double click, wherever the folder is put.
+# What starts by a double click, wherever the folder is put. The program has the
+# library within.
 pack_workbench() {
     local out=$1 cache=$2 folder
     rm -rf "$out/stage"
-    for component in library workbench; do
-        cmake --install build/windows --component $component --prefix "$out/stage" --strip
-    done
+    cmake --install build/windows --component workbench --prefix "$out/stage" --strip
     folder=$out/ORVTListview-workbench
     rm -rf "$folder"
     mv "$out/stage/workbench" "$folder"
-    cp "$out"/stage/bin/*.dll "$folder"
     copy_runtime "$cache" "$folder"
     copy_licences "$folder"
 }
@@ -59,7 +57,8 @@ try_examples() {
         cmake -G Ninja -S examples/$example -B "$out/examples/$example" \
             -DCMAKE_TOOLCHAIN_FILE="$PWD/tools/windows/mingw.cmake" \
             "-DORVT_WINDOWS_QT=$cache/qt;$out/ORVTListview" \
-            "-DCMAKE_CXX_STANDARD_LIBRARIES=$PWD/build/windows/quit_soon.o" >/dev/null
+            "-DCMAKE_CXX_STANDARD_LIBRARIES=$PWD/build/windows/quit_soon.o $cache/qt/lib/libQt6Core.a" \
+            >/dev/null
         cmake --build "$out/examples/$example"
         program=$out/examples/$example/$example.exe
         cp "$out"/ORVTListview/bin/*.dll "$out/examples/$example"
@@ -68,17 +67,19 @@ try_examples() {
     done
 }
 
-# The archive holds all that the program needs: unpacked elsewhere, it opens its sample.
+# The archive holds all that the program needs: unpacked elsewhere, it opens its sample
+# and finds nothing that it cannot connect.
 try_workbench() {
-    local out=$1 cache=$2 place program picture
+    local out=$1 cache=$2 place program picture told
     place=$(mktemp -d)
     (cd "$place" && cmake -E tar xf "$out/ORVTListview-workbench.zip")
     program=$place/ORVTListview-workbench/workbench.exe
     picture=$out/workbench.png
     rm -f "$picture"
-    WINEPATH= ORVT_SETTINGS_FILE=/dev/null/none \
-        tools/windows/wine "$cache" "$program" --screenshot "$picture"
+    told=$(WINEPATH= ORVT_SETTINGS_FILE=/dev/null/none QT_FORCE_STDERR_LOGGING=1 \
+        tools/windows/wine "$cache" "$program" --screenshot "$picture" 2>&1)
     [ -s "$picture" ]
+    grep QObject:: <<<"$told" && return 1
     rm -rf "$place"
 }
 

@@ -18,8 +18,15 @@ make_prefix() (
     wineserver --wait
 )
 
+# What the toolkit finds off screen: it would take any of a folder's, the serifs, too.
+choose_fonts() {
+    mkdir -p "$1/fonts"
+    ln -sf /usr/share/fonts/truetype/dejavu/DejaVuSans{,-Bold,Mono,Mono-Bold}.ttf "$1/fonts"
+}
+
 make_prefixes() {
     local folder=$1/prefixes number
+    choose_fonts "$1"
     for number in $(seq "$2"); do
         [ -e "$folder/$number.complete" ] && continue
         rm -rf "${folder:?}/$number"
@@ -29,6 +36,16 @@ make_prefixes() {
         touch "$folder/$number.complete"
     done
 }
+
+# Lets Wine's own programs live from test to test. Begun by a test, they would keep what
+# it writes to open, and its end would wait for theirs.
+keep_wine() (
+    export WINEPREFIX=$1 DISPLAY=$2 WINEDEBUG=-all
+    wineserver --kill || true # programs of the build, which had no display
+    rm -f "$1.input"
+    mkfifo "$1.input"
+    wine cmd 0<>"$1.input" >/dev/null 2>&1 9>&- & # waits for a command
+)
 
 begin_displays() {
     local prefix
@@ -42,6 +59,7 @@ begin_displays() {
             sleep 0.1
         done
         echo ":$(cat "$prefix.number")" >"$prefix.display"
+        keep_wine "$prefix" ":$(cat "$prefix.number")"
     done
 }
 
@@ -52,6 +70,6 @@ end_displays() {
         [ -e "$prefix.process" ] || continue
         WINEPREFIX=$prefix wineserver --kill || true
         kill "$(cat "$prefix.process")" || true
-        rm -f "$prefix.process" "$prefix.number" "$prefix.display"
+        rm -f "$prefix".{process,number,display,input}
     done
 }

@@ -23,6 +23,7 @@
 #include <QtCore/QBuffer>
 #include <QtCore/QFileInfo>
 #include <QtCore/QHash>
+#include <QtCore/QOperatingSystemVersion>
 #include <QtCore/QPointer>
 #include <QtGui/QPdfWriter>
 #include <QtPrintSupport/QPrintDialog>
@@ -52,6 +53,13 @@ CellBlock cellsOf(const ORVListView &list, qsizetype rows)
         cells.append(texts);
     }
     return cells;
+}
+
+// The dialog of Windows needs a printer; the toolkit's own prints to files, too.
+bool canBeAskedFor(const QPrinter &printer)
+{
+    return printer.outputFormat() == QPrinter::NativeFormat ||
+           QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows;
 }
 
 } // namespace
@@ -215,6 +223,10 @@ void Exporting::print()
     if (!self || programs.isEmpty())
         return;
     QPrinter printer(QPrinter::HighResolution);
+    if (!canBeAskedFor(printer)) {
+        PlainTexts::warn(m_window, tr("Print"), tr("There is no printer. Export as PDF instead."));
+        return;
+    }
     printer.setDocName(titleOf(programs));
     printer.setPageMargins(QMarginsF(20, 15, 15, 15), QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, &m_window);

@@ -45,6 +45,7 @@ Folds::Folds(RichTextBox &box, EditorMargin &margin, BoxLayers &layers)
     , m_openBlocks(*box.document())
 {
     connect(&m_openBlocks, &OpenBlocks::changed, &m_margin, qOverload<>(&QWidget::update));
+    connect(&layers, &BoxLayers::hiddenLineWanted, this, &Folds::unfold);
 }
 
 void Folds::setOn(bool on)

@@ -1,6 +1,7 @@
 #include "editor/view/MarginAccess.h"
 
 #include "shared/texts/TextTable.h"
+#include "widgets/component/AccessFactory.h"
 
 #include <QtWidgets/QWidget>
 
@@ -18,7 +19,8 @@ QAccessibleInterface *makeAccess(const QString &name, QObject *object)
 
 void MarginAccess::install()
 {
-    QAccessible::installFactory(makeAccess); // takes each but once
+    static AccessFactory factory(makeAccess);
+    factory.install();
 }
 
 MarginAccess::MarginAccess(QWidget &margin)

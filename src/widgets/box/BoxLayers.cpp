@@ -1,7 +1,10 @@
 #include "widgets/box/BoxLayers.h"
 
+#include <QtCore/QtMath>
 #include <QtGui/QPainter>
 #include <QtGui/QRegion>
+#include <QtGui/QTextCharFormat>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
@@ -103,13 +106,61 @@ ShownLines BoxLayers::shownLines(int top, int bottom) const
     return lines;
 }
 
-ShownLines BoxLayers::linesIn(const QRegion &region) const
+int BoxLayers::layersReach() const
 {
-    const QRect whole = region.boundingRect();
     int reach = 0;
     for (const BoxLayer *layer : m_layers)
         reach = std::max(reach, layer->reachBeyond());
-    ShownLines lines = shownLines(whole.top() - 1, whole.bottom() + 2);
+    return reach;
+}
+
+// Not so, a line that is out of view need not be laid out.
+bool BoxLayers::mayReachBeyond(const QTextBlock &line) const
+{
+    return line.isValid() && (layersReach() > 0 || m_reach.mayReachBeyond(line));
+}
+
+// The line above the first one shown, or below the last, where it may reach into the view.
+ShownLine BoxLayers::lineAbove() const
+{
+    const ShownLine first = m_reach.firstLine();
+    const int row = first.block.isValid() ? first.block.firstLineNumber() : 0;
+    const QTextBlock above =
+        row > 0 ? first.block.document()->findBlockByLineNumber(row - 1) : QTextBlock();
+    if (!mayReachBeyond(above))
+        return {};
+    const QSizeF size = m_reach.sizeOf(above).size();
+    return {above, QRectF(first.place.topLeft() - QPointF(0, size.height()), size), {}};
+}
+
+ShownLine BoxLayers::lineBelow(const ShownLine &last) const
+{
+    const QTextBlock below = nextShown(last.block);
+    if (!mayReachBeyond(below))
+        return {};
+    return {below, QRectF(last.place.bottomLeft(), m_reach.sizeOf(below).size()), {}};
+}
+
+// No letter is higher than its row by more than another one.
+ShownLines BoxLayers::linesAround(int top, int bottom) const
+{
+    const int row = qCeil(m_reach.firstLine().place.height());
+    const int end = m_viewport.height();
+    ShownLines lines = shownLines(top - row, std::min(bottom + row, end));
+    if (const ShownLine above = top < row ? lineAbove() : ShownLine(); above.block.isValid())
+        lines.prepend(above);
+    const bool isAtEnd = bottom + row > end && !lines.isEmpty();
+    if (const ShownLine below = isAtEnd ? lineBelow(lines.constLast()) : ShownLine();
+        below.block.isValid())
+        lines.append(below);
+    return lines;
+}
+
+ShownLines BoxLayers::linesIn(const QRegion &region) const
+{
+    const QRect whole = region.boundingRect();
+    const int reach = layersReach();
+    ShownLines lines = linesAround(whole.top() - 1, whole.bottom() + 2);
     for (ShownLine &line : lines) {
         const QRect place = line.place.toAlignedRect();
         const int beyond = std::max(reach, m_reach.reachBeyond(line.block));
@@ -165,6 +216,22 @@ void BoxLayers::setTextColours(const TextColours &colours)
     m_viewport.update();
 }
 
+QColor BoxLayers::shownColour(const QTextCharFormat &format, const QColor &plain) const
+{
+    const auto colourOf = [&](int property) {
+        return format.hasProperty(property) ? format.brushProperty(property).color() : QColor();
+    };
+    const QColor stated = colourOf(QTextFormat::ForegroundBrush);
+    const QColor own = stated.isValid() ? stated : plain;
+    return m_textColours ? m_textColours(own, colourOf(QTextFormat::BackgroundBrush)) : own;
+}
+
+void BoxLayers::wantLine(const QTextBlock &line)
+{
+    if (line.isValid() && !line.isVisible())
+        Q_EMIT hiddenLineWanted(line);
+}
+
 // The toolkit has just shown the text in the box's own.
 void BoxLayers::fitFont()
 {
@@ -186,6 +253,8 @@ void BoxLayers::updateLines(const std::function<bool(const QTextBlock &block)> &
 
 void BoxLayers::paint(const QRegion &region, const ShownLines &lines, Paint how)
 {
+    if (m_layers.isEmpty())
+        return;
     QPainter painter(&m_viewport);
     painter.setClipRegion(region);
     for (BoxLayer *layer : std::as_const(m_layers))

@@ -4,6 +4,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QRectF>
+#include <QtGui/QColor>
 #include <QtGui/QFont>
 #include <QtGui/QTextBlock>
 
@@ -11,6 +12,7 @@
 
 class QPainter;
 class QRegion;
+class QTextCharFormat;
 class QWidget;
 
 namespace ORVTListview {
@@ -72,7 +74,8 @@ public:
     {
         std::function<ShownLine()> firstLine;
         std::function<QRectF(const QTextBlock &block)> sizeOf;
-        std::function<int(const QTextBlock &block)> reachBeyond; // of its text, in pixels
+        std::function<int(const QTextBlock &block)> reachBeyond;     // of its text, in pixels
+        std::function<bool(const QTextBlock &block)> mayReachBeyond; // also if not laid out
         std::function<void(int beside, int below)> setMargins;
         std::function<void(const QFont &font)> showIn;
     };
@@ -82,7 +85,6 @@ public:
 
     static BoxLayers &of(const QWidget &box);
 
-    bool isEmpty() const { return m_layers.isEmpty() && !m_textColours; }
     void add(BoxLayer &layer);
     void remove(BoxLayer &layer);
 
@@ -90,7 +92,8 @@ public:
     ShownLines shownLines() const;
     ShownLines shownLines(int top, int bottom) const;
 
-    // Those that are to be painted there, each with its area.
+    // Those that are to be painted there, each with its area. A line that is out of view is
+    // one of them if it reaches into it.
     ShownLines linesIn(const QRegion &region) const;
 
     // Room beside the text, where its lines begin.
@@ -117,6 +120,12 @@ public:
     void setTextColours(const TextColours &colours);
     const TextColours &textColours() const { return m_textColours; }
 
+    // The colour of such a text as it is painted, in a box whose text has the given one.
+    QColor shownColour(const QTextCharFormat &format, const QColor &plain) const;
+
+    // Has a line shown that is folded away.
+    void wantLine(const QTextBlock &line);
+
     // Has the lines painted again for which `concerns` is true.
     void updateLines(const std::function<bool(const QTextBlock &block)> &concerns);
 
@@ -128,11 +137,19 @@ public:
 Q_SIGNALS:
     void shownFontChanged();
 
+    // Somebody is to see a line that is not shown.
+    void hiddenLineWanted(const QTextBlock &line);
+
     // The margin of these lines looks other than before.
     void marginChanged(int top, int bottom);
 
 private:
     using Paint = void (BoxLayer::*)(QPainter &painter, const ShownLines &lines);
+    int layersReach() const;
+    bool mayReachBeyond(const QTextBlock &line) const;
+    ShownLine lineAbove() const;
+    ShownLine lineBelow(const ShownLine &last) const;
+    ShownLines linesAround(int top, int bottom) const;
     void paint(const QRegion &region, const ShownLines &lines, Paint how);
 
     QWidget &m_box;

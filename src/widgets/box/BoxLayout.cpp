@@ -31,6 +31,23 @@ private:
     int m_reach;
 };
 
+namespace {
+
+// By more than colours, or by an input method that composes.
+bool isStyled(const QTextBlock &line)
+{
+    if (!line.layout()->preeditAreaText().isEmpty())
+        return true;
+    for (auto it = line.begin(); !it.atEnd(); ++it) {
+        const QTextCharFormat format = it.fragment().charFormat();
+        if (format.propertyCount() > (format.hasProperty(QTextFormat::ForegroundBrush) ? 1 : 0))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 BoxLayout::BoxLayout(QTextDocument &document, const QWidget &viewport)
     : QPlainTextDocumentLayout(&document)
     , m_viewport(viewport)
@@ -121,15 +138,15 @@ const FontLetters &BoxLayout::letters() const
 // It is known of letters without a style of their own.
 int BoxLayout::textReach(const QTextBlock &block) const
 {
-    const int row = qCeil(block.layout()->boundingRect().height());
-    if (!block.layout()->preeditAreaText().isEmpty())
-        return row;
-    for (auto it = block.begin(); !it.atEnd(); ++it) {
-        const QTextCharFormat format = it.fragment().charFormat();
-        if (format.propertyCount() > (format.hasProperty(QTextFormat::ForegroundBrush) ? 1 : 0))
-            return row;
-    }
-    return letters().reachBeyond(block.text());
+    return isStyled(block) ? qCeil(block.layout()->boundingRect().height())
+                           : letters().reachBeyond(block.text());
+}
+
+bool BoxLayout::mayReachBeyond(const QTextBlock &line) const
+{
+    const auto *width = dynamic_cast<const LineWidth *>(line.userData());
+    return width ? width->reachBeyond() > 0
+                 : isStyled(line) || letters().reachBeyond(line.text()) > 0;
 }
 
 // A line that is no whole number of the screen's pixels high shares one with the next.

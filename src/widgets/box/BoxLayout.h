@@ -37,6 +37,9 @@ public:
     // How far above and below a line that is laid out its text may be painted, in pixels.
     int reachBeyond(const QTextBlock &line) const;
 
+    // Whether its letters may be painted there; of any line.
+    bool mayReachBeyond(const QTextBlock &line) const;
+
     // Those of the document's font.
     const FontLetters &letters() const;
 

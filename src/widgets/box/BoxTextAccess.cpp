@@ -2,6 +2,7 @@
 
 #include "widgets/box/BoxAccess.h"
 #include "widgets/box/BoxCommands.h"
+#include "widgets/box/BoxLayers.h"
 #include "widgets/box/BoxText.h"
 #include "widgets/box/CharacterPlaces.h"
 #include "widgets/box/FormatsTold.h"
@@ -9,6 +10,7 @@
 #include "widgets/box/LateColours.h"
 #include "widgets/box/TextUnits.h"
 #include "widgets/box/UserEditing.h"
+#include "widgets/component/AccessFactory.h"
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtCore/QPointer>
@@ -44,7 +46,8 @@ QString tellNothing(int *start, int *end)
 
 void installBoxAccess()
 {
-    QAccessible::installFactory(makeAccess); // takes each but once
+    static AccessFactory factory(makeAccess);
+    factory.install();
 }
 
 BoxTextAccess::BoxTextAccess(RichTextBox &box)
@@ -199,7 +202,9 @@ QString BoxTextAccess::attributes(int offset, int *startOffset, int *endOffset) 
 {
     const int place = inside(offset);
     LateColours::of(*m_box.document()).give(place, place);
-    const FormatTold told = formatTold(*m_box.document(), place);
+    const FormatTold told = formatTold(*m_box.document(), place, [this](const auto &format) {
+        return BoxLayers::of(m_box).shownColour(format, m_box.palette().color(QPalette::Text));
+    });
     *startOffset = told.start;
     *endOffset = told.end;
     return told.attributes;

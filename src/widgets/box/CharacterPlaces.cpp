@@ -120,9 +120,19 @@ int CharacterPlaces::characterAt(const QPoint &place) const
     return -1;
 }
 
+// False if the box is gone.
+bool CharacterPlaces::unfold(int position) const
+{
+    const QPointer<const RichTextBox> box(&m_box);
+    m_layers.wantLine(m_box.document()->findBlock(position));
+    return !box.isNull();
+}
+
 // The bar at the side counts rows.
 void CharacterPlaces::show(int from, int to) const
 {
+    if (!unfold(from) || !unfold(std::max(from, to - 1)))
+        return;
     const QRectF first = shownPlace(from);
     const QRectF last = shownPlace(std::max(from, to - 1));
     if (first.isEmpty() || last.isEmpty())

@@ -26,15 +26,16 @@ public:
     int characterAt(const QPoint &place) const;
 
     // Scrolls as little as is needed to show the characters from one place to another, the
-    // first of them if there is no room for all. The caret stays.
+    // first of them if there is no room for all, and unfolds their lines. The caret stays.
     void show(int from, int to) const;
 
 private:
     QRectF lineOf(const QTextBlock &block) const;
     QRectF shownPlace(int position) const;
+    bool unfold(int position) const;
 
     const RichTextBox &m_box;
-    const BoxLayers &m_layers;
+    BoxLayers &m_layers;
 };
 
 } // namespace ORVTListview

@@ -28,7 +28,7 @@ QString quoted(QString name)
     return name;
 }
 
-QString attributesOf(const QTextCharFormat &format, const QFont &ofAll)
+QString attributesOf(const QTextCharFormat &format, const QFont &ofAll, const QColor &colour)
 {
     const QFont font = format.font().resolve(ofAll);
     QString told;
@@ -43,8 +43,7 @@ QString attributesOf(const QTextCharFormat &format, const QFont &ofAll)
         tell(u"text-underline-style"_s, u"solid"_s);
     if (font.strikeOut())
         tell(u"text-line-through-type"_s, u"single"_s);
-    if (format.hasProperty(QTextFormat::ForegroundBrush))
-        tell(u"color"_s, colourTold(format.foreground().color()));
+    tell(u"color"_s, colourTold(colour));
     if (format.hasProperty(QTextFormat::BackgroundBrush))
         tell(u"background-color"_s, colourTold(format.background().color()));
     return told;
@@ -52,17 +51,21 @@ QString attributesOf(const QTextCharFormat &format, const QFont &ofAll)
 
 } // namespace
 
-FormatTold formatTold(const QTextDocument &document, int position)
+FormatTold formatTold(const QTextDocument &document, int position,
+                      const std::function<QColor(const QTextCharFormat &format)> &colour)
 {
+    const auto told = [&](const QTextCharFormat &format) {
+        return attributesOf(format, document.defaultFont(), colour(format));
+    };
     const QTextBlock line = document.findBlock(position);
     for (auto it = line.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
         if (fragment.contains(position))
-            return {attributesOf(fragment.charFormat(), document.defaultFont()),
-                    fragment.position(), fragment.position() + fragment.length()};
+            return {told(fragment.charFormat()), fragment.position(),
+                    fragment.position() + fragment.length()};
     }
     const int end = std::min(position + 1, document.characterCount() - 1); // of the line end
-    return {attributesOf(line.charFormat(), document.defaultFont()), position, end};
+    return {told(line.charFormat()), position, end};
 }
 
 } // namespace ORVTListview

@@ -2,6 +2,10 @@
 
 #include <QtCore/QString>
 
+#include <functional>
+
+class QColor;
+class QTextCharFormat;
 class QTextDocument;
 
 namespace ORVTListview {
@@ -14,7 +18,8 @@ struct FormatTold
     int end = 0;
 };
 
-// At a position of the document.
-FormatTold formatTold(const QTextDocument &document, int position);
+// At a position of the document; `colour` is that in which such a text is painted.
+FormatTold formatTold(const QTextDocument &document, int position,
+                      const std::function<QColor(const QTextCharFormat &format)> &colour);
 
 } // namespace ORVTListview

@@ -103,6 +103,10 @@ RichTextBox::RichTextBox(QWidget *parent)
              const auto *lines = qobject_cast<BoxLayout *>(document()->documentLayout());
              return lines ? lines->reachBeyond(block) : 1;
          },
+         [this](const QTextBlock &block) {
+             const auto *lines = qobject_cast<BoxLayout *>(document()->documentLayout());
+             return lines && lines->mayReachBeyond(block);
+         },
          [this](int beside, int below) { setViewportMargins(beside, 0, 0, below); },
          [this](const QFont &shown) { document()->setDefaultFont(shown); }});
     d->late.setFirstShown([this] { return firstVisibleBlock().blockNumber(); });

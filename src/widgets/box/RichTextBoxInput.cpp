@@ -3,18 +3,14 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include "base/EventGuard.h"
-#include "widgets/box/BoxLayers.h"
 #include "widgets/box/BoxLayout.h"
 #include "widgets/box/BoxMimeData.h"
-#include "widgets/box/BoxPainting.h"
 #include "widgets/box/BoxParts.h"
 #include "widgets/box/UserEditing.h"
 #include "widgets/input/RaisedKeys.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
-#include <QtGui/QPaintEvent>
-#include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QMenu>
@@ -79,16 +75,6 @@ bool removes(const QKeyEvent &event, BoxCommands &commands)
     return true;
 }
 
-// What is in view is never painted without its colours.
-void colourShownLines(BoxParts &parts)
-{
-    if (!parts.late.areWaiting())
-        return;
-    // Each by itself: those between them may be folded away.
-    for (const ShownLine &line : parts.layers->shownLines())
-        parts.late.give(line.block.position(), line.block.position());
-}
-
 // The toolkit would type a letter that is held with Alt.
 bool isAltText(const QKeyEvent &event)
 {
@@ -135,8 +121,6 @@ bool RichTextBox::viewportEvent(QEvent *event)
     return d->surface.deliver([this, event] {
         const Changing changing(*this);
         if (event->type() == QEvent::Paint)
-            colourShownLines(*d);
-        if (event->type() == QEvent::Paint && !d->layers->isEmpty())
             return paintLayers(static_cast<QPaintEvent &>(*event));
         auto *layout = qobject_cast<BoxLayout *>(document()->documentLayout());
         if (event->type() != QEvent::Resize || !layout)
@@ -146,31 +130,6 @@ bool RichTextBox::viewportEvent(QEvent *event)
         QResizeEvent sameWidth(size, size);
         return QPlainTextEdit::viewportEvent(&sameWidth);
     });
-}
-
-bool RichTextBox::paintLayers(QPaintEvent &event)
-{
-    BoxLayers &layers = *d->layers;
-    const ShownLines lines = layers.linesIn(event.region());
-    layers.paintBelow(event.region(), lines);
-    if (layers.textColours() && !document()->isEmpty() && !overwriteMode()) {
-        const bool showsCaret =
-            !isReadOnly() || textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard);
-        const BoxPainting painting{layers.textColours(), getPaintContext(), showsCaret,
-                                   cursorWidth()};
-        // What is selected up to the edge leaves the room for the caret.
-        const double text = std::max<double>(viewport()->width(),
-                                             document()->documentLayout()->documentSize().width());
-        QRectF area = event.rect();
-        area.setRight(std::min(area.right(), contentOffset().x() + text -
-                                                 document()->documentMargin() + cursorWidth()));
-        QPainter painter(viewport());
-        painting.paint(painter, lines, area);
-    } else {
-        QPlainTextEdit::viewportEvent(&event);
-    }
-    layers.paintAbove(event.region(), lines);
-    return true;
 }
 
 bool RichTextBox::handle(QEvent *event)

@@ -3,6 +3,7 @@
 #include "base/EventGuard.h"
 #include "widgets/combo/ImageComboAccess.h"
 #include "widgets/combo/ImageComboParts.h"
+#include "widgets/component/AccessFactory.h"
 #include "widgets/input/FieldMenu.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/ImageList.h>
@@ -29,12 +30,18 @@ QAccessibleInterface *makeAccess(const QString &, QObject *object)
     return new ImageComboAccess(*combo, [combo]() -> QListView & { return *combo->listView(); });
 }
 
+void installAccess()
+{
+    static AccessFactory factory(makeAccess);
+    factory.install();
+}
+
 } // namespace
 
 ImageCombo::ImageCombo(QWidget *parent)
     : QComboBox(parent)
 {
-    QAccessible::installFactory(makeAccess); // takes each but once
+    installAccess();
     d = std::make_unique<ImageComboParts>(
         *this, [this](QPoint global) { return isArrowAt(mapFromGlobal(global)); });
     QComboBox::setModel(d->entries);

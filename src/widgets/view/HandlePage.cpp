@@ -7,6 +7,8 @@
 #include <unistd.h>
 #else
 #include <cstring>
+
+#include <windows.h>
 #endif
 
 namespace ORVTListview {
@@ -35,25 +37,32 @@ void empty(void *memory, std::size_t size)
 {
     madvise(memory, size, MADV_DONTNEED);
 }
-#else // the memory stays
+#else
 std::size_t pageSize()
 {
-    return 4096;
+    SYSTEM_INFO system{};
+    GetSystemInfo(&system);
+    return system.dwPageSize;
 }
 
 void *mapped(std::size_t size)
 {
-    return ::operator new(size);
+    void *memory = VirtualAlloc(nullptr, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+    if (!memory)
+        throw std::bad_alloc();
+    return memory;
 }
 
 void unmap(void *memory, std::size_t)
 {
-    ::operator delete(memory);
+    VirtualFree(memory, 0, MEM_RELEASE);
 }
 
+// The system may take the pages and give back what was in them or zeros: the same here.
 void empty(void *memory, std::size_t size)
 {
     std::memset(memory, 0, size);
+    VirtualAlloc(memory, size, MEM_RESET, PAGE_READWRITE);
 }
 #endif
 

@@ -4,6 +4,8 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <QtGui/QAccessible>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -284,6 +286,24 @@ private Q_SLOTS:
         caretTo(7, 1);
         QCOMPARE(shown(), u"1 2 3 4 5 6 7 8 9 10"_s);
         QCOMPARE(caret(), u"7:1"_s);
+    }
+
+    void aScreenReaderMayAskToSeeWhatIsInside()
+    {
+        QStringList lines{u"IF a"_s};
+        for (int i = 0; i < 300; ++i)
+            lines << u"x = 1"_s;
+        lines << u"wanted = 2"_s << u"ENDIF"_s;
+        m_host->list->openProgram(lines.join(u"\r\n"_s));
+        view().foldAll();
+        caretTo(1);
+        const QTextBlock wanted = box().document()->findBlockByNumber(301);
+        QVERIFY(!wanted.isVisible());
+        QAccessible::queryAccessibleInterface(&box())->textInterface()->scrollToSubstring(
+            wanted.position(), wanted.position() + 6);
+        QVERIFY(wanted.isVisible());
+        QVERIFY(box().viewport()->rect().contains(m_host->placeOf(301)));
+        QCOMPARE(caret(), u"1:0"_s);
     }
 
     void aMatchInsideOpensAndIsShown()

@@ -220,6 +220,27 @@ private Q_SLOTS:
         QVERIFY(text().attributes(5, &start, &end).contains(u"color:rgb(0,0,255);"_s));
     }
 
+    void theColoursAreThosePainted()
+    {
+        BoxLayers::of(*m_box).setTextColours([](const QColor &text, const QColor &ground) {
+            return ground.isValid() ? QColor(Qt::white) : QColor(text.green(), text.blue(), 7);
+        });
+        m_box->setColoured(ColouredText{u"red plain"_s, {{4, 0x0000ff}, {5, -1}}});
+        QPalette palette = m_box->palette();
+        palette.setColor(QPalette::Text, QColor(1, 2, 3));
+        m_box->setPalette(palette);
+        int start = -1;
+        int end = -1;
+        QVERIFY(text().attributes(1, &start, &end).contains(u";color:rgb(0,0,7);"_s));
+        QVERIFY(text().attributes(5, &start, &end).contains(u";color:rgb(2,3,7);"_s));
+        QTextCursor cursor(m_box->document());
+        cursor.setPosition(3, QTextCursor::KeepAnchor);
+        QTextCharFormat marked;
+        marked.setBackground(Qt::yellow);
+        cursor.mergeCharFormat(marked);
+        QVERIFY(text().attributes(1, &start, &end).contains(u";color:rgb(255,255,255);"_s));
+    }
+
     void typesAsTheUserDoes()
     {
         m_box->setText(u"one\r\ntwo"_s);

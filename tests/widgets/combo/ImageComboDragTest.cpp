@@ -4,12 +4,14 @@
 #include "widgets/combo/ImageComboFixture.h"
 #include "widgets/input/DragEvents.h"
 
+#include "support/InTurn.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QTimer>
 #include <QtGui/QDropEvent>
+
+#include <utility>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -83,7 +85,7 @@ void ImageComboDragTest::initTestCase()
 
 void ImageComboDragTest::drag(const ShownCombo &shown, const QList<QPoint> &way)
 {
-    QList<std::function<void()>> steps;
+    QList<InTurn::Step> steps;
     QPoint from = way.first();
     steps.append([&, from] { QTest::mousePress(shown.window, Qt::LeftButton, {}, from); });
     for (const QPoint &to : way.mid(1)) {
@@ -94,12 +96,7 @@ void ImageComboDragTest::drag(const ShownCombo &shown, const QList<QPoint> &way)
         from = to;
     }
     steps.append([&, from] { QTest::mouseRelease(shown.window, Qt::LeftButton, {}, from); });
-    bool done = false;
-    steps.append([&done] { done = true; });
-    for (int i = 0; i < steps.size(); ++i)
-        QTimer::singleShot(5 * i, this, steps.at(i));
-    QTRY_VERIFY(done);
-    QCoreApplication::processEvents();
+    InTurn::take(std::move(steps));
 }
 
 void ImageComboDragTest::dragsThePictureOfTheSelectedEntry()

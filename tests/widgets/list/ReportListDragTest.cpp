@@ -2,12 +2,15 @@
 
 #include "widgets/list/ReportListFixture.h"
 
+#include "support/InTurn.h"
 #include "support/TestProgram.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
+
+#include <utility>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -96,7 +99,7 @@ void ReportListDragTest::initTestCase()
 
 void ReportListDragTest::drag(const ShownList &shown, const QList<QPoint> &way, bool letGo)
 {
-    QList<std::function<void()>> steps;
+    QList<InTurn::Step> steps;
     steps.append([&] { shown.press(shown.cell(2)); });
     QList<QPoint> points;
     QPoint from = shown.cell(2);
@@ -109,12 +112,7 @@ void ReportListDragTest::drag(const ShownList &shown, const QList<QPoint> &way, 
         steps.append([&shown, point] { QTest::mouseMove(shown.window, point); });
     if (letGo)
         steps.append([&shown, from] { shown.release(from); });
-    bool done = false;
-    steps.append([&done] { done = true; });
-    for (int i = 0; i < steps.size(); ++i)
-        QTimer::singleShot(5 * i, this, steps.at(i));
-    QTRY_VERIFY(done);
-    QCoreApplication::processEvents();
+    InTurn::take(std::move(steps));
 }
 
 void ReportListDragTest::dragsTheSelectedRows()

@@ -128,5 +128,23 @@ def results_and_problems_are_announced(day):
     wait_until_told(day, "text", "nobody is not known")
 
 
+@scene
+def words_are_told_where_they_stand(day):
+    """In the lines in view, scrolled and not; a click there puts the caret into the word."""
+    lines = [f"word{number} = {number}" for number in range(100, 200)]
+    day.start_with("\n".join(lines) + "\n")
+
+    def click_on(word):
+        day.bench.click(day.code.centre_of(word))
+        start = day.code.text.index(word)
+        wait_until(lambda: start <= day.code.caret <= start + len(word), f"the caret in {word}")
+
+    for word in ("word100", "word101", "word107"):
+        click_on(word)
+    day.bench.keys("ctrl+End")
+    for word in ("word198", "word190"):
+        click_on(word)
+
+
 if __name__ == "__main__":
     run()

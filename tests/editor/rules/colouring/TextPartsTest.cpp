@@ -34,9 +34,11 @@ std::vector<Colour> coloursOf(const ColouredText &text)
 }
 
 // That the text is of lines as in `few`, which has three times someLines, and so are its
-// colours.
-void expectRepeated(const ColouredText &text, const ColouredText &few, qsizetype period)
+// colours, and that none is missing.
+void expectRepeated(const ColouredText &text, const ColouredText &few, qsizetype times)
 {
+    const qsizetype period = (few.text.size() + 2) / 3;
+    ASSERT_EQ(text.text.size(), times * period - 2);
     const std::vector<Colour> colours = coloursOf(text);
     const std::vector<Colour> expected = coloursOf(few);
     ASSERT_EQ(static_cast<qsizetype>(colours.size()), text.text.size());
@@ -99,10 +101,10 @@ TEST(TextParts, ALongTextIsColouredAsAShortOne)
     Colouring colouring;
     const QString few = QStringList{someLines, someLines, someLines}.join(u"\r\n"_s);
     const QString many = longText(4);
+    const qsizetype times = (many.size() + 2) / (someLines.size() + 2);
     const ColourEngine engine = colouring.engine();
     expectRepeated(finishedText(engine, many, defaultColours()),
-                   finishedText(engine, few, defaultColours()), someLines.size() + 2);
-    const ColouredText once = colouredText(engine, someLines, false, defaultColours());
+                   finishedText(engine, few, defaultColours()), times);
     expectRepeated(colouredText(engine, many, false, defaultColours()),
-                   colouredText(engine, few, false, defaultColours()), once.text.size() + 2);
+                   colouredText(engine, few, false, defaultColours()), times);
 }

@@ -164,6 +164,17 @@ TEST(CodeWordList, TakesTheWordsOfEveryClassInOrder)
     EXPECT_EQ(colourOf(u"sqrt"_s), ReservedWordColour);
 }
 
+TEST(CodeWordList, EveryEntryBecomesTheCurrentOne)
+{
+    CodeWordList words;
+    words.FillCodeWordList(Vocabulary());
+    for (qsizetype i = words.index().count() - 1; i >= 0; --i) { // the first one last
+        const QString word = words.index().at(i).text;
+        EXPECT_TRUE(words.FindInWordList(word, true)) << word.toStdString();
+        EXPECT_EQ(words.current()->text, word);
+    }
+}
+
 TEST(CodeWordList, AHitBecomesTheCurrentEntryAndAMissLeavesIt)
 {
     CodeWordList words;
