@@ -1752,6 +1752,26 @@ Speichern?</translation>
         <source>Font</source>
         <translation>Schrift</translation>
     </message>
+    <message>
+        <source>While Typing</source>
+        <translation>Beim Schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Indent after IF and ELSE</source>
+        <translation>Nach IF und ELSE ein&amp;rücken</translation>
+    </message>
+    <message>
+        <source>&amp;Home goes to the first word</source>
+        <translation>&amp;Pos1 geht zum ersten Wort</translation>
+    </message>
+    <message>
+        <source>Drop &amp;blanks at line ends</source>
+        <translation>&amp;Leerzeichen am Zeilenende entfernen</translation>
+    </message>
+    <message>
+        <source>The &amp;word list opens by itself</source>
+        <translation>&amp;Wortliste öffnet sich von selbst</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::SimulatedController</name>

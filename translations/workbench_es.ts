@@ -1752,6 +1752,26 @@ Save them?</source>
         <source>Font</source>
         <translation>Fuente</translation>
     </message>
+    <message>
+        <source>While Typing</source>
+        <translation>Al escribir</translation>
+    </message>
+    <message>
+        <source>&amp;Indent after IF and ELSE</source>
+        <translation>&amp;Sangrar tras IF y ELSE</translation>
+    </message>
+    <message>
+        <source>&amp;Home goes to the first word</source>
+        <translation>I&amp;nicio va a la primera palabra</translation>
+    </message>
+    <message>
+        <source>Drop &amp;blanks at line ends</source>
+        <translation>&amp;Quitar espacios al final de línea</translation>
+    </message>
+    <message>
+        <source>The &amp;word list opens by itself</source>
+        <translation>La lista de &amp;palabras se abre sola</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::SimulatedController</name>

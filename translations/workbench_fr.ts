@@ -886,7 +886,7 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     <name>ORVTListview::MainWindow</name>
     <message>
         <source>Rows are filled from the top: %1 is in row %2.</source>
-        <translation>Les lignes se remplissent à partir du haut : %1 est à la ligne %2.</translation>
+        <translation>Les lignes se remplissent à partir du haut : %1 est à la ligne %2.</translation>
     </message>
     <message>
         <source>Open Project</source>
@@ -1751,6 +1751,26 @@ Les enregistrer&#xa0;?</translation>
     <message>
         <source>Font</source>
         <translation>Police</translation>
+    </message>
+    <message>
+        <source>While Typing</source>
+        <translation>À la frappe</translation>
+    </message>
+    <message>
+        <source>&amp;Indent after IF and ELSE</source>
+        <translation>&amp;Retrait après IF et ELSE</translation>
+    </message>
+    <message>
+        <source>&amp;Home goes to the first word</source>
+        <translation>Or&amp;igine mène au premier mot</translation>
+    </message>
+    <message>
+        <source>Drop &amp;blanks at line ends</source>
+        <translation>&amp;Supprimer les espaces en fin de ligne</translation>
+    </message>
+    <message>
+        <source>The &amp;word list opens by itself</source>
+        <translation>La liste des &amp;mots s’ouvre d’elle-même</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "ProblemWalk.h"
 #include "ProjectView.h"
+#include "workbench/settings/TypingHelps.h"
 #include "workbench/views/ProgramViews.h"
 
 #include <ORVTListview/CodeView.h>
@@ -16,20 +17,31 @@ EditorViewMenu::EditorViewMenu(ProjectView &views, ProblemWalk &walk, QWidget *p
     , m_views(views)
 {
     const CodeView &view = current();
-    addSwitch(tr("Line &Numbers"), view.lineNumbersVisible(), &CodeView::setLineNumbersVisible);
-    addSwitch(tr("&Current Line"), view.currentLineShown(), &CodeView::setCurrentLineShown);
-    addSwitch(tr("Pairs and &Uses"), view.pairsShown(), &CodeView::setPairsShown);
-    addSwitch(tr("&Indent Guides"), view.indentGuidesShown(), &CodeView::setIndentGuidesShown);
-    addSwitch(tr("Blan&ks"), view.blanksShown(), &CodeView::setBlanksShown);
-    addSwitch(tr("Readable C&olours"), view.adaptsColours(), &CodeView::setAdaptsColours);
-    addSwitch(tr("&Folding"), view.foldingEnabled(), &CodeView::setFoldingEnabled);
-    addSwitch(tr("Live &Values"), view.liveValuesShown(), &CodeView::setLiveValuesShown);
+    addSwitch(tr("Line &Numbers"), view.lineNumbersVisible(), &CodeView::setLineNumbersVisible,
+              &CodeView::lineNumbersVisibleChanged);
+    addSwitch(tr("&Current Line"), view.currentLineShown(), &CodeView::setCurrentLineShown,
+              &CodeView::currentLineShownChanged);
+    addSwitch(tr("Pairs and &Uses"), view.pairsShown(), &CodeView::setPairsShown,
+              &CodeView::pairsShownChanged);
+    addSwitch(tr("&Indent Guides"), view.indentGuidesShown(), &CodeView::setIndentGuidesShown,
+              &CodeView::indentGuidesShownChanged);
+    addSwitch(tr("Blan&ks"), view.blanksShown(), &CodeView::setBlanksShown,
+              &CodeView::blanksShownChanged);
+    addSwitch(tr("Readable C&olours"), view.adaptsColours(), &CodeView::setAdaptsColours,
+              &CodeView::adaptsColoursChanged);
+    addSwitch(tr("&Folding"), view.foldingEnabled(), &CodeView::setFoldingEnabled,
+              &CodeView::foldingEnabledChanged);
+    addSwitch(tr("Live &Values"), view.liveValuesShown(), &CodeView::setLiveValuesShown,
+              &CodeView::liveValuesShownChanged);
     addSeparator();
-    addSwitch(tr("In&dent While Typing"), view.autoIndent(), &CodeView::setAutoIndent);
-    addSwitch(tr("Smart &Home"), view.smartHome(), &CodeView::setSmartHome);
-    addSwitch(tr("Drop Blanks at Line &Ends"), view.trimsBlanks(), &CodeView::setTrimsBlanks);
+    addSwitch(tr("In&dent While Typing"), view.autoIndent(), &CodeView::setAutoIndent,
+              &CodeView::autoIndentChanged);
+    addSwitch(tr("Smart &Home"), view.smartHome(), &CodeView::setSmartHome,
+              &CodeView::smartHomeChanged);
+    addSwitch(tr("Drop Blanks at Line &Ends"), view.trimsBlanks(), &CodeView::setTrimsBlanks,
+              &CodeView::trimsBlanksChanged);
     addSwitch(tr("&Word List While Typing"), view.wordListOpensItself(),
-              &CodeView::setWordListOpensItself);
+              &CodeView::setWordListOpensItself, &CodeView::wordListOpensItselfChanged);
     addSeparator();
     add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0,
         [this] { m_views.programs().forEach([](CodeView &each) { each.setZoom(100); }); });
@@ -56,11 +68,8 @@ void EditorViewMenu::switchOn(CodeView &view)
     view.setFoldingEnabled(true);
     view.setIndentGuidesShown(true);
     view.setLiveValuesShown(true);
-    view.setAutoIndent(true);
-    view.setSmartHome(true);
-    view.setTrimsBlanks(true);
     view.setAdaptsColours(true);
-    view.setWordListOpensItself(true);
+    TypingHelps().into(view);
     view.setKeepsText(true); // what is saved is what was typed
     view.setHasOwnUndo(true);
     view.setZoom(100); // the wheel with Ctrl
@@ -72,11 +81,12 @@ void EditorViewMenu::add(const QString &text, const QKeySequence &keys,
     addAction(text, keys, this, command);
 }
 
-void EditorViewMenu::addSwitch(const QString &text, bool isOn, void (CodeView::*set)(bool))
+void EditorViewMenu::addSwitch(const QString &text, bool isOn, Switch set, Switch changed)
 {
     QAction *action = addAction(text);
     action->setCheckable(true);
     action->setChecked(isOn);
+    connect(&current(), changed, action, &QAction::setChecked); // the settings switch, too
     connect(action, &QAction::toggled, this, [this, set](bool on) {
         m_views.programs().forEach([set, on](CodeView &view) { (view.*set)(on); });
     });

@@ -25,7 +25,8 @@ public:
 
 private:
     void add(const QString &text, const QKeySequence &keys, const std::function<void()> &command);
-    void addSwitch(const QString &text, bool isOn, void (CodeView::*set)(bool));
+    using Switch = void (CodeView::*)(bool); // or the signal that it was
+    void addSwitch(const QString &text, bool isOn, Switch set, Switch changed);
 
     CodeView &current() const;
 

@@ -322,9 +322,13 @@ void MainWindow::chooseSettings()
 {
     const RichTextSettings project =
         m_document->project() ? m_document->project()->editor() : defaultColours();
-    SettingsDialog dialog(m_settings, project, this);
-    if (dialog.exec() == QDialog::Accepted)
-        decide(dialog.settings());
+    SettingsDialog dialog(m_settings, project, TypingHelps::of(*m_view->program().codeView()),
+                          this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    m_view->programs().forEach(
+        [helps = dialog.typingHelps()](CodeView &view) { helps.into(view); });
+    decide(dialog.settings());
 }
 
 void MainWindow::decide(const Settings &settings)

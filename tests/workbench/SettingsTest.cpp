@@ -140,7 +140,7 @@ private Q_SLOTS:
         QCOMPARE(workbench.window.settings().language->language(), QLocale::German);
         Settings settings;
         settings.language = QLocale(u"de_AT"_s);
-        const SettingsDialog dialog(settings, {}, nullptr);
+        const SettingsDialog dialog(settings, {}, {}, nullptr);
         QCOMPARE(boxWith(dialog, u"Deutsch"_s).currentText(), u"Deutsch"_s);
     }
 
@@ -149,7 +149,7 @@ private Q_SLOTS:
         RichTextSettings project;
         project.BackColor = static_cast<qint32>(0x80000005U);
         useTheme(Theme::Dark);
-        SettingsDialog dialog({}, project, nullptr);
+        SettingsDialog dialog({}, project, {}, nullptr);
         choose(dialog, u"Own"_s);
         const RichTextSettings own = dialog.settings().look.own;
         QCOMPARE(colourOf(own.BackColor), dialog.palette().color(QPalette::Base));
@@ -160,7 +160,7 @@ private Q_SLOTS:
     {
         Settings settings;
         settings.look.fontName = u"None such"_s;
-        const SettingsDialog dialog(settings, {}, nullptr);
+        const SettingsDialog dialog(settings, {}, {}, nullptr);
         dialog.findChild<QSpinBox *>()->setValue(17);
         QCOMPARE(dialog.settings().look.fontName, u"None such"_s);
         QCOMPARE(dialog.settings().look.fontSize, qint16(17));
@@ -275,7 +275,7 @@ private Q_SLOTS:
         Settings settings;
         settings.look.colours = ColourSet::Own;
         settings.look.own.InputColor = settings.look.own.BackColor;
-        const SettingsDialog dialog(settings, {}, nullptr);
+        const SettingsDialog dialog(settings, {}, {}, nullptr);
         QString told;
         for (const QLabel *label : dialog.findChildren<QLabel *>())
             told += label->text();
@@ -288,10 +288,11 @@ private Q_SLOTS:
         settings.theme = Theme::Dark;
         settings.look.fontName = u"Monospace"_s;
         settings.look.fontSize = 20;
-        SettingsDialog dialog(settings, {}, nullptr);
+        SettingsDialog dialog(settings, {}, {.dropsBlanks = false}, nullptr);
         QVERIFY(dialog.findChild<QCheckBox *>()->isChecked());
         dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::RestoreDefaults)->click();
         QVERIFY(dialog.settings() == Settings());
+        QVERIFY(dialog.typingHelps() == TypingHelps());
         QVERIFY(!dialog.findChild<QCheckBox *>()->isChecked());
     }
 

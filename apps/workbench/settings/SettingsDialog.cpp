@@ -41,10 +41,11 @@ QIcon swatch(const QColor &colour, const QWidget &on)
 } // namespace
 
 SettingsDialog::SettingsDialog(const Settings &settings, const RichTextSettings &project,
-                               QWidget *parent)
+                               const TypingHelps &helps, QWidget *parent)
     : QDialog(parent)
     , m_settings(settings)
     , m_project(project)
+    , m_helps(helps)
     , m_language(new QComboBox(this))
     , m_theme(new QComboBox(this))
     , m_set(new QComboBox(this))
@@ -64,6 +65,7 @@ SettingsDialog::SettingsDialog(const Settings &settings, const RichTextSettings 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(makeWindowPart());
     layout->addWidget(makeProgramPart());
+    layout->addWidget(makeTypingPart());
     layout->addWidget(m_preview, 1);
     layout->addWidget(m_warning);
     layout->addWidget(buttons);
@@ -136,6 +138,27 @@ void SettingsDialog::addColour(QGridLayout &layout, const QString &name, ClassCo
     connect(button, &QPushButton::clicked, this, [this, colour] { chooseColour(colour); });
 }
 
+QWidget *SettingsDialog::makeTypingPart()
+{
+    auto *part = new QGroupBox(tr("While Typing"), this);
+    auto *layout = new QGridLayout(part);
+    addHelp(*layout, tr("&Indent after IF and ELSE"), &TypingHelps::indents);
+    addHelp(*layout, tr("&Home goes to the first word"), &TypingHelps::hasSmartHome);
+    addHelp(*layout, tr("Drop &blanks at line ends"), &TypingHelps::dropsBlanks);
+    addHelp(*layout, tr("The &word list opens by itself"), &TypingHelps::listsWords);
+    return part;
+}
+
+void SettingsDialog::addHelp(QGridLayout &layout, const QString &text, bool TypingHelps::*help)
+{
+    constexpr int columns = 2;
+    auto *box = new QCheckBox(text, this);
+    const auto place = static_cast<int>(m_helpBoxes.size());
+    layout.addWidget(box, place / columns, place % columns);
+    m_helpBoxes.append({box, help});
+    connect(box, &QCheckBox::clicked, this, [this, help](bool on) { m_helps.*help = on; });
+}
+
 void SettingsDialog::chooseSet(int row)
 {
     const auto set = static_cast<ColourSet>(row);
@@ -188,6 +211,7 @@ void SettingsDialog::restoreDefaults()
     Settings defaults;
     defaults.reading = m_settings.reading; // which is not asked for here
     m_settings = defaults;
+    m_helps = {};
     showSettings();
 }
 
@@ -206,6 +230,8 @@ void SettingsDialog::showSettings()
     m_font->setEnabled(m_ownFont->isChecked());
     m_font->setCurrentFont(QFont(look.fontName.isEmpty() ? m_project.FontName : look.fontName));
     m_size->setValue(look.fontSize > 0 ? look.fontSize : m_size->minimum());
+    for (const auto &[box, help] : std::as_const(m_helpBoxes))
+        box->setChecked(m_helps.*help);
     showColours();
 }
 

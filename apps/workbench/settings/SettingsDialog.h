@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/settings/Settings.h"
+#include "workbench/settings/TypingHelps.h"
 
 #include <QtWidgets/QDialog>
 
@@ -23,14 +24,18 @@ class SettingsDialog : public QDialog
 
 public:
     // The project's appearance is what ColourSet::Project shows.
-    SettingsDialog(const Settings &settings, const RichTextSettings &project, QWidget *parent);
+    SettingsDialog(const Settings &settings, const RichTextSettings &project,
+                   const TypingHelps &helps, QWidget *parent);
 
     Settings settings() const { return m_settings; }
+    TypingHelps typingHelps() const { return m_helps; }
 
 private:
     QWidget *makeWindowPart();
     QWidget *makeProgramPart();
     QWidget *makeColourButtons();
+    QWidget *makeTypingPart();
+    void addHelp(QGridLayout &layout, const QString &text, bool TypingHelps::*help);
     void addColour(QGridLayout &layout, const QString &name, ClassColour colour);
     void chooseSet(int row);
     void chooseColour(ClassColour colour);
@@ -43,6 +48,7 @@ private:
 
     Settings m_settings;
     RichTextSettings m_project;
+    TypingHelps m_helps;
     QComboBox *m_language;
     QComboBox *m_theme;
     QComboBox *m_set;
@@ -50,6 +56,7 @@ private:
     QFontComboBox *m_font;
     QSpinBox *m_size;
     QList<std::pair<QPushButton *, ClassColour>> m_colours;
+    QList<std::pair<QCheckBox *, bool TypingHelps::*>> m_helpBoxes;
     QLabel *m_warning;
     ColourPreview *m_preview;
 };
