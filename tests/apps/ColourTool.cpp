@@ -22,7 +22,7 @@ ToolRun run(const QString &program, const QStringList &arguments, const QByteArr
     if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit)
         result.status = process.exitCode();
     result.out = process.readAllStandardOutput();
-    result.err = process.readAllStandardError();
+    result.err = process.readAllStandardError().replace("\r\n", "\n"); // as Windows ends lines
     return result;
 }
 

@@ -30,7 +30,7 @@ Outcome runHelper(const QString &way, const QString &file)
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(ORVT_SAVING_HELPER), {way, file});
     process.waitForFinished(60000);
-    const QString out = QString::fromUtf8(process.readAllStandardOutput());
+    const QString out = QString::fromUtf8(process.readAllStandardOutput().replace("\r\n", "\n"));
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             out.split(u'\n', Qt::SkipEmptyParts)};
 }

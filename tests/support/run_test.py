@@ -17,6 +17,7 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
 
 SKIPS = pathlib.Path(__file__).parent.parent / "skips.txt"
 SKIPPED = 77  # what the tests that are scripts end with
@@ -41,6 +42,17 @@ def environment(folder, settings):
         ASAN_OPTIONS="detect_leaks=0", UBSAN_OPTIONS="print_stacktrace=1")
     values.update(setting.split("=", 1) for setting in settings)
     return values
+
+
+def outcome(command, values, timeout=None):
+    """How it ends, and what it says: to a file, for what an emulator leaves running would
+    keep a pipe open."""
+    with tempfile.TemporaryFile() as told:
+        result = subprocess.run(command, env=values, check=False, timeout=timeout,
+                                stdin=subprocess.DEVNULL, stdout=told,
+                                stderr=subprocess.STDOUT)
+        told.seek(0)
+        return result.returncode, told.read()
 
 
 def with_display(command):
@@ -88,13 +100,10 @@ def without(left_out, name, command, values):
 def ends_well(command, values):
     """Whether what is left out passes by itself, without being skipped."""
     try:
-        result = subprocess.run(command, env=values, check=False, timeout=60,
-                                stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                                stderr=subprocess.STDOUT)
+        status, told = outcome(command, values, timeout=60)
     except subprocess.TimeoutExpired:
         return False
-    output = result.stdout.decode(errors="replace")
-    return result.returncode == 0 and not skips("", 0, output)
+    return status == 0 and not skips("", 0, told.decode(errors="replace"))
 
 
 def alone(entry, command):
@@ -138,20 +147,18 @@ def main():
     command = without(left_out, arguments.name, arguments.command, values)
     if arguments.display:
         command = with_display(command)
-    result = subprocess.run(
-        command, env=values, check=False,
-        stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-    sys.stdout.buffer.write(result.stdout)
-    output = result.stdout.decode(errors="replace")
-    unexplained = unexplained_skips(arguments.name, result.returncode, output)
+    status, told = outcome(command, values)
+    sys.stdout.buffer.write(told)
+    output = told.decode(errors="replace")
+    unexplained = unexplained_skips(arguments.name, status, output)
     for name in sorted(unexplained):
         print(f"{name} was skipped, and tests/skips.txt does not say why it may be")
     unneeded = wrongly_left_out(left_out, arguments.name, arguments.command, values)
     for name in unneeded:
         print(f"{name} need not be left out")
-    if result.returncode < 0:
-        print(f"Ended by signal {-result.returncode}")
-    failed = bool(unexplained or unneeded) or result.returncode not in (0, SKIPPED)
+    if status < 0:
+        print(f"Ended by signal {-status}")
+    failed = bool(unexplained or unneeded) or status not in (0, SKIPPED)
     log = arguments.folder.parent / f"{arguments.folder.name}.log"
     log.write_text(output + ("\nFAILED\n" if failed else "\nPASSED\n"))
     sys.exit(1 if failed else 0)
