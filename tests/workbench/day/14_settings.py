@@ -21,9 +21,9 @@ def open_settings(day):
 
 
 def ground_of(day):
-    """The colour on the program's last line, as a picture has it."""
+    """The colour below the program, right of a dialog, as a picture has it."""
     left, top, width, height = day.code.rectangle
-    return day.display.colour_at(left + width // 2, top + height - 30)
+    return day.display.colour_at(left + width * 3 // 4, top + height - 30)
 
 
 def is_dark(colour):
