@@ -6,6 +6,8 @@
 #include "project/ProjectTexts.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QThread>
 
 #include <array>
 
@@ -17,6 +19,19 @@ using namespace Qt::StringLiterals;
 [[noreturn]] void failToRead(const QString &name, const QString &reason)
 {
     throw Error(FileNotReadable, u"readFile"_s, u"%1: %2"_s.arg(name, reason));
+}
+
+// Where a file is another's alone while it takes its place, that is for a moment.
+bool openToRead(QFile &file)
+{
+    constexpr int attempts = 25;
+    for (int i = 1; !file.open(QIODevice::ReadOnly); ++i) {
+        const QFileInfo info(file);
+        if (i == attempts || !info.isFile() || !info.isReadable())
+            return false;
+        QThread::msleep(20);
+    }
+    return true;
 }
 
 QString reasonOf(const FileReplacement &failed)
@@ -109,7 +124,7 @@ QLatin1StringView lineEndText(LineEnd lineEnd)
 QByteArray readFile(const QString &fileName)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!openToRead(file))
         failToRead(fileName, file.errorString());
     return readDevice(file, fileName);
 }

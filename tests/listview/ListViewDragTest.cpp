@@ -1,6 +1,7 @@
 // Real drags of an ORVListView: the toolkit's drag loop runs, fed by mouse events.
 
 #include "listview/ShownListView.h"
+#include "support/FreshDrag.h"
 #include "support/InTurn.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
@@ -16,6 +17,11 @@ class ListViewDragTest : public WidgetTest
 
 private Q_SLOTS:
     void initTestCase();
+    void init() override
+    {
+        WidgetTest::init();
+        forgetFormerDrags();
+    }
 
     void aDragRaisesAllSixEvents();
     void whatTheHostChangesComesBack();

@@ -24,7 +24,7 @@ void turnMouse(DWORD what)
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = what;
     SendInput(1, &input, sizeof input);
-    QThread::msleep(50);
+    QThread::msleep(100);
 }
 
 void moveMouse(const QPoint &place)
@@ -92,6 +92,7 @@ void SystemDragTest::init()
     m_window->setGeometry(100, 100, 400, 400);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QTest::qWait(500); // the display's part of it, which nobody is told of
 }
 
 void SystemDragTest::aMoveGoesToAnotherBox()

@@ -2,6 +2,7 @@
 
 #include "widgets/list/ReportListFixture.h"
 
+#include "support/FreshDrag.h"
 #include "support/InTurn.h"
 #include "support/TestProgram.h"
 
@@ -65,7 +66,11 @@ class ReportListDragTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(u".?"_s)); }
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u".?"_s));
+        forgetFormerDrags();
+    }
 
     void dragsTheSelectedRows();
     void dragsSeveralRows();
