@@ -136,7 +136,7 @@ class Walk:
         self._picture("problems")
         bench.keys("ctrl+2")
         self._picture("problem-of-the-walk", "F8")
-        self._picture("statements", "ctrl+F6")
+        self._picture("compiled-with-errors", "ctrl+F6")
 
     def _dialogs(self):
         self._dialog("settings", "ctrl+comma")
