@@ -886,7 +886,7 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
     <name>ORVTListview::MainWindow</name>
     <message>
         <source>Rows are filled from the top: %1 is in row %2.</source>
-        <translation>Les lignes se remplissent à partir du haut : %1 est à la ligne %2.</translation>
+        <translation>Les lignes se remplissent à partir du haut&#xa0;: %1 est à la ligne %2.</translation>
     </message>
     <message>
         <source>Open Project</source>
