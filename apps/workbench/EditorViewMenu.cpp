@@ -8,6 +8,7 @@
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>
 
+#include <QtCore/QMetaProperty>
 #include <QtGui/QAction>
 
 namespace ORVTListview {
@@ -16,32 +17,19 @@ EditorViewMenu::EditorViewMenu(ProjectView &views, ProblemWalk &walk, QWidget *p
     : QMenu(tr("&Editor"), parent)
     , m_views(views)
 {
-    const CodeView &view = current();
-    addSwitch(tr("Line &Numbers"), view.lineNumbersVisible(), &CodeView::setLineNumbersVisible,
-              &CodeView::lineNumbersVisibleChanged);
-    addSwitch(tr("&Current Line"), view.currentLineShown(), &CodeView::setCurrentLineShown,
-              &CodeView::currentLineShownChanged);
-    addSwitch(tr("Pairs and &Uses"), view.pairsShown(), &CodeView::setPairsShown,
-              &CodeView::pairsShownChanged);
-    addSwitch(tr("&Indent Guides"), view.indentGuidesShown(), &CodeView::setIndentGuidesShown,
-              &CodeView::indentGuidesShownChanged);
-    addSwitch(tr("Blan&ks"), view.blanksShown(), &CodeView::setBlanksShown,
-              &CodeView::blanksShownChanged);
-    addSwitch(tr("Readable C&olours"), view.adaptsColours(), &CodeView::setAdaptsColours,
-              &CodeView::adaptsColoursChanged);
-    addSwitch(tr("&Folding"), view.foldingEnabled(), &CodeView::setFoldingEnabled,
-              &CodeView::foldingEnabledChanged);
-    addSwitch(tr("Live &Values"), view.liveValuesShown(), &CodeView::setLiveValuesShown,
-              &CodeView::liveValuesShownChanged);
+    addSwitch(tr("Line &Numbers"), "lineNumbersVisible");
+    addSwitch(tr("&Current Line"), "currentLineShown");
+    addSwitch(tr("Pairs and &Uses"), "pairsShown");
+    addSwitch(tr("&Indent Guides"), "indentGuidesShown");
+    addSwitch(tr("Blan&ks"), "blanksShown");
+    addSwitch(tr("Readable C&olours"), "adaptsColours");
+    addSwitch(tr("&Folding"), "foldingEnabled");
+    addSwitch(tr("Live &Values"), "liveValuesShown");
     addSeparator();
-    addSwitch(tr("In&dent While Typing"), view.autoIndent(), &CodeView::setAutoIndent,
-              &CodeView::autoIndentChanged);
-    addSwitch(tr("Smart &Home"), view.smartHome(), &CodeView::setSmartHome,
-              &CodeView::smartHomeChanged);
-    addSwitch(tr("Drop Blanks at Line &Ends"), view.trimsBlanks(), &CodeView::setTrimsBlanks,
-              &CodeView::trimsBlanksChanged);
-    addSwitch(tr("&Word List While Typing"), view.wordListOpensItself(),
-              &CodeView::setWordListOpensItself, &CodeView::wordListOpensItselfChanged);
+    addSwitch(tr("In&dent While Typing"), "autoIndent");
+    addSwitch(tr("Smart &Home"), "smartHome");
+    addSwitch(tr("Drop Blanks at Line &Ends"), "trimsBlanks");
+    addSwitch(tr("&Word List While Typing"), "wordListOpensItself");
     addSeparator();
     add(tr("Normal Si&ze"), Qt::CTRL | Qt::Key_0,
         [this] { m_views.programs().forEach([](CodeView &each) { each.setZoom(100); }); });
@@ -81,14 +69,20 @@ void EditorViewMenu::add(const QString &text, const QKeySequence &keys,
     addAction(text, keys, this, command);
 }
 
-void EditorViewMenu::addSwitch(const QString &text, bool isOn, Switch set, Switch changed)
+// The settings switch some of them, too.
+void EditorViewMenu::addSwitch(const QString &text, const char *name)
 {
+    const CodeView &view = current();
+    const QMetaObject &meta = CodeView::staticMetaObject;
+    const QMetaProperty property = meta.property(meta.indexOfProperty(name));
     QAction *action = addAction(text);
     action->setCheckable(true);
-    action->setChecked(isOn);
-    connect(&current(), changed, action, &QAction::setChecked); // the settings switch, too
-    connect(action, &QAction::toggled, this, [this, set](bool on) {
-        m_views.programs().forEach([set, on](CodeView &view) { (view.*set)(on); });
+    action->setChecked(property.read(&view).toBool());
+    const QMetaObject &shown = QAction::staticMetaObject;
+    connect(&view, property.notifySignal(), action,
+            shown.method(shown.indexOfSlot("setChecked(bool)")));
+    connect(action, &QAction::toggled, this, [this, property](bool on) {
+        m_views.programs().forEach([&](CodeView &each) { property.write(&each, on); });
     });
 }
 

@@ -25,8 +25,7 @@ public:
 
 private:
     void add(const QString &text, const QKeySequence &keys, const std::function<void()> &command);
-    using Switch = void (CodeView::*)(bool); // or the signal that it was
-    void addSwitch(const QString &text, bool isOn, Switch set, Switch changed);
+    void addSwitch(const QString &text, const char *name); // of a property of CodeView
 
     CodeView &current() const;
 

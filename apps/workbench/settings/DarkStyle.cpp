@@ -3,6 +3,7 @@
 #include <QtGui/QColor>
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
 
 namespace ORVTListview {
@@ -72,7 +73,9 @@ QIcon DarkStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
     if (icon != SP_ToolBarHorizontalExtensionButton && icon != SP_ToolBarVerticalExtensionButton &&
         icon != SP_DialogCloseButton)
         return given;
-    QPixmap picture = given.pixmap(pixelMetric(PM_SmallIconSize, option, widget));
+    const int side = pixelMetric(PM_SmallIconSize, option, widget);
+    QPixmap picture = given.pixmap(QSize(side, side),
+                                   widget ? widget->devicePixelRatio() : qApp->devicePixelRatio());
     QPainter painter(&picture);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(picture.rect(), QColor(frame));

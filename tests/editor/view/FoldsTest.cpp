@@ -45,6 +45,17 @@ private:
                           {m_host->margin().width() - 5, m_host->inMargin(line - 1).y()});
     }
 
+    // "wanted = 2" in its last but one line, from 0 the 301st.
+    void foldALongBlock()
+    {
+        QStringList lines{u"IF a"_s};
+        for (int i = 0; i < 300; ++i)
+            lines << u"x = 1"_s;
+        lines << u"wanted = 2"_s << u"ENDIF"_s;
+        m_host->list->openProgram(lines.join(u"\r\n"_s));
+        view().foldAll();
+    }
+
 private Q_SLOTS:
     void init() override
     {
@@ -290,12 +301,7 @@ private Q_SLOTS:
 
     void aScreenReaderMayAskToSeeWhatIsInside()
     {
-        QStringList lines{u"IF a"_s};
-        for (int i = 0; i < 300; ++i)
-            lines << u"x = 1"_s;
-        lines << u"wanted = 2"_s << u"ENDIF"_s;
-        m_host->list->openProgram(lines.join(u"\r\n"_s));
-        view().foldAll();
+        foldALongBlock();
         caretTo(1);
         const QTextBlock wanted = box().document()->findBlockByNumber(301);
         QVERIFY(!wanted.isVisible());
@@ -308,12 +314,7 @@ private Q_SLOTS:
 
     void aMatchInsideOpensAndIsShown()
     {
-        QStringList lines{u"IF a"_s};
-        for (int i = 0; i < 300; ++i)
-            lines << u"x = 1"_s;
-        lines << u"wanted = 2"_s << u"ENDIF"_s;
-        m_host->list->openProgram(lines.join(u"\r\n"_s));
-        view().foldAll();
+        foldALongBlock();
         QVERIFY(box().Find(u"wanted"_s) > 0);
         QCOMPARE(box().SelText(), u"wanted"_s);
         QVERIFY(box().textCursor().block().isVisible());
