@@ -102,16 +102,21 @@ QString failureIn(int sessions, int allSteps)
     for (int i = 0; i < sessions; ++i) {
         const auto seed = static_cast<unsigned>(random());
         std::generate(steps.begin(), steps.end(), std::ref(random));
-        const auto fails = [seed](const std::vector<unsigned> &some) {
-            return !Session(seed).take(some).isEmpty();
+        const auto wrongIn = [seed](const std::vector<unsigned> &some) {
+            return Session(seed).take(some);
         };
-        if (!fails(steps))
+        const QString found = wrongIn(steps);
+        if (found.isEmpty())
             continue;
-        std::printf("A session of %d steps went wrong; fewer are looked for\n", each);
+        std::printf("A session of %d steps went wrong: %s; fewer are looked for\n", each,
+                    qPrintable(found));
         std::fflush(stdout);
+        const auto fails = [&](const std::vector<unsigned> &some) {
+            return !wrongIn(some).isEmpty();
+        };
         Session session(seed);
         const QString wrong = session.take(shrunk(steps, fails));
-        return wrong + QStringLiteral(" after: ") + session.done();
+        return (wrong.isEmpty() ? found : wrong) + QStringLiteral(" after: ") + session.done();
     }
     return {};
 }

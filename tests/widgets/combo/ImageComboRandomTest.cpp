@@ -50,6 +50,7 @@ private:
     {
         m_told.changes = m_told.clicks = 0;
         m_before = m_shown->text();
+        m_losesFocus = false;
         m_isByUser = !oneIn(12);
         m_isByUser ? useCombo() : useProgram();
     }
@@ -99,12 +100,19 @@ private:
             m_shown->setText(m_random.number(2) ? u"temp1"_s : u"host"_s);
             break;
         case 3:
-            note(m_disturbances.next(m_random));
+            disturb();
             break;
         default:
             note(u"open or close"_s);
             m_shown->isListOpen() ? m_shown->hidePopup() : m_shown->showPopup();
         }
+    }
+
+    void disturb()
+    {
+        const QString what = m_disturbances.next(m_random);
+        note(what);
+        m_losesFocus = what == u"hidden" || what == u"disabled";
     }
 
     QString whatIsWrong() override
@@ -118,7 +126,8 @@ private:
             return u"the user's change of text was not told"_s;
         if (told > 1)
             return u"one step was told twice"_s;
-        if (m_told.clicks > 0 && (selected == 0 || !m_isByUser))
+        const bool mayConfirm = m_isByUser || m_losesFocus; // what the user has typed
+        if (m_told.clicks > 0 && (selected == 0 || !mayConfirm))
             return u"Click without a choice"_s;
         if (m_told.changes > 0 && text == m_before && !m_isByUser) // who may type the same anew
             return u"Change without a change"_s;
@@ -148,6 +157,7 @@ private:
     Disturbances m_disturbances{m_shown.form};
     QString m_before;
     bool m_isByUser = false;
+    bool m_losesFocus = false;
 };
 
 } // namespace
