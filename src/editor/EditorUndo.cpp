@@ -8,6 +8,9 @@
 #include <ORVTListview/Error.h>
 #include <ORVTListview/RichTextBox.h>
 
+#include <algorithm>
+#include <utility>
+
 namespace ORVTListview {
 
 using namespace std::chrono_literals;
@@ -31,11 +34,11 @@ EditorUndo::EditorUndo(RichTextBox &box, const EditorThread &thread)
 
 void EditorUndo::noteTyped(QStringView text)
 {
-    const bool isBlank = text == u" ";
-    if (!isBlank)
-        m_isTypedSinceSnapshot = true;
-    else if (m_isTypedSinceSnapshot)
+    m_isBlankToCome = text == u" " && m_isTypedSinceSnapshot;
+    if (m_isBlankToCome)
         PushUndoSnapshot();
+    else if (text != u" ")
+        m_isTypedSinceSnapshot = true;
 }
 
 void EditorUndo::PushUndoSnapshot()
@@ -43,11 +46,16 @@ void EditorUndo::PushUndoSnapshot()
     if (ring().IsRestoringUndo())
         return;
     m_isTypedSinceSnapshot = false;
-    if (!m_isReady || m_box.TextLength() == 0)
-        return;
+    if (m_isReady && m_box.TextLength() > 0)
+        storeShown();
+}
+
+void EditorUndo::storeShown()
+{
     m_kept.beforeSnapshot(ring());
     ring().StoreUndoSnapshot(shown());
     m_kept.afterSnapshot(ring());
+    m_isEditedSinceStep = false;
     m_idle.start(idleAfter);
 }
 
@@ -56,14 +64,37 @@ bool EditorUndo::isShownInRing() const
     return ring().holdsText(ring().UndoCurrent(), shown().text);
 }
 
+// The thread's ring steps as hosts know it, from the slot it is at. In one of its own nobody
+// counts the slots.
+bool EditorUndo::isShownMissing() const
+{
+    return hasOwnRing() && m_isReady && m_isEditedSinceStep && !isShownInRing();
+}
+
+// A step takes back what was done in one place, and nothing else that is out of sight.
+void EditorUndo::endStepBefore(bool losesPart)
+{
+    const int line = m_box.textCursor().blockNumber();
+    if ((losesPart || line != m_editedLine) && isShownMissing())
+        storeShown();
+    m_editedLine = line;
+}
+
+bool EditorUndo::hasStep(Way way) const
+{
+    if (way == Way::Forward)
+        return ring().CanRedo();
+    return ring().CanUndo() || isShownMissing();
+}
+
 bool EditorUndo::canUndo() const
 {
-    return ring().CanUndo() || m_kept.canGo(Way::Back);
+    return hasStep(Way::Back) || m_kept.canGo(Way::Back);
 }
 
 bool EditorUndo::canRedo() const
 {
-    return ring().CanRedo() || m_kept.canGo(Way::Forward);
+    return hasStep(Way::Forward) || m_kept.canGo(Way::Forward);
 }
 
 void EditorUndo::stepForUser(Way way)
@@ -82,11 +113,12 @@ bool EditorUndo::step(Way way, QString &ErrMsg)
     const MessagesLater later(m_thread.messages); // of the text that is left
     const RichTextBox::Changing changing(m_box);
     beforeEdit(false);
+    if (way == Way::Back && isShownMissing())
+        storeShown();
     const UndoStore::Restoring restoring(ring());
     bool done = false;
     tellingFailure(ErrMsg, [&] {
-        const bool canStep = way == Way::Forward ? ring().CanRedo() : ring().CanUndo();
-        done = canStep ? stepInRing(way) : showKept(m_kept.go(ring(), shown(), way));
+        done = hasStep(way) ? stepInRing(way) : showKept(m_kept.go(ring(), shown(), way));
     });
     return done;
 }
@@ -100,9 +132,28 @@ bool EditorUndo::stepInRing(Way way)
     const std::optional<UndoState> state = slot ? stateAt(*slot) : std::nullopt;
     if (!state)
         return false;
+    const SharedText former = shown().text;
     show(*state, Spelling::Listed);
     m_kept.afterStep(ring());
+    if (hasOwnRing())
+        selectChange(former);
+    m_isEditedSinceStep = false;
     return true;
+}
+
+// What a slot has selected may be where the next change was made.
+void EditorUndo::selectChange(const SharedText &former)
+{
+    const auto changes = former.differences(shown().text);
+    const qsizetype caret = m_box.SelStart();
+    const auto hasCaret = [caret](const SharedText::Difference &change) {
+        return change.otherStart <= caret && caret <= change.otherStart + change.otherLength;
+    };
+    if (changes.isEmpty() || std::any_of(changes.cbegin(), changes.cend(), hasCaret))
+        return;
+    const SharedText::Difference &first = changes.constFirst();
+    m_box.setSelStart(static_cast<qint32>(first.otherStart + first.otherLength));
+    m_box.ensureCursorVisible();
 }
 
 std::optional<UndoState> EditorUndo::stateAt(qint16 slot)
@@ -172,6 +223,7 @@ UndoState EditorUndo::shown() const
 void EditorUndo::resetBase()
 {
     m_kept.clear();
+    m_isEditedSinceStep = false;
     ring().ResetUndoBase(m_box.Text());
     m_idle.start(idleAfter);
 }
@@ -192,6 +244,7 @@ void EditorUndo::beforeEdit(bool losesPart)
 {
     if (ring().IsRestoringUndo())
         return;
+    endStepBefore(losesPart);
     const bool isToBeKept = hasStood() || (losesPart && !m_kept.isShownSafe(ring()));
     if (isToBeKept && m_box.TextLength() > 0)
         m_kept.offer(shown());
@@ -213,6 +266,8 @@ void EditorUndo::noteEdit()
 {
     if (ring().IsRestoringUndo())
         return;
+    if (!std::exchange(m_isBlankToCome, false))
+        m_isEditedSinceStep = true;
     m_changed = now();
     if (m_kept.noteEdit(ring()))
         m_idle.start(idleAfter);

@@ -21,6 +21,8 @@ class EditorUndo : public QObject
     Q_OBJECT
 
 public:
+    using Way = KeptStates::Way;
+
     EditorUndo(RichTextBox &box, const EditorThread &thread);
 
     // An editor that is not ready takes no snapshots.
@@ -52,6 +54,10 @@ public:
     bool Undo(QString &ErrMsg) { return step(Way::Back, ErrMsg); }
     bool Redo(QString &ErrMsg) { return step(Way::Forward, ErrMsg); }
 
+    // Whether the ring has a slot to step to. A ring of the editor's own gets what is not in
+    // it yet before a step back.
+    bool hasStep(Way way) const;
+
     // Whether there is something to show, in the ring or beside it.
     bool canUndo() const;
     bool canRedo() const;
@@ -61,7 +67,6 @@ public:
     void setHistory(const std::optional<UndoHistory> &history) { m_host.set(history); }
     bool canUserUndo() const { return canUndo() || m_host.canUndo(); }
     bool canUserRedo() const { return canRedo() || m_host.canRedo(); }
-    using Way = KeptStates::Way;
     void stepForUser(Way way);
 
     // Shows again what stands in no slot, the latest first; false after the last.
@@ -85,6 +90,10 @@ public:
 private:
     EditorClock::Time now() const;
     bool hasStood() const;
+    void storeShown();
+    bool isShownMissing() const;
+    void endStepBefore(bool losesPart);
+    void selectChange(const SharedText &former);
     bool step(Way way, QString &ErrMsg);
     bool stepInRing(Way way);
     std::optional<UndoState> stateAt(qint16 slot);
@@ -103,6 +112,9 @@ private:
     QTimer m_idle;
     bool m_isReady = false;
     bool m_isTypedSinceSnapshot = false;
+    bool m_isEditedSinceStep = false; // or snapshot, by more than the blank that took it
+    bool m_isBlankToCome = false;
+    int m_editedLine = -1;
 };
 
 } // namespace ORVTListview

@@ -118,12 +118,12 @@ void ORVListView::Redo(QString &ErrMsg)
 
 bool ORVListView::IsUndoAvailable() const
 {
-    return d->isCode() && d->editor->undo().ring().CanUndo();
+    return d->isCode() && d->editor->undo().hasStep(EditorUndo::Way::Back);
 }
 
 bool ORVListView::IsRedoAvailable() const
 {
-    return d->isCode() && d->editor->undo().ring().CanRedo();
+    return d->isCode() && d->editor->undo().hasStep(EditorUndo::Way::Forward);
 }
 
 bool ORVListView::restoreUnsavedText()

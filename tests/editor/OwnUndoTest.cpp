@@ -43,6 +43,10 @@ private:
         ORVListView one;
         ORVListView other;
     };
+    static void redo(ORVListView &list)
+    {
+        QTest::keyClick(list.RTextBox(), Qt::Key_Y, Qt::ControlModifier);
+    }
 
 private Q_SLOTS:
     void isOffAtFirst()
@@ -110,6 +114,84 @@ private Q_SLOTS:
         while (two.one.IsUndoAvailable())
             Two::undo(two.one);
         QCOMPARE(two.one.CodeText(), shown);
+    }
+
+    // The shared ring goes from the slot it is at, and takes two words.
+    void aStepTakesBackWhatWasTypedLast()
+    {
+        Two two;
+        Two::type(two.one, u" alpha beta gamma"_s);
+        Two::undo(two.one);
+        QCOMPARE(two.one.CodeText(), u"A alpha beta"_s);
+        redo(two.one);
+        QCOMPARE(two.one.CodeText(), u"A alpha beta gamma"_s);
+        for (const QString &text : {u"A alpha beta"_s, u"A alpha"_s, u"A"_s}) {
+            Two::undo(two.one);
+            QCOMPARE(two.one.CodeText(), text);
+        }
+        QVERIFY(!two.one.IsUndoAvailable());
+        for (const QString &text : {u"A alpha"_s, u"A alpha beta"_s, u"A alpha beta gamma"_s}) {
+            redo(two.one);
+            QCOMPARE(two.one.CodeText(), text);
+        }
+        QVERIFY(!two.one.IsRedoAvailable());
+    }
+
+    void theFirstLettersAreAStep()
+    {
+        Two two;
+        Two::type(two.one, u"x"_s);
+        QVERIFY(two.one.IsUndoAvailable());
+        Two::undo(two.one);
+        QCOMPARE(two.one.CodeText(), u"A"_s);
+        redo(two.one);
+        QCOMPARE(two.one.CodeText(), u"Ax"_s);
+    }
+
+    // And shows where it was.
+    void whatIsDoneInAnotherLineIsAStepOfItsOwn()
+    {
+        Two two;
+        two.one.openProgram(u"one\r\ntwo\r\nthree\r\nfour"_s);
+        RichTextBox &box = *two.one.RTextBox();
+        box.setSelStart(3);
+        QTest::keyClicks(&box, u" REM"_s);
+        box.setSelStart(box.TextLength());
+        QTest::keyClicks(&box, u"x"_s);
+        QTest::keyClick(&box, Qt::Key_Home);
+        QTest::keyClick(&box, Qt::Key_Up);
+        QTest::keyClick(&box, Qt::Key_Delete);
+        QCOMPARE(two.one.CodeText(), u"one REM\r\ntwo\r\nhree\r\nfourx"_s);
+        Two::undo(two.one);
+        QCOMPARE(two.one.CodeText(), u"one REM\r\ntwo\r\nthree\r\nfourx"_s);
+        QCOMPARE(box.GetLineFromChar(box.SelStart()), 2);
+        Two::undo(two.one);
+        QCOMPARE(two.one.CodeText(), u"one REM\r\ntwo\r\nthree\r\nfour"_s);
+        QCOMPARE(box.GetLineFromChar(box.SelStart()), 3);
+        Two::undo(two.one);
+        QCOMPARE(two.one.CodeText(), u"one\r\ntwo\r\nthree\r\nfour"_s);
+        QCOMPARE(box.GetLineFromChar(box.SelStart()), 0);
+        redo(two.one);
+        QCOMPARE(two.one.CodeText(), u"one REM\r\ntwo\r\nthree\r\nfour"_s);
+        QCOMPARE(box.GetLineFromChar(box.SelStart()), 0);
+        redo(two.one);
+        QCOMPARE(box.GetLineFromChar(box.SelStart()), 3);
+        redo(two.one);
+        QCOMPARE(two.one.CodeText(), u"one REM\r\ntwo\r\nhree\r\nfourx"_s);
+        QCOMPARE(box.GetLineFromChar(box.SelStart()), 2);
+    }
+
+    void aTextThatIsDeletedAsAWholeComesBack()
+    {
+        Two two;
+        Two::type(two.one, u" alpha"_s);
+        QTest::keyClick(two.one.RTextBox(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(two.one.RTextBox(), Qt::Key_Delete);
+        QCOMPARE(two.one.CodeText(), QString());
+        Two::undo(two.one);
+        QCOMPARE(two.one.CodeText(), u"A alpha"_s);
+        redo(two.one);
+        QCOMPARE(two.one.CodeText(), QString());
     }
 
     // Its ring is in use.

@@ -126,14 +126,12 @@ private Q_SLOTS:
         workbench.type(u"a b c"_s);
         QVERIFY(enabled(workbench).startsWith(u"Undo, Restore"_s));
         workbench.choose(u"Undo"_s);
-        QCOMPARE(workbench.code().CodeText(), u"a"_s);
-        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 1, Col: 2"_s));
+        QCOMPARE(workbench.code().CodeText(), u"a b"_s);
+        QVERIFY(workbench.statusTexts().endsWith(u"|Row: 1, Col: 4"_s));
         QVERIFY(enabled(workbench).startsWith(u"Undo, Redo, Restore"_s));
         workbench.choose(u"Redo"_s);
-        QCOMPARE(workbench.code().CodeText(), u"a b"_s);
-        QVERIFY(enabled(workbench).startsWith(u"Undo, Restore"_s));
-        workbench.choose(u"Restore Typed Text"_s);
         QCOMPARE(workbench.code().CodeText(), u"a b c"_s);
+        QVERIFY(enabled(workbench).startsWith(u"Undo, Restore"_s));
     }
 
     void saysWhenThereIsNothingToRestore()
@@ -149,6 +147,7 @@ private Q_SLOTS:
         workbench.type(u" a b"_s);
         QVERIFY(enabled(workbench).startsWith(u"Undo"_s));
         workbench.choose(u"Undo"_s);
+        workbench.type(u"c "_s); // Redo ends here
         workbench.window.statusBar()->clearMessage();
         workbench.choose(u"Restore Typed Text"_s);
         QCOMPARE(told(), QString());
@@ -157,7 +156,7 @@ private Q_SLOTS:
             workbench.choose(u"Restore Typed Text"_s);
         QCOMPARE(told(), u"There is no older typed text. The next time the latest comes again."_s);
         workbench.choose(u"Restore Typed Text"_s); // begins anew
-        QVERIFY(workbench.code().CodeText().endsWith(u" a b"_s));
+        QCOMPARE(workbench.code().CodeText(), u"Fan1 = ON ac "_s);
     }
 
     // As by the keys.

@@ -246,8 +246,9 @@ public:
 
     // Whether undo and redo keep to this editor. Off, as at first, all editors of the thread
     // step through one ring, each into the others' programs, which suits a host that shows
-    // one program at a time. Switching it begins a history with what is shown; it has no
-    // effect in the midst of an undo or redo.
+    // one program at a time. On, a step back takes back what was done last and no more: what
+    // is shown gets a slot before it, and before a change in another line. Switching it begins
+    // a history with what is shown; it has no effect in the midst of an undo or redo.
     bool hasOwnUndo() const;
     void setHasOwnUndo(bool on);
 
