@@ -16,9 +16,14 @@
 #include <QtCore/QRegularExpression>
 #include <QtGui/QPageRanges>
 #include <QtGui/QPdfWriter>
+#include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
+#include <QtGui/QTextLayout>
 #include <QtPrintSupport/QPrinterInfo>
 #include <QtWidgets/QFileDialog>
+
+#include <cmath>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace ORVTListview;
@@ -280,6 +285,24 @@ private Q_SLOTS:
             QVERIFY(printPrograms({{u"one"_s, &paper.document()}}, writer));
         }
         QCOMPARE(pdf.data().count("/Type /Page\n"), 2);
+    }
+
+    // A line that begins with a tab stands where one that begins with four blanks does.
+    void tabsAreAsWideOnPaperAsInTheEditor()
+    {
+        WorkbenchWindow workbench("\tFan1 = 1\n    Fan1 = 2");
+        const PaperText paper(workbench.box(), {}, PaperText::All);
+        std::unique_ptr<QTextDocument> page(paper.document().clone());
+        page->setPageSize(QSizeF(800, 600));
+        QCOMPARE(page->pageCount(), 1); // which lays it out
+        const QTextLayout &tab = *page->firstBlock().layout();
+        const QTextLayout &blanks = *page->lastBlock().layout();
+        const auto textAt = [](const QTextLayout &line, int indent) {
+            return line.lineAt(0).cursorToX(indent);
+        };
+        QVERIFY(textAt(tab, 1) > 0);
+        QVERIFY2(std::abs(textAt(tab, 1) - textAt(blanks, 4)) < 1,
+                 qPrintable(QString::number(textAt(tab, 1))));
     }
 
 #ifdef Q_OS_WIN

@@ -5,6 +5,7 @@
 #include <ORVTListview/RichTextBox.h>
 
 #include <QtGui/QFontInfo>
+#include <QtGui/QFontMetricsF>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
 
@@ -12,6 +13,8 @@ namespace ORVTListview {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+constexpr int tabColumns = 4; // as the editor's
 
 void append(QString &html, const QString &text, const QTextCharFormat &format)
 {
@@ -48,6 +51,8 @@ PaperText::PaperText(const RichTextBox &box, const PaperColours &colours, Extent
     , m_paper(std::make_unique<RichTextBox>())
 {
     m_paper->setFont(box.font());
+    const QString tab(tabColumns, u' ');
+    m_paper->setTabStopDistance(QFontMetricsF(box.font(), m_paper.get()).horizontalAdvance(tab));
     m_paper->setTextRTF(m_rtf);
 }
 
@@ -63,8 +68,9 @@ QString PaperText::html(const QString &title) const
     // Together, since a text may hold "%1". A line feed behind <pre> is no line.
     return u"<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\">%1</head>\n"
            "<body><pre style=\"font-family:'%2',monospace;font-size:%3pt;color:#000000;"
-           "background:#ffffff;tab-size:4\">\n%4</pre></body></html>"_s.arg(
-               head, quoted(font.family()), QString::number(points), lines(document()));
+           "background:#ffffff;tab-size:%4\">\n%5</pre></body></html>"_s.arg(
+               head, quoted(font.family()), QString::number(points), QString::number(tabColumns),
+               lines(document()));
 }
 
 const QTextDocument &PaperText::document() const

@@ -6,6 +6,7 @@
 #include <QtGui/QPagedPaintDevice>
 #include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
 
 #include <cmath>
@@ -34,6 +35,7 @@ public:
         QTextOption option = m_program->defaultTextOption();
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         m_program->setDefaultTextOption(option);
+        hangLines();
         m_program->documentLayout()->setPaintDevice(&device);
         m_program->setPageSize(m_body.size());
     }
@@ -61,6 +63,27 @@ public:
     }
 
 private:
+    // What a line has no room for goes on behind its indent. The document's own lengths are
+    // pixels of the screen.
+    void hangLines()
+    {
+        constexpr int columnsBehind = 4;
+        const double tab = m_program->defaultTextOption().tabStopDistance();
+        const double column = QFontMetricsF(m_program->defaultFont()).horizontalAdvance(u' ');
+        for (QTextBlock line = m_program->begin(); line.isValid(); line = line.next()) {
+            double indent = 0;
+            for (const QChar c : line.text()) {
+                if (c != u' ' && c != u'\t')
+                    break;
+                indent = c == u' ' ? indent + column : (std::floor(indent / tab + 0.01) + 1) * tab;
+            }
+            QTextBlockFormat format;
+            format.setLeftMargin(indent + columnsBehind * column);
+            format.setTextIndent(-format.leftMargin());
+            QTextCursor(line).mergeBlockFormat(format);
+        }
+    }
+
     double numbersWidth() const
     {
         const QString longest = QString::number(m_program->blockCount());
