@@ -42,10 +42,13 @@ bool BoxLines::keepSameText(const QString &shown)
 {
     if (!mayKeep())
         return false;
-    findLines();
     const qsizetype most = std::min(shown.size(), m_text.text.size());
     const qsizetype atStart = alikeAtStart(shown, m_text.text);
     const qsizetype atEnd = alikeAtEnd(shown, m_text.text, most - atStart);
+    // A line that is kept has a line end at least, but for the first and the last.
+    if (atStart + atEnd < (m_document.blockCount() / 2 - 2) * lineEnding.size())
+        return false;
+    findLines();
     const auto lineOf = [this](qsizetype place) {
         const auto behind = std::upper_bound(
             m_lines.cbegin(), m_lines.cend(), place,
