@@ -63,13 +63,14 @@ public:
     }
 
 private:
-    // What a line has no room for goes on behind its indent. The document's own lengths are
-    // pixels of the screen.
+    // What a line has no room for goes on behind its indent. Margins are the device's pixels,
+    // but a distance of tabs is pixels of the screen.
     void hangLines()
     {
         constexpr int columnsBehind = 4;
-        const double tab = m_program->defaultTextOption().tabStopDistance();
-        const double column = QFontMetricsF(m_program->defaultFont()).horizontalAdvance(u' ');
+        const double column = m_metrics.horizontalAdvance(u' ');
+        const double onScreen = QFontMetricsF(m_program->defaultFont()).horizontalAdvance(u' ');
+        const double tab = m_program->defaultTextOption().tabStopDistance() * column / onScreen;
         for (QTextBlock line = m_program->begin(); line.isValid(); line = line.next()) {
             double indent = 0;
             for (const QChar c : line.text()) {
