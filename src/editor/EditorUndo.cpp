@@ -132,11 +132,8 @@ bool EditorUndo::stepInRing(Way way)
     const std::optional<UndoState> state = slot ? stateAt(*slot) : std::nullopt;
     if (!state)
         return false;
-    const SharedText former = shown().text;
     show(*state, Spelling::Listed);
     m_kept.afterStep(ring());
-    if (hasOwnRing())
-        selectChange(former);
     m_isEditedSinceStep = false;
     return true;
 }
@@ -153,7 +150,6 @@ void EditorUndo::selectChange(const SharedText &former)
         return;
     const SharedText::Difference &first = changes.constFirst();
     m_box.setSelStart(static_cast<qint32>(first.otherStart + first.otherLength));
-    m_box.ensureCursorVisible();
 }
 
 std::optional<UndoState> EditorUndo::stateAt(qint16 slot)
@@ -192,10 +188,13 @@ bool EditorUndo::showKept(const std::optional<UndoState> &kept)
 void EditorUndo::show(const UndoState &state, Spelling spelling)
 {
     const KeptView view(m_box);
+    const SharedText former = shown().text;
     m_showing.show(state.text, spelling);
     m_changed = now();
     m_box.setSelStart(state.selectionStart);
     m_box.setSelLength(state.selectionLength);
+    if (hasOwnRing())
+        selectChange(former);
 }
 
 void EditorUndo::noteColoured(const QString &text, const ColouredText &shown)

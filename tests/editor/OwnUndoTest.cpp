@@ -6,6 +6,7 @@
 
 #include <QtGui/QTextDocument>
 #include <QtTest/QSignalSpy>
+#include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -179,6 +180,26 @@ private Q_SLOTS:
         redo(two.one);
         QCOMPARE(two.one.CodeText(), u"one REM\r\ntwo\r\nhree\r\nfourx"_s);
         QCOMPARE(box.GetLineFromChar(box.SelStart()), 2);
+    }
+
+    // Though the slot has its caret where the next change was made, far below.
+    void aStepInSightDoesNotScroll()
+    {
+        Two two;
+        two.one.resize(400, 300);
+        two.one.openProgram(u"line\r\n"_s.repeated(300));
+        RichTextBox &box = *two.one.RTextBox();
+        box.setSelStart(4);
+        QTest::keyClicks(&box, u" REM"_s);
+        QTest::keyClick(&box, Qt::Key_End, Qt::ControlModifier);
+        QTest::keyClicks(&box, u"x"_s);
+        Two::undo(two.one);
+        Two::undo(two.one);
+        QCOMPARE(two.one.CodeText().first(6), u"line\r\n"_s);
+        const int top = box.verticalScrollBar()->value();
+        redo(two.one);
+        QCOMPARE(two.one.CodeText().first(10), u"line REM\r\n"_s);
+        QCOMPARE(box.verticalScrollBar()->value(), top);
     }
 
     void aTextThatIsDeletedAsAWholeComesBack()
