@@ -311,6 +311,22 @@ private Q_SLOTS:
                  qPrintable(reading.fault()));
         QCOMPARE(reading.answered(), answered);
     }
+
+    // As those that were just added have none.
+    void theSimulationKnowsPointsWithoutAValue()
+    {
+        Readings r;
+        PointReading *reader = nullptr;
+        SimulatedController controller(
+            [&](const AskedPoint &point) { return reader->valueOf(point); });
+        controller.setBehaviour({1, SimulatedBehaviour::Answers, SimulatedBehaviour::NoMistake});
+        PointReading reading(r.document, controller);
+        reader = &reading;
+        reading.readAll();
+        QTRY_VERIFY(!reading.isReading());
+        QCOMPARE(reading.fault(), QString());
+        QVERIFY(!r.value(dsInput, 2).isEmpty());
+    }
 };
 
 ORVT_TEST(PointReadingTest)

@@ -13,6 +13,12 @@ namespace {
 
 constexpr qsizetype mostInAnAnswer = 50;
 
+// A point that was just added has no value yet, but no controller has none to tell.
+QVariant known(const QVariant &value)
+{
+    return value.toString().isEmpty() ? QVariant(0.0) : value;
+}
+
 } // namespace
 
 SimulatedController::SimulatedController(LastValue last, QObject *parent)
@@ -88,7 +94,7 @@ QList<PointAnswer> SimulatedController::nextAnswers()
     QList<PointAnswer> answers;
     for (; m_told < end; ++m_told) {
         const AskedPoint &point = m_points.at(m_told);
-        const QVariant last = m_last(point);
+        const QVariant last = known(m_last(point));
         answers.append({point, point.type == dsConst ? last : m_drift.next(last)});
     }
     mistake(answers);
