@@ -8,6 +8,13 @@ namespace ORVTListview {
 struct ProjectTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ProjectTexts)
+
+public:
+    // With a colon between them, as the language writes it.
+    static QString about(const QString &subject, const QString &text)
+    {
+        return tr("%1: %2").arg(subject, text);
+    }
 };
 
 } // namespace ORVTListview

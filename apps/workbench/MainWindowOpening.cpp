@@ -13,6 +13,7 @@
 #include "ProjectView.h"
 #include "WindowPages.h"
 #include "WindowStatus.h"
+#include "WordColours.h"
 #include "project/ProjectDocument.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/life/RecentProjects.h"
@@ -73,6 +74,7 @@ void MainWindow::openInPlace(const QString &fileName)
     }
     m_recent->add(fileName);
     m_offer->makeAll();
+    Q_EMIT projectShown();
 }
 
 void MainWindow::openForUser(const QString &fileName, Version version)
@@ -86,6 +88,7 @@ void MainWindow::openForUser(const QString &fileName, Version version)
     }
     m_recent->add(fileName);
     m_offer->makeAll();
+    Q_EMIT projectShown();
 }
 
 void MainWindow::openAtStart(const QString &sample)
@@ -100,6 +103,7 @@ void MainWindow::openProject(const QString &fileName, Version version)
 {
     auto project = version == Version::Before ? Project::versionBefore(fileName)
                                               : std::make_unique<Project>(fileName);
+    Q_EMIT projectLeaving();
     takeProject(*project);
     m_document->setProject(std::move(project));
     m_points->refill();
@@ -122,6 +126,7 @@ void MainWindow::takeProject(Project &project)
 // The components go on with a project that has nothing.
 void MainWindow::closeProject()
 {
+    Q_EMIT projectLeaving();
     m_results->clear();
     m_view->showType(dsCode);
     takeProject(m_document->none());
@@ -146,6 +151,7 @@ void MainWindow::showProgram()
     m_results->setPrograms(project.programs());
     for (const ProjectProgram &each : project.programs())
         m_view->programs().view(each.id).codeView()->openProgram(project.program(each.id));
+    m_colours->take();
     m_document->noteShown();
     m_analyses->takeList();
     takePoints();

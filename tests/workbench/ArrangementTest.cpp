@@ -19,6 +19,8 @@
 #include <QtCore/QSettings>
 #include <QtWidgets/QTabBar>
 
+#include <algorithm>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -60,6 +62,28 @@ class ArrangementTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void tabsThatHaveNoRoomAreScrolledNotCut()
+    {
+        Views views;
+        for (const LwType type : {dsInput, dsOutput, dsVariable, dsConst, dsController})
+            views.views().enterType(type);
+        views.window.resize(700, 500);
+        views.choose(u"Show Beside"_s);
+        views.views().enterType(dsVariable);
+        QCoreApplication::processEvents();
+        const auto bars = views.place().findChildren<QTabBar *>();
+        const auto shown = std::ranges::find_if(bars, &QTabBar::isVisible);
+        QVERIFY(shown != bars.cend());
+        const QTabBar &tabs = **shown;
+        QCOMPARE(tabs.count(), 5);
+        for (int tab = 0; tab < tabs.count(); ++tab) {
+            const int room = tabs.fontMetrics().horizontalAdvance(tabs.tabText(tab));
+            QVERIFY2(tabs.tabRect(tab).width() > room, qPrintable(tabs.tabText(tab)));
+            QCOMPARE(tabs.tabToolTip(tab), tabs.tabText(tab));
+        }
+        QVERIFY(tabs.rect().contains(tabs.tabRect(tabs.currentIndex())));
+    }
+
     void programAndTableStandSideBySide()
     {
         Views views;
