@@ -99,7 +99,7 @@ private Q_SLOTS:
         }
         later.store.sync();
         Q_EMIT later.window.projectShown();
-        QCOMPARE(later.marks(), QList<qint32>(2));
+        QCOMPARE(later.marks(), QList<qint32>({2}));
         QCOMPARE(later.drawn(), QStringList(u"Temp1"_s));
         QVERIFY(!later.trend().isVisible()); // as it was left
     }
@@ -120,7 +120,7 @@ private Q_SLOTS:
                         u"x/1"_s, u"9/1"_s, u"1/2"_s, u"1/2"_s});
         workbench.store.setValue(u"projects/kept/1/showsTrend"_s, true);
         Q_EMIT workbench.window.projectShown();
-        QCOMPARE(workbench.marks(), QList<qint32>(2));
+        QCOMPARE(workbench.marks(), QList<qint32>({2}));
         QVERIFY(workbench.drawn().isEmpty());
         QVERIFY(!workbench.trend().isVisible());
     }

@@ -106,11 +106,8 @@ private Q_SLOTS:
         QMenu *menu = table.menuAt(2);
         QVERIFY(Table::isPossible(menu, u"Rename"_s));
         Table::choose(menu, u"Rename"_s);
-        auto *field = table.list().viewport()->findChild<QLineEdit *>();
-        QVERIFY(field);
-        QTest::keyClicks(field, u"Temp2"_s);
-        QTest::keyClick(field, Qt::Key_Return);
-        QTRY_COMPARE(table.shown().ListItems()->Item(2)->SubItem(1), u"Temp2"_s);
+        QVERIFY(table.list().viewport()->findChild<QLineEdit *>()); // RenamingTest types into it
+        QCOMPARE(table.shown().SelectedItem()->Index(), 2);
     }
 
     void aKeyRemovesThePoint()
