@@ -323,6 +323,28 @@ private Q_SLOTS:
         QVERIFY(programs.dock(2).y() >= programs.dock(1).geometry().bottom());
     }
 
+    void viewsAreAsWideTheNextTime()
+    {
+        QTemporaryDir folder;
+        QSettings store(folder.filePath(u"a.ini"_s), QSettings::IniFormat);
+        Views former;
+        former.views().enterType(dsVariable);
+        former.views().enterType(dsInput);
+        former.choose(u"Show Beside"_s);
+        QCoreApplication::processEvents();
+        const int width = former.dock(dsVariable).width();
+        QVERIFY(std::abs(width - former.dock(dsInput).width()) < 20);
+        writeWindow(store, former.window, *former.code().codeView());
+        MainWindow window(former.languages);
+        ProjectView &views = *window.findChild<ProjectView *>();
+        readWindow(store, window, *views.program().codeView());
+        window.show();
+        window.openProject(former.folder.filePath(u"one.json"_s));
+        QTest::qWait(50);
+        QVERIFY(std::abs(views.tables().dock(dsInput).width() - width) < 20);
+        QVERIFY(std::abs(views.program().width() - width) < 20);
+    }
+
     void aViewThatComesBackHasItsRoomAgain()
     {
         Views views;

@@ -52,7 +52,7 @@ QVariant valueOf(const QMetaProperty &property, const QVariant &stored)
 void readViews(const QSettings &store, const ProjectView &view)
 {
     view.tables().open(store.value(tables).toStringList());
-    view.workplace().restoreState(store.value(views).toByteArray());
+    view.workplace().arrange(store.value(views).toByteArray());
 }
 
 void writeViews(QSettings &store, const ProjectView &view)
