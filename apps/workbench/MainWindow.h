@@ -117,6 +117,7 @@ private:
     void connectSaving();
     void connectPages();
     void takeProject(Project &project);
+    void offerWork();
     void showProgram();
     void showSample();
     void showPage();

@@ -4,6 +4,7 @@
 
 #include "Appearance.h"
 #include "CheckResults.h"
+#include "Languages.h"
 #include "PlainTexts.h"
 #include "PointChooser.h"
 #include "PointValues.h"
@@ -27,6 +28,7 @@
 #include <ORVTListview/ORVListView.h>
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
 
 #include <memory>
 #include <utility>
@@ -73,8 +75,7 @@ void MainWindow::openInPlace(const QString &fileName)
         return;
     }
     m_recent->add(fileName);
-    m_offer->makeAll();
-    Q_EMIT projectShown();
+    offerWork();
 }
 
 void MainWindow::openForUser(const QString &fileName, Version version)
@@ -87,8 +88,16 @@ void MainWindow::openForUser(const QString &fileName, Version version)
         return;
     }
     m_recent->add(fileName);
-    m_offer->makeAll();
-    Q_EMIT projectShown();
+    offerWork();
+}
+
+// Then what is kept beside the project's files comes, as it is to be edited now.
+void MainWindow::offerWork()
+{
+    const QPointer<MainWindow> self(this); // while the user decides
+    m_offer->makeAll(m_languages.locale());
+    if (self)
+        Q_EMIT projectShown();
 }
 
 void MainWindow::openAtStart(const QString &sample)
