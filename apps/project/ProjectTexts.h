@@ -11,10 +11,7 @@ struct ProjectTexts
 
 public:
     // With a colon between them, as the language writes it.
-    static QString about(const QString &subject, const QString &text)
-    {
-        return tr("%1: %2").arg(subject, text);
-    }
+    static QString about(const QString &subject, const QString &text);
 };
 
 } // namespace ORVTListview
