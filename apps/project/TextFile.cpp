@@ -148,8 +148,7 @@ void writeFile(const QString &fileName, const QByteArray &bytes)
 {
     FileReplacement file(fileName);
     if (!file.write(bytes) || !file.commit())
-        throw Error(FileNotWritable, u"writeFile"_s,
-                    ProjectTexts::about(fileName, reasonOf(file)));
+        throw Error(FileNotWritable, u"writeFile"_s, ProjectTexts::about(fileName, reasonOf(file)));
 }
 
 ProgramFormat programFormat(QByteArrayView bytes)

@@ -110,14 +110,14 @@ private Q_SLOTS:
         workbench.store.setValue(u"projects/kept/size"_s, u"2147483647"_s);
         workbench.store.setValue(u"projects/kept/1/file"_s,
                                  workbench.folder.filePath(u"one.json"_s));
-        workbench.store.setValue(
-            u"projects/kept/1/trend"_s,
-            QStringList{u""_s, u"/"_s, u"Inputs"_s, u"Inputs/"_s, u"Inputs/#99999999999"_s,
-                        u"Inputs/#0"_s, u"Inputs/#7"_s, u"Nothing/Temp1"_s, u"Code/Temp1"_s});
-        workbench.store.setValue(
-            u"projects/kept/1/bookmarks"_s,
-            QStringList{u"1/99999999999"_s, u"1/2147483647"_s, u"1/-1"_s, u"1/0"_s, u"1"_s,
-                        u"x/1"_s, u"9/1"_s, u"1/2"_s, u"1/2"_s});
+        workbench.store.setValue(u"projects/kept/1/trend"_s,
+                                 QStringList{u""_s, u"/"_s, u"Inputs"_s, u"Inputs/"_s,
+                                             u"Inputs/#99999999999"_s, u"Inputs/#0"_s,
+                                             u"Inputs/#7"_s, u"Nothing/Temp1"_s, u"Code/Temp1"_s});
+        workbench.store.setValue(u"projects/kept/1/bookmarks"_s,
+                                 QStringList{u"1/99999999999"_s, u"1/2147483647"_s, u"1/-1"_s,
+                                             u"1/0"_s, u"1"_s, u"x/1"_s, u"9/1"_s, u"1/2"_s,
+                                             u"1/2"_s});
         workbench.store.setValue(u"projects/kept/1/showsTrend"_s, true);
         Q_EMIT workbench.window.projectShown();
         QCOMPARE(workbench.marks(), QList<qint32>({2}));
@@ -144,8 +144,8 @@ private Q_SLOTS:
             workbench.open(u"p%1"_s.arg(i));
         workbench.window.closeProject();
         QCOMPARE(workbench.store.value(u"projects/kept/size"_s).toInt(), 10);
-        QVERIFY(workbench.store.value(u"projects/kept/1/file"_s).toString().endsWith(
-            u"p14.json"_s));
+        QVERIFY(
+            workbench.store.value(u"projects/kept/1/file"_s).toString().endsWith(u"p14.json"_s));
     }
 };
 

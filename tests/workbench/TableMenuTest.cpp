@@ -119,8 +119,7 @@ private Q_SLOTS:
         QTest::keyClick(&table.list(), Qt::Key_Delete, Qt::ControlModifier);
         QVERIFY(table.shown().ListItems()->Item(2)->SubItem(1).trimmed().isEmpty());
         QTest::keyClick(&table.list(), Qt::Key_Delete, Qt::ControlModifier);
-        QCOMPARE(table.window.statusBar()->currentMessage(),
-                 u"There is no point in this row."_s);
+        QCOMPARE(table.window.statusBar()->currentMessage(), u"There is no point in this row."_s);
         const QAction *inMenu = table.command(u"Remove Point"_s);
         QCOMPARE(inMenu->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Delete));
     }

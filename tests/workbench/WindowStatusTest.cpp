@@ -7,8 +7,8 @@
 #include <ORVTListview/ORVListView.h>
 
 #include <QtGui/QWindow>
-#include <QtWidgets/QScrollBar>
 #include <QtTest/QSignalSpy>
+#include <QtWidgets/QScrollBar>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -67,7 +67,8 @@ private Q_SLOTS:
         workbench.window.showType(dsInput);
         workbench.window.showType(dsCode);
         workbench.choose(u"Show Below"_s);
-        QTRY_VERIFY(workbench.box().viewport()->height() < 20 * workbench.box().fontMetrics().height());
+        QTRY_VERIFY(workbench.box().viewport()->height() <
+                    20 * workbench.box().fontMetrics().height());
         QTRY_VERIFY(isInSight());
         scrollTo(0); // whoever looks elsewhere is not led back
         workbench.choose(u"Results"_s);

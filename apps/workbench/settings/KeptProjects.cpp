@@ -29,8 +29,7 @@ constexpr qsizetype mostBookmarks = 1000;
 
 QString textOf(const AskedPoint &point)
 {
-    const QString name =
-        point.name.isEmpty() ? u'#' + QString::number(point.number) : point.name;
+    const QString name = point.name.isEmpty() ? u'#' + QString::number(point.number) : point.name;
     return displayName(point.type) + u'/' + name;
 }
 

@@ -117,8 +117,7 @@ bool Trend::add(LwType type, qsizetype row)
 
 bool Trend::add(const AskedPoint &point)
 {
-    return m_document.project() &&
-           add(point.type, PointRows(*m_document.project()).rowOf(point));
+    return m_document.project() && add(point.type, PointRows(*m_document.project()).rowOf(point));
 }
 
 void Trend::remove(qsizetype line)

@@ -29,7 +29,7 @@ namespace {
 
 constexpr qsizetype mostLetters = 400; // of a line's values; no window is wider
 constexpr auto gapOfValues = "   "_L1;
-constexpr int fewestLetters = 4;       // an ellipsis alone tells nothing
+constexpr int fewestLetters = 4; // an ellipsis alone tells nothing
 
 // What is cut in the midst of a name or of its value loses the value: as many as fit are shown
 // whole. The first one is cut where there is room for its name.
@@ -159,8 +159,8 @@ QString LiveValues::textOn(const QTextBlock &line) const
         if (value == m_values.cend() || told.contains(folded))
             continue;
         told.insert(folded);
-        values += (values.isEmpty() ? QString() : QString(gapOfValues)) + inOwnDirection(name, direction) +
-                  u' ' + inOwnDirection(*value, direction);
+        values += (values.isEmpty() ? QString() : QString(gapOfValues)) +
+                  inOwnDirection(name, direction) + u' ' + inOwnDirection(*value, direction);
         if (values.size() > mostLetters)
             break;
     }
