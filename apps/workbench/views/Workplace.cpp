@@ -207,11 +207,8 @@ void Workplace::closeCurrent()
         dock->close();
 }
 
-// What stands there for a moment on the way is not seen, and leaves nothing behind.
 void Workplace::gather()
 {
-    setUpdatesEnabled(false);
-    m_settled.start();
     ViewDock *front = current();
     const QWidget *focus = QApplication::focusWidget();
     const bool hadFocus = front && focus && front->isAncestorOf(focus);
@@ -260,7 +257,6 @@ void Workplace::dress()
         dock->title().setCurrent(dock == current());
     }
     ViewTabs::dress(*this);
-    setUpdatesEnabled(true);
 }
 
 } // namespace ORVTListview
