@@ -32,7 +32,7 @@ constexpr auto gapOfValues = "   "_L1;
 constexpr int fewestLetters = 4; // an ellipsis alone tells nothing
 
 // What is cut in the midst of a name or of its value loses the value: as many as fit are shown
-// whole. The first one is cut where there is room for its name.
+// whole. The first one is cut where there is room for its name and something of its value.
 QString cutBehindValue(const QString &text, const QString &cut, const QFontMetricsF &metrics,
                        qreal room)
 {
@@ -42,7 +42,7 @@ QString cutBehindValue(const QString &text, const QString &cut, const QFontMetri
         end = text.lastIndexOf(gapOfValues, end - 1);
     if (end > 0)
         return text.left(end) + ellipsis;
-    return cut.size() - 1 > text.indexOf(u' ') ? cut : QString();
+    return cut.size() - 2 >= text.indexOf(u' ') + fewestLetters ? cut : QString();
 }
 
 // As the font's metrics do it, but of so many letters only as may be seen: to lay out all
