@@ -416,10 +416,6 @@
         <translation>Es gibt keinen älteren getippten Text. Beim nächsten Mal kommt wieder der neueste.</translation>
     </message>
     <message>
-        <source>Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed.</source>
-        <translation>Nichts wiederherzustellen: Strg+Z und Strg+Y erreichen alles Getippte.</translation>
-    </message>
-    <message>
         <source>&amp;Find…</source>
         <translation>Suc&amp;hen …</translation>
     </message>
@@ -458,6 +454,10 @@
     <message>
         <source>Find While T&amp;yping</source>
         <translation>Beim &amp;Tippen suchen</translation>
+    </message>
+    <message>
+        <source>Nothing to restore: %1 and %2 reach all that was typed.</source>
+        <translation>Nichts wiederherzustellen: %1 und %2 erreichen alles Getippte.</translation>
     </message>
 </context>
 <context>
@@ -656,10 +656,6 @@
         <translation>Ein Projekt ist eine JSON-Datei mit ihrem Programm daneben.</translation>
     </message>
     <message>
-        <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>
-        <translation>Alles geht mit der Tastatur. F1 listet alle Tasten, F6 prüft das Programm, F5 liest die Werte, Strg+Leertaste listet bekannte Wörter.</translation>
-    </message>
-    <message>
         <source>This page comes back by Help, First Steps.</source>
         <translation>Diese Seite kommt mit „Hilfe, Erste Schritte“ wieder.</translation>
     </message>
@@ -678,6 +674,10 @@
     <message>
         <source>Begin</source>
         <translation>Los geht’s</translation>
+    </message>
+    <message>
+        <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, %1 lists known words.</source>
+        <translation>Alles geht mit der Tastatur. F1 listet alle Tasten, F6 prüft das Programm, F5 liest die Werte, %1 listet bekannte Wörter.</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1448,10 @@ Save them?</source>
         <translation>Die Programme %1 und die Punkte von %2 haben ungespeicherte Änderungen.
 Speichern?</translation>
     </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProjectView</name>
@@ -1813,6 +1817,14 @@ Speichern?</translation>
         <source>Go To First Use</source>
         <translation>Zur ersten Verwendung</translation>
     </message>
+    <message>
+        <source>There is no point in this row.</source>
+        <translation>In dieser Zeile steht kein Punkt.</translation>
+    </message>
+    <message>
+        <source>%1 empties cells while Edit Cells is on; %2 removes the point.</source>
+        <translation>%1 leert Zellen, solange „Zellen bearbeiten“ eingeschaltet ist; %2 entfernt den Punkt.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::TrendDock</name>
@@ -2177,6 +2189,10 @@ Speichern?</translation>
     <message>
         <source>a form from 1 to %1 is expected</source>
         <translation>ein Format von 1 bis %1 wird erwartet</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

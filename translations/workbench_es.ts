@@ -416,10 +416,6 @@
         <translation>No hay texto escrito más antiguo. La próxima vez vuelve el más reciente.</translation>
     </message>
     <message>
-        <source>Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed.</source>
-        <translation>Nada que restaurar: Ctrl+Z y Ctrl+Y llegan a todo lo escrito.</translation>
-    </message>
-    <message>
         <source>&amp;Find…</source>
         <translation>&amp;Buscar…</translation>
     </message>
@@ -458,6 +454,10 @@
     <message>
         <source>Find While T&amp;yping</source>
         <translation>Bús&amp;queda al escribir</translation>
+    </message>
+    <message>
+        <source>Nothing to restore: %1 and %2 reach all that was typed.</source>
+        <translation>Nada que restaurar: %1 y %2 llegan a todo lo escrito.</translation>
     </message>
 </context>
 <context>
@@ -656,10 +656,6 @@
         <translation>Un proyecto es un archivo JSON con su programa al lado.</translation>
     </message>
     <message>
-        <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>
-        <translation>Todo se puede hacer con el teclado. F1 muestra todas las teclas, F6 comprueba el programa, F5 lee los valores, Ctrl+Espacio muestra las palabras conocidas.</translation>
-    </message>
-    <message>
         <source>This page comes back by Help, First Steps.</source>
         <translation>Esta página vuelve con «Ayuda, Primeros pasos».</translation>
     </message>
@@ -678,6 +674,10 @@
     <message>
         <source>Begin</source>
         <translation>Comenzar</translation>
+    </message>
+    <message>
+        <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, %1 lists known words.</source>
+        <translation>Todo se puede hacer con el teclado. F1 muestra todas las teclas, F6 comprueba el programa, F5 lee los valores, %1 muestra las palabras conocidas.</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1448,10 @@ Save them?</source>
         <translation>Los programas %1 y los puntos de %2 tienen cambios sin guardar.
 ¿Guardarlos?</translation>
     </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Guardado.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProjectView</name>
@@ -1813,6 +1817,14 @@ Save them?</source>
         <source>Go To First Use</source>
         <translation>Ir al primer uso</translation>
     </message>
+    <message>
+        <source>There is no point in this row.</source>
+        <translation>No hay ningún punto en esta fila.</translation>
+    </message>
+    <message>
+        <source>%1 empties cells while Edit Cells is on; %2 removes the point.</source>
+        <translation>%1 vacía celdas mientras «Editar celdas» está activado; %2 quita el punto.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::TrendDock</name>
@@ -2177,6 +2189,10 @@ Save them?</source>
     <message>
         <source>a form from 1 to %1 is expected</source>
         <translation>se espera un formato de 1 a %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -416,10 +416,6 @@
         <translation>Il n’y a pas de texte saisi plus ancien. La prochaine fois, le plus récent revient.</translation>
     </message>
     <message>
-        <source>Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed.</source>
-        <translation>Rien à restaurer&#xa0;: Ctrl+Z et Ctrl+Y atteignent tout ce qui a été saisi.</translation>
-    </message>
-    <message>
         <source>&amp;Find…</source>
         <translation>Rec&amp;hercher…</translation>
     </message>
@@ -458,6 +454,10 @@
     <message>
         <source>Find While T&amp;yping</source>
         <translation>Rechercher pendant la &amp;frappe</translation>
+    </message>
+    <message>
+        <source>Nothing to restore: %1 and %2 reach all that was typed.</source>
+        <translation>Rien à restaurer&#xa0;: %1 et %2 atteignent tout ce qui a été saisi.</translation>
     </message>
 </context>
 <context>
@@ -656,10 +656,6 @@
         <translation>Un projet est un fichier JSON avec son programme à côté.</translation>
     </message>
     <message>
-        <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, Ctrl+Space lists known words.</source>
-        <translation>Tout se fait au clavier. F1 montre toutes les touches, F6 vérifie le programme, F5 lit les valeurs, Ctrl+Espace montre les mots connus.</translation>
-    </message>
-    <message>
         <source>This page comes back by Help, First Steps.</source>
         <translation>Cette page revient par «&#xa0;Aide, Premiers pas&#xa0;».</translation>
     </message>
@@ -678,6 +674,10 @@
     <message>
         <source>Begin</source>
         <translation>Commencer</translation>
+    </message>
+    <message>
+        <source>Everything can be done by keyboard. F1 lists all keys, F6 checks the program, F5 reads the values, %1 lists known words.</source>
+        <translation>Tout se fait au clavier. F1 montre toutes les touches, F6 vérifie le programme, F5 lit les valeurs, %1 montre les mots connus.</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1448,10 @@ Save them?</source>
         <translation>Les programmes %1 et les points de %2 ont des modifications non enregistrées.
 Les enregistrer&#xa0;?</translation>
     </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Enregistré.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::ProjectView</name>
@@ -1813,6 +1817,14 @@ Les enregistrer&#xa0;?</translation>
         <source>Go To First Use</source>
         <translation>Aller à la première utilisation</translation>
     </message>
+    <message>
+        <source>There is no point in this row.</source>
+        <translation>Il n’y a pas de point dans cette ligne.</translation>
+    </message>
+    <message>
+        <source>%1 empties cells while Edit Cells is on; %2 removes the point.</source>
+        <translation>%1 vide des cellules tant que «&#xa0;Modifier les cellules&#xa0;» est activé&#xa0;; %2 supprime le point.</translation>
+    </message>
 </context>
 <context>
     <name>ORVTListview::TrendDock</name>
@@ -2177,6 +2189,10 @@ Les enregistrer&#xa0;?</translation>
     <message>
         <source>a form from 1 to %1 is expected</source>
         <translation>un format de 1 à %1 est attendu</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>

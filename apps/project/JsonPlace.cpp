@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 [[noreturn]] void failAt(const QString &file, const QString &place, const QString &reason)
 {
-    const QString where = place.isEmpty() ? file : u"%1: %2"_s.arg(file, place);
-    throw Error(ProjectNotValid, u"readProject"_s, u"%1: %2"_s.arg(where, reason));
+    const QString where = place.isEmpty() ? file : ProjectTexts::about(file, place);
+    throw Error(ProjectNotValid, u"readProject"_s, ProjectTexts::about(where, reason));
 }
 
 // Columns count characters, of which the file's byte order mark is none.

@@ -8,6 +8,10 @@ namespace ORVTListview {
 struct ProjectTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ProjectTexts)
+
+public:
+    // With a colon between them, as the language writes it.
+    static QString about(const QString &subject, const QString &text);
 };
 
 } // namespace ORVTListview

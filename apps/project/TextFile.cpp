@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 [[noreturn]] void failToRead(const QString &name, const QString &reason)
 {
-    throw Error(FileNotReadable, u"readFile"_s, u"%1: %2"_s.arg(name, reason));
+    throw Error(FileNotReadable, u"readFile"_s, ProjectTexts::about(name, reason));
 }
 
 // Where a file is another's alone while it takes its place, that is for a moment.
@@ -148,7 +148,7 @@ void writeFile(const QString &fileName, const QByteArray &bytes)
 {
     FileReplacement file(fileName);
     if (!file.write(bytes) || !file.commit())
-        throw Error(FileNotWritable, u"writeFile"_s, u"%1: %2"_s.arg(fileName, reasonOf(file)));
+        throw Error(FileNotWritable, u"writeFile"_s, ProjectTexts::about(fileName, reasonOf(file)));
 }
 
 ProgramFormat programFormat(QByteArrayView bytes)

@@ -1,6 +1,7 @@
 #include "CheckModel.h"
 
 #include "CheckTexts.h"
+#include "project/ProjectTexts.h"
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
 
@@ -77,6 +78,22 @@ void CheckModel::setUses(const QList<ShownUse> &uses)
     setContent(Content::Uses);
     m_uses = uses;
     endResetModel();
+}
+
+// The rows that stay keep what is chosen among them.
+void CheckModel::keepUses(const IsTrue &isTrue)
+{
+    for (auto row = static_cast<int>(m_uses.size()) - 1; row >= 0; --row) {
+        ShownUse use = m_uses.at(row);
+        if (!isTrue(use)) {
+            beginRemoveRows({}, row, row);
+            m_uses.removeAt(row);
+            endRemoveRows();
+        } else if (use != m_uses.at(row)) {
+            m_uses[row] = use;
+            Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1), {Qt::DisplayRole});
+        }
+    }
 }
 
 void CheckModel::setContent(Content content)
@@ -220,7 +237,7 @@ QString CheckModel::problemRow(int row) const
     if (row < m_problems.size()) {
         const QString name = nameOf(m_problems[row].program);
         const QString text = problemText(m_problems[row]);
-        return name.isEmpty() ? text : name + QStringLiteral(": ") + text;
+        return name.isEmpty() ? text : ProjectTexts::about(name, text);
     }
     if (m_problems.isEmpty())
         return tr("Nothing found.");

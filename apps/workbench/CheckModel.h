@@ -7,6 +7,8 @@
 
 #include <QtCore/QAbstractTableModel>
 
+#include <functional>
+
 namespace ORVTListview {
 
 // What a check of the program brought to light: problems, a sentence each, statements
@@ -24,6 +26,11 @@ public:
     void setProblems(const QList<ProgramProblem> &problems, qsizetype count);
     void setStatements(const QList<ListedStatement> &statements);
     void setUses(const QList<ShownUse> &uses);
+
+    // Each use is asked for, which may be written anew; those that are not true go.
+    using IsTrue = std::function<bool(ShownUse &use)>;
+    void keepUses(const IsTrue &isTrue);
+
     // After a change of language.
     void retranslate();
 

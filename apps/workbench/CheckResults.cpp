@@ -1,6 +1,5 @@
 #include "CheckResults.h"
 
-#include "CheckModel.h"
 #include "workbench/RoomyRows.h"
 
 #include <QtCore/QStringList>
@@ -37,12 +36,14 @@ CheckResults::CheckResults(QWidget *parent)
 
 void CheckResults::showProblems(const Problems &problems)
 {
+    m_problems = problems;
     m_model->setProblems(problems.listed, problems.count);
     showModel();
 }
 
 void CheckResults::showStatements(const QList<ListedStatement> &statements)
 {
+    m_isEdited = false;
     m_model->setStatements(statements);
     showModel();
 }
@@ -56,10 +57,44 @@ void CheckResults::showUses(const QList<ShownUse> &uses)
 // Hidden, too: the list may be shown again by itself.
 void CheckResults::followProblems(const Problems &problems)
 {
-    if (m_model->content() != CheckModel::Content::Problems)
+    m_problems = problems;
+    if (!isAskedTrue())
+        listProblems();
+}
+
+bool CheckResults::isAskedTrue() const
+{
+    switch (m_model->content()) {
+    case CheckModel::Content::Statements:
+        return !m_isEdited;
+    case CheckModel::Content::Uses:
+        return m_model->rowCount() > 0;
+    case CheckModel::Content::Problems:
+        break;
+    }
+    return false;
+}
+
+void CheckResults::keepUses(const IsTrue &isTrue)
+{
+    if (m_model->content() != CheckModel::Content::Uses)
         return;
+    m_model->keepUses(isTrue);
+    if (!isAskedTrue())
+        listProblems();
+}
+
+void CheckResults::forgetUses()
+{
+    if (m_model->content() == CheckModel::Content::Uses)
+        listProblems();
+}
+
+void CheckResults::listProblems()
+{
     const int scrolled = m_view->verticalScrollBar()->value();
-    m_model->setProblems(problems.listed, problems.count);
+    m_model->setProblems(m_problems.listed, m_problems.count);
+    m_view->setHeaderHidden(true);
     m_view->verticalScrollBar()->setValue(scrolled);
     describe();
     if (!isHidden())
@@ -79,6 +114,7 @@ void CheckResults::moveLines(qint32 program, const ReplacedLines &lines)
 
 void CheckResults::clear()
 {
+    m_problems = {};
     m_model->setProblems({}, 0);
     hide();
 }

@@ -1,17 +1,12 @@
 #pragma once
 
-#include "ResultPlace.h"
-#include "project/ProjectProgram.h"
-#include "project/analysis/ProgramFault.h"
-#include "project/analysis/ProgramListing.h"
+#include "CheckModel.h"
 
 #include <QtWidgets/QDockWidget>
 
 class QTreeView;
 
 namespace ORVTListview {
-
-class CheckModel;
 
 // The list under the editors: what the analysis found, the statements of the programs, or
 // the uses of a point.
@@ -32,9 +27,16 @@ public:
     void showStatements(const QList<ListedStatement> &statements);
     void showUses(const QList<ShownUse> &uses);
 
-    // Where problems are listed, those of now, with the chosen one and the place of the
-    // list as they were.
+    // The problems of now: listed with the chosen one and the place of the list as they were,
+    // unless users have asked for something else that is still true. Uses are, statements are
+    // until a program is edited.
     void followProblems(const Problems &problems);
+    void noteEdited() { m_isEdited = true; }
+
+    // Uses that are others by now, or none; without any the problems are listed.
+    using IsTrue = CheckModel::IsTrue;
+    void keepUses(const IsTrue &isTrue);
+    void forgetUses();
 
     void setPrograms(const ProgramList &programs);
     void moveLines(qint32 program, const ReplacedLines &lines);
@@ -54,12 +56,16 @@ Q_SIGNALS:
 
 private:
     void choose(const QModelIndex &index);
+    void listProblems();
+    bool isAskedTrue() const;
     void showModel();
     void describe();
     void fitColumns();
 
     CheckModel *m_model;
     QTreeView *m_view;
+    Problems m_problems;     // of now
+    bool m_isEdited = false; // a program, since its statements were listed
 };
 
 } // namespace ORVTListview

@@ -1,5 +1,6 @@
 #include "EditMenu.h"
 
+#include "KeyText.h"
 #include "LinesMenu.h"
 #include "ProjectView.h"
 #include "widgets/box/BoxCommands.h"
@@ -153,7 +154,8 @@ void EditMenu::restoreTypedText()
     else if (std::exchange(m_hasRestored, false))
         Q_EMIT told(tr("There is no older typed text. The next time the latest comes again."));
     else
-        Q_EMIT told(tr("Nothing to restore: Ctrl+Z and Ctrl+Y reach all that was typed."));
+        Q_EMIT told(tr("Nothing to restore: %1 and %2 reach all that was typed.")
+                        .arg(keyText(Qt::CTRL | Qt::Key_Z), keyText(Qt::CTRL | Qt::Key_Y)));
 }
 
 void EditMenu::cut()

@@ -44,6 +44,12 @@ Languages::~Languages()
     setTextProvider(nullptr);
 }
 
+QLocale Languages::locale() const
+{
+    const QLocale system;
+    return system.language() == m_language.language() ? system : m_language;
+}
+
 void Languages::setLanguage(const QLocale &language)
 {
     m_language = shownFor(language);

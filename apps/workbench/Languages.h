@@ -30,6 +30,9 @@ public:
 
     // What is shown.
     QLocale language() const { return m_language; }
+
+    // How dates are written for those who read it: as the system does where it has the language.
+    QLocale locale() const;
     void setLanguage(const QLocale &language);
 
 Q_SIGNALS:

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "Appearance.h"
+#include "CaretInSight.h"
 #include "CheckResults.h"
 #include "Languages.h"
 #include "OpeningProgress.h"
@@ -15,6 +16,7 @@
 #include "ProjectView.h"
 #include "WindowPages.h"
 #include "WindowStatus.h"
+#include "WordColours.h"
 #include "editor/rules/colouring/ColourTable.h"
 #include "project/PointReferences.h"
 #include "project/ProjectDocument.h"
@@ -101,6 +103,7 @@ MainWindow::MainWindow(Languages &languages, QWidget *parent)
     , m_analyses(new ProgramAnalyses(m_view->programs(), this))
     , m_checking(
           new ProgramChecking({m_view->programs(), *m_analyses}, *m_document, *m_results, *this))
+    , m_colours(new WordColours(m_view->programs(), this))
     , m_navigation(new ProgramNavigation(*m_view, *m_analyses, *m_results, this))
     , m_walk(new ProblemWalk(*m_view, *m_analyses, this))
     , m_panes(new Panes(*this, *m_view, *m_points))
@@ -165,7 +168,9 @@ void MainWindow::connectEditor(ORVListView &list)
             m_caret.start();
     });
     connect(&box, &RichTextBox::Change, m_document, &ProjectDocument::noteProgramChange);
+    connect(&box, &RichTextBox::Change, m_results, &CheckResults::noteEdited);
     box.viewport()->installEventFilter(this);
+    new CaretInSight(box);
     connect(list.codeView(), &CodeView::problemChosen, m_view,
             [this] { m_view->enterType(dsCode); });
     connect(list.codeView(), &CodeView::problemChosen, this, &MainWindow::showPosition);
@@ -189,8 +194,10 @@ void MainWindow::takePrograms()
 
 void MainWindow::connectAnalysis()
 {
-    connect(m_analyses, &ProgramAnalyses::analysed, this,
-            [this] { m_results->followProblems(m_checking->problems()); });
+    connect(m_analyses, &ProgramAnalyses::analysed, this, [this] {
+        m_navigation->followUses();
+        m_results->followProblems(m_checking->problems());
+    });
     connect(m_analyses, &ProgramAnalyses::linesReplaced, m_results, &CheckResults::moveLines);
     connect(m_navigation, &ProgramNavigation::moved, this, &MainWindow::showPosition);
     connect(m_navigation, &ProgramNavigation::told, m_status, &WindowStatus::tell);
@@ -202,6 +209,7 @@ void MainWindow::connectAnalysis()
 void MainWindow::takePoints()
 {
     m_analyses->takePoints(otherUsesOf(*m_document->project()));
+    m_colours->follow();
 }
 
 void MainWindow::connectPoints()
@@ -243,7 +251,9 @@ void MainWindow::showRow(LwType type, qsizetype row)
 void MainWindow::connectReading()
 {
     connect(&m_view->tables(), &TableViews::made, m_controller, &ControllerPart::serve);
-    new TableMenu({*m_view, *m_renaming, m_controller->reading(), *m_navigation}, this);
+    const auto *menu =
+        new TableMenu({*m_view, *m_renaming, m_controller->reading(), *m_navigation}, this);
+    connect(menu, &TableMenu::told, m_status, &WindowStatus::tell);
     connect(m_view, &ProjectView::trendWanted, m_controller, &ControllerPart::drawAll);
     connect(m_controller, &ControllerPart::settingsChosen, this,
             [this](const ReadingSettings &reading) {

@@ -36,6 +36,7 @@ class RecoveryKeeper;
 class RecoveryOffer;
 class WindowPages;
 class WindowStatus;
+class WordColours;
 
 // A small host: shows a project in the library's components.
 class MainWindow : public QMainWindow
@@ -90,6 +91,10 @@ Q_SIGNALS:
     // The user has decided anew.
     void settingsChosen();
 
+    // A project is open for the user, and before it makes way for another one, or none.
+    void projectShown();
+    void projectLeaving();
+
 protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -112,6 +117,7 @@ private:
     void connectSaving();
     void connectPages();
     void takeProject(Project &project);
+    void offerWork();
     void showProgram();
     void showSample();
     void showPage();
@@ -151,6 +157,7 @@ private:
     CheckResults *m_results;
     ProgramAnalyses *m_analyses;
     ProgramChecking *m_checking;
+    WordColours *m_colours;
     ProgramNavigation *m_navigation;
     ProblemWalk *m_walk;
     Panes *m_panes;

@@ -4,6 +4,7 @@
 
 #include "Appearance.h"
 #include "CheckResults.h"
+#include "Languages.h"
 #include "PlainTexts.h"
 #include "PointChooser.h"
 #include "PointValues.h"
@@ -13,6 +14,7 @@
 #include "ProjectView.h"
 #include "WindowPages.h"
 #include "WindowStatus.h"
+#include "WordColours.h"
 #include "project/ProjectDocument.h"
 #include "workbench/export/Exporting.h"
 #include "workbench/life/RecentProjects.h"
@@ -26,6 +28,7 @@
 #include <ORVTListview/ORVListView.h>
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
 
 #include <memory>
 #include <utility>
@@ -72,7 +75,7 @@ void MainWindow::openInPlace(const QString &fileName)
         return;
     }
     m_recent->add(fileName);
-    m_offer->makeAll();
+    offerWork();
 }
 
 void MainWindow::openForUser(const QString &fileName, Version version)
@@ -85,7 +88,16 @@ void MainWindow::openForUser(const QString &fileName, Version version)
         return;
     }
     m_recent->add(fileName);
-    m_offer->makeAll();
+    offerWork();
+}
+
+// Then what is kept beside the project's files comes, as it is to be edited now.
+void MainWindow::offerWork()
+{
+    const QPointer<MainWindow> self(this); // while the user decides
+    m_offer->makeAll(m_languages.locale());
+    if (self)
+        Q_EMIT projectShown();
 }
 
 void MainWindow::openAtStart(const QString &sample)
@@ -100,6 +112,7 @@ void MainWindow::openProject(const QString &fileName, Version version)
 {
     auto project = version == Version::Before ? Project::versionBefore(fileName)
                                               : std::make_unique<Project>(fileName);
+    Q_EMIT projectLeaving();
     takeProject(*project);
     m_document->setProject(std::move(project));
     m_points->refill();
@@ -122,6 +135,7 @@ void MainWindow::takeProject(Project &project)
 // The components go on with a project that has nothing.
 void MainWindow::closeProject()
 {
+    Q_EMIT projectLeaving();
     m_results->clear();
     m_view->showType(dsCode);
     takeProject(m_document->none());
@@ -146,6 +160,7 @@ void MainWindow::showProgram()
     m_results->setPrograms(project.programs());
     for (const ProjectProgram &each : project.programs())
         m_view->programs().view(each.id).codeView()->openProgram(project.program(each.id));
+    m_colours->take();
     m_document->noteShown();
     m_analyses->takeList();
     takePoints();

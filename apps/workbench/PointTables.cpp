@@ -284,6 +284,11 @@ bool PointTables::grow(qint16 column)
 
 // Names.
 
+bool PointTables::canName() const
+{
+    return rowOf(m_list.SelectedItem()) >= 0 && nameColumn(m_list.CurrentType()) >= 0;
+}
+
 void PointTables::editName()
 {
     m_list.StartLabelEdit();

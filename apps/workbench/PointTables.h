@@ -67,7 +67,8 @@ public:
     // The points of all selected rows.
     QList<qsizetype> selectedPoints() const;
 
-    // Begins to edit the name in the selected row.
+    // Begins to edit the name in the selected row, which need not have a point yet.
+    bool canName() const;
     void editName();
 
 Q_SIGNALS:

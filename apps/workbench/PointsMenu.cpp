@@ -57,6 +57,8 @@ void PointsMenu::addPoints(PointRenaming &renaming, PointImporting &importing)
         if (const PointTables *table = m_view.currentTable())
             renaming.remove(type(), table->selectedPoint());
     });
+    m_remove->setShortcut(removeKey);
+    m_remove->setShortcutContext(Qt::WidgetShortcut);
     m_import =
         addAction(tr("&Import…"), &importing, [this, &importing] { importing.import(type()); });
 }

@@ -29,6 +29,9 @@ public:
         const ProgramNavigation &navigation;
     };
 
+    // The tables' own, for the point of the selected row; no grid has it.
+    static constexpr QKeyCombination removeKey = Qt::CTRL | Qt::Key_Delete;
+
     // All of them outlive the menu.
     PointsMenu(ProjectView &view, const ProjectDocument &document, const Acts &acts,
                QWidget *parent);

@@ -129,9 +129,13 @@ void ProgramNavigation::findUses()
         return;
     }
     const QList<ShownUse> uses = usesOf(at);
-    m_results.showUses(uses);
-    if (uses.isEmpty())
+    if (uses.isEmpty()) {
+        m_results.forgetUses(); // of another one
         Q_EMIT told(tr("Nothing uses %1.").arg(shortened(at.name)));
+        return;
+    }
+    m_listed = {at.name, true};
+    m_results.showUses(uses);
 }
 
 void ProgramNavigation::goToFirstUse()
@@ -152,10 +156,18 @@ void ProgramNavigation::findText()
     if (text.isEmpty())
         return;
     const QList<ShownUse> places = findInPrograms(m_view.programs(), text);
-    if (places.isEmpty())
+    if (places.isEmpty()) {
         Q_EMIT told(tr("%1 was not found.").arg(shortened(text)));
-    else
-        m_results.showUses(places);
+        return;
+    }
+    m_listed = {text, false};
+    m_results.showUses(places);
+}
+
+void ProgramNavigation::followUses()
+{
+    m_results.keepUses(
+        [this](ShownUse &use) { return m_listed.follow(use, m_view.programs(), m_project); });
 }
 
 void ProgramNavigation::moveLines(qint32 program, const ReplacedLines &lines)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ListedName.h"
 #include "ResultPlace.h"
 #include "project/analysis/ProgramTokens.h"
 
@@ -40,6 +41,9 @@ public:
     void findUses();
     void goToFirstUse();
 
+    // Uses that are listed and that editing has made others, or none, are so in the list, too.
+    void followUses();
+
 Q_SIGNALS:
     // The caret may have moved.
     void moved();
@@ -73,6 +77,7 @@ private:
     ProgramAnalyses &m_analyses;
     CheckResults &m_results;
     const Project *m_project = nullptr;
+    ListedName m_listed;
     QList<ResultPlace> m_former; // the last one is the next to go back to
 };
 

@@ -10,6 +10,7 @@
 #include "workbench/life/FirstPicture.h"
 #include "workbench/life/RecentProjects.h"
 #include "workbench/settings/DesktopFollowing.h"
+#include "workbench/settings/KeptProjects.h"
 #include "workbench/settings/KeptWindow.h"
 #include "workbench/views/Workplace.h"
 
@@ -82,8 +83,11 @@ void keep(MainWindow &window, QSettings &store, const Settings &stored)
                                           window.settings());
                          kept.write(store);
                      });
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window,
-                     [&] { writeWindow(store, window, view); });
+    auto *projects = new KeptProjects(store, window);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, [&, projects] {
+        projects->write();
+        writeWindow(store, window, view);
+    });
 }
 
 // Whoever names a project knows what to begin with.

@@ -229,6 +229,16 @@ bool CodeView::nextBookmark()
     return d->bookmarks.goToNext();
 }
 
+QList<qint32> CodeView::bookmarks() const
+{
+    return d->bookmarks.list();
+}
+
+void CodeView::setBookmarks(const QList<qint32> &lines)
+{
+    d->bookmarks.set(lines);
+}
+
 bool CodeView::commandsEnabled() const
 {
     return d->box && mayChangeIn(*d->box);

@@ -23,7 +23,8 @@ QList<Member> shownMembers()
 QList<Member> markMembers()
 {
     return invokables<View, "setLiveValues", "setProblems", "problems", "nextProblem",
-                      "previousProblem", "setMarks", "marks", "toggleBookmark", "nextBookmark">();
+                      "previousProblem", "setMarks", "marks", "toggleBookmark", "nextBookmark",
+                      "bookmarks", "setBookmarks">();
 }
 
 QList<Member> foldMembers()

@@ -95,9 +95,11 @@ bool EditorKeys::carryOut(KeyDecision decision, qint16 &KeyCode, qint16 Shift)
         m_acts.undo.PushUndoSnapshot();
         return true;
     case KeyDecision::Analyze:
+        m_acts.words.popup().close(); // what is found comes to be seen
         raiseEvent(*this, &EditorKeys::QueryAnalyze);
         return false;
     case KeyDecision::Compile:
+        m_acts.words.popup().close();
         raiseEvent(*this, &EditorKeys::QueryCompile);
         return false;
     default:

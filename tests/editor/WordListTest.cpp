@@ -33,6 +33,20 @@ private:
     }
 
 private Q_SLOTS:
+    void whatIsFoundOrCompiledIsNotBehindIt()
+    {
+        for (const Qt::KeyboardModifiers modifiers : {Qt::NoModifier, Qt::ControlModifier}) {
+            EditorHost host;
+            host.setText(u"nobody|"_s);
+            popUp(host);
+            QVERIFY(isOpen(host));
+            host.key(Qt::Key_F6, modifiers);
+            QVERIFY(!isOpen(host));
+            QVERIFY(host.box().hasFocus());
+            QCOMPARE(host.marked(), u"nobody|"_s);
+        }
+    }
+
     void ctrlSpaceOpensItForAnUnknownWord()
     {
         EditorHost host;

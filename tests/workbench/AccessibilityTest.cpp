@@ -208,7 +208,8 @@ private Q_SLOTS:
         walkShown(renaming);
         const Project project(workbench.folder.filePath(u"one.json"_s));
         RecoveryDialog recovering(
-            project, {project.fileName(), QDateTime::currentDateTime(), "{}", {u"x"_s}}, nullptr);
+            project, {project.fileName(), QDateTime::currentDateTime(), "{}", {u"x"_s}},
+            QLocale(QLocale::English), nullptr);
         walkShown(recovering);
         ImportDialog importing(project, dsInput, "Name,Value\nTemp1,3\nRoom,4", u"x.csv"_s,
                                nullptr);

@@ -19,6 +19,8 @@
 #include <QtCore/QSettings>
 #include <QtWidgets/QTabBar>
 
+#include <algorithm>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -60,6 +62,29 @@ class ArrangementTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void tabsThatHaveNoRoomAreScrolledNotCut()
+    {
+        Views views;
+        for (const LwType type : {dsInput, dsOutput, dsVariable, dsConst, dsController})
+            views.views().enterType(type);
+        views.window.resize(700, 500);
+        views.choose(u"Show Beside"_s);
+        views.views().enterType(dsVariable);
+        QCoreApplication::processEvents();
+        const auto bars = views.place().findChildren<QTabBar *>();
+        const auto shown = std::ranges::find_if(bars, &QTabBar::isVisible);
+        QVERIFY(shown != bars.cend());
+        const QTabBar &tabs = **shown;
+        QCOMPARE(tabs.count(), 5);
+        for (int tab = 0; tab < tabs.count(); ++tab) {
+            const int room = tabs.fontMetrics().horizontalAdvance(tabs.tabText(tab));
+            QVERIFY2(tabs.tabRect(tab).width() > room, qPrintable(tabs.tabText(tab)));
+            QCOMPARE(tabs.tabToolTip(tab), tabs.tabText(tab));
+        }
+        const QRect current = tabs.tabRect(tabs.currentIndex());
+        QVERIFY(current.left() >= 0 && current.right() <= tabs.width());
+    }
+
     void programAndTableStandSideBySide()
     {
         Views views;
@@ -296,6 +321,51 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QVERIFY(programs.dock(2).isSeen());
         QVERIFY(programs.dock(2).y() >= programs.dock(1).geometry().bottom());
+    }
+
+    // What a bar without tabs draws is a line beside those that there are.
+    void noBarWithoutTabsStaysBehind()
+    {
+        Views views;
+        views.views().enterType(dsVariable);
+        views.views().enterType(dsInput);
+        for (const QString &way : {u"Show Beside"_s, u"Show Below"_s, u"All In Tabs"_s}) {
+            views.choose(way);
+            QTest::qWait(100);
+        }
+        int shown = 0;
+        for (const QTabBar *tabs : views.place().findChildren<QTabBar *>()) {
+            shown += tabs->isVisible() ? 1 : 0;
+            QVERIFY(!tabs->isVisible() || tabs->count() == 3);
+        }
+        QCOMPARE(shown, 1);
+        views.choose(u"Show Beside"_s);
+        views.views().enterType(dsOutput);
+        QTest::qWait(100);
+        for (const QTabBar *tabs : views.place().findChildren<QTabBar *>())
+            QCOMPARE(tabs->isVisible(), tabs->count() > 1);
+    }
+
+    void viewsAreAsWideTheNextTime()
+    {
+        QTemporaryDir folder;
+        QSettings store(folder.filePath(u"a.ini"_s), QSettings::IniFormat);
+        Views former;
+        former.views().enterType(dsVariable);
+        former.views().enterType(dsInput);
+        former.choose(u"Show Beside"_s);
+        QCoreApplication::processEvents();
+        const int width = former.dock(dsVariable).width();
+        QVERIFY(std::abs(width - former.dock(dsInput).width()) < 20);
+        writeWindow(store, former.window, *former.code().codeView());
+        MainWindow window(former.languages);
+        ProjectView &views = *window.findChild<ProjectView *>();
+        readWindow(store, window, *views.program().codeView());
+        window.show();
+        window.openProject(former.folder.filePath(u"one.json"_s));
+        QTest::qWait(50);
+        QVERIFY(std::abs(views.tables().dock(dsInput).width() - width) < 20);
+        QVERIFY(std::abs(views.program().width() - width) < 20);
     }
 
     void aViewThatComesBackHasItsRoomAgain()

@@ -91,8 +91,9 @@ private Q_SLOTS:
         QTest::keyClicks(part, u"DUPLIC"_s);
         QCOMPARE(shown(list), QStringList(u"Lines: Duplicate = Ctrl+D"_s));
         part->setText(u"ctrl+d"_s);
-        QCOMPARE(shown(list), QStringList({u"Lines: Duplicate = Ctrl+D"_s,
-                                           u"Fill the cells from the topmost one = Ctrl+D"_s}));
+        QCOMPARE(shown(list),
+                 QStringList({u"Lines: Duplicate = Ctrl+D"_s, u"Remove Point = Ctrl+Del"_s,
+                              u"Fill the cells from the topmost one = Ctrl+D"_s}));
         part->setText(u"nothing has this"_s);
         QCOMPARE(shown(list), QStringList());
         part->clear();

@@ -49,9 +49,11 @@ private:
     // What is the same word in both languages.
     const QHash<QString, QStringList> sameAsEnglish{
         {u"de"_s,
-         {u"Variable"_s, u"&Editor"_s, u"Text (*.txt)"_s, u"&Trend"_s, u"Trend"_s, u"Import"_s}},
+         {u"Variable"_s, u"&Editor"_s, u"Text (*.txt)"_s, u"&Trend"_s, u"Trend"_s, u"Import"_s,
+          u"%1: %2"_s}},
         {u"es"_s,
-         {u"Variable"_s, u"Variables"_s, u"&Variables"_s, u"No"_s, u"&Editor"_s, u"Error"_s}},
+         {u"Variable"_s, u"Variables"_s, u"&Variables"_s, u"No"_s, u"&Editor"_s, u"Error"_s,
+          u"%1: %2"_s}},
         {u"fr"_s,
          {u"Variable"_s, u"Variables"_s, u"&Variables"_s, u"Points"_s, u"P&oints"_s, u"Condition"_s,
           u"Point"_s}}};

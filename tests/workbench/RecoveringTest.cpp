@@ -121,6 +121,23 @@ private Q_SLOTS:
         QCOMPARE(QDir(workbench.folder.path()).entryList({u"*.recovery*"_s}), QStringList());
     }
 
+    void itsDateIsWrittenAsTheLanguageDoes()
+    {
+        WorkbenchWindow workbench("Fan1 = ON\nENDIF");
+        leaveWork(workbench, u"Fan1 = OFF\r\nENDIF"_s);
+        workbench.speak(QLocale::German);
+        const QString today =
+            QLocale(QLocale::German).toString(QDate::currentDate(), QLocale::ShortFormat);
+        QString said;
+        NextDialog<RecoveryDialog> offer([&said](RecoveryDialog &dialog) {
+            said = dialog.findChild<QLabel *>()->text();
+            dialog.reject();
+        });
+        workbench.window.openForUser(workbench.folder.filePath(u"one.json"_s));
+        QVERIFY(offer.wasThere());
+        QVERIFY2(said.contains(today + u' '), qPrintable(said)); // before midnight
+    }
+
     void whatWasLeftCanBeDiscardedOrWait()
     {
         WorkbenchWindow workbench("Fan1 = ON");

@@ -118,6 +118,21 @@ private Q_SLOTS:
         QVERIFY(saved.contains(R"("input": "Temp1")") && saved.contains(R"("data": "Room")"));
     }
 
+    void theCaretStaysWhereItWas()
+    {
+        Named named;
+        RichTextBox &box = named.box();
+        box.setSelStart(box.lineStart(1) + 10); // the "is" behind a name that becomes shorter
+        box.setSelLength(2);
+        QCOMPARE(box.SelText(), u"is"_s);
+        NextDialog<RenameDialog> dialog([](RenameDialog &asked) { asked.accept(); });
+        named.rename(u"T"_s);
+        QTRY_VERIFY(dialog.wasThere());
+        QTRY_VERIFY(named.code().CodeText().startsWith(u"IF T > 3\r\nREM T is warm"_s));
+        QCOMPARE(box.SelText(), u"is"_s);
+        QCOMPARE(box.SelStart(), box.lineStart(1) + 6);
+    }
+
     void cancellingChangesNothing()
     {
         Named named;

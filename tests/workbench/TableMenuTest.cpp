@@ -2,6 +2,8 @@
 
 #include "WorkbenchTest.h"
 
+#include "project/Project.h"
+#include "project/ProjectDocument.h"
 #include "support/TestProgram.h"
 #include "workbench/renaming/NewPointDialog.h"
 #include "workbench/renaming/PointRenaming.h"
@@ -13,6 +15,7 @@
 
 #include <QtGui/QContextMenuEvent>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -90,9 +93,57 @@ private Q_SLOTS:
         Table table;
         const QMenu *menu = table.menuAt(3);
         QVERIFY(menu);
-        for (const QString &caption : ofAPoint)
-            QVERIFY2(!Table::isPossible(menu, caption), qPrintable(caption));
+        for (const QString &caption : ofAPoint) {
+            if (caption != u"Rename"_s)
+                QVERIFY2(!Table::isPossible(menu, caption), qPrintable(caption));
+        }
         QVERIFY(Table::isPossible(menu, u"Add Point…"_s));
+    }
+
+    void anEmptyRowIsNamedFromTheMenuAsByItsKey()
+    {
+        Table table;
+        QMenu *menu = table.menuAt(2);
+        QVERIFY(Table::isPossible(menu, u"Rename"_s));
+        Table::choose(menu, u"Rename"_s);
+        QVERIFY(table.list().viewport()->findChild<QLineEdit *>()); // RenamingTest types into it
+        QCOMPARE(table.shown().SelectedItem()->Index(), 2);
+    }
+
+    void aKeyRemovesThePoint()
+    {
+        Table table;
+        table.window.findChild<PointRenaming *>()->append(dsInput, u"Unused"_s);
+        table.shown().setSelectedItem(table.shown().ListItems()->Item(2));
+        table.list().setFocus();
+        QTest::keyClick(&table.list(), Qt::Key_Delete, Qt::ControlModifier);
+        QVERIFY(table.shown().ListItems()->Item(2)->SubItem(1).trimmed().isEmpty());
+        QTest::keyClick(&table.list(), Qt::Key_Delete, Qt::ControlModifier);
+        QCOMPARE(table.window.statusBar()->currentMessage(), u"There is no point in this row."_s);
+        const QAction *inMenu = table.command(u"Remove Point"_s);
+        QCOMPARE(inMenu->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Delete));
+    }
+
+    // In the program the key has its own meaning.
+    void theKeyOfATableIsNotThatOfTheProgram()
+    {
+        Table table;
+        table.views().enterProgram(1);
+        table.box().setSelStart(0);
+        table.key(Qt::Key_Delete, Qt::ControlModifier);
+        QVERIFY(!table.box().Text().startsWith(u"Fan1"_s));
+        QCOMPARE(table.window.findChild<ProjectDocument *>()->project()->rows(dsInput).size(), 1);
+    }
+
+    void deleteSaysWhatItIsFor()
+    {
+        Table table;
+        table.shown().setSelectedItem(table.shown().ListItems()->Item(1));
+        table.list().setFocus();
+        QTest::keyClick(&table.list(), Qt::Key_Delete);
+        QCOMPARE(table.window.statusBar()->currentMessage(),
+                 u"Del empties cells while Edit Cells is on; Ctrl+Del removes the point."_s);
+        QCOMPARE(table.shown().ListItems()->Item(1)->SubItem(1), u"Temp1"_s);
     }
 
     void keysDoNotClashWithThoseOfTheGrid()

@@ -1,5 +1,6 @@
 #include "project/analysis/ProgramWords.h"
 
+#include "base/TextRules.h"
 #include "editor/rules/language/PopupWords.h"
 #include "editor/rules/language/Vocabulary.h"
 
@@ -74,6 +75,24 @@ bool ProgramWords::isSame(const ProgramWords &other) const
             return false;
     }
     return true;
+}
+
+QSet<QString> ProgramWords::differences(const ProgramWords &other) const
+{
+    QSet<QString> words;
+    addOthers(other, words);
+    other.addOthers(*this, words);
+    return words;
+}
+
+void ProgramWords::addOthers(const ProgramWords &other, QSet<QString> &words) const
+{
+    for (qsizetype i = 0; i < m_index.count(); ++i) {
+        const QString &word = m_index.at(i).text;
+        const qsizetype there = other.find(word);
+        if (there < 0 || m_index.at(find(word)).data != other.m_index.at(there).data)
+            words.insert(foldedCase(word));
+    }
 }
 
 } // namespace ORVTListview

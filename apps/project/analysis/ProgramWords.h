@@ -3,6 +3,7 @@
 #include "editor/rules/language/WordClass.h"
 #include "editor/rules/language/WordIndex.h"
 
+#include <QtCore/QSet>
 #include <QtCore/QStringView>
 
 #include <vector>
@@ -57,7 +58,12 @@ public:
     // Whether they are the same words with the same meaning and spelling.
     bool isSame(const ProgramWords &other) const;
 
+    // The words that only one of them knows, or that have another colour, in folded case.
+    QSet<QString> differences(const ProgramWords &other) const;
+
 private:
+    void addOthers(const ProgramWords &other, QSet<QString> &words) const;
+
     WordIndex m_index;
     std::vector<Word> m_words; // beside its entries
 };

@@ -1,5 +1,7 @@
 #include "workbench/help/FirstSteps.h"
 
+#include "workbench/KeyText.h"
+
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QPushButton>
 
@@ -40,7 +42,8 @@ void FirstSteps::retranslate()
             tr("A project is a file in JSON with its program beside it."));
     setStep(m_keys, tr("Keys"),
             tr("Everything can be done by keyboard. F1 lists all keys, F6 checks "
-               "the program, F5 reads the values, Ctrl+Space lists known words."));
+               "the program, F5 reads the values, %1 lists known words.")
+                .arg(keyText(Qt::CTRL | Qt::Key_Space)));
     setStep(m_close, tr("Begin"), tr("This page comes back by Help, First Steps."));
 }
 

@@ -15,6 +15,7 @@
 #include <ORVTListview/ReportList.h>
 
 #include <QtCore/QPointer>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QStatusBar>
@@ -44,6 +45,8 @@ ControllerPart::ControllerPart(ProjectDocument &document, QMainWindow &window)
     connect(m_status, &ReadingStatus::succeeded, this,
             [this] { tell(tr("The values have been read."), 3000); });
     connect(m_dock, &TrendDock::cyclicWanted, this, &ControllerPart::setCyclic);
+    connect(m_trend, &Trend::linesChanged, this, &ControllerPart::followTrend);
+    connect(&document, &ProjectDocument::projectReplaced, this, &ControllerPart::hideEmptyTrend);
 }
 
 // The window is going: nobody is told any more what becomes of a question.
@@ -157,6 +160,43 @@ void ControllerPart::showTrend()
     const int height = m_window.fontMetrics().height() * 20;
     if (wasHidden && m_dock->height() < height && !m_dock->isFloating())
         m_window.resizeDocks({m_dock}, {height}, Qt::Vertical);
+}
+
+// Whoever has opened an empty one reads there what to do.
+void ControllerPart::followTrend()
+{
+    const bool drew = std::exchange(m_draws, !m_trend->lines().isEmpty());
+    if (drew && !m_draws)
+        hideEmptyTrend();
+}
+
+void ControllerPart::hideEmptyTrend()
+{
+    if (m_dock->isHidden() || !m_trend->lines().isEmpty())
+        return;
+    const QWidget *focus = QApplication::focusWidget();
+    const bool hadFocus = focus && m_dock->isAncestorOf(focus);
+    m_dock->hide();
+    QWidget *former = m_window.centralWidget() ? m_window.centralWidget()->focusWidget() : nullptr;
+    if (hadFocus && former)
+        former->setFocus();
+}
+
+ControllerPart::KeptTrend ControllerPart::trend() const
+{
+    KeptTrend kept{{}, !m_dock->isHidden()};
+    for (const TrendLine &line : m_trend->lines())
+        kept.points.append(line.point);
+    return kept;
+}
+
+// As large as it was left.
+void ControllerPart::drawAgain(const KeptTrend &kept)
+{
+    for (const AskedPoint &point : kept.points)
+        m_trend->add(point);
+    if (kept.isShown && !m_trend->lines().isEmpty())
+        m_dock->show();
 }
 
 void ControllerPart::tell(const QString &text, int milliseconds)

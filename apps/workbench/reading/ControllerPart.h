@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/controller/Controller.h"
 #include "workbench/reading/ReadingSettings.h"
 
 #include <QtCore/QList>
@@ -40,6 +41,19 @@ public:
     // Draws the points of a table, the first ones of many.
     void drawAll(LwType type);
 
+    // What is drawn, and whether it is seen; for the next time that the project is opened. Points
+    // that there are not are passed over.
+    struct KeptTrend
+    {
+        QList<AskedPoint> points;
+        bool isShown = false;
+    };
+    KeptTrend trend() const;
+    void drawAgain(const KeptTrend &kept);
+
+    // A trend of nothing takes no room.
+    void hideEmptyTrend();
+
     void setSettings(const ReadingSettings &settings);
 
     // After a change of language.
@@ -55,6 +69,7 @@ private:
     void draw();
     void drawRows(LwType type, const QList<qsizetype> &rows);
     void showTrend();
+    void followTrend();
     void tell(const QString &text, int milliseconds);
 
     ProjectDocument &m_document;
@@ -66,6 +81,7 @@ private:
     TrendDock *m_dock;
     ReadingSettings m_settings;
     QList<QPointer<PointTables>> m_tables;
+    bool m_draws = false; // any line
 };
 
 } // namespace ORVTListview

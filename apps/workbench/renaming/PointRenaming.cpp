@@ -15,6 +15,7 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QSet>
+#include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 #include <limits>
@@ -36,6 +37,35 @@ std::optional<QList<PointUse>> chosenOf(const RenameDialog::Renamed &renamed, QW
         chosen = dialog->chosen();
     delete dialog;
     return chosen;
+}
+
+// Where a place of the text is once the pieces are another text.
+qint32 movedPlace(qint32 place, const QList<TextPiece> &pieces, qint32 length)
+{
+    qint32 moved = place;
+    for (const TextPiece &piece : pieces) {
+        if (piece.end() <= place)
+            moved += length - piece.length;
+        else if (piece.start < place)
+            moved += std::min(place - piece.start, length) - (place - piece.start);
+    }
+    return moved;
+}
+
+// The user stays where he is: caret, selection and what is in sight.
+void replaceInSight(RichTextBox &box, const QList<TextPiece> &pieces, const QString &name)
+{
+    const auto length = static_cast<qint32>(name.size());
+    const qint32 start = movedPlace(box.SelStart(), pieces, length);
+    const qint32 end = movedPlace(box.SelStart() + box.SelLength(), pieces, length);
+    const int top = box.verticalScrollBar()->value();
+    const int left = box.horizontalScrollBar()->value();
+    box.commands().replace(pieces, name);
+    box.setSelStart(start);
+    box.setSelLength(end - start);
+    box.verticalScrollBar()->setValue(top);
+    box.horizontalScrollBar()->setValue(left);
+    box.commands().keepState();
 }
 
 // With the first number behind it that no other point has; the names are looked through once.
@@ -97,11 +127,8 @@ void PointRenaming::rename(LwType type, qsizetype row, const QString &name)
     for (auto pieces = renaming.pieces.cbegin(); pieces != renaming.pieces.cend(); ++pieces)
         after.texts[pieces.key()] = withPieces(programs.value(pieces.key()), *pieces, name);
     m_document.carryOut({renaming.rows, {project.programs(), programs}, after});
-    for (auto pieces = renaming.pieces.cbegin(); pieces != renaming.pieces.cend(); ++pieces) {
-        BoxCommands &commands = m_programs.view(pieces.key()).RTextBox()->commands();
-        commands.replace(*pieces, name);
-        commands.keepState();
-    }
+    for (auto pieces = renaming.pieces.cbegin(); pieces != renaming.pieces.cend(); ++pieces)
+        replaceInSight(*m_programs.view(pieces.key()).RTextBox(), *pieces, name);
     m_document.noteStepShown();
 }
 

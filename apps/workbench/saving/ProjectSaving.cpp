@@ -59,7 +59,9 @@ bool ProjectSaving::carryOut(const Attempt &attempt)
     Q_EMIT settled();
     if (isElsewhere)
         Q_EMIT movedElsewhere();
-    if (!saved.notKept.isEmpty())
+    if (saved.notKept.isEmpty())
+        Q_EMIT told(tr("Saved."));
+    else
         Q_EMIT told(tr("Saved, but the version before cannot be kept: %1").arg(saved.notKept));
     return true;
 }

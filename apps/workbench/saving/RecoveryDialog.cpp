@@ -58,12 +58,13 @@ void comparePrograms(ComparisonView &view, const Project &project, const Recover
 
 } // namespace
 
-RecoveryDialog::RecoveryDialog(const Project &project, const RecoveredWork &work, QWidget *parent)
+RecoveryDialog::RecoveryDialog(const Project &project, const RecoveredWork &work,
+                               const QLocale &locale, QWidget *parent)
     : QDialog(parent)
 {
     setWindowTitle(tr("Recover Unsaved Work"));
     auto *layout = new QVBoxLayout(this);
-    const QString when = work.when.toLocalTime().toString(u"yyyy-MM-dd HH:mm"_s);
+    const QString when = locale.toString(work.when.toLocalTime(), QLocale::ShortFormat);
     auto *label = new QLabel(tr("The workbench ended without saving this work of %1. What differs "
                                 "from the files is shown below.")
                                  .arg(when));

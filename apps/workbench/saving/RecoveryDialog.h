@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QLocale>
 #include <QtWidgets/QDialog>
 
 namespace ORVTListview {
@@ -16,7 +17,9 @@ class RecoveryDialog : public QDialog
 public:
     enum class Answer { Later, Restore, Discard };
 
-    RecoveryDialog(const Project &project, const RecoveredWork &work, QWidget *parent);
+    // The date of the work is written as the locale does.
+    RecoveryDialog(const Project &project, const RecoveredWork &work, const QLocale &locale,
+                   QWidget *parent);
 
     Answer answer() const { return m_answer; }
 

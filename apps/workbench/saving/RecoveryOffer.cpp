@@ -25,18 +25,18 @@ RecoveryOffer::RecoveryOffer(ProjectDocument &document, RecoveryKeeper &keeper,
 {
 }
 
-void RecoveryOffer::makeAll()
+void RecoveryOffer::makeAll(const QLocale &locale)
 {
     const QPointer<RecoveryOffer> self(this); // while a dialog is open
     while (self && !m_isAsking && m_document.project() && m_keeper.hasLeft()) {
-        if (!make())
+        if (!make(locale))
             return;
     }
 }
 
 // False when something was restored, or the window is gone: the next work that was left
 // would take the place of what is in the editor now, so it waits for the next opening.
-bool RecoveryOffer::make()
+bool RecoveryOffer::make(const QLocale &locale)
 {
     m_isAsking = true;
     const QPointer<RecoveryOffer> self(this);
@@ -52,7 +52,7 @@ bool RecoveryOffer::make()
         return true;
     }
     const QPointer<RecoveryDialog> dialog(
-        new RecoveryDialog(*m_document.project(), *left->work, &m_window));
+        new RecoveryDialog(*m_document.project(), *left->work, locale, &m_window));
     dialog->exec();
     if (!self || !dialog)
         return false;

@@ -21,10 +21,11 @@ public:
     RecoveryOffer(ProjectDocument &document, RecoveryKeeper &keeper, const ProgramViews &programs,
                   QWidget &window);
 
-    void makeAll();
+    // Dates are written as the locale does.
+    void makeAll(const QLocale &locale);
 
 private:
-    bool make();
+    bool make(const QLocale &locale);
     void restorePrograms(const QStringList &texts);
     bool restore(const RecoveryKeeper::Left &left);
     void tellUnreadable(const QString &fileName);

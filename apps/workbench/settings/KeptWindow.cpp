@@ -1,6 +1,7 @@
 #include "workbench/settings/KeptWindow.h"
 
 #include "workbench/ProjectView.h"
+#include "workbench/reading/ControllerPart.h"
 #include "workbench/views/TableViews.h"
 #include "workbench/views/Workplace.h"
 
@@ -51,7 +52,7 @@ QVariant valueOf(const QMetaProperty &property, const QVariant &stored)
 void readViews(const QSettings &store, const ProjectView &view)
 {
     view.tables().open(store.value(tables).toStringList());
-    view.workplace().restoreState(store.value(views).toByteArray());
+    view.workplace().arrange(store.value(views).toByteArray());
 }
 
 void writeViews(QSettings &store, const ProjectView &view)
@@ -66,6 +67,8 @@ void readWindow(const QSettings &store, QMainWindow &window, CodeView &view)
 {
     window.restoreGeometry(store.value(geometry).toByteArray());
     window.restoreState(store.value(arrangement).toByteArray());
+    if (auto *controller = window.findChild<ControllerPart *>())
+        controller->hideEmptyTrend(); // it comes with the project
     if (auto *splitter = window.centralWidget()->findChild<QSplitter *>())
         splitter->restoreState(store.value(division).toByteArray());
     if (const auto *project = window.findChild<ProjectView *>())

@@ -3,6 +3,7 @@
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "project/controller/PointReading.h"
+#include "project/controller/PointRows.h"
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
 
@@ -112,6 +113,11 @@ bool Trend::add(LwType type, qsizetype row)
     m_lines.append(line);
     Q_EMIT linesChanged();
     return true;
+}
+
+bool Trend::add(const AskedPoint &point)
+{
+    return m_document.project() && add(point.type, PointRows(*m_document.project()).rowOf(point));
 }
 
 void Trend::remove(qsizetype line)

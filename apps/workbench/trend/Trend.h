@@ -66,6 +66,7 @@ public:
     // Begins with the next reading. False when the point is there already, has no value, or
     // there is no more room.
     bool add(LwType type, qsizetype row);
+    bool add(const AskedPoint &point);
     void remove(qsizetype line);
     void removeAll();
 

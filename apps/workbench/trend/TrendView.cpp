@@ -1,5 +1,6 @@
 #include "workbench/trend/TrendView.h"
 
+#include "project/ProjectTexts.h"
 #include "workbench/trend/Trend.h"
 #include "workbench/trend/TrendPainter.h"
 
@@ -120,7 +121,7 @@ QStringList TrendView::readOut() const
     for (const TrendLine &line : m_trend.lines()) {
         const TrendSample *sample = line.at(*m_cursor);
         const QString value = sample ? line.textOf(sample->value, locale()) : QString();
-        texts.append(line.name + u": "_s + (value.isEmpty() ? u"–"_s : value));
+        texts.append(ProjectTexts::about(line.name, value.isEmpty() ? u"–"_s : value));
     }
     return texts;
 }

@@ -3,6 +3,7 @@
 #include "project/ProjectColumns.h"
 #include "project/controller/PointReading.h"
 #include "workbench/FreeKeys.h"
+#include "workbench/KeyText.h"
 #include "workbench/PointTables.h"
 #include "workbench/PointsMenu.h"
 #include "workbench/ProgramNavigation.h"
@@ -14,6 +15,7 @@
 #include <ORVTListview/ReportList.h>
 
 #include <QtGui/QAction>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QMenu>
 
@@ -48,7 +50,36 @@ TableMenu::TableMenu(const Acts &acts, QObject *parent)
             [this](const ORVListView &list, PointTables &table) {
                 connect(list.listView()->grid(), &ListGrid::menuOpening, this,
                         [this, &table](QMenu *menu) { fill(*menu, table); });
+                takeKeys(*list.listView(), table);
             });
+}
+
+void TableMenu::takeKeys(ReportList &list, const PointTables &table)
+{
+    auto *remove = new QAction(&list);
+    remove->setShortcut(PointsMenu::removeKey);
+    remove->setShortcutContext(Qt::WidgetShortcut);
+    remove->setAutoRepeat(false); // a key that is held would take away one after the other
+    list.addAction(remove);
+    connect(remove, &QAction::triggered, &table, [this, &table] {
+        if (table.selectedPoint() >= 0)
+            m_acts.renaming.remove(table.type(), table.selectedPoint());
+        else
+            Q_EMIT told(tr("There is no point in this row."));
+    });
+    list.installEventFilter(this);
+}
+
+// Delete is the grid's, for cells that are edited.
+bool TableMenu::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && !m_acts.view.tables().editsCells()) {
+        const auto &key = static_cast<const QKeyEvent &>(*event);
+        if (key.key() == Qt::Key_Delete && key.modifiers() == Qt::NoModifier)
+            Q_EMIT told(tr("%1 empties cells while Edit Cells is on; %2 removes the point.")
+                            .arg(keyText(Qt::Key_Delete), keyText(PointsMenu::removeKey)));
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void TableMenu::fill(QMenu &menu, PointTables &table)
@@ -69,13 +100,13 @@ void TableMenu::addPoint(QMenu &menu, PointTables &table, bool isPoint)
     const LwType type = table.type();
     const qsizetype row = table.selectedPoint();
     PointRenaming &renaming = m_acts.renaming;
-    add(menu, {PointsMenu::tr("Re&name"), Qt::Key_F2, isPoint && nameColumn(type) >= 0}, &table,
+    add(menu, {PointsMenu::tr("Re&name"), Qt::Key_F2, table.canName()}, &table,
         [&table] { table.editName(); });
     add(menu, {PointsMenu::tr("&Add Point…"), {}}, &renaming,
         [&renaming, type] { renaming.add(type); });
     add(menu, {PointsMenu::tr("&Duplicate Point…"), {}, isPoint}, &renaming,
         [&renaming, type, row] { renaming.duplicate(type, row); });
-    add(menu, {PointsMenu::tr("Re&move Point"), {}, isPoint}, &renaming,
+    add(menu, {PointsMenu::tr("Re&move Point"), PointsMenu::removeKey, isPoint}, &renaming,
         [&renaming, type, row] { renaming.remove(type, row); });
 }
 

@@ -76,6 +76,7 @@ void ViewTabs::dress(Workplace &workplace)
 {
     for (QTabBar *tabs : tabBars(workplace)) {
         tabs->setAccessibleName(Texts::tr("Open views"));
+        tabs->setElideMode(Qt::ElideNone); // those that have no room are scrolled to
         if (!tabs->tabsClosable()) {
             tabs->setTabsClosable(true);
             connectTabs(workplace, *tabs);

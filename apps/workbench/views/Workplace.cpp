@@ -46,6 +46,12 @@ Workplace::~Workplace()
         dock->disconnect(this);
 }
 
+void Workplace::arrange(const QByteArray &state)
+{
+    if (restoreState(state) && !isVisible())
+        m_arrangement = state;
+}
+
 ViewDock *Workplace::dockOf(const QWidget *widget) const
 {
     const auto found = std::find_if(m_docks.cbegin(), m_docks.cend(), [widget](ViewDock *dock) {
@@ -237,6 +243,8 @@ void Workplace::retranslate()
 // Not first in one dress and then in another.
 void Workplace::showEvent(QShowEvent *event)
 {
+    if (!m_arrangement.isEmpty())
+        restoreState(std::exchange(m_arrangement, {}));
     dress();
     QMainWindow::showEvent(event);
 }

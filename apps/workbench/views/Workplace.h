@@ -19,6 +19,10 @@ public:
     explicit Workplace(QWidget *parent);
     ~Workplace() override;
 
+    // As saveState() had it. Before it is shown it has not the room for it, so the parts of it
+    // come to be as large as they were once it is.
+    void arrange(const QByteArray &state);
+
     // Belongs here from now on, hidden at first. Where it comes to stand: as a tab of the
     // other one, or for null beside all.
     void add(ViewDock &dock, ViewDock *other);
@@ -79,6 +83,7 @@ private:
     QList<ViewDock *> m_docks;
     QList<ViewDock *> m_used; // the current one first
     QTimer m_settled;
+    QByteArray m_arrangement; // to be restored once it is shown
 };
 
 } // namespace ORVTListview

@@ -134,6 +134,12 @@ public:
     // Puts the caret to the next marked line, going round at the end. False without one.
     Q_INVOKABLE bool nextBookmark();
 
+    // The marked lines, counted from 1, from the top; for a host that keeps them with the
+    // program. Setting takes the place of all former marks; lines outside the program are
+    // passed over.
+    Q_INVOKABLE QList<qint32> bookmarks() const;
+    Q_INVOKABLE void setBookmarks(const QList<qint32> &lines);
+
     // Whether the lines between an IF and its ENDIF can be hidden, by a click on the sign
     // in the margin. They stay in the text, for finding, undo and RTF. The caret passes
     // over them; a fold opens when the caret is put into it, when its text changes, and

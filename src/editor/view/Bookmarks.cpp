@@ -5,8 +5,10 @@
 #include "widgets/box/KeptView.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtCore/QSet>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
 
 namespace ORVTListview {
 
@@ -21,6 +23,28 @@ void Bookmarks::toggle()
     QList<Numbered> marked = lines();
     if (marked.removeIf([&](const Numbered &each) { return each.line == line; }) == 0)
         marked.append({line});
+    setLines(marked);
+    Q_EMIT changed();
+}
+
+QList<qint32> Bookmarks::list() const
+{
+    QList<qint32> list;
+    for (const Numbered &each : lines())
+        list.append(each.line.blockNumber() + 1);
+    return list;
+}
+
+void Bookmarks::set(const QList<qint32> &lines)
+{
+    QSet<qint32> known;
+    QList<Numbered> marked;
+    for (const qint32 line : lines) {
+        const QTextBlock block = box().document()->findBlockByNumber(line - 1);
+        if (block.isValid() && !known.contains(line))
+            marked.append({block});
+        known.insert(line);
+    }
     setLines(marked);
     Q_EMIT changed();
 }

@@ -20,6 +20,11 @@ public:
     // To the next marked line below that of the caret, going round.
     bool goToNext();
 
+    // By their lines, which count from 1, from the top. Lines that the text has not are passed
+    // over.
+    QList<qint32> list() const;
+    void set(const QList<qint32> &lines);
+
     QList<LineMark> marks() const;
     static QColor colourOn(const QColor &ground);
 };

@@ -21,6 +21,8 @@
 namespace ORVTListview {
 namespace {
 
+constexpr int roomOfPairs = 6; // of a cell, at the text: what belongs together is marked there
+
 // Both ends are lines that are hidden, with none between them that is not.
 QTextBlock firstHidden(QTextBlock line)
 {
@@ -267,7 +269,9 @@ void Folds::paint(QPainter &painter, const ShownLine &line, const QRect &cell)
     const QColor quiet = ViewColours::quietText(ViewColours::textOf(m_box), ground);
     const qreal half = std::min(cell.width(), cell.height()) / 4.0;
     const qreal towards = m_box.isRightToLeft() ? -1 : 1;
-    const QPointF middle = QRectF(cell).center();
+    const qreal beside = std::min(cell.width() / 2.0, cell.width() - roomOfPairs - half);
+    const QPointF middle(m_box.isRightToLeft() ? cell.right() + 1 - beside : cell.left() + beside,
+                         QRectF(cell).center().y());
     const QPointF arrow[] = {
         middle + (folded ? QPointF(-half / 2 * towards, -half) : QPointF(-half, -half / 2)),
         middle + (folded ? QPointF(half / 2 * towards, 0) : QPointF(0, half / 2)),

@@ -28,7 +28,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype mostLetters = 400; // of a line's values; no window is wider
-constexpr int fewestLetters = 4;       // an ellipsis alone tells nothing
+constexpr auto gapOfValues = "   "_L1;
+constexpr int fewestLetters = 4; // an ellipsis alone tells nothing
+
+// What is cut in the midst of a name or of its value loses the value: as many as fit are shown
+// whole. The first one is cut where there is room for its name and something of its value.
+QString cutBehindValue(const QString &text, const QString &cut, const QFontMetricsF &metrics,
+                       qreal room)
+{
+    const QString ellipsis = QString(gapOfValues) + u'…';
+    qsizetype end = text.lastIndexOf(gapOfValues, std::max<qsizetype>(cut.size() - 1, 0));
+    while (end > 0 && metrics.horizontalAdvance(text.left(end) + ellipsis) > room)
+        end = text.lastIndexOf(gapOfValues, end - 1);
+    if (end > 0)
+        return text.left(end) + ellipsis;
+    return cut.size() - 2 >= text.indexOf(u' ') + fewestLetters ? cut : QString();
+}
 
 // As the font's metrics do it, but of so many letters only as may be seen: to lay out all
 // the values of a line takes long.
@@ -37,7 +52,8 @@ QString cutToFit(const QString &text, const QFontMetricsF &metrics, qreal room)
     auto letters = static_cast<qsizetype>(room / metrics.averageCharWidth()) + 2;
     while (letters < text.size() && metrics.horizontalAdvance(text.left(letters)) <= room)
         letters *= 2;
-    return metrics.elidedText(text.left(letters), Qt::ElideRight, room);
+    const QString cut = metrics.elidedText(text.left(letters), Qt::ElideRight, room);
+    return cutBehindValue(text, cut, metrics, room);
 }
 
 LiveValues::Values byFoldedName(const LiveValues::Values &given)
@@ -143,8 +159,8 @@ QString LiveValues::textOn(const QTextBlock &line) const
         if (value == m_values.cend() || told.contains(folded))
             continue;
         told.insert(folded);
-        values += (values.isEmpty() ? QString() : u"   "_s) + inOwnDirection(name, direction) +
-                  u' ' + inOwnDirection(*value, direction);
+        values += (values.isEmpty() ? QString() : QString(gapOfValues)) +
+                  inOwnDirection(name, direction) + u' ' + inOwnDirection(*value, direction);
         if (values.size() > mostLetters)
             break;
     }

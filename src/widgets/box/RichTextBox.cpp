@@ -79,6 +79,14 @@ QString putParts(const RichTextBox::NextPart &next, bool isLate, QTextDocument &
     return whole;
 }
 
+// Without the document's margin, which the toolkit adds to its last line.
+QRectF rowOf(const QTextBlock &block, QRectF place)
+{
+    if (block.isValid() && !block.next().isValid())
+        place.setHeight(place.height() - block.document()->documentMargin());
+    return place;
+}
+
 } // namespace
 
 RichTextBox::RichTextBox(QWidget *parent)
@@ -96,9 +104,10 @@ RichTextBox::RichTextBox(QWidget *parent)
         *this, *viewport(),
         {[this] {
              const QTextBlock first = firstVisibleBlock();
-             return ShownLine{first, blockBoundingGeometry(first).translated(contentOffset()), {}};
+             const QRectF place = blockBoundingGeometry(first).translated(contentOffset());
+             return ShownLine{first, rowOf(first, place), {}};
          },
-         [this](const QTextBlock &block) { return blockBoundingRect(block); },
+         [this](const QTextBlock &block) { return rowOf(block, blockBoundingRect(block)); },
          [this](const QTextBlock &block) {
              const auto *lines = qobject_cast<BoxLayout *>(document()->documentLayout());
              return lines ? lines->reachBeyond(block) : 1;

@@ -243,6 +243,21 @@ private Q_SLOTS:
         QVERIFY(picture() != cut);
     }
 
+    void aValueThatDoesNotFitBehindAnotherOneIsLeftOut()
+    {
+        const auto with = [this](const QString &second) {
+            show({{u"temp1"_s, u"1"_s}, {u"fan1"_s, second}});
+            return picture();
+        };
+        const QImage both = with(u"2"_s);
+        const QImage cut = with(QString(200, u'm'));
+        QVERIFY(cut != both);
+        QCOMPARE(with(QString(200, u'n')), cut); // nothing of it is shown
+        const int end = painted(2, cut).second;
+        show({{u"temp1"_s, u"1"_s}});
+        QVERIFY(end > painted(2, picture()).second); // but that there is one
+    }
+
     void aLineThatFillsTheWindowHasNone()
     {
         m_host->list->setCodeText(QString(u"temp1 = "_s + QString(400, u'x')));

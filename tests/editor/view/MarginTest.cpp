@@ -4,6 +4,7 @@
 #include "editor/view/ViewFixture.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
+#include "widgets/box/BoxLayers.h"
 #include "widgets/look/Luminance.h"
 
 #include <QtGui/QAccessible>
@@ -52,6 +53,18 @@ private:
     }
 
 private Q_SLOTS:
+    // The toolkit adds the margin of the document to it.
+    void theLastLineIsAsHighAsTheOthers()
+    {
+        view().setCurrentLineShown(true);
+        const ShownLines lines = BoxLayers::of(box()).shownLines();
+        QCOMPARE(lines.size(), 4);
+        QCOMPARE(lines.constLast().place.height(), lines.at(1).place.height());
+        m_host->list->setCodeText(u"one"_s);
+        QCOMPARE(BoxLayers::of(box()).shownLines().constFirst().place.height(),
+                 lines.at(1).place.height());
+    }
+
     void init() override
     {
         WidgetTest::init();

@@ -159,6 +159,31 @@ private Q_SLOTS:
         QVERIFY(!isDrawn(4));
     }
 
+    void theBlockLeavesTheSignForFoldingFree()
+    {
+        for (const int percent : {60, 100, 200}) {
+            view().setZoom(percent);
+            view().setFoldingEnabled(true);
+            m_host->setText(u"|IF a\r\ny\r\nENDIF\r\nz"_s);
+            view().setPairsShown(false);
+            const QImage sign = m_host->picture(m_host->margin());
+            view().setPairsShown(true);
+            const QImage both = m_host->picture(m_host->margin());
+            const QRect place = m_host->placeOf(0);
+            int seen = 0;
+            for (int y = place.top(); y <= place.bottom(); ++y) {
+                for (int x = 0; x < sign.width() - 1; ++x) { // beside the edge
+                    if (sign.pixel(x, y) == m_host->ground().rgb())
+                        continue;
+                    ++seen;
+                    QCOMPARE(both.pixel(x, y), sign.pixel(x, y));
+                }
+            }
+            QVERIFY(seen > 4);
+            QVERIFY(both != sign);
+        }
+    }
+
     void otherUsesAreMarkedOnceTheCaretRests()
     {
         m_host->setText(u"Te|mp1 = 1\r\nx = temp1 + Temp12\r\nREM Temp1\r\n(TEMP1)"_s);

@@ -384,6 +384,18 @@ private Q_SLOTS:
         QCOMPARE(caret(), u"2:0"_s);
     }
 
+    void aHostKeepsBookmarks()
+    {
+        view().setBookmarks({3, 1, 1, 0, 99, -2, 2147483647});
+        QCOMPARE(view().bookmarks(), QList<qint32>({1, 3}));
+        caretTo(2);
+        view().toggleBookmark();
+        QCOMPARE(view().bookmarks(), QList<qint32>({1, 2, 3}));
+        view().setBookmarks({});
+        QVERIFY(!view().nextBookmark());
+        QVERIFY(!m_host->margin().isVisible());
+    }
+
     void aBookmarkGoesWithItsLine()
     {
         caretTo(2);

@@ -9,7 +9,7 @@ namespace ORVTListview {
 ORVT_HOUSE_EXPORT CodeWordList &threadWordList();
 
 // The colouring that this thread's vocabulary and messages give.
-ColourEngine threadColouring();
+ORVT_HOUSE_EXPORT ColourEngine threadColouring();
 
 // Fills the thread's word index from its vocabulary. Raises Error and changes nothing
 // when a collection of the host fails.
