@@ -124,7 +124,7 @@ def table_edits_and_typing_share_a_history(day):
     day.cell(table, "Exhaust")
     day.bench.keys("ctrl+2", "ctrl+z")
     day.cell(day.window.wait_for("table", "Inputs"), "ReturnTemp")
-    day.bench.keys("ctrl+2", "ctrl+z", "ctrl+z")
+    day.bench.keys("ctrl+2", "ctrl+z", "ctrl+z", "ctrl+z")
     day.expect_code(PROGRAM)
 
 
