@@ -323,29 +323,6 @@ private Q_SLOTS:
         QVERIFY(programs.dock(2).y() >= programs.dock(1).geometry().bottom());
     }
 
-    // What a bar without tabs draws is a line beside those that there are.
-    void noBarWithoutTabsStaysBehind()
-    {
-        Views views;
-        views.views().enterType(dsVariable);
-        views.views().enterType(dsInput);
-        for (const QString &way : {u"Show Beside"_s, u"Show Below"_s, u"All In Tabs"_s}) {
-            views.choose(way);
-            QTest::qWait(100);
-        }
-        int shown = 0;
-        for (const QTabBar *tabs : views.place().findChildren<QTabBar *>()) {
-            shown += tabs->isVisible() ? 1 : 0;
-            QVERIFY(!tabs->isVisible() || tabs->count() == 3);
-        }
-        QCOMPARE(shown, 1);
-        views.choose(u"Show Beside"_s);
-        views.views().enterType(dsOutput);
-        QTest::qWait(100);
-        for (const QTabBar *tabs : views.place().findChildren<QTabBar *>())
-            QCOMPARE(tabs->isVisible(), tabs->count() > 1);
-    }
-
     void viewsAreAsWideTheNextTime()
     {
         QTemporaryDir folder;

@@ -63,7 +63,7 @@ public:
 
     static QString spaced(const QString &program)
     {
-        return QString(program).remove(u' ').replace(u'=', u" = "_s);
+        return QString(program).remove(u' ').replace(u'=', QStringLiteral(" = "));
     }
 
     UndoStore &ring;
