@@ -43,6 +43,19 @@ void WindowStatus::takeBack()
     m_bar.clearMessage();
 }
 
+void WindowStatus::tellOfStep(const QString &text)
+{
+    m_step = text;
+    tell(text);
+}
+
+void WindowStatus::takeBackStep()
+{
+    if (!m_step.isEmpty() && m_bar.currentMessage() == m_step)
+        m_bar.clearMessage();
+    m_step.clear();
+}
+
 bool WindowStatus::isTelling() const
 {
     return !m_bar.currentMessage().isEmpty();

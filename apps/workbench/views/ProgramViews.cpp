@@ -74,7 +74,7 @@ void ProgramViews::setList(const ProgramList &list)
     for (const auto &[program, dock] : m_docks) {
         const auto isIt = [id = program](const ProjectProgram &each) { return each.id == id; };
         if (std::ranges::none_of(m_list, isIt))
-            dock->hide();
+            m_workplace.leaveOut(*dock);
     }
 }
 
