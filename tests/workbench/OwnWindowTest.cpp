@@ -15,9 +15,12 @@
 #include <ORVTListview/ListItem.h>
 #include <ORVTListview/ListItems.h>
 #include <ORVTListview/ORVListView.h>
+#include <ORVTListview/ORVTreeview.h>
 #include <ORVTListview/ReportList.h>
 
+#include <QtCore/QMimeData>
 #include <QtCore/QSettings>
+#include <QtGui/QDropEvent>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -107,6 +110,54 @@ private Q_SLOTS:
         QVERIFY(inputs.isFloating());
         QTRY_VERIFY(inputs.isVisible());
         QCOMPARE(inputs.size(), place.size());
+    }
+
+    void nothingIsTakenOutOfAPageThatIsNotShown()
+    {
+        WorkbenchWindow work("Fan1 = Temp1");
+        work.choose(u"Close Project"_s);
+        work.choose(u"Own Window"_s);
+        const auto *program = work.window.findChild<ViewDock *>(u"ProgramDock"_s);
+        QVERIFY(!program->isFloating());
+        QVERIFY(!program->isVisible());
+    }
+
+    // What the toolkit calls them has none.
+    void everyAnswerAtQuittingHasAKeyOfItsOwn()
+    {
+        WorkbenchWindow work("Fan1 = Temp1");
+        work.type(u"x "_s);
+        QStringList keys;
+        NextDialog<QMessageBox> question([&keys](QMessageBox &box) {
+            for (const QAbstractButton *button : box.buttons())
+                keys.append(button->shortcut().toString());
+            QTest::keyClick(&box, Qt::Key_C, Qt::AltModifier);
+        });
+        work.choose(u"Quit"_s);
+        QVERIFY(question.wasThere());
+        QCOMPARE(keys.size(), 3);
+        QVERIFY(!keys.contains(QString()));
+        QCOMPARE(keys.removeDuplicates(), 0);
+        QVERIFY(work.window.isVisible()); // cancelled
+    }
+
+    void whoDropsANameGoesOnInTheProgram()
+    {
+        WorkbenchWindow work("Fan1 = ");
+        work.views().tree().setFocus();
+        QVERIFY(!work.box().hasFocus());
+        QMimeData name;
+        name.setText(u"Temp1"_s);
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &name, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(work.box().viewport(), &drop);
+        QTRY_VERIFY(work.box().hasFocus());
+        QVERIFY(work.code().CodeText().contains(u"Temp1"_s));
+        work.views().tree().setFocus();
+        work.box().setReadOnly(true);
+        QDropEvent refused(QPointF(5, 5), Qt::CopyAction, &name, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(work.box().viewport(), &refused);
+        QCoreApplication::processEvents();
+        QVERIFY(!work.box().hasFocus());
     }
 
     void whoStaysHasItStill()

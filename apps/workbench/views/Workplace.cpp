@@ -175,7 +175,7 @@ void Workplace::splitCurrent(Qt::Orientation orientation)
 void Workplace::floatCurrent()
 {
     ViewDock *dock = current();
-    if (!dock)
+    if (!dock || m_isAside)
         return;
     const QWidget *focus = QApplication::focusWidget();
     const bool hadFocus = focus && dock->isAncestorOf(focus);
@@ -231,6 +231,7 @@ void Workplace::gather()
 
 void Workplace::putAside(bool isAside)
 {
+    m_isAside = isAside;
     if (isAside) {
         for (ViewDock *dock : shown()) {
             if (dock->isFloating() && !m_aside.contains(dock))

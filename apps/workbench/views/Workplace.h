@@ -91,6 +91,7 @@ private:
     QList<ViewDock *> m_docks;
     QList<ViewDock *> m_used; // the current one first
     QList<QPointer<ViewDock>> m_aside;
+    bool m_isAside = false;
     QTimer m_settled;
     QByteArray m_arrangement; // to be restored once it is shown
 };
