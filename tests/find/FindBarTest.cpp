@@ -14,6 +14,7 @@
 #include <QtCore/QLocale>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QToolButton>
 
 using namespace ORVTListview;

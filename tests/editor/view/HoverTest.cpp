@@ -18,6 +18,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolTip>
 
+#include <algorithm>
 #include <functional>
 #include <stdexcept>
 
