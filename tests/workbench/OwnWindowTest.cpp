@@ -148,10 +148,12 @@ private Q_SLOTS:
         QVERIFY(!work.box().hasFocus());
         QMimeData name;
         name.setText(u"Temp1"_s);
+        QDragEnterEvent come(QPoint(5, 5), Qt::CopyAction, &name, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(work.box().viewport(), &come);
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &name, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(work.box().viewport(), &drop);
-        QTRY_VERIFY(work.box().hasFocus());
         QVERIFY(work.code().CodeText().contains(u"Temp1"_s));
+        QTRY_VERIFY(work.box().hasFocus());
         work.views().tree().setFocus();
         work.box().setReadOnly(true);
         QDropEvent refused(QPointF(5, 5), Qt::CopyAction, &name, Qt::LeftButton, Qt::NoModifier);
