@@ -1016,6 +1016,10 @@ Freie Software unter der MIT-Lizenz. Sie beruht auf Qt %1.</translation>
 <context>
     <name>ORVTListview::PointCells</name>
     <message>
+        <source>Names are given by F2.</source>
+        <translation>Namen gibt man mit F2.</translation>
+    </message>
+    <message>
         <source>This row has no point.</source>
         <translation>In dieser Zeile ist kein Punkt.</translation>
     </message>

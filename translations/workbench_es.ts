@@ -1016,6 +1016,10 @@ Software libre con licencia MIT. Se basa en Qt %1.</translation>
 <context>
     <name>ORVTListview::PointCells</name>
     <message>
+        <source>Names are given by F2.</source>
+        <translation>Los nombres se dan con F2.</translation>
+    </message>
+    <message>
         <source>This row has no point.</source>
         <translation>En esta fila no hay ningún punto.</translation>
     </message>

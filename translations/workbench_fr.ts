@@ -1016,6 +1016,10 @@ Logiciel libre sous licence MIT. Il repose sur Qt %1.</translation>
 <context>
     <name>ORVTListview::PointCells</name>
     <message>
+        <source>Names are given by F2.</source>
+        <translation>Les noms se donnent avec F2.</translation>
+    </message>
+    <message>
         <source>This row has no point.</source>
         <translation>Il n’y a aucun point dans cette ligne.</translation>
     </message>

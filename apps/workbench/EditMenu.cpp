@@ -3,6 +3,7 @@
 #include "KeyText.h"
 #include "LinesMenu.h"
 #include "ProjectView.h"
+#include "UndoKeys.h"
 #include "widgets/box/BoxCommands.h"
 #include "workbench/export/ColouredCopy.h"
 #include "workbench/renaming/ProjectHistory.h"
@@ -61,6 +62,9 @@ void EditMenu::addHistory()
     m_undo = add(tr("&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z), &EditMenu::undo);
     m_redo = add(tr("&Redo"), QKeySequence(Qt::CTRL | Qt::Key_Y), &EditMenu::redo);
     add(tr("Re&store Typed Text"), {}, &EditMenu::restoreTypedText);
+    for (QAction *action : {m_undo, m_redo})
+        action->setShortcutContext(Qt::WindowShortcut);
+    new UndoKeys(this);
 }
 
 void EditMenu::addClipboard()
@@ -108,7 +112,7 @@ void EditMenu::tellUnless(bool isFound)
 }
 
 // The keys are shown only: the editor acts on them itself, and where something else
-// has the focus they are not the editor's.
+// has the focus they are not the editor's. Undo and Redo are the project's.
 QAction *EditMenu::add(const QString &text, const QKeySequence &keys, void (EditMenu::*command)())
 {
     QAction *action = addAction(text, this, [this, command] {

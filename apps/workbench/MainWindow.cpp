@@ -39,6 +39,7 @@
 #include "workbench/views/ProgramViews.h"
 #include "workbench/views/TableMenu.h"
 #include "workbench/views/TableViews.h"
+#include "workbench/views/Workplace.h"
 
 #include <ORVTListview/CodeView.h>
 #include <ORVTListview/ORVListView.h>
@@ -222,6 +223,8 @@ void MainWindow::connectPoints()
     connect(&m_view->tables(), &TableViews::pointWanted, m_renaming, &PointRenaming::append);
     connect(&m_view->tables(), &TableViews::pointWanted, this, &MainWindow::tellPlace);
     connect(m_history, &ProjectHistory::told, m_status, &WindowStatus::tell);
+    connect(m_history, &ProjectHistory::went, m_status, &WindowStatus::tellOfStep);
+    connect(m_history, &ProjectHistory::wentOn, m_status, &WindowStatus::takeBackStep);
     connect(m_history, &ProjectHistory::reached, this, &MainWindow::showRow);
     connect(m_renaming, &PointRenaming::added, this, [this](LwType type, qsizetype row) {
         if (m_view->currentTable()) // whoever adds one while writing goes on writing
@@ -234,7 +237,8 @@ void MainWindow::connectPoints()
 // Points stand without gaps, whatever row the name was typed in.
 void MainWindow::tellPlace(LwType type, const QString &name, qsizetype wanted)
 {
-    const qsizetype row = m_document->project()->rows(type).size() - 1;
+    const Project *project = m_document->project();
+    const qsizetype row = project ? project->rows(type).size() - 1 : wanted;
     if (row < wanted)
         m_status->tellLonger(tr("Rows are filled from the top: %1 is in row %2.")
                                  .arg(name, QString::number(row + 1)));
@@ -267,6 +271,7 @@ void MainWindow::connectReading()
 // The status bar speaks of what is in sight.
 void MainWindow::showPage()
 {
+    m_view->workplace().putAside(!m_pages->showsProject());
     showTitle();
     showProgramInfo();
     showPosition();
@@ -429,7 +434,10 @@ void MainWindow::changeEvent(QEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(m_saving->mayLeave());
+    const bool mayLeave = m_saving->mayLeave();
+    event->setAccepted(mayLeave);
+    if (mayLeave)
+        Q_EMIT leaving();
 }
 
 // The editor tells of the caret after keys; the mouse moves it without a word.

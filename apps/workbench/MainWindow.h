@@ -95,6 +95,9 @@ Q_SIGNALS:
     void projectShown();
     void projectLeaving();
 
+    // The window is about to be closed and still is as it was used, its views' own windows too.
+    void leaving();
+
 protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;

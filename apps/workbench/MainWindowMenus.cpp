@@ -79,6 +79,7 @@ void MainWindow::buildEditMenu()
     menuBar()->addMenu(edit);
     connect(edit, &EditMenu::acted, this, &MainWindow::showPosition);
     connect(m_document, &ProjectDocument::tablesChanged, edit, &EditMenu::refresh);
+    connect(m_document, &ProjectDocument::stepCarriedOut, edit, &EditMenu::refresh);
     connect(edit, &EditMenu::told, m_status, &WindowStatus::tell);
 }
 

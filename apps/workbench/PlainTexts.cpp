@@ -1,5 +1,7 @@
 #include "PlainTexts.h"
 
+#include "FreeKeys.h"
+#include "FrontWindow.h"
 #include "TitleWidth.h"
 
 #include <QtCore/QPointer>
@@ -20,9 +22,11 @@ void PlainTexts::warn(QWidget &window, const QString &title, const QString &text
 QMessageBox::StandardButton PlainTexts::ask(QWidget &window, const Question &question)
 {
     const QPointer<QMessageBox> box(
-        new QMessageBox(question.icon, question.title, question.text, question.answers, &window));
+        new QMessageBox(question.icon, question.title, question.text, question.answers,
+                        &frontWindow(window)));
     box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(question.usual);
+    giveFreeKeys(box->buttons());
     if (auto *parts = qobject_cast<QGridLayout *>(box->layout())) // it takes no minimum width
         parts->addItem(new QSpacerItem(titleWidth(*box), 0), parts->rowCount(), 0, 1,
                        parts->columnCount());
@@ -36,7 +40,7 @@ QMessageBox::StandardButton PlainTexts::ask(QWidget &window, const Question &que
 std::optional<QString> PlainTexts::askText(QWidget &window, const QString &title,
                                            const QString &question, const QString &text)
 {
-    const QPointer<QInputDialog> dialog(new QInputDialog(&window));
+    const QPointer<QInputDialog> dialog(new QInputDialog(&frontWindow(window)));
     dialog->setWindowTitle(title);
     dialog->setLabelText(QString(question).replace(u'&', QStringLiteral("&&")));
     dialog->setTextValue(text);

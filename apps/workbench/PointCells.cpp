@@ -90,7 +90,7 @@ void PointCells::setRules()
         QHash<QString, CellRule> rules = m_grid.rules(table);
         for (const ProjectColumn &column : projectColumns(type)) {
             if (column.kind == CellKind::Name)
-                rules.remove(column.key);
+                rules[column.key] = {.hint = tr("Names are given by F2.")};
             else if (column.kind == CellKind::YesNo)
                 rules[column.key].choices = {PointTables::tr("Yes"), PointTables::tr("No")};
         }

@@ -2,15 +2,41 @@
 
 #include "OpeningProgress.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStatusBar>
+#include <QtWidgets/QStyle>
 
 namespace ORVTListview {
+namespace {
+
+// One line, which ends in dots where it has not the room.
+class ShortenedLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const QRect room = contentsRect();
+        const auto left = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+        style()->drawItemText(&painter, room, static_cast<int>(left | Qt::AlignVCenter), palette(),
+                              isEnabled(),
+                              fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
+                              foregroundRole());
+    }
+};
+
+} // namespace
 
 WindowStatus::WindowStatus(QStatusBar &bar)
     : QObject(&bar)
     , m_bar(bar)
-    , m_program(new QLabel(&bar))
+    , m_program(new ShortenedLabel(&bar))
     , m_opening(new OpeningProgress(&bar))
     , m_position(new QLabel(&bar))
 {
@@ -41,6 +67,19 @@ void WindowStatus::tellLasting(const QString &text)
 void WindowStatus::takeBack()
 {
     m_bar.clearMessage();
+}
+
+void WindowStatus::tellOfStep(const QString &text)
+{
+    m_step = text;
+    tell(text);
+}
+
+void WindowStatus::takeBackStep()
+{
+    if (!m_step.isEmpty() && m_bar.currentMessage() == m_step)
+        m_bar.clearMessage();
+    m_step.clear();
 }
 
 bool WindowStatus::isTelling() const

@@ -29,6 +29,10 @@ public:
     void tellLasting(const QString &text);
     void takeBack();
 
+    // Of a step of the project that was taken back or done again, till another one.
+    void tellOfStep(const QString &text);
+    void takeBackStep();
+
     bool isTelling() const;
 
     void showProgram(const QString &text);
@@ -43,6 +47,7 @@ private:
     QLabel *m_program;
     OpeningProgress *m_opening;
     QLabel *m_position;
+    QString m_step; // told last
 };
 
 } // namespace ORVTListview

@@ -84,7 +84,7 @@ void keep(MainWindow &window, QSettings &store, const Settings &stored)
                          kept.write(store);
                      });
     auto *projects = new KeptProjects(store, window);
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, [&, projects] {
+    QObject::connect(&window, &MainWindow::leaving, &window, [&, projects] {
         projects->write();
         writeWindow(store, window, view);
     });

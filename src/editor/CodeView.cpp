@@ -180,6 +180,7 @@ void CodeView::setLiveValuesShown(bool shown)
 void CodeView::setLiveValues(const QHash<QString, QString> &values)
 {
     d->liveValues.set(values);
+    d->hover.renew(); // asks the host, who may do anything
 }
 
 void CodeView::setProblems(const QList<Problem> &problems)

@@ -304,6 +304,7 @@ void FindBar::showCount()
         tell(text);
     else
         m_result->setText(text);
+    showWhatFits();
 }
 
 // A screen reader is told of the same result again, too.

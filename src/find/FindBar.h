@@ -50,6 +50,7 @@ protected:
     void noteClosed() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     using Find = std::function<bool()> Acts::*;
@@ -73,6 +74,7 @@ private:
     void noteReadOnly();
     void showReplaceRow(bool shown);
 
+    void showWhatFits();
     void showCount();
     QString countText() const;
     void tell(const QString &result);

@@ -11,6 +11,9 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
+#include <algorithm>
+#include <ranges>
+
 namespace ORVTListview {
 
 using namespace BarControls;
@@ -56,6 +59,30 @@ QWidget *FindBar::makeReplaceRow()
     return m_replaceRow;
 }
 
+void FindBar::resizeEvent(QResizeEvent *event)
+{
+    EditorBar::resizeEvent(event);
+    showWhatFits();
+}
+
+// In a narrow editor what is searched for needs the room most: the count goes first, then the
+// button for the second row, then how it is searched.
+void FindBar::showWhatFits()
+{
+    const QList<QWidget *> parts{m_result, m_more, m_wholeWord, m_matchCase};
+    int room = width() - layout()->contentsMargins().left() -
+               layout()->contentsMargins().right() - 2 * frameWidth() - m_wanted->minimumSizeHint().width();
+    for (const QWidget *always : {m_previous, m_next, m_close})
+        room -= always->sizeHint().width() + BarControls::spacing;
+    bool fits = true;
+    for (QWidget *part : std::ranges::reverse_view(parts)) {
+        const int wanted = std::max(part->sizeHint().width(), part->minimumWidth());
+        room -= wanted + BarControls::spacing;
+        fits = fits && room >= 0;
+        part->setVisible(fits);
+    }
+}
+
 void FindBar::showTexts()
 {
     setAccessibleName(Localise(u"Find"_s));
@@ -72,6 +99,7 @@ void FindBar::showTexts()
     m_replaceRow->showTexts();
     m_result->setMinimumWidth(m_result->fontMetrics().horizontalAdvance(Localise(u"Not found!"_s)));
     showCount();
+    showWhatFits();
 }
 
 } // namespace ORVTListview

@@ -14,6 +14,7 @@
 #include <QtCore/QLocale>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QToolButton>
 
 using namespace ORVTListview;
@@ -119,6 +120,35 @@ private Q_SLOTS:
         QCOMPARE(host.told(), QString());
         host.enter(u"x"_s); // round at the end
         QCOMPARE(host.marked(), u"|x| ab T1 t1 T12 t12"_s);
+    }
+
+    void aNarrowBarLeavesOutWhatMattersLeast()
+    {
+        BarHost host;
+        host.open(u"ab ab"_s);
+        host.enter(u"ab"_s);
+        QList<QWidget *> parts = host.bar()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+        int before = 0;
+        for (const int width : {900, 420, 330, 260, 210, 170, 900}) {
+            host.bar()->resize(width, host.bar()->height());
+            host.bar()->layout()->activate();
+            int shown = 0;
+            for (QWidget *part : std::as_const(parts)) {
+                if (!part->isVisible())
+                    continue;
+                ++shown;
+                QVERIFY2(host.bar()->rect().contains(part->geometry()),
+                         qPrintable(part->objectName() + QString::number(width)));
+                for (const QWidget *other : std::as_const(parts))
+                    QVERIFY(other == part || !other->isVisible() ||
+                            !other->geometry().intersects(part->geometry()));
+            }
+            QVERIFY(host.field().width() >= host.field().minimumSizeHint().width());
+            QVERIFY(host.button("FindBarClose").isVisible());
+            QVERIFY(before == 0 || width == 900 || shown <= before);
+            before = shown;
+        }
+        QVERIFY(host.control<QLabel>("FindBarResult").isVisible());
     }
 
     void enterGoesOnAndShiftEnterBack()

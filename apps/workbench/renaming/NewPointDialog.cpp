@@ -4,6 +4,7 @@
 #include "project/ProjectDocument.h"
 #include "shared/points/DisplayNames.h"
 #include "shared/texts/TextTable.h"
+#include "workbench/FrontWindow.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QComboBox>
@@ -30,7 +31,7 @@ NewPointDialog::NewPointDialog(const ProjectDocument &document, const PointPropo
 std::optional<NewPoint> NewPointDialog::ask(const ProjectDocument &document,
                                             const PointProposal &proposal, QWidget &window)
 {
-    const QPointer<NewPointDialog> dialog(new NewPointDialog(document, proposal, &window));
+    const QPointer<NewPointDialog> dialog(new NewPointDialog(document, proposal, &frontWindow(window)));
     const bool isWanted = dialog->exec() == QDialog::Accepted;
     std::optional<NewPoint> point;
     if (dialog && isWanted)

@@ -5,6 +5,7 @@
 #include "project/ProjectColumns.h"
 #include "project/ProjectDocument.h"
 #include "widgets/box/BoxCommands.h"
+#include "workbench/FrontWindow.h"
 #include "workbench/PlainTexts.h"
 #include "workbench/renaming/NewPointDialog.h"
 #include "workbench/renaming/RenameDialog.h"
@@ -30,7 +31,7 @@ namespace {
 // The places that the user leaves ticked; none when the user gives up, or the window goes.
 std::optional<QList<PointUse>> chosenOf(const RenameDialog::Renamed &renamed, QWidget &window)
 {
-    const QPointer<RenameDialog> dialog(new RenameDialog(renamed, &window));
+    const QPointer<RenameDialog> dialog(new RenameDialog(renamed, &frontWindow(window)));
     const bool isWanted = dialog->exec() == QDialog::Accepted;
     std::optional<QList<PointUse>> chosen;
     if (dialog && isWanted)

@@ -78,7 +78,10 @@ ProjectHistory::ProjectHistory(ProjectDocument &document, ProjectView &views)
         view.codeView()->setUndoHistory(history);
         follow(program, view);
     });
-    connect(&document, &ProjectDocument::stepCarriedOut, this, [this] { m_typedIn.clear(); });
+    connect(&document, &ProjectDocument::stepCarriedOut, this, [this] {
+        m_typedIn.clear();
+        Q_EMIT wentOn();
+    });
     connect(&document, &ProjectDocument::projectReplaced, this, [this] { m_typedIn.clear(); });
     connect(&views.tables(), &TableViews::made, this,
             [history](ORVListView &list) { list.listView()->grid()->setUndoHistory(history); });
@@ -87,8 +90,10 @@ ProjectHistory::ProjectHistory(ProjectDocument &document, ProjectView &views)
 void ProjectHistory::follow(qint32 program, ORVListView &view)
 {
     connect(view.RTextBox(), &RichTextBox::edited, this, [this, program] {
-        if (!m_isGoing)
-            m_typedIn.insert(program);
+        if (m_isGoing)
+            return;
+        m_typedIn.insert(program);
+        Q_EMIT wentOn();
     });
 }
 
@@ -139,6 +144,7 @@ void ProjectHistory::goInEditor(Way way)
     if (!isOfEditor())
         return;
     m_typedIn.remove(here());
+    Q_EMIT wentOn();
     QString fault;
     if (way == Way::Back)
         code().Undo(fault);
@@ -164,7 +170,7 @@ void ProjectHistory::goInProject(Way way, const ProjectStep &step)
         return;
     }
     showPlace(step);
-    Q_EMIT told(tellingOf(way).arg(placesOf(step)));
+    Q_EMIT went(tellingOf(way).arg(placesOf(step)));
 }
 
 bool ProjectHistory::showPrograms(const ProjectStep &step, Way way)

@@ -30,7 +30,13 @@ Q_SIGNALS:
     // What has changed is there, in that row of the table.
     void reached(ORVTListview::LwType type, qsizetype row);
 
-    // What has changed, or what went wrong.
+    // What has changed by a step back or forward.
+    void went(const QString &text);
+
+    // Something else was done since, or is about to be.
+    void wentOn();
+
+    // What went wrong.
     void told(const QString &text);
 
 private:

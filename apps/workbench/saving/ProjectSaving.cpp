@@ -3,6 +3,8 @@
 #include "project/ProjectDocument.h"
 #include "project/ProjectError.h"
 #include "project/ProjectFileName.h"
+#include "workbench/FreeKeys.h"
+#include "workbench/FrontWindow.h"
 #include "workbench/PlainTexts.h"
 #include "workbench/export/SaveAs.h"
 
@@ -74,7 +76,7 @@ bool ProjectSaving::offerWayOut(const Error &error, Attempt attempt)
     const QPointer<ProjectSaving> self(this);
     const QPointer<QMessageBox> box(
         new QMessageBox(QMessageBox::Warning, tr("Save"), error.Description(),
-                        QMessageBox::Cancel | QMessageBox::Retry, &m_window));
+                        QMessageBox::Cancel | QMessageBox::Retry, &frontWindow(m_window)));
     box->setTextFormat(Qt::PlainText);
     QPushButton *other =
         isNoText ? nullptr
@@ -82,6 +84,7 @@ bool ProjectSaving::offerWayOut(const Error &error, Attempt attempt)
                                   QMessageBox::AcceptRole);
     if (other)
         box->setDefaultButton(other);
+    giveFreeKeys(box->buttons());
     if (!isEncoding && !isNoText)
         box->setInformativeText(
             tr("Nothing is lost: what was typed stays in the window and is kept for recovery."));

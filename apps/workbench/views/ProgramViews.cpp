@@ -1,6 +1,7 @@
 #include "workbench/views/ProgramViews.h"
 
 #include "workbench/EditorViewMenu.h"
+#include "workbench/views/DropFocus.h"
 #include "workbench/views/ViewDock.h"
 #include "workbench/views/Workplace.h"
 
@@ -58,6 +59,7 @@ ViewDock &ProgramViews::make(qint32 program)
     connect(view.codeView(), &CodeView::zoomChanged, this, [this](qint32 percent) {
         forEach([percent](CodeView &each) { each.setZoom(percent); });
     });
+    new DropFocus(view, m_workplace);
     m_workplace.add(*dock, beside);
     Q_EMIT made(program, view);
     return *dock;
@@ -74,7 +76,7 @@ void ProgramViews::setList(const ProgramList &list)
     for (const auto &[program, dock] : m_docks) {
         const auto isIt = [id = program](const ProjectProgram &each) { return each.id == id; };
         if (std::ranges::none_of(m_list, isIt))
-            dock->hide();
+            m_workplace.leaveOut(*dock);
     }
 }
 

@@ -110,6 +110,8 @@ void Workplace::setCurrent(ViewDock *dock)
 
 void Workplace::noteClosed(ViewDock *dock)
 {
+    if (m_aside.contains(dock))
+        return; // it is to be what it was
     const bool wasCurrent = dock == current();
     m_used.removeOne(dock);
     m_settled.start();
@@ -173,7 +175,7 @@ void Workplace::splitCurrent(Qt::Orientation orientation)
 void Workplace::floatCurrent()
 {
     ViewDock *dock = current();
-    if (!dock)
+    if (!dock || m_isAside)
         return;
     const QWidget *focus = QApplication::focusWidget();
     const bool hadFocus = focus && dock->isAncestorOf(focus);
@@ -225,6 +227,28 @@ void Workplace::gather()
         enter(*front);
     else if (front)
         show(*front);
+}
+
+void Workplace::putAside(bool isAside)
+{
+    m_isAside = isAside;
+    if (isAside) {
+        for (ViewDock *dock : shown()) {
+            if (dock->isFloating() && !m_aside.contains(dock))
+                m_aside.append(dock);
+        }
+    }
+    const QList<QPointer<ViewDock>> moved = isAside ? m_aside : std::exchange(m_aside, {});
+    for (ViewDock *dock : moved) {
+        if (dock)
+            dock->setVisible(!isAside);
+    }
+}
+
+void Workplace::leaveOut(ViewDock &dock)
+{
+    m_aside.removeAll(&dock);
+    dock.hide();
 }
 
 void Workplace::goToTab(int step)

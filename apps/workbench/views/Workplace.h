@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QList>
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtWidgets/QMainWindow>
 
@@ -53,6 +54,13 @@ public:
     // Through the tabs, one on or one back, round at the ends.
     void goToTab(int step);
 
+    // While the page with the views is not shown. Those in windows of their own go with it, and
+    // come back with it.
+    void putAside(bool isAside);
+
+    // Hides one that is of no use any more, also one that is put aside.
+    void leaveOut(ViewDock &dock);
+
     // Titles and tabs as the views stand now. It comes by itself once the toolkit is done with
     // its layout, which a picture does not wait for.
     void dress();
@@ -82,6 +90,8 @@ private:
 
     QList<ViewDock *> m_docks;
     QList<ViewDock *> m_used; // the current one first
+    QList<QPointer<ViewDock>> m_aside;
+    bool m_isAside = false;
     QTimer m_settled;
     QByteArray m_arrangement; // to be restored once it is shown
 };

@@ -148,6 +148,18 @@ void HoverTips::tellBeside(const QRect &row, const QString &word)
     QToolTip::hideText();
     watch(true);
     card().showBeside(row, contentOf(answer, m_pictures));
+    m_beside = {row, word};
+}
+
+// The card stays where it is, without a blink.
+void HoverTips::renew()
+{
+    if (!m_beside || !m_card || !m_card->isVisible())
+        return;
+    const Beside beside = *m_beside;
+    HoverAnswer answer;
+    if (ask(beside.word, m_box.textCursor().blockNumber() + 1, answer) && m_beside)
+        card().showBeside(beside.row, contentOf(answer, m_pictures));
 }
 
 void HoverTips::hide()
@@ -156,6 +168,7 @@ void HoverTips::hide()
         return;
     m_rest->stop();
     m_word.reset();
+    m_beside.reset();
     if (m_card)
         m_card->hide();
     watch(m_mouse.has_value());

@@ -46,6 +46,9 @@ public:
     // on the screen.
     void tellBeside(const QRect &row, const QString &word);
 
+    // Asks once more for what is shown beside a row, since values have changed.
+    void renew();
+
     void hide();
 
 protected:
@@ -64,6 +67,12 @@ private:
     };
 
     std::optional<Word> wordAt(const QPoint &place) const;
+    struct Beside
+    {
+        QRect row; // on the screen
+        QString word;
+    };
+
     QRect onScreen(const Word &word) const;
     void tellAtMouse();
     bool ask(const QString &word, qint32 line, HoverAnswer &answer);
@@ -84,6 +93,7 @@ private:
     QPointer<TipCard> m_card;           // the box's; made when first shown
     std::optional<QPoint> m_mouse;      // in the viewport, while it is there
     std::optional<Word> m_word;         // asked about, until the mouse leaves it
+    std::optional<Beside> m_beside;     // a row, as long as it is told of
     bool m_isWatching = false;
     bool m_isAsking = false;
 };

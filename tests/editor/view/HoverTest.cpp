@@ -18,6 +18,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolTip>
 
+#include <algorithm>
 #include <functional>
 #include <stdexcept>
 
@@ -447,6 +448,30 @@ private Q_SLOTS:
         QVERIFY(!isShown());
         QVERIFY(!choice.isActive());
         QVERIFY(box().hasFocus());
+    }
+
+    void newValuesAreAskedForAsLongAsTheCardIsShown()
+    {
+        QString value = u"1"_s;
+        answerWith([&value](HoverAnswer &answer) {
+            answer.setName(u"Temp"_s);
+            answer.setValue(value);
+        });
+        m_host->list->TryToPopupList();
+        m_host->key(Qt::Key_Down);
+        m_host->wordList().findChild<QTimer *>(u"ChoiceRest"_s)->start(0);
+        QTRY_VERIFY(isShown());
+        const QRect place = card()->geometry();
+        value = u"2"_s;
+        view().setLiveValues({{u"Temp"_s, value}});
+        QVERIFY(isShown());
+        QCOMPARE(m_asked.size(), 2);
+        QCOMPARE(card()->geometry(), place);
+        const QList<QLabel *> parts = card()->findChildren<QLabel *>();
+        QVERIFY(std::ranges::any_of(parts, [](const QLabel *part) { return part->text() == u"2"; }));
+        m_host->key(Qt::Key_Escape);
+        view().setLiveValues({{u"Temp"_s, u"3"_s}});
+        QCOMPARE(m_asked.size(), 2);
     }
 
     void theChosenEntryOfAListThatOpensItselfIsAskedAbout()

@@ -38,6 +38,7 @@ TEST(CellRules, WhatIsNotEditedTakesNothing)
 {
     EXPECT_EQ(entered({}, u"x"_s), u"[This cell cannot be edited.]"_s);
     EXPECT_EQ(entered({}, QString()), u"[This cell cannot be edited.]"_s);
+    EXPECT_EQ(entered({.hint = u"Ask the host."_s}, u"x"_s), u"[Ask the host.]"_s);
 }
 
 TEST(CellRules, TextIsKeptAsItIs)

@@ -46,7 +46,7 @@ public:
     // the text is to match, empty for none. The hint is the sentence shown when it does not.
     qint32 maxLength = 0;
     QString pattern = {};
-    QString hint = {};
+    QString hint = {}; // NotEdited: the sentence that says what else to do
 
     // Number: the unit may be typed behind it and is not kept. The choices are words that
     // are taken in place of a number, such as "On".
