@@ -64,7 +64,7 @@ void EditMenu::addHistory()
     add(tr("Re&store Typed Text"), {}, &EditMenu::restoreTypedText);
     for (QAction *action : {m_undo, m_redo})
         action->setShortcutContext(Qt::WindowShortcut);
-    new UndoKeys(this);
+    connect(new UndoKeys(this), &UndoKeys::pressed, this, &EditMenu::refresh);
 }
 
 void EditMenu::addClipboard()

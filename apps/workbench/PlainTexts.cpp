@@ -21,9 +21,8 @@ void PlainTexts::warn(QWidget &window, const QString &title, const QString &text
 
 QMessageBox::StandardButton PlainTexts::ask(QWidget &window, const Question &question)
 {
-    const QPointer<QMessageBox> box(
-        new QMessageBox(question.icon, question.title, question.text, question.answers,
-                        &frontWindow(window)));
+    const QPointer<QMessageBox> box(new QMessageBox(question.icon, question.title, question.text,
+                                                    question.answers, &frontWindow(window)));
     box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(question.usual);
     giveFreeKeys(box->buttons());

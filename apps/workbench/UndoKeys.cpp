@@ -41,10 +41,12 @@ UndoKeys::UndoKeys(QObject *parent)
 
 bool UndoKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::ShortcutOverride)
+    if (event->type() != QEvent::ShortcutOverride ||
+        !isUndoOrRedo(static_cast<const QKeyEvent &>(*event)))
         return false;
+    Q_EMIT pressed();
     const QLineEdit *field = fieldOf(watched);
-    if (!field || !isUndoOrRedo(static_cast<const QKeyEvent &>(*event)))
+    if (!field)
         return false;
     const bool isIdle = !field->isUndoAvailable() && !field->isRedoAvailable();
     event->setAccepted(!isIdle || !isOfPoints(*field));

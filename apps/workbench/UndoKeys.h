@@ -15,6 +15,10 @@ class UndoKeys : public QObject
 public:
     explicit UndoKeys(QObject *parent);
 
+Q_SIGNALS:
+    // One of them, before the menu gets it.
+    void pressed();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 };

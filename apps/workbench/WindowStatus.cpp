@@ -24,10 +24,9 @@ protected:
         QPainter painter(this);
         const QRect room = contentsRect();
         const auto left = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
-        style()->drawItemText(&painter, room, static_cast<int>(left | Qt::AlignVCenter), palette(),
-                              isEnabled(),
-                              fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
-                              foregroundRole());
+        style()->drawItemText(
+            &painter, room, static_cast<int>(left | Qt::AlignVCenter), palette(), isEnabled(),
+            fontMetrics().elidedText(text(), Qt::ElideRight, room.width()), foregroundRole());
     }
 };
 

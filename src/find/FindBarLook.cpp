@@ -70,8 +70,8 @@ void FindBar::resizeEvent(QResizeEvent *event)
 void FindBar::showWhatFits()
 {
     const QList<QWidget *> parts{m_result, m_more, m_wholeWord, m_matchCase};
-    int room = width() - layout()->contentsMargins().left() -
-               layout()->contentsMargins().right() - 2 * frameWidth() - m_wanted->minimumSizeHint().width();
+    int room = width() - layout()->contentsMargins().left() - layout()->contentsMargins().right() -
+               2 * frameWidth() - m_wanted->minimumSizeHint().width();
     for (const QWidget *always : {m_previous, m_next, m_close})
         room -= always->sizeHint().width() + BarControls::spacing;
     bool fits = true;

@@ -94,9 +94,8 @@ private Q_SLOTS:
             Floating work;
             place = QRect(120, 90, 410, 260);
             work.inputs().setGeometry(place);
-            connect(&work.window, &MainWindow::leaving, &work.window, [&] {
-                writeWindow(store, work.window, *work.code().codeView());
-            });
+            connect(&work.window, &MainWindow::leaving, &work.window,
+                    [&] { writeWindow(store, work.window, *work.code().codeView()); });
             work.choose(u"Quit"_s);
             QVERIFY(!work.window.isVisible());
         }

@@ -31,7 +31,8 @@ NewPointDialog::NewPointDialog(const ProjectDocument &document, const PointPropo
 std::optional<NewPoint> NewPointDialog::ask(const ProjectDocument &document,
                                             const PointProposal &proposal, QWidget &window)
 {
-    const QPointer<NewPointDialog> dialog(new NewPointDialog(document, proposal, &frontWindow(window)));
+    const QPointer<NewPointDialog> dialog(
+        new NewPointDialog(document, proposal, &frontWindow(window)));
     const bool isWanted = dialog->exec() == QDialog::Accepted;
     std::optional<NewPoint> point;
     if (dialog && isWanted)

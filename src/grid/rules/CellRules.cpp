@@ -163,7 +163,8 @@ CellAnswer checkedName(const CellRule &rule, const QString &typed)
 CellAnswer checkedCell(const CellRule &rule, QString typed, const QLocale &locale)
 {
     if (rule.kind == CellRule::NotEdited)
-        return refused(rule.hint.isEmpty() ? Localise(u"This cell cannot be edited."_s) : rule.hint);
+        return refused(rule.hint.isEmpty() ? Localise(u"This cell cannot be edited."_s)
+                                           : rule.hint);
     QString text = rule.kind == CellRule::Text ? std::move(typed) : typed.trimmed();
     if (!rule.canBeEmpty && text.trimmed().isEmpty())
         return refused(Localise(u"This cell must not be empty."_s));

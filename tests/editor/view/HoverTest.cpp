@@ -468,7 +468,8 @@ private Q_SLOTS:
         QCOMPARE(m_asked.size(), 2);
         QCOMPARE(card()->geometry(), place);
         const QList<QLabel *> parts = card()->findChildren<QLabel *>();
-        QVERIFY(std::ranges::any_of(parts, [](const QLabel *part) { return part->text() == u"2"; }));
+        QVERIFY(
+            std::ranges::any_of(parts, [](const QLabel *part) { return part->text() == u"2"; }));
         m_host->key(Qt::Key_Escape);
         view().setLiveValues({{u"Temp"_s, u"3"_s}});
         QCOMPARE(m_asked.size(), 2);
