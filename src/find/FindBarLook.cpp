@@ -12,7 +12,7 @@
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
-#include <ranges>
+#include <initializer_list>
 
 namespace ORVTListview {
 
@@ -69,13 +69,13 @@ void FindBar::resizeEvent(QResizeEvent *event)
 // button for the second row, then how it is searched.
 void FindBar::showWhatFits()
 {
-    const QList<QWidget *> parts{m_result, m_more, m_wholeWord, m_matchCase};
     int room = width() - layout()->contentsMargins().left() - layout()->contentsMargins().right() -
                2 * frameWidth() - m_wanted->minimumSizeHint().width();
     for (const QWidget *always : {m_previous, m_next, m_close})
         room -= always->sizeHint().width() + BarControls::spacing;
     bool fits = true;
-    for (QWidget *part : std::ranges::reverse_view(parts)) {
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{m_matchCase, m_wholeWord, m_more, m_result}) {
         const int wanted = std::max(part->sizeHint().width(), part->minimumWidth());
         room -= wanted + BarControls::spacing;
         fits = fits && room >= 0;
