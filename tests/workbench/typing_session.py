@@ -150,7 +150,7 @@ class Session:
         bench = self._workbench
         before = HEATING + "REM Fans by the hour\nIF HOUR >= 6"
         bench.type("REM Fans by the hour\nif hour >= 6 and hour < 18")
-        bench.keys("ctrl+z", "ctrl+z", "ctrl+z")
+        bench.keys("ctrl+z", "ctrl+z", "ctrl+z", "ctrl+z")
         self._picture("05-undone")
         bench.save(before)
         bench.keys("ctrl+y", "ctrl+y")

@@ -128,7 +128,7 @@ QStringList KeptProjects::bookmarks() const
     const ProgramViews &programs = m_window.findChild<ProjectView *>()->programs();
     for (const ProjectProgram &program : programs.list()) {
         for (const qint32 line : programs.view(program.id).codeView()->bookmarks())
-            bookmarks.append(u"%1/%2"_s.arg(program.id).arg(line));
+            bookmarks.append(u"%1/%2"_s.arg(QString::number(program.id), QString::number(line)));
     }
     return bookmarks.mid(0, mostBookmarks);
 }
