@@ -93,12 +93,13 @@ void measureUndoOfAll(const QString &program)
               .bound = 50 * milliseconds});
 }
 
-// What is typed near the top and near the end, in one step.
+// What is typed near the top and near the end, in one step, which it is in the shared ring.
 void measureUndoInFarPlaces(const QString &program)
 {
     constexpr int steps = 9;
     ShownEditor editor(program);
     showAll(editor.widget(), {.problems = 1000, .bookmarks = 100, .values = 10000});
+    editor.view().setHasOwnUndo(false);
     editor.open();
     editor.waitUntilIdle();
     const qint32 length = editor.box().TextLength();
