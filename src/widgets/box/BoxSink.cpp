@@ -10,6 +10,8 @@
 namespace ORVTListview {
 namespace {
 
+constexpr std::size_t mostKnown = 16;
+
 void writeLines(QStringView text, const RtfFormat &format, RtfSink &sink)
 {
     const QStringView lineEnd = u"\r\n";
@@ -31,6 +33,7 @@ BoxSink::BoxSink(QTextCursor &cursor, BoxFormats &formats)
     : m_cursor(cursor)
     , m_formats(formats)
 {
+    m_known.reserve(mostKnown); // what may fail comes before the edit block
     m_cursor.beginEditBlock();
     m_cursor.removeSelectedText();
     if (m_cursor.document()->isEmpty())
@@ -48,7 +51,6 @@ BoxSink::~BoxSink()
 // most of them apart.
 std::size_t BoxSink::know(const RtfFormat &format)
 {
-    constexpr std::size_t mostKnown = 16;
     for (std::size_t i = 0; i < m_known.size(); ++i) {
         if (m_known[i].stated.colour == format.colour && m_known[i].stated == format)
             return i;

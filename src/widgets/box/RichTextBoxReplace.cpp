@@ -37,14 +37,19 @@ void RichTextBox::replaceEach(const QList<TextPiece> &pieces, const PutPiece &pu
     QTextCursor oneChange(document());
     QTextCursor caret;
     oneChange.beginEditBlock();
-    for (qsizetype i = pieces.size() - 1; i >= 0; --i) {
-        QTextCursor cursor = selected(*document(), d->text, pieces[i]);
-        put(cursor, i);
-        if (caret.isNull())
-            caret = cursor;
+    try {
+        for (qsizetype i = pieces.size() - 1; i >= 0; --i) {
+            QTextCursor cursor = selected(*document(), d->text, pieces[i]);
+            put(cursor, i);
+            if (caret.isNull())
+                caret = cursor;
+        }
+        if (finish)
+            finish();
+    } catch (...) { // nobody would hear of any change any more
+        oneChange.endEditBlock();
+        throw;
     }
-    if (finish)
-        finish();
     oneChange.endEditBlock();
     const int place = d->text.whole(caret.position());
     select(place, place);
