@@ -197,9 +197,9 @@ void EditorUndo::show(const UndoState &state, Spelling spelling)
         selectChange(former);
 }
 
-void EditorUndo::noteColoured(const QString &text, const ColouredText &shown)
+void EditorUndo::noteColoured(const QString &text)
 {
-    m_showing.noteColoured(SharedText(text), shown);
+    m_showing.noteColoured(text);
     m_idle.start(idleAfter);
 }
 

@@ -80,7 +80,7 @@ public:
 
     // The box was just given a text that was finished, or coloured, as a whole.
     void noteFinished(const QString &text) { m_showing.noteFinished(text); }
-    void noteColoured(const QString &text, const ColouredText &shown);
+    void noteColoured(const QString &text);
 
     // Before and after the text is changed by anything but undo and redo. When it
     // loses a part at once, or has stood for a while, the state before is kept.

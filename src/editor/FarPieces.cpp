@@ -53,6 +53,7 @@ bool replaceFarPieces(RichTextBox &box, const QList<TextPiece> &pieces,
     }
     if (!pieces.isEmpty())
         box.setSelStart(box.TextLength() - fromEnd);
+    text.sharedText(); // no step waits for it then
     return text.changeCount() == changes;
 }
 

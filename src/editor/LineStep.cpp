@@ -42,6 +42,14 @@ bool areWholeLines(const SharedText &text, qsizetype start, qsizetype length)
            (end == text.size() || text.mid(end, 2) == lineEnd);
 }
 
+bool areLong(const QList<SharedText::Difference> &differ)
+{
+    qsizetype length = 0;
+    for (const auto &part : differ)
+        length += std::max(part.length, part.otherLength);
+    return length > LateColours::shortest;
+}
+
 // A piece of the box's text, of whole lines.
 TextPiece pieceOf(const BoxText &text, const Range &lines)
 {
@@ -62,9 +70,11 @@ LineStep::LineStep(RichTextBox &box, const SettledLines &settled, const StepSour
 
 bool LineStep::show(const SharedText &text, const Colour &colour)
 {
-    if (!m_settled.areKnown() || !mayKeepLines() || m_source.lineCount() != boxText().lineCount())
+    if (!m_settled.areKnown() || !mayKeepLines())
         return false;
     const Differences differ = differing(text);
+    if (areLong(differ) || m_source.lineCount() != boxText().lineCount())
+        return false;
     if (!colourParts(linesToShow(differ, colour.goesOn), differ, text, colour))
         return false;
     giveLateColours();

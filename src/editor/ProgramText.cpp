@@ -8,8 +8,8 @@
 #include "editor/WordChoice.h"
 #include "editor/rules/colouring/ColourText.h"
 #include "editor/rules/colouring/EditorState.h"
-#include "editor/rules/colouring/FinishedParts.h"
 #include "editor/rules/colouring/LineColouring.h"
+#include "editor/rules/colouring/PartsInTurn.h"
 #include "editor/rules/colouring/RtfHead.h"
 #include "rtf/RtfWriter.h"
 #include "widgets/box/BoxFormats.h"
@@ -83,7 +83,7 @@ void ProgramText::setAnew()
         const ColouredText coloured = m_undo.coloured(kept);
         m_box.setColoured(coloured);
         if (m_box.Text() == coloured.text) // nobody has put in another one meanwhile
-            m_undo.noteColoured(kept, coloured);
+            m_undo.noteColoured(kept);
     } catch (const std::exception &) {
         m_box.setText(kept); // uncoloured is better than lost
     }
@@ -154,7 +154,8 @@ void ProgramText::openProgram(const QString &text)
 void ProgramText::openInParts(const QString &program)
 {
     const ColourEngine engine = m_thread.colouring();
-    FinishedParts parts(engine, program, m_thread.settings());
+    PartsInTurn parts(engine, program,
+                      PartsInTurn::finished(m_thread.settings(), Spelling::Listed));
     m_box.setColoured([&] { return parts.next(); });
 }
 

@@ -8,7 +8,32 @@
 #include "widgets/box/LateColours.h"
 #include <ORVTListview/RichTextBox.h>
 
+#include <QtCore/QStringList>
+
+#include <utility>
+
 namespace ORVTListview {
+namespace {
+
+const QStringView lineEnd = u"\r\n";
+
+bool isJoined(QStringView text, const QStringList &parts)
+{
+    bool isFirst = true;
+    for (const QString &part : parts) {
+        if (!std::exchange(isFirst, false)) {
+            if (!text.startsWith(lineEnd))
+                return false;
+            text = text.sliced(lineEnd.size());
+        }
+        if (!text.startsWith(part))
+            return false;
+        text = text.sliced(part.size());
+    }
+    return text.isEmpty();
+}
+
+} // namespace
 
 StateShowing::StateShowing(RichTextBox &box, const EditorThread &thread)
     : m_box(box)
@@ -91,23 +116,65 @@ bool StateShowing::showColouredLines(const SharedText &text, const StepSource &s
     return true;
 }
 
+// Colouring adds nothing to lines but blanks.
 void StateShowing::showWhole(const SharedText &text, Spelling spelling)
 {
-    const bool isListed = spelling == Spelling::Listed;
     const QString all = text.toString();
-    const ColouredText whole = isListed ? coloured(all) : m_thread.finished(all, spelling);
-    {
-        const LateColours::Allowed late(LateColours::of(*m_box.document()),
-                                        LateColours::Lines::Former);
-        m_box.setColoured(whole);
-    }
+    const ColourEngine engine = m_thread.colouring();
+    PartsInTurn parts(engine, all, partColouring(spelling));
+    const bool suits = LateColours::suits(all);
+    const bool isInTurn = suits && engine.isForThreads() && parts.differsMostlyFrom(shown());
+    const bool isShown = isInTurn ? putInTurn(parts) : putAtOnce(all, spelling);
     unsettle();
-    if (m_box.Text() != whole.text)
-        return; // somebody has put in another one meanwhile
-    if (isListed && m_keepsText)
-        noteFinished(all);
-    else if (isListed)
-        noteColoured(text, whole);
+    if (!isShown || !suits || spelling == Spelling::AsTyped)
+        return;
+    if (m_keepsText)
+        settle();
+    else
+        settleColoured(text);
+}
+
+const SharedText &StateShowing::shown() const
+{
+    return BoxText::of(*m_box.document()).sharedText();
+}
+
+PartsInTurn::Colouring StateShowing::partColouring(Spelling spelling) const
+{
+    const bool isColoured = spelling == Spelling::Listed && !m_keepsText;
+    return isColoured ? PartsInTurn::coloured(m_thread.settings())
+                      : PartsInTurn::finished(m_thread.settings(), spelling);
+}
+
+bool StateShowing::putAtOnce(const QString &text, Spelling spelling)
+{
+    const ColouredText whole =
+        spelling == Spelling::Listed ? coloured(text) : m_thread.finished(text, spelling);
+    const LateColours::Allowed late(LateColours::of(*m_box.document()), LateColours::Lines::Former);
+    m_box.setColoured(whole);
+    return m_box.Text() == whole.text;
+}
+
+// The box takes one part while others are still coloured.
+bool StateShowing::putInTurn(PartsInTurn &parts)
+{
+    const SharedText former = shown();
+    QStringList texts;
+    const auto next = [&] {
+        auto part = parts.next();
+        if (part)
+            texts.append(part->text);
+        return part;
+    };
+    try {
+        const LateColours::Allowed late(LateColours::of(*m_box.document()),
+                                        LateColours::Lines::New);
+        m_box.setColoured(next);
+    } catch (...) {
+        m_box.setText(former.toString()); // uncoloured is better than lost
+        throw;
+    }
+    return isJoined(m_box.Text(), texts);
 }
 
 void StateShowing::unsettle()
@@ -116,25 +183,34 @@ void StateShowing::unsettle()
     m_source.forget();
 }
 
-void StateShowing::noteFinished(const QString &text)
+void StateShowing::settle()
 {
-    unsettle();
-    if (!LateColours::suits(text)) // it went in as another one
-        return;
     m_settled.settleAll();
     m_settledBy = m_thread.finishedBy();
 }
 
 // Short ones are coloured anew for each step.
-void StateShowing::noteColoured(const SharedText &text, const ColouredText &shown)
+void StateShowing::settleColoured(const SharedText &text)
+{
+    if (text.size() < LateColours::shortest)
+        return;
+    settle();
+    m_source.set(text);
+}
+
+// One that does not suit went in as another one.
+void StateShowing::noteFinished(const QString &text)
 {
     unsettle();
-    const bool isLong = text.size() >= LateColours::shortest;
-    if (!isLong || !LateColours::suits(text.toString()) || !LateColours::suits(shown.text))
-        return;
-    m_settled.settleAll();
-    m_settledBy = m_thread.finishedBy();
-    m_source.set(text);
+    if (LateColours::suits(text))
+        settle();
+}
+
+void StateShowing::noteColoured(const QString &text)
+{
+    unsettle();
+    if (LateColours::suits(text))
+        settleColoured(SharedText(text));
 }
 
 bool StateShowing::prepare()

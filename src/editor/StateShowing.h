@@ -3,6 +3,7 @@
 #include "editor/ColouredSource.h"
 #include "editor/EditorThread.h"
 #include "editor/SettledLines.h"
+#include "editor/rules/colouring/PartsInTurn.h"
 
 namespace ORVTListview {
 
@@ -26,9 +27,9 @@ public:
     // As typed, a text is shown without what colouring does to it.
     void show(const SharedText &text, Spelling spelling);
 
-    // The box was just given a text that was finished, or coloured, as a whole.
+    // The box was just given what comes of a text finished, or coloured, as a whole.
     void noteFinished(const QString &text);
-    void noteColoured(const SharedText &text, const ColouredText &shown);
+    void noteColoured(const QString &text);
 
     // What makes later steps short, a slice while idle; whether there is more to do.
     bool prepare();
@@ -39,7 +40,16 @@ private:
     bool showColouredLines(const SharedText &text);
     bool showColouredLines(const SharedText &text, const StepSource &source);
     void showWhole(const SharedText &text, Spelling spelling);
+    const SharedText &shown() const;
+    PartsInTurn::Colouring partColouring(Spelling spelling) const;
+
+    // Whether it is what is shown then: whoever hears of it may put in another one.
+    bool putAtOnce(const QString &text, Spelling spelling);
+    bool putInTurn(PartsInTurn &parts);
+
     bool isSettledByNow() const;
+    void settle();
+    void settleColoured(const SharedText &text);
     void unsettle();
 
     RichTextBox &m_box;

@@ -43,7 +43,6 @@ FormerSource::FormerSource(const SharedText &former, const BoxText &box,
                            const SettledLines &settled)
     : m_text(former)
 {
-    listLines();
     const QList<SettledLines::Range> changed = settled.unsettled();
     if (changed.isEmpty())
         return;
@@ -62,14 +61,15 @@ FormerSource::FormerSource(const SharedText &former, const BoxText &box,
         m_text = m_text.replaced(lineStart(first), lineEnd(last) - lineStart(first),
                                  box.range(start, end - start));
     }
-    listLines();
+    m_starts.clear();
 }
 
 // Each ends in CR LF, and neither stands elsewhere.
-void FormerSource::listLines()
+const QList<qsizetype> &FormerSource::lineStarts() const
 {
+    if (!m_starts.isEmpty())
+        return m_starts;
     SharedText::Walk walk(m_text);
-    m_starts.clear();
     m_starts.append(0);
     for (qsizetype place = 0; place < m_text.size();) {
         const QStringView piece = walk.behind(place, m_text.size());
@@ -77,12 +77,14 @@ void FormerSource::listLines()
             m_starts.append(place + end + 1);
         place += piece.size();
     }
+    return m_starts;
 }
 
 int FormerSource::lineOf(qsizetype position) const
 {
-    const auto behind = std::upper_bound(m_starts.cbegin(), m_starts.cend(), position);
-    return static_cast<int>(behind - m_starts.cbegin()) - 1;
+    const QList<qsizetype> &starts = lineStarts();
+    const auto behind = std::upper_bound(starts.cbegin(), starts.cend(), position);
+    return static_cast<int>(behind - starts.cbegin()) - 1;
 }
 
 } // namespace ORVTListview

@@ -53,15 +53,15 @@ public:
     FormerSource(const SharedText &former, const BoxText &box, const SettledLines &settled);
 
     const SharedText &text() const override { return m_text; }
-    int lineCount() const override { return static_cast<int>(m_starts.size()); }
+    int lineCount() const override { return static_cast<int>(lineStarts().size()); }
     int lineOf(qsizetype position) const override;
-    qsizetype lineStart(int line) const override { return m_starts[line]; }
+    qsizetype lineStart(int line) const override { return lineStarts()[line]; }
 
 private:
-    void listLines();
+    const QList<qsizetype> &lineStarts() const;
 
     SharedText m_text;
-    QList<qsizetype> m_starts; // of the lines
+    mutable QList<qsizetype> m_starts; // none before they are asked for
 };
 
 } // namespace ORVTListview

@@ -1,15 +1,10 @@
 // Undo and redo that change only the lines that differ: what they show, compared with the
 // same text opened anew, and how much of the document they touch.
 
-#include "editor/EditorThread.h"
-#include "editor/OpeningHost.h"
-#include "editor/rules/colouring/ColourText.h"
+#include "editor/SteppingHost.h"
 #include "support/RandomSeed.h"
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
-
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QComboBox>
 
 #include <memory>
 #include <random>
@@ -17,92 +12,6 @@
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Counts what the document is told to have changed.
-struct SteppingHost : OpeningHost
-{
-    SteppingHost()
-    {
-        QObject::connect(box().document(), &QTextDocument::contentsChange, &form,
-                         [this](int, int removed, int added) { touched += removed + added; });
-    }
-
-    void typeAt(int line, const QString &text)
-    {
-        box().setSelStart(box().lineStart(line));
-        type(text);
-    }
-    void undo()
-    {
-        touched = 0;
-        key(Qt::Key_Z, Qt::ControlModifier);
-    }
-    void redo()
-    {
-        touched = 0;
-        key(Qt::Key_Y, Qt::ControlModifier);
-    }
-    void replaceAll(const QString &words, const QString &text)
-    {
-        view().showFindBar();
-        QTest::keyClicks(list->findChild<QComboBox *>(u"FindBarWanted"_s), words);
-        const auto click = [this](const QString &name) {
-            QTest::mouseClick(list->findChild<QAbstractButton *>(name), Qt::LeftButton);
-        };
-        click(u"FindBarMore"_s);
-        QTest::keyClicks(list->findChild<QComboBox *>(u"FindBarReplacement"_s), text);
-        click(u"FindBarReplaceAll"_s);
-        box().setFocus();
-    }
-    bool hasTouchedFew() const { return touched > 0 && touched < 500; }
-
-    // With the same words and colours.
-    void compareWithOpenedAnew()
-    {
-        finish();
-        ORVListView other;
-        other.setListviewType(dsCode);
-        other.openProgram(list->CodeText());
-        comparePictures(pictureOf(box()), pictureOf(*other.RTextBox()));
-    }
-
-    // What the text that the ring is at looks like, set as a whole.
-    void compareWithTheRing()
-    {
-        colours().giveAll();
-        const QString text = splitUndoRecord(ring().FetchUndoSnapshot(ring().UndoCurrent())).text;
-        const EditorThread thread = EditorThread::current();
-        RichTextBox other;
-        other.setColoured(colouredText(thread.colouring(), text, false, thread.settings()));
-        QCOMPARE(list->CodeText(), other.Text());
-        comparePictures(pictureOf(box()), pictureOf(other));
-    }
-
-    // As it takes to get ready for a step.
-    void rest() { QTest::qWait(900); }
-
-    int touched = 0;
-};
-
-struct KeepingHost : SteppingHost
-{
-    KeepingHost() { view().setKeepsText(true); }
-};
-
-// Brackets that are not set off, and blanks in the colours of the lines before.
-QString colouredProgram()
-{
-    QStringList lines = longProgram().replace(u")\t"_s, u") "_s).split(u"\r\n"_s);
-    for (qsizetype i = 0; i + 1 < lines.size(); i += 10) {
-        lines[i] = u"if (temp1>limit1 ) and (fan1) and (limit1) and ((temp1))"_s;
-        lines[i + 1] = i % 20 == 0 ? u" \t "_s : u""_s;
-    }
-    return lines.join(u"\r\n"_s);
-}
-
-} // namespace
 
 class LineStepTest : public WidgetTest
 {

@@ -1,7 +1,7 @@
 // What the components do when they get no memory. Only what they take themselves fails:
 // the toolkit is not made for it.
 
-#include "editor/EditorHost.h"
+#include "editor/SteppingHost.h"
 #include "faults/FailingAllocation.h"
 #include "find/FindDialog.h"
 #include "find/fFind.h"
@@ -105,6 +105,37 @@ private Q_SLOTS:
         QCOMPARE(host.list->CodeText(), u'x' + program);
         host.list->Init_RichTextBox(host.settings);
         QCOMPARE(host.colourOf(u"ENDIF"_s), host.settings.ReservedWordColor);
+    }
+
+    // The memory fails when the box is empty, or while parts are coloured.
+    void aTextThatAStepCannotColourStays_data()
+    {
+        QTest::addColumn<int>("call");
+        for (const int call : {1, 2, 3, 5, 10, 20})
+            QTest::addRow("%d", call) << call;
+    }
+    void aTextThatAStepCannotColourStays()
+    {
+        QFETCH(const int, call);
+        SteppingHost host;
+        host.open((colouredProgram() + u"\r\n"_s).repeated(10));
+        host.finish();
+        host.typeAt(20'000, u"x y "_s);
+        const QString typed = host.list->CodeText();
+        std::optional<FailingAllocation> failing;
+        const QTextDocument *document = host.box().document();
+        const auto watch = connect(document, &QTextDocument::contentsChange, this, [&] {
+            if (!failing && document->isEmpty())
+                failing.emplace(call, Shortage::Once);
+        });
+        host.undo();
+        failing.reset();
+        disconnect(watch);
+        QVERIFY(FailingAllocation::hasFailed());
+        if (host.list->CodeText() == typed)
+            host.undo(); // it stays, and so do the steps
+        QVERIFY(host.list->CodeText() != typed);
+        host.compareWithTheRing();
     }
 
     // The log tells of it; what was saved before is whole.

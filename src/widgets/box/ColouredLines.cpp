@@ -21,6 +21,22 @@ void ColouredLines::append(const ColouredText &text)
     }
 }
 
+QString ColouredLines::text() const
+{
+    const QStringView lineEnd = u"\r\n";
+    qsizetype length = 0;
+    for (const ColouredText &part : m_parts)
+        length += lineEnd.size() + part.text.size();
+    QString result;
+    result.reserve(length);
+    for (const ColouredText &part : m_parts) {
+        if (&part != &m_parts.constFirst())
+            result += lineEnd;
+        result += part.text;
+    }
+    return result;
+}
+
 ColouredText ColouredLines::at(int index) const
 {
     const Line &wanted = line(index);

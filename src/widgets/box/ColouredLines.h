@@ -22,6 +22,7 @@ public:
     // As lines of their own.
     void append(const ColouredText &text);
 
+    QString text() const;
     int count() const { return static_cast<int>(m_lines.size()); }
     ColouredText at(int index) const;
     QStringView textOf(int index) const;

@@ -60,23 +60,29 @@ void clearAll(QTextDocument &document)
         clearOnce(document);
 }
 
-// Into an empty document, without the colours where they come late. The text as a whole.
-QString putParts(const RichTextBox::NextPart &next, bool isLate, QTextDocument &document,
-                 BoxFormats &formats, ColouredLines &lines)
+// Into an empty document, without the colours where they come late.
+ColouredLines putParts(const RichTextBox::NextPart &next, bool isLate, QTextDocument &document,
+                       BoxFormats &formats)
 {
-    QString whole;
+    ColouredLines lines;
     QTextCursor cursor(&document);
     BoxSink sink(cursor, formats);
     for (auto part = next(); part; part = next()) {
-        if (lines.count() > 0) {
-            sink.lineEnd();
-            whole += u"\r\n";
-        }
-        writeColoured(isLate ? ColouredText{part->text, {}} : *part, formats.base(), sink);
-        whole += part->text;
+        int line = lines.count();
         lines.append(*part);
+        if (!isLate) {
+            if (line > 0)
+                sink.lineEnd();
+            writeColoured(*part, formats.base(), sink);
+            continue;
+        }
+        for (; line < lines.count(); ++line) {
+            if (line > 0)
+                sink.lineEnd();
+            sink.text(lines.textOf(line), formats.base());
+        }
     }
-    return whole;
+    return lines;
 }
 
 // Without the document's margin, which the toolkit adds to its last line.
@@ -423,10 +429,10 @@ void RichTextBox::setColoured(const NextPart &next)
         const quint64 replacement = d->replacements;
         ColouredLines lines;
         try {
-            const QString whole = putParts(next, allowed, *document(), d->formats, lines);
+            lines = putParts(next, allowed, *document(), d->formats);
             if (d->replacements != replacement)
                 return; // a receiver of the document has put in another text
-            d->text.know(whole, false);
+            d->text.know(lines.text(), false);
         } catch (...) { // half a text would pass for a whole one
             failure = std::current_exception();
             clearAll(*document());

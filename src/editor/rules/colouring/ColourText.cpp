@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace ORVTListview {
@@ -65,10 +66,10 @@ private:
     QChar *m_end = m_gathered.data();
 };
 
-class ColouredTextBuilder final : public ColourSink
+class ColouredPartBuilder final : public ColourSink
 {
 public:
-    explicit ColouredTextBuilder(const RichTextSettings &settings)
+    explicit ColouredPartBuilder(const RichTextSettings &settings)
     {
         for (int slot = 1; slot <= colourSlots; ++slot)
             m_colours[static_cast<std::size_t>(slot)] = shownColour(colourOfSlot(slot, settings));
@@ -76,47 +77,41 @@ public:
 
     void run(const ColourRun &run) override
     {
-        m_hasRun = true;
-        m_colour = m_colours[static_cast<std::size_t>(run.colourIndex)];
+        result.lastWord = m_colours[static_cast<std::size_t>(run.colourIndex)];
         append(run.shown);
     }
     void blank() override { append(u" "); }
     void tab() override { append(u"\t"); }
     void lineEnd() override { append(u"\r\n"); }
 
-    ColouredText result;
-
-    // Adds what is made of the lines behind. What stands before their first word continues
-    // in the colour here.
-    void join(const ColouredTextBuilder &next)
-    {
-        lineEnd();
-        qsizetype before = next.m_beforeRuns;
-        result.text.append(next.result.text);
-        result.appendRun(before, m_colour);
-        for (const ColouredText::Run &run : next.result.runs) {
-            const qsizetype taken = std::min(before, run.length);
-            before -= taken;
-            result.appendRun(run.length - taken, run.colour);
-        }
-        if (next.m_hasRun)
-            m_colour = next.m_colour;
-    }
+    ColouredPart result;
 
 private:
     void append(QStringView text)
     {
-        result.text.append(text);
-        result.appendRun(text.size(), m_colour);
-        if (!m_hasRun)
-            m_beforeRuns += text.size();
+        ColouredText &lines = result.lines;
+        lines.text.append(text);
+        lines.appendRun(text.size(), result.lastWord.value_or(ColouredText::automatic));
+        if (!result.lastWord)
+            result.beforeWord += text.size();
     }
 
     std::array<Colour, colourSlots + 1> m_colours{ColouredText::automatic};
-    Colour m_colour = ColouredText::automatic;
-    bool m_hasRun = false;
-    qsizetype m_beforeRuns = 0;
 };
+
+// As if the lines behind had been coloured with those before.
+void join(ColouredPart &lines, ColouredPart &&behind)
+{
+    const Colour colour = lines.lastWord.value_or(ColouredText::automatic);
+    behind.goOnIn(colour);
+    lines.lines.text.append(u"\r\n");
+    lines.lines.appendRun(2, colour);
+    lines.lines.text.append(behind.lines.text);
+    for (const ColouredText::Run &run : std::as_const(behind.lines.runs))
+        lines.lines.appendRun(run.length, run.colour);
+    if (behind.lastWord)
+        lines.lastWord = behind.lastWord;
+}
 
 } // namespace
 
@@ -151,25 +146,49 @@ QString ColourToken(const ColourEngine &engine, QStringView Token)
     return rtf;
 }
 
+void ColouredPart::goOnIn(Colour colour)
+{
+    if (beforeWord == 0 || colour == ColouredText::automatic)
+        return;
+    QList<ColouredText::Run> &runs = lines.runs; // the first has the blanks, as automatic
+    if (runs.constFirst().length > beforeWord) {
+        runs.first().length -= beforeWord;
+        runs.prepend({beforeWord, colour});
+        return;
+    }
+    runs.first().colour = colour;
+    if (runs.size() > 1 && runs[1].colour == colour) {
+        runs.first().length += runs[1].length;
+        runs.removeAt(1);
+    }
+}
+
+ColouredPart colouredPart(const ColourEngine &engine, QStringView lines, bool firstLineIsComment,
+                          const RichTextSettings &settings)
+{
+    ColouredPartBuilder builder(settings);
+    builder.result.lines.text.reserve(lines.size() * 9 / 8);
+    engine.colourLines(lines, firstLineIsComment, builder);
+    return std::move(builder.result);
+}
+
 ColouredText colouredText(const ColourEngine &engine, QStringView text, bool firstLineIsComment,
                           const RichTextSettings &settings)
 {
     if (!engine.isForThreads()) {
-        ColouredTextBuilder builder(settings);
+        ColouredPartBuilder builder(settings);
         engine.colourText(text, firstLineIsComment, builder);
-        return builder.result;
+        return std::move(builder.result.lines);
     }
-    const QList<QStringView> parts = partsOfLines(text);
-    std::vector<ColouredTextBuilder> builders(static_cast<std::size_t>(parts.size()),
-                                              ColouredTextBuilder(settings));
-    atTheSameTime(parts.size(), [&](qsizetype part) {
-        ColouredTextBuilder &builder = builders[static_cast<std::size_t>(part)];
-        builder.result.text.reserve(parts[part].size() * 9 / 8);
-        engine.colourLines(parts[part], firstLineIsComment && part == 0, builder);
+    const QList<QStringView> texts = partsOfLines(text);
+    std::vector<ColouredPart> parts(static_cast<std::size_t>(texts.size()));
+    atTheSameTime(texts.size(), [&](qsizetype part) {
+        parts[static_cast<std::size_t>(part)] =
+            colouredPart(engine, texts[part], firstLineIsComment && part == 0, settings);
     });
-    for (const ColouredTextBuilder &next : std::span(builders).subspan(1))
-        builders.front().join(next);
-    return builders.front().result;
+    for (ColouredPart &next : std::span(parts).subspan(1))
+        join(parts.front(), std::move(next));
+    return std::move(parts.front().lines);
 }
 
 } // namespace ORVTListview

@@ -4,6 +4,8 @@
 #include "base/HouseExport.h"
 #include "editor/rules/colouring/ColourEngine.h"
 
+#include <optional>
+
 namespace ORVTListview {
 
 // Program text as RTF. The text goes in without escaping, on purpose: a "\", "{"
@@ -19,5 +21,18 @@ QString ColourToken(const ColourEngine &engine, QStringView Token);
 ORVT_HOUSE_EXPORT ColouredText colouredText(const ColourEngine &engine, QStringView text,
                                             bool firstLineIsComment,
                                             const RichTextSettings &settings);
+
+// What that makes of some lines of a text. Blanks before their first word go on in the colour
+// of the last word before them.
+struct ColouredPart
+{
+    ColouredText lines;
+    qsizetype beforeWord = 0; // as a whole when there is no word
+    std::optional<Colour> lastWord;
+
+    void goOnIn(Colour colour);
+};
+ColouredPart colouredPart(const ColourEngine &engine, QStringView lines, bool firstLineIsComment,
+                          const RichTextSettings &settings);
 
 } // namespace ORVTListview
