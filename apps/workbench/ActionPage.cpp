@@ -1,5 +1,6 @@
 #include "ActionPage.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QShowEvent>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -117,6 +118,17 @@ void ActionPage::changeEvent(QEvent *event)
         alignSteps();
     }
     QScrollArea::changeEvent(event);
+}
+
+// A button takes the Return key in dialogs only.
+void ActionPage::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto *button = qobject_cast<QPushButton *>(window()->focusWidget());
+    if (isReturn && !event->isAutoRepeat() && button && isAncestorOf(button))
+        button->click();
+    else
+        QScrollArea::keyPressEvent(event);
 }
 
 // Not when the window comes back, and the user has been on it already.

@@ -45,6 +45,7 @@ protected:
     void addBelow(QWidget &widget);
 
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

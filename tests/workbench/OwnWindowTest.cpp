@@ -52,6 +52,18 @@ class OwnWindowTest : public WidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void itDoesNotCoverThePlaceThatItLeaves()
+    {
+        WorkbenchWindow work("Fan1 = Temp1");
+        work.views().enterType(dsInput);
+        const ViewDock &inputs = work.views().tables().dock(dsInput);
+        const QPoint place = inputs.mapToGlobal(QPoint());
+        work.choose(u"Own Window"_s);
+        QVERIFY(inputs.isFloating());
+        QVERIFY(inputs.pos().x() > place.x());
+        QVERIFY(inputs.pos().y() > place.y());
+    }
+
     void itGoesWithItsProjectAndComesWithTheNext()
     {
         Floating work;

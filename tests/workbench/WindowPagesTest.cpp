@@ -6,6 +6,8 @@
 #include "workbench/life/RecentProjects.h"
 #include "workbench/life/StartPage.h"
 
+#include <QtCore/QSignalBlocker>
+#include <QtTest/QSignalSpy>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 
@@ -56,6 +58,23 @@ private Q_SLOTS:
         workbench.window.show();
         QCOMPARE(workbench.window.focusWidget(), files);
         QCOMPARE(files->currentRow(), 1);
+    }
+
+    void theReturnKeyIsTheFocusedButtons()
+    {
+        WorkbenchWindow workbench("Fan1 = Temp1\n");
+        workbench.choose(u"Close Project"_s);
+        auto *page = workbench.window.findChild<StartPage *>();
+        const auto buttons = page->findChildren<QPushButton *>();
+        QCOMPARE(buttons.size(), 2);
+        for (QPushButton *button : buttons) {
+            QSignalSpy clicks(button, &QPushButton::clicked);
+            const QSignalBlocker quiet(page); // the dialogs are others' subject
+            button->setFocus();
+            QTest::keyClick(button, Qt::Key_Return);
+            QTest::keyClick(button, Qt::Key_Enter, Qt::KeypadModifier);
+            QCOMPARE(clicks.count(), 2);
+        }
     }
 };
 

@@ -36,7 +36,8 @@ QString ProjectLife::folder() const
         if (!file.isEmpty() && !isOneFile(file, sample) && QFileInfo(beside).isDir())
             return beside;
     }
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath(); // no name to open
 }
 
 // While a dialog is open the window may go.

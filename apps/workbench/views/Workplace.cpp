@@ -179,7 +179,12 @@ void Workplace::floatCurrent()
         return;
     const QWidget *focus = QApplication::focusWidget();
     const bool hadFocus = focus && dock->isAncestorOf(focus);
-    dock->setFloating(!dock->isFloating()); // loses the focus
+    const QPoint place = dock->mapToGlobal(QPoint());
+    dock->setFloating(!dock->isFloating());           // loses the focus
+    if (dock->isFloating() && dock->pos() == place) { // a window that covers its own hole is none
+        const int aside = 2 * fontMetrics().height();
+        dock->move(place + QPoint(aside, aside));
+    }
     if (hadFocus)
         enter(*dock);
     else
