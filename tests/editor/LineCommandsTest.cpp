@@ -71,7 +71,7 @@ private Q_SLOTS:
         QCOMPARE(after(by(-1), u"a\nb\n|c"_s), u"a\n|c\nb"_s);
         QCOMPARE(after(by(1), u"x|a\nb|b\nc"_s), u"c\nx|a\nb|b"_s);
         QCOMPARE(after(by(1), u"|a\n|b\nc"_s), u"b\n|a\n|c"_s); // a line only ended at stays
-        QCOMPARE(after(by(1), u"|a\n|b"_s), u"b\n|a|"_s); // and there is none behind the last
+        QCOMPARE(after(by(1), u"|a\n|b"_s), u"b\n|a|"_s);       // and there is none behind the last
         QCOMPARE(after(by(9), u"a|\nb\nc"_s), u"b\nc\na|"_s);
         QCOMPARE(after(by(-9), u"a\nb\n|\n"_s), u"|\na\nb\n"_s);
         QCOMPARE(after(by(1), u"a\n|"_s), u"a\n|"_s);
