@@ -241,6 +241,10 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(views.place().current(), &views.dock(dsInput));
         QVERIFY(views.hasFocus(views.tree()));
+        QTest::keyClick(tabs, Qt::Key_Left); // as one without the focus may get it, too
+        QCoreApplication::processEvents();
+        QCOMPARE(views.place().current(), &views.dock(dsCode));
+        QVERIFY(views.hasFocus(views.tree()));
     }
 
     void onlyTablesHaveAButtonThatCloses()

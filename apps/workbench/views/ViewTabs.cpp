@@ -34,12 +34,12 @@ QList<QTabBar *> tabBars(const Workplace &workplace)
     return workplace.findChildren<QTabBar *>(); // also of windows that have several
 }
 
-// The wheel over tabs brings another view to the front, which is then the current one. The
-// focus goes there if it was in the one before.
-class WheelOverTabs : public QObject
+// The wheel over tabs, or a key that reaches them, brings another view to the front, which is
+// then the current one. The focus goes there if it was in the one before.
+class TabsFollowing : public QObject
 {
 public:
-    WheelOverTabs(Workplace &workplace, QTabBar &tabs)
+    TabsFollowing(Workplace &workplace, QTabBar &tabs)
         : QObject(&tabs)
         , m_workplace(workplace)
         , m_tabs(tabs)
@@ -50,7 +50,7 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Wheel) {
+        if (event->type() == QEvent::Wheel || event->type() == QEvent::KeyPress) {
             const ViewDock *dock = m_workplace.current();
             const bool hasFocus = dock && dock->isAncestorOf(QApplication::focusWidget());
             QMetaObject::invokeMethod(
@@ -78,7 +78,7 @@ private:
 // The focus goes with a click, but not before the toolkit has it: a drag may begin.
 void connectTabs(Workplace &workplace, QTabBar &tabs)
 {
-    new WheelOverTabs(workplace, tabs);
+    new TabsFollowing(workplace, tabs);
     QObject::connect(&tabs, &QTabBar::tabBarClicked, &workplace, [&workplace, &tabs](int index) {
         QMetaObject::invokeMethod(
             &workplace,
