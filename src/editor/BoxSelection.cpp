@@ -1,8 +1,8 @@
 #include "editor/BoxSelection.h"
 
+#include "widgets/box/BoxText.h"
 #include <ORVTListview/RichTextBox.h>
 
-#include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
 
@@ -19,13 +19,10 @@ BoxSelection selectionOf(const RichTextBox &box)
 
 void select(RichTextBox &box, const BoxSelection &selection)
 {
-    const auto inDocument = [&box](qint32 place) {
-        const qint32 line = box.GetLineFromChar(place);
-        return box.document()->findBlockByNumber(line).position() + place - box.lineStart(line);
-    };
+    const BoxText &text = BoxText::of(*box.document());
     QTextCursor cursor = box.textCursor();
-    cursor.setPosition(inDocument(selection.anchor));
-    cursor.setPosition(inDocument(selection.caret), QTextCursor::KeepAnchor);
+    cursor.setPosition(text.toDocument(selection.anchor));
+    cursor.setPosition(text.toDocument(selection.caret), QTextCursor::KeepAnchor);
     box.setTextCursor(cursor);
 }
 

@@ -22,6 +22,8 @@ struct BoxSelection
     qint32 caret = 0;
 };
 BoxSelection selectionOf(const RichTextBox &box);
+
+// An end behind the text comes to the text's end.
 void select(RichTextBox &box, const BoxSelection &selection);
 
 // The lines that the selection touches; one at whose very start it ends is not touched.

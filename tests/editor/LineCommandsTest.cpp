@@ -71,6 +71,7 @@ private Q_SLOTS:
         QCOMPARE(after(by(-1), u"a\nb\n|c"_s), u"a\n|c\nb"_s);
         QCOMPARE(after(by(1), u"x|a\nb|b\nc"_s), u"c\nx|a\nb|b"_s);
         QCOMPARE(after(by(1), u"|a\n|b\nc"_s), u"b\n|a\n|c"_s); // a line only ended at stays
+        QCOMPARE(after(by(1), u"|a\n|b"_s), u"b\n|a|"_s);       // and there is none behind the last
         QCOMPARE(after(by(9), u"a|\nb\nc"_s), u"b\nc\na|"_s);
         QCOMPARE(after(by(-9), u"a\nb\n|\n"_s), u"|\na\nb\n"_s);
         QCOMPARE(after(by(1), u"a\n|"_s), u"a\n|"_s);
@@ -337,6 +338,22 @@ private Q_SLOTS:
         });
         view().duplicateLines();
         QVERIFY(!list);
+    }
+
+    void aHostMayTakeTextAwayWhenTheCaretMoves_data() { everyChange_data(); }
+    void aHostMayTakeTextAwayWhenTheCaretMoves()
+    {
+        QFETCH(const Command, command);
+        m_host->setText(changeable().replace(u"\n"_s, u"\r\n"_s));
+        bool isTaken = false;
+        connect(&box(), &RichTextBox::cursorPositionChanged, this, [this, &isTaken] {
+            if (!std::exchange(isTaken, true))
+                box().setText(u"x"_s);
+        });
+        command(view());
+        QVERIFY(isTaken);
+        QCOMPARE(box().Text(), u"x"_s);
+        QVERIFY(box().SelStart() + box().SelLength() <= 1);
     }
 
     void tellsWhetherCommandsArePossible()

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <exception>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace ORVTListview {
@@ -45,6 +46,13 @@ public:
     }
 
     QString done() const { return m_done.join(QStringLiteral(", ")); }
+
+    // The last acts of them, for a session too long to be taken again.
+    QString doneLast() const
+    {
+        constexpr qsizetype most = 60;
+        return m_done.last(std::min(most, m_done.size())).join(QStringLiteral(", "));
+    }
 
 protected:
     virtual void act() = 0;
@@ -105,12 +113,14 @@ QString failureIn(int sessions, int allSteps)
         const auto wrongIn = [seed](const std::vector<unsigned> &some) {
             return Session(seed).take(some);
         };
-        const QString found = wrongIn(steps);
+        auto whole = std::make_unique<Session>(seed);
+        const QString found = whole->take(steps);
         if (found.isEmpty())
             continue;
-        std::printf("A session of %d steps went wrong: %s; fewer are looked for\n", each,
-                    qPrintable(found));
+        std::printf("A session of %d steps went wrong: %s after: %s\nFewer are looked for\n", each,
+                    qPrintable(found), qPrintable(whole->doneLast()));
         std::fflush(stdout);
+        whole.reset();
         const auto fails = [&](const std::vector<unsigned> &some) {
             return !wrongIn(some).isEmpty();
         };

@@ -17,6 +17,7 @@
 #include <ORVTListview/ReportList.h>
 
 #include <QtCore/QSettings>
+#include <QtGui/QWheelEvent>
 #include <QtWidgets/QTabBar>
 
 #include <algorithm>
@@ -217,6 +218,33 @@ private Q_SLOTS:
         views.press(Qt::Key_PageUp, Qt::ControlModifier);
         QCOMPARE(views.shown().objectName(), u"Inputs"_s);
         QVERIFY(views.hasFocus(views.dock(dsInput)));
+    }
+
+    void theWheelOverTabsChoosesTheView()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        QCoreApplication::processEvents();
+        auto *tabs = views.place().findChild<QTabBar *>();
+        const QPoint place = tabs->rect().center();
+        QWheelEvent notch(place, tabs->mapToGlobal(place), {}, {0, 120}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(tabs, &notch);
+        QCoreApplication::processEvents();
+        QVERIFY(views.dock(dsCode).isSeen());
+        QCOMPARE(views.place().current(), &views.dock(dsCode));
+        QVERIFY(views.hasFocus(views.dock(dsCode)));
+        views.tree().setFocus();
+        QWheelEvent back(place, tabs->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(tabs, &back);
+        QCoreApplication::processEvents();
+        QCOMPARE(views.place().current(), &views.dock(dsInput));
+        QVERIFY(views.hasFocus(views.tree()));
+        QTest::keyClick(tabs, Qt::Key_Left); // as one without the focus may get it, too
+        QCoreApplication::processEvents();
+        QCOMPARE(views.place().current(), &views.dock(dsCode));
+        QVERIFY(views.hasFocus(views.tree()));
     }
 
     void onlyTablesHaveAButtonThatCloses()

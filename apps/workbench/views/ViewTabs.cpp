@@ -6,6 +6,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QTabBar>
 
@@ -33,9 +34,51 @@ QList<QTabBar *> tabBars(const Workplace &workplace)
     return workplace.findChildren<QTabBar *>(); // also of windows that have several
 }
 
-// The focus goes with a click, but not before the toolkit has it: a drag may begin.
-void connectTabs(Workplace &workplace, const QTabBar &tabs)
+// The wheel over tabs, or a key that reaches them, brings another view to the front, which is
+// then the current one. The focus goes there if it was in the one before.
+class TabsFollowing : public QObject
 {
+public:
+    TabsFollowing(Workplace &workplace, QTabBar &tabs)
+        : QObject(&tabs)
+        , m_workplace(workplace)
+        , m_tabs(tabs)
+    {
+        tabs.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Wheel || event->type() == QEvent::KeyPress) {
+            const ViewDock *dock = m_workplace.current();
+            const bool hasFocus = dock && dock->isAncestorOf(QApplication::focusWidget());
+            QMetaObject::invokeMethod(
+                this, [this, hasFocus] { follow(hasFocus); }, Qt::QueuedConnection);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void follow(bool withFocus)
+    {
+        ViewDock *dock = dockAt(m_workplace, m_tabs, m_tabs.currentIndex());
+        if (!dock || dock == m_workplace.current())
+            return;
+        if (withFocus)
+            m_workplace.enter(*dock);
+        else
+            m_workplace.show(*dock);
+    }
+
+    Workplace &m_workplace;
+    QTabBar &m_tabs;
+};
+
+// The focus goes with a click, but not before the toolkit has it: a drag may begin.
+void connectTabs(Workplace &workplace, QTabBar &tabs)
+{
+    new TabsFollowing(workplace, tabs);
     QObject::connect(&tabs, &QTabBar::tabBarClicked, &workplace, [&workplace, &tabs](int index) {
         QMetaObject::invokeMethod(
             &workplace,

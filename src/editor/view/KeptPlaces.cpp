@@ -127,13 +127,16 @@ void KeptPlaces::settle(qsizetype i)
         shift(m_kept[m_settled - 1], -m_shift, -m_lineShift);
 }
 
+// The toolkit counts the end of the last line in where that line takes another form.
 void KeptPlaces::noteChange(int from, int removed, int added)
 {
     const int lineCount = m_document.blockCount();
-    const Change change{from, removed, added, lineCount - std::exchange(m_lineCount, lineCount)};
+    const int lastPlace = m_document.characterCount() - 1;
+    const int beyond = std::max(0, from + added - lastPlace);
+    const Change change{from, std::max(0, removed - beyond), added - beyond,
+                        lineCount - std::exchange(m_lineCount, lineCount)};
     if (m_kept.isEmpty())
         return;
-    const int lastPlace = m_document.characterCount() - 1;
     const int firstLine = m_document.findBlock(std::min(from, lastPlace)).position();
     const QTextBlock lastLine = m_document.findBlock(std::min(change.end(), lastPlace));
     const qsizetype begin = firstFrom(std::min(firstLine, from - m_longest));

@@ -219,6 +219,21 @@ private Q_SLOTS:
         selected(*m_text, 4, 6).removeSelectedText(); // with the line end before it
         QVERIFY(m_places->isGone(0));
     }
+
+    void stayInTheTextWhoseLastLineTakesAnotherForm()
+    {
+        begin(u"one\n"_s, KeptPlaces::Kind::Texts);
+        m_places->set({{4, 4}});
+        QTextCursor end(m_text.get());
+        end.beginEditBlock();
+        end.movePosition(QTextCursor::End);
+        end.insertText(u"two"_s);
+        QTextBlockFormat right;
+        right.setAlignment(Qt::AlignRight);
+        end.setBlockFormat(right);
+        end.endEditBlock();
+        QCOMPARE(m_places->at(0).from, 7);
+    }
 };
 
 ORVT_TEST(KeptPlacesTest)
