@@ -60,10 +60,10 @@ DragEvents::DragEvents(QWidget &widget, QWidget &surface)
 
 DragEvents::~DragEvents()
 {
+    m_isAnnounced = false; // nobody is told of the leave
     cancel();
     if (std::exchange(m_isOver, false)) {
         // The toolkit keeps a pointer to the surface until it has been left.
-        m_isAnnounced = false;
         QDragLeaveEvent left;
         QCoreApplication::sendEvent(&m_surface, &left);
     }
@@ -90,8 +90,11 @@ void DragEvents::begin()
 
 void DragEvents::cancel()
 {
-    if (m_source == Source::Running)
+    if (m_source == Source::Running) {
         QDrag::cancel();
+        // In the first feedback there is no loop yet that the toolkit could end.
+        QMetaObject::invokeMethod(m_running.data(), &QDrag::cancel, Qt::QueuedConnection);
+    }
     m_source = Source::Idle;
 }
 
@@ -128,6 +131,7 @@ void DragEvents::run(std::unique_ptr<DragData> data, qint32 allowed)
     drag->setMimeData(data.release());
     connect(drag, &QDrag::actionChanged, this, &DragEvents::giveFeedback);
     m_source = Source::Running;
+    m_running = drag;
     const Qt::DropAction done =
         drag->exec(toActions(allowed), toAction(allowed, toActions(allowed)));
     if (!self)
@@ -197,7 +201,7 @@ void DragEvents::over(QDropEvent &event)
     const State state = std::exchange(m_isAnnounced, true) ? Over : Enter;
     const QPointer<DragEvents> self(this);
     const qint32 effect = raiseOver(effectOf(event), mouse, state);
-    answer(event, effect); // the event lives on even if this object does not
+    answer(event, self ? effect : None); // the event lives on even if this object does not
     if (self && m_target)
         m_target->show(event, effect);
 }
@@ -224,10 +228,12 @@ void DragEvents::drop(QDropEvent &event)
     DataObject data(const_cast<QMimeData *>(event.mimeData()), DataObject::Side::Target);
     const MouseArguments mouse = mouseOf(event);
     qint32 effect = effectOf(event);
-    const bool isThere = raiseEvent(*this, &DragEvents::OLEDragDrop, &data, effect, mouse.Button,
-                                    mouse.Shift, mouse.X, mouse.Y);
+    const Raised raised = raise(*this, &DragEvents::OLEDragDrop, &data, effect, mouse.Button,
+                                mouse.Shift, mouse.X, mouse.Y);
+    if (raised.hasFailed) // nobody knows what was taken, so nothing is to be moved away
+        effect = None;
     answer(event, effect);
-    if (isThere && m_target && effect != None)
+    if (raised.isThere && m_target && effect != None)
         m_target->drop(event, effect);
 }
 

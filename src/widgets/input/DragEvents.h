@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 
+class QDrag;
 class QDropEvent;
 class QEvent;
 class QMimeData;
@@ -116,6 +117,7 @@ private:
     QWidget &m_surface;
     std::function<void(QMimeData &)> m_content;
     Source m_source = Source::Idle;
+    QPointer<QDrag> m_running;
     qint32 m_allowed = Copy;
     DropTarget *m_target = nullptr;
 
