@@ -2,6 +2,7 @@
 
 #include "base/EventGuard.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
 #include <memory>
@@ -12,7 +13,7 @@ namespace ORVTListview {
 // The child of a widget that gets its events. A receiver may destroy the widget
 // while one is delivered; the toolkit goes on with the child all the same (after a
 // press of the right button it asks it for a context menu), so the child then
-// stays until the event is over.
+// stays until the event is over, whatever loops are run meanwhile: a drag, a dialog.
 class EventSurface
 {
 public:
@@ -26,25 +27,32 @@ public:
     template <typename Act>
     bool deliver(Act &&act)
     {
-        const std::shared_ptr<int> depth = m_depth; // outlives this object
-        ++*depth;
+        const std::shared_ptr<Events> events = m_events; // outlives this object
+        ++events->atWork;
         const bool handled = EventGuard::run(std::forward<Act>(act));
-        --*depth;
+        if (--events->atWork == 0 && events->left)
+            events->left->deleteLater();
         return handled;
     }
 
     // For the widget's destructor.
     void letGo()
     {
-        if (*m_depth == 0)
+        if (m_events->atWork == 0)
             return;
         m_surface.setParent(nullptr);
-        m_surface.deleteLater();
+        m_events->left = &m_surface;
     }
 
 private:
+    struct Events
+    {
+        int atWork = 0;
+        QPointer<QWidget> left; // without its widget
+    };
+
     QWidget &m_surface;
-    std::shared_ptr<int> m_depth = std::make_shared<int>(0);
+    std::shared_ptr<Events> m_events = std::make_shared<Events>();
 };
 
 } // namespace ORVTListview
