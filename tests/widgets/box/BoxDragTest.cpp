@@ -61,6 +61,7 @@ private Q_SLOTS:
     void aMoveRemovesWhatWasDragged();
     void aBoxMadeReadOnlyMeanwhileKeepsItsText();
     void aReadOnlyBoxGivesCopies();
+    void aBoxMayGoWhileItIsDraggedFrom();
     void aClickIntoTheSelectionDoesNotDrag();
     void aSelectionThatIsGoneIsNotDragged();
     void aMiddleClickEndsInPaste();
@@ -177,6 +178,25 @@ void BoxDragTest::aReadOnlyBoxGivesCopies()
     drag(inWindow(*m_box, 1), inWindow(*m_other, 8));
     QCOMPARE(m_other->Text(), u"one two one three"_s);
     QCOMPARE(m_box->Text(), u"one two three"_s);
+}
+
+void BoxDragTest::aBoxMayGoWhileItIsDraggedFrom()
+{
+    m_box->setSelLength(4);
+    QWindow *window = m_window->windowHandle();
+    const QPoint from = inWindow(*m_box, 1);
+    const QPoint to = inWindow(*m_other, 8);
+    QTest::mousePress(window, Qt::LeftButton, {}, from);
+    QTimer::singleShot(0, window, [this] { delete std::exchange(m_box, nullptr); });
+    QTimer::singleShot(20, window, [window, to] { // in a later turn of the drag's loop
+        QTest::mouseMove(window, to - QPoint(1, 0));
+        QTest::mouseMove(window, to);
+        QTest::mouseRelease(window, Qt::LeftButton, {}, to);
+    });
+    QTest::mouseMove(window, from + QPoint(40, 0));
+    QCoreApplication::processEvents();
+    QVERIFY(m_other->Text().contains(u"one "_s)); // where the layout has put the place
+    QCOMPARE(m_other->TextLength(), 17);
 }
 
 void BoxDragTest::aClickIntoTheSelectionDoesNotDrag()

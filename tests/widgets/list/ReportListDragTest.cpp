@@ -87,6 +87,9 @@ private Q_SLOTS:
     void startsNothingWithoutAButton();
     void isCalledOffByTheProgram();
     void isCalledOffByEscape();
+    void isCalledOffAtItsFirstFeedback();
+    void aHostThatFailsHasTakenNothing();
+    void tellsNobodyOfALeaveWhenItGoes();
     void doesNotDragUnlessAsked();
     void bearsAnythingInADragEvent_data();
     void bearsAnythingInADragEvent();
@@ -388,6 +391,57 @@ void ReportListDragTest::isCalledOffByEscape()
     drag(shown, {shown.cell(4)});
     QVERIFY2(log.text().contains(u"complete 0"_s), qPrintable(log.text()));
     QVERIFY(!log.text().contains(u"drop"_s));
+}
+
+void ReportListDragTest::isCalledOffAtItsFirstFeedback()
+{
+    const ShownList shown;
+    shown->setDragEnabled(true);
+    shown->setAcceptDrops(true);
+    bool isDone = false;
+    connect(shown.list, &ReportList::OLEGiveFeedback, this, [&] {
+        if (!std::exchange(isDone, true))
+            shown->Drag(2);
+    });
+    const DragLog log(shown.list);
+    drag(shown, {shown.cell(4)});
+    QVERIFY(isDone);
+    QVERIFY2(log.text().endsWith(u"complete 0"_s), qPrintable(log.text()));
+    QVERIFY(!log.text().contains(u"drop"_s));
+}
+
+// What is moved away from where it was is lost if nobody has taken it.
+void ReportListDragTest::aHostThatFailsHasTakenNothing()
+{
+    const ShownList shown;
+    shown->setDragEnabled(true);
+    shown->setAcceptDrops(true);
+    connect(shown.list, &ReportList::OLEStartDrag, this,
+            [](DataObject *, qint32 &effects) { effects = 2; });
+    connect(shown.list, &ReportList::OLEDragDrop, this, [] { throw 42; });
+    const DragLog log(shown.list);
+    QTest::ignoreMessage(QtWarningMsg, "An event handler failed");
+    drag(shown, {shown.cell(4)});
+    QVERIFY2(log.text().endsWith(u"complete 0"_s), qPrintable(log.text()));
+}
+
+void ReportListDragTest::tellsNobodyOfALeaveWhenItGoes()
+{
+    ShownList shown;
+    shown.form.setAcceptDrops(true); // takes over when the list goes
+    shown->setDragEnabled(true);
+    shown->setAcceptDrops(true);
+    bool isGone = false;
+    int told = 0;
+    connect(shown.list, &ReportList::OLEGiveFeedback, this, [&](qint32 effect, bool &) {
+        if (effect == 0 || std::exchange(isGone, true))
+            return;
+        delete shown.list;
+    });
+    connect(shown.list, &ReportList::OLEDragOver, this, [&] { told += isGone ? 1 : 0; });
+    drag(shown, {shown.cell(4)});
+    QVERIFY(isGone);
+    QCOMPARE(told, 0);
 }
 
 void ReportListDragTest::doesNotDragUnlessAsked()
