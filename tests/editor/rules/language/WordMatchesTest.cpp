@@ -1,4 +1,5 @@
 #include "editor/rules/language/WordMatches.h"
+#include "support/EveryFieldCounts.h"
 
 #include <gtest/gtest.h>
 
@@ -49,4 +50,11 @@ TEST(WordMatches, LettersAreToldWhereTheyStand)
     EXPECT_EQ(matchedLetters(u"Fan"_s, u"x"_s), MatchedLetters());
     EXPECT_EQ(matchedLetters(u"Fan"_s, QString()), MatchedLetters());
     EXPECT_EQ(matchedLetters(u"\U0001D538Fan"_s, u"fan"_s), (MatchedLetters{2, 3}));
+}
+
+TEST(WordMatches, LettersAreEqualInPlaceAndLength)
+{
+    expectEveryFieldCounts(
+        MatchedLetters{1, 3}, [](MatchedLetters &other) { other.start = 0; },
+        [](MatchedLetters &other) { other.length = 2; });
 }
