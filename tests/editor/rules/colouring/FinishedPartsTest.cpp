@@ -47,6 +47,19 @@ TEST(FinishedParts, TogetherAreTheFinishedText)
     }
 }
 
+// Without words every name is looked up at the host's, which is asked by one thread.
+TEST(FinishedParts, AreFinishedByOneThreadWhereTheHostIsAsked)
+{
+    Colouring colouring;
+    colouring.words = {};
+    ASSERT_FALSE(colouring.engine().isForThreads());
+    const QString text = u"if temp1 > 20\r\n"_s.repeated(20000) + u"endif"_s;
+    FinishedParts parts(colouring.engine(), text, defaultColours());
+    const ColouredText expected = finishedText(colouring.engine(), text, defaultColours());
+    EXPECT_EQ(expected.text, text);
+    EXPECT_TRUE(joined(parts) == expected);
+}
+
 TEST(FinishedParts, MayBeLeftBeforeTheEnd)
 {
     Colouring colouring;
