@@ -1,4 +1,6 @@
 #include "shared/settings/SettingsFile.h"
+
+#include "shared/settings/OverlaidSettings.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -39,4 +41,23 @@ TEST(SettingsOneFile, IsNoneOfAnotherPlace)
     EXPECT_FALSE(file.isOneWith(SettingsFile(folder.path(u"other/s"_s))));
     EXPECT_FALSE(file.isOneWith(SettingsFile(folder.path(u"missing/s"_s))));
     EXPECT_FALSE(file.isOneWith(NoFile()));
+}
+
+// Written to the one and taken from the other, it would be gone.
+TEST(SettingsOneFile, ForMachineAndUserKeepsItsSettings)
+{
+    const TestFolder folder;
+    const SettingKey key{u"Quillbox"_s, u"Code"_s};
+    const auto file = [&folder](const QString &name) {
+        return std::make_unique<SettingsFile>(folder.path(name));
+    };
+    OverlaidSettings one(file(u"s"_s), file(u"s"_s));
+    EXPECT_TRUE(one.write({{key, u"3"_s}}));
+    EXPECT_EQ(one.view()->value(key), u"3"_s);
+    OverlaidSettings two(file(u"s"_s), file(u"t"_s));
+    EXPECT_TRUE(SettingsFile(folder.path(u"t"_s)).write({{key, u"4"_s}}));
+    EXPECT_EQ(two.view()->value(key), u"4"_s);
+    EXPECT_TRUE(two.write({{key, u"5"_s}}));
+    EXPECT_EQ(two.view()->value(key), u"5"_s);
+    EXPECT_EQ(SettingsFile(folder.path(u"t"_s)).view()->value(key), std::nullopt);
 }
