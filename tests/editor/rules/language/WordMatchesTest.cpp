@@ -52,6 +52,14 @@ TEST(WordMatches, LettersAreToldWhereTheyStand)
     EXPECT_EQ(matchedLetters(u"\U0001D538Fan"_s, u"fan"_s), (MatchedLetters{2, 3}));
 }
 
+TEST(WordMatches, HalfALetterIsOne)
+{
+    const QString half = QChar(0xD801) + u"Fan"_s + QChar(0xD801);
+    EXPECT_EQ(matchedLetters(half, u"fan"_s), (MatchedLetters{1, 3}));
+    EXPECT_EQ(matchedLetters(half, QString(QChar(0xD801))), (MatchedLetters{0, 1}));
+    EXPECT_EQ(matchedLetters(half, u"n"_s + QChar(0xD801)), (MatchedLetters{3, 2}));
+}
+
 TEST(WordMatches, LettersAreEqualInPlaceAndLength)
 {
     expectEveryFieldCounts(
