@@ -1,7 +1,10 @@
 #include "base/MessageService.h"
-#include "support/RecordedMessages.h"
+#include "support/KeptLog.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -77,4 +80,48 @@ TEST(MessagesLater, GoToTheServiceThatIsInForceThen)
     }
     EXPECT_EQ(first.told, QString());
     EXPECT_EQ(second.told, u"<ab>"_s);
+}
+
+TEST(MessagesLater, AreToldThoughTheOperationFails)
+{
+    Recorded shown;
+    Messages messages;
+    messages.install(&shown);
+    const auto operation = [&messages] {
+        const MessagesLater later(messages);
+        messages.service().show(message(u"a"_s));
+        throw std::runtime_error("failed");
+    };
+    EXPECT_THROW(operation(), std::runtime_error);
+    EXPECT_EQ(shown.told, u"<a>"_s);
+}
+
+TEST(Messages, GoToTheLogWhereThereIsNoService)
+{
+    Messages::setDefaultService(nullptr);
+    Messages messages;
+    const KeptLog log;
+    messages.service().show({Message::Icon::Exclamation, u"Boiler"_s, u"The disk is full"_s});
+    {
+        const MessageBatch batch(messages.service());
+        messages.service().show(message(u"Once more"_s));
+    }
+    EXPECT_EQ(log.lines, QStringList({u"orvtlistview.messages: Boiler The disk is full"_s,
+                                      u"orvtlistview.messages:  Once more"_s}));
+}
+
+TEST(Messages, GoToTheInstalledServiceBeforeTheDefault)
+{
+    Recorded usual;
+    Recorded own;
+    Messages::setDefaultService(&usual);
+    Messages messages;
+    messages.service().show(message(u"a"_s));
+    EXPECT_EQ(messages.install(&own), nullptr);
+    messages.service().show(message(u"b"_s));
+    EXPECT_EQ(messages.install(nullptr), &own);
+    messages.service().show(message(u"c"_s));
+    Messages::setDefaultService(nullptr);
+    EXPECT_EQ(usual.told, u"ac"_s);
+    EXPECT_EQ(own.told, u"b"_s);
 }

@@ -331,3 +331,12 @@ TEST(SharedText, FindsDifferencesOfTextsThatHoldAStringTwice)
             EXPECT_EQ(withDifferences(text, other), other.toString());
     }
 }
+
+TEST(SharedText, NothingLiesOutsideOfIt)
+{
+    const SharedText text = SharedText(u"abc"_s).replaced(1, 1, u"B"_s.repeated(9000));
+    EXPECT_TRUE(text.behind(-1, 5).isEmpty());
+    EXPECT_TRUE(text.behind(text.size() + 1, 5).isEmpty());
+    EXPECT_TRUE(text.before(-1, 5).isEmpty());
+    EXPECT_TRUE(text.before(text.size() + 1, 5).isEmpty());
+}

@@ -1,6 +1,11 @@
 // Classes that come and go, as with libraries that are loaded, while other threads ask.
 
 #include "members/HandedClass.h"
+#include <ORVTListview/EventSink.h>
+#include <ORVTListview/LateCall.h>
+#include <ORVTListview/PointCollection.h>
+
+#include <QtCore/QStringListModel>
 
 #include <gtest/gtest.h>
 
@@ -48,6 +53,35 @@ TEST(HandedClass, ComesAndGoesWhileOthersAsk)
     }
     EXPECT_EQ(missed, 0);
     EXPECT_EQ(HandedClass::types(), before);
+}
+
+TEST(HandedClass, IsThatOfTheNearestBase)
+{
+    EXPECT_EQ(HandedClass::members(QStringListModel::staticMetaObject), nullptr);
+    const HandedClass model(QMetaType::fromType<QAbstractItemModel *>(), &noMembers);
+    EXPECT_EQ(HandedClass::members(QStringListModel::staticMetaObject), &model.table());
+    const HandedClass list(QMetaType::fromType<QAbstractListModel *>(), &noMembers);
+    EXPECT_EQ(HandedClass::members(QStringListModel::staticMetaObject), &list.table());
+    EXPECT_EQ(HandedClass::members(QAbstractItemModel::staticMetaObject), &model.table());
+    EXPECT_EQ(HandedClass::members(QObject::staticMetaObject), nullptr);
+    EXPECT_EQ(HandedClass::members(QMetaType::fromType<QStringListModel *>()), nullptr);
+}
+
+TEST(HandedClass, OfWhichNothingIsRaisedTakesNoSink)
+{
+    class Sink final : public EventSink
+    {
+        void Invoke(qint32, QVariantList &) override {}
+    };
+    PointList list;
+    QObject object;
+    Sink sink;
+    EXPECT_FALSE(advise(QVariant::fromValue(&list), &sink)); // has no events
+    EXPECT_FALSE(advise(QVariant::fromValue(&object), &sink));
+    EXPECT_FALSE(advise(QVariant(7), &sink));
+    EXPECT_TRUE(object.children().isEmpty());
+    unadvise(QVariant::fromValue(&list), &sink);
+    unadvise(QVariant(7), &sink);
 }
 
 } // namespace

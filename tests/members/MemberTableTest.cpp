@@ -71,4 +71,20 @@ TEST(MemberTable, FindsMembersInAnyLetterCaseAndNoEvents)
     EXPECT_EQ(Gauge::members().component(), u"Gauge"_s);
 }
 
+TEST(MemberTable, KeepsWhatTheTypesOfAMemberDoNotTell)
+{
+    const MemberTable table(u"Gauge"_s, Gauge::members().members(),
+                            {{.name = u"Count"_s, .unit = u"point"_s, .range = u"0 to 7"_s},
+                             {.name = u"Fail"_s, .failures = {Overflow}}});
+    EXPECT_EQ(table.facts(u"Count"_s).unit, u"point"_s);
+    EXPECT_EQ(table.facts(u"Count"_s).range, u"0 to 7"_s);
+    EXPECT_EQ(table.facts(u"Fail"_s).failures, QList<qint32>{Overflow});
+    const MemberFacts none = table.facts(u"Caption"_s);
+    EXPECT_EQ(none.name, u"Caption"_s);
+    EXPECT_EQ(none.unit + none.range, QString());
+    EXPECT_TRUE(none.failures.isEmpty());
+    EXPECT_TRUE(table.facts(u"count"_s).unit.isEmpty()); // as it is written
+    EXPECT_EQ(table.allFacts().size(), 2);
+}
+
 } // namespace

@@ -96,6 +96,69 @@ TEST_F(ObjectCall, ReadsAndChangesACollectionByValue)
     EXPECT_EQ(texts.Count(), 1);
 }
 
+TEST_F(ObjectCall, ReachesEveryMemberOfACollectionByValue)
+{
+    QVariant object = QVariant::fromValue(KeyedCollection<qint32>());
+    EXPECT_EQ(call(object, u"Add"_s, {10, u"Low"_s}), CallSucceeded);
+    EXPECT_EQ(call(object, u"Add"_s, {20, u"High"_s}), CallSucceeded);
+    EXPECT_EQ(call(object, u"Add"_s, {30, u"LOW"_s}), InvalidCall);
+    EXPECT_EQ(call(object, u"Contains"_s, {u"low"_s}), CallSucceeded);
+    EXPECT_EQ(result, QVariant(true));
+    EXPECT_EQ(call(object, u"Key"_s, {2}), CallSucceeded);
+    EXPECT_EQ(result, QVariant(u"High"_s));
+    EXPECT_EQ(call(object, u"Key"_s, {3}), SubscriptOutOfRange);
+    EXPECT_EQ(call(object, u"Item"_s, {u"high"_s}), CallSucceeded);
+    EXPECT_EQ(result, QVariant(20));
+    EXPECT_EQ(call(object, u"Remove"_s, {u"low"_s}), CallSucceeded);
+    EXPECT_EQ(call(object, u"Remove"_s, {u"low"_s}), InvalidCall);
+    EXPECT_EQ(call(object, u"Remove"_s, {2}), SubscriptOutOfRange);
+    EXPECT_EQ(call(object, u"Remove"_s, {QVariant()}), TypeMismatch);
+    EXPECT_EQ(call(object, u"Remove"_s, {1}), CallSucceeded);
+    EXPECT_EQ(call(object, u"Contains"_s, {u"high"_s}), CallSucceeded);
+    EXPECT_EQ(result, QVariant(false));
+    EXPECT_EQ(call(object, u"Add"_s, {1, u"Any"_s}), CallSucceeded);
+    EXPECT_EQ(call(object, u"Clear"_s), CallSucceeded);
+    EXPECT_EQ(call(object, u"Count"_s), CallSucceeded);
+    EXPECT_EQ(result, QVariant(0));
+}
+
+TEST_F(ObjectCall, ReachesEveryMemberOfAFamilyOfNames)
+{
+    IndexedNameList names;
+    names.Add(u"Tmp"_s, u"00"_s, 1, 16);
+    QVariant list = QVariant::fromValue(static_cast<IndexedNameCollection *>(&names));
+    EXPECT_EQ(call(list, u"Count"_s), CallSucceeded);
+    EXPECT_EQ(result, QVariant(1));
+    EXPECT_EQ(call(list, u"Add"_s, {u"Fan"_s, u"0"_s, 1, 2}), UnknownMember);
+    EXPECT_EQ(call(list, u"Item"_s, {1}), CallSucceeded);
+    QVariant family = result;
+    const QList<std::pair<QString, QVariant>> expected{{u"Name"_s, u"Tmp"_s},
+                                                       {u"NumberFormat"_s, u"00"_s},
+                                                       {u"LowerBound"_s, 1},
+                                                       {u"UpperBound"_s, 16}};
+    for (const auto &[member, value] : expected) {
+        EXPECT_EQ(call(family, member), CallSucceeded) << member.toStdString();
+        EXPECT_EQ(result, value) << member.toStdString();
+        EXPECT_EQ(call(family, member, {value}), WrongArgumentCount) << member.toStdString();
+    }
+}
+
+TEST_F(ObjectCall, ReadsAHostsCollectionOfPointsAndChangesNoneOfIt)
+{
+    PointList points;
+    points.Add(u"Fan"_s, 7);
+    QVariant collection = QVariant::fromValue(static_cast<PointCollection *>(&points));
+    EXPECT_EQ(call(collection, u"Find"_s, {u"fan"_s}), CallSucceeded);
+    EXPECT_EQ(result.value<Point>(), (Point{u"Fan"_s, 7}));
+    EXPECT_EQ(call(collection, u"Find"_s, {u"Pump"_s}), CallSucceeded);
+    EXPECT_FALSE(result.isValid());
+    EXPECT_EQ(call(collection, u"Clear"_s), UnknownMember);
+    QVariant list = QVariant::fromValue(&points);
+    EXPECT_EQ(call(list, u"Clear"_s), CallSucceeded);
+    EXPECT_EQ(call(collection, u"Count"_s), CallSucceeded);
+    EXPECT_EQ(result, QVariant(0));
+}
+
 TEST_F(ObjectCall, RefusesWhatHasNoMembersAndWhatIsNotThere)
 {
     QVariant number = 5;
@@ -140,6 +203,20 @@ TEST_F(ObjectCall, TakesListsAndTablesOfRecords)
     EXPECT_EQ(rule.kind, CellRule::Number);
     EXPECT_EQ(rule.maximum, 40.5);
     EXPECT_FALSE(ArgumentValue::converted(QVariantList{5}, QMetaType::fromType<QList<Pages>>()));
+}
+
+TEST_F(ObjectCall, TakesNoListOrTableOfWhichOnePartDoesNotFit)
+{
+    const QMetaType pages = QMetaType::fromType<QList<Pages>>();
+    const QVariantMap page{{u"Name"_s, u"Code"_s}};
+    EXPECT_TRUE(ArgumentValue::converted(QVariantList{page, page}, pages));
+    EXPECT_FALSE(ArgumentValue::converted(QVariantList{page, 5}, pages));
+    const QMetaType rules = QMetaType::fromType<QHash<QString, CellRule>>();
+    const QVariantMap rule{{u"decimals"_s, 2}};
+    EXPECT_TRUE(ArgumentValue::converted(QVariantMap{{u"Value"_s, rule}}, rules));
+    EXPECT_FALSE(ArgumentValue::converted(QVariantMap{{u"Value"_s, rule}, {u"Mode"_s, 5}}, rules));
+    EXPECT_FALSE(ArgumentValue::converted(
+        QVariantMap{{u"Value"_s, QVariantMap{{u"decimals"_s, u"few"_s}}}}, rules));
 }
 
 TEST_F(ObjectCall, KnowsEveryTypeOnce)

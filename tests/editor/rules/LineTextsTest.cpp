@@ -108,6 +108,15 @@ TEST(TextEdits, TouchOnlyWhatDiffers)
     EXPECT_EQ(changed(u"\U0001F600"_s, u"\U0001F601"_s), u"10+2:\U0001F601"_s);
 }
 
+TEST(TextEdits, LeaveLettersOfTwoUnitsWhole)
+{
+    // U+10400, U+10401 and U+10800 share a unit with the one before.
+    EXPECT_EQ(changed(u"a\U00010400b"_s, u"a\U00010401b"_s), u"11+2:\U00010401"_s);
+    EXPECT_EQ(changed(u"a\U00010400b"_s, u"a\U00010800b"_s), u"11+2:\U00010800"_s);
+    EXPECT_EQ(changed(u"\U00010400"_s, u"\U00010400\U00010400"_s), u"12+0:\U00010400"_s);
+    EXPECT_EQ(changed(u"x\U00010400"_s, u"y\U00010400"_s), u"10+1:y"_s);
+}
+
 TEST(TextEdits, TakePlacesAlong)
 {
     const QList<TextEdit> edits{{{4, 0}, u"xx"_s}, {{10, 4}, u"y"_s}};

@@ -181,6 +181,24 @@ TEST(CellRules, NamesOfPointsAreThoseThatAreKnown)
     EXPECT_EQ(entered(rule, u"Fan2"_s), u"[There is no point of this name.]"_s);
 }
 
+TEST(CellRules, OnlyCellsWithAListOfWordsOfferIt)
+{
+    CellRule rule{.kind = CellRule::Text, .choices = {u"Auto"_s}};
+    EXPECT_EQ(cellChoices(rule), QStringList());
+    rule.kind = CellRule::PointName;
+    EXPECT_EQ(cellChoices(rule), QStringList{u"Auto"_s});
+    rule.kind = CellRule::YesNo; // one word is not enough for two answers
+    EXPECT_EQ(cellChoices(rule), QStringList({u"Yes"_s, u"No"_s}));
+    EXPECT_EQ(entered(rule, u"auto"_s), u"[This is neither Yes nor No.]"_s);
+}
+
+TEST(CellRules, ANegativeNumberOfDecimalsIsNone)
+{
+    CellRule rule = numbers();
+    rule.decimals = -1;
+    EXPECT_EQ(entered(rule, u"1.5"_s), u"[Only a whole number fits here.]"_s);
+}
+
 TEST(CellRules, NumbersAreStepped)
 {
     const CellRule rule = numbers();

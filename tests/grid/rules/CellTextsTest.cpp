@@ -32,6 +32,13 @@ TEST(CellTexts, AnyLineEndEndsARow)
     EXPECT_TRUE(cellsOfTabbedText(QString()).isEmpty());
 }
 
+TEST(CellTexts, ALoneReturnInACellTearsNothingApart)
+{
+    const CellBlock cells{{u"a\rb"_s, u"c"_s}};
+    EXPECT_EQ(tabbedText(cells), u"\"a\rb\"\tc\n"_s);
+    EXPECT_EQ(cellsOfTabbedText(tabbedText(cells)), cells);
+}
+
 TEST(CellTexts, AQuotationMarkThatIsNotClosedIsALetter)
 {
     EXPECT_EQ(cellsOfTabbedText(u"\"a\tb\n"_s), (CellBlock{{u"\"a"_s, u"b"_s}}));
@@ -71,5 +78,8 @@ TEST(CellTexts, ABlockFillsAPlaceThatItFitsSeveralTimes)
     EXPECT_EQ(fittedBlock({{u"x"_s}}, 2, 2), (CellBlock{{u"x"_s, u"x"_s}, {u"x"_s, u"x"_s}}));
     const CellBlock ragged{{u"a"_s, u"b"_s}, {u"c"_s}};
     EXPECT_EQ(fittedBlock(ragged, 2, 2), (CellBlock{{u"a"_s, u"b"_s}, {u"c"_s, QString()}}));
+    EXPECT_EQ(fittedBlock({QStringList()}, 2, 2), CellBlock{QStringList()});
+    EXPECT_EQ(fittedBlock(block, 0, 2), block);
+    EXPECT_EQ(fittedBlock(block, 1, 0), block);
     EXPECT_TRUE(fittedBlock({}, 2, 2).isEmpty());
 }

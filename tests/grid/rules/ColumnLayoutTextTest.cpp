@@ -23,7 +23,13 @@ TEST(ColumnLayoutText, WhatIsNoColumnIsLeftOut)
 {
     const QList<ColumnPlace> label{{u"Label"_s, 5}};
     for (const QString &text : {u"Label:5;x"_s, u":7;Label:5;"_s, u"a:b;Label:5;c:;d:0"_s,
-                                u";;Label:5;e:99999999999999"_s})
+                                u";;Label:5;e:99999999999999"_s, u"f:1000001;Label:5;g:-1000001"_s})
         EXPECT_EQ(columnsOfLayoutText(text), label) << text.toStdString();
     EXPECT_TRUE(columnsOfLayoutText({}).isEmpty());
+}
+
+TEST(ColumnLayoutText, ColumnsAreNoWiderThanTheyCanBe)
+{
+    const QList<ColumnPlace> widest{{u"a"_s, 1'000'000}, {u"b"_s, 1'000'000, true}};
+    EXPECT_EQ(columnsOfLayoutText(columnLayoutText(widest)), widest);
 }

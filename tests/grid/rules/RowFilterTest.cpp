@@ -69,3 +69,19 @@ TEST(RowFilter, ColumnsThatAreNotMeantCountForNothing)
     EXPECT_EQ(filteredRows(4, {1, 2}, {typedFilter(u"fan"_s, any)}, texts), QList<int>());
     EXPECT_EQ(filteredRows(0, {0}, {typedFilter(u"fan"_s, any)}, texts), QList<int>());
 }
+
+// Of a time as users see it and as it is kept, "=" and "<>" mean either.
+TEST(RowFilter, WhatIsShownCountsBesideWhatIsKept)
+{
+    const QList<QString> kept{u"90"_s, u"1:30"_s, u"30"_s};
+    const auto texts = [&kept](int row, int) -> const QString & { return kept.at(row); };
+    const auto shown = [](int, const QString &text) { return text == u"90"_s ? u"1:30"_s : text; };
+    const auto rows = [&](const QString &typed) {
+        return filteredRows(3, {0}, {typedFilter(typed, 0)}, texts, shown);
+    };
+    EXPECT_EQ(rows(u"1:3"_s), (QList<int>{0, 1}));
+    EXPECT_EQ(rows(u"90"_s), QList<int>{0});
+    EXPECT_EQ(rows(u"<>1:30"_s), QList<int>{2});
+    EXPECT_EQ(rows(u"<>90"_s), (QList<int>{1, 2}));
+    EXPECT_EQ(rows(u"<>30"_s), (QList<int>{0, 1}));
+}

@@ -1,5 +1,6 @@
 #include "grid/rules/RowOrder.h"
 #include "grid/rules/NaturalOrder.h"
+#include "support/EveryFieldCounts.h"
 #include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
@@ -156,4 +157,11 @@ TEST(RowOrder, ClicksCanAddKeys)
     EXPECT_EQ(keys, (QList<SortKey>{{3, true}, {1, true}}));
     EXPECT_EQ(clickedKeys(keys, 3, true), (QList<SortKey>{{1, true}}));
     EXPECT_EQ(clickedKeys(keys, 1, false), (QList<SortKey>{{1, false}}));
+}
+
+TEST(SortKey, IsEqualInColumnAndDirection)
+{
+    expectEveryFieldCounts(
+        SortKey{2, false}, [](SortKey &other) { other.column = 1; },
+        [](SortKey &other) { other.isDescending = true; });
 }

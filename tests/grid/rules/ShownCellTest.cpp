@@ -22,5 +22,7 @@ TEST(ShownCell, StatesAreSpokenInWords)
     EXPECT_EQ(spokenCell(u"21.5"_s, CellState::Alarm), u"21.5, Alarm"_s);
     EXPECT_EQ(spokenCell(u""_s, CellState::Old), u"Old"_s);
     EXPECT_EQ(spokenCell(u"On"_s, CellState::Plain), u"On"_s);
+    EXPECT_EQ(spokenCell(u"On"_s, CellState::Changed), u"On, Changed"_s);
+    EXPECT_EQ(spokenCell(u"On"_s, CellState::Manual), u"On, By hand"_s);
     EXPECT_EQ(stateWord(CellState::Plain), QString());
 }

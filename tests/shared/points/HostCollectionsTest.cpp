@@ -1,3 +1,4 @@
+#include "support/EveryFieldCounts.h"
 #include "support/QtPrinters.h"
 #include <ORVTListview/Error.h>
 #include <ORVTListview/IndexedName.h>
@@ -78,4 +79,11 @@ TEST(IndexedNameList, HandsOutItsItems)
     EXPECT_EQ(item->UpperBound(), 3);
     EXPECT_EQ(names.Item(0), nullptr);
     EXPECT_EQ(names.Item(2), nullptr);
+}
+
+TEST(Point, IsEqualInNameAndData)
+{
+    expectEveryFieldCounts(
+        Point{u"Fan"_s, 7}, [](Point &other) { other.Name = u"fan"_s; },
+        [](Point &other) { other.Data = 8; });
 }

@@ -83,6 +83,24 @@ TEST(HostPoints, ReadingEndsWhereTheCollectionGoes)
     EXPECT_EQ(HostPoints::read(points, {}).size(), 2);
 }
 
+TEST(HostPoints, OfACollectionThatGoesWhileItIsCountedThereIsNothing)
+{
+    class Going final : public PointCollection
+    {
+    public:
+        qint32 Count() const override
+        {
+            delete this;
+            return 3;
+        }
+        std::optional<Point> Item(qint32) const override { return Point{u"A"_s, 0}; }
+        std::optional<Point> Find(const QString &) const override { return std::nullopt; }
+    };
+    EXPECT_TRUE(HostPoints::read(HostReference<PointCollection>(new Going), {}).isEmpty());
+    EXPECT_TRUE(HostPoints::read(HostReference<PointCollection>(nullptr), {}).isEmpty());
+    EXPECT_TRUE(HostPoints::read(HostReference<IndexedNameCollection>(nullptr), {}).isEmpty());
+}
+
 TEST(HostPoints, AReadyCollectionTellsOfItsChanges)
 {
     PointList points;

@@ -1,3 +1,4 @@
+#include "support/EveryFieldCounts.h"
 #include "support/QtPrinters.h"
 #include "support/RandomSeed.h"
 #include <ORVTListview/KeyedCollection.h>
@@ -153,4 +154,20 @@ TEST(KeyedCollection, AgreesWithASimpleModel)
         for (qint32 i = 1; i <= collection.Count(); ++i)
             ASSERT_EQ(collection.Item(i), model[static_cast<std::size_t>(i) - 1].second);
     }
+}
+
+TEST(KeyedCollection, IsEqualInItemsKeysAndOrder)
+{
+    using Numbers = KeyedCollection<qint32>;
+    expectEveryFieldCounts(
+        numbers(), [](Numbers &other) { other.Remove(3); },
+        [](Numbers &other) { other.Add(3, u"Logs"_s); },
+        [](Numbers &other) {
+            other.Remove(3);
+            other.Add(7, u"Code"_s);
+        },
+        [](Numbers &other) {
+            other.Remove(3);
+            other.Add(0, u"CODE"_s);
+        });
 }

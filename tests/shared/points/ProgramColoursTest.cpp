@@ -63,7 +63,8 @@ TEST(ProgramColours, OfWhichOneIsMissingAreNotTaken)
     for (const QString &other :
          {u""_s, u"CommentColor"_s, u"CommentColor:"_s, u"CommentColor:007a00"_s,
           u"CommentColor:#07a0"_s, u"CommentColor:#+07a00"_s, u"CommentColor:#-07a00"_s,
-          u"CommentColor:# 07a00"_s, u"CommentColor:#007a0g"_s, u"CommentColor:#007a000"_s}) {
+          u"CommentColor:# 07a00"_s, u"CommentColor:#007a0g"_s, u"CommentColor:#007a000"_s,
+          u"CommentColor:0007a00"_s}) {
         RichTextSettings settings;
         settings.BackColor = 7;
         const RichTextSettings before = settings;

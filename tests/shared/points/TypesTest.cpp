@@ -1,4 +1,5 @@
 #include "shared/points/DisplayNames.h"
+#include "support/EveryFieldCounts.h"
 #include "support/QtPrinters.h"
 #include <ORVTListview/Types.h>
 
@@ -101,4 +102,30 @@ TEST(Types, RecordsKeepTheOrderOfTheirFields)
     EXPECT_EQ(fieldsOf<Pages>(), QStringList({u"Name"_s, u"Index"_s, u"Key"_s}));
     static_assert(sizeof(RichTextSettings::FontSize) == 2);
     static_assert(sizeof(RichTextSettings::BackColor) == 4);
+}
+
+TEST(Types, TheEditorsSettingsAreEqualInAllFieldsOnly)
+{
+    using Settings = RichTextSettings;
+    expectEveryFieldCounts(
+        Settings(), [](Settings &other) { other.BackColor = 1; },
+        [](Settings &other) { other.FontName = u"Mono"_s; },
+        [](Settings &other) { other.FontSize = 1; },
+        [](Settings &other) { other.FontStyle = u"b1"_s; },
+        [](Settings &other) { other.VariableColor = 1; },
+        [](Settings &other) { other.ConstantColor = 1; },
+        [](Settings &other) { other.InputColor = 1; },
+        [](Settings &other) { other.OutputColor = 1; },
+        [](Settings &other) { other.ReservedWordColor = 1; },
+        [](Settings &other) { other.CommentColor = 1; },
+        [](Settings &other) { other.nviFPAColor = 1; },
+        [](Settings &other) { other.nvoFPAColor = 1; });
+}
+
+TEST(Types, APageIsEqualInAllFieldsOnly)
+{
+    expectEveryFieldCounts(
+        Pages(), [](Pages &other) { other.Name = u"Code"_s; },
+        [](Pages &other) { other.Index.append(dsCode); },
+        [](Pages &other) { other.Key.append(u"Code"_s); });
 }

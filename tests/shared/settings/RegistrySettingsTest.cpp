@@ -151,3 +151,26 @@ TEST_F(RegistrySettingsTest, WhereNobodyWritesNothingHappens)
     write(u"2"_s);
     EXPECT_EQ(read(), u""_s);
 }
+
+TEST_F(RegistrySettingsTest, ChangesThatChangeNothingSucceedAnywhere)
+{
+    RegistrySettings settings(machine);
+    const SettingKey key{u"Quillbox"_s, u"Code"_s};
+    ASSERT_TRUE(settings.write({{key, u"1"_s}}));
+    machine->isWritable = false;
+    EXPECT_TRUE(settings.write({{key, u"1"_s}}));
+    EXPECT_FALSE(settings.write({{key, u"2"_s}}));
+    EXPECT_FALSE(settings.write({{key, std::nullopt}}));
+    EXPECT_TRUE(settings.write({{{u"Quillbox"_s, u"Logs"_s}, std::nullopt}}));
+    EXPECT_EQ(machine->values, (std::map<FakeHive::Name, QString>{{code, terminated(u"1"_s)}}));
+}
+
+TEST_F(RegistrySettingsTest, WhatIsTakenBackLeavesNoValueWhereThereWasNone)
+{
+    RegistrySettings settings(machine);
+    machine->refused = u"Logs"_s;
+    EXPECT_FALSE(settings.write({{{u"Quillbox"_s, u"Absent"_s}, std::nullopt},
+                                 {{u"Quillbox"_s, u"New"_s}, u"5"_s},
+                                 {{u"Quillbox"_s, u"Logs"_s}, u"4"_s}}));
+    EXPECT_TRUE(machine->values.empty());
+}

@@ -1,4 +1,5 @@
 #include "shared/settings/SettingsLine.h"
+#include "support/EveryFieldCounts.h"
 #include "support/QtPrinters.h"
 #include "support/RandomText.h"
 
@@ -84,4 +85,12 @@ TEST(SettingsLine, AnyTextComesBack)
         ASSERT_EQ(readSettingsLine(line), setting(name, value)) << testing::PrintToString(line);
         ASSERT_EQ(readSettingsLine(sectionText(name)), (SettingsLine{Kind::Section, name, {}}));
     }
+}
+
+TEST(SettingsLine, IsEqualInKindNameAndValue)
+{
+    expectEveryFieldCounts(
+        setting(u"Code"_s, u"3"_s), [](SettingsLine &other) { other.kind = Kind::Section; },
+        [](SettingsLine &other) { other.name = u"Logs"_s; },
+        [](SettingsLine &other) { other.value = u"4"_s; });
 }

@@ -6,6 +6,8 @@
 #include "support/RandomText.h"
 #include "support/TestFolder.h"
 
+#include <QtCore/QScopeGuard>
+
 #include <gtest/gtest.h>
 
 #include <map>
@@ -223,4 +225,18 @@ TEST_F(SettingsStoreTest, AnotherFileMayBeNamedAtAnyTime)
     write(u"Code"_s, u"2"_s);
     setSettingsFile(folder.path(u"s"_s));
     EXPECT_EQ(read(u"Code"_s), u"1"_s);
+}
+
+TEST_F(SettingsStoreTest, WithoutANameTheUsualPlaceIsUsedAgain)
+{
+    constexpr auto variable = "ORVT_SETTINGS_FILE";
+    const QByteArray before = qgetenv(variable);
+    qputenv(variable, QFile::encodeName(folder.path(u"usual"_s)));
+    const auto restore = qScopeGuard([&] { qputenv(variable, before); });
+    write(u"Code"_s, u"1"_s);
+    setSettingsFile({});
+    EXPECT_EQ(read(u"Code"_s), u""_s);
+    write(u"Code"_s, u"2"_s);
+    EXPECT_TRUE(folder.content(u"usual"_s).contains("Code=2"));
+    EXPECT_TRUE(folder.content(u"s"_s).contains("Code=1"));
 }

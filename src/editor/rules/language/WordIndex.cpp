@@ -18,19 +18,6 @@ quint32 hashOf(QStringView folded)
 
 } // namespace
 
-void WordIndex::clear()
-{
-    m_entries.clear();
-    m_slots.clear();
-    m_longest = 0;
-    m_sorted = true;
-}
-
-void WordIndex::reserve(qsizetype count)
-{
-    m_entries.reserve(static_cast<std::size_t>(count));
-}
-
 void WordIndex::add(const QString &text, qint32 data)
 {
     m_entries.push_back({{text, data}, foldedCase(text)});

@@ -21,8 +21,6 @@ public:
         qint32 data = 0;
     };
 
-    void clear();
-    void reserve(qsizetype count);
     void add(const QString &text, qint32 data);
 
     // Takes the first entry with this text, letter case ignored, and number away;

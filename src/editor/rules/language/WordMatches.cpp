@@ -11,8 +11,10 @@ int charactersFor(const QString &word, qsizetype folded)
 {
     qsizetype characters = 0;
     while (folded > 0 && characters < word.size()) {
-        const bool isPair = word[characters].isHighSurrogate() && characters + 1 < word.size();
-        const QStringView character = QStringView(word).sliced(characters, isPair ? 2 : 1);
+        const QStringView rest = QStringView(word).sliced(characters);
+        const bool isPair =
+            rest.size() > 1 && rest[0].isHighSurrogate() && rest[1].isLowSurrogate();
+        const QStringView character = rest.first(isPair ? 2 : 1);
         folded -= foldedCase(character).size();
         characters += character.size();
     }

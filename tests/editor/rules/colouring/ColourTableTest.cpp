@@ -1,5 +1,6 @@
 #include "editor/rules/colouring/ColourTable.h"
 #include "editor/rules/language/WordClass.h"
+#include "support/EveryFieldCounts.h"
 #include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
@@ -90,4 +91,11 @@ TEST(ShownColour, KeepsItsPartsWithinAByte)
     EXPECT_EQ(shownColour(0x00123456), 0x00123456);
     EXPECT_EQ(shownColour(static_cast<qint32>(0x80000005)), 0);
     EXPECT_EQ(shownColour(0x7F000001), 0x00FF0001);
+}
+
+TEST(SplitColour, IsEqualInAllThreeBytes)
+{
+    expectEveryFieldCounts(
+        SplitColours{1, 2, 3}, [](SplitColours &other) { other.Red = 0; },
+        [](SplitColours &other) { other.Green = 0; }, [](SplitColours &other) { other.Blue = 0; });
 }

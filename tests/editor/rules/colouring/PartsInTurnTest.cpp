@@ -122,6 +122,19 @@ TEST(PartsInTurn, AShortTextIsNotWorthIt)
     EXPECT_FALSE(parts.differsMostlyFrom(SharedText()));
 }
 
+// Without words every name is looked up at the host's, which is asked by one thread.
+TEST(PartsInTurn, AreFinishedByOneThreadWhereTheHostIsAsked)
+{
+    Colouring colouring;
+    colouring.words = {};
+    ASSERT_FALSE(colouring.engine().isForThreads());
+    const QString text = u"if temp1 > 20\r\n"_s.repeated(20000) + u"endif"_s;
+    PartsInTurn parts(colouring.engine(), text, finished());
+    const ColouredText expected = finishedText(colouring.engine(), text, defaultColours());
+    EXPECT_EQ(expected.text, text);
+    EXPECT_TRUE(joined(parts, false) == asOneRunEach(expected));
+}
+
 TEST(PartsInTurn, MayBeLeftBeforeTheEnd)
 {
     Colouring colouring;

@@ -1,4 +1,5 @@
 #include "editor/rules/language/CodeText.h"
+#include "support/EveryFieldCounts.h"
 #include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
@@ -108,4 +109,15 @@ TEST(LineIndent, IsTheLeadingBlanksAndTabs)
     EXPECT_EQ(GetLineIndent(u"IF"_s), u""_s);
     EXPECT_EQ(GetLineIndent(u" \t "_s), u" \t "_s);
     EXPECT_EQ(GetLineIndent(u""_s), u""_s);
+}
+
+TEST(CodeText, LinesAndWordsAreEqualInAllFieldsOnly)
+{
+    expectEveryFieldCounts(
+        LineRange{1, 4}, [](LineRange &other) { other.LineStart = 2; },
+        [](LineRange &other) { other.LineEnd = 3; });
+    expectEveryFieldCounts(
+        WordAtCaret{u"Fan"_s, u"Fa"_s, 1}, [](WordAtCaret &other) { other.Word = u"fan"_s; },
+        [](WordAtCaret &other) { other.PartBeforeCaret = u"F"_s; },
+        [](WordAtCaret &other) { other.WordStart = 2; });
 }

@@ -1,4 +1,5 @@
 #include "editor/rules/language/WordMatches.h"
+#include "support/EveryFieldCounts.h"
 
 #include <gtest/gtest.h>
 
@@ -49,4 +50,19 @@ TEST(WordMatches, LettersAreToldWhereTheyStand)
     EXPECT_EQ(matchedLetters(u"Fan"_s, u"x"_s), MatchedLetters());
     EXPECT_EQ(matchedLetters(u"Fan"_s, QString()), MatchedLetters());
     EXPECT_EQ(matchedLetters(u"\U0001D538Fan"_s, u"fan"_s), (MatchedLetters{2, 3}));
+}
+
+TEST(WordMatches, HalfALetterIsOne)
+{
+    const QString half = QChar(0xD801) + u"Fan"_s + QChar(0xD801);
+    EXPECT_EQ(matchedLetters(half, u"fan"_s), (MatchedLetters{1, 3}));
+    EXPECT_EQ(matchedLetters(half, QString(QChar(0xD801))), (MatchedLetters{0, 1}));
+    EXPECT_EQ(matchedLetters(half, u"n"_s + QChar(0xD801)), (MatchedLetters{3, 2}));
+}
+
+TEST(WordMatches, LettersAreEqualInPlaceAndLength)
+{
+    expectEveryFieldCounts(
+        MatchedLetters{1, 3}, [](MatchedLetters &other) { other.start = 0; },
+        [](MatchedLetters &other) { other.length = 2; });
 }

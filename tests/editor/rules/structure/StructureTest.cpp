@@ -1,6 +1,7 @@
 #include "editor/rules/structure/BlockWalk.h"
 #include "editor/rules/structure/Brackets.h"
 #include "editor/rules/structure/Folding.h"
+#include "support/EveryFieldCounts.h"
 
 #include <gtest/gtest.h>
 
@@ -191,4 +192,20 @@ TEST(ProgramBlocks, needAnIf)
     EXPECT_TRUE(blocksOf({u"ENDIF"_s, u"REM IF"_s, u"ENDIF"_s}).outermost().isEmpty());
     EXPECT_EQ(blocksOf({u"IF a IF b"_s, u"ENDIF"_s, u"ENDIF"_s}).outermost(), Blocks({{0, 2}}));
     EXPECT_EQ(blocksOf({u"IF a ENDIF IF b"_s, u"ENDIF"_s}).outermost(), Blocks({{0, 1}}));
+}
+
+TEST(Structure, ItsPartsAreEqualInAllFieldsOnly)
+{
+    expectEveryFieldCounts(
+        BlockWord{BlockWord::If, {0, 2}}, [](BlockWord &other) { other.kind = BlockWord::Else; },
+        [](BlockWord &other) {
+            other.place = {1, 2};
+        });
+    expectEveryFieldCounts(
+        BracketPair{3, 7}, [](BracketPair &other) { other.bracket = 2; },
+        [](BracketPair &other) { other.partner = 8; },
+        [](BracketPair &other) { other.partner.reset(); });
+    using Lines = ProgramBlocks::Lines;
+    expectEveryFieldCounts(
+        Lines{1, 4}, [](Lines &other) { other.first = 0; }, [](Lines &other) { other.last = 5; });
 }

@@ -1,5 +1,6 @@
 #include "editor/rules/undo/UndoRecord.h"
 
+#include "support/EveryFieldCounts.h"
 #include "support/QtPrinters.h"
 #include "support/Raised.h"
 
@@ -115,4 +116,12 @@ TEST(UndoRecord, BlanksAroundANumberArePassedOver)
     const UndoRecord expected{u"A"_s, 12, 3};
     EXPECT_EQ(splitUndoRecord(fields({u"A"_s, u" 12"_s, u"3 "_s})), expected);
     EXPECT_EQ(splitUndoRecord(fields({u"A"_s, u"+12"_s, u"  3    "_s})), expected);
+}
+
+TEST(UndoRecord, IsEqualInTextAndSelection)
+{
+    expectEveryFieldCounts(
+        UndoRecord{u"A"_s, 12, 3}, [](UndoRecord &other) { other.text = u"a"_s; },
+        [](UndoRecord &other) { other.selectionStart = 11; },
+        [](UndoRecord &other) { other.selectionLength = 4; });
 }
