@@ -18,6 +18,13 @@ QString veryLong(const QString &program)
     return (program + u"\r\n \tfan1"_s).repeated(10);
 }
 
+// At once: waiting for so many lines takes as long as the machine likes.
+void giveColours(SteppingHost &host)
+{
+    host.colours().giveAll();
+    host.finish();
+}
+
 } // namespace
 
 class WholeStepTest : public WidgetTest
@@ -29,7 +36,7 @@ private Q_SLOTS:
     {
         SteppingHost host;
         host.open(veryLong(colouredProgram()));
-        host.finish();
+        giveColours(host);
         host.typeAt(20000, u"x y "_s);
         host.undo(); // sets all brackets off
         QVERIFY(host.isAtWork());
@@ -45,7 +52,7 @@ private Q_SLOTS:
         KeepingHost host;
         host.view().setHasOwnUndo(true); // which what is compared does not empty
         host.open(veryLong(longProgram()));
-        host.finish();
+        giveColours(host);
         const QString opened = host.list->CodeText();
         host.replaceAll(u"temp1"_s, u"temp2"_s);
         const QString replaced = host.list->CodeText();
@@ -53,12 +60,15 @@ private Q_SLOTS:
         host.undo();
         QVERIFY(host.isAtWork());
         QVERIFY(host.list->CodeText() == opened);
+        giveColours(host);
         host.compareWithOpenedAnew();
         host.redo();
         QVERIFY(host.list->CodeText() == replaced);
+        giveColours(host);
         host.compareWithOpenedAnew();
         host.undo();
         QVERIFY(host.list->CodeText() == opened);
+        giveColours(host);
         host.compareWithOpenedAnew();
     }
 
@@ -67,7 +77,7 @@ private Q_SLOTS:
     {
         SteppingHost host;
         host.open(veryLong(colouredProgram()));
-        host.finish();
+        giveColours(host);
         host.typeAt(20000, u"x y "_s);
         QObject::connect(&host.box(), &QPlainTextEdit::textChanged, &host.form,
                          [&host, isFirst = true]() mutable {

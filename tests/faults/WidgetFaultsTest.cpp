@@ -119,6 +119,7 @@ private Q_SLOTS:
         QFETCH(const int, call);
         SteppingHost host;
         host.open((colouredProgram() + u"\r\n"_s).repeated(10));
+        host.colours().giveAll(); // however slow the machine is
         host.finish();
         host.typeAt(20'000, u"x y "_s);
         const QString typed = host.list->CodeText();
