@@ -42,6 +42,7 @@ bool areWholeLines(const SharedText &text, qsizetype start, qsizetype length)
            (end == text.size() || text.mid(end, 2) == lineEnd);
 }
 
+// Told before the lines of the source are listed, which takes time in its length.
 bool areLong(const QList<SharedText::Difference> &differ)
 {
     qsizetype length = 0;

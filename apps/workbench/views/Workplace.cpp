@@ -180,8 +180,9 @@ void Workplace::floatCurrent()
     const QWidget *focus = QApplication::focusWidget();
     const bool hadFocus = focus && dock->isAncestorOf(focus);
     const QPoint place = dock->mapToGlobal(QPoint());
-    dock->setFloating(!dock->isFloating());           // loses the focus
-    if (dock->isFloating() && dock->pos() == place) { // a window that covers its own hole is none
+    dock->setFloating(!dock->isFloating()); // loses the focus
+    // Over the place that it leaves it would not be seen to be a window.
+    if (dock->isFloating() && dock->pos() == place) {
         const int aside = 2 * fontMetrics().height();
         dock->move(place + QPoint(aside, aside));
     }
