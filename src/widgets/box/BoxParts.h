@@ -3,6 +3,7 @@
 #include "widgets/box/BoxCommands.h"
 #include "widgets/box/BoxFormats.h"
 #include "widgets/box/BoxText.h"
+#include "widgets/box/DraggedText.h"
 #include "widgets/box/LateColours.h"
 #include "widgets/box/ReplacedText.h"
 #include "widgets/input/EventSurface.h"
@@ -86,7 +87,7 @@ struct BoxParts
     std::unique_ptr<BoxCommands> commands;
     BoxLayers *layers = nullptr;     // the box owns them
     std::optional<QPoint> dragStart; // where the selection was taken hold of
-    QTextCursor dragged;             // while a drag of this box runs
+    DraggedText dragged;             // while a drag of this box runs
 };
 
 } // namespace ORVTListview

@@ -14,6 +14,8 @@
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QApplication>
 
+#include <utility>
+
 namespace ORVTListview {
 
 void RichTextBox::mousePressEvent(QMouseEvent *event)
@@ -62,14 +64,14 @@ void RichTextBox::startDrag(const QMouseEvent &event)
     const Qt::DropActions actions = mayMove ? Qt::CopyAction | Qt::MoveAction : Qt::CopyAction;
     const QPointer<RichTextBox> self(this);
     const QPointer<QDrag> alive(drag);
-    d->dragged = dragged;
+    d->dragged = DraggedText(dragged);
     const Qt::DropAction action = drag->exec(actions, mayMove ? Qt::MoveAction : Qt::CopyAction);
     if (!self)
         return;
-    d->dragged = {};
+    const DraggedText held = std::exchange(d->dragged, {});
     const bool isGone = alive && action == Qt::MoveAction && alive->target() != viewport();
-    if (isGone && mayUserEdit(*this)) {
-        setTextCursor(dragged);
+    if (isGone && mayUserEdit(*this) && held.isAsItWas()) {
+        setTextCursor(held.place());
         commands().remove();
     }
 }
@@ -84,7 +86,8 @@ void RichTextBox::dropEvent(QDropEvent *event)
     if (!canInsertFromMimeData(event->mimeData()))
         return;
     const QTextCursor before = textCursor();
-    QTextCursor dragged = d->dragged;
+    const DraggedText held = d->dragged;
+    QTextCursor dragged = held.place();
     const QTextCursor place = cursorForPosition(event->position().toPoint());
     if (moves && place.position() >= dragged.selectionStart() &&
         place.position() <= dragged.selectionEnd())
@@ -98,7 +101,7 @@ void RichTextBox::dropEvent(QDropEvent *event)
         setTextCursor(before);
         return;
     }
-    if (moves) {
+    if (moves && held.isAsItWas()) {
         d->late.giveAround(dragged);
         commands().edit([&dragged] { dragged.removeSelectedText(); });
     }

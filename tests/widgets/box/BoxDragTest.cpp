@@ -9,6 +9,9 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
+#include <functional>
+#include <utility>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 using TextDrag::inWindow;
@@ -60,6 +63,8 @@ private Q_SLOTS:
     void draggingToAnotherBoxMovesText();
     void aMoveRemovesWhatWasDragged();
     void aBoxMadeReadOnlyMeanwhileKeepsItsText();
+    void whatAHostWritesIntoDraggedTextStays_data();
+    void whatAHostWritesIntoDraggedTextStays();
     void aReadOnlyBoxGivesCopies();
     void aBoxMayGoWhileItIsDraggedFrom();
     void aClickIntoTheSelectionDoesNotDrag();
@@ -67,13 +72,11 @@ private Q_SLOTS:
     void aMiddleClickEndsInPaste();
 
 protected:
-    // A host that selects something else while text is dragged.
+    // A host that does something while text is dragged.
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::DragMove) {
-            m_box->setSelStart(4);
-            m_box->setSelLength(3);
-        }
+        if (event->type() == QEvent::DragMove && m_hostsDeed)
+            std::exchange(m_hostsDeed, nullptr)();
         return false;
     }
 
@@ -88,12 +91,14 @@ private:
     RichTextBox *m_box = nullptr;
     RichTextBox *m_other = nullptr;
     QStringList m_log;
+    std::function<void()> m_hostsDeed;
 };
 
 void BoxDragTest::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
     m_log.clear();
+    m_hostsDeed = nullptr;
     m_window = std::make_unique<QWidget>();
     auto *layout = new QVBoxLayout(m_window.get());
     for (RichTextBox **box : {&m_box, &m_other}) {
@@ -156,6 +161,10 @@ void BoxDragTest::draggingToAnotherBoxMovesText()
 
 void BoxDragTest::aMoveRemovesWhatWasDragged()
 {
+    m_hostsDeed = [this] {
+        m_box->setSelStart(4);
+        m_box->setSelLength(3);
+    };
     m_box->setSelLength(4);
     m_box->viewport()->installEventFilter(this);
     drag(inWindow(*m_box, 1), inWindow(*m_box, 13));
@@ -169,6 +178,40 @@ void BoxDragTest::aBoxMadeReadOnlyMeanwhileKeepsItsText()
     drag(inWindow(*m_box, 1), inWindow(*m_other, 8));
     QCOMPARE(m_other->Text(), u"one two one three"_s);
     QCOMPARE(m_box->Text(), u"one two three"_s);
+}
+
+void BoxDragTest::whatAHostWritesIntoDraggedTextStays_data()
+{
+    QTest::addColumn<bool>("isInside");
+    QTest::addColumn<bool>("isAll");
+    QTest::addColumn<QString>("left");
+    QTest::newRow("a word, to another box") << false << false << u"oWORDne two three"_s;
+    QTest::newRow("all, to another box") << false << true << u"all is new"_s;
+    QTest::newRow("a word, inside") << true << false << u"oWORDne two threeone "_s;
+}
+
+void BoxDragTest::whatAHostWritesIntoDraggedTextStays()
+{
+    QFETCH(const bool, isInside);
+    QFETCH(const bool, isAll);
+    QFETCH(const QString, left);
+    m_hostsDeed = [this, isAll] {
+        if (isAll) {
+            m_box->setText(u"all is new"_s);
+            return;
+        }
+        m_box->setSelStart(1);
+        m_box->setSelLength(0);
+        m_box->setSelText(u"WORD"_s);
+    };
+    RichTextBox &target = isInside ? *m_box : *m_other;
+    target.viewport()->installEventFilter(this);
+    m_box->setSelLength(4);
+    drag(inWindow(*m_box, 1), inWindow(target, 13) + QPoint(80, 0));
+    QVERIFY(!m_hostsDeed);
+    QCOMPARE(m_box->Text(), left);
+    if (!isInside)
+        QCOMPARE(m_other->Text(), u"one two threeone "_s);
 }
 
 void BoxDragTest::aReadOnlyBoxGivesCopies()
