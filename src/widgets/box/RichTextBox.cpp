@@ -14,6 +14,7 @@
 #include "widgets/box/BoxSink.h"
 #include "widgets/box/BoxSource.h"
 #include "widgets/box/KeptView.h"
+#include "widgets/input/DragWatch.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QSignalBlocker>
@@ -124,6 +125,7 @@ RichTextBox::RichTextBox(QWidget *parent)
          },
          [this](int beside, int below) { setViewportMargins(beside, 0, 0, below); },
          [this](const QFont &shown) { document()->setDefaultFont(shown); }});
+    DragWatch::installOn(*viewport());
     d->late.setFirstShown([this] { return firstVisibleBlock().blockNumber(); });
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);

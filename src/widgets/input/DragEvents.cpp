@@ -6,7 +6,6 @@
 #include "widgets/input/MouseArguments.h"
 #include <ORVTListview/DataObject.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtGui/QDrag>
 #include <QtGui/QDropEvent>
 #include <QtGui/QGuiApplication>
@@ -55,6 +54,7 @@ void answer(QDropEvent &event, qint32 effect)
 DragEvents::DragEvents(QWidget &widget, QWidget &surface)
     : m_widget(widget)
     , m_surface(surface)
+    , m_watch(surface)
 {
 }
 
@@ -62,11 +62,6 @@ DragEvents::~DragEvents()
 {
     m_isAnnounced = false; // nobody is told of the leave
     cancel();
-    if (std::exchange(m_isOver, false)) {
-        // The toolkit keeps a pointer to the surface until it has been left.
-        QDragLeaveEvent left;
-        QCoreApplication::sendEvent(&m_surface, &left);
-    }
 }
 
 void DragEvents::setContent(std::function<void(QMimeData &)> content)
@@ -156,7 +151,6 @@ bool DragEvents::handle(QEvent &event)
     case QEvent::DragEnter:
         // A move with the same place always follows. Only then is a receiver
         // asked: the toolkit cannot bear a widget that goes while it is entered.
-        m_isOver = true;
         m_isAnnounced = false;
         event.accept();
         return true;
@@ -208,7 +202,6 @@ void DragEvents::over(QDropEvent &event)
 
 void DragEvents::leave()
 {
-    m_isOver = false;
     if (!std::exchange(m_isAnnounced, false))
         return;
     if (m_target)
@@ -221,7 +214,6 @@ void DragEvents::leave()
 
 void DragEvents::drop(QDropEvent &event)
 {
-    m_isOver = false;
     m_isAnnounced = false;
     if (m_target)
         m_target->hide();

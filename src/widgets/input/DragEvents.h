@@ -1,5 +1,6 @@
 #pragma once
 
+#include "widgets/input/DragWatch.h"
 #include <ORVTListview/DataObject.h>
 
 #include <QtCore/QObject>
@@ -121,10 +122,10 @@ private:
     qint32 m_allowed = Copy;
     DropTarget *m_target = nullptr;
 
-    bool m_isOver = false;      // a drag is over the surface
-    bool m_isAnnounced = false; // and its Enter was raised
+    bool m_isAnnounced = false; // a drag is over the surface, and its Enter was raised
     QPointer<QMimeData> m_overData;
     QPointF m_overPosition;
+    DragWatch m_watch; // the last, as it tells this object when it goes
 };
 
 } // namespace ORVTListview

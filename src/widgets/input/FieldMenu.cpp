@@ -1,6 +1,7 @@
 #include "widgets/input/FieldMenu.h"
 
 #include "shared/texts/MenuTexts.h"
+#include "widgets/input/DragWatch.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
@@ -63,6 +64,7 @@ FieldMenu::FieldMenu(QLineEdit &field)
 void FieldMenu::installOn(QLineEdit &field)
 {
     new FieldMenu(field);
+    DragWatch::installOn(field); // which takes drops of text
 }
 
 bool FieldMenu::eventFilter(QObject *watched, QEvent *event)

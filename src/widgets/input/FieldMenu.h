@@ -15,7 +15,8 @@ class FieldMenu : public QObject
     Q_OBJECT
 
 public:
-    // Becomes the field's. A combo box must have the field already.
+    // Becomes the field's, which may from then on go while something is dragged over it. A
+    // combo box must have the field already.
     static void installOn(QLineEdit &field);
 
 protected:

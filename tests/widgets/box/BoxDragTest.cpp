@@ -1,3 +1,4 @@
+#include "support/InTurn.h"
 #include "support/TestProgram.h"
 #include "support/TextDrag.h"
 #include "widgets/box/PlainCommands.h"
@@ -67,6 +68,7 @@ private Q_SLOTS:
     void whatAHostWritesIntoDraggedTextStays();
     void aReadOnlyBoxGivesCopies();
     void aBoxMayGoWhileItIsDraggedFrom();
+    void aBoxMayGoWhileItIsDraggedOver();
     void aClickIntoTheSelectionDoesNotDrag();
     void aSelectionThatIsGoneIsNotDragged();
     void aMiddleClickEndsInPaste();
@@ -77,6 +79,7 @@ protected:
     {
         if (event->type() == QEvent::DragMove && m_hostsDeed)
             std::exchange(m_hostsDeed, nullptr)();
+        m_leaves += event->type() == QEvent::DragLeave ? 1 : 0;
         return false;
     }
 
@@ -92,6 +95,7 @@ private:
     RichTextBox *m_other = nullptr;
     QStringList m_log;
     std::function<void()> m_hostsDeed;
+    int m_leaves = 0;
 };
 
 void BoxDragTest::init()
@@ -99,6 +103,7 @@ void BoxDragTest::init()
     QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
     m_log.clear();
     m_hostsDeed = nullptr;
+    m_leaves = 0;
     m_window = std::make_unique<QWidget>();
     auto *layout = new QVBoxLayout(m_window.get());
     for (RichTextBox **box : {&m_box, &m_other}) {
@@ -240,6 +245,26 @@ void BoxDragTest::aBoxMayGoWhileItIsDraggedFrom()
     QCoreApplication::processEvents();
     QVERIFY(m_other->Text().contains(u"one "_s)); // where the layout has put the place
     QCOMPARE(m_other->TextLength(), 17);
+}
+
+void BoxDragTest::aBoxMayGoWhileItIsDraggedOver()
+{
+    m_box->setSelLength(4);
+    QWindow *window = m_window->windowHandle();
+    const QPoint from = inWindow(*m_box, 1);
+    const QPoint to = inWindow(*m_other, 8);
+    const QPointer<QWidget> over = m_other->viewport();
+    over->installEventFilter(this);
+    InTurn::take({[=] { QTest::mousePress(window, Qt::LeftButton, {}, from); },
+                  [=] { QTest::mouseMove(window, from + QPoint(40, 0)); },
+                  [=] { QTest::mouseMove(window, to); }, [this] { delete m_other; },
+                  [=] { QTest::mouseMove(window, to + QPoint(1, 0)); },
+                  [=] { QTest::mouseMove(window, from + QPoint(80, 0)); },
+                  [=] { QTest::mouseRelease(window, Qt::LeftButton, {}, from + QPoint(80, 0)); }});
+    QVERIFY(!over);
+    QCOMPARE(m_leaves, 1); // or the toolkit goes on with its address
+    QCOMPARE(m_box->TextLength(), 13);
+    QCOMPARE(m_log, QStringList(u"paste one "_s)); // a drag goes on
 }
 
 void BoxDragTest::aClickIntoTheSelectionDoesNotDrag()
