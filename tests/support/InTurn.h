@@ -15,19 +15,20 @@ class InTurn
 public:
     using Step = std::function<void()>;
 
-    static void take(QList<Step> steps)
+    static void take(QList<Step> steps, int between = 5) // milliseconds
     {
         bool done = false;
         steps.append([&done] { done = true; });
-        InTurn turn(std::move(steps));
+        InTurn turn(std::move(steps), between);
         turn.takeNext();
-        QTRY_VERIFY(done);
+        QVERIFY(QTest::qWaitFor([&done] { return done; }));
         QCoreApplication::processEvents();
     }
 
 private:
-    explicit InTurn(QList<Step> steps)
+    InTurn(QList<Step> steps, int between)
         : m_steps(std::move(steps))
+        , m_between(between)
     {
     }
 
@@ -37,10 +38,11 @@ private:
         if (m_steps.isEmpty())
             return;
         const Step step = m_steps.takeFirst();
-        QTimer::singleShot(5, &m_timers, [this] { takeNext(); });
+        QTimer::singleShot(m_between, &m_timers, [this] { takeNext(); });
         step();
     }
 
     QList<Step> m_steps;
+    int m_between;
     QObject m_timers; // go with it
 };
