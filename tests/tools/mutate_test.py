@@ -67,9 +67,13 @@ class MutateTest(unittest.TestCase):
     def test_the_last_outcome_of_a_mutant_counts(self):
         def result(line, outcome):
             return {"file": "f", "line": line, "before": "a", "after": "b", "outcome": outcome}
-        self.assertEqual(self.mutate.summary([result(1, "survived"), result(2, "SomeTest"),
-                                              result(3, "not compiled"), result(1, "SomeTest")]),
-                         (2, 0, 1))
+        results = [result(1, "survived"), result(2, "SomeTest"), result(3, "not compiled"),
+                   result(1, "SomeTest")]
+        self.assertEqual(self.mutate.summary(results),
+                         "Figure: 2 of 2 mutants noticed, 1 did not compile")
+        results += [result(2, "out of time"), result(4, "survived")]
+        self.assertEqual(self.mutate.summary(results), "Figure: 1 of 3 mutants noticed,"
+                         " 1 did not compile, 1 not tried to the end")
 
 
 if __name__ == "__main__":
