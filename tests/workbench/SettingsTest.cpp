@@ -3,6 +3,7 @@
 #include "support/TestProgram.h"
 #include "widgets/look/Luminance.h"
 #include "workbench/Appearance.h"
+#include "workbench/settings/ColourPreview.h"
 #include "workbench/settings/KeptWindow.h"
 #include "workbench/settings/SettingsDialog.h"
 #include "workbench/settings/Theme.h"
@@ -15,6 +16,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QGroupBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QSplitter>
@@ -208,6 +210,43 @@ private Q_SLOTS:
         Settings read;
         read.read(store);
         QVERIFY(read == Settings());
+    }
+
+    void theSampleStandsBetweenChoicesAndButtons()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        decide(workbench, [](SettingsDialog &dialog) {
+            const QRect sample = dialog.findChild<ColourPreview *>()->geometry();
+            for (const QGroupBox *part : dialog.findChildren<QGroupBox *>())
+                QVERIFY(part->geometry().bottom() < sample.top());
+            const QRect buttons = dialog.findChild<QDialogButtonBox *>()->geometry();
+            QVERIFY(sample.bottom() < buttons.top());
+            QCOMPARE(sample.left(), buttons.left());
+            QCOMPARE(sample.right(), buttons.right());
+        });
+    }
+
+    void lettersAreAsLargeAsOnesThatCanBeRead_data()
+    {
+        QTest::addColumn<int>("stored");
+        QTest::addColumn<int>("read");
+        const int usual = Settings().look.fontSize;
+        QTest::newRow("the system's") << 0 << 0;
+        QTest::newRow("too small") << 3 << usual;
+        QTest::newRow("the smallest") << 4 << 4;
+        QTest::newRow("the largest") << 72 << 72;
+        QTest::newRow("too large") << 73 << usual;
+        QTest::newRow("less than none") << -1 << usual;
+    }
+    void lettersAreAsLargeAsOnesThatCanBeRead()
+    {
+        QFETCH(const int, stored);
+        QTemporaryDir folder;
+        QSettings store(folder.filePath(u"a.ini"_s), QSettings::IniFormat);
+        store.setValue(u"editor/fontSize"_s, stored);
+        Settings settings;
+        settings.read(store);
+        QTEST(int{settings.look.fontSize}, "read");
     }
 
     void aSetIsShownAndTheProgramStays()

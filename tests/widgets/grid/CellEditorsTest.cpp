@@ -41,6 +41,38 @@ private Q_SLOTS:
         QCOMPARE(shown.current(), u"1 5"_s);
     }
 
+    void whatHasAButtonHasRoomForItAndForItsText_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("from the left") << Qt::LeftToRight;
+        QTest::newRow("from the right") << Qt::RightToLeft;
+    }
+    void whatHasAButtonHasRoomForItAndForItsText()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        ShownGrid shown;
+        shown.form.setLayoutDirection(direction);
+        const bool isLeft = direction == Qt::LeftToRight;
+        for (const int column : {1, 3}) {
+            shown.list->setColumnWidth(column, 20);
+            shown.goTo(1, column);
+            shown.key(Qt::Key_F2);
+            const QWidget *field = column == 1 ? shown.field<QLineEdit>()
+                                               : static_cast<QWidget *>(shown.field<QComboBox>());
+            QVERIFY(field);
+            const QRect cell = shown->visualRect(shown->currentIndex());
+            const QRect place = field->geometry();
+            if (column == 1) { // a plain field scrolls
+                QCOMPARE(place.width(), cell.width());
+            } else {
+                QCOMPARE(place.width(), field->minimumSizeHint().width());
+                QCOMPARE(isLeft ? place.left() : place.right(),
+                         isLeft ? cell.left() : cell.right());
+            }
+            shown.key(Qt::Key_Escape);
+        }
+    }
+
     void spaceChangesYesAndNo()
     {
         ShownGrid shown;

@@ -216,6 +216,18 @@ private Q_SLOTS:
         QVERIFY(shown.grid->columnLayout(u"Points"_s).contains(u"Column1:-1500"_s));
     }
 
+    void aLayoutComesWithTheNameOfItsTable()
+    {
+        MenuGrid shown;
+        shown.grid->setArrangesColumns(true);
+        shown.grid->setColumnLayout(u"Others"_s, u"Column3:750;Column1:-1500;Column2:600"_s);
+        const QHeaderView &header = *shown->horizontalHeader();
+        QCOMPARE(header.visualIndex(2), 2);
+        shown.grid->setTable(u"Others"_s); // with the same columns
+        QTRY_COMPARE(header.visualIndex(2), 0);
+        QVERIFY(shown->isColumnHidden(0));
+    }
+
     void theHostMayDestroyTheListFromACommand()
     {
         MenuGrid shown;

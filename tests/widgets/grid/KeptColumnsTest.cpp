@@ -120,6 +120,10 @@ private Q_SLOTS:
         shown.scroll(60);
         QCOMPARE(field->x(), 180);
         QVERIFY(!field->mask().contains(QPoint(59, 5)) && field->mask().contains(QPoint(60, 5)));
+        shown.grid->setKeepsFirstColumns(false);
+        QVERIFY(field->mask().isEmpty());
+        shown.grid->setKeepsFirstColumns(true);
+        QVERIFY(!field->mask().contains(QPoint(59, 5)) && field->mask().contains(QPoint(60, 5)));
         shown.scroll(0);
         QVERIFY(field->mask().isEmpty());
     }
