@@ -105,6 +105,20 @@ private Q_SLOTS:
         QVERIFY(m_host->placeOf(7).top() <= m_host->placeOf(1).bottom() + 2);
     }
 
+    void aClickFoldsWhereLinesBeginOnTheRight()
+    {
+        view().setLineNumbersVisible(true);
+        m_host->form.setLayoutDirection(Qt::RightToLeft);
+        QCoreApplication::processEvents();
+        const int y = m_host->inMargin(2).y();
+        QTest::mouseClick(&m_host->margin(), Qt::LeftButton, {}, {5, y});
+        QCOMPARE(shown(), u"1 2 3 5 6 7 8 9 10"_s);
+        const int numbers = m_host->margin().width() - 20;
+        QTest::mouseClick(&m_host->margin(), Qt::LeftButton, {}, {numbers, y});
+        QCOMPARE(shown(), u"1 2 3 5 6 7 8 9 10"_s);
+        QVERIFY(box().SelLength() > 0);
+    }
+
     void aClickElsewhereSelectsTheLine()
     {
         for (const int line : {1, 9}) { // nothing to hide

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void textColourFollowsTheThemeWhenTakenAway();
     void openShowsAllEntriesAndMarksTheSelectedOne();
     void anEmptyComboOpensNothing();
+    void longEntriesMakeItNoWider();
     void theListKeepsOnTheScreen();
     void theListIsWideEnoughForItsTexts();
     void isAComboBoxToScreenReaders();
@@ -237,6 +238,14 @@ void ImageComboTest::anEmptyComboOpensNothing()
     shown.type(u"x"_s);
     QVERIFY(!shown->isListOpen());
     QCOMPARE(shown->text(), u"x"_s);
+}
+
+void ImageComboTest::longEntriesMakeItNoWider()
+{
+    const ShownCombo usual;
+    const ShownCombo shown({QString(200, u'm'), u"short"_s});
+    QCOMPARE(shown->sizeHint(), usual->sizeHint());
+    QCOMPARE(shown->minimumSizeHint(), usual->minimumSizeHint());
 }
 
 void ImageComboTest::theListKeepsOnTheScreen()

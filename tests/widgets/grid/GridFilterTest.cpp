@@ -11,6 +11,7 @@
 #include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QtTest>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolButton>
 
 using namespace ORVTListview;
@@ -447,6 +448,21 @@ private Q_SLOTS:
         shown->setFont(font);
         QCoreApplication::processEvents();
         QVERIFY(shown.field(0)->y() >= shown->horizontalHeader()->viewport()->geometry().bottom());
+    }
+
+    void theFieldForAnyCellScrollsNothing()
+    {
+        FilteredGrid shown(ListGrid::FilterAbove);
+        for (int column = 0; column < 6; ++column)
+            shown->setColumnWidth(column, 150);
+        QCoreApplication::processEvents();
+        QScrollBar &bar = *shown->horizontalScrollBar();
+        bar.setValue(bar.maximum());
+        const int scrolled = bar.value();
+        QVERIFY(scrolled > 0);
+        shown.fields().constFirst()->setFocus();
+        QVERIFY(shown.fields().constFirst()->hasFocus());
+        QCOMPARE(bar.value(), scrolled);
     }
 
     void aFieldThatIsReachedIsSeen()
