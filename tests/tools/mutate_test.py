@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""tools/mutate changes what is code, one place at a time, and counts right."""
+"""tools/mutate changes what is code, one place at a time."""
 
 import importlib.machinery
 import importlib.util
@@ -10,6 +10,7 @@ import unittest
 
 sys.dont_write_bytecode = True
 TOOL = pathlib.Path(__file__).resolve().parents[2] / "tools" / "mutate"
+sys.path.insert(0, str(TOOL.parent))
 
 
 def load():
@@ -63,17 +64,6 @@ class MutateTest(unittest.TestCase):
             (self.mutate.ROOT / "file.cpp").write_text("    return 2;\n")
             mutant = self.mutate.Mutant("file.cpp", 1, "    return 1;", "    return 2;")
             self.assertIsNone(mutant.text())
-
-    def test_the_last_outcome_of_a_mutant_counts(self):
-        def result(line, outcome):
-            return {"file": "f", "line": line, "before": "a", "after": "b", "outcome": outcome}
-        results = [result(1, "survived"), result(2, "SomeTest"), result(3, "not compiled"),
-                   result(1, "SomeTest")]
-        self.assertEqual(self.mutate.summary(results),
-                         "Figure: 2 of 2 mutants noticed, 1 did not compile")
-        results += [result(2, "out of time"), result(4, "survived")]
-        self.assertEqual(self.mutate.summary(results), "Figure: 1 of 3 mutants noticed,"
-                         " 1 did not compile, 1 not tried to the end")
 
 
 if __name__ == "__main__":
