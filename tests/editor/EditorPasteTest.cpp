@@ -63,6 +63,15 @@ private Q_SLOTS:
         QCOMPARE(host.colourAt(0), 0x030201);
     }
 
+    void theEndOfPastedRtfIsSeen()
+    {
+        EditorHost host;
+        host.setText(u"|"_s);
+        paste(host, u"{\\rtf1 "_s + u"x\\par "_s.repeated(500) + u"end}"_s);
+        QVERIFY(host.box().Text().endsWith(u"end"_s));
+        QVERIFY(host.box().viewport()->rect().contains(host.box().cursorRect()));
+    }
+
     void aBackslashIsRefusedWhole()
     {
         EditorHost host;

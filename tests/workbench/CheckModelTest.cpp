@@ -58,7 +58,14 @@ private:
             QCOMPARE(model.place(row).line, problems[row].line);
             QCOMPARE(model.place(row).piece, problems[row].found.place);
             QVERIFY(!model.index(row, 0).data().toString().isEmpty());
+            QVERIFY(!model.index(row, 0).data(Qt::DecorationRole).isNull());
+            QVERIFY(!model.index(row, 0).data(Qt::ToolTipRole).toString().isEmpty());
         }
+    }
+    static void checkThatNothingIsWrong(const CheckModel &model, int row)
+    {
+        QVERIFY(!model.index(row, 0).data(Qt::DecorationRole).isValid());
+        QVERIFY(!model.index(row, 0).data(Qt::ToolTipRole).isValid());
     }
     static void checkStatements(RandomText &random, CheckModel &model, int rows)
     {
@@ -72,6 +79,7 @@ private:
         for (int row = 0; row < rows; ++row) {
             QCOMPARE(model.index(row, 1).data().toString(), indentedText(statements[row]));
             QCOMPARE(model.place(row).line, statements[row].line);
+            checkThatNothingIsWrong(model, row);
         }
     }
     static void checkUses(RandomText &random, CheckModel &model, int rows)
@@ -87,6 +95,7 @@ private:
         for (int row = 0; row < rows; ++row) {
             QCOMPARE(model.place(row), uses[row].place);
             QCOMPARE(model.index(row, 1).data().toString(), uses[row].text);
+            checkThatNothingIsWrong(model, row);
         }
     }
 };
