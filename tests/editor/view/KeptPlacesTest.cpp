@@ -154,6 +154,15 @@ private Q_SLOTS:
         QCOMPARE(m_text->toPlainText(), u"aa = x"_s);
     }
 
+    void whatStoodBesideTheChangeIsNotTheirs()
+    {
+        begin(u"xx abc abc"_s, KeptPlaces::Kind::Texts);
+        m_places->set({{3, 6}});
+        selected(*m_text, 0, 6).insertText(u"yyyyab"_s);
+        QCOMPARE(m_text->toPlainText(), u"yyyyab abc"_s);
+        QCOMPARE(kept(), u"-"_s);
+    }
+
     void ofALineThatGoesElsewhere()
     {
         begin(u"top\na = 1\nb = 2\nc = 3\nend"_s, KeptPlaces::Kind::Texts);

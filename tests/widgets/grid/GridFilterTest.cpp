@@ -450,6 +450,20 @@ private Q_SLOTS:
         QVERIFY(shown.field(0)->y() >= shown->horizontalHeader()->viewport()->geometry().bottom());
     }
 
+    void aRowThatIsNotShownIsRemovedAlone()
+    {
+        FilteredGrid shown;
+        shown.grid->setFilterText(1, u"Fan"_s);
+        QCOMPARE(shown.grid->rowsShown(), 3);
+        shown->ListItems()->Remove(3); // Pump
+        QCOMPARE(shown.grid->rowsShown(), 3);
+        QCOMPARE(shown->ListItems()->Count(), 4);
+        QCOMPARE(shown.item(4)->Key(), u"Row5"_s);
+        shown.grid->setFilterText(1, {});
+        QCOMPARE(shown.texts(1), u"Fan1|Fan2||Fan10"_s);
+        QCOMPARE(shown.texts(0), u"Text 1|Text 2|Text 4|Text 5"_s);
+    }
+
     void theFieldForAnyCellScrollsNothing()
     {
         FilteredGrid shown(ListGrid::FilterAbove);
