@@ -394,6 +394,22 @@ private Q_SLOTS:
                  qPrintable(QString::number(views.dock(dsInput).width())));
     }
 
+    void theProgramsWindowGoesBackBesideWhatStandsInTheMainOne()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        for (const LwType type : {dsOutput, dsCode}) {
+            views.views().enterType(type);
+            views.choose(u"Own Window"_s);
+            QTRY_VERIFY(views.dock(type).isFloating());
+        }
+        views.dock(dsCode).close();
+        QTRY_VERIFY(!views.dock(dsCode).isFloating());
+        QVERIFY(views.dock(dsOutput).isFloating());
+        QVERIFY(
+            views.place().tabifiedDockWidgets(&views.dock(dsCode)).contains(&views.dock(dsInput)));
+    }
+
     void aDamagedArrangementIsLeftOut()
     {
         QTemporaryDir folder;
