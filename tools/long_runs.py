@@ -1,7 +1,8 @@
 """What became of the runs for which ./check has no time: a line each, kept with the
 sources in tests/long_runs, so that they add up from one machine to the next.
 
-    tools/long_runs.py TARGET SECONDS PASSED LOG     keeps a run of a fuzz target
+    tools/long_runs.py TARGET SECONDS STATUS LOG     keeps a run of a fuzz target, whose exit
+                                                     status is 0 when it found nothing
 
 The tools write the lines, nobody else; tools/trust puts what they come to into
 docs/trust.md."""
@@ -83,9 +84,7 @@ def counted(runs):
     since = {}
     for run in runs:
         own = since.setdefault(run.get("target"), [])
-        if own and not own[-1].get("passed", True):
-            own.clear()
-        if not run.get("passed", True):
+        if not all(each.get("passed", True) for each in (*own[-1:], run)):
             own.clear()
         own.append(run)
     return [run for own in since.values() for run in own]
@@ -102,9 +101,9 @@ def figure(tool):
 
 
 def main():
-    target, seconds, passed, log = sys.argv[1:]
+    target, seconds, status, log = sys.argv[1:]
     text = pathlib.Path(log).read_text(errors="replace")
-    keep("fuzz", target=target, seconds=int(seconds), passed=passed == "0",
+    keep("fuzz", target=target, seconds=int(seconds), passed=status == "0",
          inputs=sum(int(number) for number in INPUTS.findall(text)))
 
 

@@ -10,7 +10,7 @@
 #include <QtTest/QTest>
 
 #include <algorithm>
-#include <initializer_list>
+#include <array>
 
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
@@ -44,10 +44,6 @@ DragScene::DragScene()
     , m_combo(new ORVDataCombo(&form))
     , m_tree(new ORVTreeview(&form))
 {
-    int side = 0;
-    for (QWidget *component :
-         std::initializer_list<QWidget *>{m_field, m_box, m_editor, m_table, m_combo, m_tree})
-        m_components[static_cast<std::size_t>(side++)] = component;
     for (const QString &name : {u"temp1"_s, u"temp2"_s, u"fan1"_s})
         m_inputs.Add(name);
     m_tree->SetCollectionRenamable(nullptr, &m_others, &m_others, &m_inputs, &m_others, &m_others);
@@ -90,10 +86,16 @@ void DragScene::fillTree()
     m_tree->Nodes()->Item(u"Inputs"_s)->setExpanded(true);
 }
 
+QWidget *DragScene::component(Side side) const
+{
+    const std::array<QWidget *, targets> all{m_field, m_box,  m_editor, m_table,
+                                             m_combo, m_tree, nullptr};
+    return all[static_cast<std::size_t>(side)];
+}
+
 bool DragScene::isWhole() const
 {
-    return std::all_of(m_components.begin(), m_components.end(),
-                       [](const auto &component) { return !component.isNull(); });
+    return m_field && m_box && m_editor && m_table && m_combo && m_tree;
 }
 
 QPlainTextEdit *DragScene::textOf(Side side) const

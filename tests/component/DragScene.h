@@ -7,7 +7,6 @@
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QWidget>
 
-#include <array>
 #include <optional>
 
 // A form with all that one drags from and drops onto, shown. Places are the form's.
@@ -35,7 +34,7 @@ public:
     static bool isText(Side side) { return side <= Editor; }
 
     // Null once it is destroyed; for Beside always.
-    QWidget *component(Side side) const { return m_components[static_cast<std::size_t>(side)]; }
+    QWidget *component(Side side) const;
     bool isWhole() const;
     QPlainTextEdit *textOf(Side side) const;
 
@@ -70,7 +69,6 @@ private:
 
     ORVTListview::PointList m_inputs;
     ORVTListview::PointList m_others; // none
-    std::array<QPointer<QWidget>, sources> m_components;
     QPointer<QPlainTextEdit> m_field;
     QPointer<ORVTListview::RichTextBox> m_box;
     QPointer<ORVTListview::ORVListView> m_editor;
