@@ -285,6 +285,7 @@ void MainWindow::connectSaving()
     connect(m_document, &ProjectDocument::tablesChanged, m_points, &PointChooser::refill);
     connect(m_document, &ProjectDocument::tablesChanged, m_values, &PointValues::takeProject);
     connect(m_document, &ProjectDocument::tablesChanged, m_view, &ProjectView::refresh);
+    connect(m_saving, &ProjectSaving::writingSeveral, m_recovery, &RecoveryKeeper::keepNow);
     connect(m_saving, &ProjectSaving::settled, m_recovery, &RecoveryKeeper::drop);
     connect(m_saving, &ProjectSaving::told, m_status, &WindowStatus::tellLonger);
     connect(m_saving, &ProjectSaving::movedElsewhere, this, [this] {

@@ -5,6 +5,8 @@
 #include "project/RecoveryFile.h"
 #include "support/TestProgram.h"
 #include "workbench/OpeningFault.h"
+#include "workbench/renaming/PointRenaming.h"
+#include "workbench/renaming/RenameDialog.h"
 #include "workbench/saving/RecoveryDialog.h"
 
 #include <QtCore/QDir>
@@ -217,6 +219,30 @@ private Q_SLOTS:
         workbench.type(u"y"_s);
         workbench.choose(u"Save"_s);
         QCOMPARE(readFile(workbench.folder.filePath(u"two.prog"_s)), "xy");
+    }
+
+    // A renamed point is in two files, and the second one cannot be written.
+    void whatIsSavedByHalvesIsKeptWhole()
+    {
+        WorkbenchWindow workbench("Fan1 = Temp1");
+        NextDialog<RenameDialog> places([](RenameDialog &dialog) { dialog.accept(); });
+        workbench.window.findChild<PointRenaming *>()->rename(dsInput, 0, u"Room"_s);
+        QVERIFY(places.wasThere());
+        const QString program = workbench.folder.filePath(u"one.prog"_s);
+        QVERIFY(QFile::remove(program));
+        QVERIFY(QDir().mkdir(program));
+        std::optional<RecoveredWork> kept;
+        NextDialog<QMessageBox> failure([&](QMessageBox &box) {
+            if (QFile::exists(recoveryFile(workbench)))
+                kept = readRecovery(readFile(recoveryFile(workbench)));
+            press(box, u"Cancel"_s);
+        });
+        workbench.choose(u"Save"_s);
+        QVERIFY(failure.wasThere());
+        QVERIFY(readFile(workbench.folder.filePath(u"one.json"_s)).contains("Room"));
+        QVERIFY(kept);
+        QVERIFY(kept->json.contains("Room"));
+        QCOMPARE(kept->programs, QStringList(u"Fan1 = Room"_s));
     }
 
     void aProjectThatCannotBeOpenedLeavesTheWindow()

@@ -51,6 +51,8 @@ bool ProjectSaving::save()
 bool ProjectSaving::carryOut(const Attempt &attempt)
 {
     const bool isElsewhere = !attempt.place.isEmpty();
+    if (isElsewhere ? m_document.isModified() : changesSeveralFiles())
+        Q_EMIT writingSeveral();
     Project::Saved saved;
     try {
         saved = isElsewhere ? m_document.saveAt(attempt.place, attempt.encoding)
@@ -127,6 +129,12 @@ QStringList ProjectSaving::changedPrograms() const
             names.append(program.name);
     }
     return names;
+}
+
+bool ProjectSaving::changesSeveralFiles() const
+{
+    const qsizetype programs = changedPrograms().size();
+    return programs > (m_document.project()->hasChangedTables() ? 0 : 1);
 }
 
 QString ProjectSaving::questionOnLeaving() const

@@ -34,6 +34,10 @@ public:
     bool mayLeave();
 
 Q_SIGNALS:
+    // Several files are about to be written. Until settled(), those on the disk may not belong
+    // together.
+    void writingSeveral();
+
     // Nothing is left to save, or the user does not want it.
     void settled();
 
@@ -51,6 +55,7 @@ private:
         Project::Encoding encoding = Project::Encoding::ItsOwn;
     };
     bool carryOut(const Attempt &attempt);
+    bool changesSeveralFiles() const;
     bool mayOverwrite(const QString &fileName);
     bool offerWayOut(const Error &error, Attempt attempt);
     QStringList changedPrograms() const;

@@ -194,7 +194,7 @@ bool RecoveryKeeper::keepNow()
 {
     settle();
     const Work now = work();
-    if (isKept(now))
+    if (m_keepsNothing || isKept(now))
         return true;
     Q_EMIT keeping();
     return finish(now, write(m_own, now));

@@ -57,7 +57,7 @@ public:
 
     bool isOpenElsewhere() const { return m_isOpenElsewhere; }
 
-    // Writes what is not saved now before it returns. False, after failed(), when that is
+    // Writes what is not saved now, if it keeps anything, before it returns. False, after failed(), when that is
     // impossible.
     bool keepNow();
 
