@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""tools/mutate changes what is code, one place at a time."""
+"""tools/mutate changes what is code, one place at a time, and believes no single failure."""
 
 import importlib.machinery
 import importlib.util
 import pathlib
 import sys
 import tempfile
+import types
 import unittest
 
 sys.dont_write_bytecode = True
@@ -64,6 +65,21 @@ class MutateTest(unittest.TestCase):
             (self.mutate.ROOT / "file.cpp").write_text("    return 2;\n")
             mutant = self.mutate.Mutant("file.cpp", 1, "    return 1;", "    return 2;")
             self.assertIsNone(mutant.text())
+
+    def noticed(self, *outcomes, is_sound=True):
+        """Whether a mutant is, with which a test ends so, time after time."""
+        build = types.SimpleNamespace(is_sound=lambda *test: is_sound)
+        trial = self.mutate.Trial(build, None, None)
+        left = list(outcomes)
+        trial.passes = lambda *test: left.pop(0)
+        return trial.notices({}, "", "")
+
+    def test_only_a_failure_that_comes_again_is_the_mutants(self):
+        self.assertTrue(self.noticed(False, False))
+        self.assertTrue(self.noticed(None), "it goes on for ever")
+        self.assertFalse(self.noticed(False, True))
+        self.assertFalse(self.noticed(True))
+        self.assertFalse(self.noticed(False, False, is_sound=False))
 
 
 if __name__ == "__main__":
