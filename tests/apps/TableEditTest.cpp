@@ -73,6 +73,16 @@ TEST(TableEdit, AddsRows)
               QByteArray(", \"inputs\": [\n    { \"name\": \"D\" }\n  ]}"));
 }
 
+// Where rows stand beside each other, the new first one begins its line as the former did.
+TEST(TableEdit, AddsARowBeforeTheFirst)
+{
+    const QByteArray two = R"(, "inputs": [
+    {"name": "A", "data": 1}, {"name": "B", "data": 2}
+  ]})";
+    EXPECT_EQ(edited(two, [](auto &rows) { rows.prepend(input(u"D"_s, 3)); }),
+              QByteArray(two).replace("[", "[\n    { \"name\": \"D\", \"data\": 3 },"));
+}
+
 TEST(TableEdit, RemovesRows)
 {
     EXPECT_EQ(edited(three, [](auto &rows) { rows.removeAt(2); }),

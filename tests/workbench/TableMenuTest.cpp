@@ -217,14 +217,17 @@ private Q_SLOTS:
     {
         Table table;
         QString proposed;
+        QString selected;
         NextDialog<NewPointDialog> dialog([&](NewPointDialog &asked) {
             proposed = asked.name();
+            selected = asked.findChild<QLineEdit *>()->selectedText();
             QVERIFY(!asked.findChild<QComboBox *>()->isEnabled());
             QTest::keyClick(&asked, Qt::Key_Return);
         });
         Table::choose(table.menuAt(1), u"Duplicate Point…"_s);
         QVERIFY(dialog.wasThere());
         QCOMPARE(proposed, u"Temp12"_s);
+        QCOMPARE(selected, proposed); // so that what is typed replaces it
         QCOMPARE(table.shown().ListItems()->Item(2)->SubItem(1), u"Temp12"_s);
         table.WorkbenchWindow::choose(u"Undo"_s);
         QVERIFY(table.shown().ListItems()->Item(2)->SubItem(1).trimmed().isEmpty());

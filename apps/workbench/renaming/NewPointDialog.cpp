@@ -53,7 +53,6 @@ void NewPointDialog::addFields(const PointProposal &proposal)
     form().addRow(tr("&Name:"), m_name);
     form().addRow(tr("&Table:"), m_table);
     m_name->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
-    m_name->selectAll();
 }
 
 LwType NewPointDialog::type() const
