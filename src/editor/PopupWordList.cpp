@@ -1,11 +1,11 @@
 #include "editor/PopupWordList.h"
 
 #include "base/KeyCodes.h"
+#include "base/PopupPlace.h"
 #include "base/TextRules.h"
 #include "editor/EditorThread.h"
 #include "editor/OpenWordList.h"
 #include "editor/WordInBox.h"
-#include "editor/rules/PopupPlace.h"
 #include "editor/rules/colouring/EditorState.h"
 #include "editor/rules/colouring/ThreadColouring.h"
 #include "editor/rules/language/CodeText.h"
@@ -380,8 +380,8 @@ void PopupWordList::place()
     const int frame = 2 * view.frameWidth();
     const int height = rowsShown() * std::max(1, face().rowHeight()) + frame;
     const int bar = view.verticalScrollBar()->sizeHint().width();
-    const QRect place =
-        popupPlace(word, {face().wantedWidth() + bar + frame, height}, screen->availableGeometry());
+    const QSize wanted(face().wantedWidth() + bar + frame, height);
+    const QRect place = popupPlace(word, {.wanted = wanted, .gap = 2}, screen->availableGeometry());
     const bool hasBar = face().rows() > rowsShown() || place.height() < height;
     view.setGeometry(place);
     face().fit(place.width() - frame - (hasBar ? bar : 0));

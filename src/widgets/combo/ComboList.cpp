@@ -1,5 +1,6 @@
 #include "widgets/combo/ComboList.h"
 
+#include "base/PopupPlace.h"
 #include "widgets/combo/ComboEntries.h"
 
 #include <QtCore/QCoreApplication>
@@ -120,27 +121,15 @@ int ComboList::contentWidth() const
            2 * frameWidth();
 }
 
-// Below the combo, or above it where there is more room.
+// As wide as it was while it is seen.
 void ComboList::place()
 {
     const QRect combo(m_combo.mapToGlobal(QPoint()), m_combo.size());
-    const QRect screen = m_combo.screen()->availableGeometry();
-    const int rowHeight = m_view->sizeHintForRow(0);
-    const int under = std::clamp(combo.bottom() + 1, screen.top(), screen.bottom() + 1);
-    const int over = std::clamp(combo.top(), screen.top(), screen.bottom() + 1);
-    const int below = screen.bottom() + 1 - under;
-    const int above = over - screen.top();
     const int rows = std::min(m_matches.size(), m_combo.maxVisibleItems());
-    const int wanted = rows * rowHeight + 2 * frameWidth();
-    const bool isBelow = wanted <= below || below >= above;
-    const int height = std::min(wanted, isBelow ? below : above);
-    const int width =
-        isVisible()
-            ? this->width()
-            : std::clamp(contentWidth(), std::min(combo.width(), screen.width()), screen.width());
-    const int nearest = m_combo.isRightToLeft() ? combo.right() + 1 - width : combo.left();
-    const int left = std::clamp(nearest, screen.left(), screen.right() + 1 - width);
-    setGeometry(left, isBelow ? under : over - height, width, height);
+    const QSize wanted(isVisible() ? width() : std::max(contentWidth(), combo.width()),
+                       rows * m_view->sizeHintForRow(0) + 2 * frameWidth());
+    setGeometry(popupPlace(combo, {.wanted = wanted, .isFromRight = m_combo.isRightToLeft()},
+                           m_combo.screen()->availableGeometry()));
 }
 
 int ComboList::currentRow() const
