@@ -73,9 +73,7 @@ JsonPlace::JsonPlace(QString file, Root root, QString place, JsonNode node)
 JsonPlace JsonPlace::parse(const QByteArray &json, const QString &fileName)
 {
     const Root root = parsed(json, fileName);
-    JsonPlace place(fileName, root, {}, JsonNode::rootOf(*root));
-    place.expect(JsonNode::Kind::Object);
-    return place;
+    return {fileName, root, {}, JsonNode::rootOf(*root)};
 }
 
 const JsonPlace &JsonPlace::required() const
