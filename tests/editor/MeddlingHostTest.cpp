@@ -5,6 +5,7 @@
 #include "support/TestProgram.h"
 #include "support/WidgetTest.h"
 
+#include <QtGui/QClipboard>
 #include <QtGui/QContextMenuEvent>
 
 using namespace ORVTListview;
@@ -50,6 +51,33 @@ private Q_SLOTS:
         QVERIFY(!host.list->IsUndoAvailable());
         host.finish();
         QCOMPARE(host.box().document()->toRawText(), u"Fan1 = 2"_s);
+    }
+
+    // Only what the user typed is finished for the user.
+    void aTextOfTheHostsIsNotFinished_data()
+    {
+        QTest::addColumn<EditorAct>("act");
+        QTest::newRow("line break")
+            << EditorAct([](EditorHost &host) { QTest::keyClick(&host.box(), Qt::Key_Return); });
+        QTest::newRow("paste") << EditorAct([](EditorHost &host) {
+            QApplication::clipboard()->setText(u"a\r\nb"_s);
+            QTest::keyClick(&host.box(), Qt::Key_V, Qt::ControlModifier);
+        });
+    }
+    void aTextOfTheHostsIsNotFinished()
+    {
+        QFETCH(const EditorAct, act);
+        OpeningHost host;
+        host.list->setCodeText(u"former"_s);
+        connect(&host.box(), &QPlainTextEdit::textChanged, &host.form,
+                [&host, isFirst = true]() mutable {
+                    if (std::exchange(isFirst, false)) {
+                        host.box().setText(u"temp1\r\ntemp1"_s);
+                        host.box().setSelStart(7);
+                    }
+                });
+        act(host);
+        QCOMPARE(host.box().Text(), u"temp1\r\ntemp1"_s);
     }
 
     void theEditorMayGo_data() { addWaysIn(); }

@@ -410,6 +410,29 @@ private Q_SLOTS:
             views.place().tabifiedDockWidgets(&views.dock(dsCode)).contains(&views.dock(dsInput)));
     }
 
+    void ofSeveralInTheMainWindowItGoesToTheOneThatWasUsedLast()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        views.views().enterType(dsVariable);
+        views.choose(u"Show Beside"_s);
+        views.views().enterType(dsOutput);
+        views.choose(u"Own Window"_s);
+        QTRY_VERIFY(views.dock(dsOutput).isFloating());
+        for (const LwType last : {dsInput, dsVariable, dsInput}) {
+            views.views().enterType(dsCode);
+            views.choose(u"Own Window"_s);
+            QTRY_VERIFY(views.dock(dsCode).isFloating());
+            views.views().enterType(last);
+            views.views().enterType(dsOutput);
+            views.dock(dsCode).close();
+            QTRY_VERIFY(!views.dock(dsCode).isFloating());
+            const auto beside = views.place().tabifiedDockWidgets(&views.dock(dsCode));
+            QVERIFY(beside.contains(&views.dock(last)));
+            QVERIFY(!beside.contains(&views.dock(last == dsInput ? dsVariable : dsInput)));
+        }
+    }
+
     void aDamagedArrangementIsLeftOut()
     {
         QTemporaryDir folder;

@@ -42,6 +42,19 @@ private Q_SLOTS:
         }
     }
 
+    void tellsHowManyValuesAFunctionNeeds()
+    {
+        CheckModel model;
+        const auto told = [&model](const QString &function) {
+            LineProblem found{Fault::ValueCount, {1, 2}, function, 7};
+            model.setProblems({{1, found}}, 1);
+            return model.index(0, 0).data().toString();
+        };
+        QCOMPARE(told(u"SQRT"_s), u"Line 1: SQRT needs one value and has 7"_s);
+        QCOMPARE(told(u"LIMIT"_s), u"Line 1: LIMIT needs 3 values and has 7"_s);
+        QCOMPARE(told(u"HISEL"_s), u"Line 1: HISEL needs 2 values or more and has 7"_s);
+    }
+
 private:
     static void checkProblems(RandomText &random, CheckModel &model, int rows)
     {

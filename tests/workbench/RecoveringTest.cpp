@@ -8,10 +8,12 @@
 #include "workbench/renaming/PointRenaming.h"
 #include "workbench/renaming/RenameDialog.h"
 #include "workbench/saving/RecoveryDialog.h"
+#include "workbench/saving/RecoveryKeeper.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
+#include <QtTest/QSignalSpy>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeWidget>
@@ -243,6 +245,17 @@ private Q_SLOTS:
         QVERIFY(kept);
         QVERIFY(kept->json.contains("Room"));
         QCOMPARE(kept->programs, QStringList(u"Fan1 = Room"_s));
+    }
+
+    void whatIsKeptIsNotWrittenAgain()
+    {
+        WorkbenchWindow workbench("Fan1 = ON");
+        workbench.type(u"x"_s);
+        auto &keeper = *workbench.window.findChild<RecoveryKeeper *>();
+        const QSignalSpy written(&keeper, &RecoveryKeeper::keeping);
+        QVERIFY(keeper.keepNow());
+        QVERIFY(keeper.keepNow());
+        QCOMPARE(written.size(), 1);
     }
 
     void aProjectThatCannotBeOpenedLeavesTheWindow()

@@ -7,6 +7,7 @@
 #include "support/TestProgram.h"
 #include "workbench/trend/Trend.h"
 #include "workbench/trend/TrendExport.h"
+#include "workbench/trend/TrendPainter.h"
 #include "workbench/trend/TrendScale.h"
 #include "workbench/trend/TrendStyle.h"
 #include "workbench/trend/TrendView.h"
@@ -179,6 +180,23 @@ private Q_SLOTS:
         QVERIFY2(told.contains(numbers), qPrintable(told));
         QVERIFY2(told.contains(u"S: Off, from Off to On"_s), qPrintable(told));
         QCOMPARE(drawn.view.accessibleDescription(), told);
+    }
+
+    void eachUnitAndEachStateHasAPartOfItsOwn()
+    {
+        const QWidget window;
+        const auto height = [&window](const QList<TrendLine> &lines) {
+            return TrendPainter::leastHeight(lines, window);
+        };
+        const TrendLine warm{{}, u"A"_s, u"°C"_s};
+        const TrendLine damp{{}, u"B"_s, u"%"_s};
+        const TrendLine state{{}, u"S"_s, {}, true};
+        const int one = height({warm});
+        QCOMPARE(height({warm, warm}), one);
+        QVERIFY(height({warm, damp}) > one);
+        QCOMPARE(height({warm, damp, warm}), height({warm, damp}));
+        QVERIFY(height({warm, state}) > one);
+        QVERIFY(height({warm, state, state}) > height({warm, state}));
     }
 
     void theKeysWalkTheSamples()

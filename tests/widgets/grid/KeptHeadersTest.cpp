@@ -105,6 +105,30 @@ private Q_SLOTS:
         QCOMPARE(shown.grid->sortKeys().size(), 1);
     }
 
+    void whoMovesADividerDragsNoColumn_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<int>("at");
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            for (const int at : {118, 121}) // on either side of it
+                QTest::addRow("%d, %d", direction, at) << direction << at;
+        }
+    }
+    void whoMovesADividerDragsNoColumn()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        QFETCH(const int, at);
+        KeptGrid shown(direction);
+        shown.grid->setArrangesColumns(true);
+        shown.press(shown.head(at));
+        shown.move(shown.head(at + 15));
+        shown.move(shown.head(at + 90));
+        QVERIFY(!shown->horizontalHeader()->findChild<QLabel *>(u"DraggedSection"_s));
+        shown.release(shown.head(at + 90));
+        QCOMPARE(shown->columnWidth(0), 210);
+        QCOMPARE(shown.order(), u"0 1 2 3 4 5"_s);
+    }
+
     void aDraggedOneScrollsAtTheEdges()
     {
         KeptGrid shown;
