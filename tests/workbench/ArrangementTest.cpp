@@ -433,6 +433,33 @@ private Q_SLOTS:
         }
     }
 
+    void theOneThatWasUsedBeforeIsSeenWhenOneCloses_data()
+    {
+        QTest::addColumn<bool>("isInTree");
+        QTest::newRow("with the focus") << false;
+        QTest::newRow("without it") << true;
+    }
+    void theOneThatWasUsedBeforeIsSeenWhenOneCloses()
+    {
+        QFETCH(const bool, isInTree);
+        Views views;
+        const QList<LwType> types{dsInput, dsOutput, dsVariable, dsConst, dsController};
+        for (const LwType type : types)
+            views.views().enterType(type);
+        for (const LwType type : {dsVariable, dsInput, dsController, dsConst, dsOutput})
+            views.views().enterType(type);
+        for (const LwType next : {dsConst, dsController, dsInput, dsVariable, dsCode}) {
+            if (isInTree)
+                views.nodes().setFocus();
+            views.choose(u"Close Table"_s);
+            QCoreApplication::processEvents();
+            QCOMPARE(views.shown().ListviewType(), next);
+            QTRY_VERIFY(views.dock(next).isSeen());
+            QCOMPARE(views.hasFocus(views.nodes()), isInTree);
+            QCOMPARE(views.hasFocus(views.shown()), !isInTree);
+        }
+    }
+
     void aDamagedArrangementIsLeftOut()
     {
         QTemporaryDir folder;

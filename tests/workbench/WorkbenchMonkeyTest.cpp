@@ -8,6 +8,8 @@
 #include "support/TestProgram.h"
 #include "workbench/WorkbenchTest.h"
 #include "workbench/help/FirstSteps.h"
+#include "workbench/views/ViewDock.h"
+#include "workbench/views/Workplace.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QDropEvent>
@@ -263,7 +265,10 @@ private:
         if ((m_workbench.shown().ListviewType() == dsCode) == !!m_workbench.views().currentTable())
             return u"commands are for another view than the current one"_s;
         if (m_workbench.views().isVisible() && !m_workbench.shown().isVisible())
-            return u"the current view is not seen"_s;
+            return u"the current view is not there"_s;
+        const ViewDock *dock = m_workbench.views().workplace().current();
+        if (m_workbench.views().isVisible() && !(dock && dock->isSeen()))
+            return u"the current view is behind another one"_s;
         if (window().menuBar()->actions().size() < 5)
             return u"a menu is missing"_s;
         return {};

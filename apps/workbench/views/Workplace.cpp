@@ -121,6 +121,8 @@ void Workplace::noteClosed(ViewDock *dock)
     const QWidget *focus = QApplication::focusWidget();
     if (current() && (!focus || focus == this || isAncestorOf(focus)))
         enter(*current());
+    else if (current())
+        show(*current()); // it may be a tab behind another one
 }
 
 void Workplace::show(ViewDock &dock)
