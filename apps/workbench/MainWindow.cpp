@@ -37,6 +37,7 @@
 #include "workbench/views/CategoryMenu.h"
 #include "workbench/views/Panes.h"
 #include "workbench/views/ProgramViews.h"
+#include "workbench/views/TabKey.h"
 #include "workbench/views/TableMenu.h"
 #include "workbench/views/TableViews.h"
 #include "workbench/views/Workplace.h"
@@ -431,6 +432,14 @@ void MainWindow::changeEvent(QEvent *event)
     else if (event->type() == QEvent::ModifiedChange)
         showTitle();
     QMainWindow::changeEvent(event);
+}
+
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    QWidget *to = nextByTab(*this, m_view->workplace(), next);
+    if (to)
+        to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return to;
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -460,6 +460,38 @@ private Q_SLOTS:
         }
     }
 
+    void theTabKeyGoesToWhatIsSeen()
+    {
+        Views views;
+        const QString program = views.code().CodeText();
+        for (const LwType type : {dsInput, dsOutput, dsVariable})
+            views.views().enterType(type);
+        views.nodes().setFocus();
+        const auto walk = [&views](Qt::Key key, const QWidget &end) {
+            for (int i = 0; i < 20 && !views.hasFocus(end); ++i) {
+                views.press(key);
+                for (const LwType behind : {dsCode, dsInput, dsOutput})
+                    QVERIFY(!views.hasFocus(views.dock(behind)));
+            }
+            QVERIFY(views.hasFocus(end));
+        };
+        walk(Qt::Key_Tab, views.dock(dsVariable));
+        walk(Qt::Key_Backtab, views.nodes());
+        walk(Qt::Key_Backtab, views.dock(dsVariable));
+        QVERIFY(views.dock(dsVariable).isSeen());
+        QCOMPARE(views.code().CodeText(), program);
+    }
+
+    void aViewThatGetsTheFocusComesToTheFront()
+    {
+        Views views;
+        views.views().enterType(dsInput);
+        QTRY_VERIFY(!views.dock(dsCode).isSeen());
+        views.box().setFocus();
+        QTRY_VERIFY(views.dock(dsCode).isSeen());
+        QCOMPARE(views.shown().ListviewType(), dsCode);
+    }
+
     void aDamagedArrangementIsLeftOut()
     {
         QTemporaryDir folder;

@@ -32,6 +32,8 @@ Workplace::Workplace(QWidget *parent)
     connect(this, &QMainWindow::tabifiedDockWidgetActivated, this, &Workplace::chooseTab);
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *, const QWidget *now) {
         if (ViewDock *dock = dockOf(now)) {
+            if (isBehind(dock->view()))
+                dock->raise(); // nobody types into what is hidden
             setCurrent(dock);
             Q_EMIT entered(dock);
         }
@@ -58,6 +60,12 @@ ViewDock *Workplace::dockOf(const QWidget *widget) const
         return widget && dock->isAncestorOf(widget);
     });
     return found == m_docks.cend() ? nullptr : *found;
+}
+
+bool Workplace::isBehind(const QWidget &widget) const
+{
+    const ViewDock *dock = dockOf(&widget);
+    return dock && dock->isVisible() && !dock->isSeen();
 }
 
 void Workplace::add(ViewDock &dock, ViewDock *other)

@@ -61,6 +61,9 @@ public:
     // Hides one that is of no use any more, also one that is put aside.
     void leaveOut(ViewDock &dock);
 
+    // Whether it is in a view that stands behind another one.
+    bool isBehind(const QWidget &widget) const;
+
     // Titles and tabs as the views stand now. It comes by itself once the toolkit is done with
     // its layout, which a picture does not wait for.
     void dress();
@@ -75,7 +78,7 @@ Q_SIGNALS:
     // There are more views, or fewer.
     void shownChanged();
 
-    // The focus has gone into it.
+    // The focus has gone into it, and it is in front.
     void entered(ORVTListview::ViewDock *dock);
 
 protected:
