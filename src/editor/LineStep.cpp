@@ -216,9 +216,9 @@ void LineStep::replaceLines()
     int grown = 0; // lines
     for (Part &part : m_parts) {
         const std::optional<Range> lines = part.toReplace(boxText());
-        const int front = lines ? lines->first - part.lines.first : 0;
-        const int back = lines ? part.lines.last - lines->last : 0;
         if (lines) {
+            const int front = lines->first - part.lines.first;
+            const int back = part.lines.last - lines->last;
             const bool isFirst = lines->first == 0;
             const TextPiece piece = pieceOf(boxText(), *lines);
             places.append(isFirst ? piece : TextPiece{piece.start - 2, piece.length + 2});

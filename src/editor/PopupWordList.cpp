@@ -357,8 +357,7 @@ int PopupWordList::rowsShown()
     return std::clamp(face().rows(), 1, mostRowsShown);
 }
 
-// From the word's beginning, or from the edge of the box that it lies beyond, to the
-// caret.
+// The word's beginning, or the edge of the box that it lies beyond, as high as the line.
 QRect PopupWordList::wordOnScreen() const
 {
     const QRect caret = m_box.cursorRect();
@@ -366,8 +365,7 @@ QRect PopupWordList::wordOnScreen() const
     const qint32 column = m_wordStart - 1 - m_box.lineStart(start.blockNumber());
     start.setPosition(start.block().position() + std::clamp(column, 0, start.block().length() - 1));
     const int left = std::clamp(m_box.cursorRect(start).left(), 0, std::max(0, caret.left()));
-    return {m_box.viewport()->mapToGlobal(QPoint(left, caret.top())),
-            QSize(std::max(1, caret.right() - left), caret.height())};
+    return {m_box.viewport()->mapToGlobal(QPoint(left, caret.top())), QSize(1, caret.height())};
 }
 
 void PopupWordList::place()
