@@ -152,6 +152,28 @@ private Q_SLOTS:
         QVERIFY(host.control<QLabel>("FindBarResult").isVisible());
     }
 
+    void aShorterResultIsThereWhereALongerOneHadNoRoom()
+    {
+        BarHost host;
+        host.setLines(20'000, u"ab = %1"_s);
+        host.ask();
+        host.enter(u"ab"_s);
+        host.press(Qt::Key_Return, Qt::ShiftModifier);
+        QTRY_COMPARE(host.told(), u"20000 of 20000"_s);
+        const auto &result = host.control<QLabel>("FindBarResult");
+        for (int width = 900; width > 200 && result.isVisible(); --width) {
+            host.bar()->resize(width, host.bar()->height());
+            host.bar()->layout()->activate();
+        }
+        QVERIFY(!result.isVisible());
+        host.press(Qt::Key_Return);
+        QTRY_COMPARE(host.told(), u"1 of 20000"_s);
+        QVERIFY(result.isVisible());
+        host.press(Qt::Key_Return, Qt::ShiftModifier);
+        QTRY_COMPARE(host.told(), u"20000 of 20000"_s);
+        QVERIFY(!result.isVisible());
+    }
+
     void enterGoesOnAndShiftEnterBack()
     {
         BarHost host;

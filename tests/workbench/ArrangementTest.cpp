@@ -99,6 +99,8 @@ private Q_SLOTS:
         QVERIFY(program.isSeen());
         QVERIFY(inputs.isSeen());
         QVERIFY(inputs.x() >= program.geometry().right());
+        QTRY_VERIFY(inputs.titleBarWidget()->height() > views.window.fontMetrics().height());
+        QTRY_VERIFY(program.titleBarWidget()->height() > views.window.fontMetrics().height());
         QVERIFY(std::abs(inputs.width() - program.width()) < views.place().width() / 4);
         views.choose(u"Show Below"_s);
         QCoreApplication::processEvents();
@@ -107,6 +109,7 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QVERIFY(inputs.isSeen());
         QVERIFY(!program.isSeen());
+        QTRY_COMPARE(inputs.titleBarWidget()->height(), 0); // a tab has it
         QCOMPARE(views.place().tabifiedDockWidgets(&views.dock(dsInput)).size(), 1);
     }
 

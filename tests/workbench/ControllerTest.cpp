@@ -223,6 +223,9 @@ private Q_SLOTS:
         writeFile(file, "Label;Value\nTemp1;21,5\nNew;1\nIF;2\n");
         NextDialog<ImportDialog> answer([](ImportDialog &dialog) {
             QCOMPARE(dialog.changes().size(), 2);
+            const QModelIndex first = dialog.findChild<QTreeView *>()->model()->index(0, 0);
+            QCOMPARE(first.data(), u"2"_s); // the line in the file
+            QCOMPARE(first.siblingAtRow(2).data(), u"4"_s);
             dialog.accept();
         });
         w.window.findChild<PointImporting *>()->importFile(dsInput, file);

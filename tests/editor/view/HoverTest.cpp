@@ -448,6 +448,11 @@ private Q_SLOTS:
         QVERIFY(!isShown());
         QVERIFY(!choice.isActive());
         QVERIFY(box().hasFocus());
+        m_host->list->TryToPopupList();
+        m_host->key(Qt::Key_Down);
+        QVERIFY(choice.isActive());
+        m_host->key(Qt::Key_Escape);
+        QVERIFY(!choice.isActive());
     }
 
     void newValuesAreAskedForAsLongAsTheCardIsShown()

@@ -310,6 +310,10 @@ private Q_SLOTS:
         QTRY_VERIFY(QToolTip::text().contains(u"tmep"_s));
         QToolTip::hideText();
         QTRY_VERIFY(!QToolTip::isVisible());
+        ask(*box().viewport(), {box().cursorRect(inside).center().x(), m_host->placeOf(0).top()});
+        QTRY_VERIFY(QToolTip::text().contains(u"tmep"_s));
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
         ask(*box().viewport(), m_host->placeOf(1).center());
         QVERIFY(!QToolTip::isVisible());
         ask(m_host->margin(), {4, m_host->inMargin(0).y()});
