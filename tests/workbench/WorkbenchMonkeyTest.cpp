@@ -17,6 +17,8 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDialog>
 
+#include <algorithm>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 
@@ -266,12 +268,23 @@ private:
             return u"commands are for another view than the current one"_s;
         if (m_workbench.views().isVisible() && !m_workbench.shown().isVisible())
             return u"the current view is not there"_s;
-        const ViewDock *dock = m_workbench.views().workplace().current();
-        if (m_workbench.views().isVisible() && !(dock && dock->isSeen()))
+        if (m_workbench.views().isVisible() && isAnotherInFront())
             return u"the current view is behind another one"_s;
         if (window().menuBar()->actions().size() < 5)
             return u"a menu is missing"_s;
         return {};
+    }
+
+    // In a window that is too small none of them is seen.
+    bool isAnotherInFront()
+    {
+        const Workplace &place = m_workbench.views().workplace();
+        ViewDock *current = place.current();
+        const auto isSeen = [](const QDockWidget *dock) {
+            return qobject_cast<const ViewDock *>(dock)->isSeen();
+        };
+        return !current->isSeen() &&
+               std::ranges::any_of(place.tabifiedDockWidgets(current), isSeen);
     }
 
     ThreadState::Fresh m_state;
