@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 using namespace ORVTListview;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -53,6 +55,18 @@ TEST_F(FileRights, AFileOfSomebodyElseIsReplaced)
     EXPECT_EQ(folder.content(u"f/a"_s), "new");
     EXPECT_EQ(QFile::permissions(file()) & QFile::WriteOther, QFile::WriteOther);
     EXPECT_EQ(folder.names(u"f"_s), QStringList(u"a"_s));
+}
+
+// Which only an administrator can see to.
+TEST_F(FileRights, AFileKeepsItsOwner)
+{
+    const uid_t owner = ::geteuid() == 0 ? 1234 : ::geteuid();
+    const QByteArray name = QFile::encodeName(file());
+    ASSERT_EQ(::chown(name.constData(), owner, ::getegid()), 0);
+    FileReplacement replacement(file());
+    ASSERT_TRUE(replacement.write("new") && replacement.commit());
+    EXPECT_EQ(folder.content(u"f/a"_s), "new");
+    EXPECT_EQ(QFileInfo(file()).ownerId(), owner);
 }
 
 TEST_F(FileRights, AFileThatMayNotBeWrittenIsLeft)
