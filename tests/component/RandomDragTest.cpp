@@ -282,18 +282,16 @@ private:
 
     void doDeed()
     {
-        const bool isInField = m_from == DragScene::Field && // whose drag hangs when it goes
-                               (m_to == m_from || m_deed == Deed::DestroySource);
         if (m_deed == Deed::Throw && m_deedAt > 0)
             throw std::runtime_error("the host fails");
         if (m_deed == Deed::CallOff && m_from == DragScene::Table)
             m_scene->table()->Drag(dcCancel);
         else if (m_deed == Deed::Escape && m_deedAt == 0) // no user is quicker than an event
             QTest::keyClick(m_scene->form.windowHandle(), Qt::Key_Escape);
-        else if (m_deed == Deed::DestroySource && !isInField)
-            delete m_scene->component(m_from);
-        else if (m_deed == Deed::DestroyTarget && m_to != DragScene::Beside && !isInField)
-            delete m_scene->component(m_to);
+        else if (m_deed == Deed::DestroySource)
+            destroy(m_from);
+        else if (m_deed == Deed::DestroyTarget)
+            destroy(m_to);
         else if (m_deed == Deed::LockSource)
             m_scene->setReadOnly(m_from, true);
         else if (m_deed == Deed::HideTarget && m_scene->component(m_to))
@@ -302,6 +300,12 @@ private:
             m_scene->component(m_to)->setEnabled(false);
         else if (m_deed == Deed::Write)
             writeIntoSource();
+    }
+    // The toolkit goes on with the address of a field of its own, and that one's drag hangs.
+    void destroy(Side side)
+    {
+        if (side != DragScene::Field && side != DragScene::Beside)
+            delete m_scene->component(side);
     }
     void writeIntoSource()
     {
