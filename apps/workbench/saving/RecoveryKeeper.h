@@ -57,8 +57,8 @@ public:
 
     bool isOpenElsewhere() const { return m_isOpenElsewhere; }
 
-    // Writes what is not saved now, if it keeps anything, before it returns. False, after failed(), when that is
-    // impossible.
+    // Writes what is not saved now, if it keeps anything, before it returns. False, after failed(),
+    // when that is impossible.
     bool keepNow();
 
     // What is not saved is not wanted, or there is nothing.
