@@ -463,22 +463,6 @@ private Q_SLOTS:
         }
     }
 
-    void oneThatIsClosedWhileTheWindowIsHiddenIsClosed()
-    {
-        Views views;
-        for (const LwType type : {dsInput, dsOutput, dsVariable})
-            views.views().enterType(type);
-        views.window.hide();
-        views.dock(dsOutput).close();
-        views.dock(dsVariable).close();
-        views.window.show();
-        QCOMPARE(views.place().used().size(), 2);
-        QCOMPARE(views.shown().ListviewType(), dsInput);
-        QTRY_VERIFY(views.dock(dsInput).isSeen());
-        views.choose(u"Close Table"_s);
-        QTRY_VERIFY(views.dock(dsCode).isSeen());
-    }
-
     void theTabKeyGoesToWhatIsSeen()
     {
         Views views;

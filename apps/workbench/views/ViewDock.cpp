@@ -32,29 +32,11 @@ ViewDock::ViewDock(const QString &name, QWidget *parent)
             Q_EMIT seenChanged(isSeen);
     });
     connect(toggleViewAction(), &QAction::toggled, this, [this](bool isShown) {
-        m_isOpen = m_isOpen || isShown;
         if (isShown)
             Q_EMIT opened();
         else if (isHidden()) // by itself, not with the window
-            noteClosed();
+            Q_EMIT closed();
     });
-}
-
-// The toolkit tells nothing of one that is hidden while the window is.
-bool ViewDock::event(QEvent *event)
-{
-    const bool isHandled = QDockWidget::event(event);
-    if (event->type() == QEvent::ShowToParent)
-        m_isOpen = true;
-    else if (event->type() == QEvent::HideToParent)
-        noteClosed();
-    return isHandled;
-}
-
-void ViewDock::noteClosed()
-{
-    if (std::exchange(m_isOpen, false))
-        Q_EMIT closed();
 }
 
 // Whoever closes the window of a program does not lose the way to it. Queued: the toolkit is

@@ -40,15 +40,11 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    bool event(QEvent *event) override;
 
 private:
-    void noteClosed();
-
     ORVListView *m_view;
     DockTitle *m_title;
     bool m_isSeen = false;
-    bool m_isOpen = false; // by itself, also while the window is hidden
 };
 
 } // namespace ORVTListview
